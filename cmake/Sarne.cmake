@@ -1,0 +1,37 @@
+# Helpers shared by every folder: our own warnings, the folder libraries and the folder tests.
+
+find_program(SARNE_CCACHE ccache)
+if(SARNE_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${SARNE_CCACHE})
+endif()
+
+add_library(sarne_options INTERFACE)
+target_compile_options(sarne_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                       -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
+target_compile_definitions(sarne_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+                           QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_include_directories(sarne_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
+if(SARNE_SANITIZE)
+    target_compile_options(sarne_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                           -fno-omit-frame-pointer)
+    target_link_options(sarne_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# sarne_library(name SOURCES ... [PUBLIC targets...] [PRIVATE targets...]): one static library per folder of src/.
+function(sarne_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC ${ARG_PUBLIC} PRIVATE sarne_options ${ARG_PRIVATE})
+    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
+endfunction()
+
+# sarne_test(name SOURCES ... LIBS ...): one test executable per folder of tests/, run without a display.
+function(sarne_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE sarne_options GTest::gtest ${ARG_LIBS})
+    target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT
+                         "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0" TIMEOUT 600)
+endfunction()

@@ -1,0 +1,13 @@
+#include "core/clock.h"
+
+namespace sarne {
+
+SteadyClock::SteadyClock() {
+    timer_.start();
+}
+
+qint64 SteadyClock::now() const {
+    return timer_.elapsed();
+}
+
+}  // namespace sarne

@@ -1,0 +1,73 @@
+#include "core/logicalpath.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace sarne {
+namespace {
+
+QString folded(const QString& name) {
+    return name.normalized(QString::NormalizationForm_C).toCaseFolded();
+}
+
+/// The entry of \a folder that is called \a part; empty when there is none.
+QString findEntry(const QString& folder, const QString& part) {
+    const QString direct = folder + u'/' + part;
+    if (QFileInfo::exists(direct)) return direct;
+    const QString wanted = folded(part);
+    const auto entries =
+        QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    for (const QString& entry : entries) {
+        if (folded(entry) == wanted) return folder + u'/' + entry;
+    }
+    return {};
+}
+
+bool hasDrive(const QString& path) {
+    return path.size() >= 2 && path[1] == u':' && path[0].isLetter();
+}
+
+}  // namespace
+
+QString LogicalPaths::root(const QString& logical, QString& rest) const {
+    rest = logical;
+    rest.replace(u'\\', u'/');
+    if (!hasDrive(rest)) return rest.startsWith(u'/') ? QStringLiteral("/") : QString();
+    const QString folder = drives_.value(rest[0].toUpper());
+    rest.remove(0, 2);
+    return folder;
+}
+
+QString LogicalPaths::resolve(const QString& logical) const {
+    QString rest;
+    QString found = root(logical, rest);
+    if (found.isEmpty()) return {};
+    if (found.endsWith(u'/')) found.chop(1);
+    if (QString whole = found + u'/' + rest; !rest.isEmpty() && QFileInfo::exists(whole))
+        return QDir::cleanPath(whole);
+    for (const QString& part : rest.split(u'/', Qt::SkipEmptyParts)) {
+        found = findEntry(found, part);
+        if (found.isEmpty()) return {};
+    }
+    return found.isEmpty() ? QStringLiteral("/") : found;
+}
+
+QString LogicalPaths::resolveForWriting(const QString& logical) const {
+    if (const QString existing = resolve(logical); !existing.isEmpty()) return existing;
+    const qsizetype last = logical.lastIndexOf(u'\\');
+    if (last < 0 || last + 1 == logical.size()) return {};
+    const QString folder = resolve(logical.left(last + 1));
+    return folder.isEmpty() ? QString() : folder + u'/' + logical.mid(last + 1);
+}
+
+QString LogicalPaths::fromNativeFolder(const QString& folder) {
+    QString path = QDir::cleanPath(QDir(folder).absolutePath());
+    return withTrailingBackslash(path.replace(u'/', u'\\'));
+}
+
+QString withTrailingBackslash(QString folder) {
+    if (!folder.endsWith(u'\\')) folder += u'\\';
+    return folder;
+}
+
+}  // namespace sarne

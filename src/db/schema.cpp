@@ -1,0 +1,73 @@
+#include "db/schema.h"
+
+namespace sarne {
+namespace {
+
+/// A text column: Czech order, case aside.
+const QString kText = QStringLiteral(" TEXT COLLATE CESTINA");
+
+QString named(const QString& table, const QStringList& columns) {
+    return QStringLiteral("CREATE TABLE %1 (ID INTEGER PRIMARY KEY, %2)").arg(table, columns.join(u", "));
+}
+
+QString itemTable(const QString& table) {
+    return named(table, {QStringLiteral("Polozka") + kText + QStringLiteral(" NOT NULL")});
+}
+
+QStringList joinTable(const QString& table, const QString& moreColumns = {}) {
+    return {QStringLiteral("CREATE TABLE %1 (ID_Receptu INTEGER NOT NULL, ID_Polozky INTEGER NOT NULL%2)")
+                .arg(table, moreColumns),
+            QStringLiteral("CREATE INDEX %1_ID_Receptu ON %1 (ID_Receptu)").arg(table)};
+}
+
+QString recipes() {
+    return named(
+        QStringLiteral("Recepty"),
+        {QStringLiteral("Nazev") + kText, QStringLiteral("DlouhyNazev") + kText,
+         QStringLiteral("Porce INTEGER"), QStringLiteral("Recept") + kText, QStringLiteral("Uvod") + kText,
+         QStringLiteral("Prezentace") + kText, QStringLiteral("Poznamka") + kText,
+         QStringLiteral("vino") + kText, QStringLiteral("Vlastni") + kText});
+}
+
+QStringList ingredientRows() {
+    return joinTable(QStringLiteral("SpojSur"),
+                     QStringLiteral(", ID_Upresneni INTEGER, ID_JdnKg INTEGER, MnozstviKg REAL, "
+                                    "ID_Jdnlzice INTEGER, MnozstviLzice REAL, ID_nahrSur INTEGER"));
+}
+
+}  // namespace
+
+QStringList recipeSchema() {
+    const QString name = QStringLiteral("Nazev") + kText;
+    const QString text = QStringLiteral("Text") + kText;
+    QStringList all{recipes()};
+    for (const char* table : {"Suroviny", "Upresneni", "Jednotky", "Pomucky", "Vino"})
+        all << itemTable(QLatin1String(table));
+    all << named(QStringLiteral("Odkazy"), {QStringLiteral("Polozka") + kText, text});
+    all << ingredientRows();
+    for (const char* table : {"SpojPomucky", "SpojOdkazy", "SpojVino"})
+        all << joinTable(QLatin1String(table));
+    all << QStringLiteral("CREATE INDEX SpojSur_ID_Polozky ON SpojSur (ID_Polozky)");
+    all << QStringLiteral("CREATE TABLE Menu (Id%1 PRIMARY KEY, Label%1, Odkazy%1)").arg(kText);
+    for (const char* table : {"RychleRecepty", "Help"})
+        all << named(QLatin1String(table), {name, QStringLiteral("Recept INTEGER")});
+    all << named(QStringLiteral("IndexHesla"), {QStringLiteral("nazvy") + kText, text});
+    all << named(QStringLiteral("Nastav"), {name, QStringLiteral("hodnota INTEGER NOT NULL DEFAULT 0")});
+    all << named(QStringLiteral("Stranky"), {name, text});
+    return all;
+}
+
+QStringList pictureSchema() {
+    return {QStringLiteral("CREATE TABLE TabObr (obr BLOB)")};
+}
+
+QStringList recipeTables() {
+    QStringList tables;
+    for (const char* table : {"Recepty", "SpojSur", "Suroviny", "Upresneni", "Jednotky", "Pomucky",
+                              "SpojPomucky", "Odkazy", "SpojOdkazy", "Vino", "SpojVino", "Menu",
+                              "RychleRecepty", "Help", "IndexHesla", "Nastav", "Stranky"})
+        tables << QLatin1String(table);
+    return tables;
+}
+
+}  // namespace sarne

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QStringList>
+
+namespace sarne {
+
+/// The name of the collation of every text column: Czech order, case aside. Database registers it.
+inline constexpr const char* kCzechCollation = "CESTINA";
+
+/// The statements that make an empty recipe database (Sarne.drc), in order. Numeric keys are `ID`; the join
+/// tables carry nothing but the columns that the queries name, and their rows keep the order in which they
+/// were stored.
+QStringList recipeSchema();
+
+/// The statements that make an empty picture database (KOp.bj).
+QStringList pictureSchema();
+
+/// The tables a recipe database must have to be one of ours.
+QStringList recipeTables();
+
+}  // namespace sarne

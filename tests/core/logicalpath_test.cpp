@@ -1,0 +1,58 @@
+#include "core/logicalpath.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace sarne {
+namespace {
+
+class LogicalPathTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(QDir(disc.path()).mkpath(QStringLiteral("Foto/Velke")));
+        touch(QStringLiteral("hudba.wav"));
+        touch(QStringLiteral("Foto/Velke/R1.bmp"));
+        touch(QStringLiteral("Foto/c\u030C5.wav"));  // č as a letter and a mark
+    }
+    void touch(const QString& name) {
+        QFile file(disc.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+
+    QTemporaryDir disc;
+    LogicalPaths paths{{{u'E', disc.path()}}};
+};
+
+TEST_F(LogicalPathTest, FindsFilesWhateverTheirLettersAndAccents) {
+    const QString media = LogicalPaths::fromNativeFolder(disc.path());
+    EXPECT_EQ(paths.resolve(media + QStringLiteral("HUDBA.WAV")), disc.filePath(QStringLiteral("hudba.wav")));
+    EXPECT_EQ(paths.resolve(media + QStringLiteral("foto\\velke\\r1.BMP")),
+              disc.filePath(QStringLiteral("Foto/Velke/R1.bmp")));
+    EXPECT_EQ(paths.resolve(media + QStringLiteral("foto\\č5.wav")),
+              disc.filePath(QStringLiteral("Foto/c\u030C5.wav")));
+    EXPECT_EQ(paths.resolve(QStringLiteral("e:\\hudba.wav")), disc.filePath(QStringLiteral("hudba.wav")));
+}
+
+TEST_F(LogicalPathTest, WhatIsNotThereIsEmpty) {
+    for (const char* path : {"E:\\chybi.wav", "F:\\hudba.wav", ":\\hudba.wav", "", "hudba.wav"})
+        EXPECT_EQ(paths.resolve(QString::fromLatin1(path)), QString()) << path;
+}
+
+TEST_F(LogicalPathTest, AFileToWriteNeedsOnlyItsFolder) {
+    EXPECT_EQ(paths.resolveForWriting(QStringLiteral("E:\\foto\\nova.bmp")),
+              disc.filePath(QStringLiteral("Foto/nova.bmp")));
+    EXPECT_EQ(paths.resolveForWriting(QStringLiteral("E:\\nic\\nova.bmp")), QString());
+}
+
+TEST(Folder, EndsInOneBackslash) {
+    EXPECT_EQ(withTrailingBackslash(QStringLiteral("C:\\")), QStringLiteral("C:\\"));
+    EXPECT_EQ(withTrailingBackslash(QStringLiteral("C:\\Prog")), QStringLiteral("C:\\Prog\\"));
+    EXPECT_EQ(LogicalPaths::fromNativeFolder(QStringLiteral("/opt/kuchyne/")),
+              QStringLiteral("\\opt\\kuchyne\\"));
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,1 @@
+#include "screens/recipe/frmrecept.h"
