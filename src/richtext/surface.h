@@ -16,13 +16,13 @@ struct TextFont {
     int charset = 238;
 
     bool operator==(const TextFont&) const = default;
-    /// The font for a painter or metrics whose unit is the twip: without hinting, so that a text is equally wide
-    /// on every display and on paper.
+    /// The font for a painter or metrics whose unit is the twip: without hinting, so that a text is equally
+    /// wide on every display and on paper.
     QFont toQFont() const;
 };
 
-/// What text is drawn on: a picture box, a printer page, a test double. Lengths are twips from the surface's upper
-/// left corner; the current position is where print() writes next.
+/// What text is drawn on: a picture box, a printer page, a test double. Lengths are twips from the surface's
+/// upper left corner; the current position is where print() writes next.
 class Surface {
   public:
     virtual ~Surface() = default;
@@ -43,8 +43,8 @@ class Surface {
     virtual int textWidth(const QString& text) const = 0;
     virtual int textHeight(const QString& text) const = 0;
 
-    /// Writes \a text with its upper left corner at the current position; then the position is at the start (X 0)
-    /// of the next line.
+    /// Writes \a text with its upper left corner at the current position; then the position is at the start
+    /// (X 0) of the next line.
     virtual void print(const QString& text) = 0;
     /// Writes \a text with its baseline at \a baseline, from \a x on. The current position stays.
     virtual void textOut(int x, int baseline, const QString& text) = 0;

@@ -1,0 +1,132 @@
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <random>
+
+#include "db/database.h"
+#include "support/recipedatabase.h"
+
+namespace sarne {
+namespace {
+
+class DatabaseFaults : public testing::Test {
+  protected:
+    QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
+    QString fileOf(const char* name, const QByteArray& bytes) const {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly)) ADD_FAILURE();
+        file.write(bytes);
+        return file.fileName();
+    }
+    QString recipes() const {
+        const QString file = path("Sarne.drc");
+        test::writeRecipeDatabase(file, {QStringLiteral("INSERT INTO Recepty (ID,Nazev) VALUES (1,'Kapr')")});
+        return file;
+    }
+    static bool storeNote(Database& db, const QString& note) {
+        Recordset rows = db.OpenTable(QStringLiteral("Recepty"));
+        rows.Edit();
+        rows.setField(QStringLiteral("Vlastni"), note);
+        return rows.Update();
+    }
+    static QString note(Database& db) {
+        return db.OpenTable(QStringLiteral("Recepty")).field(QStringLiteral("Vlastni")).toString();
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(DatabaseFaults, WhatIsNoDatabaseStaysEmpty) {
+    const QString foreign = path("foreign");
+    SQLite::Database(foreign.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+        .exec("CREATE TABLE Recepty (jine TEXT)");
+    for (const QString& file :
+         {path("missing"), fileOf("empty", {}), fileOf("garbage", QByteArray(9000, 'x')), foreign,
+          folder.path(), fileOf("half", "SQLite format 3\0abc")}) {
+        Database db;
+        db.Open(file);
+        Recordset rows = db.OpenTable(QStringLiteral("Recepty"));
+        rows.Seek(QStringLiteral("="), 1);
+        EXPECT_TRUE(rows.NoMatch());
+        EXPECT_TRUE(rows.field(QStringLiteral("Nazev")).isNull());
+        EXPECT_FALSE(storeNote(db, QStringLiteral("x"))) << file.toStdString();
+        EXPECT_EQ(db.OpenQuery(QStringLiteral("SELECT * FROM Suroviny")).RecordCount(), 0);
+    }
+    EXPECT_FALSE(Database().Open(path("garbage")));
+}
+
+TEST_F(DatabaseFaults, AFullDiskLosesNeitherTheOldNoteNorTheSearch) {
+    const QString file = recipes();
+    const pid_t child = fork();
+    if (child == 0) {
+        Database db;
+        bool asExpected = db.Open(file) && storeNote(db, QStringLiteral("stará")) &&
+                          db.keepInMemory(QStringLiteral("Menu"));
+        // From here on no file may grow: the disk is full.
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit none{512, 512};
+        setrlimit(RLIMIT_FSIZE, &none);
+        asExpected = asExpected && !storeNote(db, QString(100000, u'n')) && note(db) == u"stará";
+        asExpected =
+            asExpected && db.Execute(QStringLiteral("INSERT INTO Menu VALUES ('001','kapr','1')")) &&
+            db.OpenQuery(QStringLiteral("SELECT * FROM menu WHERE ID LIKE '0*' ORDER BY Id")).RecordCount() ==
+                1;
+        _exit(asExpected ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    Database db;
+    ASSERT_TRUE(db.Open(file));
+    EXPECT_EQ(note(db), QStringLiteral("stará"));
+}
+
+/// Stores notes with rising numbers until it is killed, telling each number once it is stored.
+[[noreturn]] void storeForEver(const QString& file, int pipe) {
+    Database db;
+    if (!db.Open(file)) _exit(1);
+    for (int number = 1;; ++number) {
+        Recordset rows = db.OpenTable(QStringLiteral("Recepty"));
+        rows.Edit();
+        rows.setField(QStringLiteral("Vlastni"), QString::number(number).rightJustified(5000, u'0'));
+        if (!rows.Update() || write(pipe, &number, sizeof number) != sizeof number) _exit(1);
+    }
+}
+
+TEST_F(DatabaseFaults, NoStoredNoteIsLostToAKill) {
+    const QString file = recipes();
+    std::mt19937 random(20);
+    for (int round = 0; round < 200; ++round) {
+        int pipe[2];
+        ASSERT_EQ(::pipe(pipe), 0);
+        const pid_t child = fork();
+        if (child == 0) storeForEver(file, pipe[1]);
+        close(pipe[1]);
+        int stored = 0, number = 0;
+        ASSERT_EQ(read(pipe[0], &stored, sizeof stored), ssize_t(sizeof stored));
+        usleep(random() % 4000);
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        while (read(pipe[0], &number, sizeof number) == ssize_t(sizeof number)) stored = number;
+        close(pipe[0]);
+
+        Database db;
+        ASSERT_TRUE(db.Open(file));
+        ASSERT_EQ(note(db).size(), 5000);
+        ASSERT_GE(note(db).toInt(), stored);
+        ASSERT_LE(note(db).toInt(), stored + 1);
+    }
+    Database db;
+    ASSERT_TRUE(db.Open(file));
+    EXPECT_EQ(db.OpenQuery(QStringLiteral("PRAGMA integrity_check"))
+                  .field(QStringLiteral("integrity_check"))
+                  .toString(),
+              QStringLiteral("ok"));
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include "db/schema.h"
+
+namespace sarne::test {
+
+/// Writes a recipe database with our schema and the given statements, in one transaction. The collation is a
+/// plain stand-in: it only has to exist while rows are stored in order of their keys.
+inline void writeRecipeDatabase(const QString& file, const QStringList& statements) {
+    SQLite::Database db(file.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    sqlite3_create_collation(db.getHandle(), kCzechCollation, SQLITE_UTF8, nullptr,
+                             [](void*, int leftSize, const void* left, int rightSize, const void* right) {
+                                 return std::string_view(static_cast<const char*>(left), size_t(leftSize))
+                                     .compare({static_cast<const char*>(right), size_t(rightSize)});
+                             });
+    SQLite::Transaction transaction(db);
+    for (const QString& statement : recipeSchema() + statements) db.exec(statement.toStdString());
+    transaction.commit();
+}
+
+}  // namespace sarne::test
