@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/beeper.h"
+
+namespace sarne {
+
+/// Counts the beeps.
+class FakeBeeper final : public Beeper {
+  public:
+    int beeps = 0;
+    void beep() override { ++beeps; }
+};
+
+}  // namespace sarne
