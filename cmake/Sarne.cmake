@@ -36,3 +36,10 @@ function(sarne_test name)
     set_tests_properties(${name} PROPERTIES ENVIRONMENT
                          "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0" TIMEOUT 600)
 endfunction()
+
+# sarne_widget_test(name SOURCES ... LIBS ...): as sarne_test, for tests that drive real forms with real events.
+function(sarne_widget_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    sarne_test(${name} SOURCES ${ARG_SOURCES} "${CMAKE_SOURCE_DIR}/tests/support/main_widgets.cpp"
+               LIBS ${ARG_LIBS} sarne_forms sarne_db SQLiteCpp PkgConfig::SQLITE3 Qt6::Test)
+endfunction()

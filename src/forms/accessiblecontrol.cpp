@@ -1,0 +1,41 @@
+#include "forms/accessiblecontrol.h"
+
+#include <QAccessibleWidget>
+
+#include "forms/control.h"
+
+namespace sarne {
+namespace {
+
+class AccessibleControl final : public QAccessibleWidget {
+  public:
+    explicit AccessibleControl(Control* control)
+        : QAccessibleWidget(control, control->role()), control_(control) {}
+
+    QStringList actionNames() const override {
+        return role() == QAccessible::StaticText ? QStringList() : QStringList{pressAction()};
+    }
+    void doAction(const QString& action) override {
+        if (action == pressAction()) control_->click();
+    }
+
+  private:
+    Control* control_;
+};
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* control = qobject_cast<Control*>(object);
+    return control ? new AccessibleControl(control) : nullptr;
+}
+
+}  // namespace
+
+void registerAccessibleControls() {
+    static const bool once = [] {
+        QAccessible::installFactory(makeInterface);
+        return true;
+    }();
+    Q_UNUSED(once)
+}
+
+}  // namespace sarne

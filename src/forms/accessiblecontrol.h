@@ -1,0 +1,9 @@
+#pragma once
+
+namespace sarne {
+
+/// Teaches the accessibility layer what our controls are: their role, name, and that they can be pressed.
+/// Called by the first control; further calls do nothing.
+void registerAccessibleControls();
+
+}  // namespace sarne

@@ -1,0 +1,54 @@
+#include "forms/bassarne.h"
+
+#include <QCoreApplication>
+
+#include "forms/resources.h"
+#include "platform/effectplayer.h"
+
+namespace sarne {
+
+void basSarne::PlayEffect(int n) {
+    EffectWave.clear();
+    EffectWave = resources().effect(n + 1);
+    if (!EffectWave.isEmpty()) effects().play(EffectWave);
+    Yield();
+}
+
+void basSarne::StopEffect() {
+    effects().stop();
+}
+
+void basSarne::PushScreen(Form& screen, KeepEnabled keep) {
+    if (Form* below = FormStack.top()) {
+        below->setPointer(Pointer::Back);
+        if (keep == KeepEnabled::No) below->enableControls(false);
+    }
+    FormStack.add(screen);
+}
+
+void basSarne::PopScreen(Form& screen) {
+    FormStack.remove(screen);
+    Form* below = FormStack.top();
+    if (below) below->raise();
+    screen.unload();
+    if (!below) return;
+    below->show();
+    below->raise();
+    below->setPointer(Pointer::Normal);
+    below->enableControls(true);
+    below->setFocus();
+    below->restored();
+}
+
+bool basSarne::BringTopToFront(const QString& formName) {
+    Form* top = FormStack.top();
+    if (!top || top->name() == formName) return false;
+    top->bringToFront();
+    return true;
+}
+
+void basSarne::Yield() {
+    QCoreApplication::processEvents();
+}
+
+}  // namespace sarne

@@ -1,0 +1,95 @@
+#include "forms/control.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "forms/accessiblecontrol.h"
+#include "forms/colors.h"
+#include "forms/form.h"
+#include "forms/stage.h"
+
+namespace sarne {
+
+Control::Control(Form& form, const QString& name) : TwipWidget(&form), form_(form) {
+    registerAccessibleControls();
+    setObjectName(name);
+    setAccessibleName(name);
+    setMouseTracking(true);
+    show();
+}
+
+void Control::setTip(const QString& tip) {
+    setToolTip(tip);
+    setAccessibleName(tip.trimmed());
+}
+
+void Control::click() {
+    if (isEnabled()) Q_EMIT clicked();
+}
+
+bool Control::showsFocus() const {
+    const auto* stage = qobject_cast<Stage*>(form_.parentWidget());
+    return hasFocus() && stage && stage->keyboardInUse();
+}
+
+void Control::paintFocusRing(QPainter& painter, const QRect& twips) {
+    // Light on dark on light: seen on every picture.
+    constexpr int kInset = 30;
+    const QRectF ring = QRectF(twips).adjusted(kInset, kInset, -kInset, -kInset);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(colors::kNight, 60));
+    painter.drawRoundedRect(ring, 60, 60);
+    painter.setPen(QPen(colors::kTitle, 26, Qt::SolidLine));
+    painter.drawRoundedRect(ring, 60, 60);
+}
+
+void Control::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    if (focusPolicy() & Qt::ClickFocus) setFocus(Qt::MouseFocusReason);
+    down_ = true;
+    update();
+    Q_EMIT pressed();
+}
+
+void Control::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !down_) return;
+    down_ = false;
+    update();
+    const bool inside = rect().contains(event->position().toPoint());
+    const QPointer<Control> self(this);
+    Q_EMIT released();
+    if (self && inside && isEnabled()) Q_EMIT clicked();
+}
+
+void Control::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    down_ = true;  // the second press of the pair: its release is a click again
+    const QPointer<Control> self(this);
+    Q_EMIT pressed();
+    if (self) Q_EMIT doubleClicked();
+}
+
+void Control::mouseMoveEvent(QMouseEvent* event) {
+    Q_EMIT hovered(toTwips(event->position()));
+}
+
+void Control::leaveEvent(QEvent*) {
+    Q_EMIT left();
+}
+
+void Control::focusInEvent(QFocusEvent*) {
+    update();
+}
+
+void Control::focusOutEvent(QFocusEvent*) {
+    update();
+}
+
+void Control::changeEvent(QEvent* event) {
+    TwipWidget::changeEvent(event);
+    if (event->type() != QEvent::EnabledChange) return;
+    down_ = false;
+    update();
+}
+
+}  // namespace sarne

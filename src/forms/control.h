@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QAccessible>
+
+#include "forms/twipwidget.h"
+
+namespace sarne {
+
+class Form;
+
+/// What all controls share: a place in twips, a name for people who do not see it, focus that can be seen,
+/// and the mouse. Keys that a control does not use go to its form.
+class Control : public TwipWidget {
+    Q_OBJECT
+  public:
+    /// A control of \a form called \a name ("imgBtn(2)").
+    Control(Form& form, const QString& name);
+
+    Form& form() const { return form_; }
+    virtual QAccessible::Role role() const { return QAccessible::StaticText; }
+
+    /// A tooltip that is also the control's name for a screen reader.
+    void setTip(const QString& tip);
+    /// Does what a click does. Nothing while the control is disabled.
+    void click();
+
+  Q_SIGNALS:
+    void pressed();
+    void released();
+    void clicked();
+    void doubleClicked();
+    /// The mouse moved over the control, at \a twips from its upper left corner.
+    void hovered(QPoint twips);
+    void left();
+
+  protected:
+    /// Whether the control should show that it has the keyboard.
+    bool showsFocus() const;
+    static void paintFocusRing(QPainter& painter, const QRect& twips);
+
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool isDown() const { return down_; }
+
+  private:
+    Form& form_;
+    bool down_ = false;
+};
+
+}  // namespace sarne

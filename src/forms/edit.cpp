@@ -1,0 +1,80 @@
+#include "forms/edit.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include "forms/colors.h"
+#include "forms/form.h"
+
+namespace sarne {
+
+Edit::Edit(Form& form, const QString& name) : Control(form, name), line_(new QLineEdit(this)) {
+    line_->setObjectName(name + QStringLiteral(".line"));
+    line_->setContextMenuPolicy(Qt::NoContextMenu);
+    line_->installEventFilter(this);
+    setFocusPolicy(Qt::StrongFocus);
+    setFocusProxy(line_);
+    connect(line_, &QLineEdit::textChanged, this, &Edit::textChanged);
+}
+
+QString Edit::text() const {
+    return line_->text();
+}
+
+void Edit::setText(const QString& text) {
+    line_->setText(text);
+}
+
+void Edit::setFont(const TextFont& font) {
+    font_ = font;
+    rescale();
+}
+
+void Edit::setMaxLength(int characters) {
+    line_->setMaxLength(characters);
+}
+
+void Edit::focusAll() {
+    line_->setFocus();
+    line_->selectAll();
+}
+
+bool Edit::hasInput() const {
+    return line_->hasFocus();
+}
+
+void Edit::rescale() {
+    Control::rescale();
+    line_->setGeometry(rect());
+    // The line lays its text out in pixels, so its font is scaled by hand.
+    QFont font = font_.toQFont();
+    font.setPixelSize(qMax(8, qRound(font_.size * 20 * scale())));
+    line_->setFont(font);
+    const int border = qMax(1, qRound(30 * scale()));
+    line_->setStyleSheet(
+        QStringLiteral("QLineEdit{background:%1;color:%2;border:%5px solid %3;border-radius:%6px;"
+                       "padding:0 %6px;selection-background-color:%4;selection-color:%1}")
+            .arg(colors::kPaper.name(), colors::kInk.name(), colors::kCopper.name(), colors::kSelected.name())
+            .arg(border)
+            .arg(border * 2));
+}
+
+bool Edit::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == line_ && event->type() == QEvent::KeyPress) {
+        auto& key = static_cast<QKeyEvent&>(*event);
+        const bool forForm = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
+                             key.key() == Qt::Key_Escape || key.key() == Qt::Key_Tab ||
+                             key.key() == Qt::Key_Backtab || (key.modifiers() & Qt::AltModifier);
+        if (forForm) {
+            QCoreApplication::sendEvent(&form(), event);
+            return true;
+        }
+    }
+    return Control::eventFilter(watched, event);
+}
+
+void Edit::focusInEvent(QFocusEvent*) {
+    line_->setFocus();
+}
+
+}  // namespace sarne

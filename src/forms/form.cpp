@@ -1,0 +1,150 @@
+#include "forms/form.h"
+
+#include <QEventLoop>
+#include <QKeyEvent>
+
+#include "forms/bassarne.h"
+#include "forms/control.h"
+#include "forms/resources.h"
+#include "forms/screens.h"
+#include "forms/stage.h"
+
+namespace sarne {
+
+Form::Form(basSarne& app, const QString& name) : TwipWidget(&app.stage()), app_(app) {
+    setObjectName(name);
+    setFocusPolicy(Qt::StrongFocus);
+    hide();
+    place({0, 0, Stage::kWidth, Stage::kHeight});
+}
+
+Form::~Form() {
+    loaded_ = false;
+    if (modalLoop_) modalLoop_->quit();
+}
+
+void Form::showForm() {
+    show();
+    raise();
+    if (Form* modal = app_.stage().modalForm(); modal && modal != this) return modal->bringToFront();
+    setFocus();
+}
+
+void Form::hideForm() {
+    hide();
+}
+
+void Form::showModal() {
+    QEventLoop loop;
+    QPointer<QWidget> previous = app_.stage().focusWidget();
+    modalLoop_ = &loop;
+    show();
+    app_.stage().enterModal(*this);
+    QPointer<Form> self(this);
+    loop.exec();
+    if (!self) return;
+    modalLoop_ = nullptr;
+    app_.stage().leaveModal(*this);
+    if (previous && previous->isVisible() && !app_.stage().modalForm()) previous->setFocus();
+}
+
+void Form::unload() {
+    if (!loaded_) return;
+    loaded_ = false;
+    hide();
+    deleteLater();
+}
+
+void Form::bringToFront() {
+    raise();
+    setFocus();
+}
+
+void Form::hideEvent(QHideEvent* event) {
+    TwipWidget::hideEvent(event);
+    if (modalLoop_) modalLoop_->quit();
+}
+
+void Form::enableControls(bool enabled) {
+    const auto controls = findChildren<Control*>(Qt::FindDirectChildrenOnly);
+    for (Control* control : controls) control->setEnabled(enabled);
+    if (!enabled && isAncestorOf(app_.stage().focusWidget())) setFocus();
+}
+
+void Form::setPointer(Pointer pointer) {
+    pointer_ = pointer;
+    switch (pointer) {
+        case Pointer::Normal:
+            unsetCursor();
+            break;
+        case Pointer::Hourglass:
+            setCursor(Qt::WaitCursor);
+            break;
+        case Pointer::Back:
+            setCursor(app_.resources().cursor(QStringLiteral("ZPET"), scale()));
+            break;
+    }
+}
+
+void Form::rescale() {
+    TwipWidget::rescale();
+    if (pointer_ == Pointer::Back) setPointer(pointer_);
+}
+
+void Form::endProgram() {
+    app_.ConfirmExit();
+}
+
+void Form::help() {
+    app_.screens().showHelpFor(name());
+}
+
+void Form::musicSettings() {
+    app_.screens().showMusicSettings();
+}
+
+bool Form::keyDown(QKeyEvent&) {
+    return false;
+}
+
+bool Form::sharedKey(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::AltModifier && (event.key() == Qt::Key_X || event.key() == Qt::Key_F4)) {
+        closeRequested();
+        return true;
+    }
+    if (modifiers & ~Qt::ShiftModifier) return false;
+    switch (event.key()) {
+        case Qt::Key_F1:
+            help();
+            return true;
+        case Qt::Key_F4:
+            musicSettings();
+            return true;
+        case Qt::Key_C:
+            goBack();
+            return true;
+        case Qt::Key_X:
+            endProgram();
+            return true;
+        default:
+            return false;
+    }
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+    // Keys end here: what lies below a form gets none of its keys.
+    event->accept();
+    if (!keyDown(*event)) sharedKey(*event);
+}
+
+void Form::focusInEvent(QFocusEvent* event) {
+    TwipWidget::focusInEvent(event);
+    gotFocus();
+}
+
+bool Form::focusNextPrevChild(bool) {
+    return false;  // Tab is a key like any other, so it reaches keyDown
+}
+
+}  // namespace sarne

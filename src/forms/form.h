@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "forms/twipwidget.h"
+
+class QEventLoop;
+
+namespace sarne {
+
+class basSarne;
+class Control;
+
+enum class Pointer { Normal, Back, Hourglass };
+
+/// One screen or dialog: a thin shell that owns controls and forwards events. A form is loaded when it is
+/// made and until it is unloaded; it is deleted by the event loop afterwards, so that it may unload itself in
+/// a handler.
+class Form : public TwipWidget {
+    Q_OBJECT
+  public:
+    /// A form called \a name ("frmRecept") that fills the stage, hidden.
+    Form(basSarne& app, const QString& name);
+    ~Form() override;
+
+    QString name() const { return objectName(); }
+    bool isLoaded() const { return loaded_; }
+
+    /// Shows the form in front of the others and gives it the keyboard.
+    void showForm();
+    void hideForm();
+    /// Shows the form and returns when it is hidden; nothing else takes input meanwhile.
+    void showModal();
+    /// Hides the form and takes it out of the loaded ones.
+    virtual void unload();
+    void bringToFront();
+
+    /// Disables or enables every control of the form, whatever its state was.
+    void enableControls(bool enabled);
+    /// Called when the form is on top again and all its controls have been enabled: the place to disable
+    /// again what is to stay disabled, and to put the focus where it was.
+    virtual void restored() {}
+
+    void setPointer(Pointer pointer);
+
+    /// What the shared keys do. C closes the screen as its back button does, X ends the program as its end
+    /// button does, F1 opens the help for the screen.
+    virtual void goBack() {}
+    virtual void endProgram();
+    virtual void help();
+    virtual void musicSettings();
+    /// The window's close button or Alt+F4.
+    virtual void closeRequested() { endProgram(); }
+
+    void rescale() override;
+
+  protected:
+    basSarne& app() const { return app_; }
+
+    /// A key pressed anywhere on the form that no control has used. True when the form has used it; otherwise
+    /// the shared keys are tried.
+    virtual bool keyDown(QKeyEvent& event);
+    /// The form, or something on it, has got the keyboard.
+    virtual void gotFocus() {}
+
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void hideEvent(QHideEvent* event) override;
+
+  private:
+    bool sharedKey(const QKeyEvent& event);
+
+    basSarne& app_;
+    Pointer pointer_ = Pointer::Normal;
+    QEventLoop* modalLoop_ = nullptr;
+    bool loaded_ = true;
+};
+
+}  // namespace sarne

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "forms/control.h"
+#include "richtext/surface.h"
+
+namespace sarne {
+
+/// A text of one font and colour. It lets the mouse through unless it is made clickable.
+class Label : public Control {
+    Q_OBJECT
+  public:
+    Label(Form& form, const QString& name);
+
+    void setText(const QString& text);
+    const QString& text() const { return text_; }
+    void setFont(const TextFont& font);
+    void setColor(const QColor& color);
+    void setAlignment(Qt::Alignment alignment);
+    /// A ground behind the text; by default there is none.
+    void setGround(const QColor& color);
+    void setWordWrap(bool wraps);
+    void setClickable(bool clickable);
+
+    /// The size in twips that \a text takes: on its lines as they stand, or wrapped at \a width.
+    static QSize measure(const QString& text, const TextFont& font, int width = 0);
+    /// Grows or shrinks to the text: to its natural width, or, where \a width is given, to that width and as
+    /// many lines as it needs.
+    void autoSize(int width = 0);
+
+  protected:
+    void paint(QPainter& painter) override;
+
+  private:
+    QString text_;
+    TextFont font_;
+    QColor color_;
+    QColor ground_ = Qt::transparent;
+    Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignTop;
+    bool wraps_ = false;
+};
+
+}  // namespace sarne

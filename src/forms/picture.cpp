@@ -1,0 +1,136 @@
+#include "forms/picture.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QPainter>
+#include <QPixmap>
+#include <list>
+
+namespace sarne {
+
+/// A picture's bytes and the few sizes in which it was last drawn.
+struct Picture::Source {
+    static constexpr size_t kKeptSizes = 3;
+
+    QByteArray encoded;
+    QString file;
+    QImage decoded;
+    QSize size;
+    std::list<QPixmap> drawn;
+
+    QImage decode(QSize pixels) const;
+    const QPixmap* at(QSize pixels);
+
+  private:
+    QImage read(QSize pixels, QIODevice* device) const;
+};
+
+QImage Picture::Source::read(QSize pixels, QIODevice* device) const {
+    QImageReader reader = device ? QImageReader(device) : QImageReader(file);
+    // The JPEG decoder makes a smaller picture much faster than a full one; it is asked for twice the size so
+    // that the last step is a smooth one.
+    const QSize twice = pixels * 2;
+    if (pixels.isValid() && reader.size().width() > twice.width() && reader.size().height() > twice.height())
+        reader.setScaledSize(twice);
+    return reader.read();
+}
+
+QImage Picture::Source::decode(QSize pixels) const {
+    if (!decoded.isNull()) return decoded;
+    if (encoded.isEmpty()) return read(pixels, nullptr);
+    QBuffer buffer;
+    buffer.setData(encoded);
+    buffer.open(QIODevice::ReadOnly);
+    return read(pixels, &buffer);
+}
+
+const QPixmap* Picture::Source::at(QSize pixels) {
+    for (auto kept = drawn.begin(); kept != drawn.end(); ++kept) {
+        if (kept->size() != pixels) continue;
+        drawn.splice(drawn.begin(), drawn, kept);
+        return &drawn.front();
+    }
+    QImage image = decode(pixels);
+    if (image.isNull()) return nullptr;
+    if (image.size() != pixels) image = image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    drawn.push_front(QPixmap::fromImage(std::move(image)));
+    if (drawn.size() > kKeptSizes) drawn.pop_back();
+    return &drawn.front();
+}
+
+Picture Picture::fromData(const QByteArray& encoded) {
+    Picture picture;
+    if (encoded.isEmpty()) return picture;
+    QBuffer buffer;
+    buffer.setData(encoded);
+    buffer.open(QIODevice::ReadOnly);
+    const QSize size = QImageReader(&buffer).size();
+    if (size.isEmpty()) return picture;
+    picture.source_ = std::make_shared<Source>();
+    picture.source_->encoded = encoded;
+    picture.source_->size = size;
+    return picture;
+}
+
+Picture Picture::fromFile(const QString& file) {
+    Picture picture;
+    if (file.isEmpty()) return picture;
+    const QSize size = QImageReader(file).size();
+    if (size.isEmpty()) return picture;
+    picture.source_ = std::make_shared<Source>();
+    picture.source_->file = file;
+    picture.source_->size = size;
+    return picture;
+}
+
+Picture Picture::fromImage(const QImage& image) {
+    Picture picture;
+    if (image.isNull()) return picture;
+    picture.source_ = std::make_shared<Source>();
+    picture.source_->decoded = image;
+    picture.source_->size = image.size();
+    return picture;
+}
+
+QSize Picture::size() const {
+    return source_ ? source_->size : QSize();
+}
+
+QRectF Picture::fitted(QSizeF picture, const QRectF& place, Fit fit) {
+    if (fit == Fit::Stretch || picture.isEmpty()) return place;
+    const auto mode = fit == Fit::Inside ? Qt::KeepAspectRatio : Qt::KeepAspectRatioByExpanding;
+    QRectF fitted(QPointF(), picture.scaled(place.size(), mode));
+    fitted.moveCenter(place.center());
+    return fitted;
+}
+
+void Picture::draw(QPainter& painter, const QRectF& place, Fit fit) const {
+    if (!source_) return;
+    const QTransform toPixels = painter.combinedTransform();
+    const QRect pixels = toPixels.mapRect(fitted(size(), place, fit)).toAlignedRect();
+    const double ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1;
+    const QPixmap* drawn = pixels.isEmpty() ? nullptr : source_->at((QSizeF(pixels.size()) * ratio).toSize());
+    if (!drawn) return;
+    painter.save();
+    if (fit == Fit::Cover) painter.setClipRect(place, Qt::IntersectClip);
+    painter.setWorldTransform(QTransform());
+    const QTransform device = painter.combinedTransform().inverted();
+    painter.drawPixmap(device.mapRect(QRectF(pixels)), *drawn, QRectF(QPointF(), drawn->size()));
+    painter.restore();
+}
+
+void Picture::prepare(QSize pixels) const {
+    if (source_ && !pixels.isEmpty()) source_->at(pixels);
+}
+
+QImage Picture::image() const {
+    return source_ ? source_->decode({}) : QImage();
+}
+
+QPixmap Picture::pixmap(QSize pixels) const {
+    const QPixmap* drawn = source_ && !pixels.isEmpty() ? source_->at(pixels) : nullptr;
+    return drawn ? *drawn : QPixmap();
+}
+
+}  // namespace sarne

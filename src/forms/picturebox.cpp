@@ -1,0 +1,111 @@
+#include "forms/picturebox.h"
+
+#include <QFontMetricsF>
+#include <QWheelEvent>
+#include <cmath>
+
+#include "forms/colors.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kWheelStep = 700;  // twips for one notch of the wheel
+constexpr int kWheelNotch = 120;
+
+}  // namespace
+
+PictureBox::PictureBox(Form& form, const QString& name) : Control(form, name), color_(colors::kInk) {}
+
+void PictureBox::Cls() {
+    texts_.clear();
+    pictures_.clear();
+    painters_.clear();
+    contentHeight_ = x_ = y_ = 0;
+    scrollTo(0);
+    update();
+}
+
+void PictureBox::setPicture(const Picture& picture, Fit fit) {
+    Cls();
+    drawPicture(picture, {{0, 0}, twips().size()}, fit);
+}
+
+void PictureBox::drawPicture(const Picture& picture, const QRect& place, Fit fit) {
+    pictures_.push_back({picture, place, fit});
+    grow(place.bottom() + 1);
+}
+
+void PictureBox::addPainted(Painter painter, int height) {
+    painters_.push_back(std::move(painter));
+    grow(height);
+}
+
+QString PictureBox::drawnText() const {
+    QString all;
+    for (const Text& text : texts_) {
+        if (!all.isEmpty()) all += u'\n';
+        all += text.text;
+    }
+    return all;
+}
+
+void PictureBox::scrollTo(int y) {
+    y = qBound(0, y, scrollRange());
+    if (y == scrolled_) return;
+    scrolled_ = y;
+    update();
+    Q_EMIT scrolledTo(y);
+}
+
+void PictureBox::grow(int bottom) {
+    contentHeight_ = std::max(contentHeight_, bottom);
+    update();
+}
+
+int PictureBox::textWidth(const QString& text) const {
+    return static_cast<int>(std::lround(QFontMetricsF(font_.toQFont()).horizontalAdvance(text)));
+}
+
+int PictureBox::textHeight(const QString&) const {
+    return static_cast<int>(std::lround(QFontMetricsF(font_.toQFont()).height()));
+}
+
+void PictureBox::print(const QString& text) {
+    const int height = textHeight(text);
+    textOut(x_, y_ + static_cast<int>(std::lround(QFontMetricsF(font_.toQFont()).ascent())), text);
+    x_ = 0;
+    y_ += height;
+    grow(y_);
+}
+
+void PictureBox::textOut(int x, int baseline, const QString& text) {
+    const QFontMetricsF metrics(font_.toQFont());
+    const int top = baseline - static_cast<int>(std::ceil(metrics.ascent()));
+    const int bottom = baseline + static_cast<int>(std::ceil(metrics.descent()));
+    texts_.push_back({x, baseline, top, bottom, text, font_, color_});
+    grow(bottom);
+}
+
+void PictureBox::paint(QPainter& painter) {
+    const QRect visible(0, scrolled_, twips().width(), twips().height());
+    painter.translate(0, -scrolled_);
+    painter.setClipRect(visible);
+    for (const Placed& placed : pictures_) {
+        if (placed.place.intersects(visible)) placed.picture.draw(painter, placed.place, placed.fit);
+    }
+    for (const Painter& content : painters_) content(painter, visible);
+    for (const Text& text : texts_) {
+        if (text.bottom < visible.top() || text.top > visible.bottom()) continue;
+        painter.setFont(text.font.toQFont());
+        painter.setPen(text.color);
+        painter.drawText(QPointF(text.x, text.baseline), text.text);
+    }
+}
+
+void PictureBox::wheelEvent(QWheelEvent* event) {
+    if (scrollRange() == 0) return event->ignore();
+    scrollBy(-event->angleDelta().y() * kWheelStep / kWheelNotch);
+    event->accept();
+}
+
+}  // namespace sarne

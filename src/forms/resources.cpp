@@ -1,0 +1,77 @@
+#include "forms/resources.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPixmap>
+#include <QResource>
+
+namespace sarne {
+namespace {
+
+QByteArray readAll(const QString& path) {
+    QFile file(path);
+    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+}  // namespace
+
+Resources::Resources(QString root) : root_(std::move(root)) {}
+
+bool Resources::load(const QString& file) {
+    files_.clear();
+    pictures_.clear();
+    return QResource::registerResource(file);
+}
+
+/// The path of the file in \a folder whose name, its ending and the case aside, is \a name.
+QString Resources::find(const QString& folder, const QString& name) const {
+    auto known = files_.find(folder);
+    if (known == files_.end()) {
+        QHash<QString, QString> names;
+        const auto entries = QDir(root_ + folder).entryInfoList(QDir::Files);
+        for (const QFileInfo& entry : entries) names[entry.completeBaseName().toLower()] = entry.filePath();
+        known = files_.insert(folder, names);
+    }
+    return known->value(name.toLower());
+}
+
+Picture Resources::picture(const QString& name) const {
+    const QString key = name.toLower();
+    if (!pictures_.contains(key)) pictures_[key] = Picture::fromFile(find(QStringLiteral("obr"), name));
+    return pictures_[key];
+}
+
+std::vector<Picture> Resources::animation(int button) const {
+    std::vector<Picture> frames;
+    for (int frame = 1;; ++frame) {
+        const QString name =
+            QStringLiteral("%1-%2").arg(button, 2, 10, QLatin1Char('0')).arg(frame, 2, 10, QLatin1Char('0'));
+        const QString file = find(QStringLiteral("pohyby"), name);
+        if (file.isEmpty()) return frames;
+        frames.push_back(Picture::fromFile(file));
+    }
+}
+
+QCursor Resources::cursor(const QString& name, double scale) const {
+    constexpr int kCursorTwips = 480;
+    const int side = qBound(16, qRound(kCursorTwips * scale), 128);
+    const QPixmap pixmap = picture(name).pixmap({side, side});
+    if (pixmap.isNull()) return QCursor(Qt::ArrowCursor);
+    // The layout table holds "NAME x y", in hundredths of the picture's side.
+    for (const QString& line : layout(QStringLiteral("kurzory")).split(u'\n')) {
+        const QStringList parts = line.simplified().split(u' ');
+        if (parts.size() >= 3 && parts[0].compare(name, Qt::CaseInsensitive) == 0)
+            return QCursor(pixmap, parts[1].toInt() * side / 100, parts[2].toInt() * side / 100);
+    }
+    return QCursor(pixmap);
+}
+
+QByteArray Resources::effect(int number) const {
+    return readAll(find(QStringLiteral("zvuky"), QString::number(number)));
+}
+
+QString Resources::layout(const QString& name) const {
+    return QString::fromUtf8(readAll(find(QStringLiteral("layout"), name)));
+}
+
+}  // namespace sarne

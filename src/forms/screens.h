@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+namespace sarne {
+
+/// What the photo viewer is asked to show.
+struct PhotoRequest {
+    std::vector<std::int16_t> photoIds;  ///< recipe ids, in order
+    int startPosition = 0;               ///< index of the first photo shown
+    bool slideShow = false;
+    int slideInterval = 4000;  ///< milliseconds
+};
+
+/// One line of the print selection.
+struct PrintEntry {
+    QString text;
+    std::int32_t item = 0;  ///< a recipe id
+};
+
+/// How a screen opens another: by what it wants shown, without knowing who shows it. A screen that cannot be
+/// shown answers with nothing.
+class Screens {
+  public:
+    virtual ~Screens() = default;
+
+    /// The list of the records \a ids ("12,40,7,", all when empty) of the table \a source.
+    virtual void showList(const QString& ids, const QString& source) = 0;
+    virtual void showRecipe(std::int16_t id) = 0;
+    virtual void showGrid() = 0;
+    virtual void showPhotos(const PhotoRequest& request) = 0;
+    virtual void showVideo(std::int16_t number) = 0;
+    virtual void showMusicSettings() = 0;
+    /// A text page with its own button bar, by its id ("10", "300").
+    virtual void showPage(const QString& id) = 0;
+    /// The help for the form called \a formName.
+    virtual void showHelpFor(const QString& formName) = 0;
+    virtual void showTables(std::int16_t item) = 0;
+    /// An index keyword's text.
+    virtual void showIndex(std::int16_t keyword) = 0;
+    virtual void showSponsor(std::int16_t topic, const QString& text) = 0;
+    virtual void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) = 0;
+    virtual void printRecipes(const std::vector<std::int16_t>& ids) = 0;
+    /// Hides the menu tree and returns the main screen to idle.
+    virtual void returnToMain() = 0;
+};
+
+}  // namespace sarne

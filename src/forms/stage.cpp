@@ -1,0 +1,95 @@
+#include "forms/stage.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "forms/form.h"
+
+namespace sarne {
+
+Stage::Stage() : shield_(new QWidget(this)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    shield_->setObjectName(QStringLiteral("shield"));
+    shield_->hide();
+    resize(kWidth / 15, kHeight / 15);
+    qApp->installEventFilter(this);
+}
+
+Stage::~Stage() {
+    // Forms use the stage while they go.
+    qDeleteAll(findChildren<Form*>(Qt::FindDirectChildrenOnly));
+}
+
+std::vector<Form*> Stage::forms() const {
+    std::vector<Form*> loaded;
+    for (Form* form : findChildren<Form*>(Qt::FindDirectChildrenOnly)) {
+        if (form->isLoaded()) loaded.push_back(form);
+    }
+    return loaded;
+}
+
+Form* Stage::focusForm() const {
+    for (QWidget* widget = focusWidget(); widget; widget = widget->parentWidget()) {
+        if (auto* form = qobject_cast<Form*>(widget)) return form;
+    }
+    return nullptr;
+}
+
+void Stage::enterModal(Form& form) {
+    modal_.emplace_back(&form);
+    raiseModal();
+}
+
+void Stage::leaveModal(Form& form) {
+    std::erase_if(modal_, [&](const QPointer<Form>& entry) { return !entry || entry == &form; });
+    raiseModal();
+}
+
+Form* Stage::modalForm() const {
+    return modal_.empty() ? nullptr : modal_.back().data();
+}
+
+void Stage::raiseModal() {
+    Form* form = modalForm();
+    shield_->setVisible(form != nullptr);
+    if (!form) return;
+    shield_->setGeometry(rect());
+    shield_->raise();
+    form->raise();
+    form->setFocus();
+}
+
+void Stage::fit() {
+    scale_ = std::min(width() / double(kWidth), height() / double(kHeight));
+    origin_ = QPointF((width() - kWidth * scale_) / 2, (height() - kHeight * scale_) / 2);
+    shield_->setGeometry(rect());
+    for (Form* form : findChildren<Form*>(Qt::FindDirectChildrenOnly)) form->rescale();
+}
+
+void Stage::resizeEvent(QResizeEvent*) {
+    fit();
+}
+
+void Stage::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(rect(), Qt::black);
+}
+
+void Stage::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    Q_EMIT closeRequested();
+}
+
+bool Stage::eventFilter(QObject* watched, QEvent* event) {
+    const bool key = event->type() == QEvent::KeyPress;
+    if (key || event->type() == QEvent::MouseButtonPress) {
+        if (keyboardInUse_ != key) {
+            keyboardInUse_ = key;
+            if (QWidget* focused = focusWidget()) focused->update();
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace sarne

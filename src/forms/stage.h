@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <vector>
+
+namespace sarne {
+
+class Form;
+
+/// The program's one window. It fits the 4:3 design of 12000 x 9000 twips into whatever size it is given: in
+/// the middle, scaled evenly, the rest black. Forms are its children.
+class Stage : public QWidget {
+    Q_OBJECT
+  public:
+    static constexpr int kWidth = 12000;
+    static constexpr int kHeight = 9000;
+
+    Stage();
+    ~Stage() override;
+
+    /// Pixels of this window per twip.
+    double scale() const { return scale_; }
+    /// Where the design's upper left corner lies, in pixels.
+    QPointF designOrigin() const { return origin_; }
+
+    /// All loaded forms, in the order in which they were loaded.
+    std::vector<Form*> forms() const;
+    /// The form that has the keyboard, or nothing.
+    Form* focusForm() const;
+
+    /// Lets nothing but \a form take input until leaveModal() of the same form.
+    void enterModal(Form& form);
+    void leaveModal(Form& form);
+    Form* modalForm() const;
+
+    /// Whether the last input came from the keyboard: focus is shown then, and not while the mouse is used.
+    bool keyboardInUse() const { return keyboardInUse_; }
+
+  Q_SIGNALS:
+    /// The user asked the window system to close the window.
+    void closeRequested();
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void fit();
+    void raiseModal();
+
+    double scale_ = 1. / 15;
+    QPointF origin_;
+    QWidget* shield_;  // lies below the modal form and takes the mouse meant for the others
+    std::vector<QPointer<Form>> modal_;
+    bool keyboardInUse_ = false;
+};
+
+}  // namespace sarne

@@ -1,0 +1,17 @@
+#include "forms/timer.h"
+
+namespace sarne {
+
+Timer::Timer(QObject* parent) : QObject(parent) {
+    connect(&timer_, &QTimer::timeout, this, &Timer::tick);
+}
+
+void Timer::setEnabled(bool enabled) {
+    enabled ? timer_.start() : timer_.stop();
+}
+
+void Timer::fire() {
+    if (isEnabled()) Q_EMIT tick();
+}
+
+}  // namespace sarne

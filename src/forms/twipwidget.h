@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QRect>
+#include <QWidget>
+
+namespace sarne {
+
+class Stage;
+
+/// A widget placed and painted in twips. Only the Stage knows how many pixels a twip has; when that changes,
+/// every widget re-applies its place and repaints.
+class TwipWidget : public QWidget {
+    Q_OBJECT
+  public:
+    /// Puts the widget at \a twips, relative to its parent's upper left corner.
+    void place(const QRect& twips);
+    void moveTo(QPoint twips) { place({twips, twips_.size()}); }
+    const QRect& twips() const { return twips_; }
+
+    /// Pixels of this window per twip.
+    double scale() const { return scale_; }
+    /// A position in this widget, in pixels, as twips.
+    QPoint toTwips(QPointF pixels) const;
+    /// Where a twip of this widget lies in the widget, in pixels. For tests and input methods.
+    QPoint toPixels(QPoint twips) const;
+
+    /// Re-applies the place of this widget and of all within it.
+    virtual void rescale();
+
+  protected:
+    explicit TwipWidget(QWidget* parent);
+
+    /// Paints with one unit a twip, from this widget's upper left corner.
+    virtual void paint(QPainter& painter);
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    friend class Stage;
+
+    QRect twips_;
+    double scale_ = 1. / 15;
+    QPointF exactOrigin_;  // pixels from the window's corner, unrounded
+};
+
+}  // namespace sarne

@@ -1,0 +1,178 @@
+#include "forms/form.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QTimer>
+
+#include "forms/button.h"
+#include "forms/edit.h"
+#include "forms/label.h"
+#include "forms/picturebox.h"
+#include "support/fakesarne.h"
+
+namespace sarne {
+namespace {
+
+struct Screen : Form {
+    explicit Screen(basSarne& run, const char* name)
+        : Form(run, QString::fromLatin1(name)), button(*this, QStringLiteral("imgBtn(0)")) {
+        button.place({1500, 3000, 750, 450});
+    }
+    void goBack() override { ++backs; }
+    void restored() override { ++restores; }
+    bool keyDown(QKeyEvent& event) override {
+        keys << event.key();
+        return event.key() == Qt::Key_Tab;
+    }
+    Button button;
+    int backs = 0, restores = 0;
+    QList<int> keys;
+};
+
+class FormTest : public testing::Test {
+  protected:
+    FakeSarne run;
+    Screen* screen = new Screen(run, "frmA");
+};
+
+TEST_F(FormTest, TheDesignFitsEvenlyIntoEveryDisplay) {
+    screen->showForm();
+    const struct {
+        QSize window;
+        QRect form, button;
+    } cases[] = {{{800, 600}, {0, 0, 800, 600}, {100, 200, 50, 30}},
+                 {{1920, 1080}, {240, 0, 1440, 1080}, {180, 360, 90, 54}},
+                 {{600, 800}, {0, 175, 600, 450}, {75, 150, 38, 23}}};
+    for (const auto& c : cases) {
+        run.window.resize(c.window);
+        QApplication::processEvents();
+        EXPECT_EQ(screen->geometry(), c.form);
+        EXPECT_EQ(screen->button.geometry(), c.button);
+    }
+    run.window.resize(1234, 777);
+    QApplication::processEvents();
+    EXPECT_EQ(screen->button.toTwips(screen->button.rect().center()).x() / 20, 375 / 20);
+}
+
+TEST_F(FormTest, SharedKeysComeFromAnywhereOnTheForm) {
+    screen->showForm();
+    screen->button.setFocus();
+    QTest::keyClick(&screen->button, Qt::Key_C);
+    EXPECT_EQ(screen->backs, 1);
+    QTest::keyClick(&screen->button, Qt::Key_X);
+    QTest::keyClick(screen, Qt::Key_X, Qt::AltModifier);
+    QTest::keyClick(screen, Qt::Key_F4, Qt::AltModifier);
+    EXPECT_EQ(run.exits, 3);
+    QTest::keyClick(screen, Qt::Key_F4);
+    QTest::keyClick(screen, Qt::Key_F1);
+    EXPECT_EQ(run.recorded.calls,
+              (QStringList{QStringLiteral("showMusicSettings"), QStringLiteral("showHelpFor frmA")}));
+    screen->keys.clear();
+    QTest::keyClick(&screen->button, Qt::Key_Tab);
+    EXPECT_EQ(screen->keys, QList<int>{Qt::Key_Tab}) << "Tab is the form's";
+    QTest::keyClick(screen, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(screen->backs, 1);
+}
+
+TEST_F(FormTest, LettersTypedAreNoCommands) {
+    Edit entry(*screen, QStringLiteral("Text1"));
+    entry.place({0, 0, 3000, 450});
+    screen->showForm();
+    entry.focusAll();
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("cX"));
+    EXPECT_EQ(entry.text(), QStringLiteral("cX"));
+    EXPECT_EQ(screen->backs + run.exits, 0);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(run.exits, 1);
+    screen->keys.clear();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(screen->keys, QList<int>{Qt::Key_Return}) << "Enter reaches the form once";
+}
+
+TEST_F(FormTest, TheScreenBelowWaitsAndComesBack) {
+    auto* top = new Screen(run, "frmB");
+    run.PushScreen(*screen);
+    screen->showForm();
+    run.PushScreen(*top);
+    top->showForm();
+    EXPECT_FALSE(screen->button.isEnabled());
+    EXPECT_TRUE(top->hasFocus());
+    top->button.setEnabled(false);
+    EXPECT_TRUE(run.BringTopToFront(QStringLiteral("frmA")));
+    EXPECT_FALSE(run.BringTopToFront(QStringLiteral("frmB")));
+    run.PopScreen(*top);
+    EXPECT_FALSE(top->isLoaded());
+    EXPECT_TRUE(screen->button.isEnabled());
+    EXPECT_TRUE(screen->hasFocus());
+    EXPECT_EQ(screen->restores, 1);
+    EXPECT_EQ(run.FormStack.top(), screen);
+    EXPECT_EQ(run.window.forms(), std::vector<Form*>{screen});
+
+    auto* beside = new Screen(run, "frmC");
+    run.PushScreen(*beside, KeepEnabled::Yes);
+    EXPECT_TRUE(screen->button.isEnabled());
+}
+
+TEST_F(FormTest, AModalFormTakesAllInput) {
+    screen->showForm();
+    auto* box = new Screen(run, "frmMessage");
+    box->place({3000, 3000, 3000, 1500});
+    int clicks = 0;
+    QObject::connect(&screen->button, &Button::clicked, [&] { ++clicks; });
+    QTimer::singleShot(0, [&] {
+        EXPECT_TRUE(box->hasFocus());
+        const QPoint at = screen->button.mapTo(&run.window, screen->button.rect().center());
+        QTest::mouseClick(run.window.childAt(at), Qt::LeftButton);
+        box->hideForm();
+    });
+    box->showModal();
+    EXPECT_EQ(clicks, 0);
+    QTest::mouseClick(run.window.childAt(screen->button.mapTo(&run.window, QPoint(5, 5))), Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_TRUE(screen->button.hasFocus());
+}
+
+TEST_F(FormTest, AClickNeedsPressAndReleaseOnTheSameEnabledControl) {
+    screen->showForm();
+    int clicks = 0;
+    QObject::connect(&screen->button, &Button::clicked, [&] { ++clicks; });
+    QTest::mousePress(&screen->button, Qt::LeftButton);
+    QTest::mouseRelease(&screen->button, Qt::LeftButton, {}, {500, 5});
+    QTest::mouseClick(&screen->button, Qt::RightButton);
+    screen->button.setEnabled(false);
+    screen->button.click();
+    EXPECT_EQ(clicks, 0);
+    screen->button.setEnabled(true);
+    QTest::mouseClick(&screen->button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(FormTest, ADrawingSurfaceScrollsNoFurtherThanItsContent) {
+    PictureBox box(*screen, QStringLiteral("picRecept"));
+    box.place({0, 0, 6000, 1000});
+    for (int line = 0; line < 10; ++line) box.print(QString::number(line));
+    EXPECT_EQ(box.currentY(), box.contentHeight());
+    box.scrollBy(100000);
+    EXPECT_EQ(box.scrolled(), box.contentHeight() - 1000);
+    box.scrollBy(-100000);
+    EXPECT_EQ(box.scrolled(), 0);
+    EXPECT_EQ(box.drawnText().count(u'\n'), 9);
+    box.scrollTo(50);
+    box.Cls();
+    EXPECT_EQ(box.scrolled() + box.contentHeight() + box.currentY(), 0);
+}
+
+TEST_F(FormTest, ALabelWrapsAtItsWidth) {
+    Label label(*screen, QStringLiteral("Label1"));
+    label.setText(QStringLiteral("Chcete ukončit program?  "));
+    label.autoSize();
+    const int natural = label.twips().width(), line = label.twips().height();
+    EXPECT_GT(natural, Label::measure(QStringLiteral("Chcete ukončit program?"), TextFont()).width());
+    label.autoSize(natural / 2);
+    EXPECT_EQ(label.twips().width(), natural / 2);
+    EXPECT_GE(label.twips().height(), line * 2);
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,119 @@
+#pragma once
+
+#include <QApplication>
+#include <QStringList>
+#include <deque>
+#include <functional>
+
+#include "db/database.h"
+#include "forms/bassarne.h"
+#include "forms/resources.h"
+#include "forms/screens.h"
+#include "forms/stage.h"
+#include "support/fakeeffects.h"
+#include "support/fakemultimedia.h"
+
+namespace sarne {
+
+/// Writes down what screens ask for, one line each ("showRecipe 5").
+class RecordedScreens : public Screens {
+  public:
+    QStringList calls;
+    PhotoRequest photos;
+    std::vector<PrintEntry> printEntries;
+    std::vector<std::int16_t> printed;
+
+    void showList(const QString& ids, const QString& source) override {
+        calls << QStringLiteral("showList %1 %2").arg(ids, source);
+    }
+    void showRecipe(std::int16_t id) override { calls << QStringLiteral("showRecipe %1").arg(id); }
+    void showGrid() override { calls << QStringLiteral("showGrid"); }
+    void showPhotos(const PhotoRequest& request) override {
+        photos = request;
+        calls << QStringLiteral("showPhotos %1").arg(request.startPosition);
+    }
+    void showVideo(std::int16_t number) override { calls << QStringLiteral("showVideo %1").arg(number); }
+    void showMusicSettings() override { calls << QStringLiteral("showMusicSettings"); }
+    void showPage(const QString& id) override { calls << QStringLiteral("showPage %1").arg(id); }
+    void showHelpFor(const QString& formName) override {
+        calls << QStringLiteral("showHelpFor %1").arg(formName);
+    }
+    void showTables(std::int16_t item) override { calls << QStringLiteral("showTables %1").arg(item); }
+    void showIndex(std::int16_t keyword) override { calls << QStringLiteral("showIndex %1").arg(keyword); }
+    void showSponsor(std::int16_t topic, const QString& text) override {
+        calls << QStringLiteral("showSponsor %1 '%2'").arg(topic).arg(text);
+    }
+    void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) override {
+        printEntries = entries;
+        calls << QStringLiteral("showPrintSelection %1 '%2'").arg(entries.size()).arg(mode);
+    }
+    void printRecipes(const std::vector<std::int16_t>& ids) override {
+        printed = ids;
+        calls << QStringLiteral("printRecipes %1").arg(ids.size());
+    }
+    void returnToMain() override { calls << QStringLiteral("returnToMain"); }
+};
+
+class ManualClock final : public Clock {
+  public:
+    qint64 time = 0;
+    qint64 now() const override { return time; }
+};
+
+/// A run for tests: a stage of 800 x 600 pixels, no resources, and message boxes that are answered from a
+/// list.
+class FakeSarne : public basSarne {
+  public:
+    /// The codes that the next message boxes return; 6 when there are no more.
+    std::deque<int> answers;
+    /// What the message boxes said, each as "style: text".
+    QStringList messages;
+    QStringList announced, awake;
+    int beeps = 0, exits = 0;
+    Stage window;
+    Resources pictures{QStringLiteral(":/none/")};
+    Database database;
+    RecordedScreens recorded;
+    ManualClock time;
+    FakeEffects sounds;
+    FakeMultimedia player;
+    /// Called while a message box would be open.
+    std::function<void()> whileAsking;
+
+    FakeSarne() {
+        Locale = QLocale(QLocale::Czech, QLocale::CzechRepublic);
+        window.resize(800, 600);
+        window.show();
+        window.activateWindow();
+        QApplication::processEvents();
+    }
+
+    Stage& stage() override { return window; }
+    Resources& resources() override { return pictures; }
+    Database& Db() override { return database; }
+    Screens& screens() override { return recorded; }
+    const Clock& clock() override { return time; }
+    EffectPlayer& effects() override { return sounds; }
+    MultimediaControl& music() override { return player; }
+    void ConfirmExit() override { ++exits; }
+    int ZobrazZpravu(const QString& text, int style, int) override {
+        messages << QStringLiteral("%1: %2").arg(style).arg(text);
+        if (whileAsking) whileAsking();
+        if (answers.empty()) return 6;
+        const int answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+    void Beep() override { ++beeps; }
+    void HookMessage(const QString& text) override { announced << text; }
+    void keepAwake(const QString& reason) override { awake << reason; }
+};
+
+/// The widget of \a form called \a name; fails loudly when there is none, by returning a null that tests
+/// assert on.
+template <typename Widget = QWidget>
+Widget* child(const QWidget& form, const char* name) {
+    return form.findChild<Widget*>(QString::fromLatin1(name));
+}
+
+}  // namespace sarne
