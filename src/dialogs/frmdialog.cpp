@@ -1,0 +1,128 @@
+#include "dialogs/frmdialog.h"
+
+#include <QKeyEvent>
+
+#include "core/value.h"
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/panel.h"
+#include "forms/resources.h"
+#include "forms/stage.h"
+
+namespace sarne {
+namespace {
+
+const TextFont kFont{QStringLiteral("Arial"), 11};
+const TextFont kEntryFont{QStringLiteral("Arial"), 13};
+const TextFont kButtonFont{QStringLiteral("Arial"), 11, true};
+
+constexpr int kMargin = 240;
+constexpr int kPromptWidth = 5000;
+constexpr int kEntryHeight = 480;
+constexpr QSize kButton(1560, 510);
+
+}  // namespace
+
+frmDialog::frmDialog(basSarne& sarne, const QString& prompt, Asks asks)
+    : Form(sarne, QStringLiteral("frmDialog")),
+      asks_(asks),
+      Label1(*this, QStringLiteral("Label1")),
+      Text1(*this, QStringLiteral("Text1")) {
+    Label1.setFont(kFont);
+    Label1.setColor(colors::kPaper);
+    Label1.setText(prompt);
+    Label1.autoSize(kPromptWidth);
+    Label1.moveTo({kMargin, kMargin});
+    Text1.setAccessibleName(prompt);
+    Text1.setFont(kEntryFont);
+
+    const int entryTop = kMargin + Label1.twips().height() + kMargin / 2;
+    Text1.place({kMargin, entryTop, kPromptWidth, kEntryHeight});
+    const int buttonTop = entryTop + kEntryHeight + kMargin;
+    const QString captions[] = {QStringLiteral("OK"), QStringLiteral("Storno")};
+    for (int i = 0; i < 2; ++i) {
+        auto* button = Command1[size_t(i)] = new Button(*this, QStringLiteral("Command1(%1)").arg(i));
+        button->setCaption(captions[i]);
+        button->setFont(kButtonFont);
+        button->setFramePictures(app().resources().picture(QStringLiteral("Tlacitko")),
+                                 app().resources().picture(QStringLiteral("TlacitkoStisk")));
+        button->setFrame(Button::Frame::Raised);
+        const int middle = kMargin + kPromptWidth / 2;
+        button->place({QPoint(i == 0 ? middle - kButton.width() - 90 : middle + 90, buttonTop), kButton});
+        connect(button, &Button::clicked, this, [this, i] { press(i); });
+    }
+    const QSize size(kPromptWidth + 2 * kMargin, buttonTop + kButton.height() + kMargin);
+    place({QPoint((Stage::kWidth - size.width()) / 2, (Stage::kHeight - size.height()) / 2), size});
+    setFocusProxy(&Text1);
+}
+
+void frmDialog::press(int index) {
+    if (index == 1) {
+        Text1.setText(asks_ == Asks::Number ? QStringLiteral("0") : QString());
+        return hideForm();
+    }
+    if (asks_ == Asks::Text || leadingNumber(Text1.text()) > 0) return hideForm();
+    app().ZobrazZpravu(QStringLiteral("Toto není číslo!"), 48);
+    Text1.focusAll();
+}
+
+void frmDialog::moveFocus(int step) {
+    Control* const order[] = {&Text1, Command1[0], Command1[1]};
+    int at = 0;
+    for (int i = 0; i < 3; ++i) {
+        if (order[i]->hasFocus()) at = i;
+    }
+    order[(at + step + 3) % 3]->setFocus(Qt::TabFocusReason);
+}
+
+bool frmDialog::keyDown(QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Escape:
+            press(1);
+            break;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            press(Command1[1]->hasFocus() ? 1 : 0);
+            break;
+        case Qt::Key_Space:
+            if (Command1[0]->hasFocus() || Command1[1]->hasFocus()) press(Command1[1]->hasFocus() ? 1 : 0);
+            break;
+        case Qt::Key_Tab:
+        case Qt::Key_Down:
+            moveFocus(1);
+            break;
+        case Qt::Key_Backtab:
+        case Qt::Key_Up:
+            moveFocus(-1);
+            break;
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+            moveFocus(Command1[0]->hasFocus() ? 1 : -1);
+            break;
+        default:
+            break;
+    }
+    return true;
+}
+
+void frmDialog::paint(QPainter& painter) {
+    paintPanel(painter, {{0, 0}, twips().size()}, app().resources().picture(QStringLiteral("zprava")));
+}
+
+double askNumber(basSarne& app, const QString& prompt) {
+    auto* dialog = new frmDialog(app, prompt, frmDialog::Asks::Number);
+    dialog->showModal();
+    const double number = leadingNumber(dialog->answer());
+    dialog->unload();
+    return number;
+}
+
+QString askText(basSarne& app, const QString& prompt) {
+    auto* dialog = new frmDialog(app, prompt, frmDialog::Asks::Text);
+    dialog->showModal();
+    const QString answer = dialog->answer();
+    dialog->unload();
+    return answer;
+}
+
+}  // namespace sarne

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+
+#include "forms/button.h"
+#include "forms/edit.h"
+#include "forms/form.h"
+#include "forms/label.h"
+
+namespace sarne {
+
+/// Asks for one number or one text. The answer is the text of the entry; a cancelled number is "0", a
+/// cancelled text empty.
+class frmDialog : public Form {
+    Q_OBJECT
+  public:
+    enum class Asks { Number, Text };
+
+    frmDialog(basSarne& app, const QString& prompt, Asks asks);
+
+    QString answer() const { return Text1.text(); }
+    void goBack() override { press(1); }
+    void closeRequested() override { press(1); }
+
+  protected:
+    void paint(QPainter& painter) override;
+    bool keyDown(QKeyEvent& event) override;
+
+  private:
+    void press(int index);
+    void moveFocus(int step);
+
+    Asks asks_;
+    Label Label1;
+    Edit Text1;
+    std::array<Button*, 2> Command1{};
+};
+
+/// Asks for a positive number under \a prompt; 0 when the user cancels. The number is what stands at the
+/// beginning of the text that was typed, with a decimal point.
+double askNumber(basSarne& app, const QString& prompt);
+
+/// Asks for a text under \a prompt; empty when the user cancels.
+QString askText(basSarne& app, const QString& prompt);
+
+}  // namespace sarne

@@ -1,0 +1,76 @@
+#include "dialogs/frmdialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QTimer>
+
+#include "support/fakesarne.h"
+
+namespace sarne {
+namespace {
+
+class DialogTest : public testing::Test {
+  protected:
+    frmDialog* open() {
+        for (Form* form : run.window.forms()) {
+            if (auto* dialog = qobject_cast<frmDialog*>(form)) return dialog;
+        }
+        return nullptr;
+    }
+    /// Types \a text and presses \a keys in turn; a dialog that is still open is then cancelled.
+    double number(const char* text, QList<Qt::Key> keys) {
+        QTimer::singleShot(0, [=, this] {
+            QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text));
+            for (Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
+            if (open() && open()->isVisible()) {
+                stayedOpen = true;
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+            }
+        });
+        return askNumber(run, QStringLiteral("Počet porcí:"));
+    }
+
+    FakeSarne run;
+    bool stayedOpen = false;
+};
+
+TEST_F(DialogTest, TakesWhatBeginsWithAPositiveNumber) {
+    EXPECT_EQ(number("4", {Qt::Key_Return}), 4);
+    EXPECT_EQ(number(" 7", {Qt::Key_Enter}), 7);
+    EXPECT_EQ(number("2.5", {Qt::Key_Return}), 2.5);
+    EXPECT_EQ(number("12abc", {Qt::Key_Tab, Qt::Key_Space}), 12);
+    EXPECT_EQ(number("cx3", {Qt::Key_Home, Qt::Key_Delete, Qt::Key_Delete, Qt::Key_Return}), 3)
+        << "letters are typed";
+    EXPECT_FALSE(stayedOpen);
+    EXPECT_TRUE(run.messages.isEmpty());
+}
+
+TEST_F(DialogTest, AnythingElseIsRefusedAndAskedAgain) {
+    for (const char* text : {"0", "-3", "", "abc"}) {
+        stayedOpen = false;
+        run.messages.clear();
+        EXPECT_EQ(number(text, {Qt::Key_Return}), 0);
+        EXPECT_EQ(run.messages, QStringList{QStringLiteral("48: Toto není číslo!")}) << text;
+        EXPECT_TRUE(stayedOpen) << text;
+    }
+}
+
+TEST_F(DialogTest, CancellingIsZero) {
+    EXPECT_EQ(number("5", {Qt::Key_Escape}), 0);
+    EXPECT_EQ(number("5", {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return}), 0);
+    EXPECT_TRUE(run.messages.isEmpty());
+    EXPECT_FALSE(stayedOpen);
+    EXPECT_EQ(run.window.forms().size(), 0u);
+}
+
+TEST_F(DialogTest, ATextIsTakenAsItIs) {
+    QTimer::singleShot(0, [] {
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("e"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    });
+    EXPECT_EQ(askText(run, QStringLiteral("Zadejte pismeno")), QStringLiteral("e"));
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,101 @@
+#include "dialogs/frmmessage.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QTimer>
+
+#include "support/fakesarne.h"
+
+namespace sarne {
+namespace {
+
+class MessageTest : public testing::Test {
+  protected:
+    /// Asks, and does \a answer while the box is open. A box that stays open is closed so that the test can
+    /// end.
+    template <typename Answer>
+    int ask(const char* text, int style, Answer answer, int closeCode = 0) {
+        QTimer::singleShot(0, [&] {
+            answer();
+            if (box->isVisible()) box->hideForm();
+        });
+        return box->ask(QString::fromUtf8(text), style, 0, closeCode);
+    }
+    int press(int style, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        return ask("Chcete ukončit program?  ", style,
+                   [&] { QTest::keyClick(QApplication::focusWidget(), key, modifiers); });
+    }
+    Button* button(int i) { return box->findChild<Button*>(QStringLiteral("cmdBtn(%1)").arg(i)); }
+
+    FakeSarne run;
+    frmMessage* box = new frmMessage(run);
+};
+
+TEST_F(MessageTest, AnswersByMouseAndByKeyboard) {
+    EXPECT_EQ(ask("?", 36, [&] { QTest::mouseClick(button(1), Qt::LeftButton); }), 7);
+    EXPECT_EQ(ask("?", 36, [&] { QTest::mouseClick(button(0), Qt::LeftButton); }), 6);
+    EXPECT_EQ(press(36, Qt::Key_Return), 6);
+    EXPECT_EQ(press(36, Qt::Key_Escape), 7);
+    EXPECT_EQ(press(36 + 256, Qt::Key_Return), 7) << "the default button has the focus";
+    EXPECT_EQ(press(48, Qt::Key_Space), 6);
+    EXPECT_EQ(press(48, Qt::Key_Escape), 6);
+    EXPECT_EQ(press(36, Qt::Key_N), 7);
+    EXPECT_EQ(ask("?", 36,
+                  [&] {
+                      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+                  }),
+              7);
+}
+
+TEST_F(MessageTest, ClosingItAnswersOnlyWhereThatIsAnAnswer) {
+    EXPECT_EQ(press(36, Qt::Key_F4, Qt::AltModifier), 0) << "it stayed open until the test hid it";
+    bool stillOpen = false;
+    EXPECT_EQ(ask(
+                  "?", 36,
+                  [&] {
+                      box->closeRequested();
+                      stillOpen = box->isVisible();
+                  },
+                  2),
+              2);
+    EXPECT_FALSE(stillOpen);
+}
+
+TEST_F(MessageTest, BeepsAnnouncesAndWraps) {
+    const char* longText =
+        "Program je koncipován pro spouštění v rozlišení 800 x 600, Váš počítač má nastaveno rozlišení "
+        "1024,768";
+    ask(longText, 36, [&] {
+        EXPECT_EQ(child<Label>(*box, "Label1")->twips().width(), kMessageTextLimit);
+        EXPECT_GT(child<Label>(*box, "Label1")->twips().height(), 400);
+    });
+    EXPECT_EQ(run.beeps, 1);
+    EXPECT_EQ(run.announced, QStringList{QString::fromUtf8(longText)});
+    ask("krátce", 64, [&] {
+        EXPECT_LT(child<Label>(*box, "Label1")->twips().width(), 2000);
+        EXPECT_FALSE(button(1)->isVisible());
+    });
+}
+
+TEST_F(MessageTest, IsDraggedByItsGroundAndStaysOnTheScreen) {
+    ask("posuň mě", 48, [&] {
+        const QPoint before = box->twips().topLeft();
+        QTest::mousePress(box, Qt::LeftButton, {}, {10, 10});
+        QMouseEvent move(QEvent::MouseMove, QPointF(10, 10), box->mapToGlobal(QPointF(10, 10)),
+                         Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(box, &move);
+        QMouseEvent further(QEvent::MouseMove, QPointF(30, 20), box->mapToGlobal(QPointF(30, 20)),
+                            Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(box, &further);
+        EXPECT_EQ(box->twips().topLeft() - before, QPoint(300, 150));
+        QMouseEvent away(QEvent::MouseMove, QPointF(9000, 9000), QPointF(9000, 9000), Qt::LeftButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(box, &away);
+        EXPECT_EQ(box->twips().right() + 1, 12000);
+    });
+}
+
+}  // namespace
+}  // namespace sarne
