@@ -1,0 +1,251 @@
+#include "screens/navigation/frmhlavni.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/resources.h"
+#include "forms/screens.h"
+#include "forms/stage.h"
+#include "platform/multimediacontrol.h"
+#include "screens/navigation/frmmenu.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kNone = -5;
+constexpr int kFrameInterval = 100;  // milliseconds
+constexpr int kFirstEffect = 100;    // button i sounds effect i + 100
+
+const char* const kTips[kButtonCount] = {"Konec",
+                                         "O kuchařce",
+                                         "Sladkovodní ryby",
+                                         "Přílohy, omáčky, základy",
+                                         "Tabulky a návod",
+                                         "Teplá jídla",
+                                         "Rychlá jídla do 30 minut",
+                                         "Nastavení hudby",
+                                         "Polévky",
+                                         "Ryby našich vod",
+                                         "Fotografie",
+                                         "Mořské ryby",
+                                         "Hledání podle suroviny",
+                                         "Jak vznikl tento disk",
+                                         "Podle období a svátků",
+                                         "K vínu",
+                                         "Studená jídla, předkrmy a saláty",
+                                         "Slavnostní mísy",
+                                         "Videa",
+                                         "",
+                                         ""};
+
+}  // namespace
+
+frmHlavni::frmHlavni(basSarne& sarne)
+    : Form(sarne, QStringLiteral("frmHlavni")),
+      current_(kNone),
+      TmrPohyby(this),
+      Label2(*this, QStringLiteral("Label2")) {
+    setMouseTracking(true);
+    TmrPohyby.setInterval(kFrameInterval);
+    TmrPohyby.setTag(QStringLiteral("0"));
+    connect(&TmrPohyby, &Timer::tick, this, &frmHlavni::tick);
+    Label2.setText(QStringLiteral("Velisa sarn"));
+    Label2.setFont({QStringLiteral("Times New Roman"), 15, true, true});
+    Label2.setColor(colors::kTitle);
+    Label2.setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    Label2.setGround(QColor(11, 34, 38, 170));
+    Label2.place({4800, 90, 2400, 420});
+}
+
+void frmHlavni::makeButton(int i) {
+    auto* button = imgClick[size_t(i)] = new Button(*this, QStringLiteral("imgClick(%1)").arg(i));
+    const ButtonPlace& place = table_[size_t(i)];
+    button->setVisible(place.isShown());
+    if (!place.isShown()) return;
+    button->setTip(QString::fromUtf8(kTips[i]));
+    button->place(place.hotArea);
+    connect(button, &Button::hovered, this, [this, i] { hover(i); });
+    connect(button, &Button::clicked, this, [this, i] { clickButton(i); });
+}
+
+void frmHlavni::Zobraz() {
+    app().FormStack.add(*this);
+    current_ = kNone;
+    table_ = buttonTable(app().resources().layout(QStringLiteral("hlavni")));
+    for (int i = 0; i < kButtonCount; ++i) makeButton(i);
+    showForm();
+    menu_ = new frmMenu(app(), [this] {
+        SkryjMenu();
+        showForm();
+    });
+    startMusic();
+}
+
+void frmHlavni::startMusic() {
+    MultimediaControl& player = app().music();
+    connect(&player, &MultimediaControl::done, this, &frmHlavni::playAgain);
+    if (!app().SoundFlags[kMusic]) return;
+    player.setFileName(app().mediaFile(app().SoundFlags[kWineSounds] ? QStringLiteral("zvuky\\Vina.WAV")
+                                                                     : QStringLiteral("HUDBA.WAV")));
+    player.setNotify(MediaNotify::Off);
+    player.command(u"open");
+    player.setNotify(MediaNotify::On);
+    player.command(u"play");
+}
+
+void frmHlavni::playAgain(int code) {
+    if (code != int(MediaDone::Successful)) return;
+    app().music().setPosition(0);
+    app().music().command(u"play");
+}
+
+void frmHlavni::hover(int i) {
+    if (menuOpen_ || i == current_) return;
+    if (current_ >= 0) endHover();
+    current_ = i;
+    if (app().SoundFlags[kEffects]) app().PlayEffect(i + kFirstEffect);
+    TmrPohyby.setEnabled(true);
+}
+
+void frmHlavni::endHover() {
+    current_ = kNone;
+    TmrPohyby.setEnabled(false);
+    TmrPohyby.setTag(QStringLiteral("0"));
+    shownFrame_ = 0;
+    update();
+    app().StopEffect();
+}
+
+void frmHlavni::mouseMoveEvent(QMouseEvent*) {
+    if (!menuOpen_ && current_ >= 0) endHover();
+}
+
+const std::vector<Picture>& frmHlavni::frames(int i) {
+    auto known = frames_.find(i);
+    if (known == frames_.end()) known = frames_.emplace(i, app().resources().animation(i)).first;
+    return known->second;
+}
+
+QRect frmHlavni::frameRect(int i) const {
+    return {table_[size_t(i)].position, table_[size_t(i)].frame};
+}
+
+void frmHlavni::tick() {
+    if (current_ < 0) return;
+    const int count = int(frames(current_).size());
+    int frame = TmrPohyby.tag().toInt() + 1;
+    if (frame > count) frame = 1;
+    shownFrame_ = count > 0 ? frame : 0;
+    TmrPohyby.setTag(QString::number(frame));
+    const QRect place = frameRect(current_);
+    update(QRect(toPixels(place.topLeft()), toPixels(place.bottomRight())).adjusted(-2, -2, 2, 2));
+}
+
+void frmHlavni::clickButton(int i) {
+    current_ = i;
+    if (i == kExitButton) return app().ConfirmExit();
+    if (i == kMusicButton) return app().screens().showMusicSettings();
+    unfoldMenu(i);
+}
+
+void frmHlavni::unfoldMenu(int i) {
+    menuOpen_ = true;
+    setPointer(Pointer::Back);
+    enableControls(false);
+    TmrPohyby.setEnabled(true);
+    shownFrame_ = frames(i).empty() ? 0 : std::max(1, TmrPohyby.tag().toInt());
+    update();
+    menu_->unfold(QString::number(i), QRect(table_[size_t(i)].position, QSize(1, 1)));
+}
+
+void frmHlavni::SkryjMenu() {
+    menuOpen_ = false;
+    menu_->fold();
+    const int last = current_;
+    if (current_ >= 0) endHover();
+    if (app().FormStack.top() != this) return;
+    enableControls(true);
+    setPointer(Pointer::Normal);
+    if (last >= 0 && app().stage().keyboardInUse()) imgClick[size_t(last)]->setFocus();
+}
+
+void frmHlavni::restored() {
+    if (menuOpen_) SkryjMenu();
+    if (current_ >= 0) endHover();
+}
+
+void frmHlavni::mousePressEvent(QMouseEvent*) {
+    if (!menuOpen_) return;
+    SkryjMenu();
+    showForm();
+}
+
+void frmHlavni::gotFocus() {
+    if (app().FormStack.count() > 1) app().FormStack.top()->bringToFront();
+}
+
+void frmHlavni::moveTo(int button) {
+    if (button < 0) return;
+    imgClick[size_t(button)]->setFocus(Qt::TabFocusReason);
+    hover(button);
+    app().HookMessage(QString::fromUtf8(kTips[button]));
+}
+
+bool frmHlavni::keyDown(QKeyEvent& event) {
+    if (menuOpen_) {
+        frmMenu* deepest = menu_;
+        while (deepest->child()) deepest = deepest->child();
+        deepest->bringToFront();
+        QCoreApplication::sendEvent(deepest, &event);
+        return true;
+    }
+    const bool leaves = event.key() == Qt::Key_X || event.key() == Qt::Key_F4;
+    if (leaves && (event.modifiers() & Qt::AltModifier)) return true;
+    switch (event.key()) {
+        case Qt::Key_Left:
+            moveTo(nearestButton(table_, current_, Direction::Left));
+            return true;
+        case Qt::Key_Right:
+            moveTo(nearestButton(table_, current_, Direction::Right));
+            return true;
+        case Qt::Key_Up:
+            moveTo(nearestButton(table_, current_, Direction::Up));
+            return true;
+        case Qt::Key_Down:
+            moveTo(nearestButton(table_, current_, Direction::Down));
+            return true;
+        case Qt::Key_Tab:
+            moveTo(buttonInReadingOrder(table_, current_, 1));
+            return true;
+        case Qt::Key_Backtab:
+            moveTo(buttonInReadingOrder(table_, current_, -1));
+            return true;
+        case Qt::Key_PageUp:
+            moveTo(firstButton(table_));
+            return true;
+        case Qt::Key_PageDown:
+            moveTo(lastButton(table_));
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            if (current_ >= 0) clickButton(current_);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void frmHlavni::paint(QPainter& painter) {
+    const QRect screen(0, 0, Stage::kWidth, Stage::kHeight);
+    painter.fillRect(screen, colors::kNight);
+    app().Pictures.hlavni.draw(painter, screen, Fit::Stretch);
+    if (current_ < 0 || shownFrame_ == 0) return;
+    const auto& pictures = frames(current_);
+    if (size_t(shownFrame_) <= pictures.size())
+        pictures[size_t(shownFrame_ - 1)].draw(painter, frameRect(current_));
+}
+
+}  // namespace sarne

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <array>
+#include <unordered_map>
+#include <vector>
+
+#include "forms/button.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/picture.h"
+#include "forms/timer.h"
+#include "screens/navigation/buttontable.h"
+
+namespace sarne {
+
+class frmMenu;
+
+/// The home screen: picture buttons that move under the mouse and open the menu of their topic, and the music
+/// that plays as long as the program runs. Lives from start to exit.
+class frmHlavni : public Form {
+    Q_OBJECT
+  public:
+    explicit frmHlavni(basSarne& app);
+
+    /// Shows the screen, loads the menu and starts the music. Called once.
+    void Zobraz();
+    /// The menu has closed: back to idle. Buttons and pointer come back when this screen is on top.
+    void SkryjMenu();
+
+    /// The button under the mouse or last clicked; -5 for none.
+    int currentButton() const { return current_; }
+    bool isMenuOpen() const { return menuOpen_; }
+    frmMenu* menu() const { return menu_; }
+
+    void closeRequested() override {}  // this screen is left by its door only
+    void restored() override;
+
+  protected:
+    void paint(QPainter& painter) override;
+    bool keyDown(QKeyEvent& event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void gotFocus() override;
+
+  private:
+    void makeButton(int i);
+    void startMusic();
+    void playAgain(int code);
+    void hover(int i);
+    void endHover();
+    void tick();
+    void clickButton(int i);
+    void unfoldMenu(int i);
+    void moveTo(int button);
+    const std::vector<Picture>& frames(int i);
+    QRect frameRect(int i) const;
+
+    ButtonTable table_;
+    int current_;
+    bool menuOpen_ = false;
+    int shownFrame_ = 0;  // 1.., 0: the picture at rest
+    std::array<Button*, kButtonCount> imgClick{};
+    std::unordered_map<int, std::vector<Picture>> frames_;
+    Timer TmrPohyby;
+    Label Label2;
+    frmMenu* menu_ = nullptr;
+};
+
+}  // namespace sarne

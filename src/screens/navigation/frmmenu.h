@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QPointer>
+#include <functional>
+#include <vector>
+
+#include "forms/edit.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/timer.h"
+#include "screens/navigation/menulayout.h"
+#include "screens/navigation/menulevel.h"
+
+namespace sarne {
+
+/// One level of the cascading menu. Each level is an instance of its own that knows its parent and its depth;
+/// the first one is loaded with the main screen and stays loaded.
+class frmMenu : public Form {
+    Q_OBJECT
+  public:
+    /// The first level. \a closed is called when the whole tree closes without an action.
+    frmMenu(basSarne& app, std::function<void()> closed);
+
+    /// Shows the level as it is.
+    void Zobraz();
+    /// Builds and shows the level of \a code beside \a beside, a rectangle on the screen in twips.
+    void unfold(const QString& code, const QRect& beside);
+    /// Closes every level below this one, and this one.
+    void fold();
+
+    int depth() const { return depth_; }
+    frmMenu* child() const { return child_; }
+    const MenuLevel& level() const { return level_; }
+    /// The position of the selected item, counted from 1; 0 when none is.
+    int selected() const { return selected_; }
+    /// What a click on item \a k does: opens its submenu or what it leads to.
+    void choose(int k);
+
+    /// Closes this level; the first one closes the tree.
+    void goBack() override;
+    void help() override;
+
+  protected:
+    void paint(QPainter& painter) override;
+    bool keyDown(QKeyEvent& event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void gotFocus() override;
+
+  private:
+    explicit frmMenu(frmMenu& parent);
+
+    void setUp();
+    void buildLabels();
+    void applyGeometry(const QRect& beside);
+    void select(int k);
+    void moveSelection(int step);
+    void jumpTo(const QString& letter);
+    void openChild(const QString& code, const QRect& beside);
+    void openSelectedSubmenu();
+    void search();
+    void closeTree();
+    QRect labelOnScreen(int k) const;
+    bool hasEntry() const { return level_.code == u"12"; }
+    void hoverItem(int k);
+
+    std::function<void()> closed_;
+    frmMenu* parent_ = nullptr;
+    int depth_ = 0;
+    QPointer<frmMenu> child_;
+    QString childCode_;
+    MenuLevel level_;
+    MenuGeometry geometry_;
+    int selected_ = 0;
+
+    Label lblNadpis;
+    Edit Text1;
+    Timer tmrPodmenu;
+    std::vector<Label*> lblOdkaz;
+};
+
+}  // namespace sarne

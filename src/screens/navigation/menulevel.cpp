@@ -1,0 +1,43 @@
+#include "screens/navigation/menulevel.h"
+
+#include "db/database.h"
+
+namespace sarne {
+namespace {
+
+/// A code that is a number is written in its plain form; any other stays as it is.
+QString plainForm(const QString& code) {
+    bool isNumber = false;
+    const qlonglong number = code.toLongLong(&isNumber);
+    return isNumber ? QString::number(number) : code;
+}
+
+Recordset like(Database& db, const QString& pattern) {
+    return db.OpenQuery(QStringLiteral("SELECT * FROM menu WHERE ID LIKE '") + pattern +
+                        QStringLiteral("' ORDER BY Id"));
+}
+
+Recordset rowsOf(Database& db, const QString& code) {
+    const QString plain = plainForm(code);
+    Recordset children = like(db, plain + u'?');
+    if (!children.AtEnd()) return children;
+    if (code.toDouble() == 0) return like(db, QStringLiteral("0*"));
+    return like(db, plain + u'*');
+}
+
+}  // namespace
+
+MenuLevel MenuLevel::build(Database& db, const QString& code) {
+    MenuLevel level;
+    level.code = code.trimmed();
+    for (Recordset rows = rowsOf(db, level.code); !rows.AtEnd(); rows.MoveNext()) {
+        const QString label = rows.field(QStringLiteral("Label")).toString();
+        if (label.startsWith(u'@'))
+            level.heading = label.mid(1);
+        else
+            level.items.push_back({label, rows.field(QStringLiteral("Odkazy")).toString().trimmed()});
+    }
+    return level;
+}
+
+}  // namespace sarne
