@@ -1,14 +1,15 @@
 #pragma once
 
-#include <QFontMetricsF>
 #include <QHash>
+#include <memory>
 
+#include "richtext/fontface.h"
 #include "richtext/textmetrics.h"
 
 namespace sarne {
 
-/// Measures with the fonts of this machine, one unit to the twip, and remembers each word. Needs a
-/// QGuiApplication. Worth keeping: one object serves all the texts of a screen.
+/// Measures with the fonts of this machine, one unit to the twip. Keeps the fonts it has met; words need no
+/// keeping, because a layout asks for each but once. Needs a QGuiApplication.
 class QtTextMetrics final : public TextMetrics {
   public:
     int textWidth(const TextFont& font, QStringView text) override;
@@ -16,19 +17,11 @@ class QtTextMetrics final : public TextMetrics {
     int textAscent(const TextFont& font) override;
 
   private:
-    struct Face {
-        explicit Face(const TextFont& font) : metrics(font.toQFont()) {}
+    const FontFace& face(const TextFont& font);
 
-        QFontMetricsF metrics;
-        QHash<QString, int> widths;
-    };
-
-    Face& face(const TextFont& font);
-
-    QHash<TextFont, std::shared_ptr<Face>> faces_;
+    QHash<TextFont, std::shared_ptr<FontFace>> faces_;
     TextFont lastFont_;
-    Face* lastFace_ = nullptr;
-    qsizetype rememberedWords_ = 0;
+    const FontFace* lastFace_ = nullptr;
 };
 
 }  // namespace sarne

@@ -25,7 +25,10 @@ class RtfLayouter final : public RtfSink {
         }
     }
 
-    void character(QChar c) override { addVisible(QStringView(&c, 1)); }
+    void character(QChar c) override {
+        layout_.words_.append(c);
+        noteVisible();
+    }
 
     void font(const TextFont& font) override {
         const auto known = fontIndexes_.constFind(font);
@@ -77,6 +80,10 @@ class RtfLayouter final : public RtfSink {
     /// behind it is meant for what follows.
     void addVisible(QStringView part) {
         layout_.words_.append(part);
+        noteVisible();
+    }
+
+    void noteVisible() {
         visibleEnd_ = layout_.words_.size();
         wordFont_ = font_;
         wordColor_ = color_;
@@ -137,9 +144,11 @@ RtfLayout RtfLayout::of(QStringView text, const LayoutArea& area, TextMetrics& m
                         const StopFlag* stop) {
     RtfLayout layout;
     layout.area_ = area;
+    layout.words_.reserve(text.size());
     RtfLayouter layouter(layout, metrics);
     readRichText(text, layouter, markers, stop);
     layouter.finish();
+    layout.words_.squeeze();
     return layout;
 }
 

@@ -1,38 +1,102 @@
 #include "richtext/rtfpainter.h"
 
+#include <QGlyphRun>
+#include <algorithm>
+
+#include "richtext/fontface.h"
+
 namespace sarne {
 namespace {
 
-/// Sets a painter's font and pen only where they change from one box to the next.
+/// Paints words: gathers those of one font and colour, wherever they stand, and paints their glyphs together.
 class BoxPainter {
   public:
     BoxPainter(QPainter& painter, const RtfLayout& layout, const LinkHighlight& highlight)
-        : painter_(painter), layout_(layout), highlight_(highlight) {}
+        : painter_(painter), layout_(layout), highlight_(highlight), faces_(layout.fonts().size()) {}
 
-    void paint(const WordBox& box) {
-        const bool underlined = highlight_.contains(box.link);
-        if (box.font != font_ || underlined != underlined_) setFont(box.font, underlined);
-        const QColor color = layout_.color(box);
-        if (color != color_) painter_.setPen(color_ = color);
-        const QStringView text = layout_.text(box);
-        painter_.drawText(QPointF(box.x, box.baseline), QString::fromRawData(text.data(), text.size()));
+    void paintLine(const TextLine& line) {
+        const WordBox* previous = nullptr;
+        for (qsizetype i = 0; i < line.boxCount; ++i) {
+            const WordBox& box = layout_.boxes()[line.firstBox + i];
+            paint(box);
+            if (isUnderlined(box)) underline(box, previous);
+            previous = &box;
+        }
+    }
+
+    void finish() {
+        for (Batch& batch : batches_) paint(batch);
+        batches_.clear();
+        current_ = kNone;
     }
 
   private:
-    void setFont(int font, bool underlined) {
-        font_ = font;
-        underlined_ = underlined;
-        QFont face = layout_.fonts()[font].toQFont();
-        if (underlined) face.setUnderline(true);
-        painter_.setFont(face);
+    struct Batch {
+        int font = 0;
+        QRgb color = 0;
+        PlacedGlyphs glyphs;
+    };
+    static constexpr size_t kNone = ~size_t(0);
+
+    const FontFace& face(int font) {
+        if (!faces_[font]) faces_[font].emplace(layout_.fonts()[font]);
+        return *faces_[font];
     }
+
+    void paint(const WordBox& box) {
+        const QPointF origin(box.x, box.baseline);
+        const QRgb color = layout_.color(box).rgb();
+        const FontFace& face = this->face(box.font);
+        if (face.place(layout_.text(box), origin, batch(box.font, color).glyphs)) return;
+        QFont font = face.font();
+        font.setUnderline(false);
+        painter_.setFont(font);
+        painter_.setPen(QColor(color));
+        painter_.drawText(origin, layout_.text(box).toString());
+    }
+
+    Batch& batch(int font, QRgb color) {
+        const auto fits = [&](const Batch& batch) { return batch.font == font && batch.color == color; };
+        if (current_ != kNone && fits(batches_[current_])) return batches_[current_];
+        constexpr size_t kMostBatches = 32;
+        if (batches_.size() >= kMostBatches) finish();
+        const auto found = std::find_if(batches_.begin(), batches_.end(), fits);
+        current_ = found - batches_.begin();
+        return found != batches_.end() ? *found : batches_.emplace_back(Batch{font, color, {}});
+    }
+
+    void paint(const Batch& batch) {
+        QGlyphRun run;
+        run.setRawFont(face(batch.font).rawFont());
+        run.setRawData(batch.glyphs.indexes.data(), batch.glyphs.positions.data(),
+                       static_cast<int>(batch.glyphs.indexes.size()));
+        painter_.setPen(QColor(batch.color));
+        painter_.drawGlyphRun({}, run);
+    }
+
+    bool isUnderlined(const WordBox& box) const {
+        return highlight_.contains(box.link) || layout_.fonts()[box.font].underline;
+    }
+
+    /// The stroke below a word; between words that belong together it runs on over the gap.
+    void underline(const WordBox& box, const WordBox* previous) {
+        const bool joined = previous && isUnderlined(*previous) && previous->link == box.link;
+        const int left = joined ? previous->x + previous->width : box.x;
+        const QRawFont& font = face(box.font).rawFont();
+        const qreal thickness = qMax(font.lineThickness(), kThinnestStroke);
+        const QRectF stroke(left, box.baseline + font.underlinePosition() - thickness / 2,
+                            box.x + box.width - left, thickness);
+        painter_.fillRect(stroke, layout_.color(box));
+    }
+
+    static constexpr qreal kThinnestStroke = 10;
 
     QPainter& painter_;
     const RtfLayout& layout_;
     const LinkHighlight& highlight_;
-    int font_ = -1;
-    bool underlined_ = false;
-    QColor color_;
+    std::vector<std::optional<FontFace>> faces_;
+    std::vector<Batch> batches_;
+    size_t current_ = kNone;
 };
 
 }  // namespace
@@ -41,10 +105,8 @@ void paintLayout(QPainter& painter, const RtfLayout& layout, const QRect& visibl
                  const LinkHighlight& highlight) {
     const RtfLayout::LineRange range = layout.linesBetween(visible.top(), visible.top() + visible.height());
     BoxPainter boxes(painter, layout, highlight);
-    for (qsizetype line = range.first; line < range.end; ++line) {
-        const TextLine& textLine = layout.lines()[line];
-        for (qsizetype i = 0; i < textLine.boxCount; ++i) boxes.paint(layout.boxes()[textLine.firstBox + i]);
-    }
+    for (qsizetype line = range.first; line < range.end; ++line) boxes.paintLine(layout.lines()[line]);
+    boxes.finish();
 }
 
 void drawLine(Surface& surface, const RtfLayout& layout, qsizetype line, QPoint offset,

@@ -1,10 +1,22 @@
 #include "richtext/surface.h"
 
 namespace sarne {
+namespace {
+
+/// Older editors name a face together with the letters it was cut for: "Arial CE" is today's "Arial".
+QString familyName(const QString& name) {
+    for (const QLatin1String region : {QLatin1String(" CE"), QLatin1String(" Cyr"), QLatin1String(" Greek"),
+                                       QLatin1String(" Tur"), QLatin1String(" Baltic")}) {
+        if (name.endsWith(region, Qt::CaseInsensitive)) return name.chopped(region.size());
+    }
+    return name;
+}
+
+}  // namespace
 
 QFont TextFont::toQFont() const {
     constexpr double kTwipsPerPoint = 20;
-    QFont font(name);
+    QFont font(familyName(name));
     font.setPixelSize(qMax(1, qRound(size * kTwipsPerPoint)));
     font.setBold(bold);
     font.setItalic(italic);

@@ -6,7 +6,7 @@
 namespace sarne {
 
 void WordWidths::grow() {
-    constexpr size_t kFirstSize = 256;
+    constexpr size_t kFirstSize = 1024;
     std::vector<Slot> old(std::max(kFirstSize, 2 * slots_.size()));
     std::swap(old, slots_);
     for (const Slot& slot : old) {
