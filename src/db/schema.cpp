@@ -35,6 +35,17 @@ QStringList ingredientRows() {
                                     "ID_Jdnlzice INTEGER, MnozstviLzice REAL, ID_nahrSur INTEGER"));
 }
 
+/// The picture galleries: pictures by their file's number, and areas in thousandths of their picture.
+QStringList galleries() {
+    const QString name = QStringLiteral("Nazev") + kText;
+    const QString text = QStringLiteral("Text") + kText;
+    return {named(QStringLiteral("Sponzor"), {QStringLiteral("Tema INTEGER NOT NULL"), name, text}),
+            named(QStringLiteral("PlochySponzoru"),
+                  {QStringLiteral("ID_Sponzoru INTEGER NOT NULL"),
+                   QStringLiteral("X INTEGER, Y INTEGER, Sirka INTEGER, Vyska INTEGER"), name, text,
+                   QStringLiteral("Odkaz") + kText})};
+}
+
 }  // namespace
 
 QStringList recipeSchema() {
@@ -53,7 +64,15 @@ QStringList recipeSchema() {
         all << named(QLatin1String(table), {name, QStringLiteral("Recept INTEGER")});
     all << named(QStringLiteral("IndexHesla"), {QStringLiteral("nazvy") + kText, text});
     all << named(QStringLiteral("Nastav"), {name, QStringLiteral("hodnota INTEGER NOT NULL DEFAULT 0")});
-    all << named(QStringLiteral("Stranky"), {name, text});
+    // Pages of text; Obrazovka is the form whose help a page is, empty for the others.
+    all << named(QStringLiteral("Stranky"), {name, text, QStringLiteral("Obrazovka") + kText});
+    // Tables to look things up in: headings and cells are parted by tabs. A row may open a keyword, 0 = none.
+    all << named(QStringLiteral("Tabulky"),
+                 {name, QStringLiteral("Sloupce") + kText, QStringLiteral("Poznamka") + kText});
+    all << named(QStringLiteral("RadkyTabulek"),
+                 {QStringLiteral("ID_Tabulky INTEGER NOT NULL"), QStringLiteral("ID_Hesla INTEGER"),
+                  QStringLiteral("Bunky") + kText});
+    all << galleries();
     return all;
 }
 
@@ -63,9 +82,10 @@ QStringList pictureSchema() {
 
 QStringList recipeTables() {
     QStringList tables;
-    for (const char* table : {"Recepty", "SpojSur", "Suroviny", "Upresneni", "Jednotky", "Pomucky",
-                              "SpojPomucky", "Odkazy", "SpojOdkazy", "Vino", "SpojVino", "Menu",
-                              "RychleRecepty", "Help", "IndexHesla", "Nastav", "Stranky"})
+    for (const char* table : {"Recepty",       "SpojSur", "Suroviny",      "Upresneni", "Jednotky", "Pomucky",
+                              "SpojPomucky",   "Odkazy",  "SpojOdkazy",    "Vino",      "SpojVino", "Menu",
+                              "RychleRecepty", "Help",    "IndexHesla",    "Nastav",    "Stranky",  "Tabulky",
+                              "RadkyTabulek",  "Sponzor", "PlochySponzoru"})
         tables << QLatin1String(table);
     return tables;
 }
