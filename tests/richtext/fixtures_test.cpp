@@ -36,7 +36,7 @@ TEST_P(Fixtures, LookAsReviewed) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Editors, Fixtures, testing::Values("wordpad", "office", "writer"),
-                         [](const auto& info) { return std::string(info.param); });
+                         [](const auto& test) { return std::string(test.param); });
 
 }  // namespace
 }  // namespace sarne

@@ -1,0 +1,52 @@
+#include <QApplication>
+#include <QStandardPaths>
+
+#include "app/program.h"
+#include "platform/mpvcontrol.h"
+#include "platform/singleinstance.h"
+
+namespace {
+
+QString commandLine(const QApplication& application) {
+    return application.arguments().mid(1).join(u' ');
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using namespace sarne;
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Velisa sarn"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    const SingleInstance instance;
+    if (!instance.isFirst()) return 0;
+
+    const SystemSettingsStore settings;
+    const SteadyClock clock;
+    MixerEffectPlayer effects;
+    ToneBeeper beeper(effects);
+    MpvControl music;
+    music.setWait(MediaWait::DontWait);
+    music.setLoop(MediaLoop::On);
+    SystemDisplayModes display;
+    DesktopSleepInhibitor sleep;
+    const PlatformParts platform{
+        settings,
+        clock,
+        effects,
+        beeper,
+        music,
+        display,
+        sleep,
+        [] { return std::make_unique<MpvControl>(); },
+        [](QObject& window) { return std::make_unique<AccessibleAnnouncer>(&window); }};
+
+    Program program(platform, {QApplication::applicationDirPath(),
+                               QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                                   QStringLiteral("/velisa-sarn")});
+    program.stage().setWindowTitle(QStringLiteral("Velisa sarn"));
+    program.stage().showFullScreen();
+    if (!program.Main(commandLine(application)) || program.hasEnded()) return 0;
+    return QApplication::exec();
+}

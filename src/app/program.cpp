@@ -1,0 +1,146 @@
+#include "app/program.h"
+
+#include <QFileInfo>
+
+#include "app/frmsplash.h"
+#include "db/installation.h"
+#include "dialogs/frmdialog.h"
+#include "dialogs/frmmessage.h"
+#include "platform/drives.h"
+#include "screens/navigation/frmhlavni.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kYes = 6;
+constexpr int kQuestion = 36;
+
+bool isFolder(const QString& path) {
+    return !path.isEmpty() && QFileInfo(path).isDir();
+}
+
+}  // namespace
+
+bool isShowSwitch(const QString& commandLine) {
+    return commandLine == u"s" || commandLine == u"/s" || commandLine == u"-s";
+}
+
+Program::Program(const PlatformParts& platform, Folders folders)
+    : platform_(platform), folders_(std::move(folders)), stage_(std::make_unique<Stage>()), screens_(*this) {
+    if (platform_.makeAnnouncer) announcer_ = platform_.makeAnnouncer(*stage_);
+    connect(stage_.get(), &Stage::closeRequested, this, [this] {
+        if (Form* form = stage_->modalForm() ? stage_->modalForm() : FormStack.top()) form->closeRequested();
+    });
+}
+
+Program::~Program() {
+    stage_.reset();  // the forms go first: they use the rest
+}
+
+bool Program::Main(const QString& commandLine) {
+    AppDir = LogicalPaths::fromNativeFolder(folders_.program);
+    resources_.load(paths().resolve(AppDir + QStringLiteral("Sarne.rcc")));
+    findMediaRoot();
+    ShowMode = isShowSwitch(commandLine);
+    openDatabase();
+
+    auto* splash = new frmSplash(*this);
+    const bool goesOn = splash->Zobraz();
+    if (goesOn) screens_.showMain();
+    splash->unload();
+    if (!goesOn) return false;
+    mainScreen()->showForm();
+    return true;
+}
+
+QString Program::ReadAppPathValue(const QString& name) const {
+    return readAppPathValue(platform_.settings, name);
+}
+
+void Program::findMediaRoot() {
+    paths_ = LogicalPaths(driveLetters(platform_.settings, removableVolumes()));
+    QString root = ReadAppPathValue(QStringLiteral("CDPath"));
+    root = root.isEmpty() ? root : withTrailingBackslash(root.replace(u'/', u'\\'));
+    if (isFolder(paths().resolve(root))) {
+        MediaRoot = root;
+        return;
+    }
+    const QString answer =
+        askText(*this, QStringLiteral("Nepodařilo se jednoznačně identifikovat Vaší CD-ROM mechaniku\r\n"
+                                      "Zadejte pismeno, které ji označuje:"));
+    MediaRoot = answer.left(1) + QStringLiteral(":\\");
+}
+
+void Program::openDatabase() {
+    const QString shipped = folders_.program + QStringLiteral("/Sarne.drc");
+    db_.Open(usableRecipeDatabase(shipped, folders_.userData + QStringLiteral("/Sarne.drc")));
+    // Search results live in the menu's table; they are nothing to keep, and no full disk shall spoil a
+    // search.
+    db_.keepInMemory(QStringLiteral("Menu"));
+}
+
+frmMessage& Program::messageForm() {
+    for (Form* form : stage_->forms()) {
+        if (auto* message = qobject_cast<frmMessage*>(form); message && !message->isVisible())
+            return *message;
+    }
+    return *new frmMessage(*this);
+}
+
+int Program::ask(const QString& text, int style, int closeCode) {
+    return messageForm().ask(text, style, 0, closeCode);
+}
+
+int Program::ZobrazZpravu(const QString& text, int style, int silent) {
+    return messageForm().ask(text, style, silent);
+}
+
+void Program::Beep() {
+    platform_.beeper.beep();
+}
+
+void Program::HookMessage(const QString& text) {
+    if (announcer_) announcer_->announce(text);
+}
+
+void Program::keepAwake(const QString& reason) {
+    reason.isEmpty() ? platform_.sleep.release() : platform_.sleep.inhibit(reason);
+}
+
+void Program::ConfirmExit() {
+    if (ended_ || ZobrazZpravu(QStringLiteral("Chcete ukončit program?  "), kQuestion) != kYes) return;
+    endProgram();
+}
+
+void Program::unloadForms(const QStringList& names) {
+    for (Form* form : stage_->forms()) {
+        if (names.contains(form->name())) form->unload();
+    }
+}
+
+void Program::endProgram() {
+    ended_ = true;
+    music().setNotify(MediaNotify::Off);
+    music().command(u"stop");
+    music().command(u"close");
+    unloadForms({QStringLiteral("frmSeznam"), QStringLiteral("frmTabulky")});
+    auto* splash = new frmSplash(*this);
+    splash->setCaption(QStringLiteral("Ukončení progamu"));
+    splash->Konec();
+    for (Form* form : stage_->forms()) form->unload();
+    db_.Close();
+    StopEffect();
+    keepAwake({});
+    restoreDisplay();
+    stage_->hide();
+    QCoreApplication::quit();
+}
+
+void Program::restoreDisplay() {
+    if (SavedDisplayMode.isEmpty()) return;
+    const qsizetype comma = SavedDisplayMode.indexOf(u',');
+    platform_.display.setMode(
+        {SavedDisplayMode.left(comma).toInt(), SavedDisplayMode.mid(comma + 1).toInt()});
+}
+
+}  // namespace sarne

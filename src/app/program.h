@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <memory>
+
+#include "app/platformparts.h"
+#include "app/programscreens.h"
+#include "db/database.h"
+#include "forms/bassarne.h"
+#include "forms/resources.h"
+#include "forms/stage.h"
+
+namespace sarne {
+
+class frmMessage;
+class frmSplash;
+
+/// One run of the program: its state, its services, its start and its end.
+class Program final : public QObject, public basSarne {
+    Q_OBJECT
+  public:
+    Program(const PlatformParts& platform, Folders folders);
+    ~Program() override;
+
+    /// Starts: finds its folders, opens the database, runs the splash, shows the main screen. \a commandLine
+    /// is everything behind the program's name. False when the user has declined to go on.
+    bool Main(const QString& commandLine);
+
+    /// Whether the user has ended the program.
+    bool hasEnded() const { return ended_; }
+    frmHlavni* mainScreen() const { return screens_.mainScreen(); }
+    const PlatformParts& platform() const { return platform_; }
+
+    Stage& stage() override { return *stage_; }
+    Resources& resources() override { return resources_; }
+    Database& Db() override { return db_; }
+    Screens& screens() override { return screens_; }
+    const Clock& clock() override { return platform_.clock; }
+    EffectPlayer& effects() override { return platform_.effects; }
+    MultimediaControl& music() override { return platform_.music; }
+
+    void ConfirmExit() override;
+    int ZobrazZpravu(const QString& text, int style, int silent = 0) override;
+    /// As ZobrazZpravu, for a question that closing the window answers with \a closeCode.
+    int ask(const QString& text, int style, int closeCode);
+    void Beep() override;
+    void HookMessage(const QString& text) override;
+    void keepAwake(const QString& reason) override;
+
+  private:
+    void findMediaRoot();
+    QString ReadAppPathValue(const QString& name) const;
+    void openDatabase();
+    void endProgram();
+    void unloadForms(const QStringList& names);
+    void restoreDisplay();
+    frmMessage& messageForm();
+
+    PlatformParts platform_;
+    Folders folders_;
+    Resources resources_;
+    Database db_;
+    std::unique_ptr<Stage> stage_;
+    ProgramScreens screens_;
+    std::unique_ptr<Announcer> announcer_;
+    bool ended_ = false;
+};
+
+/// Whether \a commandLine is the switch that turns the show mode on.
+bool isShowSwitch(const QString& commandLine);
+
+}  // namespace sarne

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "forms/screens.h"
+
+namespace sarne {
+
+class frmHlavni;
+class Program;
+
+/// Builds the screens that others ask for.
+class ProgramScreens final : public Screens {
+  public:
+    explicit ProgramScreens(Program& program) : program_(program) {}
+
+    /// Makes and shows the main screen. Called once.
+    void showMain();
+    frmHlavni* mainScreen() const { return main_; }
+
+    void showList(const QString& ids, const QString& source) override;
+    void showRecipe(std::int16_t id) override;
+    void showGrid() override;
+    void showPhotos(const PhotoRequest& request) override;
+    void showVideo(std::int16_t number) override;
+    void showMusicSettings() override;
+    void showPage(const QString& id) override;
+    void showHelpFor(const QString& formName) override;
+    void showTables(std::int16_t item) override;
+    void showIndex(std::int16_t keyword) override;
+    void showSponsor(std::int16_t topic, const QString& text) override;
+    void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) override;
+    void printRecipes(const std::vector<std::int16_t>& ids) override;
+    void returnToMain() override;
+
+  private:
+    Program& program_;
+    frmHlavni* main_ = nullptr;
+};
+
+}  // namespace sarne
