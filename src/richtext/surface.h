@@ -21,6 +21,8 @@ struct TextFont {
     QFont toQFont() const;
 };
 
+size_t qHash(const TextFont& font, size_t seed = 0);
+
 /// What text is drawn on: a picture box, a printer page, a test double. Lengths are twips from the surface's
 /// upper left corner; the current position is where print() writes next.
 class Surface {
@@ -42,6 +44,9 @@ class Surface {
     /// The width and height that \a text takes in the current font.
     virtual int textWidth(const QString& text) const = 0;
     virtual int textHeight(const QString& text) const = 0;
+    /// How far the current font's baseline lies below the top of its line. A surface that knows its font
+    /// exactly says so; otherwise four fifths of the line, where the faces used here have it.
+    virtual int textAscent() const { return textHeight(QStringLiteral("T")) * 4 / 5; }
 
     /// Writes \a text with its upper left corner at the current position; then the position is at the start
     /// (X 0) of the next line.

@@ -13,4 +13,9 @@ QFont TextFont::toQFont() const {
     return font;
 }
 
+size_t qHash(const TextFont& font, size_t seed) {
+    const int style = font.bold | font.italic << 1 | font.underline << 2;
+    return qHashMulti(seed, font.name, font.size, style, font.charset);
+}
+
 }  // namespace sarne

@@ -1,0 +1,146 @@
+#include <QHash>
+
+#include "richtext/linebuilder.h"
+#include "richtext/rtflayout.h"
+
+namespace sarne {
+
+/// Gathers what is read into words and hands them to the lines. A link phrase is one word, blanks and all.
+class RtfLayouter final : public RtfSink {
+  public:
+    RtfLayouter(RtfLayout& layout, TextMetrics& metrics)
+        : layout_(layout),
+          lines_({layout.words_, layout.fonts_, layout.boxes_, layout.lines_}, layout.area_, metrics) {
+        font(TextFont());
+    }
+
+    void text(QStringView run) override {
+        while (!run.isEmpty()) {
+            const qsizetype blank = run.indexOf(u' ');
+            if (blank != 0) addVisible(blank < 0 ? run : run.left(blank));
+            if (blank < 0) return;
+            addBlank();
+            endWord();
+            run = run.mid(blank + 1);
+        }
+    }
+
+    void character(QChar c) override { addVisible(QStringView(&c, 1)); }
+
+    void font(const TextFont& font) override {
+        const auto known = fontIndexes_.constFind(font);
+        if (known != fontIndexes_.constEnd()) {
+            font_ = *known;
+            return;
+        }
+        font_ = static_cast<int>(layout_.fonts_.size());
+        layout_.fonts_.push_back(font);
+        fontIndexes_.insert(font, font_);
+    }
+
+    void color(QRgb rgb) override { color_ = rgb; }
+
+    void openLink(const LinkKey& key) override {
+        if (link_ == Link::Closed) storeWord();  // two phrases without a blank between them
+        link_ = Link::Open;
+        key_ = key;
+        linkIndex_ = kPlain;
+    }
+
+    void closeLink() override { link_ = Link::Closed; }
+
+    void endPara() override {
+        storeWord();
+        lines_.endParagraph(font_);
+    }
+
+    void tab() override {
+        if (link_ == Link::Open) return addBlank();
+        storeWord();
+        lines_.tab();
+    }
+
+    void tabStop(int twips) override { lines_.addTabStop(twips); }
+    void clearTabStops() override { lines_.clearTabStops(); }
+    void defaultTabWidth(int twips) override { lines_.setDefaultTabWidth(twips); }
+
+    void finish() {
+        storeWord();
+        lines_.finish();
+    }
+
+  private:
+    enum class Link { None, Open, Closed };
+    static constexpr int kPlain = -1;
+
+    /// A word is drawn in the font and colour of its last character: a change between that and the blank
+    /// behind it is meant for what follows.
+    void addVisible(QStringView part) {
+        layout_.words_.append(part);
+        visibleEnd_ = layout_.words_.size();
+        wordFont_ = font_;
+        wordColor_ = color_;
+    }
+
+    void addBlank() { layout_.words_.append(u' '); }
+
+    void endWord() {
+        if (link_ != Link::Open) storeWord();
+    }
+
+    /// Hands over the word as it stands. A phrase that is still open goes on with its next word.
+    void storeWord() {
+        const qsizetype end = layout_.words_.size();
+        if (end != wordStart_) placeWord(end);
+        wordStart_ = visibleEnd_ = end;
+        if (link_ == Link::Closed) link_ = Link::None;
+    }
+
+    void placeWord(qsizetype end) {
+        const bool visible = visibleEnd_ > wordStart_;
+        WordBox word;
+        word.textStart = wordStart_;
+        word.textLength = visible ? visibleEnd_ - wordStart_ : 0;
+        word.blanks = static_cast<int>(end - wordStart_ - word.textLength);
+        word.font = visible ? wordFont_ : font_;
+        word.color = wordColor_;
+        if (visible && link_ != Link::None) word.link = linkOfNextBox();
+        lines_.addWord(word);
+    }
+
+    int linkOfNextBox() {
+        if (linkIndex_ == kPlain) {
+            linkIndex_ = static_cast<int>(layout_.links_.size());
+            layout_.links_.push_back({key_, static_cast<qsizetype>(layout_.boxes_.size()), 0});
+        }
+        ++layout_.links_[linkIndex_].boxCount;
+        return linkIndex_;
+    }
+
+    RtfLayout& layout_;
+    LineBuilder lines_;
+    QHash<TextFont, int> fontIndexes_;
+    int font_ = 0;
+    QRgb color_ = qRgb(0, 0, 0);
+
+    qsizetype wordStart_ = 0;   // in layout_.words_
+    qsizetype visibleEnd_ = 0;  // behind the word's last character that is no blank
+    int wordFont_ = 0;
+    QRgb wordColor_ = color_;
+
+    Link link_ = Link::None;
+    LinkKey key_;
+    int linkIndex_ = kPlain;
+};
+
+RtfLayout RtfLayout::of(QStringView text, const LayoutArea& area, TextMetrics& metrics, LinkMarkers markers,
+                        const StopFlag* stop) {
+    RtfLayout layout;
+    layout.area_ = area;
+    RtfLayouter layouter(layout, metrics);
+    readRichText(text, layouter, markers, stop);
+    layouter.finish();
+    return layout;
+}
+
+}  // namespace sarne
