@@ -12,6 +12,14 @@ class AccessibleControl final : public QAccessibleWidget {
     explicit AccessibleControl(Control* control)
         : QAccessibleWidget(control, control->role()), control_(control) {}
 
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? control_->accessibleValue() : QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        control_->addAccessibleState(state);
+        return state;
+    }
     QStringList actionNames() const override {
         return role() == QAccessible::StaticText ? QStringList() : QStringList{pressAction()};
     }

@@ -18,6 +18,9 @@ class Control : public TwipWidget {
 
     Form& form() const { return form_; }
     virtual QAccessible::Role role() const { return QAccessible::StaticText; }
+    /// What a screen reader says beside the name: the current entry, how far a bar is.
+    virtual QString accessibleValue() const { return {}; }
+    virtual void addAccessibleState(QAccessible::State&) const {}
 
     /// A tooltip that is also the control's name for a screen reader.
     void setTip(const QString& tip);
