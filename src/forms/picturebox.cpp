@@ -23,6 +23,7 @@ void PictureBox::Cls() {
     contentHeight_ = x_ = y_ = 0;
     scrollTo(0);
     update();
+    contentChanged();
 }
 
 void PictureBox::setPicture(const Picture& picture, Fit fit) {
@@ -60,6 +61,7 @@ void PictureBox::scrollTo(int y) {
 void PictureBox::grow(int bottom) {
     contentHeight_ = std::max(contentHeight_, bottom);
     update();
+    contentChanged();
 }
 
 int PictureBox::textWidth(const QString& text) const {
@@ -70,9 +72,13 @@ int PictureBox::textHeight(const QString&) const {
     return static_cast<int>(std::lround(QFontMetricsF(font_.toQFont()).height()));
 }
 
+int PictureBox::textAscent() const {
+    return static_cast<int>(std::lround(QFontMetricsF(font_.toQFont()).ascent()));
+}
+
 void PictureBox::print(const QString& text) {
     const int height = textHeight(text);
-    textOut(x_, y_ + static_cast<int>(std::lround(QFontMetricsF(font_.toQFont()).ascent())), text);
+    textOut(x_, y_ + textAscent(), text);
     x_ = 0;
     y_ += height;
     grow(y_);

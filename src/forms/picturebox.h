@@ -21,13 +21,13 @@ class PictureBox : public Control, public Surface {
     PictureBox(Form& form, const QString& name);
 
     /// Forgets everything drawn and goes back to the upper left corner and the top.
-    void Cls();
+    virtual void Cls();
     void setPicture(const Picture& picture, Fit fit = Fit::Inside);
     void drawPicture(const Picture& picture, const QRect& place, Fit fit = Fit::Inside);
     /// Adds content that paints itself, \a height twips tall.
     void addPainted(Painter painter, int height);
     /// The texts drawn since Cls(), top to bottom, one a line; for tests and for a screen reader.
-    QString drawnText() const;
+    virtual QString drawnText() const;
 
     int contentHeight() const { return contentHeight_; }
     int scrolled() const { return scrolled_; }
@@ -47,6 +47,7 @@ class PictureBox : public Control, public Surface {
     void setForeColor(const QColor& color) override { color_ = color; }
     int textWidth(const QString& text) const override;
     int textHeight(const QString& text) const override;
+    int textAscent() const override;
     void print(const QString& text) override;
     void textOut(int x, int baseline, const QString& text) override;
 
@@ -56,6 +57,9 @@ class PictureBox : public Control, public Surface {
   protected:
     void paint(QPainter& painter) override;
     void wheelEvent(QWheelEvent* event) override;
+
+    /// Called after content was added or cleared.
+    virtual void contentChanged() {}
 
   private:
     struct Text {

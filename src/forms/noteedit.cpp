@@ -1,0 +1,141 @@
+#include "forms/noteedit.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+
+#include "forms/colors.h"
+#include "forms/form.h"
+
+namespace sarne {
+namespace {
+
+QString editorStyle(double scale) {
+    const int unit = qMax(1, qRound(15 * scale));
+    return QStringLiteral(
+               "QPlainTextEdit{background:%1;color:%2;border:%5px solid %3;border-radius:%6px;"
+               "padding:%7px;selection-background-color:%4;selection-color:%1}"
+               "QScrollBar:vertical{background:%1;width:%8px;margin:0}"
+               "QScrollBar::handle:vertical{background:%3;border-radius:%6px;min-height:%9px}"
+               "QScrollBar::add-line,QScrollBar::sub-line{height:0}"
+               "QScrollBar::add-page,QScrollBar::sub-page{background:none}"
+               "QMenu{background:%1;color:%2;border:%5px solid %3}"
+               "QMenu::item{padding:%7px %8px}"
+               "QMenu::item:selected{background:%4;color:%1}QMenu::item:disabled{color:%3}")
+        .arg(colors::kPaper.name(), colors::kInk.name(), colors::kCopper.name(), colors::kSelected.name())
+        .arg(unit * 2)
+        .arg(unit * 5)
+        .arg(unit * 8)
+        .arg(unit * 18)
+        .arg(unit * 40);
+}
+
+}  // namespace
+
+NoteEdit::NoteEdit(Form& form, const QString& name) : Control(form, name), editor_(new QPlainTextEdit(this)) {
+    editor_->setObjectName(name + QStringLiteral(".text"));
+    editor_->setTabChangesFocus(false);
+    editor_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    editor_->installEventFilter(this);
+    editor_->viewport()->installEventFilter(this);
+    setFocusPolicy(Qt::StrongFocus);
+    setFocusProxy(editor_);
+    editor_->show();
+    connect(editor_, &QPlainTextEdit::textChanged, this, &NoteEdit::edited);
+}
+
+QString NoteEdit::text() const {
+    return editor_->toPlainText().remove(QChar::Null);
+}
+
+void NoteEdit::setText(const QString& text) {
+    const QSignalBlocker silent(editor_);
+    editor_->setPlainText(text);
+}
+
+void NoteEdit::setFont(const TextFont& font) {
+    font_ = font;
+    rescale();
+}
+
+void NoteEdit::focusAtEnd() {
+    editor_->moveCursor(QTextCursor::End);
+    editor_->setFocus();
+}
+
+bool NoteEdit::hasInput() const {
+    return editor_->hasFocus();
+}
+
+void NoteEdit::rescale() {
+    Control::rescale();
+    editor_->setGeometry(rect());
+    // The editor lays its text out in pixels, so its font is scaled by hand.
+    QFont font = font_.toQFont();
+    font.setPixelSize(qMax(8, qRound(font_.size * 20 * scale())));
+    editor_->setStyleSheet(editorStyle(scale()));
+    editor_->setFont(font);
+    editor_->setCursorWidth(qMax(1, qRound(20 * scale())));
+}
+
+bool NoteEdit::keyForForm(QEvent* event) {
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    switch (key.key()) {
+        case Qt::Key_Escape:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+        case Qt::Key_F1:
+        case Qt::Key_F4:
+            return true;
+        default:
+            // AltGr types letters; Alt alone is a command.
+            return key.modifiers() == Qt::AltModifier;
+    }
+}
+
+bool NoteEdit::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ContextMenu) {
+        showMenu(static_cast<QContextMenuEvent*>(event)->globalPos());
+        return true;
+    }
+    if (watched == editor_ && event->type() == QEvent::KeyPress) {
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        if (keyForForm(event)) {
+            QCoreApplication::sendEvent(&form(), event);
+            return true;
+        }
+        if (key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier) {
+            editor_->redo();
+            return true;
+        }
+    }
+    return Control::eventFilter(watched, event);
+}
+
+void NoteEdit::showMenu(QPoint global) {
+    QMenu menu(editor_);
+    const QTextDocument& document = *editor_->document();
+    const bool selected = editor_->textCursor().hasSelection();
+    const auto add = [&](const char* caption, bool enabled, void (QPlainTextEdit::*action)()) {
+        menu.addAction(QString::fromUtf8(caption), editor_, action)->setEnabled(enabled);
+    };
+    add("Zpět\tCtrl+Z", document.isUndoAvailable(), &QPlainTextEdit::undo);
+    add("Znovu\tCtrl+Y", document.isRedoAvailable(), &QPlainTextEdit::redo);
+    menu.addSeparator();
+    add("Vyjmout\tCtrl+X", selected, &QPlainTextEdit::cut);
+    add("Kopírovat\tCtrl+C", selected, &QPlainTextEdit::copy);
+    add("Vložit\tCtrl+V", editor_->canPaste(), &QPlainTextEdit::paste);
+    menu.addSeparator();
+    add("Vybrat vše\tCtrl+A", !document.isEmpty(), &QPlainTextEdit::selectAll);
+    menu.exec(global);
+}
+
+void NoteEdit::focusInEvent(QFocusEvent*) {
+    editor_->setFocus();
+}
+
+}  // namespace sarne

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "forms/control.h"
+#include "richtext/surface.h"
+
+class QPlainTextEdit;
+
+namespace sarne {
+
+/// An editor for a text of any length and many lines: plain text, with undo and redo, the clipboard and a
+/// scroll bar. Escape, Tab, function keys and Alt combinations go to the form; all others are typed.
+class NoteEdit : public Control {
+    Q_OBJECT
+  public:
+    NoteEdit(Form& form, const QString& name);
+
+    QAccessible::Role role() const override { return QAccessible::Client; }
+    /// The text, its lines ended by "\n".
+    QString text() const;
+    /// Replaces the text without reporting a change; what came before cannot be brought back by undo.
+    void setText(const QString& text);
+    void setFont(const TextFont& font);
+    /// Gives the editor the keyboard, the cursor behind the last character.
+    void focusAtEnd();
+    bool hasInput() const;
+    QPlainTextEdit& editor() { return *editor_; }
+
+    void rescale() override;
+
+  Q_SIGNALS:
+    /// The user has changed the text.
+    void edited();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+  private:
+    bool keyForForm(QEvent* event);
+    void showMenu(QPoint global);
+
+    QPlainTextEdit* editor_;
+    TextFont font_;
+};
+
+}  // namespace sarne

@@ -1,0 +1,94 @@
+#include "forms/richpieces.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace sarne {
+
+void RichPieces::clear() {
+    pieces_.clear();
+    hovered_.reset();
+    focused_.reset();
+    linkCount_ = 0;
+}
+
+int RichPieces::add(RtfLayout layout) {
+    const int links = static_cast<int>(layout.links().size());
+    pieces_.push_back({std::move(layout), linkCount_});
+    linkCount_ += links;
+    return static_cast<int>(pieces_.size()) - 1;
+}
+
+const RichPieces::Piece* RichPieces::piece(std::optional<int> link) const {
+    if (!link || *link < 0 || *link >= linkCount_) return nullptr;
+    const auto after = std::ranges::upper_bound(pieces_, *link, {}, &Piece::firstLink);
+    return &*std::prev(after);
+}
+
+std::optional<int> RichPieces::linkAt(QPoint point) const {
+    for (const Piece& piece : pieces_) {
+        if (const auto link = piece.layout.linkAt(point)) return piece.firstLink + *link;
+    }
+    return std::nullopt;
+}
+
+std::optional<LinkKey> RichPieces::key(std::optional<int> link) const {
+    const Piece* at = piece(link);
+    if (!at) return std::nullopt;
+    return at->layout.links()[size_t(*link - at->firstLink)].key;
+}
+
+QString RichPieces::linkText(std::optional<int> link) const {
+    const Piece* at = piece(link);
+    if (!at) return {};
+    const LinkPhrase& phrase = at->layout.links()[size_t(*link - at->firstLink)];
+    QStringList words;
+    for (qsizetype box = 0; box < phrase.boxCount; ++box)
+        words << at->layout.text(at->layout.boxes()[size_t(phrase.firstBox + box)]).toString();
+    return words.join(u' ');
+}
+
+QRect RichPieces::linkRect(int link) const {
+    QRect all;
+    if (const Piece* at = piece(link)) {
+        for (const QRect& part : at->layout.linkRects(link - at->firstLink)) all |= part;
+    }
+    return all;
+}
+
+bool RichPieces::setHovered(std::optional<int> link) {
+    return std::exchange(hovered_, link) != link;
+}
+
+bool RichPieces::focusNext(Direction direction) {
+    const int step = direction == Direction::Forward ? 1 : -1;
+    const int start = direction == Direction::Forward ? 0 : linkCount_ - 1;
+    focused_ = focused_ ? *focused_ + step : start;
+    if (!piece(focused_)) focused_.reset();
+    return focused_.has_value();
+}
+
+QString RichPieces::text() const {
+    QStringList lines;
+    for (const Piece& piece : pieces_) {
+        for (const TextLine& line : piece.layout.lines()) {
+            QString words;
+            for (qsizetype i = 0; i < line.boxCount; ++i) {
+                const WordBox& box = piece.layout.boxes()[size_t(line.firstBox + i)];
+                words += piece.layout.text(box).toString() + QString(box.blanks, u' ');
+            }
+            lines << words.trimmed();
+        }
+    }
+    return lines.join(u'\n');
+}
+
+void RichPieces::paint(QPainter& painter, const QRect& visible, int text) const {
+    const Piece& piece = pieces_[size_t(text)];
+    const auto own = [&](std::optional<int> link) -> std::optional<int> {
+        return link ? std::optional(*link - piece.firstLink) : std::nullopt;
+    };
+    paintLayout(painter, piece.layout, visible, {own(hovered_), own(focused_)});
+}
+
+}  // namespace sarne

@@ -1,0 +1,204 @@
+#include "forms/textview.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include "forms/form.h"
+#include "forms/holdrepeat.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kArrowSide = 450;
+constexpr int kArrowGap = 90;
+
+}  // namespace
+
+TextView::TextView(Form& form, const QString& name)
+    : PictureBox(form, name),
+      up_(new Button(form, name + QStringLiteral(".up"))),
+      down_(new Button(form, name + QStringLiteral(".down"))) {
+    setFocusPolicy(Qt::ClickFocus);
+    up_->setFocusPolicy(Qt::NoFocus);
+    down_->setFocusPolicy(Qt::NoFocus);
+    setArrowPictures({}, {});
+    up_->setTip(QStringLiteral("Posunout nahoru"));
+    down_->setTip(QStringLiteral("Posunout dolů"));
+    new HoldRepeat(*up_, [this] { scrollBy(-lineStep_); });
+    new HoldRepeat(*down_, [this] { scrollBy(lineStep_); });
+    connect(this, &PictureBox::scrolledTo, this, &TextView::updateArrows);
+    updateArrows();
+}
+
+TextView::~TextView() {
+    delete up_;
+    delete down_;
+}
+
+void TextView::setArrowPictures(const Picture& up, const Picture& down) {
+    up_->setFace(up);
+    down_->setFace(down);
+    up_->setCaption(up.isNull() ? QStringLiteral("▲") : QString());
+    down_->setCaption(down.isNull() ? QStringLiteral("▼") : QString());
+    up_->setFrame(up.isNull() ? Button::Frame::Raised : Button::Frame::None);
+    down_->setFrame(down.isNull() ? Button::Frame::Raised : Button::Frame::None);
+}
+
+void TextView::Cls() {
+    pieces_.clear();
+    pressed_.reset();
+    unsetCursor();
+    PictureBox::Cls();
+}
+
+void TextView::drawRichText(const QString& text) {
+    if (text.trimmed().isEmpty()) return;
+    const LayoutArea area{currentX(), twips().width() - kRightMargin, currentY()};
+    const int added = pieces_.add(RtfLayout::of(text, area, metrics_));
+    setCurrentY(pieces_.layout(added).bottom());
+    addPainted(
+        [this, added](QPainter& painter, const QRect& visible) { pieces_.paint(painter, visible, added); },
+        currentY());
+}
+
+QString TextView::drawnText() const {
+    const QString printed = PictureBox::drawnText(), rich = pieces_.text();
+    return printed.isEmpty() || rich.isEmpty() ? printed + rich : printed + u'\n' + rich;
+}
+
+bool TextView::focusNextLink(Direction direction) {
+    const bool found = pieces_.focusNext(direction);
+    focusLink(pieces_.focused());
+    return found;
+}
+
+void TextView::focusLink(std::optional<int> link) {
+    pieces_.focus(link);
+    update();
+    if (!link) return;
+    // Scrolls no further than needed; of a phrase taller than the view its beginning shows.
+    const QRect place = pieces_.linkRect(*link);
+    if (place.bottom() >= scrolled() + twips().height()) scrollTo(place.bottom() + 1 - twips().height());
+    if (place.top() < scrolled()) scrollTo(place.top());
+    Q_EMIT linkFocused(pieces_.linkText(link));
+}
+
+bool TextView::pageKey(const QKeyEvent& event) {
+    if (event.modifiers() & ~Qt::KeypadModifier) return false;
+    const int page = std::max(lineStep_, twips().height() - lineStep_);
+    const int before = scrolled();
+    if (event.key() == Qt::Key_PageDown) scrollBy(page);
+    if (event.key() == Qt::Key_PageUp) scrollBy(-page);
+    return scrolled() != before;
+}
+
+bool TextView::keyDown(const QKeyEvent& event) {
+    if (event.modifiers() & ~Qt::KeypadModifier) return false;
+    const int before = scrolled();
+    switch (event.key()) {
+        case Qt::Key_Up:
+            scrollBy(-lineStep_);
+            break;
+        case Qt::Key_Down:
+            scrollBy(lineStep_);
+            break;
+        case Qt::Key_Home:
+            scrollTo(0);
+            break;
+        case Qt::Key_End:
+            scrollTo(contentHeight());
+            break;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            open(pieces_.focused());
+            return pieces_.focused().has_value();
+        default:
+            return pageKey(event);
+    }
+    return scrolled() != before;
+}
+
+void TextView::open(std::optional<int> link) {
+    if (const auto key = pieces_.key(link)) Q_EMIT linkActivated(*key);
+}
+
+void TextView::rescale() {
+    PictureBox::rescale();
+    if (!up_ || !down_) return;
+    const QRect& view = twips();
+    const int left = view.right() + 1 + kArrowGap;
+    up_->place({left, view.top(), kArrowSide, kArrowSide});
+    down_->place({left, view.bottom() + 1 - kArrowSide, kArrowSide, kArrowSide});
+}
+
+void TextView::setVisible(bool visible) {
+    PictureBox::setVisible(visible);
+    updateArrows();
+}
+
+void TextView::updateArrows() {
+    if (!up_ || !down_) return;
+    const bool scrolls = isVisibleTo(parentWidget()) && scrollRange() > 0;
+    up_->setVisible(scrolls);
+    down_->setVisible(scrolls);
+    up_->setEnabled(isEnabled() && scrolled() > 0);
+    down_->setEnabled(isEnabled() && scrolled() < scrollRange());
+}
+
+void TextView::contentChanged() {
+    updateArrows();
+}
+
+void TextView::changeEvent(QEvent* event) {
+    PictureBox::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange) updateArrows();
+}
+
+std::optional<int> TextView::linkAt(QPointF pixels) const {
+    return pieces_.linkAt(toTwips(pixels) + QPoint(0, scrolled()));
+}
+
+void TextView::point(std::optional<int> link) {
+    if (!pieces_.setHovered(link)) return;
+    link ? setCursor(Qt::PointingHandCursor) : unsetCursor();
+    update();
+}
+
+void TextView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) pressed_ = linkAt(event->position());
+    PictureBox::mousePressEvent(event);
+}
+
+void TextView::mouseReleaseEvent(QMouseEvent* event) {
+    const bool link = event->button() == Qt::LeftButton && pressed_ && linkAt(event->position()) == pressed_;
+    const QPointer<TextView> self(this);
+    PictureBox::mouseReleaseEvent(event);
+    if (!self || !link || !isEnabled()) return;
+    pieces_.focus(pressed_);
+    open(pressed_);
+}
+
+void TextView::mouseMoveEvent(QMouseEvent* event) {
+    PictureBox::mouseMoveEvent(event);
+    point(linkAt(event->position()));
+}
+
+void TextView::leaveEvent(QEvent* event) {
+    PictureBox::leaveEvent(event);
+    point({});
+}
+
+void TextView::paint(QPainter& painter) {
+    painter.save();
+    PictureBox::paint(painter);
+    painter.restore();
+    if (!showsFocus()) return;
+    constexpr int kAround = 45;
+    QRect ring({0, 0}, twips().size());
+    if (const auto link = pieces_.focused())
+        ring =
+            pieces_.linkRect(*link).translated(0, -scrolled()).adjusted(-kAround, -kAround, kAround, kAround);
+    paintFocusRing(painter, ring);
+}
+
+}  // namespace sarne

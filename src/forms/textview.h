@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QPointer>
+
+#include "forms/button.h"
+#include "forms/picturebox.h"
+#include "forms/richpieces.h"
+#include "richtext/qttextmetrics.h"
+
+namespace sarne {
+
+/// A drawing surface that also shows rich texts. Their link phrases can be pointed at, clicked, and stepped
+/// through with the keyboard. Content taller than the view scrolls: by the wheel, the keys, and two arrows
+/// that the view puts right of itself; its owner leaves kArrowRoom for them.
+class TextView : public PictureBox {
+    Q_OBJECT
+  public:
+    static constexpr int kArrowRoom = 540;    ///< twips right of the view that the arrows take
+    static constexpr int kRightMargin = 105;  ///< twips between the right limit of texts and the right edge
+    using Direction = RichPieces::Direction;
+
+    TextView(Form& form, const QString& name);
+    ~TextView() override;
+
+    QAccessible::Role role() const override { return QAccessible::Document; }
+
+    void setArrowPictures(const Picture& up, const Picture& down);
+
+    void Cls() override;
+    /// Draws a rich text from the current position on, wrapped before the right edge, and leaves Y below its
+    /// last line. A text of blanks draws nothing.
+    void drawRichText(const QString& text);
+    /// Also what the rich texts say, a line for each of theirs.
+    QString drawnText() const override;
+
+    /// Scrolling by keys and arrows goes line by line of this height (twips).
+    void setLineStep(int twips) { lineStep_ = twips; }
+    const RichPieces& pieces() const { return pieces_; }
+    /// Focuses the next link phrase and brings it into sight. False when there is none any more: the turn of
+    /// the next control.
+    bool focusNextLink(Direction direction);
+    void focusLink(std::optional<int> link);
+    /// Handles the keys of a view that has the keyboard: arrows up and down, Page keys, Home, End, and Enter
+    /// on a focused phrase. False for any other key and for one that changes nothing.
+    bool keyDown(const QKeyEvent& event);
+    /// The Page keys alone, for a form whose view has not got the keyboard.
+    bool pageKey(const QKeyEvent& event);
+
+    void rescale() override;
+    void setVisible(bool visible) override;
+
+  Q_SIGNALS:
+    void linkActivated(sarne::LinkKey key);
+    /// The keyboard has come to a phrase with these words.
+    void linkFocused(const QString& words);
+
+  protected:
+    void paint(QPainter& painter) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void contentChanged() override;
+
+  private:
+    void updateArrows();
+    std::optional<int> linkAt(QPointF pixels) const;
+    void point(std::optional<int> link);
+    void open(std::optional<int> link);
+
+    RichPieces pieces_;
+    QtTextMetrics metrics_;
+    QPointer<Button> up_, down_;  // the form's, and gone with this view
+    std::optional<int> pressed_;
+    int lineStep_ = 280;
+};
+
+}  // namespace sarne

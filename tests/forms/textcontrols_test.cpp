@@ -1,0 +1,232 @@
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QMenu>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextBlock>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include "forms/holdrepeat.h"
+#include "forms/noteedit.h"
+#include "forms/textview.h"
+#include "support/fakesarne.h"
+
+namespace sarne {
+namespace {
+
+struct Screen : Form {
+    explicit Screen(basSarne& run) : Form(run, QStringLiteral("frmA")) {}
+    bool keyDown(QKeyEvent& event) override {
+        if (event.key() < Qt::Key_Shift || event.key() > Qt::Key_Alt) keys << event.key();
+        return true;
+    }
+    QList<int> keys;
+};
+
+class TextControls : public testing::Test {
+  protected:
+    TextControls() { screen->showForm(); }
+    static void wheel(QWidget& on, int notches) {
+        QWheelEvent event({5, 5}, on.mapToGlobal(QPointF(5, 5)), {}, {0, notches * 120}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&on, &event);
+    }
+    FakeSarne run;
+    Screen* screen = new Screen(run);
+};
+
+TEST_F(TextControls, AHeldButtonRepeatsUntilItIsLetGo) {
+    Button arrow(*screen, QStringLiteral("imgSipky(0)"));
+    arrow.place({0, 0, 600, 600});
+    int steps = 0;
+    HoldRepeat held(arrow, [&] { ++steps; });
+    QTest::mousePress(&arrow, Qt::LeftButton);
+    EXPECT_EQ(steps, 1);
+    EXPECT_EQ(held.timer().interval(), HoldRepeat::kDelay);
+    held.timer().fire();
+    held.timer().fire();
+    EXPECT_EQ(steps, 3);
+    EXPECT_EQ(held.timer().interval(), HoldRepeat::kInterval);
+    QTest::mouseRelease(&arrow, Qt::LeftButton);
+    EXPECT_FALSE(held.isHeld());
+    EXPECT_EQ(steps, 3) << "the click of the same press is no further step";
+    arrow.click();
+    EXPECT_EQ(steps, 4) << "pressed by a screen reader";
+
+    QTest::mousePress(&arrow, Qt::LeftButton);
+    QTest::mouseRelease(&arrow, Qt::LeftButton, {}, {500, 500});
+    arrow.click();
+    EXPECT_EQ(steps, 6);
+    QTest::mousePress(&arrow, Qt::LeftButton);
+    arrow.setEnabled(false);
+    EXPECT_FALSE(held.isHeld());
+}
+
+TEST_F(TextControls, LongTextsScrollByArrowsWheelAndKeys) {
+    TextView view(*screen, QStringLiteral("picRecept"));
+    view.place({1500, 1500, 6000, 3000});
+    auto* up = child<Button>(*screen, "picRecept.up");
+    auto* down = child<Button>(*screen, "picRecept.down");
+    view.drawRichText(QStringLiteral("jeden"));
+    EXPECT_FALSE(down->isVisible());
+    view.Cls();
+    for (int line = 0; line < 40; ++line) view.drawRichText(QStringLiteral("řádek %1").arg(line));
+    EXPECT_EQ(view.drawnText().count(u'\n'), 39);
+    EXPECT_EQ(view.contentHeight(), view.currentY());
+    ASSERT_TRUE(down->isVisible());
+    EXPECT_FALSE(up->isEnabled());
+    QTest::mouseClick(down, Qt::LeftButton);
+    const int oneStep = view.scrolled();
+    EXPECT_GT(oneStep, 0);
+    EXPECT_TRUE(up->isEnabled());
+    wheel(view, -1);
+    EXPECT_GT(view.scrolled(), oneStep);
+    const auto press = [&](int key) { return view.keyDown(QKeyEvent(QEvent::KeyPress, key, {})); };
+    EXPECT_TRUE(press(Qt::Key_End));
+    EXPECT_EQ(view.scrolled(), view.scrollRange());
+    EXPECT_FALSE(down->isEnabled());
+    EXPECT_FALSE(press(Qt::Key_PageDown)) << "there is nothing further down";
+    EXPECT_TRUE(press(Qt::Key_PageUp));
+    EXPECT_GE(view.scrolled(), view.scrollRange() - 3000) << "no line is passed over";
+    EXPECT_TRUE(press(Qt::Key_Home));
+    EXPECT_EQ(view.scrolled(), 0);
+    view.hide();
+    EXPECT_FALSE(down->isVisible());
+    view.Cls();
+    EXPECT_EQ(view.drawnText(), QString());
+}
+
+TEST_F(TextControls, LinkPhrasesArePointedAtClickedAndSteppedThrough) {
+    TextView view(*screen, QStringLiteral("picRecept"));
+    view.place({1500, 1500, 6000, 900});
+    const QString head =
+        QStringLiteral("{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset238 Arial;}}\\plain\\par\\pard\\plain ");
+    view.drawRichText(head + QStringLiteral("Vezmi *12kapra* a nic.}"));
+    view.drawRichText(head + QStringLiteral("\\par\\par\\par\\par\\par Pusť @7video s rybou@ \\par #x# }"));
+    ASSERT_EQ(view.pieces().linkCount(), 3);
+    QList<LinkKey> opened;
+    QObject::connect(&view, &TextView::linkActivated, [&](LinkKey key) { opened << key; });
+    QSignalSpy spoken(&view, &TextView::linkFocused);
+
+    const QPoint onFirst = view.toPixels(view.pieces().linkRect(0).center());
+    QTest::mouseMove(&view, onFirst);
+    EXPECT_EQ(view.pieces().hovered(), 0);
+    EXPECT_EQ(view.cursor().shape(), Qt::PointingHandCursor);
+    QTest::mouseClick(&view, Qt::LeftButton, {}, onFirst);
+    EXPECT_EQ(opened, QList<LinkKey>({{LinkKind::Keyword, 12}}));
+    QTest::mousePress(&view, Qt::LeftButton, {}, onFirst);
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, {1, 1});
+    EXPECT_EQ(opened.size(), 1) << "let go beside the phrase";
+    QTest::mouseMove(&view, {1, 1});
+    EXPECT_FALSE(view.pieces().hovered());
+
+    view.focusLink({});
+    ASSERT_TRUE(view.focusNextLink(TextView::Direction::Forward));
+    ASSERT_TRUE(view.focusNextLink(TextView::Direction::Forward));
+    EXPECT_EQ(spoken.last().first().toString(), QStringLiteral("video s rybou"));
+    const QRect seen(0, view.scrolled(), 6000, 900);
+    EXPECT_TRUE(seen.contains(view.pieces().linkRect(1))) << "the focus scrolls into sight";
+    EXPECT_TRUE(view.keyDown(QKeyEvent(QEvent::KeyPress, Qt::Key_Return, {})));
+    EXPECT_EQ(opened.last(), (LinkKey{LinkKind::Video, 7}));
+    EXPECT_TRUE(view.focusNextLink(TextView::Direction::Forward));
+    EXPECT_FALSE(view.focusNextLink(TextView::Direction::Forward));
+    EXPECT_TRUE(view.focusNextLink(TextView::Direction::Backward));
+    EXPECT_EQ(view.pieces().focused(), 2);
+}
+
+class NoteEditing : public TextControls {
+  protected:
+    NoteEditing() {
+        note.place({1500, 1500, 6000, 3000});
+        note.focusAtEnd();
+    }
+    void type(const QString& text) { QTest::keyClicks(&note.editor(), text); }
+    void press(int key, Qt::KeyboardModifiers with = {}) {
+        QTest::keyClick(&note.editor(), static_cast<Qt::Key>(key), with);
+    }
+    NoteEdit note{*screen, QStringLiteral("RtfPozn")};
+    QSignalSpy edits{&note, &NoteEdit::edited};
+};
+
+TEST_F(NoteEditing, TypesUndoesAndRedoes) {
+    note.setText(QStringLiteral("Sůl"));
+    EXPECT_EQ(edits.count(), 0);
+    note.focusAtEnd();
+    type(QStringLiteral(" cX"));
+    EXPECT_EQ(note.text(), QStringLiteral("Sůl cX")) << "letters are no commands here";
+    EXPECT_GT(edits.count(), 0);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(note.text(), QStringLiteral("Sůl"));
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(note.text(), QStringLiteral("Sůl")) << "what was loaded stays";
+    press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(note.text(), QStringLiteral("Sůl cX"));
+    EXPECT_TRUE(screen->keys.isEmpty());
+}
+
+TEST_F(NoteEditing, TakesCzechLettersThatAreComposed) {
+    QInputMethodEvent composing(QStringLiteral("ˇ"), {});
+    QApplication::sendEvent(QApplication::focusWidget(), &composing);
+    EXPECT_EQ(QApplication::focusWidget(), &note.editor());
+    EXPECT_EQ(note.text(), QString());
+    QInputMethodEvent done;
+    done.setCommitString(QStringLiteral("ř"));
+    QApplication::sendEvent(QApplication::focusWidget(), &done);
+    EXPECT_EQ(note.text(), QStringLiteral("ř"));
+    // AltGr arrives as Ctrl and Alt held together, or alone; the letter counts.
+    QKeyEvent altGr(QEvent::KeyPress, Qt::Key_Q, Qt::GroupSwitchModifier, QStringLiteral("@"));
+    QApplication::sendEvent(&note.editor(), &altGr);
+    EXPECT_EQ(note.text(), QStringLiteral("ř@"));
+}
+
+TEST_F(NoteEditing, PastesPlainText) {
+    auto* rich = new QMimeData;
+    rich->setHtml(QStringLiteral("<b>tučná</b> <i>ryba</i>"));
+    rich->setText(QStringLiteral("tučná ryba"));
+    QApplication::clipboard()->setMimeData(rich);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(note.text(), QStringLiteral("tučná ryba"));
+    EXPECT_FALSE(note.editor().document()->firstBlock().begin().fragment().charFormat().font().bold());
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(note.text() + QApplication::clipboard()->text(), QStringLiteral("tučná ryba"));
+}
+
+TEST_F(NoteEditing, LeavesTheKeysOfTheFormToTheForm) {
+    for (int key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_F1, Qt::Key_F4}) press(key);
+    press(Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(screen->keys, (QList<int>{Qt::Key_Escape, Qt::Key_Tab, Qt::Key_F1, Qt::Key_F4, Qt::Key_X}));
+    EXPECT_EQ(note.text(), QString());
+}
+
+TEST_F(NoteEditing, HoldsATextOfAnyLength) {
+    const QString line = QStringLiteral("Příliš žluťoučký kůň úpěl ďábelské ódy.\n");
+    const QString all = line.repeated(20000);
+    note.setText(all);
+    EXPECT_EQ(note.text(), all);
+    note.setText(QString());
+    EXPECT_EQ(note.text(), QString());
+}
+
+TEST_F(NoteEditing, OffersItsCommandsInCzech) {
+    note.setText(QStringLiteral("ryba"));
+    QStringList captions;
+    QTimer::singleShot(0, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu) return;
+        for (QAction* action : menu->actions()) captions << action->text();
+        menu->actions().last()->trigger();
+        menu->close();
+    });
+    QContextMenuEvent ask(QContextMenuEvent::Keyboard, {5, 5}, note.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(note.editor().viewport(), &ask);
+    EXPECT_TRUE(captions.contains(QStringLiteral("Znovu\tCtrl+Y")));
+    EXPECT_EQ(note.editor().textCursor().selectedText(), QStringLiteral("ryba"));
+}
+
+}  // namespace
+}  // namespace sarne
