@@ -53,7 +53,12 @@ QStringList recipeSchema() {
         all << named(QLatin1String(table), {name, QStringLiteral("Recept INTEGER")});
     all << named(QStringLiteral("IndexHesla"), {QStringLiteral("nazvy") + kText, text});
     all << named(QStringLiteral("Nastav"), {name, QStringLiteral("hodnota INTEGER NOT NULL DEFAULT 0")});
-    all << named(QStringLiteral("Stranky"), {name, text});
+    // Pages of text; Obrazovka is the form whose help a page is, empty for the others.
+    all << named(QStringLiteral("Stranky"), {name, text, QStringLiteral("Obrazovka") + kText});
+    // Tables to look things up in: headings and cells are parted by tabs.
+    all << named(QStringLiteral("Tabulky"), {name, QStringLiteral("Sloupce") + kText});
+    all << named(QStringLiteral("RadkyTabulek"),
+                 {QStringLiteral("ID_Tabulky INTEGER NOT NULL"), QStringLiteral("Bunky") + kText});
     return all;
 }
 
@@ -65,7 +70,8 @@ QStringList recipeTables() {
     QStringList tables;
     for (const char* table : {"Recepty", "SpojSur", "Suroviny", "Upresneni", "Jednotky", "Pomucky",
                               "SpojPomucky", "Odkazy", "SpojOdkazy", "Vino", "SpojVino", "Menu",
-                              "RychleRecepty", "Help", "IndexHesla", "Nastav", "Stranky"})
+                              "RychleRecepty", "Help", "IndexHesla", "Nastav", "Stranky",
+                              "Tabulky", "RadkyTabulek"})
         tables << QLatin1String(table);
     return tables;
 }
