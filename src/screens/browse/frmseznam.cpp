@@ -1,5 +1,7 @@
 #include "screens/browse/frmseznam.h"
 
+#include <QPainter>
+
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/resources.h"
@@ -206,6 +208,9 @@ void frmSeznam::showWine() {
     const int height = Label::measure(text, font, place.width()).height();
     lblVino.place({place.topLeft(), QSize(place.width(), std::min(height, place.height()))});
     lblVino.show();
+    const QRect paper = lblVino.twips().translated(-seznam::kPhoto.topLeft()).adjusted(-70, -40, 70, 40);
+    picFoto.addPainted([paper](QPainter& painter, const QRect&) { paintPaper(painter, paper); },
+                       seznam::kPhoto.height());
 }
 
 // --- coming and going

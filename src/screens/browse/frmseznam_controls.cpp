@@ -114,7 +114,6 @@ void frmSeznam::buildPanel() {
     connect(&picFoto, &Control::clicked, this, [this] {
         if (panelMode_ == Panel::Photo && selectedEntry()) showPhotos(false);
     });
-    lblVino.setGround(QColor(244, 234, 210, 236));
     lblVino.hide();
     imgBtn = {
         addAction(0, QStringLiteral("Foto"), QStringLiteral("Foto"), QStringLiteral("Zobrazí malé foto")),
@@ -123,16 +122,18 @@ void frmSeznam::buildPanel() {
 }
 
 void frmSeznam::buildBar() {
-    static const QString kBar[][2] = {{QStringLiteral("Tisk"), QStringLiteral("Tisk")},
-                                      {QStringLiteral("Help"), QStringLiteral("Nápověda")},
-                                      {QStringLiteral("Zpet"), QStringLiteral("Zpět")},
-                                      {QStringLiteral("Konec"), QStringLiteral("Konec programu")},
-                                      {QStringLiteral("Hudba"), QStringLiteral("Hudba a zvuky")}};
+    static const struct {
+        QString face, word, tip;
+    } kBar[] = {{QStringLiteral("Tisk"), QStringLiteral("Tisk"), QStringLiteral("Tisk")},
+                {QStringLiteral("Help"), QStringLiteral("?"), QStringLiteral("Nápověda")},
+                {QStringLiteral("Zpet"), QStringLiteral("Zpět"), QStringLiteral("Zpět")},
+                {QStringLiteral("Konec"), QStringLiteral("Konec"), QStringLiteral("Konec programu")},
+                {QStringLiteral("Hudba"), QStringLiteral("♪"), QStringLiteral("Hudba a zvuky")}};
     for (int index = 0; index < seznam::kBarButtons; ++index) {
         auto* button = new PictureButton(*this, QStringLiteral("imgBtnHlavni(%1)").arg(index));
         button->place(seznam::barButton(index));
-        button->dress(app(), kBar[index][0], kBar[index][1].section(u' ', 0, 0));
-        button->setTip(kBar[index][1]);
+        button->dress(app(), kBar[index].face, kBar[index].word);
+        button->setTip(kBar[index].tip);
         connect(button, &Control::clicked, this, [this, index, button] {
             const auto order = focusOrder();
             focusedButton_ = static_cast<int>(std::ranges::find(order, button) - order.begin());
@@ -179,12 +180,14 @@ void frmSeznam::paint(QPainter& painter) {
         painter.drawRoundedRect(seznam::rowBar(row), 90, 90);
     }
     if (!pages_.scrolls()) return;
-    painter.setBrush(colors::kCopper.lighter(150));
+    paintPlate(painter, seznam::kArrowPlate);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colors::kNight);
     painter.drawRoundedRect(seznam::kTrack, 55, 55);
     QRectF thumb = seznam::kTrack;
     thumb.setTop(seznam::kTrack.y() + double(seznam::kTrack.height()) * pages_.top() / pages_.count());
     thumb.setHeight(double(seznam::kTrack.height()) * pages_.rows() / pages_.count());
-    painter.setBrush(colors::kTeal);
+    painter.setBrush(colors::kCopper);
     painter.drawRoundedRect(thumb, 55, 55);
 }
 

@@ -15,7 +15,8 @@ inline constexpr QRect kTitle{520, 260, 6800, 600};
 inline constexpr QRect kPosition{8000, 260, 3500, 600};
 
 inline constexpr QRect kPaper{300, 1080, 7250, 7620};
-inline constexpr QRect kTrack{7065, 2740, 110, 4300};
+inline constexpr QRect kArrowPlate{6760, 1200, 680, 7380};
+inline constexpr QRect kTrack{7045, 2740, 110, 4250};
 
 inline constexpr QRect kPanel{7850, 1080, 3850, 2938};
 inline constexpr QRect kPhoto{7950, 1180, 3650, 2738};
@@ -28,7 +29,7 @@ constexpr QRect row(int row) {
 }
 constexpr QRect rowBar(int number) {
     const QRect at = row(number);
-    return {at.x() - 200, at.y() + 20, at.width() + 300, at.height() - 40};
+    return {at.x() - 200, at.y() + 20, at.width() + 280, at.height() - 40};
 }
 constexpr QRect apple(int number) {
     return {480, row(number).y() + 30, 420, 420};
@@ -36,7 +37,7 @@ constexpr QRect apple(int number) {
 /// Down by one, up by one, half a page up, half a page down; the outer ones are the fast ones.
 constexpr QRect arrow(int index) {
     constexpr int kTops[] = {7080, 2000, 1290, 7790};
-    return {6800, kTops[index], 640, 640};
+    return {6780, kTops[index], 640, 640};
 }
 constexpr QRect action(int place) {
     return {7950 + place * 1260, 4340, 1130, 1130};

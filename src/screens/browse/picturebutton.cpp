@@ -69,7 +69,7 @@ void PictureButton::paint(QPainter& painter) {
     if (!isEnabled()) painter.setOpacity(.45);
     QRect inside = QRect({0, 0}, twips().size()).adjusted(kInset, kInset, -kInset, -kInset);
     if (isDown() || latched_) inside.translate(kShift, kShift);
-    QRect face = inside, word = inside;
+    QRect face = inside, word({0, 0}, twips().size());
     const bool beside = shown_ == Word::Beside && !face_.isNull();
     if (beside) {
         face.setWidth(std::min(inside.height() * 4 / 3, inside.width() / 2));
