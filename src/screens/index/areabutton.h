@@ -1,0 +1,29 @@
+#pragma once
+
+#include "forms/control.h"
+
+namespace sarne {
+
+/// A click area on a picture: a plate with its name at its lower edge, and a frame while it is pointed at or
+/// has the keyboard.
+class AreaButton : public Control {
+    Q_OBJECT
+  public:
+    AreaButton(Form& form, const QString& name, const QString& caption);
+
+    QAccessible::Role role() const override { return QAccessible::Button; }
+    const QString& caption() const { return caption_; }
+
+  protected:
+    void paint(QPainter& painter) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+  private:
+    QRect plate() const;
+
+    QString caption_;
+    bool hovered_ = false;
+};
+
+}  // namespace sarne

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QPointer>
+#include <array>
+#include <vector>
+
+#include "forms/button.h"
+#include "forms/form.h"
+#include "forms/label.h"
+
+namespace sarne {
+
+/// A full screen with a title at its top, something to read below and the button bar "Tisk", "Help", "Zpet",
+/// "Konec", "ZvukOff" at its foot. Left, Right and Tab go from control to control, Enter and Space press the
+/// one that has the keyboard, Escape goes back.
+class BarForm : public Form {
+    Q_OBJECT
+  public:
+    enum BarButton { kPrint, kHelp, kBack, kEnd, kSound };
+    static constexpr int kBarButtons = 5;
+
+    /// Where the title, the content and the bar lie, in twips.
+    static constexpr QRect kTitle{300, 60, 11400, 690};
+    static constexpr QRect kContent{300, 900, 11400, 7050};
+    static constexpr QRect kBar{3300, 8145, 8400, 750};
+
+    BarForm(basSarne& app, const QString& name);
+
+    void goBack() override;
+    void restored() override;
+
+  protected:
+    /// The title at the top of the screen.
+    void setTitle(const QString& title);
+    QString title() const { return title_.text(); }
+    /// The controls before the bar, in the order in which the keyboard goes through them.
+    void setContent(std::vector<Control*> controls) { content_ = std::move(controls); }
+    /// Shows the screen over the others and gives \a first the keyboard.
+    void open(Control& first);
+    /// Gives \a control the keyboard, and again when the screen comes back.
+    void focus(Control& control);
+    Control* focused() const;
+
+    Control& barButton(BarButton button) const { return *bar_[button]; }
+
+    virtual void print() = 0;
+    /// The bar's "Help"; by default the help for this screen.
+    virtual void helpButton() { help(); }
+    /// The picture behind everything; by default that of the lists.
+    virtual void paintGround(QPainter& painter);
+
+    bool keyDown(QKeyEvent& event) override;
+    void paint(QPainter& painter) override;
+
+  private:
+    std::vector<Control*> keyboardOrder() const;
+    void moveFocus(int step);
+    void barClicked(int button);
+    void showSound();
+
+    Label title_;
+    std::array<Button*, kBarButtons> bar_{};
+    std::vector<Control*> content_;
+    QPointer<Control> last_;  // what had the keyboard last
+};
+
+/// Paper with a copper edge, for texts to stand on.
+void paintPaper(QPainter& painter, const QRect& place);
+
+}  // namespace sarne

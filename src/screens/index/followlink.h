@@ -1,0 +1,12 @@
+#pragma once
+
+#include "richtext/linkkey.h"
+
+namespace sarne {
+
+class basSarne;
+
+/// Does what a link phrase does: opens the keyword or the video, or only beeps.
+void followLink(basSarne& app, const LinkKey& key);
+
+}  // namespace sarne

@@ -1,0 +1,48 @@
+#include "screens/index/frmindex.h"
+
+#include "db/database.h"
+#include "forms/bassarne.h"
+
+namespace sarne {
+
+frmIndex::frmIndex(basSarne& app) : TextForm(app, QStringLiteral("frmIndex")) {}
+
+bool frmIndex::Zobraz(std::int16_t keyword) {
+    if (!showKeyword(keyword)) {
+        unload();
+        return false;
+    }
+    visited_.visit(keyword);
+    open(view());
+    return true;
+}
+
+bool frmIndex::showKeyword(int keyword) {
+    Recordset keywords = app().Db().OpenTable(QStringLiteral("IndexHesla"));
+    if (!RecordExists(keywords, keyword)) return false;
+    showText(keywords.field(QStringLiteral("nazvy")).toString(),
+             keywords.field(QStringLiteral("Text")).toString(), QStringLiteral("Rejstřík hesel"));
+    return true;
+}
+
+void frmIndex::linkActivated(const LinkKey& key) {
+    if (key.kind != LinkKind::Keyword) return TextForm::linkActivated(key);
+    const int offset = view().scrolled();
+    const int link = view().pieces().focused().value_or(-1);
+    // A keyword that is not there leaves the text that shows.
+    if (!showKeyword(key.number)) return app().Beep();
+    visited_.visit(key.number, offset, link);
+    app().HookMessage(title());
+}
+
+void frmIndex::goBack() {
+    if (!visited_.goBack()) return TextForm::goBack();
+    const KeywordHistory::Visit& visit = visited_.current();
+    if (!showKeyword(visit.keyword)) return TextForm::goBack();
+    view().scrollTo(visit.offset);
+    if (visit.link >= 0) view().focusLink(visit.link);
+    focus(view());
+    app().HookMessage(title());
+}
+
+}  // namespace sarne

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "screens/index/keywordhistory.h"
+#include "screens/index/textform.h"
+
+namespace sarne {
+
+/// The text of an index keyword. Its phrases lead to other keywords, which show in the same screen; going
+/// back retraces them, and then leaves to the caller. Made anew each time it is shown.
+class frmIndex : public TextForm {
+    Q_OBJECT
+  public:
+    explicit frmIndex(basSarne& app);
+
+    /// Shows keyword \a keyword. False, and the form is gone, when there is none.
+    bool Zobraz(std::int16_t keyword);
+
+    void goBack() override;
+
+  protected:
+    void linkActivated(const LinkKey& key) override;
+
+  private:
+    bool showKeyword(int keyword);
+
+    KeywordHistory visited_;
+};
+
+}  // namespace sarne

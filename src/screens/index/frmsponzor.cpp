@@ -1,0 +1,283 @@
+#include "screens/index/frmsponzor.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/resources.h"
+#include "forms/screens.h"
+#include "screens/index/followlink.h"
+#include "screens/index/plaintext.h"
+#include "screens/index/rtfdocument.h"
+
+namespace sarne {
+namespace {
+
+constexpr QRect kHint{5400, 60, 6300, 690};
+constexpr QRect kPosition{300, 8145, 2850, 750};
+constexpr QRect kPrevious{120, 4200, 600, 600};
+constexpr QRect kNext{11280, 4200, 600, 600};
+constexpr QRect kCard{2100, 1350, 7800, 6150};
+constexpr QRect kCardText{2400, 1560, 6660, 4980};
+constexpr QRect kCardFoot{2100, 6690, 7800, 810};
+constexpr QRect kClose{5100, 6780, 1800, 630};
+constexpr int kThousand = 1000;
+
+QRect onScreen(const QRect& thousandths, QSize screen) {
+    return {thousandths.x() * screen.width() / kThousand, thousandths.y() * screen.height() / kThousand,
+            thousandths.width() * screen.width() / kThousand,
+            thousandths.height() * screen.height() / kThousand};
+}
+
+std::optional<Direction> directionOf(int key) {
+    switch (key) {
+        case Qt::Key_Left:
+            return Direction::Left;
+        case Qt::Key_Right:
+            return Direction::Right;
+        case Qt::Key_Up:
+            return Direction::Up;
+        case Qt::Key_Down:
+            return Direction::Down;
+        default:
+            return {};
+    }
+}
+
+void dress(Button& button, const Picture& face, const QString& caption, const QString& tip) {
+    button.setFace(face);
+    button.setFrame(Button::Frame::Raised);
+    button.setFont({QStringLiteral("Arial"), 13});
+    if (face.isNull()) button.setCaption(caption);
+    button.setTip(tip);
+}
+
+}  // namespace
+
+frmSponzor::frmSponzor(basSarne& app)
+    : BarForm(app, QStringLiteral("frmSponzor")),
+      hint_(*this, QStringLiteral("lblPopis")),
+      position_(*this, QStringLiteral("lblPozice")),
+      previous_(*this, QStringLiteral("imgSipky(0)")),
+      next_(*this, QStringLiteral("imgSipky(1)")),
+      card_(*this, QStringLiteral("picText")),
+      close_(*this, QStringLiteral("imgZavri")) {
+    hint_.place(kHint);
+    hint_.setFont({QStringLiteral("Arial"), 12});
+    hint_.setColor(colors::kPaper);
+    hint_.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    hint_.setWordWrap(true);
+    position_.place(kPosition);
+    position_.setFont({QStringLiteral("Arial"), 14});
+    position_.setColor(colors::kTitle);
+    position_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    makeArrows();
+    makeCard();
+}
+
+void frmSponzor::makeArrows() {
+    const Resources& resources = app().resources();
+    dress(previous_, resources.picture(QStringLiteral("SipkaVlevo")), QStringLiteral("◄"),
+          QStringLiteral("Předchozí obraz"));
+    dress(next_, resources.picture(QStringLiteral("SipkaVpravo")), QStringLiteral("►"),
+          QStringLiteral("Další obraz"));
+    previous_.place(kPrevious);
+    next_.place(kNext);
+    connect(&previous_, &Button::clicked, this, [this] { showPicture(at_ - 1); });
+    connect(&next_, &Button::clicked, this, [this] { showPicture(at_ + 1); });
+}
+
+void frmSponzor::makeCard() {
+    const Resources& resources = app().resources();
+    card_.place(kCardText);
+    card_.setFocusPolicy(Qt::ClickFocus);
+    card_.setArrowPictures(resources.picture(QStringLiteral("SipkaNahoru")),
+                           resources.picture(QStringLiteral("SipkaDolu")));
+    close_.place(kClose);
+    dress(close_, {}, QStringLiteral("Zavřít"), QStringLiteral("Zavřít text"));
+    connect(&close_, &Button::clicked, this, &frmSponzor::closeCard);
+    connect(&card_, &TextView::linkActivated, this, [this](LinkKey key) { followLink(this->app(), key); });
+    connect(&card_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });
+    closeCard();
+}
+
+bool frmSponzor::Zobraz(std::int16_t topic, const QString& text) {
+    pictures_ = readGallery(app().Db(), topic);
+    if (pictures_.empty()) {
+        unload();
+        return false;
+    }
+    if (!showNumber(text.toInt())) showPicture(0);
+    open(areas_.empty() ? barButton(kBack) : *areas_.front());
+    return true;
+}
+
+bool frmSponzor::showNumber(int number) {
+    const auto found = std::find_if(pictures_.begin(), pictures_.end(),
+                                    [number](const GalleryPicture& one) { return one.number == number; });
+    if (found == pictures_.end()) return false;
+    showPicture(static_cast<int>(found - pictures_.begin()));
+    return true;
+}
+
+void frmSponzor::showPicture(int index) {
+    const int count = static_cast<int>(pictures_.size());
+    at_ = (index + count) % count;
+    closeCard();
+    picture_ = app().mediaPicture(QStringLiteral("foto\\sponzor\\%1.bmp").arg(current().number));
+    setTitle(current().title);
+    hint_.setText(plainText(current().text, 400).replace(u'\n', u' '));
+    position_.setText(count > 1 ? QStringLiteral("%1 z %2").arg(at_ + 1).arg(count) : QString());
+    previous_.setVisible(count > 1);
+    next_.setVisible(count > 1);
+    makeAreas();
+    setKeyboardOrder();
+    if (isVisible() && !areas_.empty()) focus(*areas_.front());
+    update();
+}
+
+void frmSponzor::makeAreas() {
+    for (AreaButton* area : areas_) {
+        area->hide();
+        area->deleteLater();  // a click on it may have brought us here
+    }
+    areas_.clear();
+    for (const GalleryArea& area : current().areas) {
+        const int number = static_cast<int>(areas_.size());
+        auto* button = new AreaButton(*this, QStringLiteral("lblOblast(%1)").arg(number), area.name);
+        button->place(onScreen(area.place, twips().size()));
+        button->stackUnder(&previous_);
+        connect(button, &AreaButton::clicked, this, [this, number] { choose(number); });
+        areas_.push_back(button);
+    }
+}
+
+void frmSponzor::choose(int area) {
+    const GalleryArea& chosen = current().areas[static_cast<size_t>(area)];
+    focus(*areas_[static_cast<size_t>(area)]);
+    if (chosen.target.kind != GalleryTarget::Kind::None) return follow(chosen.target);
+    if (chosen.text.isEmpty()) return app().Beep();
+    chosen_ = area;
+    openCard(chosen.text);
+}
+
+void frmSponzor::follow(const GalleryTarget& target) {
+    const auto number = static_cast<std::int16_t>(target.number);
+    switch (target.kind) {
+        case GalleryTarget::Kind::Keyword:
+            return app().screens().showIndex(number);
+        case GalleryTarget::Kind::Video:
+            return app().screens().showVideo(number);
+        case GalleryTarget::Kind::Picture:
+            if (!showNumber(number)) app().Beep();
+            return;
+        case GalleryTarget::Kind::Beep:
+        case GalleryTarget::Kind::None:
+            return app().Beep();
+    }
+}
+
+bool frmSponzor::cardIsOpen() const {
+    return card_.isVisibleTo(this);
+}
+
+void frmSponzor::openCard(const QString& text) {
+    card_.Cls();
+    card_.drawRichText(text);
+    card_.setVisible(true);
+    card_.raise();
+    close_.show();
+    close_.raise();
+    for (AreaButton* area : areas_) area->setVisible(!area->twips().intersects(kCard));
+    setKeyboardOrder();
+    focus(card_);
+    app().HookMessage(plainText(text, 2000));
+    update();
+}
+
+void frmSponzor::closeCard() {
+    card_.setVisible(false);
+    close_.hide();
+    for (AreaButton* area : areas_) area->show();
+    setKeyboardOrder();
+    const int area = std::exchange(chosen_, -1);
+    if (area >= 0 && area < static_cast<int>(areas_.size())) focus(*areas_[static_cast<size_t>(area)]);
+    update();
+}
+
+void frmSponzor::setKeyboardOrder() {
+    std::vector<Control*> order{&card_, &close_};
+    order.insert(order.end(), areas_.begin(), areas_.end());
+    order.push_back(&previous_);
+    order.push_back(&next_);
+    setContent(std::move(order));
+}
+
+void frmSponzor::goBack() {
+    if (cardIsOpen()) return closeCard();
+    BarForm::goBack();
+}
+
+void frmSponzor::print() {
+    RtfDocument document;
+    document.heading(current().title);
+    constexpr int kAll = 1'000'000;
+    document.paragraph(plainText(current().text, kAll));
+    for (const GalleryArea& area : current().areas) document.paragraph(area.name, plainText(area.text, kAll));
+    app().screens().printText(current().title, document.text());
+}
+
+/// Arrow keys go to the nearest area on that side.
+bool frmSponzor::areaKey(int key) {
+    const auto at = std::find(areas_.begin(), areas_.end(), focused());
+    const std::optional<Direction> direction = directionOf(key);
+    if (at == areas_.end() || !direction) return false;
+    std::vector<QRect> places;
+    for (const AreaButton* area : areas_) places.push_back(area->isVisible() ? area->twips() : QRect());
+    const auto next = nearest(places, static_cast<int>(at - areas_.begin()), *direction);
+    if (!next) return true;
+    AreaButton& area = *areas_[static_cast<size_t>(*next)];
+    focus(area);
+    app().HookMessage(area.caption());
+    return true;
+}
+
+bool frmSponzor::cardKey(const QKeyEvent& event) {
+    if (!cardIsOpen()) return false;
+    if (focused() != &card_) return card_.pageKey(event);
+    const bool forward = event.key() == Qt::Key_Tab;
+    if (forward || event.key() == Qt::Key_Backtab)
+        return card_.focusNextLink(forward ? TextView::Direction::Forward : TextView::Direction::Backward);
+    return card_.keyDown(event);
+}
+
+bool frmSponzor::keyDown(QKeyEvent& event) {
+    if (cardKey(event) || areaKey(event.key())) return true;
+    if (pictures_.size() > 1 && (event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown)) {
+        showPicture(at_ + (event.key() == Qt::Key_PageDown ? 1 : -1));
+        return true;
+    }
+    return BarForm::keyDown(event);
+}
+
+void frmSponzor::mousePressEvent(QMouseEvent* event) {
+    BarForm::mousePressEvent(event);
+    if (cardIsOpen() && !kCard.contains(toTwips(event->position()))) closeCard();
+}
+
+void frmSponzor::paintGround(QPainter& painter) {
+    const QRect all({0, 0}, twips().size());
+    if (picture_.isNull()) return BarForm::paintGround(painter);
+    picture_.draw(painter, all, Fit::Cover);
+}
+
+void frmSponzor::paint(QPainter& painter) {
+    BarForm::paint(painter);
+    if (!cardIsOpen()) return;
+    paintPaper(painter, kCard);
+    painter.fillRect(kCardFoot.adjusted(45, 0, -45, -45), colors::kTeal);
+}
+
+}  // namespace sarne

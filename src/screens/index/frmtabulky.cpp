@@ -1,0 +1,217 @@
+#include "screens/index/frmtabulky.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/holdrepeat.h"
+#include "forms/resources.h"
+#include "forms/screens.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kLettersHeight = 450;
+constexpr int kLetterWidth = 420;
+constexpr int kGap = 75;        // between the letters or the note and the paper
+constexpr int kPaperEdge = 75;  // of paper around the table
+constexpr int kArrowSide = 600;
+constexpr QRect kPosition{300, 8145, 2850, 750};
+
+struct Arrow {
+    QStringView picture;
+    QStringView tip;
+    QStringView caption;
+    int place;  // from the top
+};
+// In the order of the steps: one row down, one up, half a page up, half a page down.
+constexpr Arrow kArrows[4] = {{u"SipkaDolu", u"O řádek níž", u"↓", 2},
+                              {u"SipkaNahoru", u"O řádek výš", u"↑", 1},
+                              {u"SipkaNahoruRychle", u"O půl strany výš", u"⇈", 0},
+                              {u"SipkaDoluRychle", u"O půl strany níž", u"⇊", 3}};
+
+}  // namespace
+
+FrmTabulky::FrmTabulky(basSarne& app)
+    : BarForm(app, QStringLiteral("FrmTabulky")),
+      table_(*this, QStringLiteral("picTabulka")),
+      note_(*this, QStringLiteral("lblPoznamka")),
+      position_(*this, QStringLiteral("lblPozice")) {
+    note_.setFont({QStringLiteral("Arial"), 12});
+    note_.setColor(colors::kPaper);
+    note_.setWordWrap(true);
+    position_.place(kPosition);
+    position_.setFont({QStringLiteral("Arial"), 14});
+    position_.setColor(colors::kTitle);
+    position_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(&table_, &TableView::moved, this, &FrmTabulky::showPosition);
+    connect(&table_, &TableView::opened, this, &FrmTabulky::openRow);
+}
+
+bool FrmTabulky::Zobraz(std::int16_t item) {
+    LookupTable table = readLookupTable(app().Db(), item);
+    if (table.isEmpty()) {
+        unload();
+        return false;
+    }
+    setTitle(table.title);
+    note_.setText(table.note);
+    makeArrows();
+    table_.setTable(std::move(table));
+    if (table_.table().hasLetters) makeLetters();
+    layOut();
+    std::vector<Control*> order{&table_};
+    order.insert(order.end(), letters_.begin(), letters_.end());
+    setContent(std::move(order));
+    open(table_);
+    return true;
+}
+
+void FrmTabulky::makeLetters() {
+    for (const LookupRow& row : table_.table().rows) {
+        const QString letter = indexLetter(row.cells.first());
+        if (letter.isEmpty() || (!letters_.empty() && letters_.back()->caption() == letter)) continue;
+        const auto number = letters_.size();
+        auto* button = new Button(*this, QStringLiteral("lblPismeno(%1)").arg(number));
+        button->setFont({QStringLiteral("Arial"), 13, true});
+        button->setCaption(letter);
+        button->setTip(QStringLiteral("Hesla od %1").arg(letter));
+        connect(button, &Button::clicked, this, [this, letter] { jumpToLetter(letter); });
+        letters_.push_back(button);
+    }
+}
+
+void FrmTabulky::makeArrows() {
+    for (size_t i = 0; i < arrows_.size(); ++i) {
+        auto* arrow = new Button(*this, QStringLiteral("imgSipky(%1)").arg(i));
+        const Picture face = app().resources().picture(kArrows[i].picture.toString());
+        arrow->setFace(face);
+        arrow->setFrame(Button::Frame::Raised);
+        arrow->setFont({QStringLiteral("Arial"), 16, true});
+        if (face.isNull()) arrow->setCaption(kArrows[i].caption.toString());
+        arrow->setTip(kArrows[i].tip.toString());
+        new HoldRepeat(*arrow, [this, i] {
+            const int half = table_.halfPage();
+            const int steps[] = {1, -1, -half, half};
+            table_.scrollBy(steps[i]);
+        });
+        arrows_[i] = arrow;
+    }
+}
+
+/// Places everything: above the table its letters or its note, on its right the arrows where they are needed.
+void FrmTabulky::layOut() {
+    QRect room = kContent;
+    if (!letters_.empty()) {
+        const int width = std::min(kLetterWidth, room.width() / static_cast<int>(letters_.size()));
+        for (size_t i = 0; i < letters_.size(); ++i)
+            letters_[i]->place({room.x() + static_cast<int>(i) * width, room.y(), width, kLettersHeight});
+        room.setTop(room.top() + kLettersHeight + kGap);
+    }
+    note_.setVisible(!note_.text().isEmpty());
+    if (!note_.text().isEmpty()) {
+        note_.place({room.topLeft(), QSize()});
+        note_.autoSize(room.width());
+        room.setTop(room.top() + note_.twips().height() + kGap);
+    }
+    const QRect narrow = room.adjusted(0, 0, -kArrowSide - kGap, 0);
+    const auto fit = [this](const QRect& paper) {
+        table_.place(paper.adjusted(kPaperEdge, kPaperEdge, -kPaperEdge, -kPaperEdge));
+        table_.setTable(table_.table());
+    };
+    fit(room);
+    const bool scrolls = table_.rows().canScroll();
+    if (scrolls) fit(narrow);
+    const int step = (room.height() - kArrowSide) / 3;
+    for (size_t i = 0; i < arrows_.size(); ++i) {
+        arrows_[i]->setVisible(scrolls);
+        arrows_[i]->place(
+            {room.right() - kArrowSide, room.top() + kArrows[i].place * step, kArrowSide, kArrowSide});
+    }
+}
+
+void FrmTabulky::showPosition() {
+    const RowPaging& rows = table_.rows();
+    if (rows.selected() == RowPaging::kNone) return position_.setText({});
+    position_.setText(QStringLiteral("%1 z %2").arg(rows.selected() + 1).arg(rows.count()));
+}
+
+void FrmTabulky::jumpToLetter(const QString& letter) {
+    const auto& rows = table_.table().rows;
+    const auto found = std::find_if(rows.begin(), rows.end(), [&letter](const LookupRow& row) {
+        return indexLetter(row.cells.first()) == letter;
+    });
+    if (found != rows.end()) table_.jumpTo(static_cast<int>(found - rows.begin()));
+}
+
+void FrmTabulky::openRow(int row) {
+    const int keyword = table_.table().rows[static_cast<size_t>(row)].keyword;
+    if (keyword == 0) return app().Beep();
+    focus(table_);
+    app().screens().showIndex(static_cast<std::int16_t>(keyword));
+}
+
+void FrmTabulky::print() {
+    app().screens().printText(table_.table().title, tableAsText(table_.table()));
+}
+
+bool FrmTabulky::moveKey(int key) {
+    switch (key) {
+        case Qt::Key_Up:
+            table_.moveBy(-1);
+            break;
+        case Qt::Key_Down:
+            table_.moveBy(1);
+            break;
+        case Qt::Key_PageUp:
+            table_.movePage(-1);
+            break;
+        case Qt::Key_PageDown:
+            table_.movePage(1);
+            break;
+        case Qt::Key_Home:
+            table_.select(0);
+            break;
+        case Qt::Key_End:
+            table_.select(table_.rows().count() - 1);
+            break;
+        default:
+            return false;
+    }
+    app().HookMessage(table_.accessibleValue());
+    return true;
+}
+
+/// Letters jump, but for the two that close the screen and end the program everywhere.
+bool FrmTabulky::letterKey(const QKeyEvent& event) {
+    const bool shared = event.key() == Qt::Key_C || event.key() == Qt::Key_X;
+    const bool plain = !(event.modifiers() & ~Qt::ShiftModifier);
+    if (!table_.table().hasLetters || shared || !plain || event.text().isEmpty()) return false;
+    if (!event.text().front().isLetter()) return false;
+    jumpToLetter(indexLetter(event.text()));
+    return true;
+}
+
+bool FrmTabulky::keyDown(QKeyEvent& event) {
+    if (moveKey(event.key()) || letterKey(event)) return true;
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (enter && !qobject_cast<Button*>(focused())) {
+        table_.openSelected();
+        return true;
+    }
+    return BarForm::keyDown(event);
+}
+
+void FrmTabulky::paint(QPainter& painter) {
+    BarForm::paint(painter);
+    const QRect paper = table_.twips().adjusted(-kPaperEdge, -kPaperEdge, kPaperEdge, kPaperEdge);
+    // The letters and the note stand on the band above the paper.
+    painter.fillRect(
+        QRect(0, kTitle.bottom() + 90, twips().width(), paper.top() - kGap - kTitle.bottom() - 90),
+        colors::kTeal);
+    paintPaper(painter, paper);
+}
+
+}  // namespace sarne

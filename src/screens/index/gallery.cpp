@@ -1,0 +1,79 @@
+#include "screens/index/gallery.h"
+
+#include <cstdlib>
+
+#include "core/value.h"
+#include "db/database.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kWhole = 1000;  // thousandths
+
+int number(const Recordset& row, const char* field) {
+    return row.field(QLatin1String(field)).toInt();
+}
+
+QString text(const Recordset& row, const char* field) {
+    return row.field(QLatin1String(field)).toString();
+}
+
+std::vector<GalleryArea> readAreas(Database& db, int picture) {
+    std::vector<GalleryArea> areas;
+    Recordset rows = db.OpenQuery(
+        QStringLiteral("SELECT * FROM PlochySponzoru WHERE ID_Sponzoru = %1 ORDER BY ID").arg(picture));
+    for (; !rows.AtEnd(); rows.MoveNext()) {
+        const QRect place(number(rows, "X"), number(rows, "Y"), number(rows, "Sirka"), number(rows, "Vyska"));
+        const QRect inside = place & QRect(0, 0, kWhole, kWhole);
+        if (inside.isEmpty()) continue;
+        areas.push_back(
+            {inside, text(rows, "Nazev"), text(rows, "Text"), GalleryTarget::of(text(rows, "Odkaz"))});
+    }
+    return areas;
+}
+
+}  // namespace
+
+GalleryTarget GalleryTarget::of(const QString& text) {
+    const QString mark = text.trimmed();
+    if (mark == u"#") return {Kind::Beep, 0};
+    const auto id = toRecordId(QStringView(mark).mid(1));
+    if (!id || *id < 1) return {};
+    if (mark[0] == u'*') return {Kind::Keyword, *id};
+    if (mark[0] == u'@') return {Kind::Video, *id};
+    if (mark[0] == u'>') return {Kind::Picture, *id};
+    return {};
+}
+
+std::vector<GalleryPicture> readGallery(Database& db, int topic) {
+    std::vector<GalleryPicture> pictures;
+    Recordset rows =
+        db.OpenQuery(QStringLiteral("SELECT * FROM Sponzor WHERE Tema = %1 ORDER BY ID").arg(topic));
+    for (; !rows.AtEnd(); rows.MoveNext()) {
+        const int id = number(rows, "ID");
+        pictures.push_back({id, text(rows, "Nazev"), text(rows, "Text"), readAreas(db, id)});
+    }
+    return pictures;
+}
+
+std::optional<int> nearest(const std::vector<QRect>& places, int from, Direction direction) {
+    const QPoint start = places[static_cast<size_t>(from)].center();
+    std::optional<int> best;
+    int bestDistance = 0;
+    for (int i = 0; i < static_cast<int>(places.size()); ++i) {
+        const QPoint way = places[static_cast<size_t>(i)].center() - start;
+        const bool sideways = direction == Direction::Left || direction == Direction::Right;
+        const bool backwards = direction == Direction::Left || direction == Direction::Up;
+        const int along = (sideways ? way.x() : way.y()) * (backwards ? -1 : 1);
+        const int across = std::abs(sideways ? way.y() : way.x());
+        if (along <= 0 || places[static_cast<size_t>(i)].isEmpty()) continue;
+        // What lies straight ahead comes before what is nearer but off to the side.
+        const int distance = along + 3 * across;
+        if (best && distance >= bestDistance) continue;
+        best = i;
+        bestDistance = distance;
+    }
+    return best;
+}
+
+}  // namespace sarne

@@ -1,0 +1,87 @@
+#include "screens/index/lookuptable.h"
+
+#include "db/database.h"
+#include "screens/index/plaintext.h"
+#include "screens/index/rtfdocument.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kPreview = 160;  // characters: more than a row can show
+
+/// The beginning of a keyword's text, its heading left out.
+QString preview(const QString& text, const QString& name) {
+    QStringList lines = plainText(text, kPreview + static_cast<int>(name.size())).split(u'\n');
+    if (lines.size() > 1 && lines.first().trimmed() == name) lines.removeFirst();
+    return lines.join(u' ');
+}
+
+LookupTable keywordIndex(Database& db) {
+    LookupTable table;
+    table.title = QStringLiteral("Rejstřík hesel");
+    table.columns = QStringList{QStringLiteral("Heslo"), QStringLiteral("Co o něm kuchařka říká")};
+    table.layout = LookupTable::Rows::OneLine;
+    table.hasLetters = true;
+    Recordset keywords =
+        db.OpenQuery(QStringLiteral("SELECT id, nazvy, Text FROM IndexHesla ORDER BY nazvy"));
+    for (; !keywords.AtEnd(); keywords.MoveNext()) {
+        const QString name = keywords.field(QStringLiteral("nazvy")).toString().trimmed();
+        table.rows.push_back({{name, preview(keywords.field(QStringLiteral("Text")).toString(), name)},
+                              keywords.field(QStringLiteral("id")).toInt()});
+    }
+    return table;
+}
+
+void readRows(Database& db, int item, LookupTable& table) {
+    Recordset rows = db.OpenQuery(
+        QStringLiteral("SELECT * FROM RadkyTabulek WHERE ID_Tabulky = %1 ORDER BY ID").arg(item));
+    for (; !rows.AtEnd(); rows.MoveNext()) {
+        LookupRow row{rows.field(QStringLiteral("Bunky")).toString().split(u'\t'),
+                      rows.field(QStringLiteral("ID_Hesla")).toInt()};
+        row.cells.resize(table.columns.size());
+        table.rows.push_back(row);
+    }
+}
+
+}  // namespace
+
+LookupTable readLookupTable(Database& db, int item) {
+    if (item == kKeywordIndexItem) return keywordIndex(db);
+    LookupTable table;
+    Recordset tables = db.OpenTable(QStringLiteral("Tabulky"));
+    if (!RecordExists(tables, item)) return table;
+    table.title = tables.field(QStringLiteral("Nazev")).toString();
+    table.note = tables.field(QStringLiteral("Poznamka")).toString();
+    table.columns = tables.field(QStringLiteral("Sloupce")).toString().split(u'\t');
+    readRows(db, item, table);
+    return table;
+}
+
+QString indexLetter(const QString& name) {
+    static const QString accented = QStringLiteral("ÁÄĎÉĚÍŇÓÖŤÚŮÜÝ");
+    static const QString plain = QStringLiteral("AADEEINOOTUUUY");
+    const QString upper = name.trimmed().normalized(QString::NormalizationForm_C).toUpper();
+    if (upper.startsWith(u"CH")) return QStringLiteral("Ch");
+    if (upper.isEmpty()) return {};
+    const qsizetype known = accented.indexOf(upper.front());
+    return known < 0 ? upper.left(1) : plain.mid(known, 1);
+}
+
+QString tableAsText(const LookupTable& table) {
+    RtfDocument document;
+    document.heading(table.title);
+    if (!table.note.isEmpty()) document.paragraph(table.note);
+    for (const LookupRow& row : table.rows) {
+        QStringList rest;
+        for (qsizetype column = 1; column < table.columns.size(); ++column) {
+            if (row.cells[column].isEmpty()) continue;
+            rest << (table.layout == LookupTable::Rows::OneLine
+                         ? row.cells[column]
+                         : table.columns[column] + QStringLiteral(": ") + row.cells[column]);
+        }
+        document.paragraph(row.cells.first(), rest.join(QStringLiteral("; ")));
+    }
+    return document.text();
+}
+
+}  // namespace sarne

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace sarne {
+
+class basSarne;
+
+/// Switches the background music off where it is on, and the other way round, and stores that as the settings
+/// screen does. Music that cannot be opened stays silent.
+void switchMusic(basSarne& app);
+
+}  // namespace sarne

@@ -1,0 +1,180 @@
+#include "screens/index/tableview.h"
+
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "forms/colors.h"
+
+namespace sarne {
+namespace {
+
+const TextFont kFont{QStringLiteral("Arial"), 12};
+const TextFont kHeadFont{QStringLiteral("Arial"), 12, true};
+constexpr int kWheelRows = 2;  // for one notch of the wheel
+constexpr int kWheelNotch = 120;
+constexpr QColor kOtherRow(234, 221, 190);  // paper a shade darker, so that the eye keeps to its row
+
+}  // namespace
+
+TableView::TableView(Form& form, const QString& name) : Control(form, name) {
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+void TableView::setTable(LookupTable table) {
+    table_ = std::move(table);
+    layout_ = TableLayout::of(table_, twips().width(), kFont, kHeadFont);
+    rows_.reset(layout_.heights, twips().height() - layout_.headHeight);
+    hovered_ = pressed_ = RowPaging::kNone;
+    setAccessibleName(table_.title);
+    changed(true);
+}
+
+void TableView::changed(bool something) {
+    if (!something) return;
+    update();
+    Q_EMIT moved();
+}
+
+void TableView::scrollBy(int rows) {
+    changed(rows_.scrollBy(rows));
+}
+
+void TableView::select(int row) {
+    changed(rows_.select(row));
+}
+
+void TableView::openSelected() {
+    if (rows_.selected() != RowPaging::kNone) Q_EMIT opened(rows_.selected());
+}
+
+QString TableView::rowText(int row) const {
+    if (row < 0 || row >= rows_.count()) return {};
+    const QStringList& cells = table_.rows[static_cast<size_t>(row)].cells;
+    QStringList parts{cells.first()};
+    for (qsizetype column = 1; column < cells.size(); ++column) {
+        if (!cells[column].isEmpty()) parts << table_.columns[column] + QStringLiteral(": ") + cells[column];
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+QRect TableView::rowRect(int row) const {
+    if (!rows_.sees(row)) return {};
+    int top = layout_.headHeight;
+    for (int above = rows_.top(); above < row; ++above) top += rows_.height(above);
+    return {0, top, twips().width(), rows_.height(row)};
+}
+
+QRect TableView::cellRect(int row, int column) const {
+    const QRect place = rowRect(row);
+    if (place.isEmpty() || column < 0 || column >= static_cast<int>(layout_.lefts.size())) return {};
+    const auto index = static_cast<size_t>(column);
+    return {layout_.lefts[index], place.top(), layout_.widths[index], place.height()};
+}
+
+int TableView::rowAt(QPoint at) const {
+    for (int row = rows_.top(); row < rows_.end(); ++row) {
+        if (rowRect(row).contains(at)) return row;
+    }
+    return RowPaging::kNone;
+}
+
+int TableView::linkAt(QPoint at) const {
+    const int row = rowAt(at);
+    const bool opens = row != RowPaging::kNone && table_.rows[static_cast<size_t>(row)].keyword != 0;
+    return opens && cellRect(row, 0).contains(at) ? row : RowPaging::kNone;
+}
+
+void TableView::mousePressEvent(QMouseEvent* event) {
+    Control::mousePressEvent(event);
+    if (event->button() != Qt::LeftButton) return;
+    const QPoint at = toTwips(event->position());
+    pressed_ = linkAt(at);
+    if (const int row = rowAt(at); row != RowPaging::kNone) select(row);
+}
+
+void TableView::mouseReleaseEvent(QMouseEvent* event) {
+    Control::mouseReleaseEvent(event);
+    const int row = std::exchange(pressed_, RowPaging::kNone);
+    if (row != RowPaging::kNone && row == linkAt(toTwips(event->position()))) Q_EMIT opened(row);
+}
+
+void TableView::mouseDoubleClickEvent(QMouseEvent* event) {
+    Control::mouseDoubleClickEvent(event);
+    const int row = rowAt(toTwips(event->position()));
+    if (event->button() == Qt::LeftButton && row != RowPaging::kNone) Q_EMIT opened(row);
+}
+
+void TableView::mouseMoveEvent(QMouseEvent* event) {
+    Control::mouseMoveEvent(event);
+    setHovered(linkAt(toTwips(event->position())));
+}
+
+void TableView::leaveEvent(QEvent* event) {
+    Control::leaveEvent(event);
+    setHovered(RowPaging::kNone);
+}
+
+void TableView::setHovered(int row) {
+    if (row == hovered_) return;
+    hovered_ = row;
+    if (row == RowPaging::kNone)
+        unsetCursor();
+    else
+        setCursor(Qt::PointingHandCursor);
+    update();
+}
+
+void TableView::wheelEvent(QWheelEvent* event) {
+    scrollBy(-event->angleDelta().y() * kWheelRows / kWheelNotch);
+    event->accept();
+}
+
+void TableView::paintCell(QPainter& painter, const QRect& cell, const QString& text) const {
+    const QRect room = cell.adjusted(TableLayout::kPadding, TableLayout::kLeading, -TableLayout::kPadding,
+                                     -TableLayout::kLeading);
+    if (table_.layout == LookupTable::Rows::Wrapped)
+        return painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
+    const QString fitting =
+        QFontMetricsF(painter.font()).elidedText(text, Qt::ElideRight, static_cast<double>(room.width()));
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, fitting);
+}
+
+void TableView::paintHead(QPainter& painter) const {
+    painter.fillRect(QRect(0, 0, twips().width(), layout_.headHeight), colors::kTeal);
+    painter.setFont(kHeadFont.toQFont());
+    painter.setPen(colors::kTitle);
+    for (size_t column = 0; column < layout_.lefts.size(); ++column) {
+        const QRect cell(layout_.lefts[column], 0, layout_.widths[column], layout_.headHeight);
+        painter.drawText(cell.adjusted(TableLayout::kPadding, 0, -TableLayout::kPadding, 0),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap,
+                         table_.columns[static_cast<qsizetype>(column)]);
+    }
+}
+
+void TableView::paintRow(QPainter& painter, int row) const {
+    const LookupRow& content = table_.rows[static_cast<size_t>(row)];
+    const bool selected = row == rows_.selected();
+    if (selected)
+        painter.fillRect(rowRect(row), colors::kSelected);
+    else if (row % 2 == 1)
+        painter.fillRect(rowRect(row), kOtherRow);
+    for (int column = 0; column < static_cast<int>(layout_.lefts.size()); ++column) {
+        const bool link = column == 0 && content.keyword != 0;
+        QFont font = kFont.toQFont();
+        font.setBold(link);
+        font.setUnderline(link && row == hovered_);
+        painter.setFont(font);
+        painter.setPen(selected ? colors::kPaper : link ? colors::kSelected.darker(125) : colors::kInk);
+        paintCell(painter, cellRect(row, column), content.cells[column]);
+    }
+}
+
+void TableView::paint(QPainter& painter) {
+    painter.setClipRect(QRect({0, 0}, twips().size()));
+    if (!table_.isEmpty()) paintHead(painter);
+    for (int row = rows_.top(); row < rows_.end(); ++row) paintRow(painter, row);
+    if (showsFocus()) paintFocusRing(painter, {{0, 0}, twips().size()});
+}
+
+}  // namespace sarne

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "forms/control.h"
+#include "screens/index/lookuptable.h"
+#include "screens/index/rowpaging.h"
+#include "screens/index/tablelayout.h"
+
+namespace sarne {
+
+/// Shows a table, one of its rows selected. A click selects a row; a double click, or a click on the first
+/// cell of a row that opens a keyword, opens it. Scrolls by whole rows.
+class TableView : public Control {
+    Q_OBJECT
+  public:
+    TableView(Form& form, const QString& name);
+
+    QAccessible::Role role() const override { return QAccessible::Table; }
+    QString accessibleValue() const override { return rowText(rows_.selected()); }
+
+    /// Shows \a table from its first row. The control must have its place by now.
+    void setTable(LookupTable table);
+    const LookupTable& table() const { return table_; }
+    const RowPaging& rows() const { return rows_; }
+
+    void scrollBy(int rows);
+    /// Half of what is seen, at least one row.
+    int halfPage() const { return std::max(1, (rows_.end() - rows_.top()) / 2); }
+    void select(int row);
+    void moveBy(int rows) { changed(rows_.moveBy(rows)); }
+    void movePage(int pages) { changed(rows_.movePage(pages)); }
+    void jumpTo(int row) { changed(rows_.jumpTo(row)); }
+    /// Opens the selected row.
+    void openSelected();
+
+    /// The cells of a row, heading by heading; empty when there is no such row.
+    QString rowText(int row) const;
+    /// Where row \a row is seen, in twips of the control; empty when it is not.
+    QRect rowRect(int row) const;
+    /// Where the cell of \a column in \a row is seen.
+    QRect cellRect(int row, int column) const;
+
+  Q_SIGNALS:
+    /// Another row is selected, or others are seen.
+    void moved();
+    /// The user wants what the row opens.
+    void opened(int row);
+
+  protected:
+    void paint(QPainter& painter) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    void changed(bool something);
+    int rowAt(QPoint twips) const;
+    /// The row whose first cell is at \a twips and opens a keyword, or none.
+    int linkAt(QPoint twips) const;
+    void setHovered(int row);
+    void paintHead(QPainter& painter) const;
+    void paintRow(QPainter& painter, int row) const;
+    void paintCell(QPainter& painter, const QRect& cell, const QString& text) const;
+
+    LookupTable table_;
+    TableLayout layout_;
+    RowPaging rows_;
+    int hovered_ = RowPaging::kNone;
+    int pressed_ = RowPaging::kNone;
+};
+
+}  // namespace sarne

@@ -1,0 +1,67 @@
+#include "screens/index/textform.h"
+
+#include <QKeyEvent>
+
+#include "forms/bassarne.h"
+#include "forms/resources.h"
+#include "forms/screens.h"
+#include "screens/index/followlink.h"
+#include "screens/index/plaintext.h"
+
+namespace sarne {
+namespace {
+
+constexpr QRect kPaper = BarForm::kContent;
+constexpr int kMargin = 330;  // of paper around the text
+constexpr QRect kText{kPaper.x() + kMargin, kPaper.y() + kMargin / 2,
+                      kPaper.width() - 2 * kMargin - TextView::kArrowRoom, kPaper.height() - kMargin};
+
+}  // namespace
+
+TextForm::TextForm(basSarne& app, const QString& name)
+    : BarForm(app, name), view_(*this, QStringLiteral("picText")) {
+    view_.place(kText);
+    view_.setFocusPolicy(Qt::ClickFocus);
+    view_.setArrowPictures(app.resources().picture(QStringLiteral("SipkaNahoru")),
+                           app.resources().picture(QStringLiteral("SipkaDolu")));
+    connect(&view_, &TextView::linkActivated, this, [this](LinkKey key) { linkActivated(key); });
+    connect(&view_, &TextView::linkFocused, this,
+            [this](const QString& words) { this->app().HookMessage(words); });
+    setContent({&view_});
+}
+
+void TextForm::showText(const QString& name, const QString& text, const QString& kind) {
+    name_ = name;
+    text_ = text;
+    setTitle(beginsWithHeading(text, name) ? kind : name);
+    view_.Cls();
+    view_.drawRichText(text);
+    view_.scrollTo(0);
+    view_.setAccessibleName(name);
+}
+
+void TextForm::linkActivated(const LinkKey& key) {
+    followLink(app(), key);
+}
+
+void TextForm::print() {
+    app().screens().printText(name_, text_);
+}
+
+bool TextForm::keyDown(QKeyEvent& event) {
+    const bool forward = event.key() == Qt::Key_Tab;
+    if ((forward || event.key() == Qt::Key_Backtab) && focused() == &view_ &&
+        view_.focusNextLink(forward ? TextView::Direction::Forward : TextView::Direction::Backward))
+        return true;
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    // Enter is the focused button's; all other keys of the view scroll it from wherever the keyboard is.
+    if ((focused() == &view_ || !enter) && view_.keyDown(event)) return true;
+    return BarForm::keyDown(event);
+}
+
+void TextForm::paint(QPainter& painter) {
+    BarForm::paint(painter);
+    paintPaper(painter, kPaper);
+}
+
+}  // namespace sarne

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "forms/textview.h"
+#include "screens/index/barform.h"
+
+namespace sarne {
+
+/// A screen with one rich text on paper. Up, Down, the Page keys, Home and End scroll it wherever the
+/// keyboard is; Tab goes through its link phrases before it goes on to the bar.
+class TextForm : public BarForm {
+    Q_OBJECT
+  public:
+    TextForm(basSarne& app, const QString& name);
+
+  protected:
+    /// Shows \a text from its top. The title is \a name, or, where the text begins with that as its own
+    /// heading, \a kind.
+    void showText(const QString& name, const QString& text, const QString& kind);
+    TextView& view() { return view_; }
+
+    virtual void linkActivated(const LinkKey& key);
+    /// Prints the text that shows.
+    void print() override;
+
+    bool keyDown(QKeyEvent& event) override;
+    void paint(QPainter& painter) override;
+
+  private:
+    TextView view_;
+    QString name_;
+    QString text_;
+};
+
+}  // namespace sarne
