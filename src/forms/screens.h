@@ -43,6 +43,11 @@ class Screens {
     virtual void showSponsor(std::int16_t topic, const QString& text) = 0;
     virtual void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) = 0;
     virtual void printRecipes(const std::vector<std::int16_t>& ids) = 0;
+    /// Prints the rich text \a text, which belongs to no recipe, under \a title.
+    virtual void printText(const QString& title, const QString& text) {
+        Q_UNUSED(title)
+        Q_UNUSED(text)
+    }
     /// Hides the menu tree and returns the main screen to idle.
     virtual void returnToMain() = 0;
 };

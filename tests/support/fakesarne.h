@@ -22,6 +22,7 @@ class RecordedScreens : public Screens {
     PhotoRequest photos;
     std::vector<PrintEntry> printEntries;
     std::vector<std::int16_t> printed;
+    QString printedText;
 
     void showList(const QString& ids, const QString& source) override {
         calls << QStringLiteral("showList %1 %2").arg(ids, source);
@@ -50,6 +51,10 @@ class RecordedScreens : public Screens {
     void printRecipes(const std::vector<std::int16_t>& ids) override {
         printed = ids;
         calls << QStringLiteral("printRecipes %1").arg(ids.size());
+    }
+    void printText(const QString& title, const QString& text) override {
+        printedText = text;
+        calls << QStringLiteral("printText %1").arg(title);
     }
     void returnToMain() override { calls << QStringLiteral("returnToMain"); }
 };
