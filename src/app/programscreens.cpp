@@ -1,6 +1,7 @@
 #include "app/programscreens.h"
 
 #include "app/program.h"
+#include "dialogs/frmdialog.h"
 #include "screens/browse/frmfotobig.h"
 #include "screens/browse/frmseznam.h"
 #include "screens/browse/frmsit.h"
@@ -36,7 +37,8 @@ void ProgramScreens::returnToHelpList() {
 }
 
 void ProgramScreens::showRecipe(std::int16_t id) {
-    (new frmRecept(program_))->Zobraz(id);
+    const auto askPortions = [this](const QString& prompt) { return askNumber(program_, prompt); };
+    (new frmRecept(program_, askPortions))->Zobraz(id);
 }
 
 void ProgramScreens::showGrid() {
