@@ -129,6 +129,17 @@ TEST_F(Painting, InksTheBoxesAndOnlyTheLinesInSight) {
     EXPECT_TRUE(inked(paint(layout, {0, 5000, 4000, 900})).isEmpty());
 }
 
+TEST_F(Painting, GivesEveryWordItsColor) {
+    const RtfLayout layout =
+        layOut(u"{\\rtf1{\\colortbl;\\red255;\\blue255;}\\plain\\fs48\\cf1 I \\cf2 I \\cf1 I \\cf0 @1I@}");
+    const QImage picture = paint(layout, {0, 0, 4000, 2000});
+    const QColor colors[] = {Qt::red, Qt::blue, Qt::red, linkColor(LinkKind::Video)};
+    for (size_t i = 0; i < std::size(colors); ++i) {
+        const QRect box = RtfLayout::rect(layout.boxes()[i]);
+        EXPECT_EQ(picture.pixelColor(box.center() / kPixel).name(), colors[i].name()) << i;
+    }
+}
+
 TEST_F(Painting, UnderlinesTheLinkThatStandsOut) {
     const QRect all(0, 0, 4000, 2000);
     for (int top = 0; top < 2 * kPixel; ++top) {  // wherever the line falls between the pixels
