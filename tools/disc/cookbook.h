@@ -127,6 +127,8 @@ struct LookupTable {
     int id = 0;
     Place place;
     QString name;
+    /// What the numbers are for; may be empty.
+    QString note;
     QStringList columns;
     QList<QStringList> rows;
 };

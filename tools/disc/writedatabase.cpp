@@ -106,10 +106,20 @@ class CookbookWriter {
 
     void lookupTables() {
         for (const LookupTable& table : book_.tables) {
-            writer_.add(QStringLiteral("Tabulky"), {table.id, table.name, table.columns.join(u'\t')});
+            writer_.add(QStringLiteral("Tabulky"),
+                        {table.id, table.name, table.columns.join(u'\t'), table.note});
             for (const QStringList& row : table.rows)
-                writer_.add(QStringLiteral("RadkyTabulek"), {QVariant(), table.id, row.join(u'\t')});
+                writer_.add(QStringLiteral("RadkyTabulek"),
+                            {QVariant(), table.id, keywordOf(row.value(0)), row.join(u'\t')});
         }
+    }
+
+    /// The keyword that a row's first cell speaks of: the whole cell, what stands in front of its comma or
+    /// colon, or its first word. 0 when there is none.
+    int keywordOf(const QString& cell) const {
+        for (const QString& name : {cell, cell.section(u',', 0, 0), cell.section(u' ', 0, 0).remove(u',')})
+            if (const auto target = links_.find(name)) return target->number;
+        return 0;
     }
 
     void menu() {
