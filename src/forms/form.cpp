@@ -135,6 +135,11 @@ bool Form::sharedKey(const QKeyEvent& event) {
 void Form::keyPressEvent(QKeyEvent* event) {
     // Keys end here: what lies below a form gets none of its keys.
     event->accept();
+    if (event->key() == Qt::Key_Tab && event->modifiers() & Qt::ShiftModifier) {
+        // Some platforms tell Shift+Tab so, others as a key of its own.
+        QKeyEvent back(event->type(), Qt::Key_Backtab, event->modifiers(), event->text(), event->isAutoRepeat());
+        return keyPressEvent(&back);
+    }
     if (!keyDown(*event)) sharedKey(*event);
 }
 

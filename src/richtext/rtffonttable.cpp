@@ -19,7 +19,7 @@ class FontTableReader {
     void readOne() {
         switch (const char16_t c = cursor_.peek()) {
             case u'\\':
-                return applyControl(cursor_.readControl());
+                return readControl();
             case u'{':
                 if (cursor_.atSilentGroup()) return cursor_.skipGroup();
                 ++depth_;
@@ -34,6 +34,15 @@ class FontTableReader {
                 if (c >= u' ') name_ += QChar(c);
         }
         cursor_.advance();
+    }
+
+    void readControl() {
+        const qsizetype start = cursor_.position();
+        const Control control = cursor_.readControl();
+        if (control.name != controlName(u"pard") && control.name != controlName(u"plain"))
+            return applyControl(control);
+        cursor_.moveTo(start);  // the text begins: the brace that ends the table is missing
+        depth_ = 0;
     }
 
     void applyControl(const Control& control) {

@@ -132,6 +132,7 @@ RtfColorTable readColorTable(RtfCursor& cursor) {
             setComponent(entry, cursor.readControl());
             continue;
         }
+        if (c == u'{') break;  // the next group: the brace that ends the table is missing
         cursor.advance();
         if (c == u'}') break;
         if (c != u';') continue;

@@ -1,5 +1,5 @@
-// Documents as three editors save them, laid out under fixed metrics. To renew the dumps after a wanted change, run
-// with SARNE_WRITE_DUMPS=1 and review what changed.
+// Documents as three editors save them, laid out under fixed metrics. To renew the dumps after a wanted
+// change, run with SARNE_WRITE_DUMPS=1 and review what changed.
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -36,7 +36,7 @@ TEST_P(Fixtures, LookAsReviewed) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Editors, Fixtures, testing::Values("wordpad", "office", "writer"),
-                         [](const auto& test) { return std::string(test.param); });
+                         [](const auto& editor) { return std::string(editor.param); });
 
 }  // namespace
 }  // namespace sarne

@@ -1,0 +1,226 @@
+#include "screens/browse/frmfotobig.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "db/database.h"
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/resources.h"
+#include "screens/browse/picturebutton.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+constexpr int kDefaultInterval = 4000;  // milliseconds
+constexpr int kTitleBottom = 8780;      // twips
+constexpr int kTitleMargin = 160;       // from the title to the edge of its ground
+const TextFont kTitleFont{QStringLiteral("Times New Roman"), 22, true};
+const TextFont kMomentFont{QStringLiteral("Arial"), 16};
+
+}  // namespace
+
+frmFotoBig::frmFotoBig(basSarne& run)
+    : Form(run, QStringLiteral("frmFotoBig")),
+      lblNazev(*this, QStringLiteral("lblNazev")),
+      lblMoment(*this, QStringLiteral("lblMoment")),
+      tmrPosun(this) {
+    setAccessibleName(QStringLiteral("Velké foto"));
+    setMouseTracking(true);
+    lblNazev.setFont(kTitleFont);
+    lblNazev.setColor(colors::kTitle);
+    lblMoment.setFont(kMomentFont);
+    lblMoment.setColor(colors::kTitle);
+    lblMoment.setText(QStringLiteral("Moment prosím, načítám foto ..."));
+    lblMoment.place({450, 450, 9000, 450});
+    connect(&tmrPosun, &Timer::tick, this, &frmFotoBig::tick);
+}
+
+void frmFotoBig::Zobraz(const PhotoRequest& request) {
+    if (request.photoIds.empty()) return unload();
+    recipes_ = app().Db().OpenTable(QStringLiteral("Recepty"));
+    recipes_.setIndex(QStringLiteral("PrimaryKey"));
+    app().PushScreen(*this);
+    showForm();
+    repaint();  // the words that ask for patience, while the photo loads
+    steps_.start(request.photoIds, request.startPosition);
+    zone_ = Zone::Right;
+    loadCursor();
+    loadPhoto();
+    tmrPosun.setInterval(request.slideInterval > 0 ? request.slideInterval : kDefaultInterval);
+    if (request.slideShow) setSlideShow(true);
+}
+
+// --- the photo
+
+QString frmFotoBig::photoFile(std::int16_t id) const {
+    return app().mediaFile(QStringLiteral("foto\\Recepty\\r%1.bmp").arg(id));
+}
+
+QSize frmFotoBig::room() const {
+    return size() * devicePixelRatio();
+}
+
+bool frmFotoBig::isNextReady() const {
+    const auto next = steps_.neighbours();
+    return !next.empty() && decoder_.isReady(photoFile(next.front()), room());
+}
+
+void frmFotoBig::loadPhoto() {
+    decode();
+    lblMoment.hide();
+    recipes_.Seek(QStringLiteral("="), steps_.currentId());
+    lblNazev.setText(recipes_.NoMatch() ? QString() : recipes_.field(QStringLiteral("Nazev")).toString());
+    placeTitle();
+    if (!lblNazev.text().isEmpty()) app().HookMessage(lblNazev.text());
+    update();
+}
+
+void frmFotoBig::decode() {
+    const QString shown = photoFile(steps_.currentId());
+    photo_ = decoder_.photo(shown, room());
+    std::vector<QString> files{shown};
+    for (const std::int16_t id : steps_.neighbours()) files.push_back(photoFile(id));
+    decoder_.decodeAhead(files, room());
+}
+
+void frmFotoBig::placeTitle() {
+    const QSize size = Label::measure(lblNazev.text(), kTitleFont);
+    lblNazev.place({(basSarne::ScreenWidthTw - size.width()) / 2, kTitleBottom - size.height(), size.width(),
+                    size.height()});
+}
+
+void frmFotoBig::rescale() {
+    Form::rescale();
+    if (steps_.isEmpty()) return;
+    decode();
+    loadCursor();
+}
+
+void frmFotoBig::paint(QPainter& painter) {
+    const QRectF screen(QPointF(), QSizeF(twips().size()));
+    painter.fillRect(screen, colors::kNight);
+    if (!photo_.isNull()) {
+        const double units = 1 / (scale() * devicePixelRatio());
+        QRectF place(QPointF(), QSizeF(photo_.size()) * units);
+        place.moveCenter(screen.center());
+        // On whole pixels the photo is copied as it is.
+        const QTransform pixels = painter.combinedTransform();
+        place.moveTopLeft(pixels.inverted().map(QPointF(pixels.map(place.topLeft()).toPoint())));
+        painter.drawImage(place, photo_);
+    }
+    if (lblNazev.text().isEmpty()) return;
+    paintPlate(
+        painter,
+        QRectF(lblNazev.twips()).adjusted(-kTitleMargin, -kTitleMargin / 4, kTitleMargin, kTitleMargin / 4));
+}
+
+// --- stepping
+
+void frmFotoBig::clickIn(Zone zone) {
+    if (!steps_.accept(app().clock().now())) return;
+    if (tmrPosun.isEnabled()) {
+        tmrPosun.setEnabled(false);
+        tmrPosun.setEnabled(true);
+    }
+    if (zone == Zone::None) return goBack();
+    if (steps_.step(zoneStep(zone)))
+        loadPhoto();
+    else
+        app().Beep();
+}
+
+void frmFotoBig::tick() {
+    if (app().FormStack.top() != this) return;  // what lies over it is looked at now
+    tmrPosun.setEnabled(false);
+    steps_.advance();
+    loadPhoto();
+    tmrPosun.setEnabled(true);
+    app().Yield();
+}
+
+void frmFotoBig::setSlideShow(bool runs) {
+    if (runs == tmrPosun.isEnabled()) return;
+    tmrPosun.setEnabled(runs);
+    app().keepAwake(runs ? QStringLiteral("Promítání fotografií") : QString());
+}
+
+bool frmFotoBig::keyDown(QKeyEvent& event) {
+    if (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) return false;
+    switch (event.key()) {
+        case Qt::Key_Right:
+            clickIn(Zone::Right);
+            return true;
+        case Qt::Key_Left:
+            clickIn(Zone::Left);
+            return true;
+        case Qt::Key_Up:
+            clickIn(Zone::Up);
+            return true;
+        case Qt::Key_Down:
+            clickIn(Zone::Down);
+            return true;
+        case Qt::Key_Space:
+            if (!event.isAutoRepeat()) setSlideShow(!tmrPosun.isEnabled());
+            return true;
+        case Qt::Key_Escape:
+            goBack();
+            return true;
+        default:
+            return false;
+    }
+}
+
+// --- the mouse
+
+void frmFotoBig::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) pressed_ = wasPressed_ = true;
+}
+
+void frmFotoBig::mouseDoubleClickEvent(QMouseEvent* event) {
+    // The second half of a double click that opened the viewer is no click on it.
+    if (event->button() == Qt::LeftButton) pressed_ = wasPressed_;
+}
+
+void frmFotoBig::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !pressed_) return;
+    pressed_ = false;
+    if (rect().contains(event->position().toPoint())) clickIn(zone_);
+}
+
+void frmFotoBig::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint twips = toTwips(event->position());
+    setZone(zoneAt({twips.x() / kTwipsPerPixel, twips.y() / kTwipsPerPixel}));
+}
+
+void frmFotoBig::setZone(Zone zone) {
+    if (zone == zone_) return;
+    zone_ = zone;
+    loadCursor();
+}
+
+void frmFotoBig::loadCursor() {
+    setCursor(app().resources().cursor(zoneCursor(zone_), scale()));
+}
+
+// --- coming and going
+
+void frmFotoBig::goBack() {
+    app().PopScreen(*this);
+}
+
+void frmFotoBig::unload() {
+    setSlideShow(false);
+    Form::unload();
+}
+
+void frmFotoBig::restored() {
+    loadCursor();
+}
+
+void frmFotoBig::gotFocus() {
+    app().BringTopToFront(name());
+}
+
+}  // namespace sarne

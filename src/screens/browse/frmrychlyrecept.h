@@ -1,0 +1,40 @@
+#pragma once
+
+#include "forms/form.h"
+#include "forms/picturebox.h"
+
+namespace sarne {
+
+/// The small window with a picture that stands in place of the photo while quick recipes are listed. It never
+/// keeps the keyboard: whatever is done with it gives the keyboard back to the list.
+class frmRychlyRecept : public Form {
+    Q_OBJECT
+  public:
+    /// \a owner, the list, outlives the window and unloads it.
+    frmRychlyRecept(basSarne& app, Form& owner);
+
+    /// Shows the window at \a place (twips of the screen), above the list, without taking the keyboard.
+    void Zobraz(const QRect& place);
+    /// The picture, and the words that stand in its place when it is missing or broken.
+    void setPicture(const Picture& picture, const QString& words);
+
+  Q_SIGNALS:
+    /// The window was touched: the list is to take the keyboard.
+    void keyboardGivenBack();
+
+  protected:
+    void gotFocus() override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void paint(QPainter& painter) override;
+
+  private:
+    void giveBack();
+
+    Form& owner_;
+    PictureBox Picture1;
+};
+
+/// Shows \a picture in \a box, or \a words in its middle when it is missing or broken.
+void showPictureOrWords(PictureBox& box, const Picture& picture, const QString& words);
+
+}  // namespace sarne

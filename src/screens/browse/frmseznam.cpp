@@ -1,0 +1,236 @@
+#include "screens/browse/frmseznam.h"
+
+#include <QPainter>
+
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/resources.h"
+#include "forms/screens.h"
+#include "screens/browse/frmseznam_layout.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kWarning = 48;  // message box: warning, OK
+
+}  // namespace
+
+frmSeznam::frmSeznam(basSarne& run)
+    : Form(run, QStringLiteral("frmSeznam")),
+      lblNadpis(*this, QStringLiteral("lblNadpis")),
+      lblPozice(*this, QStringLiteral("lblPozice")),
+      imgJablko(*this, QStringLiteral("imgJablko")),
+      picFoto(*this, QStringLiteral("picFoto")),
+      lblVino(*this, QStringLiteral("lblVino")),
+      Timer2(this) {
+    buildList();
+    buildPanel();
+    buildBar();
+}
+
+void frmSeznam::Zobraz(const QString& ids, const QString& source) {
+    fill(ids, source);
+    app().PushScreen(*this);
+    showForm();
+    startPanel();
+    focusButton();
+}
+
+void frmSeznam::fill(const QString& ids, const QString& source) {
+    sourceText_ = source.toLower();
+    source_ = sourceText_ == u"recepty" ? Source::Recipes
+              : sourceText_ == u"help"  ? Source::Help
+                                        : Source::QuickRecipes;
+    focusedButton_ = 0;
+    entries_ = readEntries(app().Db(), sourceText_, ids);
+    pages_.fill(static_cast<int>(entries_.size()), seznam::kRows);
+    letters_.clear();
+    for (PictureButton* arrow : imgSipky) arrow->setVisible(pages_.scrolls());
+    showButtonsOfSource();
+    lblPozice.setText({});
+    drawPage();
+}
+
+void frmSeznam::scroll(int step) {
+    pages_.scroll(step);
+    drawPage();
+}
+
+void frmSeznam::drawPage() {
+    for (int row = 1; row <= pages_.rows(); ++row) {
+        Label& label = *lblSeznam[size_t(row - 1)];
+        const int entry = pages_.entryAt(row);
+        label.setText(entry < 0 ? QString() : entries_[size_t(entry)].Nazev);
+        label.setColor(row == pages_.selectedRow() ? QColor(Qt::white) : colors::kInk);
+    }
+    const int row = pages_.selectedRow();
+    imgJablko.setVisible(row > 0);
+    if (row > 0) imgJablko.place(seznam::apple(row));
+    update();
+}
+
+void frmSeznam::selectRow(int row) {
+    if (!pages_.selectRow(row)) return;
+    drawPage();
+    selectionChanged();
+}
+
+void frmSeznam::selectionChanged() {
+    const ListEntry* entry = selectedEntry();
+    if (!entry) return;
+    lblPozice.setText(QString::number(pages_.selectedEntry() + 1) + QStringLiteral(" z ") +
+                      QString::number(pages_.count()));
+    app().HookMessage(entry->Nazev);
+    refreshPanel();
+}
+
+const ListEntry* frmSeznam::selectedEntry() const {
+    const int entry = pages_.selectedEntry();
+    return entry < 0 ? nullptr : &entries_[size_t(entry)];
+}
+
+const ListEntry* frmSeznam::visiblySelected() const {
+    return pages_.selectedRow() > 0 ? selectedEntry() : nullptr;
+}
+
+void frmSeznam::action(int index) {
+    if (!visiblySelected()) {
+        app().ZobrazZpravu(QStringLiteral("Není vybrán recept"), kWarning);
+        return;
+    }
+    switch (index) {
+        case 0:
+            return showPhoto();
+        case 1:
+            return panelMode_ == Panel::Wine ? showPhoto() : showWine();
+        case 2:
+            return openSelected();
+    }
+}
+
+void frmSeznam::openSelected() {
+    const ListEntry* entry = visiblySelected();
+    if (!entry || entry->target == 0) return;
+    if (source_ == Source::Help) return app().screens().showPage(QString::number(entry->target));
+    app().screens().showRecipe(static_cast<std::int16_t>(entry->target));
+}
+
+void frmSeznam::mainAction(int index) {
+    switch (index) {
+        case 0:
+            return printEntries();
+        case 1:
+            return help();
+        case 2:
+            return goBack();
+        case 3:
+            return endProgram();
+        case 4:
+            return musicSettings();
+    }
+}
+
+void frmSeznam::printEntries() {
+    std::vector<PrintEntry> print;
+    for (const ListEntry& entry : entries_) {
+        if (entry.target != 0) print.push_back({entry.Nazev, entry.target});
+    }
+    // The recipes are the ordinary thing to print; another source is named.
+    app().screens().showPrintSelection(print, source_ == Source::Recipes ? QString() : sourceText_);
+}
+
+void frmSeznam::showPhotos(bool slideShow) {
+    if (source_ == Source::Help) return;
+    PhotoRequest request;
+    request.slideShow = slideShow;
+    for (int entry = 0; entry < pages_.count(); ++entry) {
+        const std::int32_t recipe = entries_[size_t(entry)].target;
+        if (recipe == 0) continue;
+        if (entry == pages_.selectedEntry())
+            request.startPosition = static_cast<int>(request.photoIds.size());
+        request.photoIds.push_back(static_cast<std::int16_t>(recipe));
+    }
+    if (!request.photoIds.empty()) app().screens().showPhotos(request);
+}
+
+// --- the panel beside the list
+
+void frmSeznam::startPanel() {
+    picFoto.Cls();
+    lblVino.hide();
+    if (source_ == Source::Help)
+        showPictureOrWords(picFoto, app().resources().picture(QStringLiteral("Help")), {});
+    if (source_ != Source::QuickRecipes) return;
+    quickWindow_ = new frmRychlyRecept(app(), *this);
+    connect(quickWindow_, &frmRychlyRecept::keyboardGivenBack, this, &frmSeznam::focusButton);
+    quickWindow_->Zobraz(seznam::kPanel);
+    const QString first = entries_.empty() ? QString() : QString::number(entries_.front().target);
+    quickWindow_->setPicture(app().mediaPicture(QStringLiteral("foto\\Male\\r%1.bmp").arg(first)), {});
+}
+
+void frmSeznam::refreshPanel() {
+    if (source_ == Source::Help) return;
+    panelMode_ == Panel::Photo ? showPhoto() : showWine();
+}
+
+void frmSeznam::showPhoto() {
+    const ListEntry* entry = selectedEntry();
+    if (!entry) return;
+    panelMode_ = Panel::Photo;
+    lblVino.hide();
+    imgBtn[0]->setLatched(true);
+    imgBtn[1]->setLatched(false);
+    const Picture photo = app().mediaPicture(QStringLiteral("foto\\Male\\r%1.bmp").arg(entry->target));
+    showPictureOrWords(picFoto, photo, entry->Nazev);
+    picFoto.setTip(entry->Nazev);
+    if (!quickWindow_) return;
+    quickWindow_->setPicture(photo, entry->Nazev);
+    quickWindow_->show();
+}
+
+void frmSeznam::showWine() {
+    const ListEntry* entry = selectedEntry();
+    if (!entry) return;
+    panelMode_ = Panel::Wine;
+    if (quickWindow_) quickWindow_->hide();
+    imgBtn[0]->setLatched(false);
+    imgBtn[1]->setLatched(true);
+    picFoto.setPicture(app().mediaPicture(QStringLiteral("foto\\vino256.bmp")), Fit::Cover);
+    const QString text = wineText(app().Db(), entry->Nazev, entry->target);
+    picFoto.setTip(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    lblVino.setText(text);
+    // A long list of wines is set smaller, down to what can still be read.
+    TextFont font{QStringLiteral("Times New Roman"), 15};
+    const QRect place = seznam::kWineText;
+    while (font.size > 11 && Label::measure(text, font, place.width()).height() > place.height())
+        font.size -= 1;
+    lblVino.setFont(font);
+    const int height = Label::measure(text, font, place.width()).height();
+    lblVino.place({place.topLeft(), QSize(place.width(), std::min(height, place.height()))});
+    lblVino.show();
+    const QRect paper = lblVino.twips().translated(-seznam::kPhoto.topLeft()).adjusted(-70, -40, 70, 40);
+    picFoto.addPainted([paper](QPainter& painter, const QRect&) { paintPaper(painter, paper); },
+                       seznam::kPhoto.height());
+}
+
+// --- coming and going
+
+void frmSeznam::goBack() {
+    app().PopScreen(*this);
+}
+
+void frmSeznam::unload() {
+    if (quickWindow_) quickWindow_->unload();
+    Form::unload();
+}
+
+void frmSeznam::restored() {
+    if (quickWindow_ && panelMode_ == Panel::Photo) quickWindow_->raise();
+    focusButton();
+}
+
+void frmSeznam::gotFocus() {
+    app().BringTopToFront(name());
+}
+
+}  // namespace sarne

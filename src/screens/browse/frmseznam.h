@@ -1,0 +1,102 @@
+#pragma once
+
+#include <QPointer>
+#include <memory>
+#include <vector>
+
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/picturebox.h"
+#include "forms/timer.h"
+#include "screens/browse/frmrychlyrecept.h"
+#include "screens/browse/lettersearch.h"
+#include "screens/browse/listentries.h"
+#include "screens/browse/listpages.h"
+#include "screens/browse/picturebutton.h"
+
+namespace sarne {
+
+/// The paged list of recipes, quick recipes or help topics, with a panel beside it that shows the selected
+/// recipe's photo or its wines.
+class frmSeznam : public Form {
+    Q_OBJECT
+  public:
+    explicit frmSeznam(basSarne& app);
+
+    /// Lists the records \a ids ("12,40,7,"; all when empty) of the table \a source ("recepty",
+    /// "RychleRecepty" or "Help") and opens the list over the current screen.
+    void Zobraz(const QString& ids, const QString& source);
+
+    const ListPages& pages() const { return pages_; }
+
+    void goBack() override;
+    void restored() override;
+    void unload() override;
+
+  protected:
+    bool keyDown(QKeyEvent& event) override;
+    void gotFocus() override;
+    void wheelEvent(QWheelEvent* event) override;
+    void paint(QPainter& painter) override;
+
+  private:
+    enum class Source { Recipes, QuickRecipes, Help };
+    enum class Panel { Photo, Wine };
+
+    void buildList();
+    void buildPanel();
+    void buildBar();
+    void connectRow(int row);
+    void connectArrow(int arrow);
+    PictureButton* addAction(int index, const QString& face, const QString& word, const QString& tip);
+
+    void fill(const QString& ids, const QString& source);
+    void showButtonsOfSource();
+    void startPanel();
+
+    // What the user does.
+    void selectRow(int row);
+    void scroll(int step);
+    void action(int index);
+    void mainAction(int index);
+    void openSelected();
+    void printEntries();
+    void showPhotos(bool slideShow);
+    bool jumpToLetter(const QKeyEvent& event);
+    bool moveByKey(int key);
+
+    void drawPage();
+    void selectionChanged();
+    void refreshPanel();
+    void showPhoto();
+    void showWine();
+    const ListEntry* selectedEntry() const;
+    const ListEntry* visiblySelected() const;
+
+    std::vector<PictureButton*> focusOrder() const;
+    void moveFocus(int step);
+    void focusButton();
+    void runFocused();
+
+    Source source_ = Source::Recipes;
+    QString sourceText_;
+    std::vector<ListEntry> entries_;
+    ListPages pages_;
+    LetterSearch letters_;
+    Panel panelMode_ = Panel::Photo;
+    int focusedButton_ = 0;
+    int wheel_ = 0;
+    bool heldArrow_ = false;
+
+    Label lblNadpis, lblPozice;
+    std::vector<Label*> lblSeznam;
+    PictureBox imgJablko, picFoto;
+    Label lblVino;
+    std::vector<PictureBox*> ImgTlacitko;
+    std::vector<PictureButton*> imgBtn, imgBtnHlavni, imgSipky;
+    std::vector<Label*> words_;
+    Timer Timer2;
+    QPointer<frmRychlyRecept> quickWindow_;
+};
+
+}  // namespace sarne

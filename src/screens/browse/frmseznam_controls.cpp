@@ -1,0 +1,296 @@
+#include <QKeyEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "core/value.h"
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/resources.h"
+#include "screens/browse/frmseznam.h"
+#include "screens/browse/frmseznam_layout.h"
+
+// The list's controls: how they are made, painted, and moved with the keyboard.
+namespace sarne {
+namespace {
+
+constexpr int kHoldDelay = 500;    // milliseconds until a held arrow scrolls on
+constexpr int kHoldInterval = 50;  // and between its steps
+constexpr int kWheelNotch = 120;   // what the wheel reports for one notch
+
+const TextFont kTitleFont{QStringLiteral("Times New Roman"), 22, true};
+const TextFont kPositionFont{QStringLiteral("Arial"), 16};
+const TextFont kRowFont{QStringLiteral("Arial"), 14};
+const TextFont kWordFont{QStringLiteral("Arial"), 12};
+
+}  // namespace
+
+// --- making them
+
+void frmSeznam::buildList() {
+    lblNadpis.place(seznam::kTitle);
+    lblNadpis.setFont(kTitleFont);
+    lblNadpis.setColor(colors::kTitle);
+    lblNadpis.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    lblPozice.place(seznam::kPosition);
+    lblPozice.setFont(kPositionFont);
+    lblPozice.setColor(colors::kTitle);
+    lblPozice.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    for (int row = 1; row <= seznam::kRows; ++row) connectRow(row);
+    imgJablko.setPicture(app().resources().picture(QStringLiteral("Jablko")));
+    imgJablko.setAttribute(Qt::WA_TransparentForMouseEvents);
+    for (int arrow = 0; arrow < seznam::kArrows; ++arrow) connectArrow(arrow);
+    connect(&Timer2, &Timer::tick, this, [this] {
+        heldArrow_ = true;
+        Timer2.setInterval(kHoldInterval);
+        scroll(static_cast<int>(leadingNumber(Timer2.tag())));
+    });
+}
+
+void frmSeznam::connectRow(int row) {
+    auto* label = new Label(*this, QStringLiteral("lblSeznam(%1)").arg(row));
+    label->place(seznam::row(row));
+    label->setFont(kRowFont);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    label->setClickable(true);
+    connect(label, &Control::clicked, this, [this, row] { selectRow(row); });
+    connect(label, &Control::doubleClicked, this, [this, row] {
+        if (pages_.selectedRow() == row) action(2);
+    });
+    lblSeznam.push_back(label);
+}
+
+void frmSeznam::connectArrow(int arrow) {
+    static constexpr const char* kFaces[] = {"SipkaDolu", "SipkaNahoru", "SipkaNahoruRychle",
+                                             "SipkaDoluRychle"};
+    static constexpr const char* kWords[] = {"▼", "▲", "▲▲", "▼▼"};
+    static const QString kTips[] = {QStringLiteral("O řádek dolů"), QStringLiteral("O řádek nahoru"),
+                                    QStringLiteral("O půl strany nahoru"),
+                                    QStringLiteral("O půl strany dolů")};
+    auto* button = new PictureButton(*this, QStringLiteral("imgSipky(%1)").arg(arrow));
+    button->place(seznam::arrow(arrow));
+    button->dress(app(), QLatin1String(kFaces[arrow]), QString::fromUtf8(kWords[arrow]));
+    button->setTip(kTips[arrow]);
+    button->setFocusPolicy(Qt::NoFocus);
+    const auto step = [this, arrow] {
+        return arrow == 0 ? 1 : arrow == 1 ? -1 : pages_.halfPage(arrow == 2 ? -1 : 1);
+    };
+    connect(button, &Control::pressed, this, [this, step] {
+        heldArrow_ = false;
+        Timer2.setTag(QString::number(step()));
+        Timer2.setInterval(kHoldDelay);
+        Timer2.setEnabled(true);
+    });
+    connect(button, &Control::released, this, [this] { Timer2.setEnabled(false); });
+    connect(button, &Control::clicked, this, [this, step] {
+        if (!heldArrow_) scroll(step());
+    });
+    imgSipky.push_back(button);
+}
+
+PictureButton* frmSeznam::addAction(int index, const QString& face, const QString& word, const QString& tip) {
+    auto* plate = new PictureBox(*this, QStringLiteral("ImgTlacitko(%1)").arg(index));
+    plate->setAttribute(Qt::WA_TransparentForMouseEvents);
+    ImgTlacitko.push_back(plate);
+    auto* button = new PictureButton(*this, QStringLiteral("imgBtn(%1)").arg(index));
+    button->dress(app(), face, word);
+    button->setTip(tip);
+    connect(button, &Control::clicked, this, [this, index, button] {
+        const auto order = focusOrder();
+        focusedButton_ = static_cast<int>(std::ranges::find(order, button) - order.begin());
+        action(index);
+    });
+    auto* label = new Label(*this, QStringLiteral("lblBtn(%1)").arg(index));
+    label->setFont(kWordFont);
+    label->setColor(colors::kTitle);
+    label->setAlignment(Qt::AlignCenter);
+    label->setText(word);
+    words_.push_back(label);
+    return button;
+}
+
+void frmSeznam::buildPanel() {
+    picFoto.place(seznam::kPhoto);
+    connect(&picFoto, &Control::clicked, this, [this] {
+        if (panelMode_ == Panel::Photo && selectedEntry()) showPhotos(false);
+    });
+    lblVino.hide();
+    imgBtn = {
+        addAction(0, QStringLiteral("Foto"), QStringLiteral("Foto"), QStringLiteral("Zobrazí malé foto")),
+        addAction(1, QStringLiteral("Vino"), QStringLiteral("Víno"), QStringLiteral("Zobrazí vhodná vína")),
+        addAction(2, QStringLiteral("Recept"), QStringLiteral("Recept"), QStringLiteral("Otevře recept"))};
+}
+
+void frmSeznam::buildBar() {
+    static const struct {
+        QString face, word, tip;
+    } kBar[] = {{QStringLiteral("Tisk"), QStringLiteral("Tisk"), QStringLiteral("Tisk")},
+                {QStringLiteral("Help"), QStringLiteral("?"), QStringLiteral("Nápověda")},
+                {QStringLiteral("Zpet"), QStringLiteral("Zpět"), QStringLiteral("Zpět")},
+                {QStringLiteral("Konec"), QStringLiteral("Konec"), QStringLiteral("Konec programu")},
+                {QStringLiteral("Hudba"), QStringLiteral("♪"), QStringLiteral("Hudba a zvuky")}};
+    for (int index = 0; index < seznam::kBarButtons; ++index) {
+        auto* button = new PictureButton(*this, QStringLiteral("imgBtnHlavni(%1)").arg(index));
+        button->place(seznam::barButton(index));
+        button->dress(app(), kBar[index].face, kBar[index].word);
+        button->setTip(kBar[index].tip);
+        connect(button, &Control::clicked, this, [this, index, button] {
+            const auto order = focusOrder();
+            focusedButton_ = static_cast<int>(std::ranges::find(order, button) - order.begin());
+            mainAction(index);
+        });
+        imgBtnHlavni.push_back(button);
+    }
+}
+
+void frmSeznam::showButtonsOfSource() {
+    lblNadpis.setText(source_ == Source::Recipes ? QStringLiteral("Recepty")
+                      : source_ == Source::Help  ? QStringLiteral("Nápověda")
+                                                 : QStringLiteral("Rychlé recepty"));
+    const bool shown[] = {source_ == Source::Recipes, source_ != Source::Help, true};
+    for (int index = 0, place = 0; index < seznam::kActions; ++index) {
+        const auto at = size_t(index);
+        for (Control* part : std::initializer_list<Control*>{ImgTlacitko[at], imgBtn[at], words_[at]})
+            part->setVisible(shown[index]);
+        if (!shown[index]) continue;
+        ImgTlacitko[at]->place(seznam::action(place));
+        ImgTlacitko[at]->setPicture(app().resources().picture(QStringLiteral("Tlacitko")), Fit::Stretch);
+        imgBtn[at]->place(seznam::action(place));
+        words_[at]->place(seznam::actionWord(place++));
+    }
+    words_[2]->setText(source_ == Source::Help ? QStringLiteral("Otevřít") : QStringLiteral("Recept"));
+    imgBtn[2]->setTip(source_ == Source::Help ? QStringLiteral("Otevře stránku nápovědy")
+                                              : QStringLiteral("Otevře recept"));
+    imgBtn[0]->setLatched(panelMode_ == Panel::Photo);
+    imgBtnHlavni[0]->setVisible(source_ != Source::Help);
+}
+
+// --- painting
+
+void frmSeznam::paint(QPainter& painter) {
+    const QRect screen({0, 0}, twips().size());
+    painter.fillRect(screen, colors::kNight);
+    app().Pictures.seznam.draw(painter, screen, Fit::Cover);
+    for (const QRect& plate : {seznam::kHeader, seznam::kPanel, seznam::kActionPlate, seznam::kBarPlate})
+        paintPlate(painter, plate);
+    paintPaper(painter, seznam::kPaper);
+    painter.setPen(Qt::NoPen);
+    if (const int row = pages_.selectedRow()) {
+        painter.setBrush(colors::kSelected);
+        painter.drawRoundedRect(seznam::rowBar(row), 90, 90);
+    }
+    if (!pages_.scrolls()) return;
+    paintPlate(painter, seznam::kArrowPlate);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colors::kNight);
+    painter.drawRoundedRect(seznam::kTrack, 55, 55);
+    QRectF thumb = seznam::kTrack;
+    thumb.setTop(seznam::kTrack.y() + double(seznam::kTrack.height()) * pages_.top() / pages_.count());
+    thumb.setHeight(double(seznam::kTrack.height()) * pages_.rows() / pages_.count());
+    painter.setBrush(colors::kCopper);
+    painter.drawRoundedRect(thumb, 55, 55);
+}
+
+// --- the keyboard and the wheel
+
+void frmSeznam::wheelEvent(QWheelEvent* event) {
+    event->accept();
+    if (!pages_.scrolls()) return;
+    wheel_ += event->angleDelta().y();
+    const int notches = wheel_ / kWheelNotch;
+    wheel_ -= notches * kWheelNotch;
+    if (notches != 0) scroll(-notches);
+}
+
+bool frmSeznam::keyDown(QKeyEvent& event) {
+    if (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) return false;
+    switch (event.key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Backtab:
+            moveFocus(-1);
+            return true;
+        case Qt::Key_Right:
+        case Qt::Key_Tab:
+            moveFocus(1);
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            runFocused();
+            return true;
+        case Qt::Key_Escape:
+            goBack();
+            return true;
+        case Qt::Key_Space:
+            showPhotos(true);
+            return true;
+        default:
+            return moveByKey(event.key()) || jumpToLetter(event);
+    }
+}
+
+bool frmSeznam::moveByKey(int key) {
+    const int selected = pages_.selectedEntry();
+    switch (key) {
+        case Qt::Key_Up:
+            pages_.moveRow(-1);
+            break;
+        case Qt::Key_Down:
+            pages_.moveRow(1);
+            break;
+        case Qt::Key_PageUp:
+            pages_.movePage(-1);
+            break;
+        case Qt::Key_PageDown:
+            pages_.movePage(1);
+            break;
+        case Qt::Key_Home:
+            pages_.moveToFirst();
+            break;
+        case Qt::Key_End:
+            pages_.moveToLast();
+            break;
+        default:
+            return false;
+    }
+    drawPage();
+    if (pages_.selectedEntry() != selected) selectionChanged();
+    return true;
+}
+
+bool frmSeznam::jumpToLetter(const QKeyEvent& event) {
+    const QString text = event.text();
+    if (text.size() != 1 || !text[0].isLetter()) return false;
+    if (event.key() == Qt::Key_C || event.key() == Qt::Key_X) return false;
+    const int current = pages_.selectedEntry();
+    int found = findByLetters(entries_, current, letters_.add(text[0], app().clock().now()));
+    if (found < 0) found = findByLetters(entries_, current, letters_.restart());
+    if (pages_.selectEntry(found)) selectionChanged();
+    drawPage();
+    return true;
+}
+
+std::vector<PictureButton*> frmSeznam::focusOrder() const {
+    std::vector<PictureButton*> order;
+    for (const auto* buttons : {&imgBtn, &imgBtnHlavni}) {
+        for (PictureButton* button : *buttons) {
+            if (!button->isHidden()) order.push_back(button);
+        }
+    }
+    return order;
+}
+
+void frmSeznam::moveFocus(int step) {
+    const int count = static_cast<int>(focusOrder().size());
+    focusedButton_ = (focusedButton_ + step + count) % count;
+    focusButton();
+}
+
+void frmSeznam::focusButton() {
+    focusOrder()[size_t(focusedButton_)]->setFocus(Qt::TabFocusReason);
+}
+
+void frmSeznam::runFocused() {
+    focusOrder()[size_t(focusedButton_)]->click();
+}
+
+}  // namespace sarne

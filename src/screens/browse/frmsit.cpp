@@ -1,0 +1,213 @@
+#include "screens/browse/frmsit.h"
+
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "db/database.h"
+#include "forms/bassarne.h"
+#include "forms/screens.h"
+#include "screens/browse/frmsit_layout.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kInformation = 64;  // message box: information, OK
+
+}  // namespace
+
+void frmSit::Zobraz() {
+    readNames();
+    grid_ = PhotoGrid();
+    applyGroup();
+    app().PushScreen(*this);
+    showForm();
+}
+
+void frmSit::readNames() {
+    Recordset recipes = app().Db().OpenTable(QStringLiteral("Recepty"));
+    recipes.setIndex(QStringLiteral("PrimaryKey"));
+    for (int cell = 1; cell <= PhotoGrid::kCells; ++cell) {
+        recipes.Seek(QStringLiteral("="), cell);
+        names_[size_t(cell)] =
+            recipes.NoMatch() ? QString() : recipes.field(QStringLiteral("Nazev")).toString();
+        imgFoto[size_t(cell - 1)]->setAccessibleName(names_[size_t(cell)]);
+    }
+}
+
+// --- groups
+
+void frmSit::setGroup(int group) {
+    if (!grid_.setGroup(group)) return;
+    applyGroup();
+    showName();
+}
+
+void frmSit::applyGroup() {
+    const size_t shown = grid_.isWhole() ? PhotoGrid::kGroups : size_t(grid_.group());
+    if (composites_[shown].isNull()) {
+        const QString name = grid_.isWhole() ? QStringLiteral("Cela") : QString::number(grid_.group());
+        composites_[shown] = app().mediaPicture(QStringLiteral("foto\\sit%1.bmp").arg(name));
+    }
+    for (int cell = 1; cell <= PhotoGrid::kCells; ++cell)
+        imgFoto[size_t(cell - 1)]->setEnabled(grid_.isAlive(cell));
+    for (int group = 0; group < PhotoGrid::kGroups; ++group)
+        imgSkupina[size_t(group)]->setLatched(group == grid_.group());
+    imgCela->setLatched(grid_.isWhole());
+    update();
+}
+
+// --- cells
+
+void frmSit::hoverOver(int cell) {
+    if (grid_.hover(cell)) showName();
+}
+
+void frmSit::clickOn(int cell) {
+    grid_.click(cell);
+    showName();
+}
+
+void frmSit::showName() {
+    const QString name = names_[size_t(grid_.cell())];
+    Label1.setText(brokenIntoLines(name, nameFont(), Label1.twips().width()));
+    update();
+}
+
+void frmSit::cellChanged() {
+    showName();
+    app().HookMessage(names_[size_t(grid_.cell())]);
+}
+
+// --- what the bar does
+
+bool frmSit::needsCell() {
+    if (grid_.isAlive(grid_.cell())) return true;
+    grid_.clear();
+    app().ZobrazZpravu(QStringLiteral("Jeden recept musí být vybrán"), kInformation);
+    return false;
+}
+
+void frmSit::showPhoto() {
+    if (!needsCell()) return;
+    PhotoRequest request;
+    request.photoIds = grid_.photoIds();
+    request.startPosition = grid_.photoPosition();
+    app().screens().showPhotos(request);
+}
+
+void frmSit::showRecipe() {
+    if (needsCell()) app().screens().showRecipe(static_cast<std::int16_t>(grid_.cell()));
+}
+
+void frmSit::barAction(int index) {
+    switch (index) {
+        case 0:
+            return showPhoto();
+        case 1:
+            return help();
+        case 2:
+            return showRecipe();
+        case 3:
+            return goBack();
+        case 4:
+            return endProgram();
+    }
+}
+
+// --- the keyboard
+
+bool frmSit::keyDown(QKeyEvent& event) {
+    if (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) return false;
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (focused_)
+                focused_->click();
+            else
+                showRecipe();
+            return true;
+        case Qt::Key_Space:
+            showPhoto();
+            return true;
+        case Qt::Key_Tab:
+            moveFocus(1);
+            return true;
+        case Qt::Key_Backtab:
+            moveFocus(-1);
+            return true;
+        case Qt::Key_Escape:
+            goBack();
+            return true;
+        default:
+            return moveByKey(event.key()) || groupByKey(event.key());
+    }
+}
+
+bool frmSit::moveByKey(int key) {
+    const int right = key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : 0;
+    const int down = key == Qt::Key_Down ? 1 : key == Qt::Key_Up ? -1 : 0;
+    if (right == 0 && down == 0) return false;
+    focused_ = nullptr;
+    setFocus();  // away from a button: Enter means the cell again
+    if (grid_.move(right, down)) cellChanged();
+    return true;
+}
+
+bool frmSit::groupByKey(int key) {
+    if (key == Qt::Key_0) setGroup(PhotoGrid::kNoGroup);
+    if (key >= Qt::Key_1 && key < Qt::Key_1 + PhotoGrid::kGroups) setGroup(key - Qt::Key_1);
+    return key >= Qt::Key_0 && key <= Qt::Key_9;
+}
+
+std::vector<PictureButton*> frmSit::focusOrder() const {
+    std::vector<PictureButton*> order = imgSkupina;
+    order.push_back(imgCela);
+    order.insert(order.end(), imgBtnHlavni.begin(), imgBtnHlavni.end());
+    return order;
+}
+
+/// To the next button; the cells stand between the last and the first.
+void frmSit::moveFocus(int step) {
+    const auto order = focusOrder();
+    const int places = static_cast<int>(order.size()) + 1;
+    const auto at = static_cast<int>(std::ranges::find(order, focused_) - order.begin());
+    const int next = (at + step + places) % places;
+    focused_ = next == places - 1 ? nullptr : order[size_t(next)];
+    takeFocus();
+}
+
+void frmSit::takeFocus() {
+    QWidget* const target = focused_ ? static_cast<QWidget*>(focused_) : this;
+    target->setFocus(Qt::TabFocusReason);
+}
+
+// --- coming and going
+
+void frmSit::goBack() {
+    app().PopScreen(*this);
+}
+
+void frmSit::restored() {
+    applyGroup();
+    takeFocus();
+}
+
+void frmSit::gotFocus() {
+    app().BringTopToFront(name());
+}
+
+QString brokenIntoLines(const QString& text, const TextFont& font, int width) {
+    QString lines, line;
+    for (const QString& word : text.split(u' ', Qt::SkipEmptyParts)) {
+        const QString longer = line.isEmpty() ? word : line + u' ' + word;
+        if (line.isEmpty() || Label::measure(longer, font).width() <= width) {
+            line = longer;
+            continue;
+        }
+        lines += line + u'\n';
+        line = word;
+    }
+    return lines + line;
+}
+
+}  // namespace sarne

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "forms/button.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "screens/browse/photogrid.h"
+#include "screens/browse/picturebutton.h"
+
+namespace sarne {
+
+/// The photos of all recipes as one composite picture with an invisible button over each, and the groups that
+/// narrow it.
+class frmSit : public Form {
+    Q_OBJECT
+  public:
+    explicit frmSit(basSarne& app);
+
+    /// Opens the whole grid over the current screen.
+    void Zobraz();
+
+    const PhotoGrid& grid() const { return grid_; }
+
+    void goBack() override;
+    void restored() override;
+
+  protected:
+    bool keyDown(QKeyEvent& event) override;
+    void gotFocus() override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void paint(QPainter& painter) override;
+
+  private:
+    void buildCells();
+    void buildGroups();
+    void buildBar();
+    PictureButton* addBarButton(int index, const QString& face, const QString& word, const QString& tip);
+    void readNames();
+
+    void setGroup(int group);
+    void applyGroup();
+    void hoverOver(int cell);
+    void clickOn(int cell);
+    void cellChanged();
+    void showName();
+    void showPhoto();
+    void showRecipe();
+    bool needsCell();
+    void barAction(int index);
+
+    bool moveByKey(int key);
+    bool groupByKey(int key);
+    std::vector<PictureButton*> focusOrder() const;
+    void moveFocus(int step);
+    void takeFocus();
+    static TextFont nameFont();
+
+    PhotoGrid grid_;
+    std::array<QString, PhotoGrid::kCells + 1> names_;
+    std::array<Picture, PhotoGrid::kGroups + 1> composites_;  // the groups', then the whole
+    std::vector<Button*> imgFoto;                             // cell 1 first
+    std::vector<PictureButton*> imgSkupina, imgBtnHlavni;
+    PictureButton* imgCela;
+    PictureButton* focused_ = nullptr;  // the button that Enter presses; none while it means the cell
+    Label Label1;
+};
+
+/// \a text broken at blanks into lines no wider than \a width in \a font, joined by "\n"; a word that is
+/// wider has a line of its own.
+QString brokenIntoLines(const QString& text, const TextFont& font, int width);
+
+}  // namespace sarne

@@ -1,0 +1,119 @@
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/screens.h"
+#include "screens/browse/frmsit.h"
+#include "screens/browse/frmsit_layout.h"
+
+// The grid's controls: how they are made, painted, and used with the mouse.
+namespace sarne {
+namespace {
+
+constexpr int kCellFrame = 55;  // thickness of the frame of the chosen cell, twips
+
+}  // namespace
+
+TextFont frmSit::nameFont() {
+    return {QStringLiteral("Times New Roman"), 16, true};
+}
+
+frmSit::frmSit(basSarne& run)
+    : Form(run, QStringLiteral("frmSit")),
+      imgCela(new PictureButton(*this, QStringLiteral("imgCela"))),
+      Label1(*this, QStringLiteral("Label1")) {
+    setAccessibleName(QStringLiteral("Zobrazení fotografií"));
+    setWindowTitle(QStringLiteral("Zobrazení fotografií"));
+    buildCells();
+    buildGroups();
+    buildBar();
+    Label1.place(sit::kName);
+    Label1.setFont(nameFont());
+    Label1.setColor(colors::kTitle);
+    Label1.setAlignment(Qt::AlignCenter);
+}
+
+void frmSit::buildCells() {
+    for (int cell = 1; cell <= PhotoGrid::kCells; ++cell) {
+        auto* button = new Button(*this, QStringLiteral("imgFoto(%1)").arg(cell));
+        button->place(PhotoGrid::cellRect(cell));
+        button->setFocusPolicy(Qt::NoFocus);
+        connect(button, &Control::hovered, this, [this, cell] { hoverOver(cell); });
+        connect(button, &Control::clicked, this, [this, cell] { clickOn(cell); });
+        connect(button, &Control::doubleClicked, this, [this, cell] {
+            grid_.lock(cell);
+            showName();
+            showRecipe();
+        });
+        imgFoto.push_back(button);
+    }
+}
+
+void frmSit::buildGroups() {
+    static const QString kNames[] = {QStringLiteral("Polévky"), QStringLiteral("Teplá jídla"),
+                                     QStringLiteral("Studená jídla"), QStringLiteral("Slavnostní mísy")};
+    for (int group = 0; group < PhotoGrid::kGroups; ++group) {
+        auto* button = new PictureButton(*this, QStringLiteral("imgSkupina(%1)").arg(group));
+        button->place(sit::group(group));
+        button->dress(app(), QStringLiteral("Skupina%1").arg(group), kNames[group],
+                      PictureButton::Word::Beside);
+        button->setTip(kNames[group]);
+        button->setFocusPolicy(Qt::TabFocus);
+        connect(button, &Control::clicked, this, [this, group] { setGroup(group); });
+        imgSkupina.push_back(button);
+    }
+    imgCela->place(sit::kWhole);
+    imgCela->dress(app(), {}, QStringLiteral("Všechny"));
+    imgCela->setTip(QStringLiteral("Zobrazí všechny recepty"));
+    imgCela->setFocusPolicy(Qt::TabFocus);
+    connect(imgCela, &Control::clicked, this, [this] { setGroup(PhotoGrid::kNoGroup); });
+}
+
+void frmSit::buildBar() {
+    static const struct {
+        QString face, word, tip;
+    } kBar[] = {{QStringLiteral("Foto"), QStringLiteral("Foto"), QStringLiteral("Zobrazí foto")},
+                {QStringLiteral("Help"), QStringLiteral("?"), QStringLiteral("Nápověda")},
+                {QStringLiteral("Recept"), QStringLiteral("Recept"), QStringLiteral(" Zobraz recept ")},
+                {QStringLiteral("Zpet"), QStringLiteral("Zpět"), QStringLiteral("Zpět")},
+                {QStringLiteral("Konec"), QStringLiteral("Konec"), QStringLiteral("Konec programu")}};
+    for (int index = 0; index < sit::kBarButtons; ++index) {
+        auto* button = new PictureButton(*this, QStringLiteral("imgBtnHlavni(%1)").arg(index));
+        button->place(sit::barButton(index));
+        button->dress(app(), kBar[index].face, kBar[index].word);
+        button->setTip(kBar[index].tip);
+        button->setFocusPolicy(Qt::TabFocus);
+        connect(button, &Control::clicked, this, [this, index] { barAction(index); });
+        imgBtnHlavni.push_back(button);
+    }
+}
+
+void frmSit::mousePressEvent(QMouseEvent* event) {
+    const QPoint at = toTwips(event->position());
+    // A miss between the buttons is no click on the background.
+    if (event->button() != Qt::LeftButton || sit::kGroupPlate.contains(at) || sit::kBarPlate.contains(at))
+        return;
+    grid_.unlock();
+    setGroup(PhotoGrid::kNoGroup);
+    update();
+}
+
+void frmSit::paint(QPainter& painter) {
+    const QRect screen({0, 0}, twips().size());
+    painter.fillRect(screen, colors::kNight);
+    const Picture& composite =
+        composites_[grid_.isWhole() ? size_t(PhotoGrid::kGroups) : size_t(grid_.group())];
+    (composite.isNull() ? app().Pictures.Sit : composite).draw(painter, screen, Fit::Stretch);
+    for (const QRect& plate : {sit::kGroupPlate, sit::kBarPlate}) paintPlate(painter, plate);
+    if (!Label1.text().isEmpty()) paintPlate(painter, sit::kNamePlate);
+    if (grid_.cell() == 0) return;
+    const QRectF cell = QRectF(PhotoGrid::cellRect(grid_.cell())).adjusted(10, 10, -10, -10);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(colors::kNight, 2 * kCellFrame));
+    painter.drawRoundedRect(cell, 60, 60);
+    painter.setPen(QPen(grid_.isLocked() ? colors::kTitle : colors::kCopper, kCellFrame));
+    painter.drawRoundedRect(cell, 60, 60);
+}
+
+}  // namespace sarne

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+namespace sarne {
+
+/// Letters typed shortly after one another, which together begin the name that is looked for.
+class LetterSearch {
+  public:
+    /// The letters so far with \a letter, typed at \a now (milliseconds). After a pause they begin anew.
+    QString add(QChar letter, qint64 now) {
+        constexpr qint64 kPause = 1000;
+        if (now - last_ > kPause) typed_.clear();
+        last_ = now;
+        return typed_ += letter;
+    }
+    /// Only the last letter counts: what was typed before it begins no name.
+    QString restart() { return typed_ = typed_.right(1); }
+    void clear() { typed_.clear(); }
+
+  private:
+    QString typed_;
+    qint64 last_ = 0;
+};
+
+}  // namespace sarne

@@ -1,0 +1,92 @@
+#include "screens/browse/listentries.h"
+
+#include "core/value.h"
+#include "db/database.h"
+
+namespace sarne {
+namespace {
+
+/// What the record \a records stands on leads to: itself in the table of recipes, otherwise what it says.
+std::int32_t targetOf(const Recordset& records, bool recipes) {
+    const QVariant number = records.field(recipes ? QStringLiteral("ID") : QStringLiteral("Recept"));
+    return toRecordId(number.toLongLong()).value_or(0);
+}
+
+ListEntry entryOf(const Recordset& records, bool recipes) {
+    return {records.field(QStringLiteral("id")).toInt(), records.field(QStringLiteral("Nazev")).toString(),
+            targetOf(records, recipes)};
+}
+
+bool isFull(const std::vector<ListEntry>& entries) {
+    return entries.size() >= kMostEntries;
+}
+
+QChar withoutAccent(QChar letter) {
+    const QString parts = letter.decomposition();
+    return parts.isEmpty() ? letter : parts.front();
+}
+
+bool sameLetter(QChar inName, QChar typed) {
+    inName = inName.toLower();
+    typed = typed.toLower();
+    return inName == typed || withoutAccent(inName) == typed;
+}
+
+bool beginsWith(const QString& name, const QString& letters) {
+    return name.size() >= letters.size() &&
+           std::equal(letters.begin(), letters.end(), name.begin(),
+                      [](QChar typed, QChar inName) { return sameLetter(inName, typed); });
+}
+
+}  // namespace
+
+std::vector<std::int16_t> parseIds(const QString& ids) {
+    std::vector<std::int16_t> parsed;
+    for (qsizetype at = 0;;) {
+        const qsizetype comma = ids.indexOf(u',', at);
+        if (comma < 0) return parsed;
+        if (const auto id = toRecordId(QStringView(ids).sliced(at, comma - at))) parsed.push_back(*id);
+        at = comma + 1;
+    }
+}
+
+std::vector<ListEntry> readEntries(Database& db, const QString& table, const QString& ids) {
+    const bool recipes = table.compare(u"recepty", Qt::CaseInsensitive) == 0;
+    std::vector<ListEntry> entries;
+    Recordset records = db.OpenTable(table);
+    records.setIndex(QStringLiteral("PrimaryKey"));
+    if (ids.isEmpty()) {
+        for (records.MoveFirst(); !records.AtEnd() && !isFull(entries); records.MoveNext())
+            entries.push_back(entryOf(records, recipes));
+        return entries;
+    }
+    for (const std::int16_t id : parseIds(ids)) {
+        if (isFull(entries)) break;
+        records.Seek(QStringLiteral("="), id);
+        if (!records.NoMatch()) entries.push_back(entryOf(records, recipes));
+    }
+    return entries;
+}
+
+QString wineText(Database& db, const QString& name, std::int32_t id) {
+    QString text = name + QStringLiteral(" Víno ");
+    Recordset wines = db.OpenQuery(QStringLiteral("SELECT Polozka ") + QStringLiteral("FROM Vino,SpojVino ") +
+                                   QStringLiteral("WHERE ID_Receptu = ") + QString::number(id) +
+                                   QStringLiteral(" AND ID = ID_Polozky "));
+    for (; !wines.AtEnd(); wines.MoveNext())
+        text += QStringLiteral("\r\n") + wines.field(QStringLiteral("polozka")).toString();
+    return text;
+}
+
+int findByLetters(const std::vector<ListEntry>& entries, int current, const QString& letters) {
+    const int count = static_cast<int>(entries.size());
+    if (letters.isEmpty() || count == 0) return -1;
+    const int from = std::max(0, letters.size() > 1 ? current : current + 1);
+    for (int step = 0; step < count; ++step) {
+        const int index = (from + step) % count;
+        if (beginsWith(entries[size_t(index)].Nazev, letters)) return index;
+    }
+    return -1;
+}
+
+}  // namespace sarne

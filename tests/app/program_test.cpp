@@ -1,0 +1,155 @@
+#include "app/program.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+
+#include "dialogs/frmdialog.h"
+#include "screens/navigation/frmhlavni.h"
+#include "support/fakeplatform.h"
+#include "support/fakesarne.h"
+#include "support/recipedatabase.h"
+
+namespace sarne {
+namespace {
+
+class ProgramTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        for (const char* name : {"program", "disc", "data"}) QDir(folder.path()).mkpath(QLatin1String(name));
+        test::writeRecipeDatabase(
+            path("program/Sarne.drc"),
+            {QStringLiteral("INSERT INTO Nastav VALUES (1,'a',1),(2,'b',0),(3,'c',1),(4,'d',0)")});
+        platform.settings.set(QStringLiteral("CDPath"), path("disc"));
+        make();
+    }
+    void make() {
+        program = std::make_unique<Program>(platform.parts(), Folders{path("program"), path("data")});
+        program->stage().resize(800, 600);
+        program->stage().show();
+    }
+    QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
+    static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+    /// Ends the program or asks to, and answers its question with \a key.
+    void exitAnswering(Qt::Key key) {
+        QTimer::singleShot(0, [key] { press(key); });
+        program->ConfirmExit();
+    }
+
+    QTemporaryDir folder;
+    FakePlatform platform;
+    std::unique_ptr<Program> program;
+};
+
+TEST_F(ProgramTest, StartsWithItsFoldersAndSettings) {
+    ASSERT_TRUE(program->Main({}));
+    EXPECT_EQ(program->AppDir, LogicalPaths::fromNativeFolder(path("program")));
+    EXPECT_EQ(program->MediaRoot, LogicalPaths::fromNativeFolder(path("disc")));
+    EXPECT_TRUE(program->Db().isOpen());
+    EXPECT_EQ(program->SoundFlags, (std::array<bool, 5>{true, false, true, false, false}))
+        << "four rows are read, not five";
+    EXPECT_EQ(program->FormStack.top(), program->mainScreen());
+    EXPECT_TRUE(program->mainScreen()->isVisible());
+    EXPECT_EQ(program->stage().forms().size(), 2u) << "main screen and menu; the splash is unloaded";
+    EXPECT_TRUE(platform.music.commands.isEmpty()) << "music is switched off";
+}
+
+TEST_F(ProgramTest, TheShowSwitchIsTheWholeCommandLine) {
+    for (const char* line : {"s", "/s", "-s"}) EXPECT_TRUE(isShowSwitch(QLatin1String(line))) << line;
+    for (const char* line : {"", "S", "/S", "/s x", "--s", " s"})
+        EXPECT_FALSE(isShowSwitch(QLatin1String(line))) << line;
+    ASSERT_TRUE(program->Main(QStringLiteral("-s")));
+    EXPECT_TRUE(program->ShowMode);
+}
+
+TEST_F(ProgramTest, AsksForTheDriveWhenTheStoreNamesNone) {
+    const struct {
+        const char *stored, *typed, *root;
+    } cases[] = {{"", "e", "e:\\"}, {"/neni/tu", "Disk", "D:\\"}, {"Q:\\", "", ":\\"}};
+    for (const auto& c : cases) {
+        platform.settings.set(QStringLiteral("CDPath"), QLatin1String(c.stored));
+        make();
+        QTimer::singleShot(0, [&] {
+            const auto* prompt =
+                QApplication::focusWidget()->parentWidget()->parentWidget()->findChild<Label*>(
+                    QStringLiteral("Label1"));
+            EXPECT_EQ(prompt->text(), QStringLiteral("Nepodařilo se jednoznačně identifikovat Vaší CD-ROM "
+                                                     "mechaniku\r\nZadejte pismeno, které ji označuje:"));
+            QTest::keyClicks(QApplication::focusWidget(), QLatin1String(c.typed));
+            press(Qt::Key_Return);
+        });
+        ASSERT_TRUE(program->Main({}));
+        EXPECT_EQ(program->MediaRoot, QLatin1String(c.root));
+        EXPECT_EQ(program->mediaFile(QStringLiteral("HUDBA.WAV")), QString());
+    }
+}
+
+TEST_F(ProgramTest, ADriveLetterInTheStoreIsMapped) {
+    platform.settings.set(QStringLiteral("CDPath"), QStringLiteral("F:\\"));
+    platform.settings.set(QStringLiteral("Drives/F"), path("disc"));
+    ASSERT_TRUE(program->Main({}));
+    EXPECT_EQ(program->MediaRoot, QStringLiteral("F:\\"));
+    QFile(path("disc/hudba.wav")).open(QIODevice::WriteOnly);
+    EXPECT_EQ(program->mediaFile(QStringLiteral("HUDBA.WAV")), path("disc/hudba.wav"));
+}
+
+TEST_F(ProgramTest, NoLeavesEverythingAsItWas) {
+    ASSERT_TRUE(program->Main({}));
+    platform.music.commands.clear();
+    exitAnswering(Qt::Key_Escape);
+    EXPECT_FALSE(program->hasEnded());
+    EXPECT_TRUE(program->Db().isOpen());
+    EXPECT_TRUE(program->mainScreen()->isVisible());
+    EXPECT_TRUE(platform.music.commands.isEmpty());
+}
+
+TEST_F(ProgramTest, YesEndsWhateverIsOpen) {
+    ASSERT_TRUE(program->Main({}));
+    auto* screen = new Form(*program, QStringLiteral("frmSeznam"));
+    program->PushScreen(*screen);
+    screen->showForm();
+    program->SavedDisplayMode = QStringLiteral("1024,768");
+    exitAnswering(Qt::Key_Return);
+    EXPECT_TRUE(program->hasEnded());
+    EXPECT_EQ(platform.music.commands, (QStringList{QStringLiteral("stop"), QStringLiteral("close")}));
+    EXPECT_EQ(platform.music.notify, MediaNotify::Off);
+    EXPECT_TRUE(program->stage().forms().empty());
+    EXPECT_FALSE(program->Db().isOpen());
+    EXPECT_GT(platform.effects.stops, 0);
+    EXPECT_EQ(platform.display.asked, QList<QSize>{QSize(1024, 768)});
+    program->ConfirmExit();  // asks nothing more
+}
+
+TEST_F(ProgramTest, TheDisplayIsNotTouchedWithoutASavedMode) {
+    ASSERT_TRUE(program->Main({}));
+    exitAnswering(Qt::Key_Return);
+    EXPECT_TRUE(platform.display.asked.isEmpty());
+}
+
+TEST_F(ProgramTest, StartsAndEndsWithoutAnything) {
+    const QByteArray garbage(5000, 'g');
+    for (const char* kind : {"missing", "garbage", "empty"}) {
+        QFile::remove(path("program/Sarne.drc"));
+        if (*kind != 'm') {
+            for (const char* name : {"program/Sarne.drc", "program/KOp.bj", "program/Sarne.rcc"}) {
+                QFile file(path(name));
+                ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+                if (*kind == 'g') file.write(garbage);
+            }
+        }
+        platform.settings.set(QStringLiteral("CDPath"), path("disc"));
+        make();
+        ASSERT_TRUE(program->Main({})) << kind;
+        press(Qt::Key_PageDown);
+        press(Qt::Key_Return);
+        press(Qt::Key_Escape);
+        exitAnswering(Qt::Key_Return);
+        EXPECT_TRUE(program->hasEnded());
+    }
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
+
+#include "core/logicalpath.h"
+#include "support/fakesarne.h"
+#include "support/recipedatabase.h"
+
+namespace sarne {
+
+/// A run with a small cookbook: recipes "Recept 001" on, two wines for the odd ones, three quick recipes, two
+/// help topics, and photos where a test puts them.
+class BrowseTest : public testing::Test {
+  protected:
+    static constexpr int kRecipes = 50;
+
+    BrowseTest() {
+        const QString file = folder.filePath(QStringLiteral("Sarne.drc"));
+        test::writeRecipeDatabase(file, cookbook());
+        run.database.Open(file);
+        run.MediaRoot = LogicalPaths::fromNativeFolder(folder.path());
+        QDir().mkpath(folder.filePath(QStringLiteral("foto/Male")));
+        QDir().mkpath(folder.filePath(QStringLiteral("foto/Recepty")));
+    }
+
+    static QStringList cookbook() {
+        QStringList rows;
+        for (int id = 1; id <= kRecipes; ++id)
+            rows << QStringLiteral("INSERT INTO Recepty (ID, Nazev) VALUES (%1, 'Recept %2')")
+                        .arg(id)
+                        .arg(id, 3, 10, QLatin1Char('0'));
+        rows << QStringLiteral("INSERT INTO Vino (ID, Polozka) VALUES (1, 'Ryzlink rýnský'), (2, 'Pálava')")
+             << QStringLiteral("INSERT INTO SpojVino SELECT ID, 1 FROM Recepty WHERE ID % 2 = 1")
+             << QStringLiteral("INSERT INTO SpojVino SELECT ID, 2 FROM Recepty WHERE ID % 2 = 1")
+             << QStringLiteral(
+                    "INSERT INTO RychleRecepty (ID, Nazev, Recept) VALUES (1, 'Za deset minut', 29), "
+                    "(2, 'Ze skříně', 32), (3, 'Nikam', NULL)")
+             << QStringLiteral(
+                    "INSERT INTO Help (ID, Nazev, Recept) VALUES (1, 'Seznam receptů', 310), "
+                    "(2, 'Fotografie', 5)");
+        return rows;
+    }
+
+    /// Puts a photo of one colour at \a path below the media root.
+    void writePhoto(const char* path, QSize size = {40, 30}, const QColor& color = Qt::red) const {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(color);
+        ASSERT_TRUE(image.save(folder.filePath(QString::fromLatin1(path)), "BMP"));
+    }
+
+    static QPoint center(const QWidget* widget) { return widget->rect().center(); }
+    static void click(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton, {}, center(widget)); }
+    /// What a person's double click sends: a click, then the second press and its release.
+    static void doubleClick(QWidget* widget) {
+        click(widget);
+        QTest::mouseDClick(widget, Qt::LeftButton, {}, center(widget));
+    }
+    static void wheel(QWidget* widget, int notches) {
+        const QPointF at = center(widget);
+        QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, notches * 120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(widget, &event);
+    }
+    /// A key typed where the keyboard is.
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(run.window.focusWidget(), key, modifiers);
+    }
+    void type(char letter) { QTest::keyClick(run.window.focusWidget(), letter); }
+
+    QTemporaryDir folder;
+    FakeSarne run;
+};
+
+}  // namespace sarne

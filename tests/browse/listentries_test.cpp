@@ -1,0 +1,103 @@
+#include "screens/browse/listentries.h"
+
+#include "browse/browsefixture.h"
+#include "screens/browse/lettersearch.h"
+
+namespace sarne {
+namespace {
+
+using Ids = std::vector<std::int16_t>;
+
+TEST(ListIds, EachEndsWithAComma) {
+    const struct {
+        const char* text;
+        Ids ids;
+    } cases[] = {{"12,40,7,", {12, 40, 7}},
+                 {"5", {}},
+                 {"5,9", {5}},
+                 {"", {}},
+                 {",", {}},
+                 {",,3,", {3}},
+                 {"32767,32768,", {32767}},
+                 {"a,4,5x, 6 ,", {4, 6}},
+                 {"5,5,", {5, 5}},
+                 {"65541,", {}}};
+    for (const auto& c : cases) EXPECT_EQ(parseIds(QString::fromLatin1(c.text)), c.ids) << c.text;
+}
+
+class ListEntriesTest : public BrowseTest {
+  protected:
+    QStringList names(const char* table, const char* ids) {
+        QStringList all;
+        for (const ListEntry& entry :
+             readEntries(run.database, QString::fromLatin1(table), QString::fromLatin1(ids)))
+            all << entry.Nazev;
+        return all;
+    }
+};
+
+TEST_F(ListEntriesTest, TheIdsGiveTheOrderAndMissingOnesAreSkipped) {
+    EXPECT_EQ(names("recepty", "7,999,3,"),
+              (QStringList{QStringLiteral("Recept 007"), QStringLiteral("Recept 003")}));
+    EXPECT_EQ(names("recepty", "5"), QStringList());
+    EXPECT_EQ(names("recepty", "").size(), kRecipes);
+    EXPECT_EQ(names("recepty", "").front(), QStringLiteral("Recept 001"));
+    EXPECT_EQ(names("help", "2,"), QStringList{QStringLiteral("Fotografie")});
+    EXPECT_EQ(names("nowhere", "1,"), QStringList());
+}
+
+TEST_F(ListEntriesTest, TheListHoldsTheFirst251) {
+    QString ids;
+    for (int i = 0; i < 300; ++i) ids += QString::number(i % kRecipes + 1) + u',';
+    EXPECT_EQ(readEntries(run.database, QStringLiteral("recepty"), ids).size(), 251u);
+    run.database.transaction([&] {
+        for (int id = 51; id <= 300; ++id)
+            run.database.Execute(QStringLiteral("INSERT INTO Recepty (ID, Nazev) VALUES (%1, 'X')").arg(id));
+        return true;
+    });
+    EXPECT_EQ(readEntries(run.database, QStringLiteral("recepty"), {}).back().id, 251);
+}
+
+TEST_F(ListEntriesTest, AnEntryKnowsWhatItLeadsTo) {
+    const auto quick = readEntries(run.database, QStringLiteral("rychlerecepty"), {});
+    ASSERT_EQ(quick.size(), 3u);
+    EXPECT_EQ(quick[1].id, 2);
+    EXPECT_EQ(quick[1].target, 32);
+    EXPECT_EQ(quick[2].target, 0) << "a record that names no recipe";
+    EXPECT_EQ(readEntries(run.database, QStringLiteral("recepty"), QStringLiteral("9,"))[0].target, 9);
+}
+
+TEST_F(ListEntriesTest, WinesStandOneALineBelowTheName) {
+    EXPECT_EQ(wineText(run.database, QStringLiteral("Kapr"), 1),
+              QStringLiteral("Kapr Víno \r\nRyzlink rýnský\r\nPálava"));
+    EXPECT_EQ(wineText(run.database, QStringLiteral("Kapr"), 2), QStringLiteral("Kapr Víno "));
+}
+
+TEST(LetterJump, FindsTheNextNameRoundTheEnd) {
+    std::vector<ListEntry> entries;
+    for (const char* name : {"Candát", "Kapr na kmíně", "Kapr v aspiku", "Krém", "Štika", "Sumec", ""})
+        entries.push_back({0, QString::fromUtf8(name), 0});
+    const struct {
+        int current;
+        const char* letters;
+        int found;
+    } cases[] = {{-1, "k", 1}, {1, "k", 2}, {3, "K", 1},     {1, "ka", 1}, {3, "ka", 1},
+                 {0, "kr", 3}, {0, "s", 4}, {4, "s", 5},     {0, "š", 4},  {4, "š", 4},
+                 {0, "z", -1}, {0, "", -1}, {2, "kapr v", 2}};
+    for (const auto& c : cases)
+        EXPECT_EQ(findByLetters(entries, c.current, QString::fromUtf8(c.letters)), c.found)
+            << c.current << " " << c.letters;
+    EXPECT_EQ(findByLetters({}, -1, QStringLiteral("k")), -1);
+}
+
+TEST(LetterJump, LettersAddUpUntilAPause) {
+    LetterSearch search;
+    EXPECT_EQ(search.add(u'k', 5000), QStringLiteral("k"));
+    EXPECT_EQ(search.add(u'r', 5900), QStringLiteral("kr"));
+    EXPECT_EQ(search.add(u's', 7000), QStringLiteral("s"));
+    EXPECT_EQ(search.add(u'u', 7100), QStringLiteral("su"));
+    EXPECT_EQ(search.restart(), QStringLiteral("u"));
+}
+
+}  // namespace
+}  // namespace sarne

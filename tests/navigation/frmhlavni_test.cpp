@@ -1,0 +1,169 @@
+#include "screens/navigation/frmhlavni.h"
+
+#include <QDir>
+#include <QTest>
+
+#include "menudatabase.h"
+#include "screens/navigation/frmmenu.h"
+
+namespace sarne {
+namespace {
+
+class MainScreenTest : public MenuFixture {
+  protected:
+    /// Animations of three frames for the buttons 3 and 4, one colour each, and an effect for each button.
+    void writeResources() {
+        QDir(folder.path()).mkpath(QStringLiteral("pohyby"));
+        QDir(folder.path()).mkpath(QStringLiteral("zvuky"));
+        for (int button : {3, 4}) {
+            for (int frame = 1; frame <= 3; ++frame) {
+                QImage image(40, 40, QImage::Format_RGB32);
+                image.fill(QColor(80 * frame, 0, 10 * button));
+                image.save(folder.filePath(QStringLiteral("pohyby/%1-%2.png")
+                                               .arg(button, 2, 10, QLatin1Char('0'))
+                                               .arg(frame, 2, 10, QLatin1Char('0'))));
+            }
+        }
+        for (int i = 0; i < 19; ++i) {
+            QFile effect(folder.filePath(QStringLiteral("zvuky/%1.wav").arg(i + 101)));
+            ASSERT_TRUE(effect.open(QIODevice::WriteOnly));
+            effect.write(QByteArray("effect ") + QByteArray::number(i));
+        }
+        run.pictures = Resources(folder.path() + u'/');
+    }
+    void start() {
+        main = new frmHlavni(run);
+        main->Zobraz();
+        timer = main->findChild<Timer*>();
+    }
+    QWidget* button(int i) { return main->findChild<QWidget*>(QStringLiteral("imgClick(%1)").arg(i)); }
+    void moveOver(int i) { QTest::mouseMove(button(i), button(i)->rect().center()); }
+    int redAt(int i) {
+        const QPoint at = button(i)->geometry().topLeft() + QPoint(5, 5);
+        return main->grab().toImage().pixelColor(at).red();
+    }
+
+    frmHlavni* main = nullptr;
+    Timer* timer = nullptr;
+};
+
+TEST_F(MainScreenTest, HoverPlaysTheAnimationAndItsEffectOnce) {
+    writeResources();
+    run.SoundFlags[kEffects] = true;
+    start();
+    EXPECT_EQ(main->currentButton(), -5);
+    moveOver(3);
+    QTest::mouseMove(button(3), {3, 3});
+    EXPECT_EQ(run.sounds.played, QList<QByteArray>{"effect 3"})
+        << "moving within a button starts nothing anew";
+    EXPECT_TRUE(timer->isEnabled());
+    EXPECT_EQ(timer->interval(), 100);
+    for (const int red : {80, 160, 240, 80}) {
+        timer->fire();
+        EXPECT_EQ(redAt(3), red) << "the last frame leads to the first";
+    }
+    const int stops = run.sounds.stops;
+    moveOver(4);
+    EXPECT_EQ(run.sounds.stops, stops + 1) << "the first button ends before the second begins";
+    EXPECT_EQ(timer->tag(), QStringLiteral("0"));
+    EXPECT_EQ(run.sounds.played.last(), QByteArray("effect 4"));
+    timer->fire();
+    EXPECT_NE(redAt(3), 80);
+    EXPECT_EQ(redAt(4), 80);
+    QTest::mouseMove(main, {700, 590});
+    EXPECT_EQ(main->currentButton(), -5);
+    EXPECT_FALSE(timer->isEnabled());
+    EXPECT_NE(redAt(4), 80);
+}
+
+TEST_F(MainScreenTest, WithoutEffectsOrPicturesItIsSilentAndStill) {
+    start();
+    moveOver(3);
+    timer->fire();
+    EXPECT_TRUE(run.sounds.played.isEmpty());
+    EXPECT_EQ(main->currentButton(), 3);
+    EXPECT_FALSE(button(19)->isVisible());
+    EXPECT_FALSE(button(20)->isVisible());
+}
+
+TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
+    start();
+    EXPECT_TRUE(run.player.commands.isEmpty());
+    for (const char* track : {"HUDBA.WAV", "zvuky/vina.wav"}) {
+        QDir(folder.path()).mkpath(QStringLiteral("zvuky"));
+        QFile file(folder.filePath(QLatin1String(track)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    run.MediaRoot = LogicalPaths::fromNativeFolder(folder.path());
+    run.SoundFlags[kMusic] = true;
+    FakeSarne& other = run;
+    other.player.commands.clear();
+    start();
+    EXPECT_EQ(run.player.commands,
+              (QStringList{QStringLiteral("open ") + folder.filePath(QStringLiteral("HUDBA.WAV")),
+                           QStringLiteral("play")}));
+    run.player.end();
+    EXPECT_TRUE(run.player.playing());
+    EXPECT_EQ(run.player.position(), 0);
+    run.player.breakOff(MediaDone::Aborted);
+    EXPECT_FALSE(run.player.playing()) << "only a track that ended starts again";
+    run.SoundFlags[kWineSounds] = true;
+    start();
+    EXPECT_EQ(run.player.fileName(), folder.filePath(QStringLiteral("zvuky/vina.wav")));
+}
+
+TEST_F(MainScreenTest, ButtonsByKeyboard) {
+    start();
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    };
+    press(Qt::Key_PageUp);
+    const int first = main->currentButton();
+    EXPECT_TRUE(button(first)->hasFocus());
+    press(Qt::Key_Tab);
+    EXPECT_NE(main->currentButton(), first);
+    press(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(main->currentButton(), first);
+    press(Qt::Key_PageDown);
+    press(Qt::Key_Left);
+    EXPECT_GE(main->currentButton(), 0);
+    for (const Qt::Key key : {Qt::Key_F4, Qt::Key_X}) press(key, Qt::AltModifier);
+    run.window.close();
+    EXPECT_EQ(run.exits, 0);
+    EXPECT_TRUE(run.recorded.calls.isEmpty());
+    press(Qt::Key_X);
+    EXPECT_EQ(run.exits, 1);
+
+    moveOver(0);
+    press(Qt::Key_Return);
+    EXPECT_EQ(run.exits, 2);
+    moveOver(7);
+    press(Qt::Key_Space);
+    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("showMusicSettings")});
+    moveOver(3);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(main->isMenuOpen());
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(run.recorded.calls.contains(QStringLiteral("showList 7,9, recepty")));
+}
+
+TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
+    start();
+    auto* top = new Form(run, QStringLiteral("frmSeznam"));
+    moveOver(2);
+    QTest::mouseClick(button(2), Qt::LeftButton);
+    run.PushScreen(*top);
+    top->showForm();
+    main->SkryjMenu();
+    EXPECT_FALSE(button(3)->isEnabled()) << "covered: controls come back with the screen";
+    main->setFocus();
+    EXPECT_TRUE(top->hasFocus());
+    run.PopScreen(*top);
+    EXPECT_TRUE(button(3)->isEnabled());
+    EXPECT_EQ(main->cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(main->currentButton(), -5);
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,148 @@
+#include "screens/navigation/frmmenu.h"
+
+#include <QTest>
+
+#include "menudatabase.h"
+#include "screens/navigation/frmhlavni.h"
+
+namespace sarne {
+namespace {
+
+class MenuFormTest : public MenuFixture {
+  protected:
+    void SetUp() override {
+        MenuFixture::SetUp();
+        main = new frmHlavni(run);
+        main->Zobraz();
+    }
+    frmMenu* deepest() {
+        frmMenu* level = main->menu();
+        while (level->child()) level = level->child();
+        return level;
+    }
+    Label* label(frmMenu* level, int k) {
+        return level->findChild<Label*>(QStringLiteral("lblOdkaz(%1)").arg(k));
+    }
+    void clickButton(int i) {
+        QTest::mouseClick(main->findChild<QWidget*>(QStringLiteral("imgClick(%1)").arg(i)), Qt::LeftButton);
+    }
+    void key(Qt::Key k) { QTest::keyClick(QApplication::focusWidget(), k); }
+    void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text)); }
+    QStringList codes() {
+        QStringList all;
+        for (frmMenu* level = main->menu(); level; level = level->child()) all << level->level().code;
+        return all;
+    }
+
+    frmHlavni* main = nullptr;
+};
+
+TEST_F(MenuFormTest, CascadesByMouseAndClosesByTheBackground) {
+    clickButton(2);
+    EXPECT_TRUE(main->isMenuOpen());
+    EXPECT_FALSE(main->findChild<QWidget*>(QStringLiteral("imgClick(3)"))->isEnabled());
+    QTest::mouseClick(label(main->menu(), 1), Qt::LeftButton);
+    QTest::mouseClick(label(deepest(), 2), Qt::LeftButton);
+    EXPECT_EQ(codes(), (QStringList{QStringLiteral("2"), QStringLiteral("21"), QStringLiteral("212")}));
+    EXPECT_EQ(deepest()->depth(), 2);
+    QTest::mouseClick(label(main->menu(), 2), Qt::LeftButton);
+    EXPECT_EQ(codes(), (QStringList{QStringLiteral("2"), QStringLiteral("22")}))
+        << "the other submenu replaced it";
+    const QPoint background(10, 500);
+    QTest::mouseClick(main, Qt::LeftButton, {}, background);
+    EXPECT_FALSE(main->isMenuOpen());
+    EXPECT_FALSE(main->menu()->isVisible());
+    EXPECT_TRUE(main->findChild<QWidget*>(QStringLiteral("imgClick(3)"))->isEnabled());
+    EXPECT_EQ(main->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(MenuFormTest, RestingOpensSubmenusAndNeverActs) {
+    clickButton(2);
+    auto* timer = main->menu()->findChild<Timer*>();
+    QTest::mouseMove(label(main->menu(), 1), {5, 5});
+    EXPECT_EQ(timer->interval(), 400);
+    timer->fire();
+    EXPECT_EQ(codes(), (QStringList{QStringLiteral("2"), QStringLiteral("21")}));
+    QTest::mouseMove(main->menu(), {3, 3});
+    EXPECT_FALSE(timer->isEnabled()) << "off the labels nothing opens";
+    QTest::mouseClick(label(main->menu(), 2), Qt::LeftButton);
+    frmMenu* leaf = deepest();
+    QTest::mouseMove(label(leaf, 1), {5, 5});
+    leaf->findChild<Timer*>()->fire();
+    EXPECT_TRUE(run.recorded.calls.isEmpty());
+    QTest::mouseClick(label(leaf, 1), Qt::LeftButton);
+    EXPECT_EQ(run.recorded.calls,
+              (QStringList{QStringLiteral("showList 6, recepty"), QStringLiteral("returnToMain")}));
+}
+
+TEST_F(MenuFormTest, ThreeLevelsDeepAndBackByKeyboard) {
+    clickButton(2);
+    for (const Qt::Key k : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right}) key(k);
+    EXPECT_EQ(codes(), (QStringList{QStringLiteral("2"), QStringLiteral("21"), QStringLiteral("211")}));
+    EXPECT_EQ(deepest()->selected(), 1);
+    key(Qt::Key_Down);
+    key(Qt::Key_Down);
+    EXPECT_EQ(deepest()->selected(), 1) << "round the end";
+    key(Qt::Key_Left);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(codes(), QStringList{QStringLiteral("2")});
+    EXPECT_EQ(main->menu()->selected(), 1);
+    type("p");
+    EXPECT_EQ(main->menu()->selected(), 2);
+    key(Qt::Key_Return);
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    EXPECT_EQ(run.recorded.calls.first(), QStringLiteral("showList 3, RychleRecepty"));
+    main->menu()->unfold(QStringLiteral("2"), {});
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(main->isMenuOpen());
+}
+
+TEST_F(MenuFormTest, TypingFindsIngredients) {
+    clickButton(12);
+    auto* entry = child<Edit>(*main->menu(), "Text1");
+    EXPECT_TRUE(entry->hasInput());
+    QTest::mouseClick(label(main->menu(), 1), Qt::LeftButton);
+    EXPECT_TRUE(run.recorded.calls.isEmpty()) << "the prompt is no item";
+    key(Qt::Key_Return);
+    EXPECT_EQ(codes().size(), 1) << "a blank text searches nothing";
+    entry->focusAll();
+    type("kap");
+    key(Qt::Key_Return);
+    ASSERT_EQ(codes(), (QStringList{QStringLiteral("12"), QStringLiteral("0")}));
+    EXPECT_EQ(deepest()->level().items.size(), 3u);
+    key(Qt::Key_Left);
+    entry->focusAll();
+    type("bylina");
+    key(Qt::Key_Return);
+    EXPECT_EQ(codes().size(), 2) << "the new results replace the old";
+    for (int k = 1; k <= 84; ++k) {
+        ASSERT_TRUE(label(deepest(), k)->isVisible()) << k;
+        ASSERT_TRUE(run.window.rect().contains(label(deepest(), k)->geometry().translated(deepest()->pos())))
+            << k;
+        ASSERT_GE(label(deepest(), k)->height(), 20) << "readable";
+    }
+    key(Qt::Key_Left);
+    entry->focusAll();
+    type("c'x");  // letters that are commands elsewhere
+    key(Qt::Key_Return);
+    EXPECT_EQ(deepest()->level().items[0].label, QStringLiteral("Nenalezena žádná surovina"));
+    QTest::mouseClick(label(deepest(), 1), Qt::LeftButton);
+    EXPECT_TRUE(run.recorded.calls.isEmpty());
+    entry->focusAll();
+    type("kapr");
+    key(Qt::Key_Return);
+    key(Qt::Key_Return);
+    EXPECT_EQ(run.recorded.calls.first(), QStringLiteral("showList 3,2,1, recepty"));
+}
+
+TEST_F(MenuFormTest, SharedLettersStayCommands) {
+    clickButton(2);
+    key(Qt::Key_X);
+    EXPECT_EQ(run.exits, 1);
+    key(Qt::Key_C);
+    EXPECT_FALSE(main->isMenuOpen());
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,39 @@
+#include "screens/navigation/menulayout.h"
+
+#include <gtest/gtest.h>
+
+namespace sarne {
+namespace {
+
+constexpr QRect kScreen(0, 0, 12000, 9000);
+
+TEST(MenuLayout, EveryLevelIsWholeOnTheScreenAndNothingOverlaps) {
+    for (const int count : {0, 1, 9, 27, 28, 84}) {
+        for (const QPoint corner :
+             {QPoint(0, 0), QPoint(9335, 370), QPoint(267, 8186), QPoint(8736, 6721), QPoint(11990, 8990)}) {
+            const MenuContent content{std::vector<int>(size_t(count), 2500), 1800, count == 1};
+            const auto geometry = layOutMenu(content, {corner, QSize(1, 1)});
+            ASSERT_TRUE(kScreen.contains(geometry.level)) << count;
+            ASSERT_EQ(geometry.items.size(), size_t(count));
+            const QRect inside({0, 0}, geometry.level.size());
+            for (size_t i = 0; i < geometry.items.size(); ++i) {
+                EXPECT_TRUE(inside.contains(geometry.items[i]));
+                EXPECT_GE(geometry.items[i].width(), 2500) << "readable";
+                EXPECT_FALSE(geometry.items[i].intersects(geometry.heading));
+                EXPECT_FALSE(geometry.items[i].intersects(geometry.entry));
+                for (size_t j = 0; j < i; ++j) ASSERT_FALSE(geometry.items[i].intersects(geometry.items[j]));
+            }
+        }
+    }
+}
+
+TEST(MenuLayout, ALevelStandsBesideWhatOpenedIt) {
+    const MenuContent content{std::vector<int>(5, 2000), 0, false};
+    const QRect left(100, 3000, 2500, 300), right(9000, 3000, 2500, 300);
+    EXPECT_EQ(layOutMenu(content, left).level.left(), left.right() + 1);
+    EXPECT_EQ(layOutMenu(content, left).level.top(), 3000);
+    EXPECT_EQ(layOutMenu(content, right).level.right() + 1, right.left()) << "the other side";
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,175 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPainter>
+#include <cmath>
+
+#include "richtext/basZobrazRtfSarne.h"
+#include "richtext/fontface.h"
+#include "richtext/layoutdump.h"
+#include "richtext/qttextmetrics.h"
+#include "richtext/rtfpainter.h"
+
+namespace sarne {
+namespace {
+
+/// Writes down what is drawn on it.
+class PaperSurface final : public Surface {
+  public:
+    int scaleWidth() const override { return 2505; }
+    int scaleHeight() const override { return 9000; }
+    int currentX() const override { return at_.x(); }
+    int currentY() const override { return at_.y(); }
+    void setCurrentX(int x) override { at_.setX(x); }
+    void setCurrentY(int y) override { at_.setY(y); }
+    const TextFont& font() const override { return font_; }
+    void setFont(const TextFont& font) override { font_ = font; }
+    void setForeColor(const QColor& color) override { color_ = color; }
+    int textWidth(const QString& text) const override { return test::FixedMetrics().textWidth(font_, text); }
+    int textHeight(const QString&) const override { return test::FixedMetrics().textHeight(font_); }
+    void print(const QString&) override {}
+    void textOut(int x, int baseline, const QString& text) override {
+        drawn += QStringLiteral("%1,%2 %3 %4").arg(x).arg(baseline).arg(text, color_.name());
+        if (bas && text == QLatin1String("stop")) bas->stop();
+    }
+
+    QStringList drawn;
+    basZobrazRtfSarne* bas = nullptr;
+
+  private:
+    QPoint at_{100, 1000};
+    TextFont font_;
+    QColor color_;
+};
+
+TEST(ZobrazRtf, DrawsFromTheCurrentPositionOn) {
+    PaperSurface surface;
+    basZobrazRtfSarne bas;
+    bas.ZobrazRtf(surface,
+                  QStringLiteral("{\\rtf1{\\colortbl;\\red9;}\\plain\\cf1 Kapr s *7jalovcem* i pivem\\par}"));
+    const QString red = QColor(9, 0, 0).name(), link = linkColor(LinkKind::Keyword).name();
+    EXPECT_EQ(surface.drawn,
+              (QStringList{QStringLiteral("100,1240 Kapr ") + red, QStringLiteral("786,1240 s ") + red,
+                           QStringLiteral("1113,1240 jalovcem ") + link, QStringLiteral("2280,1240 i ") + red,
+                           QStringLiteral("100,1540 pivem ") + red}));
+    EXPECT_EQ(QPoint(surface.currentX(), surface.currentY()), QPoint(100, 1600));
+    EXPECT_EQ(bas.layout().linkAt({1500, 1100}), 0);
+}
+
+TEST(ZobrazRtf, DrawsNothingOfBlanks) {
+    PaperSurface surface;
+    for (const char16_t* text :
+         {u"", u"   ", u" \r\n ", u"{\\rtf1\\ansi\\plain   }", u"{\\rtf1{\\fonttbl{\\f0 A"}) {
+        ZobrazRtf(surface, QString::fromUtf16(text));
+    }
+    EXPECT_TRUE(surface.drawn.isEmpty());
+    EXPECT_EQ(surface.currentY(), 1000);
+}
+
+TEST(ZobrazRtf, CanBeAbandoned) {
+    PaperSurface surface;
+    basZobrazRtfSarne bas;
+    surface.bas = &bas;
+    bas.ZobrazRtf(surface, QStringLiteral("a stop b\nc"));
+    EXPECT_EQ(surface.drawn.size(), 2);
+    surface.drawn.clear();
+    bas.ZobrazRtf(surface, QStringLiteral("d e"));  // the next one starts afresh
+    EXPECT_EQ(surface.drawn.size(), 2);
+}
+
+TEST(DrawLine, PlacesOneLineAnywhere) {
+    PaperSurface surface;
+    test::FixedMetrics metrics;
+    const RtfLayout layout = RtfLayout::of(u"a\nb\nc", {0, 1000, 0}, metrics);
+    drawLine(surface, layout, 1, {500, -300});
+    drawLine(surface, layout, 3);
+    EXPECT_EQ(surface.drawn, QStringList{QStringLiteral("500,240 b #000000")});
+}
+
+/// A picture of a layout at one pixel to ten twips, as a person would see it.
+class Painting : public testing::Test {
+  protected:
+    QImage paint(const RtfLayout& layout, const QRect& visible, const LinkHighlight& highlight = {}) {
+        QImage picture(400, 200, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        painter.scale(.1, .1);
+        paintLayout(painter, layout, visible, highlight);
+        return picture;
+    }
+    /// What differs from white, or from \a other, in pixels.
+    static QRect inked(const QImage& picture, const QImage& other = {}) {
+        QRect ink;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const QRgb ground = other.isNull() ? qRgb(255, 255, 255) : other.pixel(x, y);
+                if (picture.pixel(x, y) != ground) ink |= QRect(x, y, 1, 1);
+            }
+        }
+        return ink;
+    }
+    RtfLayout layOut(QStringView text) { return RtfLayout::of(text, {0, 4000, 0}, metrics); }
+
+    QtTextMetrics metrics;
+};
+
+TEST_F(Painting, InksTheBoxesAndOnlyTheLinesInSight) {
+    const RtfLayout layout = layOut(u"HHH\nHHH\nka\u0301pr");
+    for (qsizetype i = 0; i < 3; ++i) {
+        const WordBox& box = layout.boxes()[i];
+        const QRect ink = inked(paint(layout, {0, box.top + 20, 4000, 10}));
+        const QRect place(box.x / 10 - 1, box.top / 10 - 2, box.width / 10 + 3, box.height / 10 + 4);
+        EXPECT_FALSE(ink.isEmpty());
+        EXPECT_TRUE(place.contains(ink)) << i;
+        EXPECT_GT(ink.width(), place.width() * 3 / 4);
+    }
+    EXPECT_TRUE(inked(paint(layout, {0, 5000, 4000, 900})).isEmpty());
+}
+
+TEST_F(Painting, UnderlinesTheLinkThatStandsOut) {
+    const RtfLayout layout = layOut(u"{\\rtf1\\plain aa *1bb bb* *2cc* \\ul dd dd}");
+    const QImage plain = paint(layout, {0, 0, 4000, 2000});
+    const QRect stroke = inked(paint(layout, {0, 0, 4000, 2000}, {1, {}}), plain);
+    const WordBox& link = layout.boxes()[2];
+    EXPECT_NEAR(stroke.left(), link.x / 10, 1);
+    EXPECT_NEAR(stroke.width(), link.width / 10, 2);
+    EXPECT_GT(stroke.top(), link.baseline / 10);
+    EXPECT_LE(stroke.height(), 3);
+    EXPECT_EQ(inked(paint(layout, {0, 0, 4000, 2000}, {{}, 1}), plain), stroke);
+    // Underlined words of a text are underlined over their blanks.
+    const int y = stroke.center().y();
+    const int gap = (layout.boxes()[4].x - 20) / 10;
+    EXPECT_NE(plain.pixel(gap, y), qRgb(255, 255, 255));
+}
+
+TEST(FontFace, IsAsWideAsQtSays) {
+    for (const char16_t* name : {u"Times New Roman", u"Arial CE"}) {
+        for (int style = 0; style < 4; ++style) {
+            const TextFont font{QString::fromUtf16(name), 12, (style & 1) != 0, (style & 2) != 0, false, 238};
+            const QFontMetricsF qt(font.toQFont());
+            for (const QString& word :
+                 {QStringLiteral("Večeře"), QStringLiteral("AVATAR"), QStringLiteral("½ l"),
+                  QStringLiteral("„Type“"), QStringLiteral("日本"), QStringLiteral("")}) {
+                EXPECT_NEAR(FontFace(font).width(word), qt.horizontalAdvance(word), 1) << word.toStdString();
+            }
+        }
+    }
+    EXPECT_EQ(FontFace({QStringLiteral("Arial CE")}).rawFont().familyName(),
+              FontFace({QStringLiteral("Arial")}).rawFont().familyName());
+}
+
+TEST(LinkColors, AreReadableOnPaper) {
+    const auto luminance = [](const QColor& color) {
+        const auto linear = [](double v) {
+            return v <= .03928 ? v / 12.92 : std::pow((v + .055) / 1.055, 2.4);
+        };
+        return .2126 * linear(color.redF()) + .7152 * linear(color.greenF()) + .0722 * linear(color.blueF());
+    };
+    const double paper = luminance(QColor(244, 234, 210));
+    for (const LinkKind kind : {LinkKind::Keyword, LinkKind::Beep, LinkKind::Video}) {
+        EXPECT_GE((paper + .05) / (luminance(linkColor(kind)) + .05), 4.5) << static_cast<int>(kind);
+    }
+}
+
+}  // namespace
+}  // namespace sarne

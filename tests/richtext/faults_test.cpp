@@ -1,0 +1,115 @@
+// Texts that no editor saves: broken off, unbalanced, out of all bounds. Nothing may crash, hang or get lost.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QImage>
+
+#include "richtext/layoutdump.h"
+#include "richtext/qttextmetrics.h"
+#include "richtext/rtfpainter.h"
+
+namespace sarne {
+namespace {
+
+RtfLayout layOutSoundly(QStringView text, LinkMarkers markers = LinkMarkers::Honour) {
+    test::FixedMetrics metrics;
+    const RtfLayout layout = RtfLayout::of(text, {0, 3000, 0}, metrics, markers);
+    EXPECT_EQ(test::faultOf(layout) + test::lossOf(text, layout, markers), QString())
+        << text.left(200).toString().toStdString();
+    return layout;
+}
+
+QString wordsOf(const QString& text) {
+    return test::wordsOf(layOutSoundly(text));
+}
+
+TEST(Faults, DocumentsBreakOffAnywhere) {
+    for (const char* name : {"wordpad.rtf", "office.rtf", "writer.rtf"}) {
+        QFile file(QStringLiteral(SARNE_FIXTURES "/") + QLatin1String(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QString rtf = QString::fromUtf8(file.readAll());
+        for (qsizetype length = 0; length < rtf.size(); ++length) {
+            layOutSoundly(QStringView(rtf).left(length));
+            layOutSoundly(QStringView(rtf).left(length), LinkMarkers::Remove);
+        }
+    }
+}
+
+TEST(Faults, WhatCanBeReadIsRead) {
+    const QString digits(40, u'9');
+    const struct {
+        QString text;
+        QString words;
+    } cases[] = {
+        {QStringLiteral("{\\rtf1\\plain a}}}} b {{{{ c"), QStringLiteral("a b c")},
+        {QStringLiteral("{\\rtf1{\\fonttbl{\\f0 Arial;}\\pard\\plain a b"), QStringLiteral("a b")},
+        {QStringLiteral("{\\rtf1{\\colortbl;\\red1;{\\stylesheet{x}}\\plain a b"), QStringLiteral("a b")},
+        {QStringLiteral("{\\rtf1{\\fonttbl{{{\\f0 Arial;}}}}\\plain a b"), QStringLiteral("a b")},
+        {QStringLiteral("{\\rtf1\\plain\\fs") + digits + QStringLiteral(" \\tx") + digits +
+             QStringLiteral(" \\f-") + digits + QStringLiteral(" \\cf") + digits +
+             QStringLiteral(" a\\tab b"),
+         QStringLiteral("a|b")},
+        {QStringLiteral("{\\rtf1\\deftab") + digits + QStringLiteral("\\plain a\\tab b"),
+         QStringLiteral("a|b")},
+        {QStringLiteral("{\\rtf1\\deftab-5{\\colortbl\\red") + digits + QStringLiteral(";}\\plain a\\tab b"),
+         QStringLiteral("a b")},
+        {QStringLiteral("{\\rtf1\\plain a\rb\nc\r\rd\r\ne}"), QStringLiteral("abcde")},
+        {QStringLiteral("{\\rtf1\\plain a\\'eg b\\'zz\\'} \\'e8\\'4"), QStringLiteral("ag bzz č")},
+        {QStringLiteral("{\\rtf1\\plain a ") + QChar(0) + QStringLiteral("b") + QChar(0),
+         QStringLiteral("a b")},
+        {QStringLiteral("{\\rtf1\\plain a *"), QStringLiteral("a")},
+        {QStringLiteral("{\\rtf1\\plain a @12"), QStringLiteral("a")},
+        {QStringLiteral("{\\rtf1\\plain a \\"), QStringLiteral("a")},
+        {QStringLiteral("{\\pict\\bin99999999 }\\plain a"), QString()},
+        {QStringLiteral("{"), QStringLiteral("{")},
+        {QStringLiteral("{\\"), QString()},
+        {QStringLiteral("\\par x"), QStringLiteral("\\par x")},
+    };
+    for (const auto& c : cases) EXPECT_EQ(wordsOf(c.text), c.words) << c.text.toStdString();
+}
+
+/// Texts that are long in one respect: an effort that grows with the square would not end.
+TEST(Faults, MuchOfOneThing) {
+    const auto many = [](const char16_t* piece, int count) {
+        return QString::fromUtf16(piece).repeated(count);
+    };
+    const QString head = QStringLiteral("{\\rtf1\\plain ");
+    const auto boxes = [](const QString& text) { return layOutSoundly(text).boxes().size(); };
+    EXPECT_EQ(boxes(head + u'*' + many(u"dlouhá ", 15000)), 1u);
+    EXPECT_EQ(boxes(head + many(u"*1a", 100000)), 50000u);
+    EXPECT_EQ(boxes(head + many(u"{", 500000) + u'a'), 1u);
+    EXPECT_EQ(boxes(head + many(u"{\\*", 200000) + u'a'), 0u);
+    EXPECT_EQ(boxes(head + many(u"\\tx1\\tx2000\\tab ", 100000) + u'a'), 1u);
+    EXPECT_EQ(boxes(head + many(u"\\fs65000\\par ", 100000) + u'a'), 1u);
+    EXPECT_EQ(boxes(head + many(u"\\", 500001)), 1u);
+    EXPECT_EQ(boxes(many(u"{\\fonttbl", 100000) + u'a'), 0u);
+    EXPECT_EQ(boxes(head + many(u" ", 500000) + u'a'), 1u);
+    EXPECT_EQ(boxes(head + u'\\' + many(u"a", 500000) + QStringLiteral(" b")), 1u);
+}
+
+TEST(Faults, TenThousandFonts) {
+    QString rtf = QStringLiteral("{\\rtf1{\\fonttbl"), body = QStringLiteral("}\\plain");
+    for (int i = 0; i < 10000; ++i) {
+        rtf += QStringLiteral("{\\f%1 Font%1;}").arg(i);
+        body += QStringLiteral("\\f%1 a ").arg(i);
+    }
+    EXPECT_EQ(layOutSoundly(rtf + body).fonts().size(), 10001u);
+}
+
+TEST(Faults, CanBePainted) {
+    QtTextMetrics metrics;
+    QImage picture(50, 50, QImage::Format_RGB32);
+    for (const QString& body : {QStringLiteral("\\fs99999 Aa\\b\\i\\ul Bb"),
+                                QString(QChar(0xd800)) + QChar(0xfffe) + u' ' + QChar(0xdc00),
+                                QStringLiteral("*") + QStringLiteral("dlouhá ").repeated(15000),
+                                QStringLiteral("\\fs1 a\\'00\\'01\\'ad")}) {
+        const RtfLayout layout =
+            RtfLayout::of(QStringLiteral("{\\rtf1\\plain") + body, {0, 3000, 0}, metrics);
+        QPainter painter(&picture);
+        paintLayout(painter, layout, {0, 0, 3000, 100000}, {0, 0});
+        EXPECT_FALSE(layout.boxes().empty());
+    }
+}
+
+}  // namespace
+}  // namespace sarne

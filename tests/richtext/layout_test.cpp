@@ -1,0 +1,135 @@
+#include <gtest/gtest.h>
+
+#include "richtext/layoutdump.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kChar = 120;  // the width of a character in the default font under FixedMetrics
+
+class Layout : public testing::Test {
+  protected:
+    RtfLayout layOut(const QString& body, int characters = 20, LayoutArea area = {}) {
+        area.right = area.left + characters * kChar;
+        layout = RtfLayout::of(QStringLiteral("{\\rtf1\\plain ") + body + u'}', area, metrics);
+        EXPECT_EQ(test::faultOf(layout), QString());
+        return layout;
+    }
+    QString wordsAt(int characters, const char16_t* body) {
+        return test::wordsOf(layOut(QString::fromUtf16(body), characters));
+    }
+    std::vector<int> lefts(qsizetype line = 0) const {
+        std::vector<int> xs;
+        for (qsizetype i = 0; i < layout.lines().at(line).boxCount; ++i) {
+            xs.push_back(layout.boxes()[layout.lines()[line].firstBox + i].x);
+        }
+        return xs;
+    }
+
+    test::FixedMetrics metrics;
+    RtfLayout layout;
+};
+
+using Xs = std::vector<int>;
+
+TEST_F(Layout, WrapsBetweenWords) {
+    EXPECT_EQ(wordsAt(10, u"aaaa bbbb cccc"), QStringLiteral("aaaa bbbb|cccc"));
+    EXPECT_EQ(wordsAt(9, u"aaaa bbbb cccc"),
+              QStringLiteral("aaaa|bbbb cccc"));  // a word's blank wants room too
+    EXPECT_EQ(wordsAt(9, u"aaaa bbbb"), QStringLiteral("aaaa bbbb"));
+    EXPECT_EQ(wordsAt(10, u"aaaa\\~bbbb cccc"), QStringLiteral("aaaa\u00a0bbbb|cccc"));
+    EXPECT_EQ(wordsAt(4, u"a bbbbbbbb c"), QStringLiteral("a|bbbbbbbb|c"));
+    EXPECT_EQ(wordsAt(0, u"a b"), QStringLiteral("a|b"));
+    EXPECT_EQ(wordsAt(10, u"a\\par\\par b\\par"), QStringLiteral("a||b"));
+    EXPECT_EQ(wordsAt(10, u"   \\par   bbbbbbbbbbb"), QStringLiteral("|bbbbbbbbbbb"));
+    EXPECT_EQ(lefts(1), (Xs{0}));
+}
+
+TEST_F(Layout, JustifiesWrappedLinesToTheTwip) {
+    layOut(QStringLiteral("a b c dddd e f \\par g h"), 11, {77, 0, 0});
+    EXPECT_EQ(lefts(0), (Xs{77, 77 + 280, 77 + 560, 77 + 840}));
+    const WordBox& last = layout.boxes()[3];
+    EXPECT_EQ(last.x + last.width, 77 + 11 * kChar);
+    EXPECT_EQ(lefts(1), (Xs{77, 77 + 240}));          // the paragraph's end
+    EXPECT_EQ(lefts(2), (Xs{77, 77 + 240}));          // the text's end
+    layOut(QStringLiteral("aa bb   cccccccccc"), 8);  // blanks at the end of a line take no part
+    EXPECT_EQ(lefts(0), (Xs{0, 720}));
+    layOut(QStringLiteral("aa bbbbbbbbb"), 8);  // a word alone stays
+    EXPECT_EQ(lefts(0), (Xs{0}));
+}
+
+TEST_F(Layout, StandsOnOneBaselineInTheHighestFont) {
+    layOut(QStringLiteral("\\fs24 a \\fs48\\b\\cf9 bb \\fs20\\b0 c\\par\\fs48\\par x"), 40);
+    EXPECT_EQ(test::dumped(layout), QStringLiteral("line 0+600 on 480 starts ends\n"
+                                                   "  0+120 \"a\"  Times New Roman 12 #000000\n"
+                                                   "  240+528 \"bb\"  Times New Roman 24 b #000000\n"
+                                                   "  1032+100 \"c\"  Times New Roman 10 #000000\n"
+                                                   "line 600+600 on 1080 starts ends\n"
+                                                   "line 1200+600 on 1680 starts ends\n"
+                                                   "  0+240 \"x\"  Times New Roman 24 #000000\n"));
+    EXPECT_EQ(RtfLayout::rect(layout.boxes()[0]), QRect(0, 240, 120, 300));
+    EXPECT_EQ(layout.height(), 1800);
+    // A word is in the font of its last character, not of the change behind it.
+    layOut(QStringLiteral("x\\b y\\b0  z"));
+    EXPECT_TRUE(layout.fonts()[layout.boxes()[0].font].bold);
+}
+
+TEST_F(Layout, MovesToTabStops) {
+    layOut(QStringLiteral("\\tx1500\\tx500\\tx-3 a\\tab b\\tab c\\tab d"));
+    EXPECT_EQ(lefts(), (Xs{0, 500, 1500, 1700}));  // then multiples of the default width
+    layOut(QStringLiteral("\\tx1500 a\\par\\pard b\\tab c"));
+    EXPECT_EQ(lefts(1), (Xs{0, 200}));
+    layOut(QStringLiteral("\\tx1200\\tx2500 a\\tab b\\tab c"), 20);
+    EXPECT_EQ(test::wordsOf(layout), QStringLiteral("a b|c"));
+    EXPECT_EQ(lefts(0), (Xs{0, 1200}));
+    layOut(QStringLiteral("\\tx600 a\\tab b c dddddddddddd"), 12);  // what stands before a tab is not spread
+    EXPECT_EQ(lefts(0), (Xs{0, 600, 1320}));
+    EXPECT_EQ(wordsAt(3, u"\\tx9999\\tab\\tab a"), QStringLiteral("||a"));
+}
+
+TEST_F(Layout, KeepsLinkPhrasesWhole) {
+    layOut(QStringLiteral("(*12Fresh herbs*) are used with *7a very long phrase* #3x#@4y@ z"), 16);
+    EXPECT_EQ(test::wordsOf(layout), QStringLiteral("(Fresh herbs)|are used with|a very long phrase|x y z"));
+    QStringList keys;
+    for (const LinkPhrase& link : layout.links()) keys += link.key.text();
+    EXPECT_EQ(keys, (QStringList{QStringLiteral("112"), QStringLiteral("17"), QStringLiteral("23"),
+                                 QStringLiteral("34")}));
+    EXPECT_EQ(layout.linkRects(0), (std::vector<QRect>{QRect(0, 0, 13 * kChar, 300)}));
+    EXPECT_EQ(layout.linkAt({0, 0}), 0);
+    EXPECT_EQ(layout.linkAt({13 * kChar - 1, 299}), 0);
+    EXPECT_EQ(layout.linkAt({13 * kChar, 0}), std::nullopt);
+    EXPECT_EQ(layout.linkAt({0, 300}), std::nullopt);
+    EXPECT_EQ(layout.linkAt({0, -1}), std::nullopt);
+    EXPECT_EQ(layout.linkAt({-1, 5000}), std::nullopt);
+    EXPECT_TRUE(layout.linkRects(9).empty());
+}
+
+TEST_F(Layout, LosesNothingOfAnOpenPhrase) {
+    layOut(QStringLiteral("a *5b c\\tab d\\par e *"), 40);
+    EXPECT_EQ(test::wordsOf(layout), QStringLiteral("a b c d|e"));
+    EXPECT_EQ(layout.links().size(), 1u);
+    EXPECT_EQ(layout.linkRects(0).size(), 2u);
+    layOut(QStringLiteral("a *5b c"), 40);
+    EXPECT_EQ(test::wordsOf(layout), QStringLiteral("a b c"));
+    layOut(QStringLiteral("a *5* b *"), 40);  // a phrase without a letter is no link
+    EXPECT_TRUE(layout.links().empty());
+}
+
+TEST_F(Layout, MeasuresRepeatedWordsOnce) {
+    layOut(QStringLiteral("kapr sumec kapr \\i kapr \\i0 sumec kapr kapr"));
+    EXPECT_EQ(metrics.measured, 3 + 2);  // three words, a blank of each font
+}
+
+TEST_F(Layout, MarksParagraphsAndHeadings) {
+    layOut(QStringLiteral("\\b Kapr\\par\\b0 aaaaaaaaaaaaaaaa bbbbbbbbbbbbb\\par"));
+    const std::vector<TextLine>& lines = layout.lines();
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_TRUE(lines[0].isHeading && lines[0].startsParagraph && lines[0].endsParagraph);
+    EXPECT_TRUE(!lines[1].isHeading && lines[1].startsParagraph && !lines[1].endsParagraph);
+    EXPECT_TRUE(!lines[2].startsParagraph && lines[2].endsParagraph);
+    EXPECT_EQ(layout.linesBetween(300, 301).first, 1);
+    EXPECT_EQ(layout.linesBetween(0, 301).end, 2);
+}
+
+}  // namespace
+}  // namespace sarne

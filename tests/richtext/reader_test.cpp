@@ -1,0 +1,152 @@
+#include "richtext/rtfreader.h"
+
+#include <gtest/gtest.h>
+
+#include "richtext/layoutdump.h"
+
+namespace sarne {
+namespace {
+
+/// Writes the stream down: text as it is, everything else in angle brackets. The font and colour that every
+/// text begins with are left out.
+class DumpSink final : public RtfSink {
+  public:
+    void text(QStringView run) override { dump += run.toString(); }
+    void character(QChar c) override { dump += c; }
+    void font(const TextFont& font) override {
+        if (!(font == font_)) add(QStringLiteral("%1 %2").arg(test::dumped(font)).arg(font.charset));
+        font_ = font;
+    }
+    void color(QRgb rgb) override {
+        if (rgb != color_) add(QColor(rgb).name());
+        color_ = rgb;
+    }
+    void openLink(const LinkKey& key) override { add(key.text()); }
+    void closeLink() override { add(QStringLiteral("/")); }
+    void endPara() override {
+        add(QStringLiteral("endPara"));
+        if (stopAtPara) *stopAtPara = true;
+    }
+    void tab() override { add(QStringLiteral("tab")); }
+    void tabStop(int twips) override { add(QStringLiteral("stop %1").arg(twips)); }
+    void clearTabStops() override {}
+    void defaultTabWidth(int twips) override {
+        if (twips != 100) add(QStringLiteral("tabs %1").arg(twips));
+    }
+
+    QString dump;
+    StopFlag* stopAtPara = nullptr;
+
+  private:
+    void add(const QString& event) { dump += u'<' + event + u'>'; }
+
+    TextFont font_;
+    QRgb color_ = qRgb(0, 0, 0);
+};
+
+QString stream(const QString& text, LinkMarkers markers = LinkMarkers::Honour) {
+    DumpSink sink;
+    readRichText(text, sink, markers);
+    return sink.dump;
+}
+
+struct Case {
+    const char16_t* rtf;
+    const char16_t* expected;
+};
+
+void expectStreams(std::initializer_list<Case> cases, LinkMarkers markers = LinkMarkers::Honour) {
+    for (const Case& c : cases) {
+        const QString rtf = QString::fromUtf16(c.rtf);
+        EXPECT_EQ(stream(rtf, markers), QString::fromUtf16(c.expected)) << rtf.toStdString();
+    }
+}
+
+TEST(RtfReader, EndsControlWordsWhereTheyEnd) {
+    expectStreams({
+        {u"{\\rtf1\\plain \\'e8erstv\\'fd\\'9E}", u"čerstvýž"},
+        {u"{\\rtf1\\plain a\\'e8 b\\~c\\~ d}", u"ač b\u00a0c\u00a0 d"},
+        {u"{\\rtf1\\plain a\\par\r\nb\\par  c\\par}", u"a<endPara>b<endPara> c<endPara>"},
+        {u"{\\rtf1\\plain\\fs40x\\fs-3y\\fs z}", u"<Times New Roman 20 238>xyz"},
+        {u"{\\rtf1\\plain\\b\\i\\ul x\\b0\\i0\\ul0  y}",
+         u"<Times New Roman 12 biu 238>x<Times New Roman 12 238> y"},
+        {u"{\\rtf1\\plain a\\u269?\\ulnone\\line\\lang1029\\emdash b\\-c\\_d\\Foo e\\9f}",
+         u"a?bcde"
+         u"f"},
+        {u"{\\rtf1\\plain \\rdblquote x\\rdblquote\\{y\\}\\\\par}", u"\"x\"{y}\\par"},
+        {u"{\\rtf1\\plain a\\\nb\\\r\nc\td}", u"a<endPara>b<endPara>c<tab>d"},
+    });
+}
+
+TEST(RtfReader, TakesTheTextOnly) {
+    expectStreams({
+        // Where the text begins: \plain outside the groups, else \pard, else behind the header.
+        {u"{\\rtf1{\\stylesheet{\\s0\\plain Normal;}}\\pard x\\plain y\\par}", u"y<endPara>"},
+        {u"{\\rtf1\\ansi{\\*\\x \\plain}junk\\pard y}", u"y"},
+        {u"{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\r\n{\\info{\\title T}}y z}", u"y z"},
+        {u"{\\rtf1 y}", u"y"},
+        // Groups without text, also within the text, also with groups, escapes and raw bytes in them.
+        {u"{\\rtf1\\plain a{\\*\\bkmkstart b{c\\}}}{\\pict\\bin3 }}}0f}{\\object{\\result x}}{\\headerf h}d{ "
+         u"e}}",
+         u"ad e"},
+        {u"{\\rtf1\\plain a{\\infox b}{\r\n\\footer c}}", u"ab"},
+        // Other braces bound nothing.
+        {u"{\\rtf1\\plain {\\b x} y}}}z", u"<Times New Roman 12 b 238>x yz"},
+        // \plain and \pard both go back to the default font and the first colour.
+        {u"{\\rtf1{\\colortbl\\red1;\\green2;}\\plain\\b\\cf1 x\\pard y}",
+         u"<#010000><#000200><Times New Roman 12 b 238>x<#010000><Times New Roman 12 238>y"},
+        {u"{\\rtf1\\deftab720\\pard\\tx500\\pard\\tx700\\plain a\\tx900}",
+         u"<tabs 720><stop 700>a<stop 900>"},
+    });
+}
+
+TEST(RtfReader, ReadsTheTables) {
+    expectStreams({
+        // Fonts go by their number, and by their place where no font has the number.
+        {u"{\\rtf1{\\fonttbl{\\f5\\fswiss\\fcharset204{\\*\\panose 0}Arial{\\*\\falt B;};}{\\f2 Caf\\'e9;}}"
+         u"\\plain\\f5 a\\'e8\\f2 b\\f0 c\\f9 d}",
+         u"<Arial 12 204>aи<Café 12 238>b<Arial 12 204>cd"},
+        {u"{\\rtf1{\\fonttbl\\f0\\fnil\\fcharset0 Arial;\\f1\\fnil;\\f2 Last}\\plain\\f1 b\\f2 c\\f0 \\'e8}",
+         u"b<Last 12 238>c<Arial 12 0>è"},
+        // What editors save: a leading ";" is the first entry.
+        {u"{\\rtf1{\\colortbl;\\red255\\green1\\blue2;\\ctint9\\red300;}\\plain\\cf1 a\\cf0 b\\cf2 c\\cf3 d}",
+         u"<#ff0102>a<#000000>b<#ff0000>cd"},
+        // The older spelling passes over three characters, whichever they are.
+        {u"{\\rtf1{\\colortable;\\red10\\green20\\blue30;\\red40\\green50\\blue60;}\\plain a\\cf1 b}",
+         u"<#0a141e>a<#28323c>b"},
+        {u"{\\rtf1{\\colortable   \\red10\\green20\\blue30;;}\\plain a\\cf1 b}", u"<#0a141e>a<#000000>b"},
+        {u"{\\rtf1\\plain\\cf3 a}", u"a"},
+    });
+}
+
+TEST(RtfReader, HonoursLinkMarkersOnTheScreen) {
+    expectStreams({
+        {u"{\\rtf1\\plain *12Fresh herbs* are}", u"<112>Fresh herbs</> are"},
+        {u"{\\rtf1\\plain *015a* #b# @7c@ @1234d*5}", u"<115>a</> <20>b</> <37>c</> <3123>4d</>5"},
+        {u"{\\rtf1\\plain * 3a\\b *x \\'2a}", u"<10> 3a</><Times New Roman 12 b 238>x *"},
+        {u"{\\rtf1\\plain x*", u"x<10>"},
+    });
+}
+
+TEST(RtfReader, RemovesLinkMarkersOnPaper) {
+    expectStreams({{u"{\\rtf1\\plain *12Fresh herbs* are #b# @7c*1234}", u"Fresh herbs are b c4"},
+                   {u"{\\rtf1\\plain a*0b@00c}", u"a0b00c"}},
+                  LinkMarkers::Remove);
+}
+
+TEST(RtfReader, ReadsPlainTextAsItStands) {
+    expectStreams({{u"Kapr * 2\r\n3 \\par {x}\n\ny\rz\tw",
+                    u"Kapr * 2<endPara>3 \\par {x}<endPara><endPara>y<endPara>z<tab>w"},
+                   {u"  \r\n ", u""}});
+}
+
+TEST(RtfReader, StopsBetweenCharacters) {
+    DumpSink sink;
+    StopFlag stop = false;
+    sink.stopAtPara = &stop;
+    readRichText(u"{\\rtf1\\plain a\\par b\\par c}", sink, LinkMarkers::Honour, &stop);
+    EXPECT_EQ(sink.dump, QStringLiteral("a<endPara>"));
+}
+
+}  // namespace
+}  // namespace sarne

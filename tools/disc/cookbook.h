@@ -1,0 +1,190 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QMap>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include "problems.h"
+#include "textfile.h"
+
+namespace sarne::disc {
+
+enum class UnitKind { weight, volume, spoon, piece, free };
+
+struct Unit {
+    int id = 0;
+    QString name;
+    UnitKind kind = UnitKind::piece;
+    /// Grams for a weight, millilitres for a volume or a spoon, else 0.
+    double size = 0;
+};
+
+struct Ingredient {
+    int id = 0;
+    QString name;
+    bool isFish = false;
+    Place place;
+};
+
+/// A list of named things with ids from 1 on, in the order of the file: refinements, tools.
+struct NamedList {
+    QStringList names;
+    QList<Place> places;
+
+    /// The id of \a name, 0 when there is none.
+    int id(const QString& name) const { return static_cast<int>(names.indexOf(name)) + 1; }
+};
+
+struct Wine {
+    QString name;
+    /// "bílé suché", "červené" …: the menu finds the dishes to a kind of wine by it.
+    QString kind;
+    Place place;
+};
+
+/// Part of a recipe's list of ingredients. Units and ids are 0 when there is none.
+struct IngredientLine {
+    Place place;
+    int ingredient = 0;
+    int refinement = 0;
+    int alternative = 0;
+    double amount = 0;
+    int unit = 0;
+    double spoonAmount = 0;
+    int spoonUnit = 0;
+};
+
+struct Recipe {
+    int id = 0;
+    Place place;
+    QString name;
+    QString longName;
+    int portions = 0;
+    int minutes = 0;
+    /// What the menu sorts by: species, method, season, course …, and what follows from wines and time.
+    QSet<QString> tags;
+    QStringList courses;
+    QList<IngredientLine> ingredients;
+    QStringList tools;
+    QStringList wines;
+    QStringList auxiliary;
+    Lines method;
+    Lines introduction;
+    Lines serving;
+    Lines note;
+    Lines wineText;
+};
+
+/// An auxiliary recipe or an index keyword.
+struct Article {
+    int id = 0;
+    Place place;
+    QString name;
+    /// Further names under which link phrases find it.
+    QStringList otherNames;
+    Lines text;
+};
+
+struct QuickRecipe {
+    int id = 0;
+    Place place;
+    QString name;
+    int recipe = 0;
+};
+
+struct Page {
+    int id = 0;
+    Place place;
+    QString name;
+    /// The form that F1 opens the page from; may be empty.
+    QString screen;
+    Lines text;
+};
+
+struct HelpTopic {
+    int id = 0;
+    Place place;
+    QString name;
+    int page = 0;
+};
+
+struct Setting {
+    int id = 0;
+    QString name;
+    bool isOn = false;
+};
+
+struct Video {
+    int number = 0;
+    QString title;
+};
+
+/// A table of the index screen. Its id is its item number in the menu.
+struct LookupTable {
+    int id = 0;
+    Place place;
+    QString name;
+    QStringList columns;
+    QList<QStringList> rows;
+};
+
+/// One row of the menu as it will be stored.
+struct MenuRow {
+    Place place;
+    QString code;
+    QString label;
+    QString target;
+};
+
+/// A line of the menu file with what stands indented below it.
+struct MenuNode {
+    Place place;
+    QString label;
+    /// What stands behind "=>".
+    QString target;
+    QList<MenuNode> children;
+};
+
+struct MenuTopic {
+    Place place;
+    int number = 0;
+    QString heading;
+    QList<MenuNode> items;
+};
+
+/// Grams (or millilitres) of one unit of an ingredient: key "máslo" or "kapr, podkovy", then the unit's id.
+using UnitWeights = QHash<QString, QHash<int, double>>;
+
+/// The whole content of the disc as it was read.
+struct Cookbook {
+    QList<Unit> units;
+    QHash<QString, int> unitForms;
+    QList<Ingredient> ingredients;
+    NamedList refinements;
+    NamedList tools;
+    QList<Wine> wines;
+    UnitWeights unitWeights;
+    QMap<int, Recipe> recipes;
+    QList<Article> auxiliary;
+    QList<Article> keywords;
+    QList<QuickRecipe> quick;
+    QList<Page> pages;
+    QList<HelpTopic> help;
+    QList<Setting> settings;
+    QList<Video> videos;
+    QList<LookupTable> tables;
+    QList<MenuTopic> menuTopics;
+
+    const Unit* unit(int id) const { return id > 0 && id <= units.size() ? &units[id - 1] : nullptr; }
+    const Ingredient* ingredient(int id) const {
+        return id > 0 && id <= ingredients.size() ? &ingredients[id - 1] : nullptr;
+    }
+    int ingredientId(const QString& name) const;
+    int wineId(const QString& name) const;
+    int auxiliaryId(const QString& name) const;
+};
+
+}  // namespace sarne::disc

@@ -1,0 +1,106 @@
+#include "loadcookbook.h"
+
+#include "checks.h"
+#include "markup.h"
+#include "menu.h"
+#include "readrecipes.h"
+#include "readtables.h"
+#include "spelling.h"
+#include "typography.h"
+
+namespace sarne::disc {
+namespace {
+
+/// Hands every text with its place to the two checks.
+class Proofreader {
+  public:
+    Proofreader(const QStringList& known, Problems& problems) : spelling_(known), problems_(problems) {}
+
+    void text(const QString& text, const Place& place) {
+        const QString plain = plainText(text);
+        checkTypography(plain.trimmed(), place, problems_);
+        spelling_.add(plain, place);
+    }
+
+    void lines(const Lines& lines) {
+        for (const Line& line : lines) text(line.text, line.place);
+    }
+
+    void finish() { spelling_.report(problems_); }
+
+  private:
+    SpellCheck spelling_;
+    Problems& problems_;
+};
+
+void readRecipeTexts(const Cookbook& book, Proofreader& reader) {
+    for (const Recipe& recipe : book.recipes) {
+        reader.text(recipe.name, recipe.place);
+        reader.text(recipe.longName, recipe.place);
+        for (const Lines* text :
+             {&recipe.method, &recipe.introduction, &recipe.serving, &recipe.note, &recipe.wineText})
+            reader.lines(*text);
+    }
+}
+
+void readNames(const Cookbook& book, Proofreader& reader) {
+    for (const Ingredient& ingredient : book.ingredients) reader.text(ingredient.name, ingredient.place);
+    for (qsizetype i = 0; i < book.refinements.names.size(); ++i)
+        reader.text(book.refinements.names[i], book.refinements.places[i]);
+    for (qsizetype i = 0; i < book.tools.names.size(); ++i)
+        reader.text(book.tools.names[i], book.tools.places[i]);
+    for (const Wine& wine : book.wines) reader.text(wine.name, wine.place);
+    for (const QuickRecipe& quick : book.quick) reader.text(quick.name, quick.place);
+    for (const HelpTopic& topic : book.help) reader.text(topic.name, topic.place);
+}
+
+void readMenuTexts(const QList<MenuNode>& nodes, Proofreader& reader) {
+    for (const MenuNode& node : nodes) {
+        reader.text(node.label, node.place);
+        readMenuTexts(node.children, reader);
+    }
+}
+
+void readLookupTables(const Cookbook& book, Proofreader& reader) {
+    for (const LookupTable& table : book.tables) {
+        reader.text(table.name, table.place);
+        for (const QStringList& row : QList<QStringList>{table.columns} + table.rows)
+            for (const QString& cell : row) reader.text(cell, table.place);
+    }
+}
+
+}  // namespace
+
+Cookbook loadCookbook(const ContentFolder& folder, Problems& problems) {
+    Cookbook book;
+    readTables(folder, book, problems);
+    readArticles(folder, book, problems);
+    readRecipes(folder, book, problems);
+    readMenu(folder, book, problems);
+    checkCookbook(book, problems);
+    return book;
+}
+
+void proofread(const ContentFolder& folder, const Cookbook& book, Problems& problems) {
+    QStringList known;
+    for (const Row& row : tableRows(folder.read(QStringLiteral("slovnik.txt")))) known << row.at(0);
+    Proofreader reader(known, problems);
+    readRecipeTexts(book, reader);
+    readNames(book, reader);
+    for (const Article& article : book.auxiliary + book.keywords) {
+        reader.text(article.name, article.place);
+        reader.lines(article.text);
+    }
+    for (const Page& page : book.pages) {
+        reader.text(page.name, page.place);
+        reader.lines(page.text);
+    }
+    for (const MenuTopic& topic : book.menuTopics) {
+        reader.text(topic.heading, topic.place);
+        readMenuTexts(topic.items, reader);
+    }
+    readLookupTables(book, reader);
+    reader.finish();
+}
+
+}  // namespace sarne::disc

@@ -1,0 +1,315 @@
+#include "menu.h"
+
+#include <QRegularExpression>
+#include <functional>
+
+namespace sarne::disc {
+namespace {
+
+enum class TopicKind { none, flatActions, flatLists, submenus };
+
+TopicKind topicKind(int topic) {
+    switch (topic) {
+        case 1:
+        case 4:
+        case 9:
+        case 10:
+        case 12:
+        case 13:
+        case 18:
+            return TopicKind::flatActions;
+        case 3:
+        case 6:
+        case 15:
+            return TopicKind::flatLists;
+        case 2:
+        case 5:
+        case 8:
+        case 11:
+        case 14:
+        case 16:
+        case 17:
+            return TopicKind::submenus;
+        default:
+            return TopicKind::none;
+    }
+}
+
+MenuNode node(const Line& line) {
+    const QStringList parts = line.text.split(QStringLiteral("=>"));
+    return {line.place, parts[0].trimmed(), parts.value(1).trimmed(), {}};
+}
+
+/// Takes the lines indented by \a indent or more as siblings and their children.
+QList<MenuNode> takeNodes(const Lines& lines, qsizetype& at, int indent, Problems& problems) {
+    QList<MenuNode> nodes;
+    while (at < lines.size() && lines[at].indent() >= indent) {
+        if (lines[at].indent() == indent) {
+            nodes << node(lines[at++]);
+        } else if (nodes.isEmpty() || lines[at].indent() != indent + 2) {
+            problems.error(lines[at].place, QStringLiteral("indented by other than two blanks"));
+            ++at;
+        } else {
+            nodes.last().children = takeNodes(lines, at, indent + 2, problems);
+        }
+    }
+    return nodes;
+}
+
+/// Builds the rows of one topic.
+class RowMaker {
+  public:
+    RowMaker(const Cookbook& book, Problems& problems) : book_(book), problems_(problems) {}
+
+    QList<MenuRow> rows(const MenuTopic& topic) {
+        const QString code = QString::number(topic.number);
+        kind_ = topicKind(topic.number);
+        if (kind_ == TopicKind::none) {
+            problems_.error(topic.place, QStringLiteral("topic %1 ships no menu").arg(topic.number));
+            return {};
+        }
+        // The first topic's heading would have the tenth topic's own code.
+        level(code, topic.number == 1 ? QString() : topic.heading, topic.items, topic.place);
+        return rows_;
+    }
+
+  private:
+    void level(const QString& code, const QString& heading, const QList<MenuNode>& nodes,
+               const Place& place) {
+        if (!heading.isEmpty()) rows_ << MenuRow{place, code + u'0', u'@' + heading, {}};
+        if (nodes.size() > 9) problems_.error(place, QStringLiteral("more than nine items in one level"));
+        int position = 0;
+        for (const MenuNode& item : nodes) add(code + QString::number(++position), item);
+    }
+
+    void add(const QString& code, const MenuNode& item) {
+        if (!item.children.isEmpty()) {
+            rows_ << MenuRow{item.place, code, item.label, {}};
+            level(code, item.label, item.children, item.place);
+        } else if (kind_ == TopicKind::submenus) {
+            rows_ << MenuRow{item.place, code, item.label, {}};
+            lists(code, item);
+        } else {
+            rows_ << MenuRow{item.place, code, item.label, flatTarget(item)};
+        }
+    }
+
+    void lists(const QString& code, const MenuNode& item) {
+        const QSet<int> found = recipesWith(item);
+        rows_ << MenuRow{item.place, code + u'0', u'@' + item.label, {}}
+              << MenuRow{item.place, code + u'1', QStringLiteral("Recepty"), ids(found)}
+              << MenuRow{item.place, code + u'2', QStringLiteral("Rychlé recepty"), quickIds(found)};
+    }
+
+    QString flatTarget(const MenuNode& item) {
+        if (item.target == QStringLiteral("nikam")) return QStringLiteral("F");
+        if (item.target.startsWith(QStringLiteral("přímo "))) return item.target.mid(6);
+        if (item.target.startsWith(QLatin1String("video "))) return item.target.mid(6);
+        return ids(recipesWith(item));
+    }
+
+    QSet<int> recipesWith(const MenuNode& item) {
+        QSet<int> found;
+        for (const QString& choice : trimmedParts(item.target, u','))
+            for (const Recipe& recipe : book_.recipes)
+                if (hasAll(recipe, trimmedParts(choice, u'+'))) found.insert(recipe.id);
+        return found;
+    }
+
+    static bool hasAll(const Recipe& recipe, const QStringList& tags) {
+        return std::all_of(tags.cbegin(), tags.cend(),
+                           [&](const QString& t) { return recipe.tags.contains(t); });
+    }
+
+    /// The ids in the order of the recipes' names, as a list in a kitchen book.
+    QString ids(const QSet<int>& found) const {
+        QList<int> sorted(found.cbegin(), found.cend());
+        std::sort(sorted.begin(), sorted.end(), [&](int a, int b) {
+            return QString::localeAwareCompare(book_.recipes[a].name, book_.recipes[b].name) < 0;
+        });
+        QString text;
+        for (const int id : sorted) text += QString::number(id) + u',';
+        return text;
+    }
+
+    QString quickIds(const QSet<int>& found) const {
+        QString text;
+        for (const QuickRecipe& quick : book_.quick)
+            if (found.contains(quick.recipe)) text += QString::number(quick.id) + u',';
+        return text;
+    }
+
+    const Cookbook& book_;
+    Problems& problems_;
+    TopicKind kind_ = TopicKind::none;
+    QList<MenuRow> rows_;
+};
+
+/// The level that a row stands in: its code without the last digit.
+QString levelOf(const MenuRow& row) {
+    return row.code.chopped(1);
+}
+
+int topicOf(const QString& code) {
+    const int two = code.first(qMin<qsizetype>(2, code.size())).toInt();
+    // Only topic 1 has one item, "11", and no topic has more than eighteen; 2 to 9 begin every other code.
+    return two >= 10 && two <= 18 && code != QLatin1String("11") ? two : code.first(1).toInt();
+}
+
+bool isHeading(const MenuRow& row) {
+    return row.label.startsWith(u'@');
+}
+bool isSubmenu(const MenuRow& row) {
+    return !isHeading(row) && (row.target.isEmpty() || row.target == QLatin1String("D"));
+}
+
+void checkCode(const MenuRow& row, Problems& problems) {
+    static const QRegularExpression digits(QStringLiteral("^\\d{2,}$"));
+    const auto wrong = [&](const QString& why) {
+        problems.error(row.place, QStringLiteral("menu row \"%1\": %2").arg(row.code, why));
+    };
+    if (!digits.match(row.code).hasMatch())
+        return wrong(QStringLiteral("the code is not two digits or more"));
+    const int number = row.code.toInt();
+    if (row.code.size() == 2 && number >= 10 && number <= 18 && number != 11)
+        wrong(QStringLiteral("it has a topic's own code"));
+    if (topicKind(topicOf(row.code)) == TopicKind::none) wrong(QStringLiteral("its topic ships no menu"));
+    if (levelOf(row).toInt() > 32767 || levelOf(row).size() > 5)
+        wrong(QStringLiteral("its level is too deep"));
+    if (isHeading(row) != row.code.endsWith(u'0'))
+        wrong(QStringLiteral("a heading ends in 0, and nothing else does"));
+    if (row.label.isEmpty() || row.label == QLatin1String("@")) wrong(QStringLiteral("it has no label"));
+}
+
+void checkIds(const MenuRow& row, const QSet<int>& known, Problems& problems) {
+    const auto wrong = [&](const QString& why) {
+        problems.error(row.place, QStringLiteral("menu row \"%1\" (%2): %3").arg(row.code, row.label, why));
+    };
+    if (row.target.isEmpty()) return wrong(QStringLiteral("it leads to no recipe"));
+    if (!row.target.endsWith(u',')) return wrong(QStringLiteral("its list of ids does not end in a comma"));
+    for (const QString& id : row.target.chopped(1).split(u','))
+        if (!known.contains(id.toInt()))
+            wrong(QStringLiteral("it names \"%1\", which does not exist").arg(id));
+}
+
+QSet<int> quickNumbers(const Cookbook& book) {
+    QSet<int> known;
+    for (const QuickRecipe& quick : book.quick) known.insert(quick.id);
+    return known;
+}
+
+/// Over which table the program opens a list: the dispatcher's own rule.
+bool isOverRecipes(const MenuRow& row) {
+    return topicKind(topicOf(row.code)) == TopicKind::flatLists || row.code.endsWith(u'1');
+}
+
+void checkTarget(const MenuRow& row, const Cookbook& book, Problems& problems) {
+    if (isHeading(row)) return;
+    const TopicKind kind = topicKind(topicOf(row.code));
+    const auto wrong = [&](const QString& why) {
+        problems.error(row.place, QStringLiteral("menu row \"%1\" (%2): %3").arg(row.code, row.label, why));
+    };
+    if (kind == TopicKind::flatActions) {
+        if (row.target.isEmpty() || row.target == QLatin1String("D"))
+            wrong(QStringLiteral("it leads nowhere"));
+        if (row.code.size() != QString::number(topicOf(row.code)).size() + 1)
+            wrong(QStringLiteral("this topic has no submenus"));
+        return;
+    }
+    if (kind == TopicKind::submenus && isSubmenu(row)) return;
+    const QList<int> recipes = book.recipes.keys();
+    checkIds(row, isOverRecipes(row) ? QSet<int>(recipes.cbegin(), recipes.cend()) : quickNumbers(book),
+             problems);
+}
+
+void checkLevel(const QString& level, const QList<MenuRow>& rows, Problems& problems) {
+    int expected = 0;
+    bool submenus = false;
+    for (const MenuRow& row : rows) {
+        if (isHeading(row)) continue;
+        submenus = submenus || isSubmenu(row);
+        if (row.code != level + QString::number(++expected))
+            problems.error(row.place, QStringLiteral("menu row \"%1\": a gap in its level").arg(row.code));
+    }
+    if (expected == 0)
+        problems.error(rows.first().place, QStringLiteral("menu level \"%1\" has no items").arg(level));
+    if (submenus && expected > 9)
+        problems.error(rows.first().place,
+                       QStringLiteral("menu level \"%1\": more than nine items").arg(level));
+}
+
+/// What stands in the levels below topics with submenus: either submenus only, or the two lists.
+void checkLastLevel(const QList<MenuRow>& rows, Problems& problems) {
+    QList<MenuRow> items;
+    for (const MenuRow& row : rows)
+        if (!isHeading(row)) items << row;
+    const auto lists =
+        std::count_if(items.cbegin(), items.cend(), [](const MenuRow& r) { return !isSubmenu(r); });
+    if (lists == 0) return;
+    if (lists != 2 || items.size() != 2)
+        problems.error(items.first().place,
+                       QStringLiteral("menu level \"%1\": a last level has the recipes and "
+                                      "the quick recipes, nothing else")
+                           .arg(levelOf(items.first())));
+}
+
+}  // namespace
+
+void readMenu(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    static const QRegularExpression head(QStringLiteral("^téma (\\d+): (.+)$"));
+    Lines lines;
+    for (const Line& line : folder.read(QStringLiteral("menu.txt")))
+        if (!line.isBlank()) lines << line;
+    for (qsizetype at = 0; at < lines.size();) {
+        const Line line = lines[at++];
+        const auto match = head.match(line.text);
+        if (!match.hasMatch())
+            problems.error(line.place, QStringLiteral("not a topic: \"%1\"").arg(line.text));
+        book.menuTopics << MenuTopic{line.place, match.captured(1).toInt(), match.captured(2),
+                                     takeNodes(lines, at, 2, problems)};
+    }
+}
+
+QList<MenuRow> menuRows(const Cookbook& book, Problems& problems) {
+    QList<MenuRow> rows;
+    for (const MenuTopic& topic : book.menuTopics) rows << RowMaker(book, problems).rows(topic);
+    return rows;
+}
+
+void checkMenu(const QList<MenuRow>& rows, const Cookbook& book, Problems& problems) {
+    QMap<QString, QList<MenuRow>> levels;
+    for (const MenuRow& row : rows) {
+        checkCode(row, problems);
+        levels[levelOf(row)] << row;
+    }
+    for (auto level = levels.cbegin(); level != levels.cend(); ++level) {
+        checkLevel(level.key(), *level, problems);
+        if (topicKind(topicOf(level->first().code)) == TopicKind::submenus) checkLastLevel(*level, problems);
+    }
+    for (const MenuRow& row : rows) {
+        if (isSubmenu(row) && topicKind(topicOf(row.code)) == TopicKind::submenus &&
+            !levels.contains(row.code))
+            problems.error(row.place,
+                           QStringLiteral("menu row \"%1\": a submenu without items").arg(row.code));
+        checkTarget(row, book, problems);
+    }
+}
+
+void checkReachable(const QList<MenuRow>& rows, const Cookbook& book, Problems& problems) {
+    QSet<int> recipes;
+    QSet<int> quick;
+    for (const MenuRow& row : rows) {
+        if (isHeading(row) || !row.target.endsWith(u',')) continue;
+        QSet<int>& reached = isOverRecipes(row) ? recipes : quick;
+        for (const QString& id : row.target.chopped(1).split(u',')) reached.insert(id.toInt());
+    }
+    for (const Recipe& recipe : book.recipes)
+        if (!recipes.contains(recipe.id))
+            problems.error(recipe.place,
+                           QStringLiteral("the menu does not lead to the recipe \"%1\"").arg(recipe.name));
+    for (const QuickRecipe& entry : book.quick)
+        if (!quick.contains(entry.id))
+            problems.error(entry.place, QStringLiteral("the menu does not lead to \"%1\"").arg(entry.name));
+}
+
+}  // namespace sarne::disc

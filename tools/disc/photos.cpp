@@ -1,0 +1,204 @@
+#include "photos.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QRect>
+
+#include "checks.h"
+#include "standins.h"
+#include "writedatabase.h"
+
+namespace sarne::disc {
+namespace {
+
+/// Changed whenever pictures would come out different from the same source.
+constexpr const char* kVersion = "1";
+constexpr int kRecipes = 50;
+constexpr QSize kGridSize(1440, 1080);
+const QColor kPaper(244, 234, 210);
+const QColor kNight(11, 34, 38);
+
+struct PhotoSize {
+    const char* folder;
+    QSize size;
+};
+constexpr PhotoSize kSizes[] = {{"Recepty", {1360, 1020}}, {"Velke", {800, 600}}, {"Male", {400, 300}}};
+constexpr QSize kGroundSize(480, 360);
+
+/// \a picture cut to \a size's shape around its middle and scaled to it.
+QImage fitted(const QImage& picture, const QSize& size) {
+    const QSize part = size.scaled(picture.size(), Qt::KeepAspectRatio);
+    const QRect middle(QPoint((picture.width() - part.width()) / 2, (picture.height() - part.height()) / 2),
+                       part);
+    return picture.copy(middle).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// A calm ground for texts: the picture blurred and lightened towards paper.
+QImage calmGround(const QImage& picture) {
+    QImage ground =
+        fitted(picture, QSize(32, 24)).scaled(kGroundSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    ground = ground.convertToFormat(QImage::Format_RGB32);
+    QPainter painter(&ground);
+    painter.setOpacity(0.68);
+    painter.fillRect(ground.rect(), kPaper);
+    return ground;
+}
+
+bool saveBitmap(const QImage& picture, const QString& file) {
+    return picture.convertToFormat(QImage::Format_RGB32).save(file, "BMP");
+}
+
+QString dishFile(const Workshop& shop, int id) {
+    return shop.art + QStringLiteral("/rendered/dishes/%1.jpg").arg(id, 2, 10, QLatin1Char('0'));
+}
+
+QString dishName(const Workshop& shop, int id) {
+    return shop.book.recipes.contains(id) ? shop.book.recipes[id].name : QStringLiteral("Recept %1").arg(id);
+}
+
+QImage dish(const Workshop& shop, int id) {
+    const QImage rendered(dishFile(shop, id));
+    if (!rendered.isNull()) return rendered;
+    return standInDish(id, dishName(shop, id), gridCourses(id).value(0));
+}
+
+/// What a dish's pictures are made from.
+QString dishOrigin(const Workshop& shop, int id) {
+    const QString file = dishFile(shop, id);
+    return originOf({file},
+                    QLatin1String(kVersion) + (QFileInfo::exists(file) ? QString() : dishName(shop, id)));
+}
+
+void makeDish(Workshop& shop, int id) {
+    const QString origin = dishOrigin(shop, id);
+    QImage source;
+    const auto loaded = [&]() -> const QImage& {
+        if (source.isNull()) source = dish(shop, id);
+        return source;
+    };
+    const QString name = QStringLiteral("/r%1.bmp").arg(id);
+    for (const PhotoSize& photo : kSizes) {
+        const QString file = shop.disc + QStringLiteral("/foto/") + QLatin1String(photo.folder) + name;
+        shop.make(file, origin, [&] { return saveBitmap(fitted(loaded(), photo.size), file); });
+    }
+    const QString ground = shop.disc + QStringLiteral("/foto/Podklad") + name;
+    shop.make(ground, origin, [&] { return saveBitmap(calmGround(loaded()), ground); });
+}
+
+QRect onPicture(const QRect& twips, const QSize& picture) {
+    const double scale = picture.width() / 12000.0;
+    return QRectF(twips.x() * scale, twips.y() * scale, twips.width() * scale, twips.height() * scale)
+        .toRect();
+}
+
+/// All dishes on the grid's ground; those outside \a course dimmed, none when it is empty.
+QImage composite(const Workshop& shop, const QList<QImage>& dishes, const QString& course) {
+    const QImage ground(shop.art + QStringLiteral("/rendered/pozadi/sit.jpg"));
+    QImage picture = fitted(ground.isNull() ? standInGround({}) : ground, kGridSize);
+    picture = picture.convertToFormat(QImage::Format_RGB32);
+    QPainter painter(&picture);
+    for (int id = 1; id <= kRecipes; ++id) {
+        const QRect cell = onPicture(gridCell(id), kGridSize);
+        painter.drawImage(cell, dishes[id - 1]);
+        if (course.isEmpty() || gridCourses(id).contains(course)) continue;
+        QColor dim = kNight;
+        dim.setAlpha(200);
+        painter.fillRect(cell, dim);
+    }
+    return picture;
+}
+
+void makeGrid(Workshop& shop) {
+    QString details = QLatin1String(kVersion);
+    for (int id = 1; id <= kRecipes; ++id) details += dishOrigin(shop, id);
+    const QString origin = originOf({shop.art + QStringLiteral("/rendered/pozadi/sit.jpg")}, details);
+    QList<QImage> dishes;
+    const auto loaded = [&]() -> const QList<QImage>& {
+        const QSize cell = onPicture(gridCell(1), kGridSize).size();
+        for (int id = 1; id <= kRecipes && dishes.size() < kRecipes; ++id)
+            dishes << fitted(QImage(shop.disc + QStringLiteral("/foto/Male/r%1.bmp").arg(id)), cell);
+        return dishes;
+    };
+    const QStringList courses{QString(), QStringLiteral("polévka"), QStringLiteral("teplé"),
+                              QStringLiteral("studené"), QStringLiteral("slavnostní")};
+    for (int i = 0; i < courses.size(); ++i) {
+        const QString name = i == 0 ? QStringLiteral("sitCela") : QStringLiteral("sit%1").arg(i - 1);
+        const QString file = shop.disc + QStringLiteral("/foto/%1.bmp").arg(name);
+        shop.make(file, origin, [&] { return saveBitmap(composite(shop, loaded(), courses[i]), file); });
+    }
+}
+
+/// One picture of the disc from one file of the art, with a ground and a title as its stand-in.
+void makeOne(Workshop& shop, const QString& source, const QString& target, const QSize& size,
+             const QString& title) {
+    const QString from = shop.art + u'/' + source;
+    const QString to = shop.disc + u'/' + target;
+    shop.make(to, originOf({from}, QLatin1String(kVersion)), [&] {
+        const QImage rendered(from);
+        return saveBitmap(fitted(rendered.isNull() ? standInGround(title) : rendered, size), to);
+    });
+    if (!QFileInfo::exists(from)) shop.problems.note(QStringLiteral("art/%1 is missing").arg(source));
+}
+
+QByteArray groundBytes(const Workshop& shop, const QString& source, const QString& title) {
+    QFile file(shop.art + u'/' + source);
+    if (file.open(QIODevice::ReadOnly)) return file.readAll();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    standInGround(title).save(&buffer, "JPG", 90);
+    return bytes;
+}
+
+}  // namespace
+
+QRect gridCell(int id) {
+    constexpr int kInRow = 7;
+    const int column = (id - 1) % kInRow;
+    const int row = (id - 1) / kInRow;
+    return {240 + column * 1280, 240 + row * 960, 1240, 930};
+}
+
+void makePhotos(Workshop& shop) {
+    QStringList missing;
+    for (int id = 1; id <= kRecipes; ++id) {
+        makeDish(shop, id);
+        if (!QFileInfo::exists(dishFile(shop, id))) missing << QString::number(id);
+    }
+    if (!missing.isEmpty())
+        shop.problems.note(
+            QStringLiteral("art/rendered/dishes lacks %1").arg(missing.join(QStringLiteral(", "))));
+    makeGrid(shop);
+    makeOne(shop, QStringLiteral("rendered/pozadi/vino.jpg"), QStringLiteral("foto/vino256.bmp"), {400, 300},
+            QStringLiteral("Víno"));
+    const QList<std::pair<int, QString>> gallery{{1, QStringLiteral("O kuchařce")},
+                                                 {9, QStringLiteral("Ryby našich vod")},
+                                                 {13, QStringLiteral("Jak kuchařka vznikala")}};
+    for (const auto& [number, title] : gallery)
+        makeOne(shop, QStringLiteral("rendered/sponzor/%1.jpg").arg(number),
+                QStringLiteral("foto/sponzor/%1.bmp").arg(number), {1024, 768}, title);
+}
+
+void makeScreenPictures(Workshop& shop) {
+    const QStringList sources{
+        QStringLiteral("rendered/hlavni/pozadi.jpg"), QStringLiteral("rendered/pozadi/konec.jpg"),
+        QStringLiteral("rendered/pozadi/video.jpg"),  QStringLiteral("rendered/pozadi/seznam.jpg"),
+        QStringLiteral("rendered/pozadi/recept.jpg"), QStringLiteral("rendered/pozadi/sit.jpg")};
+    QStringList files;
+    for (const QString& source : sources) {
+        files << shop.art + u'/' + source;
+        if (!QFileInfo::exists(files.last()))
+            shop.problems.note(QStringLiteral("art/%1 is missing").arg(source));
+    }
+    const QString output = shop.program + QStringLiteral("/KOp.bj");
+    shop.make(output, originOf(files, QLatin1String(kVersion)), [&] {
+        QList<QByteArray> pictures;
+        for (const QString& source : sources) pictures << groundBytes(shop, source, {});
+        writePictureDatabase(pictures, output, shop.problems);
+        return QFileInfo::exists(output);
+    });
+}
+
+}  // namespace sarne::disc

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace sarne::disc {
+
+/// Where something stands in the content: a file below the content folder and a line, 1 being the first.
+/// Line 0 is the file as a whole.
+struct Place {
+    QString file;
+    int line = 0;
+};
+
+/// What is wrong with the content or the art. Errors stop the build; notes are printed at its end.
+class Problems {
+  public:
+    void error(const Place& place, const QString& text);
+    void note(const QString& text);
+
+    bool hasErrors() const { return !errors_.isEmpty(); }
+    /// "file:line: text", in the order in which they were found, each once.
+    const QStringList& errors() const { return errors_; }
+    const QStringList& notes() const { return notes_; }
+
+  private:
+    QStringList errors_;
+    QStringList notes_;
+};
+
+}  // namespace sarne::disc

@@ -1,0 +1,145 @@
+#include "readrecipes.h"
+
+#include <QRegularExpression>
+#include <functional>
+
+#include "readtables.h"
+
+namespace sarne::disc {
+namespace {
+
+struct Amount {
+    double number = 0;
+    int unit = 0;
+};
+
+Amount amount(const QString& text, const Line& line, const Cookbook& book, Problems& problems) {
+    static const QRegularExpression pattern(QStringLiteral("^([\\d,]*)\\s*(\\S.*)?$"));
+    const auto match = pattern.match(text.trimmed());
+    Amount found{qMax(0.0, czechNumber(match.captured(1))),
+                 book.unitForms.value(match.captured(2).trimmed())};
+    if (match.captured(2).trimmed().isEmpty())
+        problems.error(line.place, QStringLiteral("a unit is missing: \"%1\"").arg(text.trimmed()));
+    else if (found.unit == 0)
+        problems.error(line.place, QStringLiteral("unknown unit \"%1\"").arg(match.captured(2).trimmed()));
+    else if (found.number <= 0 && book.unit(found.unit)->kind != UnitKind::free)
+        problems.error(line.place, QStringLiteral("a number is missing: \"%1\"").arg(text.trimmed()));
+    return found;
+}
+
+int ingredientId(const QString& name, const Line& line, const Cookbook& book, Problems& problems) {
+    const int id = book.ingredientId(name);
+    if (id == 0) problems.error(line.place, QStringLiteral("unknown ingredient \"%1\"").arg(name));
+    return id;
+}
+
+void readAmounts(const QString& text, const Line& line, const Cookbook& book, Problems& problems,
+                 IngredientLine& read) {
+    const QStringList both = text.split(u'=');
+    const Amount first = amount(both.first(), line, book, problems);
+    const Amount second = both.size() > 1 ? amount(both[1], line, book, problems) : first;
+    read.amount = first.number;
+    read.unit = first.unit;
+    read.spoonAmount = second.number;
+    read.spoonUnit = second.unit;
+    const Unit* unit = book.unit(first.unit);
+    if (both.size() == 1 && unit && (unit->kind == UnitKind::weight || unit->kind == UnitKind::volume))
+        problems.error(line.place, QStringLiteral("the amount in spoons is missing"));
+}
+
+using Field = std::function<void(Recipe&, const QString&)>;
+
+void addTags(Recipe& recipe, const QString& value) {
+    for (const QString& tag : trimmedParts(value, u',')) recipe.tags.insert(tag);
+}
+
+const QHash<QString, Field>& fields() {
+    static const QHash<QString, Field> all{
+        {QStringLiteral("název"), [](Recipe& r, const QString& v) { r.name = v; }},
+        {QStringLiteral("dlouhý název"), [](Recipe& r, const QString& v) { r.longName = v; }},
+        {QStringLiteral("porce"), [](Recipe& r, const QString& v) { r.portions = v.toInt(); }},
+        {QStringLiteral("minut"), [](Recipe& r, const QString& v) { r.minutes = v.toInt(); }},
+        {QStringLiteral("chod"), [](Recipe& r, const QString& v) { r.courses = trimmedParts(v, u','); }},
+        {QStringLiteral("ryba"), addTags},
+        {QStringLiteral("úprava"), addTags},
+        {QStringLiteral("období"), addTags},
+        {QStringLiteral("zařazení"), addTags},
+        {QStringLiteral("pomůcky"), [](Recipe& r, const QString& v) { r.tools = trimmedParts(v, u','); }},
+        {QStringLiteral("vína"), [](Recipe& r, const QString& v) { r.wines = trimmedParts(v, u','); }},
+        {QStringLiteral("odkazy"), [](Recipe& r, const QString& v) { r.auxiliary = trimmedParts(v, u','); }}};
+    return all;
+}
+
+void readHead(const Lines& lines, Recipe& recipe, Problems& problems) {
+    for (const Line& line : lines) {
+        if (line.isBlank()) continue;
+        const KeyValue entry = keyValue(line);
+        const auto field = fields().constFind(entry.key);
+        if (field == fields().cend())
+            problems.error(line.place, QStringLiteral("unknown key \"%1\"").arg(entry.key));
+        else
+            (*field)(recipe, entry.value);
+    }
+}
+
+void readSection(const Section& section, const Cookbook& book, Recipe& recipe, Problems& problems) {
+    static const QHash<QString, Lines Recipe::*> texts{{QStringLiteral("Postup"), &Recipe::method},
+                                                       {QStringLiteral("Úvod"), &Recipe::introduction},
+                                                       {QStringLiteral("Jak podávat"), &Recipe::serving},
+                                                       {QStringLiteral("Poznámka"), &Recipe::note},
+                                                       {QStringLiteral("Víno"), &Recipe::wineText}};
+    if (section.title == QStringLiteral("Suroviny")) {
+        for (const Line& line : section.lines)
+            if (!line.isBlank()) recipe.ingredients << readIngredientLine(line, book, problems);
+    } else if (texts.contains(section.title)) {
+        recipe.*texts.value(section.title) = section.lines;
+    } else {
+        problems.error(section.place, QStringLiteral("unknown section \"%1\"").arg(section.title));
+    }
+}
+
+void addDerivedTags(const Cookbook& book, Recipe& recipe) {
+    for (const QString& tag : recipe.courses + recipe.auxiliary) recipe.tags.insert(tag);
+    for (const QString& wine : recipe.wines)
+        if (const int id = book.wineId(wine)) recipe.tags.insert(book.wines[id - 1].kind);
+    if (recipe.minutes > 0 && recipe.minutes <= 30) recipe.tags.insert(QStringLiteral("do 30 minut"));
+}
+
+}  // namespace
+
+IngredientLine readIngredientLine(const Line& line, const Cookbook& book, Problems& problems) {
+    IngredientLine read;
+    read.place = line.place;
+    const KeyValue parts = keyValue(line);
+    const QString name = line.text.section(u':', 0, 0).trimmed();
+    if (parts.key.isEmpty()) {
+        problems.error(line.place, QStringLiteral("an ingredient without an amount"));
+        return read;
+    }
+    read.ingredient = ingredientId(name.section(u',', 0, 0).trimmed(), line, book, problems);
+    const QString refinement = name.section(u',', 1).trimmed();
+    read.refinement = book.refinements.id(refinement);
+    if (!refinement.isEmpty() && read.refinement == 0)
+        problems.error(line.place, QStringLiteral("unknown refinement \"%1\"").arg(refinement));
+    const QStringList halves = parts.value.split(QStringLiteral(", nebo "));
+    readAmounts(halves.first(), line, book, problems, read);
+    if (halves.size() > 1) read.alternative = ingredientId(halves[1].trimmed(), line, book, problems);
+    return read;
+}
+
+void readRecipes(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    for (const QString& file : folder.files(QStringLiteral("recepty"))) {
+        Recipe recipe;
+        recipe.place = {file, 1};
+        recipe.id = file.section(u'/', -1).section(u'-', 0, 0).toInt();
+        const QList<Section> parts = sections(folder.read(file));
+        readHead(parts.first().lines, recipe, problems);
+        for (const Section& section : parts.mid(1)) readSection(section, book, recipe, problems);
+        addDerivedTags(book, recipe);
+        if (recipe.id < 1 || recipe.id > 50 || book.recipes.contains(recipe.id))
+            problems.error(recipe.place, QStringLiteral("the file's number must be from 1 to 50, each once"));
+        book.recipes.insert(recipe.id, recipe);
+    }
+}
+
+}  // namespace sarne::disc

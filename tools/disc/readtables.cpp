@@ -1,0 +1,192 @@
+#include "readtables.h"
+
+#include <QRegularExpression>
+
+namespace sarne::disc {
+namespace {
+
+const QHash<QString, UnitKind>& unitKinds() {
+    static const QHash<QString, UnitKind> kinds{{QStringLiteral("hmotnost"), UnitKind::weight},
+                                                {QStringLiteral("objem"), UnitKind::volume},
+                                                {QStringLiteral("lžíce"), UnitKind::spoon},
+                                                {QStringLiteral("kus"), UnitKind::piece},
+                                                {QStringLiteral("volné"), UnitKind::free}};
+    return kinds;
+}
+
+void readUnits(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    for (const Row& row : tableRows(folder.read(QStringLiteral("jednotky.txt")))) {
+        if (!unitKinds().contains(row.at(2)))
+            problems.error(row.place, QStringLiteral("unknown kind of unit"));
+        const int id = static_cast<int>(book.units.size()) + 1;
+        book.units << Unit{id, row.at(0), unitKinds().value(row.at(2)), qMax(0.0, czechNumber(row.at(3)))};
+        QStringList forms = trimmedParts(row.at(1), u',');
+        forms.prepend(row.at(0));
+        for (const QString& form : std::as_const(forms)) {
+            if (book.unitForms.contains(form))
+                problems.error(row.place, QStringLiteral("the unit \"%1\" stands twice").arg(form));
+            book.unitForms.insert(form, id);
+        }
+    }
+}
+
+void readIngredients(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    for (const Row& row : tableRows(folder.read(QStringLiteral("suroviny.txt")))) {
+        if (book.ingredientId(row.at(0)))
+            problems.error(row.place, QStringLiteral("the ingredient \"%1\" stands twice").arg(row.at(0)));
+        book.ingredients << Ingredient{static_cast<int>(book.ingredients.size()) + 1, row.at(0),
+                                       row.at(1) == QStringLiteral("ryba"), row.place};
+    }
+}
+
+NamedList readNames(const ContentFolder& folder, const QString& file, Problems& problems) {
+    NamedList list;
+    for (const Row& row : tableRows(folder.read(file))) {
+        if (list.id(row.at(0)))
+            problems.error(row.place, QStringLiteral("\"%1\" stands twice").arg(row.at(0)));
+        list.names << row.at(0);
+        list.places << row.place;
+    }
+    return list;
+}
+
+void readWines(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    for (const Row& row : tableRows(folder.read(QStringLiteral("vina.txt")))) {
+        if (row.at(1).isEmpty()) problems.error(row.place, QStringLiteral("a wine without a kind"));
+        book.wines << Wine{row.at(0), row.at(1), row.place};
+    }
+}
+
+/// "lžíce 15 g": the unit's id and the grams.
+std::pair<int, double> unitWeight(const QString& text, const Cookbook& book) {
+    static const QRegularExpression pattern(QStringLiteral("^(.+) ([\\d,]+) (g|ml)$"));
+    const auto match = pattern.match(text);
+    if (!match.hasMatch()) return {0, 0};
+    return {book.unitForms.value(match.captured(1)), czechNumber(match.captured(2))};
+}
+
+void readWeights(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    for (const Line& line : folder.read(QStringLiteral("lzice.txt"))) {
+        if (line.isBlank()) continue;
+        const KeyValue entry = keyValue(line);
+        const QString name = entry.key.section(u',', 0, 0).trimmed();
+        if (!book.ingredientId(name) && name != QStringLiteral("ryba"))
+            problems.error(line.place, QStringLiteral("unknown ingredient \"%1\"").arg(name));
+        for (const QString& part : entry.value.split(QStringLiteral("; "))) {
+            const auto [unit, grams] = unitWeight(part.trimmed(), book);
+            if (unit == 0 || grams <= 0)
+                problems.error(line.place, QStringLiteral("not a weight per unit: \"%1\"").arg(part));
+            book.unitWeights[entry.key].insert(unit, grams);
+        }
+    }
+}
+
+void readSettings(const ContentFolder& folder, Cookbook& book) {
+    for (const Row& row : tableRows(folder.read(QStringLiteral("nastav.txt"))))
+        book.settings << Setting{row.at(0).toInt(), row.at(1), row.at(2) == QStringLiteral("zapnuto")};
+}
+
+void readVideos(const ContentFolder& folder, Cookbook& book) {
+    for (const Row& row : tableRows(folder.read(QStringLiteral("videa.txt"))))
+        book.videos << Video{row.at(0).toInt(), row.at(1)};
+}
+
+void readQuick(const ContentFolder& folder, Cookbook& book) {
+    for (const Row& row : tableRows(folder.read(QStringLiteral("rychle.txt"))))
+        book.quick << QuickRecipe{row.at(0).toInt(), row.place, row.at(1), row.at(2).toInt()};
+}
+
+/// The cells of a section's title.
+Row titleCells(const Section& section) {
+    Row row;
+    row.place = section.place;
+    for (const QString& cell : section.title.split(u'|')) row.cells << cell.trimmed();
+    return row;
+}
+
+/// "12 | Kapr | kapra, kapři": an article begins like this behind "==".
+Article article(const Section& section) {
+    const Row head = titleCells(section);
+    return {head.at(0).toInt(), section.place, head.at(1), trimmedParts(head.at(2), u','), section.lines};
+}
+
+QList<Article> articles(const ContentFolder& folder, const QString& subfolder, Problems& problems) {
+    QList<Article> all;
+    QSet<int> ids;
+    for (const QString& file : folder.files(subfolder)) {
+        const QList<Section> parts = sections(folder.read(file));
+        for (const Section& section : parts.mid(1)) {
+            all << article(section);
+            if (all.last().id < 1 || all.last().id > 999 || ids.contains(all.last().id))
+                problems.error(section.place, QStringLiteral("the number must be from 1 to 999, each once"));
+            ids.insert(all.last().id);
+        }
+    }
+    return all;
+}
+
+void readPages(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    for (const QString& file : folder.files(QStringLiteral("stranky"))) {
+        const QList<Section> parts = sections(folder.read(file));
+        for (const Section& section : parts.mid(1)) {
+            const Row head = titleCells(section);
+            if (head.at(0).toInt() < 1)
+                problems.error(section.place, QStringLiteral("a page without a number"));
+            book.pages << Page{head.at(0).toInt(), section.place, head.at(1), head.at(2), section.lines};
+        }
+    }
+    for (const Row& row : tableRows(folder.read(QStringLiteral("help.txt"))))
+        book.help << HelpTopic{row.at(0).toInt(), row.place, row.at(1), row.at(2).toInt()};
+}
+
+void readLookupTables(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    for (const QString& file : folder.files(QStringLiteral("tabulky"))) {
+        QList<Row> rows = tableRows(folder.read(file));
+        if (rows.size() < 3) {
+            problems.error({file, 0}, QStringLiteral("a table needs a name, headings and rows"));
+            continue;
+        }
+        const Row name = rows.takeFirst();
+        const Row heads = rows.takeFirst();
+        LookupTable table{name.at(0).toInt(), name.place, name.at(1), heads.cells, {}};
+        for (const Row& row : rows) {
+            if (row.cells.size() != heads.cells.size())
+                problems.error(row.place, QStringLiteral("%1 cells under %2 headings")
+                                              .arg(row.cells.size())
+                                              .arg(heads.cells.size()));
+            table.rows << row.cells;
+        }
+        book.tables << table;
+    }
+}
+
+}  // namespace
+
+double czechNumber(const QString& text) {
+    QString plain = text;
+    plain.remove(u' ').replace(u',', u'.');
+    bool ok = false;
+    const double value = plain.toDouble(&ok);
+    return ok ? value : -1;
+}
+
+void readTables(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    readUnits(folder, book, problems);
+    readIngredients(folder, book, problems);
+    book.refinements = readNames(folder, QStringLiteral("upresneni.txt"), problems);
+    book.tools = readNames(folder, QStringLiteral("pomucky.txt"), problems);
+    readWines(folder, book, problems);
+    readWeights(folder, book, problems);
+    readSettings(folder, book);
+    readVideos(folder, book);
+    readQuick(folder, book);
+}
+
+void readArticles(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    book.auxiliary = articles(folder, QStringLiteral("odkazy"), problems);
+    book.keywords = articles(folder, QStringLiteral("hesla"), problems);
+    readPages(folder, book, problems);
+    readLookupTables(folder, book, problems);
+}
+
+}  // namespace sarne::disc

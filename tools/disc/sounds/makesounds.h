@@ -1,0 +1,12 @@
+#pragma once
+
+#include "../workshop.h"
+
+namespace sarne::disc {
+
+/// Makes everything that sounds: the effects as scratch/zvuky/N.wav (they go into the program's resources; N
+/// is the resource's number: 1 and up, 101 to 121 for the main screen's buttons), the music disc/HUDBA.WAV
+/// and disc/zvuky/Vina.WAV, and the spoken names disc/zvuky/čN.wav.
+void makeSounds(Workshop& shop);
+
+}  // namespace sarne::disc

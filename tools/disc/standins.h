@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+namespace sarne::disc {
+
+/// Pictures drawn for what the art does not have yet, so that the program runs from the first day.
+
+/// A plate with a fish in the colours of the recipe's kind of dish, its name below; 1600 x 1200.
+QImage standInDish(int id, const QString& name, const QString& course);
+
+/// The calm ground of a screen, in evening teal, with a paper field in the middle; 1600 x 1200.
+QImage standInGround(const QString& title);
+
+/// A small object for a button: a copper plate with \a caption.
+QImage standInObject(const QString& caption);
+
+}  // namespace sarne::disc
