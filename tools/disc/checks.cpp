@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "readsponsors.h"
+
 namespace sarne::disc {
 namespace {
 
@@ -198,6 +200,8 @@ void checkCookbook(const Cookbook& book, Problems& problems) {
     checkQuick(book, problems);
     checkUse(book, problems);
     checkPages(book, problems);
+    Problems known;  // names that stand twice are reported when the database is written
+    checkSponsors(book, linkBook(book, known), problems);
     if (book.settings.size() != kSwitches)
         problems.error({QStringLiteral("nastav.txt"), 0}, QStringLiteral("the program has five switches"));
 }

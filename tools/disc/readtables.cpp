@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include "readsponsors.h"
+
 namespace sarne::disc {
 namespace {
 
@@ -148,7 +150,7 @@ void readLookupTables(const ContentFolder& folder, Cookbook& book, Problems& pro
         }
         const Row name = rows.takeFirst();
         const Row heads = rows.takeFirst();
-        LookupTable table{name.at(0).toInt(), name.place, name.at(1), heads.cells, {}};
+        LookupTable table{name.at(0).toInt(), name.place, name.at(1), name.at(2), heads.cells, {}};
         for (const Row& row : rows) {
             if (row.cells.size() != heads.cells.size())
                 problems.error(row.place, QStringLiteral("%1 cells under %2 headings")
@@ -187,6 +189,7 @@ void readArticles(const ContentFolder& folder, Cookbook& book, Problems& problem
     book.keywords = articles(folder, QStringLiteral("hesla"), problems);
     readPages(folder, book, problems);
     readLookupTables(folder, book, problems);
+    readSponsors(folder, book, problems);
 }
 
 }  // namespace sarne::disc
