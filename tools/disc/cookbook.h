@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QList>
 #include <QMap>
+#include <QRect>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -127,10 +128,30 @@ struct LookupTable {
     int id = 0;
     Place place;
     QString name;
-    /// What the numbers are for; may be empty.
+    /// A sentence for the whole table; may be empty.
     QString note;
     QStringList columns;
     QList<QStringList> rows;
+};
+
+/// A click area of a gallery picture, in thousandths of the picture.
+struct GalleryArea {
+    Place where;
+    QRect place;
+    QString name;
+    /// A keyword, "video 3", "obraz 9", or empty when the area shows its text.
+    QString target;
+    Lines text;
+};
+
+struct GalleryPicture {
+    /// The number of its file.
+    int id = 0;
+    int topic = 0;
+    Place place;
+    QString name;
+    Lines text;
+    QList<GalleryArea> areas;
 };
 
 /// One row of the menu as it will be stored.
@@ -178,6 +199,7 @@ struct Cookbook {
     QList<Setting> settings;
     QList<Video> videos;
     QList<LookupTable> tables;
+    QList<GalleryPicture> gallery;
     QList<MenuTopic> menuTopics;
 
     const Unit* unit(int id) const { return id > 0 && id <= units.size() ? &units[id - 1] : nullptr; }

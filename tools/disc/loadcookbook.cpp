@@ -64,8 +64,20 @@ void readMenuTexts(const QList<MenuNode>& nodes, Proofreader& reader) {
 void readLookupTables(const Cookbook& book, Proofreader& reader) {
     for (const LookupTable& table : book.tables) {
         reader.text(table.name, table.place);
+        reader.text(table.note, table.place);
         for (const QStringList& row : QList<QStringList>{table.columns} + table.rows)
             for (const QString& cell : row) reader.text(cell, table.place);
+    }
+}
+
+void readGallery(const Cookbook& book, Proofreader& reader) {
+    for (const GalleryPicture& picture : book.gallery) {
+        reader.text(picture.name, picture.place);
+        reader.lines(picture.text);
+        for (const GalleryArea& area : picture.areas) {
+            reader.text(area.name, area.where);
+            reader.lines(area.text);
+        }
     }
 }
 
@@ -100,6 +112,7 @@ void proofread(const ContentFolder& folder, const Cookbook& book, Problems& prob
         readMenuTexts(topic.items, reader);
     }
     readLookupTables(book, reader);
+    readGallery(book, reader);
     reader.finish();
 }
 

@@ -19,7 +19,7 @@ using namespace sarne::disc;
 namespace {
 
 /// Changed whenever the same content would give another database.
-const QString kDatabaseVersion = QStringLiteral("1");
+const QString kDatabaseVersion = QStringLiteral("2");
 constexpr qint64 kDiscLimit = 400'000'000;
 
 struct Options {

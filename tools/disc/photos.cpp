@@ -17,8 +17,7 @@ namespace {
 /// Changed whenever pictures would come out different from the same source.
 constexpr const char* kVersion = "1";
 constexpr int kRecipes = 50;
-/// Composites and gallery pictures, which fill the screen.
-constexpr QSize kScreenSize(1440, 1080);
+constexpr QSize kFullScreen(1440, 1080);
 const QColor kPaper(244, 234, 210);
 const QColor kNight(11, 34, 38);
 
@@ -98,11 +97,11 @@ QRect onPicture(const QRect& twips, const QSize& picture) {
 /// All dishes on the grid's ground; those outside \a course dimmed, none when it is empty.
 QImage composite(const Workshop& shop, const QList<QImage>& dishes, const QString& course) {
     const QImage ground(shop.art + QStringLiteral("/rendered/pozadi/sit.jpg"));
-    QImage picture = fitted(ground.isNull() ? standInGround({}) : ground, kScreenSize);
+    QImage picture = fitted(ground.isNull() ? standInGround({}) : ground, kFullScreen);
     picture = picture.convertToFormat(QImage::Format_RGB32);
     QPainter painter(&picture);
     for (int id = 1; id <= kRecipes; ++id) {
-        const QRect cell = onPicture(gridCell(id), kScreenSize);
+        const QRect cell = onPicture(gridCell(id), kFullScreen);
         painter.drawImage(cell, dishes[id - 1]);
         if (course.isEmpty() || gridCourses(id).contains(course)) continue;
         QColor dim = kNight;
@@ -118,7 +117,7 @@ void makeGrid(Workshop& shop) {
     const QString origin = originOf({shop.art + QStringLiteral("/rendered/pozadi/sit.jpg")}, details);
     QList<QImage> dishes;
     const auto loaded = [&]() -> const QList<QImage>& {
-        const QSize cell = onPicture(gridCell(1), kScreenSize).size();
+        const QSize cell = onPicture(gridCell(1), kFullScreen).size();
         for (int id = 1; id <= kRecipes && dishes.size() < kRecipes; ++id)
             dishes << fitted(QImage(shop.disc + QStringLiteral("/foto/Male/r%1.bmp").arg(id)), cell);
         return dishes;
@@ -174,12 +173,9 @@ void makePhotos(Workshop& shop) {
     makeGrid(shop);
     makeOne(shop, QStringLiteral("rendered/pozadi/vino.jpg"), QStringLiteral("foto/vino256.bmp"), {400, 300},
             QStringLiteral("Víno"));
-    const QList<std::pair<int, QString>> gallery{{1, QStringLiteral("O kuchařce")},
-                                                 {9, QStringLiteral("Ryby našich vod")},
-                                                 {13, QStringLiteral("Jak kuchařka vznikala")}};
-    for (const auto& [number, title] : gallery)
-        makeOne(shop, QStringLiteral("rendered/sponzor/%1.jpg").arg(number),
-                QStringLiteral("foto/sponzor/%1.bmp").arg(number), kScreenSize, title);
+    for (const GalleryPicture& picture : shop.book.gallery)
+        makeOne(shop, QStringLiteral("rendered/sponzor/%1.jpg").arg(picture.id),
+                QStringLiteral("foto/sponzor/%1.bmp").arg(picture.id), kFullScreen, picture.name);
 }
 
 void makeScreenPictures(Workshop& shop) {

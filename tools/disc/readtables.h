@@ -9,7 +9,8 @@ namespace sarne::disc {
 /// short tables of settings, videos and quick recipes.
 void readTables(const ContentFolder& folder, Cookbook& book, Problems& problems);
 
-/// Reads the running texts: auxiliary recipes, keywords, pages, help topics and the look-up tables.
+/// Reads the running texts: auxiliary recipes, keywords, pages, help topics, the look-up tables and the
+/// galleries.
 void readArticles(const ContentFolder& folder, Cookbook& book, Problems& problems);
 
 /// A number with a decimal comma, -1 when \a text is none.

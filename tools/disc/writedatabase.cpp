@@ -10,6 +10,7 @@
 #include "db/schema.h"
 #include "markup.h"
 #include "menu.h"
+#include "readsponsors.h"
 
 namespace sarne::disc {
 namespace {
@@ -50,6 +51,7 @@ class CookbookWriter {
                         {article.id, article.name, rtf(article.text, article.name)});
         pages();
         lookupTables();
+        galleries();
         menu();
     }
 
@@ -104,22 +106,36 @@ class CookbookWriter {
                         {page.id, page.name, rtf(page.text, page.name), page.screen});
     }
 
+    /// The keyword that a row opens: that of its first cell, or of what stands there before a comma or in
+    /// front of the further words.
+    int keywordOf(const QString& cell) const {
+        for (const QString& name : {cell, cell.section(u',', 0, 0), cell.section(u' ', 0, 0)}) {
+            const std::optional<LinkTarget> target = links_.find(name);
+            if (target && target->kind == LinkKind::keyword) return target->number;
+        }
+        return 0;
+    }
+
     void lookupTables() {
         for (const LookupTable& table : book_.tables) {
             writer_.add(QStringLiteral("Tabulky"),
                         {table.id, table.name, table.columns.join(u'\t'), table.note});
             for (const QStringList& row : table.rows)
                 writer_.add(QStringLiteral("RadkyTabulek"),
-                            {QVariant(), table.id, keywordOf(row.value(0)), row.join(u'\t')});
+                            {QVariant(), table.id, keywordOf(row.first()), row.join(u'\t')});
         }
     }
 
-    /// The keyword that a row's first cell speaks of: the whole cell, what stands in front of its comma or
-    /// colon, or its first word. 0 when there is none.
-    int keywordOf(const QString& cell) const {
-        for (const QString& name : {cell, cell.section(u',', 0, 0), cell.section(u' ', 0, 0).remove(u',')})
-            if (const auto target = links_.find(name)) return target->number;
-        return 0;
+    void galleries() {
+        for (const GalleryPicture& picture : book_.gallery) {
+            writer_.add(QStringLiteral("Sponzor"),
+                        {picture.id, picture.topic, picture.name, rtf(picture.text)});
+            for (const GalleryArea& area : picture.areas)
+                writer_.add(
+                    QStringLiteral("PlochySponzoru"),
+                    {QVariant(), picture.id, area.place.x(), area.place.y(), area.place.width(),
+                     area.place.height(), area.name, rtf(area.text, area.name), sponsorTarget(area, links_)});
+        }
     }
 
     void menu() {

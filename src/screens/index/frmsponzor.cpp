@@ -110,8 +110,12 @@ bool frmSponzor::Zobraz(std::int16_t topic, const QString& text) {
         return false;
     }
     if (!showNumber(text.toInt())) showPicture(0);
-    open(areas_.empty() ? barButton(kBack) : *areas_.front());
+    open(firstControl());
     return true;
+}
+
+Control& frmSponzor::firstControl() const {
+    return areas_.empty() ? barButton(kBack) : *areas_.front();
 }
 
 bool frmSponzor::showNumber(int number) {
@@ -134,7 +138,7 @@ void frmSponzor::showPicture(int index) {
     next_.setVisible(count > 1);
     makeAreas();
     setKeyboardOrder();
-    if (isVisible() && !areas_.empty()) focus(*areas_.front());
+    if (isVisible()) focus(firstControl());
     update();
 }
 

@@ -36,6 +36,7 @@ class frmSponzor : public BarForm {
     void showPicture(int index);
     bool showNumber(int number);
     void makeAreas();
+    Control& firstControl() const;
     void choose(int area);
     void follow(const GalleryTarget& target);
     void openCard(const QString& text);

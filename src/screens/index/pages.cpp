@@ -14,6 +14,7 @@ std::optional<Page> readPage(Database& db, const QString& id) {
 }
 
 QString helpPageFor(Database& db, const QString& formName) {
+    if (formName.isEmpty()) return {};
     Recordset pages = db.OpenQuery(QStringLiteral("SELECT ID, Obrazovka FROM Stranky ORDER BY ID"));
     for (; !pages.AtEnd(); pages.MoveNext()) {
         // One page may be the help of several forms.

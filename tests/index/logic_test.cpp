@@ -1,0 +1,199 @@
+#include <gtest/gtest.h>
+
+#include "cookbook.h"
+#include "core/value.h"
+#include "screens/index/gallery.h"
+#include "screens/index/keywordhistory.h"
+#include "screens/index/lookuptable.h"
+#include "screens/index/pages.h"
+#include "screens/index/plaintext.h"
+#include "screens/index/rowpaging.h"
+#include "screens/index/rtfdocument.h"
+#include "screens/index/tablelayout.h"
+
+namespace sarne {
+namespace {
+
+QString u(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+TEST(RowPaging, ShowsWholeRowsAndNoEmptyEnd) {
+    const struct {
+        std::vector<int> heights;
+        int view, scroll, top, end;
+    } cases[] = {
+        {{10, 10, 10}, 30, 1, 0, 3},           // all fit: nothing to scroll
+        {{10, 10, 10, 10}, 30, 99, 1, 4},      // the last page is full
+        {{10, 25, 10, 10, 10}, 30, 99, 2, 5},  // rows differ: the end still fits
+        {{10, 25, 10, 10, 10}, 30, 1, 1, 2},   // a high row leaves no room for the next
+        {{10, 90, 10}, 30, 1, 1, 2},           // higher than the view: seen alone
+        {{10, 10, 90}, 30, 99, 2, 3},          // even at the end
+        {{}, 30, 1, 0, 0},
+    };
+    for (const auto& c : cases) {
+        RowPaging rows;
+        rows.reset(c.heights, c.view);
+        rows.scrollBy(c.scroll);
+        EXPECT_EQ(rows.top(), c.top);
+        EXPECT_EQ(rows.end(), c.end);
+        rows.scrollBy(-1000);
+        EXPECT_EQ(rows.top(), 0);
+    }
+}
+
+TEST(RowPaging, TheSelectionIsAlwaysSeen) {
+    RowPaging rows;
+    rows.reset(std::vector<int>(20, 10), 45);
+    rows.scrollBy(3);
+    rows.moveBy(1);
+    EXPECT_EQ(rows.selected(), 3) << "begins at the first row seen";
+    for (int move : {1, 1, 1, 1, -7, 30, -2, -99}) {
+        rows.moveBy(move);
+        EXPECT_TRUE(rows.sees(rows.selected())) << rows.selected();
+    }
+    EXPECT_EQ(rows.selected(), 0);
+    EXPECT_FALSE(rows.moveBy(-1));
+    rows.movePage(1);
+    EXPECT_EQ(rows.selected(), 4);
+    rows.jumpTo(10);
+    EXPECT_EQ(rows.top(), 10);
+    rows.jumpTo(19);
+    EXPECT_EQ(rows.end(), 20);
+    EXPECT_FALSE(rows.jumpTo(20));
+}
+
+TEST(KeywordHistory, CirclesAreRetracedVisitByVisit) {
+    KeywordHistory visits;
+    visits.visit(1);
+    EXPECT_FALSE(visits.goBack()) << "the first one leaves to the caller";
+    visits.visit(2, 300, 4);
+    visits.visit(1, 50);
+    ASSERT_TRUE(visits.goBack());
+    EXPECT_EQ(visits.current().keyword, 2);
+    EXPECT_EQ(visits.current().offset, 50);
+    ASSERT_TRUE(visits.goBack());
+    EXPECT_EQ(visits.current().offset, 300);
+    EXPECT_EQ(visits.current().link, 4);
+    for (int i = 0; i < 5000; ++i) visits.visit(i);
+    EXPECT_EQ(visits.current().keyword, 4999);
+}
+
+TEST(Gallery, TargetsAreReadOrAreNone) {
+    using Kind = GalleryTarget::Kind;
+    const struct {
+        const char* text;
+        GalleryTarget target;
+    } cases[] = {{"*12", {Kind::Keyword, 12}},
+                 {"@3", {Kind::Video, 3}},
+                 {" >9 ", {Kind::Picture, 9}},
+                 {"#", {Kind::Beep, 0}},
+                 {"", {}},
+                 {"*", {}},
+                 {"*x", {}},
+                 {"12", {}},
+                 {"*99999", {}},
+                 {"@-1", {}}};
+    for (const auto& c : cases) EXPECT_EQ(GalleryTarget::of(u(c.text)), c.target) << c.text;
+}
+
+TEST(Gallery, ArrowKeysGoToWhatLiesThere) {
+    // 0 1 2
+    //   3
+    const std::vector<QRect> places{{0, 0, 10, 10}, {20, 0, 10, 10}, {40, 2, 10, 10}, {22, 30, 10, 10}};
+    EXPECT_EQ(nearest(places, 0, Direction::Right), 1);
+    EXPECT_EQ(nearest(places, 1, Direction::Right), 2);
+    EXPECT_EQ(nearest(places, 2, Direction::Right), std::nullopt);
+    EXPECT_EQ(nearest(places, 1, Direction::Down), 3);
+    EXPECT_EQ(nearest(places, 3, Direction::Up), 1);
+    EXPECT_EQ(nearest({{0, 0, 10, 10}, {}, {-50, 0, 10, 10}}, 0, Direction::Left), 2)
+        << "hidden ones are passed";
+}
+
+TEST(LookupTable, KeywordsStandInCzechOrderUnderTheirLetters) {
+    Cookbook book({Cookbook::keyword(1, u("Úhoř"), u("x")), Cookbook::keyword(2, u("Chřest"), u("x")),
+                   Cookbook::keyword(3, u("Hejk"), u("x")), Cookbook::keyword(4, u("Candát"), u("x")),
+                   Cookbook::keyword(5, u("Čich"), u("x")), Cookbook::keyword(6, u("Cibule"), u("x"))});
+    const LookupTable table = readLookupTable(book.run.database, kKeywordIndexItem);
+    QStringList order;
+    for (const LookupRow& row : table.rows) order << indexLetter(row.cells[0]) + u' ' + row.cells[0];
+    EXPECT_EQ(order, (QStringList{u("C Candát"), u("C Cibule"), u("Č Čich"), u("H Hejk"), u("Ch Chřest"),
+                                  u("U Úhoř")}));
+    EXPECT_EQ(table.rows[5].keyword, 1);
+    EXPECT_EQ(indexLetter({}), QString());
+}
+
+TEST(LookupTable, ThePreviewLeavesOutHeadingAndMarkers) {
+    Cookbook book(
+        {Cookbook::keyword(1, u("Kapr"), u("\\b Kapr\\b0\\par Ryba na *112 kmín* i \\'e8ern\\'e1.")),
+         Cookbook::keyword(2, u("Lín"), u("Jen text."))});
+    const LookupTable table = readLookupTable(book.run.database, kKeywordIndexItem);
+    EXPECT_EQ(table.rows[0].cells[1].simplified(), u("Ryba na kmín i černá."));
+    EXPECT_EQ(table.rows[1].cells[1], u("Jen text."));
+}
+
+TEST(LookupTable, RowsAreAsWideAsTheTable) {
+    Cookbook book({u("INSERT INTO Tabulky VALUES (3, 'Ryby', 'Ryba\tMíra\tHájení', 'Podle vyhlášky.')"),
+                   u("INSERT INTO RadkyTabulek VALUES (1, 3, 7, 'Kapr\t40 cm')"),
+                   u("INSERT INTO RadkyTabulek VALUES (2, 3, 0, 'a\tb\tc\td')"),
+                   u("INSERT INTO RadkyTabulek VALUES (3, 4, 0, 'jiná')")});
+    const LookupTable table = readLookupTable(book.run.database, 3);
+    ASSERT_EQ(table.rows.size(), 2u);
+    EXPECT_EQ(table.rows[0].cells, (QStringList{u("Kapr"), u("40 cm"), {}}));
+    EXPECT_EQ(table.rows[1].cells.size(), 3);
+    EXPECT_EQ(table.rows[0].keyword, 7);
+    EXPECT_TRUE(readLookupTable(book.run.database, 99).isEmpty());
+}
+
+TEST(TableLayout, ColumnsFillTheWidthAndBreakNoWord) {
+    const TextFont font{QStringLiteral("Arial"), 12};
+    const QString longText = QStringLiteral("slovo ").repeated(40).trimmed();
+    const struct {
+        QStringList cells;
+        LookupTable::Rows rows;
+        bool high;
+    } cases[] = {{{u("a"), u("b")}, LookupTable::Rows::Wrapped, false},
+                 {{u("nejdelší"), longText}, LookupTable::Rows::Wrapped, true},
+                 {{u("nejdelší"), longText}, LookupTable::Rows::OneLine, false},
+                 {{QString(400, u'm'), longText}, LookupTable::Rows::Wrapped, true}};
+    for (const auto& c : cases) {
+        LookupTable table;
+        table.columns = QStringList{u("Ryba"), u("Text")};
+        table.layout = c.rows;
+        table.rows.push_back({c.cells, 0});
+        const TableLayout layout = TableLayout::of(table, 9000, font, font);
+        ASSERT_EQ(layout.widths.size(), 2u);
+        EXPECT_EQ(layout.lefts[1], layout.widths[0]);
+        EXPECT_GT(layout.widths[1], 500);
+        EXPECT_LE(std::abs(layout.lefts[1] + layout.widths[1] - 9000), 9000 / 4);
+        EXPECT_EQ(layout.heights[0] > 2 * layout.headHeight, c.high) << c.cells[0].toStdString();
+    }
+}
+
+TEST(RtfDocument, PlainTextsStandForThemselves) {
+    const QString hostile = u("50 % *cukr* #1 {\\par} @7 žluť – ½ 漢");
+    RtfDocument document;
+    document.heading(u("Nadpis"));
+    document.paragraph(u("Tučně"), hostile);
+    document.paragraph(u("dva\nřádky"));
+    EXPECT_EQ(plainText(document.text(), 1000),
+              u("Nadpis\nTučně 50 % *cukr* #1 {\\par} @7 žluť – ? ?\ndva\nřádky"));
+    EXPECT_TRUE(beginsWithHeading(document.text(), u("Nadpis")));
+    EXPECT_FALSE(beginsWithHeading(document.text(), u("Nad")));
+}
+
+TEST(Pages, EachScreenFindsItsHelp) {
+    Cookbook book({Cookbook::page(10, u("Jak na to"), u("x"), {}),
+                   Cookbook::page(300, u("Recept"), u("x"), u("frmRecept")),
+                   Cookbook::page(20, u("Seznamy"), u("x"), u("frmSeznam, frmRychlyRecept"))});
+    EXPECT_EQ(helpPageFor(book.run.database, u("frmRecept")), u("300"));
+    EXPECT_EQ(helpPageFor(book.run.database, u("frmRychlyRecept")), u("20"));
+    EXPECT_EQ(helpPageFor(book.run.database, u("frmSez")), QString());
+    EXPECT_EQ(helpPageFor(book.run.database, {}), QString()) << "a page of no screen is the help of none";
+    ASSERT_TRUE(readPage(book.run.database, u("300")));
+    EXPECT_EQ(readPage(book.run.database, u("300"))->name, u("Recept"));
+    for (const char* id : {"", "abc", "11", "70000"}) EXPECT_FALSE(readPage(book.run.database, u(id))) << id;
+}
+
+}  // namespace
+}  // namespace sarne

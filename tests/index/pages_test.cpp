@@ -1,0 +1,214 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "cookbook.h"
+#include "forms/button.h"
+#include "forms/textview.h"
+#include "screens/index/frmindex.h"
+#include "screens/index/frmstranka.h"
+
+namespace sarne {
+namespace {
+
+QString u(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+/// Keywords 1 and 2 lead to each other, 3 to a keyword that is not there, and on.
+QStringList keywords() {
+    const QString filler = u("slovo ").repeated(700);
+    return {Cookbook::keyword(1, u("Kapr"), u("Kapr se *2 vaří* s kmínem.")),
+            Cookbook::keyword(2, u("Vaření"), filler + u("Vaří se *1 kapr* i jiné ryby.")),
+            Cookbook::keyword(3, u("Lín"), u("Ten *999 nikam* nevede, #5 pípne# a @7 video@ hraje."))};
+}
+
+class KeywordTest : public testing::Test {
+  protected:
+    Cookbook book{keywords()};
+    FakeSarne& run = book.run;
+    frmIndex* form = nullptr;
+
+    void show(std::int16_t keyword) {
+        form = new frmIndex(run);
+        ASSERT_TRUE(form->Zobraz(keyword));
+    }
+    TextView& view() { return *child<TextView>(*form, "picText"); }
+    void clickLink(int link) {
+        const QRect place = view().pieces().linkRect(link).translated(0, -view().scrolled());
+        QTest::mouseClick(&view(), Qt::LeftButton, {}, view().toPixels(place.center()));
+    }
+    bool shows(const char* words) { return view().drawnText().simplified().startsWith(u(words)); }
+};
+
+TEST_F(KeywordTest, KeywordsThatLeadToEachOtherAreRetraced) {
+    show(1);
+    clickLink(0);
+    EXPECT_TRUE(shows("slovo slovo"));
+    QTest::keyClick(&view(), Qt::Key_Tab);
+    const int offset = view().scrolled();
+    EXPECT_GT(offset, 0) << "the phrase is brought into sight";
+    QTest::keyClick(&view(), Qt::Key_Return);
+    EXPECT_TRUE(shows("Kapr se"));
+    EXPECT_EQ(view().scrolled(), 0);
+    EXPECT_EQ(run.FormStack.count(), 2) << "all in one screen";
+
+    QTest::keyClick(&view(), Qt::Key_Escape);
+    EXPECT_TRUE(shows("slovo slovo"));
+    EXPECT_EQ(view().scrolled(), offset) << "where it was left";
+    EXPECT_EQ(view().pieces().focused(), 0);
+    child<Button>(*form, "imgBtnHlavni(2)")->click();
+    EXPECT_TRUE(shows("Kapr se"));
+    QTest::keyClick(form, Qt::Key_C);
+    EXPECT_TRUE(book.callerIsOnTop());
+}
+
+TEST_F(KeywordTest, AMissingKeywordLeavesTheText) {
+    EXPECT_FALSE((new frmIndex(run))->Zobraz(999));
+    EXPECT_TRUE(book.callerIsOnTop());
+    show(3);
+    clickLink(0);
+    EXPECT_TRUE(shows("Ten nikam"));
+    EXPECT_EQ(run.beeps, 1);
+    QTest::keyClick(&view(), Qt::Key_Escape);
+    EXPECT_TRUE(book.callerIsOnTop()) << "it was no visit";
+}
+
+TEST_F(KeywordTest, OtherPhrasesBeepOrOpenTheVideo) {
+    show(3);
+    clickLink(1);
+    EXPECT_EQ(run.beeps, 1);
+    EXPECT_EQ(run.recorded.calls, QStringList());
+    clickLink(2);
+    EXPECT_EQ(run.recorded.calls, QStringList{u("showVideo 7")});
+    EXPECT_EQ(run.beeps, 1);
+}
+
+TEST_F(KeywordTest, TabGoesThroughThePhrasesAndTheBarInACircle) {
+    show(3);
+    QStringList stops;
+    for (int i = 0; i < 9; ++i) {
+        QTest::keyClick(run.window.focusWidget(), Qt::Key_Tab);
+        const auto link = view().pieces().focused();
+        stops << (link ? QString::number(*link) : run.window.focusWidget()->objectName().right(2).left(1));
+    }
+    EXPECT_EQ(stops.join(u' '), u("0 1 2 0 1 2 3 4 x")) << "phrases, the five buttons, the text again";
+    for (int link = 2; link >= 0; --link) {
+        QTest::keyClick(run.window.focusWidget(), Qt::Key_Backtab);
+        EXPECT_EQ(view().pieces().focused(), link);
+    }
+    QTest::keyClick(run.window.focusWidget(), Qt::Key_Backtab);
+    EXPECT_EQ(run.window.focusWidget(), child(*form, "imgBtnHlavni(4)"));
+}
+
+class PageTest : public testing::Test {
+  protected:
+    Cookbook book{{Cookbook::page(10, u("Jak na to"), u("slovo ").repeated(2000), {}),
+                   Cookbook::page(300, u("Recept"), u("\\b Recept\\b0\\par Text."), u("frmRecept")),
+                   Cookbook::page(30, u("Stránky"), u("Text."), u("frmStranka")),
+                   u("INSERT INTO Nastav VALUES (1, 'Zvuky', 1)"),
+                   u("INSERT INTO Nastav VALUES (2, 'Hudba', 1)"),
+                   u("INSERT INTO Nastav VALUES (3, 'Hlas', 1)")}};
+    FakeSarne& run = book.run;
+    frmStranka* form = nullptr;
+
+    void show(const char* id) {
+        form = new frmStranka(run);
+        ASSERT_TRUE(form->Zobraz(u(id)));
+    }
+    Button& bar(int button) {
+        return *form->findChild<Button*>(QStringLiteral("imgBtnHlavni(%1)").arg(button));
+    }
+    void click(int button) { QTest::mouseClick(&bar(button), Qt::LeftButton); }
+    int stored(int id) {
+        Recordset rows = run.database.OpenTable(u("Nastav"));
+        rows.Seek(u("="), id);
+        return rows.field(u("hodnota")).toInt();
+    }
+};
+
+TEST_F(PageTest, TheTitleIsNotSaidTwice) {
+    show("10");
+    EXPECT_EQ(child<Label>(*form, "lblTitul")->text(), u("Jak na to"));
+    show("300");
+    EXPECT_EQ(child<Label>(*form, "lblTitul")->text(), u("Nápověda"));
+    EXPECT_FALSE((new frmStranka(run))->Zobraz(u("11")));
+    EXPECT_EQ(book.top(), form) << "a page that is not there changes nothing";
+}
+
+TEST_F(PageTest, TheBarDoesWhatItSays) {
+    show("300");
+    click(0);
+    click(1);
+    EXPECT_EQ(run.recorded.calls, (QStringList{u("printText Recept"), u("showList  Help")}));
+    EXPECT_TRUE(run.recorded.printedText.contains(u("Text.")));
+    click(3);
+    EXPECT_EQ(run.exits, 1);
+    click(2);
+    EXPECT_TRUE(book.callerIsOnTop());
+    for (QObject* one : book.caller->children()) EXPECT_FALSE(one->objectName().startsWith(u"imgBtn"));
+}
+
+TEST_F(PageTest, TheSoundButtonSwitchesTheMusicAndTheStoredSwitch) {
+    run.SoundFlags = {true, true, true, false, false};
+    run.player.setFileName(u("hudba.wav"));
+    run.player.command(u"open");
+    run.player.command(u"play");
+    show("10");
+    EXPECT_EQ(bar(4).toolTip(), u("Vypnout hudbu"));
+    click(4);
+    EXPECT_FALSE(run.player.playing());
+    EXPECT_EQ(run.SoundFlags, (std::array<bool, 5>{true, false, true, false, false}));
+    EXPECT_EQ(stored(2), 0);
+    EXPECT_EQ(stored(1) + stored(3), 2);
+    EXPECT_EQ(bar(4).toolTip(), u("Zapnout hudbu"));
+    EXPECT_EQ(bar(4).frame(), Button::Frame::Pressed);
+    click(4);
+    EXPECT_TRUE(run.player.playing());
+    EXPECT_EQ(stored(2), 1);
+    EXPECT_FALSE(run.player.commands.contains(u("close"))) << "it goes on where it was";
+}
+
+TEST_F(PageTest, MusicThatWasNeverOpenIsOpenedOrStaysSilent) {
+    run.SoundFlags = {true, false, true, false, true};
+    run.MediaRoot = LogicalPaths::fromNativeFolder(book.folder.path());
+    QDir(book.folder.path()).mkdir(u("ZVUKY"));
+    const QString file = book.folder.filePath(u("ZVUKY/Vina.WAV"));
+    ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+    show("10");
+    run.player.failing[u("open")] = MediaError::InvalidFile;
+    click(4);
+    EXPECT_FALSE(run.player.playing());
+    EXPECT_EQ(run.messages, QStringList());
+    click(4);
+    run.player.failing.clear();
+    click(4);
+    EXPECT_TRUE(run.player.playing());
+    EXPECT_EQ(run.player.fileName(), file) << "the track that the settings chose";
+}
+
+TEST_F(PageTest, TheHelpOfThePageDoesNotOpenItselfAgain) {
+    show("10");
+    QTest::keyClick(&bar(0), Qt::Key_F1);
+    EXPECT_EQ(run.recorded.calls, QStringList{u("showHelpFor frmStranka")});
+    show("30");
+    QTest::keyClick(&bar(0), Qt::Key_F1);
+    EXPECT_EQ(run.recorded.calls.size(), 1);
+    EXPECT_EQ(run.beeps, 1);
+}
+
+TEST_F(PageTest, KeysScrollTheTextFromTheBar) {
+    show("10");
+    auto* view = child<TextView>(*form, "picText");
+    bar(2).setFocus();
+    QTest::keyClick(&bar(2), Qt::Key_End);
+    EXPECT_EQ(view->scrolled(), view->scrollRange());
+    EXPECT_GT(view->scrolled(), 0);
+    QTest::keyClick(&bar(2), Qt::Key_PageUp);
+    EXPECT_LT(view->scrolled(), view->scrollRange());
+    QTest::keyClick(&bar(2), Qt::Key_Return);
+    EXPECT_TRUE(book.callerIsOnTop()) << "Enter presses the button";
+}
+
+}  // namespace
+}  // namespace sarne
