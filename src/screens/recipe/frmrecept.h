@@ -26,8 +26,9 @@ class frmRecept : public Form {
     /// The sections, by the index of their button.
     enum Section { kPhoto, kMethod, kIntroduction, kLinks, kWine, kIngredients, kTools, kOwnNote };
 
-    /// \a ask asks the user for a number of portions; it returns 0 when the user gives none.
-    frmRecept(basSarne& app, IngredientPanel::AskNumber ask);
+    /// \a ask asks the user for a number of portions and returns 0 when the user gives none; by default the
+    /// program's own dialog does.
+    explicit frmRecept(basSarne& app, IngredientPanel::AskNumber ask = {});
 
     /// Opens the screen on the recipe \a id, its photo first, and plays its name. An id that does not exist
     /// shows a recipe without texts.

@@ -1,6 +1,7 @@
 #include "screens/recipe/ingredientpanel.h"
 
 #include "core/numbertext.h"
+#include "dialogs/frmdialog.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/form.h"
@@ -27,6 +28,7 @@ QString cutleryCaption(int index) {
 
 IngredientPanel::IngredientPanel(Form& form, basSarne& app, TextView& view, AskNumber ask)
     : form_(form), app_(app), view_(view), ask_(std::move(ask)) {
+    if (!ask_) ask_ = [&app](const QString& prompt) { return askNumber(app, prompt); };
     for (size_t at = 0; cutleryIndex(at) <= Portions::kAnyNumber; ++at) {
         const int index = cutleryIndex(at);
         Button& button = addButton(QStringLiteral("imgPrepocet(%1)").arg(index),
