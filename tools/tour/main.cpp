@@ -99,7 +99,7 @@ int main(int argc, char** argv) {
         out << "The pictures' folder cannot be made, or the program's folder is not complete.\n";
         return 2;
     }
-    const TourSettings settings(options.value(disc));
+    const TourSettings settings(QDir(options.value(disc)).absolutePath());
     const SteadyClock clock;
     MixerEffectPlayer effects;
     ToneBeeper beeper(effects);
@@ -113,6 +113,8 @@ int main(int argc, char** argv) {
     run.Locale = QLocale(QLocale::Czech, QLocale::CzechRepublic);
     run.stage().resize(wide[0].toInt(), wide[1].toInt());
     run.stage().show();
+    run.stage().activateWindow();
+    QApplication::processEvents();
     run.Main({});
     Tour tour(run, pictures);
     walk(tour);
