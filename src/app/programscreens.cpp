@@ -2,6 +2,8 @@
 
 #include "app/program.h"
 #include "dialogs/frmdialog.h"
+#include "media/frmnastavhudbu.h"
+#include "media/frmvideo.h"
 #include "screens/browse/frmfotobig.h"
 #include "screens/browse/frmseznam.h"
 #include "screens/browse/frmsit.h"
@@ -49,6 +51,15 @@ void ProgramScreens::showPhotos(const PhotoRequest& request) {
     (new frmFotoBig(program_))->Zobraz(request);
 }
 
+void ProgramScreens::showVideo(std::int16_t number) {
+    const auto& makePlayer = program_.platform().makePlayer;
+    (new frmVideo(program_, makePlayer ? makePlayer() : nullptr))->Zobraz(number);
+}
+
+void ProgramScreens::showMusicSettings() {
+    (new frmNastavHudbu(program_))->Zobraz();
+}
+
 void ProgramScreens::showPage(const QString& id) {
     (new frmStranka(program_))->Zobraz(id);
 }
@@ -73,8 +84,6 @@ void ProgramScreens::showSponsor(std::int16_t topic, const QString& text) {
     (new frmSponzor(program_))->Zobraz(topic, text);
 }
 
-void ProgramScreens::showVideo(std::int16_t) {}
-void ProgramScreens::showMusicSettings() {}
 void ProgramScreens::showPrintSelection(const std::vector<PrintEntry>&, const QString&) {}
 void ProgramScreens::printRecipes(const std::vector<std::int16_t>&) {}
 void ProgramScreens::printText(const QString&, const QString&) {}
