@@ -7,7 +7,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/resources.h"
-#include "screens/browse/picturebutton.h"
+#include "screens/browse/ground.h"
 
 namespace sarne {
 namespace {

@@ -49,7 +49,9 @@ void frmSeznam::fill(const QString& ids, const QString& source) {
     for (PictureButton* arrow : imgSipky) arrow->setVisible(pages_.scrolls());
     showButtonsOfSource();
     lblPozice.setText({});
+    ground_.forget();
     drawPage();
+    update();
 }
 
 void frmSeznam::scroll(int step) {
@@ -67,7 +69,11 @@ void frmSeznam::drawPage() {
     const int row = pages_.selectedRow();
     imgJablko.setVisible(row > 0);
     if (row > 0) imgJablko.place(seznam::apple(row));
-    update();
+    for (const int changed : {markedRow_, row}) {
+        if (changed > 0 && markedRow_ != row) updatePart(*this, seznam::rowBar(changed));
+    }
+    markedRow_ = row;
+    if (pages_.scrolls()) updatePart(*this, seznam::kTrack);
 }
 
 void frmSeznam::selectRow(int row) {

@@ -173,27 +173,33 @@ void frmSeznam::showButtonsOfSource() {
 // --- painting
 
 void frmSeznam::paint(QPainter& painter) {
+    ground_.draw(painter, {{0, 0}, twips().size()}, [this](QPainter& ground) { paintGround(ground); });
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colors::kSelected);
+    if (markedRow_ > 0) painter.drawRoundedRect(seznam::rowBar(markedRow_), 90, 90);
+    painter.setBrush(colors::kCopper);
+    if (pages_.scrolls()) painter.drawRoundedRect(thumb(), 55, 55);
+}
+
+void frmSeznam::paintGround(QPainter& painter) const {
     const QRect screen({0, 0}, twips().size());
     painter.fillRect(screen, colors::kNight);
     app().Pictures.seznam.draw(painter, screen, Fit::Cover);
     for (const QRect& plate : {seznam::kHeader, seznam::kPanel, seznam::kActionPlate, seznam::kBarPlate})
         paintPlate(painter, plate);
     paintPaper(painter, seznam::kPaper);
-    painter.setPen(Qt::NoPen);
-    if (const int row = pages_.selectedRow()) {
-        painter.setBrush(colors::kSelected);
-        painter.drawRoundedRect(seznam::rowBar(row), 90, 90);
-    }
     if (!pages_.scrolls()) return;
     paintPlate(painter, seznam::kArrowPlate);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colors::kNight);
     painter.drawRoundedRect(seznam::kTrack, 55, 55);
-    QRectF thumb = seznam::kTrack;
-    thumb.setTop(seznam::kTrack.y() + double(seznam::kTrack.height()) * pages_.top() / pages_.count());
-    thumb.setHeight(double(seznam::kTrack.height()) * pages_.rows() / pages_.count());
-    painter.setBrush(colors::kCopper);
-    painter.drawRoundedRect(thumb, 55, 55);
+}
+
+/// The part of the track that stands for the page.
+QRectF frmSeznam::thumb() const {
+    const double entry = double(seznam::kTrack.height()) / pages_.count();
+    return {double(seznam::kTrack.x()), seznam::kTrack.y() + entry * pages_.top(),
+            double(seznam::kTrack.width()), entry * pages_.rows()};
 }
 
 // --- the keyboard and the wheel

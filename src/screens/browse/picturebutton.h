@@ -35,9 +35,4 @@ class PictureButton : public Button {
     bool latched_ = false, hovered_ = false;
 };
 
-/// A calm dark ground behind buttons and light texts.
-void paintPlate(QPainter& painter, const QRectF& place);
-/// A calm light ground behind dark texts.
-void paintPaper(QPainter& painter, const QRectF& place);
-
 }  // namespace sarne
