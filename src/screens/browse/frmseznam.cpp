@@ -31,7 +31,7 @@ frmSeznam::frmSeznam(basSarne& run)
 
 void frmSeznam::Zobraz(const QString& ids, const QString& source) {
     fill(ids, source);
-    app().PushScreen(*this);
+    if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
     startPanel();
     focusButton();
@@ -165,6 +165,7 @@ void frmSeznam::showPhotos(bool slideShow) {
 void frmSeznam::startPanel() {
     picFoto.Cls();
     lblVino.hide();
+    if (quickWindow_) quickWindow_->unload();
     if (source_ == Source::Help)
         showPictureOrWords(picFoto, app().resources().picture(QStringLiteral("Help")).image(), {});
     if (source_ != Source::QuickRecipes) return;

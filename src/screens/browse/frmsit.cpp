@@ -19,7 +19,7 @@ void frmSit::Zobraz() {
     readNames();
     grid_ = PhotoGrid();
     applyGroup();
-    app().PushScreen(*this);
+    if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
 }
 
