@@ -20,6 +20,7 @@ frmSeznam::frmSeznam(basSarne& run)
     : Form(run, QStringLiteral("frmSeznam")),
       lblNadpis(*this, QStringLiteral("lblNadpis")),
       lblPozice(*this, QStringLiteral("lblPozice")),
+      lblHint(*this, QStringLiteral("lblHint")),
       imgJablko(*this, QStringLiteral("imgJablko")),
       picFoto(*this, QStringLiteral("picFoto")),
       lblVino(*this, QStringLiteral("lblVino")),

@@ -95,7 +95,7 @@ class frmSeznam : public Form {
     Ground ground_;
     int markedRow_ = 0;  // the row that is painted as selected
 
-    Label lblNadpis, lblPozice;
+    Label lblNadpis, lblPozice, lblHint;
     std::vector<Label*> lblSeznam;
     PictureBox imgJablko, picFoto;
     Label lblVino;

@@ -58,8 +58,8 @@ void PictureButton::paint(QPainter& painter) {
     QRect face = inside, word = whole;
     const bool beside = shown_ == Word::Beside && !face_.isNull();
     if (beside) {
-        face.setWidth(std::min(inside.height() * 4 / 3, inside.width() / 2));
-        word.setLeft(face.right() + kInset);
+        face.setWidth(std::min(inside.height(), inside.width() / 2));
+        word.setLeft(face.right());
     }
     face_.draw(painter, face, Fit::Inside);
     if (beside || face_.isNull()) {
