@@ -9,6 +9,7 @@
 #include "forms/picturebox.h"
 #include "forms/timer.h"
 #include "screens/browse/frmrychlyrecept.h"
+#include "screens/browse/ground.h"
 #include "screens/browse/lettersearch.h"
 #include "screens/browse/listentries.h"
 #include "screens/browse/listpages.h"
@@ -65,6 +66,8 @@ class frmSeznam : public Form {
     bool jumpToLetter(const QKeyEvent& event);
     bool moveByKey(int key);
 
+    void paintGround(QPainter& painter) const;
+    QRectF thumb() const;
     void drawPage();
     void selectionChanged();
     void refreshPanel();
@@ -89,7 +92,10 @@ class frmSeznam : public Form {
     int wheel_ = 0;
     bool heldArrow_ = false;
 
-    Label lblNadpis, lblPozice;
+    Ground ground_;
+    int markedRow_ = 0;  // the row that is painted as selected
+
+    Label lblNadpis, lblPozice, lblHint;
     std::vector<Label*> lblSeznam;
     PictureBox imgJablko, picFoto;
     Label lblVino;
