@@ -231,10 +231,10 @@ void frmRecept::paint(QPainter& painter) {
     else
         ground_.draw(painter, all, Fit::Cover);
     QColor band = colors::kTeal, shadow = colors::kNight;
-    band.setAlpha(240);
+    band.setAlpha(215);
     shadow.setAlpha(225);
-    painter.fillRect(recipelayout::kHeader, band);
     app().resources().picture(QStringLiteral("ZAHLAVI")).draw(painter, recipelayout::kHeader, Fit::Cover);
+    painter.fillRect(recipelayout::kHeader, band);
     painter.fillRect(0, recipelayout::kHeader.bottom() - 30, recipelayout::kHeader.width(), 30,
                      colors::kCopper);
     painter.setPen(QPen(colors::kCopper, 30));

@@ -34,6 +34,8 @@ void frmRecept::placeView() {
     view_->setVisible(section_ != kOwnNote);
     view_->setCursor(Qt::ArrowCursor);
     switch (section_) {
+        case kPhoto:
+            return view_->place(recipelayout::kPhotoView);
         case kIngredients:
             return view_->place(recipelayout::kListView);
         case kLinks:

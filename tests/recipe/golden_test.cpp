@@ -1,0 +1,68 @@
+#include "recipe/recipefixture.h"
+
+namespace sarne {
+namespace {
+
+// What is read on the screen and what is taken along as text, string for string: the texts look alike and
+// differ on purpose.
+
+TEST_F(RecipeTest, ScreenGolden) {
+    click("imgBtn(5)");
+    click("imgPrepocet(6)");
+    EXPECT_EQ(shown(), QStringLiteral("kapr - filety bez kůže (g): 380\n"
+                                      "máslo (g): 75\n"
+                                      "      - nebo olej\n"
+                                      "máslo (g): 19\n"
+                                      "sůl"));
+    click("imgKgLzice");
+    EXPECT_EQ(shown(), QStringLiteral("kapr - filety bez kůže (kus): 0,8\n"
+                                      "máslo (lžíce): 3\n"
+                                      "      - nebo olej\n"
+                                      "máslo (lžíce): 0,08\n"
+                                      "sůl"));
+}
+
+TEST_F(RecipeTest, CollectedGolden) {
+    run.database.Execute(
+        QStringLiteral("UPDATE Recepty SET Vlastni = 'Méně soli.\nVíc kmínu.' WHERE ID = 5"));
+    form->Skryj();
+    open(5);
+    const QString texts = QStringLiteral(
+        "\r\n"
+        "Kapr na kmíně s máslem, jak se dělá v neděli u rybníka, když přijede celá rodina a nikdo nespěchá "
+        "domů\r\n\r\n"
+        "Úvod k receptu.\r\n\r\n"
+        "Kapra osolíme a pečeme podle videa.\r\nPodáváme ihned.\r\n\r\n"
+        "Poznámka kuchaře.\r\n\r\n"
+        "Na talíři.\r\n\r\n"
+        "Ryzlink\r\n\r\n"
+        "Vlastní poznámka: Méně soli.\r\nVíc kmínu.\r\n\r\n"
+        "\r\n"
+        "Pomůcky číška, chňapka, pánev, vařečka\r\n"
+        "Pomocný recept: Chlebové kostky\r\nChléb nakrájíme.\r\n"
+        "Pomocný recept: Rybí vývar\r\nVývar vaříme pomalu.");
+    EXPECT_EQ(form->collectedText(), QStringLiteral("Porce: 4\r\n"
+                                                    "kapr - filety bez kůže (g): 250\r\n"
+                                                    "máslo (g): 50\r\n"
+                                                    "      - nebo olej\r\n"
+                                                    "máslo (g): 12\r\n"
+                                                    "sůl\r\n") +
+                                         texts);
+    click("imgBtn(5)");
+    customPortions = 2.5;
+    click("imgPrepocet(10)");
+    click("imgKgLzice");
+    EXPECT_EQ(form->collectedText(), QStringLiteral("Porce: 2,5\r\n"
+                                                    "kapr - filety bez kůže (kus): 0,3\r\n"
+                                                    "máslo (lžíce): 1,2\r\n"
+                                                    "      - nebo olej\r\n"
+                                                    "máslo (lžíce): 0,03\r\n"
+                                                    "sůl\r\n") +
+                                         texts);
+    form->Skryj();
+    open(6);
+    EXPECT_EQ(form->collectedText(), QStringLiteral("Prázdný recept\r\n\r\n")) << "no tools line, no links";
+}
+
+}  // namespace
+}  // namespace sarne
