@@ -1,9 +1,11 @@
+#include <QPlainTextEdit>
 #include <QTimer>
 
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/screens.h"
 #include "screens/recipe/frmrecept.h"
+#include "screens/recipe/sectionnames.h"
 
 namespace sarne {
 namespace {
@@ -32,7 +34,7 @@ void frmRecept::placeView() {
     links_->setVisible(section_ == kLinks);
     view_->Cls();
     view_->setVisible(section_ != kOwnNote);
-    view_->setCursor(Qt::ArrowCursor);
+    view_->setAccessibleName(sectionName(section_));
     switch (section_) {
         case kPhoto:
             return view_->place(recipelayout::kPhotoView);
@@ -81,7 +83,7 @@ void frmRecept::drawPhoto() {
 void frmRecept::showPhoto() {
     photoShown_ = true;
     view_->setPicture(photo_);
-    view_->setCursor(photo_.isNull() ? Qt::ArrowCursor : Qt::PointingHandCursor);
+    if (!photo_.isNull()) view_->setCursor(Qt::PointingHandCursor);
     view_->setAccessibleDescription({});
 }
 
@@ -127,8 +129,7 @@ void frmRecept::viewClicked() {
 
 void frmRecept::makeNote() {
     editor_->place(recipelayout::kNote);
-    editor_->setTip(QStringLiteral("Vlastní poznámka k receptu"));
-    editor_->setToolTip({});
+    editor_->editor().setAccessibleName(QStringLiteral("Vlastní poznámka k receptu"));
     editor_->setFont({QStringLiteral("Times New Roman"), 13});
     editor_->hide();
     connect(editor_, &NoteEdit::edited, this, [this] { note_.changed(); });
