@@ -240,6 +240,9 @@ void frmRecept::paint(QPainter& painter) {
     painter.setPen(QPen(colors::kCopper, 30));
     painter.setBrush(shadow);
     painter.drawRoundedRect(recipelayout::kSections, 120, 120);
+    QColor lit = colors::kCopper;
+    lit.setAlpha(70);
+    painter.fillRect(recipelayout::sectionRow(section_), lit);
     painter.setBrush(colors::kPaper);
     painter.drawRoundedRect(recipelayout::kPaper, 120, 120);
 }

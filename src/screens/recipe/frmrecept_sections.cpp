@@ -26,6 +26,7 @@ void frmRecept::showPressed() {
     for (int index = 0; index < recipelayout::kSectionCount; ++index)
         sections_[size_t(index)]->setFrame(index == section_ ? Button::Frame::Pressed
                                                              : Button::Frame::Raised);
+    update();
 }
 
 /// Makes room for what belongs to the section beside the drawing surface.

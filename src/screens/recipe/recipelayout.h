@@ -18,6 +18,9 @@ constexpr QRect section(int index) {
 constexpr QRect sectionName(int index) {
     return {1140, 1410 + index * 930, 1260, 840};
 }
+constexpr QRect sectionRow(int index) {
+    return {150, 1380 + index * 930, 2280, 900};
+}
 constexpr QRect barButton(int index) {
     return {7530 + index * 880, 8100, 790, 750};
 }
