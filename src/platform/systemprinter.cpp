@@ -136,9 +136,14 @@ QString SystemPrinter::paper() const {
 }
 
 PageScale SystemPrinter::scale() const {
-    const QRectF area = pageLayout().paintRect(QPageLayout::Point);
-    return {0, 0, static_cast<int>(area.width() * kTwipsPerPoint),
-            static_cast<int>(area.height() * kTwipsPerPoint)};
+    const auto twips = [](double points) { return static_cast<int>(points * kTwipsPerPoint); };
+    const QPageLayout layout = pageLayout();
+    const QRectF area = layout.paintRect(QPageLayout::Point), sheet = layout.fullRect(QPageLayout::Point);
+    PageScale scale;
+    scale.width = twips(area.width());
+    scale.height = twips(area.height());
+    scale.sheet = {-twips(area.left()), -twips(area.top()), twips(sheet.width()), twips(sheet.height())};
+    return scale;
 }
 
 QString SystemPrinter::fileFor(const QString& documentName) const {
