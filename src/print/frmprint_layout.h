@@ -19,9 +19,9 @@ inline constexpr QRect kPortionsTitle(7620, 150, 2940, 360);
 inline constexpr QRect kPortions(7620, 630, 1320, 480);
 inline constexpr QRect kWeights(7560, 1770, 3120, 480);
 
-inline constexpr QRect kPrinterPaper(600, 4620, 10800, 960);
-inline constexpr QRect kPrinter(840, 4740, 7560, 720);
-inline constexpr QRect kChoosePrinter(8640, 4830, 2520, 540);
+inline constexpr QRect kPrinterPaper(600, 4620, 8040, 960);
+inline constexpr QRect kPrinter(780, 4710, 7680, 780);
+inline constexpr QRect kChoosePrinter(8940, 4800, 2460, 600);
 
 inline constexpr QRect kStatus(600, 5760, 10800, 330);
 inline constexpr QRect kRecipeBar(600, 6150, 8040, 330);

@@ -1,7 +1,6 @@
 #include "print/pagecomposer.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "db/database.h"
 #include "print/pagebreaker.h"
@@ -35,15 +34,6 @@ void addTo(PrintedPage& page, const FlowLine& line, int top) {
     }
 }
 
-QString firstParagraph(const std::vector<FlowLine>& lines) {
-    QStringList words;
-    for (const FlowLine& line : lines) {
-        for (const PageText& text : line.texts) words << text.text;
-        if (line.endsParagraph && !words.isEmpty()) break;
-    }
-    return words.join(u' ').simplified();
-}
-
 }  // namespace
 
 PageComposer::PageComposer(PrintSource source, const PageScale& scale, TextMetrics& metrics)
@@ -71,17 +61,10 @@ ComposedRecipe PageComposer::recipe(int id, const PrintOptions& options, PrintPr
 std::vector<PrintedPage> PageComposer::text(const TitledText& text, PrintProgress& progress) {
     progress.recipeStarted(text.title);
     RecipeFlow flow(page_, metrics_, progress);
-    flow.addRichText(text.richText);
-    std::vector<FlowLine> lines = flow.take();
-    if (firstParagraph(lines).compare(text.title.simplified(), Qt::CaseInsensitive) != 0) {
-        RecipeFlow head(page_, metrics_, progress);
-        head.addText(text.title, printfonts::name(), FlowLine::Kind::Heading);
-        head.addSpace(kTextGap);
-        std::vector<FlowLine> all = head.take();
-        std::ranges::move(lines, std::back_inserter(all));
-        lines = std::move(all);
-    }
-    return flow.wentOn() ? paginate(lines) : std::vector<PrintedPage>();
+    flow.addText(text.title, printfonts::name(), FlowLine::Kind::Heading);
+    flow.addSpace(kTextGap);
+    flow.addRichText(text.richText, text.title);
+    return flow.wentOn() ? paginate(flow.take()) : std::vector<PrintedPage>();
 }
 
 std::vector<PrintedPage> PageComposer::paginate(const std::vector<FlowLine>& lines) {

@@ -41,8 +41,7 @@ class PageComposer {
     PageComposer(PrintSource source, const PageScale& scale, TextMetrics& metrics);
 
     ComposedRecipe recipe(int id, const PrintOptions& options, PrintProgress& progress);
-    /// A text below its title, on pages like those of a recipe. A text that begins with its title brings it
-    /// itself.
+    /// A text below its title, on pages like those of a recipe.
     std::vector<PrintedPage> text(const TitledText& text, PrintProgress& progress);
 
     const PageGeometry& geometry() const { return page_; }
