@@ -8,8 +8,9 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
+
+#include "platform/wholefile.h"
 
 namespace sarne {
 namespace {
@@ -65,7 +66,7 @@ class SystemPrinter::State {
 
     QPrinter printer;
     QPainter painter;
-    std::unique_ptr<QSaveFile> file;
+    std::unique_ptr<WholeFile> file;
     std::unique_ptr<QPdfWriter> pdf;
     QString written;  ///< the file of the user's choice that a document has gone to
 
@@ -77,8 +78,8 @@ class SystemPrinter::State {
 
 bool SystemPrinter::State::beginFile(const QString& path, const QString& title) {
     QDir().mkpath(QFileInfo(path).absolutePath());
-    file = std::make_unique<QSaveFile>(path);
-    if (!file->open(QIODevice::WriteOnly)) {
+    file = std::make_unique<WholeFile>(path);
+    if (!file->isOpen()) {
         file.reset();
         return false;
     }
