@@ -97,7 +97,7 @@ void BM_RecipesToPages(benchmark::State& state) {
     int pages = 0;
     for (auto _ : state) {
         QtTextMetrics metrics;
-        PageComposer composer(book.source(), {0, 0, 10772, 15704}, metrics);
+        PageComposer composer(book.source(), {0, 0, 10772, 15704, {}}, metrics);
         for (const std::int16_t id : allRecipes())
             pages += static_cast<int>(composer.recipe(id, {}, silent).pages.size());
     }
