@@ -16,6 +16,9 @@ if(SARNE_SANITIZE)
                            -fno-omit-frame-pointer)
     target_link_options(sarne_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(SARNE_FUZZ)
+    target_compile_options(sarne_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # sarne_library(name SOURCES ... [PUBLIC targets...] [PRIVATE targets...]): one static library per folder of src/.
 function(sarne_library name)

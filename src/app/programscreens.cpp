@@ -1,7 +1,17 @@
 #include "app/programscreens.h"
 
 #include "app/program.h"
+#include "dialogs/frmdialog.h"
+#include "screens/browse/frmfotobig.h"
+#include "screens/browse/frmseznam.h"
+#include "screens/browse/frmsit.h"
+#include "screens/index/frmindex.h"
+#include "screens/index/frmsponzor.h"
+#include "screens/index/frmstranka.h"
+#include "screens/index/frmtabulky.h"
+#include "screens/index/pages.h"
 #include "screens/navigation/frmhlavni.h"
+#include "screens/recipe/frmrecept.h"
 
 namespace sarne {
 
@@ -14,18 +24,59 @@ void ProgramScreens::returnToMain() {
     if (main_) main_->SkryjMenu();
 }
 
-void ProgramScreens::showList(const QString&, const QString&) {}
-void ProgramScreens::showRecipe(std::int16_t) {}
-void ProgramScreens::showGrid() {}
-void ProgramScreens::showPhotos(const PhotoRequest&) {}
+void ProgramScreens::showList(const QString& ids, const QString& source) {
+    const bool help = source.compare(u"Help", Qt::CaseInsensitive) == 0;
+    if (help && helpList_ && program_.FormStack.contains(*helpList_)) return returnToHelpList();
+    auto* list = new frmSeznam(program_);
+    if (help) helpList_ = list;
+    list->Zobraz(ids, source);
+}
+
+void ProgramScreens::returnToHelpList() {
+    while (program_.FormStack.top() != helpList_) program_.PopScreen(*program_.FormStack.top());
+}
+
+void ProgramScreens::showRecipe(std::int16_t id) {
+    const auto askPortions = [this](const QString& prompt) { return askNumber(program_, prompt); };
+    (new frmRecept(program_, askPortions))->Zobraz(id);
+}
+
+void ProgramScreens::showGrid() {
+    (new frmSit(program_))->Zobraz();
+}
+
+void ProgramScreens::showPhotos(const PhotoRequest& request) {
+    (new frmFotoBig(program_))->Zobraz(request);
+}
+
+void ProgramScreens::showPage(const QString& id) {
+    (new frmStranka(program_))->Zobraz(id);
+}
+
+void ProgramScreens::showHelpFor(const QString& formName) {
+    const QString page = helpPageFor(program_.Db(), formName);
+    if (page.isEmpty())
+        showList({}, QStringLiteral("Help"));
+    else
+        showPage(page);
+}
+
+void ProgramScreens::showTables(std::int16_t item) {
+    (new FrmTabulky(program_))->Zobraz(item);
+}
+
+void ProgramScreens::showIndex(std::int16_t keyword) {
+    (new frmIndex(program_))->Zobraz(keyword);
+}
+
+void ProgramScreens::showSponsor(std::int16_t topic, const QString& text) {
+    (new frmSponzor(program_))->Zobraz(topic, text);
+}
+
 void ProgramScreens::showVideo(std::int16_t) {}
 void ProgramScreens::showMusicSettings() {}
-void ProgramScreens::showPage(const QString&) {}
-void ProgramScreens::showHelpFor(const QString&) {}
-void ProgramScreens::showTables(std::int16_t) {}
-void ProgramScreens::showIndex(std::int16_t) {}
-void ProgramScreens::showSponsor(std::int16_t, const QString&) {}
 void ProgramScreens::showPrintSelection(const std::vector<PrintEntry>&, const QString&) {}
 void ProgramScreens::printRecipes(const std::vector<std::int16_t>&) {}
+void ProgramScreens::printText(const QString&, const QString&) {}
 
 }  // namespace sarne

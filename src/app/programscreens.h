@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QPointer>
+
 #include "forms/screens.h"
 
 namespace sarne {
 
 class frmHlavni;
+class frmSeznam;
 class Program;
 
 /// Builds the screens that others ask for.
@@ -29,11 +32,15 @@ class ProgramScreens final : public Screens {
     void showSponsor(std::int16_t topic, const QString& text) override;
     void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) override;
     void printRecipes(const std::vector<std::int16_t>& ids) override;
+    void printText(const QString& title, const QString& text) override;
     void returnToMain() override;
 
   private:
+    void returnToHelpList();
+
     Program& program_;
     frmHlavni* main_ = nullptr;
+    QPointer<frmSeznam> helpList_;
 };
 
 }  // namespace sarne

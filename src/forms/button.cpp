@@ -42,6 +42,11 @@ void Button::setFont(const TextFont& font) {
     update();
 }
 
+void Button::setGround(const QColor& color) {
+    ground_ = color;
+    update();
+}
+
 void Button::setFramePictures(const Picture& raised, const Picture& pressed) {
     raised_ = raised;
     pressed_ = pressed;
@@ -72,6 +77,11 @@ void Button::paint(QPainter& painter) {
     QRect inside =
         frame_ == Frame::None ? place : place.adjusted(kFrameTwips, kFrameTwips, -kFrameTwips, -kFrameTwips);
     if (pressed) inside.translate(kPressedShift, kPressedShift);
+    if (ground_.alpha() > 0) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ground_);
+        painter.drawRoundedRect(QRectF(place).adjusted(23, 23, -23, -23), 90, 90);
+    }
     face_.draw(painter, inside, Fit::Inside);
     if (frame_ != Frame::None) paintFrame(painter, place);
     if (!caption_.isEmpty()) {

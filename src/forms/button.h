@@ -24,6 +24,8 @@ class Button : public Control {
     void setCaption(const QString& caption);
     QString caption() const { return caption_; }
     void setFont(const TextFont& font);
+    /// A ground behind face and caption; by default there is none.
+    void setGround(const QColor& color);
     /// The frames' pictures; they are drawn as nine patches, so that corners keep their size.
     void setFramePictures(const Picture& raised, const Picture& pressed);
 
@@ -38,6 +40,7 @@ class Button : public Control {
     Frame frame_ = Frame::None;
     QString caption_;
     TextFont font_;
+    QColor ground_ = Qt::transparent;
 };
 
 }  // namespace sarne

@@ -20,7 +20,7 @@ Resources::Resources(QString root) : root_(std::move(root)) {}
 bool Resources::load(const QString& file) {
     files_.clear();
     pictures_.clear();
-    return QResource::registerResource(file);
+    return !file.isEmpty() && QResource::registerResource(file);
 }
 
 /// The path of the file in \a folder whose name, its ending and the case aside, is \a name.

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include "forms/colors.h"
 #include "forms/form.h"
 #include "forms/holdrepeat.h"
 
@@ -22,8 +23,6 @@ TextView::TextView(Form& form, const QString& name)
     up_->setFocusPolicy(Qt::NoFocus);
     down_->setFocusPolicy(Qt::NoFocus);
     setArrowPictures({}, {});
-    up_->setTip(QStringLiteral("Posunout nahoru"));
-    down_->setTip(QStringLiteral("Posunout dolů"));
     new HoldRepeat(*up_, [this] { scrollBy(-lineStep_); });
     new HoldRepeat(*down_, [this] { scrollBy(lineStep_); });
     connect(this, &PictureBox::scrolledTo, this, &TextView::updateArrows);
@@ -36,12 +35,17 @@ TextView::~TextView() {
 }
 
 void TextView::setArrowPictures(const Picture& up, const Picture& down) {
-    up_->setFace(up);
-    down_->setFace(down);
-    up_->setCaption(up.isNull() ? QStringLiteral("▲") : QString());
-    down_->setCaption(down.isNull() ? QStringLiteral("▼") : QString());
-    up_->setFrame(up.isNull() ? Button::Frame::Raised : Button::Frame::None);
-    down_->setFrame(down.isNull() ? Button::Frame::Raised : Button::Frame::None);
+    const auto show = [](Button& arrow, const Picture& picture, const QString& fallback) {
+        const bool drawn = picture.isNull();
+        arrow.setFace(picture);
+        arrow.setCaption(drawn ? fallback : QString());
+        arrow.setFrame(drawn ? Button::Frame::Raised : Button::Frame::None);
+        arrow.setGround(drawn ? colors::kTeal : QColor(Qt::transparent));
+    };
+    show(*up_, up, QStringLiteral("▲"));
+    show(*down_, down, QStringLiteral("▼"));
+    up_->setTip(QStringLiteral("Posunout nahoru"));
+    down_->setTip(QStringLiteral("Posunout dolů"));
 }
 
 void TextView::Cls() {

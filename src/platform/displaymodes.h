@@ -22,13 +22,14 @@ class DisplayModes {
     virtual QSize twipsPerPixel() const = 0;
 };
 
-/// The display that the program shows on. Modes are switched by XRandR on X11; elsewhere they stay. The
-/// destructor restores the mode; a helper process does so when this process dies without having done it.
+/// The display that the program shows on. On X11 a helper process switches its mode by XRandR, and switches
+/// back when this process ends without having done so, even by a crash; elsewhere the mode stays. The
+/// destructor restores.
 class SystemDisplayModes final : public DisplayModes {
   public:
-    /// \a restorer is the helper's executable; empty means "sarne-obnov" beside the program. Without it modes
-    /// are switched all the same.
-    explicit SystemDisplayModes(QString restorer = {});
+    /// \a helper is the helper's executable, empty for "sarne-obnov" beside the program; without it no mode
+    /// is switched. \a platform is Qt's name for the window system, empty for the one in use.
+    explicit SystemDisplayModes(const QString& helper = {}, const QString& platform = {});
     ~SystemDisplayModes() override;
     QSize current() const override;
     bool canSwitch(QSize size) const override;
@@ -37,8 +38,9 @@ class SystemDisplayModes final : public DisplayModes {
     QSize twipsPerPixel() const override;
 
   private:
-    class Private;
-    std::unique_ptr<Private> d_;
+    class Helper;
+    std::unique_ptr<Helper> helper_;
+    bool changed_ = false;
 };
 
 }  // namespace sarne

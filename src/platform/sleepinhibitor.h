@@ -26,8 +26,8 @@ class DesktopSleepInhibitor final : public SleepInhibitor {
     void release() override;
 
   private:
-    class Private;
-    std::unique_ptr<Private> d_;
+    struct Wish;
+    std::shared_ptr<Wish> wish_;
 };
 
 }  // namespace sarne

@@ -2,6 +2,7 @@
 
 #include <QGlyphRun>
 #include <algorithm>
+#include <cmath>
 
 #include "richtext/fontface.h"
 
@@ -12,7 +13,10 @@ namespace {
 class BoxPainter {
   public:
     BoxPainter(QPainter& painter, const RtfLayout& layout, const LinkHighlight& highlight)
-        : painter_(painter), layout_(layout), highlight_(highlight), faces_(layout.fonts().size()) {}
+        : painter_(painter), layout_(layout), highlight_(highlight), faces_(layout.fonts().size()) {
+        const qreal scale = std::abs(painter.deviceTransform().m22());
+        onePixel_ = scale > 0 ? 1 / scale : 0;
+    }
 
     void paintLine(const TextLine& line) {
         const WordBox* previous = nullptr;
@@ -83,17 +87,16 @@ class BoxPainter {
         const bool joined = previous && isUnderlined(*previous) && previous->link == box.link;
         const int left = joined ? previous->x + previous->width : box.x;
         const QRawFont& font = face(box.font).rawFont();
-        const qreal thickness = qMax(font.lineThickness(), kThinnestStroke);
+        const qreal thickness = qMax(font.lineThickness(), onePixel_);
         const QRectF stroke(left, box.baseline + font.underlinePosition() - thickness / 2,
                             box.x + box.width - left, thickness);
         painter_.fillRect(stroke, layout_.color(box));
     }
 
-    static constexpr qreal kThinnestStroke = 10;
-
     QPainter& painter_;
     const RtfLayout& layout_;
     const LinkHighlight& highlight_;
+    qreal onePixel_;  // a stroke thinner than a pixel could fall between two rows of them
     std::vector<std::optional<FontFace>> faces_;
     std::vector<Batch> batches_;
     size_t current_ = kNone;

@@ -10,7 +10,7 @@ namespace {
 constexpr QRgb kBlack = qRgb(0, 0, 0);
 constexpr int kMaxMarkerDigits = 3;
 /// Longest piece handed on at once, so that a request to stop is seen soon.
-constexpr qsizetype kLongestRun = 512;
+constexpr qsizetype kLongestRun = 64;
 
 /// Characters of the text that are not simply part of a word or a blank.
 constexpr bool isSpecial(char16_t c) {

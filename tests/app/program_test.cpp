@@ -30,6 +30,8 @@ class ProgramTest : public testing::Test {
         program = std::make_unique<Program>(platform.parts(), Folders{path("program"), path("data")});
         program->stage().resize(800, 600);
         program->stage().show();
+        program->stage().activateWindow();
+        QApplication::processEvents();
     }
     QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
     static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }

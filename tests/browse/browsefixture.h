@@ -65,7 +65,8 @@ class BrowseTest : public testing::Test {
         const QPointF at = center(widget);
         QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, notches * 120}, Qt::NoButton, Qt::NoModifier,
                           Qt::NoScrollPhase, false);
-        QApplication::sendEvent(widget, &event);
+        QSpontaneKeyEvent::setSpontaneous(&event);  // as from the window system, so that parents get it too
+        qApp->notify(widget, &event);
     }
     /// A key typed where the keyboard is.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {

@@ -2,6 +2,7 @@
 #include "forms/button.h"
 #include "forms/label.h"
 #include "screens/browse/frmseznam.h"
+#include "screens/browse/frmseznam_layout.h"
 
 namespace sarne {
 namespace {
@@ -17,7 +18,7 @@ class SeznamTest : public BrowseTest {
         list->Zobraz(QString::fromLatin1(ids), QString::fromLatin1(source));
         return *list;
     }
-    QWidget* control(const QString& name) const { return list->findChild<QWidget*>(name); }
+    QWidget* control(const char* name) const { return child(*list, name); }
     Button* button(const char* name) const { return list->findChild<Button*>(QString::fromLatin1(name)); }
     Label* row(int number) const {
         return list->findChild<Label*>(QStringLiteral("lblSeznam(%1)").arg(number));
@@ -27,6 +28,11 @@ class SeznamTest : public BrowseTest {
     bool wineShows() const { return child<Label>(*list, "lblVino")->isVisible(); }
     int selected() const { return list->pages().selectedEntry(); }
 
+    QString panelText() const { return child<PictureBox>(*list, "picFoto")->drawnText(); }
+    frmRychlyRecept* quick() const { return run.window.findChild<frmRychlyRecept*>(); }
+    QString quickText() const { return child<PictureBox>(*quick(), "Picture1")->drawnText(); }
+
+    static constexpr int kRows = seznam::kRows;
     Form* below = new Form(run, QStringLiteral("frmHlavni"));
     frmSeznam* list = nullptr;
 };
@@ -37,15 +43,298 @@ TEST_F(SeznamTest, ShowsAPageAndSelectsByMouse) {
     EXPECT_EQ(row(3)->text(), QStringLiteral("Recept 002"));
     EXPECT_EQ(row(4)->text(), QString());
     EXPECT_FALSE(button("imgSipky(0)")->isVisible());
-    EXPECT_FALSE(control(QStringLiteral("imgJablko"))->isVisible());
+    EXPECT_FALSE(control("imgJablko")->isVisible());
     click(row(4));
     EXPECT_EQ(selected(), -1);
     click(row(2));
     EXPECT_EQ(position(), QStringLiteral("2 z 3"));
-    EXPECT_TRUE(control(QStringLiteral("imgJablko"))->isVisible());
+    EXPECT_TRUE(control("imgJablko")->isVisible());
     EXPECT_EQ(run.announced, QStringList{QStringLiteral("Recept 001")});
     click(button("imgBtn(2)"));
-    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("showRecipe 1")});
+    doubleClick(row(1));
+    EXPECT_EQ(run.recorded.calls,
+              (QStringList{QStringLiteral("showRecipe 1"), QStringLiteral("showRecipe 3")}));
+    click(button("imgBtnHlavni(2)"));
+    EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(SeznamTest, ArrowsScrollOnceOrWhileHeld) {
+    open("", "recepty");
+    const int half = kRows / 2;
+    const struct {
+        const char* arrow;
+        int top;
+    } clicks[] = {{"imgSipky(0)", 1}, {"imgSipky(3)", 1 + half}, {"imgSipky(1)", half}, {"imgSipky(2)", 0}};
+    for (const auto& [arrow, top] : clicks) {
+        click(button(arrow));
+        EXPECT_EQ(list->pages().top(), top) << arrow;
+    }
+    auto* timer = list->findChild<Timer*>();
+    QTest::mousePress(button("imgSipky(0)"), Qt::LeftButton);
+    EXPECT_TRUE(timer->isEnabled());
+    EXPECT_EQ(timer->interval(), 500);
+    EXPECT_EQ(list->pages().top(), 0);
+    for (int tick = 0; tick < 100; ++tick) timer->fire();
+    EXPECT_EQ(timer->interval(), 50);
+    EXPECT_EQ(list->pages().top(), kRecipes - kRows);
+    EXPECT_EQ(row(kRows)->text(), QStringLiteral("Recept 050"));
+    timer->setEnabled(true);
+    QTest::mousePress(button("imgSipky(1)"), Qt::LeftButton);
+    timer->fire();
+    QTest::mouseRelease(button("imgSipky(1)"), Qt::LeftButton);
+    EXPECT_FALSE(timer->isEnabled());
+    EXPECT_EQ(list->pages().top(), kRecipes - kRows - 1) << "letting go is no further click";
+}
+
+TEST_F(SeznamTest, AHeldArrowStopsWhenAScreenComesOverTheList) {
+    open("", "recepty");
+    auto* timer = list->findChild<Timer*>();
+    QTest::mousePress(button("imgSipky(0)"), Qt::LeftButton);
+    auto* over = new Form(run, QStringLiteral("frmRecept"));
+    run.PushScreen(*over);
+    timer->fire();
+    EXPECT_FALSE(timer->isEnabled());
+    EXPECT_EQ(list->pages().top(), 0);
+}
+
+TEST_F(SeznamTest, ThePanelShowsPhotoOrWines) {
+    writePhoto("foto/Male/r1.bmp");
+    writePhoto("foto/Male/r2.bmp");
+    open("", "recepty");
+    click(row(1));
+    EXPECT_EQ(panelText(), QString()) << "a photo that is there needs no name";
+    EXPECT_FALSE(wineShows());
+    click(button("imgBtn(1)"));
+    EXPECT_TRUE(wineShows());
+    EXPECT_EQ(wine(), QStringLiteral("Recept 001 Víno \r\nRyzlink rýnský\r\nPálava"));
+    click(row(2));
+    EXPECT_EQ(wine(), QStringLiteral("Recept 002 Víno ")) << "the panel stays what it is";
+    click(button("imgBtn(1)"));
+    EXPECT_FALSE(wineShows());
+    click(button("imgBtn(1)"));
+    click(button("imgBtn(0)"));
+    EXPECT_FALSE(wineShows());
+}
+
+TEST_F(SeznamTest, TheWinesFitIntoThePanel) {
+    open("1,", "recepty");
+    for (int more = 0; more < 5; ++more)
+        run.database.Execute(QStringLiteral("INSERT INTO SpojVino VALUES (1, 1)"));
+    click(row(1));
+    click(button("imgBtn(1)"));
+    EXPECT_EQ(wine().count(u'\n'), 7);
+    const QRect panel = child<PictureBox>(*list, "picFoto")->twips();
+    const auto* label = child<Label>(*list, "lblVino");
+    EXPECT_TRUE(panel.contains(label->twips()));
+    const TextFont smallest{QStringLiteral("Times New Roman"), 11};
+    EXPECT_GE(label->twips().height(), Label::measure(wine(), smallest, label->twips().width()).height());
+}
+
+TEST_F(SeznamTest, AMissingOrBrokenPhotoLeavesItsNameInThePlace) {
+    QFile broken(folder.filePath(QStringLiteral("foto/Male/r2.bmp")));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write(QByteArray("BM").append(QByteArray(60, '\x7f')));
+    broken.close();
+    writePhoto("foto/Male/r3.bmp", {300, 200});
+    QFile cut(folder.filePath(QStringLiteral("foto/Male/r3.bmp")));
+    ASSERT_TRUE(cut.resize(1000));
+    open("", "recepty");
+    for (int number = 1; number <= 3; ++number) {
+        click(row(number));
+        EXPECT_EQ(panelText(), QStringLiteral("Recept 00%1").arg(number));
+        EXPECT_EQ(position(), QStringLiteral("%1 z 50").arg(number));
+    }
+    EXPECT_EQ(run.messages, QStringList());
+}
+
+TEST_F(SeznamTest, AnActionNeedsASelection) {
+    open("", "recepty");
+    for (const char* name : {"imgBtn(0)", "imgBtn(1)", "imgBtn(2)"}) click(button(name));
+    key(Qt::Key_Return);
+    EXPECT_EQ(run.messages, QStringList(4, QStringLiteral("48: Není vybrán recept")));
+    click(control("picFoto"));
+    EXPECT_EQ(run.recorded.calls, QStringList());
+    click(row(1));
+    wheel(row(1), -3);
+    click(button("imgBtn(2)"));
+    EXPECT_EQ(run.messages.size(), 5) << "a selection that is off the page is none";
+}
+
+TEST_F(SeznamTest, TheKeyboardReachesEverything) {
+    open("", "recepty");
+    key(Qt::Key_Down);
+    key(Qt::Key_PageDown);
+    EXPECT_EQ(selected(), kRows);
+    EXPECT_EQ(list->pages().top(), kRows);
+    key(Qt::Key_End);
+    EXPECT_EQ(position(), QStringLiteral("50 z 50"));
+    key(Qt::Key_PageUp);
+    key(Qt::Key_Up);
+    EXPECT_EQ(selected(), 50 - kRows - 2);
+    key(Qt::Key_Home);
+    EXPECT_EQ(selected(), 0);
+    key(Qt::Key_Tab);
+    key(Qt::Key_Right);
+    EXPECT_TRUE(button("imgBtn(2)")->hasFocus());
+    key(Qt::Key_Enter);
+    key(Qt::Key_Backtab);
+    key(Qt::Key_Return);
+    EXPECT_TRUE(wineShows());
+    key(Qt::Key_Left);
+    key(Qt::Key_Left);
+    EXPECT_TRUE(button("imgBtnHlavni(4)")->hasFocus()) << "round the end";
+    key(Qt::Key_Return);
+    key(Qt::Key_F1);
+    EXPECT_EQ(run.recorded.calls,
+              (QStringList{QStringLiteral("showRecipe 1"), QStringLiteral("showMusicSettings"),
+                           QStringLiteral("showHelpFor frmSeznam")}));
+    type('x');
+    EXPECT_EQ(run.exits, 1);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(SeznamTest, LettersJumpAndCGoesBack) {
+    run.database.Execute(QStringLiteral("UPDATE Recepty SET Nazev = 'Štika' WHERE ID IN (30, 40)"));
+    open("", "recepty");
+    type('s');
+    EXPECT_EQ(selected(), 29);
+    EXPECT_GT(list->pages().selectedRow(), 0);
+    run.time.time += 5000;
+    type('s');
+    EXPECT_EQ(selected(), 39);
+    type('q');
+    EXPECT_EQ(selected(), 39);
+    run.time.time += 5000;
+    for (const char letter : {'s', 't', 'i'}) type(letter);
+    EXPECT_EQ(selected(), 29) << "the rest of the word does not jump on";
+    type('c');
+    EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(SeznamTest, TheWheelScrollsByOneEntryANotch) {
+    open("", "recepty");
+    wheel(row(3), -2);
+    wheel(list, -1);
+    EXPECT_EQ(list->pages().top(), 3);
+    wheel(row(3), 9);
+    EXPECT_EQ(list->pages().top(), 0);
+}
+
+TEST_F(SeznamTest, AHelpTopicOpensItsPageAndNoPhoto) {
+    writePhoto("foto/Male/r5.bmp");
+    open("", "Help");
+    for (const char* hidden :
+         {"imgBtn(0)", "imgBtn(1)", "ImgTlacitko(0)", "ImgTlacitko(1)", "imgBtnHlavni(0)"})
+        EXPECT_FALSE(control(hidden)->isVisible()) << hidden;
+    const QImage before = control("picFoto")->grab().toImage();
+    click(row(2));
+    EXPECT_EQ(position(), QStringLiteral("2 z 2"));
+    EXPECT_EQ(control("picFoto")->grab().toImage(), before) << "page 5 is not recipe 5";
+    click(control("picFoto"));
+    key(Qt::Key_Space);
+    EXPECT_EQ(run.recorded.calls, QStringList());
+    key(Qt::Key_Return);
+    doubleClick(row(1));
+    EXPECT_EQ(run.recorded.calls,
+              (QStringList{QStringLiteral("showPage 5"), QStringLiteral("showPage 310")}));
+}
+
+TEST_F(SeznamTest, QuickRecipesStandForTheRecipesTheyShow) {
+    writePhoto("foto/Male/r29.bmp");
+    open("", "RychleRecepty");
+    EXPECT_FALSE(control("imgBtn(0)")->isVisible());
+    click(row(2));
+    EXPECT_EQ(quickText(), QStringLiteral("Ze skříně")) << "no photo of recipe 32";
+    click(row(1));
+    EXPECT_EQ(quickText(), QString());
+    click(button("imgBtn(1)"));
+    EXPECT_EQ(wine(), QStringLiteral("Za deset minut Víno \r\nRyzlink rýnský\r\nPálava"));
+    EXPECT_FALSE(quick()->isVisible());
+    click(button("imgBtn(1)"));
+    EXPECT_TRUE(quick()->isVisible());
+    click(button("imgBtn(2)"));
+    doubleClick(row(3));
+    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("showRecipe 29")}) << "the third leads nowhere";
+    click(button("imgBtnHlavni(0)"));
+    ASSERT_EQ(run.recorded.printEntries.size(), 2u);
+    EXPECT_EQ(run.recorded.printEntries[1].item, 32);
+    EXPECT_EQ(run.recorded.printEntries[1].text, QStringLiteral("Ze skříně"));
+}
+
+TEST_F(SeznamTest, TheQuickRecipesWindowGivesTheKeyboardBack) {
+    open("", "RychleRecepty");
+    EXPECT_FALSE(quick()->isAncestorOf(run.window.focusWidget()));
+    key(Qt::Key_Tab);
+    click(row(2));
+    quick()->setFocus();
+    EXPECT_TRUE(button("imgBtn(2)")->hasFocus());
+    click(quick());
+    click(child(*quick(), "Picture1"));
+    QTest::mouseMove(child(*quick(), "Picture1"), QPoint(5, 5));
+    EXPECT_TRUE(button("imgBtn(2)")->hasFocus());
+    EXPECT_EQ(selected(), 1);
+    key(Qt::Key_Down);
+    EXPECT_EQ(selected(), 2);
+    list->goBack();
+    EXPECT_EQ(run.window.forms(), std::vector<Form*>{below}) << "the window goes with the list";
+}
+
+TEST_F(SeznamTest, PhotosAndPrintGetTheEntries) {
+    open("7,9,11,", "recepty");
+    click(row(2));
+    click(control("picFoto"));
+    EXPECT_EQ(run.recorded.photos.photoIds, (std::vector<std::int16_t>{7, 9, 11}));
+    EXPECT_EQ(run.recorded.photos.startPosition, 1);
+    EXPECT_FALSE(run.recorded.photos.slideShow);
+    key(Qt::Key_Space);
+    EXPECT_TRUE(run.recorded.photos.slideShow);
+    EXPECT_EQ(run.recorded.photos.slideInterval, 4000);
+    click(button("imgBtnHlavni(0)"));
+    ASSERT_EQ(run.recorded.printEntries.size(), 3u);
+    EXPECT_EQ(run.recorded.printEntries[2].item, 11);
+    EXPECT_EQ(run.recorded.printEntries[2].text, QStringLiteral("Recept 011"));
+}
+
+TEST_F(SeznamTest, GoingBackLandsWhereTheUserWas) {
+    open("", "recepty");
+    key(Qt::Key_Down);
+    key(Qt::Key_PageDown);
+    key(Qt::Key_Tab);
+    key(Qt::Key_Return);
+    frmSeznam* first = list;
+    const int top = first->pages().top(), place = first->pages().selectedRow();
+    auto* recipe = new Form(run, QStringLiteral("frmRecept"));
+    run.PushScreen(*recipe);
+    recipe->showForm();
+    open("", "Help");
+    key(Qt::Key_End);
+    EXPECT_EQ(first->pages().top(), top) << "the list below is another one";
+    list->goBack();
+    run.PopScreen(*recipe);
+    list = first;
+    EXPECT_EQ(list->pages().top(), top);
+    EXPECT_EQ(list->pages().selectedRow(), place);
+    EXPECT_TRUE(wineShows());
+    EXPECT_TRUE(button("imgBtn(1)")->hasFocus());
+    key(Qt::Key_Down);
+    EXPECT_EQ(list->pages().selectedRow(), place + 1);
+}
+
+TEST_F(SeznamTest, AnEmptyListAndAClosedDatabaseAreHarmless) {
+    open("5", "recepty");
+    EXPECT_EQ(list->pages().count(), 0);
+    for (const Qt::Key pressed : {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Space})
+        key(pressed);
+    type('k');
+    wheel(list, 1);
+    key(Qt::Key_Return);
+    EXPECT_EQ(run.messages.size(), 1);
+    list->goBack();
+    run.database.Close();
+    open("", "RychleRecepty");
+    key(Qt::Key_Down);
+    EXPECT_EQ(selected(), -1);
 }
 
 }  // namespace

@@ -86,14 +86,16 @@ TEST(DrawLine, PlacesOneLineAnywhere) {
     EXPECT_EQ(surface.drawn, QStringList{QStringLiteral("500,240 b #000000")});
 }
 
-/// A picture of a layout at one pixel to ten twips, as a person would see it.
+/// A picture of a layout at the scale of the design, fifteen twips to the pixel.
+constexpr int kPixel = 15;
+
 class Painting : public testing::Test {
   protected:
     QImage paint(const RtfLayout& layout, const QRect& visible, const LinkHighlight& highlight = {}) {
-        QImage picture(400, 200, QImage::Format_RGB32);
+        QImage picture(270, 130, QImage::Format_RGB32);
         picture.fill(Qt::white);
         QPainter painter(&picture);
-        painter.scale(.1, .1);
+        painter.scale(1. / kPixel, 1. / kPixel);
         paintLayout(painter, layout, visible, highlight);
         return picture;
     }
@@ -108,7 +110,7 @@ class Painting : public testing::Test {
         }
         return ink;
     }
-    RtfLayout layOut(QStringView text) { return RtfLayout::of(text, {0, 4000, 0}, metrics); }
+    RtfLayout layOut(QStringView text, int top = 0) { return RtfLayout::of(text, {0, 4000, top}, metrics); }
 
     QtTextMetrics metrics;
 };
@@ -118,7 +120,8 @@ TEST_F(Painting, InksTheBoxesAndOnlyTheLinesInSight) {
     for (qsizetype i = 0; i < 3; ++i) {
         const WordBox& box = layout.boxes()[i];
         const QRect ink = inked(paint(layout, {0, box.top + 20, 4000, 10}));
-        const QRect place(box.x / 10 - 1, box.top / 10 - 2, box.width / 10 + 3, box.height / 10 + 4);
+        const QRect place(box.x / kPixel - 1, box.top / kPixel - 2, box.width / kPixel + 3,
+                          box.height / kPixel + 4);
         EXPECT_FALSE(ink.isEmpty());
         EXPECT_TRUE(place.contains(ink)) << i;
         EXPECT_GT(ink.width(), place.width() * 3 / 4);
@@ -126,20 +129,33 @@ TEST_F(Painting, InksTheBoxesAndOnlyTheLinesInSight) {
     EXPECT_TRUE(inked(paint(layout, {0, 5000, 4000, 900})).isEmpty());
 }
 
+TEST_F(Painting, GivesEveryWordItsColor) {
+    const RtfLayout layout =
+        layOut(u"{\\rtf1{\\colortbl;\\red255;\\blue255;}\\plain\\fs48\\cf1 I \\cf2 I \\cf1 I \\cf0 @1I@}");
+    const QImage picture = paint(layout, {0, 0, 4000, 2000});
+    const QColor colors[] = {Qt::red, Qt::blue, Qt::red, linkColor(LinkKind::Video)};
+    for (size_t i = 0; i < std::size(colors); ++i) {
+        const QRect box = RtfLayout::rect(layout.boxes()[i]);
+        EXPECT_EQ(picture.pixelColor(box.center() / kPixel).name(), colors[i].name()) << i;
+    }
+}
+
 TEST_F(Painting, UnderlinesTheLinkThatStandsOut) {
-    const RtfLayout layout = layOut(u"{\\rtf1\\plain aa *1bb bb* *2cc* \\ul dd dd}");
-    const QImage plain = paint(layout, {0, 0, 4000, 2000});
-    const QRect stroke = inked(paint(layout, {0, 0, 4000, 2000}, {1, {}}), plain);
-    const WordBox& link = layout.boxes()[2];
-    EXPECT_NEAR(stroke.left(), link.x / 10, 1);
-    EXPECT_NEAR(stroke.width(), link.width / 10, 2);
-    EXPECT_GT(stroke.top(), link.baseline / 10);
-    EXPECT_LE(stroke.height(), 3);
-    EXPECT_EQ(inked(paint(layout, {0, 0, 4000, 2000}, {{}, 1}), plain), stroke);
-    // Underlined words of a text are underlined over their blanks.
-    const int y = stroke.center().y();
-    const int gap = (layout.boxes()[4].x - 20) / 10;
-    EXPECT_NE(plain.pixel(gap, y), qRgb(255, 255, 255));
+    const QRect all(0, 0, 4000, 2000);
+    for (int top = 0; top < 2 * kPixel; ++top) {  // wherever the line falls between the pixels
+        const RtfLayout layout = layOut(u"{\\rtf1\\plain aa *1bb bb* *2cc* \\ul dd dd}", top);
+        const QImage plain = paint(layout, all);
+        const QRect stroke = inked(paint(layout, all, {1, {}}), plain);
+        const WordBox& link = layout.boxes()[2];
+        EXPECT_NEAR(stroke.left(), link.x / kPixel, 1) << top;
+        EXPECT_NEAR(stroke.width(), link.width / kPixel, 2) << top;
+        EXPECT_GE(stroke.top(), link.baseline / kPixel);
+        EXPECT_LE(stroke.height(), 2);
+        EXPECT_EQ(inked(paint(layout, all, {{}, 1}), plain), stroke);
+        // Underlined words of a text are underlined over their blanks.
+        const int gap = (layout.boxes()[4].x - kPixel) / kPixel;
+        EXPECT_NE(plain.pixel(gap, stroke.center().y()), qRgb(255, 255, 255)) << top;
+    }
 }
 
 TEST(FontFace, IsAsWideAsQtSays) {

@@ -84,6 +84,7 @@ TEST_F(Layout, MovesToTabStops) {
     EXPECT_EQ(lefts(0), (Xs{0, 1200}));
     layOut(QStringLiteral("\\tx600 a\\tab b c dddddddddddd"), 12);  // what stands before a tab is not spread
     EXPECT_EQ(lefts(0), (Xs{0, 600, 1320}));
+    EXPECT_EQ(wordsAt(8, u"\\tx600 a\\tab b ccccccccc d"), QStringLiteral("a b|ccccccccc|d"));
     EXPECT_EQ(wordsAt(3, u"\\tx9999\\tab\\tab a"), QStringLiteral("||a"));
 }
 

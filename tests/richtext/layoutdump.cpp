@@ -39,15 +39,6 @@ class CharacterSink final : public RtfSink {
     void character(QChar c) override {
         if (c != u' ') characters += c;
     }
-    void font(const TextFont&) override {}
-    void color(QRgb) override {}
-    void openLink(const LinkKey&) override {}
-    void closeLink() override {}
-    void endPara() override {}
-    void tab() override {}
-    void tabStop(int) override {}
-    void clearTabStops() override {}
-    void defaultTabWidth(int) override {}
 
     QString characters;
 };

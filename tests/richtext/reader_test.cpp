@@ -29,7 +29,6 @@ class DumpSink final : public RtfSink {
     }
     void tab() override { add(QStringLiteral("tab")); }
     void tabStop(int twips) override { add(QStringLiteral("stop %1").arg(twips)); }
-    void clearTabStops() override {}
     void defaultTabWidth(int twips) override {
         if (twips != 100) add(QStringLiteral("tabs %1").arg(twips));
     }

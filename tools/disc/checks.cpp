@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "markup.h"
 #include "readsponsors.h"
 
 namespace sarne::disc {
@@ -12,6 +13,9 @@ namespace {
 constexpr double kTolerance = 0.15;
 constexpr int kFewestIngredients = 6;
 constexpr int kMostIngredients = 16;
+/// How long the text of a keyword is.
+constexpr int kFewestWords = 60;
+constexpr int kMostWords = 200;
 constexpr int kQuickMinutes = 30;
 constexpr int kSwitches = 5;
 
@@ -126,6 +130,22 @@ void checkRecipe(const Cookbook& book, const Recipe& recipe, Problems& problems)
     checkNames(book, recipe, problems);
 }
 
+void checkArticle(const Article& article, Problems& problems) {
+    if (article.text.isEmpty() || article.name.isEmpty())
+        problems.error(article.place, QStringLiteral("a name or a text is missing"));
+}
+
+void checkKeyword(const Article& keyword, Problems& problems) {
+    qsizetype words = 0;
+    for (const Line& line : keyword.text)
+        words += plainText(line.text).split(u' ', Qt::SkipEmptyParts).size();
+    if (words < kFewestWords || words > kMostWords)
+        problems.error(keyword.place, QStringLiteral("%1 words; from %2 to %3 are wanted")
+                                          .arg(words)
+                                          .arg(kFewestWords)
+                                          .arg(kMostWords));
+}
+
 void checkQuick(const Cookbook& book, Problems& problems) {
     for (const QuickRecipe& quick : book.quick) {
         const Recipe recipe = book.recipes.value(quick.recipe);
@@ -194,9 +214,8 @@ LinkBook linkBook(const Cookbook& book, Problems& problems) {
 
 void checkCookbook(const Cookbook& book, Problems& problems) {
     for (const Recipe& recipe : book.recipes) checkRecipe(book, recipe, problems);
-    for (const Article& article : book.auxiliary + book.keywords)
-        if (article.text.isEmpty() || article.name.isEmpty())
-            problems.error(article.place, QStringLiteral("a name or a text is missing"));
+    for (const Article& article : book.auxiliary + book.keywords) checkArticle(article, problems);
+    for (const Article& keyword : book.keywords) checkKeyword(keyword, problems);
     checkQuick(book, problems);
     checkUse(book, problems);
     checkPages(book, problems);

@@ -128,7 +128,7 @@ struct LookupTable {
     int id = 0;
     Place place;
     QString name;
-    /// A sentence for the whole table; may be empty.
+    /// What the numbers are for; may be empty.
     QString note;
     QStringList columns;
     QList<QStringList> rows;

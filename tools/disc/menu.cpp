@@ -1,5 +1,6 @@
 #include "menu.h"
 
+#include <QCollator>
 #include <QRegularExpression>
 #include <functional>
 
@@ -125,7 +126,7 @@ class RowMaker {
     QString ids(const QSet<int>& found) const {
         QList<int> sorted(found.cbegin(), found.cend());
         std::sort(sorted.begin(), sorted.end(), [&](int a, int b) {
-            return QString::localeAwareCompare(book_.recipes[a].name, book_.recipes[b].name) < 0;
+            return czech_.compare(book_.recipes[a].name, book_.recipes[b].name) < 0;
         });
         QString text;
         for (const int id : sorted) text += QString::number(id) + u',';
@@ -142,6 +143,7 @@ class RowMaker {
     const Cookbook& book_;
     Problems& problems_;
     TopicKind kind_ = TopicKind::none;
+    QCollator czech_{QLocale(QLocale::Czech, QLocale::CzechRepublic)};
     QList<MenuRow> rows_;
 };
 

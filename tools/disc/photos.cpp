@@ -17,7 +17,8 @@ namespace {
 /// Changed whenever pictures would come out different from the same source.
 constexpr const char* kVersion = "1";
 constexpr int kRecipes = 50;
-constexpr QSize kFullScreen(1440, 1080);
+/// Composites and gallery pictures, which fill the screen.
+constexpr QSize kScreenSize(1440, 1080);
 const QColor kPaper(244, 234, 210);
 const QColor kNight(11, 34, 38);
 
@@ -97,11 +98,11 @@ QRect onPicture(const QRect& twips, const QSize& picture) {
 /// All dishes on the grid's ground; those outside \a course dimmed, none when it is empty.
 QImage composite(const Workshop& shop, const QList<QImage>& dishes, const QString& course) {
     const QImage ground(shop.art + QStringLiteral("/rendered/pozadi/sit.jpg"));
-    QImage picture = fitted(ground.isNull() ? standInGround({}) : ground, kFullScreen);
+    QImage picture = fitted(ground.isNull() ? standInGround({}) : ground, kScreenSize);
     picture = picture.convertToFormat(QImage::Format_RGB32);
     QPainter painter(&picture);
     for (int id = 1; id <= kRecipes; ++id) {
-        const QRect cell = onPicture(gridCell(id), kFullScreen);
+        const QRect cell = onPicture(gridCell(id), kScreenSize);
         painter.drawImage(cell, dishes[id - 1]);
         if (course.isEmpty() || gridCourses(id).contains(course)) continue;
         QColor dim = kNight;
@@ -117,7 +118,7 @@ void makeGrid(Workshop& shop) {
     const QString origin = originOf({shop.art + QStringLiteral("/rendered/pozadi/sit.jpg")}, details);
     QList<QImage> dishes;
     const auto loaded = [&]() -> const QList<QImage>& {
-        const QSize cell = onPicture(gridCell(1), kFullScreen).size();
+        const QSize cell = onPicture(gridCell(1), kScreenSize).size();
         for (int id = 1; id <= kRecipes && dishes.size() < kRecipes; ++id)
             dishes << fitted(QImage(shop.disc + QStringLiteral("/foto/Male/r%1.bmp").arg(id)), cell);
         return dishes;
@@ -175,7 +176,7 @@ void makePhotos(Workshop& shop) {
             QStringLiteral("Víno"));
     for (const GalleryPicture& picture : shop.book.gallery)
         makeOne(shop, QStringLiteral("rendered/sponzor/%1.jpg").arg(picture.id),
-                QStringLiteral("foto/sponzor/%1.bmp").arg(picture.id), kFullScreen, picture.name);
+                QStringLiteral("foto/sponzor/%1.bmp").arg(picture.id), kScreenSize, picture.name);
 }
 
 void makeScreenPictures(Workshop& shop) {

@@ -1,11 +1,18 @@
 #include "readtables.h"
 
+#include <QCollator>
+#include <QLocale>
 #include <QRegularExpression>
+#include <algorithm>
+#include <cmath>
 
 #include "readsponsors.h"
 
 namespace sarne::disc {
 namespace {
+
+/// The table of spoons gets its rows from the weights that the recipes are checked with.
+constexpr int kSpoonTable = 5;
 
 const QHash<QString, UnitKind>& unitKinds() {
     static const QHash<QString, UnitKind> kinds{{QStringLiteral("hmotnost"), UnitKind::weight},
@@ -141,6 +148,39 @@ void readPages(const ContentFolder& folder, Cookbook& book, Problems& problems) 
         book.help << HelpTopic{row.at(0).toInt(), row.place, row.at(1), row.at(2).toInt()};
 }
 
+/// Grams of a unit of that name, 0 when it has none.
+double gramsOf(const Cookbook& book, const QHash<int, double>& weights, const QString& unit) {
+    return weights.value(book.unitForms.value(unit));
+}
+
+QString gramsText(double grams) {
+    if (grams <= 0) return QStringLiteral("–");
+    const double shown = grams < 10    ? std::round(grams * 2) / 2
+                         : grams < 100 ? std::round(grams)
+                                       : std::round(grams / 10) * 10;
+    return QLocale(QLocale::Czech).toString(shown, 'g', 4) + QStringLiteral(" g");
+}
+
+/// What the recipes reckon with: a tea spoon, a table spoon and a cup of each ingredient that has a weight
+/// by the spoon. The other two follow from the table spoon where the content does not give them.
+QList<QStringList> spoonRows(const Cookbook& book) {
+    QList<QStringList> rows;
+    for (auto entry = book.unitWeights.cbegin(); entry != book.unitWeights.cend(); ++entry) {
+        const double tea = gramsOf(book, *entry, QStringLiteral("lžičky"));
+        const double table = gramsOf(book, *entry, QStringLiteral("lžíce"));
+        const double cup = gramsOf(book, *entry, QStringLiteral("hrnky"));
+        const double spoon = table > 0 ? table : tea * 3;
+        if (spoon <= 0) continue;
+        rows << QStringList{entry.key().first(1).toUpper() + entry.key().mid(1),
+                            gramsText(tea > 0 ? tea : spoon / 3), gramsText(spoon),
+                            gramsText(cup > 0 ? cup : spoon * 250 / 15)};
+    }
+    QCollator czech(QLocale(QLocale::Czech, QLocale::CzechRepublic));
+    std::sort(rows.begin(), rows.end(),
+              [&](const QStringList& a, const QStringList& b) { return czech.compare(a[0], b[0]) < 0; });
+    return rows;
+}
+
 void readLookupTables(const ContentFolder& folder, Cookbook& book, Problems& problems) {
     for (const QString& file : folder.files(QStringLiteral("tabulky"))) {
         QList<Row> rows = tableRows(folder.read(file));
@@ -158,6 +198,7 @@ void readLookupTables(const ContentFolder& folder, Cookbook& book, Problems& pro
                                               .arg(heads.cells.size()));
             table.rows << row.cells;
         }
+        if (table.id == kSpoonTable) table.rows << spoonRows(book);
         book.tables << table;
     }
 }

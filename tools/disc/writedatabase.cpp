@@ -122,7 +122,7 @@ class CookbookWriter {
                         {table.id, table.name, table.columns.join(u'\t'), table.note});
             for (const QStringList& row : table.rows)
                 writer_.add(QStringLiteral("RadkyTabulek"),
-                            {QVariant(), table.id, keywordOf(row.first()), row.join(u'\t')});
+                            {QVariant(), table.id, keywordOf(row.value(0)), row.join(u'\t')});
         }
     }
 

@@ -29,7 +29,7 @@ void frmRychlyRecept::Zobraz(const QRect& where) {
     raise();
 }
 
-void frmRychlyRecept::setPicture(const Picture& picture, const QString& words) {
+void frmRychlyRecept::setPicture(const QImage& picture, const QString& words) {
     showPictureOrWords(Picture1, picture, words);
 }
 
@@ -51,10 +51,9 @@ void frmRychlyRecept::paint(QPainter& painter) {
     painter.drawRect(QRect({20, 20}, twips().size() - QSize(40, 40)));
 }
 
-void showPictureOrWords(PictureBox& box, const Picture& picture, const QString& words) {
+void showPictureOrWords(PictureBox& box, const QImage& picture, const QString& words) {
     box.Cls();
-    const QImage image = picture.image();
-    if (!image.isNull()) return box.setPicture(Picture::fromImage(image));
+    if (!picture.isNull()) return box.setPicture(Picture::fromImage(picture));
     box.setFont({QStringLiteral("Arial"), 14});
     box.setForeColor(colors::kTitle);
     box.setCurrentX((box.scaleWidth() - box.textWidth(words)) / 2);

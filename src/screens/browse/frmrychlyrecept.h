@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QImage>
+
 #include "forms/form.h"
 #include "forms/picturebox.h"
 
@@ -15,8 +17,8 @@ class frmRychlyRecept : public Form {
 
     /// Shows the window at \a place (twips of the screen), above the list, without taking the keyboard.
     void Zobraz(const QRect& place);
-    /// The picture, and the words that stand in its place when it is missing or broken.
-    void setPicture(const Picture& picture, const QString& words);
+    /// The picture, and the words that stand in its place when it is a null image.
+    void setPicture(const QImage& picture, const QString& words);
 
   Q_SIGNALS:
     /// The window was touched: the list is to take the keyboard.
@@ -34,7 +36,7 @@ class frmRychlyRecept : public Form {
     PictureBox Picture1;
 };
 
-/// Shows \a picture in \a box, or \a words in its middle when it is missing or broken.
-void showPictureOrWords(PictureBox& box, const Picture& picture, const QString& words);
+/// Shows \a picture in \a box, or \a words in its middle when it is a null image.
+void showPictureOrWords(PictureBox& box, const QImage& picture, const QString& words);
 
 }  // namespace sarne

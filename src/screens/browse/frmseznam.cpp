@@ -7,6 +7,7 @@
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "screens/browse/frmseznam_layout.h"
+#include "screens/browse/photofile.h"
 
 namespace sarne {
 namespace {
@@ -159,13 +160,16 @@ void frmSeznam::startPanel() {
     picFoto.Cls();
     lblVino.hide();
     if (source_ == Source::Help)
-        showPictureOrWords(picFoto, app().resources().picture(QStringLiteral("Help")), {});
+        showPictureOrWords(picFoto, app().resources().picture(QStringLiteral("Help")).image(), {});
     if (source_ != Source::QuickRecipes) return;
     quickWindow_ = new frmRychlyRecept(app(), *this);
     connect(quickWindow_, &frmRychlyRecept::keyboardGivenBack, this, &frmSeznam::focusButton);
     quickWindow_->Zobraz(seznam::kPanel);
-    const QString first = entries_.empty() ? QString() : QString::number(entries_.front().target);
-    quickWindow_->setPicture(app().mediaPicture(QStringLiteral("foto\\Male\\r%1.bmp").arg(first)), {});
+    if (!entries_.empty()) quickWindow_->setPicture(smallPhoto(entries_.front()), {});
+}
+
+QImage frmSeznam::smallPhoto(const ListEntry& entry) const {
+    return readPhoto(app().mediaFile(QStringLiteral("foto\\Male\\r%1.bmp").arg(entry.target)));
 }
 
 void frmSeznam::refreshPanel() {
@@ -180,7 +184,7 @@ void frmSeznam::showPhoto() {
     lblVino.hide();
     imgBtn[0]->setLatched(true);
     imgBtn[1]->setLatched(false);
-    const Picture photo = app().mediaPicture(QStringLiteral("foto\\Male\\r%1.bmp").arg(entry->target));
+    const QImage photo = smallPhoto(*entry);
     showPictureOrWords(picFoto, photo, entry->Nazev);
     picFoto.setTip(entry->Nazev);
     if (!quickWindow_) return;

@@ -68,6 +68,7 @@ class frmSeznam : public Form {
     void drawPage();
     void selectionChanged();
     void refreshPanel();
+    QImage smallPhoto(const ListEntry& entry) const;
     void showPhoto();
     void showWine();
     const ListEntry* selectedEntry() const;

@@ -41,6 +41,8 @@ void frmSeznam::buildList() {
     imgJablko.setAttribute(Qt::WA_TransparentForMouseEvents);
     for (int arrow = 0; arrow < seznam::kArrows; ++arrow) connectArrow(arrow);
     connect(&Timer2, &Timer::tick, this, [this] {
+        // A screen that has come over the list gets the mouse: nobody will say that the arrow is let go.
+        if (app().FormStack.top() != this) return Timer2.setEnabled(false);
         heldArrow_ = true;
         Timer2.setInterval(kHoldInterval);
         scroll(static_cast<int>(leadingNumber(Timer2.tag())));
@@ -131,7 +133,6 @@ void frmSeznam::buildBar() {
                 {QStringLiteral("Hudba"), QStringLiteral("♪"), QStringLiteral("Hudba a zvuky")}};
     for (int index = 0; index < seznam::kBarButtons; ++index) {
         auto* button = new PictureButton(*this, QStringLiteral("imgBtnHlavni(%1)").arg(index));
-        button->place(seznam::barButton(index));
         button->dress(app(), kBar[index].face, kBar[index].word);
         button->setTip(kBar[index].tip);
         connect(button, &Control::clicked, this, [this, index, button] {
@@ -163,6 +164,10 @@ void frmSeznam::showButtonsOfSource() {
                                               : QStringLiteral("Otevře recept"));
     imgBtn[0]->setLatched(panelMode_ == Panel::Photo);
     imgBtnHlavni[0]->setVisible(source_ != Source::Help);
+    for (int index = 0, place = 0; index < seznam::kBarButtons; ++index) {
+        PictureButton& button = *imgBtnHlavni[size_t(index)];
+        if (!button.isHidden()) button.place(seznam::barButton(place++));
+    }
 }
 
 // --- painting

@@ -45,8 +45,8 @@ constexpr QRect action(int place) {
 constexpr QRect actionWord(int place) {
     return {7950 + place * 1260 - 60, 5520, 1250, 360};
 }
-constexpr QRect barButton(int index) {
-    return {7910 + index * 750, 7830, 730, 730};
+constexpr QRect barButton(int place) {
+    return {7910 + place * 750, 7830, 730, 730};
 }
 
 }  // namespace sarne::seznam

@@ -11,7 +11,7 @@
 namespace sarne {
 namespace {
 
-constexpr int kCellFrame = 55;  // thickness of the frame of the chosen cell, twips
+constexpr int kCellFrame = 48;  // thickness of the frame of the chosen cell, twips
 
 }  // namespace
 

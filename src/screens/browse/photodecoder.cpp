@@ -1,18 +1,10 @@
 #include "screens/browse/photodecoder.h"
 
-#include <QImageReader>
 #include <algorithm>
 
-namespace sarne {
+#include "screens/browse/photofile.h"
 
-QImage readPhoto(const QString& file, QSize room) {
-    QImage photo = file.isEmpty() ? QImage() : QImageReader(file).read();
-    if (photo.isNull() || room.isEmpty()) return {};
-    const QSize fitted = photo.size().scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
-    if (fitted != photo.size()) photo = photo.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    // The format of the screen, so that drawing is copying.
-    return std::move(photo).convertToFormat(QImage::Format_RGB32);
-}
+namespace sarne {
 
 PhotoDecoder::PhotoDecoder() : worker_([this](const std::stop_token& stop) { work(stop); }) {}
 

@@ -12,10 +12,6 @@
 
 namespace sarne {
 
-/// The photo in the file at the native path \a file, scaled smoothly and undistorted to fit into \a room
-/// pixels; a null image when the file is missing or broken.
-QImage readPhoto(const QString& file, QSize room);
-
 /// Photos ready to be shown: it decodes those that may be asked for next on a thread of its own. All its
 /// functions are for one thread, the user interface's.
 class PhotoDecoder {

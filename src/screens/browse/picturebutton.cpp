@@ -65,11 +65,12 @@ void PictureButton::leaveEvent(QEvent* event) {
 }
 
 void PictureButton::paint(QPainter& painter) {
+    const QRect whole({0, 0}, twips().size());
     painter.save();
     if (!isEnabled()) painter.setOpacity(.45);
-    QRect inside = QRect({0, 0}, twips().size()).adjusted(kInset, kInset, -kInset, -kInset);
+    QRect inside = whole.adjusted(kInset, kInset, -kInset, -kInset);
     if (isDown() || latched_) inside.translate(kShift, kShift);
-    QRect face = inside, word({0, 0}, twips().size());
+    QRect face = inside, word = whole;
     const bool beside = shown_ == Word::Beside && !face_.isNull();
     if (beside) {
         face.setWidth(std::min(inside.height() * 4 / 3, inside.width() / 2));
@@ -77,6 +78,9 @@ void PictureButton::paint(QPainter& painter) {
     }
     face_.draw(painter, face, Fit::Inside);
     if (beside || face_.isNull()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(colors::kCopper, 15));
+        painter.drawRoundedRect(whole.adjusted(45, 45, -45, -45), kRounding, kRounding);
         painter.setFont(TextFont{QStringLiteral("Arial"), kWordPoints}.toQFont());
         painter.setPen(colors::kTitle);
         painter.drawText(word, Qt::AlignCenter | Qt::TextWordWrap, word_);

@@ -42,10 +42,10 @@ std::vector<int> readingOrder(const ButtonTable& table) {
 
 /// How far \a there lies from \a here in \a direction, sideways steps counting double; negative when it lies
 /// elsewhere.
-int reach(QPoint here, QPoint there, Direction direction) {
+int reach(QPoint here, QPoint there, ArrowKey direction) {
     QPoint way = there - here;
-    if (direction == Direction::Left || direction == Direction::Up) way = -way;
-    const bool across = direction == Direction::Left || direction == Direction::Right;
+    if (direction == ArrowKey::Left || direction == ArrowKey::Up) way = -way;
+    const bool across = direction == ArrowKey::Left || direction == ArrowKey::Right;
     const int along = across ? way.x() : way.y(), aside = std::abs(across ? way.y() : way.x());
     return along > 0 && aside <= 2 * along ? along + 2 * aside : -1;
 }
@@ -67,7 +67,7 @@ ButtonTable buttonTable(const QString& text) {
     return table;
 }
 
-int nearestButton(const ButtonTable& table, int from, Direction direction) {
+int nearestButton(const ButtonTable& table, int from, ArrowKey direction) {
     if (from < 0 || from >= kButtonCount) return firstButton(table);
     const QPoint here = table[size_t(from)].hotArea.center();
     int best = from, bestReach = std::numeric_limits<int>::max();

@@ -26,10 +26,10 @@ using ButtonTable = std::array<ButtonPlace, kButtonCount>;
 /// no place.
 ButtonTable buttonTable(const QString& text);
 
-enum class Direction { Left, Right, Up, Down };
+enum class ArrowKey { Left, Right, Up, Down };
 
 /// The button nearest to \a from in \a direction; \a from itself when there is none further that way.
-int nearestButton(const ButtonTable& table, int from, Direction direction);
+int nearestButton(const ButtonTable& table, int from, ArrowKey direction);
 /// The button \a step places after \a from in reading order, going round at the ends; the first one, or for a
 /// step back the last one, when \a from is no button.
 int buttonInReadingOrder(const ButtonTable& table, int from, int step);

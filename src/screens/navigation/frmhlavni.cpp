@@ -205,16 +205,16 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
     if (leaves && (event.modifiers() & Qt::AltModifier)) return true;
     switch (event.key()) {
         case Qt::Key_Left:
-            moveTo(nearestButton(table_, current_, Direction::Left));
+            moveTo(nearestButton(table_, current_, ArrowKey::Left));
             return true;
         case Qt::Key_Right:
-            moveTo(nearestButton(table_, current_, Direction::Right));
+            moveTo(nearestButton(table_, current_, ArrowKey::Right));
             return true;
         case Qt::Key_Up:
-            moveTo(nearestButton(table_, current_, Direction::Up));
+            moveTo(nearestButton(table_, current_, ArrowKey::Up));
             return true;
         case Qt::Key_Down:
-            moveTo(nearestButton(table_, current_, Direction::Down));
+            moveTo(nearestButton(table_, current_, ArrowKey::Down));
             return true;
         case Qt::Key_Tab:
             moveTo(buttonInReadingOrder(table_, current_, 1));

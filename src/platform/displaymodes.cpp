@@ -1,0 +1,146 @@
+#include "platform/displaymodes.h"
+
+#include <poll.h>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace sarne {
+
+namespace {
+
+constexpr int answerTimeoutMs = 5000;  // monitors take seconds to change their mode
+
+QByteArray request(const char* word, QSize size) {
+    return QByteArray(word) + ' ' + QByteArray::number(size.width()) + ' ' +
+           QByteArray::number(size.height());
+}
+
+}  // namespace
+
+/// The helper process, started with the first request. It ends, restoring the mode, when the socket to it
+/// closes.
+class SystemDisplayModes::Helper {
+  public:
+    explicit Helper(QString program) : program_(std::move(program)) {}
+    ~Helper();
+    Helper(const Helper&) = delete;
+    Helper& operator=(const Helper&) = delete;
+
+    /// The helper's answer to one line; empty when there is none.
+    QByteArray ask(const QByteArray& line);
+
+  private:
+    bool start();
+    QByteArray readLine();
+
+    QString program_;
+    int socket_ = -1;
+    pid_t process_ = -1;
+    bool tried_ = false;
+    bool deaf_ = false;  // a late answer would be taken for the next one
+};
+
+SystemDisplayModes::Helper::~Helper() {
+    if (socket_ >= 0) close(socket_);
+    if (process_ > 0) waitpid(process_, nullptr, 0);
+}
+
+bool SystemDisplayModes::Helper::start() {
+    if (tried_) return socket_ >= 0;
+    tried_ = true;
+    int ends[2];
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return false;
+    const QByteArray path = QFile::encodeName(program_);
+    char* arguments[] = {const_cast<char*>(path.constData()), nullptr};
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, ends[1], STDIN_FILENO);
+    const bool started = posix_spawn(&process_, path.constData(), &actions, nullptr, arguments, environ) == 0;
+    posix_spawn_file_actions_destroy(&actions);
+    close(ends[1]);
+    socket_ = ends[0];
+    if (started) return true;
+    process_ = -1;
+    close(socket_);
+    socket_ = -1;
+    return false;
+}
+
+QByteArray SystemDisplayModes::Helper::ask(const QByteArray& line) {
+    if (deaf_ || !start()) return {};
+    const QByteArray message = line + '\n';
+    if (send(socket_, message.constData(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) < 0)
+        return {};
+    const QByteArray answer = readLine();
+    deaf_ = answer.isEmpty();
+    return answer;
+}
+
+QByteArray SystemDisplayModes::Helper::readLine() {
+    QByteArray line;
+    QElapsedTimer time;
+    time.start();
+    while (time.elapsed() < answerTimeoutMs) {
+        pollfd waiting{socket_, POLLIN, 0};
+        char letter = 0;
+        if (poll(&waiting, 1, static_cast<int>(answerTimeoutMs - time.elapsed())) <= 0) continue;
+        if (recv(socket_, &letter, 1, 0) != 1) return {};
+        if (letter == '\n') return line;
+        line += letter;
+    }
+    return {};
+}
+
+SystemDisplayModes::SystemDisplayModes(const QString& helper, const QString& platform) {
+    const QString system = platform.isEmpty() ? QGuiApplication::platformName() : platform;
+    // Under Wayland the X display is an imitation, whose modes mean nothing.
+    if (system != u"xcb" || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) return;
+    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/sarne-obnov");
+    helper_ = std::make_unique<Helper>(helper.isEmpty() ? beside : helper);
+}
+
+SystemDisplayModes::~SystemDisplayModes() {
+    restore();
+}
+
+QSize SystemDisplayModes::current() const {
+    if (helper_) {
+        const QList<QByteArray> numbers = helper_->ask("size").split(' ');
+        const QSize size(numbers.value(0).toInt(), numbers.value(1).toInt());
+        if (!size.isEmpty()) return size;
+    }
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? (QSizeF(screen->size()) * screen->devicePixelRatio()).toSize() : QSize();
+}
+
+bool SystemDisplayModes::canSwitch(QSize size) const {
+    return helper_ && helper_->ask(request("can", size)) == "yes";
+}
+
+bool SystemDisplayModes::setMode(QSize size) {
+    const bool done = helper_ && helper_->ask(request("set", size)) == "yes";
+    changed_ = changed_ || done;
+    return done;
+}
+
+void SystemDisplayModes::restore() {
+    if (changed_) helper_->ask("restore");
+    changed_ = false;
+}
+
+QSize SystemDisplayModes::twipsPerPixel() const {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen) return {15, 15};
+    return {qRound(1440.0 / screen->logicalDotsPerInchX()), qRound(1440.0 / screen->logicalDotsPerInchY())};
+}
+
+}  // namespace sarne

@@ -1,0 +1,104 @@
+#include "print/pagecomposer.h"
+
+#include "db/database.h"
+#include "print/pagebreaker.h"
+#include "print/printfonts.h"
+#include "print/recipeflow.h"
+#include "print/recipesections.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kLogoHeight = 720;
+constexpr int kTextGap = 160;
+
+const QString kHeaderText = QStringLiteral("CD Tobrela - ");
+const QString kPrintTitle = QStringLiteral("Velisa sarn");
+
+QRect placeLogo(const Picture& logo, const PageGeometry& page) {
+    const QSizeF size = logo.isNull() ? QSizeF(0, kLogoHeight)
+                                      : QSizeF(logo.size()).scaled(1e6, kLogoHeight, Qt::KeepAspectRatio);
+    return QRect(QPoint(page.left, page.top), size.toSize());
+}
+
+void addTo(PrintedPage& page, const FlowLine& line, int top) {
+    for (PageText text : line.texts) {
+        text.baseline += top;
+        page.texts.push_back(std::move(text));
+    }
+    for (PagePicture picture : line.pictures) {
+        picture.place.translate(0, top);
+        page.pictures.push_back(std::move(picture));
+    }
+}
+
+}  // namespace
+
+PageComposer::PageComposer(PrintSource source, const PageScale& scale, TextMetrics& metrics)
+    : source_(std::move(source)), page_(PageGeometry::of(scale)), metrics_(metrics) {
+    logoPlace_ = placeLogo(source_.logo, page_);
+    const int headerHeight = metrics_.textHeight(printfonts::header());
+    const int below = page_.top + logoPlace_.height() / 2 + (headerHeight + 1) / 2;
+    bodyTop_ = std::max(below + metrics_.textHeight(printfonts::body()), page_.top + logoPlace_.height());
+}
+
+ComposedRecipe PageComposer::recipe(int id, const PrintOptions& options, PrintProgress& progress) {
+    Recordset recipes = source_.db.OpenTable(QStringLiteral("Recepty"));
+    recipes.setIndex(QStringLiteral("PrimaryKey"));
+    if (!RecordExists(recipes, id)) return {};
+    ComposedRecipe composed;
+    composed.name = recipes.field(QStringLiteral("Nazev")).toString();
+    progress.recipeStarted(composed.name);
+    progress.status(QStringLiteral(" Tisknu recept ... "));
+    RecipeFlow flow(page_, metrics_, progress);
+    RecipeSections(recipes, flow, {source_, options, progress, page_.bottom - bodyTop_}).set();
+    if (flow.wentOn()) composed.pages = paginate(flow.take());
+    return composed;
+}
+
+std::vector<PrintedPage> PageComposer::text(const QString& title, const QString& richText,
+                                            PrintProgress& progress) {
+    progress.recipeStarted(title);
+    RecipeFlow flow(page_, metrics_, progress);
+    flow.addText(title, printfonts::name(), FlowLine::Kind::Heading);
+    flow.addSpace(kTextGap);
+    flow.addRichText(richText);
+    return flow.wentOn() ? paginate(flow.take()) : std::vector<PrintedPage>();
+}
+
+std::vector<PrintedPage> PageComposer::paginate(const std::vector<FlowLine>& lines) {
+    std::vector<PrintedPage> pages;
+    for (const PageRange& range : breakPages(lines, page_.bottom - bodyTop_)) {
+        PrintedPage page = startPage(!pages.empty());
+        int top = bodyTop_;
+        for (size_t line = range.first; line < range.end; ++line) {
+            addTo(page, lines[line], top);
+            top += lines[line].height;
+        }
+        pages.push_back(std::move(page));
+    }
+    if (pages.empty()) pages.push_back(startPage(false));
+    return pages;
+}
+
+/// The header: the logo, the title at the right margin, and on a continuation its number in the middle.
+PrintedPage PageComposer::startPage(bool continues) {
+    PrintedPage page;
+    page.number = pageNumber_++;
+    if (!source_.logo.isNull()) page.pictures.push_back({logoPlace_, source_.logo});
+    const TextFont font = printfonts::header();
+    const int top = logoPlace_.top() + logoPlace_.height() / 2 - metrics_.textHeight(font) / 2;
+    const int baseline = top + metrics_.textAscent(font);
+    if (continues) {
+        const QString number = QStringLiteral("strana %1").arg(page.number);
+        const int width = metrics_.textWidth(font, number);
+        page.texts.push_back(
+            {page_.leftMargin + (page_.lineWidth - width) / 2, baseline, width, number, font});
+    }
+    const QString header = kHeaderText + kPrintTitle;
+    const int width = metrics_.textWidth(font, header);
+    page.texts.push_back({page_.rightMargin() - width, baseline, width, header, font});
+    return page;
+}
+
+}  // namespace sarne

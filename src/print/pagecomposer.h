@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QLocale>
+#include <functional>
+
+#include "print/pagegeometry.h"
+#include "print/printedpage.h"
+#include "print/printoptions.h"
+#include "print/printprogress.h"
+#include "richtext/textmetrics.h"
+
+namespace sarne {
+
+class Database;
+
+/// Where the composer takes its material from.
+struct PrintSource {
+    Database& db;
+    /// A picture by its path below the media root.
+    std::function<Picture(const QString&)> media;
+    QLocale locale;
+    Picture logo;
+};
+
+/// A recipe as the pages it takes. No pages: there is no such recipe, or printing was stopped.
+struct ComposedRecipe {
+    QString name;
+    std::vector<PrintedPage> pages;
+};
+
+/// Turns recipes into pages for one printer's scale. Pages are numbered on from recipe to recipe. The metrics
+/// must outlive it.
+class PageComposer {
+  public:
+    PageComposer(PrintSource source, const PageScale& scale, TextMetrics& metrics);
+
+    ComposedRecipe recipe(int id, const PrintOptions& options, PrintProgress& progress);
+    /// A rich text below a title, on pages like those of a recipe.
+    std::vector<PrintedPage> text(const QString& title, const QString& richText, PrintProgress& progress);
+
+    const PageGeometry& geometry() const { return page_; }
+    /// Where a page's texts begin, below its header.
+    int bodyTop() const { return bodyTop_; }
+    QRect logoPlace() const { return logoPlace_; }
+
+  private:
+    std::vector<PrintedPage> paginate(const std::vector<FlowLine>& lines);
+    PrintedPage startPage(bool continues);
+
+    PrintSource source_;
+    PageGeometry page_;
+    TextMetrics& metrics_;
+    QRect logoPlace_;
+    int bodyTop_ = 0;
+    int pageNumber_ = 1;
+};
+
+}  // namespace sarne

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/printer.h"
+
+namespace sarne {
+
+/// Where things lie on a page, in twips of the printer's scale: a column of four fifths of the page's width,
+/// in the middle.
+struct PageGeometry {
+    int left = 0;    ///< of the printer's scale
+    int top = 0;     ///< of the printer's scale
+    int bottom = 0;  ///< nothing lies below it
+    int textWidth = 0;
+    int leftMargin = 0;
+    int lineWidth = 0;
+
+    int rightMargin() const { return leftMargin + lineWidth; }
+
+    static PageGeometry of(const PageScale& scale) {
+        PageGeometry page;
+        page.left = scale.left;
+        page.top = scale.top;
+        page.bottom = scale.top + scale.height;
+        page.textWidth = scale.width * 4 / 5;
+        page.leftMargin = scale.left + (scale.width - page.textWidth) / 2;
+        page.lineWidth = scale.width - 2 * page.leftMargin;
+        return page;
+    }
+};
+
+}  // namespace sarne

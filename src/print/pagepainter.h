@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QPainter>
+
+#include "print/printedpage.h"
+#include "print/printprogress.h"
+
+namespace sarne {
+
+/// Paints \a page, asking between lines whether to go on; false when it was stopped. \a painter maps one unit
+/// to one twip, its origin is that of the printer's scale; its font and pen change.
+bool paintPage(QPainter& painter, const PrintedPage& page, PrintProgress& progress);
+
+}  // namespace sarne

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/printer.h"
+#include "print/pagecomposer.h"
+
+namespace sarne {
+
+/// How a printing ended.
+struct PrintOutcome {
+    enum class Kind {
+        Printed,
+        Stopped,  ///< by the user; the document was ended properly
+        Failed,   ///< the printer or the disk did not take it all
+        Nothing,  ///< there was nothing to print
+    };
+    Kind kind = Kind::Nothing;
+    int pages = 0;
+    QString file;  ///< where the pages are, when they went to a file
+};
+
+/// Prints recipes as one document. The printer, the composer and the progress must outlive it.
+class PrintJob {
+  public:
+    PrintJob(Printer& printer, PageComposer& composer, PrintProgress& progress)
+        : printer_(printer), composer_(composer), progress_(progress) {}
+
+    PrintOutcome print(const std::vector<std::int16_t>& recipes, const PrintOptions& options);
+    PrintOutcome printText(const QString& title, const QString& richText);
+
+  private:
+    /// False when the document must end.
+    bool put(const std::vector<PrintedPage>& pages, const QString& documentName);
+    bool put(const PrintedPage& page, const QString& documentName);
+    PrintOutcome end();
+
+    Printer& printer_;
+    PageComposer& composer_;
+    PrintProgress& progress_;
+    QPainter* painter_ = nullptr;
+    int pages_ = 0;
+    bool stopped_ = false;
+    bool failed_ = false;
+};
+
+}  // namespace sarne

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "forms/picture.h"
+
+namespace sarne {
+
+class Resources;
+
+/// The picture at the head of every printed page: "LogoTisk" of the program's pictures, or a drawn fish.
+Picture printLogo(const Resources& resources);
+
+}  // namespace sarne

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+namespace sarne {
+
+/// What printing tells while it goes on, so that it can be shown, and where it asks whether to go on.
+class PrintProgress {
+  public:
+    virtual ~PrintProgress() = default;
+
+    virtual void recipeStarted(const QString& name) = 0;
+    /// What is being printed now (" Tisknu recept ... ").
+    virtual void status(const QString& text) = 0;
+    virtual void sectionDone() = 0;
+    virtual void recipeDone() = 0;
+    /// Called between lines, often: the place to let pending events run. False stops the printing.
+    virtual bool goOn() = 0;
+};
+
+/// Tells nobody and never stops.
+class SilentProgress final : public PrintProgress {
+  public:
+    void recipeStarted(const QString&) override {}
+    void status(const QString&) override {}
+    void sectionDone() override {}
+    void recipeDone() override {}
+    bool goOn() override { return true; }
+};
+
+}  // namespace sarne

@@ -1,0 +1,194 @@
+#include "print/recipeflow.h"
+
+#include <algorithm>
+
+#include "print/printfonts.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kPictureShare = 2;  // of five parts of the line
+constexpr int kPictureGap = 240;  // to the text beside and below it
+constexpr int kNarrowestText = 1200;
+constexpr int kAskingWords = 32;  // words measured between two questions whether to go on
+
+/// Measures as another does, and asks now and then whether to go on: measuring is what takes the time.
+class AskingMetrics final : public TextMetrics {
+  public:
+    AskingMetrics(TextMetrics& metrics, PrintProgress& progress, StopFlag& stop)
+        : metrics_(metrics), progress_(progress), stop_(stop) {}
+
+    int textWidth(const TextFont& font, QStringView text) override {
+        if (++words_ % kAskingWords == 0 && !stop_) stop_ = !progress_.goOn();
+        return metrics_.textWidth(font, text);
+    }
+    int textHeight(const TextFont& font) override { return metrics_.textHeight(font); }
+    int textAscent(const TextFont& font) override { return metrics_.textAscent(font); }
+
+  private:
+    TextMetrics& metrics_;
+    PrintProgress& progress_;
+    StopFlag& stop_;
+    int words_ = 0;
+};
+
+}  // namespace
+
+void RecipeFlow::ask() {
+    if (!stop_) stop_ = !progress_.goOn();
+}
+
+void RecipeFlow::append(FlowLine line) {
+    height_ += line.height;
+    lines_.push_back(std::move(line));
+    ask();
+}
+
+void RecipeFlow::addSpace(int twips) {
+    FlowLine line;
+    line.kind = FlowLine::Kind::Space;
+    line.height = twips;
+    append(std::move(line));
+}
+
+void RecipeFlow::addHeading(const QString& text) {
+    endPicture();
+    addText(text, printfonts::heading(), FlowLine::Kind::Heading);
+}
+
+void RecipeFlow::addText(const QString& text, const TextFont& font, FlowLine::Kind kind) {
+    addWrapped(text, font, kind, true);
+}
+
+void RecipeFlow::addContinuation(const QString& text, const TextFont& font) {
+    if (!lines_.empty()) lines_.back().endsParagraph = false;
+    addWrapped(text, font, FlowLine::Kind::Text, false);
+}
+
+int RecipeFlow::currentWidth() const {
+    return besidePicture() ? page_.lineWidth - pictureWidth_ : page_.lineWidth;
+}
+
+void RecipeFlow::addWrapped(const QString& text, const TextFont& font, FlowLine::Kind kind, bool starts) {
+    const int height = metrics_.textHeight(font), ascent = metrics_.textAscent(font);
+    QStringView rest(text);
+    while (!rest.isEmpty() && !stop_) {
+        const qsizetype length = breakAt(rest, font, currentWidth());
+        QStringView shown = rest.left(length);
+        rest = rest.mid(length);
+        if (!rest.isEmpty()) {
+            while (shown.endsWith(u' ')) shown.chop(1);
+            while (rest.startsWith(u' ')) rest = rest.mid(1);
+        }
+        FlowLine line;
+        line.kind = kind;
+        line.height = height;
+        line.startsParagraph = starts;
+        line.endsParagraph = rest.isEmpty();
+        line.texts.push_back(
+            {page_.leftMargin, ascent, metrics_.textWidth(font, shown), shown.toString(), font});
+        append(std::move(line));
+        starts = false;
+    }
+}
+
+/// How many characters of \a text fit into \a width; at least one.
+qsizetype RecipeFlow::fitting(QStringView text, const TextFont& font, int width) {
+    qsizetype fits = 1, tooMany = text.size() + 1;
+    // Most lines are short of the end of the text by far: look near first.
+    for (qsizetype step = 64; fits + step < tooMany; step *= 2) {
+        if (metrics_.textWidth(font, text.left(fits + step)) > width)
+            tooMany = fits + step;
+        else
+            fits += step;
+    }
+    while (tooMany - fits > 1) {
+        const qsizetype middle = fits + (tooMany - fits) / 2;
+        (metrics_.textWidth(font, text.left(middle)) <= width ? fits : tooMany) = middle;
+    }
+    return fits;
+}
+
+/// How many characters go on a line that is \a width wide: up to a blank where there is one.
+qsizetype RecipeFlow::breakAt(QStringView text, const TextFont& font, int width) {
+    if (text.size() <= 512 && metrics_.textWidth(font, text) <= width) return text.size();
+    const qsizetype fits = fitting(text, font, width);
+    if (fits >= text.size()) return text.size();
+    if (text[fits] == u' ') return fits;
+    const qsizetype blank = text.left(fits).lastIndexOf(u' ');
+    const bool onlyIndent = blank < 0 || text.left(blank + 1).trimmed().isEmpty();
+    return onlyIndent ? fits : blank + 1;
+}
+
+void RecipeFlow::addRichText(const QString& text) {
+    if (text.trimmed().isEmpty()) return;
+    endPicture();
+    AskingMetrics metrics(metrics_, progress_, stop_);
+    const RtfLayout layout =
+        RtfLayout::of(text, {page_.leftMargin, page_.rightMargin(), 0}, metrics, LinkMarkers::Remove, &stop_);
+    for (const TextLine& line : layout.lines()) {
+        if (stop_) return;
+        addLaidOutLine(layout, line);
+    }
+}
+
+void RecipeFlow::addLaidOutLine(const RtfLayout& layout, const TextLine& line) {
+    if (line.boxCount == 0) return addSpace(line.height);
+    FlowLine placed;
+    placed.kind = line.isHeading ? FlowLine::Kind::Heading : FlowLine::Kind::Text;
+    placed.height = line.height;
+    placed.startsParagraph = line.startsParagraph;
+    placed.endsParagraph = line.endsParagraph;
+    placed.texts.reserve(static_cast<size_t>(line.boxCount));
+    for (qsizetype i = 0; i < line.boxCount; ++i) {
+        const WordBox& box = layout.boxes()[static_cast<size_t>(line.firstBox + i)];
+        if (box.x + box.width > page_.rightMargin()) {
+            addOverlongWord(layout, line, box);
+            continue;
+        }
+        placed.texts.push_back({box.x, box.baseline - line.top, box.width, layout.text(box).toString(),
+                                layout.fonts()[static_cast<size_t>(box.font)], box.color});
+    }
+    if (!placed.texts.empty()) append(std::move(placed));
+}
+
+void RecipeFlow::addOverlongWord(const RtfLayout& layout, const TextLine& line, const WordBox& box) {
+    const TextFont& font = layout.fonts()[static_cast<size_t>(box.font)];
+    QStringView rest = layout.text(box);
+    bool starts = line.startsParagraph;
+    while (!rest.isEmpty() && !stop_) {
+        const qsizetype length = std::min(rest.size(), fitting(rest, font, page_.lineWidth));
+        FlowLine piece;
+        piece.height = line.height;
+        piece.startsParagraph = starts;
+        piece.endsParagraph = line.endsParagraph && length == rest.size();
+        piece.texts.push_back({page_.leftMargin, line.baseline - line.top,
+                               metrics_.textWidth(font, rest.left(length)), rest.left(length).toString(),
+                               font, box.color});
+        append(std::move(piece));
+        rest = rest.mid(length);
+        starts = false;
+    }
+}
+
+void RecipeFlow::addPicture(const Picture& picture, int room) {
+    if (picture.isNull() || room <= 0) return;
+    const int width = page_.lineWidth * kPictureShare / 5;
+    if (width <= 0) return;
+    const QSizeF size =
+        QSizeF(picture.size()).scaled(QSizeF(width, std::min(width, room)), Qt::KeepAspectRatio);
+    FlowLine line;
+    const QSize placed = size.toSize();
+    line.pictures.push_back({QRect({page_.rightMargin() - placed.width(), 0}, placed), picture});
+    append(std::move(line));
+    pictureBottom_ = height_ + placed.height();
+    pictureWidth_ = placed.width() + kPictureGap;
+    if (page_.lineWidth - pictureWidth_ < kNarrowestText) endPicture();
+}
+
+void RecipeFlow::endPicture() {
+    if (pictureBottom_ > height_) addSpace(pictureBottom_ - height_ + kPictureGap);
+    pictureBottom_ = 0;
+}
+
+}  // namespace sarne

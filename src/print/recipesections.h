@@ -1,0 +1,44 @@
+#pragma once
+
+#include "db/recordset.h"
+#include "print/pagecomposer.h"
+#include "print/recipeflow.h"
+
+namespace sarne {
+
+/// Sets one recipe: its name and the sections that are wanted, in their order. \a recipe's current row is the
+/// recipe. Everything must outlive it.
+class RecipeSections {
+  public:
+    struct Context {
+        const PrintSource& source;
+        const PrintOptions& options;
+        PrintProgress& progress;
+        int pageRoom;  ///< the height of a page's texts
+    };
+
+    RecipeSections(const Recordset& recipe, RecipeFlow& flow, const Context& context)
+        : recipe_(recipe), flow_(flow), context_(context) {}
+
+    void set();
+
+  private:
+    void setName();
+    void setSection(PrintSection section);
+    void photo();
+    void ingredients();
+    void ownNote();
+    void tools();
+    void links();
+    void richField(const QString& field, const QString& status);
+    void status(const QString& text) { context_.progress.status(text); }
+    void gap();
+    QString field(const QString& name) const { return recipe_.field(name).toString(); }
+    int id() const { return recipe_.field(QStringLiteral("ID")).toInt(); }
+
+    const Recordset& recipe_;
+    RecipeFlow& flow_;
+    Context context_;
+};
+
+}  // namespace sarne

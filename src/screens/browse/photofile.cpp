@@ -1,0 +1,40 @@
+#include "screens/browse/photofile.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <QtEndian>
+
+namespace sarne {
+namespace {
+
+/// Whether \a file is an uncompressed bitmap that ends before its last row: the decoder would fill the rest
+/// with black.
+bool isCutShort(QFile& file) {
+    constexpr qint64 kHeader = 54;
+    const QByteArray header = file.peek(kHeader);
+    if (header.size() < kHeader || !header.startsWith("BM")) return false;
+    const auto number = [&](int at) { return qFromLittleEndian<qint32>(header.constData() + at); };
+    const qint64 offset = number(10), width = number(18), height = number(22);
+    const int bits = qFromLittleEndian<quint16>(header.constData() + 28), compression = number(30);
+    if (compression != 0 || width <= 0) return false;
+    const qint64 row = (width * bits + 31) / 32 * 4;
+    return file.size() < offset + row * qAbs(height);
+}
+
+}  // namespace
+
+QImage readPhoto(const QString& name) {
+    QFile file(name);
+    if (name.isEmpty() || !file.open(QIODevice::ReadOnly) || isCutShort(file)) return {};
+    return QImageReader(&file).read();
+}
+
+QImage readPhoto(const QString& file, QSize room) {
+    QImage photo = readPhoto(file);
+    if (photo.isNull() || room.isEmpty()) return {};
+    const QSize fitted = photo.size().scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
+    if (fitted != photo.size()) photo = photo.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return std::move(photo).convertToFormat(QImage::Format_RGB32);
+}
+
+}  // namespace sarne

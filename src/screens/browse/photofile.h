@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+namespace sarne {
+
+/// The photo in the file at the native path \a file; a null image when the file is missing, broken or cut
+/// short.
+QImage readPhoto(const QString& file);
+
+/// The same, scaled smoothly and undistorted to fit into \a room pixels, in the format of the screen.
+QImage readPhoto(const QString& file, QSize room);
+
+}  // namespace sarne

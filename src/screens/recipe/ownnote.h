@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+
+#include "db/recordset.h"
+
+namespace sarne {
+
+/// The user's own note to a recipe, between the record that keeps it and the editor that shows it. Plain
+/// text. Knows no widget; the editor's content is handed in.
+class OwnNote {
+  public:
+    /// How the note is closed, by the index of the button that does it.
+    enum class Close { Save = 0, Discard = 1 };
+
+    /// The note of the current row of \a recipe, which must outlive it.
+    explicit OwnNote(Recordset& recipe) : recipe_(recipe) {}
+
+    bool isOpen() const { return open_; }
+    /// "1" when the note was changed since it was opened or stored, else "".
+    const QString& tag() const { return tag_; }
+    bool isDirty() const { return !tag_.isEmpty(); }
+
+    /// The note as it is stored; empty when there is none.
+    QString stored() const;
+    /// Opens the note and returns what the editor is to show.
+    QString open();
+    /// The user has typed.
+    void changed();
+    /// Stores a changed \a content and goes on editing. What could not be stored counts as changed still.
+    void save(const QString& content);
+    /// Stores a changed \a content for the print, a blank behind it, and goes on editing.
+    void saveForPrint(const QString& content);
+    /// Closes the note, storing a changed \a content if so wanted.
+    void close(Close how, const QString& content);
+
+  private:
+    bool store(const QString& content);
+
+    Recordset& recipe_;
+    QString tag_;
+    bool open_ = false;
+};
+
+}  // namespace sarne

@@ -1,0 +1,47 @@
+#include "screens/recipe/portions.h"
+
+#include "core/value.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kStep = 2;  // from one picture's number to the next
+constexpr int kMostPortions = 255;
+
+}  // namespace
+
+Portions::Portions(int base) : base_(base > 0 && base <= kMostPortions ? base : 0) {
+    const bool hasPicture = base_ == 2 || base_ == 4 || base_ == 6 || base_ == 8;
+    choice_ = hasPicture ? base_ : kAnyNumber;
+    if (!hasPicture) setCustom(base_);
+}
+
+void Portions::setCustom(double number) {
+    custom_ = QString::number(number, 'g', QLocale::FloatingPointShortest);
+}
+
+double Portions::number() const {
+    return choice_ == kAnyNumber ? leadingNumber(custom_) : choice_;
+}
+
+QString portionWord(double number) {
+    constexpr int kMany = 5;
+    return number > 0 && number < kMany ? QStringLiteral("porce") : QStringLiteral("porcí");
+}
+
+int PanelPosition::step(int direction) {
+    value_ += direction * kStep;
+    if (value_ > kToggle) value_ = kStep;
+    if (value_ < kStep) value_ = kToggle;
+    return value_;
+}
+
+QString PanelPosition::hint(int position, UnitSystem units) {
+    if (position == kToggle)
+        return units == UnitSystem::Weights ? QStringLiteral("Přepočti na lžíce")
+                                            : QStringLiteral("Přepočti na gramy");
+    if (position == Portions::kAnyNumber) return QStringLiteral("Přepočet na libovolný počet porcí");
+    return QString::number(position) + u' ' + portionWord(position);
+}
+
+}  // namespace sarne

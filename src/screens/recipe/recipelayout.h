@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QRect>
+
+/// Where everything stands on the recipe screen, in twips.
+namespace sarne::recipelayout {
+
+inline constexpr QRect kHeader{0, 0, 12000, 1230};
+inline constexpr QRect kTitle{420, 75, 11160, 1080};
+inline constexpr QRect kSections{120, 1350, 2340, 7500};  ///< the ground of the section buttons
+inline constexpr QRect kPaper{2580, 1350, 9300, 6630};    ///< the ground of the section that is shown
+
+inline constexpr int kSectionCount = 8;
+inline constexpr int kBarCount = 5;
+constexpr QRect section(int index) {
+    return {210, 1410 + index * 930, 840, 840};
+}
+constexpr QRect sectionName(int index) {
+    return {1140, 1410 + index * 930, 1260, 840};
+}
+constexpr QRect barButton(int index) {
+    return {7530 + index * 880, 8100, 790, 750};
+}
+
+inline constexpr QRect kView{2880, 1590, 8400, 6150};      ///< the drawing surface
+inline constexpr QRect kListView{2880, 2520, 8400, 5220};  ///< below the cutlery
+constexpr QRect cutlery(int position) {
+    return {2880 + position * 870, 1530, 780, 780};
+}
+inline constexpr QRect kUnitToggle{7440, 1530, 780, 780};
+inline constexpr QRect kUnitSymbol{8310, 1530, 780, 780};
+inline constexpr QRect kPortionText{9240, 1530, 2460, 780};
+
+inline constexpr int kOptionColumns = 2;
+inline constexpr int kOptionRows = 4;  ///< rows of link options that show at once
+inline constexpr int kOptionHeight = 450;
+constexpr QRect option(int row, int column) {
+    return {2880 + column * 4200, 1530 + row * kOptionHeight, 4140, kOptionHeight};
+}
+constexpr QRect optionArrow(int index) {
+    return {11370, 1530 + index * 480, 420, 420};
+}
+/// The drawing surface below \a rows rows of options.
+constexpr QRect linkView(int rows) {
+    const int top = 1590 + rows * kOptionHeight + 120;
+    return {2880, top, 8400, 7740 - top};
+}
+
+inline constexpr QRect kNote{2880, 1590, 8700, 5430};
+constexpr QRect noteButton(int index) {
+    return {2880 + index * 3060, 7170, 2880, 570};
+}
+
+}  // namespace sarne::recipelayout

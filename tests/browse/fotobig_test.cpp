@@ -1,0 +1,300 @@
+#include "screens/browse/frmfotobig.h"
+
+#include "browse/browsefixture.h"
+#include "screens/browse/photofile.h"
+
+namespace sarne {
+namespace {
+
+using Ids = std::vector<std::int16_t>;
+
+TEST(PhotoZones, TheEdgesStepAndCornersGoSideways) {
+    const struct {
+        QPoint at;
+        Zone zone;
+    } cases[] = {{{400, 99}, Zone::Up},    {{400, 100}, Zone::None},  {{400, 500}, Zone::None},
+                 {{400, 501}, Zone::Down}, {{99, 300}, Zone::Left},   {{100, 300}, Zone::None},
+                 {{700, 300}, Zone::None}, {{701, 300}, Zone::Right}, {{0, 0}, Zone::Left},
+                 {{799, 0}, Zone::Right},  {{0, 599}, Zone::Left},    {{799, 599}, Zone::Right}};
+    for (const auto& [at, zone] : cases) EXPECT_EQ(zoneAt(at), zone) << at.x() << "," << at.y();
+}
+
+TEST(PhotoSteps, StopsAtTheEndsAndWrapsByItself) {
+    PhotoSteps steps;
+    steps.start({10, 11, 12, 13, 14}, 3);
+    EXPECT_TRUE(steps.step(zoneStep(Zone::Down)));
+    EXPECT_EQ(steps.currentId(), 14) << "a step of seven ends at the last photo";
+    EXPECT_FALSE(steps.step(zoneStep(Zone::Right)));
+    EXPECT_FALSE(steps.step(zoneStep(Zone::Down)));
+    steps.advance();
+    EXPECT_EQ(steps.currentId(), 10);
+    EXPECT_FALSE(steps.step(zoneStep(Zone::Left)));
+    EXPECT_FALSE(steps.step(zoneStep(Zone::Up)));
+    steps.start({10, 11}, 99);
+    EXPECT_EQ(steps.position(), 1);
+    steps.start({10, 11}, -1);
+    EXPECT_EQ(steps.position(), 0);
+}
+
+TEST(PhotoSteps, TheGuardCountsFromTheLastClickThatCounted) {
+    PhotoSteps steps;
+    steps.start({1, 2}, 0);
+    EXPECT_TRUE(steps.accept(0)) << "the first click of all";
+    EXPECT_FALSE(steps.accept(499));
+    EXPECT_TRUE(steps.accept(500));
+    EXPECT_FALSE(steps.accept(999));
+    EXPECT_TRUE(steps.accept(1000));
+}
+
+TEST(PhotoSteps, NeighboursAreWhereAStepCanLead) {
+    PhotoSteps steps;
+    Ids all;
+    for (std::int16_t id = 1; id <= 20; ++id) all.push_back(id);
+    steps.start(all, 9);
+    EXPECT_EQ(steps.neighbours(), (Ids{11, 9, 17, 3}));
+    steps.start(all, 19);
+    EXPECT_EQ(steps.neighbours(), (Ids{1, 19, 13})) << "the slide show goes round";
+    steps.start({5}, 0);
+    EXPECT_EQ(steps.neighbours(), Ids());
+}
+
+class FotoBigTest : public BrowseTest {
+  protected:
+    FotoBigTest() {
+        run.PushScreen(*below);
+        below->showForm();
+    }
+    frmFotoBig& open(Ids ids, int start = 0, bool slideShow = false) {
+        viewer = new frmFotoBig(run);
+        PhotoRequest request;
+        request.photoIds = std::move(ids);
+        request.startPosition = start;
+        request.slideShow = slideShow;
+        viewer->Zobraz(request);
+        return *viewer;
+    }
+    /// A click at a pixel of the 800 x 600 design, as a mouse makes it; half a second after the last one.
+    void clickAt(QPoint pixel, int milliseconds = 500) {
+        run.time.time += milliseconds;
+        QTest::mouseMove(viewer, pixel);
+        QTest::mouseClick(viewer, Qt::LeftButton, {}, pixel);
+    }
+    void press(Qt::Key pressed, int milliseconds = 500) {
+        run.time.time += milliseconds;
+        key(pressed);
+    }
+    QString title() const { return child<Label>(*viewer, "lblNazev")->text(); }
+    Timer& timer() const { return *viewer->findChild<Timer*>(); }
+    bool isClosed() const { return run.FormStack.top() == below; }
+
+    Form* below = new Form(run, QStringLiteral("frmSeznam"));
+    frmFotoBig* viewer = nullptr;
+};
+
+TEST_F(FotoBigTest, ClicksInTheZonesStepAndElsewhereClose) {
+    open({1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
+    EXPECT_EQ(title(), QStringLiteral("Recept 001"));
+    EXPECT_EQ(run.announced.back(), title());
+    clickAt({750, 300});
+    clickAt({400, 550});
+    EXPECT_EQ(viewer->position(), 8);
+    clickAt({400, 50});
+    clickAt({50, 300});
+    EXPECT_EQ(viewer->position(), 0);
+    EXPECT_EQ(run.beeps, 0);
+    clickAt({50, 300});
+    EXPECT_EQ(run.beeps, 1);
+    clickAt({400, 300});
+    EXPECT_TRUE(isClosed());
+}
+
+TEST_F(FotoBigTest, BeforeTheMouseMovesAClickIsTheNextPhoto) {
+    open({1, 2, 3});
+    QTest::mouseClick(viewer, Qt::LeftButton, {}, {400, 300});
+    EXPECT_EQ(viewer->position(), 1);
+}
+
+TEST_F(FotoBigTest, TwoClicksOrKeysWithinHalfASecondStepOnce) {
+    open({1, 2, 3, 4, 5});
+    clickAt({750, 300}, 0);
+    clickAt({750, 300}, 499);
+    EXPECT_EQ(viewer->position(), 1);
+    press(Qt::Key_Right, 0);
+    EXPECT_EQ(viewer->position(), 1);
+    press(Qt::Key_Right, 1);
+    press(Qt::Key_Right, 499);
+    EXPECT_EQ(viewer->position(), 2);
+    clickAt({400, 300}, 0);
+    EXPECT_FALSE(isClosed()) << "the guard holds for the click that closes, too";
+}
+
+TEST_F(FotoBigTest, TheDoubleClickThatOpenedItIsNoClickOnIt) {
+    open({1, 2, 3});
+    QTest::mouseDClick(viewer, Qt::LeftButton, {}, {400, 300});
+    EXPECT_EQ(viewer->position(), 0);
+    EXPECT_FALSE(isClosed());
+}
+
+TEST_F(FotoBigTest, KeysStepAndClose) {
+    open({1, 2, 3, 4, 5}, 3);
+    press(Qt::Key_Down);
+    EXPECT_EQ(viewer->position(), 4);
+    press(Qt::Key_Right);
+    press(Qt::Key_Down);
+    EXPECT_EQ(run.beeps, 2);
+    press(Qt::Key_Left);
+    press(Qt::Key_Up);
+    EXPECT_EQ(viewer->position(), 0);
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(isClosed()) << "at once, guard or not";
+    for (const Qt::Key closing : {Qt::Key_X, Qt::Key_F4}) {
+        open({1});
+        key(closing, Qt::AltModifier);
+        EXPECT_TRUE(isClosed());
+    }
+    EXPECT_EQ(run.exits, 0);
+}
+
+TEST_F(FotoBigTest, TheSlideShowGoesRoundAndKeepsTheDisplayAwake) {
+    open({1, 2, 3}, 2, true);
+    EXPECT_TRUE(timer().isEnabled());
+    EXPECT_EQ(timer().interval(), 4000);
+    EXPECT_EQ(run.awake.size(), 1);
+    EXPECT_FALSE(run.awake.back().isEmpty());
+    timer().fire();
+    EXPECT_EQ(title(), QStringLiteral("Recept 001"));
+    EXPECT_TRUE(timer().isEnabled());
+    press(Qt::Key_Right);
+    EXPECT_EQ(viewer->position(), 1);
+    EXPECT_TRUE(timer().isEnabled());
+    key(Qt::Key_Space);
+    EXPECT_FALSE(viewer->runsSlideShow());
+    EXPECT_EQ(run.awake.back(), QString());
+    key(Qt::Key_Space);
+    EXPECT_TRUE(viewer->runsSlideShow());
+    key(Qt::Key_Escape);
+    EXPECT_EQ(run.awake.back(), QString()) << "closing ends it";
+    open({1, 2});
+    EXPECT_FALSE(viewer->runsSlideShow());
+    const auto reasons = run.awake.size();
+    key(Qt::Key_Escape);
+    EXPECT_EQ(run.awake.size(), reasons) << "who never kept the display awake lets it alone";
+}
+
+TEST_F(FotoBigTest, TheSlideShowWaitsBelowAnotherScreen) {
+    open({1, 2, 3}, 0, true);
+    auto* help = new Form(run, QStringLiteral("frmStranka"));
+    run.PushScreen(*help);
+    help->showForm();
+    timer().fire();
+    EXPECT_EQ(viewer->position(), 0);
+    run.PopScreen(*help);
+    timer().fire();
+    EXPECT_EQ(viewer->position(), 1);
+}
+
+TEST_F(FotoBigTest, TheCursorShowsWhatAClickDoes) {
+    const struct {
+        const char* name;
+        QColor color;
+        QPoint at;
+    } cursors[] = {{"SIPKAVLEVO", Qt::red, {5, 5}},
+                   {"SIPKANAHORU", Qt::green, {300, 20}},
+                   {"SIPKADOLU", Qt::blue, {300, 590}},
+                   {"SIPKAVPRAVO", Qt::yellow, {790, 590}},
+                   {"ZPET", Qt::cyan, {400, 300}}};
+    QDir().mkpath(folder.filePath(QStringLiteral("obr")));
+    for (const auto& cursor : cursors) {
+        QImage image(32, 32, QImage::Format_RGB32);
+        image.fill(cursor.color);
+        image.save(folder.filePath(QStringLiteral("obr/%1.png").arg(QLatin1String(cursor.name))));
+    }
+    run.pictures = Resources(folder.path() + u'/');
+    open({1, 2});
+    const auto shown = [&] { return viewer->cursor().pixmap().toImage().pixelColor(3, 3); };
+    EXPECT_EQ(shown(), QColor(Qt::yellow));
+    for (const auto& cursor : cursors) {
+        QTest::mouseMove(viewer, cursor.at);
+        EXPECT_EQ(shown(), cursor.color) << cursor.name;
+    }
+    auto* help = new Form(run, QStringLiteral("frmStranka"));
+    run.PushScreen(*help);
+    run.PopScreen(*help);
+    EXPECT_EQ(shown(), QColor(Qt::cyan)) << "as it was below another screen";
+}
+
+TEST_F(FotoBigTest, AnyPhotoFitsItsPlaceUndistorted) {
+    writePhoto("foto/Recepty/r1.bmp", {40, 30}, Qt::red);
+    writePhoto("foto/Recepty/r2.bmp", {1000, 100}, Qt::green);
+    writePhoto("foto/Recepty/r3.bmp", {30, 900}, Qt::blue);
+    const struct {
+        std::int16_t id;
+        QSize photo;
+        QColor middle, corner;
+    } cases[] = {{1, {800, 600}, Qt::red, Qt::red},
+                 {2, {800, 80}, Qt::green, QColor(11, 34, 38)},
+                 {3, {20, 600}, Qt::blue, QColor(11, 34, 38)}};
+    for (const auto& c : cases) {
+        open({c.id});
+        EXPECT_EQ(viewer->photo().size(), c.photo);
+        const QImage screen = viewer->grab().toImage();
+        EXPECT_EQ(screen.pixelColor(400, 300), c.middle);
+        EXPECT_EQ(screen.pixelColor(2, 2), c.corner);
+        run.window.resize(1600, 1200);
+        QApplication::processEvents();
+        EXPECT_EQ(viewer->photo().size(), c.photo * 2) << "read again for the larger display";
+        run.window.resize(800, 600);
+        QApplication::processEvents();
+        viewer->goBack();
+    }
+}
+
+TEST_F(FotoBigTest, AMissingOrBrokenPhotoLeavesItsName) {
+    writePhoto("foto/Recepty/r1.bmp");
+    writePhoto("foto/Recepty/r3.bmp", {300, 200});
+    QFile cut(folder.filePath(QStringLiteral("foto/Recepty/r3.bmp")));
+    ASSERT_TRUE(cut.resize(5000));
+    open({1, 2, 3, 999});
+    EXPECT_FALSE(viewer->photo().isNull());
+    for (const char* name : {"Recept 002", "Recept 003", ""}) {
+        press(Qt::Key_Right);
+        EXPECT_TRUE(viewer->photo().isNull());
+        EXPECT_EQ(title(), QString::fromLatin1(name));
+    }
+    press(Qt::Key_Up);
+    EXPECT_FALSE(viewer->photo().isNull());
+    EXPECT_EQ(run.messages, QStringList());
+}
+
+TEST_F(FotoBigTest, TheTitleStandsInTheMiddle) {
+    run.database.Execute(
+        QStringLiteral("UPDATE Recepty SET Nazev = 'Mísa uzených ryb s křenem' WHERE ID = 1"));
+    open({1});
+    const QRect place = child<Label>(*viewer, "lblNazev")->twips();
+    EXPECT_NEAR(place.center().x(), 6000, 2);
+    EXPECT_FALSE(child(*viewer, "lblMoment")->isVisible());
+}
+
+TEST_F(FotoBigTest, AnEmptyListOpensNothing) {
+    open({});
+    EXPECT_TRUE(isClosed());
+    EXPECT_FALSE(viewer->isLoaded());
+}
+
+TEST_F(FotoBigTest, TheNextPhotoIsDecodedAheadAndTheSameAsWhenItIsNot) {
+    for (int id = 1; id <= 4; ++id)
+        writePhoto(qPrintable(QStringLiteral("foto/Recepty/r%1.bmp").arg(id)), {640 + id, 480}, Qt::gray);
+    open({1, 2, 3, 4});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return viewer->isNextReady(); }));
+    press(Qt::Key_Right);
+    EXPECT_EQ(viewer->photo(),
+              readPhoto(folder.filePath(QStringLiteral("foto/Recepty/r2.bmp")), viewer->size()));
+    for (const Qt::Key pressed : {Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Up}) {
+        press(pressed);  // faster than anything can be decoded ahead
+        const QString file = QStringLiteral("foto/Recepty/r%1.bmp").arg(viewer->position() + 1);
+        EXPECT_EQ(viewer->photo(), readPhoto(folder.filePath(file), viewer->size()));
+    }
+}
+
+}  // namespace
+}  // namespace sarne

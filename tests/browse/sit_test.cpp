@@ -1,0 +1,242 @@
+#include "browse/browsefixture.h"
+#include "forms/button.h"
+#include "forms/label.h"
+#include "screens/browse/frmfotobig.h"
+#include "screens/browse/frmsit.h"
+
+namespace sarne {
+namespace {
+
+using Ids = std::vector<std::int16_t>;
+
+TEST(PhotoGrid, SevenInARowAndGroupsThatOverlap) {
+    QRegion taken;
+    for (int cell = 1; cell <= PhotoGrid::kCells; ++cell) {
+        const QRect place = PhotoGrid::cellRect(cell);
+        EXPECT_FALSE(taken.intersects(place)) << cell;
+        taken += place;
+    }
+    EXPECT_TRUE(QRect(0, 0, 12000, 9000).contains(taken.boundingRect()));
+    EXPECT_EQ(PhotoGrid::cellRect(8).x(), PhotoGrid::cellRect(50).x());
+    const size_t sizes[] = {5, 29, 22, 4, 0};
+    for (int group = 0; group < 5; ++group) EXPECT_EQ(PhotoGrid::groupIds(group).size(), sizes[group]);
+    for (const int group : {1, 2}) EXPECT_EQ(std::ranges::count(PhotoGrid::groupIds(group), 13), 1);
+    for (int cell = 1; cell <= PhotoGrid::kCells; ++cell) {
+        int groups = 0;
+        for (int group = 0; group < PhotoGrid::kGroups; ++group)
+            groups += static_cast<int>(std::ranges::count(PhotoGrid::groupIds(group), cell));
+        EXPECT_GE(groups, 1) << "recipe " << cell << " is in no group";
+    }
+}
+
+TEST(PhotoGrid, KeysMoveOverTheLivingCells) {
+    PhotoGrid grid;
+    const auto go = [&](std::initializer_list<std::pair<int, int>> moves) {
+        for (const auto& [right, down] : moves) grid.move(right, down);
+        return grid.cell();
+    };
+    EXPECT_EQ(go({{1, 0}}), 1) << "without a choice the first";
+    EXPECT_EQ(go({{0, 1}, {1, 0}}), 9);
+    EXPECT_FALSE(go({{0, -1}}) != 2 || grid.move(0, -1)) << "no row above the first";
+    EXPECT_EQ(go({{-1, 0}, {-1, 0}}), 1);
+    grid.lock(44);
+    EXPECT_EQ(go({{0, 1}}), 50) << "the nearest cell of the short last row";
+    EXPECT_FALSE(grid.move(1, 0));
+    grid.setGroup(3);
+    EXPECT_EQ(grid.cell(), 50);
+    EXPECT_EQ(go({{-1, 0}}), 46);
+    EXPECT_EQ(go({{0, -1}}), 35);
+    EXPECT_EQ(go({{0, -1}}), 9);
+    grid.setGroup(0);
+    EXPECT_EQ(grid.cell(), 0) << "a choice outside the group is given up";
+}
+
+TEST(Lines, BreakAtBlanksOnly) {
+    const TextFont font{QStringLiteral("Arial"), 12};
+    const int width = Label::measure(QStringLiteral("Jihočeská rybí"), font).width();
+    EXPECT_EQ(brokenIntoLines(QStringLiteral("Jihočeská rybí polévka"), font, width),
+              QStringLiteral("Jihočeská rybí\npolévka"));
+    EXPECT_EQ(brokenIntoLines(QStringLiteral("Jihočeská  rybí polévka"), font, 100),
+              QStringLiteral("Jihočeská\nrybí\npolévka"));
+    EXPECT_EQ(brokenIntoLines({}, font, width), QString());
+}
+
+class SitTest : public BrowseTest {
+  protected:
+    SitTest() {
+        run.PushScreen(*below);
+        below->showForm();
+        grid->Zobraz();
+    }
+    Button* cell(int number) const {
+        return grid->findChild<Button*>(QStringLiteral("imgFoto(%1)").arg(number));
+    }
+    Button* button(const char* name) const { return grid->findChild<Button*>(QString::fromLatin1(name)); }
+    void hover(int number) {
+        QTest::mouseMove(cell(number), {3, 3});
+        QTest::mouseMove(cell(number), center(cell(number)));
+    }
+    QString name() const { return child<Label>(*grid, "Label1")->text(); }
+    int chosen() const { return grid->grid().cell(); }
+    Ids alive() const {
+        Ids cells;
+        for (std::int16_t number = 1; number <= 50; ++number) {
+            if (cell(number)->isEnabled()) cells.push_back(number);
+        }
+        return cells;
+    }
+    const QStringList& calls() const { return run.recorded.calls; }
+
+    Form* below = new Form(run, QStringLiteral("frmHlavni"));
+    frmSit* grid = new frmSit(run);
+};
+
+TEST_F(SitTest, TheMouseNamesTheRecipeUnderIt) {
+    hover(7);
+    EXPECT_EQ(name(), QStringLiteral("Recept 007"));
+    run.database.Execute(QStringLiteral("DELETE FROM Recepty WHERE ID = 8"));
+    grid->goBack();
+    grid = new frmSit(run);
+    grid->Zobraz();
+    hover(8);
+    EXPECT_EQ(name(), QString()) << "a cell without a recipe";
+    const QRect place = cell(8)->geometry();
+    const QImage framed = grid->grab().toImage();
+    hover(9);
+    EXPECT_NE(framed.copy(place), grid->grab().toImage().copy(place)) << "the cell under the mouse is framed";
+}
+
+TEST_F(SitTest, AClickLocksTheChoiceUntilTheNext) {
+    hover(3);
+    click(cell(3));
+    hover(4);
+    hover(20);
+    EXPECT_EQ(chosen(), 3);
+    click(button("imgBtnHlavni(0)"));
+    EXPECT_EQ(run.recorded.photos.startPosition, 2);
+    click(cell(20));
+    hover(5);
+    EXPECT_EQ(name(), QStringLiteral("Recept 020"));
+    click(cell(20));
+    hover(5);
+    EXPECT_EQ(chosen(), 5);
+    click(cell(5));
+    QTest::mouseClick(grid, Qt::LeftButton, {}, {300, 580});
+    hover(6);
+    EXPECT_EQ(chosen(), 6) << "a click beside the cells unlocks";
+}
+
+TEST_F(SitTest, PhotosOfTheWholeGridOrOfTheGroup) {
+    click(cell(50));
+    click(button("imgBtnHlavni(0)"));
+    EXPECT_EQ(run.recorded.photos.photoIds.size(), 50u);
+    EXPECT_EQ(run.recorded.photos.startPosition, 49);
+    click(button("imgSkupina(3)"));
+    EXPECT_EQ(alive(), (Ids{9, 35, 46, 50}));
+    hover(9);
+    EXPECT_EQ(chosen(), 50);
+    click(cell(50));
+    hover(9);
+    key(Qt::Key_Space);
+    EXPECT_EQ(run.recorded.photos.photoIds, (Ids{9, 35, 46, 50}));
+    EXPECT_EQ(run.recorded.photos.startPosition, 0);
+    EXPECT_FALSE(run.recorded.photos.slideShow);
+    click(button("imgBtnHlavni(2)"));
+    EXPECT_EQ(calls().back(), QStringLiteral("showRecipe 9"));
+}
+
+TEST_F(SitTest, GroupsNarrowTheGridAndTheBackgroundWidensIt) {
+    writePhoto("foto/sitCela.bmp", {120, 90}, Qt::white);
+    writePhoto("foto/sit1.bmp", {120, 90}, Qt::magenta);
+    grid->goBack();
+    grid = new frmSit(run);
+    grid->Zobraz();
+    const auto ground = [&] { return grid->grab().toImage().pixelColor(300, 580); };
+    EXPECT_EQ(ground(), QColor(Qt::white));
+    click(cell(15));
+    click(button("imgSkupina(1)"));
+    EXPECT_EQ(ground(), QColor(Qt::magenta));
+    EXPECT_EQ(alive().size(), 29u);
+    EXPECT_EQ(chosen(), 0);
+    EXPECT_EQ(name(), QString());
+    click(button("imgSkupina(1)"));
+    EXPECT_EQ(alive().size(), 29u) << "the group that shows already";
+    click(cell(13));
+    click(cell(15));
+    EXPECT_EQ(alive().size(), 50u) << "a cell that is not alive is background";
+    EXPECT_EQ(chosen(), 13);
+    click(button("imgSkupina(2)"));
+    EXPECT_EQ(alive().size(), 22u);
+    EXPECT_EQ(chosen(), 13) << "recipe 13 is in both groups";
+    click(button("imgSkupina(0)"));
+    click(button("imgCela"));
+    EXPECT_EQ(ground(), QColor(Qt::white));
+    EXPECT_EQ(alive().size(), 50u);
+}
+
+TEST_F(SitTest, WithoutAChoiceOneIsAskedFor) {
+    click(button("imgBtnHlavni(0)"));
+    click(button("imgBtnHlavni(2)"));
+    key(Qt::Key_Space);
+    key(Qt::Key_Return);
+    EXPECT_EQ(run.messages, QStringList(4, QStringLiteral("64: Jeden recept musí být vybrán")));
+    EXPECT_EQ(calls(), QStringList());
+}
+
+TEST_F(SitTest, ADoubleClickOpensTheRecipe) {
+    doubleClick(cell(12));
+    EXPECT_EQ(calls(), QStringList{QStringLiteral("showRecipe 12")});
+    EXPECT_TRUE(grid->grid().isLocked());
+    QTest::mouseRelease(cell(12), Qt::LeftButton, {}, center(cell(12)));
+    click(cell(30));
+    doubleClick(cell(30));
+    EXPECT_EQ(calls().back(), QStringLiteral("showRecipe 30"));
+    EXPECT_TRUE(grid->grid().isLocked()) << "whether the cell was locked before or not";
+}
+
+TEST_F(SitTest, TheKeyboardReachesEverything) {
+    for (const Qt::Key pressed : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down}) key(pressed);
+    EXPECT_EQ(name(), QStringLiteral("Recept 009"));
+    EXPECT_EQ(run.announced, (QStringList{QStringLiteral("Recept 001"), QStringLiteral("Recept 002"),
+                                          QStringLiteral("Recept 009")}));
+    key(Qt::Key_Return);
+    key(Qt::Key_Space);
+    EXPECT_EQ(calls(), (QStringList{QStringLiteral("showRecipe 9"), QStringLiteral("showPhotos 8")}));
+    key(Qt::Key_Tab);
+    key(Qt::Key_Return);
+    EXPECT_EQ(grid->grid().group(), 0);
+    key(Qt::Key_4);
+    EXPECT_EQ(grid->grid().group(), 3);
+    key(Qt::Key_Backtab);
+    key(Qt::Key_Backtab);
+    EXPECT_TRUE(button("imgBtnHlavni(4)")->hasFocus());
+    key(Qt::Key_Return);
+    EXPECT_EQ(run.exits, 1);
+    key(Qt::Key_Left);
+    key(Qt::Key_Return);
+    EXPECT_EQ(calls().back(), QStringLiteral("showRecipe 9")) << "among the cells Enter means the cell again";
+    key(Qt::Key_0);
+    EXPECT_EQ(alive().size(), 50u);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(SitTest, BackFromTheViewerTheGroupIsAsItWas) {
+    click(button("imgSkupina(3)"));
+    click(cell(9));
+    click(button("imgBtnHlavni(0)"));
+    auto* viewer = new frmFotoBig(run);
+    viewer->Zobraz(run.recorded.photos);
+    EXPECT_EQ(alive(), Ids());
+    QTest::mouseMove(viewer, {400, 300});
+    QTest::mouseClick(viewer, Qt::LeftButton, {}, {400, 300});
+    EXPECT_EQ(run.FormStack.top(), grid);
+    EXPECT_EQ(alive(), (Ids{9, 35, 46, 50}));
+    EXPECT_EQ(chosen(), 9);
+    EXPECT_EQ(name(), QStringLiteral("Recept 009"));
+    EXPECT_TRUE(grid->grid().isLocked());
+    EXPECT_TRUE(grid->isAncestorOf(run.window.focusWidget()) || grid->hasFocus());
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,15 @@
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+
+// Without a display, and without a sound device unless a test brings its own, so that nothing depends on the
+// machine's.
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("PULSE_SERVER", "unix:/nonexistent/pulse");
+    qputenv("PIPEWIRE_REMOTE", "/nonexistent/pipewire");
+    qputenv("ALSA_CONFIG_PATH", "/dev/null");
+    QGuiApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

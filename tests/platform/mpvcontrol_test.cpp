@@ -1,0 +1,297 @@
+#include "platform/mpvcontrol.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <clocale>
+
+#include "testmedia.h"
+
+namespace sarne {
+namespace {
+
+/// A player on a machine without sound, and what it has told.
+class MpvControlTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        QObject::connect(&player, &MultimediaControl::done, [this](int code) { codes.append(code); });
+        QObject::connect(&player, &MultimediaControl::frameReady, [this] {
+            ++frames;
+            player.renderFrame({400, 300});
+        });
+        player.setNotify(MediaNotify::On);
+    }
+    void open(const QString& file) {
+        player.setFileName(file);
+        player.command(u"open");
+    }
+    bool waitForCode(MediaDone code) {
+        return waitFor([&] { return codes.contains(static_cast<int>(code)); });
+    }
+
+    TestMedia media;
+    MpvControl player;
+    QList<int> codes;
+    int frames = 0;
+};
+
+TEST_F(MpvControlTest, PlaysToItsEndAndAgain) {
+    open(media.write(QStringLiteral("a.wav"), sineWav(440, 700)));
+    ASSERT_EQ(player.error(), 0) << qPrintable(player.errorMessage());
+    EXPECT_EQ(player.mode(), MediaMode::Stopped);
+    EXPECT_NEAR(player.length(), 700, 20);
+    EXPECT_EQ(player.position(), 0);
+    EXPECT_TRUE(player.videoSize().isEmpty());
+    EXPECT_TRUE(player.renderFrame({100, 100}).isNull());
+
+    for (int round = 0; round < 2; ++round) {
+        codes.clear();
+        player.command(u"prev");
+        player.command(u"Play");
+        EXPECT_EQ(player.mode(), MediaMode::Playing);
+        EXPECT_TRUE(waitFor([&] { return player.position() > 200; }));
+        ASSERT_TRUE(waitForCode(MediaDone::Successful)) << "round " << round;
+        EXPECT_EQ(codes, QList<int>{1});
+        EXPECT_EQ(player.mode(), MediaMode::Stopped);
+        EXPECT_EQ(player.position(), player.length());
+    }
+    codes.clear();
+    player.command(u"play");  // at the end already
+    EXPECT_TRUE(codes.isEmpty());
+    EXPECT_TRUE(waitForCode(MediaDone::Successful));
+}
+
+TEST_F(MpvControlTest, PausesStopsAndMoves) {
+    open(media.write(QStringLiteral("a.wav"), sineWav(440, 20000)));
+    player.command(u"pause");
+    EXPECT_EQ(player.mode(), MediaMode::Stopped);
+
+    player.command(u"play");
+    EXPECT_TRUE(waitFor([&] { return player.position() > 100; }));
+    player.command(u"pause");
+    EXPECT_EQ(player.mode(), MediaMode::Paused);
+    runFor(100);
+    const qint64 paused = player.position();
+    runFor(300);
+    EXPECT_EQ(player.position(), paused);
+    player.command(u"pause");
+    EXPECT_EQ(player.mode(), MediaMode::Playing);
+    EXPECT_TRUE(waitFor([&] { return player.position() > paused + 100; }));
+    EXPECT_TRUE(codes.isEmpty()) << "pausing is no end";
+
+    player.command(u"stop");
+    EXPECT_EQ(player.mode(), MediaMode::Stopped);
+    EXPECT_EQ(codes, QList<int>{4});
+    runFor(100);
+    const qint64 stopped = player.position();
+    player.command(u"play");
+    EXPECT_TRUE(waitFor([&] { return player.position() > stopped + 100; }))
+        << "goes on from where it stopped";
+    EXPECT_LT(player.position(), stopped + 3000);
+
+    player.setPosition(15000);
+    EXPECT_EQ(player.position(), 15000);
+    EXPECT_TRUE(waitFor([&] { return player.position() > 15100; }));
+    EXPECT_EQ(player.mode(), MediaMode::Playing);
+
+    codes.clear();
+    player.command(u"next");
+    EXPECT_EQ(player.mode(), MediaMode::Stopped);
+    EXPECT_EQ(player.position(), player.length());
+    EXPECT_EQ(codes, QList<int>{4});
+    player.command(u"prev");
+    EXPECT_EQ(player.position(), 0);
+    player.command(u"play");
+    player.command(u"play");
+    EXPECT_EQ(codes, (QList<int>{4, 2}));
+    player.setPosition(99999);
+    EXPECT_TRUE(waitForCode(MediaDone::Successful));
+
+    player.setNotify(MediaNotify::Off);
+    codes.clear();
+    player.command(u"prev");
+    player.command(u"play");
+    player.command(u"close");
+    EXPECT_EQ(player.mode(), MediaMode::NotOpen);
+    EXPECT_EQ(player.length(), 0);
+    EXPECT_TRUE(codes.isEmpty());
+}
+
+TEST_F(MpvControlTest, LoopsWithoutEnding) {
+    player.setLoop(MediaLoop::On);
+    open(media.write(QStringLiteral("a.wav"), sineWav(440, 400)));
+    player.command(u"play");
+    runFor(1500);
+    EXPECT_EQ(player.mode(), MediaMode::Playing);
+    EXPECT_TRUE(codes.isEmpty());
+    player.setLoop(MediaLoop::Off);
+    player.command(u"open");
+    player.command(u"play");
+    EXPECT_TRUE(waitForCode(MediaDone::Successful)) << "the next file does not loop";
+}
+
+TEST_F(MpvControlTest, OpensWithoutWaiting) {
+    player.setWait(MediaWait::DontWait);
+    open(media.write(QStringLiteral("a.wav"), sineWav(440, 300)));
+    EXPECT_EQ(player.error(), 0);
+    player.command(u"play");
+    EXPECT_TRUE(waitForCode(MediaDone::Successful));
+
+    codes.clear();
+    open(media.write(QStringLiteral("b.wav"), "no sound at all"));
+    player.command(u"play");
+    EXPECT_TRUE(waitForCode(MediaDone::Failed));
+    EXPECT_EQ(player.lastError(), MediaError::InvalidFile);
+    EXPECT_EQ(player.mode(), MediaMode::NotOpen);
+
+    open(media.path(QStringLiteral("a.wav")));
+    player.command(u"play");
+    player.command(u"stop");
+    EXPECT_TRUE(waitFor([&] { return player.mode() == MediaMode::Stopped; }));
+    open(media.path(QStringLiteral("a.wav")));  // and leaves while it opens
+}
+
+TEST_F(MpvControlTest, CommandsWithoutAFileAreErrors) {
+    for (const char16_t* name : {u"play", u"stop", u"pause", u"prev", u"next"}) {
+        player.command(name);
+        EXPECT_EQ(player.error(), 276) << qPrintable(QString::fromUtf16(name));
+    }
+    player.command(u"eject");
+    EXPECT_EQ(player.lastError(), MediaError::UnknownCommand);
+    player.command(u"close");
+    EXPECT_EQ(player.error(), 0);
+    player.command(u"open");
+    EXPECT_EQ(player.lastError(), MediaError::FileNameMissing);
+    open(media.path(QStringLiteral("chybi.wav")));
+    EXPECT_EQ(player.lastError(), MediaError::FileNotFound);
+    EXPECT_TRUE(player.errorMessage().contains(QStringLiteral("nenalezen")) ||
+                player.errorMessage().contains(QStringLiteral("nebyl nalezen")));
+    player.setPosition(5);
+    EXPECT_EQ(player.position(), 0);
+}
+
+TEST_F(MpvControlTest, ShowsFilmsOfTheDiscsCodecs) {
+    const std::pair<const char*, const char*> codecs[] = {
+        {"cinepak", "rgb24"}, {"msvideo1", "rgb555le"}, {"mjpeg", "yuvj420p"}};
+    for (const auto& [codec, pixels] : codecs) {
+        const QString options = QStringLiteral("-c:v %1 -pix_fmt %2 -c:a pcm_s16le");
+        const QString file =
+            media.film(QStringLiteral("a.avi"), 1000,
+                       options.arg(QLatin1String(codec), QLatin1String(pixels)), QStringLiteral("160x120"));
+        ASSERT_FALSE(file.isEmpty()) << codec;
+        frames = 0;
+        codes.clear();
+        open(file);
+        ASSERT_EQ(player.error(), 0) << codec;
+        EXPECT_EQ(player.videoSize(), QSize(160, 120)) << codec;
+        EXPECT_NEAR(player.length(), 1000, 100) << codec;
+        player.command(u"play");
+        EXPECT_TRUE(waitForCode(MediaDone::Successful)) << codec;
+        EXPECT_GT(frames, 8) << codec;
+        EXPECT_FALSE(player.renderFrame({640, 480}).isNull()) << "the last picture stays";
+    }
+}
+
+TEST_F(MpvControlTest, KeepsAFilmsProportions) {
+    open(media.film(QStringLiteral("a.avi"), 400, QStringLiteral("-vf lutrgb=r=255:g=0:b=0 -c:v mjpeg")));
+    ASSERT_EQ(player.error(), 0);
+    ASSERT_TRUE(waitFor([&] { return frames > 0; }));
+    const QImage wide = player.renderFrame({800, 300});
+    ASSERT_EQ(wide.size(), QSize(800, 300));
+    EXPECT_EQ(wide.pixelColor(190, 150), QColor(Qt::black));
+    EXPECT_GT(wide.pixelColor(210, 150).red(), 200);
+    EXPECT_GT(wide.pixelColor(590, 5).red(), 200);
+    EXPECT_EQ(wide.pixelColor(610, 150), QColor(Qt::black));
+    const QImage kept = wide;
+    EXPECT_GT(player.renderFrame({320, 240}).pixelColor(2, 2).red(), 200);
+    EXPECT_GT(kept.pixelColor(400, 150).red(), 200) << "a picture handed out is not drawn over";
+    EXPECT_TRUE(player.renderFrame({}).isNull());
+    player.command(u"close");
+    EXPECT_TRUE(player.renderFrame({320, 240}).isNull());
+}
+
+TEST_F(MpvControlTest, BrokenFilesAreErrorsAndNothingWorse) {
+    const auto read = [this](const QString& options) {
+        QFile file(media.film(QStringLiteral("celý.avi"), 1000, options + QStringLiteral(" -c:a pcm_s16le")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QByteArray film = read(QStringLiteral("-c:v mjpeg"));
+    ASSERT_GT(film.size(), 10000);
+    QByteArray unknown = film;
+    unknown.replace("MJPG", "QQQQ");
+    QByteArray sizeless = read(QStringLiteral("-c:v msvideo1 -pix_fmt rgb555le"));
+    for (qsizetype at : {sizeless.indexOf("avih") + 8 + 32, sizeless.indexOf("strf") + 8 + 4})
+        sizeless.replace(at, 8, QByteArray(8, '\0'));
+
+    struct Case {
+        const char* what;
+        QByteArray content;
+    };
+    const Case cases[] = {{"empty", ""},
+                          {"text", "Toto neni video.\n"},
+                          {"playlist", "#EXTM3U\nhttp://127.0.0.1:9/a.avi\n"},
+                          {"header only", film.left(200)},
+                          {"RIFF only", "RIFF\x10\0\0\0AVI "},
+                          {"zeros", QByteArray(100000, '\0')},
+                          {"unknown codec", unknown},
+                          {"0 x 0", sizeless},
+                          {"wav without samples", sineWav(440, 0)}};
+    for (const Case& broken : cases) {
+        open(media.write(QStringLiteral("b.avi"), broken.content));
+        EXPECT_EQ(player.lastError(), MediaError::InvalidFile) << broken.what;
+        EXPECT_EQ(player.mode(), MediaMode::NotOpen) << broken.what;
+        EXPECT_FALSE(player.errorMessage().isEmpty()) << broken.what;
+    }
+    open(media.path({}));
+    EXPECT_EQ(player.lastError(), MediaError::InvalidFile) << "a folder";
+
+    open(media.write(QStringLiteral("b.avi"), film.left(film.size() / 2)));  // what is there plays
+    ASSERT_EQ(player.error(), 0);
+    player.command(u"play");
+    EXPECT_TRUE(waitFor([&] { return codes.contains(1) || codes.contains(8); }));
+
+    open(media.path(QStringLiteral("celý.avi")));
+    EXPECT_EQ(player.error(), 0) << "the player still works";
+}
+
+TEST_F(MpvControlTest, AnotherNumberFormatOfTheUserDoesNotMatter) {
+    if (!std::setlocale(LC_NUMERIC, "cs_CZ.UTF-8") && !std::setlocale(LC_NUMERIC, "de_DE.UTF-8"))
+        GTEST_SKIP() << "no locale with a decimal comma is installed";
+    open(media.write(QStringLiteral("a.wav"), sineWav(440, 300)));
+    EXPECT_EQ(player.error(), 0);
+}
+
+TEST(MpvControlUseTest, OpeningAHundredTimesKeepsNothing) {
+    const TestMedia media;
+    const QString film =
+        media.film(QStringLiteral("a.avi"), 500, QStringLiteral("-c:v mjpeg -c:a pcm_s16le"));
+    const auto round = [&](MpvControl& player) {
+        player.setFileName(film);
+        player.command(u"open");
+        ASSERT_EQ(player.error(), 0);
+        player.command(u"play");
+        ASSERT_FALSE(player.renderFrame({320, 240}).isNull());
+        runFor(10);
+        player.command(u"close");
+    };
+    const auto rounds = [&](int count) {  // as a screen that lives on, and as one that is made anew each time
+        MpvControl player;
+        for (int i = 0; i < count; ++i) round(player);
+        for (int i = 0; i < count; ++i) {
+            MpvControl fresh;
+            round(fresh);
+        }
+        runFor(50);
+    };
+    rounds(15);
+    const ProcessUse before = ProcessUse::now();
+    rounds(50);
+    const ProcessUse after = ProcessUse::now();
+    EXPECT_LE(after.files, before.files);
+    EXPECT_LE(after.threads, before.threads);
+    EXPECT_LT(after.kilobytes, before.kilobytes + 500);
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,182 @@
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+
+#include "platform/beeper.h"
+#include "platform/effectplayer.h"
+#include "platform/mpvcontrol.h"
+#include "soundserver.h"
+#include "testmedia.h"
+
+namespace sarne {
+namespace {
+
+/// What really comes out of the loudspeaker.
+class SoundTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (!server.start()) GTEST_SKIP() << "no PulseAudio server could be started";
+    }
+    void playMusic(int milliseconds, MediaLoop loop) {
+        music.setFileName(media.write(QStringLiteral("hudba.wav"), sineWav(500, milliseconds)));
+        music.setLoop(loop);
+        music.command(u"open");
+        ASSERT_EQ(music.error(), 0);
+        server.rewind();
+        music.command(u"play");
+    }
+    /// What sounds in the next \a milliseconds.
+    Recording listen(int milliseconds) {
+        server.rewind();
+        runFor(milliseconds);
+        return server.recorded();
+    }
+
+    TestMedia media;
+    SoundServer server;
+    MpvControl music;
+};
+
+TEST_F(SoundTest, MusicLoopsWithoutAGapAndStops) {
+    playMusic(600, MediaLoop::On);
+    runFor(3000);
+    const Recording sound = server.recorded();
+    ASSERT_GE(sound.firstSound(), 0);
+    EXPECT_GT(sound.lastSound() - sound.firstSound(), 2000);
+    EXPECT_LT(sound.longestGap(), 1.0);
+    EXPECT_GT(sound.share(500), 0.9);
+    RecordProperty("gap_us", static_cast<int>(sound.longestGap() * 1000));
+
+    music.command(u"stop");
+    runFor(300);
+    EXPECT_EQ(listen(400).peak(), 0);
+    music.command(u"play");
+    EXPECT_GT(listen(600).share(500), 0.5);
+}
+
+// Where the user of a player starts it again there is a gap: the measurement above would have seen one.
+TEST_F(SoundTest, MusicStartedAgainAtItsEndHasAGap) {
+    QObject::connect(&music, &MultimediaControl::done, [this](int) {
+        music.command(u"prev");
+        music.command(u"play");
+    });
+    music.setNotify(MediaNotify::On);
+    playMusic(600, MediaLoop::Off);
+    runFor(2500);
+    music.setNotify(MediaNotify::Off);
+    const Recording sound = server.recorded();
+    EXPECT_GT(sound.lastSound() - sound.firstSound(), 1000);
+    EXPECT_GT(sound.longestGap(), 3.0);
+}
+
+TEST_F(SoundTest, SilentIsSilentWhileTimePasses) {
+    music.setSilent(MediaSound::Silent);
+    playMusic(20000, MediaLoop::Off);
+    runFor(800);
+    EXPECT_EQ(server.recorded().peak(), 0);
+    EXPECT_GT(music.position(), 200);
+    music.setSilent(MediaSound::On);
+    EXPECT_GT(listen(1000).share(500), 0.5);
+    music.setSilent(MediaSound::Silent);
+    runFor(400);
+    EXPECT_EQ(listen(300).peak(), 0);
+}
+
+TEST_F(SoundTest, TimePassesWhenTheDeviceIsPulledOut) {
+    playMusic(20000, MediaLoop::Off);
+    ASSERT_TRUE(waitFor([this] { return music.position() > 300; }));
+    server.kill();
+    runFor(500);
+    const qint64 then = music.position();
+    runFor(1000);
+    EXPECT_GT(music.position(), then + 500);
+    EXPECT_EQ(music.mode(), MediaMode::Playing);
+    music.command(u"close");
+    EXPECT_EQ(music.mode(), MediaMode::NotOpen);
+}
+
+TEST_F(SoundTest, EffectsCutEachOtherOff) {
+    MixerEffectPlayer effects;
+    effects.prepare();
+    runFor(500);
+    server.rewind();
+    effects.play(sineWav(1000, 3000));
+    runFor(600);
+    effects.play(sineWav(2500, 3000));
+    runFor(600);
+    const Recording sound = server.recorded();
+    const double start = sound.firstSound();
+    ASSERT_GE(start, 0);
+    EXPECT_LT(start, 250);
+    EXPECT_GT(sound.part(start, start + 400).share(1000), 0.9);
+    const Recording second = sound.part(start + 800, sound.milliseconds());
+    EXPECT_GT(second.share(2500), 0.9);
+    EXPECT_LT(second.share(1000), 0.01);
+    EXPECT_LT(sound.longestGap(), 60);
+
+    effects.play({});  // changes nothing
+    EXPECT_GT(listen(300).share(2500), 0.9);
+    effects.stop();
+    runFor(200);
+    EXPECT_EQ(listen(300).peak(), 0);
+
+    ToneBeeper beeper(effects);
+    server.rewind();
+    beeper.beep();
+    runFor(600);
+    const Recording beep = server.recorded();
+    EXPECT_GT(beep.peak(), 3000);
+    EXPECT_LT(beep.lastSound() - beep.firstSound(), 200) << "a beep is short";
+}
+
+TEST_F(SoundTest, BrokenEffectsPlayNothing) {
+    MixerEffectPlayer effects;
+    const QByteArray good = sineWav(1000, 200);
+    QByteArray endless = good;
+    endless.replace(40, 4, "\xFF\xFF\xFF\x7F");
+    QByteArray noChannels = good;
+    noChannels.replace(22, 2, QByteArray(2, '\0'));
+    for (const QByteArray& broken :
+         {QByteArray("RIFF"), good.left(30), good.left(44), QByteArray(5000, 'x'), noChannels})
+        effects.play(broken);
+    EXPECT_EQ(listen(500).peak(), 0);
+    for (int at = 4; at < 44; ++at) {  // whatever is in its header: no crash, no hang
+        QByteArray odd = good;
+        odd[at] = static_cast<char>(0xFF);
+        effects.play(odd);
+        runFor(5);
+    }
+    effects.play(endless);
+    effects.stop();
+    runFor(200);
+    effects.play(good);
+    EXPECT_GT(listen(500).part(0, 500).peak(), 5000);
+}
+
+TEST_F(SoundTest, EffectsFindADeviceThatComesBack) {
+    MixerEffectPlayer effects;
+    effects.play(sineWav(1000, 200));
+    EXPECT_GT(listen(800).peak(), 5000);
+    server.kill();
+    effects.play(sineWav(1000, 100));
+    runFor(300);
+    ASSERT_TRUE(server.start());
+    effects.play(sineWav(1000, 300));
+    EXPECT_GT(listen(1000).peak(), 5000);
+}
+
+TEST(SoundlessTest, EffectsWithoutADeviceAreSilentAndQuick) {
+    QElapsedTimer time;
+    time.start();
+    {
+        MixerEffectPlayer effects;
+        effects.prepare();
+        for (int i = 0; i < 100; ++i) effects.play(sineWav(1000, 100));
+        EXPECT_LT(time.elapsed(), 1000);
+        effects.stop();
+    }
+    EXPECT_LT(time.elapsed(), 5000);
+}
+
+}  // namespace
+}  // namespace sarne

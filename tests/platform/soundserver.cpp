@@ -1,0 +1,125 @@
+#include "soundserver.h"
+
+#include <QFile>
+#include <algorithm>
+#include <cmath>
+#include <complex>
+#include <cstring>
+#include <numbers>
+
+#include "testmedia.h"
+
+namespace sarne {
+
+namespace {
+
+constexpr int threshold = 100;
+constexpr double perMs = 44.1;
+
+bool sounds(qint16 sample) {
+    return std::abs(sample) > threshold;
+}
+
+}  // namespace
+
+Recording Recording::part(double from, double to) const {
+    const auto at = [this](double ms) {
+        return samples_.begin() +
+               std::clamp<qint64>(std::llround(ms * perMs), 0, static_cast<qint64>(samples_.size()));
+    };
+    return Recording(std::vector<qint16>(at(from), at(std::max(from, to))));
+}
+
+int Recording::peak() const {
+    int peak = 0;
+    for (const qint16 sample : samples_) peak = std::max(peak, std::abs(sample));
+    return peak;
+}
+
+double Recording::firstSound() const {
+    const auto found = std::find_if(samples_.begin(), samples_.end(), sounds);
+    return found == samples_.end() ? -1 : static_cast<double>(found - samples_.begin()) / perMs;
+}
+
+double Recording::lastSound() const {
+    const auto found = std::find_if(samples_.rbegin(), samples_.rend(), sounds);
+    return found == samples_.rend() ? -1 : static_cast<double>(samples_.rend() - found) / perMs;
+}
+
+double Recording::longestGap() const {
+    const Recording inner = part(firstSound(), lastSound());
+    int longest = 0;
+    int run = 0;
+    for (const qint16 sample : inner.samples_) {
+        run = sounds(sample) ? 0 : run + 1;
+        longest = std::max(longest, run);
+    }
+    return longest / perMs;
+}
+
+double Recording::share(double hertz) const {
+    std::complex<double> tone;
+    double energy = 0;
+    for (std::size_t i = 0; i < samples_.size(); ++i) {
+        const double angle = 2 * std::numbers::pi * hertz * static_cast<double>(i) / 44100;
+        tone += std::polar<double>(samples_[i], angle);
+        energy += static_cast<double>(samples_[i]) * samples_[i];
+    }
+    return energy > 0 ? 2 * std::norm(tone) / (energy * static_cast<double>(samples_.size())) : 0;
+}
+
+SoundServer::SoundServer() = default;
+
+SoundServer::~SoundServer() {
+    kill();
+    qputenv("PULSE_SERVER", "unix:/nonexistent/pulse");
+}
+
+bool SoundServer::start() {
+    const QString socket = folder_.filePath(QStringLiteral("native"));
+    QFile::remove(socket);  // of a server that was killed
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "PULSE_RUNTIME_PATH"})
+        environment.insert(QLatin1String(name), folder_.path());
+    environment.remove(QStringLiteral("PULSE_SERVER"));
+    server_.setProcessEnvironment(environment);
+    server_.setStandardErrorFile(QProcess::nullDevice());
+    server_.start(
+        QStringLiteral("pulseaudio"),
+        {QStringLiteral("-n"), QStringLiteral("--daemonize=no"), QStringLiteral("--use-pid-file=no"),
+         QStringLiteral("--exit-idle-time=-1"), QStringLiteral("-L"),
+         QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") + socket,
+         QStringLiteral("-L"), QStringLiteral("module-null-sink sink_name=nahravka")});
+    if (!server_.waitForStarted() || !waitFor([&] { return QFile::exists(socket); })) return false;
+    qputenv("PULSE_SERVER", "unix:" + socket.toUtf8());
+    return startRecording();
+}
+
+bool SoundServer::startRecording() {
+    recorder_.start(QStringLiteral("parec"),
+                    {QStringLiteral("-d"), QStringLiteral("nahravka.monitor"), QStringLiteral("--raw"),
+                     QStringLiteral("--format=s16le"), QStringLiteral("--rate=44100"),
+                     QStringLiteral("--channels=1"), QStringLiteral("--latency-msec=10")});
+    return recorder_.waitForStarted() && waitFor([this] { return recorder_.bytesAvailable() > 0; });
+}
+
+void SoundServer::kill() {
+    for (QProcess* process : {&recorder_, &server_}) {
+        process->kill();
+        process->waitForFinished();
+    }
+}
+
+void SoundServer::rewind() {
+    recorder_.readAllStandardOutput();
+    bytes_.clear();
+}
+
+Recording SoundServer::recorded() {
+    bytes_ += recorder_.readAllStandardOutput();
+    std::vector<qint16> samples(static_cast<std::size_t>(bytes_.size()) / 2);
+    std::memcpy(samples.data(), bytes_.constData(), samples.size() * 2);
+    return Recording(std::move(samples));
+}
+
+}  // namespace sarne

@@ -1,0 +1,141 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <csignal>
+
+#include "platform/drives.h"
+#include "platform/settingsstore.h"
+#include "platform/singleinstance.h"
+#include "support/fakesettings.h"
+
+namespace sarne {
+namespace {
+
+class SettingsStoreTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                           folder.filePath(QStringLiteral("user")));
+        QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
+                           folder.filePath(QStringLiteral("system")));
+    }
+    void write(const QString& scope, const QByteArray& content) {
+        const QString path = folder.filePath(scope + QStringLiteral("/App Paths"));
+        ASSERT_TRUE(QDir().mkpath(path));
+        QFile file(path + QStringLiteral("/Dunvik.exe.conf"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    QString read(const char* key) { return readAppPathValue(store, QLatin1String(key)); }
+
+    QTemporaryDir folder;
+    SystemSettingsStore store;
+};
+
+TEST_F(SettingsStoreTest, TheUsersValueComesBeforeTheSystems) {
+    EXPECT_EQ(read("CDPath"), QString());
+    write(QStringLiteral("system"), "[General]\nCDPath=/media/disc\nOther=\" x \"\n");
+    EXPECT_EQ(read("CDPath"), QStringLiteral("/media/disc"));
+    write(QStringLiteral("user"), "[General]\nCDPath=\"E:\\\\\"\n[Drives]\nE=/home/ryby, sladke\n");
+    EXPECT_EQ(read("CDPath"), QStringLiteral("E:\\"));
+    EXPECT_EQ(read("Other"), QStringLiteral("x"));
+    EXPECT_EQ(read("Drives/E"), QStringLiteral("/home/ryby, sladke"));
+}
+
+TEST_F(SettingsStoreTest, WhatCannotBeReadIsEmpty) {
+    write(QStringLiteral("user"), QByteArray(3000, '\xFF'));
+    EXPECT_EQ(read("CDPath"), QString());
+    ASSERT_TRUE(QDir().mkpath(folder.filePath(QStringLiteral("system/App Paths/Dunvik.exe.conf"))));
+    EXPECT_EQ(read("CDPath"), QString());
+}
+
+TEST(DrivesTest, DiscsAndRemovableVolumesAreFoundInTheMountTable) {
+    const QTemporaryDir folder;
+    const auto write = [&folder](const QString& name, const QByteArray& content) {
+        QDir().mkpath(QFileInfo(folder.filePath(name)).path());
+        QFile file(folder.filePath(name));
+        file.open(QIODevice::WriteOnly);
+        file.write(content);
+        return folder.filePath(name);
+    };
+    write(QStringLiteral("sys/sda/removable"), "0\n");
+    write(QStringLiteral("sys/sda/sda1/size"), "1\n");
+    write(QStringLiteral("sys/sdb/removable"), "1\n");
+    write(QStringLiteral("sys/sdb/sdb1/size"), "1\n");
+    for (const char* name : {"sda1", "sdb1"}) {
+        const QString disk = QString::fromLatin1(name).left(3);
+        QDir().mkpath(folder.filePath(QStringLiteral("class")));
+        QFile::link(folder.filePath(QStringLiteral("sys/%1/%2").arg(disk, QLatin1String(name))),
+                    folder.filePath(QStringLiteral("class/") + QLatin1String(name)));
+    }
+    const QString table = write(QStringLiteral("mounts"),
+                                "/dev/sda1 / ext4 rw 0 0\n"
+                                "proc /proc proc rw 0 0\n"
+                                "/dev/sdb1 /mnt/kl\\303\\255\\304\\215enka vfat rw 0 0\n"
+                                "/dev/sr0 /media/petr/SARN\\0401 iso9660 ro 0 0\n"
+                                "/dev/sda1 /home ext4 rw 0 0\n"
+                                "tmpfs /media/tmp tmpfs rw 0 0\n"
+                                "/dev/sdc5 /run/media/petr/zaloha ext4 rw 0 0\n"
+                                "broken line\n");
+    EXPECT_EQ(removableVolumes(table, folder.filePath(QStringLiteral("class"))),
+              (QStringList{QStringLiteral("/mnt/klíčenka"), QStringLiteral("/media/petr/SARN 1"),
+                           QStringLiteral("/run/media/petr/zaloha")}));
+    EXPECT_TRUE(removableVolumes(folder.filePath(QStringLiteral("missing"))).isEmpty());
+}
+
+TEST(DrivesTest, TheStoreNamesLettersAndVolumesTakeTheRest) {
+    FakeSettings store;
+    const QStringList volumes{QStringLiteral("/media/a"), QStringLiteral("/media/b")};
+    EXPECT_EQ(driveLetters(store, volumes), (QHash<QChar, QString>{{u'D', QStringLiteral("/media/a")},
+                                                                   {u'E', QStringLiteral("/media/b")}}));
+    store.set(QStringLiteral("Drives/D"), QStringLiteral(" /disk "));
+    store.set(QStringLiteral("Drives/Z"), QStringLiteral("/z"));
+    EXPECT_EQ(driveLetters(store, volumes), (QHash<QChar, QString>{{u'D', QStringLiteral("/disk")},
+                                                                   {u'E', QStringLiteral("/media/a")},
+                                                                   {u'F', QStringLiteral("/media/b")},
+                                                                   {u'Z', QStringLiteral("/z")}}));
+    EXPECT_LE(driveLetters(store, QStringList(100, QStringLiteral("/m"))).size(), 26);
+}
+
+TEST(SingleInstanceTest, TheSecondIsRefusedUntilTheFirstEnds) {
+    const QTemporaryDir folder;
+    const QString lock = folder.filePath(QStringLiteral("run/zámek"));
+    {
+        const SingleInstance first(lock);
+        EXPECT_TRUE(first.isFirst());
+        EXPECT_FALSE(SingleInstance(lock).isFirst());
+    }
+    EXPECT_TRUE(SingleInstance(lock).isFirst());
+    EXPECT_TRUE(SingleInstance(QStringLiteral("/proc/none/lock")).isFirst());
+}
+
+TEST(SingleInstanceTest, AKilledProcessLeavesNoLock) {
+    const QTemporaryDir folder;
+    const QString lock = folder.filePath(QStringLiteral("zámek"));
+    int ready[2];
+    ASSERT_EQ(pipe(ready), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        const SingleInstance held(lock);
+        const char answer = held.isFirst() ? 'y' : 'n';
+        if (write(ready[1], &answer, 1) == 1) pause();
+        _exit(0);
+    }
+    char answer = 0;
+    ASSERT_EQ(read(ready[0], &answer, 1), 1);
+    EXPECT_EQ(answer, 'y');
+    EXPECT_FALSE(SingleInstance(lock).isFirst());
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    EXPECT_TRUE(SingleInstance(lock).isFirst());
+    close(ready[0]);
+    close(ready[1]);
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,189 @@
+#include <gtest/gtest.h>
+
+#include "printcookbook.h"
+
+namespace sarne {
+namespace {
+
+using test::PrintCookbook;
+using Kind = PrintOutcome::Kind;
+
+QString str(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+const QStringList kCookbook{
+    PrintCookbook::recipe(
+        7, str("Kapr na černo"),
+        {str("DlouhyNazev"), str("Kapr na černo s povidly"), str("Uvod"),
+         test::rtf(str("\\'d8ek nikdo, jak *12starý recept* to je.")), str("Recept"),
+         test::rtf(str("Rybu o#3čistíme#.\\par\\b Hlava\\b0\\par Tělo.")), str("Poznamka"),
+         test::rtf(str("Pozor na kosti.")), str("Prezentace"), test::rtf(str("S knedlíkem.")), str("vino"),
+         test::rtf(str("Frankovka.")), str("Vlastni"), str("Babička * 3 dávala víc piva. ")}),
+    PrintCookbook::recipe(8, str("Štika")),
+    str("INSERT INTO Suroviny VALUES (1,'kapr'),(2,'amur'),(3,'sůl'),(4,'citron')"),
+    str("INSERT INTO Upresneni VALUES (1,'podkovy')"),
+    str("INSERT INTO Jednotky VALUES (1,'g'),(2,'lžíce'),(3,'ks')"),
+    str("INSERT INTO SpojSur VALUES (7,1,1,1,250,3,2,2),(7,3,0,1,5.5,2,0.5,0),(7,4,0,3,1,3,1,0)"),
+    str("INSERT INTO Pomucky VALUES (1,'pekáč'),(2,'nůž')"),
+    str("INSERT INTO SpojPomucky VALUES (7,1),(7,2)"),
+    str("INSERT INTO Odkazy VALUES (5,'Vývar',") + test::sqlText(test::rtf(str("Hlavy va@7říme@."))) + u')',
+    str("INSERT INTO SpojOdkazy VALUES (7,5)")};
+
+QString textOf(const PrintOutcome& outcome) {
+    return test::pdfText(outcome.file).simplified();
+}
+
+TEST(PrintedPage, HoldsTheSectionsInTheirOrder) {
+    PrintCookbook book(kCookbook);
+    PrintOptions options;
+    options.portions = 6;
+    const PrintOutcome outcome = book.print({7}, options);
+    ASSERT_EQ(outcome.kind, Kind::Printed);
+    EXPECT_EQ(outcome.file, book.folder.filePath(str("Dokumenty/Kapr na černo.pdf")));
+    EXPECT_EQ(textOf(outcome),
+              str("CD Tobrela - Velisa sarn Kapr na černo Kapr na černo s povidly Porce: 6 "
+                  "kapr - podkovy (g): 380 (ks): 3 - nebo amur sůl (g): 8,2 (lžíce): 0,8 citron (ks): 1,5 "
+                  "Řek nikdo, jak starý recept to je. Rybu očistíme. Hlava Tělo. Pozor na kosti. "
+                  "S knedlíkem. Frankovka. Vlastní poznámka: Babička * 3 dávala víc piva. "
+                  "Pomůcky: nůž, pekáč Odkaz: Vývar Hlavy vaříme."));
+    static const QRegularExpression indented(str("\n( *)kapr.*\n\\1 {4,}- nebo amur"));
+    EXPECT_TRUE(test::pdfText(outcome.file).contains(indented)) << test::pdfText(outcome.file).toStdString();
+    options.weights = false;
+    options.portions = 2.5;
+    const PrintOutcome spoons = book.print({7}, options);
+    EXPECT_EQ(spoons.file, book.folder.filePath(str("Dokumenty/Kapr na černo (2).pdf")));
+    EXPECT_TRUE(textOf(spoons).contains(
+        str("Porce: 2,5 kapr - podkovy (ks): 1,2 - nebo amur sůl (lžíce): 0,3 citron (ks): 0,6")))
+        << textOf(spoons).toStdString();
+}
+
+TEST(PrintedPage, WithoutSectionsHoldsHeaderAndNameOnly) {
+    PrintCookbook book(kCookbook);
+    book.addPhoto(7, {40, 30}, Qt::red);
+    PrintOptions none;
+    none.sections.fill(false);
+    EXPECT_EQ(textOf(book.print({7}, none)),
+              str("CD Tobrela - Velisa sarn Kapr na černo Kapr na černo s povidly"));
+    EXPECT_EQ(textOf(book.print({8})), str("CD Tobrela - Velisa sarn Štika Porce: 4"))
+        << "what a recipe has not leaves no heading";
+    const char* const heads[kPrintSections] = {"(nic)",     "Porce",   "Řek",     "S knedlíkem",
+                                               "Frankovka", "Vlastní", "Pomůcky", "Odkaz"};
+    for (size_t section = 0; section < kPrintSections; ++section) {
+        PrintOptions one = none;
+        one.sections[section] = true;
+        const QString text = textOf(book.print({7}, one));
+        for (size_t head = 1; head < kPrintSections; ++head)
+            EXPECT_EQ(text.contains(str(heads[head])), head == section)
+                << section << ' ' << text.toStdString();
+    }
+}
+
+TEST(PrintedPage, FontsAreEmbedded) {
+    PrintCookbook book(kCookbook);
+    const QString fonts = test::pdfTool(str("pdffonts"), {book.print({7}).file});
+    const QStringList lines = fonts.split(u'\n', Qt::SkipEmptyParts).mid(2);
+    EXPECT_EQ(lines.size(), 5) << "header, name, heading, text and bold text" << fonts.toStdString();
+    static const QRegularExpression embedded(str("Identity-H +yes"));
+    for (const QString& line : lines) EXPECT_TRUE(line.contains(embedded)) << line.toStdString();
+}
+
+class PaperTest : public testing::TestWithParam<QPageSize::PageSizeId> {};
+
+TEST_P(PaperTest, NothingLeavesTheColumnAndTheHeaderEndsAtItsEdge) {
+    const QString wide = QString(400, u'W');
+    PrintCookbook book({PrintCookbook::recipe(
+        1, test::longText(90, str("Kapr velmi dlouhého jména ")),
+        {str("Recept"), test::rtf(test::longText(9000) + str("\\par ") + wide + str("\\par konec")),
+         str("Vlastni"), QString(500, u'm')})});
+    book.addPhoto(1, {400, 300}, Qt::red);
+    const PrintOutcome outcome = book.print({1}, {}, GetParam());
+    ASSERT_EQ(outcome.kind, Kind::Printed);
+    const QSizeF paper = QPageSize(GetParam()).size(QPageSize::Point) * 20;
+    const QRectF printable = QRectF({0, 0}, paper).adjusted(566, 566, -566, -566);
+    const double right = paper.width() / 2 + printable.width() * .8 / 2;
+    for (int page = 1; page <= outcome.pages; ++page) {
+        double headerEnd = 0;
+        for (const test::PdfWord& word : test::pdfWords(outcome.file, page)) {
+            EXPECT_TRUE(printable.contains(word.place)) << page << word.text.left(20).toStdString();
+            EXPECT_LE(word.place.right(), right + 20) << page << word.text.left(20).toStdString();
+            EXPECT_GE(word.place.left(), paper.width() - right - 20);
+            if (word.text == str("sarn")) headerEnd = word.place.right();
+        }
+        EXPECT_NEAR(headerEnd, right, 20) << page;
+    }
+    const QString text = test::pdfText(outcome.file);
+    EXPECT_EQ(text.count(u'W'), wide.size()) << "a word that is longer than a line goes on in the next";
+    EXPECT_EQ(text.count(str("konec")), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Papers, PaperTest, testing::Values(QPageSize::A4, QPageSize::A5, QPageSize::Letter));
+
+TEST(PrintedPage, RepeatsTheHeaderWithAPageNumberAndStartsEachRecipeOnItsOwn) {
+    PrintCookbook book(
+        {PrintCookbook::recipe(1, str("Candát"), {str("Recept"), test::rtf(test::longText(9000))}),
+         PrintCookbook::recipe(2, str("Okoun"))});
+    const PrintOutcome outcome = book.print({1, 99, 2});
+    const QStringList pages = test::pdfPages(outcome.file);
+    ASSERT_GE(pages.size(), 4);
+    EXPECT_EQ(pages.size(), outcome.pages);
+    EXPECT_FALSE(pages[0].contains(str("strana")));
+    EXPECT_TRUE(pages[1].contains(str("strana 2")) && pages[2].contains(str("strana 3")));
+    EXPECT_EQ(pages.last().simplified(), str("CD Tobrela - Velisa sarn Okoun Porce: 4"));
+}
+
+/// The smallest rectangle around all that is red on \a page.
+QRect redPart(const QImage& page) {
+    QRect red;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x) {
+            const QColor color = page.pixelColor(x, y);
+            if (color.red() > 200 && color.green() < 60) red |= QRect(x, y, 1, 1);
+        }
+    }
+    return red;
+}
+
+TEST(PrintedPage, ShowsThePhotoInItsProportionsBelowTheName) {
+    PrintCookbook book(kCookbook);
+    for (const QSize& size : {QSize(400, 300), QSize(60, 200)}) {
+        book.addPhoto(7, size, Qt::red);
+        const PrintOutcome outcome = book.print({7});
+        const QRect red = redPart(test::pdfImage(outcome.file, 1));
+        ASSERT_GT(red.height(), 100);
+        EXPECT_NEAR(double(red.width()) / red.height(), double(size.width()) / size.height(), .03);
+        for (const test::PdfWord& word : test::pdfWords(outcome.file, 1)) {
+            const QRectF place(word.place.topLeft() / 20, word.place.size() / 20);
+            EXPECT_FALSE(place.intersects(red.adjusted(1, 1, -1, -1))) << word.text.toStdString();
+            EXPECT_TRUE(word.text != str("povidly") || place.bottom() < red.top() + 1);
+        }
+    }
+    QFile broken(book.photo(7));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("BM no picture");
+    broken.close();
+    EXPECT_EQ(book.print({7}).kind, Kind::Printed);
+}
+
+TEST(PrintedPage, TakesLargeMaterial) {
+    const QString note = test::longText(1 << 20);
+    QStringList cookbook{PrintCookbook::recipe(1, str("Úhoř"), {str("Vlastni"), note})};
+    for (int link = 1; link <= 40; ++link) {
+        const QString text = test::rtf(str("Text odkazu %1.").arg(link));
+        cookbook
+            << str("INSERT INTO Odkazy VALUES (%1,'Odkaz číslo %1',%2)").arg(link).arg(test::sqlText(text));
+        cookbook << str("INSERT INTO SpojOdkazy VALUES (1,%1)").arg(link);
+    }
+    PrintCookbook book(cookbook);
+    const PrintOutcome outcome = book.print({1});
+    ASSERT_EQ(outcome.kind, Kind::Printed);
+    const QString text = test::pdfText(outcome.file);
+    EXPECT_EQ(text.count(str("necháme")), note.count(str("necháme")));
+    for (int link = 1; link <= 40; ++link) {
+        EXPECT_TRUE(text.contains(str("Odkaz: Odkaz číslo %1\n").arg(link))) << link;
+        EXPECT_TRUE(text.contains(str("Text odkazu %1.").arg(link))) << link;
+    }
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,148 @@
+#pragma once
+
+#include <QFile>
+#include <QImage>
+#include <QPageLayout>
+#include <QProcess>
+#include <QRegularExpression>
+
+#include "db/database.h"
+#include "forms/resources.h"
+#include "platform/systemprinter.h"
+#include "print/printjob.h"
+#include "print/printlogo.h"
+#include "richtext/qttextmetrics.h"
+#include "support/recipedatabase.h"
+
+namespace sarne::test {
+
+inline QString sqlText(const QString& text) {
+    return u'\'' + QString(text).replace(u'\'', QStringLiteral("''")) + u'\'';
+}
+
+/// An RTF document with \a body.
+inline QString rtf(const QString& body) {
+    return QStringLiteral(
+               "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Times New Roman;}"
+               "{\\f1\\fswiss\\fcharset238 Arial;}}\\plain\\pard ") +
+           body + QStringLiteral("\\par }");
+}
+
+/// A sentence again and again, about \a length characters.
+inline QString longText(int length,
+                        const QString& sentence = QStringLiteral("Rybu osolíme a necháme stát. ")) {
+    return sentence.repeated(length / int(sentence.size()) + 1);
+}
+
+/// What a tool of the PDF package says about a file.
+inline QString pdfTool(const QString& tool, const QStringList& arguments) {
+    QProcess process;
+    process.start(tool, arguments);
+    if (!process.waitForFinished(60000) || process.exitCode() != 0)
+        return tool + QStringLiteral(" failed: ") + QString::fromUtf8(process.readAllStandardError());
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+/// The texts of a PDF file, its pages parted by form feeds.
+inline QString pdfText(const QString& file) {
+    return pdfTool(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), file, QStringLiteral("-")});
+}
+
+inline QStringList pdfPages(const QString& file) {
+    return pdfText(file).split(u'\f', Qt::SkipEmptyParts);
+}
+
+/// One word of a page and where it stands, in twips from the paper's corner.
+struct PdfWord {
+    QRectF place;
+    QString text;
+};
+
+inline std::vector<PdfWord> pdfWords(const QString& file, int page) {
+    const QString number = QString::number(page);
+    const QString html =
+        pdfTool(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-f"), number,
+                                              QStringLiteral("-l"), number, file, QStringLiteral("-")});
+    static const QRegularExpression word(
+        QStringLiteral("<word xMin=\"([-0-9.]+)\" yMin=\"([-0-9.]+)\" xMax=\"([-0-9.]+)\" "
+                       "yMax=\"([-0-9.]+)\">(.*?)</word>"));
+    std::vector<PdfWord> words;
+    for (const auto& match : word.globalMatch(html)) {
+        const QPointF from(match.captured(1).toDouble() * 20, match.captured(2).toDouble() * 20);
+        const QPointF to(match.captured(3).toDouble() * 20, match.captured(4).toDouble() * 20);
+        words.push_back({QRectF(from, to), match.captured(5)});
+    }
+    return words;
+}
+
+/// A page as a viewer paints it, 20 twips a pixel.
+inline QImage pdfImage(const QString& file, int page) {
+    QTemporaryDir folder;
+    const QString to = folder.filePath(QStringLiteral("page"));
+    const QString number = QString::number(page);
+    pdfTool(QStringLiteral("pdftoppm"),
+            {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-f"), number, QStringLiteral("-l"),
+             number, QStringLiteral("-singlefile"), QStringLiteral("-png"), file, to});
+    return QImage(to + QStringLiteral(".png"));
+}
+
+/// A small cookbook to print from, with a folder for photos and one for printed files.
+class PrintCookbook {
+  public:
+    QTemporaryDir folder;
+    Database db;
+
+    explicit PrintCookbook(const QStringList& statements) {
+        const QString file = folder.filePath(QStringLiteral("Sarne.drc"));
+        writeRecipeDatabase(file, statements);
+        db.Open(file);
+    }
+
+    /// The statement of a recipe with \a fields ("Uvod", text, ...).
+    static QString recipe(int id, const QString& name, const QStringList& fields = {}, int portions = 4) {
+        QString names = QStringLiteral("ID,Nazev,Porce");
+        QString values =
+            QStringLiteral("%1,%2,%3").arg(QString::number(id), sqlText(name), QString::number(portions));
+        for (qsizetype i = 0; i + 1 < fields.size(); i += 2) {
+            names += u',' + fields[i];
+            values += u',' + sqlText(fields[i + 1]);
+        }
+        return QStringLiteral("INSERT INTO Recepty (") + names + QStringLiteral(") VALUES (") + values + u')';
+    }
+
+    void addPhoto(int id, QSize size, const QColor& color) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(color);
+        image.save(photo(id));
+    }
+    QString photo(int id) const { return folder.filePath(QStringLiteral("r%1.bmp").arg(id)); }
+
+    PrintSource source() {
+        const auto media = [this](const QString& path) {
+            return Picture::fromFile(folder.filePath(path.section(u'\\', -1)));
+        };
+        return {db, media, QLocale(QLocale::Czech, QLocale::CzechRepublic),
+                printLogo(Resources(QStringLiteral(":/none/")))};
+    }
+
+    /// Prints to a file on paper of \a size and says how that went.
+    PrintOutcome print(const std::vector<std::int16_t>& ids, const PrintOptions& options = {},
+                       QPageSize::PageSizeId size = QPageSize::A4) {
+        SystemPrinter printer(folder.filePath(QStringLiteral("Dokumenty")));
+        printer.setPrinter({});
+        QPageLayout layout = printer.pageLayout();
+        layout.setPageSize(QPageSize(size));
+        printer.setPageLayout(layout);
+        return printOn(printer, ids, options);
+    }
+
+    PrintOutcome printOn(Printer& printer, const std::vector<std::int16_t>& ids,
+                         const PrintOptions& options = {}) {
+        SilentProgress silent;
+        QtTextMetrics metrics;
+        PageComposer composer(source(), printer.scale(), metrics);
+        return PrintJob(printer, composer, silent).print(ids, options);
+    }
+};
+
+}  // namespace sarne::test

@@ -1,0 +1,126 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "screens/recipe/frmrecept.h"
+#include "support/fakesarne.h"
+#include "support/recipedatabase.h"
+
+namespace sarne {
+
+/// \a body as a document of the cookbook.
+inline QString rtf(const QString& body) {
+    return QStringLiteral(
+               "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Times New Roman;}}"
+               "{\\colortbl\\red0\\green0\\blue0;}\\deftab720\\pard\\plain\\f0\\fs24 ") +
+           body + u'}';
+}
+
+/// The same as a literal of SQL.
+inline QString rtfValue(const char* body) {
+    return u'\'' + rtf(QString::fromUtf8(body)).replace(u'\'', QStringLiteral("''")) + u'\'';
+}
+
+/// Recipe 5 has everything once: an alternative, missing names, both units, links, tools. Recipe 6 is bare.
+/// Recipe 7 is for 3 portions and has a long list.
+inline QStringList testRecipes() {
+    const auto row = [](const char* text) { return QString::fromUtf8(text); };
+    QStringList all{
+        row("INSERT INTO Suroviny (ID, Polozka) VALUES "
+            "(1,'kapr'),(2,'máslo'),(3,'sůl'),(4,'olej'),(5,'kmín')"),
+        row("INSERT INTO Upresneni (ID, Polozka) VALUES (1,'filety bez kůže'),(2,'čerstvé')"),
+        row("INSERT INTO Jednotky (ID, Polozka) VALUES (1,' g '),(2,'lžíce'),(3,'kus')"),
+        row("INSERT INTO Pomucky (ID, Polozka) VALUES (1,'vařečka'),(2,'pánev'),(3,'číška'),(4,'chňapka')"),
+        row("INSERT INTO Recepty (ID, Nazev, DlouhyNazev, Porce, vino) VALUES (6,'Prázdný','Prázdný "
+            "recept',0,NULL)"),
+        row("INSERT INTO Recepty (ID, Nazev, DlouhyNazev, Porce) VALUES (7,'Dlouhý','Dlouhý seznam',3)"),
+        row("INSERT INTO SpojSur VALUES (5,1,1,1,250,3,0.5,0)"),
+        row("INSERT INTO SpojSur VALUES (5,2,0,1,50,2,2,4)"),
+        row("INSERT INTO SpojSur VALUES (5,99,0,99,12.5,2,0.05,0)"),
+        row("INSERT INTO SpojSur VALUES (5,3,0,0,0,0,NULL,0)"),
+        row("INSERT INTO SpojPomucky VALUES (5,1),(5,2),(5,3),(5,4)"),
+        row("INSERT INTO SpojOdkazy VALUES (5,1),(5,2),(7,3)"),
+    };
+    all << QStringLiteral(
+               "INSERT INTO Odkazy (ID, Polozka, Text) VALUES (1,'Rybí vývar',%1),(2,'Chlebové "
+               "kostky',%2),(3,'Jen jeden',%3)")
+               .arg(rtfValue("Vývar va\\'f8\\'edme *12pomalu*."), rtfValue("Chléb nakrájíme."),
+                    rtfValue("Text odkazu"));
+    all << QStringLiteral(
+               "INSERT INTO Recepty (ID, Nazev, DlouhyNazev, Porce, Recept, Uvod, Prezentace, Poznamka, "
+               "vino, Vlastni) VALUES "
+               "(5,'Kapr','Kapr na kmíně s máslem, jak se dělá v neděli u rybníka, když přijede celá rodina "
+               "a nikdo nespěchá domů',4,"
+               "%1,%2,%3,%4,%5,NULL)")
+               .arg(rtfValue(
+                        "Kapra *12osol\\'edme* a pe\\'e8eme @7podle videa@.\\par Pod\\'e1v\\'e1me #ihned#."),
+                    rtfValue("\\'davod k receptu."), rtfValue("Na tal\\'ed\\'f8i."),
+                    rtfValue("Pozn\\'e1mka kucha\\'f8e."), rtfValue("Ryzlink"));
+    for (int line = 0; line < 60; ++line)
+        all << QStringLiteral("INSERT INTO SpojSur VALUES (7,%1,2,1,%2,2,1,0)")
+                   .arg(line % 5 + 1)
+                   .arg(30 * line + 30);
+    return all;
+}
+
+/// The recipe screen over a screen below it, in a run of its own.
+class RecipeTest : public testing::Test {
+  protected:
+    RecipeTest() {
+        test::writeRecipeDatabase(file(), testRecipes());
+        run.database.Open(file());
+        run.MediaRoot = LogicalPaths::fromNativeFolder(folder.path());
+        run.PushScreen(*below);
+        below->showForm();
+        open(5);
+    }
+
+    void open(std::int16_t id) {
+        form = new frmRecept(run, [this](const QString& prompt) {
+            prompts << prompt;
+            return customPortions;
+        });
+        form->Zobraz(id);
+        QApplication::processEvents();
+    }
+    QString file() const { return folder.filePath(QStringLiteral("Sarne.drc")); }
+    template <typename Widget = Control>
+    Widget& at(const char* name) {
+        return *child<Widget>(*form, name);
+    }
+    void click(const char* name) {
+        QTest::mouseClick(&at(name), Qt::LeftButton);
+        QApplication::processEvents();
+    }
+    void press(int key, Qt::KeyboardModifiers with = {}) {
+        QWidget* focused = QApplication::focusWidget();
+        QTest::keyClick(focused ? focused : form, static_cast<Qt::Key>(key), with);
+        QApplication::processEvents();
+    }
+    void type(const QString& text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+    TextView& view() { return at<TextView>("picRecept"); }
+    QString shown() { return view().drawnText(); }
+    QVariant storedNote(int id = 5) {
+        Recordset row = run.database.OpenTable(QStringLiteral("Recepty"));
+        row.Seek(QStringLiteral("="), id);
+        return row.field(QStringLiteral("Vlastni"));
+    }
+    QString focused() {
+        for (QWidget* widget = QApplication::focusWidget(); widget; widget = widget->parentWidget()) {
+            if (qobject_cast<Control*>(widget)) return widget->objectName();
+        }
+        return {};
+    }
+
+    QTemporaryDir folder;
+    FakeSarne run;
+    double customPortions = 0;
+    QStringList prompts;
+    Form* below = new Form(run, QStringLiteral("frmSeznam"));
+    frmRecept* form = nullptr;
+};
+
+}  // namespace sarne

@@ -1,0 +1,122 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include "app/program.h"
+#include "platform/mpvcontrol.h"
+#include "tour.h"
+
+namespace sarne {
+namespace {
+
+/// The media root of the tour's own disc, and nothing else.
+class TourSettings final : public SettingsStore {
+  public:
+    explicit TourSettings(QString disc) : disc_(std::move(disc)) {}
+    QString value(const QString&, const QString&, const QString& key) const override {
+        return key == u"CDPath" ? disc_ : QString();
+    }
+
+  private:
+    QString disc_;
+};
+
+/// A display that is as the program wants it, so that it asks nothing.
+class TourDisplay final : public DisplayModes {
+  public:
+    QSize current() const override { return {800, 600}; }
+    bool canSwitch(QSize) const override { return false; }
+    bool setMode(QSize) override { return false; }
+    void restore() override {}
+    QSize twipsPerPixel() const override { return {15, 15}; }
+};
+
+class NoSleepInhibitor final : public SleepInhibitor {
+  public:
+    void inhibit(const QString&) override {}
+    void release() override {}
+};
+
+/// Copies what a run reads from the program's folder, so that the tour leaves the user's notes alone.
+bool copyProgramFolder(const QString& from, const QString& to) {
+    for (const char* name : {"Sarne.drc", "KOp.bj", "Sarne.rcc"}) {
+        const QString file = u'/' + QLatin1String(name);
+        if (!QFile::copy(from + file, to + file)) return false;
+        QFile::setPermissions(to + file, QFile::ReadOwner | QFile::WriteOwner);
+    }
+    return true;
+}
+
+int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QString& expectedFile,
+           bool accept) {
+    QFile texts(pictures.filePath(QStringLiteral("tour.txt")));
+    const QByteArray shown = tour.texts().toUtf8();
+    if (!texts.open(QIODevice::WriteOnly) || texts.write(shown) != shown.size())
+        out << "tour.txt cannot be written\n";
+    QFile expected(expectedFile);
+    if (accept) return expected.open(QIODevice::WriteOnly) && expected.write(shown) == shown.size() ? 0 : 1;
+    const bool same =
+        expectedFile.isEmpty() || (expected.open(QIODevice::ReadOnly) && expected.readAll() == shown);
+    if (!same) out << "The texts of tour.txt differ from those expected in " << expectedFile << '\n';
+    for (const QString& fault : tour.faults()) out << fault << '\n';
+    return same && tour.faults().isEmpty() ? 0 : 1;
+}
+
+}  // namespace
+}  // namespace sarne
+
+int main(int argc, char** argv) {
+    using namespace sarne;
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QLocale::setDefault(QLocale(QLocale::Czech, QLocale::CzechRepublic));
+    QTextStream out(stderr);
+
+    QCommandLineParser options;
+    options.addHelpOption();
+    options.addPositionalArgument(QStringLiteral("DIR"), QStringLiteral("where the pictures go"));
+    const QCommandLineOption size(QStringLiteral("size"), QStringLiteral("size of the display"),
+                                  QStringLiteral("WxH"), QStringLiteral("800x600"));
+    const QCommandLineOption program(QStringLiteral("program"), QStringLiteral("folder of Sarne.drc"),
+                                     QStringLiteral("DIR"));
+    const QCommandLineOption disc(QStringLiteral("disc"), QStringLiteral("the disc's folder"),
+                                  QStringLiteral("DIR"));
+    const QCommandLineOption expect(QStringLiteral("expect"), QStringLiteral("texts to compare with"),
+                                    QStringLiteral("FILE"));
+    const QCommandLineOption accept(QStringLiteral("accept"),
+                                    QStringLiteral("take the texts shown as the expected ones"));
+    options.addOptions({size, program, disc, expect, accept});
+    options.process(application);
+    const QStringList wide = options.value(size).split(u'x');
+    if (options.positionalArguments().size() != 1 || wide.size() != 2) options.showHelp(2);
+
+    const QDir pictures(options.positionalArguments().first());
+    QTemporaryDir folder;
+    if (!pictures.mkpath(QStringLiteral(".")) || !copyProgramFolder(options.value(program), folder.path())) {
+        out << "The pictures' folder cannot be made, or the program's folder is not complete.\n";
+        return 2;
+    }
+    const TourSettings settings(QDir(options.value(disc)).absolutePath());
+    const SteadyClock clock;
+    MixerEffectPlayer effects;
+    ToneBeeper beeper(effects);
+    MpvControl music;
+    TourDisplay display;
+    NoSleepInhibitor sleep;
+    const PlatformParts parts{settings, clock,   effects, beeper,
+                              music,    display, sleep,   [] { return std::make_unique<MpvControl>(); },
+                              {}};
+    Program run(parts, {folder.path(), folder.path()});
+    run.Locale = QLocale(QLocale::Czech, QLocale::CzechRepublic);
+    run.stage().resize(wide[0].toInt(), wide[1].toInt());
+    run.stage().show();
+    run.stage().activateWindow();
+    QApplication::processEvents();
+    run.Main({});
+    Tour tour(run, pictures);
+    walk(tour);
+    return report(out, tour, pictures, options.value(expect), options.isSet(accept));
+}

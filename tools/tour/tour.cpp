@@ -1,0 +1,86 @@
+#include "tour.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include "app/program.h"
+#include "forms/control.h"
+#include "forms/label.h"
+#include "screentext.h"
+
+namespace sarne {
+
+Form* Tour::front() const {
+    Stage& stage = program_.stage();
+    return stage.modalForm() ? stage.modalForm() : stage.focusForm();
+}
+
+void Tour::stop(const QString& form, const QString& what) {
+    wait();
+    const QString name = what.isEmpty() ? form : form + u'-' + what;
+    const QString there = front() ? front()->name() : QStringLiteral("nothing");
+    if (there != form) fault(QStringLiteral("%1: %2 is in front").arg(name, there));
+    const QString file = pictures_.filePath(name + QStringLiteral(".png"));
+    if (!program_.stage().grab().save(file))
+        fault(QStringLiteral("%1: the picture cannot be written").arg(name));
+    texts_ << QStringLiteral("== ") + name + u'\n' + textsOn(program_.stage());
+}
+
+QWidget* Tour::find(const QString& control) {
+    QWidget* found = front() ? front()->findChild<QWidget*>(control) : nullptr;
+    if (found && found->isVisible()) return found;
+    fault(QStringLiteral("no %1 on %2")
+              .arg(control, front() ? front()->name() : QStringLiteral("an empty stage")));
+    return nullptr;
+}
+
+void Tour::hover(const QString& control) {
+    if (QWidget* widget = find(control)) QTest::mouseMove(widget, widget->rect().center());
+    wait();
+}
+
+void Tour::clickWidget(QWidget& widget) {
+    // The click goes to whatever lies there, as a real one does.
+    Stage& stage = program_.stage();
+    const QPoint at = widget.mapTo(&stage, widget.rect().center());
+    QWidget* hit = stage.childAt(at);
+    if (!hit) hit = &stage;
+    QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&stage, at));
+    wait();
+}
+
+void Tour::click(const QString& control) {
+    if (QWidget* widget = find(control)) clickWidget(*widget);
+}
+
+void Tour::doubleClick(const QString& control) {
+    if (QWidget* widget = find(control))
+        QTest::mouseDClick(widget, Qt::LeftButton, {}, widget->rect().center());
+    wait();
+}
+
+void Tour::clickItem(const QString& label) {
+    for (Form* form : program_.stage().forms()) {
+        if (form->name() != u"frmMenu" || !form->isVisible()) continue;
+        for (auto* item : form->findChildren<Label*>()) {
+            if (item->isVisible() && item->text().trimmed() == label) return clickWidget(*item);
+        }
+    }
+    fault(QStringLiteral("no menu item \"%1\"").arg(label));
+}
+
+void Tour::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QWidget* target = QApplication::focusWidget();
+    QTest::keyClick(target ? target : &program_.stage(), key, modifiers);
+    wait();
+}
+
+void Tour::type(const QString& text) {
+    if (QWidget* target = QApplication::focusWidget()) QTest::keyClicks(target, text);
+}
+
+void Tour::wait(int milliseconds) {
+    QTest::qWait(milliseconds);
+}
+
+}  // namespace sarne

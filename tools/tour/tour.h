@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QDir>
+#include <QString>
+#include <QStringList>
+#include <Qt>
+
+class QWidget;
+
+namespace sarne {
+
+class Form;
+class Program;
+
+/// Drives a running program as a user does, by mouse and keyboard, and keeps a picture and the texts of every
+/// place it stops at. What goes wrong is collected as faults.
+class Tour {
+  public:
+    Tour(Program& program, const QDir& pictures) : program_(program), pictures_(pictures) {}
+
+    Program& program() { return program_; }
+
+    /// Expects the form \a form in front and saves it as "form-what.png"; its texts are kept.
+    void stop(const QString& form, const QString& what = {});
+    /// Moves the mouse over, or clicks, the control called \a control on the form in front.
+    void hover(const QString& control);
+    void click(const QString& control);
+    void doubleClick(const QString& control);
+    /// Clicks the menu item that reads \a label on any open menu level.
+    void clickItem(const QString& label);
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+    void type(const QString& text);
+    /// Lets the program work for \a milliseconds.
+    void wait(int milliseconds = 30);
+
+    /// All texts kept, stop by stop.
+    QString texts() const { return texts_.join(QStringLiteral("\n\n")) + u'\n'; }
+    const QStringList& faults() const { return faults_; }
+    void fault(const QString& text) { faults_ << text; }
+
+  private:
+    Form* front() const;
+    QWidget* find(const QString& control);
+    void clickWidget(QWidget& widget);
+
+    Program& program_;
+    QDir pictures_;
+    QStringList texts_, faults_;
+};
+
+/// Everywhere the tour goes.
+void walk(Tour& tour);
+
+}  // namespace sarne
