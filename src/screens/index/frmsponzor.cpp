@@ -19,10 +19,12 @@ constexpr QRect kHint{5400, 60, 6300, 690};
 constexpr QRect kPosition{300, 8145, 2850, 750};
 constexpr QRect kPrevious{120, 4200, 600, 600};
 constexpr QRect kNext{11280, 4200, 600, 600};
-constexpr QRect kCard{2100, 1350, 7800, 6150};
-constexpr QRect kCardText{2400, 1560, 6660, 4980};
-constexpr QRect kCardFoot{2100, 6690, 7800, 810};
-constexpr QRect kClose{5100, 6780, 1800, 630};
+// The card stands in the middle between title and bar, as high as its text, within limits.
+constexpr int kCardLeft = 2100, kCardWidth = 7800, kCardMiddle = 4440;
+constexpr int kCardMargin = 180, kCardFoot = 810;
+constexpr int kLeastText = 1500, kMostText = 5400;
+constexpr QPoint kTextStart(180, 105);  // in the view: room for the ring that shows where the keyboard is
+constexpr QSize kClose(1800, 600);
 constexpr int kThousand = 1000;
 
 QRect onScreen(const QRect& thousandths, QSize screen) {
@@ -91,16 +93,26 @@ void frmSponzor::makeArrows() {
 
 void frmSponzor::makeCard() {
     const Resources& resources = app().resources();
-    card_.place(kCardText);
+    placeCard();
     card_.setFocusPolicy(Qt::ClickFocus);
     card_.setArrowPictures(resources.picture(QStringLiteral("SipkaNahoru")),
                            resources.picture(QStringLiteral("SipkaDolu")));
-    close_.place(kClose);
     dress(close_, {}, QStringLiteral("Zavřít"), QStringLiteral("Zavřít text"));
     connect(&close_, &Button::clicked, this, &frmSponzor::closeCard);
     connect(&card_, &TextView::linkActivated, this, [this](LinkKey key) { followLink(this->app(), key); });
     connect(&card_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });
     closeCard();
+}
+
+void frmSponzor::placeCard() {
+    const int text = std::clamp(card_.contentHeight() + kTextStart.y(), kLeastText, kMostText);
+    const int height = text + 2 * kCardMargin + kCardFoot;
+    cardPlace_ = QRect(kCardLeft, kCardMiddle - height / 2, kCardWidth, height);
+    card_.place({cardPlace_.left() + kCardMargin, cardPlace_.top() + kCardMargin,
+                 kCardWidth - 2 * kCardMargin - TextView::kArrowRoom, text});
+    QRect close({}, kClose);
+    close.moveCenter({cardPlace_.center().x(), cardPlace_.bottom() - kCardFoot / 2});
+    close_.place(close);
 }
 
 bool frmSponzor::Zobraz(std::int16_t topic, const QString& text) {
@@ -189,12 +201,15 @@ bool frmSponzor::cardIsOpen() const {
 
 void frmSponzor::openCard(const QString& text) {
     card_.Cls();
+    card_.setCurrentX(kTextStart.x());
+    card_.setCurrentY(kTextStart.y());
     card_.drawRichText(text);
+    placeCard();
     card_.setVisible(true);
     card_.raise();
     close_.show();
     close_.raise();
-    for (AreaButton* area : areas_) area->setVisible(!area->twips().intersects(kCard));
+    for (AreaButton* area : areas_) area->setVisible(!area->twips().intersects(cardPlace_));
     setKeyboardOrder();
     focus(card_);
     app().HookMessage(plainText(text, 2000));
@@ -268,7 +283,7 @@ bool frmSponzor::keyDown(QKeyEvent& event) {
 
 void frmSponzor::mousePressEvent(QMouseEvent* event) {
     BarForm::mousePressEvent(event);
-    if (cardIsOpen() && !kCard.contains(toTwips(event->position()))) closeCard();
+    if (cardIsOpen() && !cardPlace_.contains(toTwips(event->position()))) closeCard();
 }
 
 void frmSponzor::paintGround(QPainter& painter) {
@@ -280,8 +295,8 @@ void frmSponzor::paintGround(QPainter& painter) {
 void frmSponzor::paint(QPainter& painter) {
     BarForm::paint(painter);
     if (!cardIsOpen()) return;
-    paintPaper(painter, kCard);
-    painter.fillRect(kCardFoot.adjusted(45, 0, -45, -45), colors::kTeal);
+    paintPaper(painter, cardPlace_);
+    painter.fillRect(cardPlace_.adjusted(45, cardPlace_.height() - kCardFoot, -45, -45), colors::kTeal);
 }
 
 }  // namespace sarne

@@ -32,6 +32,7 @@ class frmSponzor : public BarForm {
   private:
     const GalleryPicture& current() const { return pictures_[static_cast<size_t>(at_)]; }
     void makeCard();
+    void placeCard();
     void makeArrows();
     void showPicture(int index);
     bool showNumber(int number);
@@ -53,6 +54,7 @@ class frmSponzor : public BarForm {
     Label hint_;
     Label position_;
     Button previous_, next_;
+    QRect cardPlace_;
     TextView card_;
     Button close_;
 };

@@ -14,9 +14,9 @@ namespace sarne {
 namespace {
 
 constexpr int kLettersHeight = 450;
-constexpr int kLetterWidth = 420;
-constexpr int kGap = 75;        // between the letters or the note and the paper
-constexpr int kPaperEdge = 75;  // of paper around the table
+constexpr int kLetterWidth = 900;  // at most
+constexpr int kGap = 75;           // between the letters or the note and the paper
+constexpr int kPaperEdge = 75;     // of paper around the table
 constexpr int kArrowSide = 600;
 constexpr QRect kPosition{300, 8145, 2850, 750};
 

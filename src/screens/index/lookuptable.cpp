@@ -12,7 +12,7 @@ constexpr int kPreview = 160;  // characters: more than a row can show
 /// The beginning of a keyword's text, its heading left out.
 QString preview(const QString& text, const QString& name) {
     QStringList lines = plainText(text, kPreview + static_cast<int>(name.size())).split(u'\n');
-    if (lines.size() > 1 && lines.first().trimmed() == name) lines.removeFirst();
+    if (lines.size() > 1 && lines.first().simplified() == name.simplified()) lines.removeFirst();
     return lines.join(u' ');
 }
 

@@ -49,7 +49,8 @@ QString plainText(QStringView text, int enough) {
 
 bool beginsWithHeading(QStringView text, const QString& name) {
     const QString begin = plainText(text, static_cast<int>(name.size()) + 1);
-    return begin.section(u'\n', 0, 0).trimmed() == name.trimmed();
+    // Blanks that hold words together are blanks all the same.
+    return begin.section(u'\n', 0, 0).simplified() == name.simplified();
 }
 
 }  // namespace sarne

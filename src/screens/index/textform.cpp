@@ -12,9 +12,10 @@ namespace sarne {
 namespace {
 
 constexpr QRect kPaper = BarForm::kContent;
-constexpr int kMargin = 330;  // of paper around the text
-constexpr QRect kText{kPaper.x() + kMargin, kPaper.y() + kMargin / 2,
-                      kPaper.width() - 2 * kMargin - TextView::kArrowRoom, kPaper.height() - kMargin};
+constexpr int kMargin = 180;            // of paper around the view
+constexpr QPoint kTextStart(180, 105);  // in the view: room for the ring that shows where the keyboard is
+constexpr QRect kText{kPaper.x() + kMargin, kPaper.y() + kMargin,
+                      kPaper.width() - 2 * kMargin - TextView::kArrowRoom, kPaper.height() - 2 * kMargin};
 
 }  // namespace
 
@@ -35,6 +36,8 @@ void TextForm::showText(const QString& name, const QString& text, const QString&
     text_ = text;
     setTitle(beginsWithHeading(text, name) ? kind : name);
     view_.Cls();
+    view_.setCurrentX(kTextStart.x());
+    view_.setCurrentY(kTextStart.y());
     view_.drawRichText(text);
     view_.scrollTo(0);
     view_.setAccessibleName(name);
