@@ -3,10 +3,14 @@
 #include "richtext/rtfpainter.h"
 
 namespace sarne {
+namespace {
 
+/// Where a text goes: from the surface's current position to before its right edge.
 LayoutArea layoutArea(const Surface& surface) {
     return {surface.currentX(), surface.scaleWidth() - basZobrazRtfSarne::kRightMargin, surface.currentY()};
 }
+
+}  // namespace
 
 void basZobrazRtfSarne::ZobrazRtf(Surface& surface, const QString& text) {
     stop_ = false;

@@ -31,7 +31,4 @@ class basZobrazRtfSarne {
 /// Draws \a text as basZobrazRtfSarne does, for callers that need no link keys.
 void ZobrazRtf(Surface& surface, const QString& text);
 
-/// Where a text goes on \a surface: from its current position to before its right edge.
-LayoutArea layoutArea(const Surface& surface);
-
 }  // namespace sarne
