@@ -6,6 +6,7 @@
 #include "forms/colors.h"
 #include "forms/form.h"
 #include "forms/holdrepeat.h"
+#include "richtext/basZobrazRtfSarne.h"
 
 namespace sarne {
 namespace {
@@ -56,13 +57,15 @@ void TextView::Cls() {
 }
 
 void TextView::drawRichText(const QString& text) {
-    if (text.trimmed().isEmpty()) return;
-    const LayoutArea area{currentX(), twips().width() - kRightMargin, currentY()};
-    const int added = pieces_.add(RtfLayout::of(text, area, metrics_));
-    setCurrentY(pieces_.layout(added).bottom());
+    ZobrazRtf(*this, text);
+}
+
+bool TextView::keepRichText(const RtfLayout& layout) {
+    const int added = pieces_.add(layout);
     addPainted(
         [this, added](QPainter& painter, const QRect& visible) { pieces_.paint(painter, visible, added); },
-        currentY());
+        layout.bottom());
+    return true;
 }
 
 QString TextView::drawnText() const {

@@ -16,7 +16,6 @@ class TextView : public PictureBox {
     Q_OBJECT
   public:
     static constexpr int kArrowRoom = 540;    ///< twips right of the view that the arrows take
-    static constexpr int kRightMargin = 105;  ///< twips between the right limit of texts and the right edge
     using Direction = RichPieces::Direction;
 
     TextView(Form& form, const QString& name);
@@ -30,6 +29,8 @@ class TextView : public PictureBox {
     /// Draws a rich text from the current position on, wrapped before the right edge, and leaves Y below its
     /// last line. A text of blanks draws nothing.
     void drawRichText(const QString& text);
+    TextMetrics* textMetrics() override { return &metrics_; }
+    bool keepRichText(const RtfLayout& layout) override;
     /// Also what the rich texts say, a line for each of theirs.
     QString drawnText() const override;
 
