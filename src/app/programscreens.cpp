@@ -4,6 +4,8 @@
 #include "dialogs/frmdialog.h"
 #include "media/frmnastavhudbu.h"
 #include "media/frmvideo.h"
+#include "print/frmprint.h"
+#include "print/frmsave.h"
 #include "screens/browse/frmfotobig.h"
 #include "screens/browse/frmseznam.h"
 #include "screens/browse/frmsit.h"
@@ -84,8 +86,22 @@ void ProgramScreens::showSponsor(std::int16_t topic, const QString& text) {
     (new frmSponzor(program_))->Zobraz(topic, text);
 }
 
-void ProgramScreens::showPrintSelection(const std::vector<PrintEntry>&, const QString&) {}
-void ProgramScreens::printRecipes(const std::vector<std::int16_t>&) {}
-void ProgramScreens::printText(const QString&, const QString&) {}
+void ProgramScreens::showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) {
+    const auto print = [this](const std::vector<std::int16_t>& ids) { printRecipes(ids); };
+    (new frmSave(program_, entries, print))->Zobraz(mode);
+}
+
+frmPrint& ProgramScreens::printForm() {
+    if (!print_ || !print_->isLoaded()) print_ = new frmPrint(program_, program_.platform().printer);
+    return *print_;
+}
+
+void ProgramScreens::printRecipes(const std::vector<std::int16_t>& ids) {
+    printForm().Zobraz(ids);
+}
+
+void ProgramScreens::printText(const QString& title, const QString& text) {
+    printForm().ZobrazTexty({{title, text}});
+}
 
 }  // namespace sarne

@@ -12,7 +12,7 @@ namespace {
 QStringList printedLines(basSarne& run, int id, const PrintOptions& options) {
     SilentProgress silent;
     QtTextMetrics metrics;
-    const PageScale a4{0, 0, 11400, 16400};
+    const PageScale a4{0, 0, 11400, 16400, {}};
     PageComposer composer({run.Db(), [](const QString&) { return Picture(); }, run.Locale, {}}, a4, metrics);
     QStringList lines;
     int baseline = -1;

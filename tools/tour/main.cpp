@@ -6,6 +6,7 @@
 
 #include "app/program.h"
 #include "platform/mpvcontrol.h"
+#include "platform/systemprinter.h"
 #include "tour.h"
 
 namespace sarne {
@@ -106,8 +107,10 @@ int main(int argc, char** argv) {
     MpvControl music;
     TourDisplay display;
     NoSleepInhibitor sleep;
-    const PlatformParts parts{settings, clock,   effects, beeper,
-                              music,    display, sleep,   [] { return std::make_unique<MpvControl>(); },
+    SystemPrinter printer(folder.path());
+    const PlatformParts parts{settings, clock,   effects,
+                              beeper,   music,   display,
+                              sleep,    printer, [] { return std::make_unique<MpvControl>(); },
                               {}};
     Program run(parts, {folder.path(), folder.path()});
     run.Locale = QLocale(QLocale::Czech, QLocale::CzechRepublic);
