@@ -2,11 +2,11 @@
 
 #include <QKeyEvent>
 
+#include "forms/backgroundmusic.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
-#include "media/musictrack.h"
 
 namespace sarne {
 namespace {

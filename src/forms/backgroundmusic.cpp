@@ -1,4 +1,4 @@
-#include "media/musictrack.h"
+#include "forms/backgroundmusic.h"
 
 #include "forms/bassarne.h"
 #include "platform/multimediacontrol.h"
