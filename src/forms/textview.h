@@ -10,12 +10,13 @@
 namespace sarne {
 
 /// A drawing surface that also shows rich texts. Their link phrases can be pointed at, clicked, and stepped
-/// through with the keyboard. Content taller than the view scrolls: by the wheel, the keys, and two arrows
-/// that the view puts right of itself; its owner leaves kArrowRoom for them.
+/// through with the keyboard. It stands on paper. Content taller than the view fades out where there is more
+/// of it, and scrolls: by the wheel, the keys, and two arrows that the view puts right of itself; its owner
+/// leaves kArrowRoom for them.
 class TextView : public PictureBox {
     Q_OBJECT
   public:
-    static constexpr int kArrowRoom = 540;    ///< twips right of the view that the arrows take
+    static constexpr int kArrowRoom = 540;  ///< twips right of the view that the arrows take
     using Direction = RichPieces::Direction;
 
     TextView(Form& form, const QString& name);
@@ -66,6 +67,7 @@ class TextView : public PictureBox {
 
   private:
     void updateArrows();
+    void paintFade(QPainter& painter, int edge, int inside) const;
     std::optional<int> linkAt(QPointF pixels) const;
     void point(std::optional<int> link);
     void open(std::optional<int> link);

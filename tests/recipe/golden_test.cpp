@@ -12,7 +12,9 @@ namespace {
 QStringList printedLines(basSarne& run, int id, const PrintOptions& options) {
     SilentProgress silent;
     QtTextMetrics metrics;
-    const PageScale a4{0, 0, 11400, 16400, {}};
+    PageScale a4;
+    a4.width = 11400;
+    a4.height = 16400;
     PageComposer composer({run.Db(), [](const QString&) { return Picture(); }, run.Locale, {}}, a4, metrics);
     QStringList lines;
     int baseline = -1;

@@ -25,7 +25,7 @@ constexpr QRect barButton(int index) {
     return {7530 + index * 880, 8100, 790, 750};
 }
 
-inline constexpr QRect kView{2880, 1590, 8400, 6150};      ///< the drawing surface
+inline constexpr QRect kView{2880, 1590, 8400, 6150};  ///< the drawing surface
 inline constexpr QRect kPhotoView{2820, 1590, 8820, 6150};
 inline constexpr QRect kListView{2880, 2520, 8400, 5220};  ///< below the cutlery
 constexpr QRect cutlery(int position) {
