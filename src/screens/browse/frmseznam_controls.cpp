@@ -188,8 +188,8 @@ void frmSeznam::paintGround(QPainter& painter) const {
     app().Pictures.seznam.draw(painter, screen, Fit::Cover);
     if (app().Pictures.seznam.isNull()) {
         for (const QRect& plate : {seznam::kHeader, seznam::kSide, seznam::kFoot}) paintPlate(painter, plate);
-        paintPaper(painter, seznam::kSheet);
     }
+    paintSheet(painter, seznam::kSheet);
     paintPlate(painter, seznam::kPanel);
     if (!pages_.scrolls()) return;
     paintPlate(painter, seznam::kArrowPlate);
