@@ -23,8 +23,7 @@ frmSeznam::frmSeznam(basSarne& run)
       lblHint(*this, QStringLiteral("lblHint")),
       imgJablko(*this, QStringLiteral("imgJablko")),
       picFoto(*this, QStringLiteral("picFoto")),
-      lblVino(*this, QStringLiteral("lblVino")),
-      Timer2(this) {
+      lblVino(*this, QStringLiteral("lblVino")) {
     buildList();
     buildPanel();
     buildBar();

@@ -7,7 +7,6 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/picturebox.h"
-#include "forms/timer.h"
 #include "screens/browse/frmrychlyrecept.h"
 #include "screens/browse/ground.h"
 #include "screens/browse/lettersearch.h"
@@ -90,7 +89,6 @@ class frmSeznam : public Form {
     Panel panelMode_ = Panel::Photo;
     int focusedButton_ = 0;
     int wheel_ = 0;
-    bool heldArrow_ = false;
 
     Ground ground_;
     int markedRow_ = 0;  // the row that is painted as selected
@@ -102,7 +100,6 @@ class frmSeznam : public Form {
     std::vector<PictureBox*> ImgTlacitko;
     std::vector<PictureButton*> imgBtn, imgBtnHlavni, imgSipky;
     std::vector<Label*> words_;
-    Timer Timer2;
     QPointer<frmRychlyRecept> quickWindow_;
 };
 

@@ -3,9 +3,9 @@
 #include <QWheelEvent>
 #include <algorithm>
 
-#include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/holdrepeat.h"
 #include "forms/ninepatch.h"
 #include "forms/resources.h"
 #include "screens/browse/frmseznam.h"
@@ -15,8 +15,7 @@
 namespace sarne {
 namespace {
 
-constexpr int kHoldDelay = 500;    // milliseconds until a held arrow scrolls on
-constexpr int kHoldInterval = 50;  // and between its steps
+constexpr int kHoldInterval = 50;  // milliseconds between the steps of a held arrow
 constexpr int kWheelNotch = 120;   // what the wheel reports for one notch
 
 constexpr int kPlateBorder = 130;  // thickness of a button plate's edge, twips
@@ -49,13 +48,6 @@ void frmSeznam::buildList() {
     imgJablko.setPicture(app().resources().picture(QStringLiteral("Jablko")));
     imgJablko.setAttribute(Qt::WA_TransparentForMouseEvents);
     for (int arrow = 0; arrow < seznam::kArrows; ++arrow) connectArrow(arrow);
-    connect(&Timer2, &Timer::tick, this, [this] {
-        // A screen that has come over the list gets the mouse: nobody will say that the arrow is let go.
-        if (app().FormStack.top() != this) return Timer2.setEnabled(false);
-        heldArrow_ = true;
-        Timer2.setInterval(kHoldInterval);
-        scroll(static_cast<int>(leadingNumber(Timer2.tag())));
-    });
 }
 
 void frmSeznam::connectRow(int row) {
@@ -86,16 +78,8 @@ void frmSeznam::connectArrow(int arrow) {
     const auto step = [this, arrow] {
         return arrow == 0 ? 1 : arrow == 1 ? -1 : pages_.halfPage(arrow == 2 ? -1 : 1);
     };
-    connect(button, &Control::pressed, this, [this, step] {
-        heldArrow_ = false;
-        Timer2.setTag(QString::number(step()));
-        Timer2.setInterval(kHoldDelay);
-        Timer2.setEnabled(true);
-    });
-    connect(button, &Control::released, this, [this] { Timer2.setEnabled(false); });
-    connect(button, &Control::clicked, this, [this, step] {
-        if (!heldArrow_) scroll(step());
-    });
+    auto* held = new HoldRepeat(*button, [this, step] { scroll(step()); });
+    held->setInterval(kHoldInterval);
     imgSipky.push_back(button);
 }
 
@@ -204,8 +188,8 @@ void frmSeznam::paintGround(QPainter& painter) const {
     app().Pictures.seznam.draw(painter, screen, Fit::Cover);
     if (app().Pictures.seznam.isNull()) {
         for (const QRect& plate : {seznam::kHeader, seznam::kSide, seznam::kFoot}) paintPlate(painter, plate);
-        paintPaper(painter, seznam::kSheet);
     }
+    paintSheet(painter, seznam::kSheet);
     paintPlate(painter, seznam::kPanel);
     if (!pages_.scrolls()) return;
     paintPlate(painter, seznam::kArrowPlate);

@@ -24,6 +24,14 @@ void paintPaper(QPainter& painter, const QRectF& place) {
     paintRounded(painter, place, colors::kPaper, 246);
 }
 
+void paintSheet(QPainter& painter, const QRectF& place) {
+    QColor color = colors::kPaper;
+    color.setAlpha(150);
+    painter.setBrush(color);
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(place, kRounding / 2., kRounding / 2.);
+}
+
 void Ground::draw(QPainter& painter, const QRect& place, const std::function<void(QPainter&)>& paint) {
     const double ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1;
     const QRect pixels = painter.combinedTransform().mapRect(QRectF(place)).toAlignedRect();

@@ -12,6 +12,8 @@ namespace sarne {
 void paintPlate(QPainter& painter, const QRectF& place);
 /// A calm light ground behind dark texts.
 void paintPaper(QPainter& painter, const QRectF& place);
+/// A thin sheet of paper that lets the picture below show through, yet keeps dark texts readable on any.
+void paintSheet(QPainter& painter, const QRectF& place);
 
 /// What lies behind a screen's controls and seldom changes, kept as it was painted: painting a part of the
 /// screen anew then copies that part.
