@@ -26,6 +26,23 @@ QString recipeName(Database& db, int id) {
     return RecordExists(recipes, id) ? recipes.field(QStringLiteral("Nazev")).toString() : QString();
 }
 
+QString outcomeText(const PrintOutcome& outcome) {
+    using Kind = PrintOutcome::Kind;
+    const QString where =
+        outcome.file.isEmpty() ? QString() : QStringLiteral("\nStrany jsou v souboru ") + outcome.file;
+    switch (outcome.kind) {
+        case Kind::Printed:
+            return QStringLiteral("Tisk je hotov, počet stran: %1.").arg(outcome.pages) + where;
+        case Kind::Stopped:
+            return QStringLiteral("Tisk byl přerušen.") + where;
+        case Kind::Failed:
+            return QStringLiteral("Tisk se nezdařil: tiskárna neodpovídá nebo na disku není místo.");
+        case Kind::Nothing:
+            return QStringLiteral("Není co tisknout.");
+    }
+    return {};
+}
+
 }  // namespace
 
 void frmPrint::Zobraz(const std::vector<std::int16_t>& selection) {
@@ -167,21 +184,8 @@ void frmPrint::showOthers() {
 }
 
 void frmPrint::showOutcome(const PrintOutcome& outcome) {
-    using Kind = PrintOutcome::Kind;
-    const QString where =
-        outcome.file.isEmpty() ? QString() : QStringLiteral("\nStrany jsou v souboru ") + outcome.file;
-    switch (outcome.kind) {
-        case Kind::Printed:
-            return lblVysledek.setText(QStringLiteral("Tisk je hotov, počet stran: %1.").arg(outcome.pages) +
-                                       where);
-        case Kind::Stopped:
-            return lblVysledek.setText(QStringLiteral("Tisk byl přerušen.") + where);
-        case Kind::Failed:
-            return lblVysledek.setText(
-                QStringLiteral("Tisk se nezdařil: tiskárna neodpovídá nebo na disku není místo."));
-        case Kind::Nothing:
-            return lblVysledek.setText(QStringLiteral("Není co tisknout."));
-    }
+    lblVysledek.setText(outcomeText(outcome));
+    app().HookMessage(lblVysledek.text());
 }
 
 void frmPrint::askToStop() {
