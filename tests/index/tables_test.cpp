@@ -105,6 +105,13 @@ TEST_F(TablesTest, TheKeyboardReachesEveryLetter) {
     EXPECT_EQ(run.window.focusWidget(), child(*form, "imgBtnHlavni(0)"));
 }
 
+TEST_F(TablesTest, AClickAnywhereInARowOfTheIndexOpensIt) {
+    show(kKeywordIndexItem);
+    clickCell(2, 1);
+    EXPECT_EQ(run.recorded.calls, QStringList{u("showIndex 3")});
+    EXPECT_EQ(position(), u("3 z 54"));
+}
+
 TEST_F(TablesTest, ArrowsScrollByARowAndByHalfAPage) {
     show(kKeywordIndexItem);
     const auto arrow = [this](int i) {

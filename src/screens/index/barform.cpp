@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/resources.h"
 #include "forms/stage.h"
@@ -119,7 +118,9 @@ void BarForm::moveFocus(int step) {
     const int count = static_cast<int>(order.size());
     const auto at = std::find(order.begin(), order.end(), focused());
     const int from = at == order.end() ? (step > 0 ? -1 : 0) : static_cast<int>(at - order.begin());
-    focus(*order[static_cast<size_t>((from + step + count) % count)]);
+    Control& next = *order[static_cast<size_t>((from + step + count) % count)];
+    focus(next);
+    app().HookMessage(next.accessibleName());
 }
 
 bool BarForm::keyDown(QKeyEvent& event) {

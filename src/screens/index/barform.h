@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "forms/bassarne.h"
 #include "forms/button.h"
 #include "forms/form.h"
 #include "forms/label.h"
@@ -50,6 +51,7 @@ class BarForm : public Form {
     virtual void paintGround(QPainter& painter);
 
     bool keyDown(QKeyEvent& event) override;
+    void gotFocus() override { app().BringTopToFront(name()); }
     void paint(QPainter& painter) override;
 
   private:

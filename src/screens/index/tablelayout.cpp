@@ -1,6 +1,8 @@
 #include "screens/index/tablelayout.h"
 
+#include <QFontMetricsF>
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 #include "forms/label.h"
@@ -8,10 +10,13 @@
 namespace sarne {
 namespace {
 
-int widestWord(const QString& text, const TextFont& font) {
+int width(const QString& text, const QFontMetricsF& metrics) {
+    return static_cast<int>(std::ceil(metrics.horizontalAdvance(text)));
+}
+
+int widestWord(const QString& text, const QFontMetricsF& metrics) {
     int widest = 0;
-    for (const QString& word : text.split(u' '))
-        widest = std::max(widest, Label::measure(word, font).width());
+    for (const QString& word : text.split(u' ')) widest = std::max(widest, width(word, metrics));
     return widest;
 }
 
@@ -20,21 +25,21 @@ struct Wish {
     int least = 0;
     int natural = 0;
 
-    void add(const QString& text, const TextFont& font) {
+    void add(const QString& text, const QFontMetricsF& metrics) {
         constexpr int kBoth = 2 * TableLayout::kPadding;
-        least = std::max(least, widestWord(text, font) + kBoth);
-        natural = std::max(natural, Label::measure(text, font).width() + kBoth);
+        least = std::max(least, widestWord(text, metrics) + kBoth);
+        natural = std::max(natural, width(text, metrics) + kBoth);
     }
 };
 
 std::vector<Wish> wishes(const LookupTable& table, const TextFont& font, const TextFont& headFont) {
+    const QFontMetricsF plain(font.toQFont()), bold(headFont.toQFont());
     std::vector<Wish> all(static_cast<size_t>(table.columns.size()));
     for (size_t column = 0; column < all.size(); ++column) {
         const auto index = static_cast<qsizetype>(column);
-        all[column].add(table.columns[index], headFont);
+        all[column].add(table.columns[index], bold);
         // The first cell may be a link, which is bold.
-        for (const LookupRow& row : table.rows)
-            all[column].add(row.cells[index], column == 0 ? headFont : font);
+        for (const LookupRow& row : table.rows) all[column].add(row.cells[index], column == 0 ? bold : plain);
     }
     return all;
 }
@@ -70,14 +75,11 @@ std::vector<int> columnWidths(const std::vector<Wish>& wishes, int width, Lookup
     return widths;
 }
 
-int rowHeight(const QStringList& cells, const std::vector<int>& widths, const TextFont& font,
-              LookupTable::Rows rows) {
+int rowHeight(const QStringList& cells, const std::vector<int>& widths, const TextFont& font) {
     int height = 0;
     for (size_t column = 0; column < widths.size(); ++column) {
-        const QString& text = cells[static_cast<qsizetype>(column)];
-        const int room =
-            rows == LookupTable::Rows::OneLine ? 0 : std::max(1, widths[column] - 2 * TableLayout::kPadding);
-        height = std::max(height, Label::measure(text, font, room).height());
+        const int room = std::max(1, widths[column] - 2 * TableLayout::kPadding);
+        height = std::max(height, Label::measure(cells[static_cast<qsizetype>(column)], font, room).height());
     }
     return height + 2 * TableLayout::kLeading;
 }
@@ -93,9 +95,11 @@ TableLayout TableLayout::of(const LookupTable& table, int width, const TextFont&
         layout.lefts.push_back(left);
         left += column;
     }
-    layout.headHeight = rowHeight(table.columns, layout.widths, headFont, LookupTable::Rows::Wrapped);
+    layout.headHeight = rowHeight(table.columns, layout.widths, headFont);
+    const int oneLine = Label::measure(QStringLiteral("T"), font).height() + 2 * kLeading;
     for (const LookupRow& row : table.rows)
-        layout.heights.push_back(rowHeight(row.cells, layout.widths, font, table.layout));
+        layout.heights.push_back(
+            table.layout == LookupTable::Rows::OneLine ? oneLine : rowHeight(row.cells, layout.widths, font));
     return layout;
 }
 

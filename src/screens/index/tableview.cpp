@@ -81,8 +81,10 @@ int TableView::rowAt(QPoint at) const {
 
 int TableView::linkAt(QPoint at) const {
     const int row = rowAt(at);
-    const bool opens = row != RowPaging::kNone && table_.rows[static_cast<size_t>(row)].keyword != 0;
-    return opens && cellRect(row, 0).contains(at) ? row : RowPaging::kNone;
+    if (row == RowPaging::kNone || table_.rows[static_cast<size_t>(row)].keyword == 0)
+        return RowPaging::kNone;
+    // Of an index the whole row is the link; of a table the name, so that a row can be marked while reading.
+    return table_.hasLetters || cellRect(row, 0).contains(at) ? row : RowPaging::kNone;
 }
 
 void TableView::mousePressEvent(QMouseEvent* event) {

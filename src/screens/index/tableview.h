@@ -7,8 +7,8 @@
 
 namespace sarne {
 
-/// Shows a table, one of its rows selected. A click selects a row; a double click, or a click on the first
-/// cell of a row that opens a keyword, opens it. Scrolls by whole rows.
+/// Shows a table, one of its rows selected. A click selects a row; a double click, or a click on the name of
+/// a row that has a keyword, opens it; in an index a click anywhere in the row does. Scrolls by whole rows.
 class TableView : public Control {
     Q_OBJECT
   public:
@@ -57,7 +57,7 @@ class TableView : public Control {
   private:
     void changed(bool something);
     int rowAt(QPoint twips) const;
-    /// The row whose first cell is at \a twips and opens a keyword, or none.
+    /// The row that a click at \a twips opens, or none.
     int linkAt(QPoint twips) const;
     void setHovered(int row);
     void paintHead(QPainter& painter) const;
