@@ -172,7 +172,7 @@ void makePhotos(Workshop& shop) {
         shop.problems.note(
             QStringLiteral("art/rendered/dishes lacks %1").arg(missing.join(QStringLiteral(", "))));
     makeGrid(shop);
-    makeOne(shop, QStringLiteral("rendered/pozadi/vino"), QStringLiteral("foto/vino256.bmp"), {400, 300},
+    makeOne(shop, QStringLiteral("rendered/prvky/vino256"), QStringLiteral("foto/vino256.bmp"), {400, 300},
             QStringLiteral("Víno"));
     for (const GalleryPicture& picture : shop.book.gallery)
         makeOne(shop, QStringLiteral("rendered/sponzor/%1").arg(picture.id),
