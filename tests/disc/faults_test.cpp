@@ -148,10 +148,26 @@ INSTANTIATE_TEST_SUITE_P(
               "menu.txt:4: menu row \"61\""},
         Fault{"actionToNowhere", "menu.txt", "=> nikam", "",
               "menu.txt:6: menu row \"121\" (Napište název): it leads nowhere"},
+        Fault{"unreachableRecipe", kRecipe, "ryba: pstruh\n", "",
+              "menu row \"211\": a submenu without items"},
         Fault{"unreachableQuick", "menu.txt", "téma 2: Ryby\n  Pstruh => pstruh\n", "",
               "rychle.txt:1: the menu does not lead to"},
         Fault{"noQuickRecipes", "rychle.txt", "1 | Pstruh za chvíli | 6", "",
               "menu row \"212\": a submenu without items"}));
+
+INSTANTIATE_TEST_SUITE_P(Galleries, FaultTest,
+                         testing::Values(Fault{"outside", "sponzor.txt", "20 300 300 180", "20 300 300 780",
+                                               "sponzor.txt:4: the area must lie within"},
+                                         Fault{"areaToNowhere", "sponzor.txt", "| pstruh", "| kapr",
+                                               "sponzor.txt:3: there is no \"kapr\""},
+                                         Fault{"namelessArea", "sponzor.txt", "| Talíř |", "| |",
+                                               "sponzor.txt:4: an area without a name"},
+                                         Fault{"emptyArea", "sponzor.txt", "Na talíř se vejde celý pstruh.",
+                                               "", "sponzor.txt:4: an area with neither"},
+                                         Fault{"missingTopic", "sponzor.txt", "== 13 | 13", "== 13 | 12",
+                                               "sponzor.txt:0: topic 13 has no picture"},
+                                         Fault{"gallerySpelling", "sponzor.txt", "talíř se", "tlaíř se",
+                                               "sponzor.txt:5: a word that the dictionary"}));
 
 }  // namespace
 }  // namespace sarne::disc
