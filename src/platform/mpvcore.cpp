@@ -33,7 +33,7 @@ constexpr std::pair<const char*, const char*> playerOptions[] = {
     {"keep-open", "yes"},
     {"hr-seek", "yes"},
     // The desktop's sound, or none; then time passes all the same.
-    {"ao", "pipewire,pulse,alsa"},
+    {"ao", "pulse,alsa"},
     {"audio-fallback-to-null", "yes"},
     {"audio-client-name", "sarne"},
     {"audio-display", "no"},
