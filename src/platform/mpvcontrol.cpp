@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QPointer>
 #include <QTimer>
@@ -76,7 +77,9 @@ class MpvControl::Private {
     void handle(const mpv_event& event);
     void replied(const mpv_event& event);
     void ended(const mpv_event_end_file& event);
+    void lost();
     void restarted();
+    bool loopsInVain();
     void changed(const mpv_event_property& property);
     void finish();
     void endSoon();
@@ -93,6 +96,8 @@ class MpvControl::Private {
     bool entryStarted_ = false;
     bool playWhenOpen_ = false;
     bool atEnd_ = false;
+    QElapsedTimer sinceRestart_;
+    int quickRestarts_ = 0;
     qint64 filmPosition_ = 0;
     std::optional<qint64> target_;  // where a seek that is under way goes
 };
@@ -357,6 +362,11 @@ void MpvControl::Private::replied(const mpv_event& event) {
 void MpvControl::Private::ended(const mpv_event_end_file& event) {
     if (event.playlist_entry_id != entry_) return;
     if (opening_) return openFailed(MediaError::InvalidFile);
+    lost();
+}
+
+/// What was open is there no longer.
+void MpvControl::Private::lost() {
     const bool wasActive = isActive();
     mode_ = MediaMode::NotOpen;
     close();
@@ -364,8 +374,19 @@ void MpvControl::Private::ended(const mpv_event_end_file& event) {
     if (wasActive) notify(MediaDone::Failed);
 }
 
+/// Whether a file that loops does so without playing anything, as when its disc was taken out.
+bool MpvControl::Private::loopsInVain() {
+    constexpr int soonMs = 50;
+    constexpr int patience = 20;
+    const bool soon = !target_ && sinceRestart_.isValid() && sinceRestart_.elapsed() < soonMs;
+    quickRestarts_ = soon ? quickRestarts_ + 1 : 0;
+    sinceRestart_.start();
+    return quickRestarts_ > patience;
+}
+
 void MpvControl::Private::restarted() {
     if (opening_) return opened();
+    if (loopsInVain()) return lost();
     target_.reset();
     core_->askForEnd();  // a short file may have ended again before its last end was noticed to be over
 }
