@@ -93,7 +93,7 @@ print("SET", round(time.time() - t, 1), flush=True)
 if a[0] == "nahled":
     core.render(a[1], int(a[2]), int(a[2]) * 3 // 4, int(a[3]))
 elif a[0] == "pozadi":
-    core.render(os.path.join(OUT, "pozadi.jpg"), WIDTH, HEIGHT, int(a[1]) if len(a) > 1 else 72, quality=90)
+    core.render(os.path.join(OUT, "pozadi.jpg"), WIDTH, HEIGHT, int(a[1]) if len(a) > 1 else 48, quality=90, key=open(H.__file__, encoding="utf-8").read())
 else:
     frames(int(a[1]) if len(a) > 1 else 32, [int(x) for x in a[2:]], P)
 print("DONE", round(time.time() - t, 1))

@@ -310,7 +310,7 @@ def main(names):
         core.start(5)
         globals()[n]()
         w, h = SIZES.get(n, (1600, 1200))
-        core.render(target(n), w, h, samples or SAMPLES.get(n, 10), quality=88, strength=1.0)
+        core.render(target(n), w, h, samples or SAMPLES.get(n, 10), quality=88, key=n + str(os.path.getmtime(__file__)))
         print("DONE", n, flush=True)
 
 

@@ -647,14 +647,13 @@ def _outputs(folder):
         nt.links.new(rl.outputs[sock], out.inputs[slot + "_"])
 
 
-def render_linear(width, height, samples, region=None, strength=1.0, radius=7):
-    """Linear RGBA pixels (bottom row first) without grain. region: (x0, y0, x1, y1) pixels from the top left."""
+def _raw(width, height, samples, region):
+    """Grainy colour with alpha, surface colour and normal of a region (all of the picture when None)."""
     r = scene.render
     r.resolution_x, r.resolution_y, r.resolution_percentage = width, height, 100
     scene.cycles.samples = samples
     scene.cycles.adaptive_min_samples = max(8, samples // 3)
-    r.use_border = region is not None
-    r.use_crop_to_border = region is not None
+    r.use_border = r.use_crop_to_border = region is not None
     if region:
         x0, y0, x1, y1 = region
         r.border_min_x, r.border_max_x = x0 / width, x1 / width
@@ -665,20 +664,48 @@ def render_linear(width, height, samples, region=None, strength=1.0, radius=7):
         r.image_settings.file_format = "OPEN_EXR"
         bpy.ops.render.render(write_still=False)
         n = f"{scene.frame_current:04d}.exr"
-        im, al, no = (np.ascontiguousarray(_load(os.path.join(folder, s + "_" + n))) for s in ("image", "albedo", "normal"))
-    alpha = im[:, :, 3].copy()
-    if r.film_transparent:
-        a = np.maximum(alpha, 1e-4)[:, :, None]
-        im[:, :, :3] = im[:, :, :3] / a
-    c = np.ascontiguousarray(im[:, :, :3])
-    a3 = np.ascontiguousarray(np.clip(al[:, :, :3], 0, 1))
-    n3 = np.ascontiguousarray(no[:, :, :3])
+        return [_load(os.path.join(folder, s + "_" + n)) for s in ("image", "albedo", "normal")]
+
+
+def _clean(im, al, no, strength, radius):
+    """The grain filter over the three pictures; straight (not multiplied) colour and alpha."""
+    alpha = im[:, :, 3].astype(np.float32)
+    c = np.ascontiguousarray(im[:, :, :3], np.float32)
+    if scene.render.film_transparent:
+        c /= np.maximum(alpha, 1e-4)[:, :, None]
+    a3 = np.ascontiguousarray(np.clip(al[:, :, :3], 0, 1), np.float32)
+    n3 = np.ascontiguousarray(no[:, :, :3], np.float32)
     a3[(a3.sum(axis=2) < 0.02)] = 1
     fp = ctypes.POINTER(ctypes.c_float)
     if strength > 0:
         _filter().denoise(c.ctypes.data_as(fp), a3.ctypes.data_as(fp), n3.ctypes.data_as(fp), c.shape[1], c.shape[0],
                           ctypes.c_float(strength), radius)
     return np.dstack([c, alpha])
+
+
+def render_linear(width, height, samples, region=None, strength=1.0, radius=7):
+    """Linear RGBA pixels (bottom row first) without grain. region: (x0, y0, x1, y1) pixels from the top left."""
+    return _clean(*_raw(width, height, samples, region), strength, radius)
+
+
+def render_strips(width, height, samples, key, strength=1.0, radius=7, strips=6):
+    """As render_linear, in strips that are kept under key until all are there, so that a stopped render goes on later."""
+    tag = hashlib.sha1(f"{key} {width} {height} {samples} {strips}".encode()).hexdigest()[:16]
+    folder = os.path.join(BUILD, "strips")
+    os.makedirs(folder, exist_ok=True)
+    scene.render.use_persistent_data = True
+    names = [os.path.join(folder, f"{tag}-{k}.npz") for k in range(strips)]
+    for k, name in enumerate(names):
+        if not os.path.exists(name):
+            parts = _raw(width, height, samples, (0, height * k // strips, width, height * (k + 1) // strips))
+            np.savez(name + ".part.npz", *[p.astype(np.float16) for p in parts])
+            os.rename(name + ".part.npz", name)
+    loaded = [np.load(n) for n in names]
+    whole = [np.concatenate([z[f"arr_{i}"] for z in reversed(loaded)]).astype(np.float32) for i in range(3)]
+    px = _clean(*whole, strength, radius)
+    for n in names:
+        os.remove(n)
+    return px
 
 
 def save(pixels, path, quality=88, alpha=False):
@@ -702,9 +729,11 @@ def save(pixels, path, quality=88, alpha=False):
     bpy.data.images.remove(im)
 
 
-def render(path, width, height, samples, alpha=False, quality=88, strength=1.0):
+def render(path, width, height, samples, alpha=False, quality=88, strength=1.0, key=None):
+    """Renders the scene into a file; with a key (a text that names the scene) in strips that survive a stop."""
     scene.render.film_transparent = alpha
-    save(render_linear(width, height, samples, strength=strength), path, quality, alpha)
+    px = render_strips(width, height, samples, path + key, strength) if key else render_linear(width, height, samples, strength=strength)
+    save(px, path, quality, alpha)
 
 
 def arguments():
