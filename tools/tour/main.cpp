@@ -51,7 +51,7 @@ bool copyProgramFolder(const QString& from, const QString& to) {
 }
 
 int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QString& run,
-           bool accept) {
+           const QString& expectedFile, bool accept) {
     QFile texts(pictures.filePath(QStringLiteral("tour.txt")));
     // The folder that the tour runs in has another name every time.
     const QByteArray shown = tour.texts().replace(run, QStringLiteral("…")).toUtf8();
