@@ -51,5 +51,6 @@ int main(int argc, char** argv) {
     program.stage().setWindowTitle(QStringLiteral("Velisa sarn"));
     program.stage().showFullScreen();
     if (!program.Main(commandLine(application)) || program.hasEnded()) return 0;
+    effects.prepare();
     return QApplication::exec();
 }
