@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QPainter>
 #include <QRandomGenerator>
 
@@ -97,13 +98,53 @@ void BM_RecipesToPages(benchmark::State& state) {
     int pages = 0;
     for (auto _ : state) {
         QtTextMetrics metrics;
-        PageComposer composer(book.source(), {0, 0, 10772, 15704}, metrics);
+        PageComposer composer(book.source(), {0, 0, 10772, 15704, {}}, metrics);
         for (const std::int16_t id : allRecipes())
             pages += static_cast<int>(composer.recipe(id, {}, silent).pages.size());
     }
     count(state, pages);
 }
 
+/// Notes the longest time that passes without the user being asked.
+class WatchedProgress final : public PrintProgress {
+  public:
+    double longestGap = 0;  // milliseconds
+
+    WatchedProgress() { timer_.start(); }
+    void recipeStarted(const QString&) override {}
+    void status(const QString&) override {}
+    void sectionDone() override {}
+    void recipeDone() override {}
+    bool goOn() override {
+        longestGap = std::max(longestGap, double(timer_.nsecsElapsed()) / 1e6);
+        timer_.restart();
+        return true;
+    }
+
+  private:
+    QElapsedTimer timer_;
+};
+
+/// A note of a megabyte: how long a wish to stop may wait.
+void BM_LongestWaitToStop(benchmark::State& state) {
+    QRandomGenerator random(3);
+    const bool words = state.range(0) == 1;
+    const QString note = words ? prose(1 << 20, random) : QString(1 << 20, u'm');
+    PrintCookbook book({PrintCookbook::recipe(1, str("Lín"), {str("Vlastni"), note})});
+    double longest = 0;
+    for (auto _ : state) {
+        WatchedProgress watched;
+        SystemPrinter printer(book.folder.filePath(str("Dokumenty")));
+        printer.setPrinter({});
+        QtTextMetrics metrics;
+        PageComposer composer(book.source(), printer.scale(), metrics);
+        PrintJob(printer, composer, watched).print({1}, {});
+        longest = std::max(longest, watched.longestGap);
+    }
+    state.counters["longest_wait_ms"] = longest;
+}
+
+BENCHMARK(BM_LongestWaitToStop)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_RecipesToPdf)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_RecipesToPages)->Unit(benchmark::kMillisecond);
 

@@ -1,9 +1,12 @@
 #include "app/frmsplash.h"
 
+#include <QEventLoop>
 #include <QPainter>
 
+#include "app/displayquestions.h"
 #include "app/program.h"
 #include "forms/colors.h"
+#include "media/videoarea.h"
 #include "richtext/surface.h"
 
 namespace sarne {
@@ -19,6 +22,8 @@ Picture pictureOf(const Recordset& records) {
 
 frmSplash::frmSplash(Program& program) : Form(program, QStringLiteral("frmSplash")), program_(program) {}
 
+frmSplash::~frmSplash() = default;
+
 void frmSplash::setCaption(const QString& caption) {
     caption_ = caption;
     setAccessibleName(caption);
@@ -27,9 +32,61 @@ void frmSplash::setCaption(const QString& caption) {
 
 bool frmSplash::Zobraz() {
     showForm();
+    repaint();
+    if (!checkDisplay() || !checkFonts()) return false;
     preparePictures();
+    playIntro();
     readSettings();
     return true;
+}
+
+bool frmSplash::checkDisplay() {
+    const QSize current = program_.platform().display.current();
+    if (current.isEmpty() || current == kDesignResolution) return true;
+    switch (program_.ask(resolutionQuestion(current), kDisplayStyle, kBoxClosed)) {
+        case kAnswerYes:
+            if (program_.platform().display.setMode(kDesignResolution))
+                program_.SavedDisplayMode = resolutionText(current);
+            return true;
+        case kAnswerNo:
+            return program_.ask(resolutionWarning(), kDisplayStyle, kBoxClosed) != kAnswerNo;
+        default:
+            return true;
+    }
+}
+
+bool frmSplash::checkFonts() {
+    if (program_.platform().display.twipsPerPixel() == QSize(15, 15)) return true;
+    return program_.ask(fontQuestion(), kDisplayStyle, kBoxClosed) != kAnswerNo;
+}
+
+void frmSplash::playIntro() {
+    const QString file = app().mediaFile(QStringLiteral("video\\UVOD.AVI"));
+    if (file.isEmpty() || !program_.platform().makePlayer) return;
+    MMControl1 = program_.platform().makePlayer();
+    MMControl1->setFileName(file);
+    MMControl1->setWait(MediaWait::Wait);
+    MMControl1->setNotify(MediaNotify::On);
+    MMControl1->command(u"open");
+    if (MMControl1->error() > 0) return;
+    auto* Picture1 = new VideoArea(*this, QStringLiteral("Picture1"), MMControl1.get());
+    Picture1->setAttribute(Qt::WA_TransparentForMouseEvents);
+    Picture1->place({0, 0, basSarne::ScreenWidthTw, basSarne::ScreenHeightTw});
+    QEventLoop untilEnd;
+    intro_ = &untilEnd;
+    connect(MMControl1.get(), &MultimediaControl::done, this, &frmSplash::KonecVideo);
+    setFocus();
+    MMControl1->command(u"play");
+    if (MMControl1->error() == 0 && intro_) untilEnd.exec();
+    intro_ = nullptr;
+    delete Picture1;
+    MMControl1->setNotify(MediaNotify::Off);
+    MMControl1->command(u"close");
+}
+
+void frmSplash::KonecVideo() {
+    if (intro_) intro_->quit();
+    intro_ = nullptr;
 }
 
 void frmSplash::Konec() {
@@ -62,7 +119,12 @@ void frmSplash::readSettings() {
 }
 
 bool frmSplash::keyDown(QKeyEvent&) {
-    return true;  // there is nothing to do here yet
+    KonecVideo();  // any key
+    return true;
+}
+
+void frmSplash::mousePressEvent(QMouseEvent*) {
+    KonecVideo();
 }
 
 void frmSplash::paint(QPainter& painter) {

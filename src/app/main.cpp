@@ -4,6 +4,7 @@
 #include "app/program.h"
 #include "platform/mpvcontrol.h"
 #include "platform/singleinstance.h"
+#include "platform/systemprinter.h"
 
 namespace {
 
@@ -31,6 +32,7 @@ int main(int argc, char** argv) {
     music.setLoop(MediaLoop::On);
     SystemDisplayModes display;
     DesktopSleepInhibitor sleep;
+    SystemPrinter printer;
     const PlatformParts platform{
         settings,
         clock,
@@ -39,6 +41,7 @@ int main(int argc, char** argv) {
         music,
         display,
         sleep,
+        printer,
         [] { return std::make_unique<MpvControl>(); },
         [](QObject& window) { return std::make_unique<AccessibleAnnouncer>(&window); }};
 

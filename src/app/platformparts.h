@@ -9,6 +9,7 @@
 #include "platform/displaymodes.h"
 #include "platform/effectplayer.h"
 #include "platform/multimediacontrol.h"
+#include "platform/printer.h"
 #include "platform/settingsstore.h"
 #include "platform/sleepinhibitor.h"
 
@@ -24,6 +25,7 @@ struct PlatformParts {
     MultimediaControl& music;
     DisplayModes& display;
     SleepInhibitor& sleep;
+    Printer& printer;
     /// Makes a player for a video. May be empty: then there are no videos.
     std::function<std::unique_ptr<MultimediaControl>()> makePlayer;
     /// Makes the announcer of the program's window.

@@ -2,6 +2,10 @@
 
 #include "app/program.h"
 #include "dialogs/frmdialog.h"
+#include "media/frmnastavhudbu.h"
+#include "media/frmvideo.h"
+#include "print/frmprint.h"
+#include "print/frmsave.h"
 #include "screens/browse/frmfotobig.h"
 #include "screens/browse/frmseznam.h"
 #include "screens/browse/frmsit.h"
@@ -49,6 +53,15 @@ void ProgramScreens::showPhotos(const PhotoRequest& request) {
     (new frmFotoBig(program_))->Zobraz(request);
 }
 
+void ProgramScreens::showVideo(std::int16_t number) {
+    const auto& makePlayer = program_.platform().makePlayer;
+    (new frmVideo(program_, makePlayer ? makePlayer() : nullptr))->Zobraz(number);
+}
+
+void ProgramScreens::showMusicSettings() {
+    (new frmNastavHudbu(program_))->Zobraz();
+}
+
 void ProgramScreens::showPage(const QString& id) {
     (new frmStranka(program_))->Zobraz(id);
 }
@@ -73,10 +86,22 @@ void ProgramScreens::showSponsor(std::int16_t topic, const QString& text) {
     (new frmSponzor(program_))->Zobraz(topic, text);
 }
 
-void ProgramScreens::showVideo(std::int16_t) {}
-void ProgramScreens::showMusicSettings() {}
-void ProgramScreens::showPrintSelection(const std::vector<PrintEntry>&, const QString&) {}
-void ProgramScreens::printRecipes(const std::vector<std::int16_t>&) {}
-void ProgramScreens::printText(const QString&, const QString&) {}
+void ProgramScreens::showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) {
+    const auto print = [this](const std::vector<std::int16_t>& ids) { printRecipes(ids); };
+    (new frmSave(program_, entries, print))->Zobraz(mode);
+}
+
+frmPrint& ProgramScreens::printForm() {
+    if (!print_ || !print_->isLoaded()) print_ = new frmPrint(program_, program_.platform().printer);
+    return *print_;
+}
+
+void ProgramScreens::printRecipes(const std::vector<std::int16_t>& ids) {
+    printForm().Zobraz(ids);
+}
+
+void ProgramScreens::printText(const QString& title, const QString& text) {
+    printForm().ZobrazTexty({{title, text}});
+}
 
 }  // namespace sarne

@@ -7,6 +7,7 @@
 namespace sarne {
 
 class frmHlavni;
+class frmPrint;
 class frmSeznam;
 class Program;
 
@@ -37,10 +38,12 @@ class ProgramScreens final : public Screens {
 
   private:
     void returnToHelpList();
+    frmPrint& printForm();
 
     Program& program_;
     frmHlavni* main_ = nullptr;
     QPointer<frmSeznam> helpList_;
+    QPointer<frmPrint> print_;
 };
 
 }  // namespace sarne

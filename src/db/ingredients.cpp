@@ -99,7 +99,9 @@ QString Ingredient::alternativeLine() const {
     return alternative ? QStringLiteral("      - nebo ") + *alternative : QString();
 }
 
-std::vector<Ingredient> readIngredients(Database& db, int recipe) {
+namespace {
+
+std::vector<Ingredient> readRows(Database& db, int recipe) {
     std::vector<Ingredient> ingredients;
     Recordset rows = db.OpenQuery(QStringLiteral("SELECT * ") + QStringLiteral("FROM SpojSur ") +
                                   QStringLiteral("WHERE ID_Receptu = ") + QString::number(recipe));
@@ -107,6 +109,19 @@ std::vector<Ingredient> readIngredients(Database& db, int recipe) {
     ingredients.reserve(static_cast<size_t>(rows.RecordCount()));
     for (IngredientReader reader(db); !rows.AtEnd(); rows.MoveNext())
         ingredients.push_back(reader.read(rows));
+    return ingredients;
+}
+
+}  // namespace
+
+std::vector<Ingredient> readIngredients(Database& db, int recipe) {
+    std::vector<Ingredient> ingredients;
+    // One transaction locks the file once; without it each name would.
+    const auto read = [&] {
+        ingredients = readRows(db, recipe);
+        return true;
+    };
+    if (!db.transaction(read)) read();
     return ingredients;
 }
 

@@ -1,6 +1,5 @@
 #include "forms/picturebox.h"
 
-#include <QFontMetricsF>
 #include <QWheelEvent>
 #include <cmath>
 
@@ -64,16 +63,27 @@ void PictureBox::grow(int bottom) {
     contentChanged();
 }
 
+void PictureBox::setFont(const TextFont& font) {
+    if (font_ == font) return;
+    font_ = font;
+    metrics_.reset();
+}
+
+const QFontMetricsF& PictureBox::metrics() const {
+    if (!metrics_) metrics_.emplace(font_.toQFont());
+    return *metrics_;
+}
+
 int PictureBox::textWidth(const QString& text) const {
-    return static_cast<int>(std::lround(QFontMetricsF(font_.toQFont()).horizontalAdvance(text)));
+    return static_cast<int>(std::lround(metrics().horizontalAdvance(text)));
 }
 
 int PictureBox::textHeight(const QString&) const {
-    return static_cast<int>(std::lround(QFontMetricsF(font_.toQFont()).height()));
+    return static_cast<int>(std::lround(metrics().height()));
 }
 
 int PictureBox::textAscent() const {
-    return static_cast<int>(std::lround(QFontMetricsF(font_.toQFont()).ascent()));
+    return static_cast<int>(std::lround(metrics().ascent()));
 }
 
 void PictureBox::print(const QString& text) {
@@ -85,9 +95,8 @@ void PictureBox::print(const QString& text) {
 }
 
 void PictureBox::textOut(int x, int baseline, const QString& text) {
-    const QFontMetricsF metrics(font_.toQFont());
-    const int top = baseline - static_cast<int>(std::ceil(metrics.ascent()));
-    const int bottom = baseline + static_cast<int>(std::ceil(metrics.descent()));
+    const int top = baseline - static_cast<int>(std::ceil(metrics().ascent()));
+    const int bottom = baseline + static_cast<int>(std::ceil(metrics().descent()));
     texts_.push_back({x, baseline, top, bottom, text, font_, color_});
     grow(bottom);
 }

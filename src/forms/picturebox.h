@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "forms/control.h"
@@ -43,7 +45,7 @@ class PictureBox : public Control, public Surface {
     void setCurrentX(int x) override { x_ = x; }
     void setCurrentY(int y) override { y_ = y; }
     const TextFont& font() const override { return font_; }
-    void setFont(const TextFont& font) override { font_ = font; }
+    void setFont(const TextFont& font) override;
     void setForeColor(const QColor& color) override { color_ = color; }
     int textWidth(const QString& text) const override;
     int textHeight(const QString& text) const override;
@@ -74,6 +76,7 @@ class PictureBox : public Control, public Surface {
         Fit fit;
     };
     void grow(int bottom);
+    const QFontMetricsF& metrics() const;
 
     std::vector<Text> texts_;
     std::vector<Placed> pictures_;
@@ -81,6 +84,7 @@ class PictureBox : public Control, public Surface {
     int contentHeight_ = 0, scrolled_ = 0;
     int x_ = 0, y_ = 0;
     TextFont font_;
+    mutable std::optional<QFontMetricsF> metrics_;  // of the font, when they have been asked for
     QColor color_;
 };
 

@@ -23,22 +23,23 @@ bool Resources::load(const QString& file) {
     return !file.isEmpty() && QResource::registerResource(file);
 }
 
-/// The path of the file in \a folder whose name, its ending and the case aside, is \a name.
+/// The path of the file in \a folder whose name, its ending aside, is \a name; else one that differs in case.
 QString Resources::find(const QString& folder, const QString& name) const {
     auto known = files_.find(folder);
     if (known == files_.end()) {
         QHash<QString, QString> names;
         const auto entries = QDir(root_ + folder).entryInfoList(QDir::Files);
         for (const QFileInfo& entry : entries) names[entry.completeBaseName().toLower()] = entry.filePath();
+        // A cursor and a button face may differ in the case of their names alone.
+        for (const QFileInfo& entry : entries) names[entry.completeBaseName()] = entry.filePath();
         known = files_.insert(folder, names);
     }
-    return known->value(name.toLower());
+    return known->value(name, known->value(name.toLower()));
 }
 
 Picture Resources::picture(const QString& name) const {
-    const QString key = name.toLower();
-    if (!pictures_.contains(key)) pictures_[key] = Picture::fromFile(find(QStringLiteral("obr"), name));
-    return pictures_[key];
+    if (!pictures_.contains(name)) pictures_[name] = Picture::fromFile(find(QStringLiteral("obr"), name));
+    return pictures_[name];
 }
 
 std::vector<Picture> Resources::animation(int button) const {

@@ -6,12 +6,14 @@
 #include "forms/colors.h"
 #include "forms/form.h"
 #include "forms/holdrepeat.h"
+#include "richtext/basZobrazRtfSarne.h"
 
 namespace sarne {
 namespace {
 
 constexpr int kArrowSide = 450;
 constexpr int kArrowGap = 90;
+constexpr int kFade = 300;  // twips over which content fades where there is more of it
 
 }  // namespace
 
@@ -25,7 +27,10 @@ TextView::TextView(Form& form, const QString& name)
     setArrowPictures({}, {});
     new HoldRepeat(*up_, [this] { scrollBy(-lineStep_); });
     new HoldRepeat(*down_, [this] { scrollBy(lineStep_); });
-    connect(this, &PictureBox::scrolledTo, this, &TextView::updateArrows);
+    connect(this, &PictureBox::scrolledTo, this, [this] {
+        updateArrows();
+        if (underMouse()) point(linkAt(mapFromGlobal(QPointF(QCursor::pos()))));
+    });
     updateArrows();
 }
 
@@ -56,13 +61,15 @@ void TextView::Cls() {
 }
 
 void TextView::drawRichText(const QString& text) {
-    if (text.trimmed().isEmpty()) return;
-    const LayoutArea area{currentX(), twips().width() - kRightMargin, currentY()};
-    const int added = pieces_.add(RtfLayout::of(text, area, metrics_));
-    setCurrentY(pieces_.layout(added).bottom());
+    ZobrazRtf(*this, text);
+}
+
+bool TextView::keepRichText(const RtfLayout& layout) {
+    const int added = pieces_.add(layout);
     addPainted(
         [this, added](QPainter& painter, const QRect& visible) { pieces_.paint(painter, visible, added); },
-        currentY());
+        layout.bottom());
+    return true;
 }
 
 QString TextView::drawnText() const {
@@ -81,7 +88,7 @@ void TextView::focusLink(std::optional<int> link) {
     update();
     if (!link) return;
     // Scrolls no further than needed; of a phrase taller than the view its beginning shows.
-    const QRect place = pieces_.linkRect(*link);
+    const QRect place = pieces_.linkRect(*link).adjusted(0, -kFade, 0, kFade);
     if (place.bottom() >= scrolled() + twips().height()) scrollTo(place.bottom() + 1 - twips().height());
     if (place.top() < scrolled()) scrollTo(place.top());
     Q_EMIT linkFocused(pieces_.linkText(link));
@@ -192,10 +199,22 @@ void TextView::leaveEvent(QEvent* event) {
     point({});
 }
 
+/// Fades the content into the paper, which is all there is at \a edge; from \a inside on it is clear.
+void TextView::paintFade(QPainter& painter, int edge, int inside) const {
+    QColor clear = colors::kPaper;
+    clear.setAlpha(0);
+    QLinearGradient fade(0, edge, 0, inside);
+    fade.setColorAt(0, colors::kPaper);
+    fade.setColorAt(1, clear);
+    painter.fillRect(QRect(0, std::min(edge, inside), twips().width(), kFade), fade);
+}
+
 void TextView::paint(QPainter& painter) {
     painter.save();
     PictureBox::paint(painter);
     painter.restore();
+    if (scrolled() > 0) paintFade(painter, 0, kFade);
+    if (scrolled() < scrollRange()) paintFade(painter, twips().height(), twips().height() - kFade);
     if (!showsFocus()) return;
     constexpr int kAround = 45;
     QRect ring({0, 0}, twips().size());

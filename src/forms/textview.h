@@ -10,13 +10,13 @@
 namespace sarne {
 
 /// A drawing surface that also shows rich texts. Their link phrases can be pointed at, clicked, and stepped
-/// through with the keyboard. Content taller than the view scrolls: by the wheel, the keys, and two arrows
-/// that the view puts right of itself; its owner leaves kArrowRoom for them.
+/// through with the keyboard. It stands on paper. Content taller than the view fades out where there is more
+/// of it, and scrolls: by the wheel, the keys, and two arrows that the view puts right of itself; its owner
+/// leaves kArrowRoom for them.
 class TextView : public PictureBox {
     Q_OBJECT
   public:
-    static constexpr int kArrowRoom = 540;    ///< twips right of the view that the arrows take
-    static constexpr int kRightMargin = 105;  ///< twips between the right limit of texts and the right edge
+    static constexpr int kArrowRoom = 540;  ///< twips right of the view that the arrows take
     using Direction = RichPieces::Direction;
 
     TextView(Form& form, const QString& name);
@@ -30,6 +30,8 @@ class TextView : public PictureBox {
     /// Draws a rich text from the current position on, wrapped before the right edge, and leaves Y below its
     /// last line. A text of blanks draws nothing.
     void drawRichText(const QString& text);
+    TextMetrics* textMetrics() override { return &metrics_; }
+    bool keepRichText(const RtfLayout& layout) override;
     /// Also what the rich texts say, a line for each of theirs.
     QString drawnText() const override;
 
@@ -65,6 +67,7 @@ class TextView : public PictureBox {
 
   private:
     void updateArrows();
+    void paintFade(QPainter& painter, int edge, int inside) const;
     std::optional<int> linkAt(QPointF pixels) const;
     void point(std::optional<int> link);
     void open(std::optional<int> link);

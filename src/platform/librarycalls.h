@@ -27,4 +27,12 @@ class LibraryCalls {
     void* library_;
 };
 
+inline void ignoreSoundError(const char*, int, const char*, int, const char*, ...) {}
+
+/// Keeps the sound library under \a library from writing to the terminal what this machine does not have.
+inline void quietSoundLibrary(const LibraryCalls& library) {
+    int (*setHandler)(decltype(&ignoreSoundError)) = nullptr;
+    if (library.find("snd_lib_error_set_handler", setHandler)) setHandler(&ignoreSoundError);
+}
+
 }  // namespace sarne

@@ -18,6 +18,7 @@ std::optional<MixerLibrary> MixerLibrary::load() {
         library.find("Mix_PlayChannel", mixer.playChannel) &&
         library.find("Mix_HaltChannel", mixer.haltChannel) && library.find("Mix_FreeChunk", mixer.freeChunk);
     if (!complete) return {};
+    quietSoundLibrary(library);
     return mixer;
 }
 

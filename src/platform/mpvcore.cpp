@@ -33,7 +33,7 @@ constexpr std::pair<const char*, const char*> playerOptions[] = {
     {"keep-open", "yes"},
     {"hr-seek", "yes"},
     // The desktop's sound, or none; then time passes all the same.
-    {"ao", "pipewire,pulse,alsa"},
+    {"ao", "pulse,alsa"},
     {"audio-fallback-to-null", "yes"},
     {"audio-client-name", "sarne"},
     {"audio-display", "no"},
@@ -102,8 +102,8 @@ void MpvCore::setText(const char* property, const char* value) {
     mpv_.setPropertyAsync(handle_, 0, property, MPV_FORMAT_STRING, static_cast<void*>(&value));
 }
 
-void MpvCore::seek(double seconds, quint64 tag) {
-    const QByteArray target = QByteArray::number(seconds, 'f', 3);
+void MpvCore::seek(qint64 milliseconds, quint64 tag) {
+    const QByteArray target = QByteArray::number(static_cast<double>(milliseconds) / 1000, 'f', 3);
     const char* command[] = {"seek", target.constData(), "absolute+exact", nullptr};
     mpv_.commandAsync(handle_, tag, command);
 }
@@ -134,6 +134,10 @@ std::optional<double> MpvCore::number(const char* property) const {
     return value;
 }
 
+qint64 MpvCore::milliseconds(const char* property) const {
+    return qRound64(number(property).value_or(0) * 1000);
+}
+
 QString MpvCore::text(const QString& property) const {
     mpv_node value = {};
     if (mpv_.getProperty(handle_, property.toUtf8().constData(), MPV_FORMAT_NODE, &value) < 0) return {};
@@ -142,8 +146,8 @@ QString MpvCore::text(const QString& property) const {
     return text;
 }
 
-const mpv_event& MpvCore::nextEvent(double seconds) {
-    return *mpv_.waitEvent(handle_, seconds);
+const mpv_event& MpvCore::nextEvent(qint64 milliseconds) {
+    return *mpv_.waitEvent(handle_, static_cast<double>(milliseconds) / 1000);
 }
 
 }  // namespace sarne

@@ -27,9 +27,9 @@ class MpvCore {
     void unload();
     void setFlag(const char* property, bool value);
     void setText(const char* property, const char* value);
-    /// Asks to go to \a seconds, or to the end. Answered by a command reply with \a tag and, when it
+    /// Asks to go to \a milliseconds, or to the end. Answered by a command reply with \a tag and, when it
     /// succeeds, a restart.
-    void seek(double seconds, quint64 tag);
+    void seek(qint64 milliseconds, quint64 tag);
     void seekToEnd();
 
     /// Has the end of the file reported once more, whether or not it changed; it is an event on every change.
@@ -41,10 +41,11 @@ class MpvCore {
     /// no picture of it waits to be drawn: not for use while a film plays.
     bool flag(const char* property) const;
     std::optional<double> number(const char* property) const;
+    qint64 milliseconds(const char* property) const;
     QString text(const QString& property) const;
 
-    /// The next event within \a seconds, MPV_EVENT_NONE when there is none. Valid until the next call.
-    const mpv_event& nextEvent(double seconds);
+    /// The next event within \a milliseconds, MPV_EVENT_NONE when there is none. Valid until the next call.
+    const mpv_event& nextEvent(qint64 milliseconds);
     /// Lets a waiting nextEvent() return. May be called from any thread.
     void wakeUp() { mpv_.wakeup(handle_); }
 

@@ -33,6 +33,7 @@ std::optional<MpvLibrary> MpvLibrary::load() {
         library.find("mpv_render_context_render", mpv.renderContextRender) &&
         library.find("mpv_render_context_free", mpv.renderContextFree);
     if (!complete) return {};
+    quietSoundLibrary(library);
     return mpv;
 }
 

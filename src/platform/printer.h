@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QString>
 
 class QPainter;
@@ -7,15 +8,15 @@ class QWidget;
 
 namespace sarne {
 
-/// The part of a sheet that can be printed on, in twips. Positions on a page are counted from where the
-/// printer's own scale begins: its left and top, which are 0 for most.
+/// A printer's scale: the part of a sheet that can be printed on, in twips. Its left and top are the numbers
+/// that positions begin with, 0 for most.
 struct PageScale {
     int left = 0;
     int top = 0;
     int width = 0;
     int height = 0;
-
-    bool operator==(const PageScale&) const = default;
+    /// The sheet itself, in positions of the scale: it begins left of and above it.
+    QRect sheet;
 };
 
 /// How a document ended.

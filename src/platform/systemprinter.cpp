@@ -8,8 +8,9 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
+
+#include "platform/wholefile.h"
 
 namespace sarne {
 namespace {
@@ -65,7 +66,7 @@ class SystemPrinter::State {
 
     QPrinter printer;
     QPainter painter;
-    std::unique_ptr<QSaveFile> file;
+    std::unique_ptr<WholeFile> file;
     std::unique_ptr<QPdfWriter> pdf;
     QString written;  ///< the file of the user's choice that a document has gone to
 
@@ -77,8 +78,8 @@ class SystemPrinter::State {
 
 bool SystemPrinter::State::beginFile(const QString& path, const QString& title) {
     QDir().mkpath(QFileInfo(path).absolutePath());
-    file = std::make_unique<QSaveFile>(path);
-    if (!file->open(QIODevice::WriteOnly)) {
+    file = std::make_unique<WholeFile>(path);
+    if (!file->isOpen()) {
         file.reset();
         return false;
     }
@@ -136,9 +137,14 @@ QString SystemPrinter::paper() const {
 }
 
 PageScale SystemPrinter::scale() const {
-    const QRectF area = pageLayout().paintRect(QPageLayout::Point);
-    return {0, 0, static_cast<int>(area.width() * kTwipsPerPoint),
-            static_cast<int>(area.height() * kTwipsPerPoint)};
+    const auto twips = [](double points) { return static_cast<int>(points * kTwipsPerPoint); };
+    const QPageLayout layout = pageLayout();
+    const QRectF area = layout.paintRect(QPageLayout::Point), sheet = layout.fullRect(QPageLayout::Point);
+    PageScale scale;
+    scale.width = twips(area.width());
+    scale.height = twips(area.height());
+    scale.sheet = {-twips(area.left()), -twips(area.top()), twips(sheet.width()), twips(sheet.height())};
+    return scale;
 }
 
 QString SystemPrinter::fileFor(const QString& documentName) const {

@@ -1,5 +1,7 @@
 #include "print/pagecomposer.h"
 
+#include <algorithm>
+
 #include "db/database.h"
 #include "print/pagebreaker.h"
 #include "print/printfonts.h"
@@ -56,13 +58,12 @@ ComposedRecipe PageComposer::recipe(int id, const PrintOptions& options, PrintPr
     return composed;
 }
 
-std::vector<PrintedPage> PageComposer::text(const QString& title, const QString& richText,
-                                            PrintProgress& progress) {
-    progress.recipeStarted(title);
+std::vector<PrintedPage> PageComposer::text(const TitledText& text, PrintProgress& progress) {
+    progress.recipeStarted(text.title);
     RecipeFlow flow(page_, metrics_, progress);
-    flow.addText(title, printfonts::name(), FlowLine::Kind::Heading);
+    flow.addText(text.title, printfonts::name(), FlowLine::Kind::Heading);
     flow.addSpace(kTextGap);
-    flow.addRichText(richText);
+    flow.addRichText(text.richText, text.title);
     return flow.wentOn() ? paginate(flow.take()) : std::vector<PrintedPage>();
 }
 

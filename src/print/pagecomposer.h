@@ -28,6 +28,12 @@ struct ComposedRecipe {
     std::vector<PrintedPage> pages;
 };
 
+/// A text that is no recipe.
+struct TitledText {
+    QString title;
+    QString richText;
+};
+
 /// Turns recipes into pages for one printer's scale. Pages are numbered on from recipe to recipe. The metrics
 /// must outlive it.
 class PageComposer {
@@ -35,8 +41,8 @@ class PageComposer {
     PageComposer(PrintSource source, const PageScale& scale, TextMetrics& metrics);
 
     ComposedRecipe recipe(int id, const PrintOptions& options, PrintProgress& progress);
-    /// A rich text below a title, on pages like those of a recipe.
-    std::vector<PrintedPage> text(const QString& title, const QString& richText, PrintProgress& progress);
+    /// A text below its title, on pages like those of a recipe.
+    std::vector<PrintedPage> text(const TitledText& text, PrintProgress& progress);
 
     const PageGeometry& geometry() const { return page_; }
     /// Where a page's texts begin, below its header.

@@ -20,8 +20,12 @@ PrintOutcome PrintJob::print(const std::vector<std::int16_t>& recipes, const Pri
     return end();
 }
 
-PrintOutcome PrintJob::printText(const QString& title, const QString& richText) {
-    put(composer_.text(title, richText, progress_), title);
+PrintOutcome PrintJob::print(const std::vector<TitledText>& texts) {
+    for (const TitledText& text : texts) {
+        stopped_ = !progress_.goOn();
+        if (stopped_ || !put(composer_.text(text, progress_), text.title)) break;
+        progress_.recipeDone();
+    }
     return end();
 }
 

@@ -28,7 +28,7 @@ class PrintJob {
         : printer_(printer), composer_(composer), progress_(progress) {}
 
     PrintOutcome print(const std::vector<std::int16_t>& recipes, const PrintOptions& options);
-    PrintOutcome printText(const QString& title, const QString& richText);
+    PrintOutcome print(const std::vector<TitledText>& texts);
 
   private:
     /// False when the document must end.

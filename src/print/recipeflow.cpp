@@ -32,6 +32,21 @@ class AskingMetrics final : public TextMetrics {
     int words_ = 0;
 };
 
+/// How many lines of \a layout, up to the end of its first paragraph, say nothing but \a title.
+size_t linesOfTitle(const RtfLayout& layout, const QString& title) {
+    if (title.isEmpty()) return 0;
+    QStringList words;
+    for (size_t line = 0; line < layout.lines().size(); ++line) {
+        const TextLine& textLine = layout.lines()[line];
+        for (qsizetype i = 0; i < textLine.boxCount; ++i)
+            words << layout.text(layout.boxes()[static_cast<size_t>(textLine.firstBox + i)]).toString();
+        if (!textLine.endsParagraph || words.isEmpty()) continue;
+        const QString paragraph = words.join(u' ').simplified();
+        return paragraph.compare(title.simplified(), Qt::CaseInsensitive) == 0 ? line + 1 : 0;
+    }
+    return 0;
+}
+
 }  // namespace
 
 void RecipeFlow::ask() {
@@ -120,16 +135,14 @@ qsizetype RecipeFlow::breakAt(QStringView text, const TextFont& font, int width)
     return onlyIndent ? fits : blank + 1;
 }
 
-void RecipeFlow::addRichText(const QString& text) {
+void RecipeFlow::addRichText(const QString& text, const QString& title) {
     if (text.trimmed().isEmpty()) return;
     endPicture();
     AskingMetrics metrics(metrics_, progress_, stop_);
     const RtfLayout layout =
         RtfLayout::of(text, {page_.leftMargin, page_.rightMargin(), 0}, metrics, LinkMarkers::Remove, &stop_);
-    for (const TextLine& line : layout.lines()) {
-        if (stop_) return;
-        addLaidOutLine(layout, line);
-    }
+    for (size_t line = linesOfTitle(layout, title); line < layout.lines().size() && !stop_; ++line)
+        addLaidOutLine(layout, layout.lines()[line]);
 }
 
 void RecipeFlow::addLaidOutLine(const RtfLayout& layout, const TextLine& line) {

@@ -20,8 +20,9 @@ class RecipeFlow {
     void addText(const QString& text, const TextFont& font, FlowLine::Kind kind = FlowLine::Kind::Text);
     /// A second line that stays with the paragraph before it.
     void addContinuation(const QString& text, const TextFont& font);
-    /// A text of the database, an RTF document or plain; link markers are left out.
-    void addRichText(const QString& text);
+    /// A text of the database, an RTF document or plain; link markers are left out. A first paragraph that
+    /// only repeats \a title is left out too.
+    void addRichText(const QString& text, const QString& title = {});
     void addHeading(const QString& text);
     void addSpace(int twips);
     /// Places \a picture at the right margin, in its proportions; the plain texts that follow stand to the

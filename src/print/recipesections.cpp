@@ -133,7 +133,7 @@ void RecipeSections::links() {
         flow_.endPicture();
         gap();
         flow_.addHeading(QStringLiteral("Odkaz: ") + title);
-        flow_.addRichText(links.field(QStringLiteral("Text")).toString());
+        flow_.addRichText(links.field(QStringLiteral("Text")).toString(), title);
     }
 }
 

@@ -3,22 +3,31 @@
 #include "richtext/rtfpainter.h"
 
 namespace sarne {
+namespace {
 
+/// Where a text goes: from the surface's current position to before its right edge.
 LayoutArea layoutArea(const Surface& surface) {
     return {surface.currentX(), surface.scaleWidth() - basZobrazRtfSarne::kRightMargin, surface.currentY()};
 }
+
+}  // namespace
 
 void basZobrazRtfSarne::ZobrazRtf(Surface& surface, const QString& text) {
     stop_ = false;
     layout_ = {};
     if (QStringView(text).trimmed().isEmpty()) return;
     const LayoutArea area = layoutArea(surface);
-    SurfaceTextMetrics metrics(surface);
-    layout_ = RtfLayout::of(text, area, metrics, LinkMarkers::Honour, &stop_);
-    const auto lines = static_cast<qsizetype>(layout_.lines().size());
-    for (qsizetype line = 0; line < lines && !stop_; ++line) drawLine(surface, layout_, line, {}, &stop_);
+    SurfaceTextMetrics measuring(surface);
+    TextMetrics* own = surface.textMetrics();
+    layout_ = RtfLayout::of(text, area, own ? *own : measuring, LinkMarkers::Honour, &stop_);
+    if (!surface.keepRichText(layout_)) drawWords(surface);
     surface.setCurrentX(area.left);
     surface.setCurrentY(layout_.bottom());
+}
+
+void basZobrazRtfSarne::drawWords(Surface& surface) const {
+    const auto lines = static_cast<qsizetype>(layout_.lines().size());
+    for (qsizetype line = 0; line < lines && !stop_; ++line) drawLine(surface, layout_, line, {}, &stop_);
 }
 
 void ZobrazRtf(Surface& surface, const QString& text) {

@@ -11,8 +11,8 @@ class basZobrazRtfSarne {
     /// The distance between the right limit of the lines and the surface's right edge, in twips.
     static constexpr int kRightMargin = 105;
 
-    /// Draws \a text from the surface's current position on, wrapped before its right edge, and leaves X
-    /// where it was and Y below the last line. A text of blanks draws nothing.
+    /// Draws \a text, or has \a surface keep it, from the surface's current position on, wrapped before its
+    /// right edge, and leaves X where it was and Y below the last line. A text of blanks draws nothing.
     void ZobrazRtf(Surface& surface, const QString& text);
 
     /// Abandons the rendering that is going on; the next one starts afresh.
@@ -22,14 +22,13 @@ class basZobrazRtfSarne {
     const RtfLayout& layout() const { return layout_; }
 
   private:
+    void drawWords(Surface& surface) const;
+
     RtfLayout layout_;
     StopFlag stop_ = false;
 };
 
 /// Draws \a text as basZobrazRtfSarne does, for callers that need no link keys.
 void ZobrazRtf(Surface& surface, const QString& text);
-
-/// Where a text goes on \a surface: from its current position to before its right edge.
-LayoutArea layoutArea(const Surface& surface);
 
 }  // namespace sarne

@@ -32,13 +32,13 @@ bool isSilentDestination(std::uint64_t name) {
 
 }  // namespace
 
-void RtfCursor::readWord(Control& control) {
+void RtfCursor::readWord(ControlWord& control) {
     const char16_t* start = at_;
     while (at_ != end_ && isLetter(*at_)) ++at_;
     control.name = controlName({start, static_cast<size_t>(at_ - start)});
 }
 
-void RtfCursor::readNumber(Control& control) {
+void RtfCursor::readNumber(ControlWord& control) {
     const bool negative = !atEnd() && *at_ == u'-' && isDigit(peekAhead(1));
     if (negative) ++at_;
     constexpr qint64 kLargest = std::numeric_limits<int>::max();
@@ -50,7 +50,7 @@ void RtfCursor::readNumber(Control& control) {
 }
 
 /// Takes the two digits, or as many of them as there are: what follows a broken escape is text.
-void RtfCursor::readHexCode(Control& control) {
+void RtfCursor::readHexCode(ControlWord& control) {
     const int high = hexValue(peekAhead(0));
     if (high >= 0) ++at_;
     const int low = high >= 0 ? hexValue(peekAhead(0)) : -1;
@@ -58,8 +58,8 @@ void RtfCursor::readHexCode(Control& control) {
     control.number = low >= 0 ? high * 16 + low : -1;
 }
 
-Control RtfCursor::readControl() {
-    Control control;
+ControlWord RtfCursor::readControl() {
+    ControlWord control;
     advance();
     if (atEnd()) return control;
     if (isLetter(*at_)) {
@@ -78,7 +78,7 @@ void RtfCursor::skipGroup() {
     while (!atEnd()) {
         const char16_t c = *at_;
         if (c == u'\\') {
-            const Control control = readControl();
+            const ControlWord control = readControl();
             if (control.name == controlName(u"bin")) advance(qMax(0, control.number));
             continue;
         }
@@ -97,7 +97,7 @@ bool RtfCursor::atSilentGroup() const {
     inside.advance();
     inside.skipLineEnds();
     if (inside.atEnd() || inside.peek() != u'\\') return false;
-    const Control control = inside.readControl();
+    const ControlWord control = inside.readControl();
     return control.symbol == u'*' || isSilentDestination(control.name);
 }
 

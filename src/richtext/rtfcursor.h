@@ -18,7 +18,7 @@ constexpr std::uint64_t controlName(std::u16string_view word) {
 }
 
 /// One control word or control symbol.
-struct Control {
+struct ControlWord {
     std::uint64_t name = 0;  ///< controlName() of a word; 0 for a symbol
     char16_t symbol = 0;     ///< the character behind the backslash, when it is no letter
     bool hasNumber = false;
@@ -44,7 +44,7 @@ class RtfCursor {
 
     /// Reads the control at the backslash on which the position stands, with its number and the one blank
     /// that belongs to it.
-    Control readControl();
+    ControlWord readControl();
     /// Passes over the group at whose "{" the position stands, and all groups in it.
     void skipGroup();
     void skipLineEnds();
@@ -52,9 +52,9 @@ class RtfCursor {
     bool atSilentGroup() const;
 
   private:
-    void readWord(Control& control);
-    void readNumber(Control& control);
-    void readHexCode(Control& control);
+    void readWord(ControlWord& control);
+    void readNumber(ControlWord& control);
+    void readHexCode(ControlWord& control);
 
     const char16_t* begin_;
     const char16_t* at_;

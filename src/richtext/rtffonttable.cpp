@@ -38,14 +38,14 @@ class FontTableReader {
 
     void readControl() {
         const qsizetype start = cursor_.position();
-        const Control control = cursor_.readControl();
+        const ControlWord control = cursor_.readControl();
         if (control.name != controlName(u"pard") && control.name != controlName(u"plain"))
             return applyControl(control);
         cursor_.moveTo(start);  // the text begins: the brace that ends the table is missing
         depth_ = 0;
     }
 
-    void applyControl(const Control& control) {
+    void applyControl(const ControlWord& control) {
         if (control.symbol == u'\'' && control.number >= 0) name_ += charsetTable(charset_)[control.number];
         if (control.symbol) return;
         name_.clear();  // a font's name stands behind its last control word

@@ -19,7 +19,7 @@ struct ColorEntry {
     QRgb rgb() const { return qRgb(values[0], values[1], values[2]); }
 };
 
-void setComponent(ColorEntry& entry, const Control& control) {
+void setComponent(ColorEntry& entry, const ControlWord& control) {
     static constexpr std::uint64_t kNames[] = {controlName(u"red"), controlName(u"green"),
                                                controlName(u"blue")};
     for (int i = 0; i < kComponents; ++i) {
@@ -68,7 +68,7 @@ class HeaderReader {
 
     void readControl() {
         const qsizetype start = cursor_.position();
-        const Control control = cursor_.readControl();
+        const ControlWord control = cursor_.readControl();
         if (control.symbol) textSeen_ = true;
         if (applyTable(control, start)) return;
         switch (control.name) {
@@ -94,7 +94,7 @@ class HeaderReader {
         }
     }
 
-    bool applyTable(const Control& control, qsizetype start) {
+    bool applyTable(const ControlWord& control, qsizetype start) {
         if (control.name == controlName(u"fonttbl")) {
             header_.fonts = RtfFontTable::read(cursor_);
         } else if (control.name == controlName(u"colortbl")) {

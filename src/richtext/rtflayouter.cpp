@@ -36,6 +36,12 @@ class RtfLayouter final : public RtfSink {
             font_ = *known;
             return;
         }
+        if (layout_.fonts_.size() >= kMostFonts) {
+            TextFont common = font;
+            common.name = TextFont().name;
+            font_ = fontIndexes_.value(common, 0);
+            return;
+        }
         font_ = static_cast<int>(layout_.fonts_.size());
         layout_.fonts_.push_back(font);
         fontIndexes_.insert(font, font_);
@@ -75,6 +81,8 @@ class RtfLayouter final : public RtfSink {
   private:
     enum class Link { None, Open, Closed };
     static constexpr int kPlain = -1;
+    /// Fonts told apart, far more than a text has: to find a face that this machine lacks takes its time.
+    static constexpr size_t kMostFonts = 256;
 
     /// A word is drawn in the font and colour of its last character: a change between that and the blank
     /// behind it is meant for what follows.

@@ -123,7 +123,7 @@ class BodyReader {
 
     // ---- control words
 
-    void apply(const Control& control) {
+    void apply(const ControlWord& control) {
         if (control.symbol) return applySymbol(control);
         switch (control.name) {
             case controlName(u"par"):
@@ -147,7 +147,7 @@ class BodyReader {
         }
     }
 
-    void applySymbol(const Control& control) {
+    void applySymbol(const ControlWord& control) {
         switch (control.symbol) {
             case u'\'':
                 if (control.number >= 0) addCharacter(charsetTable(font_.charset)[control.number]);
@@ -178,7 +178,7 @@ class BodyReader {
         sink_.character(c);
     }
 
-    bool applyFont(const Control& control) {
+    bool applyFont(const ControlWord& control) {
         const bool on = !control.hasNumber || control.number != 0;
         switch (control.name) {
             case controlName(u"f"):
@@ -216,7 +216,7 @@ class BodyReader {
     }
 
     /// Documents that were put one behind the other bring their tables along.
-    void applyTable(const Control& control) {
+    void applyTable(const ControlWord& control) {
         if (control.name == controlName(u"fonttbl")) header_.fonts = RtfFontTable::read(cursor_);
         if (control.name == controlName(u"colortbl")) header_.colors = readColorTable(cursor_);
     }

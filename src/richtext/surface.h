@@ -23,6 +23,9 @@ struct TextFont {
 
 size_t qHash(const TextFont& font, size_t seed = 0);
 
+class RtfLayout;
+class TextMetrics;
+
 /// What text is drawn on: a picture box, a printer page, a test double. Lengths are twips from the surface's
 /// upper left corner; the current position is where print() writes next.
 class Surface {
@@ -53,6 +56,14 @@ class Surface {
     virtual void print(const QString& text) = 0;
     /// Writes \a text with its baseline at \a baseline, from \a x on. The current position stays.
     virtual void textOut(int x, int baseline, const QString& text) = 0;
+
+    /// Metrics that measure as this surface draws, where it has some at hand. Null: it measures with
+    /// textWidth().
+    virtual TextMetrics* textMetrics() { return nullptr; }
+    /// Takes a rich text that is laid out at its place on this surface, to paint it whenever that is needed
+    /// and to make its link phrases clickable. False when the surface keeps no texts: then the words are
+    /// drawn one by one.
+    virtual bool keepRichText(const RtfLayout&) { return false; }
 };
 
 }  // namespace sarne

@@ -209,7 +209,10 @@ TEST_F(FotoBigTest, TheCursorShowsWhatAClickDoes) {
         image.fill(cursor.color);
         image.save(folder.filePath(QStringLiteral("obr/%1.png").arg(QLatin1String(cursor.name))));
     }
+    for (const char* face : {"SipkaDolu", "Zpet"})  // button faces that differ in case alone
+        writePhoto(qPrintable(QStringLiteral("obr/%1.bmp").arg(QLatin1String(face))), {8, 8}, Qt::black);
     run.pictures = Resources(folder.path() + u'/');
+    EXPECT_EQ(run.pictures.picture(QStringLiteral("SipkaDolu")).size(), QSize(8, 8));
     open({1, 2});
     const auto shown = [&] { return viewer->cursor().pixmap().toImage().pixelColor(3, 3); };
     EXPECT_EQ(shown(), QColor(Qt::yellow));

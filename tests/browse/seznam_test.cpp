@@ -1,5 +1,6 @@
 #include "browse/browsefixture.h"
 #include "forms/button.h"
+#include "forms/holdrepeat.h"
 #include "forms/label.h"
 #include "screens/browse/frmseznam.h"
 #include "screens/browse/frmseznam_layout.h"
@@ -28,6 +29,7 @@ class SeznamTest : public BrowseTest {
     bool wineShows() const { return child<Label>(*list, "lblVino")->isVisible(); }
     int selected() const { return list->pages().selectedEntry(); }
 
+    Timer& held(const char* arrow) const { return button(arrow)->findChild<HoldRepeat*>()->timer(); }
     QString panelText() const { return child<PictureBox>(*list, "picFoto")->drawnText(); }
     frmRychlyRecept* quick() const { return run.window.findChild<frmRychlyRecept*>(); }
     QString quickText() const { return child<PictureBox>(*quick(), "Picture1")->drawnText(); }
@@ -69,32 +71,21 @@ TEST_F(SeznamTest, ArrowsScrollOnceOrWhileHeld) {
         click(button(arrow));
         EXPECT_EQ(list->pages().top(), top) << arrow;
     }
-    auto* timer = list->findChild<Timer*>();
     QTest::mousePress(button("imgSipky(0)"), Qt::LeftButton);
-    EXPECT_TRUE(timer->isEnabled());
-    EXPECT_EQ(timer->interval(), 500);
-    EXPECT_EQ(list->pages().top(), 0);
-    for (int tick = 0; tick < 100; ++tick) timer->fire();
-    EXPECT_EQ(timer->interval(), 50);
+    Timer& timer = held("imgSipky(0)");
+    EXPECT_EQ(timer.interval(), 500);
+    for (int tick = 0; tick < 100; ++tick) timer.fire();
+    EXPECT_EQ(timer.interval(), 50);
     EXPECT_EQ(list->pages().top(), kRecipes - kRows);
     EXPECT_EQ(row(kRows)->text(), QStringLiteral("Recept 050"));
-    timer->setEnabled(true);
-    QTest::mousePress(button("imgSipky(1)"), Qt::LeftButton);
-    timer->fire();
-    QTest::mouseRelease(button("imgSipky(1)"), Qt::LeftButton);
-    EXPECT_FALSE(timer->isEnabled());
-    EXPECT_EQ(list->pages().top(), kRecipes - kRows - 1) << "letting go is no further click";
-}
-
-TEST_F(SeznamTest, AHeldArrowStopsWhenAScreenComesOverTheList) {
-    open("", "recepty");
-    auto* timer = list->findChild<Timer*>();
-    QTest::mousePress(button("imgSipky(0)"), Qt::LeftButton);
+    QTest::mouseRelease(button("imgSipky(0)"), Qt::LeftButton);
+    EXPECT_FALSE(timer.isEnabled());
+    QTest::mousePress(button("imgSipky(2)"), Qt::LeftButton);
     auto* over = new Form(run, QStringLiteral("frmRecept"));
     run.PushScreen(*over);
-    timer->fire();
-    EXPECT_FALSE(timer->isEnabled());
-    EXPECT_EQ(list->pages().top(), 0);
+    EXPECT_FALSE(held("imgSipky(2)").isEnabled()) << "a screen over the list ends it, too";
+    run.PopScreen(*over);
+    EXPECT_EQ(list->pages().top(), kRecipes - kRows - half);
 }
 
 TEST_F(SeznamTest, ThePanelShowsPhotoOrWines) {

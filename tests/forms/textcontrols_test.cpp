@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 
+#include "forms/colors.h"
 #include "forms/holdrepeat.h"
 #include "forms/noteedit.h"
 #include "forms/textview.h"
@@ -130,6 +131,9 @@ TEST_F(TextControls, LinkPhrasesArePointedAtClickedAndSteppedThrough) {
     EXPECT_EQ(spoken.last().first().toString(), QStringLiteral("video s rybou"));
     const QRect seen(0, view.scrolled(), 6000, 900);
     EXPECT_TRUE(seen.contains(view.pieces().linkRect(1))) << "the focus scrolls into sight";
+    const QImage shot = view.grab().toImage();
+    EXPECT_NEAR(shot.pixelColor(5, 0).blue(), colors::kPaper.blue(), 4) << "cut lines fade into the paper";
+    EXPECT_GT(shot.pixelColor(5, shot.height() / 2).blue(), colors::kPaper.blue() + 10);
     EXPECT_TRUE(view.keyDown(QKeyEvent(QEvent::KeyPress, Qt::Key_Return, {})));
     EXPECT_EQ(opened.last(), (LinkKey{LinkKind::Video, 7}));
     EXPECT_TRUE(view.focusNextLink(TextView::Direction::Forward));

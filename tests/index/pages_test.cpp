@@ -151,7 +151,10 @@ TEST_F(PageTest, TheBarDoesWhatItSays) {
 
 TEST_F(PageTest, TheSoundButtonSwitchesTheMusicAndTheStoredSwitch) {
     run.SoundFlags = {true, true, true, false, false};
-    run.player.setFileName(u("hudba.wav"));
+    run.MediaRoot = LogicalPaths::fromNativeFolder(book.folder.path());
+    const QString track = book.folder.filePath(u("HUDBA.WAV"));
+    ASSERT_TRUE(QFile(track).open(QIODevice::WriteOnly));
+    run.player.setFileName(track);
     run.player.command(u"open");
     run.player.command(u"play");
     show("10");

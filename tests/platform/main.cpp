@@ -7,7 +7,6 @@
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("PULSE_SERVER", "unix:/nonexistent/pulse");
-    qputenv("PIPEWIRE_REMOTE", "/nonexistent/pipewire");
     qputenv("ALSA_CONFIG_PATH", "/dev/null");
     QGuiApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);

@@ -58,14 +58,19 @@ double Recording::longestGap() const {
 }
 
 double Recording::share(double hertz) const {
-    std::complex<double> tone;
+    constexpr std::size_t window = 441;  // short, so that a stutter on a busy machine does not matter
+    double tone = 0;
     double energy = 0;
-    for (std::size_t i = 0; i < samples_.size(); ++i) {
-        const double angle = 2 * std::numbers::pi * hertz * static_cast<double>(i) / 44100;
-        tone += std::polar<double>(samples_[i], angle);
-        energy += static_cast<double>(samples_[i]) * samples_[i];
+    for (std::size_t start = 0; start + window <= samples_.size(); start += window) {
+        std::complex<double> wave;
+        for (std::size_t i = start; i < start + window; ++i) {
+            const double sample = samples_[i];
+            wave += std::polar(sample, 2 * std::numbers::pi * hertz * static_cast<double>(i) / 44100);
+            energy += sample * sample;
+        }
+        tone += 2 * std::norm(wave) / window;
     }
-    return energy > 0 ? 2 * std::norm(tone) / (energy * static_cast<double>(samples_.size())) : 0;
+    return energy > 0 ? tone / energy : 0;
 }
 
 SoundServer::SoundServer() = default;
@@ -118,7 +123,7 @@ void SoundServer::rewind() {
 Recording SoundServer::recorded() {
     bytes_ += recorder_.readAllStandardOutput();
     std::vector<qint16> samples(static_cast<std::size_t>(bytes_.size()) / 2);
-    std::memcpy(samples.data(), bytes_.constData(), samples.size() * 2);
+    if (!samples.empty()) std::memcpy(samples.data(), bytes_.constData(), samples.size() * 2);
     return Recording(std::move(samples));
 }
 

@@ -59,7 +59,7 @@ QString TestMedia::film(const QString& name, int milliseconds, const QString& op
                         const QString& size) const {
     QProcess ffmpeg;
     QStringList arguments =
-        QStringLiteral("-v error -y -f lavfi -i testsrc=size=%1:rate=15 -f lavfi -i sine=800 -t %2")
+        QStringLiteral("-v error -y -f lavfi -i testsrc=size=%1:rate=25 -f lavfi -i sine=800 -t %2")
             .arg(size)
             .arg(milliseconds / 1000.0)
             .split(u' ');

@@ -14,7 +14,7 @@ namespace sarne {
 namespace {
 
 /// Writes down what is drawn on it.
-class PaperSurface final : public Surface {
+class PaperSurface : public Surface {
   public:
     int scaleWidth() const override { return 2505; }
     int scaleHeight() const override { return 9000; }
@@ -64,6 +64,25 @@ TEST(ZobrazRtf, DrawsNothingOfBlanks) {
     }
     EXPECT_TRUE(surface.drawn.isEmpty());
     EXPECT_EQ(surface.currentY(), 1000);
+}
+
+TEST(ZobrazRtf, LeavesPaintingToASurfaceThatKeepsTexts) {
+    class KeepingSurface final : public PaperSurface {
+      public:
+        TextMetrics* textMetrics() override { return &metrics; }
+        bool keepRichText(const RtfLayout& layout) override {
+            kept += test::wordsOf(layout);
+            return true;
+        }
+        test::FixedMetrics metrics;
+        QStringList kept;
+    } surface;
+    ZobrazRtf(surface, QStringLiteral("a\nb"));
+    ZobrazRtf(surface, QStringLiteral("  "));
+    EXPECT_EQ(surface.kept, QStringList{QStringLiteral("a|b")});
+    EXPECT_GT(surface.metrics.measured, 0);
+    EXPECT_TRUE(surface.drawn.isEmpty());
+    EXPECT_EQ(surface.currentY(), 1600);
 }
 
 TEST(ZobrazRtf, CanBeAbandoned) {

@@ -93,7 +93,10 @@ TEST(Faults, TenThousandFonts) {
         rtf += QStringLiteral("{\\f%1 Font%1;}").arg(i);
         body += QStringLiteral("\\f%1 a ").arg(i);
     }
-    EXPECT_EQ(layOutSoundly(rtf + body).fonts().size(), 10001u);
+    const RtfLayout layout = layOutSoundly(rtf + body);
+    EXPECT_EQ(layout.boxes().size(), 10000u);
+    EXPECT_EQ(layout.fonts()[layout.boxes()[100].font].name, QStringLiteral("Font100"));
+    EXPECT_EQ(layout.fonts()[layout.boxes()[9999].font], TextFont());
 }
 
 TEST(Faults, CanBePainted) {

@@ -6,6 +6,7 @@
 #include "support/fakedisplaymodes.h"
 #include "support/fakeeffects.h"
 #include "support/fakemultimedia.h"
+#include "support/fakeprinter.h"
 #include "support/fakesettings.h"
 #include "support/fakesleepinhibitor.h"
 
@@ -21,6 +22,7 @@ class FakePlatform {
     FakeMultimedia music;
     FakeDisplayModes display;
     FakeSleepInhibitor sleep;
+    FakePrinter printer;
 
     FakePlatform() { display.size = {800, 600}; }
     PlatformParts parts() {
@@ -31,6 +33,7 @@ class FakePlatform {
                 music,
                 display,
                 sleep,
+                printer,
                 [] { return std::make_unique<FakeMultimedia>(); },
                 [](QObject&) { return std::make_unique<FakeAnnouncer>(); }};
     }

@@ -77,6 +77,10 @@ void checkAmounts(const Cookbook& book, const IngredientLine& line, Problems& pr
     }
 }
 
+bool isBlank(const Lines& text) {
+    return std::all_of(text.cbegin(), text.cend(), [](const Line& line) { return line.isBlank(); });
+}
+
 bool hasFish(const Cookbook& book, const Recipe& recipe) {
     return std::any_of(recipe.ingredients.cbegin(), recipe.ingredients.cend(),
                        [&](const IngredientLine& line) {
@@ -118,7 +122,7 @@ void checkRecipe(const Cookbook& book, const Recipe& recipe, Problems& problems)
     if (recipe.wines.isEmpty()) wrong(QStringLiteral("a recipe without a wine"));
     for (const Lines* text :
          {&recipe.method, &recipe.introduction, &recipe.serving, &recipe.note, &recipe.wineText})
-        if (text->isEmpty()) wrong(QStringLiteral("one of the five texts is missing"));
+        if (isBlank(*text)) wrong(QStringLiteral("one of the five texts is missing"));
     const qsizetype count = recipe.ingredients.size();
     if (count < kFewestIngredients || count > kMostIngredients)
         wrong(QStringLiteral("%1 ingredients; from %2 to %3 are wanted")
@@ -131,7 +135,7 @@ void checkRecipe(const Cookbook& book, const Recipe& recipe, Problems& problems)
 }
 
 void checkArticle(const Article& article, Problems& problems) {
-    if (article.text.isEmpty() || article.name.isEmpty())
+    if (isBlank(article.text) || article.name.isEmpty())
         problems.error(article.place, QStringLiteral("a name or a text is missing"));
 }
 

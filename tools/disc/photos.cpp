@@ -53,7 +53,7 @@ bool saveBitmap(const QImage& picture, const QString& file) {
 }
 
 QString dishFile(const Workshop& shop, int id) {
-    return shop.art + QStringLiteral("/rendered/dishes/%1.jpg").arg(id, 2, 10, QLatin1Char('0'));
+    return shop.artPicture(QStringLiteral("rendered/dishes/%1").arg(id, 2, 10, QLatin1Char('0')));
 }
 
 QString dishName(const Workshop& shop, int id) {
@@ -97,7 +97,7 @@ QRect onPicture(const QRect& twips, const QSize& picture) {
 
 /// All dishes on the grid's ground; those outside \a course dimmed, none when it is empty.
 QImage composite(const Workshop& shop, const QList<QImage>& dishes, const QString& course) {
-    const QImage ground(shop.art + QStringLiteral("/rendered/pozadi/sit.jpg"));
+    const QImage ground(shop.artPicture(QStringLiteral("rendered/pozadi/sit")));
     QImage picture = fitted(ground.isNull() ? standInGround({}) : ground, kScreenSize);
     picture = picture.convertToFormat(QImage::Format_RGB32);
     QPainter painter(&picture);
@@ -115,7 +115,7 @@ QImage composite(const Workshop& shop, const QList<QImage>& dishes, const QStrin
 void makeGrid(Workshop& shop) {
     QString details = QLatin1String(kVersion);
     for (int id = 1; id <= kRecipes; ++id) details += dishOrigin(shop, id);
-    const QString origin = originOf({shop.art + QStringLiteral("/rendered/pozadi/sit.jpg")}, details);
+    const QString origin = originOf({shop.artPicture(QStringLiteral("rendered/pozadi/sit"))}, details);
     QList<QImage> dishes;
     const auto loaded = [&]() -> const QList<QImage>& {
         const QSize cell = onPicture(gridCell(1), kScreenSize).size();
@@ -135,7 +135,7 @@ void makeGrid(Workshop& shop) {
 /// One picture of the disc from one file of the art, with a ground and a title as its stand-in.
 void makeOne(Workshop& shop, const QString& source, const QString& target, const QSize& size,
              const QString& title) {
-    const QString from = shop.art + u'/' + source;
+    const QString from = shop.artPicture(source);
     const QString to = shop.disc + u'/' + target;
     shop.make(to, originOf({from}, QLatin1String(kVersion)), [&] {
         const QImage rendered(from);
@@ -145,7 +145,7 @@ void makeOne(Workshop& shop, const QString& source, const QString& target, const
 }
 
 QByteArray groundBytes(const Workshop& shop, const QString& source, const QString& title) {
-    QFile file(shop.art + u'/' + source);
+    QFile file(shop.artPicture(source));
     if (file.open(QIODevice::ReadOnly)) return file.readAll();
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -172,21 +172,21 @@ void makePhotos(Workshop& shop) {
         shop.problems.note(
             QStringLiteral("art/rendered/dishes lacks %1").arg(missing.join(QStringLiteral(", "))));
     makeGrid(shop);
-    makeOne(shop, QStringLiteral("rendered/pozadi/vino.jpg"), QStringLiteral("foto/vino256.bmp"), {400, 300},
+    makeOne(shop, QStringLiteral("rendered/prvky/vino256"), QStringLiteral("foto/vino256.bmp"), {400, 300},
             QStringLiteral("Víno"));
     for (const GalleryPicture& picture : shop.book.gallery)
-        makeOne(shop, QStringLiteral("rendered/sponzor/%1.jpg").arg(picture.id),
+        makeOne(shop, QStringLiteral("rendered/sponzor/%1").arg(picture.id),
                 QStringLiteral("foto/sponzor/%1.bmp").arg(picture.id), kScreenSize, picture.name);
 }
 
 void makeScreenPictures(Workshop& shop) {
     const QStringList sources{
-        QStringLiteral("rendered/hlavni/pozadi.jpg"), QStringLiteral("rendered/pozadi/konec.jpg"),
-        QStringLiteral("rendered/pozadi/video.jpg"),  QStringLiteral("rendered/pozadi/seznam.jpg"),
-        QStringLiteral("rendered/pozadi/recept.jpg"), QStringLiteral("rendered/pozadi/sit.jpg")};
+        QStringLiteral("rendered/hlavni/pozadi"), QStringLiteral("rendered/pozadi/konec"),
+        QStringLiteral("rendered/pozadi/video"),  QStringLiteral("rendered/pozadi/seznam"),
+        QStringLiteral("rendered/pozadi/recept"), QStringLiteral("rendered/pozadi/sit")};
     QStringList files;
     for (const QString& source : sources) {
-        files << shop.art + u'/' + source;
+        files << shop.artPicture(source);
         if (!QFileInfo::exists(files.last()))
             shop.problems.note(QStringLiteral("art/%1 is missing").arg(source));
     }

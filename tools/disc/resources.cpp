@@ -174,8 +174,7 @@ void makeResources(Workshop& shop, const QString& rcc) {
     }
     const QString output = shop.program + QStringLiteral("/Sarne.rcc");
     const QString list = shop.scratch + QStringLiteral("/Sarne.qrc");
-    if (!shop.make(output, originOf(files, aliases), [&] { return pack(all, rcc, list, output); }))
-        shop.problems.error({output, 0}, QStringLiteral("the resources cannot be packed with %1").arg(rcc));
+    shop.make(output, originOf(files, aliases), [&] { return pack(all, rcc, list, output); });
 }
 
 }  // namespace sarne::disc

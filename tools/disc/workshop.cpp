@@ -37,10 +37,21 @@ QString originOf(const QStringList& files, const QString& details) {
     return QString::fromLatin1(hash.result().toHex());
 }
 
+QString Workshop::artPicture(const QString& stem) const {
+    const QFileInfo wanted(art + u'/' + stem);
+    const QStringList patterns{wanted.fileName() + QStringLiteral(".jpg"),
+                               wanted.fileName() + QStringLiteral(".png")};
+    const QStringList found = QDir(wanted.path()).entryList(patterns, QDir::Files, QDir::Name);
+    return wanted.path() + u'/' + (found.isEmpty() ? patterns.first() : found.first());
+}
+
 bool Workshop::make(const QString& output, const QString& origin, const std::function<bool()>& make) {
     if (ledger.isCurrent(output, origin)) return true;
     QDir().mkpath(QFileInfo(output).path());
-    if (!make()) return false;
+    if (!make()) {
+        problems.error({output, 0}, QStringLiteral("it could not be made"));
+        return false;
+    }
     ledger.setMade(output, origin);
     return true;
 }

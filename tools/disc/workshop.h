@@ -43,8 +43,13 @@ struct Workshop {
     Ledger& ledger;
     Problems& problems;
 
+    /// The picture of the art that \a stem names ("rendered/pozadi/sit"): a JPEG or PNG, letter case aside.
+    /// Where there is none, the path that it should have.
+    QString artPicture(const QString& stem) const;
+
     /// Runs \a make unless \a output was made from the same \a origin before; \a make returns whether it
-    /// succeeded. The output's folder is there when it is called. True when the output is current afterwards.
+    /// succeeded, and it is an error when it did not. The output's folder is there when it is called. True
+    /// when the output is current afterwards.
     bool make(const QString& output, const QString& origin, const std::function<bool()>& make);
 };
 

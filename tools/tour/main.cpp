@@ -6,6 +6,7 @@
 
 #include "app/program.h"
 #include "platform/mpvcontrol.h"
+#include "platform/systemprinter.h"
 #include "tour.h"
 
 namespace sarne {
@@ -49,10 +50,11 @@ bool copyProgramFolder(const QString& from, const QString& to) {
     return true;
 }
 
-int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QString& expectedFile,
-           bool accept) {
+int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QString& run,
+           const QString& expectedFile, bool accept) {
     QFile texts(pictures.filePath(QStringLiteral("tour.txt")));
-    const QByteArray shown = tour.texts().toUtf8();
+    // The folder that the tour runs in has another name every time.
+    const QByteArray shown = tour.texts().replace(run, QStringLiteral("…")).toUtf8();
     if (!texts.open(QIODevice::WriteOnly) || texts.write(shown) != shown.size())
         out << "tour.txt cannot be written\n";
     QFile expected(expectedFile);
@@ -106,8 +108,10 @@ int main(int argc, char** argv) {
     MpvControl music;
     TourDisplay display;
     NoSleepInhibitor sleep;
-    const PlatformParts parts{settings, clock,   effects, beeper,
-                              music,    display, sleep,   [] { return std::make_unique<MpvControl>(); },
+    SystemPrinter printer(folder.path());
+    const PlatformParts parts{settings, clock,   effects,
+                              beeper,   music,   display,
+                              sleep,    printer, [] { return std::make_unique<MpvControl>(); },
                               {}};
     Program run(parts, {folder.path(), folder.path()});
     run.Locale = QLocale(QLocale::Czech, QLocale::CzechRepublic);
@@ -118,5 +122,5 @@ int main(int argc, char** argv) {
     run.Main({});
     Tour tour(run, pictures);
     walk(tour);
-    return report(out, tour, pictures, options.value(expect), options.isSet(accept));
+    return report(out, tour, pictures, folder.path(), options.value(expect), options.isSet(accept));
 }

@@ -5,15 +5,21 @@
 namespace sarne {
 namespace {
 
+constexpr int kSlowScreen = 300;  // milliseconds that a photo, a video or an animation may take
+
 QString button(int i) {
     return QStringLiteral("imgClick(%1)").arg(i);
+}
+
+void closeMenu(Tour& tour) {
+    while (tour.program().mainScreen()->isMenuOpen()) tour.key(Qt::Key_Escape);
 }
 
 /// From the main screen to a recipe recalculated for six, in spoons: by mouse.
 void mainJob(Tour& tour) {
     tour.stop(QStringLiteral("frmHlavni"));
     tour.hover(button(5));
-    tour.wait(250);
+    tour.wait(kSlowScreen);
     tour.stop(QStringLiteral("frmHlavni"), QStringLiteral("pohyb"));
     tour.click(button(12));
     tour.stop(QStringLiteral("frmMenu"), QStringLiteral("12"));
@@ -21,14 +27,14 @@ void mainJob(Tour& tour) {
     tour.key(Qt::Key_Return);
     tour.stop(QStringLiteral("frmMenu"), QStringLiteral("0"));
     tour.clickItem(QStringLiteral("kapr"));
-    tour.click(QStringLiteral("lblSeznam(1)"));
+    tour.click(QStringLiteral("lblSeznam(3)"));
     tour.stop(QStringLiteral("frmSeznam"));
     tour.click(QStringLiteral("imgBtn(1)"));
     tour.stop(QStringLiteral("frmSeznam"), QStringLiteral("vino"));
     tour.click(QStringLiteral("imgBtn(2)"));
     for (int section = 0; section < 8; ++section) {
         tour.click(QStringLiteral("imgBtn(%1)").arg(section));
-        tour.wait(200);
+        tour.wait(kSlowScreen);
         tour.stop(QStringLiteral("frmRecept"), QString::number(section));
     }
     tour.click(QStringLiteral("imgBtn(5)"));
@@ -41,21 +47,141 @@ void mainJob(Tour& tour) {
     tour.stop(QStringLiteral("frmHlavni"), QStringLiteral("zpet"));
 }
 
+/// The same without a mouse.
+void mainJobByKeyboard(Tour& tour) {
+    tour.key(Qt::Key_PageUp);
+    for (int step = 0; step < 20 && tour.program().mainScreen()->currentButton() != 12; ++step)
+        tour.key(Qt::Key_Tab);
+    tour.key(Qt::Key_Return);
+    tour.type(QStringLiteral("kap"));
+    tour.key(Qt::Key_Return);
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Return);
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Right);
+    tour.key(Qt::Key_Right);
+    tour.stop(QStringLiteral("frmSeznam"), QStringLiteral("klavesy"));
+    tour.key(Qt::Key_Return);
+    for (int section = 0; section < 5; ++section) tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Return);
+    tour.stop(QStringLiteral("frmRecept"), QStringLiteral("klavesy"));
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_Escape);
+    tour.stop(QStringLiteral("frmHlavni"), QStringLiteral("klavesy"));
+}
+
 void menus(Tour& tour) {
-    for (const int topic : {2, 3, 5, 8, 16}) {
+    for (const int topic : {2, 3, 4, 5, 6, 8, 10, 11, 14, 15, 16, 17, 18}) {
         tour.click(button(topic));
         tour.key(Qt::Key_Down);
-        if (topic != 3) tour.key(Qt::Key_Right);
+        if (topic != 3 && topic != 4 && topic != 6 && topic != 10 && topic != 15 && topic != 18)
+            tour.key(Qt::Key_Right);
         tour.stop(QStringLiteral("frmMenu"), QString::number(topic));
-        while (tour.program().mainScreen()->isMenuOpen()) tour.key(Qt::Key_Escape);
+        closeMenu(tour);
     }
+}
+
+void photos(Tour& tour) {
+    tour.click(button(10));
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Return);
+    tour.wait(kSlowScreen);
+    tour.stop(QStringLiteral("frmSit"));
+    tour.click(QStringLiteral("imgSkupina(3)"));
+    tour.wait(kSlowScreen);
+    tour.click(QStringLiteral("imgFoto(9)"));
+    tour.stop(QStringLiteral("frmSit"), QStringLiteral("skupina3"));
+    tour.click(QStringLiteral("imgBtnHlavni(0)"));
+    tour.wait(kSlowScreen);
+    tour.stop(QStringLiteral("frmFotoBig"));
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_Escape);
+    tour.stop(QStringLiteral("frmHlavni"), QStringLiteral("po-fotkach"));
+}
+
+void tables(Tour& tour) {
+    for (int item = 1; item <= 6; ++item) {
+        tour.click(button(4));
+        for (int step = 0; step < item; ++step) tour.key(Qt::Key_Down);
+        tour.key(Qt::Key_Return);
+        tour.stop(item == 1 ? QStringLiteral("frmStranka") : QStringLiteral("FrmTabulky"),
+                  QString::number(item));
+        if (item == 2) {
+            tour.key(Qt::Key_Down);
+            tour.key(Qt::Key_Return);
+            tour.stop(QStringLiteral("frmIndex"));
+            tour.key(Qt::Key_Escape);
+        }
+        tour.key(Qt::Key_Escape);
+    }
+}
+
+void galleries(Tour& tour) {
+    for (const int topic : {1, 9, 13}) {
+        tour.click(button(topic));
+        tour.key(Qt::Key_Down);
+        tour.key(Qt::Key_Return);
+        tour.wait(kSlowScreen);
+        tour.stop(QStringLiteral("frmSponzor"), QString::number(topic));
+        tour.key(Qt::Key_Escape);
+    }
+}
+
+void media(Tour& tour) {
+    tour.click(button(7));
+    tour.stop(QStringLiteral("frmNastavHudbu"));
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_F1);
+    tour.stop(QStringLiteral("frmStranka"), QStringLiteral("F1"));
+    tour.key(Qt::Key_Escape);
+}
+
+void printing(Tour& tour) {
+    tour.click(button(3));
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Return);
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Return);
+    tour.later([&] {
+        tour.stop(QStringLiteral("frmSave"));
+        tour.key(Qt::Key_Escape);
+    });
+    tour.click(QStringLiteral("imgBtnHlavni(0)"));
+    tour.click(QStringLiteral("lblSeznam(1)"));
+    tour.doubleClick(QStringLiteral("lblSeznam(1)"));
+    tour.click(QStringLiteral("imgBtnHlavni(0)"));
+    tour.stop(QStringLiteral("frmPrint"));
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_Escape);
+}
+
+void ending(Tour& tour) {
+    tour.later([&] {
+        tour.stop(QStringLiteral("frmMessage"), QStringLiteral("konec"));
+        tour.key(Qt::Key_Escape);
+    });
+    tour.click(button(0));
+    tour.stop(QStringLiteral("frmHlavni"), QStringLiteral("po-ne"));
+    tour.later([&] { tour.key(Qt::Key_Return); });
+    tour.click(button(0));
+    if (!tour.program().hasEnded()) tour.fault(QStringLiteral("Yes did not end the program"));
 }
 
 }  // namespace
 
 void walk(Tour& tour) {
     mainJob(tour);
+    mainJobByKeyboard(tour);
     menus(tour);
+    photos(tour);
+    tables(tour);
+    galleries(tour);
+    media(tour);
+    printing(tour);
+    ending(tour);
 }
 
 }  // namespace sarne

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTest>
+#include <QTimer>
 
 #include "app/program.h"
 #include "forms/control.h"
@@ -77,6 +78,11 @@ void Tour::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 
 void Tour::type(const QString& text) {
     if (QWidget* target = QApplication::focusWidget()) QTest::keyClicks(target, text);
+}
+
+void Tour::later(const std::function<void()>& what) {
+    constexpr int kUntilShown = 150;  // milliseconds
+    QTimer::singleShot(kUntilShown, &program_.stage(), what);
 }
 
 void Tour::wait(int milliseconds) {

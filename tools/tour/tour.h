@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <Qt>
+#include <functional>
 
 class QWidget;
 
@@ -30,6 +31,9 @@ class Tour {
     void clickItem(const QString& label);
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     void type(const QString& text);
+    /// Does \a what as soon as the program takes events again: for what has to be done while a modal form is
+    /// open.
+    void later(const std::function<void()>& what);
     /// Lets the program work for \a milliseconds.
     void wait(int milliseconds = 30);
 

@@ -7,7 +7,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/resources.h"
-#include "screens/browse/picturebutton.h"
+#include "screens/browse/ground.h"
 
 namespace sarne {
 namespace {
@@ -41,7 +41,7 @@ void frmFotoBig::Zobraz(const PhotoRequest& request) {
     if (request.photoIds.empty()) return unload();
     recipes_ = app().Db().OpenTable(QStringLiteral("Recepty"));
     recipes_.setIndex(QStringLiteral("PrimaryKey"));
-    app().PushScreen(*this);
+    if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
     repaint();  // the words that ask for patience, while the photo loads
     steps_.start(request.photoIds, request.startPosition);

@@ -20,10 +20,10 @@ frmSeznam::frmSeznam(basSarne& run)
     : Form(run, QStringLiteral("frmSeznam")),
       lblNadpis(*this, QStringLiteral("lblNadpis")),
       lblPozice(*this, QStringLiteral("lblPozice")),
+      lblHint(*this, QStringLiteral("lblHint")),
       imgJablko(*this, QStringLiteral("imgJablko")),
       picFoto(*this, QStringLiteral("picFoto")),
-      lblVino(*this, QStringLiteral("lblVino")),
-      Timer2(this) {
+      lblVino(*this, QStringLiteral("lblVino")) {
     buildList();
     buildPanel();
     buildBar();
@@ -31,7 +31,7 @@ frmSeznam::frmSeznam(basSarne& run)
 
 void frmSeznam::Zobraz(const QString& ids, const QString& source) {
     fill(ids, source);
-    app().PushScreen(*this);
+    if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
     startPanel();
     focusButton();
@@ -49,7 +49,9 @@ void frmSeznam::fill(const QString& ids, const QString& source) {
     for (PictureButton* arrow : imgSipky) arrow->setVisible(pages_.scrolls());
     showButtonsOfSource();
     lblPozice.setText({});
+    ground_.forget();
     drawPage();
+    update();
 }
 
 void frmSeznam::scroll(int step) {
@@ -67,7 +69,11 @@ void frmSeznam::drawPage() {
     const int row = pages_.selectedRow();
     imgJablko.setVisible(row > 0);
     if (row > 0) imgJablko.place(seznam::apple(row));
-    update();
+    for (const int changed : {markedRow_, row}) {
+        if (changed > 0 && markedRow_ != row) updatePart(*this, seznam::rowBar(changed));
+    }
+    markedRow_ = row;
+    if (pages_.scrolls()) updatePart(*this, seznam::kTrack);
 }
 
 void frmSeznam::selectRow(int row) {
@@ -159,6 +165,7 @@ void frmSeznam::showPhotos(bool slideShow) {
 void frmSeznam::startPanel() {
     picFoto.Cls();
     lblVino.hide();
+    if (quickWindow_) quickWindow_->unload();
     if (source_ == Source::Help)
         showPictureOrWords(picFoto, app().resources().picture(QStringLiteral("Help")).image(), {});
     if (source_ != Source::QuickRecipes) return;

@@ -7,8 +7,8 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/picturebox.h"
-#include "forms/timer.h"
 #include "screens/browse/frmrychlyrecept.h"
+#include "screens/browse/ground.h"
 #include "screens/browse/lettersearch.h"
 #include "screens/browse/listentries.h"
 #include "screens/browse/listpages.h"
@@ -65,6 +65,8 @@ class frmSeznam : public Form {
     bool jumpToLetter(const QKeyEvent& event);
     bool moveByKey(int key);
 
+    void paintGround(QPainter& painter) const;
+    QRectF thumb() const;
     void drawPage();
     void selectionChanged();
     void refreshPanel();
@@ -87,16 +89,17 @@ class frmSeznam : public Form {
     Panel panelMode_ = Panel::Photo;
     int focusedButton_ = 0;
     int wheel_ = 0;
-    bool heldArrow_ = false;
 
-    Label lblNadpis, lblPozice;
+    Ground ground_;
+    int markedRow_ = 0;  // the row that is painted as selected
+
+    Label lblNadpis, lblPozice, lblHint;
     std::vector<Label*> lblSeznam;
     PictureBox imgJablko, picFoto;
     Label lblVino;
     std::vector<PictureBox*> ImgTlacitko;
     std::vector<PictureButton*> imgBtn, imgBtnHlavni, imgSipky;
     std::vector<Label*> words_;
-    Timer Timer2;
     QPointer<frmRychlyRecept> quickWindow_;
 };
 

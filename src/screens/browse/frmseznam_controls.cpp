@@ -3,9 +3,10 @@
 #include <QWheelEvent>
 #include <algorithm>
 
-#include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/holdrepeat.h"
+#include "forms/ninepatch.h"
 #include "forms/resources.h"
 #include "screens/browse/frmseznam.h"
 #include "screens/browse/frmseznam_layout.h"
@@ -14,13 +15,15 @@
 namespace sarne {
 namespace {
 
-constexpr int kHoldDelay = 500;    // milliseconds until a held arrow scrolls on
-constexpr int kHoldInterval = 50;  // and between its steps
+constexpr int kHoldInterval = 50;  // milliseconds between the steps of a held arrow
 constexpr int kWheelNotch = 120;   // what the wheel reports for one notch
+
+constexpr int kPlateBorder = 130;  // thickness of a button plate's edge, twips
 
 const TextFont kTitleFont{QStringLiteral("Times New Roman"), 22, true};
 const TextFont kPositionFont{QStringLiteral("Arial"), 16};
 const TextFont kRowFont{QStringLiteral("Arial"), 14};
+const TextFont kHintFont{QStringLiteral("Arial"), 11};
 const TextFont kWordFont{QStringLiteral("Arial"), 12};
 
 }  // namespace
@@ -32,21 +35,19 @@ void frmSeznam::buildList() {
     lblNadpis.setFont(kTitleFont);
     lblNadpis.setColor(colors::kTitle);
     lblNadpis.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    lblHint.place(seznam::kHint);
+    lblHint.setFont(kHintFont);
+    lblHint.setColor(colors::kPaper);
+    lblHint.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     lblPozice.place(seznam::kPosition);
     lblPozice.setFont(kPositionFont);
     lblPozice.setColor(colors::kTitle);
-    lblPozice.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblPozice.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (int row = 1; row <= seznam::kRows; ++row) connectRow(row);
+    imgJablko.place(seznam::apple(1));
     imgJablko.setPicture(app().resources().picture(QStringLiteral("Jablko")));
     imgJablko.setAttribute(Qt::WA_TransparentForMouseEvents);
     for (int arrow = 0; arrow < seznam::kArrows; ++arrow) connectArrow(arrow);
-    connect(&Timer2, &Timer::tick, this, [this] {
-        // A screen that has come over the list gets the mouse: nobody will say that the arrow is let go.
-        if (app().FormStack.top() != this) return Timer2.setEnabled(false);
-        heldArrow_ = true;
-        Timer2.setInterval(kHoldInterval);
-        scroll(static_cast<int>(leadingNumber(Timer2.tag())));
-    });
 }
 
 void frmSeznam::connectRow(int row) {
@@ -77,22 +78,18 @@ void frmSeznam::connectArrow(int arrow) {
     const auto step = [this, arrow] {
         return arrow == 0 ? 1 : arrow == 1 ? -1 : pages_.halfPage(arrow == 2 ? -1 : 1);
     };
-    connect(button, &Control::pressed, this, [this, step] {
-        heldArrow_ = false;
-        Timer2.setTag(QString::number(step()));
-        Timer2.setInterval(kHoldDelay);
-        Timer2.setEnabled(true);
-    });
-    connect(button, &Control::released, this, [this] { Timer2.setEnabled(false); });
-    connect(button, &Control::clicked, this, [this, step] {
-        if (!heldArrow_) scroll(step());
-    });
+    auto* held = new HoldRepeat(*button, [this, step] { scroll(step()); });
+    held->setInterval(kHoldInterval);
     imgSipky.push_back(button);
 }
 
 PictureButton* frmSeznam::addAction(int index, const QString& face, const QString& word, const QString& tip) {
     auto* plate = new PictureBox(*this, QStringLiteral("ImgTlacitko(%1)").arg(index));
     plate->setAttribute(Qt::WA_TransparentForMouseEvents);
+    plate->addPainted(
+        [picture = app().resources().picture(QStringLiteral("Tlacitko"))](
+            QPainter& painter, const QRect& all) { drawNinePatch(painter, picture, all, kPlateBorder); },
+        seznam::action(0).height());
     ImgTlacitko.push_back(plate);
     auto* button = new PictureButton(*this, QStringLiteral("imgBtn(%1)").arg(index));
     button->dress(app(), face, word);
@@ -155,10 +152,14 @@ void frmSeznam::showButtonsOfSource() {
             part->setVisible(shown[index]);
         if (!shown[index]) continue;
         ImgTlacitko[at]->place(seznam::action(place));
-        ImgTlacitko[at]->setPicture(app().resources().picture(QStringLiteral("Tlacitko")), Fit::Stretch);
         imgBtn[at]->place(seznam::action(place));
         words_[at]->place(seznam::actionWord(place++));
     }
+    lblHint.setText(source_ == Source::Help
+                        ? QStringLiteral("Písmeno najde název.")
+                        : QStringLiteral("Písmeno najde název, mezerník promítá fotografie."));
+    imgBtn[2]->dress(app(), source_ == Source::Help ? QStringLiteral("Help") : QStringLiteral("Recept"),
+                     QStringLiteral("Recept"));
     words_[2]->setText(source_ == Source::Help ? QStringLiteral("Otevřít") : QStringLiteral("Recept"));
     imgBtn[2]->setTip(source_ == Source::Help ? QStringLiteral("Otevře stránku nápovědy")
                                               : QStringLiteral("Otevře recept"));
@@ -173,27 +174,35 @@ void frmSeznam::showButtonsOfSource() {
 // --- painting
 
 void frmSeznam::paint(QPainter& painter) {
+    ground_.draw(painter, {{0, 0}, twips().size()}, [this](QPainter& ground) { paintGround(ground); });
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colors::kSelected);
+    if (markedRow_ > 0) painter.drawRoundedRect(seznam::rowBar(markedRow_), 90, 90);
+    painter.setBrush(colors::kCopper);
+    if (pages_.scrolls()) painter.drawRoundedRect(thumb(), 55, 55);
+}
+
+void frmSeznam::paintGround(QPainter& painter) const {
     const QRect screen({0, 0}, twips().size());
     painter.fillRect(screen, colors::kNight);
     app().Pictures.seznam.draw(painter, screen, Fit::Cover);
-    for (const QRect& plate : {seznam::kHeader, seznam::kPanel, seznam::kActionPlate, seznam::kBarPlate})
-        paintPlate(painter, plate);
-    paintPaper(painter, seznam::kPaper);
-    painter.setPen(Qt::NoPen);
-    if (const int row = pages_.selectedRow()) {
-        painter.setBrush(colors::kSelected);
-        painter.drawRoundedRect(seznam::rowBar(row), 90, 90);
+    if (app().Pictures.seznam.isNull()) {
+        for (const QRect& plate : {seznam::kHeader, seznam::kSide, seznam::kFoot}) paintPlate(painter, plate);
     }
+    paintSheet(painter, seznam::kSheet);
+    paintPlate(painter, seznam::kPanel);
     if (!pages_.scrolls()) return;
     paintPlate(painter, seznam::kArrowPlate);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colors::kNight);
     painter.drawRoundedRect(seznam::kTrack, 55, 55);
-    QRectF thumb = seznam::kTrack;
-    thumb.setTop(seznam::kTrack.y() + double(seznam::kTrack.height()) * pages_.top() / pages_.count());
-    thumb.setHeight(double(seznam::kTrack.height()) * pages_.rows() / pages_.count());
-    painter.setBrush(colors::kCopper);
-    painter.drawRoundedRect(thumb, 55, 55);
+}
+
+/// The part of the track that stands for the page.
+QRectF frmSeznam::thumb() const {
+    const double entry = double(seznam::kTrack.height()) / pages_.count();
+    return {double(seznam::kTrack.x()), seznam::kTrack.y() + entry * pages_.top(),
+            double(seznam::kTrack.width()), entry * pages_.rows()};
 }
 
 // --- the keyboard and the wheel

@@ -2,51 +2,54 @@
 
 #include <QRect>
 
-/// Where the list's parts stand, in twips of the screen.
+/// Where the list's parts stand, in twips of the screen. The sheet, the panel and the bar are where the
+/// screen's ground shows them.
 namespace sarne::seznam {
 
-inline constexpr int kRows = 15;
+inline constexpr int kRows = 14;
 inline constexpr int kArrows = 4;
 inline constexpr int kActions = 3;
 inline constexpr int kBarButtons = 5;
 
-inline constexpr QRect kHeader{300, 220, 11400, 680};
-inline constexpr QRect kTitle{520, 260, 6800, 600};
-inline constexpr QRect kPosition{8000, 260, 3500, 600};
+inline constexpr QRect kHeader{-200, -200, 12400, 1200};
+inline constexpr QRect kSheet{225, 1260, 7125, 6915};
+inline constexpr QRect kSide{7575, 1260, 4200, 6915};
+inline constexpr QRect kFoot{225, 8340, 11550, 555};
 
-inline constexpr QRect kPaper{300, 1080, 7250, 7620};
-inline constexpr QRect kArrowPlate{6760, 1200, 680, 7380};
-inline constexpr QRect kTrack{7045, 2740, 110, 4250};
+inline constexpr QRect kTitle{480, 220, 9000, 640};
+inline constexpr QRect kPosition{480, 8360, 2600, 515};
+inline constexpr QRect kHint{4200, 8360, 7350, 515};
 
-inline constexpr QRect kPanel{7850, 1080, 3850, 2938};
-inline constexpr QRect kPhoto{7950, 1180, 3650, 2738};
-inline constexpr QRect kWineText{8070, 1300, 3410, 2498};
-inline constexpr QRect kActionPlate{7850, 4240, 3850, 1760};
-inline constexpr QRect kBarPlate{7850, 7680, 3850, 1020};
+inline constexpr QRect kArrowPlate{6640, 1390, 640, 6660};
+inline constexpr QRect kTrack{6905, 2740, 110, 3950};
+
+inline constexpr QRect kPanel{7675, 1370, 4000, 3050};
+inline constexpr QRect kPhoto{7775, 1470, 3800, 2850};
+inline constexpr QRect kWineText{7900, 1600, 3550, 2590};
 
 constexpr QRect row(int row) {
-    return {1180, 1290 + (row - 1) * 480, 5500, 480};
+    return {1020, 1375 + (row - 1) * 478, 5400, 478};
 }
 constexpr QRect rowBar(int number) {
     const QRect at = row(number);
-    return {at.x() - 200, at.y() + 20, at.width() + 280, at.height() - 40};
+    return {at.x() - 180, at.y() + 20, at.width() + 330, at.height() - 40};
 }
 constexpr QRect apple(int number) {
-    return {480, row(number).y() + 30, 420, 420};
+    return {360, row(number).y() + 29, 420, 420};
 }
 /// Down by one, up by one, half a page up, half a page down; the outer ones are the fast ones.
 constexpr QRect arrow(int index) {
-    constexpr int kTops[] = {7080, 2000, 1290, 7790};
-    return {6780, kTops[index], 640, 640};
+    constexpr int kTops[] = {6760, 2060, 1430, 7400};
+    return {6660, kTops[index], 600, 600};
 }
 constexpr QRect action(int place) {
-    return {7950 + place * 1260, 4340, 1130, 1130};
+    return {7800 + place * 1300, 4680, 1150, 1150};
 }
 constexpr QRect actionWord(int place) {
-    return {7950 + place * 1260 - 60, 5520, 1250, 360};
+    return {7800 + place * 1300 - 60, 5860, 1270, 360};
 }
 constexpr QRect barButton(int place) {
-    return {7910 + place * 750, 7830, 730, 730};
+    return {7700 + place * 795, 7150, 770, 770};
 }
 
 }  // namespace sarne::seznam

@@ -19,7 +19,7 @@ void frmSit::Zobraz() {
     readNames();
     grid_ = PhotoGrid();
     applyGroup();
-    app().PushScreen(*this);
+    if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
 }
 
@@ -39,7 +39,7 @@ void frmSit::readNames() {
 void frmSit::setGroup(int group) {
     if (!grid_.setGroup(group)) return;
     applyGroup();
-    showName();
+    showChoice();
 }
 
 void frmSit::applyGroup() {
@@ -53,29 +53,30 @@ void frmSit::applyGroup() {
     for (int group = 0; group < PhotoGrid::kGroups; ++group)
         imgSkupina[size_t(group)]->setLatched(group == grid_.group());
     imgCela->setLatched(grid_.isWhole());
+    ground_.forget();
     update();
 }
 
 // --- cells
 
 void frmSit::hoverOver(int cell) {
-    if (grid_.hover(cell)) showName();
+    if (grid_.hover(cell)) showChoice();
 }
 
 void frmSit::clickOn(int cell) {
     grid_.click(cell);
-    showName();
+    showChoice();
 }
 
-void frmSit::showName() {
+/// Frames the chosen cell and names its recipe.
+void frmSit::showChoice() {
     const QString name = names_[size_t(grid_.cell())];
     Label1.setText(brokenIntoLines(name, nameFont(), Label1.twips().width()));
-    update();
-}
-
-void frmSit::cellChanged() {
-    showName();
-    app().HookMessage(names_[size_t(grid_.cell())]);
+    updatePart(*this, sit::kNamePlate);
+    for (const int changed : {framedCell_, grid_.cell()}) {
+        if (changed > 0) updatePart(*this, frameOf(changed));
+    }
+    framedCell_ = grid_.cell();
 }
 
 // --- what the bar does
@@ -149,7 +150,9 @@ bool frmSit::moveByKey(int key) {
     if (right == 0 && down == 0) return false;
     focused_ = nullptr;
     setFocus();  // away from a button: Enter means the cell again
-    if (grid_.move(right, down)) cellChanged();
+    if (!grid_.move(right, down)) return true;
+    showChoice();
+    app().HookMessage(names_[size_t(grid_.cell())]);
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "forms/button.h"
 #include "forms/form.h"
 #include "forms/label.h"
+#include "screens/browse/ground.h"
 #include "screens/browse/photogrid.h"
 #include "screens/browse/picturebutton.h"
 
@@ -43,8 +44,8 @@ class frmSit : public Form {
     void applyGroup();
     void hoverOver(int cell);
     void clickOn(int cell);
-    void cellChanged();
-    void showName();
+    void showChoice();
+    void paintGround(QPainter& painter) const;
     void showPhoto();
     void showRecipe();
     bool needsCell();
@@ -56,11 +57,14 @@ class frmSit : public Form {
     void moveFocus(int step);
     void takeFocus();
     static TextFont nameFont();
+    static QRect frameOf(int cell);
 
     PhotoGrid grid_;
     std::array<QString, PhotoGrid::kCells + 1> names_;
     std::array<Picture, PhotoGrid::kGroups + 1> composites_;  // the groups', then the whole
-    std::vector<Button*> imgFoto;                             // cell 1 first
+    Ground ground_;
+    int framedCell_ = 0;
+    std::vector<Button*> imgFoto;  // cell 1 first
     std::vector<PictureButton*> imgSkupina, imgBtnHlavni;
     PictureButton* imgCela;
     PictureButton* focused_ = nullptr;  // the button that Enter presses; none while it means the cell

@@ -43,7 +43,7 @@ void frmSit::buildCells() {
         connect(button, &Control::clicked, this, [this, cell] { clickOn(cell); });
         connect(button, &Control::doubleClicked, this, [this, cell] {
             grid_.lock(cell);
-            showName();
+            showChoice();
             showRecipe();
         });
         imgFoto.push_back(button);
@@ -96,16 +96,24 @@ void frmSit::mousePressEvent(QMouseEvent* event) {
         return;
     grid_.unlock();
     setGroup(PhotoGrid::kNoGroup);
-    update();
+    showChoice();
+}
+
+QRect frmSit::frameOf(int cell) {
+    return PhotoGrid::cellRect(cell).adjusted(-kCellFrame, -kCellFrame, kCellFrame, kCellFrame);
+}
+
+void frmSit::paintGround(QPainter& painter) const {
+    const QRect screen({0, 0}, twips().size());
+    const Picture& composite =
+        composites_[grid_.isWhole() ? size_t(PhotoGrid::kGroups) : size_t(grid_.group())];
+    painter.fillRect(screen, colors::kNight);
+    (composite.isNull() ? app().Pictures.Sit : composite).draw(painter, screen, Fit::Stretch);
+    for (const QRect& plate : {sit::kGroupPlate, sit::kBarPlate}) paintPlate(painter, plate);
 }
 
 void frmSit::paint(QPainter& painter) {
-    const QRect screen({0, 0}, twips().size());
-    painter.fillRect(screen, colors::kNight);
-    const Picture& composite =
-        composites_[grid_.isWhole() ? size_t(PhotoGrid::kGroups) : size_t(grid_.group())];
-    (composite.isNull() ? app().Pictures.Sit : composite).draw(painter, screen, Fit::Stretch);
-    for (const QRect& plate : {sit::kGroupPlate, sit::kBarPlate}) paintPlate(painter, plate);
+    ground_.draw(painter, {{0, 0}, twips().size()}, [this](QPainter& ground) { paintGround(ground); });
     if (!Label1.text().isEmpty()) paintPlate(painter, sit::kNamePlate);
     if (grid_.cell() == 0) return;
     const QRectF cell = QRectF(PhotoGrid::cellRect(grid_.cell())).adjusted(10, 10, -10, -10);

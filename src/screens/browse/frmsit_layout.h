@@ -10,20 +10,20 @@ inline constexpr int kBarButtons = 5;
 
 inline constexpr QRect kName{1760, 7035, 7200, 780};
 inline constexpr QRect kNamePlate{1560, 6990, 7600, 870};
-inline constexpr QRect kGroupPlate{9360, 240, 2400, 5630};
-inline constexpr QRect kWhole{9440, 5000, 2240, 790};
-inline constexpr QRect kBarPlate{9360, 6060, 2400, 2690};
+inline constexpr QRect kGroupPlate{9290, 240, 2490, 5630};
+inline constexpr QRect kWhole{9360, 5000, 2350, 790};
+inline constexpr QRect kBarPlate{9290, 6060, 2490, 2690};
 
 constexpr QRect group(int index) {
-    return {9440, 320 + index * 1170, 2240, 1110};
+    return {9360, 320 + index * 1170, 2350, 1110};
 }
 /// The photo and the recipe above, help, back and end below.
 constexpr QRect barButton(int index) {
-    constexpr QRect kPlaces[] = {{9440, 6160, 1080, 1080},
-                                 {9440, 7620, 730, 730},
-                                 {10600, 6160, 1080, 1080},
-                                 {10195, 7620, 730, 730},
-                                 {10950, 7620, 730, 730}};
+    constexpr QRect kPlaces[] = {{9370, 6190, 1120, 1120},
+                                 {9370, 7680, 770, 770},
+                                 {10580, 6190, 1120, 1120},
+                                 {10150, 7680, 770, 770},
+                                 {10930, 7680, 770, 770}};
     return kPlaces[index];
 }
 

@@ -21,9 +21,16 @@ bool isCutShort(QFile& file) {
     return file.size() < offset + row * qAbs(height);
 }
 
+/// Lets the decoder make pictures of up to a gigabyte; it would stop at an eighth of that.
+void allowLargePhotos() {
+    static const bool once = (QImageReader::setAllocationLimit(1024), true);
+    Q_UNUSED(once);
+}
+
 }  // namespace
 
 QImage readPhoto(const QString& name) {
+    allowLargePhotos();
     QFile file(name);
     if (name.isEmpty() || !file.open(QIODevice::ReadOnly) || isCutShort(file)) return {};
     return QImageReader(&file).read();

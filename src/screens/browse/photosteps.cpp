@@ -40,17 +40,17 @@ int zoneStep(Zone zone) {
 QString zoneCursor(Zone zone) {
     switch (zone) {
         case Zone::Right:
-            return QStringLiteral("sipkavpravo");
+            return QStringLiteral("SIPKAVPRAVO");
         case Zone::Left:
-            return QStringLiteral("sipkavlevo");
+            return QStringLiteral("SIPKAVLEVO");
         case Zone::Up:
-            return QStringLiteral("sipkanahoru");
+            return QStringLiteral("SIPKANAHORU");
         case Zone::Down:
-            return QStringLiteral("sipkadolu");
+            return QStringLiteral("SIPKADOLU");
         case Zone::None:
             break;
     }
-    return QStringLiteral("zpet");
+    return QStringLiteral("ZPET");
 }
 
 void PhotoSteps::start(std::vector<std::int16_t> photoIds, int position) {

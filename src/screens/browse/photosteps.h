@@ -15,7 +15,7 @@ enum class Zone { None, Right, Left, Up, Down };
 Zone zoneAt(QPoint pixel);
 /// How many photos a click in \a zone goes on.
 int zoneStep(Zone zone);
-/// The cursor's picture in \a zone ("sipkavpravo").
+/// The cursor's picture in \a zone ("SIPKAVPRAVO").
 QString zoneCursor(Zone zone);
 
 /// The list of photos that the viewer steps through, and the guard that keeps a double click from stepping

@@ -14,22 +14,7 @@ constexpr int kShift = 15;   // how far a pressed face moves
 constexpr int kRounding = 150;
 constexpr double kWordPoints = 12;
 
-void paintGround(QPainter& painter, const QRectF& place, QColor color, int alpha) {
-    color.setAlpha(alpha);
-    painter.setBrush(color);
-    painter.setPen(QPen(colors::kCopper, 20));
-    painter.drawRoundedRect(place, kRounding, kRounding);
-}
-
 }  // namespace
-
-void paintPlate(QPainter& painter, const QRectF& place) {
-    paintGround(painter, place, colors::kTeal, 232);
-}
-
-void paintPaper(QPainter& painter, const QRectF& place) {
-    paintGround(painter, place, colors::kPaper, 246);
-}
 
 PictureButton::PictureButton(Form& form, const QString& name) : Button(form, name) {}
 
@@ -73,8 +58,8 @@ void PictureButton::paint(QPainter& painter) {
     QRect face = inside, word = whole;
     const bool beside = shown_ == Word::Beside && !face_.isNull();
     if (beside) {
-        face.setWidth(std::min(inside.height() * 4 / 3, inside.width() / 2));
-        word.setLeft(face.right() + kInset);
+        face.setWidth(std::min(inside.height(), inside.width() / 2));
+        word.setLeft(face.right());
     }
     face_.draw(painter, face, Fit::Inside);
     if (beside || face_.isNull()) {

@@ -13,9 +13,8 @@ class PictureButton : public Button {
   public:
     PictureButton(Form& form, const QString& name);
 
-    /// The program's picture \a face and the word \a word, which is drawn where the picture is missing, and
-    /// always when \a worded.
     enum class Word { WhenNoPicture, Beside };
+    /// Shows the program's picture called \a face; \a word beside it, or only where the picture is missing.
     void dress(basSarne& app, const QString& face, const QString& word, Word shown = Word::WhenNoPicture);
     /// Shows the button as pressed for good: what it opens is what shows.
     void setLatched(bool latched);
@@ -34,10 +33,5 @@ class PictureButton : public Button {
     Word shown_ = Word::WhenNoPicture;
     bool latched_ = false, hovered_ = false;
 };
-
-/// A calm dark ground behind buttons and light texts.
-void paintPlate(QPainter& painter, const QRectF& place);
-/// A calm light ground behind dark texts.
-void paintPaper(QPainter& painter, const QRectF& place);
 
 }  // namespace sarne

@@ -188,8 +188,8 @@ void frmMenu::openChild(const QString& code, const QRect& beside) {
 
 void frmMenu::search() {
     if (!searchIngredients(app().Db(), Text1.text())) return;
-    const QRect entry = geometry_.entry.translated(twips().topLeft());
-    openChild(QStringLiteral("0"), entry);
+    // The results drop down below the entry, so that what was typed stays in sight.
+    openChild(QStringLiteral("0"), QRect(twips().left() - 1, twips().bottom() + 1, 1, 1));
     if (child_->level_.items.size() == 1 && !child_->level_.items[0].isSelectable()) {
         app().HookMessage(child_->level_.items[0].label);
         Text1.focusAll();  // nothing to choose there: the next try is typed at once

@@ -231,15 +231,18 @@ void frmRecept::paint(QPainter& painter) {
     else
         ground_.draw(painter, all, Fit::Cover);
     QColor band = colors::kTeal, shadow = colors::kNight;
-    band.setAlpha(240);
+    band.setAlpha(215);
     shadow.setAlpha(225);
-    painter.fillRect(recipelayout::kHeader, band);
     app().resources().picture(QStringLiteral("ZAHLAVI")).draw(painter, recipelayout::kHeader, Fit::Cover);
+    painter.fillRect(recipelayout::kHeader, band);
     painter.fillRect(0, recipelayout::kHeader.bottom() - 30, recipelayout::kHeader.width(), 30,
                      colors::kCopper);
     painter.setPen(QPen(colors::kCopper, 30));
     painter.setBrush(shadow);
     painter.drawRoundedRect(recipelayout::kSections, 120, 120);
+    QColor lit = colors::kCopper;
+    lit.setAlpha(70);
+    painter.fillRect(recipelayout::sectionRow(section_), lit);
     painter.setBrush(colors::kPaper);
     painter.drawRoundedRect(recipelayout::kPaper, 120, 120);
 }

@@ -1,9 +1,11 @@
+#include <QPlainTextEdit>
 #include <QTimer>
 
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/screens.h"
 #include "screens/recipe/frmrecept.h"
+#include "screens/recipe/sectionnames.h"
 
 namespace sarne {
 namespace {
@@ -24,6 +26,7 @@ void frmRecept::showPressed() {
     for (int index = 0; index < recipelayout::kSectionCount; ++index)
         sections_[size_t(index)]->setFrame(index == section_ ? Button::Frame::Pressed
                                                              : Button::Frame::Raised);
+    update();
 }
 
 /// Makes room for what belongs to the section beside the drawing surface.
@@ -32,8 +35,10 @@ void frmRecept::placeView() {
     links_->setVisible(section_ == kLinks);
     view_->Cls();
     view_->setVisible(section_ != kOwnNote);
-    view_->setCursor(Qt::ArrowCursor);
+    view_->setAccessibleName(sectionName(section_));
     switch (section_) {
+        case kPhoto:
+            return view_->place(recipelayout::kPhotoView);
         case kIngredients:
             return view_->place(recipelayout::kListView);
         case kLinks:
@@ -79,7 +84,7 @@ void frmRecept::drawPhoto() {
 void frmRecept::showPhoto() {
     photoShown_ = true;
     view_->setPicture(photo_);
-    view_->setCursor(photo_.isNull() ? Qt::ArrowCursor : Qt::PointingHandCursor);
+    if (!photo_.isNull()) view_->setCursor(Qt::PointingHandCursor);
     view_->setAccessibleDescription({});
 }
 
@@ -125,8 +130,7 @@ void frmRecept::viewClicked() {
 
 void frmRecept::makeNote() {
     editor_->place(recipelayout::kNote);
-    editor_->setTip(QStringLiteral("Vlastní poznámka k receptu"));
-    editor_->setToolTip({});
+    editor_->editor().setAccessibleName(QStringLiteral("Vlastní poznámka k receptu"));
     editor_->setFont({QStringLiteral("Times New Roman"), 13});
     editor_->hide();
     connect(editor_, &NoteEdit::edited, this, [this] { note_.changed(); });

@@ -93,10 +93,20 @@ void IngredientPanel::draw() {
     const auto lines = ingredientLines(readIngredients(app_.Db(), recipe_), units_, quantities());
     const ListArea area{view_.scaleWidth(), view_.scaleHeight(), view_.textHeight(QStringLiteral("T"))};
     const int ascent = view_.textAscent();
-    const auto measure = [this](const QString& text) { return view_.textWidth(text); };
+    const auto measure = [this](const QString& text) { return lineWidth(text); };
     for (const PlacedLine& line : placeInColumns(lines, area, measure))
         view_.textOut(line.x, line.y + ascent, line.text);
     view_.setAccessibleDescription(view_.drawnText());
+}
+
+/// The width of \a line in twips, by its words: between one number of portions and the next most of them stay
+/// the same, and the metrics remember those.
+int IngredientPanel::lineWidth(const QString& line) {
+    const int blank = metrics_.textWidth(kListFont, u" ");
+    int width = 0;
+    for (QStringView word : QStringView(line).split(u' '))
+        width += metrics_.textWidth(kListFont, word) + blank;
+    return width - blank;
 }
 
 void IngredientPanel::showCutlery(int index, Button::Frame frame) {

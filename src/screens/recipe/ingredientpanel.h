@@ -7,6 +7,7 @@
 #include "forms/button.h"
 #include "forms/label.h"
 #include "forms/textview.h"
+#include "richtext/qttextmetrics.h"
 #include "screens/recipe/portions.h"
 
 namespace sarne {
@@ -46,6 +47,7 @@ class IngredientPanel {
     void showCutlery(int index, Button::Frame frame);
     void showUnits();
     void showPortions();
+    int lineWidth(const QString& line);
 
     Form& form_;
     basSarne& app_;
@@ -59,6 +61,7 @@ class IngredientPanel {
     Portions portions_;
     UnitSystem units_ = UnitSystem::Weights;
     PanelPosition position_;
+    QtTextMetrics metrics_;
 };
 
 }  // namespace sarne

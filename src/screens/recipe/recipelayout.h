@@ -18,11 +18,15 @@ constexpr QRect section(int index) {
 constexpr QRect sectionName(int index) {
     return {1140, 1410 + index * 930, 1260, 840};
 }
+constexpr QRect sectionRow(int index) {
+    return {150, 1380 + index * 930, 2280, 900};
+}
 constexpr QRect barButton(int index) {
     return {7530 + index * 880, 8100, 790, 750};
 }
 
-inline constexpr QRect kView{2880, 1590, 8400, 6150};      ///< the drawing surface
+inline constexpr QRect kView{2880, 1590, 8400, 6150};  ///< the drawing surface
+inline constexpr QRect kPhotoView{2820, 1590, 8820, 6150};
 inline constexpr QRect kListView{2880, 2520, 8400, 5220};  ///< below the cutlery
 constexpr QRect cutlery(int position) {
     return {2880 + position * 870, 1530, 780, 780};

@@ -15,7 +15,9 @@ QStringList wrapAtBlanks(const QString& text, int width, const std::function<int
         for (qsizetype next = end; next >= 0 && measure(rest.left(next)) <= width;
              next = rest.indexOf(u' ', next + 1))
             end = next;
-        lines << rest.left(end);
+        QString line = rest.left(end);
+        while (line.endsWith(u' ')) line.chop(1);
+        lines << line;
         rest = rest.mid(end);
         while (rest.startsWith(u' ')) rest.remove(0, 1);
         if (rest.isEmpty()) return lines;

@@ -1,0 +1,322 @@
+"""Grounds of the screens: blender -b -P art/pozadi.py -- all | NAME … [samples=N]
+
+Calm pictures on which texts, lists and pictures stand. Each function sets one of them.
+"""
+import math
+import os
+import random
+import sys
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+import bpy  # noqa: E402
+
+from lib import core, fish as fishlib, food, table  # noqa: E402
+from lib.core import area, box, group, lathe, mat, mesh, outline_solid, put, smooth_profile, sphere, text, tube  # noqa: E402
+
+OUT = os.path.join(core.RENDERED, "pozadi")
+U = 40.0  # pixels of 1600 x 1200 in one unit when seen from straight above
+
+
+def above(lamp=1.0, fill=.5):
+    """Eye straight above a field of 40 x 30 units; the lamp at the upper left."""
+    core.camera((0, 0, 60), (0, 0, 0), ortho=40)
+    core.scene.view_settings.view_transform = "Standard"
+    core.scene.view_settings.look = "None"
+    core.world("7fa0a4", fill)
+    area((-26, 20, 22), (-4, 2, 0), 14, 10500 * lamp, "ffdcb0")
+    area((24, 10, 30), (0, 0, 0), 20, 4200 * lamp, "bfe0e6")
+    sun = bpy.data.lights.new("sun", "SUN")
+    sun.energy, sun.angle, sun.color = 1.0 * lamp, .6, core.rgb("fff0dc")
+    o = bpy.data.objects.new("sun", sun)
+    o.rotation_euler = (math.radians(-20), math.radians(-25), 0)
+    core.scene.collection.objects.link(o)
+
+
+def lacquer(name="lacq", a="0a2a2f", b="0e3a40", c="124449", rough=.34, along=(.12, 2.2, 1)):
+    return mat(name, ((.3, a), (.5, b), (.7, c)), rough, .2, coat=.1, noise=.5, detail=9, stretch=along, bump=.05, bumpscale=3)
+
+
+def px(x, y):
+    """Screen point of 1600 x 1200 -> units."""
+    return (x - 800) / U, (600 - y) / U
+
+
+def slab_px(x0, y0, x1, y1, m, h=.3, r=.25, bevel=.08, z=0):
+    a, b = px(x0, y0), px(x1, y1)
+    o = outline_solid(table.rounded_rect(b[0] - a[0], a[1] - b[1], r), h, m, bevel)
+    return put(o, (a[0] + b[0]) / 2, (a[1] + b[1]) / 2, z)
+
+
+def frame_px(x0, y0, x1, y1, w=.35, m=None, z=0, r=.3):
+    a, b = px(x0, y0), px(x1, y1)
+    W, H = b[0] - a[0], a[1] - b[1]
+    o = outline_solid(table.rounded_rect(W, H, r), .4, m or copper(), .14, 4, holes=[table.rounded_rect(W - 2 * w, H - 2 * w, max(.05, r - w))])
+    return put(o, (a[0] + b[0]) / 2, (a[1] + b[1]) / 2, z)
+
+
+def copper():
+    return mat("gcopper", ((.3, "a5673a"), (.7, "d39a62")), .27, metal=1, noise=.4, detail=3)
+
+
+def paper(name="paper"):
+    return mat(name, ((.3, "f0e4c8"), (.5, "f4ead2"), (.7, "f7efdc")), .85, .15, noise=.22, detail=9)
+
+
+def ground(m):
+    mesh([(-30, -24, 0), (30, -24, 0), (30, 24, 0), (-30, 24, 0)], [(0, 1, 2, 3)], m, False)
+
+
+def header(h=150):
+    slab_px(-60, -60, 1660, h, lacquer("headlacq", "0b3036", "0e3a40", "124449"), .35, .05, .05)
+    put(tube([(-21, 0, 0), (21, 0, 0)], .16, copper(), 16), 0, px(0, h)[1], .34)
+    put(tube([(-21, 0, 0), (21, 0, 0)], .05, copper(), 12), 0, px(0, h - 16)[1], .36)
+
+
+def Sit():
+    """Photo grid: dark teal wood with a thin copper edge."""
+    ground(lacquer("sit", "071f23", "0a2a2f", "0d3338", .4))
+    frame_px(10, 10, 1590, 1190, .14, z=0)
+    above(.5, .5)
+
+
+def recept():
+    """Recipe screen: warm paper on a dark table, band at the top, a bar of lacquer at the right for buttons."""
+    core.mesh  # the table
+    table.boards("dark")
+    header(140)
+    slab_px(30, 168, 1400, 1170, paper(), .12, .3, .03)
+    slab_px(1430, 168, 1570, 1170, lacquer("bar", "0b3036", "0e3a40", "124449"), .3, .35, .1)
+    frame_px(1424, 162, 1576, 1176, .12, z=.05, r=.4)
+    above(1.0)
+
+
+def seznam():
+    """Recipe list: two sheets, the left for the list, the right for the photo and the wines."""
+    table.boards("dark")
+    header(140)
+    slab_px(30, 168, 980, 1090, paper(), .12, .3, .03)
+    slab_px(1010, 168, 1570, 1090, lacquer("seznampanel", "0a2a2f", "0e3a40", "124449"), .25, .35, .08)
+    frame_px(1004, 162, 1576, 1096, .12, z=.03, r=.4)
+    slab_px(30, 1112, 1570, 1186, lacquer("bar", "0b3036", "0e3a40", "124449"), .3, .3, .1)
+    above(1.0)
+
+
+def video():
+    """A little cinema: dark screen in a copper and wood frame, a curtain at each side, a shelf below."""
+    ground(mat("wallv", ((.3, "081c20"), (.7, "0d2b30")), .8, noise=.3))
+    cur = mat("curtain", ((.3, "4a120e"), (.7, "7a2318")), .7, .2, noise=.6, stretch=(3, .2, 1), sheen=.6)
+    for s in (-1, 1):
+        v = []
+        nx, ny = 90, 30
+        for i in range(nx):
+            for j in range(ny):
+                x = s * (20.5 - 4.6 * i / (nx - 1))
+                v.append((x, -16 + 32 * j / (ny - 1), .7 + .5 * math.sin(i * .55) + .15 * math.sin(i * .23 + j * .2)))
+        mesh(v, core.grid_faces(nx, ny), cur)
+    slab_px(190, 90, 1410, 1000, table.wood("walnut"), .8, .5, .2)
+    slab_px(238, 138, 1362, 952, mat("screen", "050c0e", .25, .4, coat=.15), .9, .35, .1, z=.06)
+    frame_px(226, 126, 1374, 964, .3, z=.5, r=.5)
+    slab_px(-40, 1046, 1640, 1240, table.wood("dark"), 1.0, .1, .2)
+    put(tube([(-21, 0, 0), (21, 0, 0)], .14, copper(), 16), 0, px(0, 1048)[1], 1.0)
+    above(.75)
+
+
+def zprava():
+    """Message box: teal cloth."""
+    n = core.scene
+    ground(table.fabric("teal"))
+    o = table.cloth("teal", 60, 46, folds=.1)
+    above(.7, .5)
+
+
+def menu():
+    """Menu panel: calm lacquered wood."""
+    ground(mat("menuwood", ((.3, "0a2c31"), (.5, "0d373d"), (.7, "124349")), .8, .08, noise=.5, detail=9, stretch=(.1, 1.8, 1), bump=.08, bumpscale=3))
+    above(.7, .3)
+
+
+def _dusk(lamp=0.0):
+    """Window picture as a wide view over the pond, with reeds and a jetty in front."""
+    import hlavni_scena as H
+    import numpy as np
+    im = core.picture("pondwide", H.pond_pixels(1600, 1200, (.74, .80)))
+    m = bpy.data.materials.new("wide")
+    m.use_nodes = True
+    nt = m.node_tree
+    t = nt.nodes.new("ShaderNodeTexImage")
+    t.image = im
+    e = nt.nodes.new("ShaderNodeEmission")
+    nt.links.new(t.outputs[0], e.inputs[0])
+    e.inputs[1].default_value = 1.15
+    nt.links.new(e.outputs[0], nt.nodes["Material Output"].inputs[0])
+    return m
+
+
+def uvod():
+    """Splash: the pond at dusk. A jetty with a lantern and a rod in front; sky free for the title."""
+    core.camera((0, -14, 3.4), (0, 10, 3.7), lens=30)
+    back = mesh([(-48, 50, -24), (48, 50, -24), (48, 50, 42), (-48, 50, 42)], [(0, 1, 2, 3)], sky_material(), False, uv=[(0, 0), (1, 0), (1, 1), (0, 1)])
+    water = mat("pondwater", "06242a", .06, .6, metal=0, coat=1, bump=.22, bumpscale=.9, bumpstretch=(.35, 1.6, 1), ior=1.33)
+    mesh([(-90, -14, 0), (90, -14, 0), (90, 50, 0), (-90, 50, 0)], [(0, 1, 2, 3)], water, False)
+    hills = mat("hills", "06191b", 1, 0)
+    for y, base, amp, seed in ((46, .8, 2.6, 3), (40, .3, 1.5, 9)):
+        n = 160
+        v = []
+        for i in range(n):
+            x = -50 + 100 * i / (n - 1)
+            h = base + amp * float(core.fbm([[x * .11 + seed, 0, seed]], 4, seed)[0]) + .5 * float(core.fbm([[x * .9, 3, seed]], 3, seed)[0]) + 1.6 * math.exp(-((x + 26) / 14) ** 2)
+            v += [(x, y, -.2), (x, y, h)]
+        mesh(v, [(2 * i, 2 * i + 2, 2 * i + 3, 2 * i + 1) for i in range(n - 1)], hills, False)
+    # a house with a lit window far on the left
+    hm = mat("hut", "0a1c1c", 1, 0)
+    box(2.2, 1, 1.3, hm, 0, at=(-13.5, 39, .4))
+    mesh([(-14.9, 38.4, 1.6), (-12.1, 38.4, 1.6), (-13.5, 38.4, 2.7)], [(0, 1, 2)], hm, False)
+    mesh([(-13.9, 38.3, .8), (-13.3, 38.3, .8), (-13.3, 38.3, 1.3), (-13.9, 38.3, 1.3)], [(0, 1, 2, 3)], mat("lit", "ffb65c", emit="ffb65c", emit_strength=9), False)
+    # jetty
+    pl = table.wood("oak")
+    for i in range(20):
+        box(3.4 + random.uniform(-.12, .12), .56, .14, pl, .03, at=(5.4 + random.uniform(-.06, .06), -11.5 + i * .62, .55 + random.uniform(-.02, .02)))
+    for y in (-8, -3.2, .6):
+        for x in (3.9, 6.9):
+            put(lathe([(.01, 1.1), (.16, 1.1), (.18, -1)], table.wood("dark", "z"), 16), x, y, .25)
+    lantern(6.3, -1.2, .69, 1.15)
+    rod = tube([(4.6, -4.5, .75), (2.2, 2.5, 2.7), (.6, 7.5, 4.1)], [.06, .035, .015], table.wood("pale"), 8)
+    tube([(.6, 7.5, 4.1), (.55, 8.2, 1.8), (.5, 8.6, .0)], .008, mat("lineg", "9fb0ae", .4), 4)
+    put(sphere(.13, mat("float", "b8402a", .3, coat=.5, emit="b8402a", emit_strength=.15), scale=(1, 1, 1.5), n=16), .5, 8.6, .05)
+    put(basketlike(), 5.0, -5.6, .69)
+    reeds(-1)
+    reeds(1)
+    core.world("16424a", .5)
+    area((-10, -12, 12), (2, 4, 0), 6, 500, "ffd6a0")
+    area((0, 30, 18), (0, 0, 0), 20, 900, "7fb6bd")
+
+
+def lantern(x, y, z, s=1.0):
+    gl = core.thin_glass("lantglass", "fff0d0")
+    parts = [lathe(smooth_profile([(.01, 0), (.34, 0), (.36, .1), (.2, .16), (.01, .17)], 4), table.brass(), 32), lathe([(.26, .16), (.3, .3), (.3, .85), (.24, 1.0)], gl, 32), lathe(smooth_profile([(.3, .98), (.32, 1.05), (.15, 1.25), (.01, 1.3)], 4), table.brass(), 32),
+             put(sphere(.12, mat("lantflame", "ffcf80", emit="ffb04a", emit_strength=60), scale=(1, 1, 1.9), n=16), 0, 0, .5)]
+    parts.append(put(table.torus(.3, .025, table.brass(), 40), 0, 0, 1.4, tilt=90))
+    put(group(parts), x, y, z, scale=s)
+    l = bpy.data.lights.new("lant", "POINT")
+    l.energy, l.color, l.shadow_soft_size = 190, core.rgb("ffb65c"), .15
+    o = bpy.data.objects.new("lant", l)
+    o.location = (x, y - .0, z + .75 * s)
+    core.scene.collection.objects.link(o)
+
+
+def basketlike():
+    wick = mat("wick2", ((.35, "4a2e16"), (.65, "8a5e2c")), .6, noise=4)
+    parts = []
+    for row in range(6):
+        parts.append(tube([((.62 + .03 * row) * math.cos(a) * 1.2, (.62 + .03 * row) * math.sin(a), .08 + row * .13) for a in [2 * math.pi * k / 40 for k in range(41)]], .075, wick, 6, False))
+    f = fishlib.fish("carp", "raw", 1.7, seed=2)
+    put(f, .05, 0, .78, turn=30, tilt=6)
+    return group(parts + [f])
+
+
+def reeds(side):
+    m = mat("reed", ((.4, "0c2a1c"), (.6, "254a2a")), .6)
+    head = mat("reedhead", "3a2212", .8)
+    rnd = random.Random(side + 5)
+    for i in range(75):
+        x = side * rnd.uniform(7.2, 15) if side > 0 else rnd.uniform(-15, -5.6)
+        y = rnd.uniform(-5, 9)
+        h = rnd.uniform(1.6, 4.2)
+        lean = rnd.uniform(-.5, .5)
+        pts = [(x + lean * t * t, y, h * t) for t in [k / 8 for k in range(9)]]
+        tube(pts, [.045 * (1 - .85 * k / 8) for k in range(9)], m, 5)
+        if rnd.random() < .3:
+            e = pts[-2]
+            tube([(e[0], e[1], e[2] - .25), (e[0] + lean * .05, e[1], e[2] + .3)], .1, head, 8)
+
+
+def sky_material():
+    """Evening sky: orange over the trees, teal above, a few long clouds, a moon and stars."""
+    import numpy as np
+    w, h = 1536, 1024
+    y, x = np.mgrid[0:1:complex(h), 0:1:complex(w)]
+    t = np.clip((y - .36) / .64, 0, 1)
+    stops = ((0, (1.0, .55, .17)), (.10, (.93, .52, .24)), (.25, (.42, .46, .38)), (.5, (.10, .31, .33)), (1, (.025, .10, .125)))
+    img = np.stack([np.interp(t, [s[0] for s in stops], [s[1][c] for s in stops]) for c in range(3)], -1)
+    n = core.fbm(np.stack([x * 4, y * 26, np.zeros_like(x)], -1), 5, 3)
+    cl = np.clip((n - .5) / .22, 0, 1) * np.exp(-((t - .2) / .16) ** 2)
+    img = img + cl[..., None] * np.array([.30, .10, .0])
+    cl2 = np.clip((core.fbm(np.stack([x * 3, y * 18, np.ones_like(x) * 7], -1), 5, 8) - .52) / .2, 0, 1) * np.clip((t - .3) / .2, 0, 1)
+    img = img * (1 - .35 * cl2[..., None])
+    d = np.hypot((x - .36) * w / h, y - .80)
+    img = img + (np.clip((.02 - d) / .003, 0, 1) * .8 + .1 * np.exp(-(d / .06) ** 2))[..., None] * np.array([1, .94, .8])
+    rng = np.random.default_rng(2)
+    for _ in range(160):
+        i, j = rng.integers(int(h * .62), h), rng.integers(0, w)
+        img[i, j] += rng.uniform(.1, .5)
+    im = core.picture("sky", np.clip(img, 0, 1))
+    m = bpy.data.materials.new("sky")
+    m.use_nodes = True
+    nt = m.node_tree
+    tx = nt.nodes.new("ShaderNodeTexImage")
+    tx.image = im
+    e = nt.nodes.new("ShaderNodeEmission")
+    nt.links.new(tx.outputs[0], e.inputs[0])
+    e.inputs[1].default_value = 1.1
+    nt.links.new(e.outputs[0], nt.nodes["Material Output"].inputs[0])
+    return m
+
+
+def konec():
+    """The kitchen with the lamp going out."""
+    import hlavni_scena as H
+    P = H.build()
+    for b in range(19):
+        H.pose(P, b, 0)
+    H.pose(P, 0, .5)
+    for l in bpy.data.lights:
+        l.energy *= .035 if l.name != "lamp" else .10
+    core._materials["lampglass"].node_tree.nodes["Principled BSDF"].inputs["Emission Strength"].default_value = .8
+    core._materials["dial"].node_tree.nodes["Principled BSDF"].inputs["Emission Strength"].default_value = .25
+    core.scene.world.node_tree.nodes["Background"].inputs[1].default_value = .16
+    x = H.at_wall(70, 210)
+    area((x.x, x.y - 1.2, x.z + 1), (6, 14, 7), 5, 1300, "7fc4cf")
+
+
+def vino256():
+    """Wine still life: bottle, glass, grapes and a fish plate at the right; the left stays dark and calm."""
+    table.boards("dark")
+    from lib import dishfile
+    dishfile.backdrop()
+    b = put(table.bottle(9.4, 1.15), 4.5, 2.6, 0)
+    put(table.wineglass(6.0, 1.35, "red", .5), 2.4, .6, 0)
+    put(table.wineglass(5.6, 1.25, "white", .5), 6.6, .4, 0)
+    gm = mat("grape", ((.4, "2a0f2c"), (.6, "5a2348")), .2, coat=.6, sss=.05)
+    for i in range(34):
+        a, q = i * 2.4, .33 * math.sqrt(i)
+        put(sphere(.42, gm, n=20), 4.3 + q * math.cos(a) * 1.3, -1.9 + q * math.sin(a) * .8, .4 + .45 * max(0, 1.7 - q) * random.uniform(.6, 1))
+    put(table.candle(3.4, .45), 8.0, 3.0, 0)
+    p = put(table.cloth("teal", 9, 6, folds=.2), 6.0, -.5, 0, 20)
+    core.camera((-.6, -15, 5.6), (.1, 0, 3.1), 44, .9, (3.5, 0, 2))
+    core.evening(.62)
+
+
+SIZES = {"vino256": (1024, 768), "menu": (800, 600)}
+SAMPLES = {"uvod": 40, "konec": 36, "vino256": 40, "video": 16}
+
+
+def main(names):
+    samples = next((int(n[8:]) for n in names if n.startswith("samples=")), None)
+    names = [n for n in names if "=" not in n]
+    every = "Sit recept seznam video zprava menu uvod vino256 konec".split()
+    if names == ["all"]:
+        names = [n for n in every if not os.path.exists(target(n))]
+    for n in names:
+        core.start(5)
+        globals()[n]()
+        w, h = SIZES.get(n, (1600, 1200))
+        core.render(target(n), w, h, samples or SAMPLES.get(n, 10), quality=88, key=n + str(os.path.getmtime(__file__)))
+        print("DONE", n, flush=True)
+
+
+def target(n):
+    return os.path.join(core.RENDERED, "prvky" if n == "vino256" else "pozadi", n + ".jpg")
+
+
+if __name__ == "__main__":
+    main(core.arguments())

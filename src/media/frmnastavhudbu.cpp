@@ -1,0 +1,181 @@
+#include "media/frmnastavhudbu.h"
+
+#include <QKeyEvent>
+
+#include "forms/backgroundmusic.h"
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/panel.h"
+#include "forms/resources.h"
+
+namespace sarne {
+namespace {
+
+const TextFont kTitleFont{QStringLiteral("Times New Roman"), 18, true, true};
+const TextFont kFont{QStringLiteral("Arial"), 12};
+const TextFont kButtonFont{QStringLiteral("Arial"), 12, true};
+
+constexpr QRect kForm(3000, 2100, 6000, 4800);
+constexpr QRect kTitle(300, 195, 5400, 450);
+constexpr int kLeft = 420, kWidth = 5200, kFirstRow = 840, kRow = 435, kRowHeight = 390;
+constexpr int kTrackTop = 3165, kTrackWidth = 2500;
+constexpr QRect kButtons[] = {{1230, 4020, 1680, 540}, {3090, 4020, 1680, 540}};
+constexpr int kErrorStyle = 16;
+
+}  // namespace
+
+frmNastavHudbu::frmNastavHudbu(basSarne& sarne)
+    : Form(sarne, QStringLiteral("frmNastavHudbu")), title_(*this, QStringLiteral("lblNadpis")) {
+    place(kForm);
+    title_.setText(QStringLiteral("Nastavení hudby"));
+    title_.setFont(kTitleFont);
+    title_.setColor(colors::kTitle);
+    title_.setAlignment(Qt::AlignCenter);
+    title_.place(kTitle);
+    const Resources& pictures = app().resources();
+    for (size_t i = 0; i < kSoundSettings; ++i) {
+        auto* box = chkNastav[i] = new CheckBox(*this, QStringLiteral("chkNastav(%1)").arg(i));
+        box->setMarkPictures(pictures.picture(QStringLiteral("Zaskrtnuto")),
+                             pictures.picture(QStringLiteral("Nezaskrtnuto")));
+        box->setFont(kFont);
+        box->setColor(colors::kPaper);
+        box->place({kLeft, kFirstRow + int(i) * kRow, kWidth, kRowHeight});
+        connect(box, &CheckBox::toggled, this, [this, i] { switched(i); });
+    }
+    const QString tracks[] = {QStringLiteral("Hudba"), QStringLiteral("Zvuky vín")};
+    const QString captions[] = {QStringLiteral("&Nastav"), QStringLiteral("&Storno")};
+    for (int i = 0; i < 2; ++i) {
+        auto* track = opthudba[size_t(i)] = new OptionButton(*this, QStringLiteral("opthudba(%1)").arg(i));
+        track->setMarkPictures(pictures.picture(QStringLiteral("VolbaAno")),
+                               pictures.picture(QStringLiteral("VolbaNe")));
+        track->setFont(kFont);
+        track->setColor(colors::kPaper);
+        track->setCaption(tracks[i]);
+        track->place({kLeft + i * kTrackWidth, kTrackTop, kTrackWidth, kRowHeight});
+        connect(track, &OptionButton::toggled, this, [this, i](bool chosen) {
+            if (chosen) trackChosen(i == 1);
+        });
+        auto* button = cmdOkEnd[size_t(i)] = new Button(*this, QStringLiteral("cmdOkEnd(%1)").arg(i));
+        button->setFont(kButtonFont);
+        button->setCaption(captions[i]);
+        button->setFramePictures(pictures.picture(QStringLiteral("Tlacitko")),
+                                 pictures.picture(QStringLiteral("TlacitkoStisk")));
+        button->setFrame(Button::Frame::Raised);
+        button->place(kButtons[i]);
+        connect(button, &Button::clicked, this, [this, i] { press(i); });
+    }
+}
+
+void frmNastavHudbu::Zobraz() {
+    load();
+    app().PushScreen(*this);
+    showForm();
+    cmdOkEnd[0]->setFocus();
+}
+
+void frmNastavHudbu::load() {
+    loading_ = true;
+    settings_ = readSoundSettings(app().Db());
+    for (size_t i = 0; i < kSoundSettings; ++i) {
+        chkNastav[i]->setVisible(i < settings_.size());
+        if (i >= settings_.size()) continue;
+        chkNastav[i]->setChecked(settings_[i].on);
+        showCaption(i);
+    }
+    opthudba[app().SoundFlags[kWineSounds] ? 1 : 0]->setChecked(true);
+    enableTracks();
+    loading_ = false;
+}
+
+void frmNastavHudbu::showCaption(size_t index) {
+    const QString state =
+        chkNastav[index]->isChecked() ? QStringLiteral(" - Zapnuto") : QStringLiteral(" - Vypnuto");
+    chkNastav[index]->setCaption(settings_[index].name + state);
+}
+
+void frmNastavHudbu::switched(size_t index) {
+    if (loading_ || index >= settings_.size()) return;
+    showCaption(index);
+    if (index == kMusic) enableTracks();
+    if (index == kWineSounds) opthudba[chkNastav[index]->isChecked() ? 1 : 0]->setChecked(true);
+}
+
+void frmNastavHudbu::trackChosen(bool wineSounds) {
+    if (!loading_) chkNastav[kWineSounds]->setChecked(wineSounds);
+}
+
+void frmNastavHudbu::enableTracks() {
+    // Without music there is no track to choose.
+    const bool music = chkNastav[kMusic]->isChecked();
+    for (OptionButton* track : opthudba) track->setEnabled(music);
+    chkNastav[kWineSounds]->setEnabled(music);
+}
+
+void frmNastavHudbu::restored() {
+    enableTracks();
+    cmdOkEnd[0]->setFocus();
+}
+
+void frmNastavHudbu::press(int index) {
+    if (index == 0) store();
+    app().PopScreen(*this);
+}
+
+void frmNastavHudbu::store() {
+    std::vector<bool> on;
+    for (size_t i = 0; i < settings_.size(); ++i) on.push_back(chkNastav[i]->isChecked());
+    storeSoundSettings(app().Db(), on);
+    const bool wineSounds = opthudba[1]->isChecked();
+    for (size_t i = 0; i < on.size(); ++i) app().SoundFlags[i] = on[i];
+    const QString error = applyMusicSwitches(app(), wineSounds);
+    if (!error.isEmpty()) app().ZobrazZpravu(error, kErrorStyle);
+}
+
+void frmNastavHudbu::moveFocus(int step) {
+    std::vector<Control*> order;
+    for (Control* control :
+         std::initializer_list<Control*>{chkNastav[0], chkNastav[1], chkNastav[2], chkNastav[3], chkNastav[4],
+                                         opthudba[0], opthudba[1], cmdOkEnd[0], cmdOkEnd[1]}) {
+        if (control->isVisible() && control->isEnabled()) order.push_back(control);
+    }
+    size_t at = 0;
+    for (size_t i = 0; i < order.size(); ++i) {
+        if (order[i]->hasFocus()) at = i;
+    }
+    order[(at + order.size() + size_t(step)) % order.size()]->setFocus(Qt::TabFocusReason);
+}
+
+bool frmNastavHudbu::keyDown(QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+        case Qt::Key_Tab:
+            moveFocus(1);
+            return true;
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+        case Qt::Key_Backtab:
+            moveFocus(-1);
+            return true;
+        case Qt::Key_Escape:
+        case Qt::Key_S:
+            press(1);
+            return true;
+        case Qt::Key_N:
+            press(0);
+            return true;
+        case Qt::Key_Space:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            press(cmdOkEnd[1]->hasFocus() ? 1 : 0);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void frmNastavHudbu::paint(QPainter& painter) {
+    paintPanel(painter, {{0, 0}, twips().size()}, app().resources().picture(QStringLiteral("zprava")));
+}
+
+}  // namespace sarne

@@ -1,0 +1,313 @@
+#include "media/frmvideo.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/resources.h"
+#include "platform/multimediacontrol.h"
+
+namespace sarne {
+namespace {
+
+const TextFont kStatusFont{QStringLiteral("Arial"), 12};
+
+constexpr QRect kArea(1400, 450, 9200, 6900);
+constexpr QRect kWholeScreen(0, 0, 12000, 9000);
+constexpr QRect kStatus(1400, 8340, 4200, 420);
+constexpr QRect kTime(9300, 7440, 1300, 330);
+constexpr QRect kBar(1400, 7440, 7800, 330);
+constexpr QSize kButton(690, 690);
+constexpr int kButtonTop = 7980, kFirstButton = 5700, kButtonStep = 765;
+constexpr int kBackLeft = 10500;
+
+constexpr int kStartDelay = 10;     // milliseconds: the form is on the screen before the file is opened
+constexpr int kProgressStep = 200;  // milliseconds
+constexpr qint64 kJump = 5000;      // milliseconds
+constexpr int kErrorStyle = 16;
+
+struct Face {
+    const char *picture, *tip;
+};
+// The sound button's face and tip follow its switch.
+constexpr Face kFaces[] = {
+    {"ZvukOn", "Vypnout zvuk"},       {"Hrat", "Přehrát"},         {"Stop", "Konec"}, {"Pauza", "Pauza"},
+    {"NaZacatek", "Skok na začátek"}, {"NaKonec", "Skok na konec"}};
+
+QString clockText(qint64 milliseconds) {
+    const qint64 seconds = milliseconds / 1000;
+    return QStringLiteral("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0'));
+}
+
+}  // namespace
+
+frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
+    : Form(sarne, QStringLiteral("frmVideo")),
+      MMControlVideo(std::move(player)),
+      area_(*this, QStringLiteral("picVideo"), MMControlVideo.get()),
+      Label1(*this, QStringLiteral("Label1")),
+      time_(*this, QStringLiteral("lblCas")),
+      bar_(*this, QStringLiteral("prgPozice")),
+      tmrStart(this),
+      progress_(this) {
+    area_.place(kArea);
+    Label1.setFont(kStatusFont);
+    Label1.setColor(colors::kTitle);
+    Label1.setWordWrap(true);
+    Label1.place(kStatus);
+    time_.setFont(kStatusFont);
+    time_.setColor(colors::kTitle);
+    time_.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    time_.place(kTime);
+    bar_.place(kBar);
+    makeButtons();
+    connect(&area_, &VideoArea::doubleClicked, this, &frmVideo::toggleFullScreen);
+    connect(&bar_, &SeekBar::sought, this, &frmVideo::seek);
+    connect(&tmrStart, &Timer::tick, this, &frmVideo::start);
+    progress_.setInterval(kProgressStep);
+    connect(&progress_, &Timer::tick, this, [this] {
+        bar_.show(MMControlVideo->position(), MMControlVideo->length());
+        time_.setText(clockText(MMControlVideo->position()) + QStringLiteral(" / ") +
+                      clockText(MMControlVideo->length()));
+    });
+    if (MMControlVideo) connect(MMControlVideo.get(), &MultimediaControl::done, this, &frmVideo::ended);
+}
+
+frmVideo::~frmVideo() = default;
+
+void frmVideo::makeButtons() {
+    const Picture raised = app().resources().picture(QStringLiteral("RamVen"));
+    const Picture pressed = app().resources().picture(QStringLiteral("RamDovnitr"));
+    const auto make = [&](const QString& name, const Face& face, int left) {
+        auto* button = new Button(*this, name);
+        button->setFace(app().resources().picture(QLatin1String(face.picture)));
+        button->setTip(QString::fromUtf8(face.tip));
+        button->setFramePictures(raised, pressed);
+        button->setFrame(Button::Frame::Raised);
+        button->place({QPoint(left, kButtonTop), kButton});
+        return button;
+    };
+    // Left to right as they are used: play, pause, stop, to the beginning, to the end, sound.
+    constexpr int kOrder[] = {kPlay, kPause, kStop, kPrev, kNext, kSound};
+    for (int at = 0; at < 6; ++at) {
+        const int i = kOrder[at];
+        ImgTlacitko[size_t(i)] =
+            make(QStringLiteral("ImgTlacitko(%1)").arg(i), kFaces[i], kFirstButton + at * kButtonStep);
+        connect(ImgTlacitko[size_t(i)], &Button::clicked, this, [this, i] { press(i); });
+    }
+    back_ = make(QStringLiteral("imgBtn(0)"), {"Zpet", "Zpět"}, kBackLeft);
+    connect(back_, &Button::clicked, this, &frmVideo::Skryj);
+}
+
+void frmVideo::Zobraz(std::int16_t number) {
+    if (app().ShowMode) app().SoundFlags[kVideoSound] = true;
+    if (app().SoundFlags[kMusic] && app().music().mode() == MediaMode::Playing)
+        app().music().command(u"stop");
+    Label1.setText(QStringLiteral("Chvilku prosím počkejte, otevírám soubor s videem...."));
+    drawSoundButton();
+    app().PushScreen(*this);
+    if (MMControlVideo)
+        MMControlVideo->setFileName(app().mediaFile(QStringLiteral("VIDEO\\%1.AVI").arg(number)));
+    tmrStart.setInterval(kStartDelay);
+    tmrStart.setEnabled(true);
+    showForm();
+    ImgTlacitko[kPlay]->setFocus();
+    app().keepAwake(QStringLiteral("Přehrává se video"));
+}
+
+void frmVideo::start() {
+    tmrStart.setEnabled(false);
+    if (!MMControlVideo) return Skryj();
+    if (app().SoundFlags[kMusic] && app().music().mode() == MediaMode::Playing)
+        app().music().command(u"stop");
+    MMControlVideo->setWait(MediaWait::Wait);
+    MMControlVideo->setNotify(MediaNotify::On);
+    MMControlVideo->setSilent(app().SoundFlags[kVideoSound] ? MediaSound::On : MediaSound::Silent);
+    MMControlVideo->command(u"open");
+    if (MMControlVideo->error() > 0) return showError();
+    Label1.setText(QStringLiteral("Soubor otevřen, začínám přehrávat ...."));
+    MMControlVideo->command(u"play");
+    if (MMControlVideo->error() > 0) return showError();
+    setPlaying(true);
+    progress_.setEnabled(true);
+}
+
+void frmVideo::showError() {
+    const QString text = MMControlVideo->errorMessage();
+    const QPointer<frmVideo> self(this);
+    app().ZobrazZpravu(text, kErrorStyle);
+    if (self) Skryj();
+}
+
+void frmVideo::setPlaying(bool playing) {
+    if (playing) Label1.setText(QStringLiteral("Přehrávám"));
+    ImgTlacitko[kPlay]->setFrame(playing ? Button::Frame::Pressed : Button::Frame::Raised);
+    if (playing) ImgTlacitko[kPause]->setFrame(Button::Frame::Raised);
+}
+
+void frmVideo::ended() {
+    if (closed_ || MMControlVideo->mode() == MediaMode::Playing) return;
+    Label1.setText(QStringLiteral("Přehrávání skončeno"));
+    setPlaying(false);
+}
+
+void frmVideo::press(int index) {
+    if (!MMControlVideo) return;
+    switch (index) {
+        case kSound:
+            return toggleSound();
+        case kPlay:
+            MMControlVideo->command(u"prev");
+            MMControlVideo->command(u"play");
+            return setPlaying(true);
+        case kStop:
+            MMControlVideo->command(u"stop");
+            Label1.setText(QStringLiteral("Zastaveno"));
+            return setPlaying(false);
+        case kPause:
+            return pause();
+        case kPrev:
+        case kNext:
+            MMControlVideo->command(index == kPrev ? u"prev" : u"next");
+            Label1.setText(index == kPrev ? QStringLiteral("Na začátku") : QStringLiteral("Na konci"));
+            return setPlaying(false);
+        default:
+            return;
+    }
+}
+
+void frmVideo::pause() {
+    const bool resumes = MMControlVideo->mode() == MediaMode::Paused;
+    if (!resumes && MMControlVideo->mode() != MediaMode::Playing) return press(kPlay);
+    MMControlVideo->command(u"pause");
+    ImgTlacitko[kPause]->setFrame(resumes ? Button::Frame::Raised : Button::Frame::Pressed);
+    if (!resumes) Label1.setText(QStringLiteral("Pozastaveno"));
+    setPlaying(resumes);
+}
+
+void frmVideo::toggleSound() {
+    app().SoundFlags[kVideoSound] = !app().SoundFlags[kVideoSound];
+    MMControlVideo->setSilent(app().SoundFlags[kVideoSound] ? MediaSound::On : MediaSound::Silent);
+    drawSoundButton();
+}
+
+void frmVideo::drawSoundButton() {
+    const bool on = app().SoundFlags[kVideoSound];
+    ImgTlacitko[kSound]->setFace(
+        app().resources().picture(on ? QStringLiteral("ZvukOn") : QStringLiteral("ZvukOff")));
+    ImgTlacitko[kSound]->setTip(on ? QStringLiteral("Vypnout zvuk") : QStringLiteral("Zapnout zvuk"));
+}
+
+void frmVideo::seek(qint64 milliseconds) {
+    if (MMControlVideo && MMControlVideo->mode() != MediaMode::NotOpen)
+        MMControlVideo->setPosition(milliseconds);
+}
+
+void frmVideo::jump(qint64 milliseconds) {
+    if (MMControlVideo) seek(MMControlVideo->position() + milliseconds);
+}
+
+void frmVideo::toggleFullScreen() {
+    wholeScreen_ = !wholeScreen_;
+    area_.place(wholeScreen_ ? kWholeScreen : kArea);
+    wholeScreen_ ? area_.raise() : area_.lower();
+}
+
+void frmVideo::Skryj() {
+    if (closed_) return;
+    app().PopScreen(*this);
+}
+
+void frmVideo::unload() {
+    if (!closed_) {
+        closed_ = true;
+        progress_.setEnabled(false);
+        tmrStart.setEnabled(false);
+        for (Button* button : ImgTlacitko) button->setFrame(Button::Frame::Raised);
+        if (app().SoundFlags[kMusic] && app().music().mode() != MediaMode::NotOpen)
+            app().music().command(u"play");
+        if (MMControlVideo) MMControlVideo->command(u"stop");
+        if (MMControlVideo) MMControlVideo->command(u"close");
+        app().keepAwake({});
+    }
+    Form::unload();
+}
+
+void frmVideo::endProgram() {
+    app().ConfirmExit();
+}
+
+void frmVideo::moveFocus(int step) {
+    Button* const order[] = {ImgTlacitko[kPlay],
+                             ImgTlacitko[kPause],
+                             ImgTlacitko[kStop],
+                             ImgTlacitko[kPrev],
+                             ImgTlacitko[kNext],
+                             ImgTlacitko[kSound],
+                             back_};
+    constexpr int kCount = 7;
+    int at = 0;
+    for (int i = 0; i < kCount; ++i) {
+        if (order[i]->hasFocus()) at = i;
+    }
+    focusMoved_ = true;
+    order[(at + step + kCount) % kCount]->setFocus(Qt::TabFocusReason);
+}
+
+bool frmVideo::keyDown(QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Escape:
+            if (wholeScreen_)
+                toggleFullScreen();
+            else
+                Skryj();
+            return true;
+        case Qt::Key_Space:
+            if (MMControlVideo) pause();
+            return true;
+        case Qt::Key_Left:
+            jump(-kJump);
+            return true;
+        case Qt::Key_Right:
+            jump(kJump);
+            return true;
+        case Qt::Key_Tab:
+            moveFocus(1);
+            return true;
+        case Qt::Key_Backtab:
+            moveFocus(-1);
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return pressFocused();
+        default:
+            return false;
+    }
+}
+
+/// Enter presses the button that shows the focus; while none does, it fills the screen with the video and
+/// back.
+bool frmVideo::pressFocused() {
+    if (!focusMoved_ || wholeScreen_) {
+        toggleFullScreen();
+        return true;
+    }
+    for (Button* button : findChildren<Button*>()) {
+        if (!button->hasFocus()) continue;
+        button->click();
+        return true;
+    }
+    return true;
+}
+
+void frmVideo::paint(QPainter& painter) {
+    const QRect screen(0, 0, basSarne::ScreenWidthTw, basSarne::ScreenHeightTw);
+    painter.fillRect(screen, colors::kNight);
+    app().Pictures.video.draw(painter, screen);
+    painter.setBrush(colors::kNight);
+    painter.setPen(QPen(colors::kCopper, 45));
+    painter.drawRoundedRect(QRect(1200, 7380, 10200, 1440), 120, 120);
+}
+
+}  // namespace sarne

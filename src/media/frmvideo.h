@@ -1,0 +1,72 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+#include "forms/button.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/timer.h"
+#include "media/seekbar.h"
+#include "media/videoarea.h"
+
+namespace sarne {
+
+class MultimediaControl;
+
+/// Plays one of the program's clips, with a bar of transport buttons. The background music stops meanwhile.
+/// Made anew for each clip.
+class frmVideo : public Form {
+    Q_OBJECT
+  public:
+    /// Owns \a player; without one nothing can be played and the screen closes again.
+    frmVideo(basSarne& app, std::unique_ptr<MultimediaControl> player);
+    ~frmVideo() override;
+
+    /// Shows the screen and, a moment later, opens and plays the clip "VIDEO\" + number + ".AVI".
+    void Zobraz(std::int16_t number);
+    /// Closes the clip and the screen; the music plays on.
+    void Skryj();
+
+    void goBack() override { Skryj(); }
+    void endProgram() override;
+    void unload() override;
+
+  protected:
+    void paint(QPainter& painter) override;
+    bool keyDown(QKeyEvent& event) override;
+
+  private:
+    enum Transport { kSound, kPlay, kStop, kPause, kPrev, kNext };
+
+    void makeButtons();
+    void press(int index);
+    void start();
+    void showError();
+    void ended();
+    void pause();
+    void toggleSound();
+    void drawSoundButton();
+    void seek(qint64 milliseconds);
+    void jump(qint64 milliseconds);
+    void toggleFullScreen();
+    void setPlaying(bool playing);
+    void moveFocus(int step);
+    bool pressFocused();
+
+    std::unique_ptr<MultimediaControl> MMControlVideo;
+    VideoArea area_;
+    Label Label1;
+    Label time_;
+    SeekBar bar_;
+    std::array<Button*, 6> ImgTlacitko{};
+    Button* back_ = nullptr;
+    Timer tmrStart;
+    Timer progress_;
+    bool wholeScreen_ = false;
+    bool focusMoved_ = false;  // the user has gone to a button with Tab
+    bool closed_ = false;
+};
+
+}  // namespace sarne

@@ -1,0 +1,46 @@
+#include "media/seekbar.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "forms/colors.h"
+
+namespace sarne {
+
+SeekBar::SeekBar(Form& owner, const QString& name) : Control(owner, name) {
+    setTip(QStringLiteral("Pozice ve videu"));
+    setCursor(Qt::PointingHandCursor);
+}
+
+void SeekBar::show(qint64 position, qint64 length) {
+    if (position == position_ && length == length_) return;
+    position_ = position;
+    length_ = length;
+    update();
+}
+
+qint64 SeekBar::positionAt(int x) const {
+    return twips().width() > 0 ? length_ * qBound(0, x, twips().width()) / twips().width() : 0;
+}
+
+void SeekBar::paint(QPainter& painter) {
+    constexpr int kThickness = 90;
+    QRectF bar(0, (twips().height() - kThickness) / 2., twips().width(), kThickness);
+    painter.setPen(QPen(colors::kCopper.darker(150), 15));
+    painter.setBrush(colors::kNight);
+    painter.drawRoundedRect(bar, 45, 45);
+    if (length_ <= 0) return;
+    bar.setWidth(bar.width() * double(qMin(position_, length_)) / double(length_));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colors::kCopper);
+    painter.drawRoundedRect(bar, 45, 45);
+    painter.setBrush(colors::kTitle);
+    painter.drawEllipse(bar.topRight() + QPointF(0, kThickness / 2.), 90, 90);
+}
+
+void SeekBar::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && length_ > 0)
+        Q_EMIT sought(positionAt(toTwips(event->position()).x()));
+}
+
+}  // namespace sarne

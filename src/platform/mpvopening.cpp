@@ -1,0 +1,140 @@
+#include <QDeadlineTimer>
+#include <QFileInfo>
+#include <chrono>
+
+#include "platform/mpvcontrol_p.h"
+
+namespace sarne {
+
+namespace {
+
+constexpr int openTimeoutMs = 5000;  // a disc that spins up takes seconds
+
+}  // namespace
+
+void MpvControl::Private::open() {
+    close();
+    error_ = fileError();
+    if (error_ != MediaError::None) return;
+    opening_ = true;
+    playWhenOpen_ = false;
+    timeout_.start(openTimeoutMs);
+    loadLibrary();
+    if (wait_ == MediaWait::Wait) waitUntilOpen();
+}
+
+MediaError MpvControl::Private::fileError() const {
+    if (file_.isEmpty()) return MediaError::FileNameMissing;
+    const QFileInfo info(file_);
+    if (!info.exists()) return MediaError::FileNotFound;
+    if (!info.isFile() || !info.isReadable() || info.size() == 0) return MediaError::InvalidFile;
+    return MediaError::None;
+}
+
+void MpvControl::Private::loadLibrary() {
+    if (core_) return loadFile();
+    if (loading_.valid()) return;
+    loading_ = std::async(std::launch::async, [q = q_, this] {
+        auto library = MpvLibrary::load();
+        QMetaObject::invokeMethod(
+            q, [this] { libraryLoaded(); }, Qt::QueuedConnection);
+        return library;
+    });
+}
+
+/// Takes what the loading thread brought; nothing when a waiting "open" has taken it already.
+void MpvControl::Private::libraryLoaded() {
+    if (!loading_.valid()) return;
+    library_ = loading_.get();
+    if (!opening_) return;
+    if (startPlayer())
+        loadFile();
+    else
+        openFailed(MediaError::NoPlayer);
+}
+
+bool MpvControl::Private::startPlayer() {
+    if (core_) return true;
+    if (!library_) return false;
+    core_ = MpvCore::start(*library_, [this] {
+        if (wakeupPosted_.exchange(true)) return;
+        QMetaObject::invokeMethod(
+            q_, [this] { drainEvents(); }, Qt::QueuedConnection);
+    });
+    if (!core_) return false;
+    picture_ = std::make_unique<MpvPicture>(*core_, [this, core = core_.get()] {
+        core->wakeUp();
+        if (picturePosted_.exchange(true)) return;
+        QMetaObject::invokeMethod(
+            q_, [this] { pictureChanged(); }, Qt::QueuedConnection);
+    });
+    core_->setFlag("mute", sound_ == MediaSound::Silent);
+    return true;
+}
+
+void MpvControl::Private::loadFile() {
+    core_->setFlag("pause", true);
+    const bool loops = loop_ == MediaLoop::On;
+    core_->setText("loop-file", loops ? "inf" : "no");
+    core_->setText("gapless-audio", loops ? "yes" : "no");  // without, the end waits until it has been heard
+    entryStarted_ = false;
+    core_->load(QFileInfo(file_).absoluteFilePath(), ++loadTag_);
+}
+
+void MpvControl::Private::waitUntilOpen() {
+    if (loading_.valid()) libraryLoaded();
+    const QDeadlineTimer deadline(openTimeoutMs);
+    while (opening_ && !deadline.hasExpired()) {
+        drainEvents(deadline.remainingTime());
+        if (picture_) picture_->skip();
+    }
+    if (opening_) openFailed(MediaError::Internal);
+}
+
+void MpvControl::Private::opened() {
+    const bool atEnd = core_->flag("eof-reached");
+    length_ = core_->milliseconds("duration");
+    videoSize_ = QSize(static_cast<int>(core_->number("dwidth").value_or(0)),
+                       static_cast<int>(core_->number("dheight").value_or(0)));
+    if (lacksPicture() || (atEnd && videoSize_.isEmpty())) return openFailed(MediaError::InvalidFile);
+    core_->followPosition(!videoSize_.isEmpty());
+    filmPosition_ = 0;
+    opening_ = false;
+    timeout_.stop();
+    mode_ = MediaMode::Stopped;
+    atEnd_ = false;
+    QMetaObject::invokeMethod(
+        q_, [this] { pictureChanged(); }, Qt::QueuedConnection);
+    if (playWhenOpen_) play();
+}
+
+/// A film whose picture cannot be decoded is no film, even when its sound can.
+bool MpvControl::Private::lacksPicture() const {
+    bool film = false;
+    const int tracks = static_cast<int>(core_->number("track-list/count").value_or(0));
+    for (int i = 0; i < tracks; ++i) {
+        const QString track = QStringLiteral("track-list/%1/").arg(i);
+        film = film || core_->text(track + QStringLiteral("type")) == u"video";
+    }
+    return film && !core_->number("current-tracks/video/id");
+}
+
+void MpvControl::Private::openFailed(MediaError error) {
+    if (!opening_) return;
+    close();
+    error_ = error;
+    if (wait_ == MediaWait::DontWait) notify(MediaDone::Failed);
+}
+
+void MpvControl::Private::close() {
+    timeout_.stop();
+    opening_ = false;
+    entry_.reset();
+    target_.reset();
+    length_ = 0;
+    videoSize_ = {};
+    if (core_) core_->unload();
+    halt(MediaMode::NotOpen);
+}
+
+}  // namespace sarne

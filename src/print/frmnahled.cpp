@@ -1,0 +1,156 @@
+#include "print/frmnahled.h"
+
+#include <QKeyEvent>
+
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/panel.h"
+#include "forms/resources.h"
+#include "forms/stage.h"
+#include "print/formparts.h"
+
+namespace sarne {
+namespace {
+
+constexpr QRect kSheet(240, 180, 9120, 8640);
+constexpr QRect kPosition(9540, 420, 2220, 600);
+constexpr QRect kButtons[] = {
+    {9540, 1260, 2220, 600}, {9540, 2010, 2220, 600}, {9540, 3060, 2220, 600}, {9540, 8040, 2220, 600}};
+constexpr int kScrollStep = 600;
+
+enum ButtonIndex { kPrevious, kNext, kZoom, kClose };
+const char* const kCaptions[] = {"◄ Předchozí", "Další ►", "Zvětšit", "Zpět"};
+const char* const kTips[] = {"Předchozí strana", "Další strana", "Zvětšit nebo zmenšit stranu",
+                             "Zpět k tisku"};
+
+}  // namespace
+
+void showOver(basSarne& app, Form& form) {
+    if (app.stage().modalForm()) return form.showModal();
+    app.PushScreen(form);
+    form.showForm();
+}
+
+void closeOver(basSarne& app, Form& form) {
+    if (app.FormStack.contains(form)) return app.PopScreen(form);
+    form.unload();
+}
+
+frmNahled::frmNahled(basSarne& sarne, std::unique_ptr<PagePreview> preview)
+    : Form(sarne, QStringLiteral("frmNahled")),
+      preview_(std::move(preview)),
+      picStrana(*this, QStringLiteral("picStrana")),
+      lblStrana(*this, QStringLiteral("lblStrana")),
+      Timer1(this) {
+    picStrana.place(kSheet);
+    picStrana.setTip(QStringLiteral("Náhled strany"));
+    lblStrana.place(kPosition);
+    dressLabel(lblStrana, printforms::kTextFont, colors::kTitle);
+    lblStrana.setAlignment(Qt::AlignCenter);
+    for (int i = 0; i < 4; ++i) {
+        auto* button = cmdStrana[size_t(i)] = new Button(*this, QStringLiteral("cmdStrana(%1)").arg(i));
+        dressButton(*button, app().resources(), QString::fromUtf8(kCaptions[i]), QString::fromUtf8(kTips[i]));
+        button->place(kButtons[i]);
+    }
+    connect(cmdStrana[kPrevious], &Button::clicked, this, [this] { go(current_ - 1); });
+    connect(cmdStrana[kNext], &Button::clicked, this, [this] { go(current_ + 1); });
+    connect(cmdStrana[kZoom], &Button::clicked, this, [this] { zoom(); });
+    connect(cmdStrana[kClose], &Button::clicked, this, [this] { goBack(); });
+    connect(&picStrana, &Control::clicked, this, [this] { zoom(); });
+    connect(&picStrana, &PageSheet::turned, this, [this](int pages) { go(current_ + pages); });
+    connect(&Timer1, &Timer::tick, this, [this] { layOutMore(); });
+}
+
+void frmNahled::Zobraz() {
+    while (preview_->pageCount() == 0 && preview_->layOutMore()) {
+    }
+    go(0);
+    Timer1.setInterval(0);
+    Timer1.setEnabled(!preview_->isComplete());
+    showOver(app(), *this);
+}
+
+void frmNahled::goBack() {
+    Timer1.setEnabled(false);
+    closeOver(app(), *this);
+}
+
+void frmNahled::layOutMore() {
+    if (!preview_->layOutMore()) Timer1.setEnabled(false);
+    showPosition();
+}
+
+void frmNahled::go(int page) {
+    current_ = qBound(0, page, qMax(0, preview_->pageCount() - 1));
+    picStrana.showPage(*preview_, current_);
+    showPosition();
+}
+
+void frmNahled::showPosition() {
+    const int count = preview_->pageCount();
+    const QString more = preview_->isComplete() ? QString() : QStringLiteral(" ...");
+    lblStrana.setText(count == 0 ? QStringLiteral("Není co tisknout")
+                                 : QStringLiteral("Strana %1 z %2").arg(current_ + 1).arg(count) + more);
+    cmdStrana[kPrevious]->setEnabled(current_ > 0);
+    cmdStrana[kNext]->setEnabled(current_ + 1 < count);
+}
+
+void frmNahled::zoom() {
+    picStrana.setZoomed(!picStrana.isZoomed());
+    cmdStrana[kZoom]->setCaption(picStrana.isZoomed() ? QStringLiteral("Zmenšit")
+                                                      : QStringLiteral("Zvětšit"));
+}
+
+std::vector<Control*> frmNahled::tabOrder() {
+    return {cmdStrana[kPrevious], cmdStrana[kNext], cmdStrana[kZoom], cmdStrana[kClose]};
+}
+
+bool frmNahled::scrollKey(int key) {
+    if (key == Qt::Key_Up) return picStrana.scrollBy(-kScrollStep) || picStrana.isZoomed();
+    if (key == Qt::Key_Down) return picStrana.scrollBy(kScrollStep) || picStrana.isZoomed();
+    return false;
+}
+
+bool frmNahled::keyDown(QKeyEvent& event) {
+    if (scrollKey(event.key())) return true;
+    switch (event.key()) {
+        case Qt::Key_Escape:
+            goBack();
+            return true;
+        case Qt::Key_PageUp:
+        case Qt::Key_Left:
+        case Qt::Key_Up:
+            go(current_ - 1);
+            return true;
+        case Qt::Key_PageDown:
+        case Qt::Key_Right:
+        case Qt::Key_Down:
+            go(current_ + 1);
+            return true;
+        case Qt::Key_Home:
+            go(0);
+            return true;
+        case Qt::Key_End:
+            go(preview_->pageCount() - 1);
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            if (!clickFocused(tabOrder())) zoom();
+            return true;
+        case Qt::Key_Tab:
+            moveFocus(tabOrder(), 1);
+            return true;
+        case Qt::Key_Backtab:
+            moveFocus(tabOrder(), -1);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void frmNahled::paint(QPainter& painter) {
+    paintPanel(painter, {{0, 0}, twips().size()});
+}
+
+}  // namespace sarne

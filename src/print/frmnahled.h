@@ -1,0 +1,50 @@
+#pragma once
+
+#include <array>
+
+#include "forms/button.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/timer.h"
+#include "print/pagesheet.h"
+
+namespace sarne {
+
+/// The preview: the pages as they will be printed, to leaf through. Owns the preview it shows.
+class frmNahled : public Form {
+    Q_OBJECT
+  public:
+    frmNahled(basSarne& app, std::unique_ptr<PagePreview> preview);
+
+    /// Shows the first page; returns when the preview is closed, where another form is modal, else at once.
+    void Zobraz();
+
+    int currentPage() const { return current_; }
+    void goBack() override;
+
+  protected:
+    void paint(QPainter& painter) override;
+    bool keyDown(QKeyEvent& event) override;
+
+  private:
+    void go(int page);
+    void zoom();
+    void layOutMore();
+    void showPosition();
+    bool scrollKey(int key);
+    std::vector<Control*> tabOrder();
+
+    std::unique_ptr<PagePreview> preview_;
+    PageSheet picStrana;
+    Label lblStrana;
+    std::array<Button*, 4> cmdStrana{};
+    Timer Timer1;
+    int current_ = 0;
+};
+
+/// Shows \a form as a screen of its own, or on top of a modal form as another modal one.
+void showOver(basSarne& app, Form& form);
+/// Closes a form that showOver() has shown.
+void closeOver(basSarne& app, Form& form);
+
+}  // namespace sarne

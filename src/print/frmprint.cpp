@@ -1,0 +1,255 @@
+#include "print/frmprint.h"
+
+#include <QFontMetricsF>
+
+#include "core/value.h"
+#include "db/database.h"
+#include "forms/bassarne.h"
+#include "forms/resources.h"
+#include "forms/stage.h"
+#include "print/formparts.h"
+#include "print/frmnahled.h"
+#include "print/frmprint_layout.h"
+#include "print/printlogo.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kUsualPortions = 4;
+constexpr int kYieldInterval = 20;  // milliseconds between two looks at what the user does
+
+const QString kKeepAwake = QStringLiteral("Tisk");
+
+QString recipeName(Database& db, int id) {
+    Recordset recipes = db.OpenTable(QStringLiteral("Recepty"));
+    recipes.setIndex(QStringLiteral("PrimaryKey"));
+    return RecordExists(recipes, id) ? recipes.field(QStringLiteral("Nazev")).toString() : QString();
+}
+
+QString outcomeText(const PrintOutcome& outcome) {
+    using Kind = PrintOutcome::Kind;
+    const QString where =
+        outcome.file.isEmpty() ? QString() : QStringLiteral("\nStrany jsou v souboru ") + outcome.file;
+    switch (outcome.kind) {
+        case Kind::Printed:
+            return QStringLiteral("Tisk je hotov, počet stran: %1.").arg(outcome.pages) + where;
+        case Kind::Stopped:
+            return QStringLiteral("Tisk byl přerušen.") + where;
+        case Kind::Failed:
+            return QStringLiteral("Tisk se nezdařil: tiskárna neodpovídá nebo na disku není místo.");
+        case Kind::Nothing:
+            return QStringLiteral("Není co tisknout.");
+    }
+    return {};
+}
+
+}  // namespace
+
+void frmPrint::Zobraz(const std::vector<std::int16_t>& selection) {
+    take({selection, {}});
+}
+
+void frmPrint::ZobrazTexty(std::vector<TitledText> texts) {
+    take({{}, std::move(texts)});
+}
+
+void frmPrint::take(PrintMaterial material) {
+    if (printing_) return;
+    material_ = std::move(material);
+    lblVysledek.setText({});
+    prepareOptions();
+    showMaterial();
+    if (!table_.isEmpty()) {
+        showForm();
+        return start();
+    }
+    open();
+}
+
+void frmPrint::open() {
+    setFocusProxy(Command1);
+    if (!isVisible()) showOver(app(), *this);
+}
+
+void frmPrint::prepareOptions() {
+    const double last = app().lastPortions;
+    // Read back with a decimal point, whatever the user's.
+    Text1.setText(QString::number(last > 0 ? last : kUsualPortions));
+    chkZobrKg.setChecked(app().lastWeights);
+}
+
+PrintOptions frmPrint::options() const {
+    PrintOptions options;
+    for (size_t i = 0; i < Chco.size(); ++i) options.sections[i] = Chco[i]->isChecked();
+    options.portions = leadingNumber(Text1.text());
+    options.weights = chkZobrKg.isChecked();
+    return options;
+}
+
+PrintSource frmPrint::source() {
+    return {app().Db(), [this](const QString& path) { return app().mediaPicture(path); }, app().Locale,
+            printLogo(app().resources())};
+}
+
+QString frmPrint::materialName() const {
+    if (material_.isText()) return material_.texts.front().title;
+    return material_.recipes.empty() ? QString() : recipeName(app().Db(), material_.recipes.front());
+}
+
+void frmPrint::showMaterial() {
+    const int more = material_.count() - 1;
+    QString name = materialName();
+    if (more > 0) name += QStringLiteral(" a další (celkem %1)").arg(more + 1);
+    lblCo.setText(name);
+    Frame1.setEnabled(!material_.isText());
+    showPrinter();
+}
+
+void frmPrint::showPrinter() {
+    const QString paper = QStringLiteral("Papír: ") + printer_.paper();
+    const QString name = printer_.name();
+    if (!name.isEmpty()) return lblTiskarna.setText(QStringLiteral("Tiskárna: ") + name + u'\n' + paper);
+    // The end of a long path says more than its middle.
+    const QFontMetricsF metrics(printforms::kSmallFont.toQFont());
+    const QString file = QStringLiteral("Tisk do souboru: ") + printer_.fileFor(materialName());
+    lblTiskarna.setText(metrics.elidedText(file, Qt::ElideMiddle, printlayout::kPrinter.width()) + u'\n' +
+                        paper);
+    lblTiskarna.setToolTip(file);
+}
+
+bool frmPrint::portionsValid() {
+    if (material_.isText()) return true;
+    const double portions = leadingNumber(Text1.text());
+    if (portions >= 1 && portions <= 99) return true;
+    app().ZobrazZpravu(QStringLiteral("Musí být zadáno celé číslo od 1 do 99!"), 48);
+    Text1.focusAll();
+    return false;
+}
+
+void frmPrint::start() {
+    if (printing_ || !portionsValid()) return;
+    table_ = QStringLiteral("Recepty");
+    prgSeznam.setMaximum(material_.count());
+    prgSeznam.setValue(0);
+    setPrinting(true);
+    const QPointer<frmPrint> self(this);
+    run();
+    if (self) setPrinting(false);
+}
+
+void frmPrint::run() {
+    stopped_ = false;
+    app().Yield();
+    QtTextMetrics metrics;
+    PageComposer composer(source(), printer_.scale(), metrics);
+    PrintJob job(printer_, composer, *this);
+    showOutcome(material_.isText() ? job.print(material_.texts) : job.print(material_.recipes, options()));
+}
+
+void frmPrint::setPrinting(bool printing) {
+    printing_ = printing;
+    for (Control* control : std::initializer_list<Control*>{Command1, Command2, cmdNahled, cmdTiskarna})
+        control->setEnabled(!printing);
+    Frame1.setEnabled(!printing && !material_.isText());
+    for (Control* control :
+         std::initializer_list<Control*>{&Label1, &lblRecept, &prgRecept, &prgSeznam, cmdPrerus})
+        control->setVisible(printing);
+    lblVysledek.setVisible(!printing);
+    app().keepAwake(printing ? kKeepAwake : QString());
+    if (printing) {
+        hideOthers();
+        cmdPrerus->setFocus();
+    } else {
+        showOthers();
+        showPrinter();
+        Command2->setFocus();
+    }
+}
+
+void frmPrint::hideOthers() {
+    others_.clear();
+    for (Form* form : app().stage().forms()) {
+        if (form == this || !form->isVisible()) continue;
+        others_.emplace_back(form);
+        form->hideForm();
+    }
+}
+
+void frmPrint::showOthers() {
+    for (const QPointer<Form>& form : others_) {
+        if (form && form->isLoaded()) form->show();
+    }
+    others_.clear();
+    raise();
+}
+
+void frmPrint::showOutcome(const PrintOutcome& outcome) {
+    lblVysledek.setText(outcomeText(outcome));
+    app().HookMessage(lblVysledek.text());
+}
+
+void frmPrint::askToStop() {
+    if (!printing_) return;
+    if (app().ZobrazZpravu(QStringLiteral(" Opravdu chcete ukončit tisk? "), 52) == 6) stopped_ = true;
+}
+
+void frmPrint::preview() {
+    if (!portionsValid()) return;
+    auto preview = std::make_unique<PagePreview>(source(), printer_.scale(), material_, options());
+    (new frmNahled(app(), std::move(preview)))->Zobraz();
+}
+
+void frmPrint::choosePrinter() {
+    if (printer_.choose(&app().stage())) showPrinter();
+}
+
+void frmPrint::goBack() {
+    if (printing_) return askToStop();
+    closeOver(app(), *this);
+}
+
+void frmPrint::endProgram() {
+    if (printing_) return askToStop();
+    Form::endProgram();
+}
+
+void frmPrint::musicSettings() {
+    if (!printing_) Form::musicSettings();
+}
+
+void frmPrint::help() {
+    if (!printing_) Form::help();
+}
+
+void frmPrint::restored() {
+    Frame1.setEnabled(!material_.isText());
+    cmdNahled->setFocus();
+}
+
+void frmPrint::recipeStarted(const QString& name) {
+    lblRecept.setText(name);
+    prgRecept.setValue(0);
+}
+
+void frmPrint::status(const QString& text) {
+    Label1.setText(text);
+    app().Yield();
+}
+
+void frmPrint::sectionDone() {
+    prgRecept.advance();
+}
+
+void frmPrint::recipeDone() {
+    prgSeznam.advance();
+}
+
+bool frmPrint::goOn() {
+    if (!sinceYield_.isValid() || sinceYield_.hasExpired(kYieldInterval)) {
+        app().Yield();
+        sinceYield_.restart();
+    }
+    return !stopped_;
+}
+
+}  // namespace sarne

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <array>
+
+#include "forms/button.h"
+#include "forms/checkbox.h"
+#include "forms/edit.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/progressbar.h"
+#include "platform/printer.h"
+#include "print/printjob.h"
+#include "print/printmaterial.h"
+
+namespace sarne {
+
+/// The printing form: what of a recipe is printed and for how many portions, where it goes, and how far it
+/// is. Printing runs within start(), which lets window events run between the lines.
+class frmPrint : public Form, private PrintProgress {
+    Q_OBJECT
+  public:
+    /// Prints on \a printer, which must outlive the form.
+    frmPrint(basSarne& app, Printer& printer);
+
+    /// Takes the ids of recipes to print and shows the form. The first selection waits for the user to look
+    /// through the options; one that comes while the form is open is printed at once.
+    void Zobraz(const std::vector<std::int16_t>& selection);
+    /// Takes texts to print that are no recipes: there is nothing to choose but the printer.
+    void ZobrazTexty(std::vector<TitledText> texts);
+
+    bool isPrinting() const { return printing_; }
+    void goBack() override;
+    void endProgram() override;
+    void musicSettings() override;
+    void help() override;
+    void restored() override;
+
+  protected:
+    void paint(QPainter& painter) override;
+    bool keyDown(QKeyEvent& event) override;
+
+  private:
+    void makeOptions();
+    void makePrinterLine();
+    void makeProgress();
+    void makeButtons();
+    Button* makeButton(const QString& name, const QString& caption, const QString& tip, const QRect& place);
+
+    void take(PrintMaterial material);
+    void open();
+    void prepareOptions();
+    PrintOptions options() const;
+    PrintSource source();
+    QString materialName() const;
+    void showMaterial();
+    void showPrinter();
+
+    void start();
+    bool portionsValid();
+    void run();
+    void setPrinting(bool printing);
+    void hideOthers();
+    void showOthers();
+    void showOutcome(const PrintOutcome& outcome);
+    void askToStop();
+    void preview();
+    void choosePrinter();
+    std::vector<Control*> tabOrder();
+
+    // Printing tells how far it is.
+    void recipeStarted(const QString& name) override;
+    void status(const QString& text) override;
+    void sectionDone() override;
+    void recipeDone() override;
+    bool goOn() override;
+
+    Printer& printer_;
+    PrintMaterial material_;
+    QString table_;  // what is being printed; empty before the first printing
+    bool printing_ = false;
+    bool stopped_ = false;
+    QElapsedTimer sinceYield_;
+    std::vector<QPointer<Form>> others_;
+
+    Label lblNadpis, lblCo;
+    Control Frame1;
+    std::array<CheckBox*, kPrintSections> Chco{};
+    Label lblPorce;
+    Edit Text1;
+    CheckBox chkZobrKg;
+    Label lblTiskarna, lblVysledek;
+    Label Label1, lblRecept;
+    ProgressBar prgRecept, prgSeznam;
+    Button *Command1, *Command2, *cmdPrerus, *cmdTiskarna, *cmdNahled;
+};
+
+}  // namespace sarne

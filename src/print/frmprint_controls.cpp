@@ -1,0 +1,177 @@
+#include <QKeyEvent>
+
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/panel.h"
+#include "forms/resources.h"
+#include "print/formparts.h"
+#include "print/frmprint.h"
+#include "print/frmprint_layout.h"
+
+namespace sarne {
+namespace {
+
+namespace at = printlayout;
+
+const char* const kSections[kPrintSections] = {
+    "Foto", "Suroviny", "Úvod, recept, poznámka", "Servis", "Víno", "Vlastní poznámka", "Pomůcky", "Odkazy"};
+
+constexpr int kMostPortionDigits = 8;
+
+}  // namespace
+
+frmPrint::frmPrint(basSarne& sarne, Printer& printer)
+    : Form(sarne, QStringLiteral("frmPrint")),
+      printer_(printer),
+      lblNadpis(*this, QStringLiteral("lblNadpis")),
+      lblCo(*this, QStringLiteral("lblCo")),
+      Frame1(*this, QStringLiteral("Frame1")),
+      lblPorce(*this, QStringLiteral("lblPorce")),
+      Text1(*this, QStringLiteral("Text1")),
+      chkZobrKg(*this, QStringLiteral("chkZobrKg")),
+      lblTiskarna(*this, QStringLiteral("lblTiskarna")),
+      lblVysledek(*this, QStringLiteral("lblVysledek")),
+      Label1(*this, QStringLiteral("Label1")),
+      lblRecept(*this, QStringLiteral("lblRecept")),
+      prgRecept(*this, QStringLiteral("prgRecept")),
+      prgSeznam(*this, QStringLiteral("prgSeznam")) {
+    lblNadpis.place(at::kTitle);
+    dressLabel(lblNadpis, printforms::kTitleFont, colors::kTitle, QStringLiteral("Tisk"));
+    lblCo.place(at::kMaterial);
+    dressLabel(lblCo, printforms::kTextFont, colors::kPaper);
+    makeOptions();
+    makePrinterLine();
+    makeProgress();
+    makeButtons();
+}
+
+void frmPrint::makeOptions() {
+    Frame1.place(at::kFrame);
+    Frame1.setTip(QStringLiteral("Co se má tisknout"));
+    Frame1.setToolTip({});
+    auto* title = new Label(*this, QStringLiteral("lblCoTisknout"));
+    dressLabel(*title, printforms::kButtonFont, colors::kInk, QStringLiteral("Co se má tisknout"));
+    dressLabel(lblPorce, printforms::kButtonFont, colors::kInk, QStringLiteral("Počet porcí"));
+    for (int i = 0; i < kPrintSections; ++i) {
+        auto* box = Chco[size_t(i)] = new CheckBox(*this, QStringLiteral("Chco(%1)").arg(i));
+        dressCheckBox(*box, app().resources(), QString::fromUtf8(kSections[i]));
+        box->setChecked(true);
+    }
+    Text1.setFont(printforms::kTextFont);
+    Text1.setMaxLength(kMostPortionDigits);
+    Text1.setTip(QStringLiteral("Počet porcí, 1 až 99"));
+    dressCheckBox(chkZobrKg, app().resources(), QStringLiteral("Množství i v gramech"));
+    // The frame holds the options: it is disabled with all that is in it.
+    for (Control* held : std::initializer_list<Control*>{title, &lblPorce, &Text1, &chkZobrKg}) {
+        held->setParent(&Frame1);
+        held->show();
+    }
+    for (CheckBox* box : Chco) {
+        box->setParent(&Frame1);
+        box->show();
+    }
+    title->place(at::kFrameTitle);
+    for (int i = 0; i < kPrintSections; ++i)
+        Chco[size_t(i)]->place(at::kFirstSection.translated(at::kSectionColumn * (i / at::kSectionRows),
+                                                            at::kSectionRow * (i % at::kSectionRows)));
+    lblPorce.place(at::kPortionsTitle);
+    Text1.place(at::kPortions);
+    chkZobrKg.place(at::kWeights);
+}
+
+Button* frmPrint::makeButton(const QString& name, const QString& caption, const QString& tip,
+                             const QRect& place) {
+    auto* button = new Button(*this, name);
+    dressButton(*button, app().resources(), caption, tip);
+    button->place(place);
+    return button;
+}
+
+void frmPrint::makePrinterLine() {
+    lblTiskarna.place(at::kPrinter);
+    lblTiskarna.setWordWrap(true);
+    lblTiskarna.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    dressLabel(lblTiskarna, printforms::kSmallFont, colors::kInk);
+    cmdTiskarna = makeButton(QStringLiteral("cmdTiskarna"), QStringLiteral("Tiskárna ..."),
+                             QStringLiteral("Vybrat tiskárnu, papír a počet kopií"), at::kChoosePrinter);
+    connect(cmdTiskarna, &Button::clicked, this, [this] { choosePrinter(); });
+}
+
+void frmPrint::makeProgress() {
+    Label1.place(at::kStatus);
+    dressLabel(Label1, printforms::kTextFont, colors::kTitle);
+    lblRecept.place(at::kRecipeName);
+    dressLabel(lblRecept, printforms::kTextFont, colors::kPaper);
+    prgRecept.place(at::kRecipeBar);
+    prgRecept.setTip(QStringLiteral("Průběh tisku receptu"));
+    prgRecept.setMaximum(kPrintSections);
+    prgSeznam.place(at::kListBar);
+    prgSeznam.setTip(QStringLiteral("Průběh tisku všech receptů"));
+    lblVysledek.place(at::kOutcome);
+    lblVysledek.setWordWrap(true);
+    dressLabel(lblVysledek, printforms::kTextFont, colors::kTitle);
+    cmdPrerus = makeButton(QStringLiteral("cmdPrerus"), QStringLiteral("Přerušit tisk"),
+                           QStringLiteral("Přerušit tisk"), at::kStop);
+    connect(cmdPrerus, &Button::clicked, this, [this] { askToStop(); });
+    for (Control* control :
+         std::initializer_list<Control*>{&Label1, &lblRecept, &prgRecept, &prgSeznam, cmdPrerus})
+        control->hide();
+}
+
+void frmPrint::makeButtons() {
+    Command1 = makeButton(QStringLiteral("Command1"), QStringLiteral("Tisk"), QStringLiteral("Začít tisk"),
+                          at::kPrint);
+    cmdNahled = makeButton(QStringLiteral("cmdNahled"), QStringLiteral("Náhled"),
+                           QStringLiteral("Ukázat strany tak, jak se vytisknou"), at::kPreview);
+    Command2 = makeButton(QStringLiteral("Command2"), QStringLiteral("Zavřít"), QStringLiteral("Zavřít tisk"),
+                          at::kClose);
+    connect(Command1, &Button::clicked, this, [this] { start(); });
+    connect(cmdNahled, &Button::clicked, this, [this] { preview(); });
+    connect(Command2, &Button::clicked, this, [this] { goBack(); });
+}
+
+std::vector<Control*> frmPrint::tabOrder() {
+    std::vector<Control*> order(Chco.begin(), Chco.end());
+    for (Control* control : std::initializer_list<Control*>{&Text1, &chkZobrKg, cmdTiskarna, cmdPrerus,
+                                                            Command1, cmdNahled, Command2})
+        order.push_back(control);
+    return order;
+}
+
+bool frmPrint::keyDown(QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Escape:
+            goBack();
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (!clickFocused(tabOrder()) && !printing_) start();
+            return true;
+        case Qt::Key_Space:
+            clickFocused(tabOrder());
+            return true;
+        case Qt::Key_Tab:
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+            moveFocus(tabOrder(), 1);
+            return true;
+        case Qt::Key_Backtab:
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+            moveFocus(tabOrder(), -1);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void frmPrint::paint(QPainter& painter) {
+    const QRect screen({0, 0}, twips().size());
+    paintPanel(painter, screen, app().Pictures.seznam);
+    // Texts stand on calm paper.
+    painter.setPen(QPen(colors::kCopper, 30));
+    painter.setBrush(colors::kPaper);
+    for (const QRect& paper : {at::kFrame, at::kPrinterPaper}) painter.drawRoundedRect(paper, 90, 90);
+}
+
+}  // namespace sarne

@@ -1,0 +1,209 @@
+#include "print/frmsave.h"
+
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/panel.h"
+#include "forms/resources.h"
+#include "print/formparts.h"
+
+namespace sarne {
+namespace {
+
+constexpr QRect kDialog(750, 900, 10500, 7200);
+constexpr QRect kInstruction(360, 270, 9780, 360);
+constexpr QRect kAvailable(360, 1080, 3960, 5160);
+constexpr QRect kChosen(6180, 1080, 3960, 5160);
+constexpr int kListTitleHeight = 330;
+constexpr QSize kArrow(1560, 540);
+constexpr int kArrowLeft = 4470;
+// Adding stands above taking away.
+constexpr int kArrowTop[] = {1860, 3780, 4440, 2520};
+constexpr QRect kButtons[] = {{3540, 6435, 1620, 540}, {5340, 6435, 1620, 540}};
+
+const char* const kArrowCaptions[] = {"Přidat ►", "◄ Odebrat", "◄◄ Vše", "Vše ►►"};
+const char* const kArrowTips[] = {"Přidat označené položky", "Odebrat označené položky",
+                                  "Odebrat všechny položky", "Přidat všechny položky"};
+
+void fill(ListBox& list, const std::vector<PrintEntry>& entries) {
+    QStringList texts;
+    std::vector<std::int32_t> items;
+    for (const PrintEntry& entry : entries) {
+        texts << entry.text;
+        items.push_back(entry.item);
+    }
+    list.setItems(texts, items);
+}
+
+}  // namespace
+
+frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover print)
+    : Form(sarne, QStringLiteral("frmSave")),
+      print_(std::move(print)),
+      Label2(*this, QStringLiteral("Label2")),
+      lblSeznam(*this, QStringLiteral("lblSeznam")),
+      lblVybrano(*this, QStringLiteral("lblVybrano")),
+      lstSeznam(*this, QStringLiteral("lstSeznam")),
+      lstVybrano(*this, QStringLiteral("lstVybrano")) {
+    const Resources& resources = app().resources();
+    place(kDialog);
+    Label2.place(kInstruction);
+    dressLabel(Label2, printforms::kTextFont, colors::kTitle);
+    for (ListBox* list : {&lstSeznam, &lstVybrano}) {
+        const bool available = list == &lstSeznam;
+        const QRect room = available ? kAvailable : kChosen;
+        Label& title = available ? lblSeznam : lblVybrano;
+        title.place({room.left(), room.top() - kListTitleHeight, room.width(), kListTitleHeight});
+        dressLabel(title, printforms::kSmallFont, colors::kPaper);
+        list->place(room);
+        list->setFont(printforms::kSmallFont);
+        list->setMode(ListSelection::Mode::Several);
+    }
+    lblSeznam.setText(QStringLiteral("Seznam"));
+    lstSeznam.setTip(QStringLiteral("Seznam položek"));
+    lstVybrano.setTip(QStringLiteral("Vybrané položky"));
+    for (int i = 0; i < 4; ++i) {
+        auto* button = cmdRuka[size_t(i)] = new Button(*this, QStringLiteral("cmdRuka(%1)").arg(i));
+        dressButton(*button, resources, QString::fromUtf8(kArrowCaptions[i]),
+                    QString::fromUtf8(kArrowTips[i]));
+        button->place({{kArrowLeft, kArrowTop[i]}, kArrow});
+        connect(button, &Button::clicked, this, [this, i] { cmdRukaClick(i); });
+    }
+    const QString captions[] = {QStringLiteral("OK"), QStringLiteral("Zavřít")};
+    const QString tips[] = {QStringLiteral("Tisknout vybrané položky"), QStringLiteral("Zavřít bez tisku")};
+    for (int i = 0; i < 2; ++i) {
+        auto* button = cmdOkEnd[size_t(i)] = new Button(*this, QStringLiteral("cmdOkEnd(%1)").arg(i));
+        dressButton(*button, resources, captions[i], tips[i]);
+        button->place(kButtons[i]);
+        connect(button, &Button::clicked, this, [this, i] { cmdOkEndClick(i); });
+    }
+    connect(&lstSeznam, &Control::doubleClicked, this, [this] { addMarked(); });
+    connect(&lstVybrano, &Control::doubleClicked, this, [this] { removeMarked(); });
+    choice_.setAvailable(std::move(entries));
+    fill(lstSeznam, choice_.available());
+    showChosen();
+    setFocusProxy(&lstSeznam);
+}
+
+void frmSave::Zobraz(const QString& mode) {
+    mode_ = mode.toLower();
+    Label2.setText(QStringLiteral("Vyberte ze seznamu položky, které chcete tisknout"));
+    app().HookMessage(Label2.text());
+    cmdOkEnd[0]->setEnabled(false);
+    const QPointer<frmSave> self(this);
+    // Printing hides the dialog, and with that its turn ends; it has another one until it is closed.
+    do showModal();
+    while (self && isLoaded() && !closed_);
+    if (!self || !isLoaded()) return;
+    if (accepted_) print_(choice_.ids());
+    if (self) unload();
+}
+
+void frmSave::showChosen() {
+    fill(lstVybrano, choice_.chosen());
+    lblVybrano.setText(QStringLiteral("Vybráno: %1").arg(choice_.chosen().size()));
+    if (choice_.isEmpty() && cmdOkEnd[0]->hasFocus()) lstSeznam.setFocus();
+    cmdOkEnd[0]->setEnabled(!choice_.isEmpty());
+}
+
+void frmSave::addMarked() {
+    const std::vector<int> marked = lstSeznam.selection().marked();
+    if (!choice_.add(marked)) return app().Beep();
+    showChosen();
+    lstVybrano.scrollTo(lstVybrano.listCount());
+}
+
+void frmSave::addAndGoOn() {
+    const std::vector<int> marked = lstSeznam.selection().marked();
+    addMarked();
+    if (!marked.empty() && marked.back() + 1 < lstSeznam.listCount())
+        lstSeznam.setListIndex(marked.back() + 1);
+}
+
+void frmSave::removeMarked() {
+    const std::vector<int> marked = lstVybrano.selection().marked();
+    if (!choice_.remove(marked)) return app().Beep();
+    const int top = lstVybrano.topIndex();
+    showChosen();
+    lstVybrano.scrollTo(top);
+    // The entry that took the place is the next to go.
+    if (!choice_.isEmpty()) lstVybrano.setListIndex(std::min(marked.front(), lstVybrano.listCount() - 1));
+}
+
+void frmSave::cmdRukaClick(int index) {
+    switch (index) {
+        case 0:
+            return addAndGoOn();
+        case 1:
+            return removeMarked();
+        case 2:
+            choice_.clear();
+            return showChosen();
+        case 3:
+            choice_.addAll();
+            return showChosen();
+    }
+}
+
+void frmSave::cmdOkEndClick(int index) {
+    if (index == 0 && !isOrdinary()) return print_(choice_.ids());
+    accepted_ = index == 0;
+    closed_ = true;
+    hideForm();
+}
+
+std::vector<Control*> frmSave::tabOrder() {
+    return {&lstSeznam, cmdRuka[0],  cmdRuka[3],  cmdRuka[1],
+            cmdRuka[2], &lstVybrano, cmdOkEnd[0], cmdOkEnd[1]};
+}
+
+void frmSave::enterPressed() {
+    if (lstSeznam.hasFocus()) return addMarked();
+    if (lstVybrano.hasFocus()) return removeMarked();
+    clickFocused(tabOrder());
+}
+
+bool frmSave::keyDown(QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            enterPressed();
+            break;
+        case Qt::Key_Space:
+            clickFocused(tabOrder());
+            break;
+        case Qt::Key_Delete:
+            if (lstVybrano.hasFocus()) removeMarked();
+            break;
+        case Qt::Key_Escape:
+            goBack();
+            break;
+        case Qt::Key_Tab:
+            moveFocus(tabOrder(), 1);
+            break;
+        case Qt::Key_Backtab:
+            moveFocus(tabOrder(), -1);
+            break;
+        case Qt::Key_Right:
+            lstVybrano.setFocus(Qt::TabFocusReason);
+            break;
+        case Qt::Key_Left:
+            lstSeznam.setFocus(Qt::TabFocusReason);
+            break;
+        case Qt::Key_F4:
+        case Qt::Key_X:
+            if (event.modifiers() & Qt::AltModifier) closeRequested();
+            break;
+        default:
+            break;
+    }
+    return true;  // a dialog: its keys mean nothing else
+}
+
+void frmSave::paint(QPainter& painter) {
+    paintPanel(painter, {{0, 0}, twips().size()}, app().resources().picture(QStringLiteral("zprava")));
+}
+
+}  // namespace sarne

@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTest>
+#include <set>
+
+#include "app/program.h"
+#include "screens/navigation/frmhlavni.h"
+#include "screens/navigation/frmmenu.h"
+#include "support/fakeplatform.h"
+#include "support/fakesarne.h"
+
+namespace sarne {
+namespace {
+
+/// The whole program over the disc that was built with it, in a folder of its own.
+class ShippedMenu : public testing::Test {
+  protected:
+    void SetUp() override {
+        for (const char* name : {"Sarne.drc", "KOp.bj", "Sarne.rcc"}) {
+            const QString shipped = QStringLiteral(SARNE_DISC "/program/") + QLatin1String(name);
+            ASSERT_TRUE(QFile::copy(shipped, folder.filePath(QLatin1String(name)))) << shipped.toStdString();
+            QFile::setPermissions(folder.filePath(QLatin1String(name)), QFile::ReadOwner | QFile::WriteOwner);
+        }
+        platform.settings.set(QStringLiteral("CDPath"), QStringLiteral(SARNE_DISC "/disc"));
+        program = std::make_unique<Program>(platform.parts(), Folders{folder.path(), folder.path()});
+        program->stage().resize(800, 600);
+        program->stage().show();
+        program->stage().activateWindow();
+        QApplication::processEvents();
+        ASSERT_TRUE(program->Main({}));
+        main = program->mainScreen();
+    }
+    QWidget* button(int i) { return main->findChild<QWidget*>(QStringLiteral("imgClick(%1)").arg(i)); }
+    frmMenu* levelOf(const QString& code) {
+        for (frmMenu* level = main->menu(); level; level = level->child()) {
+            if (level->level().code == code) return level;
+        }
+        return nullptr;
+    }
+    void clickItem(frmMenu* level, int k) {
+        QTest::mouseClick(level->findChild<QWidget*>(QStringLiteral("lblOdkaz(%1)").arg(k)), Qt::LeftButton);
+    }
+    /// Opens the level of \a code again by mouse, from the main screen on. Topics have one digit or two.
+    frmMenu* reach(int topic, const QString& code) {
+        QTest::mouseClick(button(topic), Qt::LeftButton);
+        QString at = QString::number(topic);
+        while (at != code && levelOf(at)) {
+            const int k = code.mid(at.size(), 1).toInt();
+            clickItem(levelOf(at), k);
+            at += QString::number(k);
+        }
+        return levelOf(code);
+    }
+    void walk(int topic, const QString& code);
+    void choose(int topic, const QString& code, int k);
+    void expectScreen(int topic, const MenuLevel& level, int k);
+    void expectIdle();
+
+    QTemporaryDir folder;
+    FakePlatform platform;
+    std::unique_ptr<Program> program;
+    frmHlavni* main = nullptr;
+    int actions = 0;
+};
+
+void ShippedMenu::expectIdle() {
+    EXPECT_EQ(program->FormStack.count(), 1);
+    EXPECT_FALSE(main->isMenuOpen());
+    EXPECT_EQ(main->cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    for (int i = 0; i < 19; ++i) EXPECT_TRUE(button(i)->isEnabled()) << i;
+}
+
+void ShippedMenu::expectScreen(int topic, const MenuLevel& level, int k) {
+    const QString target = level.items[size_t(k - 1)].target;
+    QString form = QStringLiteral("frmSeznam");
+    if (topic == 1 || topic == 9 || topic == 13) form = QStringLiteral("frmSponzor");
+    if (topic == 4) form = k == 1 ? QStringLiteral("frmStranka") : QStringLiteral("FrmTabulky");
+    if (topic == 10) form = k == 1 ? QStringLiteral("frmFotoBig") : QStringLiteral("frmSit");
+    if (topic == 18) form = QStringLiteral("frmVideo");
+    ASSERT_EQ(program->FormStack.top()->name(), form) << level.code.toStdString() << ' ' << k;
+    if (form != u"frmSeznam") return;
+    const bool flat = topic == 3 || topic == 6 || topic == 15;
+    const QString table = flat || k % 10 == 1 ? QStringLiteral("Recepty") : QStringLiteral("RychleRecepty");
+    ASSERT_TRUE(target.endsWith(u','));
+    Recordset records = program->Db().OpenTable(table);
+    for (const QString& id : target.split(u',', Qt::SkipEmptyParts))
+        EXPECT_TRUE(RecordExists(records, id.toInt())) << table.toStdString() << ' ' << id.toStdString();
+}
+
+void ShippedMenu::choose(int topic, const QString& code, int k) {
+    frmMenu* level = reach(topic, code);
+    ASSERT_NE(level, nullptr) << code.toStdString();
+    const MenuLevel items = level->level();
+    clickItem(level, k);
+    ++actions;
+    expectScreen(topic, items, k);
+    for (int step = 0; step < 3 && program->FormStack.count() > 1; ++step)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    expectIdle();
+}
+
+void ShippedMenu::walk(int topic, const QString& code) {
+    const MenuLevel level = MenuLevel::build(program->Db(), code);
+    ASSERT_FALSE(level.items.empty()) << code.toStdString();
+    for (int k = 1; k <= int(level.items.size()); ++k) {
+        const MenuItem& item = level.items[size_t(k - 1)];
+        Recordset row = program->Db().OpenQuery(
+            QStringLiteral("SELECT * FROM menu WHERE ID LIKE '%1' ORDER BY Id").arg(level.childCode(k)));
+        EXPECT_EQ(row.field(QStringLiteral("Label")).toString(), item.label) << "no level shows its own row";
+        if (!item.isSelectable()) continue;
+        if (item.opensSubmenu())
+            walk(topic, level.childCode(k));
+        else
+            choose(topic, code, k);
+    }
+}
+
+TEST_F(ShippedMenu, EveryRowOpensItsScreenOverRecordsThatExist) {
+    for (int topic = 1; topic < 19; ++topic) {
+        if (topic == 7) continue;
+        walk(topic, QString::number(topic));
+    }
+    EXPECT_GT(actions, 60);
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,147 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+
+#include "app/displayquestions.h"
+#include "app/frmsplash.h"
+#include "app/program.h"
+#include "dialogs/frmmessage.h"
+#include "screens/navigation/frmhlavni.h"
+#include "support/fakeplatform.h"
+#include "support/fakesarne.h"
+#include "support/recipedatabase.h"
+
+namespace sarne {
+namespace {
+
+class SplashTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        QDir(folder.path()).mkpath(QStringLiteral("video"));
+        platform.settings.set(QStringLiteral("CDPath"), folder.path());
+        make(platform.parts());
+    }
+    void make(const PlatformParts& parts) {
+        program = std::make_unique<Program>(parts, Folders{folder.path(), folder.path()});
+        program->stage().show();
+        program->stage().activateWindow();
+        QApplication::processEvents();
+    }
+    /// Answers the questions that come up with \a keys, one each, and keeps what they said. Key_F4 closes the
+    /// box.
+    void answer(QList<Qt::Key> keys) {
+        if (keys.isEmpty()) return;
+        QTimer::singleShot(0, [=, this] {
+            auto* box = qobject_cast<frmMessage*>(program->stage().modalForm());
+            ASSERT_NE(box, nullptr);
+            asked << child<Label>(*box, "Label1")->text();
+            const bool closes = keys.first() == Qt::Key_F4;
+            answer(keys.mid(1));
+            QTest::keyClick(QApplication::focusWidget(), keys.first(),
+                            closes ? Qt::AltModifier : Qt::NoModifier);
+        });
+    }
+    bool start(QList<Qt::Key> keys) {
+        answer(keys);
+        return program->Main({});
+    }
+
+    QTemporaryDir folder;
+    FakePlatform platform;
+    std::unique_ptr<Program> program;
+    QStringList asked;
+};
+
+const QString kQuestion = QStringLiteral(
+    "Program je koncipován pro spouštění v rozlišení 800 x 600, Váš počítač má nastaveno rozlišení "
+    "1024,768\r\nChcete dočasně změnit rozlišení na 800 x 600?");
+const QString kWarning = QStringLiteral(
+    "Pokud program spustíte pod současným rozlišením, mohou být obrazovky deformovány. \r\n\r\n"
+    "Chcete přesto pokračovat?\r\n\r\n");
+
+TEST_F(SplashTest, ADisplayThatFitsAsksNothing) {
+    EXPECT_TRUE(start({}));
+    EXPECT_TRUE(platform.display.asked.isEmpty());
+}
+
+TEST_F(SplashTest, YesSwitchesTheDisplayAndTheExitRestoresIt) {
+    platform.display.size = {1024, 768};
+    EXPECT_TRUE(start({Qt::Key_A}));
+    EXPECT_EQ(asked, QStringList{kQuestion});
+    EXPECT_EQ(platform.display.current(), QSize(800, 600));
+    EXPECT_EQ(program->SavedDisplayMode, QStringLiteral("1024,768"));
+    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
+    program->ConfirmExit();
+    EXPECT_EQ(platform.display.current(), QSize(1024, 768));
+}
+
+TEST_F(SplashTest, YesWhereModesCannotBeSwitchedJustGoesOn) {
+    platform.display.size = {1024, 768};
+    platform.display.switchable = false;
+    EXPECT_TRUE(start({Qt::Key_A}));
+    EXPECT_EQ(program->SavedDisplayMode, QString());
+}
+
+TEST_F(SplashTest, NoAndYesGoesOnNoAndNoEnds) {
+    platform.display.size = {1024, 768};
+    EXPECT_TRUE(start({Qt::Key_N, Qt::Key_A}));
+    EXPECT_EQ(asked, (QStringList{kQuestion, kWarning}));
+    make(platform.parts());
+    EXPECT_FALSE(start({Qt::Key_N, Qt::Key_N}));
+    EXPECT_EQ(program->mainScreen(), nullptr);
+    make(platform.parts());
+    EXPECT_TRUE(start({Qt::Key_F4})) << "a closed box changes nothing and goes on";
+    EXPECT_TRUE(platform.display.asked.isEmpty());
+}
+
+TEST_F(SplashTest, LargeFontsAreAskedAbout) {
+    platform.display.twips = {12, 12};
+    EXPECT_TRUE(start({Qt::Key_A}));
+    EXPECT_TRUE(asked.first().startsWith(
+        QStringLiteral("Pro správnou funkci programu je třeba, aby byl spuštěn s nastavením malá písma.")));
+    make(platform.parts());
+    EXPECT_FALSE(start({Qt::Key_N}));
+}
+
+TEST_F(SplashTest, TheIntroPlaysUntilItEndsOrSomebodyHasSeenEnough) {
+    QFile intro(folder.filePath(QStringLiteral("video/UVOD.AVI")));
+    ASSERT_TRUE(intro.open(QIODevice::WriteOnly));
+    for (const bool byKey : {true, false}) {
+        FakeMultimedia* player = nullptr;
+        QStringList commands;
+        PlatformParts parts = platform.parts();
+        parts.makePlayer = [&] {
+            auto made = std::make_unique<FakeMultimedia>();
+            player = made.get();
+            return made;
+        };
+        make(parts);
+        QTimer::singleShot(0, [&] {
+            commands = player->commands;
+            byKey ? QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q) : player->end();
+        });
+        ASSERT_TRUE(start({}));
+        EXPECT_EQ(commands,
+                  (QStringList{QStringLiteral("open ") + intro.fileName(), QStringLiteral("play")}));
+        EXPECT_TRUE(program->mainScreen()->isVisible());
+    }
+}
+
+TEST_F(SplashTest, AnIntroThatCannotBePlayedIsSkipped) {
+    QFile intro(folder.filePath(QStringLiteral("video/UVOD.AVI")));
+    ASSERT_TRUE(intro.open(QIODevice::WriteOnly));
+    PlatformParts parts = platform.parts();
+    parts.makePlayer = [] {
+        auto made = std::make_unique<FakeMultimedia>();
+        made->failing[QStringLiteral("open")] = MediaError::InvalidFile;
+        return made;
+    };
+    make(parts);
+    EXPECT_TRUE(start({}));
+}
+
+}  // namespace
+}  // namespace sarne

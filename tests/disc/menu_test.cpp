@@ -1,0 +1,100 @@
+#include "disc/menu.h"
+
+#include <gtest/gtest.h>
+
+namespace sarne::disc {
+namespace {
+
+struct Row3 {
+    const char* code;
+    const char* label;
+    const char* target;
+};
+
+class MenuSchemeTest : public testing::Test {
+  protected:
+    MenuSchemeTest() {
+        book_.recipes.insert(6, Recipe{});
+        book_.quick << QuickRecipe{1, {}, QStringLiteral("Rychle"), 6};
+    }
+
+    std::string complaints(const QList<Row3>& given) {
+        QList<MenuRow> rows;
+        int line = 0;
+        for (const Row3& row : given)
+            rows << MenuRow{{QStringLiteral("menu.txt"), ++line},
+                            QString::fromUtf8(row.code),
+                            QString::fromUtf8(row.label),
+                            QString::fromUtf8(row.target)};
+        Problems problems;
+        checkMenu(rows, book_, problems);
+        return problems.errors().join(u'\n').toStdString();
+    }
+
+    Cookbook book_;
+};
+
+TEST_F(MenuSchemeTest, AcceptsTheScheme) {
+    EXPECT_EQ(complaints({{"11", "O", "1"},
+                          {"20", "@Ryby", ""},
+                          {"21", "Kapr", ""},
+                          {"210", "@Kapr", ""},
+                          {"211", "Recepty", "6,"},
+                          {"212", "Rychlé", "1,"},
+                          {"60", "@Rychle", ""},
+                          {"61", "Teplá", "6,"},
+                          {"120", "@Hledání", ""},
+                          {"121", "Napište", "F"},
+                          {"141", "Svátky", "D"},
+                          {"1411", "Vánoce", ""},
+                          {"14111", "Recepty", "6,"},
+                          {"14112", "Rychlé", "1,"}}),
+              "");
+}
+
+struct Breach {
+    const char* name;
+    QList<Row3> rows;
+    const char* message;
+};
+
+void PrintTo(const Breach& breach, std::ostream* out) {
+    *out << breach.name;
+}
+
+class MenuBreachTest : public MenuSchemeTest, public testing::WithParamInterface<Breach> {};
+
+TEST_P(MenuBreachTest, IsReported) {
+    const std::string reported = complaints(GetParam().rows);
+    EXPECT_NE(reported.find(GetParam().message), std::string::npos) << reported;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Scheme, MenuBreachTest,
+    testing::Values(Breach{"topicsOwnCode", {{"12", "Hledání", "F"}}, "\"12\": it has a topic's own code"},
+                    Breach{"resultsTopic", {{"001", "Kapr", "1"}}, "\"001\": its topic ships no menu"},
+                    Breach{"gap", {{"61", "A", "6,"}, {"63", "B", "6,"}}, "\"63\": a gap in its level"},
+                    Breach{"itemEndsInZero", {{"60", "A", "6,"}}, "\"60\": a heading ends in 0"},
+                    Breach{"headingElsewhere", {{"61", "@A", ""}}, "\"61\": a heading ends in 0"},
+                    Breach{"noLabel", {{"61", "", "6,"}}, "\"61\": it has no label"},
+                    Breach{"headingAlone", {{"60", "@A", ""}}, "menu level \"6\" has no items"},
+                    Breach{"childless", {{"21", "Kapr", ""}}, "\"21\": a submenu without items"},
+                    Breach{"orphanLists",
+                           {{"21", "Kapr", ""}, {"211", "Recepty", "6,"}},
+                           "\"21\": a last level has the recipes and the quick recipes"},
+                    Breach{"thirdList",
+                           {{"21", "K", ""}, {"211", "R", "6,"}, {"212", "Q", "1,"}, {"213", "R", "6,"}},
+                           "\"21\": a last level has the recipes and the quick recipes"},
+                    Breach{"noComma", {{"61", "A", "6"}}, "does not end in a comma"},
+                    Breach{"unknownRecipe", {{"61", "A", "6,7,"}}, "it names \"7\", which does not exist"},
+                    Breach{"unknownQuick",
+                           {{"21", "K", ""}, {"211", "R", "6,"}, {"212", "Q", "6,"}},
+                           "\"212\" (Q): it names \"6\", which does not exist"},
+                    Breach{"flatWithSubmenu",
+                           {{"41", "A", "10"}, {"411", "B", "10"}},
+                           "\"411\" (B): this topic has no submenus"},
+                    Breach{"tooDeep", {{"1411111", "A", "6,"}}, "\"1411111\": its level is too deep"},
+                    Breach{"levelOf16Bits", {{"411111", "A", "6,"}}, "\"411111\": its level is too deep"}));
+
+}  // namespace
+}  // namespace sarne::disc

@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QImage>
+#include <QResource>
+#include <QTemporaryDir>
+
+#include "db/database.h"
+#include "disc/photos.h"
+#include "disc/resources.h"
+#include "disc/sounds/makesounds.h"
+
+namespace sarne::disc {
+namespace {
+
+/// Builds into a folder of its own from art that the test draws.
+class PackingTest : public testing::Test {
+  protected:
+    QString path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
+
+    void draw(const char* file, const QColor& colour) {
+        QDir().mkpath(QFileInfo(path(file)).path());
+        QImage picture(160, 120, QImage::Format_RGB32);
+        picture.fill(colour);
+        ASSERT_TRUE(picture.save(path(file)));
+    }
+
+    QTemporaryDir folder_;
+    Cookbook book_;
+    Problems problems_;
+    Ledger ledger_{folder_.filePath(QStringLiteral("ledger"))};
+    Workshop shop_{book_,        path("content"), path("art"), path("program"),
+                   path("disc"), path("scratch"), ledger_,     problems_};
+};
+
+TEST_F(PackingTest, ResourcesAreFoundUnderTheirNames) {
+    draw("art/rendered/prvky/RamVen.png", Qt::red);
+    draw("art/rendered/hlavni/pohyby/05-01.png", Qt::green);
+    QDir().mkpath(path("art/layout"));
+    QFile layout(path("art/layout/hlavni.txt"));
+    ASSERT_TRUE(layout.open(QIODevice::WriteOnly));
+    layout.write("0 1 2 3 4\n");
+    layout.close();
+    makeSounds(shop_);
+    makeResources(shop_, QStringLiteral(SARNE_RCC));
+    ASSERT_FALSE(problems_.hasErrors()) << problems_.errors().join(u'\n').toStdString();
+
+    const QString file = path("program/Sarne.rcc");
+    ASSERT_TRUE(QResource::registerResource(file, QStringLiteral("/packed")));
+    EXPECT_EQ(QImage(QStringLiteral(":/packed/obr/RamVen.png")).pixelColor(9, 9), QColor(Qt::red));
+    EXPECT_FALSE(QImage(QStringLiteral(":/packed/obr/Pribor4.png")).isNull());
+    EXPECT_EQ(QImage(QStringLiteral(":/packed/pohyby/05-01.png")).pixelColor(9, 9), QColor(Qt::green));
+    EXPECT_TRUE(QFile::exists(QStringLiteral(":/packed/layout/hlavni.txt")));
+    for (const int effect : {1, 101, 121}) {
+        QFile sound(QStringLiteral(":/packed/zvuky/%1.wav").arg(effect));
+        ASSERT_TRUE(sound.open(QIODevice::ReadOnly)) << effect;
+        EXPECT_EQ(sound.read(4), "RIFF");
+    }
+    QResource::unregisterResource(file, QStringLiteral("/packed"));
+}
+
+TEST_F(PackingTest, APackerThatFailsIsAnError) {
+    makeResources(shop_, path("no-such-rcc"));
+    EXPECT_TRUE(problems_.hasErrors());
+}
+
+TEST_F(PackingTest, ScreenPicturesKeepTheirOrder) {
+    draw("art/rendered/hlavni/pozadi.jpg", Qt::red);
+    draw("art/rendered/pozadi/Sit.jpg", Qt::blue);
+    makeScreenPictures(shop_);
+    Database pictures;
+    ASSERT_TRUE(pictures.Open(path("program/KOp.bj")));
+    Recordset records = pictures.OpenQuery(QStringLiteral("SELECT obr FROM TabObr"));
+    ASSERT_EQ(records.RecordCount(), 6);
+    const auto current = [&] { return QImage::fromData(records.field(QStringLiteral("obr")).toByteArray()); };
+    EXPECT_GT(current().pixelColor(9, 9).red(), 250);
+    records.MoveNext();
+    EXPECT_FALSE(current().isNull());
+    records.MoveLast();
+    EXPECT_GT(current().pixelColor(9, 9).blue(), 250);
+}
+
+}  // namespace
+}  // namespace sarne::disc

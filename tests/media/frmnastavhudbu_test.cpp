@@ -1,0 +1,124 @@
+#include "media/frmnastavhudbu.h"
+
+#include "db/soundsettings.h"
+#include "mediafixture.h"
+
+namespace sarne {
+namespace {
+
+class SettingsTest : public MediaFixture {
+  protected:
+    void SetUp() override {
+        MediaFixture::SetUp();
+        playMusic();
+        open();
+    }
+    void open() {
+        form = new frmNastavHudbu(run);
+        form->Zobraz();
+    }
+    CheckBox* box(int i) { return form->findChild<CheckBox*>(QStringLiteral("chkNastav(%1)").arg(i)); }
+    OptionButton* track(int i) {
+        return form->findChild<OptionButton*>(QStringLiteral("opthudba(%1)").arg(i));
+    }
+    void click(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton); }
+    void confirm(int i = 0) { click(form->findChild<QWidget*>(QStringLiteral("cmdOkEnd(%1)").arg(i))); }
+    QString stored() {
+        QString bits;
+        for (const SoundSetting& setting : readSoundSettings(run.database)) bits += setting.on ? u'1' : u'0';
+        return bits;
+    }
+    QStringList commands(std::initializer_list<const char*> names) {
+        QStringList list;
+        for (const char* name : names) list << QString::fromUtf8(name);
+        return list;
+    }
+
+    frmNastavHudbu* form = nullptr;
+};
+
+TEST_F(SettingsTest, CaptionsTellTheState) {
+    EXPECT_EQ(box(0)->caption(), QStringLiteral("Efekty - Zapnuto"));
+    EXPECT_EQ(box(2)->caption(), QStringLiteral("Názvy - Vypnuto"));
+    click(box(2));
+    click(box(0));
+    EXPECT_EQ(box(2)->caption(), QStringLiteral("Názvy - Zapnuto"));
+    EXPECT_EQ(box(0)->caption(), QStringLiteral("Efekty - Vypnuto"));
+    EXPECT_TRUE(track(0)->isChecked());
+    confirm(1);
+    EXPECT_EQ(stored(), QStringLiteral("11010")) << "Storno stores nothing";
+    EXPECT_TRUE(run.SoundFlags[kEffects]);
+    EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(SettingsTest, WithoutChangesNothingIsWrittenAndTheMusicPlaysOn) {
+    std::vector<bool> same;
+    for (const SoundSetting& setting : readSoundSettings(run.database)) same.push_back(setting.on);
+    EXPECT_EQ(storeSoundSettings(run.database, same), 0);
+    confirm();
+    EXPECT_TRUE(run.player.commands.isEmpty());
+    EXPECT_TRUE(run.player.playing());
+}
+
+TEST_F(SettingsTest, MusicStopsAndStartsAtOnce) {
+    click(box(1));
+    EXPECT_FALSE(track(1)->isEnabled()) << "no music, no track to choose";
+    EXPECT_FALSE(box(4)->isEnabled());
+    confirm();
+    EXPECT_EQ(run.player.commands, commands({"stop"}));
+    EXPECT_EQ(stored(), QStringLiteral("10010"));
+    open();
+    click(box(1));
+    EXPECT_TRUE(track(1)->isEnabled());
+    confirm();
+    EXPECT_TRUE(run.player.playing()) << "the same track goes on";
+    run.player.commands.clear();
+    open();
+    click(track(1));
+    EXPECT_TRUE(box(4)->isChecked()) << "the switch mirrors the choice";
+    confirm();
+    EXPECT_EQ(run.player.commands,
+              (QStringList{QStringLiteral("stop"), QStringLiteral("close"),
+                           QStringLiteral("open ") + path("zvuky/Vina.WAV"), QStringLiteral("play")}));
+    EXPECT_EQ(stored(), QStringLiteral("11011"));
+    EXPECT_TRUE(run.SoundFlags[kWineSounds]);
+    open();
+    click(box(4));
+    EXPECT_TRUE(track(0)->isChecked());
+}
+
+TEST_F(SettingsTest, ATrackThatCannotBeOpenedIsReportedAndTheSwitchesAreKept) {
+    run.player.failing[QStringLiteral("open")] = MediaError::InvalidFile;
+    click(track(1));
+    click(box(2));
+    confirm();
+    EXPECT_EQ(run.messages, QStringList{QStringLiteral("16: ") + mediaErrorText(MediaError::InvalidFile)});
+    EXPECT_FALSE(run.player.commands.contains(QStringLiteral("play")));
+    EXPECT_EQ(stored(), QStringLiteral("11111"));
+}
+
+TEST_F(SettingsTest, AShortTableIsReadAsFarAsItGoes) {
+    confirm(1);
+    run.database.Execute(QStringLiteral("DELETE * FROM Nastav WHERE ID > 2"));
+    open();
+    EXPECT_TRUE(box(1)->isVisible());
+    EXPECT_FALSE(box(2)->isVisible());
+    click(box(0));
+    confirm();
+    EXPECT_EQ(stored(), QStringLiteral("01"));
+}
+
+TEST_F(SettingsTest, ByKeyboardAlone) {
+    for (int i = 0; i < 2; ++i) press(Qt::Key_Down);  // past Storno to the first switch
+    EXPECT_TRUE(box(0)->hasFocus());
+    press(Qt::Key_Space);
+    press(Qt::Key_N);
+    EXPECT_EQ(stored(), QStringLiteral("01010"));
+    open();
+    press(Qt::Key_F4);  // does not open itself again
+    press(Qt::Key_Escape);
+    EXPECT_EQ(run.FormStack.top(), below);
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,148 @@
+#include "media/frmvideo.h"
+
+#include "mediafixture.h"
+
+namespace sarne {
+namespace {
+
+class VideoTest : public MediaFixture {
+  protected:
+    void open(int number = 3) {
+        auto made = std::make_unique<FakeMultimedia>();
+        player = made.get();
+        player->failing = failing;
+        form = new frmVideo(run, std::move(made));
+        form->Zobraz(std::int16_t(number));
+    }
+    void start() { form->findChild<Timer*>()->fire(); }
+    Button* button(int i) { return form->findChild<Button*>(QStringLiteral("ImgTlacitko(%1)").arg(i)); }
+    void click(int i) { QTest::mouseClick(button(i), Qt::LeftButton); }
+    QString status() { return child<Label>(*form, "Label1")->text(); }
+
+    QHash<QString, MediaError> failing;
+    FakeMultimedia* player = nullptr;
+    frmVideo* form = nullptr;
+};
+
+TEST_F(VideoTest, PlaysAndGivesTheMusicBack) {
+    playMusic();
+    open();
+    EXPECT_EQ(status(), QStringLiteral("Chvilku prosím počkejte, otevírám soubor s videem...."));
+    EXPECT_FALSE(run.player.playing());
+    EXPECT_TRUE(player->commands.isEmpty()) << "the form shows before the file is opened";
+    start();
+    EXPECT_EQ(player->commands,
+              (QStringList{QStringLiteral("open ") + path("VIDEO/3.AVI"), QStringLiteral("play")}));
+    EXPECT_EQ(status(), QStringLiteral("Přehrávám"));
+    EXPECT_EQ(button(1)->frame(), Button::Frame::Pressed);
+    EXPECT_EQ(run.awake.size(), 1);
+    player->end();
+    EXPECT_EQ(status(), QStringLiteral("Přehrávání skončeno"));
+    EXPECT_EQ(button(1)->frame(), Button::Frame::Raised);
+    click(1);
+    EXPECT_TRUE(player->playing()) << "a clip that has ended plays again";
+    press(Qt::Key_Escape);
+    EXPECT_EQ(player->commands.mid(player->commands.size() - 2),
+              (QStringList{QStringLiteral("stop"), QStringLiteral("close")}));
+    EXPECT_TRUE(run.player.playing());
+    EXPECT_EQ(run.awake.last(), QString());
+    EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(VideoTest, MusicThatIsOffStaysOff) {
+    run.SoundFlags[kMusic] = false;
+    open();
+    start();
+    press(Qt::Key_C);
+    EXPECT_TRUE(run.player.commands.isEmpty());
+}
+
+TEST_F(VideoTest, TransportButtons) {
+    open();
+    start();
+    click(3);
+    EXPECT_EQ(player->mode(), MediaMode::Paused);
+    EXPECT_EQ(button(3)->frame(), Button::Frame::Pressed);
+    press(Qt::Key_Space);
+    EXPECT_EQ(player->mode(), MediaMode::Playing) << "pause pressed again plays on";
+    EXPECT_EQ(button(3)->frame(), Button::Frame::Raised);
+    click(2);
+    EXPECT_EQ(player->mode(), MediaMode::Stopped);
+    player->commands.clear();
+    for (const int i : {4, 5, 1}) click(i);
+    EXPECT_EQ(player->commands, (QStringList{QStringLiteral("prev"), QStringLiteral("next"),
+                                             QStringLiteral("prev"), QStringLiteral("play")}));
+    player->setPosition(20000);
+    press(Qt::Key_Left);
+    EXPECT_EQ(player->position(), 15000);
+    press(Qt::Key_Right);
+    press(Qt::Key_Right);
+    EXPECT_EQ(player->position(), 25000);
+    auto* bar = form->findChild<SeekBar*>();
+    bar->show(0, 60000);
+    QTest::mouseClick(bar, Qt::LeftButton, {}, {bar->width() / 2, bar->height() / 2});
+    EXPECT_NEAR(double(player->position()), 30000, 200);
+}
+
+TEST_F(VideoTest, SoundIsKeptForTheNextClip) {
+    open();
+    EXPECT_EQ(button(0)->toolTip(), QStringLiteral("Vypnout zvuk"));
+    start();
+    EXPECT_EQ(player->sound, MediaSound::On);
+    click(0);
+    EXPECT_EQ(player->sound, MediaSound::Silent);
+    EXPECT_EQ(button(0)->toolTip(), QStringLiteral("Zapnout zvuk"));
+    press(Qt::Key_Escape);
+    open();
+    start();
+    EXPECT_EQ(player->sound, MediaSound::Silent);
+    press(Qt::Key_Escape);
+    run.ShowMode = true;
+    open();
+    start();
+    EXPECT_EQ(player->sound, MediaSound::On) << "the show mode turns it on";
+}
+
+TEST_F(VideoTest, WhatCannotBePlayedIsReportedAndTheScreenCloses) {
+    for (const char* command : {"open", "play"}) {
+        failing = {{QString::fromUtf8(command), MediaError::InvalidFile}};
+        run.messages.clear();
+        open();
+        start();
+        EXPECT_EQ(run.messages,
+                  QStringList{QStringLiteral("16: ") + mediaErrorText(MediaError::InvalidFile)});
+        EXPECT_EQ(run.FormStack.top(), below);
+    }
+    form = new frmVideo(run, nullptr);
+    form->Zobraz(99);
+    start();
+    EXPECT_EQ(run.FormStack.top(), below) << "no player, no video";
+}
+
+TEST_F(VideoTest, TheVideoFillsTheScreenAndBack) {
+    open();
+    start();
+    auto* area = form->findChild<VideoArea*>();
+    const QRect place = area->twips();
+    QTest::mouseDClick(area, Qt::LeftButton);
+    EXPECT_EQ(area->twips(), QRect(0, 0, 12000, 9000));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(area->twips(), place);
+    press(Qt::Key_Return);
+    EXPECT_EQ(area->twips().width(), 12000);
+    press(Qt::Key_Return);
+    EXPECT_EQ(area->twips(), place);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Return);
+    EXPECT_EQ(player->mode(), MediaMode::Paused) << "a button that shows the focus is pressed";
+}
+
+TEST_F(VideoTest, LeavingBeforeTheFileIsOpenOpensNothing) {
+    open();
+    press(Qt::Key_Escape);
+    QTest::qWait(40);
+    EXPECT_EQ(run.FormStack.top(), below);
+}
+
+}  // namespace
+}  // namespace sarne

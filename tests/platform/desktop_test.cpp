@@ -1,0 +1,157 @@
+#include <gtest/gtest.h>
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+#include <QAccessible>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QStringList>
+#include <QWindow>
+
+#include "platform/announcer.h"
+#include "platform/sleepinhibitor.h"
+#include "testmedia.h"
+
+namespace sarne {
+namespace {
+
+/// A desktop that is asked to stay awake; answers when told to.
+class Desktop final : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.ScreenSaver")
+
+  public:
+    QStringList calls;
+
+  public Q_SLOTS:
+    Q_SCRIPTABLE uint Inhibit(const QString&, const QString& reason) {
+        calls.append(QStringLiteral("inhibit ") + reason);
+        return 42;
+    }
+    Q_SCRIPTABLE void UnInhibit(uint cookie) { calls.append(QStringLiteral("release %1").arg(cookie)); }
+};
+
+/// A session bus of the test's own.
+class SleepInhibitorTest : public testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        bus = new QProcess;
+        bus->start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                                                   QStringLiteral("--print-address=1")});
+        QByteArray address;
+        waitFor([&] {
+            address += bus->readAllStandardOutput();
+            return address.endsWith('\n') || bus->state() == QProcess::NotRunning;
+        });
+        if (address.endsWith('\n')) qputenv("DBUS_SESSION_BUS_ADDRESS", address.trimmed());
+    }
+    static void TearDownTestSuite() {
+        bus->kill();
+        bus->waitForFinished();
+        delete bus;
+    }
+    void SetUp() override {
+        if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
+            GTEST_SKIP() << "no D-Bus could be started";
+    }
+    /// A desktop on a connection of its own, as another program would be.
+    void startDesktop() {
+        QDBusConnection own =
+            QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("desktop"));
+        ASSERT_TRUE(own.registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), &desktop,
+                                       QDBusConnection::ExportScriptableSlots));
+        ASSERT_TRUE(own.registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
+    }
+    void TearDown() override { QDBusConnection::disconnectFromBus(QStringLiteral("desktop")); }
+    bool waitForCalls(const QStringList& calls) {
+        return waitFor([&] { return desktop.calls == calls; });
+    }
+
+    static QProcess* bus;
+    Desktop desktop;
+};
+QProcess* SleepInhibitorTest::bus = nullptr;
+
+TEST_F(SleepInhibitorTest, TheDisplayStaysAwakeFromInhibitToRelease) {
+    startDesktop();
+    const QString inhibited = QStringLiteral("inhibit Přehrává se video");
+    const QString released = QStringLiteral("release 42");
+    DesktopSleepInhibitor inhibitor;
+    inhibitor.inhibit(QStringLiteral("Přehrává se video"));
+    inhibitor.inhibit(QStringLiteral("Přehrává se video"));
+    EXPECT_TRUE(waitForCalls({inhibited}));
+    runFor(50);
+    inhibitor.release();
+    inhibitor.release();
+    EXPECT_TRUE(waitForCalls({inhibited, released}));
+
+    desktop.calls.clear();
+    inhibitor.inhibit(QStringLiteral("Přehrává se video"));
+    inhibitor.release();  // before the answer
+    EXPECT_TRUE(waitForCalls({inhibited, released}));
+
+    desktop.calls.clear();
+    {
+        DesktopSleepInhibitor shortLived;
+        shortLived.inhibit(QStringLiteral("Přehrává se video"));
+    }
+    EXPECT_TRUE(waitForCalls({inhibited, released}));
+}
+
+TEST_F(SleepInhibitorTest, WithoutADesktopNothingHappens) {
+    QElapsedTimer time;
+    time.start();
+    DesktopSleepInhibitor inhibitor;
+    inhibitor.inhibit(QStringLiteral("video"));
+    EXPECT_LT(time.elapsed(), 1000) << "it does not wait for an answer";
+    runFor(100);
+    inhibitor.release();
+    EXPECT_TRUE(desktop.calls.isEmpty());
+}
+
+/// What a screen reader would learn: the kind of event, and the role and name of what it is about.
+struct Heard {
+    QAccessible::Event event;
+    QAccessible::Role role;
+    QString name;
+};
+QList<Heard> heard;
+
+void hear(QAccessibleEvent* event) {
+    QAccessibleInterface* about = event->accessibleInterface();
+    ASSERT_TRUE(about && about->isValid());
+    heard.append({event->type(), about->role(), about->text(QAccessible::Name)});
+}
+
+TEST(AnnouncerTest, TextsAreAlertsOfTheWindow) {
+    // Events are told only while somebody listens, which without a display nobody does.
+    QPlatformAccessibility* listener = QGuiApplicationPrivate::platformIntegration()->accessibility();
+    ASSERT_TRUE(listener);
+    listener->setActive(true);
+    const auto previous = QAccessible::installUpdateHandler(&hear);
+    heard.clear();
+    {
+        auto window = std::make_unique<QWindow>();
+        AccessibleAnnouncer announcer(window.get());
+        announcer.announce(QStringLiteral("Chcete ukončit program?  "));
+        announcer.announce({});
+        window.reset();
+        announcer.announce(QStringLiteral("nikdo neposlouchá"));
+    }
+    QAccessible::installUpdateHandler(previous);
+    listener->setActive(false);
+    ASSERT_EQ(heard.size(), 3);
+    EXPECT_EQ(heard.last().event, QAccessible::Alert);
+    for (const Heard& what : heard) {
+        EXPECT_EQ(what.role, QAccessible::Notification);
+        EXPECT_EQ(what.name, QStringLiteral("Chcete ukončit program?  "));
+    }
+}
+
+}  // namespace
+}  // namespace sarne
+
+#include "desktop_test.moc"

@@ -1,0 +1,351 @@
+#include "print/frmprint.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QFileInfo>
+#include <QPainter>
+#include <QTest>
+#include <QTimer>
+#include <csignal>
+
+#include "print/frmnahled.h"
+#include "print/printing.h"
+#include "printcookbook.h"
+#include "support/fakesarne.h"
+
+namespace sarne {
+namespace {
+
+using test::PrintCookbook;
+
+QString str(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+QStringList cookbook() {
+    QStringList all{PrintCookbook::recipe(
+                        1, str("Candát"),
+                        {str("Uvod"), test::rtf(str("úvod")), str("Recept"), test::rtf(test::longText(9000)),
+                         str("Poznamka"), test::rtf(str("poznámka")), str("Prezentace"),
+                         test::rtf(str("servis")), str("vino"), test::rtf(str("víno"))}),
+                    PrintCookbook::recipe(2, str("Okoun"), {str("Vlastni"), test::longText(300000)}),
+                    PrintCookbook::recipe(3, str("Štika")),
+                    str("INSERT INTO Odkazy VALUES (5,'Vývar','x')"),
+                    str("INSERT INTO SpojOdkazy VALUES (1,5)"),
+                    str("INSERT INTO Stranky (ID,Nazev,Text) VALUES (10,'O tisku',") +
+                        test::sqlText(test::rtf(str("{\\b O tisku}\\par Text stránky."))) + u')'};
+    return all;
+}
+
+/// A printer that fails where it is told to, and draws on a picture otherwise.
+class FailingPrinter final : public Printer {
+  public:
+    enum class Fails { Begin, NewPage, End };
+    explicit FailingPrinter(Fails fails) : fails_(fails), sheet_(100, 100, QImage::Format_RGB32) {}
+
+    QString name() const override { return str("Tiskárna v chodbě"); }
+    QString paper() const override { return str("A5"); }
+    PageScale scale() const override { return {0, 0, 8000, 12000, {-100, -100, 8200, 12200}}; }
+    QString fileFor(const QString&) const override { return {}; }
+    bool choose(QWidget*) override { return false; }
+    QPainter* begin(const QString&, const QString&) override {
+        if (fails_ == Fails::Begin) return nullptr;
+        painter_.begin(&sheet_);
+        return &painter_;
+    }
+    bool newPage() override { return fails_ != Fails::NewPage; }
+    PrintedDocument end() override {
+        ++ended;
+        painter_.end();
+        return {fails_ != Fails::End, {}};
+    }
+    int ended = 0;
+
+  private:
+    Fails fails_;
+    QImage sheet_;
+    QPainter painter_;
+};
+
+class FrmPrintTest : public testing::Test {
+  protected:
+    FrmPrintTest() : book(cookbook()), printer(book.folder.filePath(str("Dokumenty"))) {
+        EXPECT_TRUE(run.database.Open(book.folder.filePath(str("Sarne.drc"))));
+        printer.setPrinter({});
+        below->showForm();
+        run.PushScreen(*below);
+    }
+    frmPrint* open(const std::vector<std::int16_t>& ids) {
+        printing.printRecipes(ids);
+        return form();
+    }
+    frmPrint* form() const { return dynamic_cast<frmPrint*>(loaded("frmPrint")); }
+    Form* loaded(const char* name) const {
+        for (Form* candidate : run.window.forms()) {
+            if (candidate->name() == QLatin1String(name)) return candidate;
+        }
+        return nullptr;
+    }
+    template <typename Widget = Control>
+    Widget* control(const char* name) const {
+        return child<Widget>(*form(), name);
+    }
+    QString outcome() const { return control<Label>("lblVysledek")->text(); }
+    QString file(const char* name) const { return book.folder.filePath(str("Dokumenty/") + str(name)); }
+    void setSections(bool wanted) {
+        for (int i = 0; i < kPrintSections; ++i)
+            control<CheckBox>(qPrintable(str("Chco(%1)").arg(i)))->setChecked(wanted);
+    }
+    /// Calls \a look whenever events run during printing.
+    template <typename Look>
+    void whilePrinting(Look look) {
+        auto* timer = new QTimer(form());
+        QObject::connect(timer, &QTimer::timeout, form(), [this, look] {
+            if (form()->isPrinting()) look();
+        });
+        timer->start(0);
+    }
+
+    PrintCookbook book;
+    FakeSarne run;
+    SystemPrinter printer;
+    Printing printing{run, printer};
+    Form* below = new Form(run, str("frmSeznam"));
+};
+
+TEST_F(FrmPrintTest, OpensWithWhatTheUserLastLookedAt) {
+    run.lastPortions = 2.5;
+    run.lastWeights = false;
+    open({1, 2});
+    EXPECT_EQ(control<Edit>("Text1")->text(), str("2.5"));
+    EXPECT_FALSE(control<CheckBox>("chkZobrKg")->isChecked());
+    QStringList names;
+    for (int i = 0; i < kPrintSections; ++i) {
+        EXPECT_TRUE(control<CheckBox>(qPrintable(str("Chco(%1)").arg(i)))->isChecked());
+        names << control<CheckBox>(qPrintable(str("Chco(%1)").arg(i)))->caption();
+    }
+    EXPECT_EQ(names.removeDuplicates(), 0);
+    EXPECT_TRUE(control<Label>("lblTiskarna")->text().contains(str("A4")));
+    EXPECT_TRUE(control<Label>("lblTiskarna")->toolTip().endsWith(file("Candát.pdf")));
+    EXPECT_FALSE(control("cmdPrerus")->isVisible() || control("prgRecept")->isVisible());
+    control("Command2")->click();
+    run.lastPortions = 0;
+    open({1});
+    EXPECT_EQ(control<Edit>("Text1")->text(), str("4"));
+}
+
+TEST_F(FrmPrintTest, AsksForPortionsFrom1To99) {
+    open({3});
+    for (const char* wrong : {"", "0", "0.9", "100", "99.5", "abc", "-4", "1e9"}) {
+        run.messages.clear();
+        control<Edit>("Text1")->setText(str(wrong));
+        control("Command1")->click();
+        EXPECT_EQ(run.messages, QStringList{str("48: Musí být zadáno celé číslo od 1 do 99!")}) << wrong;
+        EXPECT_TRUE(control<Edit>("Text1")->hasInput());
+        control("cmdNahled")->click();
+        EXPECT_EQ(run.messages.size(), 2);
+    }
+    EXPECT_FALSE(QFileInfo::exists(file("Štika.pdf")));
+    run.messages.clear();
+    const char* const lines[][2] = {
+        {"1", "Porce: 1"}, {"99", "Porce: 99"}, {" 2.5 osoby", "Porce: 2,5"}, {"4,5", "Porce: 4"}};
+    for (const auto& [typed, line] : lines) {
+        control<Edit>("Text1")->setText(str(typed));
+        control("Command1")->click();
+        EXPECT_TRUE(test::pdfText(outcome().section(str("souboru "), 1)).simplified().endsWith(str(line)))
+            << typed;
+    }
+    EXPECT_TRUE(run.messages.isEmpty());
+}
+
+TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
+    open({1, 3});
+    QStringList seen;
+    int farthest = 0;
+    whilePrinting([&] {
+        const QString status = control<Label>("Label1")->text();
+        if (!status.isEmpty() && (seen.isEmpty() || seen.last() != status)) seen << status;
+        farthest = qMax(farthest, control<ProgressBar>("prgRecept")->value());
+        EXPECT_FALSE(below->isVisible());
+        for (const char* name : {"Command1", "Command2", "Frame1", "Text1", "Chco(3)", "cmdNahled"})
+            EXPECT_FALSE(control<QWidget>(name)->isEnabled()) << name;
+        for (const char* name : {"prgRecept", "Label1", "lblRecept", "cmdPrerus", "prgSeznam"})
+            EXPECT_TRUE(control<QWidget>(name)->isVisible()) << name;
+        EXPECT_EQ(control<ProgressBar>("prgSeznam")->maximum(), 2);
+    });
+    control("Command1")->click();
+    const QStringList all{
+        str(" Tisknu recept ... "),  str(" Tisknu foto ... "),       str(" Tisknu Suroviny ... "),
+        str(" Tisknu úvod ... "),    str(" Tisknu recept ... "),     str(" Tisknu poznámku ... "),
+        str(" Tisknu servis ... "),  str(" Tisknu víno ... "),       str(" Tisknu vlastní poznámku ... "),
+        str(" Tisknu pomůcky ... "), str(" Tisknu odkaz Vývar ... ")};
+    EXPECT_EQ(seen.mid(0, all.size()), all);
+    EXPECT_GE(farthest, kPrintSections - 1);
+    EXPECT_EQ(control<ProgressBar>("prgSeznam")->value(), 2);
+    EXPECT_TRUE(below->isVisible());
+    EXPECT_TRUE(control("Command1")->isEnabled() && control("Frame1")->isEnabled());
+    EXPECT_FALSE(control("cmdPrerus")->isVisible());
+    EXPECT_EQ(run.awake, (QStringList{str("Tisk"), QString()}));
+    EXPECT_TRUE(outcome().endsWith(file("Candát.pdf"))) << outcome().toStdString();
+}
+
+TEST_F(FrmPrintTest, PrintsASecondSelectionAtOnceUntilItIsClosed) {
+    open({1});
+    setSections(false);
+    EXPECT_TRUE(outcome().isEmpty()) << "the first one waits";
+    control("Command1")->click();
+    open({3});
+    EXPECT_TRUE(outcome().endsWith(file("Štika.pdf")));
+    EXPECT_EQ(test::pdfText(file("Štika.pdf")).simplified(), str("CD Tobrela - Velisa sarn Štika"));
+    const QPointer<frmPrint> first = form();
+    control("Command2")->click();
+    EXPECT_FALSE(first->isLoaded());
+    EXPECT_EQ(run.FormStack.top(), below);
+    open({2});
+    EXPECT_TRUE(outcome().isEmpty());
+    EXPECT_TRUE(control<CheckBox>("Chco(0)")->isChecked());
+    printing.printRecipes({77});
+    control("Command1")->click();
+    EXPECT_EQ(outcome(), str("Není co tisknout."));
+}
+
+TEST_F(FrmPrintTest, StopsWhenTheUserSaysSo) {
+    open({2, 2, 2, 2, 2, 2});
+    run.answers = {7, 6};
+    whilePrinting([&] {
+        if (run.messages.size() < 2) control("cmdPrerus")->click();
+    });
+    QTest::keyClick(form(), Qt::Key_Return);
+    EXPECT_EQ(run.messages, (QStringList{str("52:  Opravdu chcete ukončit tisk? "),
+                                         str("52:  Opravdu chcete ukončit tisk? ")}));
+    EXPECT_TRUE(outcome().startsWith(str("Tisk byl přerušen.")));
+    EXPECT_LT(control<ProgressBar>("prgSeznam")->value(), 6);
+    EXPECT_TRUE(control("Command1")->isEnabled());
+
+    run.answers = {6};
+    int asked = 0;
+    run.whileAsking = [&] { ++asked; };
+    auto* timer = new QTimer(form());
+    // Deep within a recipe, when pages have been put out.
+    QObject::connect(timer, &QTimer::timeout, form(), [&] {
+        if (form()->isPrinting() && asked == 0 && control<ProgressBar>("prgSeznam")->value() == 1)
+            QTest::keyClick(form(), Qt::Key_Escape);
+    });
+    timer->start(0);
+    control("Command1")->click();
+    EXPECT_EQ(asked, 1);
+    const QString stopped = outcome().section(str("souboru "), 1);
+    ASSERT_FALSE(stopped.isEmpty()) << outcome().toStdString();
+    EXPECT_GT(test::pdfPages(stopped).size(), 60) << "what was printed is readable";
+    EXPECT_LT(control<ProgressBar>("prgSeznam")->value(), 6);
+}
+
+TEST_F(FrmPrintTest, SaysWhenThePrinterFails) {
+    using Fails = FailingPrinter::Fails;
+    for (const Fails fails : {Fails::Begin, Fails::NewPage, Fails::End}) {
+        FailingPrinter failing(fails);
+        auto* print = new frmPrint(run, failing);
+        print->Zobraz({1, 3});
+        EXPECT_EQ(child<Label>(*print, "lblTiskarna")->text(), str("Tiskárna: Tiskárna v chodbě\nPapír: A5"));
+        child<Button>(*print, "Command1")->click();
+        EXPECT_TRUE(child<Label>(*print, "lblVysledek")->text().startsWith(str("Tisk se nezdařil")));
+        EXPECT_EQ(failing.ended, fails == Fails::Begin ? 0 : 1) << "what was begun is ended";
+        EXPECT_TRUE(child<Button>(*print, "Command1")->isEnabled() && below->isVisible());
+        child<Button>(*print, "Command2")->click();
+        delete print;
+    }
+}
+
+TEST_F(FrmPrintTest, AFullDiskLeavesNoHalfAFile) {
+    open({1, 2});
+    struct rlimit before {};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit full = before;
+    full.rlim_cur = 5000;
+    setrlimit(RLIMIT_FSIZE, &full);
+    control("Command1")->click();
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_TRUE(outcome().startsWith(str("Tisk se nezdařil"))) << outcome().toStdString();
+    EXPECT_TRUE(QDir(book.folder.filePath(str("Dokumenty"))).isEmpty())
+        << QFileInfo(file("Candát.pdf")).size();
+    control("Command1")->click();
+    EXPECT_TRUE(outcome().endsWith(file("Candát.pdf"))) << "and then there is room again";
+    std::signal(SIGXFSZ, handler);
+}
+
+TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
+    open({1, 3});
+    control("Command1")->click();
+    const QStringList printed = test::pdfPages(file("Candát.pdf"));
+    control("cmdNahled")->click();
+    auto* preview = dynamic_cast<frmNahled*>(loaded("frmNahled"));
+    ASSERT_TRUE(preview);
+    QTest::qWait(20);
+    const auto* sheet = child<PageSheet>(*preview, "picStrana");
+    const auto key = [&](int code) { QTest::keyClick(preview, Qt::Key(code)); };
+    for (qsizetype page = 0; page < printed.size(); ++page, key(Qt::Key_Right)) {
+        EXPECT_EQ(child<Label>(*preview, "lblStrana")->text(),
+                  str("Strana %1 z %2").arg(page + 1).arg(printed.size()));
+        EXPECT_EQ(sheet->accessibleValue().simplified(), printed[page].simplified());
+    }
+    EXPECT_EQ(preview->currentPage() + 1, printed.size()) << "the last page stays";
+    EXPECT_FALSE(child<Button>(*preview, "cmdStrana(1)")->isEnabled());
+    key(Qt::Key_Home);
+    key(Qt::Key_Up);
+    EXPECT_EQ(preview->currentPage(), 0);
+    key(Qt::Key_Return);
+    EXPECT_TRUE(sheet->isZoomed());
+    key(Qt::Key_Down);
+    EXPECT_GT(sheet->scrolled(), 0);
+    EXPECT_EQ(preview->currentPage(), 0);
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(preview->isLoaded());
+    EXPECT_EQ(run.FormStack.top(), form());
+    EXPECT_TRUE(control("cmdNahled")->hasFocus());
+}
+
+TEST_F(FrmPrintTest, QuickRecipesPrintTheRecipesTheyShowAboveTheirDialog) {
+    QTimer::singleShot(0, below, [&] {
+        auto* save = loaded("frmSave");
+        child<Button>(*save, "cmdRuka(3)")->click();
+        QTimer::singleShot(0, below, [&, save] {
+            EXPECT_EQ(run.window.modalForm(), form()) << "the dialog waits below";
+            control("Command1")->click();
+            EXPECT_EQ(test::pdfPages(file("Štika.pdf")).size(), 1);
+            control("Command2")->click();
+            QTimer::singleShot(0, below, [save] { QTest::keyClick(save, Qt::Key_Escape); });
+        });
+        child<Button>(*save, "cmdOkEnd(0)")->click();
+    });
+    printing.showSelection({{str("Pět minut"), 3}}, str("RychleRecepty"));
+    EXPECT_EQ(run.window.modalForm(), nullptr);
+    EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(FrmPrintTest, HelpPagesAndOtherTextsPrintWithoutOptions) {
+    printing.printText(str("Tabulka"), test::rtf(str("Řádek.")));
+    EXPECT_FALSE(control("Frame1")->isEnabled());
+    control("Command1")->click();
+    EXPECT_EQ(test::pdfText(file("Tabulka.pdf")).simplified(),
+              str("CD Tobrela - Velisa sarn Tabulka Řádek."));
+    control("Command2")->click();
+    QTimer::singleShot(0, below, [&] {
+        auto* save = loaded("frmSave");
+        child<Button>(*save, "cmdRuka(3)")->click();
+        QTimer::singleShot(0, below, [&, save] {
+            control("Command1")->click();
+            control("Command2")->click();
+            QTimer::singleShot(0, below, [save] { QTest::keyClick(save, Qt::Key_Escape); });
+        });
+        child<Button>(*save, "cmdOkEnd(0)")->click();
+    });
+    printing.showSelection({{str("O tisku"), 10}}, str("Help"));
+    EXPECT_EQ(test::pdfText(file("O tisku.pdf")).simplified(),
+              str("CD Tobrela - Velisa sarn O tisku Text stránky."))
+        << "a title that the text repeats is printed once";
+}
+
+}  // namespace
+}  // namespace sarne

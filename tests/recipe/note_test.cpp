@@ -1,0 +1,213 @@
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <csignal>
+
+#include "recipe/recipefixture.h"
+
+namespace sarne {
+namespace {
+
+const QString kQuestion = QStringLiteral("36: Poznámka byla změněna. Chcete tyto změny uložit?");
+
+class NoteTest : public RecipeTest {
+  protected:
+    NoteTest() { click("imgBtn(7)"); }
+    NoteEdit& note() { return at<NoteEdit>("RtfPozn"); }
+};
+
+TEST_F(NoteTest, LeavingWithoutTypingAsksNothing) {
+    EXPECT_TRUE(note().hasInput());
+    EXPECT_EQ(note().text(), QString());
+    EXPECT_TRUE(at("cmdUloz(1)").isVisible());
+    click("imgBtn(1)");
+    EXPECT_FALSE(note().isVisible());
+    EXPECT_FALSE(at("cmdUloz(0)").isVisible());
+    EXPECT_TRUE(run.messages.isEmpty());
+    EXPECT_TRUE(storedNote().isNull());
+}
+
+TEST_F(NoteTest, AChangedNoteAsksBeforeAnotherSectionIsDrawn) {
+    type(QStringLiteral("x"));
+    run.answers = {7};
+    run.whileAsking = [&] { EXPECT_EQ(form->section(), frmRecept::kOwnNote); };
+    click("imgBtn(1)");
+    EXPECT_EQ(run.messages, QStringList{kQuestion});
+    EXPECT_TRUE(storedNote().isNull());
+    EXPECT_EQ(form->section(), frmRecept::kMethod);
+
+    click("imgBtn(7)");
+    EXPECT_EQ(note().text(), QString());
+    type(QStringLiteral("Sůl c X\n"));
+    run.answers = {6};
+    click("imgBtn(7)");
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("Sůl c X\n"));
+    EXPECT_EQ(note().text(), QStringLiteral("Sůl c X\n")) << "its own button opens it again";
+    run.messages.clear();
+    click("imgBtn(2)");
+    EXPECT_TRUE(run.messages.isEmpty());
+}
+
+TEST_F(NoteTest, ItsButtonsSaveOrDiscardWithoutAsking) {
+    type(QStringLiteral("jedna"));
+    click("cmdUloz(1)");
+    EXPECT_TRUE(storedNote().isNull());
+    EXPECT_FALSE(note().isVisible());
+    click("imgBtn(7)");
+    type(QStringLiteral("dvě *12 {"));
+    click("cmdUloz(0)");
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("dvě *12 {"));
+    EXPECT_EQ(shown(), QStringLiteral("dvě *12 {")) << "the note is still there to be read";
+    click("imgBtn(7)");
+    note().editor().selectAll();
+    press(Qt::Key_Delete);
+    click("cmdUloz(0)");
+    EXPECT_FALSE(storedNote().isNull()) << "an emptied note is an empty text";
+    EXPECT_EQ(storedNote().toString(), QString());
+    EXPECT_TRUE(run.messages.isEmpty());
+}
+
+TEST_F(NoteTest, TheEndOfTheProgramAsksAndTheNoteStaysOpen) {
+    type(QStringLiteral("ryba"));
+    run.answers = {6};
+    click("imgBtnHlavni(3)");
+    EXPECT_EQ(run.messages, QStringList{kQuestion});
+    EXPECT_EQ(run.exits, 1);
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"));
+    EXPECT_TRUE(note().isVisible());
+    EXPECT_EQ(note().text(), QStringLiteral("ryba"));
+    click("imgBtnHlavni(3)");
+    EXPECT_EQ(run.messages.size(), 1) << "it is stored, nothing has changed";
+    note().focusAtEnd();
+    type(QStringLiteral("!"));
+    run.answers = {7};
+    press(Qt::Key_F4, Qt::AltModifier);
+    EXPECT_EQ(run.messages.size(), 2);
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"));
+    EXPECT_EQ(note().text(), QStringLiteral("ryba!")) << "not saved, not lost";
+    run.answers = {6};
+    click("imgBtn(0)");
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba!"));
+}
+
+TEST_F(NoteTest, EveryWayOfClosingAsksOnce) {
+    const struct {
+        const char* way;
+        std::function<void()> close;
+    } ways[] = {{"escape", [&] { press(Qt::Key_Escape); }},
+                {"back", [&] { click("imgBtnHlavni(2)"); }},
+                {"Skryj", [&] { form->Skryj(); }},
+                {"unloaded by others", [&] { run.PopScreen(*form); }}};
+    int number = 0;
+    for (const auto& way : ways) {
+        type(QString::number(++number));
+        run.messages.clear();
+        run.answers = {6};
+        way.close();
+        EXPECT_EQ(run.messages, QStringList{kQuestion}) << way.way;
+        EXPECT_EQ(storedNote().toString(), QStringLiteral("1234").left(number)) << way.way;
+        open(5);
+        click("imgBtn(7)");
+    }
+}
+
+TEST_F(NoteTest, WhoDeclinedOnTheWayOutIsNotAskedAgain) {
+    struct Ending : FakeSarne {
+        void ConfirmExit() override {
+            for (Form* loaded : window.forms()) loaded->unload();
+        }
+    } ending;
+    ending.database.Open(file());
+    form = new frmRecept(ending);
+    form->Zobraz(5);
+    click("imgBtn(7)");
+    QTest::keyClicks(&note().editor(), QStringLiteral("x"));
+    ending.answers = {7};
+    click("imgBtnHlavni(3)");
+    EXPECT_EQ(ending.messages, QStringList{kQuestion});
+    EXPECT_TRUE(storedNote().isNull());
+}
+
+TEST_F(NoteTest, PrintingStoresTheNoteWithABlankBehindIt) {
+    type(QStringLiteral("ryba"));
+    click("imgBtnHlavni(0)");
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba "));
+    EXPECT_TRUE(run.messages.isEmpty());
+    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("printRecipes 1")});
+    EXPECT_TRUE(note().isVisible());
+    click("imgBtn(1)");
+    EXPECT_TRUE(run.messages.isEmpty()) << "it counts as unchanged";
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba "));
+    click("imgBtnHlavni(0)");
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba ")) << "an unchanged note is left alone";
+}
+
+TEST_F(NoteTest, AScreenOverTheNoteLeavesItOpen) {
+    type(QStringLiteral("ryba"));
+    auto* music = new Form(run, QStringLiteral("frmNastavHudbu"));
+    run.PushScreen(*music);
+    music->showForm();
+    EXPECT_FALSE(note().isEnabled());
+    run.PopScreen(*music);
+    EXPECT_TRUE(note().isEnabled());
+    note().focusAtEnd();
+    type(QStringLiteral("!"));
+    EXPECT_EQ(note().text(), QStringLiteral("ryba!"));
+    EXPECT_TRUE(run.messages.isEmpty());
+}
+
+TEST_F(NoteTest, AStoreThatFailsClosesAllTheSame) {
+    type(QStringLiteral("ryba"));
+    run.database.Execute(QStringLiteral("DELETE FROM Recepty WHERE ID = 5"));
+    click("cmdUloz(0)");
+    EXPECT_FALSE(note().isVisible());
+    EXPECT_TRUE(run.messages.isEmpty());
+}
+
+TEST_F(NoteTest, LongNotesAndStrangeCharactersComeBackAsTheyWere) {
+    const QString text = QStringLiteral("'; DROP TABLE Recepty; -- \"ž\"\n\t€ 😀\n").repeated(5000);
+    note().editor().insertPlainText(text);
+    run.answers = {6};
+    click("imgBtn(0)");
+    click("imgBtn(7)");
+    EXPECT_EQ(note().text(), text);
+}
+
+TEST_F(NoteTest, TabReachesItsButtons) {
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), QStringLiteral("cmdUloz(0)"));
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(focused(), QStringLiteral("RtfPozn"));
+    type(QStringLiteral("ryba"));
+    press(Qt::Key_Tab);
+    press(Qt::Key_Return);
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"));
+    EXPECT_EQ(focused(), QStringLiteral("imgBtn(7)"));
+}
+
+/// Run by the next test in a process of its own: saves a note and dies at once.
+TEST_F(NoteTest, DISABLED_SaveAndDie) {
+    run.database.Close();
+    run.database.Open(qEnvironmentVariable("SARNE_TEST_DATABASE"));
+    form->Skryj();
+    open(5);
+    click("imgBtn(7)");
+    type(QStringLiteral("přežije"));
+    click("cmdUloz(0)");
+    std::raise(SIGKILL);
+}
+
+TEST_F(NoteTest, ASavedNoteSurvivesAKill) {
+    QProcess dying;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("SARNE_TEST_DATABASE"), file());
+    dying.setProcessEnvironment(environment);
+    dying.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("--gtest_also_run_disabled_tests"),
+                 QStringLiteral("--gtest_filter=NoteTest.DISABLED_SaveAndDie")});
+    ASSERT_TRUE(dying.waitForFinished());
+    EXPECT_EQ(dying.exitStatus(), QProcess::CrashExit);
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("přežije"));
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include "screens/recipe/collectedtext.h"
+#include "screens/recipe/ingredientcolumns.h"
+#include "screens/recipe/portions.h"
+#include "screens/recipe/titlelines.h"
+
+namespace sarne {
+namespace {
+
+/// Every character is 100 twips wide.
+int fixedWidth(const QString& text) {
+    return static_cast<int>(text.size()) * 100;
+}
+
+QStringList wrap(const char* text, int characters, const char* indent = "") {
+    return wrapAtBlanks(QString::fromUtf8(text), characters * 100, fixedWidth, QString::fromUtf8(indent));
+}
+
+TEST(TitleTest, WrapsAtBlanksAndNeverInsideAWord) {
+    EXPECT_EQ(wrap("Kapr na kmíně", 13), QStringList{QStringLiteral("Kapr na kmíně")});
+    EXPECT_EQ(wrap("Kapr na kmíně", 12), (QStringList{QStringLiteral("Kapr na"), QStringLiteral("kmíně")}));
+    EXPECT_EQ(
+        wrap("Kapr nejnejnejkmínovitější je", 10),
+        (QStringList{QStringLiteral("Kapr"), QStringLiteral("nejnejnejkmínovitější"), QStringLiteral("je")}));
+    EXPECT_EQ(wrap("", 5), QStringList{QString()});
+    EXPECT_EQ(wrap("          ", 5), QStringList{QStringLiteral("          ")});
+    EXPECT_EQ(wrap("jedna   dvě ", 8), (QStringList{QStringLiteral("jedna"), QStringLiteral("dvě ")}));
+    EXPECT_EQ(wrap("      - nebo olej olivový", 17, "         "),
+              (QStringList{QStringLiteral("      - nebo olej"), QStringLiteral("         olivový")}));
+}
+
+TEST(PortionsTest, StartWithTheRecipesOwnNumber) {
+    const struct {
+        int base, choice;
+        double number;
+    } cases[] = {{4, 4, 4},    {2, 2, 2},  {8, 8, 8},   {10, 10, 10}, {3, 10, 3},    {1, 10, 1},
+                 {12, 10, 12}, {0, 10, 0}, {-4, 10, 0}, {256, 10, 0}, {255, 10, 255}};
+    for (const auto& c : cases) {
+        const Portions portions(c.base);
+        EXPECT_EQ(portions.choice(), c.choice) << c.base;
+        EXPECT_EQ(portions.number(), c.number) << c.base;
+    }
+}
+
+TEST(PortionsTest, KeepTheAnyNumberAsText) {
+    Portions portions(4);
+    EXPECT_FALSE(portions.changes(4));
+    EXPECT_TRUE(portions.changes(6));
+    EXPECT_TRUE(portions.changes(Portions::kAnyNumber));
+    portions.setCustom(2.5);
+    EXPECT_EQ(portions.number(), 4);
+    portions.choose(Portions::kAnyNumber);
+    EXPECT_EQ(portions.customText(), QStringLiteral("2.5"));
+    EXPECT_EQ(portions.number(), 2.5);
+    EXPECT_TRUE(portions.changes(Portions::kAnyNumber)) << "it always asks again";
+    portions.choose(6);
+    EXPECT_EQ(portions.quantities(QLocale::c()).factor(), 1.5F);
+}
+
+TEST(PortionsTest, AreCountedInCzech) {
+    const struct {
+        double number;
+        const char* word;
+    } cases[] = {{1, "porce"}, {2, "porce"}, {4, "porce"},  {4.5, "porce"}, {5, "porcí"},
+                 {6, "porcí"}, {8, "porcí"}, {99, "porcí"}, {0, "porcí"}};
+    for (const auto& c : cases) EXPECT_EQ(portionWord(c.number), QString::fromUtf8(c.word)) << c.number;
+}
+
+TEST(PortionsTest, TheKeyboardStepsRoundThePictures) {
+    PanelPosition position;
+    QStringList hints;
+    for (int step = 0; step < 7; ++step) hints << PanelPosition::hint(position.step(1), UnitSystem::Weights);
+    EXPECT_EQ(hints,
+              (QStringList{QStringLiteral("2 porce"), QStringLiteral("4 porce"), QStringLiteral("6 porcí"),
+                           QStringLiteral("8 porcí"), QStringLiteral("Přepočet na libovolný počet porcí"),
+                           QStringLiteral("Přepočti na lžíce"), QStringLiteral("2 porce")}));
+    EXPECT_EQ(PanelPosition::hint(position.step(-1), UnitSystem::Spoons),
+              QStringLiteral("Přepočti na gramy"));
+    PanelPosition fresh;
+    EXPECT_EQ(fresh.step(-1), PanelPosition::kToggle);
+}
+
+class ColumnsTest : public testing::Test {
+  protected:
+    static std::vector<PlacedLine> place(int count, const QString& text, int height = 2000) {
+        return placeInColumns(std::vector<QString>(size_t(count), text), {4000, height, 250}, fixedWidth);
+    }
+};
+
+TEST_F(ColumnsTest, ALineThatComesTooNearTheBottomOpensTheSecondColumn) {
+    // Lines begin at 0, 250 ... 1500; the next would begin at 1750 and 1750 + 400 is beyond 2000.
+    const auto seven = place(7, QStringLiteral("sůl"));
+    EXPECT_EQ(seven.back(), (PlacedLine{0, 1500, QStringLiteral("sůl")}));
+    const auto eight = place(8, QStringLiteral("sůl"));
+    EXPECT_EQ(eight.back(), (PlacedLine{2000, 0, QStringLiteral("sůl")}));
+    // A line that would begin exactly 400 above the bottom is too near.
+    EXPECT_EQ(place(3, QStringLiteral("sůl"), 900).back().x, 2000);
+    EXPECT_EQ(place(3, QStringLiteral("sůl"), 901).back().x, 0);
+}
+
+TEST_F(ColumnsTest, MoreThanTwoColumnsHoldMakesBothLonger) {
+    const auto many = place(21, QStringLiteral("sůl"));
+    ASSERT_EQ(many.size(), 21U);
+    EXPECT_EQ(many[10].y, 2500);
+    EXPECT_EQ(many[11], (PlacedLine{2000, 0, QStringLiteral("sůl")}));
+    EXPECT_EQ(many.back().y, 2250);
+    EXPECT_TRUE(place(0, QString()).empty());
+    EXPECT_EQ(place(4, QStringLiteral("sůl"), 10).back().y, 250) << "no height at all still takes lines";
+}
+
+TEST_F(ColumnsTest, WideLinesStayInTheirColumn) {
+    const QString wide = QStringLiteral("listy celeru nebo petržele");
+    EXPECT_EQ(place(2, wide).size(), 2U) << "one column is as wide as the area";
+    for (const PlacedLine& line : place(8, wide)) EXPECT_LE(fixedWidth(line.text), 2000);
+}
+
+TEST(PlainTextTest, KeepsWordsAndParagraphsOnly) {
+    EXPECT_EQ(
+        plainText(QStringLiteral("{\\rtf1{\\fonttbl{\\f0\\fcharset238 Arial;}}\\pard\\plain\\b Var\\b0  "
+                                 "*12v\\'edno* a @7video@\\par\\tab x\\~y\\par\\par}")),
+        QStringLiteral("Var víno a video\r\n\tx\u00a0y"));
+    EXPECT_EQ(plainText(QStringLiteral("5*2 a #1")), QStringLiteral("5*2 a #1")) << "no rich text, no links";
+    EXPECT_EQ(plainText(QString()), QString());
+    EXPECT_EQ(plainText(QStringLiteral("   ")), QString());
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,294 @@
+#include <QClipboard>
+#include <QFile>
+#include <QImage>
+
+#include "recipe/recipefixture.h"
+
+namespace sarne {
+namespace {
+
+QString nth(const char* name, int index) {
+    return QStringLiteral("%1(%2)").arg(QString::fromLatin1(name)).arg(index);
+}
+
+class ScreenTest : public RecipeTest {
+  protected:
+    void makeFile(const QString& name, const QByteArray& content) {
+        const QString path = folder.filePath(name);
+        QDir().mkpath(QFileInfo(path).path());
+        QFile out(path);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(content);
+    }
+    void makePicture(const QString& name, QRgb color) {
+        QImage image(80, 60, QImage::Format_RGB32);
+        image.fill(color);
+        QDir().mkpath(QFileInfo(folder.filePath(name)).path());
+        ASSERT_TRUE(image.save(folder.filePath(name)));
+    }
+    QColor pixelOf(QWidget& widget) {
+        const QImage shot = form->grab().toImage();
+        return shot.pixelColor(widget.geometry().center());
+    }
+    void section(int index) { click(qPrintable(nth("imgBtn", index))); }
+};
+
+TEST_F(ScreenTest, OpensOnThePhotoUnderItsWrappedTitle) {
+    const QString title = at<Label>("lblNazev").text();
+    EXPECT_EQ(title.count(u'\n'), 1);
+    EXPECT_TRUE(
+        QString(title).replace(u'\n', u' ').startsWith(QStringLiteral("Kapr na kmíně s máslem, jak")));
+    EXPECT_EQ(form->section(), frmRecept::kPhoto);
+    EXPECT_EQ(at<Button>("imgBtn(0)").frame(), Button::Frame::Pressed);
+    EXPECT_EQ(run.FormStack.top(), form);
+    EXPECT_EQ(run.awake, QStringList{QStringLiteral("Na obrazovce je recept")});
+    EXPECT_EQ(shown(), QString()) << "a missing photo leaves the paper empty";
+}
+
+TEST_F(ScreenTest, SaysThatThePhotoIsBeingReadUntilItIsThere) {
+    makePicture(QStringLiteral("foto/velke/R6.BMP"), qRgb(200, 30, 40));
+    makePicture(QStringLiteral("foto/Podklad/r6.bmp"), qRgb(20, 230, 40));
+    form->Skryj();
+    form = new frmRecept(run);
+    form->Zobraz(6);
+    EXPECT_EQ(shown(), QStringLiteral("Moment prosím, načítám foto ..."));
+    QApplication::processEvents();
+    EXPECT_EQ(shown(), QString());
+    EXPECT_EQ(pixelOf(view()), QColor(200, 30, 40));
+    EXPECT_EQ(form->grab().toImage().pixelColor(300, 570), QColor(20, 230, 40)) << "the recipe's own ground";
+    click("picRecept");
+    EXPECT_EQ(run.recorded.calls.last(), QStringLiteral("showPhotos 0"));
+    EXPECT_EQ(run.recorded.photos.photoIds, std::vector<std::int16_t>{6});
+    section(1);
+    click("picRecept");
+    EXPECT_EQ(run.recorded.calls.size(), 1) << "a text opens no photo";
+    section(0);
+    EXPECT_EQ(shown(), QString()) << "the photo is read once";
+}
+
+TEST_F(ScreenTest, EverySectionShowsItsOwn) {
+    const char* texts[] = {
+        "",
+        "Kapra osolíme a pečeme podle videa.\nPodáváme ihned.",
+        "Úvod k receptu.\nNa talíři.\nPoznámka kuchaře.",
+        "Chléb nakrájíme.",
+        "Ryzlink",
+        "kapr - filety bez kůže (g): 250\nmáslo (g): 50\n      - nebo olej\nmáslo (g): 12\nsůl",
+        "číška\nchňapka\npánev\nvařečka"};
+    for (int index = 1; index < 7; ++index) {
+        section(index);
+        QString all = shown().simplified();
+        EXPECT_EQ(all, QString::fromUtf8(texts[index]).simplified()) << index;
+        EXPECT_EQ(at<Button>(qPrintable(nth("imgBtn", index))).frame(), Button::Frame::Pressed);
+        EXPECT_EQ(at<Button>(qPrintable(nth("imgBtn", index - 1))).frame(), Button::Frame::Raised);
+    }
+    QTest::mouseClick(&at("lblIkona(4)"), Qt::LeftButton);
+    EXPECT_EQ(form->section(), frmRecept::kWine);
+}
+
+TEST_F(ScreenTest, ARecipeThatDoesNotExistHasNoTexts) {
+    form->Skryj();
+    open(-7);
+    EXPECT_EQ(at<Label>("lblNazev").text(), QString());
+    for (int index : {1, 2, 4, 5, 6}) {
+        section(index);
+        EXPECT_EQ(shown(), QString()) << index;
+    }
+    section(7);
+    type(QStringLiteral("x"));
+    run.answers = {6};
+    section(3);
+    EXPECT_EQ(shown(), QStringLiteral("K tomuto receptu není přiřazen žádný odkaz"));
+    EXPECT_EQ(form->collectedText(), QString());
+}
+
+TEST_F(ScreenTest, TheNameIsSpokenWhenItsSwitchIsOnOrForShow) {
+    makeFile(QStringLiteral("zvuky/č5.wav"), "RIFF...");
+    const auto playedBy = [&](bool on, bool show) {
+        run.SoundFlags[kSpokenNames] = on;
+        run.ShowMode = show;
+        const qsizetype before = run.sounds.played.size();
+        form->Skryj();
+        open(5);
+        return run.sounds.played.size() - before;
+    };
+    EXPECT_EQ(playedBy(false, false), 0);
+    EXPECT_EQ(playedBy(true, false), 1);
+    EXPECT_EQ(playedBy(false, true), 1);
+    EXPECT_EQ(run.sounds.played.last(), QByteArray("RIFF..."));
+    EXPECT_EQ(run.EffectWave, QByteArray("RIFF...")) << "kept while it sounds";
+}
+
+TEST_F(ScreenTest, TheBarLeadsWhereItsButtonsSay) {
+    click("imgBtnHlavni(0)");
+    EXPECT_EQ(run.recorded.printed, std::vector<std::int16_t>{5});
+    click("imgBtnHlavni(1)");
+    press(Qt::Key_F1);
+    click("imgBtnHlavni(4)");
+    press(Qt::Key_F4);
+    EXPECT_EQ(run.recorded.calls,
+              (QStringList{QStringLiteral("printRecipes 1"), QStringLiteral("showPage 300"),
+                           QStringLiteral("showPage 300"), QStringLiteral("showMusicSettings"),
+                           QStringLiteral("showMusicSettings")}));
+    click("imgBtnHlavni(3)");
+    press(Qt::Key_X);
+    press(Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(run.exits, 3);
+    EXPECT_TRUE(run.messages.isEmpty()) << "nothing was changed, so nothing is asked";
+    click("imgBtnHlavni(2)");
+    EXPECT_EQ(run.FormStack.top(), below);
+    EXPECT_EQ(run.awake.last(), QString());
+}
+
+TEST_F(ScreenTest, EscapeAndCGoBack) {
+    press(Qt::Key_Escape);
+    EXPECT_EQ(run.FormStack.top(), below);
+    open(6);
+    press(Qt::Key_C);
+    EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(ScreenTest, LinkPhrasesOpenKeywordsAndVideosOrBeep) {
+    section(1);
+    const auto clickLink = [&](int link) {
+        const QPoint at = view().pieces().linkRect(link).center() - QPoint(0, view().scrolled());
+        QTest::mouseClick(&view(), Qt::LeftButton, {}, view().toPixels(at));
+    };
+    clickLink(0);
+    clickLink(1);
+    clickLink(2);
+    EXPECT_EQ(run.recorded.calls,
+              (QStringList{QStringLiteral("showIndex 12"), QStringLiteral("showVideo 7")}));
+    EXPECT_EQ(run.beeps, 1);
+}
+
+TEST_F(ScreenTest, LinksAreChosenByOptions) {
+    section(3);
+    auto& first = at<OptionButton>("optOdkaz(0)");
+    auto& second = at<OptionButton>("optOdkaz(1)");
+    EXPECT_EQ(first.caption() + u'|' + second.caption(), QStringLiteral("Chlebové kostky|Rybí vývar"));
+    EXPECT_TRUE(first.isChecked());
+    click("optOdkaz(1)");
+    EXPECT_TRUE(second.isChecked());
+    EXPECT_FALSE(first.isChecked());
+    EXPECT_EQ(shown(), QStringLiteral("Vývar vaříme pomalu."));
+    section(4);
+    EXPECT_FALSE(second.isVisible());
+    form->Skryj();
+    open(7);
+    section(3);
+    EXPECT_EQ(shown(), QStringLiteral("Text odkazu"));
+    EXPECT_EQ(child(*form, "optOdkaz(1)"), nullptr);
+    form->Skryj();
+    open(6);
+    section(3);
+    EXPECT_EQ(shown(), QStringLiteral("K tomuto receptu není přiřazen žádný odkaz"));
+}
+
+TEST_F(ScreenTest, ManyLinksScroll) {
+    for (int link = 10; link < 30; ++link) {
+        run.database.Execute(
+            QStringLiteral("INSERT INTO Odkazy (ID, Polozka, Text) VALUES (%1,'Odkaz %1','t%1')").arg(link));
+        run.database.Execute(QStringLiteral("INSERT INTO SpojOdkazy VALUES (6,%1)").arg(link));
+    }
+    form->Skryj();
+    open(6);
+    section(3);
+    EXPECT_FALSE(at("optOdkaz(19)").isVisible());
+    EXPECT_EQ(shown(), QStringLiteral("t10"));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), QStringLiteral("optOdkaz(0)"));
+    press(Qt::Key_Up);
+    EXPECT_EQ(focused(), QStringLiteral("optOdkaz(19)"));
+    EXPECT_TRUE(at("optOdkaz(19)").isVisible());
+    EXPECT_FALSE(at("optOdkaz(0)").isVisible());
+    press(Qt::Key_Return);
+    EXPECT_EQ(shown(), QStringLiteral("t29"));
+    EXPECT_EQ(run.announced.last(), QStringLiteral("Odkaz 29"));
+    for (int click = 0; click < 30; ++click) QTest::mouseClick(&at("imgOdkazy(0)"), Qt::LeftButton);
+    EXPECT_TRUE(at("optOdkaz(0)").isVisible());
+}
+
+TEST_F(ScreenTest, ArrowsMoveOverTheSectionsAndSayTheirNames) {
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Right);
+    EXPECT_EQ(run.announced,
+              (QStringList{QStringLiteral("Recept"), QStringLiteral("Úvod"), QStringLiteral("Odkazy")}));
+    EXPECT_EQ(form->section(), frmRecept::kPhoto) << "moving opens nothing";
+    press(Qt::Key_Return);
+    EXPECT_EQ(form->section(), frmRecept::kLinks);
+    form->Skryj();
+    open(6);
+    run.announced.clear();
+    press(Qt::Key_Up);
+    EXPECT_EQ(focused(), QStringLiteral("imgBtn(7)"));
+    for (int step = 0; step < 4; ++step) press(Qt::Key_Left);
+    EXPECT_EQ(run.announced.last(), QStringLiteral("K tomuto receptu není přiřazen žádný odkaz"));
+}
+
+TEST_F(ScreenTest, TabGoesFromTheSectionsThroughTheTextToTheBar) {
+    section(1);
+    QStringList path;
+    for (int step = 0; step < 5; ++step) {
+        press(Qt::Key_Tab);
+        path << focused() + QString::number(view().pieces().focused().value_or(-1));
+    }
+    EXPECT_EQ(path, (QStringList{QStringLiteral("picRecept0"), QStringLiteral("picRecept1"),
+                                 QStringLiteral("picRecept2"), QStringLiteral("imgBtnHlavni(0)-1"),
+                                 QStringLiteral("imgBtn(1)-1")}));
+    press(Qt::Key_Backtab);
+    press(Qt::Key_Left);
+    EXPECT_EQ(focused(), QStringLiteral("imgBtnHlavni(4)"));
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(view().pieces().focused(), 2);
+    EXPECT_EQ(run.announced.last(), QStringLiteral("ihned."));
+    press(Qt::Key_Backtab);
+    press(Qt::Key_Return);
+    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("showVideo 7")});
+    auto* video = new Form(run, QStringLiteral("frmVideo"));
+    run.PushScreen(*video);
+    video->showForm();
+    run.awake.clear();
+    run.PopScreen(*video);
+    EXPECT_EQ(focused(), QStringLiteral("picRecept")) << "back where the link was";
+    EXPECT_EQ(run.awake.size(), 1) << "and awake again";
+}
+
+TEST_F(ScreenTest, ALongTextScrollsByKeyboardFromAnywhere) {
+    form->Skryj();
+    open(7);
+    section(5);
+    EXPECT_EQ(shown().count(u'\n') + 1, 60);
+    ASSERT_GT(view().scrollRange(), 0);
+    press(Qt::Key_PageDown);
+    EXPECT_GT(view().scrolled(), 0);
+    EXPECT_EQ(focused(), QStringLiteral("imgBtn(5)"));
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(view().scrolled(), 0);
+}
+
+TEST_F(ScreenTest, CtrlCPutsTheRecipeOnTheClipboard) {
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(run.FormStack.top(), form);
+    EXPECT_FALSE(form->collectedText().isEmpty());
+    EXPECT_EQ(QApplication::clipboard()->text().remove(u'\r'), form->collectedText().remove(u'\r'));
+}
+
+TEST_F(ScreenTest, TakesAnyKeyOnAnyControlWithoutHarm) {
+    const int keys[] = {Qt::Key_Tab,      Qt::Key_Down,    Qt::Key_Left,  Qt::Key_Return,
+                        Qt::Key_PageDown, Qt::Key_End,     Qt::Key_Space, Qt::Key_Up,
+                        Qt::Key_Right,    Qt::Key_Backtab, Qt::Key_Home,  Qt::Key_A};
+    unsigned random = 7;
+    run.recorded.calls.clear();
+    for (int step = 0; step < 600; ++step) {
+        random = random * 1664525 + 1013904223;
+        press(keys[(random >> 16) % std::size(keys)]);
+        ASSERT_EQ(run.FormStack.top(), run.FormStack.count() == 2 ? form : below);
+        if (run.FormStack.count() == 1) open(5 + int(random >> 20) % 3);
+        ASSERT_FALSE(focused().isEmpty()) << "the keyboard is never lost";
+    }
+}
+
+}  // namespace
+}  // namespace sarne
