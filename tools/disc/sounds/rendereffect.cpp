@@ -119,9 +119,12 @@ class LayerPainter {
     }
 
     void noise() {
-        Band band;
-        for (int i = 0; i < frames(); ++i)
-            add(layer_.from, i, 3 * envelope(i) * band(dice_.noise(), pitch(i), layer_.width));
+        Band first;
+        Band second;
+        for (int i = 0; i < frames(); ++i) {
+            const double once = first(dice_.noise(), pitch(i), layer_.width);
+            add(layer_.from, i, 4 * envelope(i) * second(once, pitch(i), layer_.width));
+        }
     }
 
     void strike(double from, double height, double loudness) {
