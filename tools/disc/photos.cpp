@@ -15,7 +15,7 @@ namespace sarne::disc {
 namespace {
 
 /// Changed whenever pictures would come out different from the same source.
-constexpr const char* kVersion = "1";
+constexpr const char* kVersion = "2";
 constexpr int kRecipes = 50;
 constexpr int kExitTopic = 0;
 constexpr int kMusicTopic = 7;
@@ -29,8 +29,8 @@ struct PhotoSize {
     const char* folder;
     QSize size;
 };
-constexpr PhotoSize kSizes[] = {{"Recepty", {1360, 1020}}, {"Velke", {800, 600}}, {"Male", {400, 300}}};
-constexpr QSize kGroundSize(480, 360);
+constexpr PhotoSize kSizes[] = {{"Recepty", {1440, 1080}}, {"Velke", {720, 540}}, {"Male", {320, 240}}};
+constexpr QSize kGroundSize(320, 240);
 
 /// \a picture cut to \a size's shape around its middle and scaled to it.
 QImage fitted(const QImage& picture, const QSize& size) {

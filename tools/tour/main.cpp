@@ -119,8 +119,9 @@ int main(int argc, char** argv) {
     run.stage().show();
     run.stage().activateWindow();
     QApplication::processEvents();
-    run.Main({});
     Tour tour(run, pictures);
+    tour.skipIntro();
+    run.Main({});
     walk(tour);
     return report(out, tour, pictures, folder.path(), options.value(expect), options.isSet(accept));
 }

@@ -5,7 +5,8 @@
 namespace sarne {
 namespace {
 
-constexpr int kSlowScreen = 300;  // milliseconds that a photo, a video or an animation may take
+constexpr int kVideoStart = 1500;  // milliseconds until a clip has been opened and plays, on a busy machine
+constexpr int kSlowScreen = 300;   // milliseconds that a photo, a video or an animation may take
 
 QString button(int i) {
     return QStringLiteral("imgClick(%1)").arg(i);
@@ -135,6 +136,16 @@ void media(Tour& tour) {
     tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_F1);
     tour.stop(QStringLiteral("frmStranka"), QStringLiteral("F1"));
+    tour.key(Qt::Key_Escape);
+    tour.click(button(18));
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Return);
+    tour.wait(kVideoStart);
+    tour.key(Qt::Key_Space);
+    tour.picture(QStringLiteral("frmVideo"));
+    tour.click(QStringLiteral("ImgTlacitko(4)"));
+    tour.wait(kSlowScreen);
+    tour.stop(QStringLiteral("frmVideo"), QStringLiteral("na-zacatku"));
     tour.key(Qt::Key_Escape);
 }
 

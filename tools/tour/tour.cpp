@@ -21,10 +21,23 @@ void Tour::stop(const QString& form, const QString& what) {
     const QString name = what.isEmpty() ? form : form + u'-' + what;
     const QString there = front() ? front()->name() : QStringLiteral("nothing");
     if (there != form) fault(QStringLiteral("%1: %2 is in front").arg(name, there));
+    picture(name);
+    texts_ << QStringLiteral("== ") + name + u'\n' + textsOn(program_.stage());
+}
+
+void Tour::skipIntro() {
+    constexpr int kSomeFrames = 600;  // milliseconds
+    QTimer::singleShot(kSomeFrames, &program_.stage(), [this] {
+        if (!front() || front()->name() != u"frmSplash") return;
+        stop(QStringLiteral("frmSplash"));
+        key(Qt::Key_Space);
+    });
+}
+
+void Tour::picture(const QString& name) {
     const QString file = pictures_.filePath(name + QStringLiteral(".png"));
     if (!program_.stage().grab().save(file))
         fault(QStringLiteral("%1: the picture cannot be written").arg(name));
-    texts_ << QStringLiteral("== ") + name + u'\n' + textsOn(program_.stage());
 }
 
 QWidget* Tour::find(const QString& control) {

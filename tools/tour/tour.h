@@ -21,8 +21,13 @@ class Tour {
 
     Program& program() { return program_; }
 
+    /// Saves the splash while the intro plays, and ends the intro by a key. To be called before the program
+    /// starts.
+    void skipIntro();
     /// Expects the form \a form in front and saves it as "form-what.png"; its texts are kept.
     void stop(const QString& form, const QString& what = {});
+    /// Saves a picture only: of a place whose texts tell the time.
+    void picture(const QString& name);
     /// Moves the mouse over, or clicks, the control called \a control on the form in front.
     void hover(const QString& control);
     void click(const QString& control);
