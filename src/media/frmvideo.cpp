@@ -143,7 +143,7 @@ void frmVideo::showError() {
 void frmVideo::setPlaying(bool playing) {
     if (playing) Label1.setText(QStringLiteral("Přehrávám"));
     ImgTlacitko[kPlay]->setFrame(playing ? Button::Frame::Pressed : Button::Frame::Raised);
-    if (playing) ImgTlacitko[kPause]->setFrame(Button::Frame::Raised);
+    ImgTlacitko[kPause]->setFrame(Button::Frame::Raised);
 }
 
 void frmVideo::ended() {
@@ -181,9 +181,10 @@ void frmVideo::pause() {
     const bool resumes = MMControlVideo->mode() == MediaMode::Paused;
     if (!resumes && MMControlVideo->mode() != MediaMode::Playing) return press(kPlay);
     MMControlVideo->command(u"pause");
-    ImgTlacitko[kPause]->setFrame(resumes ? Button::Frame::Raised : Button::Frame::Pressed);
-    if (!resumes) Label1.setText(QStringLiteral("Pozastaveno"));
     setPlaying(resumes);
+    if (resumes) return;
+    ImgTlacitko[kPause]->setFrame(Button::Frame::Pressed);
+    Label1.setText(QStringLiteral("Pozastaveno"));
 }
 
 void frmVideo::toggleSound() {

@@ -66,7 +66,9 @@ TEST_F(VideoTest, TransportButtons) {
     press(Qt::Key_Space);
     EXPECT_EQ(player->mode(), MediaMode::Playing) << "pause pressed again plays on";
     EXPECT_EQ(button(3)->frame(), Button::Frame::Raised);
+    click(3);
     click(2);
+    EXPECT_EQ(button(3)->frame(), Button::Frame::Raised) << "stopped is not paused";
     EXPECT_EQ(player->mode(), MediaMode::Stopped);
     player->commands.clear();
     for (const int i : {4, 5, 1}) click(i);
