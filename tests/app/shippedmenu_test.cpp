@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QTest>
+#include <QTimer>
 #include <set>
 
 #include "app/program.h"
@@ -28,6 +29,7 @@ class ShippedMenu : public testing::Test {
         program->stage().show();
         program->stage().activateWindow();
         QApplication::processEvents();
+        QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space); });  // no intro
         ASSERT_TRUE(program->Main({}));
         main = program->mainScreen();
     }
