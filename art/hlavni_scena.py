@@ -405,8 +405,8 @@ def aquarium():
         x, y = random.uniform(-1.2, 1.2), random.uniform(.1, 1.0)
         pts = [(x + .18 * math.sin(t * 6 + i), y, .25 + t * random.uniform(1.8, 2.6)) for t in [k / 14 for k in range(15)]]
         g.append(tube(pts, [.1 * (1 - .7 * k / 14) for k in range(15)], weed, 5))
-    f1 = group([fishlib.fish("goldfish", "raw", 1.55, seed=8, lying=False)])
-    f2 = group([fishlib.fish("perch", "raw", 1.2, seed=9, lying=False)])
+    f1 = group([fishlib.fish("goldfish", "raw", 2.3, seed=8, lying=False)])
+    f2 = group([fishlib.fish("perch", "raw", 1.8, seed=9, lying=False)])
     bubbles = [sphere(.07, mat("airbubble", "dff6f6", .05, trans=.8, coat=1), n=10) for _ in range(4)]
     all_ = group(g + [f1, f2] + bubbles)
     return all_, f1, f2, bubbles
@@ -839,8 +839,8 @@ def pose(P, button, f):
     elif button == 9:
         g, f1, f2, bubs = P["aquarium"]
         _move(f1, rz=0)
-        put(f1, .85 * math.cos(w), .45 * math.sin(w) - .3, 1.7 + .12 * math.sin(2 * w), turn=math.degrees(w) - 90)
-        put(f2, -.8 * math.cos(w), -.4 * math.sin(w), 2.6 + .1 * math.cos(w), turn=math.degrees(w) + 90)
+        put(f1, .75 * math.sin(w), -.6 * math.cos(w) - .3, 1.75 + .12 * math.sin(2 * w), turn=math.degrees(w) + 180)
+        put(f2, -.6 * math.sin(w), .5 * math.cos(w) - .1, 2.75 + .1 * math.sin(w), turn=math.degrees(w))
         for i, b in enumerate(bubs):
             q = (f + i / len(bubs)) % 1
             put(b, -.5 + .5 * i + .1 * math.sin(q * 9), -.5, .6 + 2.7 * q, scale=math.sin(math.pi * q) ** .5 + .02)

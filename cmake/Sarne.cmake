@@ -2,7 +2,9 @@
 
 find_program(SARNE_CCACHE ccache)
 if(SARNE_CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${SARNE_CCACHE})
+    # Paths below the source folder count as relative, so that every checkout shares what another has compiled.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
+        ${SARNE_CCACHE})
 endif()
 
 add_library(sarne_options INTERFACE)

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QScreen>
 #include <QStandardPaths>
 
 #include "app/program.h"
@@ -7,6 +8,16 @@
 #include "platform/systemprinter.h"
 
 namespace {
+
+/// Covers the display with \a stage, now and whenever the display's mode changes. Where no window manager
+/// runs nobody else does that.
+void fillDisplay(QWidget& stage) {
+    QScreen* screen = stage.screen();
+    stage.setGeometry(screen->geometry());
+    stage.showFullScreen();
+    QObject::connect(screen, &QScreen::geometryChanged, &stage,
+                     qOverload<const QRect&>(&QWidget::setGeometry));
+}
 
 QString commandLine(const QApplication& application) {
     return application.arguments().mid(1).join(u' ');
@@ -49,7 +60,8 @@ int main(int argc, char** argv) {
                                QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                                    QStringLiteral("/velisa-sarn")});
     program.stage().setWindowTitle(QStringLiteral("Velisa sarn"));
-    program.stage().showFullScreen();
+    fillDisplay(program.stage());
     if (!program.Main(commandLine(application)) || program.hasEnded()) return 0;
+    effects.prepare();
     return QApplication::exec();
 }

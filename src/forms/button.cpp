@@ -70,6 +70,16 @@ void Button::paintFrame(QPainter& painter, const QRect& place) const {
     painter.drawRoundedRect(QRectF(place).adjusted(23, 23, -23, -23), 90, 90);
 }
 
+void Button::changeEvent(QEvent* event) {
+    Control::changeEvent(event);
+    if (event->type() != QEvent::EnabledChange) return;
+    // A button that does nothing shows its form's pointer: the way back, while another screen is open above.
+    if (isEnabled())
+        setCursor(Qt::PointingHandCursor);
+    else
+        unsetCursor();
+}
+
 void Button::paint(QPainter& painter) {
     const QRect place({0, 0}, twips().size());
     if (!isEnabled()) painter.setOpacity(.45);

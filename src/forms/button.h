@@ -31,6 +31,7 @@ class Button : public Control {
 
   protected:
     void paint(QPainter& painter) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     Frame shownFrame() const;

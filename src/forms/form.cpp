@@ -137,7 +137,8 @@ void Form::keyPressEvent(QKeyEvent* event) {
     event->accept();
     if (event->key() == Qt::Key_Tab && event->modifiers() & Qt::ShiftModifier) {
         // Some platforms tell Shift+Tab so, others as a key of its own.
-        QKeyEvent back(event->type(), Qt::Key_Backtab, event->modifiers(), event->text(), event->isAutoRepeat());
+        QKeyEvent back(event->type(), Qt::Key_Backtab, event->modifiers(), event->text(),
+                       event->isAutoRepeat());
         return keyPressEvent(&back);
     }
     if (!keyDown(*event)) sharedKey(*event);

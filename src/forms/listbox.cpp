@@ -14,6 +14,7 @@ namespace {
 using Reach = ListSelection::Reach;
 
 constexpr int kBorder = 30;
+constexpr int kPadding = 90;     // above the first row, where the focus ring is
 constexpr int kRowGap = 60;      // between the texts of two rows
 constexpr int kTextInset = 120;  // from the left edge to the texts
 constexpr int kBarWidth = 240;   // of the scroll bar
@@ -119,7 +120,7 @@ int ListBox::rowHeight() const {
 }
 
 int ListBox::visibleRows() const {
-    return std::max(1, (twips().height() - 2 * kBorder) / rowHeight());
+    return std::max(1, (twips().height() - 2 * kPadding) / rowHeight());
 }
 
 int ListBox::maxTop() const {
@@ -134,12 +135,12 @@ void ListBox::scrollTo(int topIndex) {
 QRect ListBox::rowRect(int index) const {
     if (index < top_ || index >= std::min(listCount(), top_ + visibleRows())) return {};
     const int right = maxTop() > 0 ? kBarWidth : 0;
-    return {kBorder, kBorder + (index - top_) * rowHeight(), twips().width() - 2 * kBorder - right,
+    return {kBorder, kPadding + (index - top_) * rowHeight(), twips().width() - 2 * kBorder - right,
             rowHeight()};
 }
 
 int ListBox::rowAt(int y) const {
-    return top_ + static_cast<int>(std::floor(double(y - kBorder) / rowHeight()));
+    return top_ + static_cast<int>(std::floor(double(y - kPadding) / rowHeight()));
 }
 
 QRect ListBox::scrollTrack() const {

@@ -80,7 +80,7 @@ QByteArray SystemDisplayModes::Helper::ask(const QByteArray& line) {
     const QByteArray message = line + '\n';
     if (send(socket_, message.constData(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) < 0)
         return {};
-    const QByteArray answer = readLine();
+    QByteArray answer = readLine();
     deaf_ = answer.isEmpty();
     return answer;
 }

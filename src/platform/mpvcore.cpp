@@ -141,7 +141,7 @@ qint64 MpvCore::milliseconds(const char* property) const {
 QString MpvCore::text(const QString& property) const {
     mpv_node value = {};
     if (mpv_.getProperty(handle_, property.toUtf8().constData(), MPV_FORMAT_NODE, &value) < 0) return {};
-    const QString text = value.format == MPV_FORMAT_STRING ? QString::fromUtf8(value.u.string) : QString();
+    QString text = value.format == MPV_FORMAT_STRING ? QString::fromUtf8(value.u.string) : QString();
     mpv_.freeNodeContents(&value);
     return text;
 }

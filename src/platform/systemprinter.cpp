@@ -16,7 +16,6 @@ namespace sarne {
 namespace {
 
 constexpr int kTwipsPerInch = 1440;
-constexpr int kTwipsPerPoint = 20;
 constexpr double kFileMargin = 10;  // millimetres; a file has no unprintable border of its own
 constexpr int kLongestFileName = 100;
 
@@ -51,7 +50,7 @@ QString printFileName(const QString& documentName) {
     for (const QChar c : documentName.simplified().left(kLongestFileName))
         name += c.isPrint() && !QStringLiteral("/\\:*?\"<>|").contains(c) ? c : QChar(u' ');
     name = name.simplified();
-    while (name.startsWith(u'.')) name.remove(0, 1);
+    while (name.startsWith(u'.') || name.startsWith(u' ')) name.remove(0, 1);
     return name.isEmpty() ? QStringLiteral("Recepty") : name;
 }
 
@@ -64,12 +63,20 @@ class SystemPrinter::State {
 
     bool toFile() const { return printer.outputFormat() == QPrinter::PdfFormat; }
 
-    QPrinter printer;
+    QPrinter printer{QPrinter::HighResolution};
     QPainter painter;
     std::unique_ptr<WholeFile> file;
     std::unique_ptr<QPdfWriter> pdf;
     QString written;  ///< the file of the user's choice that a document has gone to
 
+    /// A file's margins are the usual ones, whatever its paper.
+    void keepFileMargins() {
+        QPageLayout layout = printer.pageLayout();
+        const QPageLayout usual = layoutForFile();
+        layout.setUnits(usual.units());
+        layout.setMargins(usual.margins());
+        printer.setPageLayout(layout);
+    }
     bool beginFile(const QString& path, const QString& title);
     bool beginPrinter(const QString& title);
     PrintedDocument endFile();
@@ -137,13 +144,12 @@ QString SystemPrinter::paper() const {
 }
 
 PageScale SystemPrinter::scale() const {
-    const auto twips = [](double points) { return static_cast<int>(points * kTwipsPerPoint); };
     const QPageLayout layout = pageLayout();
-    const QRectF area = layout.paintRect(QPageLayout::Point), sheet = layout.fullRect(QPageLayout::Point);
+    const QRect area = layout.paintRectPixels(kTwipsPerInch);
     PageScale scale;
-    scale.width = twips(area.width());
-    scale.height = twips(area.height());
-    scale.sheet = {-twips(area.left()), -twips(area.top()), twips(sheet.width()), twips(sheet.height())};
+    scale.width = area.width();
+    scale.height = area.height();
+    scale.sheet = layout.fullRectPixels(kTwipsPerInch).translated(-area.topLeft());
     return scale;
 }
 
@@ -166,6 +172,7 @@ bool SystemPrinter::choose(QWidget* parent) {
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     if (dialog.exec() != QDialog::Accepted) return false;
     state().written.clear();
+    if (state().toFile()) state().keepFileMargins();
     return true;
 }
 

@@ -40,6 +40,12 @@ void moveFocus(const std::vector<Control*>& order, int step) {
     }
 }
 
+bool moveByTab(const std::vector<Control*>& order, int key) {
+    if (key != Qt::Key_Tab && key != Qt::Key_Backtab) return false;
+    moveFocus(order, key == Qt::Key_Tab ? 1 : -1);
+    return true;
+}
+
 bool clickFocused(const std::vector<Control*>& order) {
     for (Control* control : order) {
         if (!control->hasFocus() || !qobject_cast<Button*>(control)) continue;

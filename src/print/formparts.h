@@ -26,6 +26,8 @@ void dressLabel(Label& label, const TextFont& font, const QColor& color, const Q
 /// Moves the keyboard from the control of \a order that has it to the next one that can take it, \a step
 /// (1 or -1) apart; to the first one when none has it.
 void moveFocus(const std::vector<Control*>& order, int step);
+/// Does what Tab and Shift+Tab do; false for any other \a key.
+bool moveByTab(const std::vector<Control*>& order, int key);
 /// Clicks the button of \a order that has the keyboard. False when none has.
 bool clickFocused(const std::vector<Control*>& order);
 

@@ -138,15 +138,17 @@ bool frmNahled::keyDown(QKeyEvent& event) {
         case Qt::Key_Space:
             if (!clickFocused(tabOrder())) zoom();
             return true;
-        case Qt::Key_Tab:
-            moveFocus(tabOrder(), 1);
-            return true;
-        case Qt::Key_Backtab:
-            moveFocus(tabOrder(), -1);
-            return true;
         default:
-            return false;
+            return moveByTab(tabOrder(), event.key());
     }
+}
+
+void frmNahled::help() {
+    if (!app().stage().modalForm()) Form::help();
+}
+
+void frmNahled::musicSettings() {
+    if (!app().stage().modalForm()) Form::musicSettings();
 }
 
 void frmNahled::paint(QPainter& painter) {

@@ -214,11 +214,11 @@ void frmPrint::endProgram() {
 }
 
 void frmPrint::musicSettings() {
-    if (!printing_) Form::musicSettings();
+    if (!printing_ && !app().stage().modalForm()) Form::musicSettings();
 }
 
 void frmPrint::help() {
-    if (!printing_) Form::help();
+    if (!printing_ && !app().stage().modalForm()) Form::help();
 }
 
 void frmPrint::restored() {

@@ -180,12 +180,6 @@ bool frmSave::keyDown(QKeyEvent& event) {
         case Qt::Key_Escape:
             goBack();
             break;
-        case Qt::Key_Tab:
-            moveFocus(tabOrder(), 1);
-            break;
-        case Qt::Key_Backtab:
-            moveFocus(tabOrder(), -1);
-            break;
         case Qt::Key_Right:
             lstVybrano.setFocus(Qt::TabFocusReason);
             break;
@@ -197,7 +191,7 @@ bool frmSave::keyDown(QKeyEvent& event) {
             if (event.modifiers() & Qt::AltModifier) closeRequested();
             break;
         default:
-            break;
+            moveByTab(tabOrder(), event.key());
     }
     return true;  // a dialog: its keys mean nothing else
 }

@@ -26,7 +26,7 @@ struct KeyForm : Form {
 class ListBoxTest : public testing::Test {
   protected:
     ListBoxTest() : list(*form, QStringLiteral("lstSeznam")) {
-        list.place({600, 600, 3000, 10 * list.rowHeight() + 60});
+        list.place({600, 600, 3000, 10 * list.rowHeight() + 200});
         list.setMode(ListSelection::Mode::Several);
         for (int i = 0; i < 30; ++i) list.addItem(QStringLiteral("Kapr %1").arg(i), 100 + i);
         form->showForm();

@@ -163,6 +163,15 @@ TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
     EXPECT_TRUE(button(3)->isEnabled());
     EXPECT_EQ(main->cursor().shape(), Qt::ArrowCursor);
     EXPECT_EQ(main->currentButton(), -5);
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    auto* other = new Form(run, QStringLiteral("frmSponzor"));
+    run.PushScreen(*other);
+    other->showForm();
+    main->SkryjMenu();
+    run.PopScreen(*other);
+    EXPECT_TRUE(button(1)->hasFocus()) << "who came by keyboard goes on from there";
 }
 
 }  // namespace

@@ -1,5 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QTimer>
+
 #include "printcookbook.h"
 
 namespace sarne {
@@ -183,6 +188,39 @@ TEST(PrintedPage, TakesLargeMaterial) {
         EXPECT_TRUE(text.contains(str("Odkaz: Odkaz číslo %1\n").arg(link))) << link;
         EXPECT_TRUE(text.contains(str("Text odkazu %1.").arg(link))) << link;
     }
+}
+
+TEST(SystemPrinter, AFileChosenInTheDialogIsWrittenAndNotPrintedOverAgain) {
+    PrintCookbook book(kCookbook);
+    SystemPrinter printer(book.folder.path());
+    printer.setPrinter({});
+    const QString chosen = book.folder.filePath(str("vybraný.pdf"));
+    int dialogs = 0;
+    const auto answer = [&](bool accept) {
+        QTimer::singleShot(0, qApp, [&, accept] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            ++dialogs;
+            if (auto* file = dialog->findChild<QLineEdit*>(str("filename"))) file->setText(chosen);
+            accept ? dialog->accept() : dialog->reject();
+        });
+        return printer.choose(nullptr);
+    };
+    EXPECT_FALSE(answer(false));
+    EXPECT_EQ(printer.fileFor(str("a/b:c. ")), book.folder.filePath(str("a b c..pdf")));
+    ASSERT_TRUE(answer(true));
+    EXPECT_EQ(dialogs, 2);
+    EXPECT_EQ(book.printOn(printer, {7}).file, chosen);
+    EXPECT_NEAR(printer.scale().sheet.left(), -567, 20) << "with the usual margins";
+    EXPECT_EQ(book.printOn(printer, {8}).file, book.folder.filePath(str("vybraný (2).pdf")));
+    EXPECT_TRUE(textOf({{}, 1, chosen}).contains(str("povidly")));
+}
+
+TEST(SystemPrinter, NamesFilesSoThatEveryDiskTakesThem) {
+    EXPECT_EQ(printFileName(str(" Kapr \"na\"  modro?\n")), str("Kapr na modro"));
+    EXPECT_EQ(printFileName(str("../..")), str("Recepty"));
+    EXPECT_EQ(printFileName({}), str("Recepty"));
+    EXPECT_LE(printFileName(QString(300, u'ř')).toUtf8().size() + 12, 255);
 }
 
 }  // namespace

@@ -52,6 +52,10 @@ void readNames(const Cookbook& book, Proofreader& reader) {
     for (const Wine& wine : book.wines) reader.text(wine.name, wine.place);
     for (const QuickRecipe& quick : book.quick) reader.text(quick.name, quick.place);
     for (const HelpTopic& topic : book.help) reader.text(topic.name, topic.place);
+    for (const Setting& setting : book.settings)
+        reader.text(setting.name, {QStringLiteral("nastav.txt"), setting.id});
+    for (const Video& video : book.videos)
+        reader.text(video.title, {QStringLiteral("videa.txt"), video.number});
 }
 
 void readMenuTexts(const QList<MenuNode>& nodes, Proofreader& reader) {

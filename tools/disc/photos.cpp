@@ -17,6 +17,9 @@ namespace {
 /// Changed whenever pictures would come out different from the same source.
 constexpr const char* kVersion = "1";
 constexpr int kRecipes = 50;
+constexpr int kExitTopic = 0;
+constexpr int kMusicTopic = 7;
+const QString kMainGround = QStringLiteral("rendered/hlavni/pozadi");
 /// Composites and gallery pictures, which fill the screen.
 constexpr QSize kScreenSize(1440, 1080);
 const QColor kPaper(244, 234, 210);
@@ -144,12 +147,41 @@ void makeOne(Workshop& shop, const QString& source, const QString& target, const
     if (!QFileInfo::exists(from)) shop.problems.note(QStringLiteral("art/%1 is missing").arg(source));
 }
 
+QString mainLayoutFile(const Workshop& shop) {
+    return shop.art + QStringLiteral("/layout/hlavni.txt");
+}
+
+QString topicName(const Workshop& shop, int topic) {
+    if (topic == kExitTopic) return QStringLiteral("Konec");
+    if (topic == kMusicTopic) return QStringLiteral("Hudba a zvuky");
+    for (const MenuTopic& one : shop.book.menuTopics)
+        if (one.number == topic) return one.heading;
+    return {};
+}
+
+/// The main screen's buttons, from the art's layout: "number left top width height …" in twips.
+QList<NamedPlace> mainButtons(const Workshop& shop) {
+    QList<NamedPlace> places;
+    QFile file(mainLayoutFile(shop));
+    if (!file.open(QIODevice::ReadOnly)) return places;
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        const QStringList words = line.simplified().split(u' ');
+        bool isButton = false;
+        const int topic = words.first().toInt(&isButton);
+        if (isButton && words.size() >= 5)
+            places << NamedPlace{{words[1].toInt(), words[2].toInt(), words[3].toInt(), words[4].toInt()},
+                                 topicName(shop, topic)};
+    }
+    return places;
+}
+
 QByteArray groundBytes(const Workshop& shop, const QString& source, const QString& title) {
     QFile file(shop.artPicture(source));
     if (file.open(QIODevice::ReadOnly)) return file.readAll();
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    standInGround(title).save(&buffer, "JPG", 90);
+    const QImage drawn = source == kMainGround ? standInPlaces(mainButtons(shop)) : standInGround(title);
+    drawn.save(&buffer, "JPG", 90);
     return bytes;
 }
 
@@ -180,10 +212,12 @@ void makePhotos(Workshop& shop) {
 }
 
 void makeScreenPictures(Workshop& shop) {
-    const QStringList sources{
-        QStringLiteral("rendered/hlavni/pozadi"), QStringLiteral("rendered/pozadi/konec"),
-        QStringLiteral("rendered/pozadi/video"),  QStringLiteral("rendered/pozadi/seznam"),
-        QStringLiteral("rendered/pozadi/recept"), QStringLiteral("rendered/pozadi/sit")};
+    const QStringList sources{kMainGround,
+                              QStringLiteral("rendered/pozadi/konec"),
+                              QStringLiteral("rendered/pozadi/video"),
+                              QStringLiteral("rendered/pozadi/seznam"),
+                              QStringLiteral("rendered/pozadi/recept"),
+                              QStringLiteral("rendered/pozadi/sit")};
     QStringList files;
     for (const QString& source : sources) {
         files << shop.artPicture(source);
@@ -191,6 +225,7 @@ void makeScreenPictures(Workshop& shop) {
             shop.problems.note(QStringLiteral("art/%1 is missing").arg(source));
     }
     const QString output = shop.program + QStringLiteral("/KOp.bj");
+    files << mainLayoutFile(shop);
     shop.make(output, originOf(files, QLatin1String(kVersion)), [&] {
         QList<QByteArray> pictures;
         for (const QString& source : sources) pictures << groundBytes(shop, source, {});

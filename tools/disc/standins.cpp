@@ -9,6 +9,7 @@ namespace sarne::disc {
 namespace {
 
 constexpr QSize kLarge(1600, 1200);
+constexpr double kScreenTwips = 12000;
 const QColor kCopper(208, 143, 80);
 const QColor kTeal(14, 58, 64);
 const QColor kNight(11, 34, 38);
@@ -92,6 +93,24 @@ QImage standInGround(const QString& title) {
     painter.setPen(QPen(kCopper, 6));
     painter.drawRect(picture.rect().adjusted(20, 20, -20, -20));
     if (!title.isEmpty()) writeTitle(painter, title, picture.rect());
+    return picture;
+}
+
+QImage standInPlaces(const QList<NamedPlace>& places) {
+    QImage picture = standInGround({});
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(kLarge.width() / kScreenTwips, kLarge.width() / kScreenTwips);
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPixelSize(210);
+    painter.setFont(font);
+    for (const NamedPlace& one : places) {
+        painter.setPen(QPen(kCopper, 45));
+        painter.setBrush(kTeal);
+        painter.drawRoundedRect(one.place, 200, 200);
+        painter.setPen(kPaper);
+        painter.drawText(one.place.adjusted(60, 60, -60, -60), Qt::AlignCenter | Qt::TextWordWrap, one.name);
+    }
     return picture;
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QImage>
+#include <QList>
+#include <QRect>
 #include <QString>
 
 namespace sarne::disc {
@@ -12,6 +14,15 @@ QImage standInDish(int id, const QString& name, const QString& course);
 
 /// The calm ground of a screen, in evening teal, with a paper field in the middle; 1600 x 1200.
 QImage standInGround(const QString& title);
+
+/// A named place of a picture, in twips of a screen.
+struct NamedPlace {
+    QRect place;
+    QString name;
+};
+
+/// The ground of a screen whose things are still to be painted: a plate with its name at each place.
+QImage standInPlaces(const QList<NamedPlace>& places);
 
 /// A small object for a button: a copper plate with \a caption.
 QImage standInObject(const QString& caption);

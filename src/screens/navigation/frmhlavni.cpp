@@ -145,6 +145,7 @@ void frmHlavni::tick() {
 
 void frmHlavni::clickButton(int i) {
     current_ = i;
+    lastClicked_ = i;
     if (i == kExitButton) return app().ConfirmExit();
     if (i == kMusicButton) return app().screens().showMusicSettings();
     unfoldMenu(i);
@@ -174,6 +175,8 @@ void frmHlavni::SkryjMenu() {
 void frmHlavni::restored() {
     if (menuOpen_) SkryjMenu();
     if (current_ >= 0) endHover();
+    // Who came by keyboard goes on from where they were.
+    if (lastClicked_ >= 0 && app().stage().keyboardInUse()) moveTo(lastClicked_);
 }
 
 void frmHlavni::mousePressEvent(QMouseEvent*) {

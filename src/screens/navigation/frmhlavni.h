@@ -57,6 +57,7 @@ class frmHlavni : public Form {
 
     ButtonTable table_;
     int current_;
+    int lastClicked_ = -1;
     bool menuOpen_ = false;
     int shownFrame_ = 0;  // 1.., 0: the picture at rest
     std::array<Button*, kButtonCount> imgClick{};

@@ -100,7 +100,12 @@ void frmMenu::applyGeometry(const QRect& beside) {
     geometry_ = layOutMenu(content, beside);
     place(geometry_.level);
     lblNadpis.place(geometry_.heading);
-    for (size_t i = 0; i < level_.items.size(); ++i) lblOdkaz[i]->place(geometry_.items[i]);
+    for (size_t i = 0; i < level_.items.size(); ++i) {
+        // The arrow of a submenu stands beside its label, where the mark of the selected one does not hide
+        // it.
+        const int arrow = level_.items[i].opensSubmenu() ? kArrowRoom : 0;
+        lblOdkaz[i]->place(geometry_.items[i].adjusted(0, 0, -arrow, 0));
+    }
     Text1.setVisible(hasEntry());
     if (hasEntry()) Text1.place(geometry_.entry);
 }

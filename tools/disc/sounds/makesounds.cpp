@@ -1,67 +1,87 @@
 #include "makesounds.h"
 
-#include <QFile>
-#include <cmath>
+#include <QDir>
+#include <QFileInfo>
+
+#include "music.h"
+#include "voice.h"
 
 namespace sarne::disc {
 namespace {
 
-constexpr int kRate = 22050;
+/// Changed whenever the same descriptions would give other sounds.
+const QString kVersion = QStringLiteral("1");
+const QString kEffects = QStringLiteral("zvuky/efekty.txt");
+/// Music stays in the background of the effects and the voice.
+constexpr double kMusicPeak = -6;
+constexpr int kFirstButton = 101;
+constexpr int kLastButton = 121;
 
-void number(QByteArray& bytes, quint32 value, int size) {
-    for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> (8 * i));
+QString inContent(const Workshop& shop, const QString& file) {
+    return shop.content + u'/' + file;
 }
 
-/// A WAV image of 16-bit mono samples.
-QByteArray wave(const QList<qint16>& samples) {
-    const auto size = static_cast<quint32>(samples.size() * 2);
-    QByteArray bytes = "RIFF";
-    number(bytes, 36 + size, 4);
-    bytes += "WAVEfmt ";
-    number(bytes, 16, 4);
-    number(bytes, 1, 2);
-    number(bytes, 1, 2);
-    number(bytes, kRate, 4);
-    number(bytes, kRate * 2, 4);
-    number(bytes, 2, 2);
-    number(bytes, 16, 2);
-    bytes += "data";
-    number(bytes, size, 4);
-    for (const qint16 sample : samples) number(bytes, static_cast<quint16>(sample), 2);
-    return bytes;
+void checkButtons(const QList<Effect>& effects, Problems& problems) {
+    QList<int> numbers;
+    for (const Effect& effect : effects) numbers << effect.number;
+    for (int wanted = kFirstButton; wanted <= kLastButton; ++wanted)
+        if (!numbers.contains(wanted))
+            problems.error({kEffects, 0}, QStringLiteral("the effect %1 is missing").arg(wanted));
 }
 
-/// A soft tap on wood or glass: a short tone that dies away.
-QList<qint16> tap(double frequency, double seconds) {
-    QList<qint16> samples;
-    const int count = static_cast<int>(kRate * seconds);
-    for (int i = 0; i < count; ++i) {
-        const double time = static_cast<double>(i) / kRate;
-        const double fade = std::exp(-time * 28) * std::min(1.0, i / 40.0);
-        samples << static_cast<qint16>(9000 * fade * std::sin(2 * M_PI * frequency * time));
+/// Makes one file and writes it down at once, so that a build that is broken off goes on from there.
+void makeFile(Workshop& shop, const QString& file, const QString& origin, const std::function<Sound()>& make) {
+    if (shop.ledger.isCurrent(file, origin)) return;
+    const bool isMade = shop.make(file, origin, [&] {
+        const Sound sound = make();
+        return !sound.samples.empty() && writeWav(file, sound);
+    });
+    if (isMade)
+        shop.ledger.save();
+    else
+        shop.problems.error({file, 0}, QStringLiteral("the sound cannot be made"));
+}
+
+void makeEffects(Workshop& shop, const QList<Effect>& effects) {
+    const QString origin = originOf({inContent(shop, kEffects)}, kVersion);
+    for (const Effect& effect : effects) {
+        if (effect.number == 0) continue;
+        const QString file = shop.scratch + QStringLiteral("/zvuky/%1.wav").arg(effect.number);
+        makeFile(shop, file, origin, [&] { return renderEffect(effect); });
     }
-    return samples;
 }
 
-bool save(const QString& file, const QList<qint16>& samples) {
-    QFile out(file);
-    return out.open(QIODevice::WriteOnly) && out.write(wave(samples)) > 0;
+void makeMusic(Workshop& shop, const QList<Effect>& effects, const QString& source, const QString& output) {
+    const ContentFolder folder(shop.content, shop.problems);
+    const QString file = shop.disc + u'/' + output;
+    const QString origin = originOf({inContent(shop, source), inContent(shop, kEffects)}, kVersion);
+    if (shop.ledger.isCurrent(file, origin)) return;
+    const Score score = readScore(folder.read(source), shop.problems);
+    if (shop.problems.hasErrors()) return;
+    makeFile(shop, file, origin, [&] {
+        return renderMusic(score, effects, kMusicPeak, shop.scratch, {source, 0}, shop.problems);
+    });
+}
+
+void makeNames(Workshop& shop) {
+    for (const Recipe& recipe : shop.book.recipes) {
+        const QString file = shop.disc + QStringLiteral("/zvuky/č%1.wav").arg(recipe.id);
+        makeFile(shop, file, originOf({}, kVersion + recipe.name),
+                 [&] { return speak(recipe.name, Pace::name, shop.scratch); });
+    }
 }
 
 }  // namespace
 
 void makeSounds(Workshop& shop) {
-    const auto effect = [&](int resource, double frequency) {
-        const QString file = shop.scratch + QStringLiteral("/zvuky/%1.wav").arg(resource);
-        shop.make(file, originOf({}, QStringLiteral("1")), [&] { return save(file, tap(frequency, 0.15)); });
-    };
-    for (int i = 1; i <= 9; ++i) effect(i, 300 + 60 * i);
-    for (int button = 0; button <= 20; ++button) effect(101 + button, 420 + 35 * button);
-    for (const QString& track : {QStringLiteral("/HUDBA.WAV"), QStringLiteral("/zvuky/Vina.WAV")}) {
-        const QString file = shop.disc + track;
-        shop.make(file, originOf({}, QStringLiteral("1")), [&] { return save(file, tap(330, 4)); });
-    }
-    shop.problems.note(QStringLiteral("music and voices are not made yet"));
+    const ContentFolder folder(shop.content, shop.problems);
+    const QList<Effect> effects = readEffects(folder.read(kEffects), shop.problems);
+    checkButtons(effects, shop.problems);
+    if (shop.problems.hasErrors()) return;
+    makeEffects(shop, effects);
+    makeMusic(shop, effects, QStringLiteral("zvuky/hudba.txt"), QStringLiteral("HUDBA.WAV"));
+    makeMusic(shop, effects, QStringLiteral("zvuky/vina.txt"), QStringLiteral("zvuky/Vina.WAV"));
+    makeNames(shop);
 }
 
 }  // namespace sarne::disc

@@ -1,0 +1,128 @@
+#include "music.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cmath>
+
+#include "midi.h"
+
+namespace sarne::disc {
+namespace {
+
+/// Enough for instruments without cymbals, at three quarters of a compact disc's size.
+constexpr int kRate = 32000;
+/// The synthesiser counts in blocks.
+constexpr int kBlock = 64;
+constexpr int kPasses = 3;
+/// The beginning is blended out of what really follows the end.
+constexpr int kBlendFrames = kRate / 50;
+constexpr int kTimeout = 170'000;
+
+int beatFrames(const Score& score) {
+    return std::max(1, static_cast<int>(std::lround(60.0 / score.tempo * kRate / kBlock))) * kBlock;
+}
+
+QString soundFont() {
+    for (const char* name : {"FluidR3_GM.sf2", "default-GM.sf2", "TimGM6mb.sf2"}) {
+        const QString file = QStringLiteral("/usr/share/sounds/sf2/") + QLatin1String(name);
+        if (QFile::exists(file)) return file;
+    }
+    return {};
+}
+
+bool writeFile(const QString& name, const QByteArray& bytes) {
+    QFile file(name);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+/// All passes as the synthesiser plays them.
+Sound played(const Score& score, const QString& scratch) {
+    QDir().mkpath(scratch);
+    const QTemporaryDir folder(scratch + QStringLiteral("/hudba"));
+    const QString midi = folder.filePath(QStringLiteral("hudba.mid"));
+    const QString wave = folder.filePath(QStringLiteral("hudba.wav"));
+    const int microseconds = static_cast<int>(std::lround(beatFrames(score) * 1e6 / kRate));
+    if (!writeFile(midi, midiFile(score, kPasses, microseconds))) return {};
+    QProcess synthesiser;
+    synthesiser.setStandardOutputFile(QProcess::nullDevice());
+    synthesiser.setStandardErrorFile(QProcess::nullDevice());
+    synthesiser.start(
+        QStringLiteral("fluidsynth"),
+        {QStringLiteral("-n"), QStringLiteral("-i"), QStringLiteral("-q"), QStringLiteral("-C"),
+         QStringLiteral("0"), QStringLiteral("-R"), QStringLiteral("1"), QStringLiteral("-g"),
+         QStringLiteral("0.7"), QStringLiteral("-r"), QString::number(kRate), QStringLiteral("-O"),
+         QStringLiteral("s16"), QStringLiteral("-T"), QStringLiteral("wav"), QStringLiteral("-F"), wave,
+         soundFont(), midi});
+    if (!synthesiser.waitForFinished(kTimeout) || synthesiser.exitCode() != 0) return {};
+    return readWav(wave);
+}
+
+/// The second pass, its beginning blended out of the third.
+Sound secondPass(const Sound& all, int length) {
+    Sound pass{all.rate, all.channels, {}};
+    pass.samples.resize(static_cast<size_t>(length * all.channels));
+    for (int i = 0; i < length; ++i) {
+        const float own = std::min(1.0F, static_cast<float>(i) / kBlendFrames);
+        for (int c = 0; c < all.channels; ++c) {
+            const float next = own < 1 ? all.at(2 * length + i, c) : 0;
+            pass.at(i, c) = own * all.at(length + i, c) + (1 - own) * next;
+        }
+    }
+    return pass;
+}
+
+/// Adds an effect, brought to the music's rate; what reaches over the end sounds at the beginning.
+void mix(Sound& music, const Sound& effect, const Event& event) {
+    const double step = static_cast<double>(effect.rate) / music.rate;
+    const int count = static_cast<int>(effect.frames() / step) - 1;
+    const int from = static_cast<int>(event.seconds * music.rate);
+    const double gain = fromDecibels(event.loudness);
+    for (int i = 0; i < count; ++i) {
+        const double place = i * step;
+        const int left = static_cast<int>(place);
+        const double share = place - left;
+        const double value = gain * ((1 - share) * effect.at(left, 0) + share * effect.at(left + 1, 0));
+        const int frame = (from + i) % music.frames();
+        for (int c = 0; c < music.channels; ++c) {
+            const double side = std::clamp((c == 0 ? 1 - event.side : 1 + event.side) * 0.7, 0.0, 1.0);
+            music.at(frame, c) += static_cast<float>(value * side);
+        }
+    }
+}
+
+void mixEvents(Sound& music, const Score& score, const QList<Effect>& effects, Problems& problems) {
+    for (const Event& event : score.events) {
+        const auto found = std::find_if(effects.cbegin(), effects.cend(),
+                                        [&](const Effect& one) { return one.name == event.effect; });
+        if (found == effects.cend())
+            problems.error(event.place, QStringLiteral("there is no effect %1").arg(event.effect));
+        else
+            mix(music, renderEffect(*found), event);
+    }
+}
+
+}  // namespace
+
+int passFrames(const Score& score) {
+    return static_cast<int>(std::lround(score.length * beatFrames(score)));
+}
+
+Sound renderMusic(const Score& score, const QList<Effect>& effects, double peak, const QString& scratch,
+                  const Place& place, Problems& problems) {
+    const Sound all = played(score, scratch);
+    const int length = passFrames(score);
+    if (length <= 0 || all.frames() < 2 * length + kBlendFrames) {
+        problems.error(place, QStringLiteral("fluidsynth with a sound font cannot play this"));
+        return {};
+    }
+    Sound music = secondPass(all, length);
+    setPeak(music, peak);
+    mixEvents(music, score, effects, problems);
+    setPeak(music, peak);
+    return music;
+}
+
+}  // namespace sarne::disc

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QImage>
+
+#include "../sounds/sound.h"
+#include "film.h"
+
+namespace sarne::disc {
+
+constexpr int kFramesPerSecond = 20;
+
+/// Writes the film as an AVI with its sound, through ffmpeg. False when that fails; \a file is then as it was.
+bool encodeFilm(const Film& film, const QImage& ground, const Sound& sound, const QString& file,
+                const QString& scratch);
+
+}  // namespace sarne::disc
