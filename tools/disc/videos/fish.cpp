@@ -155,12 +155,13 @@ void flesh(QPainter& painter, const QPainterPath& shape, double cooked) {
     painter.restore();
 }
 
-void spine(QPainter& painter) {
-    painter.setPen(QPen(QColor(250, 240, 214), 6, Qt::SolidLine, Qt::RoundCap));
+void spine(QPainter& painter, double cooked) {
+    const QColor bone = between(QColor(250, 240, 214), QColor(206, 168, 116), cooked);
+    painter.setPen(QPen(bone, 6, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(-116, 0), QPointF(152, 0));
     painter.setPen(QPen(QColor(190, 160, 120, 160), 1.4));
     for (int i = 0; i < 22; ++i) painter.drawLine(QPointF(-112 + i * 12, -3), QPointF(-112 + i * 12, 3));
-    painter.setPen(QPen(QColor(252, 244, 222), 2.2, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(bone.lighter(103), 2.2, Qt::SolidLine, Qt::RoundCap));
     for (int i = 0; i < 20; ++i) {
         const double x = -106 + i * 12.5;
         const double reach = 52 * std::sqrt(std::max(0.1, 1 - std::pow((x + 20) / 180, 2)));
@@ -218,7 +219,7 @@ void guts(QPainter& painter, const Pose& pose) {
     const double out = pose.of(QStringLiteral("vnitřnosti"));
     if (out <= 0) return;
     painter.save();
-    painter.setOpacity(painter.opacity() * std::clamp(out * 4, 0.0, 1.0));
+    painter.setOpacity(painter.opacity() * std::clamp(out * 4, 0.0, 1.0) * std::clamp(2 - out, 0.0, 1.0));
     painter.translate(-10 + 150 * out, 44 + 70 * out);
     painter.setBrush(QColor(150, 52, 44));
     painter.drawPath(smoothPath({{-60, -4}, {-30, -16}, {12, -12}, {44, -16}, {58, 6}, {24, 18}, {-20, 14}, {-54, 16}}, true));
@@ -280,7 +281,7 @@ void opened(QPainter& painter, const Species& species, const Pose& pose) {
     painter.save();
     painter.translate(-30 * bones, -150 * bones);
     painter.rotate(-14 * bones);
-    spine(painter);
+    spine(painter, cooked);
     const QPainterPath front = bodyOf(species).subtracted(right(species.gill + 16));
     painter.setBrush(bodyPaint(species, cooked));
     painter.drawPath(front);
@@ -336,9 +337,24 @@ void portions(QPainter& painter, const Species& species, const Pose& pose) {
     painter.setPen(Qt::NoPen);
 }
 
+/// The shadow of what still lies on the board.
+void shadow(QPainter& painter, const Species& species, const Pose& pose) {
+    const bool isInPortions = pose.of(QStringLiteral("porce")) > 0;
+    if (pose.of(QStringLiteral("stín"), 1) <= 0 || isInPortions) return;
+    const bool isTrunk = pose.of(QStringLiteral("kostra")) > 0;
+    dropShadow(painter, isTrunk ? trunk(species) : bodyOf(species) + tailPath(), {10, 14}, 55);
+}
+
+/// Turns the fish over its belly onto its other side.
+void roll(QPainter& painter, const Pose& pose) {
+    const double side = std::abs(std::cos(M_PI * pose.of(QStringLiteral("převrácená"))));
+    painter.scale(1, std::max(0.06, side));
+}
+
 void drawFish(QPainter& painter, const Species& species, const Pose& pose) {
     painter.setPen(Qt::NoPen);
-    if (pose.of(QStringLiteral("stín"), 1) > 0) dropShadow(painter, bodyOf(species) + tailPath(), {10, 14}, 55);
+    roll(painter, pose);
+    shadow(painter, species, pose);
     if (pose.of(QStringLiteral("porce")) > 0 || pose.of(QStringLiteral("krájená")) > 0)
         return portions(painter, species, pose);
     if (pose.of(QStringLiteral("filet")) > 0) return opened(painter, species, pose);

@@ -63,7 +63,7 @@ QStringList words(const char* text) {
 
 const QMap<QString, ActorKind>& actorKinds() {
     static const QStringList fish = words(
-        "očištěná ploutve řez otevřená vnitřnosti zářez podélně filet odložený kostra stažená pečená krájená porce stín");
+        "očištěná ploutve převrácená řez otevřená vnitřnosti zářez podélně filet odložený kostra stažená pečená krájená porce stín");
     static const QMap<QString, ActorKind> kinds{
         {QStringLiteral("kapr"), {drawCarp, fish}},
         {QStringLiteral("pstruh"), {drawTrout, fish}},

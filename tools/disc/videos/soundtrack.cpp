@@ -7,7 +7,7 @@
 namespace sarne::disc {
 namespace {
 
-constexpr int kRate = 22050;
+constexpr int kRate = 16000;
 constexpr double kBeforeSpeech = 0.25;
 constexpr double kAfterSpeech = 0.55;
 constexpr double kLongest = 20;

@@ -102,6 +102,7 @@ void drawLadle(QPainter& painter, const Pose& pose) {
         fall.cubicTo({-2, 30}, {2, 20}, {10, 4});
         painter.drawPath(fall);
     }
+    painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor(150, 152, 150), 9, Qt::SolidLine, Qt::RoundCap));
     QPainterPath bent(QPointF(76, 4));
     bent.cubicTo({100, -60}, {120, -110}, {176, -150});
@@ -180,9 +181,9 @@ void drawFlyingScales(QPainter& painter, const Pose& pose) {
         painter.save();
         painter.translate(at);
         painter.rotate(360 * scatter(i, 3) + 400 * age);
-        painter.setPen(QPen(QColor(130, 96, 40, 160), 0.8));
-        painter.setBrush(QColor(246, 226, 170, static_cast<int>(220 * strength * (1 - age))));
-        painter.drawEllipse(QPointF(0, 0), 6, 4.4);
+        painter.setPen(QPen(QColor(92, 62, 22, 200), 1.2));
+        painter.setBrush(QColor(255, 246, 214, static_cast<int>(250 * strength * (1 - age))));
+        painter.drawEllipse(QPointF(0, 0), 7.5, 5.6);
         painter.restore();
     }
 }

@@ -62,10 +62,12 @@ QPainterPath potInside() {
     return inside;
 }
 
-QPainterPath dome() {
+/// The shape of a moulded aspic, its base at 0 and rounded by \a bulge.
+QPainterPath dome(double bulge) {
     QPainterPath path(QPointF(-120, 0));
     path.cubicTo({-112, -86}, {-76, -118}, {0, -118});
     path.cubicTo({76, -118}, {112, -86}, {120, 0});
+    path.quadTo({0, 2 * bulge}, {-120, 0});
     path.closeSubpath();
     return path;
 }
@@ -253,11 +255,13 @@ void drawAspic(QPainter& painter, const Pose& pose) {
     const double level = pose.of(QStringLiteral("výška"));
     const double pieces = pose.of(QStringLiteral("kousky"));
     const double solid = pose.of(QStringLiteral("tuhý"));
+    // Lying on a plate that is seen from above, its base shows as round.
+    const double bulge = 17 * std::clamp((pose.of(QStringLiteral("otočení")) - 270) / 90, 0.0, 1.0);
     QPainterPath filled;
-    filled.addRect(QRectF(-140, -118, 280, 118 * level));
-    filled = dome().intersected(filled);
+    filled.addRect(QRectF(-140, -118, 280, (118 + bulge) * level));
+    filled = dome(bulge).intersected(filled);
     painter.save();
-    painter.setClipPath(dome(), Qt::IntersectClip);
+    painter.setClipPath(dome(bulge), Qt::IntersectClip);
     fishCubes(painter, pieces);
     painter.restore();
     QLinearGradient gold(0, -118, 0, 0);
