@@ -30,7 +30,8 @@ void checkButtons(const QList<Effect>& effects, Problems& problems) {
 }
 
 /// Makes one file and writes it down at once, so that a build that is broken off goes on from there.
-void makeFile(Workshop& shop, const QString& file, const QString& origin, const std::function<Sound()>& make) {
+void makeFile(Workshop& shop, const QString& file, const QString& origin,
+              const std::function<Sound()>& make) {
     if (shop.ledger.isCurrent(file, origin)) return;
     const bool isMade = shop.make(file, origin, [&] {
         const Sound sound = make();
