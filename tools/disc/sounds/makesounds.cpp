@@ -29,8 +29,16 @@ void checkButtons(const QList<Effect>& effects, Problems& problems) {
             problems.error({kEffects, 0}, QStringLiteral("the effect %1 is missing").arg(wanted));
 }
 
+QList<Effect> readCheckedEffects(Workshop& shop) {
+    const ContentFolder folder(shop.content, shop.problems);
+    const QList<Effect> effects = readEffects(folder.read(kEffects), shop.problems);
+    checkButtons(effects, shop.problems);
+    return shop.problems.hasErrors() ? QList<Effect>() : effects;
+}
+
 /// Makes one file and writes it down at once, so that a build that is broken off goes on from there.
-void makeFile(Workshop& shop, const QString& file, const QString& origin, const std::function<Sound()>& make) {
+void makeFile(Workshop& shop, const QString& file, const QString& origin,
+              const std::function<Sound()>& make) {
     if (shop.ledger.isCurrent(file, origin)) return;
     const bool isMade = shop.make(file, origin, [&] {
         const Sound sound = make();
@@ -42,7 +50,7 @@ void makeFile(Workshop& shop, const QString& file, const QString& origin, const 
         shop.problems.error({file, 0}, QStringLiteral("the sound cannot be made"));
 }
 
-void makeEffects(Workshop& shop, const QList<Effect>& effects) {
+void renderEffects(Workshop& shop, const QList<Effect>& effects) {
     const QString origin = originOf({inContent(shop, kEffects)}, kVersion);
     for (const Effect& effect : effects) {
         if (effect.number == 0) continue;
@@ -73,12 +81,14 @@ void makeNames(Workshop& shop) {
 
 }  // namespace
 
+void makeEffects(Workshop& shop) {
+    renderEffects(shop, readCheckedEffects(shop));
+}
+
 void makeSounds(Workshop& shop) {
-    const ContentFolder folder(shop.content, shop.problems);
-    const QList<Effect> effects = readEffects(folder.read(kEffects), shop.problems);
-    checkButtons(effects, shop.problems);
+    const QList<Effect> effects = readCheckedEffects(shop);
     if (shop.problems.hasErrors()) return;
-    makeEffects(shop, effects);
+    renderEffects(shop, effects);
     makeMusic(shop, effects, QStringLiteral("zvuky/hudba.txt"), QStringLiteral("HUDBA.WAV"));
     makeMusic(shop, effects, QStringLiteral("zvuky/vina.txt"), QStringLiteral("zvuky/Vina.WAV"));
     makeNames(shop);

@@ -45,8 +45,8 @@ int channelOf(int instrument) {
 }
 
 QList<Message> settings(const Score& score, int beatMicroseconds) {
-    QList<Message> all{{0, bytesOf({0xFF, 0x51, 3, beatMicroseconds >> 16 & 0xFF, beatMicroseconds >> 8 & 0xFF,
-                                    beatMicroseconds & 0xFF})}};
+    QList<Message> all{{0, bytesOf({0xFF, 0x51, 3, beatMicroseconds >> 16 & 0xFF,
+                                    beatMicroseconds >> 8 & 0xFF, beatMicroseconds & 0xFF})}};
     for (int i = 0; i < std::min<qsizetype>(15, score.instruments.size()); ++i) {
         const Instrument& player = score.instruments[i];
         const int channel = channelOf(i);

@@ -49,13 +49,12 @@ Sound played(const Score& score, const QString& scratch) {
     QProcess synthesiser;
     synthesiser.setStandardOutputFile(QProcess::nullDevice());
     synthesiser.setStandardErrorFile(QProcess::nullDevice());
-    synthesiser.start(
-        QStringLiteral("fluidsynth"),
-        {QStringLiteral("-n"), QStringLiteral("-i"), QStringLiteral("-q"), QStringLiteral("-C"),
-         QStringLiteral("0"), QStringLiteral("-R"), QStringLiteral("1"), QStringLiteral("-g"),
-         QStringLiteral("0.7"), QStringLiteral("-r"), QString::number(kRate), QStringLiteral("-O"),
-         QStringLiteral("s16"), QStringLiteral("-T"), QStringLiteral("wav"), QStringLiteral("-F"), wave,
-         soundFont(), midi});
+    synthesiser.start(QStringLiteral("fluidsynth"),
+                      {QStringLiteral("-n"), QStringLiteral("-i"), QStringLiteral("-q"), QStringLiteral("-C"),
+                       QStringLiteral("0"), QStringLiteral("-R"), QStringLiteral("1"), QStringLiteral("-g"),
+                       QStringLiteral("0.7"), QStringLiteral("-r"), QString::number(kRate),
+                       QStringLiteral("-O"), QStringLiteral("s16"), QStringLiteral("-T"),
+                       QStringLiteral("wav"), QStringLiteral("-F"), wave, soundFont(), midi});
     if (!synthesiser.waitForFinished(kTimeout) || synthesiser.exitCode() != 0) return {};
     return readWav(wave);
 }

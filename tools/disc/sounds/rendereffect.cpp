@@ -55,7 +55,7 @@ std::vector<Mode> modes(Material material) {
         case Material::glass:
             return {{1, 1, 1}, {2.32, 0.6, 0.6}, {4.25, 0.35, 0.4}, {6.63, 0.2, 0.25}, {9.38, 0.1, 0.15}};
         case Material::bell:
-            return {{0.5, 0.3, 1.4}, {1, 1, 1},          {1.183, 0.45, 0.9}, {1.506, 0.35, 0.8},
+            return {{0.5, 0.3, 1.4}, {1, 1, 1},         {1.183, 0.45, 0.9}, {1.506, 0.35, 0.8},
                     {2, 0.6, 0.7},   {2.514, 0.3, 0.5}, {2.662, 0.2, 0.45}, {4.17, 0.2, 0.3}};
         case Material::stone:
             return {{1, 1, 1}, {1.9, 0.7, 0.7}, {3.4, 0.5, 0.5}, {5.7, 0.3, 0.3}};
@@ -96,7 +96,8 @@ class LayerPainter {
     double envelope(int frame) const {
         const double time = static_cast<double>(frame) / kRate;
         const double rise = std::min(1.0, time / std::max(1e-4, layer_.attack));
-        const double fall = layer_.decay > 0 ? std::exp(-std::max(0.0, time - layer_.attack) / layer_.decay) : 1;
+        const double fall =
+            layer_.decay > 0 ? std::exp(-std::max(0.0, time - layer_.attack) / layer_.decay) : 1;
         const double release = std::clamp((layer_.length - time) / kRelease, 0.0, 1.0);
         const double swell =
             layer_.tremolo > 0 ? 0.62 - 0.38 * std::cos(2 * M_PI * layer_.tremolo * time) : 1;
@@ -105,8 +106,7 @@ class LayerPainter {
 
     void add(double seconds, int frame, double value) {
         const auto at = static_cast<size_t>(seconds * kRate) + static_cast<size_t>(frame);
-        if (at < samples_.size())
-            samples_[at] += static_cast<float>(value * fromDecibels(layer_.loudness));
+        if (at < samples_.size()) samples_[at] += static_cast<float>(value * fromDecibels(layer_.loudness));
     }
 
     void tone() {
@@ -135,8 +135,9 @@ class LayerPainter {
             for (int i = 0; i < length; ++i) {
                 const double time = static_cast<double>(i) / kRate;
                 const double rise = std::min(1.0, time / 0.0012);
-                add(from, i, loudness * mode.loudness * rise * std::exp(-time / (decay * mode.decay)) *
-                                 std::sin(2 * M_PI * mode.ratio * height * time));
+                add(from, i,
+                    loudness * mode.loudness * rise * std::exp(-time / (decay * mode.decay)) *
+                        std::sin(2 * M_PI * mode.ratio * height * time));
             }
         }
         burst(from, height * 4, 0.004, 0.5 * loudness);
@@ -179,7 +180,8 @@ class LayerPainter {
         for (int i = 0; i < layer_.count; ++i) {
             const double place = layer_.isEven ? static_cast<double>(i) / layer_.count : dice_.upTo(1);
             const double spread = dice_.upTo(1);
-            const double height = layer_.pitch.first * std::pow(layer_.pitch.second / layer_.pitch.first, spread);
+            const double height =
+                layer_.pitch.first * std::pow(layer_.pitch.second / layer_.pitch.first, spread);
             const int frame = static_cast<int>(place * frames());
             grain(layer_.from + place * layer_.length, height,
                   envelope(frame) * (layer_.isEven ? 1 : 0.35 + dice_.upTo(0.65)));

@@ -109,8 +109,8 @@ class Reader {
 
     int instrumentNamed(const QString& name) const {
         const auto& all = score_.instruments;
-        const auto found = std::find_if(all.cbegin(), all.cend(),
-                                        [&](const Instrument& one) { return one.name == name; });
+        const auto found =
+            std::find_if(all.cbegin(), all.cend(), [&](const Instrument& one) { return one.name == name; });
         return found == all.cend() ? -1 : static_cast<int>(found - all.cbegin());
     }
 
@@ -133,7 +133,8 @@ class Reader {
 
     void playPart(const Part& part) {
         const QStringList chords = barsOf(part.chords);
-        for (const QString& chord : part.chords.split(QRegularExpression(QStringLiteral("[\\s|]+")), Qt::SkipEmptyParts))
+        for (const QString& chord :
+             part.chords.split(QRegularExpression(QStringLiteral("[\\s|]+")), Qt::SkipEmptyParts))
             if (chordTones(chord).isEmpty())
                 problems_.error(part.chordPlace, QStringLiteral("not a chord: %1").arg(chord));
         for (auto voice = part.voices.cbegin(); voice != part.voices.cend(); ++voice)
@@ -144,10 +145,13 @@ class Reader {
     void playVoice(int player, const Voice& voice, const QStringList& chords) {
         const QStringList bars = barsOf(voice.bars);
         if (!voice.isPattern && bars.size() != chords.size())
-            problems_.error(voice.place, QStringLiteral("%1 bars where the part has %2").arg(bars.size()).arg(chords.size()));
+            problems_.error(
+                voice.place,
+                QStringLiteral("%1 bars where the part has %2").arg(bars.size()).arg(chords.size()));
         length_ = 1;
         for (int bar = 0; bar < chords.size(); ++bar)
-            playBar(player, voice, bars.value(bar % bars.size()), chords[bar], score_.length + bar * score_.beats);
+            playBar(player, voice, bars.value(bar % bars.size()), chords[bar],
+                    score_.length + bar * score_.beats);
     }
 
     void playBar(int player, const Voice& voice, const QString& bar, const QString& chords, double from) {

@@ -39,7 +39,7 @@ QByteArray header(const Sound& sound, quint32 dataSize) {
 template <typename Number>
 Number get(const QByteArray& bytes, qsizetype at) {
     return at + qsizetype(sizeof(Number)) <= bytes.size() ? qFromLittleEndian<Number>(bytes.constData() + at)
-                                                         : Number{};
+                                                          : Number{};
 }
 
 bool isSupported(const QByteArray& bytes, const Sound& sound) {
@@ -79,8 +79,7 @@ void fadeEnds(Sound& sound, double in, double out) {
         return static_cast<float>(0.5 - 0.5 * std::cos(M_PI * share));
     };
     for (int i = 0; i < frames; ++i)
-        for (int c = 0; c < sound.channels; ++c)
-            sound.at(i, c) *= slope(i, in) * slope(frames - 1 - i, out);
+        for (int c = 0; c < sound.channels; ++c) sound.at(i, c) *= slope(i, in) * slope(frames - 1 - i, out);
 }
 
 void trimSilence(Sound& sound, double decibels, double kept) {

@@ -14,7 +14,9 @@ struct Sound {
     int frames() const { return static_cast<int>(samples.size()) / channels; }
     double seconds() const { return static_cast<double>(frames()) / rate; }
     float& at(int frame, int channel) { return samples[static_cast<size_t>(frame * channels + channel)]; }
-    float at(int frame, int channel) const { return samples[static_cast<size_t>(frame * channels + channel)]; }
+    float at(int frame, int channel) const {
+        return samples[static_cast<size_t>(frame * channels + channel)];
+    }
 };
 
 double fromDecibels(double decibels);

@@ -16,7 +16,8 @@ constexpr qint64 kAhead = 8 * qint64{kFilmWidth} * kFilmHeight * 4;
 
 QStringList arguments(const QString& sound, const QString& output) {
     const QString text = QStringLiteral(
-        "-v error -y -f rawvideo -pix_fmt bgr0 -s %1x%2 -r %3 -i - -i %4 -map 0:v -map 1:a -c:v mpeg4 -vtag XVID -q:v 4 "
+        "-v error -y -f rawvideo -pix_fmt bgr0 -s %1x%2 -r %3 -i - -i %4 -map 0:v -map 1:a -c:v mpeg4 -vtag "
+        "XVID -q:v 6 "
         "-g %3 -bf 0 -threads 1 -c:a pcm_s16le -f avi %5");
     QStringList words = text.split(u' ');
     words.replaceInStrings(QStringLiteral("%1x%2"), QStringLiteral("%1x%2").arg(kFilmWidth).arg(kFilmHeight));

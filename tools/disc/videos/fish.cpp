@@ -16,24 +16,26 @@ struct Species {
 };
 
 const Species& carp() {
-    static const Species made{{{-196, 10}, {-172, -20}, {-125, -52}, {-60, -78}, {10, -76}, {80, -48}, {150, -20}},
-                              {{150, 20}, {85, 50}, {10, 74}, {-70, 74}, {-140, 50}, {-182, 28}},
-                              QColor(88, 72, 32),
-                              QColor(196, 150, 66),
-                              QColor(243, 222, 160),
-                              QColor(164, 92, 48)};
+    static const Species made{
+        {{-196, 10}, {-172, -20}, {-125, -52}, {-60, -78}, {10, -76}, {80, -48}, {150, -20}},
+        {{150, 20}, {85, 50}, {10, 74}, {-70, 74}, {-140, 50}, {-182, 28}},
+        QColor(88, 72, 32),
+        QColor(196, 150, 66),
+        QColor(243, 222, 160),
+        QColor(164, 92, 48)};
     return made;
 }
 
 const Species& trout() {
-    static const Species made{{{-198, 6}, {-170, -18}, {-115, -38}, {-40, -50}, {30, -46}, {95, -30}, {155, -16}},
-                              {{155, 16}, {95, 34}, {20, 48}, {-60, 50}, {-130, 38}, {-182, 20}},
-                              QColor(70, 78, 54),
-                              QColor(158, 150, 118),
-                              QColor(240, 230, 208),
-                              QColor(150, 118, 72),
-                              true,
-                              -118};
+    static const Species made{
+        {{-198, 6}, {-170, -18}, {-115, -38}, {-40, -50}, {30, -46}, {95, -30}, {155, -16}},
+        {{155, 16}, {95, 34}, {20, 48}, {-60, 50}, {-130, 38}, {-182, 20}},
+        QColor(70, 78, 54),
+        QColor(158, 150, 118),
+        QColor(240, 230, 208),
+        QColor(150, 118, 72),
+        true,
+        -118};
     return made;
 }
 
@@ -42,7 +44,15 @@ QPainterPath bodyOf(const Species& species) {
 }
 
 QPainterPath tailPath() {
-    return smoothPath({{142, -18}, {182, -40}, {218, -62}, {206, -24}, {200, 0}, {206, 26}, {216, 64}, {180, 40}, {142, 18}},
+    return smoothPath({{142, -18},
+                       {182, -40},
+                       {218, -62},
+                       {206, -24},
+                       {200, 0},
+                       {206, 26},
+                       {216, 64},
+                       {180, 40},
+                       {142, 18}},
                       true);
 }
 
@@ -76,13 +86,19 @@ QLinearGradient finPaint(const Species& species, double cooked) {
 void finsBehind(QPainter& painter, const Species& species, double cooked) {
     painter.setBrush(finPaint(species, cooked));
     painter.drawPath(tailPath());
-    for (const double angle : {-32.0, -18.0, -6.0, 6.0, 18.0, 32.0}) rays(painter, {150, 0}, 58, angle, angle + 4, 2);
+    for (const double angle : {-32.0, -18.0, -6.0, 6.0, 18.0, 32.0})
+        rays(painter, {150, 0}, 58, angle, angle + 4, 2);
     painter.setBrush(finPaint(species, cooked));
     const double high = species.isSpotted ? 26 : 0;
-    painter.drawPath(smoothPath({{-52, -70 + high}, {-34, -104 + high}, {10, -96 + high}, {58, -82 + high}, {74, -48 + high * 0.6}}, true));
-    painter.drawPath(smoothPath({{66, 50 - high * 0.6}, {88, 84 - high}, {112, 66 - high * 0.6}, {108, 38 - high * 0.4}}, true));
-    painter.drawPath(smoothPath({{-16, 66 - high * 0.8}, {-2, 98 - high}, {28, 92 - high}, {22, 64 - high * 0.8}}, true));
-    if (species.isSpotted) painter.drawPath(smoothPath({{104, -28}, {122, -46}, {132, -34}, {124, -22}}, true));
+    painter.drawPath(smoothPath(
+        {{-52, -70 + high}, {-34, -104 + high}, {10, -96 + high}, {58, -82 + high}, {74, -48 + high * 0.6}},
+        true));
+    painter.drawPath(smoothPath(
+        {{66, 50 - high * 0.6}, {88, 84 - high}, {112, 66 - high * 0.6}, {108, 38 - high * 0.4}}, true));
+    painter.drawPath(
+        smoothPath({{-16, 66 - high * 0.8}, {-2, 98 - high}, {28, 92 - high}, {22, 64 - high * 0.8}}, true));
+    if (species.isSpotted)
+        painter.drawPath(smoothPath({{104, -28}, {122, -46}, {132, -34}, {124, -22}}, true));
 }
 
 void scales(QPainter& painter, double bound) {
@@ -155,12 +171,13 @@ void flesh(QPainter& painter, const QPainterPath& shape, double cooked) {
     painter.restore();
 }
 
-void spine(QPainter& painter) {
-    painter.setPen(QPen(QColor(250, 240, 214), 6, Qt::SolidLine, Qt::RoundCap));
+void spine(QPainter& painter, double cooked) {
+    const QColor bone = between(QColor(250, 240, 214), QColor(206, 168, 116), cooked);
+    painter.setPen(QPen(bone, 6, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(-116, 0), QPointF(152, 0));
     painter.setPen(QPen(QColor(190, 160, 120, 160), 1.4));
     for (int i = 0; i < 22; ++i) painter.drawLine(QPointF(-112 + i * 12, -3), QPointF(-112 + i * 12, 3));
-    painter.setPen(QPen(QColor(252, 244, 222), 2.2, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(bone.lighter(103), 2.2, Qt::SolidLine, Qt::RoundCap));
     for (int i = 0; i < 20; ++i) {
         const double x = -106 + i * 12.5;
         const double reach = 52 * std::sqrt(std::max(0.1, 1 - std::pow((x + 20) / 180, 2)));
@@ -218,10 +235,11 @@ void guts(QPainter& painter, const Pose& pose) {
     const double out = pose.of(QStringLiteral("vnitřnosti"));
     if (out <= 0) return;
     painter.save();
-    painter.setOpacity(painter.opacity() * std::clamp(out * 4, 0.0, 1.0));
+    painter.setOpacity(painter.opacity() * std::clamp(out * 4, 0.0, 1.0) * std::clamp(2 - out, 0.0, 1.0));
     painter.translate(-10 + 150 * out, 44 + 70 * out);
     painter.setBrush(QColor(150, 52, 44));
-    painter.drawPath(smoothPath({{-60, -4}, {-30, -16}, {12, -12}, {44, -16}, {58, 6}, {24, 18}, {-20, 14}, {-54, 16}}, true));
+    painter.drawPath(smoothPath(
+        {{-60, -4}, {-30, -16}, {12, -12}, {44, -16}, {58, 6}, {24, 18}, {-20, 14}, {-54, 16}}, true));
     painter.setBrush(QColor(196, 96, 78));
     painter.drawPath(smoothPath({{-44, 2}, {-14, -6}, {20, 0}, {10, 10}, {-26, 10}}, true));
     painter.setBrush(QColor(86, 110, 52));
@@ -280,7 +298,7 @@ void opened(QPainter& painter, const Species& species, const Pose& pose) {
     painter.save();
     painter.translate(-30 * bones, -150 * bones);
     painter.rotate(-14 * bones);
-    spine(painter);
+    spine(painter, cooked);
     const QPainterPath front = bodyOf(species).subtracted(right(species.gill + 16));
     painter.setBrush(bodyPaint(species, cooked));
     painter.drawPath(front);
@@ -300,7 +318,8 @@ void bare(QPainter& painter, const Species& species, const Pose& pose) {
     flesh(painter, shape, pose.of(QStringLiteral("pečená")));
     if (skin >= 1) return;
     painter.setBrush(QColor(118, 84, 46));
-    painter.drawPath(smoothPath({{edge - 5, -44}, {edge + 14, -20}, {edge + 16, 18}, {edge - 5, 44}, {edge + 3, 0}}, true));
+    painter.drawPath(smoothPath(
+        {{edge - 5, -44}, {edge + 14, -20}, {edge + 16, 18}, {edge - 5, 44}, {edge + 3, 0}}, true));
 }
 
 /// Cut across: head, horseshoes, tail, moved apart.
@@ -336,9 +355,24 @@ void portions(QPainter& painter, const Species& species, const Pose& pose) {
     painter.setPen(Qt::NoPen);
 }
 
+/// The shadow of what still lies on the board.
+void shadow(QPainter& painter, const Species& species, const Pose& pose) {
+    const bool isInPortions = pose.of(QStringLiteral("porce")) > 0;
+    if (pose.of(QStringLiteral("stín"), 1) <= 0 || isInPortions) return;
+    const bool isTrunk = pose.of(QStringLiteral("kostra")) > 0;
+    dropShadow(painter, isTrunk ? trunk(species) : bodyOf(species) + tailPath(), {10, 14}, 55);
+}
+
+/// Turns the fish over its belly onto its other side.
+void roll(QPainter& painter, const Pose& pose) {
+    const double side = std::abs(std::cos(M_PI * pose.of(QStringLiteral("převrácená"))));
+    painter.scale(1, std::max(0.06, side));
+}
+
 void drawFish(QPainter& painter, const Species& species, const Pose& pose) {
     painter.setPen(Qt::NoPen);
-    if (pose.of(QStringLiteral("stín"), 1) > 0) dropShadow(painter, bodyOf(species) + tailPath(), {10, 14}, 55);
+    roll(painter, pose);
+    shadow(painter, species, pose);
     if (pose.of(QStringLiteral("porce")) > 0 || pose.of(QStringLiteral("krájená")) > 0)
         return portions(painter, species, pose);
     if (pose.of(QStringLiteral("filet")) > 0) return opened(painter, species, pose);

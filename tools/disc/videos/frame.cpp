@@ -63,10 +63,11 @@ QStringList words(const char* text) {
 
 const QMap<QString, ActorKind>& actorKinds() {
     static const QStringList fish = words(
-        "očištěná ploutve řez otevřená vnitřnosti zářez podélně filet odložený kostra stažená pečená krájená porce stín");
+        "očištěná ploutve převrácená řez otevřená vnitřnosti zářez podélně filet odložený kostra stažená "
+        "pečená krájená porce stín");
     static const QMap<QString, ActorKind> kinds{
         {QStringLiteral("kapr"), {drawCarp, fish}},
-        {QStringLiteral("pstruh"), {drawTrout, fish}},
+        {QStringLiteral("pstruh"), {drawTrout, fish.mid(1)}},
         {QStringLiteral("nůž"), {drawKnife, {}}},
         {QStringLiteral("škrabka"), {drawScaler, {}}},
         {QStringLiteral("vidlička"), {drawFork, {}}},
@@ -102,13 +103,16 @@ QImage drawFrame(const Film& film, const QImage& ground, double seconds) {
 }
 
 QColor between(const QColor& from, const QColor& to, double share) {
-    const auto mixed = [&](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * std::clamp(share, 0.0, 1.0))); };
+    const auto mixed = [&](int a, int b) {
+        return static_cast<int>(std::lround(a + (b - a) * std::clamp(share, 0.0, 1.0)));
+    };
     return {mixed(from.red(), to.red()), mixed(from.green(), to.green()), mixed(from.blue(), to.blue()),
             mixed(from.alpha(), to.alpha())};
 }
 
 double scatter(int index, int salt) {
-    quint32 x = static_cast<quint32>(index) * 2654435761U + static_cast<quint32>(salt) * 40503U * 65537U + 12345U;
+    quint32 x =
+        static_cast<quint32>(index) * 2654435761U + static_cast<quint32>(salt) * 40503U * 65537U + 12345U;
     x ^= x >> 15;
     x *= 2246822519U;
     x ^= x >> 13;

@@ -30,7 +30,8 @@ class FilmReader {
 
     void step(const Section& section) {
         Step step{section.place, section.title};
-        if (section.title.isEmpty()) problems_.error(section.place, QStringLiteral("a step without a caption"));
+        if (section.title.isEmpty())
+            problems_.error(section.place, QStringLiteral("a step without a caption"));
         for (const Line& line : section.lines)
             if (!line.isBlank()) stepLine(step, line);
         film_.steps << step;
@@ -98,8 +99,9 @@ class FilmReader {
         if (words.has(QStringLiteral("kmitů"))) swing(step, actor, words, first, last);
         for (const QString& property : kCommon + actorKinds().value(actor.kind).properties) {
             if (!words.has(property)) continue;
-            const bool hasStart = QString(entry.value).contains(
-                QRegularExpression(QStringLiteral("(^| )%1=[^ ]*>").arg(property)));
+            const bool hasStart =
+                QString(entry.value)
+                    .contains(QRegularExpression(QStringLiteral("(^| )%1=[^ ]*>").arg(property)));
             auto [from, to] = words.glide(property, 0);
             double& current = now_[actor.name][property];
             step.moves[actor.name] << Move{property, hasStart ? from : current, to, first, last};

@@ -21,7 +21,8 @@ void planks(QPainter& painter, const QRectF& area, int rows, const QColor& light
             const double y = plank.top() + high * (line + 0.4 + 0.4 * scatter(line, row)) / 6;
             QPainterPath grain(QPointF(plank.left(), y));
             for (int x = 0; x <= 8; ++x)
-                grain.lineTo(plank.left() + plank.width() * x / 8, y + 5 * (scatter(x + line * 9, row + 3) - 0.5));
+                grain.lineTo(plank.left() + plank.width() * x / 8,
+                             y + 5 * (scatter(x + line * 9, row + 3) - 0.5));
             painter.drawPath(grain);
         }
         painter.setPen(QPen(QColor(0, 0, 0, 90), 2));
@@ -63,7 +64,8 @@ void cloth(QPainter& painter) {
     table(painter);
     painter.fillRect(QRectF(0, 150, kFilmWidth, 450), QColor(238, 226, 200));
     for (int x = 0; x < 20; ++x) painter.fillRect(QRectF(x * 80, 150, 26, 450), QColor(30, 92, 98, 46));
-    for (int y = 0; y < 7; ++y) painter.fillRect(QRectF(0, 170 + y * 72, kFilmWidth, 24), QColor(30, 92, 98, 46));
+    for (int y = 0; y < 7; ++y)
+        painter.fillRect(QRectF(0, 170 + y * 72, kFilmWidth, 24), QColor(30, 92, 98, 46));
     lampLight(painter);
 }
 
@@ -73,7 +75,8 @@ void stove(QPainter& painter) {
     for (int row = 0; row < 8; ++row)
         for (int column = 0; column < 10; ++column) {
             const QRectF tile(column * 84 - (row % 2) * 42, row * 60, 80, 56);
-            painter.setBrush(between(QColor(212, 180, 134), QColor(186, 150, 106), scatter(row * 10 + column)));
+            painter.setBrush(
+                between(QColor(212, 180, 134), QColor(186, 150, 106), scatter(row * 10 + column)));
             painter.setPen(Qt::NoPen);
             painter.drawRoundedRect(tile, 4, 4);
         }
@@ -134,11 +137,23 @@ void pond(QPainter& painter) {
     softSpot(painter, {610, 276}, 190, 120, QColor(255, 190, 110, 130));
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(9, 28, 30));
-    painter.drawPath(smoothPath({{-60, 300}, {0, 250}, {110, 262}, {240, 236}, {330, 262}, {430, 272}, {520, 258}, {640, 274}, {730, 246}, {870, 264}, {870, 302}}, true));
+    painter.drawPath(smoothPath({{-60, 300},
+                                 {0, 250},
+                                 {110, 262},
+                                 {240, 236},
+                                 {330, 262},
+                                 {430, 272},
+                                 {520, 258},
+                                 {640, 274},
+                                 {730, 246},
+                                 {870, 264},
+                                 {870, 302}},
+                                true));
     cottage(painter);
     for (int i = 0; i < 70; ++i) {
         painter.setBrush(QColor(250, 214, 160, 16 + static_cast<int>(36 * scatter(i, 12))));
-        painter.drawEllipse(QPointF(kFilmWidth * scatter(i, 10), 306 + 280 * scatter(i, 11)), 20 + 60 * scatter(i, 13), 1.3);
+        painter.drawEllipse(QPointF(kFilmWidth * scatter(i, 10), 306 + 280 * scatter(i, 11)),
+                            20 + 60 * scatter(i, 13), 1.3);
     }
     reeds(painter, -10, 150, 26);
     reeds(painter, 660, 810, 24);

@@ -7,7 +7,7 @@
 namespace sarne::disc {
 namespace {
 
-constexpr int kRate = 22050;
+constexpr int kRate = 16000;
 constexpr double kBeforeSpeech = 0.25;
 constexpr double kAfterSpeech = 0.55;
 constexpr double kLongest = 20;
@@ -44,7 +44,8 @@ QList<Sound> speakCaptions(Film& film, const QString& scratch, QList<FilmFault>&
         step.end = time;
     }
     if (time < kShortest || time > kLongest)
-        faults << FilmFault{film.place, QStringLiteral("the film takes %1 s, not 8 to 20").arg(time, 0, 'f', 1)};
+        faults << FilmFault{film.place,
+                            QStringLiteral("the film takes %1 s, not 8 to 20").arg(time, 0, 'f', 1)};
     return spoken;
 }
 

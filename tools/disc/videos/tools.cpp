@@ -102,6 +102,7 @@ void drawLadle(QPainter& painter, const Pose& pose) {
         fall.cubicTo({-2, 30}, {2, 20}, {10, 4});
         painter.drawPath(fall);
     }
+    painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor(150, 152, 150), 9, Qt::SolidLine, Qt::RoundCap));
     QPainterPath bent(QPointF(76, 4));
     bent.cubicTo({100, -60}, {120, -110}, {176, -150});
@@ -123,7 +124,8 @@ void drawHand(QPainter& painter, const Pose&) {
     painter.setPen(Qt::NoPen);
     QPainterPath hand;
     hand.setFillRule(Qt::WindingFill);
-    hand.addPath(smoothPath({{46, -26}, {86, -36}, {132, -30}, {176, -24}, {176, 26}, {130, 36}, {80, 34}, {44, 22}}, true));
+    hand.addPath(smoothPath(
+        {{46, -26}, {86, -36}, {132, -30}, {176, -24}, {176, 26}, {130, 36}, {80, 34}, {44, 22}}, true));
     hand.addPath(capsule({60, -24}, {6, -30}, 10));
     dropShadow(painter, hand, {9, 13}, 60);
     QLinearGradient skin(0, -44, 0, 46);
@@ -162,12 +164,20 @@ void drawWater(QPainter& painter, const Pose& pose) {
     paint.setColorAt(0.4, QColor(160, 206, 222, 120));
     paint.setColorAt(1, QColor(226, 246, 252, 160));
     painter.setBrush(paint);
-    painter.drawPath(smoothPath({{-13 * flow, -700}, {-11 * flow, -60}, {-30 * flow, 4}, {0, 14}, {30 * flow, 4}, {11 * flow, -60}, {13 * flow, -700}}, true));
+    painter.drawPath(smoothPath({{-13 * flow, -700},
+                                 {-11 * flow, -60},
+                                 {-30 * flow, 4},
+                                 {0, 14},
+                                 {30 * flow, 4},
+                                 {11 * flow, -60},
+                                 {13 * flow, -700}},
+                                true));
     painter.setBrush(QColor(226, 244, 250, 190));
     for (int i = 0; i < 26; ++i) {
         const double age = std::fmod(pose.seconds * 1.7 + scatter(i), 1.0);
         const double way = (scatter(i, 1) - 0.5) * 190 * age;
-        painter.drawEllipse(QPointF(way, -52 * age * (1 - age) * (2 + scatter(i, 2)) + 34 * age), 3.4 * (1 - age) + 1, 3 * (1 - age) + 1);
+        painter.drawEllipse(QPointF(way, -52 * age * (1 - age) * (2 + scatter(i, 2)) + 34 * age),
+                            3.4 * (1 - age) + 1, 3 * (1 - age) + 1);
     }
 }
 
@@ -176,13 +186,14 @@ void drawFlyingScales(QPainter& painter, const Pose& pose) {
     const double strength = pose.of(QStringLiteral("síla"));
     for (int i = 0; i < 22 && strength > 0; ++i) {
         const double age = std::fmod(pose.seconds * 1.15 + scatter(i), 1.0);
-        const QPointF at((scatter(i, 1) - 0.25) * 200 * age, -170 * age * (1 - age) * (0.5 + scatter(i, 2)) + 90 * age);
+        const QPointF at((scatter(i, 1) - 0.25) * 200 * age,
+                         -170 * age * (1 - age) * (0.5 + scatter(i, 2)) + 90 * age);
         painter.save();
         painter.translate(at);
         painter.rotate(360 * scatter(i, 3) + 400 * age);
-        painter.setPen(QPen(QColor(130, 96, 40, 160), 0.8));
-        painter.setBrush(QColor(246, 226, 170, static_cast<int>(220 * strength * (1 - age))));
-        painter.drawEllipse(QPointF(0, 0), 6, 4.4);
+        painter.setPen(QPen(QColor(92, 62, 22, 200), 1.2));
+        painter.setBrush(QColor(255, 246, 214, static_cast<int>(250 * strength * (1 - age))));
+        painter.drawEllipse(QPointF(0, 0), 7.5, 5.6);
         painter.restore();
     }
 }
@@ -201,7 +212,9 @@ void drawRipples(QPainter& painter, const Pose& pose) {
     painter.setBrush(QColor(240, 232, 214, 210));
     const double up = std::clamp(spread * 2.4, 0.0, 1.0);
     for (int i = 0; i < 16 && spread > 0 && up < 1; ++i)
-        painter.drawEllipse(QPointF((scatter(i) - 0.5) * 130 * up, -90 * (0.4 + scatter(i, 1)) * 4 * up * (1 - up)), 3.2, 3.6);
+        painter.drawEllipse(
+            QPointF((scatter(i) - 0.5) * 130 * up, -90 * (0.4 + scatter(i, 1)) * 4 * up * (1 - up)), 3.2,
+            3.6);
 }
 
 }  // namespace sarne::disc

@@ -62,16 +62,19 @@ QPainterPath potInside() {
     return inside;
 }
 
-QPainterPath dome() {
+/// The shape of a moulded aspic, its base at 0 and rounded by \a bulge.
+QPainterPath dome(double bulge) {
     QPainterPath path(QPointF(-120, 0));
     path.cubicTo({-112, -86}, {-76, -118}, {0, -118});
     path.cubicTo({76, -118}, {112, -86}, {120, 0});
+    path.quadTo({0, 2 * bulge}, {-120, 0});
     path.closeSubpath();
     return path;
 }
 
 void fishCubes(QPainter& painter, double shown) {
-    const QList<QPointF> places{{0, -96}, {-42, -70}, {6, -66}, {50, -70}, {-66, -34}, {-22, -30}, {28, -36}, {68, -30}};
+    const QList<QPointF> places{{0, -96},   {-42, -70}, {6, -66},  {50, -70},
+                                {-66, -34}, {-22, -30}, {28, -36}, {68, -30}};
     for (int i = 0; i < places.size() && i < shown * places.size(); ++i) {
         painter.save();
         painter.translate(places[i]);
@@ -100,7 +103,8 @@ void drawBowl(QPainter& painter, const Pose& pose) {
     painter.setBrush(porcelain(70, -60));
     painter.drawEllipse(QPointF(0, 3), 84, 46);
     const int content = static_cast<int>(pose.of(QStringLiteral("obsah")));
-    static const QColor colours[] = {Qt::transparent, QColor(252, 248, 236), QColor(244, 188, 62), QColor(214, 158, 84)};
+    static const QColor colours[] = {Qt::transparent, QColor(252, 248, 236), QColor(244, 188, 62),
+                                     QColor(214, 158, 84)};
     if (content < 1 || content > 3) return;
     painter.setBrush(colours[content]);
     painter.drawEllipse(QPointF(0, 6), 78, 40);
@@ -113,7 +117,8 @@ void drawBowl(QPainter& painter, const Pose& pose) {
 /// A piece of fillet; "mouka", "vejce", "strouhanka" and "smažená" from 0 to 1 say what is on it.
 void drawPiece(QPainter& painter, const Pose& pose) {
     painter.setPen(Qt::NoPen);
-    const QPainterPath shape = smoothPath({{-64, -2}, {-44, -28}, {0, -34}, {44, -28}, {66, -4}, {48, 24}, {0, 32}, {-46, 24}}, true);
+    const QPainterPath shape = smoothPath(
+        {{-64, -2}, {-44, -28}, {0, -34}, {44, -28}, {66, -4}, {48, 24}, {0, 32}, {-46, 24}}, true);
     dropShadow(painter, shape, {7, 9}, 55);
     QColor colour(240, 190, 170);
     colour = between(colour, QColor(250, 240, 226), pose.of(QStringLiteral("mouka")));
@@ -159,7 +164,8 @@ void drawPan(QPainter& painter, const Pose& pose) {
         const double angle = 2 * M_PI * scatter(i, 1);
         const double reach = 0.35 + 0.62 * scatter(i, 2);
         painter.setBrush(QColor(255, 236, 170, static_cast<int>(190 * (1 - age))));
-        painter.drawEllipse(QPointF(156 * reach * std::cos(angle), 8 + 80 * reach * std::sin(angle)), 1.5 + 4 * age, 1.2 + 3 * age);
+        painter.drawEllipse(QPointF(156 * reach * std::cos(angle), 8 + 80 * reach * std::sin(angle)),
+                            1.5 + 4 * age, 1.2 + 3 * age);
     }
     steam(painter, pose, 200);
 }
@@ -192,7 +198,8 @@ void drawPotBack(QPainter& painter, const Pose& pose) {
     for (int i = 0; i < 44 * boil; ++i) {
         const double age = std::fmod(pose.seconds * (0.25 + 0.3 * scatter(i, 1)) + scatter(i), 1.0);
         painter.setBrush(QColor(255, 255, 235, 130));
-        painter.drawEllipse(QPointF((scatter(i, 2) - 0.5) * 350 + 4 * std::sin(9 * age + i), 150 - 160 * age), 2 + 2 * scatter(i, 3), 2 + 2 * scatter(i, 3));
+        painter.drawEllipse(QPointF((scatter(i, 2) - 0.5) * 350 + 4 * std::sin(9 * age + i), 150 - 160 * age),
+                            2 + 2 * scatter(i, 3), 2 + 2 * scatter(i, 3));
     }
     painter.restore();
     for (int i = 0; i < 6; ++i) {
@@ -234,7 +241,8 @@ void drawThermometer(QPainter& painter, const Pose& pose) {
     painter.drawEllipse(QPointF(0, -4), 9, 9);
     painter.drawRoundedRect(QRectF(-4, -8 - 2 * degrees, 8, 2 * degrees + 4), 4, 4);
     painter.setPen(QPen(QColor(60, 48, 36), 1.4));
-    for (int mark = 0; mark <= 100; mark += 20) painter.drawLine(QPointF(6, -8 - 2 * mark), QPointF(12, -8 - 2 * mark));
+    for (int mark = 0; mark <= 100; mark += 20)
+        painter.drawLine(QPointF(6, -8 - 2 * mark), QPointF(12, -8 - 2 * mark));
     QFont font(QStringLiteral("Liberation Sans"));
     font.setPixelSize(30);
     font.setBold(true);
@@ -243,26 +251,29 @@ void drawThermometer(QPainter& painter, const Pose& pose) {
     painter.setBrush(QColor(14, 58, 64, 235));
     painter.drawRoundedRect(QRectF(22, -30 - 2 * degrees, 104, 44), 10, 10);
     painter.setPen(QColor(225, 225, 125));
-    painter.drawText(QRectF(22, -30 - 2 * degrees, 104, 44), Qt::AlignCenter, QStringLiteral("%1 °C").arg(qRound(degrees)));
+    painter.drawText(QRectF(22, -30 - 2 * degrees, 104, 44), Qt::AlignCenter,
+                     QStringLiteral("%1 °C").arg(qRound(degrees)));
 }
 
-/// Aspic as it stands in its mould, base down: "výška" from 0 to 1, "kousky" how many pieces are in it, "tuhý"
-/// from 0 to 1. Turned by 180 degrees it fills the mould that stands on its crown.
+/// Aspic as it stands in its mould, base down: "výška" from 0 to 1, "kousky" how many pieces are in it,
+/// "tuhý" from 0 to 1. Turned by 180 degrees it fills the mould that stands on its crown.
 void drawAspic(QPainter& painter, const Pose& pose) {
     painter.setPen(Qt::NoPen);
     const double level = pose.of(QStringLiteral("výška"));
     const double pieces = pose.of(QStringLiteral("kousky"));
     const double solid = pose.of(QStringLiteral("tuhý"));
+    // Lying on a plate that is seen from above, its base shows as round.
+    const double bulge = 17 * std::clamp((pose.of(QStringLiteral("otočení")) - 270) / 90, 0.0, 1.0);
     QPainterPath filled;
-    filled.addRect(QRectF(-140, -118, 280, 118 * level));
-    filled = dome().intersected(filled);
+    filled.addRect(QRectF(-140, -118, 280, (118 + bulge) * level));
+    filled = dome(bulge).intersected(filled);
     painter.save();
-    painter.setClipPath(dome(), Qt::IntersectClip);
+    painter.setClipPath(dome(bulge), Qt::IntersectClip);
     fishCubes(painter, pieces);
     painter.restore();
     QLinearGradient gold(0, -118, 0, 0);
-    gold.setColorAt(0, QColor(250, 206, 104, 150));
-    gold.setColorAt(1, between(QColor(236, 190, 96, 150), QColor(222, 150, 44, 190), solid));
+    gold.setColorAt(0, QColor(250, 206, 104, 105));
+    gold.setColorAt(1, between(QColor(236, 190, 96, 110), QColor(222, 150, 44, 150), solid));
     painter.setBrush(gold);
     painter.drawPath(filled);
     if (solid > 0) {
@@ -291,7 +302,8 @@ void drawMould(QPainter& painter, const Pose&) {
 void drawLemon(QPainter& painter, const Pose&) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(66, 120, 50));
-    for (int i = 0; i < 7; ++i) painter.drawEllipse(QPointF(30 + 15 * std::cos(i * 0.9), 8 + 13 * std::sin(i * 0.9)), 9, 7);
+    for (int i = 0; i < 7; ++i)
+        painter.drawEllipse(QPointF(30 + 15 * std::cos(i * 0.9), 8 + 13 * std::sin(i * 0.9)), 9, 7);
     dropShadow(painter, ellipse({0, 0}, 30, 26), {4, 6}, 60);
     painter.setBrush(QColor(238, 190, 40));
     painter.drawEllipse(QPointF(0, 0), 30, 26);
@@ -303,10 +315,11 @@ void drawLemon(QPainter& painter, const Pose&) {
 
 /// A small written label; "číslo" chooses the text.
 void drawSign(QPainter& painter, const Pose& pose) {
-    static const QStringList texts{QStringLiteral("mouka"),      QStringLiteral("vejce"), QStringLiteral("strouhanka"),
-                                   QStringLiteral("170 °C"),     QStringLiteral("žluč"),  QStringLiteral("do vývaru"),
-                                   QStringLiteral("páteř"),      QStringLiteral("3 cm"),  QStringLiteral("přes noc do chladu"),
-                                   QStringLiteral("8–10 minut")};
+    static const QStringList texts{
+        QStringLiteral("mouka"),     QStringLiteral("vejce"), QStringLiteral("strouhanka"),
+        QStringLiteral("170 °C"),    QStringLiteral("žluč"),  QStringLiteral("do vývaru"),
+        QStringLiteral("páteř"),     QStringLiteral("3 cm"),  QStringLiteral("přes noc do chladu"),
+        QStringLiteral("8–10 minut")};
     const QString text = texts.value(static_cast<int>(pose.of(QStringLiteral("číslo"))));
     QFont font(QStringLiteral("Liberation Serif"));
     font.setPixelSize(25);

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "disc/textfile.h"
+
+namespace sarne::disc {
+
+/// \a text as the lines of the content file "soubor.txt".
+inline Lines linesOf(const char* text) {
+    Lines lines;
+    int number = 0;
+    for (const QString& line : QString::fromUtf8(text).split(u'\n'))
+        lines << Line{{QStringLiteral("soubor.txt"), ++number}, line};
+    return lines;
+}
+
+}  // namespace sarne::disc

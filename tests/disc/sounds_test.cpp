@@ -1,0 +1,240 @@
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <cmath>
+
+#include "disc/sounds/effects.h"
+#include "disc/sounds/makesounds.h"
+#include "disc/sounds/music.h"
+#include "disc/sounds/voice.h"
+#include "medialines.h"
+
+namespace sarne::disc {
+namespace {
+
+/// What is wrong when \a text is read, the first of it.
+template <typename Reader>
+std::string firstError(Reader read, const char* text) {
+    Problems problems;
+    read(linesOf(text), problems);
+    return problems.errors().value(0).toStdString();
+}
+
+double energy(const Sound& sound, double from, double seconds) {
+    double sum = 0;
+    const int first = static_cast<int>(from * sound.rate);
+    const int count = static_cast<int>(seconds * sound.rate);
+    for (int i = first; i < first + count; ++i) sum += sound.at(i, 0) * sound.at(i, 0);
+    return std::sqrt(sum / count);
+}
+
+/// The largest step between neighbouring samples among \a count pairs from frame \a from on, round the end.
+float steepest(const Sound& sound, int from, int count) {
+    float step = 0;
+    for (int i = from; i < from + count; ++i)
+        for (int c = 0; c < sound.channels; ++c)
+            step = std::max(
+                step, std::abs(sound.at((i + 1) % sound.frames(), c) - sound.at(i % sound.frames(), c)));
+    return step;
+}
+
+/// The seam is a place like any other: neither the step over it nor the loudness about it stands out.
+void expectSeamless(const Sound& loop) {
+    const int last = loop.frames() - 1;
+    EXPECT_LE(steepest(loop, last, 1), 1.5F * steepest(loop, last - 400, 400) + 0.001F);
+    EXPECT_LE(steepest(loop, last, 1), 1.5F * steepest(loop, 0, 400) + 0.001F);
+}
+
+QList<Effect> shippedEffects(Problems& problems) {
+    const ContentFolder folder(QStringLiteral(SARNE_CONTENT), problems);
+    return readEffects(folder.read(QStringLiteral("zvuky/efekty.txt")), problems);
+}
+
+TEST(Effects, EveryButtonHasOneThatIsShortQuietEnoughAndAtRestAtBothEnds) {
+    Problems problems;
+    QList<int> numbers;
+    QList<std::vector<float>> sounds;
+    for (const Effect& effect : shippedEffects(problems)) {
+        if (effect.number == 0) continue;
+        SCOPED_TRACE(effect.number);
+        const Sound sound = renderEffect(effect);
+        EXPECT_GE(sound.seconds(), 0.149);
+        EXPECT_LE(sound.seconds(), 0.801);
+        EXPECT_LT(peakOf(sound), fromDecibels(-3));
+        EXPECT_GT(peakOf(sound), fromDecibels(-14));
+        for (const int frame : {0, 1, sound.frames() - 2, sound.frames() - 1})
+            EXPECT_NEAR(sound.at(frame, 0), 0, 0.004);
+        EXPECT_FALSE(sounds.contains(sound.samples)) << "sounds like another";
+        EXPECT_EQ(renderEffect(effect).samples, sound.samples);
+        numbers << effect.number;
+        sounds << sound.samples;
+    }
+    EXPECT_EQ(problems.errors(), QStringList());
+    EXPECT_GE(numbers.size(), 30);
+    for (int button = 0; button <= 20; ++button) EXPECT_TRUE(numbers.contains(101 + button)) << button;
+}
+
+TEST(Effects, FaultsNameTheirLine) {
+    const auto error = [](const char* text) { return firstError(readEffects, text); };
+    EXPECT_EQ(error("== 1 | klep | 0,2 | -6\n\núder výška=400"), "");
+    EXPECT_EQ(error("== 1 | klep | 0,2\nrána výška=400").substr(0, 22), "soubor.txt:2: rána is");
+    EXPECT_EQ(error("== 1 | klep | 0,2\núder výška=vysoko"), "soubor.txt:2: výška is not a number: vysoko");
+    EXPECT_EQ(error("== 1 | klep | 0,2\núder barva=3"), "soubor.txt:2: nothing is known about barva");
+    EXPECT_EQ(error("== 1 | klep | 0,2\núder látka=vata").substr(0, 21), "soubor.txt:2: vata is");
+    EXPECT_EQ(error("== 1 | klep | 0,2\núder výška=0"), "soubor.txt:1: a layer without pitch or length");
+    EXPECT_EQ(error("== 1 | klep | 0,2 | -1\núder"), "soubor.txt:1: the effect's peak is above -3 dB");
+    EXPECT_EQ(error("== 1 | klep | dlouho\núder"), "soubor.txt:1: not \"number | name | seconds | peak\"");
+    EXPECT_EQ(error("== 1 | klep | 9\núder"),
+              "soubor.txt:1: the effect's length is not between 0,05 and 5 s");
+    EXPECT_EQ(error("== 1 | klep | 0,2"), "soubor.txt:1: an effect without a layer");
+    EXPECT_EQ(error("== 1 | a | 0,2\núder\n== 1 | b | 0,2\núder"), "soubor.txt:3: the effect 1 stands twice");
+}
+
+TEST(Notes, CzechNamesGivePitchesAndChords) {
+    EXPECT_EQ(pitchOf(QStringLiteral("c4")), 60);
+    EXPECT_EQ(pitchOf(QStringLiteral("h4")), 71);
+    EXPECT_EQ(pitchOf(QStringLiteral("b4")), 70);
+    EXPECT_EQ(pitchOf(QStringLiteral("fis5")), 78);
+    EXPECT_EQ(pitchOf(QStringLiteral("es3")), 51);
+    EXPECT_EQ(pitchOf(QStringLiteral("des3")), 49);
+    for (const char* wrong : {"", "x4", "c", "c9", "c44", "fisis4"})
+        EXPECT_EQ(pitchOf(QLatin1String(wrong)), -1) << wrong;
+    EXPECT_EQ(chordTones(QStringLiteral("F")), (QList<int>{5, 9, 0}));
+    EXPECT_EQ(chordTones(QStringLiteral("Fism")), (QList<int>{6, 9, 1}));
+    EXPECT_EQ(chordTones(QStringLiteral("B")), (QList<int>{10, 2, 5}));
+    EXPECT_EQ(chordTones(QStringLiteral("C7")), (QList<int>{0, 4, 7, 10}));
+    EXPECT_TRUE(chordTones(QStringLiteral("Cx")).isEmpty());
+}
+
+const char* const kHead = "tempo: 120\ntakt: 2\nprůběh: A A\nnástroj: kytara program=24 od=c3\n== A\n";
+
+TEST(Scores, PartsBecomeNotes) {
+    Problems problems;
+    const Score score =
+        readScore(linesOf((std::string(kHead) +
+                           "akordy: C | G F\nkytara: c4:0,5 e4 - g4 | ~:1 a4+c5:1\nkytara vzor: z:1 2")
+                              .c_str()),
+                  problems);
+    EXPECT_EQ(problems.errors(), QStringList());
+    EXPECT_EQ(score.length, 8);
+    QStringList notes;
+    for (const Note& note : score.notes)
+        if (note.from < 4)
+            notes << QStringLiteral("%1@%2+%3").arg(note.pitch).arg(note.from).arg(note.length);
+    // The melody with its held note, then the pattern over C, over G and over F in the second half of the
+    // bar.
+    EXPECT_EQ(notes.join(u' ').toStdString(),
+              "60@0+0.5 64@0.5+0.5 67@1.5+1.5 69@3+1 72@3+1 48@0+1 52@1+1 55@2+1 53@3+1");
+    EXPECT_EQ(score.notes.size(), 18);
+}
+
+TEST(Scores, FaultsNameTheirLine) {
+    const auto error = [](const char* part) {
+        return firstError(readScore, (std::string(kHead) + part).c_str());
+    };
+    EXPECT_EQ(error("akordy: C\nkytara: c4:2"), "");
+    EXPECT_EQ(error("akordy: C\nkytara: c4:1"), "soubor.txt:7: a bar of 1 beats: c4:1");
+    EXPECT_EQ(error("akordy: C\nkytara: x4:2"), "soubor.txt:7: not a note: x4");
+    EXPECT_EQ(error("akordy: C\nkytara: c4:dlouho"), "soubor.txt:7: not a length: c4:dlouho");
+    EXPECT_EQ(error("akordy: C | F\nkytara: c4:2"), "soubor.txt:7: 1 bars where the part has 2");
+    EXPECT_EQ(error("akordy: Q\nkytara: c4:2"), "soubor.txt:6: not a chord: Q");
+    EXPECT_EQ(error("akordy: C\nbuben: c4:2"), "soubor.txt:7: nobody plays \"buben\"");
+    EXPECT_EQ(firstError(readScore, "průběh: A B\n== A\nakordy: C"), "soubor.txt:1: there is no part B");
+    EXPECT_EQ(firstError(readScore, "tempo: rychle\nprůběh: A\n== A"),
+              "soubor.txt:1: tempo is not a number above 0");
+}
+
+/// Two bars whose last note rings on, with silence at the beginning.
+TEST(Music, WhatRingsOverTheEndSoundsAtTheBeginning) {
+    Problems problems;
+    const QTemporaryDir folder;
+    const char* text =
+        "tempo: 120\ntakt: 2\nprůběh: A\nudálost: 1,95 cinknutí hlas=-20\nnástroj: kytara program=48 "
+        "dozvuk=90\n== A\n"
+        "akordy: C | C\nkytara: -:2 | c4+g4:2";
+    const Score score = readScore(linesOf(text), problems);
+    const QList<Effect> effects =
+        readEffects(linesOf("== 0 | cinknutí | 2\núder látka=sklo doznění=0,5"), problems);
+    const Sound loop = renderMusic(score, effects, -6, folder.path(), {}, problems);
+    ASSERT_EQ(problems.errors(), QStringList());
+    EXPECT_EQ(loop.frames(), passFrames(score));
+    EXPECT_NEAR(loop.seconds(), 2, 0.01);
+    EXPECT_NEAR(peakOf(loop), fromDecibels(-6), 0.001);
+    EXPECT_GT(energy(loop, 0, 0.1), 0.2 * energy(loop, 1.5, 0.4));
+    EXPECT_LT(energy(loop, 0.85, 0.1), energy(loop, 0, 0.1));
+    expectSeamless(loop);
+
+    Score unknown = score;
+    unknown.events.first().effect = QStringLiteral("hrom");
+    renderMusic(unknown, effects, -6, folder.path(), {}, problems);
+    EXPECT_EQ(problems.errors(), QStringList(QStringLiteral("soubor.txt:4: there is no effect hrom")));
+}
+
+TEST(Sounds, FilesKeepTheSoundAndOthersAreNone) {
+    const QTemporaryDir folder;
+    Sound sound{8000, 2, {0, 0, 0.5F, -0.5F, 0.001F, 0, 0, 0}};
+    const QString file = folder.filePath(QStringLiteral("zvuk.wav"));
+    ASSERT_TRUE(writeWav(file, sound));
+    const Sound read = readWav(file);
+    EXPECT_EQ(read.rate, 8000);
+    ASSERT_EQ(read.frames(), 4);
+    EXPECT_NEAR(read.at(1, 1), -0.5, 0.001);
+    trimSilence(sound, -40, 0);
+    EXPECT_EQ(sound.samples, (std::vector<float>{0.5F, -0.5F}));
+    EXPECT_FALSE(writeWav(folder.filePath(QStringLiteral("neni/zvuk.wav")), sound));
+    QFile text(file);
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("RIFFxxxxWAVEfmt ") > 0);
+    text.close();
+    EXPECT_TRUE(readWav(file).samples.empty());
+    EXPECT_TRUE(readWav(folder.filePath(QStringLiteral("neni.wav"))).samples.empty());
+}
+
+/// The whole stage on the content that ships, with the names of two recipes.
+TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
+    const QTemporaryDir folder;
+    Problems problems;
+    Cookbook book;
+    for (const int id : {1, 16}) book.recipes[id].id = id;
+    book.recipes[1].name = QStringLiteral("Kapr na kmíně");
+    book.recipes[16].name = QStringLiteral("Vánoční rybí polévka");
+    const auto run = [&] {
+        Ledger ledger(folder.filePath(QStringLiteral("ledger")));
+        Workshop shop{book,
+                      QStringLiteral(SARNE_CONTENT),
+                      {},
+                      {},
+                      folder.filePath(QStringLiteral("disc")),
+                      folder.filePath(QStringLiteral("scratch")),
+                      ledger,
+                      problems};
+        makeSounds(shop);
+    };
+    run();
+    ASSERT_EQ(problems.errors(), QStringList());
+    const QString music = folder.filePath(QStringLiteral("disc/HUDBA.WAV"));
+    const QString wine = folder.filePath(QStringLiteral("disc/zvuky/Vina.WAV"));
+    for (const auto& [file, shortest, longest] : {std::tuple{music, 60, 120}, std::tuple{wine, 30, 60}}) {
+        const Sound sound = readWav(file);
+        EXPECT_GE(sound.seconds(), shortest);
+        EXPECT_LE(sound.seconds(), longest);
+        EXPECT_EQ(sound.channels, 2);
+        EXPECT_LT(peakOf(sound), fromDecibels(-3));
+        expectSeamless(sound);
+    }
+    EXPECT_EQ(readWav(folder.filePath(QStringLiteral("scratch/zvuky/121.wav"))).channels, 1);
+    const Sound one = readWav(folder.filePath(QStringLiteral("disc/zvuky/č1.wav")));
+    const Sound other = readWav(folder.filePath(QStringLiteral("disc/zvuky/č16.wav")));
+    EXPECT_GT(one.seconds(), 0.7);
+    EXPECT_GT(other.seconds(), one.seconds());
+    EXPECT_LT(peakOf(one), fromDecibels(-3));
+    EXPECT_GT(energy(one, 0.05, 0.1), 0.005) << "silence in front of the voice";
+
+    const QDateTime made = QFileInfo(music).lastModified();
+    run();
+    EXPECT_EQ(QFileInfo(music).lastModified(), made);
+}
+
+}  // namespace
+}  // namespace sarne::disc
