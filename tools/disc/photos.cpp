@@ -8,6 +8,7 @@
 #include <QRect>
 
 #include "checks.h"
+#include "dishsketch.h"
 #include "standins.h"
 #include "writedatabase.h"
 
@@ -16,6 +17,8 @@ namespace {
 
 /// Changed whenever pictures would come out different from the same source.
 constexpr const char* kVersion = "2";
+/// The same for pictures that are drawn because the art has none.
+constexpr const char* kSketchVersion = "2";
 constexpr int kRecipes = 50;
 constexpr int kExitTopic = 0;
 constexpr int kMusicTopic = 7;
@@ -59,6 +62,11 @@ QString dishFile(const Workshop& shop, int id) {
     return shop.artPicture(QStringLiteral("rendered/dishes/%1").arg(id, 2, 10, QLatin1Char('0')));
 }
 
+/// The scene that the photo is rendered from.
+QString dishDescription(const Workshop& shop, int id) {
+    return shop.art + QStringLiteral("/dishes/%1.dish").arg(id, 2, 10, QLatin1Char('0'));
+}
+
 QString dishName(const Workshop& shop, int id) {
     return shop.book.recipes.contains(id) ? shop.book.recipes[id].name : QStringLiteral("Recept %1").arg(id);
 }
@@ -66,14 +74,19 @@ QString dishName(const Workshop& shop, int id) {
 QImage dish(const Workshop& shop, int id) {
     const QImage rendered(dishFile(shop, id));
     if (!rendered.isNull()) return rendered;
+    QFile description(dishDescription(shop, id));
+    if (description.open(QIODevice::ReadOnly)) {
+        const QImage sketch = sketchDish(QString::fromUtf8(description.readAll()));
+        if (!sketch.isNull()) return sketch;
+    }
     return standInDish(id, dishName(shop, id), gridCourses(id).value(0));
 }
 
 /// What a dish's pictures are made from.
 QString dishOrigin(const Workshop& shop, int id) {
     const QString file = dishFile(shop, id);
-    return originOf({file},
-                    QLatin1String(kVersion) + (QFileInfo::exists(file) ? QString() : dishName(shop, id)));
+    if (QFileInfo::exists(file)) return originOf({file}, QLatin1String(kVersion));
+    return originOf({file, dishDescription(shop, id)}, QLatin1String(kSketchVersion) + dishName(shop, id));
 }
 
 void makeDish(Workshop& shop, int id) {
