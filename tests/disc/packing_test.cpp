@@ -29,8 +29,10 @@ class PackingTest : public testing::Test {
     Cookbook book_;
     Problems problems_;
     Ledger ledger_{folder_.filePath(QStringLiteral("ledger"))};
-    Workshop shop_{book_,        path("content"), path("art"), path("program"),
-                   path("disc"), path("scratch"), ledger_,     problems_};
+    Workshop shop_{book_,        QStringLiteral(SARNE_CONTENT),
+                   path("art"),  path("program"),
+                   path("disc"), path("scratch"),
+                   ledger_,      problems_};
 };
 
 TEST_F(PackingTest, ResourcesAreFoundUnderTheirNames) {
@@ -41,7 +43,7 @@ TEST_F(PackingTest, ResourcesAreFoundUnderTheirNames) {
     ASSERT_TRUE(layout.open(QIODevice::WriteOnly));
     layout.write("0 1 2 3 4\n");
     layout.close();
-    makeSounds(shop_);
+    makeEffects(shop_);
     makeResources(shop_, QStringLiteral(SARNE_RCC));
     ASSERT_FALSE(problems_.hasErrors()) << problems_.errors().join(u'\n').toStdString();
 

@@ -71,11 +71,11 @@ TEST_F(WorkshopTest, PhotosComeFromTheArtWhereItHasThem) {
     Workshop shop{book_, {}, path("art"), path("program"), path("disc"), path("scratch"), ledger, problems_};
     makePhotos(shop);
     const QImage rendered(path("disc/foto/Recepty/r6.bmp"));
-    EXPECT_EQ(rendered.size(), QSize(1360, 1020));
+    EXPECT_EQ(rendered.size(), QSize(1440, 1080));
     EXPECT_NEAR(qRed(rendered.pixel(700, 500)), 255, 3);
     EXPECT_NEAR(qGreen(rendered.pixel(700, 500)), 0, 3);
     const QImage drawn(path("disc/foto/Male/r7.bmp"));
-    EXPECT_EQ(drawn.size(), QSize(400, 300));
+    EXPECT_EQ(drawn.size(), QSize(320, 240));
 
     // In the composite of the soups a warm dish is dimmed, in the one of all it is not.
     const auto middle = [](const QImage& grid) {

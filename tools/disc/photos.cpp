@@ -33,6 +33,7 @@ struct PhotoSize {
     QSize size;
 };
 constexpr PhotoSize kSizes[] = {{"Recepty", {1440, 1080}}, {"Velke", {720, 540}}, {"Male", {320, 240}}};
+/// The grounds are blurred: more would only take room.
 constexpr QSize kGroundSize(320, 240);
 
 /// \a picture cut to \a size's shape around its middle and scaled to it.
@@ -86,7 +87,13 @@ QImage dish(const Workshop& shop, int id) {
 QString dishOrigin(const Workshop& shop, int id) {
     const QString file = dishFile(shop, id);
     if (QFileInfo::exists(file)) return originOf({file}, QLatin1String(kVersion));
-    return originOf({file, dishDescription(shop, id)}, QLatin1String(kSketchVersion) + dishName(shop, id));
+    return originOf({file, dishDescription(shop, id)},
+                    QLatin1String(kVersion) + QLatin1String(kSketchVersion) + dishName(shop, id));
+}
+
+/// A picture of another size is another picture.
+QString withSize(const QString& origin, const QSize& size) {
+    return QStringLiteral("%1-%2x%3").arg(origin).arg(size.width()).arg(size.height());
 }
 
 void makeDish(Workshop& shop, int id) {
@@ -99,10 +106,12 @@ void makeDish(Workshop& shop, int id) {
     const QString name = QStringLiteral("/r%1.bmp").arg(id);
     for (const PhotoSize& photo : kSizes) {
         const QString file = shop.disc + QStringLiteral("/foto/") + QLatin1String(photo.folder) + name;
-        shop.make(file, origin, [&] { return saveBitmap(fitted(loaded(), photo.size), file); });
+        shop.make(file, withSize(origin, photo.size),
+                  [&] { return saveBitmap(fitted(loaded(), photo.size), file); });
     }
     const QString ground = shop.disc + QStringLiteral("/foto/Podklad") + name;
-    shop.make(ground, origin, [&] { return saveBitmap(calmGround(loaded()), ground); });
+    shop.make(ground, withSize(origin, kGroundSize),
+              [&] { return saveBitmap(calmGround(loaded()), ground); });
 }
 
 QRect onPicture(const QRect& twips, const QSize& picture) {
