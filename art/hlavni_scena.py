@@ -14,7 +14,7 @@ import bpy  # noqa: E402
 from mathutils import Vector  # noqa: E402
 
 from lib import core, fish as fishlib, food, table  # noqa: E402
-from lib.core import (area, box, curve_points, group, lathe, linked, mat, mesh, outline_solid, put, rgb, smooth_profile, sphere, text, tube)  # noqa: E402
+from lib.core import (area, box, curve_points, group, lathe, mat, mesh, outline_solid, put, rgb, smooth_profile, sphere, tube)  # noqa: E402
 
 EYE = Vector((0, 0, 15.6))
 PITCH = math.radians(14.5)
@@ -113,7 +113,7 @@ def shelf(px0, px1, py, depth=1.9):
     """Wall shelf whose top is seen at py, with brackets."""
     a, b = at_wall(px0, py, WALL - depth * .5), at_wall(px1, py, WALL - depth * .5)
     z = a.z
-    o = box(b.x - a.x, depth, .28, table.wood("walnut"), .06, at=((a.x + b.x) / 2, WALL - depth / 2, z - .28))
+    box(b.x - a.x, depth, .28, table.wood("walnut"), .06, at=((a.x + b.x) / 2, WALL - depth / 2, z - .28))
     for x in (a.x + .6, b.x - .6):
         br = outline_solid([(0, 0), (depth * .8, 0), (.15, -1.1), (0, -1.2)], .18, table.copper(), .03)
         put(br, x, WALL - .02, z - .28, tilt=90, turn=-90)
@@ -125,8 +125,7 @@ def window():
     x0, x1 = at_wall(14, 200).x, at_wall(118, 200).x
     z0, z1 = at_wall(60, 322).z, at_wall(60, 112).z
     cx, cz, w, h = (x0 + x1) / 2, (z0 + z1) / 2, x1 - x0, z1 - z0
-    o = mesh([(x0, WALL - .03, z0), (x1, WALL - .03, z0), (x1, WALL - .03, z1), (x0, WALL - .03, z1)], [(0, 1, 2, 3)], pond_material(), False, uv=[(0, 0), (1, 0), (1, 1), (0, 1)])
-    m = table.wood("pale", "z")
+    mesh([(x0, WALL - .03, z0), (x1, WALL - .03, z0), (x1, WALL - .03, z1), (x0, WALL - .03, z1)], [(0, 1, 2, 3)], pond_material(), False, uv=[(0, 0), (1, 0), (1, 1), (0, 1)])
     fr = mat("windowframe", ((.35, "4a3420"), (.65, "7a5a38")), .45, noise=2, stretch=(3, 3, .3), bump=.15, coat=.2)
     for x in (x0 - .12, x1 + .12):
         box(.42, .5, h + .6, fr, .06, at=(x, WALL - .2, z0 - .3))
@@ -153,7 +152,6 @@ def pond_pixels(w=512, h=768, moon=(.68, .82)):
     trees = hor + .012 + .05 * core.fbm(np.stack([x[0] * 9, np.zeros(w), np.ones(w)], -1), 4, 8) + .05 * np.exp(-((x[0] - .05) / .2) ** 2)
     pic = sky.copy()
     pic[y < trees[None, :]] = (.018, .062, .062)
-    refl = pic[::-1]
     yy = (2 * hor - y)
     wob = (core.fbm(np.stack([x * 5, y * 60, np.zeros_like(x)], -1), 3, 5) - .5) * .05 * np.clip((hor - y) / hor, 0, 1) * 2
     xi = np.clip(((x + wob) * w).astype(int), 0, w - 1)
@@ -218,7 +216,6 @@ def door():
 def plaque():
     """Copper-framed board with an open book and a fish on it."""
     p = at_wall(66, 52)
-    k = 21 * .0 + 1
     w, h = at_wall(112, 52).x - at_wall(22, 52).x, at_wall(66, 8).z - at_wall(66, 92).z
     objs = []
     fr = outline_solid(table.rounded_rect(w, h, .35), .3, table.copper(), .1, holes=[table.rounded_rect(w - .8, h - .8, .2)])
@@ -337,8 +334,6 @@ def books():
 
 def fryingpan():
     p = table.pan(3.4, .85, "iron", True, turn=-18)
-    objs = []
-    fl = food.pool
     fil = [put(food.fillet("white", "fried", 3.4, 1.5, .5, None, 4), -.3, .75, .14, turn=12), put(food.fillet("white", "fried", 3.2, 1.4, .5, None, 9), .2, -.95, .14, turn=-8)]
     oil = put(lathe([(.01, .16), (2.8, .16)], food.sauce_mat("butter"), 64))
     bub = []
@@ -450,14 +445,11 @@ def crate():
     parts.append(core.scatter(iv, jf, ts, ice, False))
     parts.append(put(box(6.2, 3.8, 1.2, ice, .05), 0, 0, .1))
     fishes = []
-    for i, (k, L, x, y, t) in enumerate((("mackerel", 4.6, -.1, .95, 6), ("herring", 4.2, .2, .2, -4), ("mackerel", 4.4, -.2, -.65, 3), ("cod", 3.0, 1.2, -.1, 160))):
-        if k == "cod":
-            continue
+    for i, (k, L, x, y, t) in enumerate((("mackerel", 4.6, -.1, .95, 6), ("herring", 4.2, .2, .2, -4), ("mackerel", 4.4, -.2, -.65, 3))):
         f = fishlib.fish(k, "raw", L, seed=20 + i)
         h = group([f])
         put(h, x, y, 1.52, turn=t)
         fishes.append(h)
-    shell_pts = []
     n, m = 40, 16
     v = []
     for i in range(n):
@@ -571,7 +563,6 @@ def saladbowl():
     parts.append(put(food.egg_half(.62), .2, -1.3, 2.0, tilt=-35))
     g = group(parts[1:])
     w = group([b, g])
-    sp = []
     return w, g
 
 
@@ -617,8 +608,8 @@ def projector():
     return group(parts + arms + reels + [strip]), reels
 
 
-def decor(zshelf):
-    """Hanging copper, garlic, herbs; a lamp on the left whose glow is the light of the room."""
+def decor():
+    """Hanging copper, garlic and herbs over the sideboard."""
     rail_l, rail_r = at_wall(176, 186), at_wall(318, 186)
     tube([(rail_l.x, WALL - .5, rail_l.z), (rail_r.x, WALL - .5, rail_l.z)], .09, table.brass(), 10)
     xs = [rail_l.x + (rail_r.x - rail_l.x) * q for q in (.07, .24, .42, .6, .78, .95)]
@@ -638,8 +629,6 @@ def decor(zshelf):
         else:
             for k in range(5):
                 put(food.sprig("parsley", .9), x + .15 * math.sin(k * 2), WALL - .45, z - .5 - .38 * k, tilt=120, turn=k * 70)
-    # jars on the sideboard
-    return None
 
 
 def runner():
@@ -754,7 +743,7 @@ def build():
     g, reels = projector()
     stand(g, 674, 606, 128, 4.6, turn=-14)
     P["projector"] = reels
-    decor(z)
+    decor()
     lamp()
     runner()
     lights()
@@ -803,7 +792,7 @@ def pose(P, button, f):
         _move(P["plaque"], ry=-170 * up)
     elif button == 2:
         g, holder, water = P["tub"]
-        _move(holder, rz=-360 * f if False else 24 * sn, dz=.22 * math.sin(2 * w), dx=.25 * sn)
+        _move(holder, rz=24 * sn, dz=.22 * math.sin(2 * w), dx=.25 * sn)
         _move(water, rz=16 * sn)
     elif button == 3:
         for i, o in enumerate(P["basket"][:-1]):
@@ -818,13 +807,11 @@ def pose(P, button, f):
         for i, o in enumerate(fil):
             _move(o, dz=.45 * up * (1 if i else .7), rx=(14 if i else -10) * up, dx=.15 * sn)
         for i, o in enumerate(bub):
-            k = .5 + abs(math.sin(w / 2 * 1 + i)) * 1.3
             ph = math.sin(w + i * 1.7)
             _move(o, sx=1 + .5 * ph, sy=1 + .5 * ph, sz=1 + .6 * ph)
     elif button == 6:
         hour, minute = P["clock"]
         _move(minute, rz=-360 * f)
-        _move(hour, rz=-30 * 0)
     elif button == 7:
         needle, knobs, ww = P["radio"]
         _move(needle, dx=ww * .21 * sn)

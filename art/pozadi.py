@@ -10,8 +10,8 @@ import sys
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import bpy  # noqa: E402
 
-from lib import core, fish as fishlib, food, table  # noqa: E402
-from lib.core import area, box, group, lathe, mat, mesh, outline_solid, put, smooth_profile, sphere, text, tube  # noqa: E402
+from lib import core, fish as fishlib, table  # noqa: E402
+from lib.core import area, box, group, lathe, mat, mesh, outline_solid, put, smooth_profile, sphere, tube  # noqa: E402
 
 OUT = os.path.join(core.RENDERED, "pozadi")
 U = 40.0  # pixels of 1600 x 1200 in one unit when seen from straight above
@@ -81,7 +81,6 @@ def Sit():
 
 def recept():
     """Recipe screen: warm paper on a dark table, band at the top, a bar of lacquer at the right for buttons."""
-    core.mesh  # the table
     table.boards("dark")
     header(140)
     slab_px(30, 168, 1400, 1170, paper(), .12, .3, .03)
@@ -123,9 +122,8 @@ def video():
 
 def zprava():
     """Message box: teal cloth."""
-    n = core.scene
     ground(table.fabric("teal"))
-    o = table.cloth("teal", 60, 46, folds=.1)
+    table.cloth("teal", 60, 46, folds=.1)
     above(.7, .5)
 
 
@@ -135,30 +133,13 @@ def menu():
     above(.7, .3)
 
 
-def _dusk(lamp=0.0):
-    """Window picture as a wide view over the pond, with reeds and a jetty in front."""
-    import hlavni_scena as H
-    import numpy as np
-    im = core.picture("pondwide", H.pond_pixels(1600, 1200, (.74, .80)))
-    m = bpy.data.materials.new("wide")
-    m.use_nodes = True
-    nt = m.node_tree
-    t = nt.nodes.new("ShaderNodeTexImage")
-    t.image = im
-    e = nt.nodes.new("ShaderNodeEmission")
-    nt.links.new(t.outputs[0], e.inputs[0])
-    e.inputs[1].default_value = 1.15
-    nt.links.new(e.outputs[0], nt.nodes["Material Output"].inputs[0])
-    return m
-
-
 def uvod():
     """Splash: the pond at dusk. A jetty with a lantern and a rod in front; sky free for the title."""
     core.camera((0, -14, 3.4), (0, 10, 3.7), lens=30)
-    back = mesh([(-48, 50, -24), (48, 50, -24), (48, 50, 42), (-48, 50, 42)], [(0, 1, 2, 3)], sky_material(), False, uv=[(0, 0), (1, 0), (1, 1), (0, 1)])
+    mesh([(-48, 50, -24), (48, 50, -24), (48, 50, 42), (-48, 50, 42)], [(0, 1, 2, 3)], sky_material(), False, uv=[(0, 0), (1, 0), (1, 1), (0, 1)])
     water = mat("pondwater", "06242a", .06, .6, metal=0, coat=1, bump=.22, bumpscale=.9, bumpstretch=(.35, 1.6, 1), ior=1.33)
     mesh([(-90, -14, 0), (90, -14, 0), (90, 50, 0), (-90, 50, 0)], [(0, 1, 2, 3)], water, False)
-    hills = mat("hills", "06191b", 1, 0)
+    hills = mat("hills", "06191b", 1, 0, emit="0a3238", emit_strength=.35)
     for y, base, amp, seed in ((46, .8, 2.6, 3), (40, .3, 1.5, 9)):
         n = 160
         v = []
@@ -180,15 +161,15 @@ def uvod():
         for x in (3.9, 6.9):
             put(lathe([(.01, 1.1), (.16, 1.1), (.18, -1)], table.wood("dark", "z"), 16), x, y, .25)
     lantern(6.3, -1.2, .69, 1.15)
-    rod = tube([(4.6, -4.5, .75), (2.2, 2.5, 2.7), (.6, 7.5, 4.1)], [.06, .035, .015], table.wood("pale"), 8)
+    tube([(4.6, -4.5, .75), (2.2, 2.5, 2.7), (.6, 7.5, 4.1)], [.06, .035, .015], table.wood("pale"), 8)
     tube([(.6, 7.5, 4.1), (.55, 8.2, 1.8), (.5, 8.6, .0)], .008, mat("lineg", "9fb0ae", .4), 4)
     put(sphere(.13, mat("float", "b8402a", .3, coat=.5, emit="b8402a", emit_strength=.15), scale=(1, 1, 1.5), n=16), .5, 8.6, .05)
-    put(basketlike(), 5.0, -5.6, .69)
+    put(basketlike(), 4.55, -3.4, .69, turn=20)
     reeds(-1)
     reeds(1)
     core.world("16424a", .5)
-    area((-10, -12, 12), (2, 4, 0), 6, 500, "ffd6a0")
-    area((0, 30, 18), (0, 0, 0), 20, 900, "7fb6bd")
+    for o in (area((-10, -12, 12), (2, 4, 0), 6, 500, "ffd6a0"), area((0, 30, 18), (0, 0, 0), 20, 900, "7fb6bd")):
+        o.visible_glossy = False  # the water would mirror the lamps
 
 
 def lantern(x, y, z, s=1.0):
@@ -227,7 +208,7 @@ def reeds(side):
         tube(pts, [.045 * (1 - .85 * k / 8) for k in range(9)], m, 5)
         if rnd.random() < .3:
             e = pts[-2]
-            tube([(e[0], e[1], e[2] - .25), (e[0] + lean * .05, e[1], e[2] + .3)], .1, head, 8)
+            tube([(e[0] + lean * .05 * t, e[1], e[2] - .3 + .62 * t) for t in (0, .06, .2, .5, .8, .94, 1)], [.02, .07, .1, .105, .095, .06, .015], head, 10)
 
 
 def sky_material():
@@ -283,7 +264,7 @@ def vino256():
     table.boards("dark")
     from lib import dishfile
     dishfile.backdrop()
-    b = put(table.bottle(9.4, 1.15), 4.5, 2.6, 0)
+    put(table.bottle(9.4, 1.15), 4.5, 2.6, 0)
     put(table.wineglass(6.0, 1.35, "red", .5), 2.4, .6, 0)
     put(table.wineglass(5.6, 1.25, "white", .5), 6.6, .4, 0)
     gm = mat("grape", ((.4, "2a0f2c"), (.6, "5a2348")), .2, coat=.6, sss=.05)
@@ -291,7 +272,7 @@ def vino256():
         a, q = i * 2.4, .33 * math.sqrt(i)
         put(sphere(.42, gm, n=20), 4.3 + q * math.cos(a) * 1.3, -1.9 + q * math.sin(a) * .8, .4 + .45 * max(0, 1.7 - q) * random.uniform(.6, 1))
     put(table.candle(3.4, .45), 8.0, 3.0, 0)
-    p = put(table.cloth("teal", 9, 6, folds=.2), 6.0, -.5, 0, 20)
+    put(table.cloth("teal", 9, 6, folds=.2), 6.0, -.5, 0, 20)
     core.camera((-.6, -15, 5.6), (.1, 0, 3.1), 44, .9, (3.5, 0, 2))
     core.evening(.62)
 

@@ -204,17 +204,14 @@ def Pomucky():
         a = math.pi * k / 6
         pts = []
         for i in range(25):
-            t = i / 24
-            r = .85 * math.sin(math.pi * t) ** .75 * (1 if True else 0)
-            q = math.pi * t
-            x = 2.1 * math.sin(q) ** .6 if False else None
-            w = math.cos(math.pi * t)
-            pts.append((.2 + 2.2 * math.sin(q), .8 * w * math.sin(q) ** .3 * math.cos(a), .75 + .65 * w * math.sin(q) ** .3 * math.sin(a)))
+            q = math.pi * i / 24
+            w = math.cos(q) * math.sin(q) ** .3 if 0 < i < 24 else 0
+            pts.append((.2 + 2.2 * math.sin(q), .8 * w * math.cos(a), .75 + .65 * w * math.sin(a)))
         wires.append(tube(pts, .045, table.steel(), 6))
     handle = tube([(.25, 0, .75), (-.4, 0, .75), (-2.2, 0, .75)], [.17, .22, .26], table.wood("walnut"), 16)
     wh = put(group(wires + [handle]), 0, 0, -.1, turn=48, scale=.95)
     kn = put(table.knife(4.2), -.5, 1.2, .05, turn=-48)
-    return facing(put(group([wh, kn]), 0, 0, 0), 18)
+    return facing(group([wh, kn]), 18)
 
 
 def Vlastni():
@@ -256,8 +253,7 @@ def Lupa():
     ring = put(table.torus(1.25, .2, cop()), -.4, .4, .5)
     gl = put(sphere(1.22, lens_glass(), scale=(1, 1, .16), n=40), -.4, .4, .5)
     h = tube([(.5, -.5, .5), (.8, -.8, .5), (2.1, -2.1, .45)], [.16, .24, .3], table.wood("walnut"), 20)
-    sh = put(sheet(2.4, 2.6, 6, .92), -.55, .35, .02)
-    return facing(group([ring, gl, h]), 26)
+    return facing(group([ring, gl, h, put(sheet(2.4, 2.6, 6, .92), -.55, .35, .02)]), 26)
 
 
 def lzice():
@@ -309,28 +305,28 @@ def Jablko():
     return put(group([a, st, lf]), scale=1.05)
 
 
-def _up(n, s):
-    return facing(group([put(poly([(-1.6, -.55), (0, .85), (1.6, -.55), (1.6, -1.0) if n == 1 else (1.6, -.75), (0, .35) if False else (0, -.1 if n == 1 else .1), (-1.6, -1.0) if n == 1 else (-1.6, -.75)], .55, cop(), .12), 0, y, 0) for y in ((.1,) if n == 1 else (.75, -.65))]) if s > 0 else put(group([_upflat(n)]), turn=180))
-
-
-def _upflat(n):
-    return group([put(poly([(-1.6, -.55), (0, .85), (1.6, -.55), (1.6, -1.0) if n == 1 else (1.6, -.75), (0, -.1 if n == 1 else .1), (-1.6, -1.0) if n == 1 else (-1.6, -.75)], .55, cop(), .12), 0, y, 0) for y in ((.1,) if n == 1 else (.75, -.65))])
+def _chevrons(n, turn):
+    """One chevron or two above each other, pointing up, turned."""
+    low, notch = (-1.0, -.1) if n == 1 else (-.75, .1)
+    pts = [(-1.6, -.55), (0, .85), (1.6, -.55), (1.6, low), (0, notch), (-1.6, low)]
+    parts = [put(poly(pts, .55, cop(), .12), 0, y, 0) for y in ((.1,) if n == 1 else (.75, -.65))]
+    return facing(put(group(parts), turn=turn))
 
 
 def SipkaNahoru():
-    return _up(1, 1)
+    return _chevrons(1, 0)
 
 
 def SipkaDolu():
-    return _up(1, -1)
+    return _chevrons(1, 180)
 
 
 def SipkaNahoruRychle():
-    return _up(2, 1)
+    return _chevrons(2, 0)
 
 
 def SipkaDoluRychle():
-    return _up(2, -1)
+    return _chevrons(2, 180)
 
 
 def _check(on):
@@ -399,7 +395,7 @@ def Skupina3():
     return group(parts)
 
 
-def _disc(col, sym, symcol="icream"):
+def _disc(col, sym):
     parts = [poly(circle(1.95), .35, cop(), .12), put(outline_solid(circle(1.7), .3, col, .1), 0, 0, .2)]
     parts.append(put(text(sym, 3.0, cream(), .3, .05), 0, 0, .45) if isinstance(sym, str) else put(sym, 0, 0, .45))
     return facing(group(parts))

@@ -580,7 +580,7 @@ def world(col="14383f", strength=0.6):
 def evening(strength=1.0):
     """The light of every dish: warm lamp from the left, teal dusk all round, a cool rim from the window behind."""
     world("3d6a72", 0.42 * strength)
-    area((-7.5, 4.5, 8.5), (0, 0, 0.5), 3.4, 2150 * strength, "ffe2bd")
+    area((-7.5, 4.5, 8.5), (0, 0, 0.5), 3.4, 1900 * strength, "ffe2bd")
     area((6.5, 8.5, 5.0), (0, 0, 0.5), 4.5, 700 * strength, "a9dbe6")
     area((2.0, -9.0, 8.0), (0, 0, 0), 6.0, 300 * strength, "ffecd6")
 

@@ -13,7 +13,7 @@ VESSELS = {
     "glass": table.wineglass, "tumbler": table.tumbler, "bottle": table.bottle, "candle": table.candle, "fork": table.fork, "spoon": table.spoon,
     "knife": table.knife, "tableknife": table.tableknife, "potlid": table.potlid,
 }
-THINGS = {n: f for n, f in vars(food).items() if inspect.isfunction(f) and f.__module__ == food.__name__}
+THINGS = {n: f for n, f in vars(food).items() if inspect.isfunction(f) and f.__module__.startswith(food.__name__)}
 VESSELS.update({n: getattr(forms, n) for n in ("jar", "glassdish", "tray", "silvertray", "ramekin", "jug", "kettle", "cup", "cone", "paper", "parcel", "eggplate", "squareplate")})
 THINGS.update({n: f for n, f in vars(forms).items() if inspect.isfunction(f) and f.__module__ == forms.__name__ and n not in VESSELS})
 THINGS["fish"] = fishlib.fish
@@ -80,7 +80,7 @@ def _spots(place, n):
     """Where n things lie within an ellipse: the lowest free places first, so that heaps grow from below."""
     cx, cy = place.get("at", (0, 0))
     rx, ry = place.get("within", (1, 1))
-    gap = place.get("radius", .5) * place.get("size", 1) * 1.55
+    gap = place.get("radius", .5) * place.get("size", 1) * (1.9 if "level" in place else 1.55)
     got = []
     for _ in range(n):
         best, score = None, 1e9
@@ -213,8 +213,8 @@ def _vessel(fn, words):
 
 def _poured(cmd, w):
     if cmd == "sprinkle":
-        q = _numbers(w[2:], at=(0, 0), within=(1, 1), minz=-1.0, heap=0.0, lift=0.0)
-        food.sprinkle(w[0], int(w[1]), q["at"], q["within"], q["minz"], q["heap"], lift=q["lift"])
+        q = _numbers(w[2:], at=(0, 0), within=(1, 1), minz=-1.0, maxz=99.0, heap=0.0, lift=0.0)
+        food.sprinkle(w[0], int(w[1]), q["at"], q["within"], q["minz"], q["heap"], q["maxz"], q["lift"])
     elif cmd == "pool":
         q = _numbers(w[1:], sx=2, sy=1.4, thick=.09, at=(0, 0), wob=.28)
         food.pool(w[0], q["sx"], q["sy"], q["thick"], None, q["at"], q["wob"])

@@ -5,13 +5,12 @@ A fish is made of length 1 (snout to root of the tail) with its head at -x and b
 it shows the side that faced -y.
 """
 import math
-import random
 
 import numpy as np
 from mathutils import Vector
 
 from . import core
-from .core import fbm, grid_faces, group, mat, mesh, picture, put, rgb
+from .core import fbm, grid_faces, group, mat, mesh, picture
 
 
 
@@ -396,7 +395,6 @@ def fish(kind="carp", state="raw", length=6.0, cuts=0, seed=1, bend=0.0, lying=T
             L = length_ * shrink * (1 - .35 * q)
             o.append((x + L * math.cos(ang), z + L * math.sin(ang)))
         fin = _fin(b, o, rays, finm, .003, .004, .05)
-        pv = Vector((x, 0, z))
         for vtx in fin.data.vertices:
             dx = math.hypot(vtx.co.x - x, vtx.co.z - z)
             vtx.co.y += y + ysgn * dx * .22
@@ -466,7 +464,7 @@ def _eye(x, z, y, sg, r, cooked, k, w, h, es):
     iris = mat("iris-cooked", "d9d2c0", .3) if cooked else mat("iris", ((.35, "8c6a1e"), (.65, "d8b75a")), .12, .6, coat=1, metal=.3, noise=40)
     pupil = mat("pupil-cooked", "ece8dc", .25, coat=.6) if cooked else mat("pupil", "050505", .05, coat=1)
     ring = mat("eyering", "14110c", .4)
-    nx, nz = 0.0, es * w / max(h, 1e-3) * .9
+    nz = es * w / max(h, 1e-3) * .9
     nrm = Vector((-.12, sg * 1.0, nz)).normalized()
     cen = Vector((x, y, z)) - nrm * r * .42
     q = Vector((0, 0, 1)).rotation_difference(nrm)
@@ -476,7 +474,6 @@ def _eye(x, z, y, sg, r, cooked, k, w, h, es):
         for vtx in o.data.vertices:
             vtx.co = q @ vtx.co + cen
         objs.append(o)
-    me = objs[0].data
     # one object: join by hand
     vs, fs, mi = [], [], []
     mats = []

@@ -5,7 +5,7 @@ import random
 import numpy as np
 
 from . import core, fish as fishlib, food, table
-from .core import (box as block_, curve_points, fbm, grid_faces, group, lathe, mat, mesh, outline_solid, put, smooth_profile, sphere, thin_glass, tube)
+from .core import (curve_points, fbm, grid_faces, group, lathe, mat, mesh, outline_solid, put, smooth_profile, sphere, thin_glass, tube)
 
 
 # ---------------------------------------------------------------- vessels
@@ -314,7 +314,7 @@ def baconwrap(length=3.4):
 
 def lentils(rx=2.2, ry=1.6, h=.5, n=1300):
     """Mound of brown lentils."""
-    from mathutils import Matrix, Vector
+    from mathutils import Matrix
     v, f = food._lump(8)
     ts = []
     for _ in range(n):
