@@ -11,7 +11,7 @@ import time
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import numpy as np  # noqa: E402
 
-import hlavni_scena as H  # noqa: E402
+import kitchen as H  # noqa: E402
 from lib import core  # noqa: E402
 
 OUT = os.path.join(core.RENDERED, "hlavni")
@@ -93,7 +93,7 @@ print("SET", round(time.time() - t, 1), flush=True)
 if a[0] == "nahled":
     core.render(a[1], int(a[2]), int(a[2]) * 3 // 4, int(a[3]))
 elif a[0] == "pozadi":
-    core.render(os.path.join(OUT, "pozadi.jpg"), WIDTH, HEIGHT, int(a[1]) if len(a) > 1 else 48, quality=90, key=open(H.__file__, encoding="utf-8").read())
+    core.render(os.path.join(OUT, "pozadi.jpg"), WIDTH, HEIGHT, int(a[1]) if len(a) > 1 else 48, quality=90, key=H.text())
 else:
     frames(int(a[1]) if len(a) > 1 else 32, [int(x) for x in a[2:]], P)
 print("DONE", round(time.time() - t, 1))

@@ -245,7 +245,7 @@ def sky_material():
 
 def konec():
     """The kitchen with the lamp going out."""
-    import hlavni_scena as H
+    import kitchen as H
     P = H.build()
     for b in range(19):
         H.pose(P, b, 0)
@@ -273,8 +273,8 @@ def vino256():
         put(sphere(.42, gm, n=20), 4.3 + q * math.cos(a) * 1.3, -1.9 + q * math.sin(a) * .8, .4 + .45 * max(0, 1.7 - q) * random.uniform(.6, 1))
     put(table.candle(3.4, .45), 8.0, 3.0, 0)
     put(table.cloth("teal", 9, 6, folds=.2), 6.0, -.5, 0, 20)
-    core.camera((-.6, -15, 5.6), (.1, 0, 3.1), 44, .9, (3.5, 0, 2))
-    core.evening(.62)
+    core.camera((-.6, -17, 6.2), (.1, 0, 3.9), 42, .9, (3.5, 0, 2))
+    core.evening(1.1)
 
 
 SIZES = {"vino256": (1024, 768), "menu": (800, 600)}

@@ -132,7 +132,7 @@ def ZvukOff():
 
 
 def Foto():
-    import hlavni_scena as H
+    import kitchen as H
     g, btn, bulb = H.photo_camera()
     for o in list(core.tree(g))[-1:]:
         o.hide_render = True

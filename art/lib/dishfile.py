@@ -140,7 +140,7 @@ def _camera(words):
 
 def backdrop(kind="dusk"):
     """A dark wall far behind with soft lights, for pictures taken from low down."""
-    m = core.mat("backdrop", ((.35, "071c20"), (.65, "123c42")), 1, 0, noise=.05)
+    m = core.mat("backdrop", ((.35, "0b2a30"), (.65, "16484f")), 1, 0, noise=.05, emit="0d343a", emit_strength=.25)
     core.mesh([(-60, 26, -8), (60, 26, -8), (60, 26, 40), (-60, 26, 40)], [(0, 1, 2, 3)], m, False)
     for _ in range(9):
         warm = random.random() < .6
