@@ -19,6 +19,7 @@ void closeMenu(Tour& tour) {
 /// From the main screen to a recipe recalculated for six, in spoons: by mouse.
 void mainJob(Tour& tour) {
     tour.stop(QStringLiteral("frmHlavni"));
+    tour.visitHelp();
     tour.hover(button(5));
     tour.wait(kSlowScreen);
     tour.stop(QStringLiteral("frmHlavni"), QStringLiteral("pohyb"));
@@ -30,6 +31,7 @@ void mainJob(Tour& tour) {
     tour.clickItem(QStringLiteral("kapr"));
     tour.click(QStringLiteral("lblSeznam(3)"));
     tour.stop(QStringLiteral("frmSeznam"));
+    tour.visitHelp();
     tour.click(QStringLiteral("imgBtn(1)"));
     tour.stop(QStringLiteral("frmSeznam"), QStringLiteral("vino"));
     tour.click(QStringLiteral("imgBtn(2)"));
@@ -38,6 +40,10 @@ void mainJob(Tour& tour) {
         tour.wait(kSlowScreen);
         tour.stop(QStringLiteral("frmRecept"), QString::number(section));
     }
+    tour.visitHelp();
+    tour.click(QStringLiteral("imgBtnHlavni(1)"));
+    tour.stop(QStringLiteral("frmStranka"), QStringLiteral("300"));
+    tour.key(Qt::Key_Escape);
     tour.click(QStringLiteral("imgBtn(5)"));
     tour.click(QStringLiteral("imgPrepocet(6)"));
     tour.stop(QStringLiteral("frmRecept"), QStringLiteral("5-6porci"));
@@ -79,6 +85,7 @@ void menus(Tour& tour) {
         if (topic != 3 && topic != 4 && topic != 6 && topic != 10 && topic != 15 && topic != 18)
             tour.key(Qt::Key_Right);
         tour.stop(QStringLiteral("frmMenu"), QString::number(topic));
+        if (topic == 2) tour.visitHelp();
         closeMenu(tour);
     }
 }
@@ -90,6 +97,7 @@ void photos(Tour& tour) {
     tour.key(Qt::Key_Return);
     tour.wait(kSlowScreen);
     tour.stop(QStringLiteral("frmSit"));
+    tour.visitHelp();
     tour.click(QStringLiteral("imgSkupina(3)"));
     tour.wait(kSlowScreen);
     tour.click(QStringLiteral("imgFoto(9)"));
@@ -97,6 +105,7 @@ void photos(Tour& tour) {
     tour.click(QStringLiteral("imgBtnHlavni(0)"));
     tour.wait(kSlowScreen);
     tour.stop(QStringLiteral("frmFotoBig"));
+    tour.visitHelp();
     tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_Escape);
     tour.stop(QStringLiteral("frmHlavni"), QStringLiteral("po-fotkach"));
@@ -109,12 +118,23 @@ void tables(Tour& tour) {
         tour.key(Qt::Key_Return);
         tour.stop(item == 1 ? QStringLiteral("frmStranka") : QStringLiteral("FrmTabulky"),
                   QString::number(item));
+        if (item < 3) tour.visitHelp();
         if (item == 2) {
             tour.key(Qt::Key_Down);
             tour.key(Qt::Key_Return);
             tour.stop(QStringLiteral("frmIndex"));
+            tour.visitHelp();
             tour.key(Qt::Key_Escape);
         }
+        tour.key(Qt::Key_Escape);
+    }
+}
+
+/// Every area of the gallery in front: it shows its card, or leads to a keyword.
+void areas(Tour& tour, int topic) {
+    for (int i = 0; tour.has(QStringLiteral("lblOblast(%1)").arg(i)); ++i) {
+        tour.click(QStringLiteral("lblOblast(%1)").arg(i));
+        tour.stop(tour.frontName(), QStringLiteral("%1-%2").arg(topic).arg(i));
         tour.key(Qt::Key_Escape);
     }
 }
@@ -126,6 +146,8 @@ void galleries(Tour& tour) {
         tour.key(Qt::Key_Return);
         tour.wait(kSlowScreen);
         tour.stop(QStringLiteral("frmSponzor"), QString::number(topic));
+        if (topic == 1) tour.visitHelp();
+        areas(tour, topic);
         tour.key(Qt::Key_Escape);
     }
 }
@@ -133,9 +155,7 @@ void galleries(Tour& tour) {
 void media(Tour& tour) {
     tour.click(button(7));
     tour.stop(QStringLiteral("frmNastavHudbu"));
-    tour.key(Qt::Key_Escape);
-    tour.key(Qt::Key_F1);
-    tour.stop(QStringLiteral("frmStranka"), QStringLiteral("F1"));
+    tour.visitHelp();
     tour.key(Qt::Key_Escape);
     tour.click(button(18));
     tour.key(Qt::Key_Down);
@@ -146,6 +166,7 @@ void media(Tour& tour) {
     tour.click(QStringLiteral("ImgTlacitko(4)"));
     tour.wait(kSlowScreen);
     tour.stop(QStringLiteral("frmVideo"), QStringLiteral("na-zacatku"));
+    tour.visitHelp();
     tour.key(Qt::Key_Escape);
 }
 
@@ -164,6 +185,7 @@ void printing(Tour& tour) {
     tour.doubleClick(QStringLiteral("lblSeznam(1)"));
     tour.click(QStringLiteral("imgBtnHlavni(0)"));
     tour.stop(QStringLiteral("frmPrint"));
+    tour.visitHelp();
     tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_Escape);

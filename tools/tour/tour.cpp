@@ -19,10 +19,26 @@ Form* Tour::front() const {
 void Tour::stop(const QString& form, const QString& what) {
     wait();
     const QString name = what.isEmpty() ? form : form + u'-' + what;
-    const QString there = front() ? front()->name() : QStringLiteral("nothing");
+    const QString there = frontName();
     if (there != form) fault(QStringLiteral("%1: %2 is in front").arg(name, there));
     picture(name);
     texts_ << QStringLiteral("== ") + name + u'\n' + textsOn(program_.stage());
+}
+
+bool Tour::has(const QString& control) const {
+    const QWidget* found = front() ? front()->findChild<QWidget*>(control) : nullptr;
+    return found && found->isVisible();
+}
+
+QString Tour::frontName() const {
+    return front() ? front()->name() : QStringLiteral("nothing");
+}
+
+void Tour::visitHelp() {
+    const QString form = frontName();
+    key(Qt::Key_F1);
+    stop(QStringLiteral("frmStranka"), QStringLiteral("F1-") + form);
+    key(Qt::Key_Escape);
 }
 
 void Tour::skipIntro() {

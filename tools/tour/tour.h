@@ -26,6 +26,12 @@ class Tour {
     void skipIntro();
     /// Expects the form \a form in front and saves it as "form-what.png"; its texts are kept.
     void stop(const QString& form, const QString& what = {});
+    /// Whether the form in front has a control called \a control that can be seen.
+    bool has(const QString& control) const;
+    /// The name of the form in front.
+    QString frontName() const;
+    /// Opens the help of the form in front by F1, keeps it as "frmStranka-F1-form", and goes back.
+    void visitHelp();
     /// Saves a picture only: of a place whose texts tell the time.
     void picture(const QString& name);
     /// Moves the mouse over, or clicks, the control called \a control on the form in front.
