@@ -21,7 +21,9 @@ THREADS = os.environ.get("ART_THREADS", "2")
 
 def blender(script, *args):
     cmd = ["nice", "-n", "19", "blender", "-t", THREADS, "-b", "-P", os.path.join(ART, script), "--", *args]
-    done = subprocess.run(cmd, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace")
+    # Blender takes its modules from the Python that it finds first, which must be the system's, with numpy.
+    env = dict(os.environ, PATH="/usr/local/sbin:/usr/sbin:/usr/bin:/sbin:/bin")
+    done = subprocess.run(cmd, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace", env=env)
     lines = [ln for ln in done.stdout.splitlines() if ln.startswith(("DONE", "FAILED", "FRAMES", "Error", "Traceback")) or "Error:" in ln]
     print("\n".join(ln for ln in lines if "Not freed" not in ln), flush=True)
 
