@@ -52,14 +52,6 @@ QString LogicalPaths::resolve(const QString& logical) const {
     return found.isEmpty() ? QStringLiteral("/") : found;
 }
 
-QString LogicalPaths::resolveForWriting(const QString& logical) const {
-    if (const QString existing = resolve(logical); !existing.isEmpty()) return existing;
-    const qsizetype last = logical.lastIndexOf(u'\\');
-    if (last < 0 || last + 1 == logical.size()) return {};
-    const QString folder = resolve(logical.left(last + 1));
-    return folder.isEmpty() ? QString() : folder + u'/' + logical.mid(last + 1);
-}
-
 QString LogicalPaths::fromNativeFolder(const QString& folder) {
     QString path = QDir::cleanPath(QDir(folder).absolutePath());
     return withTrailingBackslash(path.replace(u'/', u'\\'));

@@ -17,10 +17,6 @@ class LogicalPaths {
     /// is no such file, the drive letter is not mapped, or the path is empty.
     QString resolve(const QString& logical) const;
 
-    /// As resolve(), but for a file that may not exist yet: its folder must, the last part is kept as it
-    /// stands.
-    QString resolveForWriting(const QString& logical) const;
-
     /// A folder of this machine as a logical path ending in "\".
     static QString fromNativeFolder(const QString& folder);
 

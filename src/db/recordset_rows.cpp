@@ -91,7 +91,7 @@ void Recordset::TableRows::set(const QString& name, const QVariant& value) {
     if (change_ != Change::None && column(name) >= 0) changed_[name.toLower()] = value;
 }
 
-qint64 Recordset::TableRows::insert() {
+void Recordset::TableRows::insert() {
     QStringList names, marks;
     for (auto field = changed_.cbegin(); field != changed_.cend(); ++field) {
         names << quotedName(field.key());
@@ -103,7 +103,7 @@ qint64 Recordset::TableRows::insert() {
                                     .toStdString());
     int parameter = 0;
     for (const QVariant& value : std::as_const(changed_)) bindValue(statement, ++parameter, value);
-    return statement.exec();
+    statement.exec();
 }
 
 void Recordset::TableRows::overwrite() {

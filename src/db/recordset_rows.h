@@ -79,7 +79,7 @@ class Recordset::TableRows final : public Rows {
     void findKey();
     QVariant key() const { return row_[size_t(keyColumn_)]; }
     void store();
-    qint64 insert();
+    void insert();
     void overwrite();
 
     std::shared_ptr<Connection> connection_;

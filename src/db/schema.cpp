@@ -80,14 +80,4 @@ QStringList pictureSchema() {
     return {QStringLiteral("CREATE TABLE TabObr (obr BLOB)")};
 }
 
-QStringList recipeTables() {
-    QStringList tables;
-    for (const char* table : {"Recepty",       "SpojSur", "Suroviny",      "Upresneni", "Jednotky", "Pomucky",
-                              "SpojPomucky",   "Odkazy",  "SpojOdkazy",    "Vino",      "SpojVino", "Menu",
-                              "RychleRecepty", "Help",    "IndexHesla",    "Nastav",    "Stranky",  "Tabulky",
-                              "RadkyTabulek",  "Sponzor", "PlochySponzoru"})
-        tables << QLatin1String(table);
-    return tables;
-}
-
 }  // namespace sarne

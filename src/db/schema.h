@@ -15,7 +15,4 @@ QStringList recipeSchema();
 /// The statements that make an empty picture database (KOp.bj).
 QStringList pictureSchema();
 
-/// The tables a recipe database must have to be one of ours.
-QStringList recipeTables();
-
 }  // namespace sarne

@@ -235,10 +235,6 @@ void frmVideo::unload() {
     Form::unload();
 }
 
-void frmVideo::endProgram() {
-    app().ConfirmExit();
-}
-
 void frmVideo::moveFocus(int step) {
     Button* const order[] = {ImgTlacitko[kPlay],
                              ImgTlacitko[kPause],

@@ -30,7 +30,6 @@ class frmVideo : public Form {
     void Skryj();
 
     void goBack() override { Skryj(); }
-    void endProgram() override;
     void unload() override;
 
   protected:

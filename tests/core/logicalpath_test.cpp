@@ -41,12 +41,6 @@ TEST_F(LogicalPathTest, WhatIsNotThereIsEmpty) {
         EXPECT_EQ(paths.resolve(QString::fromLatin1(path)), QString()) << path;
 }
 
-TEST_F(LogicalPathTest, AFileToWriteNeedsOnlyItsFolder) {
-    EXPECT_EQ(paths.resolveForWriting(QStringLiteral("E:\\foto\\nova.bmp")),
-              disc.filePath(QStringLiteral("Foto/nova.bmp")));
-    EXPECT_EQ(paths.resolveForWriting(QStringLiteral("E:\\nic\\nova.bmp")), QString());
-}
-
 TEST(Folder, EndsInOneBackslash) {
     EXPECT_EQ(withTrailingBackslash(QStringLiteral("C:\\")), QStringLiteral("C:\\"));
     EXPECT_EQ(withTrailingBackslash(QStringLiteral("C:\\Prog")), QStringLiteral("C:\\Prog\\"));

@@ -6,7 +6,6 @@
 #include "forms/colors.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
-#include "forms/screens.h"
 #include "forms/stage.h"
 #include "screens/navigation/ingredientsearch.h"
 #include "screens/navigation/menutargets.h"
@@ -133,10 +132,6 @@ void frmMenu::goBack() {
     if (parent->hasEntry()) parent->Text1.focusAll();
 }
 
-void frmMenu::help() {
-    app().screens().showHelpFor(name());
-}
-
 QRect frmMenu::labelOnScreen(int k) const {
     // The next level stands beside this one, its first line at the height of the item that it belongs to.
     const QRect label = lblOdkaz[size_t(k - 1)]->twips();
@@ -255,10 +250,6 @@ bool frmMenu::keyDown(QKeyEvent& event) {
     if (!letter || event.key() == Qt::Key_C || event.key() == Qt::Key_X) return false;
     jumpTo(event.text());
     return true;
-}
-
-void frmMenu::gotFocus() {
-    // A level that was reached by the mouse keeps the keyboard: its items are what is looked at.
 }
 
 void frmMenu::paint(QPainter& painter) {

@@ -38,13 +38,11 @@ class frmMenu : public Form {
 
     /// Closes this level; the first one closes the tree.
     void goBack() override;
-    void help() override;
 
   protected:
     void paint(QPainter& painter) override;
     bool keyDown(QKeyEvent& event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    void gotFocus() override;
 
   private:
     explicit frmMenu(frmMenu& parent);
