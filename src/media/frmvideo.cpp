@@ -102,10 +102,9 @@ void frmVideo::makeButtons() {
 
 void frmVideo::Zobraz(std::int16_t number) {
     if (app().ShowMode) app().SoundFlags[kVideoSound] = true;
-    if (app().SoundFlags[kMusic] && app().music().mode() == MediaMode::Playing)
-        app().music().command(u"stop");
+    stopMusic();
     Label1.setText(QStringLiteral("Chvilku prosím počkejte, otevírám soubor s videem...."));
-    drawSoundButton();
+    applySound();
     app().PushScreen(*this);
     if (MMControlVideo)
         MMControlVideo->setFileName(app().mediaFile(QStringLiteral("VIDEO\\%1.AVI").arg(number)));
@@ -116,14 +115,24 @@ void frmVideo::Zobraz(std::int16_t number) {
     app().keepAwake(QStringLiteral("Přehrává se video"));
 }
 
+/// Also a music that is still being opened, which would start over the film.
+void frmVideo::stopMusic() {
+    if (app().SoundFlags[kMusic]) app().music().command(u"stop");
+}
+
+/// Back from the settings or a help page: the music waits on, the film's sound follows its switch.
+void frmVideo::restored() {
+    stopMusic();
+    applySound();
+    ImgTlacitko[kPlay]->setFocus();
+}
+
 void frmVideo::start() {
     tmrStart.setEnabled(false);
     if (!MMControlVideo) return Skryj();
-    if (app().SoundFlags[kMusic] && app().music().mode() == MediaMode::Playing)
-        app().music().command(u"stop");
+    stopMusic();
     MMControlVideo->setWait(MediaWait::Wait);
     MMControlVideo->setNotify(MediaNotify::On);
-    MMControlVideo->setSilent(app().SoundFlags[kVideoSound] ? MediaSound::On : MediaSound::Silent);
     MMControlVideo->command(u"open");
     if (MMControlVideo->error() > 0) return showError();
     Label1.setText(QStringLiteral("Soubor otevřen, začínám přehrávat ...."));
@@ -189,12 +198,12 @@ void frmVideo::pause() {
 
 void frmVideo::toggleSound() {
     app().SoundFlags[kVideoSound] = !app().SoundFlags[kVideoSound];
-    MMControlVideo->setSilent(app().SoundFlags[kVideoSound] ? MediaSound::On : MediaSound::Silent);
-    drawSoundButton();
+    applySound();
 }
 
-void frmVideo::drawSoundButton() {
+void frmVideo::applySound() {
     const bool on = app().SoundFlags[kVideoSound];
+    if (MMControlVideo) MMControlVideo->setSilent(on ? MediaSound::On : MediaSound::Silent);
     ImgTlacitko[kSound]->setFace(
         app().resources().picture(on ? QStringLiteral("ZvukOn") : QStringLiteral("ZvukOff")));
     ImgTlacitko[kSound]->setTip(on ? QStringLiteral("Vypnout zvuk") : QStringLiteral("Zapnout zvuk"));
@@ -226,8 +235,7 @@ void frmVideo::unload() {
         progress_.setEnabled(false);
         tmrStart.setEnabled(false);
         for (Button* button : ImgTlacitko) button->setFrame(Button::Frame::Raised);
-        if (app().SoundFlags[kMusic] && app().music().mode() != MediaMode::NotOpen)
-            app().music().command(u"play");
+        if (app().SoundFlags[kMusic]) app().music().command(u"play");
         if (MMControlVideo) MMControlVideo->command(u"stop");
         if (MMControlVideo) MMControlVideo->command(u"close");
         app().keepAwake({});

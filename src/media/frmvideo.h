@@ -30,6 +30,7 @@ class frmVideo : public Form {
     void Skryj();
 
     void goBack() override { Skryj(); }
+    void restored() override;
     void unload() override;
 
   protected:
@@ -46,7 +47,8 @@ class frmVideo : public Form {
     void ended();
     void pause();
     void toggleSound();
-    void drawSoundButton();
+    void applySound();
+    void stopMusic();
     void seek(qint64 milliseconds);
     void jump(qint64 milliseconds);
     void toggleFullScreen();
