@@ -35,6 +35,7 @@ constexpr std::pair<const char*, const char*> playerOptions[] = {
     // The desktop's sound, or none; then time passes all the same.
     {"ao", "pulse,alsa"},
     {"audio-fallback-to-null", "yes"},
+    {"gapless-audio", "no"},
     {"audio-client-name", "sarne"},
     {"audio-display", "no"},
     // Pictures are drawn by whoever asks for them.

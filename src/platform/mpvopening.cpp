@@ -74,9 +74,7 @@ bool MpvControl::Private::startPlayer() {
 
 void MpvControl::Private::loadFile() {
     core_->setFlag("pause", true);
-    const bool loops = loop_ == MediaLoop::On;
-    core_->setText("loop-file", loops ? "inf" : "no");
-    core_->setText("gapless-audio", loops ? "yes" : "no");  // without, the end waits until it has been heard
+    core_->setText("loop-file", loop_ == MediaLoop::On ? "inf" : "no");
     entryStarted_ = false;
     core_->load(QFileInfo(file_).absoluteFilePath(), ++loadTag_);
 }
@@ -98,6 +96,9 @@ void MpvControl::Private::opened() {
                        static_cast<int>(core_->number("dheight").value_or(0)));
     if (lacksPicture() || (atEnd && videoSize_.isEmpty())) return openFailed(MediaError::InvalidFile);
     core_->followPosition(!videoSize_.isEmpty());
+    // With it, a loop's end does not wait until it has been heard. Only while the file is open: it would keep
+    // the sound device for the next one, even a device that is there no longer.
+    if (loop_ == MediaLoop::On) core_->setText("gapless-audio", "yes");
     filmPosition_ = 0;
     opening_ = false;
     timeout_.stop();
@@ -133,7 +134,10 @@ void MpvControl::Private::close() {
     target_.reset();
     length_ = 0;
     videoSize_ = {};
-    if (core_) core_->unload();
+    if (core_) {
+        core_->setText("gapless-audio", "no");
+        core_->unload();
+    }
     halt(MediaMode::NotOpen);
 }
 
