@@ -6,6 +6,7 @@
 
 #include "platform/effectplayer.h"
 #include "platform/mixerlibrary.h"
+#include "platform/pulseserver.h"
 
 namespace sarne {
 
@@ -35,6 +36,7 @@ class Device {
 bool Device::open() {
     if (isOpen_ && lost()) close();
     if (isOpen_) return true;
+    if (!pulseServerHasDevice()) return false;  // SDL would not survive a server without one
     constexpr int rate = 44100;
     constexpr int samplesAtOnce = 512;  // 12 ms: an effect belongs to what the hand does
     mixer_.setHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");

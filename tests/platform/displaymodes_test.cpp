@@ -4,11 +4,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <csignal>
 
+#include "displayserver.h"
 #include "testmedia.h"
 
 namespace sarne {
@@ -17,68 +15,11 @@ namespace {
 constexpr QSize full(1920, 1080);
 constexpr QSize design(800, 600);
 
-constexpr char serverConfig[] = R"(
-Section "ServerFlags"
-    Option "AutoAddDevices" "false"
-    Option "AutoAddGPU" "false"
-EndSection
-Section "Device"
-    Identifier "card"
-    Driver "dummy"
-    VideoRam 32768
-EndSection
-Section "Monitor"
-    Identifier "monitor"
-    HorizSync 5-1000
-    VertRefresh 5-200
-    Modeline "1920x1080" 148.5 1920 2008 2052 2200 1080 1084 1089 1125
-EndSection
-Section "Screen"
-    Identifier "screen"
-    Device "card"
-    Monitor "monitor"
-    DefaultDepth 24
-    SubSection "Display"
-        Depth 24
-        Modes "1920x1080"
-        Virtual 1920 1080
-    EndSubSection
-EndSection
-)";
-
-/// A real X server whose card shows nothing.
 class DisplayModesTest : public testing::Test {
   protected:
     void SetUp() override {
-        if (!startServer()) GTEST_SKIP() << "no X server with the dummy driver could be started";
+        if (!server.start()) GTEST_SKIP() << "no X server with the dummy driver could be started";
         ASSERT_EQ(current(), full);
-    }
-    void TearDown() override {
-        qunsetenv("DISPLAY");
-        server.terminate();
-        if (!server.waitForFinished(5000)) server.kill();
-        server.waitForFinished();
-    }
-
-    bool startServer() {
-        QFile config(folder.filePath(QStringLiteral("xorg.conf")));
-        if (!config.open(QIODevice::WriteOnly)) return false;
-        config.write(serverConfig);
-        config.close();
-        server.setStandardErrorFile(QProcess::nullDevice());
-        server.start(
-            QStringLiteral("Xorg"),
-            {QStringLiteral("-noreset"), QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-             QStringLiteral("-config"), config.fileName(), QStringLiteral("-logfile"),
-             folder.filePath(QStringLiteral("log")), QStringLiteral("-displayfd"), QStringLiteral("1")});
-        QByteArray number;
-        const auto answered = [&] {
-            number += server.readAllStandardOutput();
-            return number.endsWith('\n') || server.state() == QProcess::NotRunning;
-        };
-        if (!server.waitForStarted() || !waitFor(answered, 15000) || !number.endsWith('\n')) return false;
-        qputenv("DISPLAY", ":" + number.trimmed());
-        return true;
     }
     static std::unique_ptr<SystemDisplayModes> modes() {
         return std::make_unique<SystemDisplayModes>(QStringLiteral(SARNE_DISPLAY_HELPER),
@@ -86,8 +27,7 @@ class DisplayModesTest : public testing::Test {
     }
     static QSize current() { return modes()->current(); }
 
-    QTemporaryDir folder;
-    QProcess server;
+    DisplayServer server;
 };
 
 TEST_F(DisplayModesTest, SwitchesAndRestores) {

@@ -25,25 +25,6 @@ class SoundTest : public testing::Test {
         server.rewind();
         music.command(u"play");
     }
-    /// What sounds in the next \a milliseconds.
-    Recording listen(int milliseconds) {
-        server.rewind();
-        runFor(milliseconds);
-        return server.recorded();
-    }
-
-    /// Waits until nothing but a tone of \a hertz has sounded for a fifth of a second.
-    bool waitForTone(double hertz) {
-        return waitFor([&] { return latest().peak() > 3000 && latest().share(hertz) > 0.9; });
-    }
-    bool waitForSilence() {
-        return waitFor([&] { return server.recorded().milliseconds() > 200 && latest().peak() == 0; });
-    }
-    Recording latest() {
-        const Recording sound = server.recorded();
-        return sound.part(sound.milliseconds() - 200, sound.milliseconds());
-    }
-
     TestMedia media;
     SoundServer server;
     MpvControl music;
@@ -64,9 +45,9 @@ TEST_F(SoundTest, MusicLoopsWithoutAGapAndStops) {
     RecordProperty("gap_us", static_cast<int>(gap * 1000));
 
     music.command(u"stop");
-    EXPECT_TRUE(waitForSilence());
+    EXPECT_TRUE(server.waitForSilence());
     music.command(u"play");
-    EXPECT_TRUE(waitForTone(500));
+    EXPECT_TRUE(server.waitForTone(500));
 }
 
 // Where the user of a player starts it again there is a gap: the measurement above would have seen one.
@@ -91,9 +72,9 @@ TEST_F(SoundTest, SilentIsSilentWhileTimePasses) {
     EXPECT_EQ(server.recorded().peak(), 0);
     EXPECT_GT(music.position(), 200);
     music.setSilent(MediaSound::On);
-    EXPECT_TRUE(waitForTone(500));
+    EXPECT_TRUE(server.waitForTone(500));
     music.setSilent(MediaSound::Silent);
-    EXPECT_TRUE(waitForSilence());
+    EXPECT_TRUE(server.waitForSilence());
 }
 
 TEST_F(SoundTest, TimePassesWhenTheDeviceIsPulledOut) {
@@ -113,14 +94,14 @@ TEST_F(SoundTest, EffectsCutEachOtherOff) {
     MixerEffectPlayer effects;
     effects.prepare();
     effects.play(sineWav(1000, 10000));
-    EXPECT_TRUE(waitForTone(1000));
+    EXPECT_TRUE(server.waitForTone(1000));
     effects.play(sineWav(2500, 10000));
-    EXPECT_TRUE(waitForTone(2500)) << "and no longer the first";
+    EXPECT_TRUE(server.waitForTone(2500)) << "and no longer the first";
     effects.play({});  // changes nothing
     runFor(300);
-    EXPECT_TRUE(waitForTone(2500));
+    EXPECT_TRUE(server.waitForTone(2500));
     effects.stop();
-    EXPECT_TRUE(waitForSilence());
+    EXPECT_TRUE(server.waitForSilence());
 
     ToneBeeper beeper(effects);
     server.rewind();
@@ -141,7 +122,7 @@ TEST_F(SoundTest, BrokenEffectsPlayNothing) {
     for (const QByteArray& broken :
          {QByteArray("RIFF"), good.left(30), good.left(44), QByteArray(5000, 'x'), noChannels})
         effects.play(broken);
-    EXPECT_EQ(listen(500).peak(), 0);
+    EXPECT_EQ(server.listen(500).peak(), 0);
     for (int at = 4; at < 44; ++at) {  // whatever is in its header: no crash, no hang
         QByteArray odd = good;
         odd[at] = static_cast<char>(0xFF);
@@ -152,20 +133,31 @@ TEST_F(SoundTest, BrokenEffectsPlayNothing) {
     effects.stop();
     runFor(200);
     effects.play(good);
-    EXPECT_TRUE(waitForTone(1000));
+    EXPECT_TRUE(server.waitForTone(1000));
 }
 
 TEST_F(SoundTest, EffectsFindADeviceThatComesBack) {
     MixerEffectPlayer effects;
     effects.play(sineWav(1000, 600));
-    EXPECT_TRUE(waitForTone(1000));
+    EXPECT_TRUE(server.waitForTone(1000));
     server.kill();
     effects.play(sineWav(1000, 100));
     runFor(300);
     ASSERT_TRUE(server.start());
     server.rewind();
     effects.play(sineWav(1000, 600));
-    EXPECT_TRUE(waitForTone(1000));
+    EXPECT_TRUE(server.waitForTone(1000));
+
+    ASSERT_TRUE(server.pullDevice());  // the server is there, but has nothing to play on
+    MixerEffectPlayer others;
+    for (MixerEffectPlayer* player : {&effects, &others}) player->play(sineWav(1000, 100));
+    runFor(500);
+    ASSERT_TRUE(server.plugDevice());
+    for (MixerEffectPlayer* player : {&effects, &others}) {
+        player->play(sineWav(1000, 600));
+        EXPECT_TRUE(server.waitForTone(1000));
+        EXPECT_TRUE(server.waitForSilence());
+    }
 }
 
 TEST(SoundlessTest, EffectsWithoutADeviceAreSilentAndQuick) {

@@ -115,6 +115,23 @@ void SoundServer::kill() {
     }
 }
 
+bool SoundServer::pullDevice() {
+    return QProcess::execute(QStringLiteral("pactl"),
+                             {QStringLiteral("unload-module"), QStringLiteral("module-null-sink")}) == 0;
+}
+
+bool SoundServer::plugDevice() {
+    QProcess command;
+    command.setStandardOutputFile(QProcess::nullDevice());
+    command.start(QStringLiteral("pactl"), {QStringLiteral("load-module"), QStringLiteral("module-null-sink"),
+                                            QStringLiteral("sink_name=nahravka")});
+    if (!command.waitForFinished() || command.exitCode() != 0) return false;
+    recorder_.kill();
+    recorder_.waitForFinished();
+    rewind();
+    return startRecording();
+}
+
 void SoundServer::rewind() {
     recorder_.readAllStandardOutput();
     bytes_.clear();
@@ -125,6 +142,25 @@ Recording SoundServer::recorded() {
     std::vector<qint16> samples(static_cast<std::size_t>(bytes_.size()) / 2);
     if (!samples.empty()) std::memcpy(samples.data(), bytes_.constData(), samples.size() * 2);
     return Recording(std::move(samples));
+}
+
+Recording SoundServer::listen(int milliseconds) {
+    rewind();
+    runFor(milliseconds);
+    return recorded();
+}
+
+Recording SoundServer::latest() {
+    const Recording sound = recorded();
+    return sound.part(sound.milliseconds() - 200, sound.milliseconds());
+}
+
+bool SoundServer::waitForTone(double hertz) {
+    return waitFor([&] { return latest().peak() > 3000 && latest().share(hertz) > 0.9; });
+}
+
+bool SoundServer::waitForSilence() {
+    return waitFor([&] { return recorded().milliseconds() > 200 && latest().peak() == 0; });
 }
 
 }  // namespace sarne

@@ -43,12 +43,22 @@ class SoundServer {
     bool start();
     /// Ends the server at once, as when the device is pulled out.
     void kill();
+    /// Takes the one device away while the server runs on, and puts it back.
+    bool pullDevice();
+    bool plugDevice();
     /// Forgets what was recorded until now.
     void rewind();
     /// What was recorded since rewind().
     Recording recorded();
+    /// What sounds in the next \a milliseconds.
+    Recording listen(int milliseconds);
+    /// Waits until nothing but a tone of \a hertz has sounded for a fifth of a second.
+    bool waitForTone(double hertz);
+    /// Waits until nothing has sounded for a fifth of a second.
+    bool waitForSilence();
 
   private:
+    Recording latest();
     bool startRecording();
 
     QTemporaryDir folder_;

@@ -55,17 +55,41 @@ QString TestMedia::write(const QString& name, const QByteArray& content) const {
     return path(name);
 }
 
-QString TestMedia::film(const QString& name, int milliseconds, const QString& options,
-                        const QString& size) const {
+QString TestMedia::film(const QString& name, int milliseconds, const QString& options, const QString& size,
+                        int rate) const {
     QProcess ffmpeg;
     QStringList arguments =
-        QStringLiteral("-v error -y -f lavfi -i testsrc=size=%1:rate=25 -f lavfi -i sine=800 -t %2")
+        QStringLiteral("-v error -y -f lavfi -i testsrc=size=%1:rate=%2 -f lavfi -i sine=800 -t %3")
             .arg(size)
+            .arg(rate)
             .arg(milliseconds / 1000.0)
             .split(u' ');
     arguments += options.split(u' ', Qt::SkipEmptyParts);
     ffmpeg.start(QStringLiteral("ffmpeg"), arguments << path(name));
     return ffmpeg.waitForFinished(120000) && ffmpeg.exitCode() == 0 ? path(name) : QString();
+}
+
+std::vector<BrokenFilm> brokenFilms(const TestMedia& media) {
+    const auto read = [&](const QString& options) {
+        QFile file(media.film(QStringLiteral("vzor.avi"), 1000, options + QStringLiteral(" -c:a pcm_s16le")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QByteArray film = read(QStringLiteral("-c:v mjpeg"));
+    if (film.size() < 10000) return {};
+    QByteArray unknown = film;
+    unknown.replace("MJPG", "QQQQ");
+    QByteArray sizeless = read(QStringLiteral("-c:v msvideo1 -pix_fmt rgb555le"));
+    for (qsizetype at : {sizeless.indexOf("avih") + 8 + 32, sizeless.indexOf("strf") + 8 + 4})
+        sizeless.replace(at, 8, QByteArray(8, '\0'));
+    return {{"empty", ""},
+            {"text", "Toto neni video.\n"},
+            {"playlist", "#EXTM3U\nhttp://127.0.0.1:9/a.avi\n"},
+            {"header only", film.left(200)},
+            {"RIFF only", QByteArray("RIFF\x10\0\0\0AVI ", 12)},
+            {"zeros", QByteArray(100000, '\0')},
+            {"unknown codec", unknown},
+            {"0 x 0", sizeless},
+            {"wav without samples", sineWav(440, 0)}};
 }
 
 bool waitFor(const std::function<bool()>& done, int milliseconds) {
@@ -92,6 +116,7 @@ ProcessUse ProcessUse::now() {
         for (const QByteArray& line : status.readAll().split('\n')) {
             const QByteArray number = line.simplified().split(' ').value(1);
             if (line.startsWith("Threads:")) use.threads = number.toInt();
+            if (line.startsWith("VmRSS:")) use.resident = number.toLongLong();
         }
     }
     use.files = static_cast<int>(QDir(QStringLiteral("/proc/self/fd"))

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <functional>
+#include <vector>
 
 namespace sarne {
 
@@ -19,21 +20,31 @@ class TestMedia {
     /// Has ffmpeg make a film of \a milliseconds with the options given ("-c:v cinepak"). Empty when it
     /// cannot.
     QString film(const QString& name, int milliseconds, const QString& options,
-                 const QString& size = QStringLiteral("320x240")) const;
+                 const QString& size = QStringLiteral("320x240"), int rate = 25) const;
     QString path(const QString& name) const { return folder_.filePath(name); }
 
   private:
     QTemporaryDir folder_;
 };
 
+/// What stands where a film should be, and cannot be played.
+struct BrokenFilm {
+    const char* what;
+    QByteArray content;
+};
+/// Files that are no films, or films that nobody can show. Empty when ffmpeg cannot make the film they come
+/// from.
+std::vector<BrokenFilm> brokenFilms(const TestMedia& media);
+
 /// Runs the event loop until \a done or \a milliseconds are over; whether it was done.
 bool waitFor(const std::function<bool()>& done, int milliseconds = 5000);
 /// Lets the event loop run for \a milliseconds.
 void runFor(int milliseconds);
 
-/// What this process holds: allocated memory in KiB, open files, threads.
+/// What this process holds: allocated and resident memory in KiB, open files, threads.
 struct ProcessUse {
     qint64 kilobytes = 0;
+    qint64 resident = 0;
     int files = 0;
     int threads = 0;
     static ProcessUse now();
