@@ -3,9 +3,8 @@
 #include <QStandardPaths>
 
 #include "app/program.h"
-#include "platform/mpvcontrol.h"
+#include "app/systemplatform.h"
 #include "platform/singleinstance.h"
-#include "platform/systemprinter.h"
 
 namespace {
 
@@ -34,34 +33,13 @@ int main(int argc, char** argv) {
     const SingleInstance instance;
     if (!instance.isFirst()) return 0;
 
-    const SystemSettingsStore settings;
-    const SteadyClock clock;
-    MixerEffectPlayer effects;
-    ToneBeeper beeper(effects);
-    MpvControl music;
-    music.setWait(MediaWait::DontWait);
-    music.setLoop(MediaLoop::On);
-    SystemDisplayModes display;
-    DesktopSleepInhibitor sleep;
-    SystemPrinter printer;
-    const PlatformParts platform{
-        settings,
-        clock,
-        effects,
-        beeper,
-        music,
-        display,
-        sleep,
-        printer,
-        [] { return std::make_unique<MpvControl>(); },
-        [](QObject& window) { return std::make_unique<AccessibleAnnouncer>(&window); }};
-
-    Program program(platform, {QApplication::applicationDirPath(),
-                               QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                                   QStringLiteral("/velisa-sarn")});
+    SystemPlatform platform;
+    Program program(platform.parts(), {QApplication::applicationDirPath(),
+                                       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                                           QStringLiteral("/velisa-sarn")});
     program.stage().setWindowTitle(QStringLiteral("Velisa sarn"));
     fillDisplay(program.stage());
     if (!program.Main(commandLine(application)) || program.hasEnded()) return 0;
-    effects.prepare();
+    platform.effects.prepare();
     return QApplication::exec();
 }

@@ -1,0 +1,23 @@
+#include "app/systemplatform.h"
+
+namespace sarne {
+
+SystemPlatform::SystemPlatform() {
+    music.setWait(MediaWait::DontWait);
+    music.setLoop(MediaLoop::On);
+}
+
+PlatformParts SystemPlatform::parts() {
+    return {settings,
+            clock,
+            effects,
+            beeper,
+            music,
+            display,
+            sleep,
+            printer,
+            [] { return std::make_unique<MpvControl>(); },
+            [](QObject& window) { return std::make_unique<AccessibleAnnouncer>(&window); }};
+}
+
+}  // namespace sarne

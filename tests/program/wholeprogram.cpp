@@ -1,0 +1,119 @@
+#include "wholeprogram.h"
+
+#include <QDir>
+#include <QProcess>
+
+#include "dialogs/frmmessage.h"
+#include "forms/button.h"
+#include "media/frmvideo.h"
+#include "screens/navigation/frmhlavni.h"
+#include "support/recipedatabase.h"
+
+namespace sarne {
+namespace {
+
+/// A resource file with the buttons' places and the tones of their effects.
+void writeResources(const TestMedia& media) {
+    QByteArray list = "<RCC><qresource prefix='/'><file alias='layout/hlavni.txt'>" SARNE_LAYOUT "</file>";
+    for (const int button : {2, 3, 5}) {
+        const QString effect =
+            media.write(QStringLiteral("%1.wav").arg(button + 101), sineWav(effectTone(button), 2000));
+        list +=
+            "<file alias='zvuky/" + QByteArray::number(button + 101) + ".wav'>" + effect.toUtf8() + "</file>";
+    }
+    const QString file = media.write(QStringLiteral("a.qrc"), list + "</qresource></RCC>");
+    QProcess::execute(QStringLiteral(SARNE_RCC), {QStringLiteral("--binary"), QStringLiteral("-o"),
+                                                  media.path(QStringLiteral("Sarne.rcc")), file});
+}
+
+}  // namespace
+
+WholeProgram::WholeProgram() {
+    qputenv("PULSE_SERVER", "unix:/nonexistent/pulse");
+    qputenv("ALSA_CONFIG_PATH", "/dev/null");
+    writeDisc();
+    settings_.set(QStringLiteral("CDPath"), media.path({}));
+    display_.size = {800, 600};
+    QObject::connect(&reader_, &QTimer::timeout, [this] {
+        const auto* box = qobject_cast<frmMessage*>(program ? program->stage().modalForm() : nullptr);
+        if (!box) return;
+        messages << box->accessibleName();
+        press(Qt::Key_Return);
+    });
+    reader_.start(20);
+}
+
+WholeProgram::~WholeProgram() {
+    if (program) end();
+}
+
+void WholeProgram::writeDisc() {
+    for (const char* folder : {"zvuky", "VIDEO"}) QDir(media.path({})).mkpath(QLatin1String(folder));
+    media.write(QStringLiteral("HUDBA.WAV"), sineWav(kMusicTone, 1000));
+    media.write(QStringLiteral("zvuky/Vina.WAV"), sineWav(kWineTone, 1000));
+    media.film(QStringLiteral("VIDEO/1.AVI"), 2000, QStringLiteral("-c:v mjpeg -c:a pcm_s16le"));
+    writeResources(media);
+    test::writeRecipeDatabase(
+        media.path(QStringLiteral("Sarne.drc")),
+        {QStringLiteral("INSERT INTO Nastav VALUES (1,'a',1),(2,'b',1),(3,'c',1),(4,'d',1),(5,'e',0)")});
+}
+
+void WholeProgram::start(const char* switches) {
+    for (int i = 0; switches && i < 5; ++i) {
+        Database database;
+        database.Open(media.path(QStringLiteral("Sarne.drc")));
+        database.Execute(QStringLiteral("UPDATE Nastav SET hodnota=%1 WHERE ID=%2")
+                             .arg(QLatin1Char(switches[i]))
+                             .arg(i + 1));
+    }
+    platform = std::make_unique<SystemPlatform>();
+    const PlatformParts system = platform->parts();
+    program = std::make_unique<Program>(
+        PlatformParts{settings_, system.clock, system.effects, system.beeper, system.music, display_,
+                      system.sleep, system.printer, system.makePlayer, system.makeAnnouncer},
+        Folders{media.path({}), media.path({})});
+    program->stage().resize(800, 600);
+    program->stage().show();
+    program->stage().activateWindow();
+    QApplication::processEvents();
+    ASSERT_TRUE(program->Main({}));
+    platform->effects.prepare();
+}
+
+void WholeProgram::end() {
+    program->ConfirmExit();
+    EXPECT_TRUE(program->hasEnded());
+    program.reset();
+    platform.reset();
+}
+
+QWidget* WholeProgram::control(const char* name) {
+    return program->FormStack.top()->findChild<QWidget*>(QLatin1String(name));
+}
+
+void WholeProgram::click(const char* name) {
+    QTest::mouseClick(control(name), Qt::LeftButton);
+}
+
+void WholeProgram::pointAt(int button) {
+    QWidget* place = control(qPrintable(QStringLiteral("imgClick(%1)").arg(button)));
+    QTest::mouseMove(place, place->rect().center());
+}
+
+void WholeProgram::set(std::initializer_list<const char*> controls) {
+    press(Qt::Key_F4);
+    for (const char* name : controls) click(name);
+    click("cmdOkEnd(0)");
+}
+
+QString WholeProgram::status() {
+    const auto* form = top<frmVideo>();
+    return form ? form->findChild<Label*>(QStringLiteral("Label1"))->text() : QString();
+}
+
+void WholeProgram::showFilm(int number, const QString& expected) {
+    program->screens().showVideo(std::int16_t(number));
+    EXPECT_TRUE(waitFor([&] { return status() == expected; })) << number << ": " << status().toStdString();
+}
+
+}  // namespace sarne
