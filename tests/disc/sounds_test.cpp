@@ -52,10 +52,20 @@ QList<Effect> shippedEffects(Problems& problems) {
     return readEffects(folder.read(QStringLiteral("zvuky/efekty.txt")), problems);
 }
 
+/// How loud the loudest eighth of a second is, in decibels.
+double loudness(const Sound& sound) {
+    constexpr double span = 0.125, step = 0.005;
+    double loudest = 0;
+    for (double from = 0; from + span <= sound.seconds(); from += step)
+        loudest = std::max(loudest, energy(sound, from, span));
+    return 20 * std::log10(loudest);
+}
+
 TEST(Effects, EveryButtonHasOneThatIsShortQuietEnoughAndAtRestAtBothEnds) {
     Problems problems;
     QList<int> numbers;
     QList<std::vector<float>> sounds;
+    QList<double> levels;
     for (const Effect& effect : shippedEffects(problems)) {
         if (effect.number == 0) continue;
         SCOPED_TRACE(effect.number);
@@ -70,7 +80,10 @@ TEST(Effects, EveryButtonHasOneThatIsShortQuietEnoughAndAtRestAtBothEnds) {
         EXPECT_EQ(renderEffect(effect).samples, sound.samples);
         numbers << effect.number;
         sounds << sound.samples;
+        if (effect.number > 100) levels << loudness(sound);
     }
+    const auto [quietest, loudest] = std::minmax_element(levels.begin(), levels.end());
+    EXPECT_LT(*loudest - *quietest, 6) << "no button is much louder than another";
     EXPECT_EQ(problems.errors(), QStringList());
     EXPECT_GE(numbers.size(), 30);
     for (int button = 0; button <= 20; ++button) EXPECT_TRUE(numbers.contains(101 + button)) << button;

@@ -13,7 +13,7 @@ namespace {
 const QString kVersion = QStringLiteral("1");
 const QString kEffects = QStringLiteral("zvuky/efekty.txt");
 /// Music stays in the background of the effects and the voice.
-constexpr double kMusicPeak = -6;
+constexpr double kMusicPeak = -10;
 constexpr int kFirstButton = 101;
 constexpr int kLastButton = 121;
 
