@@ -86,6 +86,30 @@ void BM_NewPlayerToFirstFrame(benchmark::State& state) {
 }
 BENCHMARK(BM_NewPlayerToFirstFrame)->Iterations(20)->Unit(benchmark::kMillisecond);
 
+/// From a jump in a film of an hour to its first picture there.
+void BM_SeekInAnHour(benchmark::State& state) {
+    const TestMedia media;
+    MpvControl player;
+    player.setFileName(media.film(QStringLiteral("a.avi"), 3600000,
+                                  QStringLiteral("-c:v mjpeg -c:a pcm_u8 -ar 8000"),
+                                  QStringLiteral("160x120"), 5));
+    player.command(u"open");  // and stays stopped: what is shown comes of the jump
+    bool shown = false;
+    QObject::connect(&player, &MultimediaControl::frameReady, &player, [&] { shown = true; });
+    qint64 minute = 50;
+    for (auto _ : state) {
+        state.PauseTiming();
+        runFor(300);
+        shown = false;
+        state.ResumeTiming();
+        player.setPosition(minute * 60000);
+        if (!waitFor([&] { return shown && !player.renderFrame({800, 600}).isNull(); }))
+            state.SkipWithError("no picture");
+        minute = 60 - minute;
+    }
+}
+BENCHMARK(BM_SeekInAnHour)->Iterations(20)->Unit(benchmark::kMillisecond);
+
 /// The share of one core that a film of 320 x 240 takes at this size.
 void BM_PlayFilm(benchmark::State& state) {
     const QSize size(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
