@@ -63,6 +63,7 @@ int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QStri
         expectedFile.isEmpty() || (expected.open(QIODevice::ReadOnly) && expected.readAll() == shown);
     if (!same) out << "The texts of tour.txt differ from those expected in " << expectedFile << '\n';
     for (const QString& fault : tour.faults()) out << fault << '\n';
+    out << "Least contrast of a text: " << tour.leastContrast() << '\n';
     return same && tour.faults().isEmpty() ? 0 : 1;
 }
 
