@@ -40,7 +40,8 @@ void checkTypography(const QString& text, const Place& place, Problems& problems
 }
 
 QString withUnbreakableBlanks(QString text) {
-    // A link phrase or another font takes the whole word in which it begins, so nothing is joined to its front.
+    // A link phrase or another font takes the whole word in which it begins, so nothing is joined to its
+    // front.
     static const QRegularExpression preposition(
         QStringLiteral("(?<![\\p{L}\\p{N}])([ksvzouaiKSVZOUAI]) (?=[^\\s\\[*_])"));
     static const QRegularExpression number(QStringLiteral("(\\d[.]?) (?=[\\p{L}°%])"));
