@@ -1,11 +1,23 @@
 #include "forms/bassarne.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 #include "forms/resources.h"
 #include "platform/effectplayer.h"
 
 namespace sarne {
+namespace {
+
+Q_LOGGING_CATEGORY(lackingMedia, "sarne.media")
+
+}  // namespace
+
+Picture basSarne::mediaPicture(const QString& relative) const {
+    const QString file = mediaFile(relative);
+    if (file.isEmpty()) qCWarning(lackingMedia).noquote() << "no picture at" << relative;
+    return Picture::fromFile(file);
+}
 
 void basSarne::PlayEffect(int n) {
     EffectWave.clear();

@@ -73,7 +73,8 @@ class basSarne {
     /// The native path of a media file given relative to the media root ("foto\Male\r1.bmp"); empty when
     /// missing.
     QString mediaFile(const QString& relative) const { return paths_.resolve(MediaRoot + relative); }
-    Picture mediaPicture(const QString& relative) const { return Picture::fromFile(mediaFile(relative)); }
+    /// The picture of that file; empty when missing, which is logged.
+    Picture mediaPicture(const QString& relative) const;
 
     /// Plays sound effect \a n, resource n + 1, cutting off the one that sounds. A missing one plays nothing.
     void PlayEffect(int n);

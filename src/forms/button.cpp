@@ -96,7 +96,7 @@ void Button::paint(QPainter& painter) {
     if (frame_ != Frame::None) paintFrame(painter, place);
     if (!caption_.isEmpty()) {
         painter.setFont(font_.toQFont());
-        painter.setPen(colors::kTitle);
+        painter.setPen(colors::kPaper);
         painter.drawText(inside, Qt::AlignCenter | Qt::TextShowMnemonic, caption_);
     }
     if (showsFocus()) paintFocusRing(painter, place);

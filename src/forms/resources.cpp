@@ -2,11 +2,14 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QPixmap>
 #include <QResource>
 
 namespace sarne {
 namespace {
+
+Q_LOGGING_CATEGORY(lackingPictures, "sarne.pictures")
 
 QByteArray readAll(const QString& path) {
     QFile file(path);
@@ -38,8 +41,11 @@ QString Resources::find(const QString& folder, const QString& name) const {
 }
 
 Picture Resources::picture(const QString& name) const {
-    if (!pictures_.contains(name)) pictures_[name] = Picture::fromFile(find(QStringLiteral("obr"), name));
-    return pictures_[name];
+    if (pictures_.contains(name)) return pictures_[name];
+    const QString file = find(QStringLiteral("obr"), name);
+    if (file.isEmpty() && !name.isEmpty())
+        qCWarning(lackingPictures).noquote() << "no picture is called" << name;
+    return pictures_[name] = Picture::fromFile(file);
 }
 
 std::vector<Picture> Resources::animation(int button) const {

@@ -18,7 +18,7 @@ class Resources {
     /// Makes the resource file at the native path \a file the source. False when it cannot be read.
     bool load(const QString& file);
 
-    /// The picture called \a name, whatever the case of its letters.
+    /// The picture called \a name, whatever the case of its letters. A missing one is logged.
     Picture picture(const QString& name) const;
     /// The frames of a main-screen button's animation, in order.
     std::vector<Picture> animation(int button) const;

@@ -45,12 +45,15 @@ TEST_F(MarkupTest, SwitchesFontsInFrontOfWholeWords) {
     EXPECT_EQ(body("To **je dobré**, ano"), "To \\b je dobr\\'e9, \\b0 ano\\par|}");
     EXPECT_EQ(body("**Konec**"), "\\b Konec\\par\\b0|}");
     EXPECT_EQ(body("_sic_ ne"), "\\i sic \\i0 ne\\par|}");
+    EXPECT_EQ(body("s **vínem**"), "s \\b v\\'ednem\\par\\b0|}");
 }
 
 TEST_F(MarkupTest, MarksLinkPhrasesAsOneWord) {
     EXPECT_EQ(body("[kapra na -> kapr], dobře"), "*12kapra na*, dob\\'f8e\\par|}");
     EXPECT_EQ(body("viz [film -> video 7]"), "viz @7film@\\par|}");
     EXPECT_EQ(body("[2 ryby -> losos]"), "*1502\\~ryby*\\par|}");
+    // What is joined to the front of a phrase would be drawn, and clicked, as a part of it.
+    EXPECT_EQ(body("u [kapra -> kapr] i\n[losos]"), "u *12kapra* i *150losos*\\par|}");
     EXPECT_FALSE(problems_.hasErrors());
 }
 

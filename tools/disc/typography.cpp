@@ -40,8 +40,10 @@ void checkTypography(const QString& text, const Place& place, Problems& problems
 }
 
 QString withUnbreakableBlanks(QString text) {
+    // A link phrase or another font takes the whole word in which it begins, so nothing is joined to its
+    // front.
     static const QRegularExpression preposition(
-        QStringLiteral("(?<![\\p{L}\\p{N}])([ksvzouaiKSVZOUAI]) (?=\\S)"));
+        QStringLiteral("(?<![\\p{L}\\p{N}])([ksvzouaiKSVZOUAI]) (?=[^\\s\\[*_])"));
     static const QRegularExpression number(QStringLiteral("(\\d[.]?) (?=[\\p{L}°%])"));
     const QString unbreakable = QStringLiteral("\\1\u00a0");
     return text.replace(preposition, unbreakable).replace(number, unbreakable);

@@ -50,6 +50,18 @@ bool copyProgramFolder(const QString& from, const QString& to) {
     return true;
 }
 
+/// What the program logged as lacking, a line each. Each is a fault: the disc is to be complete.
+QStringList& lacking() {
+    static QStringList lines;
+    return lines;
+}
+
+void keepLacking(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    const bool ours = QByteArrayView(context.category).startsWith("sarne.");
+    if (ours && type >= QtWarningMsg && !lacking().contains(text)) lacking() << text;
+    if (!ours) QTextStream(stderr) << text << '\n';
+}
+
 int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QString& run,
            const QString& expectedFile, bool accept) {
     QFile texts(pictures.filePath(QStringLiteral("tour.txt")));
@@ -62,8 +74,9 @@ int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QStri
     const bool same =
         expectedFile.isEmpty() || (expected.open(QIODevice::ReadOnly) && expected.readAll() == shown);
     if (!same) out << "The texts of tour.txt differ from those expected in " << expectedFile << '\n';
-    for (const QString& fault : tour.faults()) out << fault << '\n';
-    return same && tour.faults().isEmpty() ? 0 : 1;
+    for (const QString& fault : tour.faults() + lacking()) out << fault << '\n';
+    out << "Least contrast of a text: " << tour.leastContrast() << '\n';
+    return same && tour.faults().isEmpty() && lacking().isEmpty() ? 0 : 1;
 }
 
 }  // namespace
@@ -73,6 +86,7 @@ int main(int argc, char** argv) {
     using namespace sarne;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    qInstallMessageHandler(keepLacking);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::Czech, QLocale::CzechRepublic));
     QTextStream out(stderr);

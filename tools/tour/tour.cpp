@@ -8,6 +8,7 @@
 #include "forms/control.h"
 #include "forms/label.h"
 #include "screentext.h"
+#include "textcontrast.h"
 
 namespace sarne {
 
@@ -23,6 +24,21 @@ void Tour::stop(const QString& form, const QString& what) {
     if (there != form) fault(QStringLiteral("%1: %2 is in front").arg(name, there));
     picture(name);
     texts_ << QStringLiteral("== ") + name + u'\n' + textsOn(program_.stage());
+    checkContrast(name);
+}
+
+void Tour::checkContrast(const QString& name) {
+    constexpr double kReadable = 4.5;  // as web pages are asked to keep
+    for (const TextContrast& text : textContrasts(program_.stage())) {
+        leastContrast_ = std::min(leastContrast_, text.contrast);
+        if (text.contrast >= kReadable) continue;
+        fault(QStringLiteral("%1: \"%2\" at %3, %4 has a contrast of %5 (%6 on %7)")
+                  .arg(name, text.text)
+                  .arg(text.place.x())
+                  .arg(text.place.y())
+                  .arg(text.contrast, 0, 'f', 1)
+                  .arg(text.ink.name(), text.ground.name()));
+    }
 }
 
 bool Tour::has(const QString& control) const {

@@ -24,7 +24,8 @@ class Tour {
     /// Saves the splash while the intro plays, and ends the intro by a key. To be called before the program
     /// starts.
     void skipIntro();
-    /// Expects the form \a form in front and saves it as "form-what.png"; its texts are kept.
+    /// Expects the form \a form in front and saves it as "form-what.png"; its texts are kept, and each has to
+    /// stand out from its ground.
     void stop(const QString& form, const QString& what = {});
     /// Whether the form in front has a control called \a control that can be seen.
     bool has(const QString& control) const;
@@ -50,6 +51,8 @@ class Tour {
 
     /// All texts kept, stop by stop.
     QString texts() const { return texts_.join(QStringLiteral("\n\n")) + u'\n'; }
+    /// The contrast of the text that was hardest to tell from its ground.
+    double leastContrast() const { return leastContrast_; }
     const QStringList& faults() const { return faults_; }
     void fault(const QString& text) { faults_ << text; }
 
@@ -57,10 +60,12 @@ class Tour {
     Form* front() const;
     QWidget* find(const QString& control);
     void clickWidget(QWidget& widget);
+    void checkContrast(const QString& name);
 
     Program& program_;
     QDir pictures_;
     QStringList texts_, faults_;
+    double leastContrast_ = 21;
 };
 
 /// Everywhere the tour goes.

@@ -1,0 +1,188 @@
+#include "textcontrast.h"
+
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QWidget>
+#include <algorithm>
+#include <cmath>
+
+namespace sarne {
+namespace {
+
+double luminance(const QColor& color) {
+    const auto linear = [](double c) {
+        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// Paints on an image what it is told to paint, and looks at the ground before each text.
+class WatchingEngine final : public QPaintEngine {
+  public:
+    explicit WatchingEngine(QImage& image) : QPaintEngine(AllFeatures), image_(image) {}
+
+    /// What was painted and not painted over since.
+    std::vector<TextContrast> found() const {
+        std::vector<TextContrast> shown;
+        for (const auto& [text, looks] : painted_)
+            if (isThere(looks, text.place)) shown.push_back(text);
+        return shown;
+    }
+
+    Type type() const override { return User; }
+    bool begin(QPaintDevice*) override { return painter_.begin(&image_); }
+    bool end() override { return painter_.end(); }
+
+    void updateState(const QPaintEngineState& now) override {
+        painter_.setPen(now.pen());
+        painter_.setBrush(now.brush());
+        painter_.setBrushOrigin(now.brushOrigin());
+        painter_.setBackground(now.backgroundBrush());
+        painter_.setBackgroundMode(now.backgroundMode());
+        painter_.setOpacity(now.opacity());
+        painter_.setCompositionMode(now.compositionMode());
+        painter_.setRenderHints(painter_.renderHints(), false);
+        painter_.setRenderHints(now.renderHints());
+        painter_.setTransform(now.transform());
+    }
+    void drawPath(const QPainterPath& path) override { painter().drawPath(path); }
+    void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override {
+        if (mode == PolylineMode) return painter().drawPolyline(points, count);
+        painter().drawPolygon(points, count, mode == WindingMode ? Qt::WindingFill : Qt::OddEvenFill);
+    }
+    void drawRects(const QRectF* rects, int count) override { painter().drawRects(rects, count); }
+    void drawLines(const QLineF* lines, int count) override { painter().drawLines(lines, count); }
+    void drawEllipse(const QRectF& place) override { painter().drawEllipse(place); }
+    void drawPixmap(const QRectF& place, const QPixmap& pixmap, const QRectF& part) override {
+        painter().drawPixmap(place, pixmap, part);
+    }
+    void drawTiledPixmap(const QRectF& place, const QPixmap& pixmap, const QPointF& offset) override {
+        painter().drawTiledPixmap(place, pixmap, offset);
+    }
+    void drawImage(const QRectF& place, const QImage& image, const QRectF& part,
+                   Qt::ImageConversionFlags flags) override {
+        painter().drawImage(place, image, part, flags);
+    }
+    void drawTextItem(const QPointF& at, const QTextItem& item) override {
+        QPainter& watched = painter();
+        const TextContrast text = judged(at, item);
+        watched.drawTextItem(at, item);
+        if (text.place.isEmpty()) return;
+        std::erase_if(painted_, [&](const Painted& earlier) { return isShadow(earlier.text, text); });
+        painted_.push_back({text, image_.copy(text.place)});
+    }
+
+  private:
+    struct Painted {
+        TextContrast text;
+        QImage looks;
+    };
+
+    /// The painter, held to the widget that paints now. Clips of the widgets' own are left out: what they
+    /// keep from a text's ground would matter little, and Qt restores them in the wrong place for such an
+    /// engine.
+    QPainter& painter() {
+        if (const QRegion widget = systemClip(); widget != visible_) {
+            visible_ = widget;
+            const QTransform transform = painter_.transform();
+            painter_.resetTransform();
+            painter_.setClipRegion(visible_);
+            painter_.setTransform(transform);
+        }
+        return painter_;
+    }
+
+    /// The text's contrast with what lies there now; an empty place when nothing of it will show.
+    TextContrast judged(const QPointF& at, const QTextItem& item) const {
+        const QRectF letters(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
+        const QRect place = (visible_ & painter_.transform().mapRect(letters).toAlignedRect()).boundingRect();
+        if (place.isEmpty() || item.text().trimmed().isEmpty()) return {};
+        const QColor ink = painter_.pen().color();
+        std::vector<std::pair<double, QRgb>> grounds;
+        for (int y = place.top(); y <= place.bottom(); ++y)
+            for (int x = place.left(); x <= place.right(); ++x)
+                grounds.emplace_back(contrastRatio(ink, QColor(image_.pixel(x, y))), image_.pixel(x, y));
+        const auto worst = grounds.begin() + std::ptrdiff_t(grounds.size() / 20);
+        std::nth_element(grounds.begin(), worst, grounds.end());
+        return {item.text(), place, ink, QColor(worst->second), worst->first};
+    }
+
+    static bool isShadow(const TextContrast& earlier, const TextContrast& text) {
+        const QPoint apart = earlier.place.topLeft() - text.place.topLeft();
+        return earlier.text == text.text && apart.manhattanLength() < text.place.height() / 2;
+    }
+
+    bool isThere(const QImage& looks, const QRect& place) const {
+        int same = 0;
+        for (int y = 0; y < looks.height(); ++y)
+            for (int x = 0; x < looks.width(); ++x)
+                same += looks.pixel(x, y) == image_.pixel(place.topLeft() + QPoint(x, y));
+        return same > looks.width() * looks.height() / 2;
+    }
+
+    QImage& image_;
+    std::vector<Painted> painted_;
+    QPainter painter_;
+    QRegion visible_;
+};
+
+/// A picture that tells the contrasts of the texts painted on it.
+class WatchedPicture final : public QPaintDevice {
+  public:
+    explicit WatchedPicture(QSize size) : image_(size, QImage::Format_RGB32), engine_(image_) {
+        image_.fill(Qt::black);
+    }
+    QPaintEngine* paintEngine() const override { return &engine_; }
+    std::vector<TextContrast> found() const { return engine_.found(); }
+
+  protected:
+    int metric(PaintDeviceMetric metric) const override {
+        constexpr double kInchMillimetres = 25.4;
+        switch (metric) {
+            case PdmWidth:
+                return image_.width();
+            case PdmHeight:
+                return image_.height();
+            case PdmWidthMM:
+                return int(image_.width() * kInchMillimetres / image_.logicalDpiX());
+            case PdmHeightMM:
+                return int(image_.height() * kInchMillimetres / image_.logicalDpiY());
+            case PdmNumColors:
+                return 0;
+            case PdmDepth:
+                return image_.depth();
+            case PdmDpiX:
+            case PdmPhysicalDpiX:
+                return image_.logicalDpiX();
+            case PdmDpiY:
+            case PdmPhysicalDpiY:
+                return image_.logicalDpiY();
+            case PdmDevicePixelRatio:
+                return 1;
+            case PdmDevicePixelRatioScaled:
+                return int(QPaintDevice::devicePixelRatioFScale());
+        }
+        return 0;
+    }
+
+  private:
+    QImage image_;
+    mutable WatchingEngine engine_;
+};
+
+}  // namespace
+
+double contrastRatio(const QColor& one, const QColor& other) {
+    constexpr double kFlare = 0.05;
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + kFlare) / (dark + kFlare);
+}
+
+std::vector<TextContrast> textContrasts(QWidget& widget) {
+    WatchedPicture picture(widget.size());
+    widget.render(&picture);
+    return picture.found();
+}
+
+}  // namespace sarne
