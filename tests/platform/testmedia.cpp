@@ -109,6 +109,7 @@ void runFor(int milliseconds) {
 
 ProcessUse ProcessUse::now() {
     ProcessUse use;
+    malloc_trim(0);  // what is free is not held
     const struct mallinfo2 memory = mallinfo2();
     use.kilobytes = static_cast<qint64>((memory.uordblks + memory.hblkhd) / 1024);
     QFile status(QStringLiteral("/proc/self/status"));
@@ -116,7 +117,7 @@ ProcessUse ProcessUse::now() {
         for (const QByteArray& line : status.readAll().split('\n')) {
             const QByteArray number = line.simplified().split(' ').value(1);
             if (line.startsWith("Threads:")) use.threads = number.toInt();
-            if (line.startsWith("VmRSS:")) use.resident = number.toLongLong();
+            if (line.startsWith("RssAnon:") || line.startsWith("VmSwap:")) use.pages += number.toLongLong();
         }
     }
     use.files = static_cast<int>(QDir(QStringLiteral("/proc/self/fd"))

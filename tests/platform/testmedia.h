@@ -41,10 +41,11 @@ bool waitFor(const std::function<bool()>& done, int milliseconds = 5000);
 /// Lets the event loop run for \a milliseconds.
 void runFor(int milliseconds);
 
-/// What this process holds: allocated and resident memory in KiB, open files, threads.
+/// What this process holds: allocated memory and all its own pages in KiB, open files, threads. Pages of
+/// libraries do not count: the system takes them away and brings them back as it likes.
 struct ProcessUse {
     qint64 kilobytes = 0;
-    qint64 resident = 0;
+    qint64 pages = 0;
     int files = 0;
     int threads = 0;
     static ProcessUse now();

@@ -62,16 +62,24 @@ TEST_F(ProgramVideoTest, AHundredOpeningsKeepNothing) {
             press(Qt::Key_Escape);
             runFor(10);
         }
-        runFor(100);
+        runFor(300);
     };
-    open(50);
+    open(25);
     const ProcessUse before = ProcessUse::now();
-    open(50);
-    const ProcessUse after = ProcessUse::now();
-    RecordProperty("resident_growth_kb", static_cast<int>(after.resident - before.resident));
-    EXPECT_LT(after.resident, before.resident + 2048);
-    EXPECT_LE(after.files, before.files);
-    EXPECT_LE(after.threads, before.threads);
+    // What leaks grows every time; memory that the players' threads share out anew does so once in a while.
+    ProcessUse last = before;
+    qint64 leastGrowth = std::numeric_limits<qint64>::max();
+    for (int block = 0; block < 4; ++block) {
+        open(25);
+        const ProcessUse now = ProcessUse::now();
+        leastGrowth = std::min(leastGrowth, now.pages - last.pages);
+        last = now;
+    }
+    RecordProperty("least_growth_kb", static_cast<int>(leastGrowth));
+    EXPECT_LT(leastGrowth, 500);
+    EXPECT_LT(last.kilobytes, before.kilobytes + 1000);
+    EXPECT_LE(last.files, before.files);
+    EXPECT_LE(last.threads, before.threads);
 }
 
 TEST_F(ProgramVideoTest, AFilmOfAnHourIsSoughtAtOnce) {
