@@ -2,7 +2,7 @@
 
 blender -b -P art/hlavni.py -- pozadi [samples]          the room at rest
 blender -b -P art/hlavni.py -- pohyby [samples [button…]]  the frames of the moving things; those that exist are skipped
-blender -b -P art/hlavni.py -- zkouska SAMPLES [button…]       frames for a look, into build/zkouska; later frames are rendered only where these change
+blender -b -P art/hlavni.py -- zkouska SAMPLES [button…]       frames for a look, into build/zkouska
 blender -b -P art/hlavni.py -- nahled FILE WIDTH SAMPLES  a quick look
 """
 import os
@@ -14,13 +14,14 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import numpy as np  # noqa: E402
 
 import kitchen as H  # noqa: E402
+from kitchen.place import seen_at  # noqa: E402
 from lib import core  # noqa: E402
 
 OUT = os.path.join(core.RENDERED, "hlavni")
 WIDTH, HEIGHT, TWIPS = 1600, 1200, 7.5
 FRAMES = 10
 LOOK = os.path.join(core.BUILD, "zkouska")
-MARGIN = 14   # pixels round all that changes
+SHADOW = 34   # pixels round all that moves
 EDGE = 12   # pixels over which a frame fades towards its own edge
 POSITIONS = ((9335, 370), (317, 13), (5232, 7416), (1478, 8326), (1980, 1253), (4288, 5003), (4874, 1320), (5738, 1880), (4563, 5041), (4746, 6021),
              (1702, 5065), (2455, 4493), (5127, 4720), (267, 8186), (243, 3028), (7029, 3205), (8713, 2879), (8519, 1542), (8736, 6721))
@@ -105,15 +106,36 @@ def render(button, phase, samples, box, fx, fy):
     return shown(core.render_linear(WIDTH, HEIGHT, samples, box))
 
 
+def meshes(part):
+    """All meshes of a moving part: an object, or a tuple of objects and numbers."""
+    if isinstance(part, (tuple, list)):
+        return [m for p in part for m in meshes(p)]
+    return [o for o in core.tree(part) if o.type == "MESH"] if hasattr(part, "children") else []
+
+
+def points(mesh):
+    """Where the vertices of a mesh are seen, pixels of the room's picture."""
+    v = np.empty(len(mesh.data.vertices) * 3, np.float32)
+    mesh.data.vertices.foreach_get("co", v)
+    world = np.array(mesh.matrix_world)
+    return WIDTH / 800 * seen_at(v.reshape(-1, 3) @ world[:3, :3].T + world[:3, 3])
+
+
 def lively(button, box):
-    """The part of a frame in which, as a look at few samples showed, anything changes; all of it without such a look."""
-    names = [os.path.join(LOOK, f"{button:02d}-{k:02d}.png") for k in range(1, FRAMES)]
-    if not all(os.path.exists(n) for n in names):
+    """The part of a frame in which anything moves, with room for its shadow."""
+    parts = meshes(P[H.PARTS[button]])
+    seen = []
+    for k in range(FRAMES):
+        H.pose(P, button, k / FRAMES)
+        core.bpy.context.view_layer.update()
+        now = [points(m) for m in parts]
+        if k == 0:
+            rest = now
+        seen += [q for r, n in zip(rest, now) if np.abs(r - n).max() > .2 for q in (r, n)]
+    if not seen or button in H.SHINING:
         return box
-    seen = np.max([core._load(n)[..., 3] for n in names], axis=0)[::-1] > .01
-    rows, columns = np.flatnonzero(seen.any(axis=1)), np.flatnonzero(seen.any(axis=0))
-    return (max(box[0], box[0] + columns[0] - MARGIN), max(box[1], box[1] + rows[0] - MARGIN),
-            min(box[2], box[0] + columns[-1] + MARGIN), min(box[3], box[1] + rows[-1] + MARGIN))
+    low, high = np.min([q.min(axis=0) for q in seen], axis=0) - SHADOW, np.max([q.max(axis=0) for q in seen], axis=0) + SHADOW
+    return (max(box[0], int(low[0])), max(box[1], int(low[1])), min(box[2], int(high[0])), min(box[3], int(high[1])))
 
 
 def within(part, inner, box):
@@ -135,14 +157,14 @@ def frames(folder, ground, samples, buttons):
             continue
         started = time.time()
         box, fx, fy = region(b, sizes[b])
-        inner = lively(b, box) if folder != LOOK else box
+        inner = lively(b, box)
         below = shifted(ground, inner, fx, fy)
         rest = render(b, 0, samples, inner, fx, fy)
         for k, name in enumerate(names, 1):
             now = rest if k == FRAMES else render(b, k / FRAMES, samples, inner, fx, fy)
             store(within(over(now, rest, below), inner, box), name)
         H.pose(P, b, 0)
-        print("FRAMES", b, round(time.time() - started), flush=True)
+        print("FRAMES", b, inner, round(time.time() - started), flush=True)
 
 
 a = core.arguments()

@@ -251,12 +251,14 @@ def konec():
         H.pose(P, b, 0)
     H.pose(P, 0, .5)
     for l in bpy.data.lights:
-        l.energy *= .035 if l.name != "lamp" else .10
-    core._materials["lampglass"].node_tree.nodes["Principled BSDF"].inputs["Emission Strength"].default_value = .8
-    core._materials["dial"].node_tree.nodes["Principled BSDF"].inputs["Emission Strength"].default_value = .25
-    core.scene.world.node_tree.nodes["Background"].inputs[1].default_value = .16
+        l.energy *= .05 if l.name != "lamp" else .14
+    glows = {"lampglass": .55, "dial": .25, "projlens": .05, "eyegreen": .12, "skin-goldfish-raw-0-8": .12, "skin-perch-raw-0-9": .08}
+    for name, strength in glows.items():
+        core._materials[name].node_tree.nodes["Principled BSDF"].inputs["Emission Strength"].default_value = strength
+    core._materials["aquawater"].node_tree.nodes["Emission"].inputs[1].default_value = .005
+    core.scene.world.node_tree.nodes["Background"].inputs[1].default_value = .2
     x = H.at_wall(70, 210)
-    area((x.x, x.y - 1.2, x.z + 1), (6, 14, 7), 5, 1300, "7fc4cf")
+    area((x.x, x.y - 1.2, x.z + 1), (6, 14, 7), 5, 2100, "7fc4cf")
 
 
 def vino256():

@@ -121,10 +121,10 @@ def radio(P, f, w):
 
 
 def pot(P, f, w):
-    _, lid = P["pot"]
+    lid, steam = P["pot"]
     up, rattle = rise(f), math.sin(3 * w) * rise(f)
     _move(lid, dz=.55 * up + .08 * rattle, ry=9 * up + 4 * rattle, rx=5 * rattle, dx=.2 * up)
-    for i, s in enumerate(P["steam"]):
+    for i, s in enumerate(steam):
         q = (f + i * .618) % 1
         put(s, -2.1 + .42 * i + .3 * math.sin(5 * q + i), -2.1 + .1 * i, 2.7 + 2.2 * q, scale=.55 + .75 * q)
         s.color = (1.9 * up * math.sin(math.pi * q), 0, 0, 1)
@@ -166,9 +166,10 @@ def brush(P, f, w):
 
 def season(P, f, w):
     """The leaf of the calendar is turned up, the flame flickers."""
-    _move(P["leaf"], rx=-118 * rise(f))
+    leaf, flame = P["season"]
+    _move(leaf, rx=-118 * rise(f))
     sn = math.sin(w)
-    _move(P["candle"], sx=1 + .25 * sn, sz=1 + .3 * math.sin(2 * w), ry=14 * sn)
+    _move(flame, sx=1 + .25 * sn, sz=1 + .3 * math.sin(2 * w), ry=14 * sn)
 
 
 def wine(P, f, w):
@@ -199,6 +200,9 @@ def projector(P, f, w):
 
 
 MOVES = (door, plaque, tub, basket, books, pan, clock, radio, pot, aquarium, camera, crate, board, brush, season, wine, salad, cloche, projector)
+
+PARTS = ("door", "plaque", "tub", "basket", "books", "pan", "clock", "radio", "pot", "aquarium", "camera", "crate", "board", "brush", "season", "wine", "salad", "cloche", "projector")
+SHINING = (7, 10)   # buttons whose things light up what stands round them
 
 
 def pose(P, button, f):

@@ -12,15 +12,22 @@ from .tablethings import aquarium, basket, crate, fishboard, fryingpan, micropho
 from .wallthings import books, cloche, clock, door, plaque, radio, saladbowl, wine
 
 
+GLOSS = .28   # below this the renderer takes what a metal mirrors for its colour, and its grain cannot be filtered
+
+
 def polish():
-    """The kitchen's copper is kept shining: little cloud in its colour, one gloss."""
-    m = core._materials["copper"]
-    b = m.node_tree.nodes["Principled BSDF"]
-    for e, col in zip(next(n for n in m.node_tree.nodes if n.type == "VALTORGB").color_ramp.elements, ("b5703e", "c07a45", "cc8852")):
+    """The kitchen's metals are kept shining: one gloss, and in the copper little cloud."""
+    for name in ("copper", "steel", "brass", "silver"):
+        m = core._materials[name]
+        b = m.node_tree.nodes["Principled BSDF"]
+        for link in list(b.inputs["Roughness"].links):
+            m.node_tree.links.remove(link)
+        b.inputs["Roughness"].default_value = GLOSS
+    copper = core._materials["copper"].node_tree
+    for link in list(copper.nodes["Principled BSDF"].inputs["Normal"].links):
+        copper.links.remove(link)
+    for e, col in zip(next(n for n in copper.nodes if n.type == "VALTORGB").color_ramp.elements, ("b5703e", "c07a45", "cc8852")):
         e.color = (*core.rgb(col), 1)
-    for link in list(b.inputs["Roughness"].links) + list(b.inputs["Normal"].links):
-        m.node_tree.links.remove(link)
-    b.inputs["Roughness"].default_value = .26
 
 
 def build():
@@ -53,8 +60,8 @@ def build():
     c = table.candle(2.2, .5)
     flame = c.children[-1]
     put(c, at_wall(70, 310).x, WALL - .95, sill.z, scale=.85)
-    P["candle"] = flame
-    P["leaf"] = calendar(Vector((at_wall(143, 280).x, WALL - .12, at_wall(143, 268).z)))
+    leaf = calendar(Vector((at_wall(143, 280).x, WALL - .12, at_wall(143, 268).z)))
+    P["season"] = (leaf, flame)
     # on the table, from the back to the front
     g, f, sh = crate()
     stand(g, 234, 372, 116, 6.6, turn=-6)
@@ -64,14 +71,14 @@ def build():
     g = table.pot(2.6, 2.5, "copper")
     soup = put(lathe([(.01, 2.0), (2.5, 2.0)], food.sauce_mat("fishsoup"), 48))
     soup.parent = g
-    P["steam"] = [puff(i) for i in range(9)]
-    for o in P["steam"]:
+    steam = [puff(i) for i in range(9)]
+    for o in steam:
         o.parent = g
     lid = table.potlid(2.6)
     lid.parent = g
     stand(g, 448, 413, 96, 6.2, turn=14)
     put(lid, .0, 0, 2.56)
-    P["pot"] = (g, lid)
+    P["pot"] = (lid, steam)
     g, fil, bub = fryingpan()
     stand(g, 336, 392, 98, 7.0, turn=0)
     P["pan"] = (g, fil, bub)

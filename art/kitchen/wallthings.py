@@ -16,7 +16,7 @@ def door():
     fr = table.wood("walnut", "z")
     box(.55, .7, h + .5, fr, .08, at=(a.x - .2, WALL - .2, 0))
     box(w + 1.4, .8, .6, fr, .08, at=((a.x + b.x) / 2, WALL - .22, h))
-    mesh([(a.x, WALL - .05, 0), (b.x, WALL - .05, 0), (b.x, WALL - .05, h), (a.x, WALL - .05, h)], [(0, 1, 2, 3)], pond(), False, uv=[(.32, .1), (1.0, .1), (1.0, .97), (.32, .97)])
+    mesh([(a.x, WALL - .05, 0), (b.x, WALL - .05, 0), (b.x, WALL - .05, h), (a.x, WALL - .05, h)], [(0, 1, 2, 3)], pond(), False, uv=[(.0, .0), (.6, .0), (.6, .97), (.0, .97)])
     dm = mat("doorwood", ((.35, "3a2112"), (.5, "593619"), (.65, "714a26")), .42, noise=2.2, stretch=(3, 3, .25), detail=10, bump=.2, coat=.2)
     parts = [box(w, .35, h, dm, .06)]
     for z0, z1 in ((1.2, h * .42), (h * .47, h * .94)):
