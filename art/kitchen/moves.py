@@ -73,8 +73,8 @@ def plaque(P, f, w):
 def tub(P, f, w):
     _, holder, water = P["tub"]
     sn = math.sin(w)
-    _move(holder, rz=13 * sn, dz=.12 * math.sin(2 * w), dx=.15 * sn)
-    swim(holder, 2 * w, .2)
+    _move(holder, rz=12 * sn, dz=.12 * math.sin(2 * w), dx=.1 * sn - .3 * rise(f))
+    swim(holder, 2 * w, .14)
     _move(water, rz=16 * sn)
 
 
