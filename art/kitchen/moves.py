@@ -142,10 +142,11 @@ def aquarium(P, f, w):
 
 
 def camera(P, f, w):
-    button, _ = P["camera"]
+    button, burst = P["camera"]
     _move(button, dz=-.1 * rise(f))
     flash = max(0.0, 1 - abs(f - .45) * 5)
-    _glow("bulb", 60 * flash)
+    _glow("bulb", 300 * flash)
+    burst.color = (1.2 * flash, 0, 0, 1)
     _glow("flashglass", 14 * flash)
 
 
@@ -161,21 +162,21 @@ def board(P, f, w):
 
 
 def brush(P, f, w):
-    _move(P["brush"], dx=.5 * math.sin(w), dy=.3 * rise(f), dz=.12 * rise(f), ry=5 * math.sin(w))
+    _move(P["brush"], dx=.55 * rise(f) + .08 * math.sin(2 * w), dy=.5 * math.sin(w), dz=.12 * rise(f), ry=4 * math.sin(w))
 
 
 def season(P, f, w):
-    """The leaf of the calendar is turned up, the flame flickers."""
+    """The leaf of the calendar comes forward past the post of the window and is turned up, the flame flickers."""
     leaf, flame = P["season"]
-    _move(leaf, rx=-118 * rise(f))
+    _move(leaf, rx=-118 * rise(f), dy=-.35 * min(1, 8 * rise(f)))
     sn = math.sin(w)
     _move(flame, sx=1 + .25 * sn, sz=1 + .3 * math.sin(2 * w), ry=14 * sn)
 
 
 def wine(P, f, w):
-    """The glass is swirled on its foot; the wine in it stays level and climbs the wall."""
+    """The glass is swirled on its foot, clear of the bottle; the wine in it stays level and climbs the wall."""
     glass, liquid, top = P["wine"]
-    ax, ay = math.radians(9) * math.sin(w), math.radians(9) * (math.cos(w) - 1) / 2
+    ax, ay = math.radians(5.5 * math.sin(w) + 2 * rise(f)), math.radians(7) * rise(f)
     _move(glass, ry=math.degrees(ax), rx=math.degrees(ay))
 
     def level(c):
@@ -194,8 +195,10 @@ def cloche(P, f, w):
 
 
 def projector(P, f, w):
-    for o in P["projector"]:
+    reels, beam = P["projector"]
+    for o in reels:
         _move(o, ry=144 * f)
+    beam.color = (.75 * rise(f) * (1 + .3 * math.sin(5 * w)), 0, 0, 1)
     _glow("projlens", 3 + 5 * rise(f) * (1 + .35 * math.sin(5 * w)))
 
 

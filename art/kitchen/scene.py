@@ -8,7 +8,7 @@ from lib import core, food, table
 from lib.core import lathe, put
 from .place import EYE, FOCAL, WALL, at_height, at_wall, ray, stand
 from .room import calendar, decor, lamp, lights, room, runner, shelf, sideboard, window
-from .tablethings import aquarium, basket, crate, fishboard, fryingpan, microphone, paintbox, photo_camera, projector, puff, tub
+from .tablethings import aquarium, basket, crate, fishboard, fryingpan, glow, microphone, paintbox, photo_camera, projector, tub
 from .wallthings import books, cloche, clock, door, plaque, radio, saladbowl, wine
 
 
@@ -71,7 +71,7 @@ def build():
     g = table.pot(2.6, 2.5, "copper")
     soup = put(lathe([(.01, 2.0), (2.5, 2.0)], food.sauce_mat("fishsoup"), 48))
     soup.parent = g
-    steam = [puff(i) for i in range(9)]
+    steam = [glow((.86, .9, .9), .75, seed=i) for i in range(9)]
     for o in steam:
         o.parent = g
     lid = table.potlid(2.6)
@@ -85,9 +85,8 @@ def build():
     g, f = fishboard()
     stand(g, 594, 398, 176, 7.4, turn=-5)
     P["board"] = f
-    g, btn, bulb = photo_camera()
+    g, *P["camera"] = photo_camera()
     stand(g, 160, 446, 86, 3.2, turn=14)
-    P["camera"] = (btn, bulb)
     g, f1, f2, bubs = aquarium()
     stand(g, 384, 486, 104, 5.2)
     P["aquarium"] = (g, f1, f2, bubs)
@@ -103,9 +102,8 @@ def build():
     put(brush, -.25, -.75, .62, turn=12, roll=-7)
     P["brush"] = brush
     stand(microphone(), 34, 520, 34, 1.6)
-    g, reels = projector()
+    g, *P["projector"] = projector()
     stand(g, 674, 606, 128, 4.6, turn=-14)
-    P["projector"] = reels
     decor()
     lamp()
     polish()

@@ -130,36 +130,36 @@ def lit(m, strength):
     b.inputs["Emission Strength"].default_value = strength if b.inputs["Base Color"].links else 0
 
 
-def puff(seed):
-    """A puff of steam: a soft cloud that stands upright; the first value of the object's colour is how dense it is."""
-    m = core.bpy.data.materials.new("puff")
+def glow(colour, strength, power=1.5, seed=None):
+    """A soft round shine that stands upright and casts no shadow, torn like a cloud when it has a seed; the first value of
+    the object's colour is how dense it is."""
+    m = core.bpy.data.materials.new("glow")
     m.use_nodes = True
     nt = m.node_tree
     nt.nodes.remove(nt.nodes["Principled BSDF"])
 
-    def node(kind, *inputs, **options):
+    def node(kind, *inputs, output=0, **options):
         n = nt.nodes.new("ShaderNode" + kind)
         for key, value in options.items():
             setattr(n, key, value)
         for i, q in enumerate(inputs):
             if hasattr(q, "links"):
                 nt.links.new(q, n.inputs[i])
-            elif q is not None:
+            else:
                 n.inputs[i].default_value = q
-        return n.outputs[0]
-    place = node("Mapping", nt.nodes.new("ShaderNodeTexCoord").outputs["Object"])
-    round_ = node("Math", 1.0, node("VectorMath", place, operation="LENGTH"), operation="SUBTRACT", use_clamp=True)
-    nt.links.new(nt.nodes["Vector Math"].outputs["Value"], nt.nodes["Math"].inputs[1])
-    noise = nt.nodes.new("ShaderNodeTexNoise")
-    noise.inputs["Scale"].default_value, noise.inputs["Detail"].default_value = 1.7, 3
-    nt.links.new(node("VectorMath", place, (seed * 3.7, seed * 1.9, seed * 2.3)), noise.inputs["Vector"])
-    cloud = node("Math", node("Math", noise.outputs["Fac"], .3, operation="SUBTRACT", use_clamp=True), 2.2, operation="MULTIPLY", use_clamp=True)
-    soft = node("Math", node("Math", round_, 1.5, operation="POWER"), cloud, operation="MULTIPLY")
-    dense = node("Math", soft, nt.nodes.new("ShaderNodeObjectInfo").outputs["Color"], operation="MULTIPLY", use_clamp=True)
-    mixed = node("MixShader", dense, node("BsdfTransparent"), node("Emission", (.86, .9, .9, 1), .75))
+        return n.outputs[output]
+    place = node("TexCoord", output="Object")
+    dense = node("Math", node("Math", 1.0, node("VectorMath", place, output="Value", operation="LENGTH"), operation="SUBTRACT", use_clamp=True), power, operation="POWER")
+    if seed is not None:
+        noise = node("TexNoise", node("VectorMath", place, (seed * 3.7, seed * 1.9, seed * 2.3)), 0, 1.7, 3, output="Fac")
+        torn = node("Math", node("Math", noise, .3, operation="SUBTRACT", use_clamp=True), 2.2, operation="MULTIPLY", use_clamp=True)
+        dense = node("Math", dense, torn, operation="MULTIPLY")
+    dense = node("Math", dense, node("ObjectInfo", output="Color"), operation="MULTIPLY", use_clamp=True)
+    mixed = node("MixShader", dense, node("BsdfTransparent"), node("Emission", (*colour, 1), strength))
     nt.links.new(mixed, nt.nodes["Material Output"].inputs[0])
     o = mesh([(-1, 0, -1), (1, 0, -1), (1, 0, 1), (-1, 0, 1)], [(0, 1, 2, 3)], m, False)
     o.visible_shadow = o.visible_diffuse = o.visible_glossy = False
+    o.color = (0, 0, 0, 1)
     return o
 
 
@@ -177,7 +177,9 @@ def photo_camera():
     g = group(parts + [tubec, lens, ring, flash, btn, win, bulb])
     strap = tube(curve_points([(-1.5, 0, 1.6), (-2.1, -.2, .9), (-2.0, -.9, .12), (-.9, -1.9, .08), (.4, -2.1, .08), (1.6, -1.6, .08), (2.1, -.6, .4), (1.5, 0, 1.6)], 8), .09, mat("strap", "4a2a14", .6), 6)
     strap.parent = g
-    return g, btn, bulb
+    burst = put(glow((1, .95, .82), 6, 3), 1.05, -.72, 1.52, scale=2.2)
+    burst.parent = g
+    return g, btn, burst
 
 
 def crate():
@@ -291,4 +293,5 @@ def projector():
         put(g, x, -.35, z)
         reels.append(g)
     strip = tube([(1.2, -.35, 2.7), (.4, -.35, 2.55), (-.3, -.4, 2.5), (-.5, -.5, 1.9)], .05, mat("film", "24160f", .25), 6)
-    return group(parts + arms + reels + [strip]), reels
+    beam = put(glow((1, .88, .6), 4, 2.5), -2.45, -.45, 1.56, scale=1.5)
+    return group(parts + arms + reels + [strip, beam]), reels, beam
