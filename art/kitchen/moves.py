@@ -205,7 +205,7 @@ def projector(P, f, w):
 MOVES = (door, plaque, tub, basket, books, pan, clock, radio, pot, aquarium, camera, crate, board, brush, season, wine, salad, cloche, projector)
 
 PARTS = ("door", "plaque", "tub", "basket", "books", "pan", "clock", "radio", "pot", "aquarium", "camera", "crate", "board", "brush", "season", "wine", "salad", "cloche", "projector")
-SHINING = (7, 10)   # buttons whose things light up what stands round them
+SHINING = (7, 10, 18)   # buttons whose things light up what stands round them
 
 
 def pose(P, button, f):

@@ -293,5 +293,5 @@ def projector():
         put(g, x, -.35, z)
         reels.append(g)
     strip = tube([(1.2, -.35, 2.7), (.4, -.35, 2.55), (-.3, -.4, 2.5), (-.5, -.5, 1.9)], .05, mat("film", "24160f", .25), 6)
-    beam = put(glow((1, .88, .6), 4, 2.5), -2.45, -.45, 1.56, scale=1.5)
+    beam = put(glow((1, .88, .6), 4, 2), -2.4, -.3, 1.54, scale=1.05)
     return group(parts + arms + reels + [strip, beam]), reels, beam
