@@ -67,7 +67,7 @@ def door(P, f, w):
 
 
 def plaque(P, f, w):
-    _move(P["plaque"], ry=-164 * rise(f))
+    _move(P["plaque"], ry=-150 * rise(f))
 
 
 def tub(P, f, w):
