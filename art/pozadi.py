@@ -10,7 +10,7 @@ import sys
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import bpy  # noqa: E402
 
-from lib import core, fish as fishlib, table  # noqa: E402
+from lib import core, fish as fishlib, food, table  # noqa: E402
 from lib.core import area, box, group, lathe, mat, mesh, outline_solid, put, smooth_profile, sphere, tube  # noqa: E402
 
 OUT = os.path.join(core.RENDERED, "pozadi")
@@ -251,34 +251,47 @@ def konec():
         H.pose(P, b, 0)
     H.pose(P, 0, .5)
     for l in bpy.data.lights:
-        l.energy *= .035 if l.name != "lamp" else .10
-    core._materials["lampglass"].node_tree.nodes["Principled BSDF"].inputs["Emission Strength"].default_value = .8
-    core._materials["dial"].node_tree.nodes["Principled BSDF"].inputs["Emission Strength"].default_value = .25
-    core.scene.world.node_tree.nodes["Background"].inputs[1].default_value = .16
+        l.energy *= .05 if l.name != "lamp" else .14
+    glows = {"lampglass": .55, "dial": .25, "projlens": .05, "eyegreen": .12, "skin-goldfish-raw-0-8": .12, "skin-perch-raw-0-9": .08}
+    for name, strength in glows.items():
+        core._materials[name].node_tree.nodes["Principled BSDF"].inputs["Emission Strength"].default_value = strength
+    core._materials["aquawater"].node_tree.nodes["Emission"].inputs[1].default_value = .005
+    core.scene.world.node_tree.nodes["Background"].inputs[1].default_value = .2
     x = H.at_wall(70, 210)
-    area((x.x, x.y - 1.2, x.z + 1), (6, 14, 7), 5, 1300, "7fc4cf")
+    area((x.x, x.y - 1.2, x.z + 1), (6, 14, 7), 5, 2100, "7fc4cf")
 
 
 def vino256():
-    """Wine still life: bottle, glass, grapes and a fish plate at the right; the left stays dark and calm."""
-    table.boards("dark")
-    from lib import dishfile
-    dishfile.backdrop()
-    put(table.bottle(9.4, 1.15), 4.5, 2.6, 0)
-    put(table.wineglass(6.0, 1.35, "red", .5), 2.4, .6, 0)
-    put(table.wineglass(5.6, 1.25, "white", .5), 6.6, .4, 0)
-    gm = mat("grape", ((.4, "2a0f2c"), (.6, "5a2348")), .2, coat=.6, sss=.05)
-    for i in range(34):
-        a, q = i * 2.4, .33 * math.sqrt(i)
-        put(sphere(.42, gm, n=20), 4.3 + q * math.cos(a) * 1.3, -1.9 + q * math.sin(a) * .8, .4 + .45 * max(0, 1.7 - q) * random.uniform(.6, 1))
-    put(table.candle(3.4, .45), 8.0, 3.0, 0)
-    put(table.cloth("teal", 9, 6, folds=.2), 6.0, -.5, 0, 20)
-    core.camera((-.6, -17, 6.2), (.1, 0, 3.9), 42, .9, (3.5, 0, 2))
-    core.evening(1.1)
+    """Wine still life by candle light: bottle, a red and a white glass, grapes, lemon and bread on a board."""
+    table.boards("oak")
+    wall = mat("winewall", ((.3, "123f45"), (.5, "1a535a"), (.7, "256a6e")), .9, .1, noise=.25, detail=9, bump=.15, bumpscale=2)
+    mesh([(-40, 14, 0), (40, 14, 0), (40, 14, 40), (-40, 14, 40)], [(0, 1, 2, 3)], wall, False)
+    put(table.cloth("linen", 15, 6, folds=.14), 1.6, -.9, 0, -7)
+    put(table.bottle(9.2, 1.15), -3.3, 2.2, .03)
+    put(table.wineglass(6.2, 1.45, "red", .52), -.2, .7, .05)
+    put(table.wineglass(5.8, 1.3, "white", .5), 3.1, 1.5, .05)
+    put(table.board(5.2, 2.7, "dark", False, .3, .4), -3.9, -2.1, .06, 14)
+    for i in range(3):
+        put(food.bread("rye", 2.3, 1.7, .42, i), -4.9 + i * .75, -2.2 + i * .1, .5 + .22 * i, 20 + 14 * i, roll=-14 if i else 0)
+    put(food.lemon_half(.72), -2.6, -1.7, .38, tilt=-30)
+    gm = mat("grape", ((.4, "3a1540"), (.6, "6e2c58")), .22, coat=.5, sss=.05)
+    for i in range(38):
+        a, q = i * 2.4, .34 * math.sqrt(i)
+        put(sphere(.42, gm, n=20), 2.6 + q * math.cos(a) * 1.35, -2.0 + q * math.sin(a) * .8, .42 + .5 * max(0, 1.8 - q) * random.uniform(.6, 1))
+    tube([(2.6, -1.9, 1.2), (2.3, -1.4, 1.7), (1.9, -1.0, 1.75)], [.07, .06, .09], table.wood("pale"), 8)
+    put(table.candle(3.6, .5), 6.0, 3.6, 0)
+    core.camera((-.2, -17, 6.6), (.5, 0, 3.3), 44, 2.0, (0, .7, 2.5))
+    core.evening(1.25)
+    flame = bpy.data.lights.new("flame", "POINT")
+    flame.energy, flame.color, flame.shadow_soft_size = 420, core.rgb("ffb65c"), .3
+    o = bpy.data.objects.new("flame", flame)
+    o.location = (6.0, 3.4, 4.7)
+    core.scene.collection.objects.link(o)
+    area((-9, 5, 12), (1, 14, 5), 2.5, 1500, "ffbf76")
 
 
 SIZES = {"vino256": (1024, 768), "menu": (800, 600)}
-SAMPLES = {"uvod": 40, "konec": 36, "vino256": 40, "video": 16}
+SAMPLES = {"uvod": 40, "konec": 24, "vino256": 24, "video": 16}
 
 
 def main(names):

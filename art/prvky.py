@@ -225,28 +225,41 @@ def Vlastni():
     return facing(group([s, p]), 26)
 
 
+def key(colour, *signs):
+    """A key of a player: an enamelled dome in a copper ring, the sign raised on it in ivory."""
+    enamel = mat("key" + colour, colour, .16, .5, coat=.9)
+    ring = lathe(smooth_profile([(1.98, .0), (2.28, .05), (2.36, .25), (2.24, .46), (2.05, .44), (1.96, .3)], 5), cop(), 72)
+    dome = lathe(smooth_profile([(.01, .52), (.8, .5), (1.5, .43), (2.0, .3)], 6), enamel, 72)
+    return facing(group([ring, dome] + [put(poly(s, .3, mat("keysign", "fbf1d8", .35, coat=.5, emit="fbf1d8", emit_strength=.12), .07), 0, 0, .42) for s in signs]), 32)
+
+
+def bar(x, w=.44, h=1.9):
+    return [(x - w / 2, -h / 2), (x + w / 2, -h / 2), (x + w / 2, h / 2), (x - w / 2, h / 2)]
+
+
+def pointer(x, s=1):
+    """Triangle whose middle is at x, pointing right (s = 1) or left."""
+    return [(x - .62 * s, -1.0), (x + .92 * s, 0), (x - .62 * s, 1.0)][::s]
+
+
 def Hrat():
-    return facing(put(poly([(-1.3, -1.7), (1.8, 0), (-1.3, 1.7)], .6, cop(), .16), -.1, 0, 0))
+    return key("2f6b3a", pointer(0))
 
 
 def Stop():
-    return facing(poly([(-1.5, -1.5), (1.5, -1.5), (1.5, 1.5), (-1.5, 1.5)], .6, cop(), .16))
+    return key("a83722", bar(0, 1.6, 1.6))
 
 
 def Pauza():
-    return facing(group([put(poly([(-.5, -1.6), (.5, -1.6), (.5, 1.6), (-.5, 1.6)], .6, cop(), .14), x) for x in (-.9, .9)]))
-
-
-def _tobar(s):
-    return facing(group([put(poly([(-.28, -1.5), (.28, -1.5), (.28, 1.5), (-.28, 1.5)], .6, cop(), .12), s * 1.65), poly([(-s * 1.5, -1.5), (s * 1.1, 0), (-s * 1.5, 1.5)][:: 1 if s > 0 else -1], .6, cop(), .14)]))
+    return key("16555c", bar(-.48, .5), bar(.48, .5))
 
 
 def NaZacatek():
-    return _tobar(-1)
+    return key("16555c", bar(-.95, .36), pointer(.25, -1))
 
 
 def NaKonec():
-    return _tobar(1)
+    return key("16555c", bar(.95, .36), pointer(-.25))
 
 
 def Lupa():
@@ -514,10 +527,14 @@ TOPDOWN = {"RamVen": (192, 192), "RamDovnitr": (192, 192), "Tlacitko": (360, 120
 
 # ---------------------------------------------------------------- cursors: 64 x 64, 24 px are one unit here too
 
-def _cursor(points):
-    """A light arrow with a dark rim, so that it reads on light and dark."""
-    put(outline_solid(_grow(points, .17), .1, mat("cursorrim", "0b1a1c", .6), .02), 0, 0, 0)
-    put(outline_solid(points, .4, mat("cursortop", "e0a468", .3, metal=.55, coat=.6), .1, 4), 0, 0, .1)
+def _cursor(points, mark=()):
+    """Ivory and gold within a dark rim within a light line, so that it reads on light and dark; mark is inlaid in dark."""
+    points = [(.83 * x, .83 * y) for x, y in points]
+    put(outline_solid(_grow(points, .3), .06, mat("cursorline", "fff4d6", .6, emit="fff4d6", emit_strength=.5), .01), 0, 0, 0)
+    put(outline_solid(_grow(points, .22), .1, mat("cursorrim", "06181b", .6), .02), 0, 0, .06)
+    put(outline_solid(points, .4, mat("cursortop", "f6cf86", .3, metal=.2, coat=.7, emit="f0b860", emit_strength=.25), .1, 4), 0, 0, .14)
+    for x, y, r in mark:
+        put(outline_solid(circle(r, 20, (.83 * x, .83 * y)), .04, mat("cursorrim", "06181b", .6), .005), 0, 0, .54)
 
 
 def _grow(pts, d):
@@ -536,37 +553,38 @@ def _grow(pts, d):
     return out
 
 
-ARROW = [(0, 1.08), (1.0, .02), (.42, .02), (.42, -1.0), (-.42, -1.0), (-.42, .02), (-1.0, .02)]
-
-
-def _turned(deg):
+def _fisharrow(deg):
+    """A fish that swims where the cursor leads: its head is the arrow's, the tail forks."""
+    half = [(0, 1.06), (.3, .74), (.9, .06), (.4, .12), (.24, -.42), (.62, -1.02)]
+    points = half + [(0, -.74)] + [(-x, y) for x, y in reversed(half[1:])]
     a = math.radians(deg)
-    return [(x * math.cos(a) - y * math.sin(a), x * math.sin(a) + y * math.cos(a)) for x, y in ARROW]
+
+    def turned(x, y):
+        return x * math.cos(a) - y * math.sin(a), x * math.sin(a) + y * math.cos(a)
+    _cursor([turned(*p) for p in points], [(*turned(.2, .5), .085), (*turned(-.2, .5), .085)])
 
 
 def SIPKANAHORU():
-    _cursor(_turned(0))
+    _fisharrow(0)
 
 
 def SIPKADOLU():
-    _cursor(_turned(180))
+    _fisharrow(180)
 
 
 def SIPKAVLEVO():
-    _cursor(_turned(90))
+    _fisharrow(90)
 
 
 def SIPKAVPRAVO():
-    _cursor(_turned(-90))
+    _fisharrow(-90)
 
 
 def ZPET():
-    pts = [(-1.1, .3), (-.3, 1.1), (-.3, .62)]
-    pts += [(.12 + .86 * math.cos(a), -.18 + .8 * math.sin(a)) for a in [math.radians(85 - 170 * i / 16) for i in range(17)]]
-    pts += [(-.55, -.98), (-.55, -.5)]
-    pts += [(.1 + .36 * math.cos(a), -.22 + .29 * math.sin(a)) for a in [math.radians(-80 + 160 * i / 12) for i in range(13)]]
-    pts += [(-.3, .08), (-.3, -.5 + .12)]
-    _cursor(pts)
+    """The way back: an arrow that turns round to the left."""
+    def bow(r, a0, a1):
+        return [(.2 + r * math.cos(a), -.14 + r * math.sin(a)) for a in [math.radians(a0 + (a1 - a0) * i / 14) for i in range(15)]]
+    _cursor([(-1.1, .42), (-.4, 1.1), (-.4, .68)] + bow(.82, 90, -90) + [(-.5, -.96), (-.5, -.6)] + bow(.4, -90, 90) + [(-.4, .26), (-.4, -.26)])
 
 
 CURSORS = ("ZPET", "SIPKANAHORU", "SIPKADOLU", "SIPKAVLEVO", "SIPKAVPRAVO")

@@ -73,7 +73,7 @@ def pohyby(again, buttons):
         for n in os.listdir(folder) if os.path.isdir(folder) else []:
             if not buttons or str(int(n[:2])) in buttons:
                 os.remove(os.path.join(folder, n))
-    blender("hlavni.py", "pohyby", "24", *buttons)
+    blender("hlavni.py", "pohyby", "16", *buttons)
 
 
 def prvky(again, names):

@@ -6,7 +6,7 @@ phase) brings one of them into a phase 0 … 1 of its loop.
 """
 import os
 
-from .moves import pose  # noqa: F401
+from .moves import PARTS, SHINING, pose  # noqa: F401
 from .place import at_wall  # noqa: F401
 from .scene import build  # noqa: F401
 from .tablethings import photo_camera  # noqa: F401

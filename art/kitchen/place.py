@@ -1,6 +1,7 @@
 """Where things stand: sight lines from pixels of the 800 x 600 screen to points of the room, in decimetres."""
 import math
 
+import numpy as np
 from mathutils import Vector
 
 from lib.core import put
@@ -18,6 +19,14 @@ def ray(px, py):
     """Direction of the sight line through a screen pixel (y forward, z up)."""
     x, u = (px - 400) / FOCAL, (300 - py) / FOCAL
     return Vector((x, math.cos(PITCH) + u * math.sin(PITCH), -math.sin(PITCH) + u * math.cos(PITCH)))
+
+
+def seen_at(points):
+    """Screen pixels behind which points (n x 3) of the room lie."""
+    d = np.asarray(points) - np.array(EYE)
+    depth = d @ np.array(ray(400, 300))
+    up = d @ np.array((0, math.sin(PITCH), math.cos(PITCH)))
+    return np.stack([400 + FOCAL * d[:, 0] / depth, 300 - FOCAL * up / depth], -1)
 
 
 def at_height(px, py, z):

@@ -42,7 +42,8 @@ def room():
             put(o, c * size, WALL - .08 + random.uniform(-.012, .012), z1 - (r + 1) * size, roll=random.uniform(-.4, .4))
             tiles.append(o)
     group(tiles)
-    box(60, .25, .3, table.wood("walnut"), .06, at=(0, WALL - .1, z1))
+    for left, right in ((-30, at_wall(700, 40).x), (at_wall(812, 40).x, 30)):
+        box(right - left, .25, .3, table.wood("walnut"), .06, at=((left + right) / 2, WALL - .1, z1))
 
 
 def sideboard():
@@ -77,12 +78,12 @@ def window():
     x0, x1 = at_wall(14, 200).x, at_wall(118, 200).x
     z0, z1 = at_wall(60, 322).z, at_wall(60, 112).z
     cx, cz, w, h = (x0 + x1) / 2, (z0 + z1) / 2, x1 - x0, z1 - z0
-    mesh([(x0, WALL - .03, z0), (x1, WALL - .03, z0), (x1, WALL - .03, z1), (x0, WALL - .03, z1)], [(0, 1, 2, 3)], pond_material(), False, uv=[(0, 0), (1, 0), (1, 1), (0, 1)])
+    mesh([(x0, WALL - .03, z0), (x1, WALL - .03, z0), (x1, WALL - .03, z1), (x0, WALL - .03, z1)], [(0, 1, 2, 3)], pond(), False, uv=[(0, 0), (1, 0), (1, 1), (0, 1)])
     fr = mat("windowframe", ((.35, "4a3420"), (.65, "7a5a38")), .45, noise=2, stretch=(3, 3, .3), bump=.15, coat=.2)
     for x in (x0 - .12, x1 + .12):
         box(.42, .5, h + .6, fr, .06, at=(x, WALL - .2, z0 - .3))
     for z in (z0 - .3, z1 - .1):
-        box(w + .7, .5, .4, fr, .06, at=(cx, WALL - .2, z))
+        box(w + .8, .58, .4, fr, .06, at=(cx, WALL - .22, z))
     box(.2, .3, h, fr, .04, at=(cx, WALL - .18, z0))
     box(w, .3, .18, fr, .04, at=(cx, WALL - .18, cz + h * .12))
     box(w + 1.6, 1.7, .26, fr, .06, at=(cx, WALL - .85, z0 - .5))
@@ -128,7 +129,10 @@ def pond_pixels(w=512, h=768, moon=(.68, .82)):
     return np.clip(pic, 0, 1)
 
 
-def pond_material():
+def pond():
+    """The view of the pond, which shines of itself."""
+    if "pond" in bpy.data.materials:
+        return bpy.data.materials["pond"]
     im = core.picture("pond", pond_pixels())
     m = bpy.data.materials.new("pond")
     m.use_nodes = True
@@ -143,14 +147,19 @@ def pond_material():
 
 
 def calendar(p):
-    """Leaf calendar beside the window."""
+    """Leaf calendar beside the window; returns its topmost leaf, which hangs on its upper edge."""
     w, h = 1.9, 2.7
-    g = [box(w, .1, h, mat("calback", "6a1f18", .5), .04), put(box(w * .9, .06, h * .62, mat("page", "efe3c6", .8), .01), 0, -.07, .12), put(fishicon(.62, mat("inkblue", "1d4a55", .6)), 0, -.08, h * .8, tilt=90)]
+    page = mat("page", "efe3c6", .8)
+    g = [box(w, .1, h, mat("calback", "6a1f18", .5), .04), put(fishicon(.62, mat("inkblue", "1d4a55", .6)), 0, -.08, h * .8, tilt=90)]
+    g.append(put(group([put(box(w * .9, .05, h * .62, page, .01), 0, 0, -h * .62), put(sphere(.34, mat("calred", "b8402a", .6), scale=(1, .1, 1), n=20), 0, -.03, -.8)]), 0, -.06, .12 + h * .62))
+    leaf = [put(box(w * .9, .03, h * .62, page, .01), 0, 0, -h * .62)]
     ink = mat("ink", "43301f", .8)
     for r in range(4):
         for c in range(5):
-            g.append(put(box(.16, .02, .12, mat("calred", "b8402a", .6) if c == 4 else ink, 0), -w * .33 + c * w * .165, -.11, .3 + r * .36))
-    return put(group(g), p.x, p.y, p.z)
+            leaf.append(put(box(.16, .02, .12, mat("calred", "b8402a", .6) if c == 4 else ink, 0), -w * .33 + c * w * .165, -.025, .18 + r * .36 - h * .62))
+    leaf = put(group(leaf), 0, -.11, .12 + h * .62)
+    put(group(g + [leaf]), p.x, p.y, p.z)
+    return leaf
 
 
 def decor():
@@ -163,17 +172,29 @@ def decor():
         z = rail_l.z
         if i in (0, 3):
             o = table.pan(1.05 if i else .85, .3, "copper", False)
-            put(o, x, WALL - .45, z - L - .5, tilt=90)
+            put(o, x, WALL - .45, z - L - .5, tilt=-90)
             tube([(x, WALL - .4, z), (x, WALL - .42, z - L + .4)], .08, table.brass(), 8)
         elif i in (1, 4):
             tube([(x, WALL - .4, z), (x, WALL - .42, z - L)], .07, table.copper(), 8)
             put(sphere(.42, table.copper(), scale=(1, .7, .7), n=24), x, WALL - .55, z - L - .15)
         elif i == 2:
             for k in range(9):
-                put(sphere(.3, mat("garlic", ((.4, "cfc4ae"), (.6, "efe8d8")), .5, noise=2, stretch=(3, 3, .4)), scale=(1, .9, 1.05), n=18), x + .26 * math.sin(k * 2.4), WALL - .45 - .12 * math.cos(k * 2.4), z - .5 - k * .25)
+                put(garlic(), x + .26 * math.sin(k * 2.4), WALL - .45 - .12 * math.cos(k * 2.4), z - .5 - k * .25, tilt=25 * math.cos(k * 2.4), roll=-50 * math.sin(k * 2.4))
         else:
             for k in range(5):
                 put(food.sprig("parsley", .9), x + .15 * math.sin(k * 2), WALL - .45, z - .5 - .38 * k, tilt=120, turn=k * 70)
+
+
+def garlic():
+    """A head of garlic: cloves that bulge, a dry neck."""
+    m = mat("garlic", ((.4, "d3c3b4"), (.5, "ece2d0"), (.62, "c9a8ac")), .5, noise=2, stretch=(3, 3, .4))
+    profile = smooth_profile([(.01, -.25), (.16, -.26), (.33, -.08), (.29, .1), (.1, .28), (.06, .46), (.04, .62)], 5)
+    o = lathe(profile, m, 28)
+    for v in o.data.vertices:
+        a = math.atan2(v.co.y, v.co.x)
+        q = 1 + .07 * abs(math.cos(3.5 * a)) * max(0, 1 - abs(v.co.z) * 3)
+        v.co.x, v.co.y = v.co.x * q, v.co.y * q
+    return o
 
 
 def runner():

@@ -100,7 +100,7 @@ def aquarium():
     inn = [(max(.01, a - .07), z + (.07 if z < .5 else 0)) for a, z in reversed(out)]
     g = [lathe(out + inn, core.thin_glass("bowlglass", "e2f0ee"), 64)]
     wat = [(max(.01, a - .09), z + (.09 if z < .5 else 0)) for a, z in out if z < 3.5]
-    g.append(lathe(wat + [(.01, wat[-1][1])], core.thin_glass("aquawater", "a8dcd4", 1.08, glow=.022), 64))
+    g.append(lathe(wat + [(.01, wat[-1][1])], core.thin_glass("aquawater", "d9f1ec", 1.08, glow=.03), 64))
     peb = mat("pebble", ((.35, "6a5a44"), (.65, "b5a284")), .5, noise=1)
     for i in range(60):
         a, q = random.random() * 6.28, math.sqrt(random.random()) * 1.6
@@ -110,11 +110,57 @@ def aquarium():
         x, y = random.uniform(-1.2, 1.2), random.uniform(.1, 1.0)
         pts = [(x + .18 * math.sin(t * 6 + i), y, .25 + t * random.uniform(1.8, 2.6)) for t in [k / 14 for k in range(15)]]
         g.append(tube(pts, [.1 * (1 - .7 * k / 14) for k in range(15)], weed, 5))
-    f1 = group([fishlib.fish("goldfish", "raw", 2.3, seed=8, lying=False)])
-    f2 = group([fishlib.fish("perch", "raw", 1.8, seed=9, lying=False)])
+    f1 = group([fishlib.fish("goldfish", "raw", 2.7, seed=8, lying=False)])
+    f2 = group([fishlib.fish("perch", "raw", 2.0, seed=9, lying=False)])
+    for fish, strength in ((f1, .55), (f2, .4)):
+        for o in core.tree(fish):
+            for m in o.data.materials if o.type == "MESH" else ():
+                lit(m, strength)
     bubbles = [sphere(.07, mat("airbubble", "dff6f6", .05, trans=.8, coat=1), n=10) for _ in range(4)]
     all_ = group(g + [f1, f2] + bubbles)
     return all_, f1, f2, bubbles
+
+
+def lit(m, strength):
+    """Makes a material shine a little in its own colours, as what swims behind glass and water must to be seen."""
+    nt = m.node_tree
+    b = nt.nodes["Principled BSDF"]
+    for link in b.inputs["Base Color"].links:
+        nt.links.new(link.from_socket, b.inputs["Emission"])
+    b.inputs["Emission Strength"].default_value = strength if b.inputs["Base Color"].links else 0
+
+
+def glow(colour, strength, power=1.5, seed=None):
+    """A soft round shine that stands upright and casts no shadow, torn like a cloud when it has a seed; the first value of
+    the object's colour is how dense it is."""
+    m = core.bpy.data.materials.new("glow")
+    m.use_nodes = True
+    nt = m.node_tree
+    nt.nodes.remove(nt.nodes["Principled BSDF"])
+
+    def node(kind, *inputs, output=0, **options):
+        n = nt.nodes.new("ShaderNode" + kind)
+        for key, value in options.items():
+            setattr(n, key, value)
+        for i, q in enumerate(inputs):
+            if hasattr(q, "links"):
+                nt.links.new(q, n.inputs[i])
+            else:
+                n.inputs[i].default_value = q
+        return n.outputs[output]
+    place = node("TexCoord", output="Object")
+    dense = node("Math", node("Math", 1.0, node("VectorMath", place, output="Value", operation="LENGTH"), operation="SUBTRACT", use_clamp=True), power, operation="POWER")
+    if seed is not None:
+        noise = node("TexNoise", node("VectorMath", place, (seed * 3.7, seed * 1.9, seed * 2.3)), 0, 1.7, 3, output="Fac")
+        torn = node("Math", node("Math", noise, .3, operation="SUBTRACT", use_clamp=True), 2.2, operation="MULTIPLY", use_clamp=True)
+        dense = node("Math", dense, torn, operation="MULTIPLY")
+    dense = node("Math", dense, node("ObjectInfo", output="Color"), operation="MULTIPLY", use_clamp=True)
+    mixed = node("MixShader", dense, node("BsdfTransparent"), node("Emission", (*colour, 1), strength))
+    nt.links.new(mixed, nt.nodes["Material Output"].inputs[0])
+    o = mesh([(-1, 0, -1), (1, 0, -1), (1, 0, 1), (-1, 0, 1)], [(0, 1, 2, 3)], m, False)
+    o.visible_shadow = o.visible_diffuse = o.visible_glossy = False
+    o.color = (0, 0, 0, 1)
+    return o
 
 
 def photo_camera():
@@ -131,7 +177,9 @@ def photo_camera():
     g = group(parts + [tubec, lens, ring, flash, btn, win, bulb])
     strap = tube(curve_points([(-1.5, 0, 1.6), (-2.1, -.2, .9), (-2.0, -.9, .12), (-.9, -1.9, .08), (.4, -2.1, .08), (1.6, -1.6, .08), (2.1, -.6, .4), (1.5, 0, 1.6)], 8), .09, mat("strap", "4a2a14", .6), 6)
     strap.parent = g
-    return g, btn, bulb
+    burst = put(glow((1, .95, .82), 6, 3), 1.05, -.72, 1.52, scale=2.2)
+    burst.parent = g
+    return g, btn, burst
 
 
 def crate():
@@ -245,4 +293,5 @@ def projector():
         put(g, x, -.35, z)
         reels.append(g)
     strip = tube([(1.2, -.35, 2.7), (.4, -.35, 2.55), (-.3, -.4, 2.5), (-.5, -.5, 1.9)], .05, mat("film", "24160f", .25), 6)
-    return group(parts + arms + reels + [strip]), reels
+    beam = put(glow((1, .88, .6), 4, 2), -2.4, -.3, 1.54, scale=1.05)
+    return group(parts + arms + reels + [strip, beam]), reels, beam

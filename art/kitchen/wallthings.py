@@ -6,6 +6,7 @@ import random
 from lib import core, fish as fishlib, food, table
 from lib.core import box, group, lathe, mat, mesh, outline_solid, put, smooth_profile, sphere
 from .place import WALL, at_wall
+from .room import pond
 from .tablethings import fishicon
 
 
@@ -14,9 +15,8 @@ def door():
     w, h = b.x - a.x, at_wall(750, 34).z
     fr = table.wood("walnut", "z")
     box(.55, .7, h + .5, fr, .08, at=(a.x - .2, WALL - .2, 0))
-    box(w + 1.2, .7, .6, fr, .08, at=((a.x + b.x) / 2, WALL - .2, h))
-    outside = mat("dooroutside", "0d3238", emit="1c5e68", emit_strength=1.4)
-    mesh([(a.x, WALL - .05, 0), (b.x, WALL - .05, 0), (b.x, WALL - .05, h), (a.x, WALL - .05, h)], [(0, 1, 2, 3)], outside, False)
+    box(w + 1.4, .8, .6, fr, .08, at=((a.x + b.x) / 2, WALL - .22, h))
+    mesh([(a.x, WALL - .05, 0), (b.x, WALL - .05, 0), (b.x, WALL - .05, h), (a.x, WALL - .05, h)], [(0, 1, 2, 3)], pond(), False, uv=[(.0, .0), (.6, .0), (.6, .97), (.0, .97)])
     dm = mat("doorwood", ((.35, "3a2112"), (.5, "593619"), (.65, "714a26")), .42, noise=2.2, stretch=(3, 3, .25), detail=10, bump=.2, coat=.2)
     parts = [box(w, .35, h, dm, .06)]
     for z0, z1 in ((1.2, h * .42), (h * .47, h * .94)):
@@ -50,8 +50,8 @@ def plaque():
         for r in range(5):
             book.append(put(box(w * .22, .05, .01, mat("ink", "43301f", .8), 0), s * w * .17, h * (.15 - r * .08), .4))
     objs += book
-    leaf = mesh([(x * w * .33, y * h * .265, .04 + .05 * math.sin(x * 3)) for x in [i / 8 for i in range(9)] for y in (-1, 1)], core.grid_faces(9, 2), page)
-    fi = put(fishicon(.62, mat("inkred", "b8402a", .6), .02), w * .17, 0, .12)
+    leaf = mesh([(x * w * .31, y * h * .265, .04 + .05 * math.sin(x * 3)) for x in [i / 8 for i in range(9)] for y in (-1, 1)], core.grid_faces(9, 2), page)
+    fi = put(fishicon(.6, mat("inkred", "b8402a", .6), .02), w * .16, 0, .12)
     pivot = group([leaf, fi])
     put(pivot, 0, 0, .36)
     g = group(objs + [pivot])
@@ -109,13 +109,26 @@ def radio(z):
         kg = group([k, k2])
         put(kg, s * w * .37, -h * .28, d)
         knobs.append(kg)
-    g = group([case, cloth_, dial, needle] + slats + marks + knobs)
+    eye = magic_eye(.34)
+    holder = put(group(eye), w * .33, h * .3, d + .1)
+    g = group([case, cloth_, dial, needle, holder] + slats + marks + knobs)
     put(g, (a.x + b.x) / 2, WALL - .1, z + h / 2, tilt=90)
-    return needle, knobs, w
+    return needle, knobs, w, eye[:2]
+
+
+def magic_eye(r):
+    """The tuning eye: two green fans that meet when the station is sharp, in a brass ring."""
+    fans = []
+    for s in (-1, 1):
+        rim = [(s * r * math.sin(a), r * math.cos(a)) for a in [math.radians(18 + 144 * i / 12) for i in range(13)]]
+        fans.append(mesh([(0, 0, .03)] + [(x, y, .03) for x, y in rim], [(0, i, i + 1) if s < 0 else (0, i + 1, i) for i in range(1, 13)], mat("eyegreen", "4ae08a", .4, emit="1fae5a", emit_strength=.7), False))
+    ring = lathe(smooth_profile([(r * .98, .02), (r * 1.05, .12), (r * 1.22, .1), (r * 1.25, 0)], 4), mat("eyebrass", "d9b35e", .25, metal=1), 32)
+    back = lathe([(.01, 0), (r, 0)], mat("eyedark", "06140e", .2, coat=.6), 32)
+    return fans + [ring, back]
 
 
 def cloche():
-    m = mat("silver", ((.3, "b9bdbb"), (.7, "dfe0da")), .12, metal=1.0, noise=1)
+    m = mat("silver", ((.3, "b9bdbb"), (.7, "dfe0da")), .27, metal=1.0, noise=1)
     tray = lathe(smooth_profile([(.01, .12), (2.9, .12), (3.1, .2), (3.5, .34), (3.55, .28), (3.0, 0), (.01, 0)], 5), m, 96)
     dome = [lathe(smooth_profile([(2.75, 0), (2.85, .06), (2.75, .2), (2.68, .9), (2.2, 1.85), (1.2, 2.4), (.3, 2.52), (.01, 2.54)], 7), m, 96), lathe(smooth_profile([(.1, 2.5), (.12, 2.75), (.34, 2.9), (.36, 3.1), (.16, 3.22), (.01, 3.22)], 5), table.copper(), 32)]
     d = group(dome)
@@ -146,16 +159,16 @@ def saladbowl():
 
 def wine():
     b = table.bottle(8.6, 1.05)
-    gl = put(thinned(table.wineglass(5.0, 1.15, None)), 2.3, -.9, 0)
-    liquid = wineliquid()
-    put(liquid, 2.3, -.9, 0)
+    gl = thinned(table.wineglass(5.0, 1.15, None))
+    liquid, top = wineliquid()
+    glass = put(group([gl, liquid]), 2.3, -.9, 0)
     grapes = []
     gm = mat("grape", ((.4, "2a0f2c"), (.6, "5a2348")), .2, coat=.6, sss=.05)
     for i in range(16):
         a = i * 2.4
         q = .28 * math.sqrt(i)
         grapes.append(put(sphere(.36, gm, n=16), 3.9 + q * math.cos(a), -1.1 + q * math.sin(a) * .8, .35 + .28 * max(0, 1.4 - q)))
-    return group([b, gl, liquid] + grapes), liquid
+    return group([b, glass] + grapes), glass, liquid, top
 
 
 def wineliquid():
@@ -163,7 +176,9 @@ def wineliquid():
     hb = h * .44
     inn = smooth_profile([(r - .05, hb + (h - hb) * .5), (r * .8 - .06, hb + (h - hb) * .27), (.2, hb + .1), (0.01, hb + .06)], 6)
     zt = inn[0][1]
-    return lathe([(.01, zt), (inn[0][0] - .012, zt)] + [(max(.01, a - .012), z) for a, z in inn[1:]], mat("winered", "9a1226", .05, trans=.35, ior=1.2, coat=.6), 48)
+    wide = inn[0][0] - .012
+    body = lathe([(.01, zt), (wide * .5, zt), (wide, zt)] + [(max(.01, a - .012), z) for a, z in inn[1:]], mat("winered", "9a1226", .05, trans=.35, ior=1.2, coat=.6), 48)
+    return body, zt
 
 
 def thinned(g):

@@ -656,8 +656,9 @@ def _raw(width, height, samples, region):
     r.use_border = r.use_crop_to_border = region is not None
     if region:
         x0, y0, x1, y1 = region
-        r.border_min_x, r.border_max_x = x0 / width, x1 / width
-        r.border_min_y, r.border_max_y = 1 - y1 / height, 1 - y0 / height
+        # A hundredth of a pixel more: rounding down must not add a row or a column.
+        r.border_min_x, r.border_max_x = (x0 + .01) / width, (x1 + .01) / width
+        r.border_min_y, r.border_max_y = (height - y1 + .01) / height, (height - y0 + .01) / height
     with tempfile.TemporaryDirectory() as folder:
         _outputs(folder + "/")
         r.filepath = os.path.join(folder, "full.exr")
