@@ -16,13 +16,15 @@ SAUCES = {
     "mustard": ("c9992c", "dcb54e", .3), "hollandaise": ("e9bf42", "f3d470", .22), "tartar": ("e9e4cc", "f5f1e0", .35), "mayonnaise": ("efe3b8", "f6efd2", .3), "curry": ("d99a1e", "e9b842", .22),
     "cranberry": ("5a0a10", "8a141a", .08), "tomato": ("a3280e", "c24420", .25), "soured": ("f0ece0", "faf8f0", .25), "peas": ("6d8f2c", "93ad4c", .5), "spread": ("c2a37c", "dcc19c", .5), "horseradish": ("efe9da", "f8f5ea", .4),
     "oil": ("c9a83a", "d9bd5a", .03), "juice": ("e2bd72", "f0d698", .05), "green": ("5d7a1c", "86a032", .15), "honeymustard": ("b5801a", "d6a436", .2), "fishsoup": ("a8782c", "bf9245", .1), "christmas": ("cfb078", "dfc594", .16),
-    "halaszle": ("8f1c08", "b83414", .05), "broth": ("c98d2a", "dca744", .02), "smoked": ("e6d7b4", "f1e7cc", .22), "vinegar": ("c9b06a", "dcc88a", .03), "risotto": ("e9dcb8", "f3ead0", .3),
+    "halaszle": ("8f1c08", "b83414", .05), "broth": ("c98d2a", "dca744", .02), "smoked": ("dcc492", "ebdab2", .22), "vinegar": ("c9b06a", "dcc88a", .03), "risotto": ("e9dcb8", "f3ead0", .3),
 }
 
 
 def sauce_mat(kind):
     if kind == "gratin":
         return mat("gratin", ((.34, "9c5a1c"), (.43, "dba746"), (.62, "f2d993")), .35, .5, coat=.35, noise=1.8, detail=8, bump=.35, bumpscale=5)
+    if kind == "spread":
+        return mat("spread", ((.34, "8f6f4c"), (.46, "cfae84"), (.58, "e8d3b0"), (.7, "c98f62")), .5, .4, coat=.15, noise=5, detail=6, bump=.7, bumpscale=7)
     a, b, rough = SAUCES[kind]
     thin = kind in ("butter", "juice", "oil", "vinegar")
     clear = thin or kind in ("broth", "halaszle")
