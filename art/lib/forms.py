@@ -177,13 +177,16 @@ def splitfish(kind="tench", length=6.0):
     return food.fillet("white", "poached", length, 2.2, .75, kind)
 
 
-def strip_pile(n=34, r=1.6, h=1.2):
-    """Heap of fried strips, pointing anyhow."""
+def strip_pile(n=26, r=1.6, h=1.2):
+    """Fried strips standing in a cone like flowers in a vase: upright in the middle, leaning outwards at the rim."""
     parts = []
     for i in range(n):
         a, q = i * 2.399, math.sqrt((i + .5) / n)
-        o = food.stick(random.uniform(1.6, 2.4), "gold", i)
-        put(o, r * q * math.cos(a) * .75, r * q * math.sin(a) * .75, h * (1 - q * q) + random.uniform(-.2, .2), turn=random.random() * 360, tilt=0, roll=random.uniform(-65, 65))
+        lean = .1 + .75 * q + random.uniform(-.15, .15)
+        d = core.Vector((math.sin(lean) * math.cos(a), math.sin(lean) * math.sin(a), math.cos(lean)))
+        o = food.stick(random.uniform(1.9, 2.5), "gold", i)
+        foot = core.Vector((r * .75 * q * math.cos(a), r * .75 * q * math.sin(a), h * (1 - q) - .6 + random.uniform(-.2, .2)))
+        o.matrix_world = core.Matrix.Translation(foot + d) @ core.Vector((1, 0, 0)).rotation_difference(d).to_matrix().to_4x4()
         parts.append(o)
     return group(parts)
 

@@ -13,7 +13,7 @@ from .vegetables import dice, pea
 
 SAUCES = {
     "cream": ("ead9ae", "f3e8c8", .25), "dill": ("c9cf94", "dde0b4", .25), "dark": ("1e0d06", "3a1a0c", .12), "paprika": ("b5471a", "d56c34", .22), "butter": ("cf9a3c", "e6c274", .06),
-    "mustard": ("c9992c", "dcb54e", .3), "hollandaise": ("e9bf42", "f3d470", .22), "tartar": ("e9e4cc", "f5f1e0", .35), "mayonnaise": ("efe3b8", "f6efd2", .3), "curry": ("d99a1e", "e9b842", .22),
+    "mustard": ("c9992c", "dcb54e", .3), "hollandaise": ("e9bf42", "f3d470", .22), "tartar": ("e9e4cc", "f5f1e0", .35), "mayonnaise": ("efe3b8", "f6efd2", .3), "curry": ("c98a1e", "dfab3e", .22),
     "cranberry": ("5a0a10", "8a141a", .08), "tomato": ("a3280e", "c24420", .25), "soured": ("f0ece0", "faf8f0", .25), "peas": ("6d8f2c", "93ad4c", .5), "spread": ("c2a37c", "dcc19c", .5), "horseradish": ("efe9da", "f8f5ea", .4),
     "oil": ("c9a83a", "d9bd5a", .03), "juice": ("e2bd72", "f0d698", .05), "green": ("5d7a1c", "86a032", .15), "honeymustard": ("b5801a", "d6a436", .2), "fishsoup": ("a8782c", "bf9245", .1), "christmas": ("cfb078", "dfc594", .16),
     "halaszle": ("8f1c08", "b83414", .05), "broth": ("c98d2a", "dca744", .02), "smoked": ("dcc492", "ebdab2", .22), "vinegar": ("c9b06a", "dcc88a", .03), "risotto": ("e9dcb8", "f3ead0", .3),
