@@ -17,10 +17,11 @@ import sys
 ART = os.path.dirname(os.path.abspath(__file__))
 STATE = os.path.join(ART, "rendered", "dishes", "stav.txt")
 THREADS = os.environ.get("ART_THREADS", "2")
+NICE = os.environ.get("ART_NICE", "19")
 
 
 def blender(script, *args):
-    cmd = ["nice", "-n", "19", "blender", "-t", THREADS, "-b", "-P", os.path.join(ART, script), "--", *args]
+    cmd = ["nice", "-n", NICE, "blender", "-t", THREADS, "-b", "-P", os.path.join(ART, script), "--", *args]
     # Blender takes its modules from the Python that it finds first, which must be the system's, with numpy.
     env = dict(os.environ, PATH="/usr/local/sbin:/usr/sbin:/usr/bin:/sbin:/bin")
     done = subprocess.run(cmd, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace", env=env)

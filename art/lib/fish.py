@@ -461,12 +461,12 @@ def _fix_seam(o):
 
 def _eye(x, z, y, sg, r, cooked, k, w, h, es):
     """Eye ball sunk into the socket: iris and pupil are rings of one surface, so that they cannot come loose."""
-    iris = mat("iris-cooked", "d9d2c0", .3) if cooked else mat("iris", ((.35, "8c6a1e"), (.65, "d8b75a")), .12, .6, coat=1, metal=.3, noise=40)
-    pupil = mat("pupil-cooked", "ece8dc", .25, coat=.6) if cooked else mat("pupil", "050505", .05, coat=1)
+    iris = mat("iris-cooked", "7d6a4c", .35) if cooked else mat("iris", ((.35, "8c6a1e"), (.65, "d8b75a")), .12, .6, coat=1, metal=.3, noise=40)
+    pupil = mat("pupil-cooked", "d6ccb4", .3, coat=.5) if cooked else mat("pupil", "050505", .05, coat=1)
     ring = mat("eyering", "14110c", .4)
     nz = es * w / max(h, 1e-3) * .9
     nrm = Vector((-.12, sg * 1.0, nz)).normalized()
-    cen = Vector((x, y, z)) - nrm * r * .42
+    cen = Vector((x, y, z)) - nrm * r * (.62 if cooked else .42)
     q = Vector((0, 0, 1)).rotation_difference(nrm)
     objs = []
     for prof, m in (([(.01, 0.0), (.3, -.018), (.45, -.045)], pupil), ([(.45, -.045), (.6, -.1), (.78, -.2), (.92, -.36)], iris), ([(.92, -.36), (1.0, -.5), (1.05, -.8)], ring)):

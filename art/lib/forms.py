@@ -12,18 +12,18 @@ from .core import (curve_points, fbm, grid_faces, group, lathe, mat, mesh, outli
 
 def jar(r=2.0, h=5.6, brine=.9):
     """Tall preserving glass with clear brine to a part of its height."""
-    g = thin_glass("jarglass", "e4f2ee", 1.4)
+    g = thin_glass("jarglass", "f8fcfb", 1.2)
     out = smooth_profile([(.01, 0), (r * .92, 0), (r, .2), (r, h * .8), (r * .86, h * .9), (r * .86, h)], 6)
     inn = [(max(.01, a - .09), z + (.12 if z < .3 else 0)) for a, z in reversed(out)]
     parts = [lathe(out + inn, g), put(table.torus(r * .9, .07, g), 0, 0, h)]
     wat = [(max(.01, a - .11), z + (.14 if z < .3 else 0)) for a, z in out if z < h * brine]
-    parts.append(lathe(wat + [(.01, wat[-1][1])], thin_glass("brine", "e2e2b4", 1.1, glow=.008)))
+    parts.append(lathe(wat + [(.01, wat[-1][1])], thin_glass("brine", "fcf9e8", 1.0, glow=.012)))
     return group(parts)
 
 
 def glassdish(sx=9, sy=5.5, h=1.5, level=.8):
     """Rectangular glass dish with clear vinegar bath."""
-    g = thin_glass("dishglass", "dcefea", 1.5)
+    g = thin_glass("dishglass", "f6fbfa", 1.2)
     wall = []
     o = outline_solid(table.rounded_rect(sx, sy, .8), h, g, .08, 3, holes=[table.rounded_rect(sx - .4, sy - .4, .65)])
     wall.append(o)
@@ -32,7 +32,7 @@ def glassdish(sx=9, sy=5.5, h=1.5, level=.8):
         n = 60
         u, v = np.meshgrid(np.linspace(-.5, .5, n), np.linspace(-.5, .5, n), indexing="ij")
         z = level * h + .03 * fbm(np.stack([u * 6, v * 6, u * 0], -1), 3, 2)
-        wall.append(mesh(np.stack([u * (sx - .45), v * (sy - .45), z], -1).reshape(-1, 3), grid_faces(n, n), thin_glass("bath", "e6dfa8", 1.25)))
+        wall.append(mesh(np.stack([u * (sx - .45), v * (sy - .45), z], -1).reshape(-1, 3), grid_faces(n, n), thin_glass("bath", "f6f1cf", 1.0)))
     return group(wall)
 
 
@@ -177,13 +177,16 @@ def splitfish(kind="tench", length=6.0):
     return food.fillet("white", "poached", length, 2.2, .75, kind)
 
 
-def strip_pile(n=34, r=1.6, h=1.2):
-    """Heap of fried strips, pointing anyhow."""
+def strip_pile(n=26, r=1.6, h=1.2):
+    """Fried strips standing in a cone like flowers in a vase: upright in the middle, leaning outwards at the rim."""
     parts = []
     for i in range(n):
         a, q = i * 2.399, math.sqrt((i + .5) / n)
-        o = food.stick(random.uniform(1.6, 2.4), "gold", i)
-        put(o, r * q * math.cos(a) * .75, r * q * math.sin(a) * .75, h * (1 - q * q) + random.uniform(-.2, .2), turn=random.random() * 360, tilt=0, roll=random.uniform(-65, 65))
+        lean = .1 + .75 * q + random.uniform(-.15, .15)
+        d = core.Vector((math.sin(lean) * math.cos(a), math.sin(lean) * math.sin(a), math.cos(lean)))
+        o = food.stick(random.uniform(1.9, 2.5), "gold", i)
+        foot = core.Vector((r * .75 * q * math.cos(a), r * .75 * q * math.sin(a), h * (1 - q) - .6 + random.uniform(-.2, .2)))
+        o.matrix_world = core.Matrix.Translation(foot + d) @ core.Vector((1, 0, 0)).rotation_difference(d).to_matrix().to_4x4()
         parts.append(o)
     return group(parts)
 

@@ -13,43 +13,70 @@ from .surfaces import crumb, fishskin, flesh, gherkin_mat, onion_mat
 
 
 def horseshoe(state="roasted", size=1.0, seed=None, kind="carp", meat="white"):
-    """Cross-cut steak: thick at the back, two belly flaps, skin round the outside."""
+    """Cross-cut steak: thick round the backbone, two belly flaps that nearly meet, skin round the outside."""
     seed = random.randrange(999) if seed is None else seed
     rnd = random.Random(seed)
-    n = 72
+    n = 96
     t = np.linspace(0, 1, n)
-    ang = np.pi * (1.33 - 1.66 * t)
-    rx, ry = 1.45 * size, 1.75 * size
-    open_ = .18 * rnd.uniform(-.5, 1)
-    O = np.stack([rx * np.cos(ang) * (1 + .05 * np.cos(2 * ang)), ry * np.sin(ang) * np.where(np.sin(ang) > 0, .85, 1.15)], -1)
-    O[:, 0] += np.where(O[:, 1] < 0, np.sign(O[:, 0]) * open_ * -O[:, 1] * .4, 0)
-    th = size * (.42 + .78 * np.sin(np.pi * t) ** 1.4)
-    tang = np.gradient(O, axis=0)
-    nor = np.stack([-tang[:, 1], tang[:, 0]], -1)
-    nor /= np.linalg.norm(nor, axis=1)[:, None]
-    sgn = -1 if (nor[n // 2] @ O[n // 2]) > 0 else 1
-    end = np.sqrt(np.clip(np.minimum(t, 1 - t) / .05, 0, 1))
-    mid = O + nor * sgn * (th * .5)[:, None]
-    Oe = mid - nor * sgn * (th * .5 * end)[:, None]
-    I = mid + nor * sgn * (th * .5 * end)[:, None]
-    h = .75 * size
+    ang = np.pi * (1.36 - 1.72 * t)
+    c, s = np.cos(ang), np.sin(ang)
+    apart = rnd.uniform(.02, .2)
+    lean = rnd.uniform(-.18, .18)
+    O = np.stack([1.38 * c * (1 + .06 * np.cos(2 * ang)), np.where(s > 0, 1.42, 1.95) * s], -1)
+    I = np.stack([.47 * c * np.where(s > 0, .8, 1.0), -.35 + np.where(s > 0, .42, 1.4) * s], -1)
+    for curve, k in ((O, 1.0), (I, .8)):
+        low = np.clip(-curve[:, 1], 0, 9)
+        curve[:, 0] += np.sign(curve[:, 0]) * apart * low * .5 * k + lean * low * .5
+    w = 1 + .05 * (fbm(np.stack([c * 1.4, s * 1.4, np.full(n, seed * .3)], -1), 3, seed) * 2 - 1)
+    O *= w[:, None] * size
+    I *= size
+    end = np.sqrt(np.clip(np.minimum(t, 1 - t) / .05, 0, 1))[:, None]
+    mid = (O + I) / 2
+    Oe, Ie = mid + (O - mid) * end, mid + (I - mid) * end
+    h = .62 * size
     if state == "breaded":
-        o = loft(Oe, I, h, crumb("gold"), None, .12, .1, seed, .05)
+        o = loft(Oe, Ie, h, crumb("gold"), None, .12, .1, seed, .05)
         return group([o, crumbs_on(o, 260, "gold")])
     sk = {"blue": "blue", "poached": "poached", "grilled": "grilled"}.get(state, "roasted")
-    fl = flesh(meat, {"blue": "poached", "poached": "poached"}.get(state, "roasted"))
-    parts = [loft(Oe, I, h, fl, fishskin(kind, sk), .1, .07, seed, .02)]
-    bone = mat("bone", "e6dcc2", .5)
-    b = lathe(smooth_profile([(.01, .06), (.06, .1), (.13, .08), (.15, 0)], 4), bone, 20)
-    put(b, 0, ry * .85 - th.max() * .83, h * 1.08, scale=size * 1.1)
-    parts.append(b)
-    red = mat("boned", ((.4, "a88a62"), (.6, "8a6038")), .5)
-    for s in (-1, 1):
-        parts.append(tube([(0, ry * .85 - th.max() * .83, h * 1.07), (s * .3 * size, ry * .45, h * 1.1)], .015, red, 6))
+    parts = [loft(Oe, Ie, h, cutface(meat, "poached" if state in ("blue", "poached") else "roasted"), fishskin(kind, sk), .06, .07, seed, .025)]
+    parts.append(put(_backbone(size), lean * -.1, .28 * size, h * 1.02))
     if state == "grilled":
         parts.append(grillmarks(parts[0], seed))
-    g = group(parts)
-    return g
+    return group(parts)
+
+
+def _backbone(size):
+    """A cut vertebra level with the flesh: a ring, dark in the middle."""
+    bone = mat("vertebra", ((.4, "b79a6c"), (.6, "ddc9a0")), .5, coat=.2, noise=5)
+    ring = lathe(smooth_profile([(.05, .02), (.1, .05), (.16, .045), (.19, 0)], 4), bone, 20)
+    heart = lathe([(.01, .022), (.06, .024), (.07, 0)], mat("marrow", "6b3a22", .5, coat=.3), 16)
+    return put(group([ring, heart]), scale=(size, size * .85, size))
+
+
+def cutface(kind="white", state="poached"):
+    """The cut across a fish: muscle rings with pale seams between them, browned along the edges when fried."""
+    name = f"cutface-{kind}-{state}"
+    if name in core._materials:
+        return core._materials[name]
+    base, seam, brown = {"white": ("e3d0a4", "fbf3dc", "a05f22"), "pink": ("e2764a", "f8cda8", "a85a2a")}.get(kind, ("d8c4a8", "f0e4d0", "8f5a2c"))
+    if state == "roasted" and kind == "white":
+        base, seam = "d9ac62", "f0d7a0"
+    base, seam, brown = (np.array(core.rgb(q)) ** (1 / 2.2) for q in (base, seam, brown))
+    v, u = np.mgrid[0:1:256j, 0:1:1024j]
+    rough = fbm(np.stack([u * 26, v * 5, u * 0], -1), 4, 5)
+    wide = fbm(np.stack([u * 9, v * 2.5, u * 0 + 4], -1), 4, 9)
+    phase = v * 5 + .5 * np.sin(u * 2 * np.pi * 2) + 1.1 * (wide - .5) + .35 * np.abs(np.mod(u * 10, 1) - .5) * 2
+    line = np.abs(np.mod(phase, 1) - .5)
+    gap = np.clip((.09 - line) / .06, 0, 1) * np.clip(wide * 3 - .7, 0, 1)
+    img = base * (.8 + .4 * rough[..., None])
+    img = img + (seam - img) * (gap * .7)[..., None]
+    if state == "roasted":
+        near = np.clip(1 - np.minimum(v, 1.1 - v) / .3, 0, 1)
+        f = np.clip(near * .75 + (wide - .45) * 2.6, 0, 1) * (1 - .4 * gap)
+        img = img + (brown * (.7 + .5 * rough[..., None]) - img) * (.8 * f)[..., None]
+    tall = np.clip(.6 + .5 * (rough - .5) - .5 * gap, 0, 1)
+    tall = core.picture(name + "h", np.repeat(tall[..., None], 3, -1), True)
+    return mat(name, "e3d0a4", .36, .5, sss=.07, coat=.35, image=core.picture(name, img.clip(0, 1)), height=tall, heightscale=.35, sssradius=(.25, .14, .1))
 
 
 def grillmarks(o, seed=0, n=5, col="140a05"):
@@ -156,8 +183,7 @@ def stick(length=2.2, kind="gold", seed=None):
 
 
 def cube(kind="white", state="poached", s=.8, seed=None, skin=None):
-    o = slab(blob(s * random.uniform(.85, 1.2), s * random.uniform(.8, 1.1), .1, 40, 4, seed), s * random.uniform(.7, .95), flesh(kind, state), 4.5, .07, 2.2, 12, .05, .02, 8, seed)
-    return o
+    return slab(blob(s * random.uniform(.85, 1.25), s * random.uniform(.8, 1.1), .24, 44, 3.2, seed), s * random.uniform(.6, .85), flesh(kind, state), 3.6, .12, 2.4, 14, .05, .045, 7, seed)
 
 
 def flake(kind="tuna", s=.7, state="poached"):

@@ -5,26 +5,31 @@ import random
 import numpy as np
 
 from .. import core
-from ..core import curve_points, fbm, grid_faces, group, mat, mesh, put, smooth_profile, tube
+from ..core import curve_points, fbm, grid_faces, group, mat, mesh, put, smooth_profile, thin_glass, tube
 from .pieces import cube
 from .shapes import blob, sheet, slab
 from .vegetables import dice, pea
 
 
 SAUCES = {
-    "cream": ("ead9ae", "f3e8c8", .25), "dill": ("c9cf94", "dde0b4", .25), "dark": ("1e0d06", "3a1a0c", .12), "paprika": ("c2541a", "dd7a32", .22), "butter": ("b5741a", "d69a36", .06),
-    "mustard": ("c9992c", "dcb54e", .3), "hollandaise": ("e9bf42", "f3d470", .22), "tartar": ("e9e4cc", "f5f1e0", .35), "mayonnaise": ("efe3b8", "f6efd2", .3), "curry": ("d99a1e", "e9b842", .22),
-    "cranberry": ("5a0a10", "8a141a", .08), "tomato": ("a3280e", "c24420", .25), "soured": ("f0ece0", "faf8f0", .25), "peas": ("6d8f2c", "93ad4c", .5), "spread": ("d9c4a6", "e9dabf", .5), "horseradish": ("efe9da", "f8f5ea", .4),
-    "oil": ("c9a83a", "d9bd5a", .03), "juice": ("c9963a", "dcb25c", .05), "green": ("5d7a1c", "86a032", .15), "honeymustard": ("b5801a", "d6a436", .2), "fishsoup": ("a8782c", "bf9245", .1), "christmas": ("cfb078", "dfc594", .16),
-    "halaszle": ("8f1c08", "b83414", .05), "broth": ("c98d2a", "dca744", .02), "smoked": ("e6d7b4", "f1e7cc", .22), "vinegar": ("d9cf9a", "e6deb4", .03), "risotto": ("e9dcb8", "f3ead0", .3),
+    "cream": ("ead9ae", "f3e8c8", .25), "dill": ("c9cf94", "dde0b4", .25), "dark": ("1e0d06", "3a1a0c", .12), "paprika": ("b5471a", "d56c34", .22), "butter": ("cf9a3c", "e6c274", .06),
+    "mustard": ("c9992c", "dcb54e", .3), "hollandaise": ("e9bf42", "f3d470", .22), "tartar": ("e9e4cc", "f5f1e0", .35), "mayonnaise": ("efe3b8", "f6efd2", .3), "curry": ("c98a1e", "dfab3e", .22),
+    "cranberry": ("5a0a10", "8a141a", .08), "tomato": ("a3280e", "c24420", .25), "soured": ("f0ece0", "faf8f0", .25), "peas": ("6d8f2c", "93ad4c", .5), "spread": ("c2a37c", "dcc19c", .5), "horseradish": ("efe9da", "f8f5ea", .4),
+    "oil": ("c9a83a", "d9bd5a", .03), "juice": ("e2bd72", "f0d698", .05), "green": ("5d7a1c", "86a032", .15), "honeymustard": ("b5801a", "d6a436", .2), "fishsoup": ("a8782c", "bf9245", .1), "christmas": ("cfb078", "dfc594", .16),
+    "halaszle": ("8f1c08", "b83414", .05), "broth": ("c98d2a", "dca744", .02), "smoked": ("dcc492", "ebdab2", .22), "vinegar": ("c9b06a", "dcc88a", .03), "risotto": ("e9dcb8", "f3ead0", .3),
 }
 
 
 def sauce_mat(kind):
+    if kind == "gratin":
+        return mat("gratin", ((.34, "9c5a1c"), (.43, "dba746"), (.62, "f2d993")), .35, .5, coat=.35, noise=1.8, detail=8, bump=.35, bumpscale=5)
+    if kind == "spread":
+        return mat("spread", ((.34, "8f6f4c"), (.46, "cfae84"), (.58, "e8d3b0"), (.7, "c98f62")), .5, .4, coat=.15, noise=5, detail=6, bump=.7, bumpscale=7)
     a, b, rough = SAUCES[kind]
-    clear = kind in ("butter", "juice", "oil", "broth", "halaszle", "vinegar")
+    thin = kind in ("butter", "juice", "oil", "vinegar")
+    clear = thin or kind in ("broth", "halaszle")
     soup = kind in ("fishsoup", "christmas", "smoked", "curry", "paprika")
-    return mat("sauce-" + kind, ((.36, a), (.64, b)), .08 if soup else rough, .5, sss=0 if clear else .06, coat=1.0 if soup else .5, noise=1.6, bump=.06, bumpscale=3.5, trans=.55 if clear else 0, ior=1.33)
+    return mat("sauce-" + kind, ((.36, a), (.64, b)), .08 if soup else rough, .5, sss=0 if clear else .06, coat=1.0 if soup else .5, noise=1.6, bump=.06, bumpscale=3.5, trans=.2 if thin else .55 if clear else 0, ior=1.33)
 
 
 def pool(kind, sx=2.0, sy=1.4, thick=.09, z=None, at=(0, 0), wob=.28, seed=None):
@@ -109,7 +114,8 @@ def line(kind, points, w=.12):
 
 
 def aspic_mat():
-    return mat("aspic", "efc768", .03, .55, trans=1.0, ior=1.18, coat=.5)
+    """Clear and amber, without refraction: what is set in it stays to be seen."""
+    return thin_glass("aspic", "f7e2a2", 1.9, .04, glow=.025)
 
 
 def aspic_mould(r=2.2, h=1.7, flutes=14):

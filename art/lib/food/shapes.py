@@ -94,6 +94,6 @@ def loft(outer, inner, h, m, side=None, bulge=0.05, rough=0.03, seed=0, fine=0.0
     o = mesh(v, f, m, uv=uv)
     if side:
         o.data.materials.append(side)
-        mi = [1 if (i % (k - 1)) < 3 else 0 for i in range(len(f))]
+        mi = [1 if (i % (k - 1)) < 4 else 0 for i in range(len(f))]
         o.data.polygons.foreach_set("material_index", mi)
     return o

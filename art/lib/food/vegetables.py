@@ -233,11 +233,18 @@ def radish_flower(r=.4):
 
 
 def mushroom_slice(s=1.0):
-    """Slice of a boletus: brown cap rim, pale body."""
-    pts = curve_points([(-.12, -.8), (-.2, -.3), (-.22, .05), (-.7, .02), (-.78, .2), (-.5, .6), (0, .75), (.5, .6), (.78, .2), (.7, .02), (.22, .05), (.2, -.3), (.14, -.8), (-.0, -.86)], 5)
-    pts = np.array(pts) * s
-    m = mat("boletus", ((.36, "a8793c"), (.5, "d0a868"), (.64, "e6cc98")), .4, .5, sss=.08, coat=.45, noise=2.6, detail=8, bump=.2, bumpscale=10)
-    return slab(pts, .17 * s, m, 5, .03, 2, 14, .02, .01, side=mat("boletuscap", ((.4, "4a2610"), (.6, "7c4a20")), .35, coat=.5, noise=3), taper=.0)
+    """Slice of a boletus: pale flesh, a thin brown line round the cap, a bulging stem."""
+    flesh = mat("boletus", ((.34, "a06a2c"), (.48, "d3aa66"), (.62, "ecd6a6")), .38, .5, sss=.08, coat=.45, noise=2.2, detail=8, bump=.18, bumpscale=9)
+    brown = mat("boletuscap", ((.4, "4a2610"), (.6, "7c4a20")), .35, coat=.5, noise=3)
+    wide = random.uniform(.74, .9)
+    cap = [(wide * math.cos(a), .6 * math.sin(a) ** .8) for a in np.linspace(0, math.pi, 22)]
+    cap += [(x, -.1 - .06 * math.cos(x * 4)) for x in np.linspace(-wide * .93, wide * .93, 14)]
+    fat = random.uniform(.26, .36)
+    stem = [(fat * (.72 + .28 * math.sin(q * 2.2)), .02 - 1.0 * q) for q in np.linspace(0, 1, 12)]
+    stem += [(-x, y) for x, y in reversed(stem)]
+    cap, stem = np.array(cap) * s, np.array(stem) * s
+    rim = put(slab(cap * 1.07, .13 * s, brown, 6, .02, 2, 10, .02), 0, -.015 * s, .01)
+    return group([rim, slab(cap, .16 * s, flesh, 7, .02, 2, 12, .02, .01, side=brown, taper=0), slab(stem, .15 * s, flesh, 6, .02, 2, 12, .02, .01, taper=0)])
 
 
 def asparagus(length=5.0):
@@ -336,12 +343,12 @@ def egg_piped(r=.72):
         for j in range(nv):
             a = 2 * math.pi * j / nv
             rr = r * .62 * (1 - q) ** .55 * (1 + .16 * math.cos(7 * a + q * 5))
-            v.append((rr * math.cos(a), rr * math.sin(a), r * .84 + q * r * .75))
+            v.append((rr * math.cos(a), rr * math.sin(a), r * .84 + q * r * .5))
     cream.append(mesh(v, grid_faces(nu, nv, True), mat("yolkcream", ((.4, "e6b84a"), (.6, "f2d27c")), .45, sss=.15, coat=.2)))
     an = mat("anchovy", ((.36, "4a1f16"), (.5, "7a3a28"), (.64, "a8684c")), .25, coat=.7, noise=3, stretch=(1, 1, 4))
-    pts = [(.26 * r * (1 - .35 * t) * math.cos(t * 9), .26 * r * (1 - .35 * t) * math.sin(t * 9), r * 1.22) for t in np.linspace(0, 1, 30)]
-    cream.append(put(tube([(x, y, 0) for x, y, _ in pts], .085, an, 8), 0, 0, r * 1.3, tilt=0))
-    cream.append(put(caper(.11), 0, 0, r * 1.34))
+    coil = [(.3 * r * (1 - .5 * t) * math.cos(t * 11), .3 * r * (1 - .5 * t) * math.sin(t * 11), r * (1.26 + .22 * t)) for t in np.linspace(0, 1, 40)]
+    cream.append(tube(coil, [.1 * r / .72 * min(1, 4 * (1 - t) + .3) for t in np.linspace(0, 1, 40)], an, 8))
+    cream.append(put(caper(.11), 0, 0, r * 1.42))
     return group([g] + cream)
 
 
