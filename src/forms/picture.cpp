@@ -120,6 +120,11 @@ void Picture::draw(QPainter& painter, const QRectF& place, Fit fit) const {
     painter.restore();
 }
 
+void Picture::drawExactly(QPainter& painter, const QRectF& place) const {
+    const QPixmap own = pixmap(size());
+    if (!own.isNull()) painter.drawPixmap(place, own, QRectF(QPointF(), own.size()));
+}
+
 void Picture::prepare(QSize pixels) const {
     if (source_ && !pixels.isEmpty()) source_->at(pixels);
 }

@@ -34,6 +34,9 @@ class Picture {
 
     /// Draws into \a place, in the painter's units.
     void draw(QPainter& painter, const QRectF& place, Fit fit = Fit::Stretch) const;
+    /// Draws the picture's own pixels into exactly \a place, which may begin and end within a pixel: for a
+    /// picture that continues another one below it. draw() is sharper, and takes whole pixels.
+    void drawExactly(QPainter& painter, const QRectF& place) const;
     /// Decodes for \a pixels now, so that drawing at that size is quick.
     void prepare(QSize pixels) const;
     QImage image() const;

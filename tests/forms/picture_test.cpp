@@ -41,6 +41,25 @@ TEST(Picture, KeepsItsProportions) {
     EXPECT_EQ(cover.pixelColor(50, 55), QColor(Qt::white));
 }
 
+TEST(Picture, DrawnExactlyKeepsItsPlaceWithinThePixels) {
+    // Red up to column 4 of 10, then blue; the border lies in the middle of pixel 14.
+    QImage halves(10, 10, QImage::Format_RGB32);
+    halves.fill(Qt::blue);
+    QPainter(&halves).fillRect(0, 0, 4, 10, Qt::red);
+    const Picture picture = Picture::fromImage(halves);
+    QImage canvas(30, 20, QImage::Format_RGB32);
+    canvas.fill(Qt::white);
+    QPainter painter(&canvas);
+    painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
+    painter.scale(.12, .12);
+    picture.drawExactly(painter, {14.5 / .12 - 40, 50, 100, 100});
+    painter.end();
+    EXPECT_EQ(canvas.pixelColor(13, 10), QColor(Qt::red));
+    EXPECT_NEAR(canvas.pixelColor(14, 10).red(), 128, 16);
+    EXPECT_NEAR(canvas.pixelColor(14, 10).blue(), 128, 16);
+    EXPECT_EQ(canvas.pixelColor(15, 10), QColor(Qt::blue));
+}
+
 TEST(Picture, BrokenOnesDrawNothing) {
     QTemporaryDir folder;
     const QByteArray good = encoded({50, 50}, "BMP");

@@ -248,7 +248,7 @@ void frmHlavni::paint(QPainter& painter) {
     if (current_ < 0 || shownFrame_ == 0) return;
     const auto& pictures = frames(current_);
     if (size_t(shownFrame_) <= pictures.size())
-        pictures[size_t(shownFrame_ - 1)].draw(painter, frameRect(current_));
+        pictures[size_t(shownFrame_ - 1)].drawExactly(painter, frameRect(current_));
 }
 
 }  // namespace sarne
