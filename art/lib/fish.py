@@ -466,7 +466,7 @@ def _eye(x, z, y, sg, r, cooked, k, w, h, es):
     ring = mat("eyering", "14110c", .4)
     nz = es * w / max(h, 1e-3) * .9
     nrm = Vector((-.12, sg * 1.0, nz)).normalized()
-    cen = Vector((x, y, z)) - nrm * r * (.62 if cooked else .42)
+    cen = Vector((x, y, z)) - nrm * r * (.44 if cooked else .42)
     q = Vector((0, 0, 1)).rotation_difference(nrm)
     objs = []
     for prof, m in (([(.01, 0.0), (.3, -.018), (.45, -.045)], pupil), ([(.45, -.045), (.6, -.1), (.78, -.2), (.92, -.36)], iris), ([(.92, -.36), (1.0, -.5), (1.05, -.8)], ring)):
