@@ -82,7 +82,7 @@ void Button::changeEvent(QEvent* event) {
 
 void Button::paint(QPainter& painter) {
     const QRect place({0, 0}, twips().size());
-    if (!isEnabled()) painter.setOpacity(.45);
+    if (!isEnabled()) painter.setOpacity(colors::kDisabledFace);
     const bool pressed = shownFrame() == Frame::Pressed;
     QRect inside =
         frame_ == Frame::None ? place : place.adjusted(kFrameTwips, kFrameTwips, -kFrameTwips, -kFrameTwips);
@@ -95,6 +95,7 @@ void Button::paint(QPainter& painter) {
     face_.draw(painter, inside, Fit::Inside);
     if (frame_ != Frame::None) paintFrame(painter, place);
     if (!caption_.isEmpty()) {
+        if (!isEnabled()) painter.setOpacity(colors::kDisabledText);
         painter.setFont(font_.toQFont());
         painter.setPen(colors::kPaper);
         painter.drawText(inside, Qt::AlignCenter | Qt::TextShowMnemonic, caption_);

@@ -65,7 +65,7 @@ void CheckBox::keyPressEvent(QKeyEvent* event) {
 
 void CheckBox::paint(QPainter& painter) {
     const QRect place({0, 0}, twips().size());
-    if (!isEnabled()) painter.setOpacity(.6);
+    if (!isEnabled()) painter.setOpacity(colors::kDisabledText);
     const QRect box(kGap / 2, (place.height() - kMark) / 2, kMark, kMark);
     if (markPicture().isNull())
         paintMark(painter, box);

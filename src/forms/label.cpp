@@ -69,7 +69,7 @@ void Label::paint(QPainter& painter) {
     if (ground_.alpha() > 0) painter.fillRect(place, ground_);
     painter.setFont(font_.toQFont());
     painter.setPen(color_);
-    if (!isEnabled()) painter.setOpacity(.6);
+    if (!isEnabled()) painter.setOpacity(colors::kDisabledText);
     painter.drawText(place, int(alignment_) | (wraps_ ? Qt::TextWordWrap : 0), text_);
 }
 

@@ -49,5 +49,14 @@ TEST(TextContrast, TakesTheGroundUnderTheTextAndLeavesOutWhatIsCovered) {
     EXPECT_TRUE(QRect(20, 10, 200, 40).contains(found[0].place));
 }
 
+TEST(TextContrast, CountsWhatShowsThroughTheText) {
+    QWidget window;
+    window.resize(300, 100);
+    const Sign faded(&window, Qt::white, QColor(0, 0, 0, 102), QStringLiteral("disabled"));
+    const auto found = textContrasts(window);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_NEAR(found[0].contrast, contrastRatio(QColor(153, 153, 153), Qt::white), 0.01);
+}
+
 }  // namespace
 }  // namespace sarne

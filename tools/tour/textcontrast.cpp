@@ -17,6 +17,14 @@ double luminance(const QColor& color) {
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
+/// What \a ink looks like, painted as opaque as \a opacity says on \a ground.
+QColor mixed(const QColor& ink, const QColor& ground, double opacity) {
+    const double part = opacity * ink.alphaF();
+    const auto mix = [part](double over, double under) { return float(part * over + (1 - part) * under); };
+    return QColor::fromRgbF(mix(ink.redF(), ground.redF()), mix(ink.greenF(), ground.greenF()),
+                            mix(ink.blueF(), ground.blueF()));
+}
+
 /// Paints on an image what it is told to paint, and looks at the ground before each text.
 class WatchingEngine final : public QPaintEngine {
   public:
@@ -98,14 +106,16 @@ class WatchingEngine final : public QPaintEngine {
         const QRectF letters(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
         const QRect place = (visible_ & painter_.transform().mapRect(letters).toAlignedRect()).boundingRect();
         if (place.isEmpty() || item.text().trimmed().isEmpty()) return {};
-        const QColor ink = painter_.pen().color();
+        const auto contrastOn = [&](QRgb ground) {
+            return contrastRatio(mixed(painter_.pen().color(), ground, painter_.opacity()), ground);
+        };
         std::vector<std::pair<double, QRgb>> grounds;
         for (int y = place.top(); y <= place.bottom(); ++y)
             for (int x = place.left(); x <= place.right(); ++x)
-                grounds.emplace_back(contrastRatio(ink, QColor(image_.pixel(x, y))), image_.pixel(x, y));
+                grounds.emplace_back(contrastOn(image_.pixel(x, y)), image_.pixel(x, y));
         const auto worst = grounds.begin() + std::ptrdiff_t(grounds.size() / 20);
         std::nth_element(grounds.begin(), worst, grounds.end());
-        return {item.text(), place, ink, QColor(worst->second), worst->first};
+        return {item.text(), place, painter_.pen().color(), QColor(worst->second), worst->first};
     }
 
     static bool isShadow(const TextContrast& earlier, const TextContrast& text) {

@@ -52,7 +52,7 @@ void PictureButton::leaveEvent(QEvent* event) {
 void PictureButton::paint(QPainter& painter) {
     const QRect whole({0, 0}, twips().size());
     painter.save();
-    if (!isEnabled()) painter.setOpacity(.45);
+    if (!isEnabled()) painter.setOpacity(colors::kDisabledFace);
     QRect inside = whole.adjusted(kInset, kInset, -kInset, -kInset);
     if (isDown() || latched_) inside.translate(kShift, kShift);
     QRect face = inside, word = whole;
@@ -66,6 +66,7 @@ void PictureButton::paint(QPainter& painter) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(colors::kCopper, 15));
         painter.drawRoundedRect(whole.adjusted(45, 45, -45, -45), kRounding, kRounding);
+        if (!isEnabled()) painter.setOpacity(colors::kDisabledText);
         painter.setFont(TextFont{QStringLiteral("Arial"), kWordPoints}.toQFont());
         painter.setPen(colors::kTitle);
         painter.drawText(word, Qt::AlignCenter | Qt::TextWordWrap, word_);
