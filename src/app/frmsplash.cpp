@@ -5,6 +5,8 @@
 
 #include "app/displayquestions.h"
 #include "app/program.h"
+#include "db/queries.h"
+#include "db/soundsettings.h"
 #include "forms/colors.h"
 #include "media/videoarea.h"
 #include "richtext/surface.h"
@@ -98,7 +100,7 @@ void frmSplash::Konec() {
 void frmSplash::preparePictures() {
     Database pictures;
     pictures.Open(app().paths().resolve(app().AppDir + QStringLiteral("KOp.bj")));
-    Recordset records = pictures.OpenQuery(QStringLiteral("SELECT * FROM TabObr"));
+    Recordset records = queries::screenPictures(pictures);
     // The records are told apart by their position: the first one, then the others from the last one
     // backwards.
     app().Pictures.hlavni = pictureOf(records);
@@ -111,11 +113,9 @@ void frmSplash::preparePictures() {
 }
 
 void frmSplash::readSettings() {
-    Recordset settings = app().Db().OpenTable(QStringLiteral("Nastav"));
-    settings.setIndex(QStringLiteral("PrimaryKey"));
-    settings.MoveFirst();
-    for (size_t row = 0; row < app().SoundFlags.size() && !settings.AtEnd(); ++row, settings.MoveNext())
-        app().SoundFlags[row] = settings.field(QStringLiteral("hodnota")).toInt() == 1;
+    const std::vector<SoundSetting> settings = readSoundSettings(app().Db());
+    for (size_t row = 0; row < std::min(app().SoundFlags.size(), settings.size()); ++row)
+        app().SoundFlags[row] = settings[row].on;
 }
 
 bool frmSplash::keyDown(QKeyEvent&) {

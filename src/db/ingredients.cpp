@@ -3,6 +3,7 @@
 #include <QHash>
 
 #include "db/database.h"
+#include "db/queries.h"
 
 namespace sarne {
 namespace {
@@ -103,8 +104,7 @@ namespace {
 
 std::vector<Ingredient> readRows(Database& db, int recipe) {
     std::vector<Ingredient> ingredients;
-    Recordset rows = db.OpenQuery(QStringLiteral("SELECT * ") + QStringLiteral("FROM SpojSur ") +
-                                  QStringLiteral("WHERE ID_Receptu = ") + QString::number(recipe));
+    Recordset rows = queries::recipeIngredients(db, recipe);
     if (rows.RecordCount() == 0) return ingredients;
     ingredients.reserve(static_cast<size_t>(rows.RecordCount()));
     for (IngredientReader reader(db); !rows.AtEnd(); rows.MoveNext())

@@ -2,8 +2,8 @@
 
 #include "core/numbertext.h"
 #include "db/companions.h"
-#include "db/database.h"
 #include "db/ingredients.h"
+#include "db/queries.h"
 #include "print/printfonts.h"
 
 namespace sarne {
@@ -18,13 +18,6 @@ QString quantityText(const Ingredient& ingredient, const Quantities& quantities,
     if (!weights) return spoons;
     const QString kilograms = ingredient.weights.text(quantities);
     return kilograms == spoons ? spoons : kilograms + spoons;
-}
-
-QString linksQuery(int recipe) {
-    return QStringLiteral("SELECT Polozka, ID, Text FROM SpojOdkazy, Odkazy ") +
-           QStringLiteral("WHERE Odkazy.ID = SpojOdkazy.ID_Polozky ") +
-           QStringLiteral("AND SpojOdkazy.ID_Receptu = ") + QString::number(recipe) +
-           QStringLiteral(" ORDER BY Polozka");
 }
 
 }  // namespace
@@ -126,7 +119,8 @@ void RecipeSections::tools() {
 }
 
 void RecipeSections::links() {
-    for (Recordset links = context_.source.db.OpenQuery(linksQuery(id())); !links.AtEnd(); links.MoveNext()) {
+    for (Recordset links = queries::printedLinks(context_.source.db, id()); !links.AtEnd();
+         links.MoveNext()) {
         if (!flow_.wentOn()) return;
         const QString title = links.field(QStringLiteral("Polozka")).toString();
         status(QStringLiteral(" Tisknu odkaz ") + title + QStringLiteral(" ... "));

@@ -2,6 +2,7 @@
 
 #include "core/value.h"
 #include "db/database.h"
+#include "db/queries.h"
 
 namespace sarne {
 namespace {
@@ -70,9 +71,7 @@ std::vector<ListEntry> readEntries(Database& db, const QString& table, const QSt
 
 QString wineText(Database& db, const QString& name, std::int32_t id) {
     QString text = name + QStringLiteral(" Víno ");
-    Recordset wines = db.OpenQuery(QStringLiteral("SELECT Polozka ") + QStringLiteral("FROM Vino,SpojVino ") +
-                                   QStringLiteral("WHERE ID_Receptu = ") + QString::number(id) +
-                                   QStringLiteral(" AND ID = ID_Polozky "));
+    Recordset wines = queries::recipeWines(db, id);
     for (; !wines.AtEnd(); wines.MoveNext())
         text += QStringLiteral("\r\n") + wines.field(QStringLiteral("polozka")).toString();
     return text;

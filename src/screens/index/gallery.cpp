@@ -3,7 +3,7 @@
 #include <cstdlib>
 
 #include "core/value.h"
-#include "db/database.h"
+#include "db/queries.h"
 
 namespace sarne {
 namespace {
@@ -20,8 +20,7 @@ QString text(const Recordset& row, const char* field) {
 
 std::vector<GalleryArea> readAreas(Database& db, int picture) {
     std::vector<GalleryArea> areas;
-    Recordset rows = db.OpenQuery(
-        QStringLiteral("SELECT * FROM PlochySponzoru WHERE ID_Sponzoru = %1 ORDER BY ID").arg(picture));
+    Recordset rows = queries::galleryAreas(db, picture);
     for (; !rows.AtEnd(); rows.MoveNext()) {
         const QRect place(number(rows, "X"), number(rows, "Y"), number(rows, "Sirka"), number(rows, "Vyska"));
         const QRect inside = place & QRect(0, 0, kWhole, kWhole);
@@ -47,8 +46,7 @@ GalleryTarget GalleryTarget::of(const QString& text) {
 
 std::vector<GalleryPicture> readGallery(Database& db, int topic) {
     std::vector<GalleryPicture> pictures;
-    Recordset rows =
-        db.OpenQuery(QStringLiteral("SELECT * FROM Sponzor WHERE Tema = %1 ORDER BY ID").arg(topic));
+    Recordset rows = queries::galleryPictures(db, topic);
     for (; !rows.AtEnd(); rows.MoveNext()) {
         const int id = number(rows, "ID");
         pictures.push_back({id, text(rows, "Nazev"), text(rows, "Text"), readAreas(db, id)});

@@ -1,6 +1,7 @@
 #include "screens/index/lookuptable.h"
 
 #include "db/database.h"
+#include "db/queries.h"
 #include "screens/index/plaintext.h"
 #include "screens/index/rtfdocument.h"
 
@@ -22,8 +23,7 @@ LookupTable keywordIndex(Database& db) {
     table.columns = QStringList{QStringLiteral("Heslo"), QStringLiteral("Co o něm kuchařka říká")};
     table.layout = LookupTable::Rows::OneLine;
     table.hasLetters = true;
-    Recordset keywords =
-        db.OpenQuery(QStringLiteral("SELECT id, nazvy, Text FROM IndexHesla ORDER BY nazvy"));
+    Recordset keywords = queries::keywords(db);
     for (; !keywords.AtEnd(); keywords.MoveNext()) {
         const QString name = keywords.field(QStringLiteral("nazvy")).toString().trimmed();
         table.rows.push_back({{name, preview(keywords.field(QStringLiteral("Text")).toString(), name)},
@@ -33,8 +33,7 @@ LookupTable keywordIndex(Database& db) {
 }
 
 void readRows(Database& db, int item, LookupTable& table) {
-    Recordset rows = db.OpenQuery(
-        QStringLiteral("SELECT * FROM RadkyTabulek WHERE ID_Tabulky = %1 ORDER BY ID").arg(item));
+    Recordset rows = queries::tableRows(db, item);
     for (; !rows.AtEnd(); rows.MoveNext()) {
         LookupRow row{rows.field(QStringLiteral("Bunky")).toString().split(u'\t'),
                       rows.field(QStringLiteral("ID_Hesla")).toInt()};

@@ -2,6 +2,7 @@
 
 #include "core/value.h"
 #include "db/database.h"
+#include "db/queries.h"
 
 namespace sarne {
 
@@ -15,7 +16,7 @@ std::optional<Page> readPage(Database& db, const QString& id) {
 
 QString helpPageFor(Database& db, const QString& formName) {
     if (formName.isEmpty()) return {};
-    Recordset pages = db.OpenQuery(QStringLiteral("SELECT ID, Obrazovka FROM Stranky ORDER BY ID"));
+    Recordset pages = queries::pages(db);
     for (; !pages.AtEnd(); pages.MoveNext()) {
         // One page may be the help of several forms.
         const QStringList forms = pages.field(QStringLiteral("Obrazovka")).toString().split(u',');

@@ -1,6 +1,7 @@
 #include "screens/navigation/ingredientsearch.h"
 
 #include "db/database.h"
+#include "db/queries.h"
 
 namespace sarne {
 namespace {
@@ -23,10 +24,9 @@ void appendFound(Recordset& menu, Recordset& found) {
 }
 
 void writeResults(Database& db, const QString& text) {
-    db.Execute(QStringLiteral("DELETE * FROM Menu WHERE ID LIKE '0*'"));
+    queries::clearFoundIngredients(db);
     Recordset menu = db.OpenTable(QStringLiteral("Menu"));
-    Recordset found = db.OpenQuery(QStringLiteral("SELECT * FROM Suroviny WHERE Polozka LIKE '") + text +
-                                   QStringLiteral("*'"));
+    Recordset found = queries::ingredientsBeginning(db, text);
     found.MoveLast();
     const qint64 count = found.RecordCount();
     const QString message = QStringLiteral("00"), nowhere = QStringLiteral("F");

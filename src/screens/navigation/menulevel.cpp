@@ -1,6 +1,6 @@
 #include "screens/navigation/menulevel.h"
 
-#include "db/database.h"
+#include "db/queries.h"
 
 namespace sarne {
 namespace {
@@ -12,17 +12,12 @@ QString plainForm(const QString& code) {
     return isNumber ? QString::number(number) : code;
 }
 
-Recordset like(Database& db, const QString& pattern) {
-    return db.OpenQuery(QStringLiteral("SELECT * FROM menu WHERE ID LIKE '") + pattern +
-                        QStringLiteral("' ORDER BY Id"));
-}
-
 Recordset rowsOf(Database& db, const QString& code) {
     const QString plain = plainForm(code);
-    Recordset children = like(db, plain + u'?');
+    Recordset children = queries::menuRows(db, plain + u'?');
     if (!children.AtEnd()) return children;
-    if (code.toDouble() == 0) return like(db, QStringLiteral("0*"));
-    return like(db, plain + u'*');
+    if (code.toDouble() == 0) return queries::menuRows(db, QStringLiteral("0*"));
+    return queries::menuRows(db, plain + u'*');
 }
 
 }  // namespace

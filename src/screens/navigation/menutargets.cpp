@@ -5,6 +5,7 @@
 
 #include "core/value.h"
 #include "db/database.h"
+#include "db/queries.h"
 #include "forms/bassarne.h"
 #include "forms/screens.h"
 #include "forms/stage.h"
@@ -36,11 +37,7 @@ QString recipesWithFoundIngredient(Database& db, int k) {
     menu.setIndex(QStringLiteral("PrimaryKey"));
     menu.Seek(QStringLiteral("="), QStringLiteral("%1").arg(k, 3, 10, QLatin1Char('0')));
     const QString ingredient = menu.NoMatch() ? QString() : menu.field(QStringLiteral("Odkazy")).toString();
-    Recordset recipes =
-        db.OpenQuery(QStringLiteral("SELECT DISTINCT Recepty.Nazev, Recepty.ID, SpojSur.ID_Polozky ") +
-                     QStringLiteral("FROM Recepty INNER JOIN SpojSur ON Recepty.ID = SpojSur.ID_Receptu ") +
-                     QStringLiteral("WHERE (((SpojSur.ID_Polozky) = ") + ingredient + QStringLiteral(")) ") +
-                     QStringLiteral("ORDER BY Recepty.Nazev; "));
+    Recordset recipes = queries::recipesWithIngredient(db, ingredient);
     QString ids;
     for (; !recipes.AtEnd(); recipes.MoveNext()) {
         if (const auto id = toRecordId(recipes.field(QStringLiteral("ID")).toLongLong()))

@@ -1,0 +1,97 @@
+#include "db/queries.h"
+
+#include "db/database.h"
+
+namespace sarne::queries {
+namespace {
+
+/// A query built of fixed pieces round one number.
+Recordset open(Database& db, const QString& before, int number, const QString& after = {}) {
+    return db.OpenQuery(before + QString::number(number) + after);
+}
+
+}  // namespace
+
+Recordset menuRows(Database& db, const QString& pattern) {
+    return db.OpenQuery(QStringLiteral("SELECT * FROM menu WHERE ID LIKE '") + pattern +
+                        QStringLiteral("' ORDER BY Id"));
+}
+
+bool clearFoundIngredients(Database& db) {
+    return db.Execute(QStringLiteral("DELETE * FROM Menu WHERE ID LIKE '0*'"));
+}
+
+Recordset ingredientsBeginning(Database& db, const QString& text) {
+    return db.OpenQuery(QStringLiteral("SELECT * FROM Suroviny WHERE Polozka LIKE '") + text +
+                        QStringLiteral("*'"));
+}
+
+Recordset recipesWithIngredient(Database& db, const QString& ingredient) {
+    return db.OpenQuery(QStringLiteral("SELECT DISTINCT Recepty.Nazev, Recepty.ID, SpojSur.ID_Polozky "
+                                       "FROM Recepty INNER JOIN SpojSur ON Recepty.ID = SpojSur.ID_Receptu "
+                                       "WHERE (((SpojSur.ID_Polozky) = ") +
+                        ingredient + QStringLiteral(")) ORDER BY Recepty.Nazev; "));
+}
+
+Recordset recipeIngredients(Database& db, int recipe) {
+    return open(db, QStringLiteral("SELECT * FROM SpojSur WHERE ID_Receptu = "), recipe);
+}
+
+Recordset recipeTools(Database& db, int recipe) {
+    return open(db, QStringLiteral("SELECT Polozka FROM Pomucky, SpojPomucky WHERE ID_Receptu = "), recipe,
+                QStringLiteral(" AND ID = ID_Polozky ORDER BY Polozka"));
+}
+
+Recordset recipeLinks(Database& db, int recipe) {
+    return open(db, QStringLiteral("SELECT ID_Polozky, Polozka FROM Odkazy, SpojOdkazy WHERE ID_Receptu = "),
+                recipe, QStringLiteral(" AND ID = ID_Polozky ORDER BY Polozka"));
+}
+
+Recordset printedLinks(Database& db, int recipe) {
+    return open(db,
+                QStringLiteral("SELECT Polozka, ID, Text FROM SpojOdkazy, Odkazy "
+                               "WHERE Odkazy.ID = SpojOdkazy.ID_Polozky AND SpojOdkazy.ID_Receptu = "),
+                recipe, QStringLiteral(" ORDER BY Polozka"));
+}
+
+Recordset recipeWines(Database& db, int recipe) {
+    return open(db, QStringLiteral("SELECT Polozka FROM Vino,SpojVino WHERE ID_Receptu = "), recipe,
+                QStringLiteral(" AND ID = ID_Polozky "));
+}
+
+Recordset linkText(Database& db, int link) {
+    return open(db, QStringLiteral("SELECT Text FROM Odkazy WHERE ID = "), link);
+}
+
+Recordset linkDocument(Database& db, int link) {
+    return open(db, QStringLiteral("SELECT Polozka, Text FROM Odkazy WHERE ID = "), link);
+}
+
+Recordset keywords(Database& db) {
+    return db.OpenQuery(QStringLiteral("SELECT id, nazvy, Text FROM IndexHesla ORDER BY nazvy"));
+}
+
+Recordset tableRows(Database& db, int table) {
+    return open(db, QStringLiteral("SELECT * FROM RadkyTabulek WHERE ID_Tabulky = "), table,
+                QStringLiteral(" ORDER BY ID"));
+}
+
+Recordset pages(Database& db) {
+    return db.OpenQuery(QStringLiteral("SELECT ID, Obrazovka FROM Stranky ORDER BY ID"));
+}
+
+Recordset galleryPictures(Database& db, int topic) {
+    return open(db, QStringLiteral("SELECT * FROM Sponzor WHERE Tema = "), topic,
+                QStringLiteral(" ORDER BY ID"));
+}
+
+Recordset galleryAreas(Database& db, int picture) {
+    return open(db, QStringLiteral("SELECT * FROM PlochySponzoru WHERE ID_Sponzoru = "), picture,
+                QStringLiteral(" ORDER BY ID"));
+}
+
+Recordset screenPictures(Database& pictures) {
+    return pictures.OpenQuery(QStringLiteral("SELECT * FROM TabObr"));
+}
+
+}  // namespace sarne::queries

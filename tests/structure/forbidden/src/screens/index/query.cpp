@@ -1,0 +1,1 @@
+const char* const kQuery = "SELECT * FROM Recepty";
