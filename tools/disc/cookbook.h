@@ -64,7 +64,23 @@ struct Recipe {
     QString name;
     QString longName;
     int portions = 0;
+    /// Minutes of work by hand, and of cooking beside it or after it.
+    int preparation = 0;
+    int cooking = 0;
+    /// From the start to the table, without what is done ahead.
     int minutes = 0;
+    /// "12 hodin v chladu": what waits before; empty for most.
+    QString ahead;
+    /// "snadné", "střední", "náročné".
+    QString difficulty;
+    /// "ano", "málo", "ne".
+    QString bones;
+    /// "ano" or "ne", further words behind a comma.
+    QString freezing;
+    /// "2 dny v chladu".
+    QString keeping;
+    /// "celoročně", "říjen–březen".
+    QString season;
     /// What the menu sorts by: species, method, season, course …, and what follows from wines and time.
     QSet<QString> tags;
     QStringList courses;
@@ -77,6 +93,12 @@ struct Recipe {
     Lines serving;
     Lines note;
     Lines wineText;
+    /// Where the head's keys and the sections stand.
+    QHash<QString, Place> headPlaces;
+    QHash<QString, Place> sectionPlaces;
+
+    /// The line of a key of the head, the file's first one when the key is missing.
+    Place placeOf(const QString& key) const { return headPlaces.value(key, place); }
 };
 
 /// An auxiliary recipe or an index keyword.
@@ -181,6 +203,21 @@ struct MenuTopic {
 /// Grams (or millilitres) of one unit of an ingredient: key "máslo" or "kapr, podkovy", then the unit's id.
 using UnitWeights = QHash<QString, QHash<int, double>>;
 
+/// What 100 g (or 100 ml) of an ingredient hold.
+struct Food {
+    Place place;
+    double energy = 0;   ///< kcal
+    double protein = 0;  ///< grams
+    /// By the numbers of the European list, 1 to 14.
+    QList<int> allergens;
+};
+
+/// A word that a cook may type to find ingredients.
+struct SearchWord {
+    Place place;
+    QString word;
+};
+
 /// The whole content of the disc as it was read.
 struct Cookbook {
     QList<Unit> units;
@@ -190,6 +227,9 @@ struct Cookbook {
     NamedList tools;
     QList<Wine> wines;
     UnitWeights unitWeights;
+    /// By ingredient, or "ingredient, refinement", in lower case.
+    QHash<QString, Food> foods;
+    QList<SearchWord> searchWords;
     QMap<int, Recipe> recipes;
     QList<Article> auxiliary;
     QList<Article> keywords;

@@ -35,8 +35,12 @@ class Proofreader {
 
 void readRecipeTexts(const Cookbook& book, Proofreader& reader) {
     for (const Recipe& recipe : book.recipes) {
-        reader.text(recipe.name, recipe.place);
-        reader.text(recipe.longName, recipe.place);
+        reader.text(recipe.name, recipe.placeOf(QStringLiteral("název")));
+        reader.text(recipe.longName, recipe.placeOf(QStringLiteral("dlouhý název")));
+        reader.text(recipe.ahead, recipe.placeOf(QStringLiteral("předem")));
+        reader.text(recipe.freezing, recipe.placeOf(QStringLiteral("mrazit")));
+        reader.text(recipe.keeping, recipe.placeOf(QStringLiteral("vydrží")));
+        reader.text(recipe.season, recipe.placeOf(QStringLiteral("sezona")));
         for (const Lines* text :
              {&recipe.method, &recipe.introduction, &recipe.serving, &recipe.note, &recipe.wineText})
             reader.lines(*text);

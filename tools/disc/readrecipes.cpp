@@ -1,9 +1,9 @@
 #include "readrecipes.h"
 
 #include <QRegularExpression>
-#include <functional>
 
 #include "readtables.h"
+#include "recipehead.h"
 
 namespace sarne::disc {
 namespace {
@@ -47,47 +47,15 @@ void readAmounts(const QString& text, const Line& line, const Cookbook& book, Pr
         problems.error(line.place, QStringLiteral("the amount in spoons is missing"));
 }
 
-using Field = std::function<void(Recipe&, const QString&)>;
-
-void addTags(Recipe& recipe, const QString& value) {
-    for (const QString& tag : trimmedParts(value, u',')) recipe.tags.insert(tag);
-}
-
-const QHash<QString, Field>& fields() {
-    static const QHash<QString, Field> all{
-        {QStringLiteral("název"), [](Recipe& r, const QString& v) { r.name = v; }},
-        {QStringLiteral("dlouhý název"), [](Recipe& r, const QString& v) { r.longName = v; }},
-        {QStringLiteral("porce"), [](Recipe& r, const QString& v) { r.portions = v.toInt(); }},
-        {QStringLiteral("minut"), [](Recipe& r, const QString& v) { r.minutes = v.toInt(); }},
-        {QStringLiteral("chod"), [](Recipe& r, const QString& v) { r.courses = trimmedParts(v, u','); }},
-        {QStringLiteral("ryba"), addTags},
-        {QStringLiteral("úprava"), addTags},
-        {QStringLiteral("období"), addTags},
-        {QStringLiteral("zařazení"), addTags},
-        {QStringLiteral("pomůcky"), [](Recipe& r, const QString& v) { r.tools = trimmedParts(v, u','); }},
-        {QStringLiteral("vína"), [](Recipe& r, const QString& v) { r.wines = trimmedParts(v, u','); }},
-        {QStringLiteral("odkazy"), [](Recipe& r, const QString& v) { r.auxiliary = trimmedParts(v, u','); }}};
-    return all;
-}
-
-void readHead(const Lines& lines, Recipe& recipe, Problems& problems) {
-    for (const Line& line : lines) {
-        if (line.isBlank()) continue;
-        const KeyValue entry = keyValue(line);
-        const auto field = fields().constFind(entry.key);
-        if (field == fields().cend())
-            problems.error(line.place, QStringLiteral("unknown key \"%1\"").arg(entry.key));
-        else
-            (*field)(recipe, entry.value);
-    }
-}
-
 void readSection(const Section& section, const Cookbook& book, Recipe& recipe, Problems& problems) {
     static const QHash<QString, Lines Recipe::*> texts{{QStringLiteral("Postup"), &Recipe::method},
                                                        {QStringLiteral("Úvod"), &Recipe::introduction},
                                                        {QStringLiteral("Jak podávat"), &Recipe::serving},
                                                        {QStringLiteral("Poznámka"), &Recipe::note},
                                                        {QStringLiteral("Víno"), &Recipe::wineText}};
+    if (recipe.sectionPlaces.contains(section.title))
+        problems.error(section.place, QStringLiteral("část „%1“ tu stojí podruhé").arg(section.title));
+    recipe.sectionPlaces.insert(section.title, section.place);
     if (section.title == QStringLiteral("Suroviny")) {
         for (const Line& line : section.lines)
             if (!line.isBlank()) recipe.ingredients << readIngredientLine(line, book, problems);
@@ -133,7 +101,7 @@ void readRecipes(const ContentFolder& folder, Cookbook& book, Problems& problems
         recipe.place = {file, 1};
         recipe.id = file.section(u'/', -1).section(u'-', 0, 0).toInt();
         const QList<Section> parts = sections(folder.read(file));
-        readHead(parts.first().lines, recipe, problems);
+        readRecipeHead(parts.first().lines, recipe, problems);
         for (const Section& section : parts.mid(1)) readSection(section, book, recipe, problems);
         addDerivedTags(book, recipe);
         if (recipe.id < 1 || recipe.id > 50 || book.recipes.contains(recipe.id))

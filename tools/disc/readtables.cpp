@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "readfoods.h"
 #include "readsponsors.h"
 
 namespace sarne::disc {
@@ -220,6 +221,8 @@ void readTables(const ContentFolder& folder, Cookbook& book, Problems& problems)
     book.tools = readNames(folder, QStringLiteral("pomucky.txt"), problems);
     readWines(folder, book, problems);
     readWeights(folder, book, problems);
+    readFoods(folder, book, problems);
+    readSearchWords(folder, book);
     readSettings(folder, book);
     readVideos(folder, book);
     readQuick(folder, book);

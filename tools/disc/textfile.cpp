@@ -33,6 +33,10 @@ Lines ContentFolder::read(const QString& file) const {
     return lines;
 }
 
+Lines ContentFolder::readIfThere(const QString& file) const {
+    return QFile::exists(root_ + u'/' + file) ? read(file) : Lines();
+}
+
 QStringList ContentFolder::files(const QString& folder) const {
     QStringList found;
     const QDir dir(root_ + u'/' + folder);

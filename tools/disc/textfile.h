@@ -29,6 +29,8 @@ class ContentFolder {
 
     /// The lines of a UTF-8 text file; none, and an error, when it is missing or is not UTF-8.
     Lines read(const QString& file) const;
+    /// The same for a file that may be missing.
+    Lines readIfThere(const QString& file) const;
     /// The text files of a folder, by name, as names below the content folder.
     QStringList files(const QString& folder) const;
     /// Every file of the content, by name, as native paths.

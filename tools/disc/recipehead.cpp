@@ -1,0 +1,95 @@
+#include "recipehead.h"
+
+#include <functional>
+
+namespace sarne::disc {
+namespace {
+
+/// Takes a value over; false when it is none that the key may have.
+using Field = std::function<bool(Recipe&, const QString&)>;
+
+template <typename Member>
+Field text(Member member) {
+    return [member](Recipe& recipe, const QString& value) {
+        recipe.*member = value;
+        return !value.isEmpty();
+    };
+}
+
+Field names(QStringList Recipe::*member) {
+    return [member](Recipe& recipe, const QString& value) {
+        recipe.*member = trimmedParts(value, u',');
+        return !(recipe.*member).isEmpty();
+    };
+}
+
+Field number(int Recipe::*member) {
+    return [member](Recipe& recipe, const QString& value) {
+        bool isNumber = false;
+        recipe.*member = value.toInt(&isNumber);
+        return isNumber && recipe.*member >= 0;
+    };
+}
+
+/// One of \a words, which further words may follow behind a comma.
+Field choice(QString Recipe::*member, const QStringList& words) {
+    return [member, words](Recipe& recipe, const QString& value) {
+        recipe.*member = value;
+        return words.contains(value.section(u',', 0, 0).trimmed());
+    };
+}
+
+bool addTags(Recipe& recipe, const QString& value) {
+    for (const QString& tag : trimmedParts(value, u',')) recipe.tags.insert(tag);
+    return true;
+}
+
+const QHash<QString, Field>& fields() {
+    static const QHash<QString, Field> all{
+        {QStringLiteral("název"), text(&Recipe::name)},
+        {QStringLiteral("dlouhý název"), text(&Recipe::longName)},
+        {QStringLiteral("porce"), number(&Recipe::portions)},
+        {QStringLiteral("příprava"), number(&Recipe::preparation)},
+        {QStringLiteral("vaření"), number(&Recipe::cooking)},
+        {QStringLiteral("minut"), number(&Recipe::minutes)},
+        {QStringLiteral("předem"), text(&Recipe::ahead)},
+        {QStringLiteral("obtížnost"),
+         choice(&Recipe::difficulty,
+                {QStringLiteral("snadné"), QStringLiteral("střední"), QStringLiteral("náročné")})},
+        {QStringLiteral("kosti"),
+         choice(&Recipe::bones, {QStringLiteral("ano"), QStringLiteral("málo"), QStringLiteral("ne")})},
+        {QStringLiteral("mrazit"), choice(&Recipe::freezing, {QStringLiteral("ano"), QStringLiteral("ne")})},
+        {QStringLiteral("vydrží"), text(&Recipe::keeping)},
+        {QStringLiteral("sezona"), text(&Recipe::season)},
+        {QStringLiteral("chod"), names(&Recipe::courses)},
+        {QStringLiteral("ryba"), addTags},
+        {QStringLiteral("úprava"), addTags},
+        {QStringLiteral("období"), addTags},
+        {QStringLiteral("zařazení"), addTags},
+        {QStringLiteral("pomůcky"), names(&Recipe::tools)},
+        {QStringLiteral("vína"), names(&Recipe::wines)},
+        {QStringLiteral("odkazy"), names(&Recipe::auxiliary)}};
+    return all;
+}
+
+void readEntry(const KeyValue& entry, Recipe& recipe, Problems& problems) {
+    const auto field = fields().constFind(entry.key);
+    if (field == fields().cend()) {
+        problems.error(entry.place, QStringLiteral("neznámý klíč „%1“").arg(entry.key));
+    } else if (recipe.headPlaces.contains(entry.key)) {
+        problems.error(entry.place, QStringLiteral("klíč „%1“ tu stojí podruhé").arg(entry.key));
+    } else {
+        recipe.headPlaces.insert(entry.key, entry.place);
+        if (!(*field)(recipe, entry.value))
+            problems.error(entry.place, QStringLiteral("„%1“ nemůže být „%2“").arg(entry.key, entry.value));
+    }
+}
+
+}  // namespace
+
+void readRecipeHead(const Lines& lines, Recipe& recipe, Problems& problems) {
+    for (const Line& line : lines)
+        if (!line.isBlank()) readEntry(keyValue(line), recipe, problems);
+}
+
+}  // namespace sarne::disc
