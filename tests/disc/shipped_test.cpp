@@ -44,7 +44,7 @@ TEST_F(ShippedTest, HasWhatTheProgramCountsOn) {
     EXPECT_GE(count(QStringLiteral("SELECT * FROM Vino")), 25);
     EXPECT_GE(count(QStringLiteral("SELECT * FROM RychleRecepty")), 20);
     EXPECT_GE(count(QStringLiteral("SELECT * FROM Help")), 15);
-    EXPECT_GE(count(QStringLiteral("SELECT * FROM Suroviny WHERE Polozka LIKE 'kap*'")), 6);
+    EXPECT_GE(count(QStringLiteral("SELECT * FROM Suroviny WHERE Polozka LIKE 'kap*'")), 3);
     EXPECT_EQ(count(QStringLiteral("SELECT * FROM Menu WHERE ID LIKE '0*'")), 0);
 }
 
