@@ -22,7 +22,7 @@ class Control : public TwipWidget {
     virtual QString accessibleValue() const { return {}; }
     virtual void addAccessibleState(QAccessible::State&) const {}
 
-    /// A tooltip that is also the control's name for a screen reader.
+    /// What the thing is called: the text of its name plate, and its name for a screen reader.
     void setTip(const QString& tip);
     /// Does what a click does. Nothing while the control is disabled.
     void click();

@@ -6,10 +6,11 @@
 #include <QPainter>
 
 #include "forms/form.h"
+#include "forms/nameplate.h"
 
 namespace sarne {
 
-Stage::Stage() : shield_(new QWidget(this)) {
+Stage::Stage() : shield_(new QWidget(this)), namePlate_(new NamePlate(*this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     shield_->setObjectName(QStringLiteral("shield"));
     shield_->hide();
@@ -65,6 +66,7 @@ void Stage::fit() {
     scale_ = std::min(width() / double(kWidth), height() / double(kHeight));
     origin_ = QPointF((width() - kWidth * scale_) / 2, (height() - kHeight * scale_) / 2);
     shield_->setGeometry(rect());
+    namePlate_->dismiss();
     for (Form* form : findChildren<Form*>(Qt::FindDirectChildrenOnly)) form->rescale();
 }
 
@@ -81,13 +83,24 @@ void Stage::closeEvent(QCloseEvent* event) {
     Q_EMIT closeRequested();
 }
 
+bool Stage::isPartOfThis(const QObject* watched) const {
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    return widget && widget->window() == this;
+}
+
+void Stage::watchInput(const QEvent& event) {
+    const bool key = event.type() == QEvent::KeyPress;
+    if (!key && event.type() != QEvent::MouseButtonPress) return;
+    if (keyboardInUse_ == key) return;
+    keyboardInUse_ = key;
+    if (QWidget* focused = focusWidget()) focused->update();
+}
+
 bool Stage::eventFilter(QObject* watched, QEvent* event) {
-    const bool key = event->type() == QEvent::KeyPress;
-    if (key || event->type() == QEvent::MouseButtonPress) {
-        if (keyboardInUse_ != key) {
-            keyboardInUse_ = key;
-            if (QWidget* focused = focusWidget()) focused->update();
-        }
+    watchInput(*event);
+    if (isPartOfThis(watched)) {
+        if (event->type() == QEvent::ToolTip) return true;  // the name plate says it
+        if (watched != namePlate_) namePlate_->see(watched, *event);
     }
     return QWidget::eventFilter(watched, event);
 }

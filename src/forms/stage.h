@@ -7,6 +7,7 @@
 namespace sarne {
 
 class Form;
+class NamePlate;
 
 /// The program's one window. It fits the 4:3 design of 12000 x 9000 twips into whatever size it is given: in
 /// the middle, scaled evenly, the rest black. Forms are its children.
@@ -36,6 +37,8 @@ class Stage : public QWidget {
 
     /// Whether the last input came from the keyboard: focus is shown then, and not while the mouse is used.
     bool keyboardInUse() const { return keyboardInUse_; }
+    /// The plate that names what is pointed at or has the focus.
+    const NamePlate& namePlate() const { return *namePlate_; }
 
   Q_SIGNALS:
     /// The user asked the window system to close the window.
@@ -50,10 +53,13 @@ class Stage : public QWidget {
   private:
     void fit();
     void raiseModal();
+    void watchInput(const QEvent& event);
+    bool isPartOfThis(const QObject* watched) const;
 
     double scale_ = 1. / 15;
     QPointF origin_;
     QWidget* shield_;  // lies below the modal form and takes the mouse meant for the others
+    NamePlate* namePlate_;
     std::vector<QPointer<Form>> modal_;
     bool keyboardInUse_ = false;
 };

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QTest>
 
+#include "forms/nameplate.h"
 #include "menudatabase.h"
 #include "screens/navigation/frmmenu.h"
 
@@ -110,6 +111,17 @@ TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
     run.SoundFlags[kWineSounds] = true;
     start();
     EXPECT_EQ(run.player.fileName(), folder.filePath(QStringLiteral("zvuky/vina.wav")));
+}
+
+TEST_F(MainScreenTest, ThingsAreNamedAsTheMenusTheyOpen) {
+    start();
+    EXPECT_EQ(button(2)->accessibleName(), QStringLiteral("Sladkovodní ryby"));
+    EXPECT_EQ(button(18)->accessibleName(), QStringLiteral("Kuchání")) << "without a heading: the first item";
+    for (int step = 0; step < 19; ++step) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(run.window.namePlate().text(), QApplication::focusWidget()->accessibleName());
+    }
+    for (const int own : {0, 7}) EXPECT_FALSE(button(own)->accessibleName().isEmpty());
 }
 
 TEST_F(MainScreenTest, ButtonsByKeyboard) {

@@ -208,7 +208,8 @@ void frmSeznam::showWine() {
     imgBtn[1]->setLatched(true);
     picFoto.setPicture(app().mediaPicture(QStringLiteral("foto\\vino256.bmp")), Fit::Cover);
     const QString text = wineText(app().Db(), entry->Nazev, entry->target);
-    picFoto.setTip(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    picFoto.setTip({});  // the text stands there to be read
+    picFoto.setAccessibleName(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     lblVino.setText(text);
     // A long list of wines is set smaller, down to what can still be read.
     TextFont font{QStringLiteral("Times New Roman"), 15};

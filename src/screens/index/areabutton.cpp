@@ -18,7 +18,7 @@ AreaButton::AreaButton(Form& form, const QString& name, const QString& caption)
     : Control(form, name), caption_(caption) {
     setFocusPolicy(Qt::ClickFocus);
     setCursor(Qt::PointingHandCursor);
-    setTip(caption);
+    setAccessibleName(caption);
 }
 
 /// As wide as the name, on as many lines as it needs, in the middle of the area's lower edge.

@@ -10,6 +10,7 @@
 #include "forms/stage.h"
 #include "platform/multimediacontrol.h"
 #include "screens/navigation/frmmenu.h"
+#include "screens/navigation/menulevel.h"
 
 namespace sarne {
 namespace {
@@ -18,27 +19,12 @@ constexpr int kNone = -5;
 constexpr int kFrameInterval = 100;  // milliseconds
 constexpr int kFirstEffect = 100;    // button i sounds effect i + 100
 
-const char* const kTips[kButtonCount] = {"Konec",
-                                         "O kuchařce",
-                                         "Sladkovodní ryby",
-                                         "Přílohy, omáčky, základy",
-                                         "Tabulky a návod",
-                                         "Teplá jídla",
-                                         "Rychlá jídla do 30 minut",
-                                         "Nastavení hudby",
-                                         "Polévky",
-                                         "Ryby našich vod",
-                                         "Fotografie",
-                                         "Mořské ryby",
-                                         "Hledání podle suroviny",
-                                         "Jak vznikl tento disk",
-                                         "Podle období a svátků",
-                                         "K vínu",
-                                         "Studená jídla, předkrmy a saláty",
-                                         "Slavnostní mísy",
-                                         "Videa",
-                                         "",
-                                         ""};
+/// What button \a i is called: as the menu that it opens.
+QString nameOf(Database& db, int i) {
+    if (i == kExitButton) return QStringLiteral("Konec programu");
+    if (i == kMusicButton) return QStringLiteral("Nastavení hudby a zvuků");
+    return MenuLevel::build(db, QString::number(i)).name();
+}
 
 }  // namespace
 
@@ -64,7 +50,7 @@ void frmHlavni::makeButton(int i) {
     const ButtonPlace& place = table_[size_t(i)];
     button->setVisible(place.isShown());
     if (!place.isShown()) return;
-    button->setTip(QString::fromUtf8(kTips[i]));
+    button->setTip(nameOf(app().Db(), i));
     button->place(place.hotArea);
     connect(button, &Button::hovered, this, [this, i] { hover(i); });
     connect(button, &Button::clicked, this, [this, i] { clickButton(i); });
@@ -193,7 +179,7 @@ void frmHlavni::moveTo(int button) {
     if (button < 0) return;
     imgClick[size_t(button)]->setFocus(Qt::TabFocusReason);
     hover(button);
-    app().HookMessage(QString::fromUtf8(kTips[button]));
+    app().HookMessage(imgClick[size_t(button)]->accessibleName());
 }
 
 bool frmHlavni::keyDown(QKeyEvent& event) {

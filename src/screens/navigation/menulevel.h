@@ -26,6 +26,8 @@ struct MenuLevel {
     /// the results of the ingredient search, always shows all its rows. Without rows the level is empty.
     static MenuLevel build(Database& db, const QString& code);
 
+    /// What the level is called: its heading or, without one, its first item; empty for an empty level.
+    QString name() const { return !heading.isEmpty() || items.empty() ? heading : items.front().label; }
     /// The code of the level that item \a k opens.
     QString childCode(int k) const { return code + QString::number(k); }
     /// The code as a number: what the dispatcher calls the level.

@@ -1,0 +1,126 @@
+#include "forms/nameplate.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "forms/button.h"
+#include "support/fakesarne.h"
+
+namespace sarne {
+namespace {
+
+TEST(NamePlatePlace, BelowTheThingOnTheStageAndNeverUnderThePointer) {
+    const QSize plate(2000, 400);
+    const QRect away(11500, 8500, 500, 500);
+    const struct {
+        const char* what;
+        QRect thing, pointer;
+        QPoint corner;
+    } cases[] = {
+        {"below, in the middle", {5000, 4000, 1000, 1000}, away, {4499, 5075}},
+        {"at the left edge", {0, 4000, 600, 600}, away, {0, 4675}},
+        {"at the right edge", {11400, 4000, 600, 600}, away, {10000, 4675}},
+        {"at the lower edge: above", {5000, 8200, 1000, 800}, away, {4499, 7725}},
+        {"pointer at the lower rim: below the pointer",
+         {5000, 4000, 1000, 1000},
+         {5400, 4900, 500, 600},
+         {4499, 5575}},
+        {"lower edge, pointer at the upper rim: above the pointer",
+         {5000, 8200, 1000, 800},
+         {5400, 8000, 500, 600},
+         {4499, 7525}},
+        {"as large as the stage", {0, 0, 12000, 9000}, {6000, 4000, 500, 500}, {4999, 3525}},
+        {"as large as the stage, by keyboard", {0, 0, 12000, 9000}, {6000, 8700, 500, 500}, {4999, 8225}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(namePlatePlace(plate, c.thing, c.pointer).topLeft(), c.corner) << c.what;
+}
+
+class NamePlateTest : public testing::Test {
+  protected:
+    NamePlateTest() {
+        first.place({1500, 3000, 1500, 900});
+        second.place({4500, 3000, 1500, 900});
+        nameless.place({7500, 3000, 1500, 900});
+        first.setTip(QStringLiteral("Pánev"));
+        second.setTip(QStringLiteral("Hrnec"));
+        form->showForm();
+    }
+    const NamePlate& plate() { return run.window.namePlate(); }
+    void moveTo(Control& thing, QPoint at = {10, 10}) { QTest::mouseMove(&thing, at); }
+    void rest() { plate().findChild<Timer*>()->fire(); }
+
+    FakeSarne run;
+    Form* form = new Form(run, QStringLiteral("frmA"));
+    Button first{*form, QStringLiteral("imgBtn(0)")}, second{*form, QStringLiteral("imgBtn(1)")},
+        nameless{*form, QStringLiteral("imgBtn(2)")};
+};
+
+TEST_F(NamePlateTest, ComesWhenThePointerRestsAndGoesWhenItLeaves) {
+    moveTo(first);
+    EXPECT_EQ(plate().text(), QString()) << "not at once";
+    rest();
+    EXPECT_EQ(plate().text(), QStringLiteral("Pánev"));
+    EXPECT_NEAR(plate().twips().center().x(), first.twips().center().x(), 1);
+    EXPECT_GT(plate().twips().top(), first.twips().bottom());
+    EXPECT_EQ(run.window.childAt(plate().geometry().center()), form) << "the mouse goes through it";
+    moveTo(second);
+    EXPECT_EQ(plate().text(), QStringLiteral("Hrnec")) << "who reads names reads on without waiting";
+    moveTo(nameless);
+    rest();
+    EXPECT_EQ(plate().text(), QString());
+    EXPECT_FALSE(plate().isVisible());
+}
+
+TEST_F(NamePlateTest, GoesWithEveryKeyClickAndChangeOfScreen) {
+    const auto nameFirst = [&] {
+        moveTo(nameless);
+        moveTo(first);
+        rest();
+        return plate().text() == QStringLiteral("Pánev");
+    };
+    ASSERT_TRUE(nameFirst());
+    QTest::keyClick(form, Qt::Key_A);
+    EXPECT_FALSE(plate().isVisible());
+    ASSERT_TRUE(nameFirst());
+    QTest::mouseClick(&first, Qt::LeftButton);
+    moveTo(first, {12, 12});
+    rest();
+    EXPECT_FALSE(plate().isVisible()) << "what was just clicked needs no name";
+    ASSERT_TRUE(nameFirst());
+    auto* other = new Form(run, QStringLiteral("frmB"));
+    other->showForm();
+    EXPECT_FALSE(plate().isVisible());
+    other->unload();
+    form->showForm();
+    ASSERT_TRUE(nameFirst());
+    form->enableControls(false);
+    EXPECT_FALSE(plate().isVisible());
+    form->enableControls(true);
+    ASSERT_TRUE(nameFirst());
+    run.window.resize(1600, 1200);
+    QApplication::processEvents();
+    EXPECT_FALSE(plate().isVisible());
+}
+
+TEST_F(NamePlateTest, NamesAtOnceWhatTheKeyboardReaches) {
+    first.setFocus();
+    EXPECT_FALSE(plate().isVisible()) << "the keyboard is not in use yet";
+    QTest::keyClick(form, Qt::Key_Tab);
+    second.setFocus();
+    EXPECT_EQ(plate().text(), QStringLiteral("Hrnec"));
+    const int small = plate().height();
+    nameless.setFocus();
+    EXPECT_FALSE(plate().isVisible());
+    run.window.resize(1600, 1200);
+    QApplication::processEvents();
+    second.setFocus();
+    EXPECT_NEAR(plate().height(), 2 * small, 2) << "as large as everything on the stage";
+    second.setTip(QStringLiteral("Velký hrnec"));
+    EXPECT_EQ(plate().text(), QStringLiteral("Velký hrnec"));
+    EXPECT_EQ(second.accessibleName(), QStringLiteral("Velký hrnec"));
+}
+
+}  // namespace
+}  // namespace sarne
