@@ -3,7 +3,8 @@
 blender -b -P art/hlavni.py -- pozadi [samples]          the room at rest
 blender -b -P art/hlavni.py -- pohyby [samples [button…]]  the frames of the moving things; those that exist are skipped
 blender -b -P art/hlavni.py -- zkouska SAMPLES [button…]       frames for a look, into build/zkouska
-blender -b -P art/hlavni.py -- nahled FILE WIDTH SAMPLES  a quick look
+blender -b -P art/hlavni.py -- siroke [samples]          what a wide display shows left and right of the room
+blender -b -P art/hlavni.py -- nahled FILE WIDTH SAMPLES  a quick look at the wide room
 """
 import os
 import sys
@@ -15,7 +16,7 @@ import numpy as np  # noqa: E402
 
 import kitchen as H  # noqa: E402
 from kitchen.place import seen_at  # noqa: E402
-from lib import core  # noqa: E402
+from lib import core, wide  # noqa: E402
 
 OUT = os.path.join(core.RENDERED, "hlavni")
 WIDTH, HEIGHT, TWIPS = 1600, 1200, 7.5
@@ -169,12 +170,15 @@ def frames(folder, ground, samples, buttons):
 
 a = core.arguments()
 t = time.time()
-P = H.build()
+P = H.build(wide=a[0] in ("siroke", "nahled"))
 for b in range(19):
     H.pose(P, b, 0)
 print("SET", round(time.time() - t, 1), flush=True)
 if a[0] == "nahled":
-    core.render(a[1], int(a[2]), int(a[2]) * 3 // 4, int(a[3]))
+    wide.widen()
+    core.render(a[1], int(a[2]), int(a[2]) * 3 // 7, int(a[3]))
+elif a[0] == "siroke":
+    wide.render(os.path.join(OUT, "pozadi.jpg"), int(a[1]) if len(a) > 1 else 10, H.text(), 1200)
 elif a[0] == "zkouska":
     frames(LOOK, os.path.join(OUT, "pozadi.jpg"), int(a[1]), [int(x) for x in a[2:]])
 elif a[0] == "pozadi":

@@ -10,7 +10,7 @@ import sys
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import bpy  # noqa: E402
 
-from lib import core, fish as fishlib, food, table  # noqa: E402
+from lib import core, fish as fishlib, food, table, wide  # noqa: E402
 from lib.core import area, box, group, lathe, mat, mesh, outline_solid, put, smooth_profile, sphere, tube  # noqa: E402
 
 OUT = os.path.join(core.RENDERED, "pozadi")
@@ -63,13 +63,13 @@ def paper(name="paper"):
 
 
 def ground(m):
-    mesh([(-30, -24, 0), (30, -24, 0), (30, 24, 0), (-30, 24, 0)], [(0, 1, 2, 3)], m, False)
+    mesh([(-45, -24, 0), (45, -24, 0), (45, 24, 0), (-45, 24, 0)], [(0, 1, 2, 3)], m, False)
 
 
 def header(h=150):
-    slab_px(-60, -60, 1660, h, lacquer("headlacq", "0b3036", "0e3a40", "124449"), .35, .05, .05)
-    put(tube([(-21, 0, 0), (21, 0, 0)], .16, copper(), 16), 0, px(0, h)[1], .34)
-    put(tube([(-21, 0, 0), (21, 0, 0)], .05, copper(), 12), 0, px(0, h - 16)[1], .36)
+    slab_px(-860, -60, 2460, h, lacquer("headlacq", "0b3036", "0e3a40", "124449"), .35, .05, .05)
+    put(tube([(-41, 0, 0), (41, 0, 0)], .16, copper(), 16), 0, px(0, h)[1], .34)
+    put(tube([(-41, 0, 0), (41, 0, 0)], .05, copper(), 12), 0, px(0, h - 16)[1], .36)
 
 
 def Sit():
@@ -81,7 +81,7 @@ def Sit():
 
 def recept():
     """Recipe screen: warm paper on a dark table, band at the top, a bar of lacquer at the right for buttons."""
-    table.boards("dark")
+    table.boards("dark", length=110)
     header(140)
     slab_px(30, 168, 1400, 1170, paper(), .12, .3, .03)
     slab_px(1430, 168, 1570, 1170, lacquer("bar", "0b3036", "0e3a40", "124449"), .3, .35, .1)
@@ -91,7 +91,7 @@ def recept():
 
 def seznam():
     """Recipe list: two sheets, the left for the list, the right for the photo and the wines."""
-    table.boards("dark")
+    table.boards("dark", length=110)
     header(140)
     slab_px(30, 168, 980, 1090, paper(), .12, .3, .03)
     slab_px(1010, 168, 1570, 1090, lacquer("seznampanel", "0a2a2f", "0e3a40", "124449"), .25, .35, .08)
@@ -106,18 +106,24 @@ def video():
     cur = mat("curtain", ((.3, "4a120e"), (.7, "7a2318")), .7, .2, noise=.6, stretch=(3, .2, 1), sheen=.6)
     for s in (-1, 1):
         v = []
-        nx, ny = 90, 30
-        for i in range(nx):
+        nx, ny, folds = 470, 30, 380   # the last folds are those beyond the edge of a 4:3 display
+        for i in range(-folds, nx - folds):
             for j in range(ny):
-                x = s * (20.5 - 4.6 * i / (nx - 1))
+                x = s * (20.5 - 4.6 * i / 89)
                 v.append((x, -16 + 32 * j / (ny - 1), .7 + .5 * math.sin(i * .55) + .15 * math.sin(i * .23 + j * .2)))
         mesh(v, core.grid_faces(nx, ny), cur)
     slab_px(190, 90, 1410, 1000, table.wood("walnut"), .8, .5, .2)
     slab_px(238, 138, 1362, 952, mat("screen", "050c0e", .25, .4, coat=.15), .9, .35, .1, z=.06)
     frame_px(226, 126, 1374, 964, .3, z=.5, r=.5)
-    slab_px(-40, 1046, 1640, 1240, table.wood("dark"), 1.0, .1, .2)
-    put(tube([(-21, 0, 0), (21, 0, 0)], .14, copper(), 16), 0, px(0, 1048)[1], 1.0)
+    slab_px(-840, 1046, 2440, 1240, table.wood("dark"), 1.0, .1, .2)
+    put(tube([(-41, 0, 0), (41, 0, 0)], .14, copper(), 16), 0, px(0, 1048)[1], 1.0)
     above(.75)
+
+
+def stranka():
+    """Pages of text, index and tables: nothing but the dark boards of a table under a low lamp."""
+    table.boards("teal", plank=6.6, length=110)
+    above(.62, .4)
 
 
 def zprava():
@@ -136,15 +142,17 @@ def menu():
 def uvod():
     """Splash: the pond at dusk. A jetty with a lantern and a rod in front; sky free for the title."""
     core.camera((0, -14, 3.4), (0, 10, 3.7), lens=30)
-    mesh([(-48, 50, -24), (48, 50, -24), (48, 50, 42), (-48, 50, 42)], [(0, 1, 2, 3)], sky_material(), False, uv=[(0, 0), (1, 0), (1, 1), (0, 1)])
+    for k in (-1, 0, 1):   # the sky mirrored goes on beyond the middle
+        u, v = (0, 1) if k == 0 else (1, 0)
+        mesh([(96 * k - 48, 50, -24), (96 * k + 48, 50, -24), (96 * k + 48, 50, 42), (96 * k - 48, 50, 42)], [(0, 1, 2, 3)], sky_material(), False, uv=[(u, 0), (v, 0), (v, 1), (u, 1)])
     water = mat("pondwater", "06242a", .06, .6, metal=0, coat=1, bump=.22, bumpscale=.9, bumpstretch=(.35, 1.6, 1), ior=1.33)
     mesh([(-90, -14, 0), (90, -14, 0), (90, 50, 0), (-90, 50, 0)], [(0, 1, 2, 3)], water, False)
     hills = mat("hills", "06191b", 1, 0, emit="0a3238", emit_strength=.35)
     for y, base, amp, seed in ((46, .8, 2.6, 3), (40, .3, 1.5, 9)):
-        n = 160
+        n = 288
         v = []
         for i in range(n):
-            x = -50 + 100 * i / (n - 1)
+            x = -50 + 100 * (i - 64) / 159
             h = base + amp * float(core.fbm([[x * .11 + seed, 0, seed]], 4, seed)[0]) + .5 * float(core.fbm([[x * .9, 3, seed]], 3, seed)[0]) + 1.6 * math.exp(-((x + 26) / 14) ** 2)
             v += [(x, y, -.2), (x, y, h)]
         mesh(v, [(2 * i, 2 * i + 2, 2 * i + 3, 2 * i + 1) for i in range(n - 1)], hills, False)
@@ -167,6 +175,7 @@ def uvod():
     put(basketlike(), 4.55, -3.4, .69, turn=20)
     reeds(-1)
     reeds(1)
+    far_sides()
     core.world("16424a", .5)
     for o in (area((-10, -12, 12), (2, 4, 0), 6, 500, "ffd6a0"), area((0, 30, 18), (0, 0, 0), 20, 900, "7fb6bd")):
         o.visible_glossy = False  # the water would mirror the lamps
@@ -211,8 +220,41 @@ def reeds(side):
             tube([(e[0] + lean * .05 * t, e[1], e[2] - .3 + .62 * t) for t in (0, .06, .2, .5, .8, .94, 1)], [.02, .07, .1, .105, .095, .06, .015], head, 10)
 
 
+def far_sides():
+    """What only a wide display shows of the pond: more reeds and a moored boat."""
+    m, head = mat("reed", "254a2a"), mat("reedhead", "3a2212")
+    rnd = random.Random(21)
+    for _ in range(110):
+        side = rnd.choice((-1, 1))
+        x, y, h, lean = side * rnd.uniform(13.5, 27), rnd.uniform(-4, 12), rnd.uniform(1.4, 4.4), rnd.uniform(-.5, .5)
+        pts = [(x + lean * t * t, y, h * t) for t in [k / 8 for k in range(9)]]
+        tube(pts, [.045 * (1 - .85 * k / 8) for k in range(9)], m, 5)
+        if rnd.random() < .25:
+            e = pts[-2]
+            tube([(e[0] + lean * .05 * t, e[1], e[2] - .3 + .62 * t) for t in (0, .06, .2, .5, .8, .94, 1)], [.02, .07, .1, .105, .095, .06, .015], head, 10)
+    put(boat(), -21.6, 13.5, -.08, turn=-14)
+
+
+def boat():
+    """A flat-bottomed rowing boat, its oars shipped."""
+    m = mat("boat", ((.4, "1c2a22"), (.6, "33463a")), .5, noise=2, stretch=(.3, 3, 3), bump=.2, coat=.2)
+    n, half, v = 24, 3.0, []
+    for i in range(n):
+        t = -1 + 2 * i / (n - 1)
+        w, keel, rim = .95 * (1 - abs(t) ** 2.6) + .1, .1 + .42 * abs(t) ** 3, .72 + .3 * t * t
+        v += [(half * t, s * w * k, z) for s, k, z in ((-1, 1, rim), (-1, .8, keel + .1), (1, .8, keel + .1), (1, 1, rim), (1, .93, rim), (1, .72, keel + .2), (-1, .72, keel + .2), (-1, .93, rim))]
+    parts = [mesh(v, core.grid_faces(n, 8, True), m, False)]
+    for x in (-1.1, .5):
+        parts.append(box(.4, 1.8, .08, table.wood("oak"), .02, at=(x, 0, .52)))
+    for s in (-1, 1):
+        parts.append(tube([(-2.3, s * .3, .75), (1.9, s * .55, .85)], .05, table.wood("pale"), 8))
+    return group(parts)
+
+
 def sky_material():
     """Evening sky: orange over the trees, teal above, a few long clouds, a moon and stars."""
+    if "sky" in bpy.data.materials:
+        return bpy.data.materials["sky"]
     import numpy as np
     w, h = 1536, 1024
     y, x = np.mgrid[0:1:complex(h), 0:1:complex(w)]
@@ -246,7 +288,7 @@ def sky_material():
 def konec():
     """The kitchen with the lamp going out."""
     import kitchen as H
-    P = H.build()
+    P = H.build(wide=True)
     for b in range(19):
         H.pose(P, b, 0)
     H.pose(P, 0, .5)
@@ -294,18 +336,36 @@ SIZES = {"vino256": (1024, 768), "menu": (800, 600)}
 SAMPLES = {"uvod": 40, "konec": 24, "vino256": 24, "video": 16}
 
 
+DUSK = {"uvod": .25}
+WIDE = {"uvod": (16, 1200), "konec": (10, 840)}   # of a wide ground: samples and lines of its rendered sides
+
+
 def main(names):
-    samples = next((int(n[8:]) for n in names if n.startswith("samples=")), None)
+    options = dict(n.split("=") for n in names if "=" in n)
     names = [n for n in names if "=" not in n]
-    every = "Sit recept seznam video zprava menu uvod vino256 konec".split()
+    every = "Sit recept seznam video zprava menu stranka uvod vino256 konec".split()
     if names == ["all"]:
         names = [n for n in every if not os.path.exists(target(n))]
     for n in names:
         core.start(5)
-        globals()[n]()
-        w, h = SIZES.get(n, (1600, 1200))
-        core.render(target(n), w, h, samples or SAMPLES.get(n, 10), quality=88, key=n + str(os.path.getmtime(__file__)))
+        globals()[n.replace("-siroke", "")]()
+        draw(n, options)
         print("DONE", n, flush=True)
+
+
+def draw(n, options):
+    """Renders the scene that is set: a ground, its wide version (NAME-siroke), or a look at that (look=FILE)."""
+    key = n + str(os.path.getmtime(__file__))
+    middle = n.replace("-siroke", "")
+    if "look" in options:
+        wide.widen()
+        core.render(options["look"], 700, 300, int(options.get("samples", 4)))
+    elif n != middle:
+        samples, height = WIDE.get(middle, (8, 720))
+        wide.render(target(middle), int(options.get("samples", samples)), key, int(options.get("lines", height)), dusk=DUSK.get(middle, wide.DUSK))
+    else:
+        w, h = SIZES.get(n, (1600, 1200))
+        core.render(target(n), w, h, int(options.get("samples", SAMPLES.get(n, 10))), quality=88, key=key)
 
 
 def target(n):

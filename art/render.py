@@ -2,7 +2,7 @@
 """Renders every picture that is missing or whose description changed; may be stopped at any time and started again.
 
     art/render.py                 everything
-    art/render.py dishes          only the dishes (also: hlavni, pohyby, prvky, pozadi)
+    art/render.py dishes          only the dishes (also: hlavni, siroke, pohyby, prvky, pozadi)
     art/render.py dishes 7 12     only these dishes
     art/render.py --again …       although they are up to date
 
@@ -85,7 +85,16 @@ def pozadi(again, names):
     blender("pozadi.py", *(names or ["all"]))
 
 
-KINDS = {"prvky": prvky, "pozadi": pozadi, "hlavni": hlavni, "pohyby": pohyby, "dishes": dishes}
+def siroke(again, names):
+    """The sides that wide displays show; hlavni is the kitchen."""
+    for n in names or WIDE:
+        folder = os.path.join(ART, "rendered", "hlavni" if n == "hlavni" else "pozadi")
+        if again or not os.path.exists(os.path.join(folder, "pozadi-siroke.jpg" if n == "hlavni" else n + "-siroke.jpg")):
+            blender("hlavni.py", "siroke") if n == "hlavni" else blender("pozadi.py", n + "-siroke")
+
+
+WIDE = ("hlavni", "uvod", "konec", "stranka", "seznam", "recept", "Sit", "video")
+KINDS = {"prvky": prvky, "pozadi": pozadi, "hlavni": hlavni, "siroke": siroke, "pohyby": pohyby, "dishes": dishes}
 
 
 def main(args):

@@ -10,6 +10,8 @@ from lib.core import area, box, group, lathe, mat, mesh, outline_solid, put, rgb
 from .place import TABLE, WALL, at_table, at_wall, stand
 from .tablethings import fishicon
 
+TABLE_END = 23.5   # the table's ends, dm to the left and right
+
 
 def plaster():
     return mat("plaster", ((.3, "4a4536"), (.5, "544c3b"), (.7, "5f5643")), .85, .2, noise=.35, detail=8, bump=.25, bumpscale=2.5)
@@ -17,9 +19,9 @@ def plaster():
 
 def room():
     w = plaster()
-    mesh([(-30, WALL, 0), (30, WALL, 0), (30, WALL, 30), (-30, WALL, 30)], [(0, 1, 2, 3)], w, False)
+    mesh([(-60, WALL, 0), (60, WALL, 0), (60, WALL, 30), (-60, WALL, 30)], [(0, 1, 2, 3)], w, False)
     floor = table.wood("dark")
-    mesh([(-40, -6, 0), (40, -6, 0), (40, WALL, 0), (-40, WALL, 0)], [(0, 1, 2, 3)], floor, False)
+    mesh([(-60, -6, 0), (60, -6, 0), (60, WALL, 0), (-60, WALL, 0)], [(0, 1, 2, 3)], floor, False)
     # table top
     back = at_table(400, 312).y
     n = 7
@@ -27,9 +29,11 @@ def room():
     step = (back - front) / n
     m = table.wood("oak")
     for i in range(n):
-        o = box(46, step - .06, .7, m, .07)
+        o = box(2 * TABLE_END, step - .06, .7, m, .07)
         put(o, random.uniform(-6, 6), front + step * (i + .5), TABLE - .7 + random.uniform(-.015, 0))
-    box(46, .4, 1.0, table.wood("dark"), .05, at=(0, back - .5, TABLE - 1.7))
+        for v in o.data.vertices:   # every board has its own piece of the grain, and all end at one line
+            v.co.x -= o.location.x
+    box(2 * TABLE_END - .6, .4, 1.0, table.wood("dark"), .05, at=(0, back - .5, TABLE - 1.7))
     # tiled strip behind the sideboard, wooden beam at the top
     tile = mat("tile", ((.35, "0f3a40"), (.5, "15484e"), (.65, "1d585c")), .16, .5, coat=.7, noise=.5)
     z0, z1 = at_wall(400, 300).z, at_wall(400, 214).z
@@ -42,7 +46,7 @@ def room():
             put(o, c * size, WALL - .08 + random.uniform(-.012, .012), z1 - (r + 1) * size, roll=random.uniform(-.4, .4))
             tiles.append(o)
     group(tiles)
-    for left, right in ((-30, at_wall(700, 40).x), (at_wall(812, 40).x, 30)):
+    for left, right in ((-60, at_wall(700, 40).x), (at_wall(812, 40).x, 60)):
         box(right - left, .25, .3, table.wood("walnut"), .06, at=((left + right) / 2, WALL - .1, z1))
 
 

@@ -6,6 +6,7 @@ from mathutils import Vector
 
 from lib import core, food, table
 from lib.core import lathe, put
+from . import sides
 from .place import EYE, FOCAL, WALL, at_height, at_wall, ray, stand
 from .room import calendar, decor, lamp, lights, room, runner, shelf, sideboard, window
 from .tablethings import aquarium, basket, crate, fishboard, fryingpan, glow, microphone, paintbox, photo_camera, projector, tub
@@ -30,7 +31,8 @@ def polish():
         e.color = (*core.rgb(col), 1)
 
 
-def build():
+def build(wide=False):
+    """The room; wide also with what stands beyond the edges of the main screen."""
     core.start(5)
     random.seed(5)
     P = {}
@@ -109,5 +111,7 @@ def build():
     polish()
     runner()
     lights()
+    if wide:
+        sides.build()
     core.camera(EYE, EYE + ray(400, 300), 36 / 2 / math.tan(math.atan(400 / FOCAL)), None)
     return P

@@ -52,13 +52,13 @@ def glass(col="f4faf8", rough=0.0):
     return mat("glass" + col, col, rough, 0.5, trans=1.0, ior=1.45)
 
 
-def boards(kind="oak", size=60, plank=5.2, along="x"):
-    """A table top of planks; top at z = 0."""
+def boards(kind="oak", size=60, plank=5.2, along="x", length=None):
+    """A table top of planks; top at z = 0. length: of a plank, when not that of a square top."""
     objs = []
     n = int(size / plank)
     m = wood(kind)
     for i in range(n):
-        o = box(size, plank - 0.05, 0.8, m, 0.06)
+        o = box(length or size, plank - 0.05, 0.8, m, 0.06)
         o.location = (random.uniform(-9, 9), (i - n / 2 + 0.5) * plank, -0.8 + random.uniform(-0.02, 0.01))
         objs.append(o)
     g = group(objs)
