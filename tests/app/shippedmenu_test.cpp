@@ -81,6 +81,7 @@ void ShippedMenu::expectScreen(int topic, const MenuLevel& level, int k) {
     if (topic == 4) form = k == 1 ? QStringLiteral("frmStranka") : QStringLiteral("FrmTabulky");
     if (topic == 10) form = k == 1 ? QStringLiteral("frmFotoBig") : QStringLiteral("frmSit");
     if (topic == 18) form = QStringLiteral("frmVideo");
+    if (target.startsWith(u'H')) form = QStringLiteral("frmIndex");
     ASSERT_EQ(program->FormStack.top()->name(), form) << level.code.toStdString() << ' ' << k;
     if (form != u"frmSeznam") return;
     const bool flat = topic == 3 || topic == 6 || topic == 15;

@@ -39,7 +39,10 @@ TEST_F(MenuTargetsTest, EveryLevelHasItsScreen) {
                  {1, 211, "1,4,", "showList 1,4, recepty"},
                  {11, 211, "1,4,", "showList 1,4, recepty"},
                  {2, 211, "2,", "showList 2, RychleRecepty"},
-                 {1, 211, "", ""}};
+                 {1, 211, "", ""},
+                 {2, 31, "H809", "showIndex 809"},
+                 {1, 31, "H", ""},
+                 {1, 31, "H99999", ""}};
     for (const auto& c : cases)
         EXPECT_EQ(opened(c.item, c.level, c.text), QString::fromUtf8(c.opens)) << c.item << ' ' << c.level;
     EXPECT_EQ(opened(1, 10), QStringLiteral("showPhotos 0"));

@@ -212,6 +212,10 @@ LinkBook linkBook(const Cookbook& book, Problems& problems) {
             if (!links.addKeyword(name, keyword.id))
                 problems.error(keyword.place,
                                QStringLiteral("another keyword has the name \"%1\"").arg(name));
+    for (const Article& article : book.auxiliary) {
+        links.addKeyword(Cookbook::keywordName(article), kAuxiliaryKeywords + article.id);
+        links.addKeyword(article.name, kAuxiliaryKeywords + article.id);  // unless a keyword has the name
+    }
     for (const Video& video : book.videos) links.addVideo(video.number);
     return links;
 }

@@ -19,6 +19,10 @@ int Cookbook::wineId(const QString& name) const {
     return idByName(wines, name);
 }
 
+QString Cookbook::keywordName(const Article& auxiliary) {
+    return auxiliary.name + QStringLiteral(" – recept");
+}
+
 int Cookbook::auxiliaryId(const QString& name) const {
     for (const Article& article : auxiliary)
         if (article.name == name) return article.id;

@@ -200,6 +200,9 @@ struct MenuTopic {
     QList<MenuNode> items;
 };
 
+/// An auxiliary recipe stands among the keywords too: its id and this is the keyword's number.
+constexpr int kAuxiliaryKeywords = 800;
+
 /// Grams (or millilitres) of one unit of an ingredient: key "máslo" or "kapr, podkovy", then the unit's id.
 using UnitWeights = QHash<QString, QHash<int, double>>;
 
@@ -249,6 +252,8 @@ struct Cookbook {
     int ingredientId(const QString& name) const;
     int wineId(const QString& name) const;
     int auxiliaryId(const QString& name) const;
+    /// The name of an auxiliary recipe among the keywords: "Aspik – recept".
+    static QString keywordName(const Article& auxiliary);
 };
 
 }  // namespace sarne::disc

@@ -4,6 +4,8 @@
 #include <QRegularExpression>
 #include <functional>
 
+#include "checks.h"
+
 namespace sarne::disc {
 namespace {
 
@@ -60,7 +62,8 @@ QList<MenuNode> takeNodes(const Lines& lines, qsizetype& at, int indent, Problem
 /// Builds the rows of one topic.
 class RowMaker {
   public:
-    RowMaker(const Cookbook& book, Problems& problems) : book_(book), problems_(problems) {}
+    RowMaker(const Cookbook& book, const LinkBook& links, Problems& problems)
+        : book_(book), links_(links), problems_(problems) {}
 
     QList<MenuRow> rows(const MenuTopic& topic) {
         const QString code = QString::number(topic.number);
@@ -98,15 +101,24 @@ class RowMaker {
     void lists(const QString& code, const MenuNode& item) {
         const QSet<int> found = recipesWith(item);
         rows_ << MenuRow{item.place, code + u'0', u'@' + item.label, {}}
-              << MenuRow{item.place, code + u'1', QStringLiteral("Recepty"), ids(found)}
-              << MenuRow{item.place, code + u'2', QStringLiteral("Rychlé recepty"), quickIds(found)};
+              << MenuRow{item.place, code + u'1', QStringLiteral("Recepty"), ids(found)};
+        if (const QString quick = quickIds(found); !quick.isEmpty())
+            rows_ << MenuRow{item.place, code + u'2', QStringLiteral("Rychlé recepty"), quick};
     }
 
     QString flatTarget(const MenuNode& item) {
         if (item.target == QStringLiteral("nikam")) return QStringLiteral("F");
         if (item.target.startsWith(QStringLiteral("přímo "))) return item.target.mid(6);
         if (item.target.startsWith(QLatin1String("video "))) return item.target.mid(6);
+        if (item.target.startsWith(QLatin1String("heslo "))) return keyword(item);
         return ids(recipesWith(item));
+    }
+
+    QString keyword(const MenuNode& item) {
+        const auto found = links_.find(item.target.mid(6));
+        if (found && found->kind == LinkKind::keyword) return u'H' + QString::number(found->number);
+        problems_.error(item.place, QStringLiteral("unknown keyword \"%1\"").arg(item.target.mid(6)));
+        return {};
     }
 
     QSet<int> recipesWith(const MenuNode& item) {
@@ -141,6 +153,7 @@ class RowMaker {
     }
 
     const Cookbook& book_;
+    const LinkBook& links_;
     Problems& problems_;
     TopicKind kind_ = TopicKind::none;
     QCollator czech_{QLocale(QLocale::Czech, QLocale::CzechRepublic)};
@@ -218,7 +231,10 @@ void checkTarget(const MenuRow& row, const Cookbook& book, Problems& problems) {
             wrong(QStringLiteral("this topic has no submenus"));
         return;
     }
-    if (kind == TopicKind::submenus && isSubmenu(row)) return;
+    if (kind == TopicKind::submenus && isSubmenu(row)) return wrong(QStringLiteral("a submenu without items"));
+    if (row.target.startsWith(u'H')) return;
+    if (kind == TopicKind::flatLists && levelOf(row) != QString::number(topicOf(row.code)))
+        return wrong(QStringLiteral("a submenu of this topic leads to keywords only"));
     const QList<int> recipes = book.recipes.keys();
     checkIds(row, isOverRecipes(row) ? QSet<int>(recipes.cbegin(), recipes.cend()) : quickNumbers(book),
              problems);
@@ -248,9 +264,9 @@ void checkLastLevel(const QList<MenuRow>& rows, Problems& problems) {
     const auto lists =
         std::count_if(items.cbegin(), items.cend(), [](const MenuRow& r) { return !isSubmenu(r); });
     if (lists == 0) return;
-    if (lists != 2 || items.size() != 2)
+    if (lists != items.size() || items.size() > 2)
         problems.error(items.first().place,
-                       QStringLiteral("menu level \"%1\": a last level has the recipes and "
+                       QStringLiteral("menu level \"%1\": a last level has the recipes and perhaps "
                                       "the quick recipes, nothing else")
                            .arg(levelOf(items.first())));
 }
@@ -274,7 +290,9 @@ void readMenu(const ContentFolder& folder, Cookbook& book, Problems& problems) {
 
 QList<MenuRow> menuRows(const Cookbook& book, Problems& problems) {
     QList<MenuRow> rows;
-    for (const MenuTopic& topic : book.menuTopics) rows << RowMaker(book, problems).rows(topic);
+    Problems known;  // names that stand twice are reported when the database is written
+    const LinkBook links = linkBook(book, known);
+    for (const MenuTopic& topic : book.menuTopics) rows << RowMaker(book, links, problems).rows(topic);
     return rows;
 }
 
@@ -288,13 +306,8 @@ void checkMenu(const QList<MenuRow>& rows, const Cookbook& book, Problems& probl
         checkLevel(level.key(), *level, problems);
         if (topicKind(topicOf(level->first().code)) == TopicKind::submenus) checkLastLevel(*level, problems);
     }
-    for (const MenuRow& row : rows) {
-        if (isSubmenu(row) && topicKind(topicOf(row.code)) == TopicKind::submenus &&
-            !levels.contains(row.code))
-            problems.error(row.place,
-                           QStringLiteral("menu row \"%1\": a submenu without items").arg(row.code));
-        checkTarget(row, book, problems);
-    }
+    for (const MenuRow& row : rows)
+        if (!isSubmenu(row) || !levels.contains(row.code)) checkTarget(row, book, problems);
 }
 
 void checkReachable(const QList<MenuRow>& rows, const Cookbook& book, Problems& problems) {

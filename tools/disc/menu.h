@@ -11,11 +11,12 @@ namespace sarne::disc {
 ///     => kapr, amur         the recipes with one of these tags ("kapr + grilované": with both)
 ///     => přímo 10           the text 10 as it stands
 ///     => video 3            a video
+///     => heslo Aspik        a keyword's text
 ///     => nikam              a line that cannot be chosen
 void readMenu(const ContentFolder& folder, Cookbook& book, Problems& problems);
 
 /// The rows of the table. In a topic with submenus each list of recipes becomes a level of its own, its
-/// first item over the recipes, its second over the quick recipes.
+/// first item over the recipes, its second over the quick recipes where there are any.
 QList<MenuRow> menuRows(const Cookbook& book, Problems& problems);
 
 /// Reports every row that the program would not show, or would show in a wrong place: a code that is not its

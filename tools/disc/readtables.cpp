@@ -14,6 +14,8 @@ namespace {
 
 /// The table of spoons gets its rows from the weights that the recipes are checked with.
 constexpr int kSpoonTable = 5;
+/// A link's number has three digits.
+constexpr int kHighestKeyword = 999;
 
 const QHash<QString, UnitKind>& unitKinds() {
     static const QHash<QString, UnitKind> kinds{{QStringLiteral("hmotnost"), UnitKind::weight},
@@ -120,15 +122,17 @@ Article article(const Section& section) {
     return {head.at(0).toInt(), section.place, head.at(1), trimmedParts(head.at(2), u','), section.lines};
 }
 
-QList<Article> articles(const ContentFolder& folder, const QString& subfolder, Problems& problems) {
+QList<Article> articles(const ContentFolder& folder, const QString& subfolder, int highest,
+                        Problems& problems) {
     QList<Article> all;
     QSet<int> ids;
     for (const QString& file : folder.files(subfolder)) {
         const QList<Section> parts = sections(folder.read(file));
         for (const Section& section : parts.mid(1)) {
             all << article(section);
-            if (all.last().id < 1 || all.last().id > 999 || ids.contains(all.last().id))
-                problems.error(section.place, QStringLiteral("the number must be from 1 to 999, each once"));
+            if (all.last().id < 1 || all.last().id > highest || ids.contains(all.last().id))
+                problems.error(section.place,
+                               QStringLiteral("the number must be from 1 to %1, each once").arg(highest));
             ids.insert(all.last().id);
         }
     }
@@ -229,8 +233,9 @@ void readTables(const ContentFolder& folder, Cookbook& book, Problems& problems)
 }
 
 void readArticles(const ContentFolder& folder, Cookbook& book, Problems& problems) {
-    book.auxiliary = articles(folder, QStringLiteral("odkazy"), problems);
-    book.keywords = articles(folder, QStringLiteral("hesla"), problems);
+    book.auxiliary =
+        articles(folder, QStringLiteral("odkazy"), kHighestKeyword - kAuxiliaryKeywords, problems);
+    book.keywords = articles(folder, QStringLiteral("hesla"), kAuxiliaryKeywords, problems);
     readPages(folder, book, problems);
     readLookupTables(folder, book, problems);
     readSponsors(folder, book, problems);

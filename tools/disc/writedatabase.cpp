@@ -43,9 +43,7 @@ class CookbookWriter {
     void write() {
         lists();
         for (const Recipe& recipe : book_.recipes) this->recipe(recipe);
-        for (const Article& article : book_.auxiliary)
-            writer_.add(QStringLiteral("Odkazy"),
-                        {article.id, article.name, rtf(article.text, article.name)});
+        for (const Article& article : book_.auxiliary) auxiliary(article);
         for (const Article& article : book_.keywords)
             writer_.add(QStringLiteral("IndexHesla"),
                         {article.id, article.name, rtf(article.text, article.name)});
@@ -58,6 +56,14 @@ class CookbookWriter {
   private:
     QString rtf(const Lines& lines, const QString& heading = {}) {
         return toRtf(lines, heading, links_, problems_);
+    }
+
+    /// An auxiliary recipe is found in the index of keywords too, not only from the dishes that need it.
+    void auxiliary(const Article& article) {
+        const QString text = rtf(article.text, article.name);
+        writer_.add(QStringLiteral("Odkazy"), {article.id, article.name, text});
+        writer_.add(QStringLiteral("IndexHesla"),
+                    {kAuxiliaryKeywords + article.id, Cookbook::keywordName(article), text});
     }
 
     void names(const QString& table, const QStringList& all) {

@@ -62,6 +62,12 @@ void openRecipeList(Screens& screens, int item, int level, const QString& ids) {
     screens.showList(ids, flat || first ? kRecipes : kQuickRecipes);
 }
 
+/// "H81" in a menu row leads to keyword 81.
+void openKeyword(Screens& screens, const QString& number) {
+    const auto keyword = toRecordId(number.toLongLong()).value_or(0);
+    if (keyword > 0) screens.showIndex(keyword);
+}
+
 void openTarget(basSarne& app, std::int16_t item, std::int16_t level, const QString& text) {
     Screens& screens = app.screens();
     switch (level) {
@@ -93,7 +99,10 @@ void openTarget(basSarne& app, std::int16_t item, std::int16_t level, const QStr
                 screens.showVideo(*number);
             break;
         default:
-            openRecipeList(screens, item, level, text);
+            if (text.startsWith(u'H'))
+                openKeyword(screens, text.mid(1));
+            else
+                openRecipeList(screens, item, level, text);
     }
 }
 
