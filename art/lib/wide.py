@@ -39,15 +39,17 @@ def render(middle, samples, key, height=HEIGHT, dusk=DUSK, strips=4):
     scale = height / HEIGHT
     edge, whole, inner = int((WIDE - MIDDLE) / 2 * scale), int(WIDE * scale), int(SHARED * scale)
     boxes = ((0, edge + inner), (whole - edge - inner, whole))
-    shown = []
+    shown, kept = [], []
     for k, (x0, x1) in enumerate(boxes):
-        linear = _side(whole, height, samples, f"{middle} {key} {k}", x0, x1, strips)
+        linear = _side(whole, height, samples, f"{middle} {key} {k}", x0, x1, strips, kept)
         shown.append(sized(_shown(linear), int((WIDE - MIDDLE) / 2) + SHARED, HEIGHT))
     join(middle, shown, dusk)
+    for name in kept:
+        os.remove(name)
 
 
-def _side(width, height, samples, key, x0, x1, strips):
-    """Linear pixels of columns x0 to x1, in strips that survive a stop."""
+def _side(width, height, samples, key, x0, x1, strips, kept):
+    """Linear pixels of columns x0 to x1, in strips that survive a stop; kept takes the names of their files."""
     tag = hashlib.sha1(f"{key} {width} {height} {samples} {strips}".encode()).hexdigest()[:16]
     folder = os.path.join(core.BUILD, "strips")
     os.makedirs(folder, exist_ok=True)
@@ -55,6 +57,7 @@ def _side(width, height, samples, key, x0, x1, strips):
     parts = []
     for k in range(strips):
         name = os.path.join(folder, f"{tag}-{k}.npz")
+        kept.append(name)
         if not os.path.exists(name):
             raw = core._raw(width, height, samples, (x0, height * k // strips, x1, height * (k + 1) // strips))
             np.savez(name + ".part.npz", *[p.astype(np.float16) for p in raw])
