@@ -1,28 +1,24 @@
 #include "forms/listbox.h"
 
-#include <QFontMetricsF>
-#include <QMouseEvent>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QListView>
 #include <QPainter>
+#include <QScrollBar>
+#include <QStringListModel>
 #include <algorithm>
-#include <cmath>
 
 #include "forms/colors.h"
+#include "forms/form.h"
 
 namespace sarne {
 namespace {
 
-using Reach = ListSelection::Reach;
-
 constexpr int kBorder = 30;
-constexpr int kPadding = 90;     // above the first row, where the focus ring is
-constexpr int kRowGap = 60;      // between the texts of two rows
-constexpr int kTextInset = 120;  // from the left edge to the texts
-constexpr int kBarWidth = 240;   // of the scroll bar
-constexpr int kShortestThumb = 300;
-constexpr int kWheelRows = 3;
 constexpr int kTypingPause = 1000;  // milliseconds after which letters begin a new word
+constexpr int kPadding = 90;        // between the border and the rows, where the focus ring is
 
-/// \a text as a hurried typist sees it: without case and accents.
+/// The words of a text as a hurried typist sees them: without case and accents.
 QString plainLetters(const QString& text) {
     QString plain;
     for (const QChar c : text.normalized(QString::NormalizationForm_D).toCaseFolded()) {
@@ -31,258 +27,161 @@ QString plainLetters(const QString& text) {
     return plain;
 }
 
-Reach reachOf(Qt::KeyboardModifiers modifiers, Reach withCtrl) {
-    const bool shift = modifiers & Qt::ShiftModifier, ctrl = modifiers & Qt::ControlModifier;
-    if (shift) return ctrl ? Reach::AddRange : Reach::Range;
-    return ctrl ? withCtrl : Reach::Only;
+/// Texts that are found by plain letters.
+class Texts final : public QStringListModel {
+  public:
+    using QStringListModel::QStringListModel;
+
+    QModelIndexList match(const QModelIndex& start, int, const QVariant& typed, int,
+                          Qt::MatchFlags) const override {
+        QString letters = plainLetters(typed.toString());
+        // The same letter again and again goes through the entries that begin with it.
+        if (letters.count(letters.left(1)) == letters.size()) letters.truncate(1);
+        for (int step = 0; step < rowCount(); ++step) {
+            const QModelIndex entry = index((start.row() + step) % rowCount());
+            if (plainLetters(entry.data().toString()).startsWith(letters)) return {entry};
+        }
+        return {};
+    }
+};
+
+/// Keys that a list has no use for, but its view would take.
+bool isForForm(const QKeyEvent& key) {
+    switch (key.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Escape:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Delete:
+            return true;
+        default:
+            return (key.modifiers() & Qt::AltModifier) ||
+                   (key.key() >= Qt::Key_F1 && key.key() <= Qt::Key_F12);
+    }
+}
+
+/// Qt's list, but for what a list of the program does otherwise.
+class View final : public QListView {
+  public:
+    explicit View(ListBox& list) : QListView(&list), list_(list) {}
+
+  protected:
+    bool event(QEvent* event) override {
+        const bool isKey = event->type() == QEvent::KeyPress;
+        if (!isKey || !isForForm(static_cast<QKeyEvent&>(*event))) return QListView::event(event);
+        return QCoreApplication::sendEvent(&list_.form(), event);
+    }
+    /// To have the keyboard makes no entry the current one.
+    void focusInEvent(QFocusEvent* event) override {
+        const bool none = !currentIndex().isValid();
+        QListView::focusInEvent(event);
+        if (none) selectionModel()->clearCurrentIndex();
+        list_.update();
+    }
+    void focusOutEvent(QFocusEvent* event) override {
+        QListView::focusOutEvent(event);
+        list_.update();
+    }
+    /// Also beside the entries.
+    void mouseDoubleClickEvent(QMouseEvent*) override { Q_EMIT list_.doubleClicked(); }
+
+  private:
+    ListBox& list_;
+};
+
+/// The dress of the view where a pixel of the design is \a pixel wide.
+QString dress(double pixel) {
+    const auto pixels = [pixel](int design) { return QString::number(qMax(1, qRound(design * pixel))); };
+    return QStringLiteral(
+               "QListView{background:transparent;color:%1;border:none;outline:none}"
+               "QListView:disabled{color:%2}"
+               "QListView::item{padding:%5px %6px}"
+               "QListView::item:selected{background:%3;color:%4}"
+               "QListView::item:focus{border:%5px dotted %1}"
+               "QListView::item:selected:focus{border:%5px dotted %4}")
+               .arg(colors::kInk.name(), colors::kInk.lighter(200).name(), colors::kSelected.name(),
+                    colors::kPaper.name(), pixels(2), pixels(5)) +
+           QStringLiteral(
+               "QScrollBar:vertical{background:%1;width:%3px;margin:0;border:none}"
+               "QScrollBar::handle:vertical{background:%2;min-height:%4px;border-radius:%5px}"
+               "QScrollBar::add-line,QScrollBar::sub-line{height:0}"
+               "QScrollBar::add-page,QScrollBar::sub-page{background:transparent}")
+               .arg(colors::kPaper.darker(115).name(), colors::kCopper.darker(110).name(), pixels(16),
+                    pixels(20), pixels(4));
 }
 
 }  // namespace
 
-ListBox::ListBox(Form& form, const QString& name) : Control(form, name) {
+ListBox::ListBox(Form& form, const QString& name)
+    : Control(form, name), view_(new View(*this)), texts_(new Texts(this)) {
+    view_->setObjectName(name + QStringLiteral(".view"));
+    view_->setModel(texts_);
+    view_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    view_->setUniformItemSizes(true);
     setFocusPolicy(Qt::StrongFocus);
+    setFocusProxy(view_);
+    QApplication::setKeyboardInputInterval(kTypingPause);
 }
 
 void ListBox::setFont(const TextFont& font) {
     font_ = font;
-    update();
-}
-
-void ListBox::addItem(const QString& text, std::int32_t itemData) {
-    items_.push_back({text, itemData});
-    selection_.resize(listCount());
-    update();
-}
-
-void ListBox::removeItem(int index) {
-    if (index < 0 || index >= listCount()) return;
-    items_.erase(items_.begin() + index);
-    selection_.remove(index);
-    scrollTo(top_);
-    changed();
+    rescale();
 }
 
 void ListBox::setItems(const QStringList& texts, const std::vector<std::int32_t>& itemData) {
-    items_.clear();
-    selection_.clear();
-    for (size_t i = 0; i < itemData.size() && static_cast<qsizetype>(i) < texts.size(); ++i)
-        items_.push_back({texts[static_cast<qsizetype>(i)], itemData[i]});
-    selection_.resize(listCount());
-    top_ = 0;
-    changed();
-}
-
-void ListBox::clear() {
-    setItems({}, {});
+    const auto count = std::min(texts.size(), static_cast<qsizetype>(itemData.size()));
+    items_.assign(itemData.begin(), itemData.begin() + count);
+    texts_->setStringList(texts.first(count));
+    view_->doItemsLayout();
 }
 
 QString ListBox::text(int index) const {
-    return index >= 0 && index < listCount() ? items_[static_cast<size_t>(index)].text : QString();
+    return texts_->index(index).data().toString();
 }
 
 std::int32_t ListBox::itemData(int index) const {
-    return index >= 0 && index < listCount() ? items_[static_cast<size_t>(index)].data : 0;
+    return index >= 0 && index < listCount() ? items_[static_cast<size_t>(index)] : 0;
 }
 
-int ListBox::indexOf(std::int32_t itemData) const {
-    const auto found = std::ranges::find(items_, itemData, &Item::data);
-    return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
+int ListBox::listIndex() const {
+    return view_->currentIndex().row();
 }
 
 void ListBox::setListIndex(int index) {
-    if (index >= 0) return go(index, Reach::Only);
-    selection_.clear();
-    changed();
+    view_->setCurrentIndex(texts_->index(index));
 }
 
-void ListBox::go(int index, Reach reach) {
-    selection_.go(index, reach);
-    showCurrent();
-    changed();
+std::vector<int> ListBox::marked() const {
+    std::vector<int> rows;
+    for (const QModelIndex& index : view_->selectionModel()->selectedIndexes()) rows.push_back(index.row());
+    std::ranges::sort(rows);
+    return rows;
 }
 
-void ListBox::showCurrent() {
-    const int current = listIndex();
-    if (current < 0) return;
-    if (current < top_) scrollTo(current);
-    if (current >= top_ + visibleRows()) scrollTo(current - visibleRows() + 1);
-}
-
-void ListBox::changed() {
-    update();
-    Q_EMIT selectionChanged();
-    QAccessibleValueChangeEvent event(this, accessibleValue());
-    QAccessible::updateAccessibility(&event);
-}
-
-int ListBox::rowHeight() const {
-    return static_cast<int>(std::ceil(QFontMetricsF(font_.toQFont()).height())) + kRowGap;
-}
-
-int ListBox::visibleRows() const {
-    return std::max(1, (twips().height() - 2 * kPadding) / rowHeight());
-}
-
-int ListBox::maxTop() const {
-    return std::max(0, listCount() - visibleRows());
+int ListBox::topIndex() const {
+    return view_->verticalScrollBar()->value();
 }
 
 void ListBox::scrollTo(int topIndex) {
-    top_ = std::clamp(topIndex, 0, maxTop());
-    update();
+    view_->verticalScrollBar()->setValue(topIndex);
 }
 
-QRect ListBox::rowRect(int index) const {
-    if (index < top_ || index >= std::min(listCount(), top_ + visibleRows())) return {};
-    const int right = maxTop() > 0 ? kBarWidth : 0;
-    return {kBorder, kPadding + (index - top_) * rowHeight(), twips().width() - 2 * kBorder - right,
-            rowHeight()};
-}
-
-int ListBox::rowAt(int y) const {
-    return top_ + static_cast<int>(std::floor(double(y - kPadding) / rowHeight()));
-}
-
-QRect ListBox::scrollTrack() const {
-    if (maxTop() == 0) return {};
-    return {twips().width() - kBorder - kBarWidth, kBorder, kBarWidth, twips().height() - 2 * kBorder};
-}
-
-QRect ListBox::thumb() const {
-    const QRect track = scrollTrack();
-    if (track.isEmpty()) return {};
-    const int height =
-        std::min(track.height(), std::max(kShortestThumb, track.height() * visibleRows() / listCount()));
-    const int way = track.height() - height;
-    return {track.left(), track.top() + static_cast<int>(qint64(way) * top_ / maxTop()), kBarWidth, height};
-}
-
-void ListBox::pressScrollBar(QPoint at) {
-    const QRect held = thumb();
-    if (held.contains(at)) {
-        drag_ = Drag::Thumb;
-        grab_ = at.y() - held.top();
-        return;
-    }
-    scrollTo(top_ + (at.y() < held.top() ? -1 : 1) * std::max(1, visibleRows() - 1));
-}
-
-void ListBox::pressRow(int row, Qt::KeyboardModifiers modifiers) {
-    if (row < 0 || row >= listCount()) return;
-    drag_ = Drag::Rows;
-    typed_.clear();
-    go(row, reachOf(modifiers, Reach::Toggle));
-}
-
-void ListBox::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
-    setFocus(Qt::MouseFocusReason);
-    const QPoint at = toTwips(event->position());
-    if (scrollTrack().contains(at)) return pressScrollBar(at);
-    pressRow(rowAt(at.y()), event->modifiers());
-    Control::mousePressEvent(event);
-}
-
-void ListBox::mouseMoveEvent(QMouseEvent* event) {
-    Control::mouseMoveEvent(event);
-    const QPoint at = toTwips(event->position());
-    if (drag_ == Drag::Thumb) {
-        const int way = scrollTrack().height() - thumb().height();
-        const int offset = at.y() - grab_ - scrollTrack().top();
-        scrollTo(way > 0 ? qRound(double(offset) * maxTop() / way) : 0);
-    } else if (drag_ == Drag::Rows && !items_.empty()) {
-        const int row = std::clamp(rowAt(at.y()), 0, listCount() - 1);
-        if (row != listIndex()) go(row, Reach::Range);
-    }
-}
-
-void ListBox::mouseReleaseEvent(QMouseEvent* event) {
-    drag_ = Drag::None;
-    Control::mouseReleaseEvent(event);
-}
-
-void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
-    const QPoint at = toTwips(event->position());
-    if (scrollTrack().contains(at)) return pressScrollBar(at);
-    Control::mouseDoubleClickEvent(event);
-}
-
-void ListBox::wheelEvent(QWheelEvent* event) {
-    const int notches = event->angleDelta().y();
-    if (notches != 0) scrollTo(top_ + (notches < 0 ? kWheelRows : -kWheelRows));
-    event->accept();
-}
-
-void ListBox::keyPressEvent(QKeyEvent* event) {
-    if (moveKey(*event) || markKey(*event) || letterKey(*event)) return event->accept();
-    Control::keyPressEvent(event);
-}
-
-bool ListBox::moveKey(const QKeyEvent& event) {
-    if (event.modifiers() & Qt::AltModifier) return false;
-    int target = listIndex();
-    switch (event.key()) {
-        case Qt::Key_Up:
-            target = std::max(0, target - 1);
-            break;
-        case Qt::Key_Down:
-            ++target;
-            break;
-        case Qt::Key_PageUp:
-            target = std::max(0, target - std::max(1, visibleRows() - 1));
-            break;
-        case Qt::Key_PageDown:
-            target += std::max(1, visibleRows() - 1);
-            break;
-        case Qt::Key_Home:
-            target = 0;
-            break;
-        case Qt::Key_End:
-            target = listCount() - 1;
-            break;
-        default:
-            return false;
-    }
-    typed_.clear();
-    go(target, reachOf(event.modifiers(), Reach::MoveOnly));
-    return true;
-}
-
-bool ListBox::markKey(const QKeyEvent& event) {
-    const bool ctrl = event.modifiers() & Qt::ControlModifier;
-    if (ctrl && event.key() == Qt::Key_A) {
-        selection_.markAll();
-        changed();
-        return true;
-    }
-    if (event.key() != Qt::Key_Space || (!ctrl && !typed_.isEmpty() && !typing_.hasExpired(kTypingPause)))
-        return false;
-    if (listIndex() >= 0) go(listIndex(), ctrl ? Reach::Toggle : Reach::Only);
-    return true;
-}
-
-bool ListBox::letterKey(const QKeyEvent& event) {
-    const QString text = event.text();
-    const bool printable = !text.isEmpty() && text[0].isPrint();
-    if (!printable || (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier))) return false;
-    const QString letter = plainLetters(text);
-    if (letter.isEmpty()) return true;
-    const bool fresh = !typing_.isValid() || typing_.hasExpired(kTypingPause);
-    typing_.restart();
-    // The same letter again and again goes through the entries that begin with it.
-    if (fresh || typed_ == letter) typed_.clear();
-    typed_ += letter;
-    jumpTo(typed_);
-    return true;
-}
-
-void ListBox::jumpTo(const QString& prefix) {
-    const int from = prefix.size() == 1 ? listIndex() + 1 : std::max(0, listIndex());
-    for (int step = 0; step < listCount(); ++step) {
-        const int index = (from + step) % listCount();
-        if (!plainLetters(text(index)).startsWith(prefix)) continue;
-        return go(index, Reach::Only);
-    }
+void ListBox::rescale() {
+    Control::rescale();
+    const int inset = qRound(kPadding * scale());
+    view_->setGeometry(rect().adjusted(inset, inset, -inset, -inset));
+    // The view lays its rows out in pixels, so its font is scaled by hand.
+    QFont font = font_.toQFont();
+    font.setPixelSize(qMax(8, qRound(font_.size * 20 * scale())));
+    view_->setFont(font);
+    view_->setStyleSheet(dress(15 * scale()));
+    view_->setAccessibleName(accessibleName());
 }
 
 void ListBox::paint(QPainter& painter) {
@@ -290,35 +189,7 @@ void ListBox::paint(QPainter& painter) {
     painter.setPen(QPen(colors::kCopper, kBorder));
     painter.setBrush(colors::kPaper);
     painter.drawRect(QRectF(place).adjusted(kBorder / 2., kBorder / 2., -kBorder / 2., -kBorder / 2.));
-    painter.setFont(font_.toQFont());
-    const int end = std::min(listCount(), top_ + visibleRows());
-    for (int index = top_; index < end; ++index) paintRow(painter, index);
-    if (maxTop() > 0) paintScrollBar(painter);
     if (showsFocus()) paintFocusRing(painter, place);
-}
-
-void ListBox::paintRow(QPainter& painter, int index) const {
-    const QRect row = rowRect(index);
-    const bool marked = selection_.isMarked(index);
-    if (marked) painter.fillRect(row, colors::kSelected);
-    QColor ink = marked ? colors::kPaper : colors::kInk;
-    if (!isEnabled()) ink.setAlphaF(.6f);
-    painter.setPen(ink);
-    const QRect room = row.adjusted(kTextInset, 0, -kTextInset / 2, 0);
-    const QString shown =
-        QFontMetricsF(painter.font()).elidedText(text(index), Qt::ElideRight, room.width() + 1);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
-    if (index != listIndex() || !showsFocus()) return;
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(ink, 15, Qt::DotLine));
-    painter.drawRect(row.adjusted(45, 15, -45, -15));
-}
-
-void ListBox::paintScrollBar(QPainter& painter) const {
-    painter.fillRect(scrollTrack(), colors::kPaper.darker(115));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colors::kCopper.darker(drag_ == Drag::Thumb ? 130 : 110));
-    painter.drawRoundedRect(QRectF(thumb()).adjusted(45, 15, -45, -15), 60, 60);
 }
 
 }  // namespace sarne

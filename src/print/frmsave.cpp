@@ -59,7 +59,6 @@ frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover prin
         dressLabel(title, printforms::kSmallFont, colors::kPaper);
         list->place(room);
         list->setFont(printforms::kSmallFont);
-        list->setMode(ListSelection::Mode::Several);
     }
     lblSeznam.setText(QStringLiteral("Seznam"));
     lstSeznam.setTip(QStringLiteral("Seznam položek"));
@@ -109,21 +108,21 @@ void frmSave::showChosen() {
 }
 
 void frmSave::addMarked() {
-    const std::vector<int> marked = lstSeznam.selection().marked();
+    const std::vector<int> marked = lstSeznam.marked();
     if (!choice_.add(marked)) return app().Beep();
     showChosen();
     lstVybrano.scrollTo(lstVybrano.listCount());
 }
 
 void frmSave::addAndGoOn() {
-    const std::vector<int> marked = lstSeznam.selection().marked();
+    const std::vector<int> marked = lstSeznam.marked();
     addMarked();
     if (!marked.empty() && marked.back() + 1 < lstSeznam.listCount())
         lstSeznam.setListIndex(marked.back() + 1);
 }
 
 void frmSave::removeMarked() {
-    const std::vector<int> marked = lstVybrano.selection().marked();
+    const std::vector<int> marked = lstVybrano.marked();
     if (!choice_.remove(marked)) return app().Beep();
     const int top = lstVybrano.topIndex();
     showChosen();

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QListView>
 #include <QTest>
-#include <QWheelEvent>
 
 #include "forms/checkbox.h"
 #include "forms/form.h"
@@ -12,8 +12,6 @@
 namespace sarne {
 namespace {
 
-using Marks = std::vector<int>;
-
 struct KeyForm : Form {
     explicit KeyForm(basSarne& run) : Form(run, QStringLiteral("frmKeys")) {}
     bool keyDown(QKeyEvent& event) override {
@@ -23,119 +21,37 @@ struct KeyForm : Form {
     QList<int> keys;
 };
 
-class ListBoxTest : public testing::Test {
-  protected:
-    ListBoxTest() : list(*form, QStringLiteral("lstSeznam")) {
-        list.place({600, 600, 3000, 10 * list.rowHeight() + 200});
-        list.setMode(ListSelection::Mode::Several);
-        for (int i = 0; i < 30; ++i) list.addItem(QStringLiteral("Kapr %1").arg(i), 100 + i);
-        form->showForm();
-        list.setFocus();
-    }
-    void key(int code, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(&list, Qt::Key(code), modifiers);
-    }
-    void click(int row, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::mouseClick(&list, Qt::LeftButton, modifiers, list.toPixels(list.rowRect(row).center()));
-    }
-    Marks marked() const { return list.selection().marked(); }
-
+TEST(ListBox, LettersJumpWhateverTheirCaseAndAccentsAndOtherKeysGoToTheForm) {
     FakeSarne run;
-    KeyForm* form = new KeyForm(run);
-    ListBox list;
-};
-
-TEST_F(ListBoxTest, ShiftMarksRangesAndCtrlSingles) {
-    click(2);
-    EXPECT_EQ(marked(), Marks{2});
-    click(5, Qt::ShiftModifier);
-    EXPECT_EQ(marked(), (Marks{2, 3, 4, 5}));
-    click(3, Qt::ShiftModifier);
-    EXPECT_EQ(marked(), (Marks{2, 3}));
-    click(7, Qt::ControlModifier);
-    click(9, Qt::ShiftModifier | Qt::ControlModifier);
-    click(8, Qt::ControlModifier);
-    EXPECT_EQ(marked(), (Marks{2, 3, 7, 9}));
-    EXPECT_EQ(list.listIndex(), 8);
-    click(0);
-    key(Qt::Key_Down, Qt::ShiftModifier);
-    key(Qt::Key_Down, Qt::ControlModifier);
-    key(Qt::Key_Down, Qt::ControlModifier);
-    key(Qt::Key_Space, Qt::ControlModifier);
-    EXPECT_EQ(marked(), (Marks{0, 1, 3}));
-    key(Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(marked().size(), 30u);
-}
-
-TEST_F(ListBoxTest, TheCurrentEntryStaysInSight) {
-    key(Qt::Key_End);
-    EXPECT_EQ(list.listIndex(), 29);
-    EXPECT_EQ(list.topIndex(), 20);
-    key(Qt::Key_Down);
-    EXPECT_EQ(list.listIndex(), 29);
-    key(Qt::Key_PageUp);
-    EXPECT_EQ(list.listIndex(), 20);
-    key(Qt::Key_Home);
-    EXPECT_EQ(list.topIndex(), 0);
-    list.setMode(ListSelection::Mode::One);
-    click(4);
-    click(6, Qt::ShiftModifier);
-    EXPECT_EQ(marked(), Marks{6});
-}
-
-TEST_F(ListBoxTest, TheScrollBarAndTheWheelMoveTheEntriesOnly) {
-    click(3);
-    const QPoint bar = list.toPixels({2900, list.twips().height() - 100});
-    QTest::mouseClick(&list, Qt::LeftButton, {}, bar);
-    EXPECT_EQ(list.topIndex(), 9);
-    QTest::mousePress(&list, Qt::LeftButton, {}, list.toPixels({2900, list.twips().height() / 2}));
-    QTest::mouseMove(&list, list.toPixels({2900, 3 * list.twips().height()}));
-    QTest::mouseRelease(&list, Qt::LeftButton, {}, bar);
-    EXPECT_EQ(list.topIndex(), 20);
-    QWheelEvent up({5, 5}, list.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase,
-                   false);
-    QCoreApplication::sendEvent(&list, &up);
-    EXPECT_EQ(list.topIndex(), 17);
-    EXPECT_EQ(list.listIndex(), 3);
-}
-
-TEST_F(ListBoxTest, LettersJumpWhateverTheirCaseAndAccents) {
+    auto* form = new KeyForm(run);
+    ListBox list(*form, QStringLiteral("lstSeznam"));
+    list.place({600, 600, 3000, 3000});
     list.setItems({QStringLiteral("Candát"), QStringLiteral("Štika na másle"), QStringLiteral("Štika pečená"),
                    QStringLiteral("Úhoř")},
                   {1, 2, 3, 4});
-    QTest::keyClicks(&list, QStringLiteral("s"));
+    form->showForm();
+    list.setFocus();
+    EXPECT_EQ(list.listIndex(), -1) << "nothing is chosen for the user";
+    QTest::keyClicks(&list.view(), QStringLiteral("s"));
     EXPECT_EQ(list.listIndex(), 1);
-    QTest::keyClicks(&list, QStringLiteral("s"));
+    QTest::keyClicks(&list.view(), QStringLiteral("s"));
     EXPECT_EQ(list.listIndex(), 2);
-    key(Qt::Key_Home);
-    QTest::keyClicks(&list, QStringLiteral("STIKA p"));
+    list.view().keyboardSearch({});  // a pause
+    list.setListIndex(0);
+    QTest::keyClicks(&list.view(), QStringLiteral("STIKA p"));
     EXPECT_EQ(list.listIndex(), 2);
-    key(Qt::Key_End);
-    QTest::keyClicks(&list, QStringLiteral("cx"));
-    EXPECT_EQ(list.listIndex(), 0);
+    EXPECT_EQ(list.marked(), std::vector<int>{2});
     EXPECT_TRUE(form->keys.isEmpty()) << "a letter is no command while a list has the keyboard";
-    key(Qt::Key_Return);
-    EXPECT_EQ(form->keys, QList<int>{Qt::Key_Return});
-}
-
-TEST_F(ListBoxTest, RemovingKeepsMarksWithTheirEntries) {
-    click(2);
-    click(4, Qt::ControlModifier);
-    list.removeItem(3);
-    EXPECT_EQ(marked(), (Marks{2, 3}));
-    EXPECT_EQ(list.itemData(list.listIndex()), 104);
-    list.removeItem(3);
+    const QList<int> others{Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab,
+                            Qt::Key_Left,   Qt::Key_Delete, Qt::Key_F1};
+    for (const int key : others) QTest::keyClick(&list.view(), Qt::Key(key));
+    EXPECT_EQ(form->keys, others);
+    QTest::keyClick(&list.view(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(list.marked().size(), 4u);
+    list.setItems({}, {});
+    QTest::keyClick(&list.view(), Qt::Key_Down);
     EXPECT_EQ(list.listIndex(), -1);
-    list.removeItem(77);
-    EXPECT_EQ(list.listCount(), 28);
-    EXPECT_EQ(list.indexOf(104), -1);
-    list.scrollTo(99);
-    list.clear();
-    EXPECT_EQ(list.topIndex() + static_cast<int>(marked().size()), 0);
-    key(Qt::Key_Down);
-    click(0);
-    EXPECT_EQ(list.listIndex(), -1);
-    EXPECT_EQ(list.text(-1) + list.text(0), QString());
+    EXPECT_TRUE(list.marked().empty() && list.text(0).isEmpty() && list.itemData(7) == 0);
 }
 
 TEST(CheckBox, ClicksAndTheSpaceBarSwitch) {

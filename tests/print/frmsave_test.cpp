@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QListView>
 #include <QTest>
 #include <QTimer>
 
@@ -39,14 +40,17 @@ class FrmSaveTest : public testing::Test {
     }
     Button* button(const char* name) { return child<Button>(*save, name); }
     void clickRow(ListBox* box, int row, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::mouseClick(box, Qt::LeftButton, modifiers, box->toPixels(box->rowRect(row).center()));
+        QTest::mouseClick(box->view().viewport(), Qt::LeftButton, modifiers, rowPlace(box, row));
     }
     void doubleClickRow(ListBox* box, int row) {
         clickRow(box, row);
-        QTest::mouseDClick(box, Qt::LeftButton, {}, box->toPixels(box->rowRect(row).center()));
+        QTest::mouseDClick(box->view().viewport(), Qt::LeftButton, {}, rowPlace(box, row));
+    }
+    static QPoint rowPlace(ListBox* box, int row) {
+        return box->view().visualRect(box->view().model()->index(row, 0)).center();
     }
     void key(QWidget* at, int code, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(at, Qt::Key(code), modifiers);
+        QTest::keyClick(at->focusProxy() ? at->focusProxy() : at, Qt::Key(code), modifiers);
     }
     Ids items() const {
         Ids ids;
@@ -67,7 +71,7 @@ TEST_F(FrmSaveTest, AddsEachEntryOnce) {
         EXPECT_EQ(child<Label>(*save, "Label2")->text(),
                   str("Vyberte ze seznamu položky, které chcete tisknout"));
         EXPECT_FALSE(ok());
-        QTest::mouseDClick(list, Qt::LeftButton, {}, list->rect().center());
+        QTest::mouseDClick(list->view().viewport(), Qt::LeftButton, {}, list->rect().center());
         button("cmdRuka(0)")->click();
         key(list, Qt::Key_Return);
         EXPECT_EQ(run.beeps, 3) << "nothing is selected";
@@ -96,7 +100,7 @@ TEST_F(FrmSaveTest, SeveralMarkedEntriesGoTogether) {
         clickRow(list, 3, Qt::ControlModifier);
         button("cmdRuka(0)")->click();
         EXPECT_EQ(items(), (Ids{40, 10, 20}));
-        QTest::keyClicks(list, str("l"));
+        QTest::keyClicks(&list->view(), str("l"));
         EXPECT_EQ(list->listIndex(), 2);
         clickRow(list, 1, Qt::ShiftModifier);
         button("cmdRuka(0)")->click();
@@ -112,7 +116,7 @@ TEST_F(FrmSaveTest, SeveralMarkedEntriesGoTogether) {
 TEST_F(FrmSaveTest, OkFollowsTheChoice) {
     show([&] {
         button("cmdRuka(1)")->click();
-        QTest::mouseDClick(chosen, Qt::LeftButton, {}, chosen->rect().center());
+        QTest::mouseDClick(chosen->view().viewport(), Qt::LeftButton, {}, chosen->rect().center());
         key(chosen, Qt::Key_Return);
         EXPECT_EQ(run.beeps, 3) << "nothing to take away";
         doubleClickRow(list, 2);
