@@ -114,6 +114,7 @@ class WatchedProgress final : public PrintProgress {
     void recipeStarted(const QString&) override {}
     void status(const QString&) override {}
     void sectionDone() override {}
+    void pageDone(int, int) override {}
     void recipeDone() override {}
     bool goOn() override {
         longestGap = std::max(longestGap, double(timer_.nsecsElapsed()) / 1e6);

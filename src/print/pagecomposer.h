@@ -45,9 +45,6 @@ class PageComposer {
     std::vector<PrintedPage> text(const TitledText& text, PrintProgress& progress);
 
     const PageGeometry& geometry() const { return page_; }
-    /// Where a page's texts begin, below its header.
-    int bodyTop() const { return bodyTop_; }
-    QRect logoPlace() const { return logoPlace_; }
 
   private:
     std::vector<PrintedPage> paginate(const std::vector<FlowLine>& lines);

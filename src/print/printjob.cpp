@@ -30,8 +30,10 @@ PrintOutcome PrintJob::print(const std::vector<TitledText>& texts) {
 }
 
 bool PrintJob::put(const std::vector<PrintedPage>& pages, const QString& documentName) {
+    int done = 0;
     for (const PrintedPage& page : pages) {
         if (!put(page, documentName)) return false;
+        progress_.pageDone(++done, static_cast<int>(pages.size()));
     }
     return true;
 }

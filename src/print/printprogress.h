@@ -13,8 +13,11 @@ class PrintProgress {
     /// What is being printed now (" Tisknu recept ... ").
     virtual void status(const QString& text) = 0;
     virtual void sectionDone() = 0;
+    /// \a done of the recipe's \a pages are on paper.
+    virtual void pageDone(int done, int pages) = 0;
     virtual void recipeDone() = 0;
-    /// Called between lines, often: the place to let pending events run. False stops the printing.
+    /// Called for each line that is set or painted: the place to let pending events run. False stops the
+    /// printing.
     virtual bool goOn() = 0;
 };
 
@@ -24,6 +27,7 @@ class SilentProgress final : public PrintProgress {
     void recipeStarted(const QString&) override {}
     void status(const QString&) override {}
     void sectionDone() override {}
+    void pageDone(int, int) override {}
     void recipeDone() override {}
     bool goOn() override { return true; }
 };

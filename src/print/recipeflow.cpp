@@ -10,27 +10,6 @@ namespace {
 constexpr int kPictureShare = 2;  // of five parts of the line
 constexpr int kPictureGap = 240;  // to the text beside and below it
 constexpr int kNarrowestText = 1200;
-constexpr int kAskingWords = 32;  // words measured between two questions whether to go on
-
-/// Measures as another does, and asks now and then whether to go on: measuring is what takes the time.
-class AskingMetrics final : public TextMetrics {
-  public:
-    AskingMetrics(TextMetrics& metrics, PrintProgress& progress, StopFlag& stop)
-        : metrics_(metrics), progress_(progress), stop_(stop) {}
-
-    int textWidth(const TextFont& font, QStringView text) override {
-        if (++words_ % kAskingWords == 0 && !stop_) stop_ = !progress_.goOn();
-        return metrics_.textWidth(font, text);
-    }
-    int textHeight(const TextFont& font) override { return metrics_.textHeight(font); }
-    int textAscent(const TextFont& font) override { return metrics_.textAscent(font); }
-
-  private:
-    TextMetrics& metrics_;
-    PrintProgress& progress_;
-    StopFlag& stop_;
-    int words_ = 0;
-};
 
 /// How many lines of \a layout, up to the end of its first paragraph, say nothing but \a title.
 size_t linesOfTitle(const RtfLayout& layout, const QString& title) {
@@ -138,9 +117,9 @@ qsizetype RecipeFlow::breakAt(QStringView text, const TextFont& font, int width)
 void RecipeFlow::addRichText(const QString& text, const QString& title) {
     if (text.trimmed().isEmpty()) return;
     endPicture();
-    AskingMetrics metrics(metrics_, progress_, stop_);
+    const LayoutArea area{page_.leftMargin, page_.rightMargin(), 0};
     const RtfLayout layout =
-        RtfLayout::of(text, {page_.leftMargin, page_.rightMargin(), 0}, metrics, LinkMarkers::Remove, &stop_);
+        RtfLayout::of(text, area, metrics_, LinkMarkers::Remove, &stop_, [this] { ask(); });
     for (size_t line = linesOfTitle(layout, title); line < layout.lines().size() && !stop_; ++line)
         addLaidOutLine(layout, layout.lines()[line]);
 }

@@ -95,6 +95,7 @@ void LineBuilder::endLine(LineEnd end, int emptyFont) {
     advance_ = 0;
     tabbed_ = false;
     startsParagraph_ = end == LineEnd::Paragraph;
+    if (lineDone_) lineDone_();
 }
 
 /// The highest font of the line decides; all words stand on one baseline.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "richtext/rtflayout.h"
@@ -19,8 +20,10 @@ class LineBuilder {
         std::vector<TextLine>& lines;
     };
 
-    LineBuilder(const Output& output, const LayoutArea& area, TextMetrics& metrics)
-        : out_(output), area_(area), metrics_(metrics), top_(area.top) {}
+    /// \a lineDone, where there is one, is called after each line.
+    LineBuilder(const Output& output, const LayoutArea& area, TextMetrics& metrics,
+                const std::function<void()>& lineDone)
+        : out_(output), area_(area), metrics_(metrics), lineDone_(lineDone), top_(area.top) {}
 
     /// Places \a word, of which everything but the place and size is set. A word of blanks makes room and no
     /// box.
@@ -58,6 +61,7 @@ class LineBuilder {
     Output out_;
     LayoutArea area_;
     TextMetrics& metrics_;
+    const std::function<void()>& lineDone_;
     WordWidths widths_;
     std::vector<FontExtent> extents_;
     std::vector<int> tabStops_;  // ascending

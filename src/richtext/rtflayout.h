@@ -2,6 +2,7 @@
 
 #include <QRect>
 #include <QString>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -62,9 +63,10 @@ class RtfLayout {
     RtfLayout() = default;
 
     /// Lays out \a text, an RTF document or plain text. Gives up early, with what there is, when \a stop gets
-    /// set.
+    /// set; \a lineDone is called after each line.
     static RtfLayout of(QStringView text, const LayoutArea& area, TextMetrics& metrics,
-                        LinkMarkers markers = LinkMarkers::Honour, const StopFlag* stop = nullptr);
+                        LinkMarkers markers = LinkMarkers::Honour, const StopFlag* stop = nullptr,
+                        const std::function<void()>& lineDone = {});
 
     const std::vector<WordBox>& boxes() const { return boxes_; }
     const std::vector<TextLine>& lines() const { return lines_; }

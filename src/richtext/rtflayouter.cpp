@@ -8,9 +8,10 @@ namespace sarne {
 /// Gathers what is read into words and hands them to the lines. A link phrase is one word, blanks and all.
 class RtfLayouter final : public RtfSink {
   public:
-    RtfLayouter(RtfLayout& layout, TextMetrics& metrics)
+    RtfLayouter(RtfLayout& layout, TextMetrics& metrics, const std::function<void()>& lineDone)
         : layout_(layout),
-          lines_({layout.words_, layout.fonts_, layout.boxes_, layout.lines_}, layout.area_, metrics) {
+          lines_({layout.words_, layout.fonts_, layout.boxes_, layout.lines_}, layout.area_, metrics,
+                 lineDone) {
         font(TextFont());
     }
 
@@ -149,11 +150,11 @@ class RtfLayouter final : public RtfSink {
 };
 
 RtfLayout RtfLayout::of(QStringView text, const LayoutArea& area, TextMetrics& metrics, LinkMarkers markers,
-                        const StopFlag* stop) {
+                        const StopFlag* stop, const std::function<void()>& lineDone) {
     RtfLayout layout;
     layout.area_ = area;
     layout.words_.reserve(text.size());
-    RtfLayouter layouter(layout, metrics);
+    RtfLayouter layouter(layout, metrics, lineDone);
     readRichText(text, layouter, markers, stop);
     layouter.finish();
     layout.words_.squeeze();
