@@ -8,10 +8,6 @@ namespace sarne {
 /// What the start asks about the display, word for word.
 
 inline constexpr QSize kDesignResolution(800, 600);  ///< what the screens are designed for, in pixels
-inline constexpr int kDisplayStyle = 36;             ///< Yes, No and the question icon
-inline constexpr int kAnswerYes = 6;
-inline constexpr int kAnswerNo = 7;
-inline constexpr int kBoxClosed = 2;
 
 /// "1024,768".
 inline QString resolutionText(QSize size) {

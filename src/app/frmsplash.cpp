@@ -8,6 +8,7 @@
 #include "db/queries.h"
 #include "db/soundsettings.h"
 #include "forms/colors.h"
+#include "forms/messagebox.h"
 #include "media/videoarea.h"
 #include "richtext/surface.h"
 
@@ -45,13 +46,13 @@ bool frmSplash::Zobraz() {
 bool frmSplash::checkDisplay() {
     const QSize current = program_.platform().display.current();
     if (current.isEmpty() || current == kDesignResolution) return true;
-    switch (program_.ask(resolutionQuestion(current), kDisplayStyle, kBoxClosed)) {
+    switch (program_.ask(resolutionQuestion(current), kQuestionBox, kAnswerCancel)) {
         case kAnswerYes:
             if (program_.platform().display.setMode(kDesignResolution))
                 program_.SavedDisplayMode = resolutionText(current);
             return true;
         case kAnswerNo:
-            return program_.ask(resolutionWarning(), kDisplayStyle, kBoxClosed) != kAnswerNo;
+            return program_.ask(resolutionWarning(), kQuestionBox, kAnswerCancel) != kAnswerNo;
         default:
             return true;
     }
@@ -59,7 +60,7 @@ bool frmSplash::checkDisplay() {
 
 bool frmSplash::checkFonts() {
     if (program_.platform().display.twipsPerPixel() == QSize(15, 15)) return true;
-    return program_.ask(fontQuestion(), kDisplayStyle, kBoxClosed) != kAnswerNo;
+    return program_.ask(fontQuestion(), kQuestionBox, kAnswerCancel) != kAnswerNo;
 }
 
 void frmSplash::playIntro() {

@@ -6,14 +6,12 @@
 #include "db/installation.h"
 #include "dialogs/frmdialog.h"
 #include "dialogs/frmmessage.h"
+#include "forms/messagebox.h"
 #include "platform/drives.h"
 #include "screens/navigation/frmhlavni.h"
 
 namespace sarne {
 namespace {
-
-constexpr int kYes = 6;
-constexpr int kQuestion = 36;
 
 bool isFolder(const QString& path) {
     return !path.isEmpty() && QFileInfo(path).isDir();
@@ -108,7 +106,8 @@ void Program::keepAwake(const QString& reason) {
 }
 
 void Program::ConfirmExit() {
-    if (ended_ || ZobrazZpravu(QStringLiteral("Chcete ukončit program?  "), kQuestion) != kYes) return;
+    if (ended_ || ZobrazZpravu(QStringLiteral("Chcete ukončit program?  "), kQuestionBox) != kAnswerYes)
+        return;
     endProgram();
 }
 

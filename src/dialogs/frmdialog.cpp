@@ -5,6 +5,7 @@
 #include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/messagebox.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
 #include "forms/stage.h"
@@ -62,7 +63,7 @@ void frmDialog::press(int index) {
         return hideForm();
     }
     if (asks_ == Asks::Text || leadingNumber(Text1.text()) > 0) return hideForm();
-    app().ZobrazZpravu(QStringLiteral("Toto není číslo!"), 48);
+    app().ZobrazZpravu(QStringLiteral("Toto není číslo!"), kWarningBox);
     Text1.focusAll();
 }
 

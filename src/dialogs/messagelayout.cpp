@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "forms/messagebox.h"
+
 namespace sarne {
 namespace {
 
@@ -30,20 +32,19 @@ std::vector<MessageButton> messageButtons(int buttons) {
     const QString ok = QStringLiteral("OK"), yes = QStringLiteral("Ano"), no = QStringLiteral("Ne"),
                   cancel = QStringLiteral("Storno"), retry = QStringLiteral("Znovu"),
                   ignore = QStringLiteral("Pokračovat");
-    // OK is as positive as Yes: callers ask for 6 alone.
     switch (buttons) {
         case 0:
-            return {{ok, 6}};
+            return {{ok, kAnswerOk}};
         case 1:
-            return {{yes, 6}, {cancel, 2}};
+            return {{yes, kAnswerOk}, {cancel, kAnswerCancel}};
         case 2:
-            return {{cancel, 3}, {retry, 4}, {ignore, 5}};
+            return {{cancel, kAnswerAbort}, {retry, kAnswerRetry}, {ignore, kAnswerIgnore}};
         case 3:
-            return {{yes, 6}, {no, 7}, {cancel, 2}};
+            return {{yes, kAnswerYes}, {no, kAnswerNo}, {cancel, kAnswerCancel}};
         case 4:
-            return {{yes, 6}, {no, 7}};
+            return {{yes, kAnswerYes}, {no, kAnswerNo}};
         case 5:
-            return {{retry, 4}, {cancel, 2}};
+            return {{retry, kAnswerRetry}, {cancel, kAnswerCancel}};
         default:
             return {};
     }
@@ -55,7 +56,7 @@ int escapeButton(int buttons) {
         const auto found = std::ranges::find(set, code, &MessageButton::code);
         return found == set.end() ? -1 : static_cast<int>(found - set.begin());
     };
-    return std::max({indexOf(2), indexOf(7), 0});
+    return std::max({indexOf(kAnswerCancel), indexOf(kAnswerNo), 0});
 }
 
 MessageGeometry layOutMessage(QSize label, bool hasIcon, int buttonCount) {

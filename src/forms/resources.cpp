@@ -9,7 +9,8 @@
 namespace sarne {
 namespace {
 
-Q_LOGGING_CATEGORY(lackingPictures, "sarne.pictures")
+/// Silent where nobody asks for it: the tour does, users have no use for it.
+Q_LOGGING_CATEGORY(lackingPictures, "sarne.pictures", QtFatalMsg)
 
 QByteArray readAll(const QString& path) {
     QFile file(path);

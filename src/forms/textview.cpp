@@ -11,6 +11,7 @@
 namespace sarne {
 namespace {
 
+constexpr int kLineStep = 280;
 constexpr int kArrowSide = 450;
 constexpr int kArrowGap = 90;
 constexpr int kFade = 300;  // twips over which content fades where there is more of it
@@ -25,8 +26,8 @@ TextView::TextView(Form& form, const QString& name)
     up_->setFocusPolicy(Qt::NoFocus);
     down_->setFocusPolicy(Qt::NoFocus);
     setArrowPictures({}, {});
-    new HoldRepeat(*up_, [this] { scrollBy(-lineStep_); });
-    new HoldRepeat(*down_, [this] { scrollBy(lineStep_); });
+    new HoldRepeat(*up_, [this] { scrollBy(-kLineStep); });
+    new HoldRepeat(*down_, [this] { scrollBy(kLineStep); });
     connect(this, &PictureBox::scrolledTo, this, [this] {
         updateArrows();
         if (underMouse()) point(linkAt(mapFromGlobal(QPointF(QCursor::pos()))));
@@ -96,7 +97,7 @@ void TextView::focusLink(std::optional<int> link) {
 
 bool TextView::pageKey(const QKeyEvent& event) {
     if (event.modifiers() & ~Qt::KeypadModifier) return false;
-    const int page = std::max(lineStep_, twips().height() - lineStep_);
+    const int page = std::max(kLineStep, twips().height() - kLineStep);
     const int before = scrolled();
     if (event.key() == Qt::Key_PageDown) scrollBy(page);
     if (event.key() == Qt::Key_PageUp) scrollBy(-page);
@@ -108,10 +109,10 @@ bool TextView::keyDown(const QKeyEvent& event) {
     const int before = scrolled();
     switch (event.key()) {
         case Qt::Key_Up:
-            scrollBy(-lineStep_);
+            scrollBy(-kLineStep);
             break;
         case Qt::Key_Down:
-            scrollBy(lineStep_);
+            scrollBy(kLineStep);
             break;
         case Qt::Key_Home:
             scrollTo(0);

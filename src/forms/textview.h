@@ -36,7 +36,6 @@ class TextView : public PictureBox {
     QString drawnText() const override;
 
     /// Scrolling by keys and arrows goes line by line of this height (twips).
-    void setLineStep(int twips) { lineStep_ = twips; }
     const RichPieces& pieces() const { return pieces_; }
     /// Focuses the next link phrase and brings it into sight. False when there is none any more: the turn of
     /// the next control.
@@ -76,7 +75,6 @@ class TextView : public PictureBox {
     QtTextMetrics metrics_;
     QPointer<Button> up_, down_;  // the form's, and gone with this view
     std::optional<int> pressed_;
-    int lineStep_ = 280;
 };
 
 }  // namespace sarne

@@ -5,6 +5,7 @@
 #include "forms/backgroundmusic.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/messagebox.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
 
@@ -20,7 +21,6 @@ constexpr QRect kTitle(300, 195, 5400, 450);
 constexpr int kLeft = 420, kWidth = 5200, kFirstRow = 840, kRow = 435, kRowHeight = 390;
 constexpr int kTrackTop = 3165, kTrackWidth = 2500;
 constexpr QRect kButtons[] = {{1230, 4020, 1680, 540}, {3090, 4020, 1680, 540}};
-constexpr int kErrorStyle = 16;
 
 }  // namespace
 
@@ -128,7 +128,7 @@ void frmNastavHudbu::store() {
     const bool wineSounds = opthudba[1]->isChecked();
     for (size_t i = 0; i < on.size(); ++i) app().SoundFlags[i] = on[i];
     const QString error = applyMusicSwitches(app(), wineSounds);
-    if (!error.isEmpty()) app().ZobrazZpravu(error, kErrorStyle);
+    if (!error.isEmpty()) app().ZobrazZpravu(error, kErrorBox);
 }
 
 void frmNastavHudbu::moveFocus(int step) {

@@ -5,6 +5,7 @@
 
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/messagebox.h"
 #include "forms/resources.h"
 #include "platform/multimediacontrol.h"
 
@@ -25,7 +26,6 @@ constexpr int kBackLeft = 10500;
 constexpr int kStartDelay = 10;     // milliseconds: the form is on the screen before the file is opened
 constexpr int kProgressStep = 200;  // milliseconds
 constexpr qint64 kJump = 5000;      // milliseconds
-constexpr int kErrorStyle = 16;
 
 struct Face {
     const char *picture, *tip;
@@ -145,7 +145,7 @@ void frmVideo::start() {
 void frmVideo::showError() {
     const QString text = MMControlVideo->errorMessage();
     const QPointer<frmVideo> self(this);
-    app().ZobrazZpravu(text, kErrorStyle);
+    app().ZobrazZpravu(text, kErrorBox);
     if (self) Skryj();
 }
 

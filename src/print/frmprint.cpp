@@ -5,6 +5,7 @@
 #include "core/value.h"
 #include "db/database.h"
 #include "forms/bassarne.h"
+#include "forms/messagebox.h"
 #include "forms/resources.h"
 #include "forms/stage.h"
 #include "print/formparts.h"
@@ -59,7 +60,7 @@ void frmPrint::take(PrintMaterial material) {
     lblVysledek.setText({});
     prepareOptions();
     showMaterial();
-    if (!table_.isEmpty()) {
+    if (printedBefore_) {
         showForm();
         return start();
     }
@@ -121,14 +122,14 @@ bool frmPrint::portionsValid() {
     if (material_.isText()) return true;
     const double portions = leadingNumber(Text1.text());
     if (portions >= 1 && portions <= 99) return true;
-    app().ZobrazZpravu(QStringLiteral("Musí být zadáno celé číslo od 1 do 99!"), 48);
+    app().ZobrazZpravu(QStringLiteral("Musí být zadáno celé číslo od 1 do 99!"), kWarningBox);
     Text1.focusAll();
     return false;
 }
 
 void frmPrint::start() {
     if (printing_ || !portionsValid()) return;
-    table_ = QStringLiteral("Recepty");
+    printedBefore_ = true;
     prgSeznam.setMaximum(material_.count());
     prgSeznam.setValue(0);
     setPrinting(true);
@@ -190,7 +191,8 @@ void frmPrint::showOutcome(const PrintOutcome& outcome) {
 
 void frmPrint::askToStop() {
     if (!printing_) return;
-    if (app().ZobrazZpravu(QStringLiteral(" Opravdu chcete ukončit tisk? "), 52) == 6) stopped_ = true;
+    const QString question = QStringLiteral(" Opravdu chcete ukončit tisk? ");
+    if (app().ZobrazZpravu(question, kWarningQuestionBox) == kAnswerYes) stopped_ = true;
 }
 
 void frmPrint::preview() {
@@ -238,6 +240,10 @@ void frmPrint::status(const QString& text) {
 
 void frmPrint::sectionDone() {
     prgRecept.advance();
+}
+
+void frmPrint::pageDone(int done, int pages) {
+    prgRecept.setValue(kPrintSections + kPrintSections * done / pages);
 }
 
 void frmPrint::recipeDone() {

@@ -72,12 +72,13 @@ class frmPrint : public Form, private PrintProgress {
     void recipeStarted(const QString& name) override;
     void status(const QString& text) override;
     void sectionDone() override;
+    void pageDone(int done, int pages) override;
     void recipeDone() override;
     bool goOn() override;
 
     Printer& printer_;
     PrintMaterial material_;
-    QString table_;  // what is being printed; empty before the first printing
+    bool printedBefore_ = false;  // further selections are printed at once
     bool printing_ = false;
     bool stopped_ = false;
     QElapsedTimer sinceYield_;

@@ -104,7 +104,7 @@ void frmPrint::makeProgress() {
     dressLabel(lblRecept, printforms::kTextFont, colors::kPaper);
     prgRecept.place(at::kRecipeBar);
     prgRecept.setTip(QStringLiteral("Průběh tisku receptu"));
-    prgRecept.setMaximum(kPrintSections);
+    prgRecept.setMaximum(2 * kPrintSections);  // setting the sections, then painting the pages
     prgSeznam.place(at::kListBar);
     prgSeznam.setTip(QStringLiteral("Průběh tisku všech receptů"));
     lblVysledek.place(at::kOutcome);

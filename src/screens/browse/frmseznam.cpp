@@ -4,17 +4,14 @@
 
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/messagebox.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "screens/browse/frmseznam_layout.h"
 #include "screens/browse/photofile.h"
 
 namespace sarne {
-namespace {
-
-constexpr int kWarning = 48;  // message box: warning, OK
-
-}  // namespace
+namespace {}  // namespace
 
 frmSeznam::frmSeznam(basSarne& run)
     : Form(run, QStringLiteral("frmSeznam")),
@@ -102,7 +99,7 @@ const ListEntry* frmSeznam::visiblySelected() const {
 
 void frmSeznam::action(int index) {
     if (!visiblySelected()) {
-        app().ZobrazZpravu(QStringLiteral("Není vybrán recept"), kWarning);
+        app().ZobrazZpravu(QStringLiteral("Není vybrán recept"), kWarningBox);
         return;
     }
     switch (index) {

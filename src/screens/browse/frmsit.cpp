@@ -5,15 +5,12 @@
 
 #include "db/database.h"
 #include "forms/bassarne.h"
+#include "forms/messagebox.h"
 #include "forms/screens.h"
 #include "screens/browse/frmsit_layout.h"
 
 namespace sarne {
-namespace {
-
-constexpr int kInformation = 64;  // message box: information, OK
-
-}  // namespace
+namespace {}  // namespace
 
 void frmSit::Zobraz() {
     readNames();
@@ -84,7 +81,7 @@ void frmSit::showChoice() {
 bool frmSit::needsCell() {
     if (grid_.isAlive(grid_.cell())) return true;
     grid_.clear();
-    app().ZobrazZpravu(QStringLiteral("Jeden recept musí být vybrán"), kInformation);
+    app().ZobrazZpravu(QStringLiteral("Jeden recept musí být vybrán"), kInformationBox);
     return false;
 }
 

@@ -37,7 +37,6 @@ class frmSit : public Form {
     void buildCells();
     void buildGroups();
     void buildBar();
-    PictureButton* addBarButton(int index, const QString& face, const QString& word, const QString& tip);
     void readNames();
 
     void setGroup(int group);

@@ -18,7 +18,6 @@ class PictureButton : public Button {
     void dress(basSarne& app, const QString& face, const QString& word, Word shown = Word::WhenNoPicture);
     /// Shows the button as pressed for good: what it opens is what shows.
     void setLatched(bool latched);
-    bool isLatched() const { return latched_; }
 
   protected:
     void paint(QPainter& painter) override;

@@ -6,6 +6,7 @@
 #include "db/database.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/messagebox.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "platform/effectplayer.h"
@@ -16,8 +17,6 @@
 namespace sarne {
 namespace {
 
-constexpr int kQuestion = 36;
-constexpr int kYes = 6;
 constexpr double kTitleSizes[] = {24, 20, 16, 13};  // points, the largest that fits is taken
 
 QString noteQuestion() {
@@ -217,7 +216,7 @@ void frmRecept::barClick(Bar button) {
 }
 
 bool frmRecept::wantsNoteSaved() {
-    return app().ZobrazZpravu(noteQuestion(), kQuestion) == kYes;
+    return app().ZobrazZpravu(noteQuestion(), kQuestionBox) == kAnswerYes;
 }
 
 QString frmRecept::collectedText() {

@@ -94,7 +94,6 @@ class frmRecept : public Form {
     void tab(int direction);
     std::vector<Control*> tabStops() const;
     Control* focusedControl() const;
-    bool sectionsHaveFocus() const;
     void announceSection(int index);
 
     std::int16_t id_ = 0;
