@@ -2,7 +2,7 @@
 """Renders every picture that is missing or whose description changed; may be stopped at any time and started again.
 
     art/render.py                 everything
-    art/render.py dishes          only the dishes (also: hlavni, siroke, pohyby, prvky, pozadi)
+    art/render.py dishes          only the dishes (also: hlavni, siroke, pohyby, prvky, pozadi, film)
     art/render.py dishes 7 12     only these dishes
     art/render.py --again …       although they are up to date
 
@@ -91,6 +91,10 @@ def siroke(again, names):
         folder = os.path.join(ART, "rendered", "hlavni" if n == "hlavni" else "pozadi")
         if again or not os.path.exists(os.path.join(folder, "pozadi-siroke.jpg" if n == "hlavni" else n + "-siroke.jpg")):
             blender("hlavni.py", "siroke") if n == "hlavni" else blender("pozadi.py", n + "-siroke")
+
+
+def film(again, names):
+    blender("film.py", *(names or ["all"]))
 
 
 WIDE = ("hlavni", "uvod", "konec", "stranka", "seznam", "recept", "Sit", "video")

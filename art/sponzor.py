@@ -13,7 +13,7 @@ import bpy  # noqa: E402
 from bpy_extras.object_utils import world_to_camera_view  # noqa: E402
 from mathutils import Vector  # noqa: E402
 
-import hlavni_scena  # noqa: E402
+from kitchen import tablethings  # noqa: E402
 import prvky  # noqa: E402
 from lib import core, dishfile, fish as fishlib, food, table  # noqa: E402
 from lib.core import group, put  # noqa: E402
@@ -59,7 +59,7 @@ def weights():
 
 
 def microphone():
-    return put(group([hlavni_scena.microphone()]), 0, 0, 0, scale=.95)
+    return put(group([tablethings.microphone()]), 0, 0, 0, scale=.95)
 
 
 def on_the_table(things, wood, cloth):
@@ -76,15 +76,15 @@ def on_the_table(things, wood, cloth):
 
 def about_the_cookbook():
     return on_the_table((("Kuchařka", prvky.Uvod(), -5.1, 2.5, 6, .95), ("Recepty", dish(), .3, 2.9, -3, .95),
-                         ("Fotografie", hlavni_scena.photo_camera()[0], 5.6, 2.9, -16, 1.05),
+                         ("Fotografie", tablethings.photo_camera()[0], 5.6, 2.9, -16, 1.05),
                          ("Váhy a lžíce", weights(), -4.5, -2.6, 0, .95),
                          ("Hudba a hlas", microphone(), .2, -2.6, 0, .95),
                          ("Vaše poznámky", prvky.Vlastni(), 5.2, -3.1, -6, .95)), "walnut", "linen")
 
 
 def how_it_was_made():
-    return on_the_table((("Obrazy", group([dish(), put(hlavni_scena.photo_camera()[0], 4.2, .2, 0, turn=-30)]), -4.9, 2.3, 3, .9),
-                         ("Videa", hlavni_scena.projector()[0], 4.7, 1.5, 8, .66),
+    return on_the_table((("Obrazy", group([dish(), put(tablethings.photo_camera()[0], 4.2, .2, 0, turn=-30)]), -4.9, 2.3, 3, .9),
+                         ("Videa", tablethings.projector()[0], 4.7, 1.5, 8, .66),
                          ("Hlasy", microphone(), -3.4, -3.0, 0, 1.0), ("Hudba a zvuky", notes(), 4.2, -3.2, -5, .9)), "dark", "teal")
 
 

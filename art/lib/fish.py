@@ -289,6 +289,21 @@ def _fin(base, out, rays, m, thick=.0035, wave=.004, ragged=.05, y0=0.0):
     return mesh(v, f, m, uv=uv)
 
 
+def _skinned(k, col, hgt):
+    """The pictures of a poached fish whose skin was taken off between gills and tail: pink muscle layers."""
+    H, W = hgt.shape[:2]
+    u, a = (np.arange(W) + .5) / W, (np.arange(H) + .5) / H * 2 * np.pi
+    s = np.sin(a)[:, None] * np.ones((1, W))
+    u = np.tile(u, (H, 1))
+    wide = fbm(np.stack([u * 5, s * 2, u * 0], -1), 4, 2)
+    bare = np.clip((u - _gill(k, s) - .015) / .006, 0, 1) * np.clip((.9 - u + .01 * (wide - .5)) / .006, 0, 1)
+    part = np.mod(u * 30 + 2.2 * np.abs(s - .1) + 1.2 * (wide - .5), 1)
+    seam = np.clip((.14 - np.minimum(part, 1 - part)) / .1, 0, 1) * np.clip((wide - .3) * 2.5, 0, 1)
+    flesh = _mix(np.broadcast_to(_s("ee9a72"), col.shape) * (.88 + .25 * wide[..., None]), _s("fbdcc2"), seam * .6)
+    flat = hgt if hgt.ndim == 2 else hgt[..., 0]
+    return _mix(col, flesh, bare), flat * (1 - bare) + bare * (.4 + .3 * part)
+
+
 def fish(kind="carp", state="raw", length=6.0, cuts=0, seed=1, bend=0.0, lying=True, open_mouth=False, tailbend=0.0):
     """A whole fish. cuts: number of score cuts; bend: how much it curves sideways (radians over the length)."""
     k = KINDS[kind]
@@ -297,7 +312,10 @@ def fish(kind="carp", state="raw", length=6.0, cuts=0, seed=1, bend=0.0, lying=T
     name = f"skin-{kind}-{state}-{cuts}-{seed}"
     color = height = None
     if name not in core._materials:
-        col, hgt = core.cached(f"{_SELF}{kind}{state}{cutpos}{seed}", lambda: _skin(k, state, cutpos, seed))
+        painted = "poached" if state == "skinned" else state
+        col, hgt = core.cached(f"{_SELF}{kind}{painted}{cutpos}{seed}", lambda: _skin(k, painted, cutpos, seed))
+        if state == "skinned":
+            col, hgt = _skinned(k, col, hgt)
         color, height = picture(name, col), picture(name + "h", hgt, True)
     rough = {"raw": .2, "smoked": .22, "poached": .3, "blue": .25}.get(state, .34)
     skin = mat(name, k["side"], rough, .55, sss=.02, coat=.75 if not cooked else .45, image=color, height=height,

@@ -332,7 +332,7 @@ def lentils(rx=2.2, ry=1.6, h=.5, n=1300):
 
 def coldfish(kind="salmon", coat="cucumber", length=9.0):
     """Whole poached fish on its side covered by cucumber scales, or by mayonnaise with radish scales."""
-    f = fishlib.fish(kind, "poached", length, seed=9)
+    f = fishlib.fish(kind, "skinned" if kind == "salmon" else "poached", length, seed=9)
     parts = [f]
     if coat == "mayonnaise":
         m = food.sauce_mat("mayonnaise")

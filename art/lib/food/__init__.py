@@ -1,4 +1,5 @@
 """What lies on the plates."""
+from .flakes import flakes  # noqa: F401
 from .shapes import (blob, loft, sheet, slab)  # noqa: F401
 from .surfaces import (crumb, fishskin, flesh, gherkin_mat, onion_mat)  # noqa: F401
 from .pieces import (_bar, _cubelet, _lump, _salmonpic, battered, block, breaded, crumbs_on, cube, cutlet, fillet, flake, grillmarks, horseshoe, patty, rolled, rose, slice_cured, smokedpiece, stick, tartare)  # noqa: F401
@@ -7,3 +8,4 @@ from .vegetables import (almond, apple_slice, asparagus, aubergine_slice, bacon,
 from .herbs import (_dill, _leafshape, _needle, _needles, herb_mat, leaf, lettuce, sprig)  # noqa: F401
 from .strewn import (_bit, sprinkle)  # noqa: F401
 from .sauces import (SAUCES, aspic_cube, aspic_mat, aspic_mould, drape, drops, line, liquid, pool, salad_heap, sauce_mat, steam, swirl, swirl_cream)  # noqa: F401
+from .home import (bramborak, halved, penne, salmonportion, sauerkraut, spinach, spreadheap, tin)  # noqa: F401

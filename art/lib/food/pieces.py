@@ -8,41 +8,66 @@ from mathutils import Matrix, Vector
 from .. import core
 from ..core import fbm, grid_faces, group, lathe, mat, mesh, put, scatter, smooth_profile, tube
 from ..table import wood
+from .flakes import flakes, steak
 from .shapes import blob, loft, slab
 from .surfaces import crumb, fishskin, flesh, gherkin_mat, onion_mat
 
 
+BACK = ((0, 1.45), (.5, 1.34), (1.02, .9), (1.3, .2), (1.27, -.55), (1.06, -1.25), (.82, -1.86))
+CAVITY = ((0, -.3), (.16, -.36), (.36, -.66), (.5, -1.05), (.57, -1.42), (.55, -1.8))
+
+
+def _arch(points, n):
+    """n points at equal steps along a curve and its mirror image, from the left end to the right one."""
+    half = np.array(smooth_profile(points, 14))
+    line = np.concatenate([(half * (-1, 1))[:0:-1], half])
+    way = np.r_[0, np.cumsum(np.hypot(*np.diff(line, axis=0).T))]
+    t = np.linspace(0, way[-1], n)
+    return np.stack([np.interp(t, way, line[:, k]) for k in (0, 1)], -1)
+
+
 def horseshoe(state="roasted", size=1.0, seed=None, kind="carp", meat="white"):
-    """Cross-cut steak: thick round the backbone, two belly flaps that nearly meet, skin round the outside."""
+    """Cross-cut steak: thick round the backbone, two thin belly flaps that stand apart, skin round the outside."""
     seed = random.randrange(999) if seed is None else seed
     rnd = random.Random(seed)
     n = 96
-    t = np.linspace(0, 1, n)
-    ang = np.pi * (1.36 - 1.72 * t)
-    c, s = np.cos(ang), np.sin(ang)
-    apart = rnd.uniform(.02, .2)
-    lean = rnd.uniform(-.18, .18)
-    O = np.stack([1.38 * c * (1 + .06 * np.cos(2 * ang)), np.where(s > 0, 1.42, 1.95) * s], -1)
-    I = np.stack([.47 * c * np.where(s > 0, .8, 1.0), -.35 + np.where(s > 0, .42, 1.4) * s], -1)
-    for curve, k in ((O, 1.0), (I, .8)):
-        low = np.clip(-curve[:, 1], 0, 9)
-        curve[:, 0] += np.sign(curve[:, 0]) * apart * low * .5 * k + lean * low * .5
-    w = 1 + .05 * (fbm(np.stack([c * 1.4, s * 1.4, np.full(n, seed * .3)], -1), 3, seed) * 2 - 1)
-    O *= w[:, None] * size
+    O, I = _arch(BACK, n), _arch(CAVITY, n)
+    apart, lean = rnd.uniform(-.1, .12), rnd.uniform(-.14, .14)
+    for curve in (O, I):
+        low = np.clip(-curve[:, 1], 0, 9) ** 1.5
+        curve[:, 0] += np.sign(curve[:, 0]) * apart * low * .4 + lean * low * .5
+    O *= (1 + .06 * (fbm(np.c_[O * 1.1, np.full(n, seed * .3)], 3, seed) * 2 - 1))[:, None] * size
     I *= size
-    end = np.sqrt(np.clip(np.minimum(t, 1 - t) / .05, 0, 1))[:, None]
+    t = np.linspace(0, 1, n)
+    end = np.sqrt(np.clip(np.minimum(t, 1 - t) / .03, 0, 1))[:, None]
     mid = (O + I) / 2
     Oe, Ie = mid + (O - mid) * end, mid + (I - mid) * end
-    h = .62 * size
+    h = .66 * size
     if state == "breaded":
         o = loft(Oe, Ie, h, crumb("gold"), None, .12, .1, seed, .05)
         return group([o, crumbs_on(o, 260, "gold")])
-    sk = {"blue": "blue", "poached": "poached", "grilled": "grilled"}.get(state, "roasted")
-    parts = [loft(Oe, Ie, h, cutface(meat, "poached" if state in ("blue", "poached") else "roasted"), fishskin(kind, sk), .06, .07, seed, .025)]
-    parts.append(put(_backbone(size), lean * -.1, .28 * size, h * 1.02))
+    sk = {"raw": "raw", "blue": "blue", "poached": "poached", "grilled": "grilled"}.get(state, "roasted")
+    m, uv = steak(Oe, Ie, meat, "poached" if state in ("raw", "blue", "poached") else "roasted", seed)
+    o = loft(Oe, Ie, h, m, fishskin(kind, sk), .05, .08, seed, .03)
+    planar(o, uv)
+    o.data.materials.append(mat("membrane", ((.4, "8a6a44"), (.6, "b8966a")), .35, coat=.4, noise=2.5, bump=.2, bumpscale=6))
+    for f in o.data.polygons:
+        if f.index % 11 > 8:   # the wall of the belly
+            f.material_index = 2
+    parts = [o, put(_backbone(size), lean * -.1, .1 * size, h * 1.02)]
     if state == "grilled":
         parts.append(grillmarks(parts[0], seed))
     return group(parts)
+
+
+def planar(o, uv):
+    """Lays a picture on a mesh from above; uv turns vertices into points of the picture."""
+    me = o.data
+    v = np.empty(len(me.vertices) * 3, np.float32)
+    me.vertices.foreach_get("co", v)
+    idx = np.empty(len(me.loops), np.int32)
+    me.loops.foreach_get("vertex_index", idx)
+    me.uv_layers[0].data.foreach_set("uv", uv(v.reshape(-1, 3))[idx].astype(np.float32).ravel())
 
 
 def _backbone(size):
@@ -51,32 +76,6 @@ def _backbone(size):
     ring = lathe(smooth_profile([(.05, .02), (.1, .05), (.16, .045), (.19, 0)], 4), bone, 20)
     heart = lathe([(.01, .022), (.06, .024), (.07, 0)], mat("marrow", "6b3a22", .5, coat=.3), 16)
     return put(group([ring, heart]), scale=(size, size * .85, size))
-
-
-def cutface(kind="white", state="poached"):
-    """The cut across a fish: muscle rings with pale seams between them, browned along the edges when fried."""
-    name = f"cutface-{kind}-{state}"
-    if name in core._materials:
-        return core._materials[name]
-    base, seam, brown = {"white": ("e3d0a4", "fbf3dc", "a05f22"), "pink": ("e2764a", "f8cda8", "a85a2a")}.get(kind, ("d8c4a8", "f0e4d0", "8f5a2c"))
-    if state == "roasted" and kind == "white":
-        base, seam = "d9ac62", "f0d7a0"
-    base, seam, brown = (np.array(core.rgb(q)) ** (1 / 2.2) for q in (base, seam, brown))
-    v, u = np.mgrid[0:1:256j, 0:1:1024j]
-    rough = fbm(np.stack([u * 26, v * 5, u * 0], -1), 4, 5)
-    wide = fbm(np.stack([u * 9, v * 2.5, u * 0 + 4], -1), 4, 9)
-    phase = v * 5 + .5 * np.sin(u * 2 * np.pi * 2) + 1.1 * (wide - .5) + .35 * np.abs(np.mod(u * 10, 1) - .5) * 2
-    line = np.abs(np.mod(phase, 1) - .5)
-    gap = np.clip((.09 - line) / .06, 0, 1) * np.clip(wide * 3 - .7, 0, 1)
-    img = base * (.8 + .4 * rough[..., None])
-    img = img + (seam - img) * (gap * .7)[..., None]
-    if state == "roasted":
-        near = np.clip(1 - np.minimum(v, 1.1 - v) / .3, 0, 1)
-        f = np.clip(near * .75 + (wide - .45) * 2.6, 0, 1) * (1 - .4 * gap)
-        img = img + (brown * (.7 + .5 * rough[..., None]) - img) * (.8 * f)[..., None]
-    tall = np.clip(.6 + .5 * (rough - .5) - .5 * gap, 0, 1)
-    tall = core.picture(name + "h", np.repeat(tall[..., None], 3, -1), True)
-    return mat(name, "e3d0a4", .36, .5, sss=.07, coat=.35, image=core.picture(name, img.clip(0, 1)), height=tall, heightscale=.35, sssradius=(.25, .14, .1))
 
 
 def grillmarks(o, seed=0, n=5, col="140a05"):
@@ -148,14 +147,19 @@ def fillet(kind="white", state="roasted", length=4.2, width=1.8, h=.6, skin=None
     w = 1 - .45 * np.clip(c, 0, 1) ** 1.5
     pts = np.stack([np.sign(c) * np.abs(c) ** .75 * length / 2, s * width / 2 * w + .08 * length * np.cos(t * 2 + seed) * .3], -1)
     pts *= (1 + .05 * (fbm(np.stack([c * 2, s * 2, np.full(n, seed * .3)], -1), 3, seed) * 2 - 1))[:, None]
-    top = fishskin(skin, state if state != "baked" else "roasted") if skin else flesh(kind, state)
-    return slab(pts, h, top, 2.3, .09, 1.1, 22, .12, .02, 7, seed, side=flesh(kind, "poached") if skin else None)
+    top = fishskin(skin, state if state != "baked" else "roasted") if skin else flakes(kind, state, 8, seed % 3 + 1)
+    return slab(pts, h, top, 2.3, .09, 1.1, 22, .12, .02, 7, seed, side=flakes(kind, "poached", 8, 1) if skin else None)
 
 
 def block(kind="pink", state="seared", sx=3.0, sy=1.6, h=1.0, skin=None, seed=None):
-    """Thick piece of a fillet with cut sides."""
-    top = fishskin(skin, "roasted") if skin else flesh(kind, "roasted" if state in ("seared", "roasted", "baked") else "poached")
-    return slab(blob(sx, sy, .09, 72, 3.4, seed), h, top, 4.2, .09, 1.2, 20, .12, .03, 6, seed, side=flesh(kind, "poached"), taper=.03)
+    """Portion of a thick fillet with cut sides: high along the back, thinner towards the belly, skin below or on top."""
+    seed = random.randrange(999) if seed is None else seed
+    cooked = state in ("seared", "roasted", "baked", "grilled")
+    top = fishskin(skin, "roasted") if skin else flakes(kind, "seared" if cooked else "poached", 5, seed % 3 + 1)
+    o = slab(blob(sx, sy, .07, 72, 4.2, seed), h, top, 4.6, .06, 1.2, 22, .1, .025, 7, seed, side=flakes(kind, "poached", 5, seed % 3 + 1), taper=.03)
+    for v in o.data.vertices:
+        v.co.z *= 1 - .28 * (.5 - v.co.y / sy) + .06 * math.sin(v.co.x * 1.3)
+    return o
 
 
 def cutlet(kind="pink", size=1.0, skin="salmon", state="poached", seed=None):
@@ -183,12 +187,12 @@ def stick(length=2.2, kind="gold", seed=None):
 
 
 def cube(kind="white", state="poached", s=.8, seed=None, skin=None):
-    return slab(blob(s * random.uniform(.85, 1.25), s * random.uniform(.8, 1.1), .24, 44, 3.2, seed), s * random.uniform(.6, .85), flesh(kind, state), 3.6, .12, 2.4, 14, .05, .045, 7, seed)
+    return slab(blob(s * random.uniform(.85, 1.25), s * random.uniform(.8, 1.1), .24, 44, 3.2, seed), s * random.uniform(.6, .85), flakes(kind, state, 3, random.randrange(1, 4)), 3.6, .12, 2.4, 14, .05, .045, 7, seed)
 
 
 def flake(kind="tuna", s=.7, state="poached"):
     """Torn flake of cooked fish."""
-    return slab(blob(s * random.uniform(.9, 1.5), s * random.uniform(.5, .8), .4, 36, 2.6), s * .42, flesh(kind, state), 2.6, .1, 3, 10, 0, .03, 9)
+    return slab(blob(s * random.uniform(.9, 1.5), s * random.uniform(.5, .8), .4, 36, 2.6), s * .42, flakes(kind, state, 2, random.randrange(1, 4)), 2.6, .1, 3, 10, 0, .03, 9)
 
 
 def rolled(r=.85, h=1.5, seed=None):

@@ -12,7 +12,7 @@ from .vegetables import dice, pea
 
 
 SAUCES = {
-    "cream": ("ead9ae", "f3e8c8", .25), "dill": ("c9cf94", "dde0b4", .25), "dark": ("1e0d06", "3a1a0c", .12), "paprika": ("b5471a", "d56c34", .22), "butter": ("cf9a3c", "e6c274", .06),
+    "cream": ("ead9ae", "f3e8c8", .25), "dill": ("dfdcb0", "eeead0", .25), "dark": ("1e0d06", "3a1a0c", .12), "paprika": ("b5471a", "d56c34", .22), "butter": ("cf9a3c", "e6c274", .06),
     "mustard": ("c9992c", "dcb54e", .3), "hollandaise": ("e9bf42", "f3d470", .22), "tartar": ("e9e4cc", "f5f1e0", .35), "mayonnaise": ("efe3b8", "f6efd2", .3), "curry": ("c98a1e", "dfab3e", .22),
     "cranberry": ("5a0a10", "8a141a", .08), "tomato": ("a3280e", "c24420", .25), "soured": ("f0ece0", "faf8f0", .25), "peas": ("6d8f2c", "93ad4c", .5), "spread": ("c2a37c", "dcc19c", .5), "horseradish": ("efe9da", "f8f5ea", .4),
     "oil": ("c9a83a", "d9bd5a", .03), "juice": ("e2bd72", "f0d698", .05), "green": ("5d7a1c", "86a032", .15), "honeymustard": ("b5801a", "d6a436", .2), "fishsoup": ("a8782c", "bf9245", .1), "christmas": ("cfb078", "dfc594", .16),
@@ -23,6 +23,8 @@ SAUCES = {
 def sauce_mat(kind):
     if kind == "gratin":
         return mat("gratin", ((.34, "9c5a1c"), (.43, "dba746"), (.62, "f2d993")), .35, .5, coat=.35, noise=1.8, detail=8, bump=.35, bumpscale=5)
+    if kind == "sardine":
+        return mat("sardine", ((.36, "c9b48a"), (.5, "e3d4ac"), (.64, "f0e6c8")), .45, .4, coat=.2, noise=3, detail=7, bump=.5, bumpscale=6)
     if kind == "spread":
         return mat("spread", ((.34, "8f6f4c"), (.46, "cfae84"), (.58, "e8d3b0"), (.7, "c98f62")), .5, .4, coat=.15, noise=5, detail=6, bump=.7, bumpscale=7)
     a, b, rough = SAUCES[kind]
@@ -115,7 +117,7 @@ def line(kind, points, w=.12):
 
 def aspic_mat():
     """Clear and amber, without refraction: what is set in it stays to be seen."""
-    return thin_glass("aspic", "f7e2a2", 1.9, .04, glow=.025)
+    return thin_glass("aspic", "efc66a", 1.9, .04, glow=.03)
 
 
 def aspic_mould(r=2.2, h=1.7, flutes=14):

@@ -15,7 +15,7 @@ def flesh(kind="white", state="poached"):
 
 
 def fishskin(kind="carp", state="roasted"):
-    cols = {("carp", "roasted"): ("3e1f0b", "8a531e", "c08a3e"), ("carp", "blue"): ("31505f", "5d8496", "8fb0ba"), ("carp", "poached"): ("4d5142", "7c7b5c", "a9a37c"),
+    cols = {("carp", "raw"): ("3a3a22", "7d6a38", "b09a5c"), ("carp", "roasted"): ("3e1f0b", "8a531e", "c08a3e"), ("carp", "blue"): ("31505f", "5d8496", "8fb0ba"), ("carp", "poached"): ("4d5142", "7c7b5c", "a9a37c"),
             ("carp", "grilled"): ("241408", "5d3716", "97692f"), ("trout", "roasted"): ("4a3417", "8d6a32", "c49d58"), ("zander", "roasted"): ("5b3a16", "a97a38", "d9b06a"),
             ("salmon", "roasted"): ("4b3a2a", "8d7350", "bb9c70"), ("salmon", "poached"): ("565c60", "8b9296", "b9bdb9"), ("herring", "raw"): ("6d8791", "a9bcc0", "dfe5e0"),
             ("pike", "roasted"): ("5d4318", "97782f", "c9ad62"), ("eel", "roasted"): ("2c1a0a", "5d3a15", "8f6425"), ("eel", "smoked"): ("1e1006", "4f2c0c", "8a5618"),
