@@ -110,8 +110,8 @@ TEST_F(ReadingTest, SpoonTableComesFromTheWeights) {
     const Cookbook book = load();
     const LookupTable& spoons = book.tables.last();
     ASSERT_EQ(spoons.rows.size(), 3);
-    EXPECT_EQ(spoons.rows[1].join(u'|'), QStringLiteral("Máslo|5 g|15 g|250 g"));
-    EXPECT_EQ(spoons.rows[2].join(u'|'), QStringLiteral("Mouka|3,5 g|10 g|170 g"));
+    EXPECT_EQ(spoons.rows[1].join(u'|'), QStringLiteral("Máslo|5 g|15 g|–"));
+    EXPECT_EQ(spoons.rows[2].join(u'|'), QStringLiteral("Mouka|3,5 g|10 g|–"));
 }
 
 TEST(NumberTest, ReadsTheDecimalComma) {

@@ -167,7 +167,7 @@ QString gramsText(double grams) {
 }
 
 /// What the recipes reckon with: a tea spoon, a table spoon and a cup of each ingredient that has a weight
-/// by the spoon. The other two follow from the table spoon where the content does not give them.
+/// by the spoon. One spoon follows from the other; a cup that nobody weighed stays empty.
 QList<QStringList> spoonRows(const Cookbook& book) {
     QList<QStringList> rows;
     for (auto entry = book.unitWeights.cbegin(); entry != book.unitWeights.cend(); ++entry) {
@@ -177,8 +177,7 @@ QList<QStringList> spoonRows(const Cookbook& book) {
         const double spoon = table > 0 ? table : tea * 3;
         if (spoon <= 0) continue;
         rows << QStringList{entry.key().first(1).toUpper() + entry.key().mid(1),
-                            gramsText(tea > 0 ? tea : spoon / 3), gramsText(spoon),
-                            gramsText(cup > 0 ? cup : spoon * 250 / 15)};
+                            gramsText(tea > 0 ? tea : spoon / 3), gramsText(spoon), gramsText(cup)};
     }
     QCollator czech(QLocale(QLocale::Czech, QLocale::CzechRepublic));
     std::sort(rows.begin(), rows.end(),
