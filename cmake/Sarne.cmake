@@ -30,6 +30,22 @@ function(sarne_library name)
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
 endfunction()
 
+# The tests that are quick enough to run under the sanitizers with every change; leaks count there.
+set(SARNE_SANITIZED_TESTS test_core test_db test_richtext test_forms test_dialogs richtext_fuzz)
+add_custom_target(sanitized_tests)
+
+# sarne_test_settings(name): what every test runs with.
+function(sarne_test_settings name)
+    set(leaks 0)
+    if(name IN_LIST SARNE_SANITIZED_TESTS)
+        set(leaks 1)
+        add_dependencies(sanitized_tests ${name})
+        set_tests_properties(${name} PROPERTIES LABELS sanitized)
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
+                         "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=${leaks};LSAN_OPTIONS=print_suppressions=0:suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp")
+endfunction()
+
 # sarne_test(name SOURCES ... LIBS ...): one test executable per folder of tests/, run without a display.
 function(sarne_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
@@ -38,8 +54,7 @@ function(sarne_test name)
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
     target_compile_options(${name} PRIVATE -include "${CMAKE_SOURCE_DIR}/tests/support/print.h")
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT
-                         "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0" TIMEOUT 600)
+    sarne_test_settings(${name})
 endfunction()
 
 # sarne_widget_test(name SOURCES ... LIBS ...): as sarne_test, for tests that drive real forms with real events.

@@ -1,6 +1,7 @@
-// Takes the grain out of a render: non-local means on the lighting alone. The picture is divided by the surface
-// colour first and multiplied by it afterwards, so that scales, wood and crumbs keep their detail; surface colour and
-// normal also stop the filter from reaching over edges. Called by core.py through a C interface.
+// Takes the grain out of a render: non-local means on the lighting alone. The picture is divided by the
+// surface colour first and multiplied by it afterwards, so that scales, wood and crumbs keep their detail;
+// surface colour and normal also stop the filter from reaching over edges. Called by core.py through a C
+// interface.
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -78,7 +79,8 @@ float guideWeight(const Guide& g, std::size_t i, std::size_t j) {
 
 }  // namespace
 
-/// Filters \a colour (width*height RGB, linear) in place. \a strength is 1 for the ordinary filter, 0 leaves all as it is.
+/// Filters \a colour (width*height RGB, linear) in place. \a strength is 1 for the ordinary filter, 0 leaves
+/// all as it is.
 extern "C" void denoise(float* colour, const float* albedo, const float* normal, int width, int height,
                         float strength, int radius) {
     const Size s{width, height};
@@ -109,7 +111,8 @@ extern "C" void denoise(float* colour, const float* albedo, const float* normal,
                     const auto i = s.at(x, y);
                     const auto j = s.at(std::clamp(x + dx, 0, width - 1), std::clamp(y + dy, 0, height - 1));
                     const float d = lum[i] - lum[j];
-                    dist[i] = (d * d - (var[i] + std::min(var[i], var[j]))) / (1e-5F + k2 * (var[i] + var[j]));
+                    dist[i] =
+                        (d * d - (var[i] + std::min(var[i], var[j]))) / (1e-5F + k2 * (var[i] + var[j]));
                 }
             box(dist, s, 2);
 #pragma omp parallel for

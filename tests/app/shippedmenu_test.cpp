@@ -29,7 +29,8 @@ class ShippedMenu : public testing::Test {
         program->stage().show();
         program->stage().activateWindow();
         QApplication::processEvents();
-        QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space); });  // no intro
+        QTimer::singleShot(0,
+                           [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space); });  // no intro
         ASSERT_TRUE(program->Main({}));
         main = program->mainScreen();
     }
