@@ -5,7 +5,9 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include "print/recipeflow.h"
 #include "printcookbook.h"
+#include "richtext/layoutdump.h"
 
 namespace sarne {
 namespace {
@@ -221,6 +223,31 @@ TEST(SystemPrinter, NamesFilesSoThatEveryDiskTakesThem) {
     EXPECT_EQ(printFileName(str("../..")), str("Recepty"));
     EXPECT_EQ(printFileName({}), str("Recepty"));
     EXPECT_LE(printFileName(QString(300, u'ř')).toUtf8().size() + 12, 255);
+}
+
+/// Wants no more when it has been asked so often.
+struct ImpatientProgress final : PrintProgress {
+    explicit ImpatientProgress(int patience) : left(patience) {}
+    void recipeStarted(const QString&) override {}
+    void status(const QString&) override {}
+    void sectionDone() override {}
+    void pageDone(int, int) override {}
+    void recipeDone() override {}
+    bool goOn() override { return --left > 0; }
+    int left;
+};
+
+TEST(RecipeFlow, AsksAtEveryLineAndStopsAtOnce) {
+    const PageGeometry page = PageGeometry::of({0, 0, 9000, 12000, {}});
+    for (const QString& text : {test::longText(1'000'000), test::rtf(test::longText(1'000'000))}) {
+        test::FixedMetrics metrics;
+        ImpatientProgress progress(10);
+        RecipeFlow flow(page, metrics, progress);
+        flow.addRichText(text);
+        EXPECT_FALSE(flow.wentOn());
+        EXPECT_EQ(progress.left, 0) << "who has said no is not asked again";
+        EXPECT_LT(metrics.measured, 20 * 10);
+    }
 }
 
 }  // namespace
