@@ -3,6 +3,8 @@
 #include <QSize>
 #include <QString>
 
+#include "core/texts.h"
+
 namespace sarne {
 
 /// What the start asks about the display, word for word.
@@ -15,24 +17,23 @@ inline QString resolutionText(QSize size) {
 }
 
 inline QString resolutionQuestion(QSize current) {
-    return QStringLiteral(
+    return Texts::tr(
                "Program je koncipován pro spouštění v rozlišení 800 x 600, Váš počítač má nastaveno "
                "rozlišení ") +
-           resolutionText(current) + QStringLiteral("\r\nChcete dočasně změnit rozlišení na 800 x 600?");
+           resolutionText(current) + Texts::tr("\r\nChcete dočasně změnit rozlišení na 800 x 600?");
 }
 
 inline QString resolutionWarning() {
-    return QStringLiteral(
-               "Pokud program spustíte pod současným rozlišením, mohou být obrazovky deformovány. ") +
-           QStringLiteral("\r\n\r\nChcete přesto pokračovat?\r\n\r\n");
+    return Texts::tr("Pokud program spustíte pod současným rozlišením, mohou být obrazovky deformovány. ") +
+           Texts::tr("\r\n\r\nChcete přesto pokračovat?\r\n\r\n");
 }
 
 inline QString fontQuestion() {
-    return QStringLiteral("Pro správnou funkci programu je třeba, aby byl spuštěn ") +
-           QStringLiteral("s nastavením malá písma. Jinak některé texty ") +
-           QStringLiteral("mohou přesáhnout okraje obrazovky!") +
-           QStringLiteral("\r\n\r\nChcete přesto pokračovat?\r\n\r\n") +
-           QStringLiteral("(Návod změny rozlišení je popsán v souboru ReadMe.txt)");
+    return Texts::tr("Pro správnou funkci programu je třeba, aby byl spuštěn ") +
+           Texts::tr("s nastavením malá písma. Jinak některé texty ") +
+           Texts::tr("mohou přesáhnout okraje obrazovky!") +
+           Texts::tr("\r\n\r\nChcete přesto pokračovat?\r\n\r\n") +
+           Texts::tr("(Návod změny rozlišení je popsán v souboru ReadMe.txt)");
 }
 
 }  // namespace sarne

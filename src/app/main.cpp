@@ -1,7 +1,9 @@
 #include <QApplication>
+#include <QLocale>
 #include <QScreen>
 #include <QStandardPaths>
 
+#include "app/language.h"
 #include "app/program.h"
 #include "app/systemplatform.h"
 #include "platform/singleinstance.h"
@@ -29,6 +31,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Velisa sarn"));
     QApplication::setQuitOnLastWindowClosed(false);
+    installLanguage(QLocale::system().uiLanguages());
 
     const SingleInstance instance;
     if (!instance.isFirst()) return 0;

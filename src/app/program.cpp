@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "app/frmsplash.h"
+#include "core/texts.h"
 #include "db/installation.h"
 #include "dialogs/frmdialog.h"
 #include "dialogs/frmmessage.h"
@@ -64,8 +65,8 @@ void Program::findMediaRoot() {
         return;
     }
     const QString answer =
-        askText(*this, QStringLiteral("Nepodařilo se jednoznačně identifikovat Vaší CD-ROM mechaniku\r\n"
-                                      "Zadejte pismeno, které ji označuje:"));
+        askText(*this, Texts::tr("Nepodařilo se jednoznačně identifikovat Vaší CD-ROM mechaniku\r\n"
+                                 "Zadejte pismeno, které ji označuje:"));
     MediaRoot = answer.left(1) + QStringLiteral(":\\");
 }
 
@@ -106,8 +107,7 @@ void Program::keepAwake(const QString& reason) {
 }
 
 void Program::ConfirmExit() {
-    if (ended_ || ZobrazZpravu(QStringLiteral("Chcete ukončit program?  "), kQuestionBox) != kAnswerYes)
-        return;
+    if (ended_ || ZobrazZpravu(Texts::tr("Chcete ukončit program?  "), kQuestionBox) != kAnswerYes) return;
     endProgram();
 }
 
@@ -124,7 +124,7 @@ void Program::endProgram() {
     music().command(u"close");
     unloadForms({QStringLiteral("frmSeznam"), QStringLiteral("frmTabulky")});
     auto* splash = new frmSplash(*this);
-    splash->setCaption(QStringLiteral("Ukončení progamu"));
+    splash->setCaption(Texts::tr("Ukončení progamu"));
     splash->Konec();
     for (Form* form : stage_->forms()) form->unload();
     db_.Close();

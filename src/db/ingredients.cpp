@@ -2,6 +2,7 @@
 
 #include <QHash>
 
+#include "core/texts.h"
 #include "db/database.h"
 #include "db/queries.h"
 
@@ -97,7 +98,7 @@ QString Ingredient::line(UnitSystem system, const Quantities& quantities) const 
 }
 
 QString Ingredient::alternativeLine() const {
-    return alternative ? QStringLiteral("      - nebo ") + *alternative : QString();
+    return alternative ? Texts::tr("      - nebo ") + *alternative : QString();
 }
 
 namespace {
@@ -138,7 +139,7 @@ std::vector<QString> ingredientLines(const std::vector<Ingredient>& ingredients,
 QString ingredientsText(const std::vector<Ingredient>& ingredients, UnitSystem system,
                         const Quantities& quantities) {
     if (ingredients.empty()) return {};
-    QString text = QStringLiteral("Porce: ") + quantities.portionsText() + QStringLiteral("\r\n");
+    QString text = Texts::tr("Porce: ") + quantities.portionsText() + QStringLiteral("\r\n");
     for (const QString& line : ingredientLines(ingredients, system, quantities))
         text += line + QStringLiteral("\r\n");
     return text;

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "core/texts.h"
 #include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -40,7 +41,7 @@ frmDialog::frmDialog(basSarne& sarne, const QString& prompt, Asks asks)
     const int entryTop = kMargin + Label1.twips().height() + kMargin / 2;
     Text1.place({kMargin, entryTop, kPromptWidth, kEntryHeight});
     const int buttonTop = entryTop + kEntryHeight + kMargin;
-    const QString captions[] = {QStringLiteral("OK"), QStringLiteral("Storno")};
+    const QString captions[] = {Texts::tr("OK"), Texts::tr("Storno")};
     for (int i = 0; i < 2; ++i) {
         auto* button = Command1[size_t(i)] = new Button(*this, QStringLiteral("Command1(%1)").arg(i));
         button->setCaption(captions[i]);
@@ -63,7 +64,7 @@ void frmDialog::press(int index) {
         return hideForm();
     }
     if (asks_ == Asks::Text || leadingNumber(Text1.text()) > 0) return hideForm();
-    app().ZobrazZpravu(QStringLiteral("Toto není číslo!"), kWarningBox);
+    app().ZobrazZpravu(Texts::tr("Toto není číslo!"), kWarningBox);
     Text1.focusAll();
 }
 

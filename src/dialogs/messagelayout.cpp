@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/texts.h"
 #include "forms/messagebox.h"
 
 namespace sarne {
@@ -29,9 +30,8 @@ MessageStyle MessageStyle::split(int style) {
 }
 
 std::vector<MessageButton> messageButtons(int buttons) {
-    const QString ok = QStringLiteral("OK"), yes = QStringLiteral("Ano"), no = QStringLiteral("Ne"),
-                  cancel = QStringLiteral("Storno"), retry = QStringLiteral("Znovu"),
-                  ignore = QStringLiteral("Pokračovat");
+    const QString ok = Texts::tr("OK"), yes = Texts::tr("Ano"), no = Texts::tr("Ne"),
+                  cancel = Texts::tr("Storno"), retry = Texts::tr("Znovu"), ignore = Texts::tr("Pokračovat");
     switch (buttons) {
         case 0:
             return {{ok, kAnswerOk}};

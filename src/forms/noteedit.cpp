@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 
+#include "core/texts.h"
 #include "forms/colors.h"
 #include "forms/form.h"
 
@@ -120,17 +121,17 @@ void NoteEdit::showMenu(QPoint global) {
     QMenu menu(editor_);
     const QTextDocument& document = *editor_->document();
     const bool selected = editor_->textCursor().hasSelection();
-    const auto add = [&](const char* caption, bool enabled, void (QPlainTextEdit::*action)()) {
-        menu.addAction(QString::fromUtf8(caption), editor_, action)->setEnabled(enabled);
+    const auto add = [&](const QString& caption, bool enabled, void (QPlainTextEdit::*action)()) {
+        menu.addAction(caption, editor_, action)->setEnabled(enabled);
     };
-    add("Zpět\tCtrl+Z", document.isUndoAvailable(), &QPlainTextEdit::undo);
-    add("Znovu\tCtrl+Y", document.isRedoAvailable(), &QPlainTextEdit::redo);
+    add(Texts::tr("Zpět\tCtrl+Z"), document.isUndoAvailable(), &QPlainTextEdit::undo);
+    add(Texts::tr("Znovu\tCtrl+Y"), document.isRedoAvailable(), &QPlainTextEdit::redo);
     menu.addSeparator();
-    add("Vyjmout\tCtrl+X", selected, &QPlainTextEdit::cut);
-    add("Kopírovat\tCtrl+C", selected, &QPlainTextEdit::copy);
-    add("Vložit\tCtrl+V", editor_->canPaste(), &QPlainTextEdit::paste);
+    add(Texts::tr("Vyjmout\tCtrl+X"), selected, &QPlainTextEdit::cut);
+    add(Texts::tr("Kopírovat\tCtrl+C"), selected, &QPlainTextEdit::copy);
+    add(Texts::tr("Vložit\tCtrl+V"), editor_->canPaste(), &QPlainTextEdit::paste);
     menu.addSeparator();
-    add("Vybrat vše\tCtrl+A", !document.isEmpty(), &QPlainTextEdit::selectAll);
+    add(Texts::tr("Vybrat vše\tCtrl+A"), !document.isEmpty(), &QPlainTextEdit::selectAll);
     menu.exec(global);
 }
 

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include "core/texts.h"
 #include "forms/colors.h"
 #include "forms/form.h"
 #include "forms/holdrepeat.h"
@@ -50,8 +51,8 @@ void TextView::setArrowPictures(const Picture& up, const Picture& down) {
     };
     show(*up_, up, QStringLiteral("▲"));
     show(*down_, down, QStringLiteral("▼"));
-    up_->setTip(QStringLiteral("Posunout nahoru"));
-    down_->setTip(QStringLiteral("Posunout dolů"));
+    up_->setTip(Texts::tr("Posunout nahoru"));
+    down_->setTip(Texts::tr("Posunout dolů"));
 }
 
 void TextView::Cls() {

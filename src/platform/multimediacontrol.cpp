@@ -1,5 +1,7 @@
 #include "platform/multimediacontrol.h"
 
+#include "core/texts.h"
+
 namespace sarne {
 
 QString MultimediaControl::errorMessage() const {
@@ -11,19 +13,19 @@ QString mediaErrorText(MediaError error) {
         case MediaError::None:
             return {};
         case MediaError::UnknownCommand:
-            return QStringLiteral("Přehrávač tento příkaz nezná.");
+            return Texts::tr("Přehrávač tento příkaz nezná.");
         case MediaError::NoPlayer:
-            return QStringLiteral("Přehrávač zvuku a videa není v tomto počítači nainstalován.");
+            return Texts::tr("Přehrávač zvuku a videa není v tomto počítači nainstalován.");
         case MediaError::FileNotFound:
-            return QStringLiteral("Soubor nebyl nalezen. Zkontrolujte, zda je v mechanice vložen disk.");
+            return Texts::tr("Soubor nebyl nalezen. Zkontrolujte, zda je v mechanice vložen disk.");
         case MediaError::NotOpen:
-            return QStringLiteral("Přehrávač nemá otevřen žádný soubor.");
+            return Texts::tr("Přehrávač nemá otevřen žádný soubor.");
         case MediaError::Internal:
-            return QStringLiteral("Přehrávač soubor neotevřel včas.");
+            return Texts::tr("Přehrávač soubor neotevřel včas.");
         case MediaError::InvalidFile:
-            return QStringLiteral("Soubor nelze přehrát. Je poškozen nebo má neznámý formát.");
+            return Texts::tr("Soubor nelze přehrát. Je poškozen nebo má neznámý formát.");
         case MediaError::FileNameMissing:
-            return QStringLiteral("Není zadán soubor, který se má přehrát.");
+            return Texts::tr("Není zadán soubor, který se má přehrát.");
     }
     return {};
 }

@@ -10,6 +10,7 @@
 #include <QPrinterInfo>
 #include <QStandardPaths>
 
+#include "core/texts.h"
 #include "platform/wholefile.h"
 
 namespace sarne {
@@ -140,7 +141,7 @@ QString SystemPrinter::name() const {
 QString SystemPrinter::paper() const {
     const QPageLayout layout = pageLayout();
     const QString name = layout.pageSize().name();
-    return layout.orientation() == QPageLayout::Portrait ? name : name + QStringLiteral(", na šířku");
+    return layout.orientation() == QPageLayout::Portrait ? name : name + Texts::tr(", na šířku");
 }
 
 PageScale SystemPrinter::scale() const {
