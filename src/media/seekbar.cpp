@@ -3,12 +3,13 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "core/texts.h"
 #include "forms/colors.h"
 
 namespace sarne {
 
 SeekBar::SeekBar(Form& owner, const QString& name) : Control(owner, name) {
-    setTip(QStringLiteral("Pozice ve videu"));
+    setTip(Texts::tr("Pozice ve videu"));
     setCursor(Qt::PointingHandCursor);
 }
 

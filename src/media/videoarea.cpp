@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "core/texts.h"
 #include "platform/multimediacontrol.h"
 
 namespace sarne {
@@ -9,7 +10,7 @@ namespace sarne {
 VideoArea::VideoArea(Form& owner, const QString& name, MultimediaControl* player)
     : Control(owner, name), player_(player) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setAccessibleName(QStringLiteral("Video"));
+    setAccessibleName(Texts::tr("Video"));
     if (player_) connect(player_, &MultimediaControl::frameReady, this, qOverload<>(&QWidget::update));
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/texts.h"
 #include "db/database.h"
 #include "print/pagebreaker.h"
 #include "print/printfonts.h"
@@ -51,7 +52,7 @@ ComposedRecipe PageComposer::recipe(int id, const PrintOptions& options, PrintPr
     ComposedRecipe composed;
     composed.name = recipes.field(QStringLiteral("Nazev")).toString();
     progress.recipeStarted(composed.name);
-    progress.status(QStringLiteral(" Tisknu recept ... "));
+    progress.status(Texts::tr(" Tisknu recept ... "));
     RecipeFlow flow(page_, metrics_, progress);
     RecipeSections(recipes, flow, {source_, options, progress, page_.bottom - bodyTop_}).set();
     if (flow.wentOn()) composed.pages = paginate(flow.take());
@@ -91,7 +92,7 @@ PrintedPage PageComposer::startPage(bool continues) {
     const int top = logoPlace_.top() + logoPlace_.height() / 2 - metrics_.textHeight(font) / 2;
     const int baseline = top + metrics_.textAscent(font);
     if (continues) {
-        const QString number = QStringLiteral("strana %1").arg(page.number);
+        const QString number = Texts::tr("strana %1").arg(page.number);
         const int width = metrics_.textWidth(font, number);
         page.texts.push_back(
             {page_.leftMargin + (page_.lineWidth - width) / 2, baseline, width, number, font});

@@ -1,5 +1,6 @@
 #include "screens/index/frmstranka.h"
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/screens.h"
 #include "screens/index/pages.h"
@@ -15,7 +16,7 @@ bool frmStranka::Zobraz(const QString& id) {
         return false;
     }
     id_ = page->id;
-    showText(page->name, page->text, QStringLiteral("Nápověda"));
+    showText(page->name, page->text, Texts::tr("Nápověda"));
     open(view());
     return true;
 }

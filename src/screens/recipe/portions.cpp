@@ -1,5 +1,6 @@
 #include "screens/recipe/portions.h"
 
+#include "core/texts.h"
 #include "core/value.h"
 
 namespace sarne {
@@ -26,7 +27,7 @@ double Portions::number() const {
 
 QString portionWord(double number) {
     constexpr int kMany = 5;
-    return number > 0 && number < kMany ? QStringLiteral("porce") : QStringLiteral("porcí");
+    return number > 0 && number < kMany ? Texts::tr("porce") : Texts::tr("porcí");
 }
 
 int PanelPosition::step(int direction) {
@@ -38,9 +39,9 @@ int PanelPosition::step(int direction) {
 
 QString PanelPosition::hint(int position, UnitSystem units) {
     if (position == kToggle)
-        return units == UnitSystem::Weights ? QStringLiteral("Přepočti na lžíce")
-                                            : QStringLiteral("Přepočti na gramy");
-    if (position == Portions::kAnyNumber) return QStringLiteral("Přepočet na libovolný počet porcí");
+        return units == UnitSystem::Weights ? Texts::tr("Přepočti na lžíce")
+                                            : Texts::tr("Přepočti na gramy");
+    if (position == Portions::kAnyNumber) return Texts::tr("Přepočet na libovolný počet porcí");
     return QString::number(position) + u' ' + portionWord(position);
 }
 
