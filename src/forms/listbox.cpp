@@ -98,12 +98,12 @@ QString dress(double pixel) {
     return QStringLiteral(
                "QListView{background:transparent;color:%1;border:none;outline:none}"
                "QListView:disabled{color:%2}"
-               "QListView::item{padding:%5px %6px}"
+               "QListView::item{padding:%5px %6px;border:%7px solid transparent}"
                "QListView::item:selected{background:%3;color:%4}"
-               "QListView::item:focus{border:%5px dotted %1}"
-               "QListView::item:selected:focus{border:%5px dotted %4}")
+               "QListView::item:focus{border:%7px dotted %1}"
+               "QListView::item:selected:focus{border:%7px dotted %4}")
                .arg(colors::kInk.name(), colors::kInk.lighter(200).name(), colors::kSelected.name(),
-                    colors::kPaper.name(), pixels(2), pixels(5)) +
+                    colors::kPaper.name(), pixels(1), pixels(4), pixels(1)) +
            QStringLiteral(
                "QScrollBar:vertical{background:%1;width:%3px;margin:0;border:none}"
                "QScrollBar::handle:vertical{background:%2;min-height:%4px;border-radius:%5px}"
@@ -138,6 +138,7 @@ void ListBox::setItems(const QStringList& texts, const std::vector<std::int32_t>
     const auto count = std::min(texts.size(), static_cast<qsizetype>(itemData.size()));
     items_.assign(itemData.begin(), itemData.begin() + count);
     texts_->setStringList(texts.first(count));
+    rescale();
     view_->doItemsLayout();
 }
 
@@ -174,14 +175,16 @@ void ListBox::scrollTo(int topIndex) {
 
 void ListBox::rescale() {
     Control::rescale();
-    const int inset = qRound(kPadding * scale());
-    view_->setGeometry(rect().adjusted(inset, inset, -inset, -inset));
     // The view lays its rows out in pixels, so its font is scaled by hand.
     QFont font = font_.toQFont();
     font.setPixelSize(qMax(8, qRound(font_.size * 20 * scale())));
     view_->setFont(font);
     view_->setStyleSheet(dress(15 * scale()));
     view_->setAccessibleName(accessibleName());
+    // Whole rows only.
+    const int inset = qRound(kPadding * scale()), row = qMax(1, view_->sizeHintForRow(0));
+    const QSize room = rect().size() - 2 * QSize(inset, inset);
+    view_->setGeometry(inset, inset, room.width(), qMax(row, room.height() / row * row));
 }
 
 void ListBox::paint(QPainter& painter) {
