@@ -39,8 +39,7 @@ int PanelPosition::step(int direction) {
 
 QString PanelPosition::hint(int position, UnitSystem units) {
     if (position == kToggle)
-        return units == UnitSystem::Weights ? Texts::tr("Přepočti na lžíce")
-                                            : Texts::tr("Přepočti na gramy");
+        return units == UnitSystem::Weights ? Texts::tr("Přepočti na lžíce") : Texts::tr("Přepočti na gramy");
     if (position == Portions::kAnyNumber) return Texts::tr("Přepočet na libovolný počet porcí");
     return QString::number(position) + u' ' + portionWord(position);
 }

@@ -1,7 +1,7 @@
 // "Poznámka" v komentáři nevadí.
 const char* const kTable[] = {QT_TRANSLATE_NOOP("Texts", "Zpět"), QT_TRANSLATE_NOOP("Texts",
-                                                                                   "Přílohy "
-                                                                                   "a omáčky")};
+                                                                                    "Přílohy "
+                                                                                    "a omáčky")};
 void show() {
     setText(Texts::tr("Není vybrán recept"));
     setText(QStringLiteral("Není přeloženo"));
