@@ -6,7 +6,7 @@ import time
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 from lib import core, dishfile  # noqa: E402
 
-SAMPLES = 6  # clean after the grain filter; glass wants more: the line "samples 20" of a description
+SAMPLES = 5  # clean after the grain filter; glass wants more: the line "samples 20" of a description
 SATURATION = 1.06  # the film look takes some colour away that food needs
 
 a = core.arguments()

@@ -93,10 +93,10 @@ def fleshside(kind="carp", ribs=True, spine=False, scored=0, name=None):
         tall = tall + bone * (.3 + .15 * bead)
     belly = np.clip((.42 - u) / .06, 0, 1) * np.clip((.0 - v) / .12, 0, 1)
     if ribs:
-        skin_ = np.array([.80, .62, .55]) * (.9 + .2 * wide[..., None])
+        skin_ = np.array([.66, .42, .37]) * (.9 + .2 * wide[..., None])
         img = img + (skin_ - img) * (belly * .8)[..., None]
         rib = np.exp(-((np.mod(u * 30 + v * 3.2, 1) - .5) / .1) ** 2) * np.clip((.46 - u) / .05, 0, 1) * np.clip((.06 - v) / .1, 0, 1) * np.clip((v + .93) / .1, 0, 1)
-        img = img + (np.array([.96, .92, .85]) - img) * (rib * .75)[..., None]
+        img = img + (np.array([.96, .92, .85]) - img) * (rib * .9)[..., None]
         tall = tall + .3 * rib
     if scored:
         lines = np.clip((.1 - np.abs(np.mod(u * scored, 1) - .5)) / .05, 0, 1) * np.clip((.97 - np.abs(v)) / .05, 0, 1)
@@ -117,7 +117,7 @@ def half(kind="carp", skin=False, head=False, **more):
     if skin:
         f = cut(whole("carpscaled"), .25, .985)
         for q in f.children:
-            q.scale = (q.scale[0], q.scale[1], q.scale[2] * .55)
+            q.scale = (q.scale[0], q.scale[1] * .55, q.scale[2])
         bpy.data.objects.remove(o)
         return f
     if more.get("spine"):
@@ -384,7 +384,7 @@ def make(name, look):
     os.makedirs(folder, exist_ok=True)
     core.scene.render.film_transparent = True
     png = os.path.join(core.BUILD, name + ".png")
-    core.save(core.render_linear(w, h, 5 if look else 8), png, alpha=True)
+    core.save(core.render_linear(w, h, 5), png, alpha=True)
     path = os.path.join(folder, name + ".webp")
     subprocess.run(["cwebp", "-quiet", "-q", "84", "-alpha_q", "90", "-m", "6", png, "-o", path], check=True)
     os.remove(png)

@@ -122,8 +122,11 @@ def video():
 
 def stranka():
     """Pages of text, index and tables: nothing but the dark boards of a table under a low lamp."""
-    table.boards("teal", plank=6.6, length=110)
-    above(.62, .4)
+    m = mat("pageboards", ((.3, "0a2a2f"), (.5, "0e373d"), (.7, "13454b")), .7, .1, noise=.5, detail=9, stretch=(.1, 1.8, 1), bump=.08, bumpscale=3)
+    mesh([(-60, -24, -.3), (60, -24, -.3), (60, 24, -.3), (-60, 24, -.3)], [(0, 1, 2, 3)], mat("gap", "04100f", .9), False)
+    for i in range(-3, 4):
+        box(110, 6.52, .8, m, .03, at=(3.7 * i, 6.6 * i + 1.2, -.78))
+    above(.66, .34)
 
 
 def zprava():
@@ -336,8 +339,8 @@ SIZES = {"vino256": (1024, 768), "menu": (800, 600)}
 SAMPLES = {"uvod": 40, "konec": 24, "vino256": 24, "video": 16}
 
 
-DUSK = {"uvod": .25}
-WIDE = {"uvod": (16, 1200), "konec": (10, 840)}   # of a wide ground: samples and lines of its rendered sides
+DUSK = {"uvod": .25, "konec": .3, "stranka": .3, "Sit": .3}
+WIDE = {"uvod": (16, 1200), "konec": (8, 840)}   # of a wide ground: samples and lines of its rendered sides
 
 
 def main(names):
@@ -360,8 +363,10 @@ def draw(n, options):
     if "look" in options:
         wide.widen()
         core.render(options["look"], 700, 300, int(options.get("samples", 4)))
+    elif n == "stranka":
+        wide.whole(target(n), int(options.get("samples", 5)), key, DUSK[n])
     elif n != middle:
-        samples, height = WIDE.get(middle, (8, 720))
+        samples, height = WIDE.get(middle, (5, 900))
         wide.render(target(middle), int(options.get("samples", samples)), key, int(options.get("lines", height)), dusk=DUSK.get(middle, wide.DUSK))
     else:
         w, h = SIZES.get(n, (1600, 1200))

@@ -48,6 +48,22 @@ def render(middle, samples, key, height=HEIGHT, dusk=DUSK, strips=4):
         os.remove(name)
 
 
+def whole(middle, samples, key, dusk=DUSK, height=1080, strips=4):
+    """Renders a ground that is not there yet in its whole width; writes the wide picture and its middle, 1600 x 1200."""
+    widen()
+    core.scene.render.film_transparent = False
+    w, kept = WIDE * height // HEIGHT, []
+    p = sized(_shown(_side(w, height, samples, f"{middle} {key}", 0, w, strips, kept)), WIDE, HEIGHT)
+    edge = (WIDE - MIDDLE) // 2
+    far = np.clip(np.abs(np.arange(WIDE) - WIDE / 2 + .5) - MIDDLE / 2, 0, None) / edge
+    p = p * (1 - dusk * far ** 1.7)[None, :, None]
+    jpeg = ["-quality", "89", "-sampling-factor", "2x2"]
+    _convert(p, jpeg, wide_name(middle))
+    _convert(sized(p[:, edge:edge + MIDDLE], 1600, 1200), jpeg, middle)
+    for name in kept:
+        os.remove(name)
+
+
 def _side(width, height, samples, key, x0, x1, strips, kept):
     """Linear pixels of columns x0 to x1, in strips that survive a stop; kept takes the names of their files."""
     tag = hashlib.sha1(f"{key} {width} {height} {samples} {strips}".encode()).hexdigest()[:16]
