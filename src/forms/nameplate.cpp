@@ -82,7 +82,7 @@ void NamePlate::see(const QObject* watched, const QEvent& event) {
             if (byPointer_ && watched == &stage_) dismiss();
             break;
         default:
-            if (thing_ && watched == thing_) seeThing(event);
+            if (object_ && watched == object_) seeThing(event);
     }
 }
 
@@ -131,7 +131,7 @@ void NamePlate::pointAt(QPoint global) {
     if (!thing || thing == used_) return;
     byPointer_ = true;
     if (already) return nameIt(*thing);
-    thing_ = thing;
+    setThing(thing);
     delay_.setEnabled(true);
 }
 
@@ -145,9 +145,14 @@ Control* NamePlate::thingAt(QPoint pixels) const {
     return nullptr;
 }
 
+void NamePlate::setThing(Control* thing) {
+    thing_ = thing;
+    object_ = thing;
+}
+
 void NamePlate::nameIt(Control& thing) {
     delay_.setEnabled(false);
-    thing_ = &thing;
+    setThing(&thing);
     if (!thing.isVisible()) return dismiss();
     settle();
     setVisible(true);
@@ -156,7 +161,7 @@ void NamePlate::nameIt(Control& thing) {
 
 void NamePlate::dismiss() {
     delay_.setEnabled(false);
-    thing_ = nullptr;
+    setThing(nullptr);
     hide();
 }
 

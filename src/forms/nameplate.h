@@ -37,6 +37,7 @@ class NamePlate : public TwipWidget {
     void seeFocus(const QObject* watched);
     void seeThing(const QEvent& event);
     void seeInFront(const QObject* watched);
+    void setThing(Control* thing);
     void nameIt(Control& thing);
     void settle();
     Control* thingAt(QPoint pixels) const;
@@ -45,8 +46,9 @@ class NamePlate : public TwipWidget {
 
     Stage& stage_;
     Timer delay_;
-    QPointer<Control> thing_;  ///< named, or about to be
-    QPointer<Control> used_;   ///< just clicked: it needs no name until the pointer has left it
+    QPointer<Control> thing_;   ///< named, or about to be
+    QPointer<QObject> object_;  ///< the same, for events of a thing that is going and is no Control any more
+    QPointer<Control> used_;    ///< just clicked: it needs no name until the pointer has left it
     bool byPointer_ = false;
     QPoint pointer_;  ///< where it was seen last, on the display
 };
