@@ -43,7 +43,7 @@ function(sarne_test_settings name)
         set_tests_properties(${name} PROPERTIES LABELS sanitized)
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
-                         "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=${leaks};LSAN_OPTIONS=print_suppressions=0:suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp")
+                         "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=${leaks}")
 endfunction()
 
 # sarne_test(name SOURCES ... LIBS ...): one test executable per folder of tests/, run without a display.
