@@ -112,7 +112,7 @@ void photos(Tour& tour) {
 }
 
 void tables(Tour& tour) {
-    for (int item = 1; item <= 6; ++item) {
+    for (int item = 1; item <= 8; ++item) {
         tour.click(button(4));
         for (int step = 0; step < item; ++step) tour.key(Qt::Key_Down);
         tour.key(Qt::Key_Return);
