@@ -60,10 +60,10 @@ class CookbookWriter {
 
     /// An auxiliary recipe is found in the index of keywords too, not only from the dishes that need it.
     void auxiliary(const Article& article) {
-        const QString text = rtf(article.text, article.name);
-        writer_.add(QStringLiteral("Odkazy"), {article.id, article.name, text});
+        const QString keyword = Cookbook::keywordName(article);
+        writer_.add(QStringLiteral("Odkazy"), {article.id, article.name, rtf(article.text, article.name)});
         writer_.add(QStringLiteral("IndexHesla"),
-                    {kAuxiliaryKeywords + article.id, Cookbook::keywordName(article), text});
+                    {kAuxiliaryKeywords + article.id, keyword, rtf(article.text, keyword)});
     }
 
     void names(const QString& table, const QStringList& all) {
