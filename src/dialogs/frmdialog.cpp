@@ -55,7 +55,8 @@ frmDialog::frmDialog(basSarne& sarne, const QString& prompt, Asks asks)
     }
     const QSize size(kPromptWidth + 2 * kMargin, buttonTop + kButton.height() + kMargin);
     place({QPoint((Stage::kWidth - size.width()) / 2, (Stage::kHeight - size.height()) / 2), size});
-    setFocusProxy(&Text1);
+    ring().setStops({&Text1, Command1[0], Command1[1]});
+    ring().setArrows(FocusRing::Arrows::All);
 }
 
 void frmDialog::press(int index) {
@@ -68,15 +69,6 @@ void frmDialog::press(int index) {
     Text1.focusAll();
 }
 
-void frmDialog::moveFocus(int step) {
-    Control* const order[] = {&Text1, Command1[0], Command1[1]};
-    int at = 0;
-    for (int i = 0; i < 3; ++i) {
-        if (order[i]->hasFocus()) at = i;
-    }
-    order[(at + step + 3) % 3]->setFocus(Qt::TabFocusReason);
-}
-
 bool frmDialog::keyDown(QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Escape:
@@ -84,25 +76,11 @@ bool frmDialog::keyDown(QKeyEvent& event) {
             break;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            press(Command1[1]->hasFocus() ? 1 : 0);
-            break;
-        case Qt::Key_Space:
-            if (Command1[0]->hasFocus() || Command1[1]->hasFocus()) press(Command1[1]->hasFocus() ? 1 : 0);
-            break;
-        case Qt::Key_Tab:
-        case Qt::Key_Down:
-            moveFocus(1);
-            break;
-        case Qt::Key_Backtab:
-        case Qt::Key_Up:
-            moveFocus(-1);
-            break;
-        case Qt::Key_Left:
-        case Qt::Key_Right:
-            moveFocus(Command1[0]->hasFocus() ? 1 : -1);
+            // In the entry it is the first button's.
+            if (!ring().press()) press(0);
             break;
         default:
-            break;
+            ring().keyDown(event);
     }
     return true;
 }

@@ -28,7 +28,6 @@ class frmDialog : public Form {
 
   private:
     void press(int index);
-    void moveFocus(int step);
 
     Asks asks_;
     Label Label1;

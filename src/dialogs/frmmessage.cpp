@@ -29,6 +29,8 @@ frmMessage::frmMessage(basSarne& sarne)
         cmdBtn[size_t(i)]->setFont(kButtonFont);
         connect(cmdBtn[size_t(i)], &Button::clicked, this, [this, i] { press(i); });
     }
+    ring().setStops({cmdBtn.begin(), cmdBtn.end()});
+    ring().setArrows(FocusRing::Arrows::All);
 }
 
 int frmMessage::ask(const QString& text, int style, int silent, int closeCode) {
@@ -58,7 +60,7 @@ void frmMessage::setUp(const QString& text, int style, int silent) {
     if (silent == 0) app().Beep();
     setAccessibleName(text.trimmed());
     const size_t first = size_t(parts.defaultButton) < buttons.size() ? size_t(parts.defaultButton) : 0;
-    setFocusProxy(cmdBtn[first]);
+    ring().startAt(cmdBtn[first]);
     app().HookMessage(text);
 }
 
@@ -86,15 +88,6 @@ void frmMessage::closeRequested() {
     if (closeCode_ != 0) hideForm();
 }
 
-void frmMessage::moveFocus(int step) {
-    const int count = int(shown_.size());
-    for (int i = 0; i < count; ++i) {
-        if (!cmdBtn[size_t(i)]->hasFocus()) continue;
-        return cmdBtn[size_t((i + step + count) % count)]->setFocus(Qt::TabFocusReason);
-    }
-    if (count > 0) cmdBtn[0]->setFocus(Qt::TabFocusReason);
-}
-
 void frmMessage::pressByLetter(const QString& letter) {
     for (size_t i = 0; i < shown_.size(); ++i) {
         if (!letter.isEmpty() && shown_[i].caption.startsWith(letter, Qt::CaseInsensitive))
@@ -107,32 +100,12 @@ bool frmMessage::keyDown(QKeyEvent& event) {
         case Qt::Key_Escape:
             press(escape_);
             break;
-        case Qt::Key_Left:
-        case Qt::Key_Up:
-        case Qt::Key_Backtab:
-            moveFocus(-1);
-            break;
-        case Qt::Key_Right:
-        case Qt::Key_Down:
-        case Qt::Key_Tab:
-            moveFocus(1);
-            break;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_Space:
-            for (size_t i = 0; i < shown_.size(); ++i) {
-                if (cmdBtn[i]->hasFocus()) {
-                    press(int(i));
-                    break;
-                }
-            }
-            break;
         case Qt::Key_F4:
         case Qt::Key_X:
             if (event.modifiers() & Qt::AltModifier) closeRequested();
             break;
         default:
-            pressByLetter(event.text());
+            if (!ring().keyDown(event)) pressByLetter(event.text());
     }
     return true;  // the box is modal: no key of it means anything else
 }

@@ -35,7 +35,6 @@ class frmMessage : public Form {
     void setUp(const QString& text, int style, int silent);
     void setUpButtons(const std::vector<MessageButton>& buttons, const MessageGeometry& geometry);
     void press(int button);
-    void moveFocus(int step);
     void pressByLetter(const QString& letter);
 
     Label Label1;

@@ -24,7 +24,14 @@ void Control::setTip(const QString& tip) {
 }
 
 void Control::click() {
-    if (isEnabled()) Q_EMIT clicked();
+    if (!isEnabled()) return;
+    if (focusPolicy() & Qt::ClickFocus) form_.ring().arrived(*this);
+    Q_EMIT clicked();
+}
+
+bool Control::isPressable() const {
+    return role() == QAccessible::Button || role() == QAccessible::CheckBox ||
+           role() == QAccessible::RadioButton;
 }
 
 bool Control::showsFocus() const {

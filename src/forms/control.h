@@ -21,6 +21,8 @@ class Control : public TwipWidget {
     /// What a screen reader says beside the name: the current entry, how far a bar is.
     virtual QString accessibleValue() const { return {}; }
     virtual void addAccessibleState(QAccessible::State&) const {}
+    /// Whether Enter and Space do what a click does.
+    bool isPressable() const;
 
     /// What the thing is called: the text of its name plate, and its name for a screen reader.
     void setTip(const QString& tip);

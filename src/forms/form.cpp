@@ -11,7 +11,7 @@
 
 namespace sarne {
 
-Form::Form(basSarne& app, const QString& name) : TwipWidget(&app.stage()), app_(app) {
+Form::Form(basSarne& app, const QString& name) : TwipWidget(&app.stage()), app_(app), ring_(*this, app) {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
     hide();
@@ -27,7 +27,7 @@ void Form::showForm() {
     show();
     raise();
     if (Form* modal = app_.stage().modalForm(); modal && modal != this) return modal->bringToFront();
-    setFocus();
+    ring_.restore();
 }
 
 void Form::hideForm() {
@@ -57,7 +57,7 @@ void Form::unload() {
 
 void Form::bringToFront() {
     raise();
-    setFocus();
+    ring_.restore();
 }
 
 void Form::hideEvent(QHideEvent* event) {
@@ -103,8 +103,14 @@ void Form::musicSettings() {
     app_.screens().showMusicSettings();
 }
 
-bool Form::keyDown(QKeyEvent&) {
-    return false;
+bool Form::keyDown(QKeyEvent& event) {
+    if (event.key() != Qt::Key_Escape) return ring_.keyDown(event);
+    goBack();
+    return true;
+}
+
+void Form::gotFocus() {
+    if (app_.FormStack.contains(*this)) app_.BringTopToFront(name());
 }
 
 bool Form::sharedKey(const QKeyEvent& event) {

@@ -3,6 +3,7 @@
 #include <QString>
 #include <functional>
 
+#include "forms/focusring.h"
 #include "forms/twipwidget.h"
 
 class QEventLoop;
@@ -39,8 +40,11 @@ class Form : public TwipWidget {
     /// Disables or enables every control of the form, whatever its state was.
     void enableControls(bool enabled);
     /// Called when the form is on top again and all its controls have been enabled: the place to disable
-    /// again what is to stay disabled, and to put the focus where it was.
-    virtual void restored() {}
+    /// again what is to stay disabled. Gives the keyboard back to what had it.
+    virtual void restored() { ring_.restore(); }
+
+    /// The way of the keyboard through the form's controls.
+    FocusRing& ring() { return ring_; }
 
     void setPointer(Pointer pointer);
 
@@ -59,10 +63,10 @@ class Form : public TwipWidget {
     basSarne& app() const { return app_; }
 
     /// A key pressed anywhere on the form that no control has used. True when the form has used it; otherwise
-    /// the shared keys are tried.
+    /// the shared keys are tried. Escape goes back, the rest are the ring's.
     virtual bool keyDown(QKeyEvent& event);
-    /// The form, or something on it, has got the keyboard.
-    virtual void gotFocus() {}
+    /// The form has got the keyboard, as by a click on what shows of it: the screen on top takes it.
+    virtual void gotFocus();
 
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -73,6 +77,7 @@ class Form : public TwipWidget {
     bool sharedKey(const QKeyEvent& event);
 
     basSarne& app_;
+    FocusRing ring_;
     Pointer pointer_ = Pointer::Normal;
     QEventLoop* modalLoop_ = nullptr;
     bool loaded_ = true;

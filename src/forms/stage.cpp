@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "forms/control.h"
 #include "forms/form.h"
 #include "forms/nameplate.h"
 
@@ -59,7 +60,7 @@ void Stage::raiseModal() {
     shield_->setGeometry(rect());
     shield_->raise();
     form->raise();
-    form->setFocus();
+    form->ring().restore();
 }
 
 void Stage::fit() {
@@ -96,9 +97,17 @@ void Stage::watchInput(const QEvent& event) {
     if (QWidget* focused = focusWidget()) focused->update();
 }
 
+/// Lets the form of \a watched know which of its controls has got the keyboard.
+void Stage::focusArrived(QObject* watched) {
+    auto* widget = qobject_cast<QWidget*>(watched);
+    while (widget && !qobject_cast<Control*>(widget)) widget = widget->parentWidget();
+    if (auto* control = qobject_cast<Control*>(widget)) control->form().ring().arrived(*control);
+}
+
 bool Stage::eventFilter(QObject* watched, QEvent* event) {
     watchInput(*event);
     if (isPartOfThis(watched)) {
+        if (event->type() == QEvent::FocusIn) focusArrived(watched);
         if (event->type() == QEvent::ToolTip) return true;  // the name plate says it
         if (watched != namePlate_) namePlate_->see(watched, *event);
     }

@@ -55,6 +55,7 @@ class Stage : public QWidget {
     void raiseModal();
     void watchInput(const QEvent& event);
     bool isPartOfThis(const QObject* watched) const;
+    static void focusArrived(QObject* watched);
 
     double scale_ = 1. / 15;
     QPointF origin_;

@@ -64,6 +64,11 @@ frmNastavHudbu::frmNastavHudbu(basSarne& sarne)
         button->place(kButtons[i]);
         connect(button, &Button::clicked, this, [this, i] { press(i); });
     }
+    std::vector<TwipWidget*> stops(chkNastav.begin(), chkNastav.end());
+    stops.insert(stops.end(), opthudba.begin(), opthudba.end());
+    stops.insert(stops.end(), cmdOkEnd.begin(), cmdOkEnd.end());
+    ring().setStops(stops);
+    ring().setArrows(FocusRing::Arrows::All);
 }
 
 void frmNastavHudbu::Zobraz() {
@@ -113,7 +118,7 @@ void frmNastavHudbu::enableTracks() {
 
 void frmNastavHudbu::restored() {
     enableTracks();
-    cmdOkEnd[0]->setFocus();
+    Form::restored();
 }
 
 void frmNastavHudbu::press(int index) {
@@ -131,46 +136,16 @@ void frmNastavHudbu::store() {
     if (!error.isEmpty()) app().ZobrazZpravu(error, kErrorBox);
 }
 
-void frmNastavHudbu::moveFocus(int step) {
-    std::vector<Control*> order;
-    for (Control* control :
-         std::initializer_list<Control*>{chkNastav[0], chkNastav[1], chkNastav[2], chkNastav[3], chkNastav[4],
-                                         opthudba[0], opthudba[1], cmdOkEnd[0], cmdOkEnd[1]}) {
-        if (control->isVisible() && control->isEnabled()) order.push_back(control);
-    }
-    size_t at = 0;
-    for (size_t i = 0; i < order.size(); ++i) {
-        if (order[i]->hasFocus()) at = i;
-    }
-    order[(at + order.size() + size_t(step)) % order.size()]->setFocus(Qt::TabFocusReason);
-}
-
 bool frmNastavHudbu::keyDown(QKeyEvent& event) {
     switch (event.key()) {
-        case Qt::Key_Down:
-        case Qt::Key_Right:
-        case Qt::Key_Tab:
-            moveFocus(1);
-            return true;
-        case Qt::Key_Up:
-        case Qt::Key_Left:
-        case Qt::Key_Backtab:
-            moveFocus(-1);
-            return true;
-        case Qt::Key_Escape:
         case Qt::Key_S:
             press(1);
             return true;
         case Qt::Key_N:
             press(0);
             return true;
-        case Qt::Key_Space:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            press(cmdOkEnd[1]->hasFocus() ? 1 : 0);
-            return true;
         default:
-            return false;
+            return Form::keyDown(event);
     }
 }
 

@@ -35,7 +35,6 @@ class frmNastavHudbu : public Form {
     void showCaption(size_t index);
     void press(int index);
     void store();
-    void moveFocus(int step);
     void enableTracks();
 
     bool loading_ = false;

@@ -90,14 +90,18 @@ void frmVideo::makeButtons() {
     };
     // Left to right as they are used: play, pause, stop, to the beginning, to the end, sound.
     constexpr int kOrder[] = {kPlay, kPause, kStop, kPrev, kNext, kSound};
+    std::vector<TwipWidget*> stops;
     for (int at = 0; at < 6; ++at) {
         const int i = kOrder[at];
         ImgTlacitko[size_t(i)] =
             make(QStringLiteral("ImgTlacitko(%1)").arg(i), kFaces[i], kFirstButton + at * kButtonStep);
         connect(ImgTlacitko[size_t(i)], &Button::clicked, this, [this, i] { press(i); });
+        stops.push_back(ImgTlacitko[size_t(i)]);
     }
     back_ = make(QStringLiteral("imgBtn(0)"), {"Zpet", "Zpět"}, kBackLeft);
     connect(back_, &Button::clicked, this, &frmVideo::Skryj);
+    stops.push_back(back_);
+    ring().setStops(stops);
 }
 
 void frmVideo::Zobraz(std::int16_t number) {
@@ -124,7 +128,7 @@ void frmVideo::stopMusic() {
 void frmVideo::restored() {
     stopMusic();
     applySound();
-    ImgTlacitko[kPlay]->setFocus();
+    Form::restored();
 }
 
 void frmVideo::start() {
@@ -243,23 +247,6 @@ void frmVideo::unload() {
     Form::unload();
 }
 
-void frmVideo::moveFocus(int step) {
-    Button* const order[] = {ImgTlacitko[kPlay],
-                             ImgTlacitko[kPause],
-                             ImgTlacitko[kStop],
-                             ImgTlacitko[kPrev],
-                             ImgTlacitko[kNext],
-                             ImgTlacitko[kSound],
-                             back_};
-    constexpr int kCount = 7;
-    int at = 0;
-    for (int i = 0; i < kCount; ++i) {
-        if (order[i]->hasFocus()) at = i;
-    }
-    focusMoved_ = true;
-    order[(at + step + kCount) % kCount]->setFocus(Qt::TabFocusReason);
-}
-
 bool frmVideo::keyDown(QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Escape:
@@ -277,33 +264,17 @@ bool frmVideo::keyDown(QKeyEvent& event) {
         case Qt::Key_Right:
             jump(kJump);
             return true;
-        case Qt::Key_Tab:
-            moveFocus(1);
-            return true;
-        case Qt::Key_Backtab:
-            moveFocus(-1);
-            return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return pressFocused();
+            // Enter presses the button that shows the focus; while none does, it fills the screen with the
+            // video and back.
+            if (focusMoved_ && !wholeScreen_) return ring().keyDown(event);
+            toggleFullScreen();
+            return true;
         default:
-            return false;
+            focusMoved_ |= event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+            return ring().keyDown(event);
     }
-}
-
-/// Enter presses the button that shows the focus; while none does, it fills the screen with the video and
-/// back.
-bool frmVideo::pressFocused() {
-    if (!focusMoved_ || wholeScreen_) {
-        toggleFullScreen();
-        return true;
-    }
-    for (Button* button : findChildren<Button*>()) {
-        if (!button->hasFocus()) continue;
-        button->click();
-        return true;
-    }
-    return true;
 }
 
 void frmVideo::paint(QPainter& painter) {

@@ -53,8 +53,6 @@ class frmVideo : public Form {
     void jump(qint64 milliseconds);
     void toggleFullScreen();
     void setPlaying(bool playing);
-    void moveFocus(int step);
-    bool pressFocused();
 
     std::unique_ptr<MultimediaControl> MMControlVideo;
     VideoArea area_;

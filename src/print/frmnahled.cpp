@@ -56,6 +56,8 @@ frmNahled::frmNahled(basSarne& sarne, std::unique_ptr<PagePreview> preview)
     connect(cmdStrana[kNext], &Button::clicked, this, [this] { go(current_ + 1); });
     connect(cmdStrana[kZoom], &Button::clicked, this, [this] { zoom(); });
     connect(cmdStrana[kClose], &Button::clicked, this, [this] { goBack(); });
+    // The sheet is the form's own stop.
+    ring().setStops({this, cmdStrana[kPrevious], cmdStrana[kNext], cmdStrana[kZoom], cmdStrana[kClose]});
     connect(&picStrana, &Control::clicked, this, [this] { zoom(); });
     connect(&picStrana, &PageSheet::turned, this, [this](int pages) { go(current_ + pages); });
     connect(&Timer1, &Timer::tick, this, [this] { layOutMore(); });
@@ -101,10 +103,6 @@ void frmNahled::zoom() {
                                                       : QStringLiteral("Zvětšit"));
 }
 
-std::vector<Control*> frmNahled::tabOrder() {
-    return {cmdStrana[kPrevious], cmdStrana[kNext], cmdStrana[kZoom], cmdStrana[kClose]};
-}
-
 bool frmNahled::scrollKey(int key) {
     if (key == Qt::Key_Up) return picStrana.scrollBy(-kScrollStep) || picStrana.isZoomed();
     if (key == Qt::Key_Down) return picStrana.scrollBy(kScrollStep) || picStrana.isZoomed();
@@ -136,10 +134,10 @@ bool frmNahled::keyDown(QKeyEvent& event) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
-            if (!clickFocused(tabOrder())) zoom();
+            if (!ring().keyDown(event)) zoom();
             return true;
         default:
-            return moveByTab(tabOrder(), event.key());
+            return ring().keyDown(event);
     }
 }
 

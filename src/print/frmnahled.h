@@ -34,7 +34,6 @@ class frmNahled : public Form {
     void layOutMore();
     void showPosition();
     bool scrollKey(int key);
-    std::vector<Control*> tabOrder();
 
     std::unique_ptr<PagePreview> preview_;
     PageSheet picStrana;

@@ -68,7 +68,6 @@ void frmPrint::take(PrintMaterial material) {
 }
 
 void frmPrint::open() {
-    setFocusProxy(Command1);
     if (!isVisible()) showOver(app(), *this);
 }
 
@@ -225,7 +224,7 @@ void frmPrint::help() {
 
 void frmPrint::restored() {
     Frame1.setEnabled(!material_.isText());
-    cmdNahled->setFocus();
+    Form::restored();
 }
 
 void frmPrint::recipeStarted(const QString& name) {

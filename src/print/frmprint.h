@@ -66,7 +66,6 @@ class frmPrint : public Form, private PrintProgress {
     void askToStop();
     void preview();
     void choosePrinter();
-    std::vector<Control*> tabOrder();
 
     // Printing tells how far it is.
     void recipeStarted(const QString& name) override;

@@ -128,41 +128,20 @@ void frmPrint::makeButtons() {
     connect(Command1, &Button::clicked, this, [this] { start(); });
     connect(cmdNahled, &Button::clicked, this, [this] { preview(); });
     connect(Command2, &Button::clicked, this, [this] { goBack(); });
-}
-
-std::vector<Control*> frmPrint::tabOrder() {
-    std::vector<Control*> order(Chco.begin(), Chco.end());
+    std::vector<TwipWidget*> stops(Chco.begin(), Chco.end());
     for (Control* control : std::initializer_list<Control*>{&Text1, &chkZobrKg, cmdTiskarna, cmdPrerus,
                                                             Command1, cmdNahled, Command2})
-        order.push_back(control);
-    return order;
+        stops.push_back(control);
+    ring().setStops(stops);
+    ring().setArrows(FocusRing::Arrows::All);
+    ring().startAt(Command1);
 }
 
 bool frmPrint::keyDown(QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Escape:
-            goBack();
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (!clickFocused(tabOrder()) && !printing_) start();
-            return true;
-        case Qt::Key_Space:
-            clickFocused(tabOrder());
-            return true;
-        case Qt::Key_Tab:
-        case Qt::Key_Down:
-        case Qt::Key_Right:
-            moveFocus(tabOrder(), 1);
-            return true;
-        case Qt::Key_Backtab:
-        case Qt::Key_Up:
-        case Qt::Key_Left:
-            moveFocus(tabOrder(), -1);
-            return true;
-        default:
-            return false;
-    }
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (Form::keyDown(event)) return true;
+    if (enter && !printing_) start();
+    return enter;
 }
 
 void frmPrint::paint(QPainter& painter) {

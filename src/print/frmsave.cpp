@@ -83,7 +83,8 @@ frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover prin
     choice_.setAvailable(std::move(entries));
     fill(lstSeznam, choice_.available());
     showChosen();
-    setFocusProxy(&lstSeznam);
+    ring().setStops({&lstSeznam, cmdRuka[0], cmdRuka[3], cmdRuka[1], cmdRuka[2], &lstVybrano, cmdOkEnd[0],
+                     cmdOkEnd[1]});
 }
 
 void frmSave::Zobraz(const QString& mode) {
@@ -153,15 +154,10 @@ void frmSave::cmdOkEndClick(int index) {
     hideForm();
 }
 
-std::vector<Control*> frmSave::tabOrder() {
-    return {&lstSeznam, cmdRuka[0],  cmdRuka[3],  cmdRuka[1],
-            cmdRuka[2], &lstVybrano, cmdOkEnd[0], cmdOkEnd[1]};
-}
-
 void frmSave::enterPressed() {
     if (lstSeznam.hasFocus()) return addMarked();
     if (lstVybrano.hasFocus()) return removeMarked();
-    clickFocused(tabOrder());
+    ring().press();
 }
 
 bool frmSave::keyDown(QKeyEvent& event) {
@@ -169,9 +165,6 @@ bool frmSave::keyDown(QKeyEvent& event) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
             enterPressed();
-            break;
-        case Qt::Key_Space:
-            clickFocused(tabOrder());
             break;
         case Qt::Key_Delete:
             if (lstVybrano.hasFocus()) removeMarked();
@@ -190,7 +183,7 @@ bool frmSave::keyDown(QKeyEvent& event) {
             if (event.modifiers() & Qt::AltModifier) closeRequested();
             break;
         default:
-            moveByTab(tabOrder(), event.key());
+            ring().keyDown(event);
     }
     return true;  // a dialog: its keys mean nothing else
 }

@@ -41,7 +41,6 @@ class frmSave : public Form {
     void removeMarked();
     void showChosen();
     void enterPressed();
-    std::vector<Control*> tabOrder();
     bool isOrdinary() const { return mode_.isEmpty(); }
 
     Handover print_;

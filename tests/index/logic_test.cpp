@@ -97,19 +97,6 @@ TEST(Gallery, TargetsAreReadOrAreNone) {
     for (const auto& c : cases) EXPECT_EQ(GalleryTarget::of(u(c.text)), c.target) << c.text;
 }
 
-TEST(Gallery, ArrowKeysGoToWhatLiesThere) {
-    // 0 1 2
-    //   3
-    const std::vector<QRect> places{{0, 0, 10, 10}, {20, 0, 10, 10}, {40, 2, 10, 10}, {22, 30, 10, 10}};
-    EXPECT_EQ(nearest(places, 0, Direction::Right), 1);
-    EXPECT_EQ(nearest(places, 1, Direction::Right), 2);
-    EXPECT_EQ(nearest(places, 2, Direction::Right), std::nullopt);
-    EXPECT_EQ(nearest(places, 1, Direction::Down), 3);
-    EXPECT_EQ(nearest(places, 3, Direction::Up), 1);
-    EXPECT_EQ(nearest({{0, 0, 10, 10}, {}, {-50, 0, 10, 10}}, 0, Direction::Left), 2)
-        << "hidden ones are passed";
-}
-
 TEST(LookupTable, KeywordsStandInCzechOrderUnderTheirLetters) {
     Cookbook book({Cookbook::keyword(1, u("Úhoř"), u("x")), Cookbook::keyword(2, u("Chřest"), u("x")),
                    Cookbook::keyword(3, u("Hejk"), u("x")), Cookbook::keyword(4, u("Candát"), u("x")),

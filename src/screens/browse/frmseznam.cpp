@@ -31,7 +31,7 @@ void frmSeznam::Zobraz(const QString& ids, const QString& source) {
     if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
     startPanel();
-    focusButton();
+    ring().restore();
 }
 
 void frmSeznam::fill(const QString& ids, const QString& source) {
@@ -39,7 +39,7 @@ void frmSeznam::fill(const QString& ids, const QString& source) {
     source_ = sourceText_ == u"recepty" ? Source::Recipes
               : sourceText_ == u"help"  ? Source::Help
                                         : Source::QuickRecipes;
-    focusedButton_ = 0;
+    ring().startAt(nullptr);
     entries_ = readEntries(app().Db(), sourceText_, ids);
     pages_.fill(static_cast<int>(entries_.size()), seznam::kRows);
     letters_.clear();
@@ -167,7 +167,7 @@ void frmSeznam::startPanel() {
         showPictureOrWords(picFoto, app().resources().picture(QStringLiteral("Help")).image(), {});
     if (source_ != Source::QuickRecipes) return;
     quickWindow_ = new frmRychlyRecept(app(), *this);
-    connect(quickWindow_, &frmRychlyRecept::keyboardGivenBack, this, &frmSeznam::focusButton);
+    connect(quickWindow_, &frmRychlyRecept::keyboardGivenBack, this, [this] { ring().restore(); });
     quickWindow_->Zobraz(seznam::kPanel);
     if (!entries_.empty()) quickWindow_->setPicture(smallPhoto(entries_.front()), {});
 }
@@ -235,11 +235,7 @@ void frmSeznam::unload() {
 
 void frmSeznam::restored() {
     if (quickWindow_ && panelMode_ == Panel::Photo) quickWindow_->raise();
-    focusButton();
-}
-
-void frmSeznam::gotFocus() {
-    app().BringTopToFront(name());
+    Form::restored();
 }
 
 }  // namespace sarne

@@ -35,7 +35,6 @@ class frmSeznam : public Form {
 
   protected:
     bool keyDown(QKeyEvent& event) override;
-    void gotFocus() override;
     void wheelEvent(QWheelEvent* event) override;
     void paint(QPainter& painter) override;
 
@@ -76,18 +75,12 @@ class frmSeznam : public Form {
     const ListEntry* selectedEntry() const;
     const ListEntry* visiblySelected() const;
 
-    std::vector<PictureButton*> focusOrder() const;
-    void moveFocus(int step);
-    void focusButton();
-    void runFocused();
-
     Source source_ = Source::Recipes;
     QString sourceText_;
     std::vector<ListEntry> entries_;
     ListPages pages_;
     LetterSearch letters_;
     Panel panelMode_ = Panel::Photo;
-    int focusedButton_ = 0;
     int wheel_ = 0;
 
     Ground ground_;

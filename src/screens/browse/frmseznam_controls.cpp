@@ -94,11 +94,7 @@ PictureButton* frmSeznam::addAction(int index, const QString& face, const QStrin
     auto* button = new PictureButton(*this, QStringLiteral("imgBtn(%1)").arg(index));
     button->dress(app(), face, word);
     button->setTip(tip);
-    connect(button, &Control::clicked, this, [this, index, button] {
-        const auto order = focusOrder();
-        focusedButton_ = static_cast<int>(std::ranges::find(order, button) - order.begin());
-        action(index);
-    });
+    connect(button, &Control::clicked, this, [this, index] { action(index); });
     auto* label = new Label(*this, QStringLiteral("lblBtn(%1)").arg(index));
     label->setFont(kWordFont);
     label->setColor(colors::kTitle);
@@ -132,13 +128,13 @@ void frmSeznam::buildBar() {
         auto* button = new PictureButton(*this, QStringLiteral("imgBtnHlavni(%1)").arg(index));
         button->dress(app(), kBar[index].face, kBar[index].word);
         button->setTip(kBar[index].tip);
-        connect(button, &Control::clicked, this, [this, index, button] {
-            const auto order = focusOrder();
-            focusedButton_ = static_cast<int>(std::ranges::find(order, button) - order.begin());
-            mainAction(index);
-        });
+        connect(button, &Control::clicked, this, [this, index] { mainAction(index); });
         imgBtnHlavni.push_back(button);
     }
+    std::vector<TwipWidget*> stops(imgBtn.begin(), imgBtn.end());
+    stops.insert(stops.end(), imgBtnHlavni.begin(), imgBtnHlavni.end());
+    ring().setStops(stops);
+    ring().setArrows(FocusRing::Arrows::Sideways);
 }
 
 void frmSeznam::showButtonsOfSource() {
@@ -219,26 +215,11 @@ void frmSeznam::wheelEvent(QWheelEvent* event) {
 bool frmSeznam::keyDown(QKeyEvent& event) {
     if (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) return false;
     switch (event.key()) {
-        case Qt::Key_Left:
-        case Qt::Key_Backtab:
-            moveFocus(-1);
-            return true;
-        case Qt::Key_Right:
-        case Qt::Key_Tab:
-            moveFocus(1);
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            runFocused();
-            return true;
-        case Qt::Key_Escape:
-            goBack();
-            return true;
         case Qt::Key_Space:
             showPhotos(true);
             return true;
         default:
-            return moveByKey(event.key()) || jumpToLetter(event);
+            return moveByKey(event.key()) || jumpToLetter(event) || Form::keyDown(event);
     }
 }
 
@@ -281,30 +262,6 @@ bool frmSeznam::jumpToLetter(const QKeyEvent& event) {
     if (pages_.selectEntry(found)) selectionChanged();
     drawPage();
     return true;
-}
-
-std::vector<PictureButton*> frmSeznam::focusOrder() const {
-    std::vector<PictureButton*> order;
-    for (const auto* buttons : {&imgBtn, &imgBtnHlavni}) {
-        for (PictureButton* button : *buttons) {
-            if (!button->isHidden()) order.push_back(button);
-        }
-    }
-    return order;
-}
-
-void frmSeznam::moveFocus(int step) {
-    const int count = static_cast<int>(focusOrder().size());
-    focusedButton_ = (focusedButton_ + step + count) % count;
-    focusButton();
-}
-
-void frmSeznam::focusButton() {
-    focusOrder()[size_t(focusedButton_)]->setFocus(Qt::TabFocusReason);
-}
-
-void frmSeznam::runFocused() {
-    focusOrder()[size_t(focusedButton_)]->click();
 }
 
 }  // namespace sarne

@@ -1,7 +1,6 @@
 #include "screens/browse/frmsit.h"
 
 #include <QKeyEvent>
-#include <algorithm>
 
 #include "db/database.h"
 #include "forms/bassarne.h"
@@ -18,6 +17,7 @@ void frmSit::Zobraz() {
     applyGroup();
     if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
+    ring().focus(*this);
 }
 
 void frmSit::readNames() {
@@ -119,25 +119,13 @@ bool frmSit::keyDown(QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            if (focused_)
-                focused_->click();
-            else
-                showRecipe();
+            if (!ring().keyDown(event)) showRecipe();
             return true;
         case Qt::Key_Space:
             showPhoto();
             return true;
-        case Qt::Key_Tab:
-            moveFocus(1);
-            return true;
-        case Qt::Key_Backtab:
-            moveFocus(-1);
-            return true;
-        case Qt::Key_Escape:
-            goBack();
-            return true;
         default:
-            return moveByKey(event.key()) || groupByKey(event.key());
+            return moveByKey(event.key()) || groupByKey(event.key()) || Form::keyDown(event);
     }
 }
 
@@ -145,8 +133,7 @@ bool frmSit::moveByKey(int key) {
     const int right = key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : 0;
     const int down = key == Qt::Key_Down ? 1 : key == Qt::Key_Up ? -1 : 0;
     if (right == 0 && down == 0) return false;
-    focused_ = nullptr;
-    setFocus();  // away from a button: Enter means the cell again
+    ring().focus(*this);  // away from a button: Enter means the cell again
     if (!grid_.move(right, down)) return true;
     showChoice();
     app().HookMessage(names_[size_t(grid_.cell())]);
@@ -159,28 +146,6 @@ bool frmSit::groupByKey(int key) {
     return key >= Qt::Key_0 && key <= Qt::Key_9;
 }
 
-std::vector<PictureButton*> frmSit::focusOrder() const {
-    std::vector<PictureButton*> order = imgSkupina;
-    order.push_back(imgCela);
-    order.insert(order.end(), imgBtnHlavni.begin(), imgBtnHlavni.end());
-    return order;
-}
-
-/// To the next button; the cells stand between the last and the first.
-void frmSit::moveFocus(int step) {
-    const auto order = focusOrder();
-    const int places = static_cast<int>(order.size()) + 1;
-    const auto at = static_cast<int>(std::ranges::find(order, focused_) - order.begin());
-    const int next = (at + step + places) % places;
-    focused_ = next == places - 1 ? nullptr : order[size_t(next)];
-    takeFocus();
-}
-
-void frmSit::takeFocus() {
-    QWidget* const target = focused_ ? static_cast<QWidget*>(focused_) : this;
-    target->setFocus(Qt::TabFocusReason);
-}
-
 // --- coming and going
 
 void frmSit::goBack() {
@@ -189,11 +154,7 @@ void frmSit::goBack() {
 
 void frmSit::restored() {
     applyGroup();
-    takeFocus();
-}
-
-void frmSit::gotFocus() {
-    app().BringTopToFront(name());
+    Form::restored();
 }
 
 QString brokenIntoLines(const QString& text, const TextFont& font, int width) {

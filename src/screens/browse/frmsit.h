@@ -29,7 +29,6 @@ class frmSit : public Form {
 
   protected:
     bool keyDown(QKeyEvent& event) override;
-    void gotFocus() override;
     void mousePressEvent(QMouseEvent* event) override;
     void paint(QPainter& painter) override;
 
@@ -37,6 +36,7 @@ class frmSit : public Form {
     void buildCells();
     void buildGroups();
     void buildBar();
+    void setFocusOrder();
     void readNames();
 
     void setGroup(int group);
@@ -52,9 +52,6 @@ class frmSit : public Form {
 
     bool moveByKey(int key);
     bool groupByKey(int key);
-    std::vector<PictureButton*> focusOrder() const;
-    void moveFocus(int step);
-    void takeFocus();
     static TextFont nameFont();
     static QRect frameOf(int cell);
 
@@ -66,7 +63,6 @@ class frmSit : public Form {
     std::vector<Button*> imgFoto;  // cell 1 first
     std::vector<PictureButton*> imgSkupina, imgBtnHlavni;
     PictureButton* imgCela;
-    PictureButton* focused_ = nullptr;  // the button that Enter presses; none while it means the cell
     Label Label1;
 };
 

@@ -28,6 +28,7 @@ frmSit::frmSit(basSarne& run)
     buildCells();
     buildGroups();
     buildBar();
+    setFocusOrder();
     Label1.place(sit::kName);
     Label1.setFont(nameFont());
     Label1.setColor(colors::kTitle);
@@ -87,6 +88,17 @@ void frmSit::buildBar() {
         connect(button, &Control::clicked, this, [this, index] { barAction(index); });
         imgBtnHlavni.push_back(button);
     }
+}
+
+/// The groups, then the bar as it reads, then the cells, which are the form's own.
+void frmSit::setFocusOrder() {
+    std::vector<TwipWidget*> stops(imgSkupina.begin(), imgSkupina.end());
+    stops.push_back(imgCela);
+    std::vector<QRect> places;
+    for (const PictureButton* button : imgBtnHlavni) places.push_back(button->twips());
+    for (const int at : readingOrder(places)) stops.push_back(imgBtnHlavni[size_t(at)]);
+    stops.push_back(this);
+    ring().setStops(stops);
 }
 
 void frmSit::mousePressEvent(QMouseEvent* event) {

@@ -1,12 +1,9 @@
 #include "screens/index/barform.h"
 
-#include <QKeyEvent>
 #include <QPainter>
-#include <algorithm>
 
 #include "forms/colors.h"
 #include "forms/resources.h"
-#include "forms/stage.h"
 #include "screens/index/musicswitch.h"
 
 namespace sarne {
@@ -46,7 +43,15 @@ BarForm::BarForm(basSarne& app, const QString& name)
         connect(button, &Button::clicked, this, [this, i] { barClicked(i); });
         bar_[static_cast<size_t>(i)] = button;
     }
+    setContent({});
+    ring().setArrows(FocusRing::Arrows::Sideways);
     showSound();
+}
+
+void BarForm::setContent(const std::vector<TwipWidget*>& controls) {
+    std::vector<TwipWidget*> stops = controls;
+    stops.insert(stops.end(), bar_.begin(), bar_.end());
+    ring().setStops(stops);
 }
 
 void BarForm::setTitle(const QString& title) {
@@ -57,7 +62,7 @@ void BarForm::setTitle(const QString& title) {
 void BarForm::open(Control& first) {
     app().PushScreen(*this);
     showForm();
-    focus(first);
+    ring().focus(first);
     app().HookMessage(title());
 }
 
@@ -67,7 +72,7 @@ void BarForm::goBack() {
 
 void BarForm::restored() {
     showSound();
-    if (last_) last_->setFocus();
+    Form::restored();
 }
 
 void BarForm::showSound() {
@@ -78,7 +83,6 @@ void BarForm::showSound() {
 }
 
 void BarForm::barClicked(int button) {
-    last_ = bar_[static_cast<size_t>(button)];
     switch (button) {
         case kPrint:
             return print();
@@ -91,58 +95,6 @@ void BarForm::barClicked(int button) {
         case kSound:
             switchMusic(app());
             return showSound();
-    }
-}
-
-Control* BarForm::focused() const {
-    return qobject_cast<Control*>(app().stage().focusWidget());
-}
-
-void BarForm::focus(Control& control) {
-    last_ = &control;
-    control.setFocus(Qt::TabFocusReason);
-}
-
-std::vector<Control*> BarForm::keyboardOrder() const {
-    std::vector<Control*> order;
-    const auto add = [&order](Control* control) {
-        if (control->isVisible() && control->isEnabled()) order.push_back(control);
-    };
-    std::for_each(content_.begin(), content_.end(), add);
-    std::for_each(bar_.begin(), bar_.end(), add);
-    return order;
-}
-
-void BarForm::moveFocus(int step) {
-    const std::vector<Control*> order = keyboardOrder();
-    const int count = static_cast<int>(order.size());
-    const auto at = std::find(order.begin(), order.end(), focused());
-    const int from = at == order.end() ? (step > 0 ? -1 : 0) : static_cast<int>(at - order.begin());
-    Control& next = *order[static_cast<size_t>((from + step + count) % count)];
-    focus(next);
-    app().HookMessage(next.accessibleName());
-}
-
-bool BarForm::keyDown(QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Escape:
-            goBack();
-            return true;
-        case Qt::Key_Tab:
-        case Qt::Key_Right:
-            moveFocus(1);
-            return true;
-        case Qt::Key_Backtab:
-        case Qt::Key_Left:
-            moveFocus(-1);
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_Space:
-            if (Control* control = focused()) control->click();
-            return true;
-        default:
-            return false;
     }
 }
 

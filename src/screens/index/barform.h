@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QPointer>
 #include <array>
 #include <vector>
 
@@ -35,12 +34,9 @@ class BarForm : public Form {
     void setTitle(const QString& title);
     QString title() const { return title_.text(); }
     /// The controls before the bar, in the order in which the keyboard goes through them.
-    void setContent(std::vector<Control*> controls) { content_ = std::move(controls); }
+    void setContent(const std::vector<TwipWidget*>& controls);
     /// Shows the screen over the others and gives \a first the keyboard.
     void open(Control& first);
-    /// Gives \a control the keyboard, and again when the screen comes back.
-    void focus(Control& control);
-    Control* focused() const;
 
     Control& barButton(BarButton button) const { return *bar_[button]; }
 
@@ -50,20 +46,14 @@ class BarForm : public Form {
     /// The picture behind everything; by default that of the lists.
     virtual void paintGround(QPainter& painter);
 
-    bool keyDown(QKeyEvent& event) override;
-    void gotFocus() override { app().BringTopToFront(name()); }
     void paint(QPainter& painter) override;
 
   private:
-    std::vector<Control*> keyboardOrder() const;
-    void moveFocus(int step);
     void barClicked(int button);
     void showSound();
 
     Label title_;
     std::array<Button*, kBarButtons> bar_{};
-    std::vector<Control*> content_;
-    QPointer<Control> last_;  // what had the keyboard last
 };
 
 /// Paper with a copper edge, for texts to stand on.

@@ -41,7 +41,7 @@ void frmIndex::goBack() {
     if (!showKeyword(visit.keyword)) return TextForm::goBack();
     view().scrollTo(visit.offset);
     if (visit.link >= 0) view().focusLink(visit.link);
-    focus(view());
+    ring().focus(view());
     app().HookMessage(title());
 }
 

@@ -33,21 +33,6 @@ QRect onScreen(const QRect& thousandths, QSize screen) {
             thousandths.height() * screen.height() / kThousand};
 }
 
-std::optional<Direction> directionOf(int key) {
-    switch (key) {
-        case Qt::Key_Left:
-            return Direction::Left;
-        case Qt::Key_Right:
-            return Direction::Right;
-        case Qt::Key_Up:
-            return Direction::Up;
-        case Qt::Key_Down:
-            return Direction::Down;
-        default:
-            return {};
-    }
-}
-
 void dress(Button& button, const Picture& face, const QString& caption, const QString& tip) {
     button.setFace(face);
     button.setFrame(Button::Frame::Raised);
@@ -150,7 +135,7 @@ void frmSponzor::showPicture(int index) {
     next_.setVisible(count > 1);
     makeAreas();
     setKeyboardOrder();
-    if (isVisible()) focus(firstControl());
+    if (isVisible()) ring().focus(firstControl());
     update();
 }
 
@@ -172,7 +157,7 @@ void frmSponzor::makeAreas() {
 
 void frmSponzor::choose(int area) {
     const GalleryArea& chosen = current().areas[static_cast<size_t>(area)];
-    focus(*areas_[static_cast<size_t>(area)]);
+    ring().focus(*areas_[static_cast<size_t>(area)]);
     if (chosen.target.kind != GalleryTarget::Kind::None) return follow(chosen.target);
     if (chosen.text.isEmpty()) return app().Beep();
     chosen_ = area;
@@ -211,7 +196,7 @@ void frmSponzor::openCard(const QString& text) {
     close_.raise();
     for (AreaButton* area : areas_) area->setVisible(!area->twips().intersects(cardPlace_));
     setKeyboardOrder();
-    focus(card_);
+    ring().focus(card_);
     app().HookMessage(plainText(text, 2000));
     update();
 }
@@ -222,16 +207,16 @@ void frmSponzor::closeCard() {
     for (AreaButton* area : areas_) area->show();
     setKeyboardOrder();
     const int area = std::exchange(chosen_, -1);
-    if (area >= 0 && area < static_cast<int>(areas_.size())) focus(*areas_[static_cast<size_t>(area)]);
+    if (area >= 0 && area < static_cast<int>(areas_.size())) ring().focus(*areas_[static_cast<size_t>(area)]);
     update();
 }
 
 void frmSponzor::setKeyboardOrder() {
-    std::vector<Control*> order{&card_, &close_};
+    std::vector<TwipWidget*> order{&card_, &close_};
     order.insert(order.end(), areas_.begin(), areas_.end());
     order.push_back(&previous_);
     order.push_back(&next_);
-    setContent(std::move(order));
+    setContent(order);
 }
 
 void frmSponzor::goBack() {
@@ -248,24 +233,9 @@ void frmSponzor::print() {
     app().screens().printText(current().title, document.text());
 }
 
-/// Arrow keys go to the nearest area on that side.
-bool frmSponzor::areaKey(int key) {
-    const auto at = std::find(areas_.begin(), areas_.end(), focused());
-    const std::optional<Direction> direction = directionOf(key);
-    if (at == areas_.end() || !direction) return false;
-    std::vector<QRect> places;
-    for (const AreaButton* area : areas_) places.push_back(area->isVisible() ? area->twips() : QRect());
-    const auto next = nearest(places, static_cast<int>(at - areas_.begin()), *direction);
-    if (!next) return true;
-    AreaButton& area = *areas_[static_cast<size_t>(*next)];
-    focus(area);
-    app().HookMessage(area.caption());
-    return true;
-}
-
 bool frmSponzor::cardKey(const QKeyEvent& event) {
     if (!cardIsOpen()) return false;
-    if (focused() != &card_) return card_.pageKey(event);
+    if (!ring().isAt(&card_)) return card_.pageKey(event);
     const bool forward = event.key() == Qt::Key_Tab;
     if (forward || event.key() == Qt::Key_Backtab)
         return card_.focusNextLink(forward ? TextView::Direction::Forward : TextView::Direction::Backward);
@@ -273,7 +243,9 @@ bool frmSponzor::cardKey(const QKeyEvent& event) {
 }
 
 bool frmSponzor::keyDown(QKeyEvent& event) {
-    if (cardKey(event) || areaKey(event.key())) return true;
+    if (cardKey(event)) return true;
+    const auto direction = arrowDirection(event.key());
+    if (direction && ring().stepTowards(*direction, {areas_.begin(), areas_.end()})) return true;
     if (pictures_.size() > 1 && (event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown)) {
         showPicture(at_ + (event.key() == Qt::Key_PageDown ? 1 : -1));
         return true;

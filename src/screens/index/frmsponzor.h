@@ -43,7 +43,6 @@ class frmSponzor : public BarForm {
     void openCard(const QString& text);
     void closeCard();
     void setKeyboardOrder();
-    bool areaKey(int key);
     bool cardKey(const QKeyEvent& event);
 
     std::vector<GalleryPicture> pictures_;

@@ -62,7 +62,7 @@ bool FrmTabulky::Zobraz(std::int16_t item) {
     table_.setTable(std::move(table));
     if (table_.table().hasLetters) makeLetters();
     layOut();
-    std::vector<Control*> order{&table_};
+    std::vector<TwipWidget*> order{&table_};
     order.insert(order.end(), letters_.begin(), letters_.end());
     setContent(std::move(order));
     open(table_);
@@ -149,7 +149,7 @@ void FrmTabulky::jumpToLetter(const QString& letter) {
 void FrmTabulky::openRow(int row) {
     const int keyword = table_.table().rows[static_cast<size_t>(row)].keyword;
     if (keyword == 0) return app().Beep();
-    focus(table_);
+    ring().focus(table_);
     app().screens().showIndex(static_cast<std::int16_t>(keyword));
 }
 
@@ -197,7 +197,7 @@ bool FrmTabulky::letterKey(const QKeyEvent& event) {
 bool FrmTabulky::keyDown(QKeyEvent& event) {
     if (moveKey(event.key()) || letterKey(event)) return true;
     const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (enter && !qobject_cast<Button*>(focused())) {
+    if (enter && ring().isAt(&table_)) {
         table_.openSelected();
         return true;
     }

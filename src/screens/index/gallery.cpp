@@ -54,24 +54,4 @@ std::vector<GalleryPicture> readGallery(Database& db, int topic) {
     return pictures;
 }
 
-std::optional<int> nearest(const std::vector<QRect>& places, int from, Direction direction) {
-    const QPoint start = places[static_cast<size_t>(from)].center();
-    std::optional<int> best;
-    int bestDistance = 0;
-    for (int i = 0; i < static_cast<int>(places.size()); ++i) {
-        const QPoint way = places[static_cast<size_t>(i)].center() - start;
-        const bool sideways = direction == Direction::Left || direction == Direction::Right;
-        const bool backwards = direction == Direction::Left || direction == Direction::Up;
-        const int along = (sideways ? way.x() : way.y()) * (backwards ? -1 : 1);
-        const int across = std::abs(sideways ? way.y() : way.x());
-        if (along <= 0 || places[static_cast<size_t>(i)].isEmpty()) continue;
-        // What lies straight ahead comes before what is nearer but off to the side.
-        const int distance = along + 3 * across;
-        if (best && distance >= bestDistance) continue;
-        best = i;
-        bestDistance = distance;
-    }
-    return best;
-}
-
 }  // namespace sarne

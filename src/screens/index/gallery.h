@@ -2,7 +2,6 @@
 
 #include <QRect>
 #include <QString>
-#include <optional>
 #include <vector>
 
 namespace sarne {
@@ -44,11 +43,5 @@ struct GalleryPicture {
 
 /// The pictures of main-screen topic \a topic in the order of their numbers.
 std::vector<GalleryPicture> readGallery(Database& db, int topic);
-
-enum class Direction { Left, Right, Up, Down };
-
-/// The index of the rectangle nearest to number \a from in \a direction; nothing when there is none on that
-/// side. Empty rectangles do not count.
-std::optional<int> nearest(const std::vector<QRect>& places, int from, Direction direction);
 
 }  // namespace sarne
