@@ -25,8 +25,8 @@ def _shreds(o, n):
     ts = []
     for _ in range(n):
         p = random.choice(polys)
-        turn = Vector((0, 0, 1)).rotation_difference(p.normal).to_matrix().to_4x4() @ Matrix.Rotation(random.random() * 6.28, 4, "Z") @ Matrix.Rotation(random.uniform(-.25, .25), 4, "Y")
-        ts.append(Matrix.Translation(p.center) @ turn @ Matrix.Diagonal((random.uniform(.12, .3), .035, .035, 1)))
+        turn = Vector((0, 0, 1)).rotation_difference(p.normal).to_matrix().to_4x4() @ Matrix.Rotation(random.random() * 6.28, 4, "Z") @ Matrix.Rotation(random.uniform(-.12, .12), 4, "Y")
+        ts.append(Matrix.Translation(p.center) @ turn @ Matrix.Diagonal((random.uniform(.1, .3), .022, .014, 1)))
     return scatter(v, f, ts, mat("shred", ((.34, "7a4212"), (.5, "c98f38"), (.64, "e8cb8c")), .4, coat=.3, noise=1.6, detail=4), False)
 
 
@@ -39,7 +39,7 @@ def bramborak(r=1.4, half=False, seed=None):
     m, parts = _pancake(), []
     for z, h, k in ((0, .36, 1.0), (.62, .34, .97)):
         o = slab(out * k, h, m, 2.4, .09, 1.6, 22, .08, .06, 5, seed, taper=.12)
-        shreds = _shreds(o, 150)
+        shreds = _shreds(o, 330)
         for q in (o, shreds):
             q.location.z = z
         parts += [o, shreds]
@@ -80,13 +80,13 @@ def sauerkraut(r=1.3, h=.6, n=420):
     """Heap of cut sauerkraut with caraway."""
     m = mat("kraut", ((.38, "cdbb78"), (.5, "e0d29c"), (.62, "efe6c2")), .25, .5, coat=.6, noise=3)
     parts = [slab(blob(1.9 * r, 1.7 * r, .15, 50), h * .75, m, 2.2, .1, 2, 14, .05, .05, 6)]
-    for _ in range(n // 6):
+    for _ in range(n // 3):
         a, q = random.random() * 6.28, math.sqrt(random.random())
         x, y, z = r * q * math.cos(a), r * .9 * q * math.sin(a), h * (1 - q * q) * random.uniform(.7, 1.05) + .06
         turn, bend, long_ = random.random() * 6.28, random.uniform(-1.4, 1.4), random.uniform(.35, .8)
         line = [(x + long_ * (t - .5) * math.cos(turn) + .2 * bend * math.sin(turn) * (t - .5) ** 2, y + long_ * (t - .5) * math.sin(turn) - .35 * bend * math.cos(turn) * (t - .5) ** 2,
                  max(.04, z + .14 * math.sin(t * 3.1 + bend) - .3 * (t - .5) ** 2)) for t in np.linspace(0, 1, 9)]
-        parts.append(tube(line, random.uniform(.03, .05), m, 5))
+        parts.append(tube(line, random.uniform(.022, .036), m, 5))
     return group(parts)
 
 

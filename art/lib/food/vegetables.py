@@ -56,7 +56,7 @@ def lemon_wedge(r=.95):
             grid.append((x, q * math.sin(b), r - q * math.cos(b)))
     o1 = mesh(grid, grid_faces(n, k), peel())
     parts = [o1]
-    m = mat("lemonflesh", ((.38, "efd24a"), (.5, "f6e27a"), (.62, "fbf0b0")), .2, .6, coat=.6, noise=4, bump=.2, bumpscale=9, stretch=(1, 1, 3), translucent=.3)
+    m = mat("lemonflesh", ((.3, "f0d654"), (.7, "f8e88e")), .2, .6, coat=.6, noise=4, bump=.2, bumpscale=9, stretch=(1, 1, 3), translucent=.3)
     wm = mat("pith", "f0e8cc", .6)
     for s in (-1, 1):
         for sc_, mm, off in ((1.0, wm, 0.0), (.9, m, .012)):
