@@ -11,20 +11,20 @@ using Ids = std::vector<std::int16_t>;
 
 TEST(PhotoGrid, SevenInARowAndGroupsThatOverlap) {
     QRegion taken;
-    for (int cell = 1; cell <= PhotoGrid::kCells; ++cell) {
-        const QRect place = PhotoGrid::cellRect(cell);
+    for (int cell = 1; cell <= kGridCells; ++cell) {
+        const QRect place = gridCellRect(cell);
         EXPECT_FALSE(taken.intersects(place)) << cell;
         taken += place;
     }
     EXPECT_TRUE(QRect(0, 0, 12000, 9000).contains(taken.boundingRect()));
-    EXPECT_EQ(PhotoGrid::cellRect(8).x(), PhotoGrid::cellRect(50).x());
+    EXPECT_EQ(gridCellRect(8).x(), gridCellRect(50).x());
     const size_t sizes[] = {5, 29, 22, 4, 0};
-    for (int group = 0; group < 5; ++group) EXPECT_EQ(PhotoGrid::groupIds(group).size(), sizes[group]);
-    for (const int group : {1, 2}) EXPECT_EQ(std::ranges::count(PhotoGrid::groupIds(group), 13), 1);
-    for (int cell = 1; cell <= PhotoGrid::kCells; ++cell) {
+    for (int group = 0; group < 5; ++group) EXPECT_EQ(gridGroupIds(group).size(), sizes[group]);
+    for (const int group : {1, 2}) EXPECT_EQ(std::ranges::count(gridGroupIds(group), 13), 1);
+    for (int cell = 1; cell <= kGridCells; ++cell) {
         int groups = 0;
-        for (int group = 0; group < PhotoGrid::kGroups; ++group)
-            groups += static_cast<int>(std::ranges::count(PhotoGrid::groupIds(group), cell));
+        for (int group = 0; group < kGridGroups; ++group)
+            groups += static_cast<int>(std::ranges::count(gridGroupIds(group), cell));
         EXPECT_GE(groups, 1) << "recipe " << cell << " is in no group";
     }
 }

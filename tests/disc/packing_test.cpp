@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 
 #include "db/database.h"
-#include "disc/photos.h"
 #include "disc/resources.h"
+#include "disc/screenpictures.h"
 #include "disc/sounds/makesounds.h"
 
 namespace sarne::disc {
@@ -25,6 +25,14 @@ class PackingTest : public testing::Test {
         ASSERT_TRUE(picture.save(path(file)));
     }
 
+    void write(const char* file, const char* text) {
+        QDir().mkpath(QFileInfo(path(file)).path());
+        QFile out(path(file));
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly) && out.write(text) >= 0);
+    }
+
+    std::string errors() const { return problems_.errors().join(u'\n').toStdString(); }
+
     QTemporaryDir folder_;
     Cookbook book_;
     Problems problems_;
@@ -38,11 +46,7 @@ class PackingTest : public testing::Test {
 TEST_F(PackingTest, ResourcesAreFoundUnderTheirNames) {
     draw("art/rendered/prvky/RamVen.png", Qt::red);
     draw("art/rendered/hlavni/pohyby/05-01.png", Qt::green);
-    QDir().mkpath(path("art/layout"));
-    QFile layout(path("art/layout/hlavni.txt"));
-    ASSERT_TRUE(layout.open(QIODevice::WriteOnly));
-    layout.write("0 1 2 3 4\n");
-    layout.close();
+    write("art/layout/hlavni.txt", "0 1 2 3 4\n");
     makeEffects(shop_);
     makeResources(shop_, QStringLiteral(SARNE_RCC));
     ASSERT_FALSE(problems_.hasErrors()) << problems_.errors().join(u'\n').toStdString();
@@ -50,7 +54,6 @@ TEST_F(PackingTest, ResourcesAreFoundUnderTheirNames) {
     const QString file = path("program/Sarne.rcc");
     ASSERT_TRUE(QResource::registerResource(file, QStringLiteral("/packed")));
     EXPECT_EQ(QImage(QStringLiteral(":/packed/obr/RamVen.png")).pixelColor(9, 9), QColor(Qt::red));
-    EXPECT_FALSE(QImage(QStringLiteral(":/packed/obr/Pribor4.png")).isNull());
     EXPECT_EQ(QImage(QStringLiteral(":/packed/pohyby/05-01.png")).pixelColor(9, 9), QColor(Qt::green));
     EXPECT_TRUE(QFile::exists(QStringLiteral(":/packed/layout/hlavni.txt")));
     for (const int effect : {1, 101, 121}) {
@@ -63,13 +66,23 @@ TEST_F(PackingTest, ResourcesAreFoundUnderTheirNames) {
 
 TEST_F(PackingTest, APackerThatFailsIsAnError) {
     makeResources(shop_, path("no-such-rcc"));
-    EXPECT_TRUE(problems_.hasErrors());
+    EXPECT_NE(errors().find("Sarne.rcc:0: nelze vyrobit"), std::string::npos) << errors();
+}
+
+TEST_F(PackingTest, AMissingPictureIsAnErrorThatNamesItsFile) {
+    makeScreenPictures(shop_);
+    EXPECT_NE(errors().find("rendered/pozadi/konec.jpg:0: obrázek chybí"), std::string::npos) << errors();
 }
 
 TEST_F(PackingTest, ScreenPicturesKeepTheirOrder) {
     draw("art/rendered/hlavni/pozadi.jpg", Qt::red);
+    for (const char* screen : {"konec", "video", "seznam", "recept"})
+        draw(("art/rendered/pozadi/" + std::string(screen) + ".jpg").c_str(), Qt::green);
     draw("art/rendered/pozadi/Sit.jpg", Qt::blue);
+    draw("art/rendered/pozadi/Sit-siroke.jpg", Qt::blue);
     makeScreenPictures(shop_);
+    EXPECT_EQ(errors(), "");
+    EXPECT_EQ(QImage(path("program/siroke/Sit.jpg")).width(), 160);
     Database pictures;
     ASSERT_TRUE(pictures.Open(path("program/KOp.bj")));
     Recordset records = pictures.OpenQuery(QStringLiteral("SELECT obr FROM TabObr"));

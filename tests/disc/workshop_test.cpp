@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
-#include <QRect>
 #include <QTemporaryDir>
 
+#include "core/gridtable.h"
 #include "disc/photos.h"
 
 namespace sarne::disc {
@@ -52,6 +54,14 @@ TEST_F(WorkshopTest, MakesOnlyWhatChanged) {
     EXPECT_EQ(run(), 1);
 }
 
+TEST_F(WorkshopTest, WhatIsNoLongerWantedIsDeleted) {
+    ASSERT_TRUE(write(path("source"), "first"));
+    EXPECT_EQ(run(), 1);
+    Ledger ledger(path("ledger"));
+    ledger.sweep();
+    EXPECT_FALSE(QFile::exists(path("sub/made")));
+}
+
 TEST_F(WorkshopTest, WhatFailedIsTriedAgain) {
     Ledger ledger(path("ledger"));
     Workshop shop{book_, {}, {}, {}, {}, {}, ledger, problems_};
@@ -60,31 +70,69 @@ TEST_F(WorkshopTest, WhatFailedIsTriedAgain) {
     for (int i = 0; i < 2; ++i)
         EXPECT_FALSE(shop.make(path("made"), QStringLiteral("1"), [&] { return ++tries < 0; }));
     EXPECT_EQ(tries, 2);
+    EXPECT_EQ(problems_.errors(), QStringList{path("made") + QStringLiteral(":0: nelze vyrobit")});
 }
 
-TEST_F(WorkshopTest, PhotosComeFromTheArtWhereItHasThem) {
-    QDir().mkpath(path("art/rendered/dishes"));
-    QImage red(1600, 1200, QImage::Format_RGB32);
-    red.fill(Qt::red);
-    ASSERT_TRUE(red.save(path("art/rendered/dishes/06.jpg"), "JPG", 100));
-    Ledger ledger(path("ledger"));
-    Workshop shop{book_, {}, path("art"), path("program"), path("disc"), path("scratch"), ledger, problems_};
-    makePhotos(shop);
-    const QImage rendered(path("disc/foto/Recepty/r6.bmp"));
-    EXPECT_EQ(rendered.size(), QSize(1440, 1080));
-    EXPECT_NEAR(qRed(rendered.pixel(700, 500)), 255, 3);
-    EXPECT_NEAR(qGreen(rendered.pixel(700, 500)), 0, 3);
-    const QImage drawn(path("disc/foto/Male/r7.bmp"));
-    EXPECT_EQ(drawn.size(), QSize(320, 240));
+/// Three recipes: one the art has a photo of, one whose photo there shows another dish, one with its own.
+class PhotosTest : public WorkshopTest {
+  protected:
+    PhotosTest() {
+        for (const int id : {6, 7, 8}) {
+            Recipe& recipe = book_.recipes[id];
+            recipe.id = id;
+            recipe.name = QStringLiteral("Jídlo %1").arg(id);
+            recipe.place = {QStringLiteral("recepty/%1.txt").arg(id), 1};
+        }
+        QDir().mkpath(path("art/dishes"));
+        write(path("art/dishes/06.dish"), "name Jídlo 6\n");
+        write(path("art/dishes/07.dish"), "name Jídlo 5\n");
+        for (const char* file : {"art/rendered/dishes/06.jpg", "art/rendered/dishes/07.jpg", "recepty/8.png"})
+            draw(file, Qt::red);
+        for (const char* file : {"art/rendered/pozadi/sit.jpg", "art/rendered/prvky/vino256.jpg"})
+            draw(file, Qt::black);
+    }
+
+    void draw(const char* file, const QColor& colour) {
+        QDir().mkpath(QFileInfo(path(file)).path());
+        QImage picture(1600, 1200, QImage::Format_RGB32);
+        picture.fill(colour);
+        picture.save(path(file), nullptr, 100);
+    }
+
+    /// The colour in the middle of a picture of the disc, or of a cell of the grid.
+    QColor colour(const char* file, int cell = 0) const {
+        const QImage picture(path(file));
+        const QPoint place =
+            cell ? gridCellRect(cell).center() * picture.width() / 12000 : picture.rect().center();
+        return picture.pixelColor(place);
+    }
+
+    Ledger ledger_{path("ledger")};
+    Workshop shop_{book_,        folder_.path(),  path("art"), path("program"),
+                   path("disc"), path("scratch"), ledger_,     problems_};
+};
+
+TEST_F(PhotosTest, AreOfTheRecipesOwnDish) {
+    Problems release(Edition::release);
+    Workshop shipped{book_,        folder_.path(),  path("art"), path("program"),
+                     path("disc"), path("scratch"), ledger_,     release};
+    makePhotos(shipped);
+    ASSERT_EQ(release.errors().size(), 1);
+    EXPECT_TRUE(release.errors().first().startsWith(
+        QStringLiteral("recepty/7.txt:1: fotografie 07.jpg ukazuje „Jídlo 5“, ne „Jídlo 7“")));
+
+    makePhotos(shop_);
+    ASSERT_EQ(problems_.errors().join(u'\n').toStdString(), "");
+    EXPECT_EQ(QImage(path("disc/foto/Velke/r6.bmp")).size(), QSize(1440, 1080));
+    EXPECT_EQ(QImage(path("disc/foto/Male/r6.bmp")).size(), QSize(640, 480));
+    EXPECT_GT(colour("disc/foto/Recepty/r6.bmp").red(), 250);
+    EXPECT_GT(colour("disc/foto/Recepty/r8.bmp").red(), 250);
+    EXPECT_GT(colour("disc/foto/Recepty/r7.bmp").green(), 20);  // a plate with a name, no red
 
     // In the composite of the soups a warm dish is dimmed, in the one of all it is not.
-    const auto middle = [](const QImage& grid) {
-        const QPoint centre = gridCell(6).center() * grid.width() / 12000;
-        return qRed(grid.pixel(centre));
-    };
-    EXPECT_GT(middle(QImage(path("disc/foto/sitCela.bmp"))), 240);
-    EXPECT_GT(middle(QImage(path("disc/foto/sit1.bmp"))), 240);
-    EXPECT_LT(middle(QImage(path("disc/foto/sit0.bmp"))), 120);
+    EXPECT_GT(colour("disc/foto/sitCela.bmp", 6).red(), 240);
+    EXPECT_GT(colour("disc/foto/sit1.bmp", 6).red(), 240);
+    EXPECT_LT(colour("disc/foto/sit0.bmp", 6).red(), 120);
 }
 
 }  // namespace

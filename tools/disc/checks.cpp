@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "courses.h"
 #include "markup.h"
 #include "readsponsors.h"
 
@@ -18,22 +19,6 @@ constexpr int kFewestWords = 60;
 constexpr int kMostWords = 200;
 constexpr int kQuickMinutes = 30;
 constexpr int kSwitches = 5;
-
-struct GridGroup {
-    const char16_t* course;
-    QList<int> recipes;
-};
-
-/// The photo grid's own tables.
-const QList<GridGroup>& gridGroups() {
-    static const QList<GridGroup> groups{
-        {u"polévka", {15, 16, 20, 41, 44}},
-        {u"teplé", {1,  3,  4,  5,  6,  7,  10, 13, 14, 18, 19, 23, 24, 26, 27,
-                    28, 30, 32, 33, 34, 36, 37, 38, 39, 40, 42, 43, 45, 47}},
-        {u"studené", {2, 5, 8, 9, 11, 12, 13, 17, 19, 21, 22, 25, 29, 31, 35, 36, 37, 39, 46, 48, 49, 50}},
-        {u"slavnostní", {9, 35, 46, 50}}};
-    return groups;
-}
 
 /// Grams of one \a unit of what a line names: its own weight with the refinement, without it, any fish's.
 double unitWeight(const Cookbook& book, const IngredientLine& line, int unit) {
@@ -231,13 +216,6 @@ void checkCookbook(const Cookbook& book, Problems& problems) {
     checkSponsors(book, linkBook(book, known), problems);
     if (book.settings.size() != kSwitches)
         problems.error({QStringLiteral("nastav.txt"), 0}, QStringLiteral("the program has five switches"));
-}
-
-QStringList gridCourses(int recipe) {
-    QStringList courses;
-    for (const GridGroup& group : gridGroups())
-        if (group.recipes.contains(recipe)) courses << QString::fromUtf16(group.course);
-    return courses;
 }
 
 }  // namespace sarne::disc

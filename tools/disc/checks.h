@@ -13,8 +13,4 @@ LinkBook linkBook(const Cookbook& book, Problems& problems);
 /// that nothing uses, settings, pages and numbers that the program relies on.
 void checkCookbook(const Cookbook& book, Problems& problems);
 
-/// The groups of the photo grid that a recipe stands in, as courses: "polévka", "teplé", "studené",
-/// "slavnostní".
-QStringList gridCourses(int recipe);
-
 }  // namespace sarne::disc

@@ -7,23 +7,24 @@
 #include <cstdio>
 
 #include "loadcookbook.h"
+#include "makedatabase.h"
 #include "photos.h"
 #include "resources.h"
+#include "screenpictures.h"
 #include "sounds/makesounds.h"
 #include "videos/makevideos.h"
 #include "workshop.h"
-#include "writedatabase.h"
 
 using namespace sarne::disc;
 
 namespace {
 
-/// Changed whenever the same content would give another database.
-const QString kDatabaseVersion = QStringLiteral("2");
-constexpr qint64 kDiscLimit = 400'000'000;
+/// What a compact disc holds.
+constexpr qint64 kDiscLimit = 650'000'000;
 
 struct Options {
     QString content, art, out, rcc;
+    Edition edition;
 };
 
 Options parse(const QCoreApplication& app) {
@@ -40,12 +41,14 @@ Options parse(const QCoreApplication& app) {
                        {QStringLiteral("out"), QStringLiteral("folder to build into"), QStringLiteral("dir"),
                         here + QStringLiteral("/disc-out")},
                        {QStringLiteral("rcc"), QStringLiteral("Qt's resource compiler"),
-                        QStringLiteral("file"), libexec + QStringLiteral("/rcc")}});
+                        QStringLiteral("file"), libexec + QStringLiteral("/rcc")},
+                       {QStringLiteral("vydani"), QStringLiteral("what is unfinished is an error")}});
     parser.process(app);
     const auto folder = [&](const char* name) {
         return QFileInfo(parser.value(QLatin1String(name))).absoluteFilePath();
     };
-    return {folder("content"), folder("art"), folder("out"), parser.value(QStringLiteral("rcc"))};
+    return {folder("content"), folder("art"), folder("out"), parser.value(QStringLiteral("rcc")),
+            parser.isSet(QStringLiteral("vydani")) ? Edition::release : Edition::draft};
 }
 
 int report(const Problems& problems) {
@@ -63,15 +66,6 @@ qint64 sizeOf(const QString& folder) {
     return total;
 }
 
-void makeDatabase(Workshop& shop, const ContentFolder& folder) {
-    const QString file = shop.program + QStringLiteral("/Sarne.drc");
-    shop.make(file, originOf(folder.allFiles(), kDatabaseVersion), [&] {
-        proofread(folder, shop.book, shop.problems);
-        if (!shop.problems.hasErrors()) writeRecipeDatabase(shop.book, file, shop.problems);
-        return !shop.problems.hasErrors();
-    });
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -79,7 +73,7 @@ int main(int argc, char** argv) {
     const QGuiApplication app(argc, argv);
     const Options options = parse(app);
     QDir().mkpath(options.out);
-    Problems problems;
+    Problems problems(options.edition);
     const ContentFolder folder(options.content, problems);
     const Cookbook book = loadCookbook(folder, problems);
     Ledger ledger(options.out + QStringLiteral("/.made"));
@@ -98,8 +92,8 @@ int main(int argc, char** argv) {
     makeSounds(shop);
     makeVideos(shop);
     makeResources(shop, options.rcc);
+    if (!problems.hasErrors()) ledger.sweep();
     ledger.save();
-    if (sizeOf(shop.disc) > kDiscLimit)
-        problems.error({shop.disc, 0}, QStringLiteral("the disc is larger than 400 MB"));
+    if (sizeOf(shop.disc) > kDiscLimit) problems.error({shop.disc, 0}, QStringLiteral("disk má přes 650 MB"));
     return report(problems);
 }

@@ -5,37 +5,20 @@
 #include <functional>
 
 #include "checks.h"
+#include "core/topics.h"
 
 namespace sarne::disc {
 namespace {
 
-enum class TopicKind { none, flatActions, flatLists, submenus };
+/// Whether the topic's items open something of their own at once, and not recipes.
+bool hasActions(TopicKind kind) {
+    using enum TopicKind;
+    return kind == gallery || kind == tables || kind == photos || kind == search || kind == videos;
+}
 
-TopicKind topicKind(int topic) {
-    switch (topic) {
-        case 1:
-        case 4:
-        case 9:
-        case 10:
-        case 12:
-        case 13:
-        case 18:
-            return TopicKind::flatActions;
-        case 3:
-        case 6:
-        case 15:
-            return TopicKind::flatLists;
-        case 2:
-        case 5:
-        case 8:
-        case 11:
-        case 14:
-        case 16:
-        case 17:
-            return TopicKind::submenus;
-        default:
-            return TopicKind::none;
-    }
+/// Whether the shipped menu has rows for topics of that kind: the results are written while the program runs.
+bool hasRows(TopicKind kind) {
+    return hasActions(kind) || kind == TopicKind::lists || kind == TopicKind::submenus;
 }
 
 MenuNode node(const Line& line) {
@@ -68,7 +51,7 @@ class RowMaker {
     QList<MenuRow> rows(const MenuTopic& topic) {
         const QString code = QString::number(topic.number);
         kind_ = topicKind(topic.number);
-        if (kind_ == TopicKind::none) {
+        if (!hasRows(kind_)) {
             problems_.error(topic.place, QStringLiteral("topic %1 ships no menu").arg(topic.number));
             return {};
         }
@@ -188,7 +171,7 @@ void checkCode(const MenuRow& row, Problems& problems) {
     const int number = row.code.toInt();
     if (row.code.size() == 2 && number >= 10 && number <= 18 && number != 11)
         wrong(QStringLiteral("it has a topic's own code"));
-    if (topicKind(topicOf(row.code)) == TopicKind::none) wrong(QStringLiteral("its topic ships no menu"));
+    if (!hasRows(topicKind(topicOf(row.code)))) wrong(QStringLiteral("its topic ships no menu"));
     if (levelOf(row).toInt() > 32767 || levelOf(row).size() > 5)
         wrong(QStringLiteral("its level is too deep"));
     if (isHeading(row) != row.code.endsWith(u'0'))
@@ -215,7 +198,7 @@ QSet<int> quickNumbers(const Cookbook& book) {
 
 /// Over which table the program opens a list: the dispatcher's own rule.
 bool isOverRecipes(const MenuRow& row) {
-    return topicKind(topicOf(row.code)) == TopicKind::flatLists || row.code.endsWith(u'1');
+    return topicKind(topicOf(row.code)) == TopicKind::lists || row.code.endsWith(u'1');
 }
 
 void checkTarget(const MenuRow& row, const Cookbook& book, Problems& problems) {
@@ -224,7 +207,7 @@ void checkTarget(const MenuRow& row, const Cookbook& book, Problems& problems) {
     const auto wrong = [&](const QString& why) {
         problems.error(row.place, QStringLiteral("menu row \"%1\" (%2): %3").arg(row.code, row.label, why));
     };
-    if (kind == TopicKind::flatActions) {
+    if (hasActions(kind)) {
         if (row.target.isEmpty() || row.target == QLatin1String("D"))
             wrong(QStringLiteral("it leads nowhere"));
         if (row.code.size() != QString::number(topicOf(row.code)).size() + 1)
@@ -233,7 +216,7 @@ void checkTarget(const MenuRow& row, const Cookbook& book, Problems& problems) {
     }
     if (kind == TopicKind::submenus && isSubmenu(row)) return wrong(QStringLiteral("a submenu without items"));
     if (row.target.startsWith(u'H')) return;
-    if (kind == TopicKind::flatLists && levelOf(row) != QString::number(topicOf(row.code)))
+    if (kind == TopicKind::lists && levelOf(row) != QString::number(topicOf(row.code)))
         return wrong(QStringLiteral("a submenu of this topic leads to keywords only"));
     const QList<int> recipes = book.recipes.keys();
     checkIds(row, isOverRecipes(row) ? QSet<int>(recipes.cbegin(), recipes.cend()) : quickNumbers(book),

@@ -1,40 +1,27 @@
 #include "photos.h"
 
-#include <QBuffer>
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
-#include <QRect>
+#include <filesystem>
 
-#include "checks.h"
-#include "dishsketch.h"
-#include "standins.h"
-#include "writedatabase.h"
+#include "core/gridtable.h"
+#include "courses.h"
+#include "plate.h"
+#include "stamps.h"
 
 namespace sarne::disc {
 namespace {
 
-/// Changed whenever pictures would come out different from the same source.
-constexpr const char* kVersion = "2";
-/// The same for pictures that are drawn because the art has none.
-constexpr const char* kSketchVersion = "2";
-constexpr int kRecipes = 50;
-constexpr int kExitTopic = 0;
-constexpr int kMusicTopic = 7;
-const QString kMainGround = QStringLiteral("rendered/hlavni/pozadi");
-/// Composites and gallery pictures, which fill the screen.
+/// Photos and gallery pictures that fill the screen, and composites.
 constexpr QSize kScreenSize(1440, 1080);
-const QColor kPaper(244, 234, 210);
-const QColor kNight(11, 34, 38);
-
-struct PhotoSize {
-    const char* folder;
-    QSize size;
-};
-constexpr PhotoSize kSizes[] = {{"Recepty", {1440, 1080}}, {"Velke", {720, 540}}, {"Male", {320, 240}}};
+/// Lists and prints.
+constexpr QSize kSmallSize(640, 480);
 /// The grounds are blurred: more would only take room.
 constexpr QSize kGroundSize(320, 240);
+const QColor kPaper(244, 234, 210);
+const QColor kNight(11, 34, 38);
 
 /// \a picture cut to \a size's shape around its middle and scaled to it.
 QImage fitted(const QImage& picture, const QSize& size) {
@@ -56,80 +43,90 @@ QImage calmGround(const QImage& picture) {
 }
 
 bool saveBitmap(const QImage& picture, const QString& file) {
-    return picture.convertToFormat(QImage::Format_RGB32).save(file, "BMP");
+    return !picture.isNull() && picture.convertToFormat(QImage::Format_RGB32).save(file, "BMP");
 }
 
-QString dishFile(const Workshop& shop, int id) {
-    return shop.artPicture(QStringLiteral("rendered/dishes/%1").arg(id, 2, 10, QLatin1Char('0')));
+/// A second name for a file, without its bytes twice where the file system can.
+bool link(const QString& from, const QString& to) {
+    QFile::remove(to);
+    std::error_code failed;
+    std::filesystem::create_hard_link(from.toStdString(), to.toStdString(), failed);
+    return !failed || QFile::copy(from, to);
 }
 
-/// The scene that the photo is rendered from.
-QString dishDescription(const Workshop& shop, int id) {
-    return shop.art + QStringLiteral("/dishes/%1.dish").arg(id, 2, 10, QLatin1Char('0'));
+/// What the dish of the art's picture is called, as its description says.
+QString renderedName(const QString& description) {
+    QFile file(description);
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    const QString head = QStringLiteral("name ");
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n'))
+        if (line.startsWith(head)) return line.mid(head.size()).trimmed();
+    return {};
 }
 
-QString dishName(const Workshop& shop, int id) {
-    return shop.book.recipes.contains(id) ? shop.book.recipes[id].name : QStringLiteral("Recept %1").arg(id);
-}
-
-QImage dish(const Workshop& shop, int id) {
-    const QImage rendered(dishFile(shop, id));
-    if (!rendered.isNull()) return rendered;
-    QFile description(dishDescription(shop, id));
-    if (description.open(QIODevice::ReadOnly)) {
-        const QImage sketch = sketchDish(QString::fromUtf8(description.readAll()));
-        if (!sketch.isNull()) return sketch;
+/// The photo of \a recipe; empty when there is none of this dish.
+QString photoOf(Workshop& shop, const Recipe& recipe) {
+    const QString beside = shop.content + u'/' + recipe.place.file.chopped(4);
+    for (const char* suffix : {".jpg", ".jpeg", ".png", ".webp"})
+        if (QFileInfo::exists(beside + QLatin1String(suffix))) return beside + QLatin1String(suffix);
+    const QString number = QStringLiteral("%1").arg(recipe.id, 2, 10, QLatin1Char('0'));
+    const QString file = shop.artPicture(QStringLiteral("rendered/dishes/") + number);
+    const QString shown = renderedName(shop.art + QStringLiteral("/dishes/%1.dish").arg(number));
+    if (!QFileInfo::exists(file)) {
+        shop.problems.finding({file, 0}, QStringLiteral("fotografie jídla „%1“ chybí").arg(recipe.name));
+    } else if (shown != recipe.name) {
+        shop.problems.finding(
+            recipe.placeOf(QStringLiteral("název")),
+            QStringLiteral("fotografie %1.jpg ukazuje „%2“, ne „%3“; vlastní fotografie patří "
+                           "vedle receptu")
+                .arg(number, shown, recipe.name));
+    } else {
+        return file;
     }
-    return standInDish(id, dishName(shop, id), gridCourses(id).value(0));
+    return {};
 }
 
-/// What a dish's pictures are made from.
-QString dishOrigin(const Workshop& shop, int id) {
-    const QString file = dishFile(shop, id);
-    if (QFileInfo::exists(file)) return originOf({file}, QLatin1String(kVersion));
-    return originOf({file, dishDescription(shop, id)},
-                    QLatin1String(kVersion) + QLatin1String(kSketchVersion) + dishName(shop, id));
-}
+/// The photos of one dish.
+struct Dish {
+    QString disc;
+    int id = 0;
+    QString name;
+    QString source;
 
-/// A picture of another size is another picture.
-QString withSize(const QString& origin, const QSize& size) {
-    return QStringLiteral("%1-%2x%3").arg(origin).arg(size.width()).arg(size.height());
-}
-
-void makeDish(Workshop& shop, int id) {
-    const QString origin = dishOrigin(shop, id);
-    QImage source;
-    const auto loaded = [&]() -> const QImage& {
-        if (source.isNull()) source = dish(shop, id);
-        return source;
-    };
-    const QString name = QStringLiteral("/r%1.bmp").arg(id);
-    for (const PhotoSize& photo : kSizes) {
-        const QString file = shop.disc + QStringLiteral("/foto/") + QLatin1String(photo.folder) + name;
-        shop.make(file, withSize(origin, photo.size),
-                  [&] { return saveBitmap(fitted(loaded(), photo.size), file); });
+    QString file(const char* folder) const {
+        return disc + QStringLiteral("/foto/%1/r%2.bmp").arg(QLatin1String(folder)).arg(id);
     }
-    const QString ground = shop.disc + QStringLiteral("/foto/Podklad") + name;
-    shop.make(ground, withSize(origin, kGroundSize),
-              [&] { return saveBitmap(calmGround(loaded()), ground); });
-}
 
-QRect onPicture(const QRect& twips, const QSize& picture) {
-    const double scale = picture.width() / 12000.0;
+    bool make() const {
+        const QImage photo = source.isEmpty() ? plainPlate(name) : QImage(source);
+        return !photo.isNull() && saveBitmap(fitted(photo, kScreenSize), file("Recepty")) &&
+               link(file("Recepty"), file("Velke")) && saveBitmap(fitted(photo, kSmallSize), file("Male")) &&
+               saveBitmap(calmGround(photo), file("Podklad"));
+    }
+
+    Task task() const {
+        return {{file("Recepty"), file("Velke"), file("Male"), file("Podklad")},
+                originOf({source}, stamp::photos() + name),
+                [*this] { return make(); }};
+    }
+};
+
+QRect onPicture(const QRect& twips) {
+    const double scale = kScreenSize.width() / 12000.0;
     return QRectF(twips.x() * scale, twips.y() * scale, twips.width() * scale, twips.height() * scale)
         .toRect();
 }
 
 /// All dishes on the grid's ground; those outside \a course dimmed, none when it is empty.
-QImage composite(const Workshop& shop, const QList<QImage>& dishes, const QString& course) {
-    const QImage ground(shop.artPicture(QStringLiteral("rendered/pozadi/sit")));
-    QImage picture = fitted(ground.isNull() ? standInGround({}) : ground, kScreenSize);
-    picture = picture.convertToFormat(QImage::Format_RGB32);
+QImage composite(const QString& ground, const QList<Dish>& dishes, const QString& course) {
+    QImage picture(ground);
+    if (picture.isNull()) return {};
+    picture = fitted(picture, kScreenSize).convertToFormat(QImage::Format_RGB32);
     QPainter painter(&picture);
-    for (int id = 1; id <= kRecipes; ++id) {
-        const QRect cell = onPicture(gridCell(id), kScreenSize);
-        painter.drawImage(cell, dishes[id - 1]);
-        if (course.isEmpty() || gridCourses(id).contains(course)) continue;
+    for (const Dish& dish : dishes) {
+        const QRect cell = onPicture(gridCellRect(dish.id));
+        painter.drawImage(cell, fitted(QImage(dish.file("Male")), cell.size()));
+        if (course.isEmpty() || gridCourses(dish.id).contains(course)) continue;
         QColor dim = kNight;
         dim.setAlpha(200);
         painter.fillRect(cell, dim);
@@ -137,123 +134,55 @@ QImage composite(const Workshop& shop, const QList<QImage>& dishes, const QStrin
     return picture;
 }
 
-void makeGrid(Workshop& shop) {
-    QString details = QLatin1String(kVersion);
-    for (int id = 1; id <= kRecipes; ++id) details += dishOrigin(shop, id);
-    const QString origin = originOf({shop.artPicture(QStringLiteral("rendered/pozadi/sit"))}, details);
-    QList<QImage> dishes;
-    const auto loaded = [&]() -> const QList<QImage>& {
-        const QSize cell = onPicture(gridCell(1), kScreenSize).size();
-        for (int id = 1; id <= kRecipes && dishes.size() < kRecipes; ++id)
-            dishes << fitted(QImage(shop.disc + QStringLiteral("/foto/Male/r%1.bmp").arg(id)), cell);
-        return dishes;
-    };
-    const QStringList courses{QString(), QStringLiteral("polévka"), QStringLiteral("teplé"),
-                              QStringLiteral("studené"), QStringLiteral("slavnostní")};
-    for (int i = 0; i < courses.size(); ++i) {
-        const QString name = i == 0 ? QStringLiteral("sitCela") : QStringLiteral("sit%1").arg(i - 1);
+QList<Task> gridTasks(Workshop& shop, const QList<Dish>& dishes) {
+    QString details = stamp::photos();
+    for (const Dish& dish : dishes) details += dish.task().origin;
+    const QString ground = shop.neededPicture(QStringLiteral("rendered/pozadi/sit"));
+    QList<Task> tasks;
+    for (int i = -1; i < courses().size(); ++i) {
+        const QString name = i < 0 ? QStringLiteral("sitCela") : QStringLiteral("sit%1").arg(i);
         const QString file = shop.disc + QStringLiteral("/foto/%1.bmp").arg(name);
-        shop.make(file, origin, [&] { return saveBitmap(composite(shop, loaded(), courses[i]), file); });
+        tasks << Task{{file}, originOf({ground}, details), [=] {
+                          return saveBitmap(composite(ground, dishes, courses().value(i)), file);
+                      }};
     }
+    return tasks;
 }
 
-/// One picture of the disc from one file of the art, with a ground and a title as its stand-in.
-void makeOne(Workshop& shop, const QString& source, const QString& target, const QSize& size,
-             const QString& title) {
-    const QString from = shop.artPicture(source);
+/// One picture of the disc from one file of the art.
+Task pictureTask(Workshop& shop, const QString& source, const QString& target, const QSize& size) {
+    const QString from = shop.neededPicture(source);
     const QString to = shop.disc + u'/' + target;
-    shop.make(to, originOf({from}, QLatin1String(kVersion)), [&] {
-        const QImage rendered(from);
-        return saveBitmap(fitted(rendered.isNull() ? standInGround(title) : rendered, size), to);
-    });
-    if (!QFileInfo::exists(from)) shop.problems.note(QStringLiteral("art/%1 is missing").arg(source));
+    return {{to}, originOf({from}, stamp::photos()), [=] {
+                const QImage picture(from);
+                return !picture.isNull() && saveBitmap(fitted(picture, size), to);
+            }};
 }
 
-QString mainLayoutFile(const Workshop& shop) {
-    return shop.art + QStringLiteral("/layout/hlavni.txt");
-}
-
-QString topicName(const Workshop& shop, int topic) {
-    if (topic == kExitTopic) return QStringLiteral("Konec");
-    if (topic == kMusicTopic) return QStringLiteral("Hudba a zvuky");
-    for (const MenuTopic& one : shop.book.menuTopics)
-        if (one.number == topic) return one.heading;
-    return {};
-}
-
-/// The main screen's buttons, from the art's layout: "number left top width height …" in twips.
-QList<NamedPlace> mainButtons(const Workshop& shop) {
-    QList<NamedPlace> places;
-    QFile file(mainLayoutFile(shop));
-    if (!file.open(QIODevice::ReadOnly)) return places;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
-        const QStringList words = line.simplified().split(u' ');
-        bool isButton = false;
-        const int topic = words.first().toInt(&isButton);
-        if (isButton && words.size() >= 5)
-            places << NamedPlace{{words[1].toInt(), words[2].toInt(), words[3].toInt(), words[4].toInt()},
-                                 topicName(shop, topic)};
+/// The fifty cells of the grid; a number without a recipe shows an empty plate.
+QList<Dish> allDishes(Workshop& shop) {
+    QList<Dish> dishes;
+    for (int id = 1; id <= kGridCells; ++id) {
+        const auto recipe = shop.book.recipes.constFind(id);
+        const bool isThere = recipe != shop.book.recipes.cend();
+        dishes << Dish{shop.disc, id, isThere ? recipe->name : QString(),
+                       isThere ? photoOf(shop, *recipe) : QString()};
     }
-    return places;
-}
-
-QByteArray groundBytes(const Workshop& shop, const QString& source, const QString& title) {
-    QFile file(shop.artPicture(source));
-    if (file.open(QIODevice::ReadOnly)) return file.readAll();
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    const QImage drawn = source == kMainGround ? standInPlaces(mainButtons(shop)) : standInGround(title);
-    drawn.save(&buffer, "JPG", 90);
-    return bytes;
+    return dishes;
 }
 
 }  // namespace
 
-QRect gridCell(int id) {
-    constexpr int kInRow = 7;
-    const int column = (id - 1) % kInRow;
-    const int row = (id - 1) / kInRow;
-    return {240 + column * 1280, 240 + row * 960, 1240, 930};
-}
-
 void makePhotos(Workshop& shop) {
-    QStringList missing;
-    for (int id = 1; id <= kRecipes; ++id) {
-        makeDish(shop, id);
-        if (!QFileInfo::exists(dishFile(shop, id))) missing << QString::number(id);
-    }
-    if (!missing.isEmpty())
-        shop.problems.note(
-            QStringLiteral("art/rendered/dishes lacks %1").arg(missing.join(QStringLiteral(", "))));
-    makeGrid(shop);
-    makeOne(shop, QStringLiteral("rendered/prvky/vino256"), QStringLiteral("foto/vino256.bmp"), {400, 300},
-            QStringLiteral("Víno"));
+    const QList<Dish> dishes = allDishes(shop);
+    QList<Task> tasks;
+    for (const Dish& dish : dishes) tasks << dish.task();
+    tasks << pictureTask(shop, QStringLiteral("rendered/prvky/vino256"), QStringLiteral("foto/vino256.bmp"),
+                         {400, 300});
     for (const GalleryPicture& picture : shop.book.gallery)
-        makeOne(shop, QStringLiteral("rendered/sponzor/%1").arg(picture.id),
-                QStringLiteral("foto/sponzor/%1.bmp").arg(picture.id), kScreenSize, picture.name);
-}
-
-void makeScreenPictures(Workshop& shop) {
-    const QStringList sources{kMainGround,
-                              QStringLiteral("rendered/pozadi/konec"),
-                              QStringLiteral("rendered/pozadi/video"),
-                              QStringLiteral("rendered/pozadi/seznam"),
-                              QStringLiteral("rendered/pozadi/recept"),
-                              QStringLiteral("rendered/pozadi/sit")};
-    QStringList files;
-    for (const QString& source : sources) {
-        files << shop.artPicture(source);
-        if (!QFileInfo::exists(files.last()))
-            shop.problems.note(QStringLiteral("art/%1 is missing").arg(source));
-    }
-    const QString output = shop.program + QStringLiteral("/KOp.bj");
-    files << mainLayoutFile(shop);
-    shop.make(output, originOf(files, QLatin1String(kVersion)), [&] {
-        QList<QByteArray> pictures;
-        for (const QString& source : sources) pictures << groundBytes(shop, source, {});
-        writePictureDatabase(pictures, output, shop.problems);
-        return QFileInfo::exists(output);
-    });
+        tasks << pictureTask(shop, QStringLiteral("rendered/sponzor/%1").arg(picture.id),
+                             QStringLiteral("foto/sponzor/%1.bmp").arg(picture.id), kScreenSize);
+    if (shop.makeAll(tasks)) shop.makeAll(gridTasks(shop, dishes));
 }
 
 }  // namespace sarne::disc

@@ -1,19 +1,14 @@
 #pragma once
 
-#include <QRect>
-
 #include "workshop.h"
 
 namespace sarne::disc {
 
 /// Makes the photos of the recipes in their four sizes, the composites of the photo grid, the wine picture,
 /// and the gallery's pictures.
+///
+/// A recipe's photo is the picture beside its file ("recepty/33-candat.jpg"), or the art's of its number, if
+/// that was made for a dish of this name. Without either it is a plain plate, which a release does not ship.
 void makePhotos(Workshop& shop);
-
-/// Makes the picture database: the grounds of six screens.
-void makeScreenPictures(Workshop& shop);
-
-/// Where the grid shows the photo of recipe \a id, in twips of a 12000 x 9000 screen: seven in a row.
-QRect gridCell(int id);
 
 }  // namespace sarne::disc

@@ -12,10 +12,17 @@ struct Place {
     int line = 0;
 };
 
+/// Whether the book is being written, when what is only unfinished may wait, or is to be shipped.
+enum class Edition { draft, release };
+
 /// What is wrong with the content or the art. Errors stop the build; notes are printed at its end.
 class Problems {
   public:
+    explicit Problems(Edition edition = Edition::draft) : edition_(edition) {}
+
     void error(const Place& place, const QString& text);
+    /// An error of a release, a note while the book is being written.
+    void finding(const Place& place, const QString& text);
     void note(const QString& text);
 
     bool hasErrors() const { return !errors_.isEmpty(); }
@@ -24,6 +31,7 @@ class Problems {
     const QStringList& notes() const { return notes_; }
 
   private:
+    Edition edition_;
     QStringList errors_;
     QStringList notes_;
 };

@@ -5,6 +5,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <mutex>
+
+#include "parallel.h"
 
 namespace sarne::disc {
 
@@ -15,8 +18,14 @@ Ledger::Ledger(QString file) : file_(std::move(file)) {
         origins_.insert(line.section(u'\t', 1), line.section(u'\t', 0, 0));
 }
 
-bool Ledger::isCurrent(const QString& output, const QString& origin) const {
+bool Ledger::isCurrent(const QString& output, const QString& origin) {
+    wanted_.insert(output);
     return origins_.value(output) == origin && QFileInfo::exists(output);
+}
+
+void Ledger::setMade(const QString& output, const QString& origin) {
+    wanted_.insert(output);
+    origins_.insert(output, origin);
 }
 
 void Ledger::save() const {
@@ -24,6 +33,15 @@ void Ledger::save() const {
     if (!kept.open(QIODevice::WriteOnly)) return;
     for (auto entry = origins_.cbegin(); entry != origins_.cend(); ++entry)
         kept.write((entry.value() + u'\t' + entry.key() + u'\n').toUtf8());
+}
+
+void Ledger::sweep() {
+    const QStringList made = origins_.keys();
+    for (const QString& output : made) {
+        if (wanted_.contains(output)) continue;
+        QFile::remove(output);
+        origins_.remove(output);
+    }
 }
 
 QString originOf(const QStringList& files, const QString& details) {
@@ -45,15 +63,41 @@ QString Workshop::artPicture(const QString& stem) const {
     return wanted.path() + u'/' + (found.isEmpty() ? patterns.first() : found.first());
 }
 
+QString Workshop::neededPicture(const QString& stem) {
+    const QString file = artPicture(stem);
+    if (!QFileInfo::exists(file)) problems.error({file, 0}, QStringLiteral("obrázek chybí"));
+    return file;
+}
+
 bool Workshop::make(const QString& output, const QString& origin, const std::function<bool()>& make) {
-    if (ledger.isCurrent(output, origin)) return true;
-    QDir().mkpath(QFileInfo(output).path());
-    if (!make()) {
-        problems.error({output, 0}, QStringLiteral("it could not be made"));
-        return false;
+    return makeAll({{{output}, origin, make}});
+}
+
+bool Workshop::makeAll(const QList<Task>& tasks) {
+    QList<Task> stale;
+    for (const Task& task : tasks) {
+        qsizetype current = 0;
+        for (const QString& output : task.outputs) current += ledger.isCurrent(output, task.origin);
+        if (current == task.outputs.size()) continue;
+        for (const QString& output : task.outputs) QDir().mkpath(QFileInfo(output).path());
+        stale << task;
     }
-    ledger.setMade(output, origin);
-    return true;
+    const qsizetype known = problems.errors().size();
+    QStringList failed;
+    std::mutex finished;
+    inParallel(stale.size(), [&](qsizetype i) {
+        const bool isMade = stale[i].make();
+        const std::lock_guard lock(finished);
+        if (!isMade) {
+            failed << stale[i].outputs.first();
+            return;
+        }
+        for (const QString& output : stale[i].outputs) ledger.setMade(output, stale[i].origin);
+        ledger.save();
+    });
+    if (problems.errors().size() == known)
+        for (const QString& output : failed) problems.error({output, 0}, QStringLiteral("nelze vyrobit"));
+    return failed.isEmpty();
 }
 
 }  // namespace sarne::disc

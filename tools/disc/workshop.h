@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -16,19 +17,31 @@ class Ledger {
     /// Reads the ledger of an earlier run where there is one.
     explicit Ledger(QString file);
 
-    /// True when \a output is there and was made from the same \a origin.
-    bool isCurrent(const QString& output, const QString& origin) const;
-    void setMade(const QString& output, const QString& origin) { origins_.insert(output, origin); }
+    /// True when \a output is there and was made from the same \a origin. An output that is asked for is one
+    /// that this run wants.
+    bool isCurrent(const QString& output, const QString& origin);
+    void setMade(const QString& output, const QString& origin);
     void save() const;
+    /// Deletes what earlier runs made and this one has not asked for, and forgets it.
+    void sweep();
 
   private:
     QString file_;
     QHash<QString, QString> origins_;
+    QSet<QString> wanted_;
 };
 
 /// A short text that changes when one of the files does (its size or its time), or \a details. A file that
 /// does not exist counts as such.
 QString originOf(const QStringList& files, const QString& details);
+
+/// Files that are made in one go from the same things.
+struct Task {
+    QStringList outputs;
+    QString origin;
+    /// Makes the outputs, in whichever thread; false when it did not succeed.
+    std::function<bool()> make;
+};
 
 /// Where the stages of the disc take from and put to.
 struct Workshop {
@@ -46,11 +59,16 @@ struct Workshop {
     /// The picture of the art that \a stem names ("rendered/pozadi/sit"): a JPEG or PNG, letter case aside.
     /// Where there is none, the path that it should have.
     QString artPicture(const QString& stem) const;
+    /// The same; an error naming the file when it is missing.
+    QString neededPicture(const QString& stem);
 
-    /// Runs \a make unless \a output was made from the same \a origin before; \a make returns whether it
-    /// succeeded, and it is an error when it did not. The output's folder is there when it is called. True
-    /// when the output is current afterwards.
+    /// Makes \a output unless it was made from the same \a origin before. See makeAll().
     bool make(const QString& output, const QString& origin, const std::function<bool()>& make);
+    /// Runs those of the tasks whose outputs are not there or were made from something else, several at a
+    /// time. Each is written down when it is done, so that a build that is broken off goes on from there. An
+    /// output's folder is there when its task runs. A task that fails is an error, unless an error was
+    /// reported meanwhile that tells why. True when all outputs are current afterwards.
+    bool makeAll(const QList<Task>& tasks);
 };
 
 }  // namespace sarne::disc

@@ -23,7 +23,7 @@ void frmSit::Zobraz() {
 void frmSit::readNames() {
     Recordset recipes = app().Db().OpenTable(QStringLiteral("Recepty"));
     recipes.setIndex(QStringLiteral("PrimaryKey"));
-    for (int cell = 1; cell <= PhotoGrid::kCells; ++cell) {
+    for (int cell = 1; cell <= kGridCells; ++cell) {
         recipes.Seek(QStringLiteral("="), cell);
         names_[size_t(cell)] =
             recipes.NoMatch() ? QString() : recipes.field(QStringLiteral("Nazev")).toString();
@@ -40,14 +40,14 @@ void frmSit::setGroup(int group) {
 }
 
 void frmSit::applyGroup() {
-    const size_t shown = grid_.isWhole() ? PhotoGrid::kGroups : size_t(grid_.group());
+    const size_t shown = grid_.isWhole() ? kGridGroups : size_t(grid_.group());
     if (composites_[shown].isNull()) {
         const QString name = grid_.isWhole() ? QStringLiteral("Cela") : QString::number(grid_.group());
         composites_[shown] = app().mediaPicture(QStringLiteral("foto\\sit%1.bmp").arg(name));
     }
-    for (int cell = 1; cell <= PhotoGrid::kCells; ++cell)
+    for (int cell = 1; cell <= kGridCells; ++cell)
         imgFoto[size_t(cell - 1)]->setEnabled(grid_.isAlive(cell));
-    for (int group = 0; group < PhotoGrid::kGroups; ++group)
+    for (int group = 0; group < kGridGroups; ++group)
         imgSkupina[size_t(group)]->setLatched(group == grid_.group());
     imgCela->setLatched(grid_.isWhole());
     ground_.forget();
@@ -142,7 +142,7 @@ bool frmSit::moveByKey(int key) {
 
 bool frmSit::groupByKey(int key) {
     if (key == Qt::Key_0) setGroup(PhotoGrid::kNoGroup);
-    if (key >= Qt::Key_1 && key < Qt::Key_1 + PhotoGrid::kGroups) setGroup(key - Qt::Key_1);
+    if (key >= Qt::Key_1 && key < Qt::Key_1 + kGridGroups) setGroup(key - Qt::Key_1);
     return key >= Qt::Key_0 && key <= Qt::Key_9;
 }
 

@@ -56,8 +56,8 @@ class frmSit : public Form {
     static QRect frameOf(int cell);
 
     PhotoGrid grid_;
-    std::array<QString, PhotoGrid::kCells + 1> names_;
-    std::array<Picture, PhotoGrid::kGroups + 1> composites_;  // the groups', then the whole
+    std::array<QString, kGridCells + 1> names_;
+    std::array<Picture, kGridGroups + 1> composites_;  // the groups', then the whole
     Ground ground_;
     int framedCell_ = 0;
     std::vector<Button*> imgFoto;  // cell 1 first

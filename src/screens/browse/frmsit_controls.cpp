@@ -36,9 +36,9 @@ frmSit::frmSit(basSarne& run)
 }
 
 void frmSit::buildCells() {
-    for (int cell = 1; cell <= PhotoGrid::kCells; ++cell) {
+    for (int cell = 1; cell <= kGridCells; ++cell) {
         auto* button = new Button(*this, QStringLiteral("imgFoto(%1)").arg(cell));
-        button->place(PhotoGrid::cellRect(cell));
+        button->place(gridCellRect(cell));
         button->setFocusPolicy(Qt::NoFocus);
         connect(button, &Control::hovered, this, [this, cell] { hoverOver(cell); });
         connect(button, &Control::clicked, this, [this, cell] { clickOn(cell); });
@@ -54,7 +54,7 @@ void frmSit::buildCells() {
 void frmSit::buildGroups() {
     static const QString kNames[] = {QStringLiteral("Polévky"), QStringLiteral("Teplá jídla"),
                                      QStringLiteral("Studená jídla"), QStringLiteral("Slavnostní mísy")};
-    for (int group = 0; group < PhotoGrid::kGroups; ++group) {
+    for (int group = 0; group < kGridGroups; ++group) {
         auto* button = new PictureButton(*this, QStringLiteral("imgSkupina(%1)").arg(group));
         button->place(sit::group(group));
         button->dress(app(), QStringLiteral("Skupina%1").arg(group), kNames[group],
@@ -112,13 +112,13 @@ void frmSit::mousePressEvent(QMouseEvent* event) {
 }
 
 QRect frmSit::frameOf(int cell) {
-    return PhotoGrid::cellRect(cell).adjusted(-kCellFrame, -kCellFrame, kCellFrame, kCellFrame);
+    return gridCellRect(cell).adjusted(-kCellFrame, -kCellFrame, kCellFrame, kCellFrame);
 }
 
 void frmSit::paintGround(QPainter& painter) const {
     const QRect screen({0, 0}, twips().size());
     const Picture& composite =
-        composites_[grid_.isWhole() ? size_t(PhotoGrid::kGroups) : size_t(grid_.group())];
+        composites_[grid_.isWhole() ? size_t(kGridGroups) : size_t(grid_.group())];
     painter.fillRect(screen, colors::kNight);
     (composite.isNull() ? app().Pictures.Sit : composite).draw(painter, screen, Fit::Stretch);
     for (const QRect& plate : {sit::kGroupPlate, sit::kBarPlate}) paintPlate(painter, plate);
@@ -128,7 +128,7 @@ void frmSit::paint(QPainter& painter) {
     ground_.draw(painter, {{0, 0}, twips().size()}, [this](QPainter& ground) { paintGround(ground); });
     if (!Label1.text().isEmpty()) paintPlate(painter, sit::kNamePlate);
     if (grid_.cell() == 0) return;
-    const QRectF cell = QRectF(PhotoGrid::cellRect(grid_.cell())).adjusted(10, 10, -10, -10);
+    const QRectF cell = QRectF(gridCellRect(grid_.cell())).adjusted(10, 10, -10, -10);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(colors::kNight, 2 * kCellFrame));
     painter.drawRoundedRect(cell, 60, 60);

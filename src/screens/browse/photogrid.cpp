@@ -1,47 +1,28 @@
 #include "screens/browse/photogrid.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <numeric>
 
 namespace sarne {
 namespace {
 
-using Id = std::int16_t;
-
-constexpr std::array<Id, 5> kGroup0{15, 16, 20, 41, 44};
-constexpr std::array<Id, 29> kGroup1{1,  3,  4,  5,  6,  7,  10, 13, 14, 18, 19, 23, 24, 26, 27,
-                                     28, 30, 32, 33, 34, 36, 37, 38, 39, 40, 42, 43, 45, 47};
-constexpr std::array<Id, 22> kGroup2{2,  5,  8,  9,  11, 12, 13, 17, 19, 21, 22,
-                                     25, 29, 31, 35, 36, 37, 39, 46, 48, 49, 50};
-constexpr std::array<Id, 4> kGroup3{9, 35, 46, 50};
-
 bool isCell(int cell) {
-    return cell >= 1 && cell <= PhotoGrid::kCells;
+    return cell >= 1 && cell <= kGridCells;
 }
 
 int rowOf(int cell) {
-    return (cell - 1) / PhotoGrid::kInRow;
+    return (cell - 1) / kGridInRow;
 }
 
 int columnOf(int cell) {
-    return (cell - 1) % PhotoGrid::kInRow;
+    return (cell - 1) % kGridInRow;
 }
 
 }  // namespace
 
-QRect PhotoGrid::cellRect(int cell) {
-    return {240 + columnOf(cell) * 1280, 240 + rowOf(cell) * 960, 1240, 930};
-}
-
-std::span<const std::int16_t> PhotoGrid::groupIds(int group) {
-    static constexpr std::span<const Id> kGroups[] = {kGroup0, kGroup1, kGroup2, kGroup3};
-    return group >= 0 && group < PhotoGrid::kGroups ? kGroups[group] : std::span<const Id>();
-}
-
 bool PhotoGrid::isAlive(int cell) const {
-    return isCell(cell) && (isWhole() || std::ranges::count(groupIds(group_), cell) > 0);
+    return isCell(cell) && (isWhole() || std::ranges::count(gridGroupIds(group_), cell) > 0);
 }
 
 bool PhotoGrid::setGroup(int group) {
@@ -82,9 +63,9 @@ int PhotoGrid::besides(int step) const {
 }
 
 int PhotoGrid::above(int step) const {
-    for (int row = rowOf(hoverCell_) + step; row >= 0 && row <= rowOf(kCells); row += step) {
+    for (int row = rowOf(hoverCell_) + step; row >= 0 && row <= rowOf(kGridCells); row += step) {
         int best = 0;
-        for (int cell = row * kInRow + 1; cell <= (row + 1) * kInRow; ++cell) {
+        for (int cell = row * kGridInRow + 1; cell <= (row + 1) * kGridInRow; ++cell) {
             const auto distance = [&](int other) { return std::abs(columnOf(other) - columnOf(hoverCell_)); };
             if (isAlive(cell) && (best == 0 || distance(cell) < distance(best))) best = cell;
         }
@@ -103,8 +84,8 @@ bool PhotoGrid::move(int right, int down) {
 }
 
 std::vector<std::int16_t> PhotoGrid::photoIds() const {
-    if (!isWhole()) return {groupIds(group_).begin(), groupIds(group_).end()};
-    std::vector<std::int16_t> all(kCells);
+    if (!isWhole()) return {gridGroupIds(group_).begin(), gridGroupIds(group_).end()};
+    std::vector<std::int16_t> all(kGridCells);
     std::iota(all.begin(), all.end(), std::int16_t(1));
     return all;
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QRect>
 #include <cstdint>
-#include <span>
 #include <vector>
+
+#include "core/gridtable.h"
 
 namespace sarne {
 
@@ -11,15 +11,7 @@ namespace sarne {
 /// which one is chosen. A cell's number is its recipe's id.
 class PhotoGrid {
   public:
-    static constexpr int kCells = 50;
-    static constexpr int kInRow = 7;
-    static constexpr int kGroups = 4;
     static constexpr int kNoGroup = 255;  ///< the whole grid
-
-    /// Where \a cell lies on the composite pictures, in twips of the screen.
-    static QRect cellRect(int cell);
-    /// The recipe ids of \a group (0 to 3), in their order; none for another number.
-    static std::span<const std::int16_t> groupIds(int group);
 
     int group() const { return group_; }
     bool isWhole() const { return group_ > 200; }

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <numeric>
 
+#include "core/topics.h"
 #include "core/value.h"
 #include "db/database.h"
 #include "db/queries.h"
@@ -55,11 +56,10 @@ void openPhotos(Screens& screens, int item) {
     screens.showPhotos(all);
 }
 
-void openRecipeList(Screens& screens, int item, int level, const QString& ids) {
+void openRecipeList(Screens& screens, int item, TopicKind kind, const QString& ids) {
     if (ids.isEmpty()) return;  // an empty list would mean the whole table
-    const bool flat = level == 3 || level == 6 || level == 15;
     const bool first = QString::number(item).endsWith(u'1');
-    screens.showList(ids, flat || first ? kRecipes : kQuickRecipes);
+    screens.showList(ids, kind == TopicKind::lists || first ? kRecipes : kQuickRecipes);
 }
 
 /// "H81" in a menu row leads to keyword 81.
@@ -68,41 +68,47 @@ void openKeyword(Screens& screens, const QString& number) {
     if (keyword > 0) screens.showIndex(keyword);
 }
 
+/// A level below a topic opens lists; two numbers more mean the music.
+TopicKind kindOfLevel(int level) {
+    if (level == 71 || level == 72) return TopicKind::music;
+    return level < kTopics ? topicKind(level) : TopicKind::submenus;
+}
+
 void openTarget(basSarne& app, std::int16_t item, std::int16_t level, const QString& text) {
     Screens& screens = app.screens();
-    switch (level) {
-        case 0:
+    const TopicKind kind = kindOfLevel(level);
+    switch (kind) {
+        case TopicKind::results:
             if (const QString ids = recipesWithFoundIngredient(app.Db(), item); !ids.isEmpty())
                 screens.showList(ids, kRecipes);
             break;
-        case 1:
-        case 9:
-        case 13:
+        case TopicKind::gallery:
             screens.showSponsor(level, QString());
             break;
-        case 4:
+        case TopicKind::tables:
             if (item == 1)
                 screens.showPage(QStringLiteral("10"));
             else
                 screens.showTables(item);
             break;
-        case 7:
-        case 71:
-        case 72:
+        case TopicKind::music:
             screens.showMusicSettings();
             break;
-        case 10:
+        case TopicKind::photos:
             openPhotos(screens, item);
             break;
-        case 18:
+        case TopicKind::videos:
             if (const auto number = toRecordId(static_cast<qint64>(leadingNumber(text))))
                 screens.showVideo(*number);
             break;
-        default:
+        case TopicKind::none:
+        case TopicKind::submenus:
+        case TopicKind::lists:
+        case TopicKind::search:
             if (text.startsWith(u'H'))
                 openKeyword(screens, text.mid(1));
             else
-                openRecipeList(screens, item, level, text);
+                openRecipeList(screens, item, kind, text);
     }
 }
 

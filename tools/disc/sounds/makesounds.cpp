@@ -3,14 +3,13 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "../stamps.h"
 #include "music.h"
 #include "voice.h"
 
 namespace sarne::disc {
 namespace {
 
-/// Changed whenever the same descriptions would give other sounds.
-const QString kVersion = QStringLiteral("1");
 const QString kEffects = QStringLiteral("zvuky/efekty.txt");
 /// Music stays in the background of the effects and the voice.
 constexpr double kMusicPeak = -10;
@@ -36,47 +35,44 @@ QList<Effect> readCheckedEffects(Workshop& shop) {
     return shop.problems.hasErrors() ? QList<Effect>() : effects;
 }
 
-/// Makes one file and writes it down at once, so that a build that is broken off goes on from there.
-void makeFile(Workshop& shop, const QString& file, const QString& origin,
-              const std::function<Sound()>& make) {
-    if (shop.ledger.isCurrent(file, origin)) return;
-    const bool isMade = shop.make(file, origin, [&] {
-        const Sound sound = make();
-        return !sound.samples.empty() && writeWav(file, sound);
-    });
-    if (isMade)
-        shop.ledger.save();
-    else
-        shop.problems.error({file, 0}, QStringLiteral("the sound cannot be made"));
+/// A task that writes a sound.
+Task soundTask(const QString& file, const QString& origin, const std::function<Sound()>& make) {
+    return {{file}, origin, [=] {
+                const Sound sound = make();
+                return !sound.samples.empty() && writeWav(file, sound);
+            }};
 }
 
 void renderEffects(Workshop& shop, const QList<Effect>& effects) {
-    const QString origin = originOf({inContent(shop, kEffects)}, kVersion);
+    const QString origin = originOf({inContent(shop, kEffects)}, stamp::sounds());
+    QList<Task> tasks;
     for (const Effect& effect : effects) {
-        if (effect.number == 0) continue;
         const QString file = shop.scratch + QStringLiteral("/zvuky/%1.wav").arg(effect.number);
-        makeFile(shop, file, origin, [&] { return renderEffect(effect); });
+        if (effect.number != 0) tasks << soundTask(file, origin, [=] { return renderEffect(effect); });
     }
+    shop.makeAll(tasks);
 }
 
 void makeMusic(Workshop& shop, const QList<Effect>& effects, const QString& source, const QString& output) {
     const ContentFolder folder(shop.content, shop.problems);
     const QString file = shop.disc + u'/' + output;
-    const QString origin = originOf({inContent(shop, source), inContent(shop, kEffects)}, kVersion);
+    const QString origin = originOf({inContent(shop, source), inContent(shop, kEffects)}, stamp::sounds());
     if (shop.ledger.isCurrent(file, origin)) return;
     const Score score = readScore(folder.read(source), shop.problems);
     if (shop.problems.hasErrors()) return;
-    makeFile(shop, file, origin, [&] {
+    shop.makeAll({soundTask(file, origin, [&] {
         return renderMusic(score, effects, kMusicPeak, shop.scratch, {source, 0}, shop.problems);
-    });
+    })});
 }
 
 void makeNames(Workshop& shop) {
+    QList<Task> tasks;
     for (const Recipe& recipe : shop.book.recipes) {
         const QString file = shop.disc + QStringLiteral("/zvuky/č%1.wav").arg(recipe.id);
-        makeFile(shop, file, originOf({}, kVersion + recipe.name),
-                 [&] { return speak(recipe.name, Pace::name, shop.scratch); });
+        tasks << soundTask(file, originOf({}, stamp::sounds() + recipe.name),
+                           [&shop, name = recipe.name] { return speak(name, Pace::name, shop.scratch); });
     }
+    shop.makeAll(tasks);
 }
 
 }  // namespace

@@ -1,11 +1,9 @@
 #include "makevideos.h"
 
 #include <QDir>
-#include <atomic>
-#include <future>
-#include <mutex>
 
 #include "../spelling.h"
+#include "../stamps.h"
 #include "../typography.h"
 #include "draw.h"
 #include "encode.h"
@@ -14,10 +12,7 @@
 namespace sarne::disc {
 namespace {
 
-/// Changed whenever the same script would give another video.
-const QString kVersion = QStringLiteral("1");
 const QString kEffects = QStringLiteral("zvuky/efekty.txt");
-constexpr int kWorkers = 2;
 
 /// A video that is to be made.
 struct Job {
@@ -25,7 +20,6 @@ struct Job {
     QString file;
     QString origin;
     QList<FilmFault> faults{};
-    bool isMade = false;
 };
 
 /// Where a script stands and what becomes of it.
@@ -47,7 +41,7 @@ QString originOfFilm(const Workshop& shop, const Source& source) {
     const QStringList files{shop.content + u'/' + source.script, shop.content + u'/' + kEffects,
                             shop.art + QStringLiteral("/rendered/pozadi/uvod.jpg"),
                             shop.content + QStringLiteral("/zvuky/hudba.txt")};
-    return originOf(files, kVersion + source.title);
+    return originOf(files, stamp::videos() + source.title);
 }
 
 void proofreadCaptions(const ContentFolder& folder, const QList<Job>& jobs, Problems& problems) {
@@ -75,33 +69,14 @@ QList<Job> staleJobs(Workshop& shop, const ContentFolder& folder) {
     return jobs;
 }
 
-void make(Job& job, const QList<Effect>& effects, const Workshop& shop) {
+bool make(Job& job, const QList<Effect>& effects, const Workshop& shop) {
     const Sound sound =
         makeSoundtrack(job.film, effects, shop.disc + QStringLiteral("/HUDBA.WAV"), shop.scratch, job.faults);
-    if (!job.faults.isEmpty()) return;
+    if (!job.faults.isEmpty()) return false;
     const QImage ground = drawScene(job.film.scene, shop.art);
-    job.isMade = encodeFilm(job.film, ground, sound, job.file, shop.scratch);
-    if (!job.isMade) job.faults << FilmFault{job.film.place, QStringLiteral("ffmpeg cannot make the video")};
-}
-
-/// Makes all, two at a time; each is written down as soon as it is there, so that a build that is broken off
-/// goes on from there.
-void makeAll(QList<Job>& jobs, const QList<Effect>& effects, Workshop& shop) {
-    std::atomic<qsizetype> next = 0;
-    std::mutex ledger;
-    Job* const all = jobs.data();
-    const auto work = [&] {
-        for (qsizetype i = next++; i < jobs.size(); i = next++) {
-            make(all[i], effects, shop);
-            if (!all[i].isMade) continue;
-            const std::lock_guard lock(ledger);
-            shop.ledger.setMade(all[i].file, all[i].origin);
-            shop.ledger.save();
-        }
-    };
-    std::vector<std::future<void>> workers;
-    for (int i = 0; i < kWorkers; ++i) workers.push_back(std::async(std::launch::async, work));
-    for (auto& worker : workers) worker.get();
+    if (encodeFilm(job.film, ground, sound, job.file, shop.scratch)) return true;
+    job.faults << FilmFault{job.film.place, QStringLiteral("ffmpeg z něj neudělal video")};
+    return false;
 }
 
 }  // namespace
@@ -111,9 +86,11 @@ void makeVideos(Workshop& shop) {
     QList<Job> jobs = staleJobs(shop, folder);
     const QList<Effect> effects = readEffects(folder.read(kEffects), shop.problems);
     if (jobs.isEmpty() || shop.problems.hasErrors()) return;
-    QDir().mkpath(shop.disc + QStringLiteral("/VIDEO"));
     QDir().mkpath(shop.scratch);
-    makeAll(jobs, effects, shop);
+    QList<Task> tasks;
+    for (Job& job : jobs)
+        tasks << Task{{job.file}, job.origin, [&] { return make(job, effects, shop); }};
+    shop.makeAll(tasks);
     for (const Job& job : jobs)
         for (const FilmFault& fault : job.faults) shop.problems.error(fault.place, fault.text);
 }

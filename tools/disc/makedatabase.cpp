@@ -1,0 +1,18 @@
+#include "makedatabase.h"
+
+#include "loadcookbook.h"
+#include "stamps.h"
+#include "writedatabase.h"
+
+namespace sarne::disc {
+
+void makeDatabase(Workshop& shop, const ContentFolder& folder) {
+    const QString file = shop.program + QStringLiteral("/Sarne.drc");
+    shop.make(file, originOf(folder.allFiles(), stamp::database()), [&] {
+        proofread(folder, shop.book, shop.problems);
+        if (!shop.problems.hasErrors()) writeRecipeDatabase(shop.book, file, shop.problems);
+        return !shop.problems.hasErrors();
+    });
+}
+
+}  // namespace sarne::disc

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "workshop.h"
+
+namespace sarne::disc {
+
+/// Proofreads the cookbook and writes the recipe database.
+void makeDatabase(Workshop& shop, const ContentFolder& folder);
+
+}  // namespace sarne::disc
