@@ -10,17 +10,21 @@ QString located(const Place& place, const QString& text) {
 
 }  // namespace
 
+void Problems::add(QStringList& list, const QString& text) {
+    const std::lock_guard lock(adding_);
+    if (!list.contains(text)) list << text;
+}
+
 void Problems::error(const Place& place, const QString& text) {
-    const QString line = located(place, text);
-    if (!errors_.contains(line)) errors_ << line;
+    add(errors_, located(place, text));
 }
 
 void Problems::finding(const Place& place, const QString& text) {
-    edition_ == Edition::release ? error(place, text) : note(located(place, text));
+    add(edition_ == Edition::release ? errors_ : notes_, located(place, text));
 }
 
 void Problems::note(const QString& text) {
-    if (!notes_.contains(text)) notes_ << text;
+    add(notes_, text);
 }
 
 }  // namespace sarne::disc

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <mutex>
 
 namespace sarne::disc {
 
@@ -15,7 +16,8 @@ struct Place {
 /// Whether the book is being written, when what is only unfinished may wait, or is to be shipped.
 enum class Edition { draft, release };
 
-/// What is wrong with the content or the art. Errors stop the build; notes are printed at its end.
+/// What is wrong with the content or the art. Errors stop the build; notes are printed at its end. Stages
+/// that work in several threads report to one.
 class Problems {
   public:
     explicit Problems(Edition edition = Edition::draft) : edition_(edition) {}
@@ -31,7 +33,10 @@ class Problems {
     const QStringList& notes() const { return notes_; }
 
   private:
-    Edition edition_;
+    void add(QStringList& list, const QString& text);
+
+    const Edition edition_;
+    std::mutex adding_;
     QStringList errors_;
     QStringList notes_;
 };

@@ -19,7 +19,6 @@ struct Job {
     Film film;
     QString file;
     QString origin;
-    QList<FilmFault> faults{};
 };
 
 /// Where a script stands and what becomes of it.
@@ -70,12 +69,14 @@ QList<Job> staleJobs(Workshop& shop, const ContentFolder& folder) {
 }
 
 bool make(Job& job, const QList<Effect>& effects, const Workshop& shop) {
+    QList<FilmFault> faults;
     const Sound sound =
-        makeSoundtrack(job.film, effects, shop.disc + QStringLiteral("/HUDBA.WAV"), shop.scratch, job.faults);
-    if (!job.faults.isEmpty()) return false;
+        makeSoundtrack(job.film, effects, shop.disc + QStringLiteral("/HUDBA.WAV"), shop.scratch, faults);
+    for (const FilmFault& fault : faults) shop.problems.error(fault.place, fault.text);
+    if (!faults.isEmpty()) return false;
     const QImage ground = drawScene(job.film.scene, shop.art);
     if (encodeFilm(job.film, ground, sound, job.file, shop.scratch)) return true;
-    job.faults << FilmFault{job.film.place, QStringLiteral("ffmpeg z něj neudělal video")};
+    shop.problems.error(job.film.place, QStringLiteral("ffmpeg z něj neudělal video"));
     return false;
 }
 
@@ -88,11 +89,8 @@ void makeVideos(Workshop& shop) {
     if (jobs.isEmpty() || shop.problems.hasErrors()) return;
     QDir().mkpath(shop.scratch);
     QList<Task> tasks;
-    for (Job& job : jobs)
-        tasks << Task{{job.file}, job.origin, [&] { return make(job, effects, shop); }};
+    for (Job& job : jobs) tasks << Task{{job.file}, job.origin, [&] { return make(job, effects, shop); }};
     shop.makeAll(tasks);
-    for (const Job& job : jobs)
-        for (const FilmFault& fault : job.faults) shop.problems.error(fault.place, fault.text);
 }
 
 }  // namespace sarne::disc
