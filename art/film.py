@@ -376,6 +376,12 @@ def make(name, look):
     core.camera(mid + Vector((0, -math.cos(e), math.sin(e))) * 40, mid, ortho=(r - l) if w >= h else (t - b))
     core.evening(1.0)
     core.scene.view_settings.exposure = .45
+    if "steel" in core._materials:   # a bright sky for metal to mirror
+        core.area(mid + Vector((-3, 6, 13)), mid, 16, 1500, "eef2f0")
+        shader = core._materials["steel"].node_tree.nodes["Principled BSDF"]
+        for link in list(shader.inputs["Base Color"].links) + list(shader.inputs["Roughness"].links):
+            core._materials["steel"].node_tree.links.remove(link)
+        shader.inputs["Base Color"].default_value, shader.inputs["Roughness"].default_value = (.62, .64, .64, 1), .38
     for m in bpy.data.materials:   # light inside a surface takes time and shows little
         s = m.node_tree and m.node_tree.nodes.get("Principled BSDF")
         if s:

@@ -99,7 +99,7 @@ def tin(sx=3.4, sy=2.2, h=.7):
     lid = [tube([(sx / 2 - .1 + .05 * i, -sy / 2 + .15, h + .12 + .06 * math.sin(i)), (sx / 2 - .1 + .05 * i, sy / 2 - .15, h + .12 + .06 * math.sin(i))], .2 - .03 * i, m, 16) for i in range(3)]
     parts = [wall, floor, oil, *lid]
     for i in range(4):
-        f = fillet("grey", "poached", sx * .84, .62, .34, "herring", i)
+        f = fillet("grey", "raw", sx * .84, .62, .34, "herring", i)
         parts.append(put(f, -.05, (i - 1.5) * .46, h * .42 + .04, turn=180 * (i % 2) + random.uniform(-4, 4), roll=0))
     return group(parts)
 
