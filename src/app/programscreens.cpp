@@ -4,10 +4,7 @@
 #include "dialogs/frmdialog.h"
 #include "media/frmnastavhudbu.h"
 #include "media/frmvideo.h"
-#include "print/frmprint.h"
-#include "print/frmsave.h"
 #include "screens/browse/frmfotobig.h"
-#include "screens/browse/frmseznam.h"
 #include "screens/browse/frmsit.h"
 #include "screens/index/frmindex.h"
 #include "screens/index/frmsponzor.h"
@@ -18,6 +15,9 @@
 #include "screens/recipe/frmrecept.h"
 
 namespace sarne {
+
+ProgramScreens::ProgramScreens(Program& program)
+    : program_(program), printing_(program, program.platform().printer) {}
 
 void ProgramScreens::showMain() {
     main_ = new frmHlavni(program_);
@@ -31,7 +31,7 @@ void ProgramScreens::returnToMain() {
 void ProgramScreens::showList(const QString& ids, const QString& source) {
     const bool help = source.compare(u"Help", Qt::CaseInsensitive) == 0;
     if (help && helpList_ && program_.FormStack.contains(*helpList_)) return returnToHelpList();
-    auto* list = new frmSeznam(program_);
+    auto* list = new frmSeznam(program_, &listPanel_);
     if (help) helpList_ = list;
     list->Zobraz(ids, source);
 }
@@ -87,21 +87,15 @@ void ProgramScreens::showSponsor(std::int16_t topic, const QString& text) {
 }
 
 void ProgramScreens::showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) {
-    const auto print = [this](const std::vector<std::int16_t>& ids) { printRecipes(ids); };
-    (new frmSave(program_, entries, print))->Zobraz(mode);
-}
-
-frmPrint& ProgramScreens::printForm() {
-    if (!print_ || !print_->isLoaded()) print_ = new frmPrint(program_, program_.platform().printer);
-    return *print_;
+    printing_.showSelection(entries, mode);
 }
 
 void ProgramScreens::printRecipes(const std::vector<std::int16_t>& ids) {
-    printForm().Zobraz(ids);
+    printing_.printRecipes(ids);
 }
 
 void ProgramScreens::printText(const QString& title, const QString& text) {
-    printForm().ZobrazTexty({{title, text}});
+    printing_.printText(title, text);
 }
 
 }  // namespace sarne

@@ -2,19 +2,18 @@
 
 #include <QPointer>
 
-#include "forms/screens.h"
+#include "print/printing.h"
+#include "screens/browse/frmseznam.h"
 
 namespace sarne {
 
 class frmHlavni;
-class frmPrint;
-class frmSeznam;
 class Program;
 
 /// Builds the screens that others ask for.
 class ProgramScreens final : public Screens {
   public:
-    explicit ProgramScreens(Program& program) : program_(program) {}
+    explicit ProgramScreens(Program& program);
 
     /// Makes and shows the main screen. Called once.
     void showMain();
@@ -38,12 +37,12 @@ class ProgramScreens final : public Screens {
 
   private:
     void returnToHelpList();
-    frmPrint& printForm();
 
     Program& program_;
     frmHlavni* main_ = nullptr;
     QPointer<frmSeznam> helpList_;
-    QPointer<frmPrint> print_;
+    frmSeznam::Panel listPanel_ = frmSeznam::Panel::Photo;  ///< as the user left it
+    Printing printing_;
 };
 
 }  // namespace sarne

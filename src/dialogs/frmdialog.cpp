@@ -79,6 +79,9 @@ bool frmDialog::keyDown(QKeyEvent& event) {
             // In the entry it is the first button's.
             if (!ring().press()) press(0);
             break;
+        case Qt::Key_F1:
+            if (app().FormStack.top()) help();  // not before there is a screen
+            break;
         default:
             ring().keyDown(event);
     }

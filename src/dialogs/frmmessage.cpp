@@ -104,6 +104,9 @@ bool frmMessage::keyDown(QKeyEvent& event) {
         case Qt::Key_X:
             if (event.modifiers() & Qt::AltModifier) closeRequested();
             break;
+        case Qt::Key_F1:
+            if (app().FormStack.top()) help();  // not before there is a screen
+            break;
         default:
             if (!ring().keyDown(event)) pressByLetter(event.text());
     }

@@ -6,6 +6,10 @@ namespace sarne {
 
 class basSarne;
 
+/// The native path of a media file given relative to the media root, for a player to open: a missing one is
+/// named all the same, so that the player says that it was not found.
+QString fileForPlayer(const basSarne& app, const QString& relative);
+
 /// The background track's file, as a native path; empty when it is missing.
 QString musicTrack(const basSarne& app, bool wineSounds);
 

@@ -4,6 +4,7 @@
 #include <QLoggingCategory>
 
 #include "forms/resources.h"
+#include "forms/stage.h"
 #include "platform/effectplayer.h"
 
 namespace sarne {
@@ -37,6 +38,7 @@ void basSarne::PushScreen(Form& screen, KeepEnabled keep) {
         if (keep == KeepEnabled::No) below->enableControls(false);
     }
     FormStack.add(screen);
+    if (stage().modalForm()) stage().enterModal(screen);  // opened from a dialog: it stands above that one
 }
 
 void basSarne::PopScreen(Form& screen) {
@@ -51,6 +53,7 @@ void basSarne::PopScreen(Form& screen) {
     below->enableControls(true);
     below->setFocus();
     below->restored();
+    stage().leaveModal(screen);  // a dialog that had opened the screen is in front again
 }
 
 bool basSarne::BringTopToFront(const QString& formName) {

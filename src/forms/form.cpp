@@ -52,6 +52,7 @@ void Form::unload() {
     if (!loaded_) return;
     loaded_ = false;
     hide();
+    app_.stage().leaveModal(*this);
     deleteLater();
 }
 

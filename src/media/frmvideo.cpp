@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "forms/backgroundmusic.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/messagebox.h"
@@ -111,7 +112,7 @@ void frmVideo::Zobraz(std::int16_t number) {
     applySound();
     app().PushScreen(*this);
     if (MMControlVideo)
-        MMControlVideo->setFileName(app().mediaFile(QStringLiteral("VIDEO\\%1.AVI").arg(number)));
+        MMControlVideo->setFileName(fileForPlayer(app(), QStringLiteral("VIDEO\\%1.AVI").arg(number)));
     tmrStart.setInterval(kStartDelay);
     tmrStart.setEnabled(true);
     showForm();
@@ -135,7 +136,7 @@ void frmVideo::start() {
     tmrStart.setEnabled(false);
     if (!MMControlVideo) return Skryj();
     stopMusic();
-    MMControlVideo->setWait(MediaWait::Wait);
+    MMControlVideo->setWait(MediaWait::DontWait);
     MMControlVideo->setNotify(MediaNotify::On);
     MMControlVideo->command(u"open");
     if (MMControlVideo->error() > 0) return showError();
@@ -159,7 +160,9 @@ void frmVideo::setPlaying(bool playing) {
     ImgTlacitko[kPause]->setFrame(Button::Frame::Raised);
 }
 
-void frmVideo::ended() {
+/// A clip that turns out to be none while it is being opened ends in a failure.
+void frmVideo::ended(int code) {
+    if (!closed_ && code == int(MediaDone::Failed)) return showError();
     if (closed_ || MMControlVideo->mode() == MediaMode::Playing) return;
     Label1.setText(QStringLiteral("Přehrávání skončeno"));
     setPlaying(false);
@@ -191,11 +194,11 @@ void frmVideo::press(int index) {
 }
 
 void frmVideo::pause() {
-    const bool resumes = MMControlVideo->mode() == MediaMode::Paused;
-    if (!resumes && MMControlVideo->mode() != MediaMode::Playing) return press(kPlay);
+    const MediaMode before = MMControlVideo->mode();
     MMControlVideo->command(u"pause");
-    setPlaying(resumes);
-    if (resumes) return;
+    if (before != MediaMode::Paused && before != MediaMode::Playing) return;
+    setPlaying(before == MediaMode::Paused);
+    if (before == MediaMode::Paused) return;
     ImgTlacitko[kPause]->setFrame(Button::Frame::Pressed);
     Label1.setText(QStringLiteral("Pozastaveno"));
 }

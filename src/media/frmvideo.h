@@ -44,7 +44,7 @@ class frmVideo : public Form {
     void press(int index);
     void start();
     void showError();
-    void ended();
+    void ended(int code);
     void pause();
     void toggleSound();
     void applySound();

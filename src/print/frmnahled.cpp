@@ -141,14 +141,6 @@ bool frmNahled::keyDown(QKeyEvent& event) {
     }
 }
 
-void frmNahled::help() {
-    if (!app().stage().modalForm()) Form::help();
-}
-
-void frmNahled::musicSettings() {
-    if (!app().stage().modalForm()) Form::musicSettings();
-}
-
 void frmNahled::paint(QPainter& painter) {
     paintPanel(painter, {{0, 0}, twips().size()});
 }

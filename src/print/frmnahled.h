@@ -21,8 +21,6 @@ class frmNahled : public Form {
 
     int currentPage() const { return current_; }
     void goBack() override;
-    void help() override;
-    void musicSettings() override;
 
   protected:
     void paint(QPainter& painter) override;

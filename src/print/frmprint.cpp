@@ -215,11 +215,11 @@ void frmPrint::endProgram() {
 }
 
 void frmPrint::musicSettings() {
-    if (!printing_ && !app().stage().modalForm()) Form::musicSettings();
+    if (!printing_) Form::musicSettings();
 }
 
 void frmPrint::help() {
-    if (!printing_ && !app().stage().modalForm()) Form::help();
+    if (!printing_) Form::help();
 }
 
 void frmPrint::restored() {

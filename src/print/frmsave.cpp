@@ -182,6 +182,9 @@ bool frmSave::keyDown(QKeyEvent& event) {
         case Qt::Key_X:
             if (event.modifiers() & Qt::AltModifier) closeRequested();
             break;
+        case Qt::Key_F1:
+            help();
+            break;
         default:
             ring().keyDown(event);
     }

@@ -107,6 +107,35 @@ TEST_F(SeznamTest, ThePanelShowsPhotoOrWines) {
     EXPECT_FALSE(wineShows());
 }
 
+TEST_F(SeznamTest, TheNextListShowsThePanelThatTheLastOneLeft) {
+    frmSeznam::Panel panel = frmSeznam::Panel::Photo;
+    list = new frmSeznam(run, &panel);
+    list->Zobraz({}, QStringLiteral("recepty"));
+    click(row(1));
+    click(button("imgBtn(1)"));
+    list->goBack();
+    list = new frmSeznam(run, &panel);
+    list->Zobraz({}, QStringLiteral("recepty"));
+    EXPECT_FALSE(wineShows()) << "nothing is chosen";
+    click(row(2));
+    EXPECT_TRUE(wineShows());
+}
+
+TEST_F(SeznamTest, ALongNameBreaksInTheWinePanel) {
+    run.database.Execute(QStringLiteral(
+        "UPDATE Recepty SET Nazev = 'Koláč s lososem a pórkem na mnoho způsobů' WHERE ID = 3"));
+    open("3,", "recepty");
+    click(row(1));
+    click(button("imgBtn(1)"));
+    auto* label = child<Label>(*list, "lblVino");
+    const QImage drawn = label->grab().toImage();
+    bool second = false;
+    for (int y = drawn.height() * 2 / 3; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x) second |= drawn.pixelColor(x, y) != drawn.pixelColor(0, 0);
+    }
+    EXPECT_TRUE(second) << "its end stands on a line of its own";
+}
+
 TEST_F(SeznamTest, TheWinesFitIntoThePanel) {
     open("1,", "recepty");
     for (int more = 0; more < 5; ++more)
@@ -215,8 +244,7 @@ TEST_F(SeznamTest, TheWheelScrollsByOneEntryANotch) {
 TEST_F(SeznamTest, AHelpTopicOpensItsPageAndNoPhoto) {
     writePhoto("foto/Male/r5.bmp");
     open("", "Help");
-    for (const char* hidden :
-         {"imgBtn(0)", "imgBtn(1)", "ImgTlacitko(0)", "ImgTlacitko(1)", "imgBtnHlavni(0)"})
+    for (const char* hidden : {"imgBtn(0)", "imgBtn(1)", "ImgTlacitko(0)", "ImgTlacitko(1)"})
         EXPECT_FALSE(control(hidden)->isVisible()) << hidden;
     const QImage before = control("picFoto")->grab().toImage();
     click(row(2));
@@ -229,6 +257,8 @@ TEST_F(SeznamTest, AHelpTopicOpensItsPageAndNoPhoto) {
     doubleClick(row(1));
     EXPECT_EQ(run.recorded.calls,
               (QStringList{QStringLiteral("showPage 5"), QStringLiteral("showPage 310")}));
+    click(button("imgBtnHlavni(0)"));
+    EXPECT_EQ(run.recorded.calls.last(), QStringLiteral("showPrintSelection 2 'help'"));
 }
 
 TEST_F(SeznamTest, QuickRecipesStandForTheRecipesTheyShow) {
@@ -267,6 +297,14 @@ TEST_F(SeznamTest, TheQuickRecipesWindowGivesTheKeyboardBack) {
     EXPECT_EQ(selected(), 1);
     key(Qt::Key_Down);
     EXPECT_EQ(selected(), 2);
+    auto* over = new Form(run, QStringLiteral("frmNastavHudbu"));
+    over->place({3000, 2100, 4000, 4800});
+    run.PushScreen(*over);
+    over->showForm();
+    click(child(*quick(), "Picture1"));
+    quick()->setFocus();
+    EXPECT_EQ(run.window.focusForm(), over) << "also below another form";
+    run.PopScreen(*over);
     list->goBack();
     EXPECT_EQ(run.window.forms(), std::vector<Form*>{below}) << "the window goes with the list";
 }

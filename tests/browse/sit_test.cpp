@@ -172,6 +172,10 @@ TEST_F(SitTest, GroupsNarrowTheGridAndTheBackgroundWidensIt) {
     click(button("imgCela"));
     EXPECT_EQ(ground(), QColor(Qt::white));
     EXPECT_EQ(alive().size(), 50u);
+    click(button("imgSkupina(0)"));
+    const QPoint between(10500, button("imgSkupina(0)")->twips().bottom() + 30);
+    QTest::mouseClick(grid, Qt::LeftButton, {}, grid->toPixels(between));
+    EXPECT_EQ(alive().size(), 50u) << "what is no button is background";
 }
 
 TEST_F(SitTest, WithoutAChoiceOneIsAskedFor) {
@@ -219,6 +223,16 @@ TEST_F(SitTest, TheKeyboardReachesEverything) {
     EXPECT_EQ(alive().size(), 50u);
     key(Qt::Key_Escape);
     EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(SitTest, TabFollowsTheBarAsItReads) {
+    QStringList names;
+    for (int tab = 0; tab < 10; ++tab) {
+        key(Qt::Key_Tab);
+        if (tab >= 5) names << run.window.focusWidget()->accessibleName();
+    }
+    EXPECT_EQ(names, (QStringList{QStringLiteral("Zobrazí foto"), QStringLiteral("Zobraz recept"),
+                                  QStringLiteral("Nápověda"), QStringLiteral("Zpět"), QStringLiteral("Konec")}));
 }
 
 TEST_F(SitTest, BackFromTheViewerTheGroupIsAsItWas) {

@@ -79,6 +79,16 @@ TEST_F(MessageTest, BeepsAnnouncesAndWraps) {
     });
 }
 
+TEST_F(MessageTest, F1OpensHelpAndTheQuestionStays) {
+    auto* below = new Form(run, QStringLiteral("frmHlavni"));
+    run.PushScreen(*below);
+    ask("Chcete ukončit program?  ", 36, [&] {
+        QTest::keyClick(run.window.focusWidget(), Qt::Key_F1);
+        EXPECT_TRUE(box->isVisible());
+    });
+    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("showHelpFor frmMessage")});
+}
+
 TEST_F(MessageTest, IsDraggedByItsGroundAndStaysOnTheScreen) {
     ask("posuň mě", 48, [&] {
         const QPoint before = box->twips().topLeft();

@@ -133,6 +133,27 @@ TEST_F(FormTest, AModalFormTakesAllInput) {
     EXPECT_TRUE(screen->button.hasFocus());
 }
 
+TEST_F(FormTest, AScreenOpenedFromADialogStandsAboveItUntilItCloses) {
+    run.PushScreen(*screen);
+    screen->showForm();
+    auto* box = new Screen(run, "frmMessage");
+    box->place({3000, 3000, 3000, 1500});
+    box->ring().setStops({&box->button});
+    QTimer::singleShot(0, [&] {
+        auto* page = new Screen(run, "frmStranka");
+        run.PushScreen(*page);
+        page->showForm();
+        EXPECT_EQ(run.window.focusForm(), page);
+        EXPECT_EQ(run.window.modalForm(), page);
+        run.PopScreen(*page);
+        EXPECT_EQ(run.window.modalForm(), box);
+        EXPECT_TRUE(box->button.hasFocus()) << "the dialog goes on where it was";
+        box->hideForm();
+    });
+    box->showModal();
+    EXPECT_EQ(run.FormStack.top(), screen);
+}
+
 TEST_F(FormTest, AClickNeedsPressAndReleaseOnTheSameEnabledControl) {
     screen->showForm();
     int clicks = 0;

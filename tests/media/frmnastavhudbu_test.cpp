@@ -55,9 +55,13 @@ TEST_F(SettingsTest, WithoutChangesNothingIsWrittenAndTheMusicPlaysOn) {
     std::vector<bool> same;
     for (const SoundSetting& setting : readSoundSettings(run.database)) same.push_back(setting.on);
     EXPECT_EQ(storeSoundSettings(run.database, same), 0);
-    confirm();
-    EXPECT_TRUE(run.player.commands.isEmpty());
-    EXPECT_TRUE(run.player.playing());
+    for (const char* sameTrack : {"HUDBA.WAV", "hudba.wav", "zvuky/../HUDBA.WAV"}) {
+        run.player.setFileName(path(sameTrack));
+        confirm();
+        EXPECT_EQ(run.player.commands, QStringList()) << sameTrack;
+        EXPECT_TRUE(run.player.playing());
+        open();
+    }
 }
 
 TEST_F(SettingsTest, MusicStopsAndStartsAtOnce) {
@@ -97,6 +101,13 @@ TEST_F(SettingsTest, ATrackThatCannotBeOpenedIsReportedAndTheSwitchesAreKept) {
     EXPECT_EQ(stored(), QStringLiteral("11111"));
 }
 
+TEST_F(SettingsTest, AMissingTrackIsReportedByThePlayerThatLooksForIt) {
+    QFile::remove(path("zvuky/Vina.WAV"));
+    click(track(1));
+    confirm();
+    EXPECT_TRUE(run.player.fileName().endsWith(QStringLiteral("zvuky\\vina.wav")));
+}
+
 TEST_F(SettingsTest, AShortTableIsReadAsFarAsItGoes) {
     confirm(1);
     run.database.Execute(QStringLiteral("DELETE * FROM Nastav WHERE ID > 2"));
@@ -112,8 +123,12 @@ TEST_F(SettingsTest, ByKeyboardAlone) {
     for (int i = 0; i < 2; ++i) press(Qt::Key_Down);  // past Storno to the first switch
     EXPECT_TRUE(box(0)->hasFocus());
     press(Qt::Key_Space);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(form->isLoaded()) << "Enter on a check box does what a click does";
     press(Qt::Key_N);
-    EXPECT_EQ(stored(), QStringLiteral("01010"));
+    EXPECT_EQ(stored(), QStringLiteral("01110"));
     open();
     press(Qt::Key_F4);  // does not open itself again
     press(Qt::Key_Escape);

@@ -71,6 +71,10 @@ TEST_F(VideoTest, TransportButtons) {
     EXPECT_EQ(button(3)->frame(), Button::Frame::Raised) << "stopped is not paused";
     EXPECT_EQ(player->mode(), MediaMode::Stopped);
     player->commands.clear();
+    click(3);
+    EXPECT_EQ(player->commands, QStringList{QStringLiteral("pause")}) << "a stopped clip stays so";
+    EXPECT_EQ(player->mode(), MediaMode::Stopped);
+    player->commands.clear();
     for (const int i : {4, 5, 1}) click(i);
     EXPECT_EQ(player->commands, (QStringList{QStringLiteral("prev"), QStringLiteral("next"),
                                              QStringLiteral("prev"), QStringLiteral("play")}));
@@ -115,6 +119,17 @@ TEST_F(VideoTest, WhatCannotBePlayedIsReportedAndTheScreenCloses) {
                   QStringList{QStringLiteral("16: ") + mediaErrorText(MediaError::InvalidFile)});
         EXPECT_EQ(run.FormStack.top(), below);
     }
+    failing.clear();
+    run.messages.clear();
+    open(99);
+    start();
+    EXPECT_EQ(player->commands.value(0), QStringLiteral("open ") + run.MediaRoot + QStringLiteral("VIDEO\\99.AVI"))
+        << "the player says that there is no such file";
+    EXPECT_EQ(player->wait, MediaWait::DontWait);
+    player->lastCode = MediaError::InvalidFile;
+    player->breakOff(MediaDone::Failed);
+    EXPECT_EQ(run.messages.size(), 1) << "also when that turns out later";
+    EXPECT_EQ(run.FormStack.top(), below);
     form = new frmVideo(run, nullptr);
     form->Zobraz(99);
     start();
@@ -144,6 +159,19 @@ TEST_F(VideoTest, LeavingBeforeTheFileIsOpenOpensNothing) {
     press(Qt::Key_Escape);
     QTest::qWait(40);
     EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(VideoTest, SettingsOverAVideoKeepTheKeyboard) {
+    open();
+    start();
+    auto* settings = new Form(run, QStringLiteral("frmNastavHudbu"));
+    settings->place({3000, 2100, 6000, 4800});
+    run.PushScreen(*settings);
+    settings->showForm();
+    QTest::mouseClick(form, Qt::LeftButton, {}, {5, 5});
+    EXPECT_EQ(run.window.focusForm(), settings) << "what shows of the video hands the keyboard on";
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(form->isLoaded());
 }
 
 }  // namespace

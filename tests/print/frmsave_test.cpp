@@ -66,6 +66,13 @@ class FrmSaveTest : public testing::Test {
     ListBox *list, *chosen;
 };
 
+TEST_F(FrmSaveTest, F1OpensItsHelp) {
+    auto* below = new Form(run, str("frmHlavni"));
+    run.PushScreen(*below);
+    show([&] { key(list, Qt::Key_F1); });
+    EXPECT_EQ(run.recorded.calls, QStringList{str("showHelpFor frmSave")});
+}
+
 TEST_F(FrmSaveTest, AddsEachEntryOnce) {
     show([&] {
         EXPECT_EQ(child<Label>(*save, "Label2")->text(),

@@ -34,7 +34,11 @@ void frmRychlyRecept::setPicture(const QImage& picture, const QString& words) {
 }
 
 void frmRychlyRecept::giveBack() {
-    if (app().FormStack.top() == &owner_) Q_EMIT keyboardGivenBack();
+    // Where the list is below another screen, it hands the keyboard on to that.
+    if (app().FormStack.top() == &owner_)
+        owner_.ring().restore();
+    else
+        owner_.setFocus();
 }
 
 void frmRychlyRecept::gotFocus() {

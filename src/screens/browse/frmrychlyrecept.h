@@ -20,10 +20,6 @@ class frmRychlyRecept : public Form {
     /// The picture, and the words that stand in its place when it is a null image.
     void setPicture(const QImage& picture, const QString& words);
 
-  Q_SIGNALS:
-    /// The window was touched: the list is to take the keyboard.
-    void keyboardGivenBack();
-
   protected:
     void gotFocus() override;
     void mousePressEvent(QMouseEvent* event) override;

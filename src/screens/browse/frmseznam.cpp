@@ -13,8 +13,10 @@
 namespace sarne {
 namespace {}  // namespace
 
-frmSeznam::frmSeznam(basSarne& run)
+frmSeznam::frmSeznam(basSarne& run, Panel* panel)
     : Form(run, QStringLiteral("frmSeznam")),
+      panelMode_(panel ? *panel : Panel::Photo),
+      keptPanel_(panel),
       lblNadpis(*this, QStringLiteral("lblNadpis")),
       lblPozice(*this, QStringLiteral("lblPozice")),
       lblHint(*this, QStringLiteral("lblHint")),
@@ -160,16 +162,35 @@ void frmSeznam::showPhotos(bool slideShow) {
 // --- the panel beside the list
 
 void frmSeznam::startPanel() {
-    picFoto.Cls();
+    showInvitation();
     lblVino.hide();
     if (quickWindow_) quickWindow_->unload();
     if (source_ == Source::Help)
         showPictureOrWords(picFoto, app().resources().picture(QStringLiteral("Help")).image(), {});
     if (source_ != Source::QuickRecipes) return;
     quickWindow_ = new frmRychlyRecept(app(), *this);
-    connect(quickWindow_, &frmRychlyRecept::keyboardGivenBack, this, [this] { ring().restore(); });
     quickWindow_->Zobraz(seznam::kPanel);
     if (!entries_.empty()) quickWindow_->setPicture(smallPhoto(entries_.front()), {});
+}
+
+/// Before the first choice: a still life, and what to do.
+void frmSeznam::showInvitation() {
+    picFoto.setPicture(app().mediaPicture(QStringLiteral("foto\\vino256.bmp")), Fit::Cover);
+    picFoto.addPainted(
+        [](QPainter& painter, const QRect&) {
+            paintPlate(painter, seznam::kInvitation);
+            painter.setFont(TextFont{QStringLiteral("Times New Roman"), 15, true}.toQFont());
+            painter.setPen(colors::kTitle);
+            painter.drawText(seznam::kInvitation, Qt::AlignCenter, QStringLiteral("Vyberte recept"));
+        },
+        seznam::kPhoto.height());
+}
+
+void frmSeznam::setPanel(Panel panel) {
+    panelMode_ = panel;
+    if (keptPanel_) *keptPanel_ = panel;
+    imgBtn[0]->setLatched(panel == Panel::Photo);
+    imgBtn[1]->setLatched(panel == Panel::Wine);
 }
 
 QImage frmSeznam::smallPhoto(const ListEntry& entry) const {
@@ -184,10 +205,8 @@ void frmSeznam::refreshPanel() {
 void frmSeznam::showPhoto() {
     const ListEntry* entry = selectedEntry();
     if (!entry) return;
-    panelMode_ = Panel::Photo;
+    setPanel(Panel::Photo);
     lblVino.hide();
-    imgBtn[0]->setLatched(true);
-    imgBtn[1]->setLatched(false);
     const QImage photo = smallPhoto(*entry);
     showPictureOrWords(picFoto, photo, entry->Nazev);
     picFoto.setTip(entry->Nazev);
@@ -199,10 +218,8 @@ void frmSeznam::showPhoto() {
 void frmSeznam::showWine() {
     const ListEntry* entry = selectedEntry();
     if (!entry) return;
-    panelMode_ = Panel::Wine;
+    setPanel(Panel::Wine);
     if (quickWindow_) quickWindow_->hide();
-    imgBtn[0]->setLatched(false);
-    imgBtn[1]->setLatched(true);
     picFoto.setPicture(app().mediaPicture(QStringLiteral("foto\\vino256.bmp")), Fit::Cover);
     const QString text = wineText(app().Db(), entry->Nazev, entry->target);
     picFoto.setTip({});  // the text stands there to be read
@@ -215,7 +232,9 @@ void frmSeznam::showWine() {
         font.size -= 1;
     lblVino.setFont(font);
     const int height = Label::measure(text, font, place.width()).height();
-    lblVino.place({place.topLeft(), QSize(place.width(), std::min(height, place.height()))});
+    // At the bottom, below what the picture is about.
+    const int shown = std::min(height, place.height());
+    lblVino.place({place.left(), place.bottom() + 1 - shown, place.width(), shown});
     lblVino.show();
     const QRect paper = lblVino.twips().translated(-seznam::kPhoto.topLeft()).adjusted(-70, -40, 70, 40);
     picFoto.addPainted([paper](QPainter& painter, const QRect&) { paintPaper(painter, paper); },

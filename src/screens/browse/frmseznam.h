@@ -21,7 +21,10 @@ namespace sarne {
 class frmSeznam : public Form {
     Q_OBJECT
   public:
-    explicit frmSeznam(basSarne& app);
+    enum class Panel { Photo, Wine };
+
+    /// \a panel is what the panel beside the list showed last, kept by whoever makes lists; null: the photo.
+    explicit frmSeznam(basSarne& app, Panel* panel = nullptr);
 
     /// Lists the records \a ids ("12,40,7,"; all when empty) of the table \a source ("recepty",
     /// "RychleRecepty" or "Help") and opens the list over the current screen.
@@ -40,8 +43,6 @@ class frmSeznam : public Form {
 
   private:
     enum class Source { Recipes, QuickRecipes, Help };
-    enum class Panel { Photo, Wine };
-
     void buildList();
     void buildPanel();
     void buildBar();
@@ -52,6 +53,8 @@ class frmSeznam : public Form {
     void fill(const QString& ids, const QString& source);
     void showButtonsOfSource();
     void startPanel();
+    void showInvitation();
+    void setPanel(Panel panel);
 
     // What the user does.
     void selectRow(int row);
@@ -81,6 +84,7 @@ class frmSeznam : public Form {
     ListPages pages_;
     LetterSearch letters_;
     Panel panelMode_ = Panel::Photo;
+    Panel* keptPanel_;
     int wheel_ = 0;
 
     Ground ground_;

@@ -109,6 +109,7 @@ void frmSeznam::buildPanel() {
     connect(&picFoto, &Control::clicked, this, [this] {
         if (panelMode_ == Panel::Photo && selectedEntry()) showPhotos(false);
     });
+    lblVino.setWordWrap(true);
     lblVino.hide();
     imgBtn = {
         addAction(0, QStringLiteral("Foto"), QStringLiteral("Foto"), QStringLiteral("Zobrazí malé foto")),
@@ -122,7 +123,7 @@ void frmSeznam::buildBar() {
     } kBar[] = {{QStringLiteral("Tisk"), QStringLiteral("Tisk"), QStringLiteral("Tisk")},
                 {QStringLiteral("Help"), QStringLiteral("?"), QStringLiteral("Nápověda")},
                 {QStringLiteral("Zpet"), QStringLiteral("Zpět"), QStringLiteral("Zpět")},
-                {QStringLiteral("Konec"), QStringLiteral("Konec"), QStringLiteral("Konec programu")},
+                {QStringLiteral("Konec"), QStringLiteral("Konec"), QStringLiteral("Konec")},
                 {QStringLiteral("Hudba"), QStringLiteral("♪"), QStringLiteral("Hudba a zvuky")}};
     for (int index = 0; index < seznam::kBarButtons; ++index) {
         auto* button = new PictureButton(*this, QStringLiteral("imgBtnHlavni(%1)").arg(index));
@@ -152,15 +153,14 @@ void frmSeznam::showButtonsOfSource() {
         words_[at]->place(seznam::actionWord(place++));
     }
     lblHint.setText(source_ == Source::Help
-                        ? QStringLiteral("Písmeno najde název.")
-                        : QStringLiteral("Písmeno najde název, mezerník promítá fotografie."));
+                        ? QStringLiteral("Písmeno najde název, Enter otevře stránku.")
+                        : QStringLiteral("Písmeno najde název, mezerník promítá. Tab vybere Recept, Enter ho otevře."));
     imgBtn[2]->dress(app(), source_ == Source::Help ? QStringLiteral("Help") : QStringLiteral("Recept"),
                      QStringLiteral("Recept"));
     words_[2]->setText(source_ == Source::Help ? QStringLiteral("Otevřít") : QStringLiteral("Recept"));
     imgBtn[2]->setTip(source_ == Source::Help ? QStringLiteral("Otevře stránku nápovědy")
                                               : QStringLiteral("Otevře recept"));
-    imgBtn[0]->setLatched(panelMode_ == Panel::Photo);
-    imgBtnHlavni[0]->setVisible(source_ != Source::Help);
+    setPanel(panelMode_);
     for (int index = 0, place = 0; index < seznam::kBarButtons; ++index) {
         PictureButton& button = *imgBtnHlavni[size_t(index)];
         if (!button.isHidden()) button.place(seznam::barButton(place++));

@@ -18,13 +18,14 @@ inline constexpr QRect kFoot{225, 8340, 11550, 555};
 
 inline constexpr QRect kTitle{480, 220, 9000, 640};
 inline constexpr QRect kPosition{480, 8360, 2600, 515};
-inline constexpr QRect kHint{4200, 8360, 7350, 515};
+inline constexpr QRect kHint{3100, 8360, 8450, 515};
 
 inline constexpr QRect kArrowPlate{6640, 1390, 640, 6660};
 inline constexpr QRect kTrack{6905, 2740, 110, 3950};
 
 inline constexpr QRect kPanel{7675, 1370, 4000, 3050};
 inline constexpr QRect kPhoto{7775, 1470, 3800, 2850};
+inline constexpr QRect kInvitation{700, 2130, 2400, 560};  ///< in the photo's frame
 inline constexpr QRect kWineText{7900, 1600, 3550, 2590};
 
 constexpr QRect row(int row) {

@@ -78,7 +78,7 @@ void frmSit::buildBar() {
                 {QStringLiteral("Help"), QStringLiteral("?"), QStringLiteral("Nápověda")},
                 {QStringLiteral("Recept"), QStringLiteral("Recept"), QStringLiteral(" Zobraz recept ")},
                 {QStringLiteral("Zpet"), QStringLiteral("Zpět"), QStringLiteral("Zpět")},
-                {QStringLiteral("Konec"), QStringLiteral("Konec"), QStringLiteral("Konec programu")}};
+                {QStringLiteral("Konec"), QStringLiteral("Konec"), QStringLiteral("Konec")}};
     for (int index = 0; index < sit::kBarButtons; ++index) {
         auto* button = new PictureButton(*this, QStringLiteral("imgBtnHlavni(%1)").arg(index));
         button->place(sit::barButton(index));
@@ -102,10 +102,7 @@ void frmSit::setFocusOrder() {
 }
 
 void frmSit::mousePressEvent(QMouseEvent* event) {
-    const QPoint at = toTwips(event->position());
-    // A miss between the buttons is no click on the background.
-    if (event->button() != Qt::LeftButton || sit::kGroupPlate.contains(at) || sit::kBarPlate.contains(at))
-        return;
+    if (event->button() != Qt::LeftButton) return;
     grid_.unlock();
     setGroup(PhotoGrid::kNoGroup);
     showChoice();
