@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Fails when a picture is missing or of a wrong size, when a moving thing does not move or does not come to rest, when two
-dishes look nearly alike, when hot areas collide or a cursor's hot spot is off.
+dishes look nearly alike, when hot areas collide, a cursor's hot spot is off or the list of the films' things is wrong.
 
     art/check.py [--dishes]     with --dishes all fifty dishes must be there, else only those rendered are compared
 """
@@ -20,7 +20,7 @@ SIZES |= {f"prvky/{n}.png": (64, 64) for n in CURSORS}
 SIZES |= {f"prvky/{n}.png": s for n, s in (("RamVen", (192, 192)), ("RamDovnitr", (192, 192)), ("Tlacitko", (360, 120)), ("TlacitkoStisk", (360, 120)),
                                            ("OkrajHorni", (64, 32)), ("OkrajLeft", (32, 64)), ("ZAHLAVI", (1600, 180)))}
 SIZES |= {f"pozadi/{n}.jpg": (1600, 1200) for n in ("Sit", "recept", "seznam", "video", "konec", "uvod", "zprava", "stranka")}
-SIZES |= {f"{n}-siroke.jpg": (3360, 1440) for n in ("hlavni/pozadi", "pozadi/uvod", "pozadi/stranka", "pozadi/recept", "pozadi/seznam", "pozadi/Sit", "pozadi/konec")}
+SIZES |= {f"{n}-siroke.jpg": (3360, 1440) for n in ("hlavni/pozadi", "pozadi/uvod", "pozadi/stranka", "pozadi/recept", "pozadi/seznam", "pozadi/Sit", "pozadi/konec", "pozadi/video")}
 SIZES |= {"pozadi/menu.jpg": (800, 600), "prvky/vino256.jpg": (1024, 768), "hlavni/pozadi.jpg": (1600, 1200)}
 BUTTONS, FRAMES = 19, 10
 HEAVIEST = 15e6   # bytes of all frames together
@@ -112,6 +112,20 @@ def dishes(complete):
             yield f"dishes {a} and {b} look alike ({d:.3f})"
 
 
+def film():
+    """Things of the films: what the list says of each is true, and none is left out of it."""
+    folder = os.path.join(RENDERED, "film")
+    with open(os.path.join(folder, "veci.txt"), encoding="utf-8") as f:
+        rows = [ln.split() for ln in f if ln.strip() and ln[0] != "#"]
+    files = {n for n in os.listdir(folder) if n.endswith(".webp")}
+    for name, file, w, h, x, y, *_ in rows:
+        if file not in files or size(os.path.join(folder, file)) != (int(w), int(h)):
+            yield f"film: {file} is missing or not {w} x {h}"
+        elif not (0 <= int(x) <= int(w) and 0 <= int(y) <= int(h)):
+            yield f"film: the anchor of {name} is outside its picture"
+    yield from (f"film: {n} is not in veci.txt" for n in sorted(files - {row[1] for row in rows}))
+
+
 def areas():
     rows = [[int(x) for x in row] for row in layout("hlavni.txt")]
     if [r[0] for r in rows] != list(range(BUTTONS)):
@@ -127,7 +141,7 @@ def areas():
 
 
 def main(args):
-    faults = [*missing(), *frames(), *cursors(), *areas(), *dishes("--dishes" in args)]
+    faults = [*missing(), *frames(), *cursors(), *areas(), *film(), *dishes("--dishes" in args)]
     print("\n".join(faults) or "all there")
     return 1 if faults else 0
 

@@ -347,7 +347,7 @@ THINGS = {
     "talir": lambda: table.plate(4.0, "ece6da", "blue"), "misa": lambda: table.bowl(2.4, 1.6, "ece6da", rim="teal"), "talir-mouka": lambda: filled("flour"), "talir-vejce": lambda: filled("egg"),
     "talir-strouhanka": lambda: filled("crumbs"), "forma": lambda: aspic(False), "forma-aspik": aspic, "citron": lambda: food.lemon_half(.9), "sul": lambda: table.bowl(1.0, .7, "e9e0cc", inside="f7f4ec", rim="copper"),
 }
-SMALLER = {"prkno": .66, "panev": .75, "panev-tuk": .75, "hrnec": .8, "hrnec-voda": .8, "poklice": .8, "talir": .8, "forma": .8, "forma-aspik": .8}   # share of the usual scale at which a large thing is rendered
+SMALLER = {"prkno": .66} | dict.fromkeys("panev panev-tuk hrnec hrnec-voda poklice talir talir-mouka talir-vejce talir-strouhanka misa forma forma-aspik".split(), .5)   # share of the usual scale at which a large thing is rendered
 
 
 def seen(o):
