@@ -1,11 +1,16 @@
 // How fast a recipe opens, recalculates and changes its sections, in a cookbook of fifty recipes and in one
-// of a hundred thousand: the times of one pair should be equal. Painting is measured by itself.
+// of a hundred thousand: the times of one pair should be equal. Painting is measured by itself, and a note of
+// a megabyte in one paragraph: without blanks (0) and with (1).
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QImage>
+#include <QPlainTextEdit>
+#include <QTest>
 #include <map>
 
+#include "forms/messagebox.h"
+#include "forms/noteedit.h"
 #include "screens/recipe/frmrecept.h"
 #include "support/fakesarne.h"
 #include "support/recipedatabase.h"
@@ -59,6 +64,7 @@ QStringList cookbook(int recipes, int rows) {
 struct Cookbook {
     QTemporaryDir folder;
     FakeSarne run;
+    Serving lookedAt;
     std::int16_t id;
 
     explicit Cookbook(int recipes) : id(static_cast<std::int16_t>(std::min(recipes, kHighestId))) {
@@ -81,7 +87,7 @@ struct Cookbook {
     }
 
     frmRecept* open() {
-        auto* form = new frmRecept(run);
+        auto* form = new frmRecept(run, lookedAt);
         form->Zobraz(id);
         return form;
     }
@@ -150,10 +156,59 @@ void collectText(benchmark::State& state) {
     form->Skryj();
 }
 
+/// A note of a megabyte in one paragraph, in words or in one.
+QString longNote(bool words) {
+    return words ? QStringLiteral("poznámka k receptu ").repeated(55000) : QString(1 << 20, u'x');
+}
+
+frmRecept* openNote(Cookbook& book, bool words) {
+    book.run.database.Execute(
+        QStringLiteral("UPDATE Recepty SET Vlastni = '%1' WHERE ID = %2").arg(longNote(words)).arg(book.id));
+    frmRecept* form = book.open();
+    button(*form, "imgBtn(7)").click();
+    QApplication::processEvents();
+    return form;
+}
+
+void openLongNote(benchmark::State& state) {
+    Cookbook& book = Cookbook::of(kSmall);
+    frmRecept* form = openNote(book, state.range(0) != 0);
+    for (auto _ : state) {
+        button(*form, "imgBtn(7)").click();
+        QApplication::processEvents();  // paints
+    }
+    form->Skryj();
+}
+
+void typeIntoLongNote(benchmark::State& state) {
+    Cookbook& book = Cookbook::of(kSmall);
+    frmRecept* form = openNote(book, state.range(0) != 0);
+    auto& editor = form->findChild<NoteEdit*>()->editor();
+    for (auto _ : state) {
+        QTest::keyClick(&editor, Qt::Key_A);
+        QApplication::processEvents();  // paints
+    }
+    book.run.answers = {kAnswerNo};
+    form->Skryj();
+}
+
+void readLongNote(benchmark::State& state) {
+    Cookbook& book = Cookbook::of(kSmall);
+    frmRecept* form = openNote(book, state.range(0) != 0);
+    for (auto _ : state) {
+        button(*form, "cmdUloz(1)").click();
+        QApplication::processEvents();  // paints
+    }
+    form->Skryj();
+}
+
 BENCHMARK(openWithIngredients)->Arg(kSmall)->Arg(kLarge)->Unit(benchmark::kMicrosecond);
 BENCHMARK(recalculateFortyRows)->Arg(kSmall)->Arg(kLarge)->Unit(benchmark::kMicrosecond);
 BENCHMARK(paintFortyRows)->Unit(benchmark::kMicrosecond);
 BENCHMARK(switchSections)->Arg(kSmall)->Arg(kLarge)->Unit(benchmark::kMicrosecond);
+BENCHMARK(openLongNote)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(typeIntoLongNote)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(readLongNote)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(collectText)->Arg(kSmall)->Arg(kLarge)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -94,6 +94,10 @@ int Program::ZobrazZpravu(const QString& text, int style, int silent) {
     return messageForm().ask(text, style, silent);
 }
 
+int Program::AskOrLeave(const QString& text, int style) {
+    return messageForm().askOrLeave(text, style);
+}
+
 void Program::Beep() {
     platform_.beeper.beep();
 }
@@ -107,7 +111,9 @@ void Program::keepAwake(const QString& reason) {
 }
 
 void Program::ConfirmExit() {
-    if (ended_ || ZobrazZpravu(Texts::tr("Chcete ukončit program?  "), kQuestionBox) != kAnswerYes) return;
+    if (Ending || !ReadyToEnd() ||
+        ZobrazZpravu(Texts::tr("Chcete ukončit program?  "), kQuestionBox) != kAnswerYes)
+        return;
     endProgram();
 }
 
@@ -118,7 +124,7 @@ void Program::unloadForms(const QStringList& names) {
 }
 
 void Program::endProgram() {
-    ended_ = true;
+    Ending = true;
     music().setNotify(MediaNotify::Off);
     music().command(u"stop");
     music().command(u"close");

@@ -27,7 +27,7 @@ class Program final : public QObject, public basSarne {
     bool Main(const QString& commandLine);
 
     /// Whether the user has ended the program.
-    bool hasEnded() const { return ended_; }
+    bool hasEnded() const { return Ending; }
     frmHlavni* mainScreen() const { return screens_.mainScreen(); }
     const PlatformParts& platform() const { return platform_; }
 
@@ -41,6 +41,7 @@ class Program final : public QObject, public basSarne {
 
     void ConfirmExit() override;
     int ZobrazZpravu(const QString& text, int style, int silent = 0) override;
+    int AskOrLeave(const QString& text, int style) override;
     /// As ZobrazZpravu, for a question that closing the window answers with \a closeCode.
     int ask(const QString& text, int style, int closeCode);
     void Beep() override;
@@ -63,7 +64,6 @@ class Program final : public QObject, public basSarne {
     std::unique_ptr<Stage> stage_;
     ProgramScreens screens_;
     std::unique_ptr<Announcer> announcer_;
-    bool ended_ = false;
 };
 
 /// Whether \a commandLine is the switch that turns the show mode on.

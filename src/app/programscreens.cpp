@@ -42,7 +42,7 @@ void ProgramScreens::returnToHelpList() {
 
 void ProgramScreens::showRecipe(std::int16_t id) {
     const auto askPortions = [this](const QString& prompt) { return askNumber(program_, prompt); };
-    (new frmRecept(program_, askPortions))->Zobraz(id);
+    (new frmRecept(program_, lookedAt_, askPortions))->Zobraz(id);
 }
 
 void ProgramScreens::showGrid() {
@@ -87,11 +87,11 @@ void ProgramScreens::showSponsor(std::int16_t topic, const QString& text) {
 }
 
 void ProgramScreens::showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) {
-    printing_.showSelection(entries, mode);
+    printing_.showSelection(entries, mode, lookedAt_);
 }
 
-void ProgramScreens::printRecipes(const std::vector<std::int16_t>& ids) {
-    printing_.printRecipes(ids);
+void ProgramScreens::printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving) {
+    printing_.printRecipes(ids, serving);
 }
 
 void ProgramScreens::printText(const QString& title, const QString& text) {

@@ -31,7 +31,7 @@ class ProgramScreens final : public Screens {
     void showIndex(std::int16_t keyword) override;
     void showSponsor(std::int16_t topic, const QString& text) override;
     void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) override;
-    void printRecipes(const std::vector<std::int16_t>& ids) override;
+    void printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving) override;
     void printText(const QString& title, const QString& text) override;
     void returnToMain() override;
 
@@ -43,6 +43,7 @@ class ProgramScreens final : public Screens {
     QPointer<frmSeznam> helpList_;
     frmSeznam::Panel listPanel_ = frmSeznam::Panel::Photo;  ///< as the user left it
     Printing printing_;
+    Serving lookedAt_;  ///< how the user looked at a recipe last
 };
 
 }  // namespace sarne

@@ -6,11 +6,12 @@
 
 namespace sarne {
 
-Quantities::Quantities(double portions, int basePortions, const QLocale& locale)
-    : basePortions_(basePortions), locale_(locale) {
+Quantities::Quantities(double portions, int basePortions, const QLocale& locale) : locale_(locale) {
     constexpr int kMostPortions = 255;
     const bool known = basePortions > 0 && basePortions <= kMostPortions;
-    if (known && portions > 0) factor_ = static_cast<float>(portions / basePortions);
+    if (!known || !(portions > 0)) return;
+    portions_ = portions;
+    factor_ = static_cast<float>(portions / basePortions);
 }
 
 float Quantities::amount(double stored) const {
@@ -23,7 +24,7 @@ QString Quantities::text(double stored) const {
 }
 
 QString Quantities::portionsText() const {
-    return numberText(factor_ * static_cast<float>(basePortions_), locale_);
+    return numberText(portions_, locale_);
 }
 
 float Quantities::forDisplay(float amount) {

@@ -5,6 +5,15 @@
 
 namespace sarne {
 
+/// Each amount is stored twice: as people weigh, and as people spoon.
+enum class UnitSystem { Weights, Spoons };
+
+/// How a recipe is looked at. 0 portions: none was looked at yet.
+struct Serving {
+    double portions = 0;
+    UnitSystem units = UnitSystem::Weights;
+};
+
 /// The amounts of a recipe recalculated for a number of portions, and written as people read them: 254 g is
 /// 250, half a spoon stays 0,5. A value; the amounts are in whatever unit the recipe gives them.
 class Quantities {
@@ -19,7 +28,8 @@ class Quantities {
     float amount(double stored) const;
     /// amount() as it is shown; empty when there is nothing to show, which is 0 and less.
     QString text(double stored) const;
-    /// The number of portions that the factor stands for.
+    /// The number of portions that the factor stands for, as it was given: multiplying it back would show
+    /// traces of its 32 bits.
     QString portionsText() const;
 
     /// \a amount without more precision than a kitchen has: hundredths below 0.1, tenths below 10, whole
@@ -27,8 +37,8 @@ class Quantities {
     static float forDisplay(float amount);
 
   private:
+    double portions_ = 0;
     float factor_ = 0;
-    int basePortions_;
     QLocale locale_;
 };
 

@@ -85,7 +85,8 @@ class IngredientReader {
 QString Measure::text(const Quantities& quantities) const {
     QString text;
     if (unit) text += QStringLiteral(" (") + *unit + u')';
-    if (quantities.amount(amount) > 0) text += QStringLiteral(": ") + quantities.text(amount);
+    if (const QString number = quantities.text(amount); !number.isEmpty())
+        text += QStringLiteral(": ") + number;
     return text;
 }
 

@@ -10,9 +10,6 @@ namespace sarne {
 
 class Database;
 
-/// Each amount is stored twice: as people weigh, and as people spoon.
-enum class UnitSystem { Weights, Spoons };
-
 /// How much of an ingredient a recipe takes, in one unit system.
 struct Measure {
     std::optional<QString> unit;  ///< its name, without blanks around it

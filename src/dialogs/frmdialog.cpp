@@ -19,9 +19,12 @@ const TextFont kEntryFont{QStringLiteral("Arial"), 13};
 const TextFont kButtonFont{QStringLiteral("Arial"), 11, true};
 
 constexpr int kMargin = 240;
-constexpr int kPromptWidth = 5000;
+constexpr int kPromptWidth = 5500;
 constexpr int kEntryHeight = 480;
 constexpr QSize kButton(1560, 510);
+constexpr int kKeys = 11;      // ten digits and the key that takes one back
+constexpr int kKeyStep = 502;  // from one key to the next
+constexpr QSize kKey(480, 480);
 
 }  // namespace
 
@@ -40,7 +43,9 @@ frmDialog::frmDialog(basSarne& sarne, const QString& prompt, Asks asks)
 
     const int entryTop = kMargin + Label1.twips().height() + kMargin / 2;
     Text1.place({kMargin, entryTop, kPromptWidth, kEntryHeight});
-    const int buttonTop = entryTop + kEntryHeight + kMargin;
+    const int entryBottom = entryTop + kEntryHeight;
+    const int buttonTop =
+        (asks == Asks::Number ? makeDigits(entryBottom + kMargin / 2) : entryBottom) + kMargin;
     const QString captions[] = {Texts::tr("OK"), Texts::tr("Storno")};
     for (int i = 0; i < 2; ++i) {
         auto* button = Command1[size_t(i)] = new Button(*this, QStringLiteral("Command1(%1)").arg(i));
@@ -57,6 +62,34 @@ frmDialog::frmDialog(basSarne& sarne, const QString& prompt, Asks asks)
     place({QPoint((Stage::kWidth - size.width()) / 2, (Stage::kHeight - size.height()) / 2), size});
     ring().setStops({&Text1, Command1[0], Command1[1]});
     ring().setArrows(FocusRing::Arrows::All);
+}
+
+/// Keys for those who have only the mouse at hand. Returns their lower edge.
+int frmDialog::makeDigits(int top) {
+    for (int key = 0; key < kKeys; ++key) {
+        const QRect place({kMargin + key * kKeyStep, top}, kKey);
+        const QString digit = QString::number((key + 1) % 10);
+        if (key + 1 < kKeys)
+            addKey(QStringLiteral("cmdCislice(%1)").arg(digit), place, digit, digit,
+                   [this, digit] { Text1.type(digit); });
+        else
+            addKey(QStringLiteral("cmdSmazat"), place, QStringLiteral("◄"),
+                   Texts::tr("Smazat poslední číslici"), [this] { Text1.takeBack(); });
+    }
+    return top + kKey.height();
+}
+
+void frmDialog::addKey(const QString& name, const QRect& place, const QString& caption, const QString& tip,
+                       std::function<void()> use) {
+    auto* button = new Button(*this, name);
+    button->place(place);
+    button->setCaption(caption);
+    button->setTip(tip);
+    button->setFont(kButtonFont);
+    button->setGround(colors::kTeal);
+    button->setFrame(Button::Frame::Raised);
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(button, &Button::clicked, this, std::move(use));
 }
 
 void frmDialog::press(int index) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "forms/button.h"
 #include "forms/edit.h"
@@ -27,6 +28,9 @@ class frmDialog : public Form {
     bool keyDown(QKeyEvent& event) override;
 
   private:
+    int makeDigits(int top);
+    void addKey(const QString& name, const QRect& place, const QString& caption, const QString& tip,
+                std::function<void()> use);
     void press(int index);
 
     Asks asks_;

@@ -35,7 +35,16 @@ frmMessage::frmMessage(basSarne& sarne)
 
 int frmMessage::ask(const QString& text, int style, int silent, int closeCode) {
     closeCode_ = closeCode;
+    mayLeave_ = false;
     setUp(text, style, silent);
+    showModal();
+    return result_;
+}
+
+int frmMessage::askOrLeave(const QString& text, int style) {
+    closeCode_ = 0;
+    mayLeave_ = true;
+    setUp(text, style, 0);
     showModal();
     return result_;
 }
@@ -85,7 +94,7 @@ void frmMessage::press(int button) {
 }
 
 void frmMessage::closeRequested() {
-    if (closeCode_ != 0) hideForm();
+    if (mayLeave_ || closeCode_ != 0) hideForm();
 }
 
 void frmMessage::pressByLetter(const QString& letter) {
@@ -98,7 +107,7 @@ void frmMessage::pressByLetter(const QString& letter) {
 bool frmMessage::keyDown(QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Escape:
-            press(escape_);
+            mayLeave_ ? hideForm() : press(escape_);
             break;
         case Qt::Key_F4:
         case Qt::Key_X:

@@ -21,6 +21,9 @@ class frmMessage : public Form {
     /// pressed. \a closeCode is what the box returns when the window is closed meanwhile; with 0 it stays
     /// open.
     int ask(const QString& text, int style, int silent, int closeCode = 0);
+    /// The same for a question that may go unanswered: 0 when the user leaves it by Escape or closes the
+    /// window.
+    int askOrLeave(const QString& text, int style);
 
     void closeRequested() override;
 
@@ -43,6 +46,7 @@ class frmMessage : public Form {
     std::vector<MessageButton> shown_;
     int escape_ = 0;
     int closeCode_ = 0;
+    bool mayLeave_ = false;
     int result_ = 0;
     QPoint dragFrom_;  // 0,0: not yet taken
 };

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
+#include <algorithm>
 
 #include "forms/resources.h"
 #include "forms/stage.h"
@@ -54,6 +55,12 @@ void basSarne::PopScreen(Form& screen) {
     below->setFocus();
     below->restored();
     stage().leaveModal(screen);  // a dialog that had opened the screen is in front again
+}
+
+bool basSarne::ReadyToEnd() const {
+    const std::vector<QPointer<Form>> screens = FormStack.screens();
+    return std::all_of(screens.rbegin(), screens.rend(),
+                       [](const QPointer<Form>& screen) { return !screen || screen->readyToEnd(); });
 }
 
 bool basSarne::BringTopToFront(const QString& formName) {

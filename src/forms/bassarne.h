@@ -47,8 +47,7 @@ class basSarne {
     QString SavedDisplayMode;  ///< "width,height" to restore at exit, or empty
     ScreenPictures Pictures;
     QLocale Locale;
-    bool lastWeights = true;  ///< the unit system last looked at
-    double lastPortions = 0;  ///< the portions of the recipe last shown; 0 before the first
+    bool Ending = false;  ///< the user has agreed to end the program: nothing more is asked
 
     virtual Stage& stage() = 0;
     virtual Resources& resources() = 0;
@@ -63,6 +62,9 @@ class basSarne {
     virtual void ConfirmExit() = 0;
     /// Shows the message box and returns the code of the button pressed; Yes and OK are both 6.
     virtual int ZobrazZpravu(const QString& text, int style, int silent = 0) = 0;
+    /// As ZobrazZpravu, for a question that may go unanswered: 0 when the user leaves it by Escape or closes
+    /// the window.
+    virtual int AskOrLeave(const QString& text, int style) = 0;
     virtual void Beep() = 0;
     /// Hands a text to the announcer, for people who do not see it.
     virtual void HookMessage(const QString& text) = 0;
@@ -83,6 +85,8 @@ class basSarne {
     void PushScreen(Form& screen, KeepEnabled keep = KeepEnabled::No);
     /// Closes the top screen and returns to the one below, all of whose controls are enabled.
     void PopScreen(Form& screen);
+    /// Asks every screen, from the top down, whether the program may end. False as soon as one wants to stay.
+    bool ReadyToEnd() const;
     /// Keeps the screen on top in front; true when it was another than \a formName.
     bool BringTopToFront(const QString& formName);
     /// Lets pending window events run.

@@ -21,6 +21,14 @@ QString Edit::text() const {
     return line_->text();
 }
 
+void Edit::type(const QString& text) {
+    line_->insert(text);
+}
+
+void Edit::takeBack() {
+    line_->backspace();
+}
+
 void Edit::setText(const QString& text) {
     line_->setText(text);
 }

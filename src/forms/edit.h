@@ -17,6 +17,10 @@ class Edit : public Control {
     QAccessible::Role role() const override { return QAccessible::Client; }
     QString text() const;
     void setText(const QString& text);
+    /// Writes \a text at the cursor, in place of what is selected, as if it were typed.
+    void type(const QString& text);
+    /// Takes the character before the cursor away, or what is selected.
+    void takeBack();
     void setFont(const TextFont& font);
     void setMaxLength(int characters);
     /// Gives the entry the keyboard, its text selected.

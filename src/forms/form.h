@@ -54,6 +54,9 @@ class Form : public TwipWidget {
     virtual void endProgram();
     virtual void help();
     virtual void musicSettings();
+    /// Asks what there is to ask before the program ends; false when the user wants to stay. Asked of every
+    /// screen, before the program's own question.
+    virtual bool readyToEnd() { return true; }
     /// The window's close button or Alt+F4.
     virtual void closeRequested() { endProgram(); }
 

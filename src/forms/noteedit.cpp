@@ -5,8 +5,10 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
+#include <QTextBlock>
 
 #include "core/texts.h"
 #include "forms/colors.h"
@@ -35,9 +37,34 @@ QString editorStyle(double scale) {
         .arg(unit * 40);
 }
 
+/// The widget that is typed into. What it takes and gives away as text is whole, whatever it shows in pieces.
+class PiecedEdit final : public QPlainTextEdit {
+  public:
+    PiecedEdit(QWidget* parent, const LongParagraphs& paragraphs)
+        : QPlainTextEdit(parent), paragraphs_(paragraphs) {}
+
+  protected:
+    QMimeData* createMimeDataFromSelection() const override {
+        QMimeData* selected = QPlainTextEdit::createMimeDataFromSelection();
+        const QString text = paragraphs_.joined(selected->text());
+        selected->clear();
+        selected->setText(text);
+        return selected;
+    }
+    void insertFromMimeData(const QMimeData* source) override {
+        QMimeData pieces;
+        pieces.setText(paragraphs_.broken(source->text()));
+        QPlainTextEdit::insertFromMimeData(&pieces);
+    }
+
+  private:
+    const LongParagraphs& paragraphs_;
+};
+
 }  // namespace
 
-NoteEdit::NoteEdit(Form& form, const QString& name) : Control(form, name), editor_(new QPlainTextEdit(this)) {
+NoteEdit::NoteEdit(Form& form, const QString& name)
+    : Control(form, name), editor_(new PiecedEdit(this, paragraphs_)) {
     editor_->setObjectName(name + QStringLiteral(".text"));
     editor_->setTabChangesFocus(false);
     editor_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -46,16 +73,33 @@ NoteEdit::NoteEdit(Form& form, const QString& name) : Control(form, name), edito
     setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(editor_);
     editor_->show();
-    connect(editor_, &QPlainTextEdit::textChanged, this, &NoteEdit::edited);
+    connect(editor_, &QPlainTextEdit::textChanged, this, [this] {
+        breakLongParagraph();
+        Q_EMIT edited();
+    });
+}
+
+/// Typing makes the paragraph at the cursor longer, and deleting joins it to the next.
+void NoteEdit::breakLongParagraph() {
+    const QTextBlock block = editor_->textCursor().block();
+    if (block.length() <= 2 * LongParagraphs::kLongest) return;
+    QTextCursor cursor(block);
+    cursor.joinPreviousEditBlock();
+    cursor.setPosition(block.position() + static_cast<int>(LongParagraphs::breakIn(block.text())));
+    cursor.insertText(paragraphs_.lineBreak());
+    cursor.endEditBlock();
 }
 
 QString NoteEdit::text() const {
-    return editor_->toPlainText().remove(QChar::Null);
+    // Not toPlainText(), which takes blanks that hold words together for plain ones.
+    QString text = editor_->document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n').remove(QChar::Null);
+    return paragraphs_.joined(std::move(text));
 }
 
 void NoteEdit::setText(const QString& text) {
     const QSignalBlocker silent(editor_);
-    editor_->setPlainText(text);
+    editor_->setPlainText(paragraphs_.open(text));
 }
 
 void NoteEdit::setFont(const TextFont& font) {

@@ -1,14 +1,16 @@
 #pragma once
 
 #include "forms/control.h"
+#include "forms/longparagraphs.h"
 #include "richtext/surface.h"
 
 class QPlainTextEdit;
 
 namespace sarne {
 
-/// An editor for a text of any length and many lines: plain text, with undo and redo, the clipboard and a
-/// scroll bar. Escape, Tab, function keys and Alt combinations go to the form; all others are typed.
+/// An editor for a text of any length, of many lines or of one: plain text, with undo and redo, the clipboard
+/// and a scroll bar. A paragraph of thousands of characters shows in pieces, and is one all the same. Escape,
+/// Tab, function keys and Alt combinations go to the form; all others are typed.
 class NoteEdit : public Control {
     Q_OBJECT
   public:
@@ -38,7 +40,9 @@ class NoteEdit : public Control {
   private:
     bool keyForForm(QEvent* event);
     void showMenu(QPoint global);
+    void breakLongParagraph();
 
+    LongParagraphs paragraphs_;
     QPlainTextEdit* editor_;
     TextFont font_;
 };

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "core/quantities.h"
+
 namespace sarne {
 
 /// What the photo viewer is asked to show.
@@ -42,7 +44,8 @@ class Screens {
     virtual void showIndex(std::int16_t keyword) = 0;
     virtual void showSponsor(std::int16_t topic, const QString& text) = 0;
     virtual void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) = 0;
-    virtual void printRecipes(const std::vector<std::int16_t>& ids) = 0;
+    /// Prints recipes; the user is first offered to have them as \a serving says.
+    virtual void printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving) = 0;
     /// Prints the rich text \a text, which belongs to no recipe, under \a title.
     virtual void printText(const QString& title, const QString& text) {
         Q_UNUSED(title)

@@ -66,6 +66,10 @@ void TextView::drawRichText(const QString& text) {
     ZobrazRtf(*this, text);
 }
 
+void TextView::drawPlainText(const QString& text) {
+    basZobrazRtfSarne().drawPlainText(*this, text);
+}
+
 bool TextView::keepRichText(const RtfLayout& layout) {
     const int added = pieces_.add(layout);
     addPainted(

@@ -30,6 +30,8 @@ class TextView : public PictureBox {
     /// Draws a rich text from the current position on, wrapped before the right edge, and leaves Y below its
     /// last line. A text of blanks draws nothing.
     void drawRichText(const QString& text);
+    /// The same for a text in which every character stands for itself.
+    void drawPlainText(const QString& text);
     TextMetrics* textMetrics() override { return &metrics_; }
     bool keepRichText(const RtfLayout& layout) override;
     /// Also what the rich texts say, a line for each of theirs.

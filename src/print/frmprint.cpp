@@ -46,19 +46,19 @@ QString outcomeText(const PrintOutcome& outcome) {
 
 }  // namespace
 
-void frmPrint::Zobraz(const std::vector<std::int16_t>& selection) {
-    take({selection, {}});
+void frmPrint::Zobraz(const std::vector<std::int16_t>& selection, const Serving& serving) {
+    take({selection, {}}, serving);
 }
 
 void frmPrint::ZobrazTexty(std::vector<TitledText> texts) {
-    take({{}, std::move(texts)});
+    take({{}, std::move(texts)}, {});
 }
 
-void frmPrint::take(PrintMaterial material) {
+void frmPrint::take(PrintMaterial material, const Serving& serving) {
     if (printing_) return;
     material_ = std::move(material);
     lblVysledek.setText({});
-    prepareOptions();
+    prepareOptions(serving);
     showMaterial();
     if (printedBefore_) {
         showForm();
@@ -71,18 +71,17 @@ void frmPrint::open() {
     if (!isVisible()) showOver(app(), *this);
 }
 
-void frmPrint::prepareOptions() {
-    const double last = app().lastPortions;
+void frmPrint::prepareOptions(const Serving& serving) {
     // Read back with a decimal point, whatever the user's.
-    Text1.setText(QString::number(last > 0 ? last : kUsualPortions));
-    chkZobrKg.setChecked(app().lastWeights);
+    Text1.setText(QString::number(serving.portions > 0 ? serving.portions : kUsualPortions));
+    chkZobrKg.setChecked(serving.units == UnitSystem::Weights);
 }
 
 PrintOptions frmPrint::options() const {
     PrintOptions options;
     for (size_t i = 0; i < Chco.size(); ++i) options.sections[i] = Chco[i]->isChecked();
     options.portions = leadingNumber(Text1.text());
-    options.weights = chkZobrKg.isChecked();
+    options.units = chkZobrKg.isChecked() ? UnitSystem::Weights : UnitSystem::Spoons;
     return options;
 }
 

@@ -25,7 +25,7 @@ class frmPrint : public Form, private PrintProgress {
 
     /// Takes the ids of recipes to print and shows the form. The first selection waits for the user to look
     /// through the options; one that comes while the form is open is printed at once.
-    void Zobraz(const std::vector<std::int16_t>& selection);
+    void Zobraz(const std::vector<std::int16_t>& selection, const Serving& serving);
     /// Takes texts to print that are no recipes: there is nothing to choose but the printer.
     void ZobrazTexty(std::vector<TitledText> texts);
 
@@ -47,9 +47,9 @@ class frmPrint : public Form, private PrintProgress {
     void makeButtons();
     Button* makeButton(const QString& name, const QString& caption, const QString& tip, const QRect& place);
 
-    void take(PrintMaterial material);
+    void take(PrintMaterial material, const Serving& serving);
     void open();
-    void prepareOptions();
+    void prepareOptions(const Serving& serving);
     PrintOptions options() const;
     PrintSource source();
     QString materialName() const;

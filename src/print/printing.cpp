@@ -11,16 +11,17 @@ frmPrint& Printing::form() {
     return *form_;
 }
 
-void Printing::showSelection(const std::vector<PrintEntry>& entries, const QString& mode) {
+void Printing::showSelection(const std::vector<PrintEntry>& entries, const QString& mode,
+                             const Serving& serving) {
     const bool pages = mode.compare(u"Help", Qt::CaseInsensitive) == 0;
-    auto* save = new frmSave(app_, entries, [this, pages](const std::vector<std::int16_t>& ids) {
-        pages ? printPages(ids) : printRecipes(ids);
+    auto* save = new frmSave(app_, entries, [this, pages, serving](const std::vector<std::int16_t>& ids) {
+        pages ? printPages(ids) : printRecipes(ids, serving);
     });
     save->Zobraz(mode);
 }
 
-void Printing::printRecipes(const std::vector<std::int16_t>& ids) {
-    form().Zobraz(ids);
+void Printing::printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving) {
+    form().Zobraz(ids, serving);
 }
 
 void Printing::printText(const QString& title, const QString& richText) {

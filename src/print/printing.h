@@ -15,9 +15,9 @@ class Printing {
 
     /// Lets the user choose among \a entries and prints the choice; returns when the choice was made. Their
     /// items are recipes; in the mode "Help" they are text pages.
-    void showSelection(const std::vector<PrintEntry>& entries, const QString& mode);
+    void showSelection(const std::vector<PrintEntry>& entries, const QString& mode, const Serving& serving);
     /// Shows the printing form for the recipes, or prints them at once where it is open already.
-    void printRecipes(const std::vector<std::int16_t>& ids);
+    void printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving);
     /// Shows the printing form for one text.
     void printText(const QString& title, const QString& richText);
 

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "core/quantities.h"
+
 namespace sarne {
 
 /// The sections of a printed recipe, in the order in which they are printed.
@@ -12,7 +14,7 @@ inline constexpr int kPrintSections = 8;
 struct PrintOptions {
     std::array<bool, kPrintSections> sections{true, true, true, true, true, true, true, true};
     double portions = 4;
-    bool weights = true;  ///< quantities by weight besides those by the spoon
+    UnitSystem units = UnitSystem::Weights;  ///< weights stand beside the spoons; spoons stand alone
 
     bool wants(PrintSection section) const { return sections[static_cast<size_t>(section)]; }
 };

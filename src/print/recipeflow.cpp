@@ -67,7 +67,7 @@ void RecipeFlow::addWrapped(const QString& text, const TextFont& font, FlowLine:
     const int height = metrics_.textHeight(font), ascent = metrics_.textAscent(font);
     QStringView rest(text);
     while (!rest.isEmpty() && !stop_) {
-        const qsizetype length = breakAt(rest, font, currentWidth());
+        const qsizetype length = firstLine(rest, currentWidth(), measuring(font), LongWords::Break);
         QStringView shown = rest.left(length);
         rest = rest.mid(length);
         if (!rest.isEmpty()) {
@@ -86,40 +86,28 @@ void RecipeFlow::addWrapped(const QString& text, const TextFont& font, FlowLine:
     }
 }
 
-/// How many characters of \a text fit into \a width; at least one.
-qsizetype RecipeFlow::fitting(QStringView text, const TextFont& font, int width) {
-    qsizetype fits = 1, tooMany = text.size() + 1;
-    // Most lines are short of the end of the text by far: look near first.
-    for (qsizetype step = 64; fits + step < tooMany; step *= 2) {
-        if (metrics_.textWidth(font, text.left(fits + step)) > width)
-            tooMany = fits + step;
-        else
-            fits += step;
-    }
-    while (tooMany - fits > 1) {
-        const qsizetype middle = fits + (tooMany - fits) / 2;
-        (metrics_.textWidth(font, text.left(middle)) <= width ? fits : tooMany) = middle;
-    }
-    return fits;
-}
-
-/// How many characters go on a line that is \a width wide: up to a blank where there is one.
-qsizetype RecipeFlow::breakAt(QStringView text, const TextFont& font, int width) {
-    if (text.size() <= 512 && metrics_.textWidth(font, text) <= width) return text.size();
-    const qsizetype fits = fitting(text, font, width);
-    if (fits >= text.size()) return text.size();
-    if (text[fits] == u' ') return fits;
-    const qsizetype blank = text.left(fits).lastIndexOf(u' ');
-    const bool onlyIndent = blank < 0 || text.left(blank + 1).trimmed().isEmpty();
-    return onlyIndent ? fits : blank + 1;
+MeasureText RecipeFlow::measuring(const TextFont& font) {
+    return [this, &font](QStringView text) { return metrics_.textWidth(font, text); };
 }
 
 void RecipeFlow::addRichText(const QString& text, const QString& title) {
     if (text.trimmed().isEmpty()) return;
     endPicture();
-    const LayoutArea area{page_.leftMargin, page_.rightMargin(), 0};
-    const RtfLayout layout =
-        RtfLayout::of(text, area, metrics_, LinkMarkers::Remove, &stop_, [this] { ask(); });
+    addLayout(RtfLayout::of(text, textArea(), metrics_, LinkMarkers::Remove, &stop_, [this] { ask(); }),
+              title);
+}
+
+void RecipeFlow::addPlainText(const QString& text) {
+    if (text.trimmed().isEmpty()) return;
+    endPicture();
+    addLayout(RtfLayout::ofPlain(text, textArea(), metrics_, &stop_, [this] { ask(); }), {});
+}
+
+LayoutArea RecipeFlow::textArea() const {
+    return {page_.leftMargin, page_.rightMargin(), 0};
+}
+
+void RecipeFlow::addLayout(const RtfLayout& layout, const QString& title) {
     for (size_t line = linesOfTitle(layout, title); line < layout.lines().size() && !stop_; ++line)
         addLaidOutLine(layout, layout.lines()[line]);
 }
@@ -149,7 +137,8 @@ void RecipeFlow::addOverlongWord(const RtfLayout& layout, const TextLine& line, 
     QStringView rest = layout.text(box);
     bool starts = line.startsParagraph;
     while (!rest.isEmpty() && !stop_) {
-        const qsizetype length = std::min(rest.size(), fitting(rest, font, page_.lineWidth));
+        const qsizetype length =
+            std::min(rest.size(), charactersFitting(rest, page_.lineWidth, measuring(font)));
         FlowLine piece;
         piece.height = line.height;
         piece.startsParagraph = starts;

@@ -6,6 +6,7 @@
 #include "print/printedpage.h"
 #include "print/printprogress.h"
 #include "richtext/rtflayout.h"
+#include "richtext/wordwrap.h"
 
 namespace sarne {
 
@@ -25,6 +26,8 @@ class RecipeFlow {
     void addRichText(const QString& text, const QString& title = {});
     void addHeading(const QString& text);
     void addSpace(int twips);
+    /// Adds a text in which every character stands for itself, laid out like a rich text.
+    void addPlainText(const QString& text);
     /// Places \a picture at the right margin, in its proportions; the plain texts that follow stand to the
     /// left of it as long as it lasts. \a room is what is left of the page.
     void addPicture(const Picture& picture, int room);
@@ -40,8 +43,9 @@ class RecipeFlow {
   private:
     void append(FlowLine line);
     void addWrapped(const QString& text, const TextFont& font, FlowLine::Kind kind, bool starts);
-    qsizetype fitting(QStringView text, const TextFont& font, int width);
-    qsizetype breakAt(QStringView text, const TextFont& font, int width);
+    MeasureText measuring(const TextFont& font);
+    LayoutArea textArea() const;
+    void addLayout(const RtfLayout& layout, const QString& title);
     int currentWidth() const;
     void addLaidOutLine(const RtfLayout& layout, const TextLine& line);
     void addOverlongWord(const RtfLayout& layout, const TextLine& line, const WordBox& box);

@@ -13,9 +13,9 @@ constexpr int kSectionGap = 160;
 
 /// The quantities of \a ingredient behind its name: by weight where that is wanted, and by the spoon; once
 /// where both are the same.
-QString quantityText(const Ingredient& ingredient, const Quantities& quantities, bool weights) {
+QString quantityText(const Ingredient& ingredient, const Quantities& quantities, UnitSystem units) {
     const QString spoons = ingredient.spoons.text(quantities);
-    if (!weights) return spoons;
+    if (units == UnitSystem::Spoons) return spoons;
     const QString kilograms = ingredient.weights.text(quantities);
     return kilograms == spoons ? spoons : kilograms + spoons;
 }
@@ -83,7 +83,7 @@ void RecipeSections::ingredients() {
     for (const Ingredient& ingredient : readIngredients(context_.source.db, id())) {
         if (!flow_.wentOn()) return;
         const QString line =
-            ingredient.title() + quantityText(ingredient, quantities, context_.options.weights);
+            ingredient.title() + quantityText(ingredient, quantities, context_.options.units);
         flow_.addText(line.trimmed(), printfonts::body());
         flow_.addContinuation(ingredient.alternativeLine(), printfonts::body());
     }
@@ -106,7 +106,7 @@ void RecipeSections::ownNote() {
     flow_.endPicture();
     gap();
     flow_.addHeading(QStringLiteral("Vlastní poznámka: "));
-    flow_.addRichText(note);
+    flow_.addPlainText(note);
 }
 
 void RecipeSections::tools() {

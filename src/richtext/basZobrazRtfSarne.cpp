@@ -12,17 +12,30 @@ LayoutArea layoutArea(const Surface& surface) {
 
 }  // namespace
 
-void basZobrazRtfSarne::ZobrazRtf(Surface& surface, const QString& text) {
+template <typename LayOut>
+void basZobrazRtfSarne::draw(Surface& surface, const QString& text, LayOut layOut) {
     stop_ = false;
     layout_ = {};
     if (QStringView(text).trimmed().isEmpty()) return;
     const LayoutArea area = layoutArea(surface);
     SurfaceTextMetrics measuring(surface);
     TextMetrics* own = surface.textMetrics();
-    layout_ = RtfLayout::of(text, area, own ? *own : measuring, LinkMarkers::Honour, &stop_);
+    layout_ = layOut(area, own ? *own : measuring);
     if (!surface.keepRichText(layout_)) drawWords(surface);
     surface.setCurrentX(area.left);
     surface.setCurrentY(layout_.bottom());
+}
+
+void basZobrazRtfSarne::ZobrazRtf(Surface& surface, const QString& text) {
+    draw(surface, text, [&](const LayoutArea& area, TextMetrics& metrics) {
+        return RtfLayout::of(text, area, metrics, LinkMarkers::Honour, &stop_);
+    });
+}
+
+void basZobrazRtfSarne::drawPlainText(Surface& surface, const QString& text) {
+    draw(surface, text, [&](const LayoutArea& area, TextMetrics& metrics) {
+        return RtfLayout::ofPlain(text, area, metrics, &stop_);
+    });
 }
 
 void basZobrazRtfSarne::drawWords(Surface& surface) const {

@@ -15,6 +15,9 @@ class basZobrazRtfSarne {
     /// right edge, and leaves X where it was and Y below the last line. A text of blanks draws nothing.
     void ZobrazRtf(Surface& surface, const QString& text);
 
+    /// The same for a text in which every character stands for itself.
+    void drawPlainText(Surface& surface, const QString& text);
+
     /// Abandons the rendering that is going on; the next one starts afresh.
     void stop() { stop_ = true; }
 
@@ -22,6 +25,8 @@ class basZobrazRtfSarne {
     const RtfLayout& layout() const { return layout_; }
 
   private:
+    template <typename LayOut>
+    void draw(Surface& surface, const QString& text, LayOut layOut);
     void drawWords(Surface& surface) const;
 
     RtfLayout layout_;

@@ -39,7 +39,7 @@ class HeaderReader {
     RtfHeader read() {
         while (!cursor_.atEnd() && !found_) readOne();
         if (!found_) {
-            header_.bodyStart = firstPard_ >= 0 ? firstPard_ : behindHeader_;
+            header_.bodyStart = behindHeader_;
             header_.tabStops.clear();  // they stand in the text and are read with it
         }
         return std::move(header_);
@@ -77,7 +77,6 @@ class HeaderReader {
                 found_ = true;
                 break;
             case controlName(u"pard"):
-                if (firstPard_ < 0) firstPard_ = start;
                 header_.tabStops.clear();
                 break;
             case controlName(u"tx"):
@@ -117,7 +116,6 @@ class HeaderReader {
     RtfHeader header_;
     bool found_ = false;
     bool textSeen_ = false;
-    qsizetype firstPard_ = -1;
     qsizetype behindHeader_ = 0;
 };
 

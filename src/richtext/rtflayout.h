@@ -68,6 +68,11 @@ class RtfLayout {
                         LinkMarkers markers = LinkMarkers::Honour, const StopFlag* stop = nullptr,
                         const std::function<void()>& lineDone = {});
 
+    /// Lays out a text in which every character stands for itself, whatever it looks like. A word longer than
+    /// any that people write is broken like a line.
+    static RtfLayout ofPlain(QStringView text, const LayoutArea& area, TextMetrics& metrics,
+                             const StopFlag* stop = nullptr, const std::function<void()>& lineDone = {});
+
     const std::vector<WordBox>& boxes() const { return boxes_; }
     const std::vector<TextLine>& lines() const { return lines_; }
     const std::vector<LinkPhrase>& links() const { return links_; }

@@ -8,8 +8,12 @@ namespace sarne {
 /// Gathers what is read into words and hands them to the lines. A link phrase is one word, blanks and all.
 class RtfLayouter final : public RtfSink {
   public:
-    RtfLayouter(RtfLayout& layout, TextMetrics& metrics, const std::function<void()>& lineDone)
+    enum class LongWords { Keep, Break };
+
+    RtfLayouter(RtfLayout& layout, TextMetrics& metrics, LongWords longWords,
+                const std::function<void()>& lineDone)
         : layout_(layout),
+          longWords_(longWords),
           lines_({layout.words_, layout.fonts_, layout.boxes_, layout.lines_}, layout.area_, metrics,
                  lineDone) {
         font(TextFont());
@@ -79,17 +83,24 @@ class RtfLayouter final : public RtfSink {
         lines_.finish();
     }
 
+    /// What \a read hands to the layouter it is given, laid out.
+    template <typename Read>
+    static RtfLayout layOut(QStringView text, const LayoutArea& area, TextMetrics& metrics,
+                            LongWords longWords, const std::function<void()>& lineDone, Read read);
+
   private:
     enum class Link { None, Open, Closed };
     static constexpr int kPlain = -1;
     /// Fonts told apart, far more than a text has: to find a face that this machine lacks takes its time.
     static constexpr size_t kMostFonts = 256;
+    static constexpr qsizetype kLongestWord = 64;  // characters; no word that people write has as many
 
     /// A word is drawn in the font and colour of its last character: a change between that and the blank
     /// behind it is meant for what follows.
     void addVisible(QStringView part) {
         layout_.words_.append(part);
         noteVisible();
+        if (longWords_ == LongWords::Break && visibleEnd_ - wordStart_ >= kLongestWord) storeWord();
     }
 
     void noteVisible() {
@@ -134,6 +145,7 @@ class RtfLayouter final : public RtfSink {
     }
 
     RtfLayout& layout_;
+    const LongWords longWords_;
     LineBuilder lines_;
     QHash<TextFont, int> fontIndexes_;
     int font_ = 0;
@@ -149,16 +161,29 @@ class RtfLayouter final : public RtfSink {
     int linkIndex_ = kPlain;
 };
 
-RtfLayout RtfLayout::of(QStringView text, const LayoutArea& area, TextMetrics& metrics, LinkMarkers markers,
-                        const StopFlag* stop, const std::function<void()>& lineDone) {
+template <typename Read>
+RtfLayout RtfLayouter::layOut(QStringView text, const LayoutArea& area, TextMetrics& metrics,
+                              LongWords longWords, const std::function<void()>& lineDone, Read read) {
     RtfLayout layout;
     layout.area_ = area;
     layout.words_.reserve(text.size());
-    RtfLayouter layouter(layout, metrics, lineDone);
-    readRichText(text, layouter, markers, stop);
+    RtfLayouter layouter(layout, metrics, longWords, lineDone);
+    read(layouter);
     layouter.finish();
     layout.words_.squeeze();
     return layout;
+}
+
+RtfLayout RtfLayout::of(QStringView text, const LayoutArea& area, TextMetrics& metrics, LinkMarkers markers,
+                        const StopFlag* stop, const std::function<void()>& lineDone) {
+    return RtfLayouter::layOut(text, area, metrics, RtfLayouter::LongWords::Keep, lineDone,
+                               [&](RtfSink& sink) { readRichText(text, sink, markers, stop); });
+}
+
+RtfLayout RtfLayout::ofPlain(QStringView text, const LayoutArea& area, TextMetrics& metrics,
+                             const StopFlag* stop, const std::function<void()>& lineDone) {
+    return RtfLayouter::layOut(text, area, metrics, RtfLayouter::LongWords::Break, lineDone,
+                               [&](RtfSink& sink) { readPlainText(text, sink, stop); });
 }
 
 }  // namespace sarne

@@ -114,11 +114,47 @@ class BodyReader {
         if (linkOpen_) {
             sink_.closeLink();
             cursor_.advance();
-        } else {
+        } else if (isClosedBehind(1 + number.digits)) {
             sink_.openLink({kind, number.value});
             cursor_.advance(1 + number.digits);
+        } else {
+            return readLoneMarker();
         }
         linkOpen_ = !linkOpen_;
+    }
+
+    /// A marker that nothing closes in its paragraph opens no phrase: it stands for itself.
+    void readLoneMarker() {
+        announceFont();
+        sink_.text(cursor_.rest().left(1));
+        cursor_.advance();
+    }
+
+    /// Whether a marker follows before the paragraph ends, \a offset characters on. A search that finds none
+    /// is not repeated in the same paragraph: what it has passed has no marker.
+    bool isClosedBehind(qsizetype offset) const {
+        const QStringView rest = cursor_.rest();
+        for (qsizetype at = offset; at < rest.size(); ++at) {
+            switch (rest[at].unicode()) {
+                case u'*':
+                case u'#':
+                case u'@':
+                    return true;
+                case u'\\':
+                    if (endsParagraph(rest.mid(at + 1))) return false;
+                    ++at;  // an escaped marker closes nothing
+                    break;
+                default:
+                    break;
+            }
+        }
+        return false;
+    }
+
+    /// Whether the control word at the start of \a rest, its backslash aside, is the end of a paragraph.
+    static bool endsParagraph(QStringView rest) {
+        if (rest.startsWith(u'\r') || rest.startsWith(u'\n')) return true;
+        return rest.startsWith(u"par") && (rest.size() == 3 || !rest[3].isLower());
     }
 
     // ---- control words
@@ -127,8 +163,7 @@ class BodyReader {
         if (control.symbol) return applySymbol(control);
         switch (control.name) {
             case controlName(u"par"):
-                announceFont();
-                return sink_.endPara();
+                return endPara();
             case controlName(u"pard"):
                 sink_.clearTabStops();
                 return resetFont();
@@ -169,6 +204,13 @@ class BodyReader {
     /// A backslash before a line end is how some editors write "\par".
     void endParaAtLineEnd(char16_t first) {
         if (first == u'\r' && cursor_.peekAhead(0) == u'\n') cursor_.advance();
+        endPara();
+    }
+
+    /// No phrase goes on into the next paragraph.
+    void endPara() {
+        if (linkOpen_) sink_.closeLink();
+        linkOpen_ = false;
         announceFont();
         sink_.endPara();
     }
@@ -290,15 +332,16 @@ class PlainTextReader {
 }  // namespace
 
 bool isRtf(QStringView text) {
-    return text.trimmed().startsWith(u"{\\") || text.contains(u"{\\rtf");
+    if (text.startsWith(QChar::ByteOrderMark)) text = text.mid(1);
+    return text.trimmed().startsWith(u"{\\rtf");
 }
 
 void readRichText(QStringView text, RtfSink& sink, LinkMarkers markers, const StopFlag* stop) {
-    if (isRtf(text)) {
-        BodyReader(text, sink, markers, stop).read();
-    } else if (!text.trimmed().isEmpty()) {
-        PlainTextReader(text, sink, stop).read();
-    }
+    isRtf(text) ? BodyReader(text, sink, markers, stop).read() : readPlainText(text, sink, stop);
+}
+
+void readPlainText(QStringView text, RtfSink& sink, const StopFlag* stop) {
+    if (!text.trimmed().isEmpty()) PlainTextReader(text, sink, stop).read();
 }
 
 }  // namespace sarne

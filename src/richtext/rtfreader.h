@@ -17,7 +17,10 @@ enum class LinkMarkers {
 /// what follows. Returns early when \a stop is given and gets set.
 void readRichText(QStringView text, RtfSink& sink, LinkMarkers markers, const StopFlag* stop = nullptr);
 
-/// Whether \a text is read as RTF: it begins with "{\", or a document begins somewhere in it.
+/// Reads \a text as plain text, whatever it looks like.
+void readPlainText(QStringView text, RtfSink& sink, const StopFlag* stop = nullptr);
+
+/// Whether \a text is an RTF document: it begins with "{\rtf", blanks and a byte order mark aside.
 bool isRtf(QStringView text);
 
 }  // namespace sarne

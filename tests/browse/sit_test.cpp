@@ -51,16 +51,6 @@ TEST(PhotoGrid, KeysMoveOverTheLivingCells) {
     EXPECT_EQ(grid.cell(), 0) << "a choice outside the group is given up";
 }
 
-TEST(Lines, BreakAtBlanksOnly) {
-    const TextFont font{QStringLiteral("Arial"), 12};
-    const int width = Label::measure(QStringLiteral("Jihočeská rybí"), font).width();
-    EXPECT_EQ(brokenIntoLines(QStringLiteral("Jihočeská rybí polévka"), font, width),
-              QStringLiteral("Jihočeská rybí\npolévka"));
-    EXPECT_EQ(brokenIntoLines(QStringLiteral("Jihočeská  rybí polévka"), font, 100),
-              QStringLiteral("Jihočeská\nrybí\npolévka"));
-    EXPECT_EQ(brokenIntoLines({}, font, width), QString());
-}
-
 class SitTest : public BrowseTest {
   protected:
     SitTest() {

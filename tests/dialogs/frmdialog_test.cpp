@@ -63,6 +63,20 @@ TEST_F(DialogTest, AnythingElseIsRefusedAndAskedAgain) {
     }
 }
 
+TEST_F(DialogTest, ANumberCanBeEnteredByMouseAlone) {
+    const auto clicked = [this](std::initializer_list<const char*> names) {
+        QTimer::singleShot(0, [this, names] {
+            for (const char* name : names) QTest::mouseClick(child<Control>(*open(), name), Qt::LeftButton);
+        });
+        return askNumber(run, QStringLiteral("Počet porcí:"));
+    };
+    EXPECT_EQ(clicked({"cmdCislice(1)", "cmdCislice(0)", "Command1(0)"}), 10);
+    EXPECT_EQ(clicked({"cmdCislice(7)", "cmdCislice(9)", "cmdSmazat", "Command1(0)"}), 7);
+    EXPECT_EQ(clicked({"cmdCislice(5)", "Command1(1)"}), 0);
+    EXPECT_EQ(clicked({"cmdSmazat", "Command1(0)", "cmdCislice(3)", "Command1(0)"}), 3)
+        << "after the message";
+}
+
 TEST_F(DialogTest, CancellingIsZero) {
     EXPECT_EQ(number("5", {Qt::Key_Escape}), 0);
     EXPECT_EQ(number("5", {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return}), 0);

@@ -2,11 +2,12 @@
 
 #include "cookbook.h"
 #include "core/value.h"
+#include "richtext/plaintext.h"
 #include "screens/index/gallery.h"
+#include "screens/index/headings.h"
 #include "screens/index/keywordhistory.h"
 #include "screens/index/lookuptable.h"
 #include "screens/index/pages.h"
-#include "screens/index/plaintext.h"
 #include "screens/index/rowpaging.h"
 #include "screens/index/rtfdocument.h"
 #include "screens/index/tablelayout.h"
@@ -164,7 +165,7 @@ TEST(RtfDocument, PlainTextsStandForThemselves) {
     document.paragraph(u("Tučně"), hostile);
     document.paragraph(u("dva\nřádky"));
     EXPECT_EQ(plainText(document.text(), 1000),
-              u("Nadpis\nTučně 50 % *cukr* #1 {\\par} @7 žluť – ? ?\ndva\nřádky"));
+              u("Nadpis\n\nTučně 50 % *cukr* #1 {\\par} @7 žluť – ? ?\ndva\nřádky"));
     EXPECT_TRUE(beginsWithHeading(document.text(), u("Nadpis")));
     EXPECT_FALSE(beginsWithHeading(document.text(), u("Nad")));
 }

@@ -76,8 +76,8 @@ class FrmPrintTest : public testing::Test {
         below->showForm();
         run.PushScreen(*below);
     }
-    frmPrint* open(const std::vector<std::int16_t>& ids) {
-        printing.printRecipes(ids);
+    frmPrint* open(const std::vector<std::int16_t>& ids, const Serving& serving = {}) {
+        printing.printRecipes(ids, serving);
         return form();
     }
     frmPrint* form() const { return dynamic_cast<frmPrint*>(loaded("frmPrint")); }
@@ -115,9 +115,7 @@ class FrmPrintTest : public testing::Test {
 };
 
 TEST_F(FrmPrintTest, OpensWithWhatTheUserLastLookedAt) {
-    run.lastPortions = 2.5;
-    run.lastWeights = false;
-    open({1, 2});
+    open({1, 2}, {2.5, UnitSystem::Spoons});
     EXPECT_EQ(control<Edit>("Text1")->text(), str("2.5"));
     EXPECT_FALSE(control<CheckBox>("chkZobrKg")->isChecked());
     QStringList names;
@@ -130,7 +128,6 @@ TEST_F(FrmPrintTest, OpensWithWhatTheUserLastLookedAt) {
     EXPECT_TRUE(control<Label>("lblTiskarna")->toolTip().endsWith(file("Candát.pdf")));
     EXPECT_FALSE(control("cmdPrerus")->isVisible() || control("prgRecept")->isVisible());
     control("Command2")->click();
-    run.lastPortions = 0;
     open({1});
     EXPECT_EQ(control<Edit>("Text1")->text(), str("4"));
 }
@@ -205,7 +202,7 @@ TEST_F(FrmPrintTest, PrintsASecondSelectionAtOnceUntilItIsClosed) {
     open({2});
     EXPECT_TRUE(outcome().isEmpty());
     EXPECT_TRUE(control<CheckBox>("Chco(0)")->isChecked());
-    printing.printRecipes({77});
+    printing.printRecipes({77}, {});
     control("Command1")->click();
     EXPECT_EQ(outcome(), str("Není co tisknout."));
 }
@@ -246,7 +243,7 @@ TEST_F(FrmPrintTest, SaysWhenThePrinterFails) {
     for (const Fails fails : {Fails::Begin, Fails::NewPage, Fails::End}) {
         FailingPrinter failing(fails);
         auto* print = new frmPrint(run, failing);
-        print->Zobraz({1, 3});
+        print->Zobraz({1, 3}, {});
         EXPECT_EQ(child<Label>(*print, "lblTiskarna")->text(), str("Tiskárna: Tiskárna v chodbě\nPapír: A5"));
         child<Button>(*print, "Command1")->click();
         EXPECT_TRUE(child<Label>(*print, "lblVysledek")->text().startsWith(str("Tisk se nezdařil")));
@@ -319,7 +316,7 @@ TEST_F(FrmPrintTest, QuickRecipesPrintTheRecipesTheyShowAboveTheirDialog) {
         });
         child<Button>(*save, "cmdOkEnd(0)")->click();
     });
-    printing.showSelection({{str("Pět minut"), 3}}, str("RychleRecepty"));
+    printing.showSelection({{str("Pět minut"), 3}}, str("RychleRecepty"), {});
     EXPECT_EQ(run.window.modalForm(), nullptr);
     EXPECT_EQ(run.FormStack.top(), below);
 }
@@ -341,7 +338,7 @@ TEST_F(FrmPrintTest, HelpPagesAndOtherTextsPrintWithoutOptions) {
         });
         child<Button>(*save, "cmdOkEnd(0)")->click();
     });
-    printing.showSelection({{str("O tisku"), 10}}, str("Help"));
+    printing.showSelection({{str("O tisku"), 10}}, str("Help"), {});
     EXPECT_EQ(test::pdfText(file("O tisku.pdf")).simplified(),
               str("CD Tobrela - Velisa sarn O tisku Text stránky."))
         << "a title that the text repeats is printed once";

@@ -56,7 +56,7 @@ TEST(PrintedPage, HoldsTheSectionsInTheirOrder) {
                   "Pomůcky: nůž, pekáč Odkaz: Vývar Hlavy vaříme."));
     static const QRegularExpression indented(str("\n( *)kapr.*\n\\1 {4,}- nebo amur"));
     EXPECT_TRUE(test::pdfText(outcome.file).contains(indented)) << test::pdfText(outcome.file).toStdString();
-    options.weights = false;
+    options.units = UnitSystem::Spoons;
     options.portions = 2.5;
     const PrintOutcome spoons = book.print({7}, options);
     EXPECT_EQ(spoons.file, book.folder.filePath(str("Dokumenty/Kapr na černo (2).pdf")));

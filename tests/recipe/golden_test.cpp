@@ -62,8 +62,8 @@ TEST_F(RecipeTest, CollectedGolden) {
         "Vlastní poznámka: Méně soli.\r\nVíc kmínu.\r\n\r\n"
         "\r\n"
         "Pomůcky číška, chňapka, pánev, vařečka\r\n"
-        "Pomocný recept: Chlebové kostky\r\nChléb nakrájíme.\r\n"
-        "Pomocný recept: Rybí vývar\r\nVývar vaříme pomalu.");
+        "Pomocný recept: Chlebové kostkyChléb nakrájíme.\r\n"
+        "Pomocný recept: Rybí vývarVývar vaříme pomalu.");
     EXPECT_EQ(form->collectedText(), QStringLiteral("Porce: 4\r\n"
                                                     "kapr - filety bez kůže (g): 250\r\n"
                                                     "máslo (g): 50\r\n"

@@ -17,8 +17,6 @@ TEST_F(IngredientPanelTest, ShowsTheRecipesOwnPortionsByWeight) {
     EXPECT_EQ(frame(4), Button::Frame::Pressed);
     EXPECT_EQ(frame(10), Button::Frame::Raised);
     EXPECT_EQ(state(), QStringLiteral("4 porce\nv gramech"));
-    EXPECT_EQ(run.lastPortions, 4);
-    EXPECT_TRUE(run.lastWeights);
     EXPECT_TRUE(at("imgKgLzice").isVisible());
     click("imgBtn(6)");
     EXPECT_FALSE(at("imgKgLzice").isVisible());
@@ -30,7 +28,6 @@ TEST_F(IngredientPanelTest, CutleryForSixRecalculates) {
     EXPECT_EQ(frame(6), Button::Frame::Pressed);
     EXPECT_EQ(frame(4), Button::Frame::Raised);
     EXPECT_EQ(state(), QStringLiteral("6 porcí\nv gramech"));
-    EXPECT_EQ(run.lastPortions, 6);
     run.database.Execute(QStringLiteral("UPDATE SpojSur SET MnozstviKg = 500 WHERE ID_Receptu = 5"));
     click("imgPrepocet(6)");
     EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 380"))
@@ -44,7 +41,6 @@ TEST_F(IngredientPanelTest, TheToggleChangesTheUnitsAndSaysSo) {
     click("imgKgLzice");
     EXPECT_EQ(shown(), QStringLiteral("kapr - filety bez kůže (kus): 1\nmáslo (lžíce): 4\n      - nebo olej\n"
                                       "máslo (lžíce): 0,1\nsůl"));
-    EXPECT_FALSE(run.lastWeights);
     click("imgKgLzice");
     EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 500"));
     EXPECT_EQ(run.announced,
@@ -62,11 +58,37 @@ TEST_F(IngredientPanelTest, AnyNumberAlwaysAsks) {
     click("imgKgLzice");
     EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (kus): 12"));
     EXPECT_EQ(prompts.size(), 2) << "the toggle keeps the number";
+    EXPECT_EQ(form->cursor().shape(), Qt::ArrowCursor) << "the hourglass is gone";
+}
+
+TEST_F(IngredientPanelTest, WhoGivesNoNumberKeepsWhatThereIs) {
+    click("imgPrepocet(6)");
     customPortions = 0;
     click("imgPrepocet(10)");
-    EXPECT_EQ(shown(), QStringLiteral("kapr - filety bez kůže (kus)\nmáslo (lžíce)\n      - nebo olej\n"
-                                      "máslo (lžíce)\nsůl"));
-    EXPECT_EQ(form->cursor().shape(), Qt::ArrowCursor) << "the hourglass is gone";
+    EXPECT_EQ(prompts.size(), 1);
+    EXPECT_EQ(frame(6), Button::Frame::Pressed);
+    EXPECT_EQ(frame(10), Button::Frame::Raised);
+    EXPECT_EQ(state(), QStringLiteral("6 porcí\nv gramech"));
+    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 380"));
+    EXPECT_EQ(form->cursor().shape(), Qt::ArrowCursor);
+    customPortions = 3;
+    click("imgPrepocet(10)");
+    customPortions = 0;
+    click("imgPrepocet(10)");
+    EXPECT_EQ(state(), QStringLiteral("3 porce\nv gramech"));
+}
+
+TEST_F(IngredientPanelTest, BothUnitsAreFramedAndTheOneInUseIsPressed) {
+    auto& current = at<Button>("picZavazi");
+    auto& other = at<Button>("imgKgLzice");
+    EXPECT_EQ(current.frame(), Button::Frame::Pressed);
+    EXPECT_EQ(other.frame(), Button::Frame::Raised);
+    const QRect weights = current.twips(), spoons = other.twips();
+    QTest::mouseClick(&current, Qt::LeftButton);
+    EXPECT_EQ(state(), QStringLiteral("4 porce\nv gramech")) << "the one in use is no switch";
+    click("imgKgLzice");
+    EXPECT_EQ(current.twips(), spoons) << "each unit keeps its place";
+    EXPECT_EQ(other.twips(), weights);
 }
 
 TEST_F(IngredientPanelTest, ARecipeWithoutPortionsHasNoAmounts) {
@@ -112,6 +134,20 @@ TEST_F(IngredientPanelTest, TheKeyboardStepsOverThePicturesWithHints) {
     EXPECT_EQ(run.announced.last(), QStringLiteral("Přepočti na gramy"));
     press(Qt::Key_Down);
     EXPECT_EQ(run.announced.last(), QStringLiteral("Suroviny")) << "up and down lead back to the sections";
+}
+
+TEST_F(IngredientPanelTest, TheUnitsLastLookedAtOutliveTheRecipe) {
+    click("imgPrepocet(6)");
+    click("imgKgLzice");
+    form->Skryj();
+    open(7);
+    EXPECT_EQ(lookedAt.units, UnitSystem::Spoons) << "opening a recipe is not looking at its ingredients";
+    EXPECT_EQ(lookedAt.portions, 6);
+    click("imgBtnHlavni(0)");
+    EXPECT_EQ(run.recorded.printServing.portions, 3) << "the printed recipe's own";
+    EXPECT_EQ(run.recorded.printServing.units, UnitSystem::Spoons);
+    click("imgBtn(5)");
+    EXPECT_EQ(state(), QStringLiteral("3 porce\nna lžíce"));
 }
 
 TEST_F(IngredientPanelTest, CollectedTextFollowsTheChoice) {

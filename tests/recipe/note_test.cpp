@@ -1,7 +1,10 @@
+#include <QClipboard>
+#include <QElapsedTimer>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <csignal>
 
+#include "forms/noteedit.h"
 #include "recipe/recipefixture.h"
 
 namespace sarne {
@@ -29,11 +32,11 @@ TEST_F(NoteTest, LeavingWithoutTypingAsksNothing) {
 TEST_F(NoteTest, AChangedNoteAsksBeforeAnotherSectionIsDrawn) {
     type(QStringLiteral("x"));
     run.answers = {7};
-    run.whileAsking = [&] { EXPECT_EQ(form->section(), frmRecept::kOwnNote); };
+    run.whileAsking = [&] { EXPECT_EQ(form->section(), 7); };
     click("imgBtn(1)");
     EXPECT_EQ(run.messages, QStringList{kQuestion});
     EXPECT_TRUE(storedNote().isNull());
-    EXPECT_EQ(form->section(), frmRecept::kMethod);
+    EXPECT_EQ(form->section(), 1);
 
     click("imgBtn(7)");
     EXPECT_EQ(note().text(), QString());
@@ -111,13 +114,14 @@ TEST_F(NoteTest, EveryWayOfClosingAsksOnce) {
 }
 
 TEST_F(NoteTest, WhoDeclinedOnTheWayOutIsNotAskedAgain) {
-    struct Ending : FakeSarne {
+    struct EndingRun : FakeSarne {
         void ConfirmExit() override {
+            Ending = ReadyToEnd();
             for (Form* loaded : window.forms()) loaded->unload();
         }
     } ending;
     ending.database.Open(file());
-    form = new frmRecept(ending);
+    form = new frmRecept(ending, lookedAt);
     form->Zobraz(5);
     click("imgBtn(7)");
     QTest::keyClicks(&note().editor(), QStringLiteral("x"));
@@ -125,6 +129,71 @@ TEST_F(NoteTest, WhoDeclinedOnTheWayOutIsNotAskedAgain) {
     click("imgBtnHlavni(3)");
     EXPECT_EQ(ending.messages, QStringList{kQuestion});
     EXPECT_TRUE(storedNote().isNull());
+}
+
+TEST_F(NoteTest, WhoLeavesTheQuestionStaysWithTheNote) {
+    type(QStringLiteral("ryba"));
+    const struct {
+        const char* way;
+        std::function<void()> leave;
+    } ways[] = {{"two Escapes",
+                 [&] {
+                     press(Qt::Key_Escape);
+                     press(Qt::Key_Escape);
+                 }},
+                {"another section", [&] { click("imgBtn(1)"); }},
+                {"its name", [&] { click("lblIkona(2)"); }},
+                {"the program's end", [&] { click("imgBtnHlavni(3)"); }}};
+    for (const auto& way : ways) {
+        run.answers = {0, 0};
+        run.messages.clear();
+        way.leave();
+        EXPECT_FALSE(run.messages.isEmpty()) << way.way;
+        EXPECT_EQ(run.FormStack.top(), form) << way.way;
+        EXPECT_EQ(note().text(), QStringLiteral("ryba")) << way.way;
+        EXPECT_EQ(form->section(), 7) << way.way;
+    }
+    EXPECT_EQ(run.exits, 0);
+    EXPECT_TRUE(storedNote().isNull());
+    run.answers = {0};
+    run.PopScreen(*form);
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"))
+        << "a screen that has to go takes no note along";
+}
+
+TEST_F(NoteTest, AnotherSectionTakesTheKeyboardAlong) {
+    press(Qt::Key_Backtab);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(form->section(), 0);
+    EXPECT_EQ(focused(), QStringLiteral("imgBtn(0)"));
+    click("imgBtn(7)");
+    click("lblIkona(2)");
+    EXPECT_EQ(focused(), QStringLiteral("imgBtn(2)"));
+}
+
+TEST_F(NoteTest, AnEndBelowAnotherScreenAsksAboutTheNoteFirst) {
+    type(QStringLiteral("ryba"));
+    auto* help = new Form(run, QStringLiteral("frmStranka"));
+    run.PushScreen(*help);
+    help->showForm();
+    run.answers = {0};
+    help->endProgram();
+    EXPECT_EQ(run.messages, QStringList{kQuestion});
+    EXPECT_EQ(run.exits, 0);
+    run.answers = {6};
+    help->endProgram();
+    EXPECT_EQ(run.exits, 1);
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"));
+}
+
+TEST_F(NoteTest, ANoteReadsAsItWasTyped) {
+    const QString text = QStringLiteral("{\\rtf1 *12 sůl* @7 a {\\b } #");
+    type(text);
+    click("cmdUloz(0)");
+    EXPECT_EQ(shown(), text);
+    EXPECT_EQ(view().pieces().linkCount(), 0);
+    EXPECT_TRUE(form->collectedText().contains(QStringLiteral("Vlastní poznámka: ") + text));
 }
 
 TEST_F(NoteTest, PrintingStoresTheNoteWithABlankBehindIt) {
@@ -170,6 +239,36 @@ TEST_F(NoteTest, LongNotesAndStrangeCharactersComeBackAsTheyWere) {
     click("imgBtn(0)");
     click("imgBtn(7)");
     EXPECT_EQ(note().text(), text);
+}
+
+TEST_F(NoteTest, AParagraphOfAnyLengthIsQuickToTypeInAndComesBackWhole) {
+    const QString piece = QStringLiteral("rohlík\u00a0😀\u2063 ");
+    for (const QString& text : {piece.repeated(100000), QString(1000000, u'x')}) {
+        run.database.Execute(QStringLiteral("UPDATE Recepty SET Vlastni = '%1' WHERE ID = 5").arg(text));
+        form->Skryj();
+        open(5);
+        QElapsedTimer opening;
+        opening.start();
+        click("imgBtn(7)");
+        EXPECT_LT(opening.elapsed(), 20000) << "it used to be minutes";
+        EXPECT_EQ(note().text(), text);
+        type(QStringLiteral("!"));
+        EXPECT_GT(note().editor().blockCount(), 100) << "the editor lays out no paragraph of that length";
+        note().editor().selectAll();
+        note().editor().copy();
+        EXPECT_EQ(QApplication::clipboard()->text(), QString(text + u'!').replace(QChar::Nbsp, u' '));
+        click("cmdUloz(0)");
+        EXPECT_EQ(storedNote().toString(), text + u'!');
+    }
+}
+
+TEST_F(NoteTest, TypingBreaksAParagraphThatHasBecomeLong) {
+    type(QStringLiteral("a b").repeated(2000));
+    EXPECT_GT(note().editor().blockCount(), 1);
+    type(QStringLiteral("\nkonec"));
+    EXPECT_EQ(note().text(), QStringLiteral("a b").repeated(2000) + QStringLiteral("\nkonec"));
+    note().editor().undo();
+    EXPECT_TRUE(note().text().startsWith(QStringLiteral("a ba b")));
 }
 
 TEST_F(NoteTest, TabReachesItsButtons) {

@@ -1,33 +1,14 @@
 #include <gtest/gtest.h>
 
-#include "screens/recipe/collectedtext.h"
 #include "screens/recipe/ingredientcolumns.h"
 #include "screens/recipe/portions.h"
-#include "screens/recipe/titlelines.h"
 
 namespace sarne {
 namespace {
 
 /// Every character is 100 twips wide.
-int fixedWidth(const QString& text) {
+int fixedWidth(QStringView text) {
     return static_cast<int>(text.size()) * 100;
-}
-
-QStringList wrap(const char* text, int characters, const char* indent = "") {
-    return wrapAtBlanks(QString::fromUtf8(text), characters * 100, fixedWidth, QString::fromUtf8(indent));
-}
-
-TEST(TitleTest, WrapsAtBlanksAndNeverInsideAWord) {
-    EXPECT_EQ(wrap("Kapr na kmíně", 13), QStringList{QStringLiteral("Kapr na kmíně")});
-    EXPECT_EQ(wrap("Kapr na kmíně", 12), (QStringList{QStringLiteral("Kapr na"), QStringLiteral("kmíně")}));
-    EXPECT_EQ(
-        wrap("Kapr nejnejnejkmínovitější je", 10),
-        (QStringList{QStringLiteral("Kapr"), QStringLiteral("nejnejnejkmínovitější"), QStringLiteral("je")}));
-    EXPECT_EQ(wrap("", 5), QStringList{QString()});
-    EXPECT_EQ(wrap("          ", 5), QStringList{QStringLiteral("          ")});
-    EXPECT_EQ(wrap("jedna   dvě ", 8), (QStringList{QStringLiteral("jedna"), QStringLiteral("dvě ")}));
-    EXPECT_EQ(wrap("      - nebo olej olivový", 17, "         "),
-              (QStringList{QStringLiteral("      - nebo olej"), QStringLiteral("         olivový")}));
 }
 
 TEST(PortionsTest, StartWithTheRecipesOwnNumber) {
@@ -113,16 +94,6 @@ TEST_F(ColumnsTest, WideLinesStayInTheirColumn) {
     const QString wide = QStringLiteral("listy celeru nebo petržele");
     EXPECT_EQ(place(2, wide).size(), 2U) << "one column is as wide as the area";
     for (const PlacedLine& line : place(8, wide)) EXPECT_LE(fixedWidth(line.text), 2000);
-}
-
-TEST(PlainTextTest, KeepsWordsAndParagraphsOnly) {
-    EXPECT_EQ(
-        plainText(QStringLiteral("{\\rtf1{\\fonttbl{\\f0\\fcharset238 Arial;}}\\pard\\plain\\b Var\\b0  "
-                                 "*12v\\'edno* a @7video@\\par\\tab x\\~y\\par\\par}")),
-        QStringLiteral("Var víno a video\r\n\tx\u00a0y"));
-    EXPECT_EQ(plainText(QStringLiteral("5*2 a #1")), QStringLiteral("5*2 a #1")) << "no rich text, no links";
-    EXPECT_EQ(plainText(QString()), QString());
-    EXPECT_EQ(plainText(QStringLiteral("   ")), QString());
 }
 
 }  // namespace

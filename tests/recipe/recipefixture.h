@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "forms/checkbox.h"
 #include "screens/recipe/frmrecept.h"
 #include "support/fakesarne.h"
 #include "support/recipedatabase.h"
@@ -79,7 +80,7 @@ class RecipeTest : public testing::Test {
     }
 
     void open(std::int16_t id) {
-        form = new frmRecept(run, [this](const QString& prompt) {
+        form = new frmRecept(run, lookedAt, [this](const QString& prompt) {
             prompts << prompt;
             return customPortions;
         });
@@ -126,6 +127,7 @@ class RecipeTest : public testing::Test {
     FakeSarne run;
     double customPortions = 0;
     QStringList prompts;
+    Serving lookedAt;
     Form* below = new Form(run, QStringLiteral("frmSeznam"));
     frmRecept* form = nullptr;
 };

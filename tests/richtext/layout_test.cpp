@@ -105,14 +105,21 @@ TEST_F(Layout, KeepsLinkPhrasesWhole) {
     EXPECT_TRUE(layout.linkRects(9).empty());
 }
 
-TEST_F(Layout, LosesNothingOfAnOpenPhrase) {
+TEST_F(Layout, LaysOutAnOpenPhraseAsPlainWords) {
     layOut(QStringLiteral("a *5b c\\tab d\\par e *"), 40);
-    EXPECT_EQ(test::wordsOf(layout), QStringLiteral("a b c d|e"));
-    EXPECT_EQ(layout.links().size(), 1u);
-    EXPECT_EQ(layout.linkRects(0).size(), 2u);
+    EXPECT_EQ(test::wordsOf(layout), QStringLiteral("a *5b c d|e *"));
+    EXPECT_TRUE(layout.links().empty()) << "nothing closes them in their paragraphs";
     layOut(QStringLiteral("a *5b c"), 40);
-    EXPECT_EQ(test::wordsOf(layout), QStringLiteral("a b c"));
+    EXPECT_EQ(test::wordsOf(layout), QStringLiteral("a *5b c"));
     layOut(QStringLiteral("a *5* b *"), 40);  // a phrase without a letter is no link
+    EXPECT_TRUE(layout.links().empty());
+}
+
+TEST_F(Layout, PlainTextIsLaidOutAsTyped) {
+    const QString typed = QStringLiteral("{\\rtf1 *12 sůl* \n ") + QString(300, u'x');
+    layout = RtfLayout::ofPlain(typed, {0, 100 * kChar, 0}, metrics);
+    EXPECT_EQ(test::wordsOf(layout).left(17), QStringLiteral("{\\rtf1 *12 sůl*|x"));
+    EXPECT_GE(layout.lines().size(), 4U) << "a word longer than any is broken";
     EXPECT_TRUE(layout.links().empty());
 }
 

@@ -79,9 +79,9 @@ TEST(RtfReader, EndsControlWordsWhereTheyEnd) {
 
 TEST(RtfReader, TakesTheTextOnly) {
     expectStreams({
-        // Where the text begins: \plain outside the groups, else \pard, else behind the header.
+        // Where the text begins: \plain outside the groups, else behind the header.
         {u"{\\rtf1{\\stylesheet{\\s0\\plain Normal;}}\\pard x\\plain y\\par}", u"y<endPara>"},
-        {u"{\\rtf1\\ansi{\\*\\x \\plain}junk\\pard y}", u"y"},
+        {u"{\\rtf1\\ansi{\\*\\x \\plain}junk\\pard y}", u"junky"},
         {u"{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\r\n{\\info{\\title T}}y z}", u"y z"},
         {u"{\\rtf1 y}", u"y"},
         // Groups without text, also within the text, also with groups, escapes and raw bytes in them.
@@ -123,7 +123,9 @@ TEST(RtfReader, HonoursLinkMarkersOnTheScreen) {
         {u"{\\rtf1\\plain *12Fresh herbs* are}", u"<112>Fresh herbs</> are"},
         {u"{\\rtf1\\plain *015a* #b# @7c@ @1234d*5}", u"<115>a</> <20>b</> <37>c</> <3123>4d</>5"},
         {u"{\\rtf1\\plain * 3a\\b *x \\'2a}", u"<10> 3a</><Times New Roman 12 b 238>x *"},
-        {u"{\\rtf1\\plain x*", u"x<10>"},
+        // Without its mate in the same paragraph a marker is a letter like any other.
+        {u"{\\rtf1\\plain kuchar@ryby.cz a\\'2a \\*\\par *5b\\pard c* d*07}",
+         u"kuchar@ryby.cz a* <endPara><15>bc</> d*07"},
     });
 }
 

@@ -22,6 +22,7 @@ class RecordedScreens : public Screens {
     PhotoRequest photos;
     std::vector<PrintEntry> printEntries;
     std::vector<std::int16_t> printed;
+    Serving printServing;
     QString printedText;
 
     void showList(const QString& ids, const QString& source) override {
@@ -48,7 +49,8 @@ class RecordedScreens : public Screens {
         printEntries = entries;
         calls << QStringLiteral("showPrintSelection %1 '%2'").arg(entries.size()).arg(mode);
     }
-    void printRecipes(const std::vector<std::int16_t>& ids) override {
+    void printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving) override {
+        printServing = serving;
         printed = ids;
         calls << QStringLiteral("printRecipes %1").arg(ids.size());
     }
@@ -100,7 +102,9 @@ class FakeSarne : public basSarne {
     const Clock& clock() override { return time; }
     EffectPlayer& effects() override { return sounds; }
     MultimediaControl& music() override { return player; }
-    void ConfirmExit() override { ++exits; }
+    void ConfirmExit() override {
+        if (ReadyToEnd()) ++exits;
+    }
     int ZobrazZpravu(const QString& text, int style, int) override {
         messages << QStringLiteral("%1: %2").arg(style).arg(text);
         if (whileAsking) whileAsking();
@@ -109,6 +113,7 @@ class FakeSarne : public basSarne {
         answers.pop_front();
         return answer;
     }
+    int AskOrLeave(const QString& text, int style) override { return ZobrazZpravu(text, style, 0); }
     void Beep() override { ++beeps; }
     void HookMessage(const QString& text) override { announced << text; }
     void keepAwake(const QString& reason) override { awake << reason; }

@@ -118,7 +118,7 @@ void frmSeznam::openSelected() {
     const ListEntry* entry = visiblySelected();
     if (!entry || entry->target == 0) return;
     if (source_ == Source::Help) return app().screens().showPage(QString::number(entry->target));
-    app().screens().showRecipe(static_cast<std::int16_t>(entry->target));
+    app().screens().showRecipe(entry->target);
 }
 
 void frmSeznam::mainAction(int index) {
@@ -150,11 +150,11 @@ void frmSeznam::showPhotos(bool slideShow) {
     PhotoRequest request;
     request.slideShow = slideShow;
     for (int entry = 0; entry < pages_.count(); ++entry) {
-        const std::int32_t recipe = entries_[size_t(entry)].target;
+        const std::int16_t recipe = entries_[size_t(entry)].target;
         if (recipe == 0) continue;
         if (entry == pages_.selectedEntry())
             request.startPosition = static_cast<int>(request.photoIds.size());
-        request.photoIds.push_back(static_cast<std::int16_t>(recipe));
+        request.photoIds.push_back(recipe);
     }
     if (!request.photoIds.empty()) app().screens().showPhotos(request);
 }

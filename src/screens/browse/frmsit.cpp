@@ -2,10 +2,12 @@
 
 #include <QKeyEvent>
 
+#include "core/value.h"
 #include "db/database.h"
 #include "forms/bassarne.h"
 #include "forms/messagebox.h"
 #include "forms/screens.h"
+#include "richtext/wordwrap.h"
 #include "screens/browse/frmsit_layout.h"
 
 namespace sarne {
@@ -68,7 +70,8 @@ void frmSit::clickOn(int cell) {
 /// Frames the chosen cell and names its recipe.
 void frmSit::showChoice() {
     const QString name = names_[size_t(grid_.cell())];
-    Label1.setText(brokenIntoLines(name, nameFont(), Label1.twips().width()));
+    const auto measure = [](QStringView text) { return Label::measure(text.toString(), nameFont()).width(); };
+    Label1.setText(wrapAtBlanks(name.simplified(), Label1.twips().width(), measure).join(u'\n'));
     updatePart(*this, sit::kNamePlate);
     for (const int changed : {framedCell_, grid_.cell()}) {
         if (changed > 0) updatePart(*this, frameOf(changed));
@@ -94,7 +97,7 @@ void frmSit::showPhoto() {
 }
 
 void frmSit::showRecipe() {
-    if (needsCell()) app().screens().showRecipe(static_cast<std::int16_t>(grid_.cell()));
+    if (needsCell()) app().screens().showRecipe(toRecordId(grid_.cell()).value_or(0));
 }
 
 void frmSit::barAction(int index) {
@@ -155,20 +158,6 @@ void frmSit::goBack() {
 void frmSit::restored() {
     applyGroup();
     Form::restored();
-}
-
-QString brokenIntoLines(const QString& text, const TextFont& font, int width) {
-    QString lines, line;
-    for (const QString& word : text.split(u' ', Qt::SkipEmptyParts)) {
-        const QString longer = line.isEmpty() ? word : line + u' ' + word;
-        if (line.isEmpty() || Label::measure(longer, font).width() <= width) {
-            line = longer;
-            continue;
-        }
-        lines += line + u'\n';
-        line = word;
-    }
-    return lines + line;
 }
 
 }  // namespace sarne

@@ -66,8 +66,4 @@ class frmSit : public Form {
     Label Label1;
 };
 
-/// \a text broken at blanks into lines no wider than \a width in \a font, joined by "\n"; a word that is
-/// wider has a line of its own.
-QString brokenIntoLines(const QString& text, const TextFont& font, int width);
-
 }  // namespace sarne

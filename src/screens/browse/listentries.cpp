@@ -8,7 +8,7 @@ namespace sarne {
 namespace {
 
 /// What the record \a records stands on leads to: itself in the table of recipes, otherwise what it says.
-std::int32_t targetOf(const Recordset& records, bool recipes) {
+std::int16_t targetOf(const Recordset& records, bool recipes) {
     const QVariant number = records.field(recipes ? QStringLiteral("ID") : QStringLiteral("Recept"));
     return toRecordId(number.toLongLong()).value_or(0);
 }

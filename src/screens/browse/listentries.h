@@ -13,7 +13,7 @@ struct ListEntry {
     std::int32_t id = 0;
     QString Nazev;
     /// What the entry leads to: a recipe's id, or in the help list a page's; 0 when the record names none.
-    std::int32_t target = 0;
+    std::int16_t target = 0;
 };
 
 /// The most entries that a list holds.

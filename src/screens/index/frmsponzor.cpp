@@ -4,12 +4,13 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/followlink.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
-#include "screens/index/followlink.h"
-#include "screens/index/plaintext.h"
+#include "richtext/plaintext.h"
 #include "screens/index/rtfdocument.h"
 
 namespace sarne {
@@ -129,7 +130,7 @@ void frmSponzor::showPicture(int index) {
     closeCard();
     picture_ = app().mediaPicture(QStringLiteral("foto\\sponzor\\%1.bmp").arg(current().number));
     setTitle(current().title);
-    hint_.setText(plainText(current().text, 400).replace(u'\n', u' '));
+    hint_.setText(plainText(current().text, 400).simplified());
     position_.setText(count > 1 ? QStringLiteral("%1 z %2").arg(at_ + 1).arg(count) : QString());
     previous_.setVisible(count > 1);
     next_.setVisible(count > 1);
@@ -165,7 +166,7 @@ void frmSponzor::choose(int area) {
 }
 
 void frmSponzor::follow(const GalleryTarget& target) {
-    const auto number = static_cast<std::int16_t>(target.number);
+    const auto number = toRecordId(target.number).value_or(0);
     switch (target.kind) {
         case GalleryTarget::Kind::Keyword:
             return app().screens().showIndex(number);

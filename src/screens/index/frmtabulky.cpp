@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/holdrepeat.h"
@@ -150,7 +151,7 @@ void FrmTabulky::openRow(int row) {
     const int keyword = table_.table().rows[static_cast<size_t>(row)].keyword;
     if (keyword == 0) return app().Beep();
     ring().focus(table_);
-    app().screens().showIndex(static_cast<std::int16_t>(keyword));
+    app().screens().showIndex(toRecordId(keyword).value_or(0));
 }
 
 void FrmTabulky::print() {

@@ -2,7 +2,7 @@
 
 #include "db/database.h"
 #include "db/queries.h"
-#include "screens/index/plaintext.h"
+#include "richtext/plaintext.h"
 #include "screens/index/rtfdocument.h"
 
 namespace sarne {
@@ -12,9 +12,9 @@ constexpr int kPreview = 160;  // characters: more than a row can show
 
 /// The beginning of a keyword's text, its heading left out.
 QString preview(const QString& text, const QString& name) {
-    QStringList lines = plainText(text, kPreview + static_cast<int>(name.size())).split(u'\n');
+    QStringList lines = plainText(text, kPreview + name.size()).trimmed().split(u'\n');
     if (lines.size() > 1 && lines.first().simplified() == name.simplified()) lines.removeFirst();
-    return lines.join(u' ');
+    return lines.join(u' ').simplified();
 }
 
 LookupTable keywordIndex(Database& db) {

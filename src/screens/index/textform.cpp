@@ -3,10 +3,10 @@
 #include <QKeyEvent>
 
 #include "forms/bassarne.h"
+#include "forms/followlink.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
-#include "screens/index/followlink.h"
-#include "screens/index/plaintext.h"
+#include "screens/index/headings.h"
 
 namespace sarne {
 namespace {

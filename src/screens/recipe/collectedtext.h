@@ -13,7 +13,4 @@ namespace sarne {
 QString collectedText(Database& db, const Recordset& recipe, int id, UnitSystem units,
                       const Quantities& quantities);
 
-/// A rich text without its looks and link markers, lines ended by "\r\n" but for the last.
-QString plainText(const QString& richText);
-
 }  // namespace sarne

@@ -4,46 +4,56 @@
 #include <QPainter>
 
 #include "db/database.h"
+#include "dialogs/frmdialog.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
-#include "forms/messagebox.h"
+#include "forms/followlink.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "platform/effectplayer.h"
+#include "richtext/wordwrap.h"
 #include "screens/recipe/collectedtext.h"
-#include "screens/recipe/sectionnames.h"
-#include "screens/recipe/titlelines.h"
+#include "screens/recipe/sectiontable.h"
 
 namespace sarne {
 namespace {
 
-constexpr double kTitleSizes[] = {24, 20, 16, 13};  // points, the largest that fits is taken
-
-QString noteQuestion() {
-    return QStringLiteral("Poznámka byla změněna. Chcete tyto změny uložit?");
-}
+/// Points. Titles have the first size; a smaller one is for those that the header does not hold otherwise.
+constexpr double kTitleSizes[] = {20, 16, 13};
 
 }  // namespace
 
-frmRecept::frmRecept(basSarne& run, IngredientPanel::AskNumber ask)
+frmRecept::frmRecept(basSarne& run, Serving& lookedAt, AskNumber ask)
     : Form(run, QStringLiteral("frmRecept")),
       title_(new Label(*this, QStringLiteral("lblNazev"))),
       view_(new TextView(*this, QStringLiteral("picRecept"))),
-      editor_(new NoteEdit(*this, QStringLiteral("RtfPozn"))) {
+      picture_(new PictureBox(*this, QStringLiteral("picVedle"))) {
+    if (!ask) ask = [&run](const QString& prompt) { return askNumber(run, prompt); };
+    recipe_.units = lookedAt.units;
     title_->place(recipelayout::kTitle);
     title_->setAlignment(Qt::AlignCenter);
     title_->setColor(colors::kTitle);
-    view_->place(recipelayout::kView);
-    view_->setArrowPictures(run.resources().picture(QStringLiteral("SipkaNahoru")),
-                            run.resources().picture(QStringLiteral("SipkaDolu")));
-    connect(view_, &TextView::linkActivated, this, &frmRecept::openLink);
-    connect(view_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });
-    connect(view_, &Control::clicked, this, &frmRecept::viewClicked);
-    ingredients_ = std::make_unique<IngredientPanel>(*this, run, *view_, std::move(ask));
-    links_ = std::make_unique<LinkPanel>(*this, run, *view_);
-    makeSections();
+    makeView();
+    makeSections(lookedAt, std::move(ask));
     makeBar();
-    makeNote();
+}
+
+void frmRecept::makeView() {
+    view_->place(recipelayout::kView);
+    view_->setArrowPictures(app().resources().picture(QStringLiteral("SipkaNahoru")),
+                            app().resources().picture(QStringLiteral("SipkaDolu")));
+    connect(view_, &TextView::linkActivated, this, [this](LinkKey key) {
+        rememberFocus();
+        followLink(app(), key);
+    });
+    connect(view_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });
+    connect(view_, &Control::clicked, this, [this] {
+        rememberFocus();
+        current().viewClicked();
+    });
+    picture_->place(recipelayout::kBesideView);
+    picture_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    picture_->hide();
 }
 
 Button& frmRecept::makeButton(const QString& name, const QRect& place, const char* picture,
@@ -61,25 +71,31 @@ Button& frmRecept::makeButton(const QString& name, const QRect& place, const cha
     return *button;
 }
 
-void frmRecept::makeSections() {
-    static constexpr const char* kPictures[] = {"Foto", "Recept",   "Uvod",    "Odkazy",
-                                                "Vino", "Suroviny", "Pomucky", "Vlastni"};
-    for (int index = 0; index < recipelayout::kSectionCount; ++index) {
-        Button& button = makeButton(QStringLiteral("imgBtn(%1)").arg(index), recipelayout::section(index),
-                                    kPictures[index], sectionName(index));
-        connect(&button, &Button::clicked, this, [this, index] { openSection(Section(index)); });
-        sections_.push_back(&button);
-        auto* name = new Label(*this, QStringLiteral("lblIkona(%1)").arg(index));
-        name->place(recipelayout::sectionName(index));
-        name->setText(sectionName(index));
-        name->setFont({QStringLiteral("Arial"), 11, true});
-        name->setColor(colors::kTitle);
-        name->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-        name->setWordWrap(true);
-        name->setClickable(true);
-        name->setCursor(Qt::PointingHandCursor);
-        connect(name, &Label::clicked, &button, &Button::click);
+void frmRecept::makeSections(Serving& lookedAt, AskNumber ask) {
+    const SectionRoom room{
+        *this,   app(),    *view_,         *picture_,
+        recipe_, lookedAt, std::move(ask), [this] { sectionButtons_[size_t(section_)]->setFocus(); }};
+    for (const SectionKind& kind : sectionKinds()) {
+        makeSectionButton(static_cast<int>(sections_.size()), kind.title(), kind.picture);
+        sections_.push_back(kind.make(room));
     }
+}
+
+void frmRecept::makeSectionButton(int index, const QString& title, const char* picture) {
+    Button& button =
+        makeButton(QStringLiteral("imgBtn(%1)").arg(index), recipelayout::section(index), picture, title);
+    connect(&button, &Button::clicked, this, [this, index] { openSection(index); });
+    sectionButtons_.push_back(&button);
+    auto* name = new Label(*this, QStringLiteral("lblIkona(%1)").arg(index));
+    name->place(recipelayout::sectionName(index));
+    name->setText(title);
+    name->setFont({QStringLiteral("Arial"), 11, true});
+    name->setColor(colors::kTitle);
+    name->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    name->setWordWrap(true);
+    name->setClickable(true);
+    name->setCursor(Qt::PointingHandCursor);
+    connect(name, &Label::clicked, &button, &Button::click);
 }
 
 void frmRecept::makeBar() {
@@ -104,35 +120,33 @@ void frmRecept::Zobraz(std::int16_t id) {
     loadRecipe(id);
     if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
-    sections_[kPhoto]->setFocus();
-    openSection(kPhoto);
+    openSection(0);
     app().keepAwake(QStringLiteral("Na obrazovce je recept"));
     playName();
 }
 
 void frmRecept::loadRecipe(std::int16_t id) {
-    id_ = id;
-    recipe_ = app().Db().OpenTable(QStringLiteral("Recepty"));
-    recipe_.setIndex(QStringLiteral("primarykey"));
-    recipe_.Seek(QStringLiteral("="), id);
-    if (recipe_.NoMatch()) recipe_.Close();
+    recipe_.id = id;
+    recipe_.row = app().Db().OpenTable(QStringLiteral("Recepty"));
+    recipe_.row.setIndex(QStringLiteral("primarykey"));
+    recipe_.row.Seek(QStringLiteral("="), id);
+    if (recipe_.row.NoMatch()) recipe_.row.Close();
     ground_ = app().mediaPicture(QStringLiteral("foto\\Podklad\\r%1.bmp").arg(id));
     if (ground_.isNull()) ground_ = app().Pictures.recept;
-    photo_ = app().mediaPicture(QStringLiteral("foto\\Velke\\r%1.bmp").arg(id));
-    photoShown_ = false;
-    ingredients_->setRecipe(id, recipe_.field(QStringLiteral("Porce")).toInt());
-    links_->setRecipe(id);
+    recipe_.photo = app().mediaPicture(QStringLiteral("foto\\Velke\\r%1.bmp").arg(id));
+    recipe_.portions = Portions(recipe_.row.field(QStringLiteral("Porce")).toInt());
+    for (const auto& section : sections_) section->recipeChanged();
     showTitle();
 }
 
 void frmRecept::showTitle() {
-    const QString title = recipe_.field(QStringLiteral("DlouhyNazev")).toString();
+    const QString title = recipe_.field("DlouhyNazev");
     TextFont font{QStringLiteral("Times New Roman"), 0, true};
     QStringList lines;
     for (double size : kTitleSizes) {
         font.size = size;
         lines = wrapAtBlanks(title, recipelayout::kTitle.width(),
-                             [&](const QString& text) { return Label::measure(text, font).width(); });
+                             [&](QStringView text) { return Label::measure(text.toString(), font).width(); });
         if (Label::measure(lines.join(u'\n'), font).height() <= recipelayout::kTitle.height()) break;
     }
     title_->setFont(font);
@@ -141,30 +155,53 @@ void frmRecept::showTitle() {
 
 void frmRecept::playName() {
     if (!app().SoundFlags[kSpokenNames] && !app().ShowMode) return;
-    QFile file(app().mediaFile(QStringLiteral("zvuky\\č%1.wav").arg(id_)));
+    QFile file(app().mediaFile(QStringLiteral("zvuky\\č%1.wav").arg(recipe_.id)));
     if (!file.open(QIODevice::ReadOnly)) return;
     app().EffectWave = file.readAll();
     app().effects().play(app().EffectWave);
 }
 
+void frmRecept::openSection(int section) {
+    if (!current().leave()) return;
+    section_ = section;
+    showSection();
+}
+
+void frmRecept::showSection() {
+    for (size_t index = 0; index < sections_.size(); ++index) {
+        const bool shown = index == size_t(section_);
+        sectionButtons_[index]->setFrame(shown ? Button::Frame::Pressed : Button::Frame::Raised);
+        sections_[index]->setVisible(shown);
+    }
+    picture_->hide();
+    view_->Cls();
+    view_->setVisible(true);
+    view_->setAccessibleName(sectionKinds()[size_t(section_)].title());
+    view_->place(current().viewPlace());
+    sectionButtons_[size_t(section_)]->setFocus();
+    current().draw();
+    update();
+}
+
 void frmRecept::Skryj() {
-    leaveNote();
-    recipe_.Close();
+    if (!current().leave()) return;
+    recipe_.row.Close();
     app().keepAwake({});
     app().PopScreen(*this);
 }
 
 void frmRecept::unload() {
-    // Whoever closes the screen: a changed note is not lost without a word.
-    if (isLoaded() && !ending_) leaveNote();
-    if (isLoaded()) app().keepAwake({});
+    if (isLoaded()) {
+        if (!app().Ending) current().abandon();
+        app().keepAwake({});
+    }
     Form::unload();
 }
 
 void frmRecept::restored() {
     app().keepAwake(QStringLiteral("Na obrazovce je recept"));
     if (lastFocus_ && lastFocus_->isVisible() && lastFocus_->isEnabled()) return lastFocus_->setFocus();
-    sections_[section_]->setFocus();
+    sectionButtons_[size_t(section_)]->setFocus();
 }
 
 void frmRecept::gotFocus() {
@@ -185,19 +222,19 @@ void frmRecept::musicSettings() {
     app().screens().showMusicSettings();
 }
 
+bool frmRecept::readyToEnd() {
+    return current().readyToEnd();
+}
+
 void frmRecept::endProgram() {
     rememberFocus();
-    if (note_.isDirty() && wantsNoteSaved()) note_.save(editor_->text());
-    const QPointer<frmRecept> self(this);
-    ending_ = true;
     app().ConfirmExit();
-    if (self) ending_ = false;
 }
 
 void frmRecept::print() {
-    note_.saveForPrint(editor_->text());
+    current().beforePrint();
     rememberFocus();
-    app().screens().printRecipes({id_});
+    app().screens().printRecipes({recipe_.id}, recipe_.serving());
 }
 
 void frmRecept::barClick(Bar button) {
@@ -215,12 +252,9 @@ void frmRecept::barClick(Bar button) {
     }
 }
 
-bool frmRecept::wantsNoteSaved() {
-    return app().ZobrazZpravu(noteQuestion(), kQuestionBox) == kAnswerYes;
-}
-
 QString frmRecept::collectedText() {
-    return sarne::collectedText(app().Db(), recipe_, id_, ingredients_->units(), ingredients_->quantities());
+    return sarne::collectedText(app().Db(), recipe_.row, recipe_.id, recipe_.units,
+                                recipe_.portions.quantities(app().Locale));
 }
 
 void frmRecept::paint(QPainter& painter) {

@@ -1,47 +1,40 @@
 #pragma once
 
 #include <QPointer>
-#include <array>
-#include <cstdint>
 #include <memory>
+#include <vector>
 
-#include "db/recordset.h"
 #include "forms/button.h"
 #include "forms/form.h"
 #include "forms/label.h"
-#include "forms/noteedit.h"
-#include "forms/textview.h"
-#include "screens/recipe/ingredientpanel.h"
-#include "screens/recipe/linkpanel.h"
-#include "screens/recipe/ownnote.h"
-#include "screens/recipe/recipelayout.h"
+#include "screens/recipe/recipesection.h"
 
 namespace sarne {
 
-/// One recipe, full screen: its photo, texts, links, ingredients, tools and the user's own note, a section at
-/// a time. Keeps the recipe's record open while it is shown, and the display awake.
+/// One recipe, full screen, a section at a time. Keeps the recipe's record open while it is shown, and the
+/// display awake.
 class frmRecept : public Form {
     Q_OBJECT
   public:
-    /// The sections, by the index of their button.
-    enum Section { kPhoto, kMethod, kIntroduction, kLinks, kWine, kIngredients, kTools, kOwnNote };
-
-    /// \a ask asks the user for a number of portions and returns 0 when the user gives none; by default the
-    /// program's own dialog does.
-    explicit frmRecept(basSarne& app, IngredientPanel::AskNumber ask = {});
+    /// Shows recipes in the units of \a lookedAt, and keeps there how a recipe was looked at last; it must
+    /// outlive the screen. \a ask asks the user for a number of portions; by default the program's own dialog
+    /// does.
+    frmRecept(basSarne& app, Serving& lookedAt, AskNumber ask = {});
 
     /// Opens the screen on the recipe \a id, its photo first, and plays its name. An id that does not exist
     /// shows a recipe without texts.
     void Zobraz(std::int16_t id);
-    /// Closes the recipe and returns to the screen that opened it.
+    /// Closes the recipe and returns to the screen that opened it, unless the user wants to stay.
     void Skryj();
 
-    Section section() const { return section_; }
+    /// The section that is shown, by its place in the table.
+    int section() const { return section_; }
     /// Everything there is to read about the recipe, as plain text with lines ended by "\r\n": the list of
     /// ingredients as it is recalculated now, the texts, the own note, tools and links.
     QString collectedText();
 
     void goBack() override { Skryj(); }
+    bool readyToEnd() override;
     void endProgram() override;
     void help() override;
     void musicSettings() override;
@@ -57,30 +50,18 @@ class frmRecept : public Form {
     enum class Bar { Print, Help, Back, End, Music };
     using Buttons = std::vector<Button*>;
 
-    void makeSections();
+    void makeView();
+    void makeSections(Serving& lookedAt, AskNumber ask);
+    void makeSectionButton(int index, const QString& title, const char* picture);
     void makeBar();
-    void makeNote();
     Button& makeButton(const QString& name, const QRect& place, const char* picture, const QString& tip);
 
     void loadRecipe(std::int16_t id);
     void showTitle();
     void playName();
-    void openSection(Section section);
-    void showPressed();
-    void placeView();
-    void drawSection();
-    void drawPhoto();
-    void showPhoto();
-    void drawTexts(std::initializer_list<const char*> fields);
-    void drawTools();
-    void drawNote();
-    void openLink(LinkKey key);
-    void viewClicked();
-
-    void openNote();
-    void closeNote(int index);
-    void leaveNote();
-    bool wantsNoteSaved();
+    RecipeSection& current() const { return *sections_[size_t(section_)]; }
+    void openSection(int section);
+    void showSection();
     void barClick(Bar button);
     void print();
     /// Remembers where the keyboard is, for the time when the screen is on top again.
@@ -92,25 +73,20 @@ class frmRecept : public Form {
     void stepSections(int direction);
     void stepBar(int direction);
     void tab(int direction);
+    void announceNothing(const RecipeSection& section);
     std::vector<Control*> tabStops() const;
+    Control* tabStopOf(Control* control) const;
     Control* focusedControl() const;
-    void announceSection(int index);
 
-    std::int16_t id_ = 0;
-    Recordset recipe_;
-    OwnNote note_{recipe_};
-    Section section_ = kPhoto;
-    Picture ground_, photo_;
-    bool photoShown_ = false;
-    bool ending_ = false;  // the user has been asked about the note on the way out
+    ShownRecipe recipe_;
+    std::vector<std::unique_ptr<RecipeSection>> sections_;
+    int section_ = 0;
+    Picture ground_;
 
     Label* title_;
-    Buttons sections_, bar_;
+    Buttons sectionButtons_, bar_;
     TextView* view_;
-    NoteEdit* editor_;
-    std::array<Button*, 2> noteButtons_{};
-    std::unique_ptr<IngredientPanel> ingredients_;
-    std::unique_ptr<LinkPanel> links_;
+    PictureBox* picture_;
     QPointer<QWidget> lastFocus_;
 };
 

@@ -6,7 +6,7 @@
 #include "forms/bassarne.h"
 #include "forms/stage.h"
 #include "screens/recipe/frmrecept.h"
-#include "screens/recipe/sectionnames.h"
+#include "screens/recipe/sectiontable.h"
 
 namespace sarne {
 namespace {
@@ -65,32 +65,28 @@ bool frmRecept::arrowKey(int key) {
     const int direction = key == Qt::Key_Right || key == Qt::Key_Down ? 1 : -1;
     const Control* focused = focusedControl();
     if (focused == view_ && !sideways) return true;  // the text is at its end
-    if (links_->owns(focused))
-        links_->step(direction);
-    else if (sideways && indexOf(bar_, focused) >= 0)
+    if (sideways && indexOf(bar_, focused) >= 0)
         stepBar(direction);
-    else if (sideways && section_ == kIngredients)
-        ingredients_->step(direction);
-    else
+    else if (!current().step(focused, sideways, direction))
         stepSections(direction);
     return true;
 }
 
 void frmRecept::stepSections(int direction) {
-    const int count = recipelayout::kSectionCount;
-    const int focused = indexOf(sections_, focusedControl());
-    const int next = focused < 0 ? int(section_) : (focused + direction + count) % count;
-    sections_[size_t(next)]->setFocus(Qt::TabFocusReason);
-    announceSection(next);
+    const int count = static_cast<int>(sectionButtons_.size());
+    const int focused = indexOf(sectionButtons_, focusedControl());
+    const auto next = static_cast<size_t>(focused < 0 ? section_ : (focused + direction + count) % count);
+    sectionButtons_[next]->setFocus(Qt::TabFocusReason);
+    app().HookMessage(sectionKinds()[next].title());
+    announceNothing(*sections_[next]);
 }
 
-void frmRecept::announceSection(int index) {
-    app().HookMessage(sectionName(index));
-    if (index == kLinks && links_->isEmpty()) app().HookMessage(LinkPanel::noneText());
+void frmRecept::announceNothing(const RecipeSection& section) {
+    if (const QString nothing = section.nothingHere(); !nothing.isEmpty()) app().HookMessage(nothing);
 }
 
 void frmRecept::stepBar(int direction) {
-    const int count = recipelayout::kBarCount;
+    const int count = static_cast<int>(bar_.size());
     Button* next = bar_[size_t((indexOf(bar_, focusedControl()) + direction + count) % count)];
     next->setFocus(Qt::TabFocusReason);
     app().HookMessage(next->accessibleName());
@@ -99,33 +95,35 @@ void frmRecept::stepBar(int direction) {
 /// Where Tab stops: at the section buttons, at what belongs to the section, at the bar. Within each the arrow
 /// keys move.
 std::vector<Control*> frmRecept::tabStops() const {
-    std::vector<Control*> stops{sections_[section_]};
-    if (section_ == kIngredients) stops.push_back(ingredients_->stops().front());
-    if (section_ == kLinks && links_->chosen()) stops.push_back(links_->chosen());
-    if (note_.isOpen()) stops.insert(stops.end(), {editor_, noteButtons_[0], noteButtons_[1]});
+    std::vector<Control*> stops{sectionButtons_[size_t(section_)]};
+    const std::vector<Control*> own = current().stops();
+    stops.insert(stops.end(), own.begin(), own.end());
     const bool toRead = view_->pieces().linkCount() > 0 || view_->scrollRange() > 0;
-    const bool toOpen = section_ == kPhoto && photoShown_ && !photo_.isNull();
-    if (view_->isVisible() && (toRead || toOpen)) stops.push_back(view_);
+    if (view_->isVisible() && (toRead || current().opensView())) stops.push_back(view_);
     stops.push_back(bar_.front());
     return stops;
+}
+
+/// Any control of a group stands for the one that Tab stops at.
+Control* frmRecept::tabStopOf(Control* control) const {
+    if (!control || indexOf(sectionButtons_, control) >= 0) return sectionButtons_[size_t(section_)];
+    if (indexOf(bar_, control) >= 0) return bar_.front();
+    const std::vector<Control*> own = current().stops();
+    return current().owns(control) && indexOf(own, control) < 0 ? own.front() : control;
 }
 
 void frmRecept::tab(int direction) {
     const auto way = direction > 0 ? TextView::Direction::Forward : TextView::Direction::Backward;
     Control* focused = focusedControl();
     if (focused == view_ && view_->focusNextLink(way)) return;
-    // Any control of a group stands for the one that Tab stops at.
     const std::vector<Control*> stops = tabStops();
     const int count = static_cast<int>(stops.size());
-    if (indexOf(bar_, focused) >= 0) focused = bar_.front();
-    if (indexOf(ingredients_->stops(), focused) >= 0) focused = ingredients_->stops().front();
-    if (links_->owns(focused)) focused = links_->chosen();
-    if (indexOf(sections_, focused) >= 0 || !focused) focused = sections_[section_];
-    Control* next = stops[size_t((indexOf(stops, focused) + direction + count) % count)];
+    Control* next = stops[size_t((indexOf(stops, tabStopOf(focused)) + direction + count) % count)];
     view_->focusLink({});
     next->setFocus(Qt::TabFocusReason);
     if (next == view_ && view_->focusNextLink(way)) return;
     app().HookMessage(next->accessibleName());
+    if (next == stops.front()) announceNothing(current());
 }
 
 }  // namespace sarne

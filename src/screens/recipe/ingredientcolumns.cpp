@@ -2,16 +2,13 @@
 
 #include <algorithm>
 
-#include "screens/recipe/titlelines.h"
-
 namespace sarne {
 namespace {
 
 constexpr int kReserve = 400;  // twips that stay free below the last line of a column
 constexpr int kGap = 240;      // twips between the columns
 
-QStringList wrapped(const std::vector<QString>& lines, int width,
-                    const std::function<int(const QString&)>& measure) {
+QStringList wrapped(const std::vector<QString>& lines, int width, const MeasureText& measure) {
     QStringList all;
     for (const QString& line : lines) {
         const bool indented = line.startsWith(u' ');
@@ -29,7 +26,7 @@ qsizetype linesInColumn(const ListArea& area) {
 }  // namespace
 
 std::vector<PlacedLine> placeInColumns(const std::vector<QString>& lines, const ListArea& area,
-                                       const std::function<int(const QString&)>& measure) {
+                                       const MeasureText& measure) {
     qsizetype perColumn = linesInColumn(area);
     QStringList all = wrapped(lines, area.width, measure);
     if (all.size() > perColumn) {

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QStringList>
-#include <functional>
 #include <vector>
+
+#include "richtext/wordwrap.h"
 
 namespace sarne {
 
@@ -26,6 +27,6 @@ struct PlacedLine {
 /// into a second column, which begins at half the width. A list too long for two columns makes both longer.
 /// A line wider than its column goes on in the next one, indented. \a measure gives a text's width.
 std::vector<PlacedLine> placeInColumns(const std::vector<QString>& lines, const ListArea& area,
-                                       const std::function<int(const QString&)>& measure);
+                                       const MeasureText& measure);
 
 }  // namespace sarne

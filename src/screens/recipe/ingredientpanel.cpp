@@ -1,18 +1,19 @@
 #include "screens/recipe/ingredientpanel.h"
 
+#include <algorithm>
+
 #include "core/numbertext.h"
-#include "dialogs/frmdialog.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/form.h"
 #include "forms/resources.h"
 #include "screens/recipe/ingredientcolumns.h"
-#include "screens/recipe/recipelayout.h"
 
 namespace sarne {
 namespace {
 
 constexpr int kCutleryStep = 2;
+constexpr QColor kLit(154, 92, 46);  // the ground of what is in use: brass instead of teal
 const TextFont kListFont{QStringLiteral("Times New Roman"), 12};
 
 int cutleryIndex(size_t position) {
@@ -26,23 +27,23 @@ QString cutleryCaption(int index) {
 
 }  // namespace
 
-IngredientPanel::IngredientPanel(Form& form, basSarne& app, TextView& view, AskNumber ask)
-    : form_(form), app_(app), view_(view), ask_(std::move(ask)) {
-    if (!ask_) ask_ = [&app](const QString& prompt) { return askNumber(app, prompt); };
+IngredientPanel::IngredientPanel(const SectionRoom& room) : RecipeSection(room) {
     for (size_t at = 0; cutleryIndex(at) <= Portions::kAnyNumber; ++at) {
         const int index = cutleryIndex(at);
         Button& button = addButton(QStringLiteral("imgPrepocet(%1)").arg(index),
                                    recipelayout::cutlery(static_cast<int>(at)));
-        button.setTip(PanelPosition::hint(index, units_));
-        QObject::connect(&button, &Button::clicked, &form, [this, index] { portionClick(index); });
+        QObject::connect(&button, &Button::clicked, &room_.form, [this, index] { portionClick(index); });
         cutlery_.push_back(&button);
     }
-    toggle_ = &addButton(QStringLiteral("imgKgLzice"), recipelayout::kUnitToggle);
+    toggle_ = &addButton(QStringLiteral("imgKgLzice"), {});
     toggle_->setFrame(Button::Frame::Raised);
-    QObject::connect(toggle_, &Button::clicked, &form, [this] { unitToggle(); });
-    symbol_ = new PictureBox(form, QStringLiteral("picZavazi"));
-    symbol_->place(recipelayout::kUnitSymbol);
-    portionText_ = new Label(form, QStringLiteral("lblPorce"));
+    QObject::connect(toggle_, &Button::clicked, &room_.form, [this] { unitToggle(); });
+    current_ = &addButton(QStringLiteral("picZavazi"), {});
+    current_->setFrame(Button::Frame::Pressed);
+    current_->setFocusPolicy(Qt::NoFocus);
+    current_->setGround(kLit);
+    current_->unsetCursor();
+    portionText_ = new Label(room_.form, QStringLiteral("lblPorce"));
     portionText_->place(recipelayout::kPortionText);
     portionText_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     portionText_->setFont({QStringLiteral("Arial"), 12, true});
@@ -50,8 +51,8 @@ IngredientPanel::IngredientPanel(Form& form, basSarne& app, TextView& view, AskN
 }
 
 Button& IngredientPanel::addButton(const QString& name, const QRect& place) {
-    const Resources& pictures = app_.resources();
-    auto* button = new Button(form_, name);
+    const Resources& pictures = room_.app.resources();
+    auto* button = new Button(room_.form, name);
     button->place(place);
     button->setGround(colors::kTeal);
     button->setFramePictures(pictures.picture(QStringLiteral("RamVen")),
@@ -59,117 +60,143 @@ Button& IngredientPanel::addButton(const QString& name, const QRect& place) {
     return *button;
 }
 
-void IngredientPanel::setRecipe(int recipe, int base) {
-    recipe_ = recipe;
-    portions_ = Portions(base);
-    units_ = UnitSystem::Weights;
+void IngredientPanel::recipeChanged() {
     position_.reset();
-    for (size_t at = 0; at < cutlery_.size(); ++at)
-        showCutlery(cutleryIndex(at),
-                    cutleryIndex(at) == portions_.choice() ? Button::Frame::Pressed : Button::Frame::Raised);
+    for (size_t at = 0; at < cutlery_.size(); ++at) showCutlery(cutleryIndex(at));
     showUnits();
     showPortions();
 }
 
 void IngredientPanel::setVisible(bool visible) {
-    for (Control* control : stops()) control->setVisible(visible);
-    symbol_->setVisible(visible);
+    for (Control* control : pictures()) control->setVisible(visible);
+    current_->setVisible(visible);
     portionText_->setVisible(visible);
 }
 
-std::vector<Control*> IngredientPanel::stops() const {
+/// The pictures in the order in which the keyboard steps over them.
+std::vector<Control*> IngredientPanel::pictures() const {
     std::vector<Control*> all(cutlery_.begin(), cutlery_.end());
     all.push_back(toggle_);
     return all;
 }
 
-Quantities IngredientPanel::quantities() const {
-    return portions_.quantities(app_.Locale);
+bool IngredientPanel::owns(const Control* control) const {
+    return control == toggle_ || std::ranges::find(cutlery_, control) != cutlery_.end();
 }
 
 void IngredientPanel::draw() {
-    view_.Cls();
-    view_.setFont(kListFont);
-    const auto lines = ingredientLines(readIngredients(app_.Db(), recipe_), units_, quantities());
-    const ListArea area{view_.scaleWidth(), view_.scaleHeight(), view_.textHeight(QStringLiteral("T"))};
-    const int ascent = view_.textAscent();
-    const auto measure = [this](const QString& text) { return lineWidth(text); };
-    for (const PlacedLine& line : placeInColumns(lines, area, measure))
-        view_.textOut(line.x, line.y + ascent, line.text);
-    view_.setAccessibleDescription(view_.drawnText());
+    const ShownRecipe& recipe = room_.recipe;
+    room_.lookedAt = recipe.serving();
+    TextView& view = room_.view;
+    view.setFont(kListFont);
+    const auto lines = ingredientLines(readIngredients(room_.app.Db(), recipe.id), recipe.units,
+                                       recipe.portions.quantities(room_.app.Locale));
+    const ListArea area{view.scaleWidth(), view.scaleHeight(), view.textHeight(QStringLiteral("T"))};
+    const auto measure = [this](QStringView text) { return lineWidth(text); };
+    const auto placed = placeInColumns(lines, area, measure);
+    for (const PlacedLine& line : placed) view.textOut(line.x, line.y + view.textAscent(), line.text);
+    const int half = recipelayout::kHalfView.width();
+    room_.picture.setVisible(false);
+    if (!placed.empty() && std::ranges::all_of(placed, [&](const PlacedLine& line) {
+            return line.x == 0 && lineWidth(line.text) <= half;
+        }))
+        showBeside(recipe.photo);
+    view.setAccessibleDescription(view.drawnText());
+}
+
+void IngredientPanel::redraw() {
+    room_.view.Cls();
+    draw();
 }
 
 /// The width of \a line in twips, by its words: between one number of portions and the next most of them stay
 /// the same, and the metrics remember those.
-int IngredientPanel::lineWidth(const QString& line) {
+int IngredientPanel::lineWidth(QStringView line) {
     const int blank = metrics_.textWidth(kListFont, u" ");
     int width = 0;
-    for (QStringView word : QStringView(line).split(u' '))
-        width += metrics_.textWidth(kListFont, word) + blank;
+    for (QStringView word : line.split(u' ')) width += metrics_.textWidth(kListFont, word) + blank;
     return width - blank;
 }
 
-void IngredientPanel::showCutlery(int index, Button::Frame frame) {
+void IngredientPanel::showCutlery(int index) {
     Button& button = *cutlery_[size_t(index / kCutleryStep - 1)];
-    const Picture face = app_.resources().picture(QStringLiteral("Pribor%1").arg(index));
+    const Picture face = room_.app.resources().picture(QStringLiteral("Pribor%1").arg(index));
     button.setFace(face);
     if (face.isNull()) button.setCaption(cutleryCaption(index));
-    button.setTip(PanelPosition::hint(index, units_));
-    button.setFrame(frame);
+    button.setTip(PanelPosition::hint(index, room_.recipe.units));
+    const bool chosen = index == room_.recipe.portions.choice();
+    button.setFrame(chosen ? Button::Frame::Pressed : Button::Frame::Raised);
+    button.setGround(chosen ? kLit : colors::kTeal);
 }
 
 void IngredientPanel::showUnits() {
-    const bool weights = units_ == UnitSystem::Weights;
-    const Picture spoon = app_.resources().picture(QStringLiteral("lzice"));
-    const Picture weight = app_.resources().picture(QStringLiteral("zavazi"));
-    const Picture& other = weights ? spoon : weight;
-    toggle_->setFace(other);
-    if (other.isNull()) toggle_->setCaption(weights ? QStringLiteral("lžíce") : QStringLiteral("g"));
-    toggle_->setTip(PanelPosition::hint(PanelPosition::kToggle, units_));
-    symbol_->setPicture(weights ? weight : spoon);
-    app_.lastWeights = weights;
+    const bool weights = room_.recipe.units == UnitSystem::Weights;
+    const auto show = [this](Button& button, bool weight) {
+        const Picture face =
+            room_.app.resources().picture(weight ? QStringLiteral("zavazi") : QStringLiteral("lzice"));
+        button.place(weight ? recipelayout::kWeights : recipelayout::kSpoons);
+        button.setFace(face);
+        if (face.isNull()) button.setCaption(weight ? QStringLiteral("g") : QStringLiteral("lžíce"));
+    };
+    show(*toggle_, !weights);
+    show(*current_, weights);
+    toggle_->setTip(PanelPosition::hint(PanelPosition::kToggle, room_.recipe.units));
+    current_->setTip(weights ? QStringLiteral("Množství v gramech") : QStringLiteral("Množství na lžíce"));
 }
 
 void IngredientPanel::showPortions() {
-    const double number = portions_.number();
+    const Serving serving = room_.recipe.serving();
     const QString units =
-        units_ == UnitSystem::Weights ? QStringLiteral("v gramech") : QStringLiteral("na lžíce");
-    portionText_->setText(numberText(number, app_.Locale) + u' ' + portionWord(number) + u'\n' + units);
-    app_.lastPortions = number;
+        serving.units == UnitSystem::Weights ? QStringLiteral("v gramech") : QStringLiteral("na lžíce");
+    portionText_->setText(numberText(serving.portions, room_.app.Locale) + u' ' +
+                          portionWord(serving.portions) + u'\n' + units);
+}
+
+/// False when the user gives no number; then everything stays as it was.
+bool IngredientPanel::askPortions() {
+    const QPointer<Form> alive(&room_.form);
+    const double number = room_.askNumber(QStringLiteral("Zadejte počet porcí:"));
+    if (!alive || number <= 0) return false;
+    room_.recipe.portions.setCustom(number);
+    return true;
 }
 
 void IngredientPanel::portionClick(int index) {
-    if (!portions_.changes(index)) return;
-    form_.setPointer(Pointer::Hourglass);
-    if (index == Portions::kAnyNumber) {
-        const QPointer<Form> alive(&form_);
-        const double number = ask_(QStringLiteral("Zadejte počet porcí:"));
-        if (!alive) return;
-        portions_.setCustom(number);
+    Portions& portions = room_.recipe.portions;
+    if (!portions.changes(index)) return;
+    const QPointer<Form> alive(&room_.form);
+    alive->setPointer(Pointer::Hourglass);
+    const bool answered = index != Portions::kAnyNumber || askPortions();
+    if (!alive) return;
+    if (answered) {
+        const int previous = portions.choice();
+        portions.choose(index);
+        showCutlery(previous);
+        showCutlery(index);
+        showPortions();
+        redraw();
     }
-    showCutlery(portions_.choice(), Button::Frame::Raised);
-    showCutlery(index, Button::Frame::Pressed);
-    portions_.choose(index);
     position_.set(index);
-    showPortions();
-    draw();
-    form_.setPointer(Pointer::Normal);
+    alive->setPointer(Pointer::Normal);
 }
 
 void IngredientPanel::unitToggle() {
-    units_ = units_ == UnitSystem::Weights ? UnitSystem::Spoons : UnitSystem::Weights;
+    UnitSystem& units = room_.recipe.units;
+    units = units == UnitSystem::Weights ? UnitSystem::Spoons : UnitSystem::Weights;
     position_.set(PanelPosition::kToggle);
     showUnits();
     showPortions();
-    draw();
-    app_.HookMessage(units_ == UnitSystem::Weights ? QStringLiteral("Přepočteno na gramy")
-                                                   : QStringLiteral("Přepočteno na lžíce"));
+    redraw();
+    room_.app.HookMessage(units == UnitSystem::Weights ? QStringLiteral("Přepočteno na gramy")
+                                                       : QStringLiteral("Přepočteno na lžíce"));
 }
 
-void IngredientPanel::step(int direction) {
+bool IngredientPanel::step(const Control* /*focused*/, bool sideways, int direction) {
+    if (!sideways) return false;
     const int position = position_.step(direction);
-    stops()[size_t(position / kCutleryStep - 1)]->setFocus(Qt::TabFocusReason);
-    app_.HookMessage(PanelPosition::hint(position, units_));
+    pictures()[size_t(position / kCutleryStep - 1)]->setFocus(Qt::TabFocusReason);
+    room_.app.HookMessage(PanelPosition::hint(position, room_.recipe.units));
+    return true;
 }
 
 }  // namespace sarne

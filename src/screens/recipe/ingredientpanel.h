@@ -1,65 +1,43 @@
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <vector>
-
 #include "forms/button.h"
 #include "forms/label.h"
-#include "forms/textview.h"
 #include "richtext/qttextmetrics.h"
-#include "screens/recipe/portions.h"
+#include "screens/recipe/recipesection.h"
 
 namespace sarne {
 
-class basSarne;
-class Database;
-
-/// The ingredients of the recipe on the screen: the cutlery pictures, the toggle between the unit systems and
-/// the list. Its controls are the form's.
-class IngredientPanel {
+/// The ingredients of the recipe: the cutlery pictures, the toggle between the unit systems and the list.
+class IngredientPanel : public RecipeSection {
   public:
-    /// Asks the user for a number; 0 when the user gives none.
-    using AskNumber = std::function<double(const QString& prompt)>;
+    explicit IngredientPanel(const SectionRoom& room);
 
-    IngredientPanel(Form& form, basSarne& app, TextView& view, AskNumber ask);
-
-    /// A recipe whose amounts are given for \a base portions is shown from now on, by weights.
-    void setRecipe(int recipe, int base);
-    void setVisible(bool visible);
-    /// Draws the list anew, from the database.
-    void draw();
-
-    /// What a click on a cutlery picture does.
-    void portionClick(int index);
-    void unitToggle();
-    /// Steps to the next picture with the keyboard and says what it does.
-    void step(int direction);
-    /// The pictures in the order in which the keyboard steps over them.
-    std::vector<Control*> stops() const;
-
-    const Portions& portions() const { return portions_; }
-    UnitSystem units() const { return units_; }
-    Quantities quantities() const;
+    void recipeChanged() override;
+    void setVisible(bool visible) override;
+    QRect viewPlace() const override { return recipelayout::kListView; }
+    /// Draws the list, from the database.
+    void draw() override;
+    std::vector<Control*> stops() const override { return {cutlery_.front()}; }
+    bool owns(const Control* control) const override;
+    /// Steps sideways to the next picture and says what it does.
+    bool step(const Control* focused, bool sideways, int direction) override;
 
   private:
     Button& addButton(const QString& name, const QRect& place);
-    void showCutlery(int index, Button::Frame frame);
+    std::vector<Control*> pictures() const;
+    void portionClick(int index);
+    bool askPortions();
+    void unitToggle();
+    void redraw();
+    void showCutlery(int index);
     void showUnits();
     void showPortions();
-    int lineWidth(const QString& line);
+    int lineWidth(QStringView line);
 
-    Form& form_;
-    basSarne& app_;
-    TextView& view_;
-    AskNumber ask_;
     std::vector<Button*> cutlery_;
     Button* toggle_;
-    PictureBox* symbol_;
+    Button* current_;  // the other picture beside the toggle: the unit system in use
     Label* portionText_;
-    int recipe_ = 0;
-    Portions portions_;
-    UnitSystem units_ = UnitSystem::Weights;
     PanelPosition position_;
     QtTextMetrics metrics_;
 };

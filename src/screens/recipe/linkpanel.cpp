@@ -12,12 +12,18 @@ namespace sarne {
 
 using namespace recipelayout;
 
-LinkPanel::LinkPanel(Form& form, basSarne& app, TextView& view)
-    : form_(form),
-      app_(app),
-      view_(view),
-      up_(new Button(form, QStringLiteral("imgOdkazy(0)"))),
-      down_(new Button(form, QStringLiteral("imgOdkazy(1)"))) {
+namespace {
+
+QString noneText() {
+    return QStringLiteral("K tomuto receptu není přiřazen žádný odkaz");
+}
+
+}  // namespace
+
+LinkPanel::LinkPanel(const SectionRoom& room)
+    : RecipeSection(room),
+      up_(new Button(room.form, QStringLiteral("imgOdkazy(0)"))),
+      down_(new Button(room.form, QStringLiteral("imgOdkazy(1)"))) {
     setArrow(*up_, -1);
     setArrow(*down_, 1);
     setVisible(false);
@@ -26,29 +32,29 @@ LinkPanel::LinkPanel(Form& form, basSarne& app, TextView& view)
 void LinkPanel::setArrow(Button& arrow, int rows) {
     const bool up = rows < 0;
     const Picture face =
-        app_.resources().picture(up ? QStringLiteral("SipkaNahoru") : QStringLiteral("SipkaDolu"));
+        room_.app.resources().picture(up ? QStringLiteral("SipkaNahoru") : QStringLiteral("SipkaDolu"));
     arrow.place(optionArrow(up ? 0 : 1));
     arrow.setFace(face);
     if (face.isNull()) arrow.setCaption(up ? QStringLiteral("▲") : QStringLiteral("▼"));
     arrow.setTip(up ? QStringLiteral("Předchozí odkazy") : QStringLiteral("Další odkazy"));
     if (face.isNull()) arrow.setGround(colors::kTeal);
     arrow.setFocusPolicy(Qt::NoFocus);
-    QObject::connect(&arrow, &Button::clicked, &form_, [this, rows] { scrollRows(rows); });
+    QObject::connect(&arrow, &Button::clicked, &room_.form, [this, rows] { scrollRows(rows); });
 }
 
-void LinkPanel::setRecipe(int recipe) {
+void LinkPanel::recipeChanged() {
     for (OptionButton* option : options_) delete option;
     options_.clear();
-    links_ = recipeLinks(app_.Db(), recipe);
+    links_ = recipeLinks(room_.app.Db(), room_.recipe.id);
     chosen_ = firstRow_ = 0;
     for (size_t at = 0; at < links_.size(); ++at) {
-        auto* option = new OptionButton(form_, QStringLiteral("optOdkaz(%1)").arg(at));
+        auto* option = new OptionButton(room_.form, QStringLiteral("optOdkaz(%1)").arg(at));
         option->setCaption(links_[at].title);
         option->setToolTip(links_[at].title);
         option->setFont({QStringLiteral("Times New Roman"), 12});
-        option->setMarkPictures(app_.resources().picture(QStringLiteral("VolbaAno")),
-                                app_.resources().picture(QStringLiteral("VolbaNe")));
-        QObject::connect(option, &Control::clicked, &form_,
+        option->setMarkPictures(room_.app.resources().picture(QStringLiteral("VolbaAno")),
+                                room_.app.resources().picture(QStringLiteral("VolbaNe")));
+        QObject::connect(option, &Control::clicked, &room_.form,
                          [this, at] { optionClick(static_cast<int>(at)); });
         options_.push_back(option);
     }
@@ -90,46 +96,46 @@ void LinkPanel::setVisible(bool visible) {
     placeOptions();
 }
 
-QString LinkPanel::noneText() {
-    return QStringLiteral("K tomuto receptu není přiřazen žádný odkaz");
+QString LinkPanel::nothingHere() const {
+    return links_.empty() ? noneText() : QString();
 }
 
 void LinkPanel::draw() {
-    view_.Cls();
-    const auto text = links_.empty() ? std::nullopt : linkText(app_.Db(), links_[size_t(chosen_)].id);
+    const auto text = links_.empty() ? std::nullopt : linkText(room_.app.Db(), links_[size_t(chosen_)].id);
     if (text) {
-        view_.drawRichText(*text);
+        room_.view.drawRichText(*text);
     } else {
-        view_.setFont({QStringLiteral("Arial"), 12});
-        view_.print(noneText());
+        room_.view.setFont({QStringLiteral("Arial"), 12});
+        room_.view.print(noneText());
     }
-    view_.setAccessibleDescription(view_.drawnText());
+    room_.view.setAccessibleDescription(room_.view.drawnText());
 }
 
 void LinkPanel::optionClick(int index) {
     chosen_ = index;
     options_[size_t(index)]->setChecked(true);
+    room_.view.Cls();
     draw();
 }
 
-void LinkPanel::step(int direction) {
-    const int count = static_cast<int>(options_.size());
-    int at = chosen_;
-    for (int index = 0; index < count; ++index) {
-        if (options_[size_t(index)]->hasFocus()) at = index;
-    }
-    at = (at + direction + count) % count;
+bool LinkPanel::step(const Control* focused, bool /*sideways*/, int direction) {
+    const auto from = std::ranges::find(options_, focused);
+    if (from == options_.end()) return false;
+    const auto count = static_cast<int>(options_.size());
+    const int at = (static_cast<int>(from - options_.begin()) + direction + count) % count;
     showRow(at / kOptionColumns);
     options_[size_t(at)]->setFocus(Qt::TabFocusReason);
-    app_.HookMessage(links_[size_t(at)].title);
+    room_.app.HookMessage(links_[size_t(at)].title);
+    return true;
 }
 
-Control* LinkPanel::chosen() const {
-    return options_.empty() ? nullptr : options_[size_t(chosen_)];
+std::vector<Control*> LinkPanel::stops() const {
+    if (options_.empty()) return {};
+    return {options_[size_t(chosen_)]};
 }
 
 bool LinkPanel::owns(const Control* control) const {
-    return std::ranges::any_of(options_, [&](const OptionButton* option) { return option == control; });
+    return std::ranges::find(options_, control) != options_.end();
 }
 
 }  // namespace sarne

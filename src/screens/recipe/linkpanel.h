@@ -6,46 +6,35 @@
 #include "db/companions.h"
 #include "forms/button.h"
 #include "forms/checkbox.h"
-#include "forms/textview.h"
+#include "screens/recipe/recipesection.h"
 
 namespace sarne {
 
-class basSarne;
-
-/// The links of the recipe on the screen: an option for each, and the text of the chosen one. Its controls
-/// are the form's.
-class LinkPanel {
+/// The links of the recipe: an option for each, and the text of the chosen one.
+class LinkPanel : public RecipeSection {
   public:
-    LinkPanel(Form& form, basSarne& app, TextView& view);
+    explicit LinkPanel(const SectionRoom& room);
 
-    /// The links of \a recipe are shown from now on, the first one chosen.
-    void setRecipe(int recipe);
-    bool isEmpty() const { return links_.empty(); }
-    void setVisible(bool visible);
+    /// Makes the options of the recipe, the first one chosen.
+    void recipeChanged() override;
+    void setVisible(bool visible) override;
+    /// The place beside the options.
+    QRect viewPlace() const override;
     /// Draws the text of the chosen link, or says that there is none.
-    void draw();
-    /// What a click on an option does.
-    void optionClick(int index);
-    /// Moves the keyboard to the next option and says its name.
-    void step(int direction);
-    /// The chosen option; null where there are no links.
-    Control* chosen() const;
-    bool owns(const Control* control) const;
-    /// The place of the drawing surface beside the options.
-    QRect viewPlace() const;
-
-    static QString noneText();
+    void draw() override;
+    std::vector<Control*> stops() const override;
+    bool owns(const Control* control) const override;
+    bool step(const Control* focused, bool sideways, int direction) override;
+    QString nothingHere() const override;
 
   private:
+    void optionClick(int index);
     void placeOptions();
     void scrollRows(int rows);
     void showRow(int row);
     int rowCount() const;
     void setArrow(Button& arrow, int rows);
 
-    Form& form_;
-    basSarne& app_;
-    TextView& view_;
     std::vector<RecipeLink> links_;
     std::vector<OptionButton*> options_;
     Button *up_, *down_;

@@ -21,18 +21,22 @@ constexpr QRect sectionName(int index) {
 constexpr QRect sectionRow(int index) {
     return {150, 1380 + index * 930, 2280, 900};
 }
+static_assert(sectionRow(kSectionCount - 1).bottom() <= kSections.bottom(),
+              "more sections than fit below each other");
 constexpr QRect barButton(int index) {
     return {7530 + index * 880, 8100, 790, 750};
 }
 
 inline constexpr QRect kView{2880, 1590, 8400, 6150};  ///< the drawing surface
 inline constexpr QRect kPhotoView{2820, 1590, 8820, 6150};
+inline constexpr QRect kHalfView{2880, 1590, 4200, 6150};  ///< the drawing surface with a picture beside it
+inline constexpr QRect kBesideView{7380, 1890, 4200, 5400};
 inline constexpr QRect kListView{2880, 2520, 8400, 5220};  ///< below the cutlery
 constexpr QRect cutlery(int position) {
     return {2880 + position * 870, 1530, 780, 780};
 }
-inline constexpr QRect kUnitToggle{7440, 1530, 780, 780};
-inline constexpr QRect kUnitSymbol{8310, 1530, 780, 780};
+inline constexpr QRect kWeights{7440, 1530, 780, 780};
+inline constexpr QRect kSpoons{8280, 1530, 780, 780};
 inline constexpr QRect kPortionText{9240, 1530, 2460, 780};
 
 inline constexpr int kOptionColumns = 2;

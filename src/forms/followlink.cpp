@@ -1,12 +1,13 @@
-#include "screens/index/followlink.h"
+#include "forms/followlink.h"
 
+#include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/screens.h"
 
 namespace sarne {
 
 void followLink(basSarne& app, const LinkKey& key) {
-    const auto number = static_cast<std::int16_t>(key.number);
+    const auto number = toRecordId(key.number).value_or(0);
     switch (key.kind) {
         case LinkKind::Keyword:
             return app.screens().showIndex(number);

@@ -1,0 +1,106 @@
+#include "screens/recipe/notepanel.h"
+
+#include <QPlainTextEdit>
+
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/messagebox.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kNoAnswer = 0;
+
+}  // namespace
+
+NotePanel::NotePanel(const SectionRoom& room)
+    : RecipeSection(room),
+      note_(room_.recipe.row),
+      editor_(new NoteEdit(room.form, QStringLiteral("RtfPozn"))) {
+    editor_->place(recipelayout::kNote);
+    editor_->editor().setAccessibleName(QStringLiteral("Vlastní poznámka k receptu"));
+    editor_->setFont({QStringLiteral("Times New Roman"), 13});
+    QObject::connect(editor_, &NoteEdit::edited, &room.form, [this] { note_.changed(); });
+    const QString captions[] = {QStringLiteral("Uložit a zavřít"), QStringLiteral("Zavřít bez uložení")};
+    for (int index = 0; index < 2; ++index) {
+        auto* button = new Button(room.form, QStringLiteral("cmdUloz(%1)").arg(index));
+        button->place(recipelayout::noteButton(index));
+        button->setCaption(captions[index]);
+        button->setTip(captions[index]);
+        button->setGround(colors::kTeal);
+        button->setFrame(Button::Frame::Raised);
+        QObject::connect(button, &Button::clicked, &room.form,
+                         [this, index] { closeByButton(OwnNote::Close(index)); });
+        buttons_[size_t(index)] = button;
+    }
+    setVisible(false);
+}
+
+void NotePanel::setVisible(bool visible) {
+    editor_->setVisible(visible);
+    for (Button* button : buttons_) button->setVisible(visible);
+}
+
+void NotePanel::draw() {
+    room_.view.setVisible(false);
+    editor_->setText(note_.open());
+    editor_->focusAtEnd();
+}
+
+std::vector<Control*> NotePanel::stops() const {
+    if (!note_.isOpen()) return {};
+    return {editor_, buttons_[0], buttons_[1]};
+}
+
+bool NotePanel::owns(const Control* control) const {
+    return control == editor_ || control == buttons_[0] || control == buttons_[1];
+}
+
+void NotePanel::close(OwnNote::Close how) {
+    note_.close(how, editor_->text());
+    editor_->setText({});
+    setVisible(false);
+}
+
+void NotePanel::closeByButton(OwnNote::Close how) {
+    close(how);
+    // What the note says now that it is closed.
+    room_.view.setVisible(true);
+    room_.view.Cls();
+    room_.view.drawPlainText(note_.stored());
+    room_.giveKeyboardBack();
+}
+
+int NotePanel::ask() {
+    return room_.app.AskOrLeave(QStringLiteral("Poznámka byla změněna. Chcete tyto změny uložit?"),
+                                kQuestionBox);
+}
+
+bool NotePanel::leave() {
+    if (!note_.isOpen()) return true;
+    const int answer = note_.isDirty() ? ask() : kAnswerYes;
+    if (answer == kNoAnswer) {
+        editor_->setFocus();
+        return false;
+    }
+    close(answer == kAnswerYes ? OwnNote::Close::Save : OwnNote::Close::Discard);
+    return true;
+}
+
+void NotePanel::abandon() {
+    if (!note_.isDirty()) return;
+    const int answer = ask();
+    if (answer == kAnswerYes || answer == kNoAnswer) note_.save(editor_->text());
+}
+
+bool NotePanel::readyToEnd() {
+    const int answer = note_.isDirty() ? ask() : kAnswerYes;
+    if (answer == kAnswerYes) note_.save(editor_->text());
+    return answer != kNoAnswer;
+}
+
+void NotePanel::beforePrint() {
+    note_.saveForPrint(editor_->text());
+}
+
+}  // namespace sarne

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "db/recordset.h"
+#include "forms/form.h"
+#include "forms/textview.h"
+#include "screens/recipe/portions.h"
+#include "screens/recipe/recipelayout.h"
+
+namespace sarne {
+
+class basSarne;
+
+/// The recipe on the screen: what its sections read, and how the user looks at it.
+struct ShownRecipe {
+    std::int16_t id = 0;
+    Recordset row;  ///< its record, kept open; closed where there is no such recipe
+    Picture photo;
+    Portions portions;
+    UnitSystem units = UnitSystem::Weights;
+
+    QString field(const char* name) const { return row.field(QString::fromLatin1(name)).toString(); }
+    Serving serving() const { return {portions.number(), units}; }
+};
+
+/// Asks the user for a number; 0 when the user gives none.
+using AskNumber = std::function<double(const QString& prompt)>;
+
+/// What a section works with. All of it outlives the section.
+struct SectionRoom {
+    Form& form;
+    basSarne& app;
+    TextView& view;  ///< the drawing surface
+    PictureBox&
+        picture;  ///< a picture beside a text that leaves room for it; hidden until a section shows it
+    ShownRecipe& recipe;
+    Serving& lookedAt;  ///< told how the user looks at a recipe
+    AskNumber askNumber;
+    std::function<void()> giveKeyboardBack;  ///< to the button of the section that is shown
+};
+
+/// One section of the recipe screen. It draws on the screen's drawing surface and may have controls of its
+/// own around it, which are the form's.
+class RecipeSection {
+  public:
+    explicit RecipeSection(const SectionRoom& room) : room_(room) {}
+    virtual ~RecipeSection() = default;
+
+    /// The recipe on the screen is another one.
+    virtual void recipeChanged() {}
+    /// Shows or hides the section's own controls.
+    virtual void setVisible(bool /*visible*/) {}
+    /// Where the drawing surface stands while the section is shown.
+    virtual QRect viewPlace() const { return recipelayout::kView; }
+    /// Draws on the drawing surface, which is clear.
+    virtual void draw() = 0;
+
+    /// Where Tab stops among the section's own controls. The first stands for those that only arrows reach.
+    virtual std::vector<Control*> stops() const { return {}; }
+    virtual bool owns(const Control* /*control*/) const { return false; }
+    /// An arrow key, forwards (1) or backwards (-1), while \a focused has the keyboard. True when the section
+    /// has used it.
+    virtual bool step(const Control* /*focused*/, bool /*sideways*/, int /*direction*/) { return false; }
+    /// What is said to those who come to the section by keyboard when there is nothing in it.
+    virtual QString nothingHere() const { return {}; }
+
+    /// Whether a click on the drawing surface does something, and that click.
+    virtual bool opensView() const { return false; }
+    virtual void viewClicked() {}
+
+    /// The user goes elsewhere. False when the section has to stay.
+    virtual bool leave() { return true; }
+    /// As leave(), where the screen is closed in any case.
+    virtual void abandon() {}
+    /// The program is about to end, or not: false when the user wants to stay.
+    virtual bool readyToEnd() { return true; }
+    virtual void beforePrint() {}
+
+  protected:
+    /// Shows \a picture in the right half of the sheet until another section is opened.
+    void showBeside(const Picture& picture) const {
+        room_.picture.setPicture(picture);
+        room_.picture.show();
+    }
+
+    SectionRoom room_;
+};
+
+}  // namespace sarne

@@ -1,0 +1,78 @@
+#include "screens/recipe/textsections.h"
+
+#include <QTimer>
+
+#include "db/companions.h"
+#include "forms/bassarne.h"
+#include "forms/screens.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kBetweenTexts = 200;  // twips between the texts of one section
+
+}  // namespace
+
+void PhotoSection::draw() {
+    if (shown_) return show();
+    room_.view.setFont({QStringLiteral("Times New Roman"), 12});
+    room_.view.print(QStringLiteral("Moment prosím, načítám foto ..."));
+    // Reading a large picture takes a moment, so the text is painted before.
+    QTimer::singleShot(0, &room_.form, [this] {
+        if (!visible_) return;
+        room_.view.repaint();
+        show();
+    });
+}
+
+void PhotoSection::show() {
+    shown_ = true;
+    room_.view.setPicture(room_.recipe.photo);
+    if (opensView()) room_.view.setCursor(Qt::PointingHandCursor);
+    room_.view.setAccessibleDescription({});
+}
+
+bool PhotoSection::opensView() const {
+    return shown_ && !room_.recipe.photo.isNull();
+}
+
+void PhotoSection::viewClicked() {
+    if (!opensView()) return;
+    PhotoRequest request;
+    request.photoIds = {room_.recipe.id};
+    room_.app.screens().showPhotos(request);
+}
+
+void TextSection::draw() {
+    TextView& view = room_.view;
+    for (const char* field : fields_) {
+        const QString text = room_.recipe.field(field);
+        if (text.trimmed().isEmpty()) continue;
+        if (view.currentY() > 0) view.setCurrentY(view.currentY() + kBetweenTexts);
+        view.drawRichText(text);
+    }
+    view.setAccessibleDescription(view.drawnText());
+}
+
+void WineSection::draw() {
+    const Picture wine = room_.app.mediaPicture(QStringLiteral("foto\\vino256.bmp"));
+    const bool hasText = !room_.recipe.field("vino").trimmed().isEmpty();
+    if (!wine.isNull() && hasText) room_.view.place(recipelayout::kHalfView);
+    TextSection::draw();
+    if (wine.isNull() || !hasText) return;
+    if (room_.view.scrollRange() == 0) return showBeside(wine);
+    room_.view.Cls();
+    room_.view.place(viewPlace());
+    TextSection::draw();
+}
+
+void ToolSection::draw() {
+    const QStringList tools = recipeTools(room_.app.Db(), room_.recipe.id);
+    if (tools.isEmpty()) return;
+    TextView& view = room_.view;
+    view.setFont({QStringLiteral("Arial"), 12});
+    for (const QString& tool : tools) view.print(tool);
+    view.setAccessibleDescription(view.drawnText());
+}
+
+}  // namespace sarne
