@@ -15,7 +15,7 @@ class ShippedTest : public testing::Test {
   protected:
     static void SetUpTestSuite() {
         folder_ = new QTemporaryDir;
-        Problems problems;
+        Problems problems(Edition::release);
         const ContentFolder content(QStringLiteral(SARNE_CONTENT), problems);
         const Cookbook book = loadCookbook(content, problems);
         proofread(content, book, problems);

@@ -37,14 +37,14 @@ class SmallCookbook {
         return opened.open(QIODevice::WriteOnly) && opened.write(text.toUtf8()) >= 0;
     }
 
-    /// Everything that the builder has to say about it.
-    QStringList errors() const {
+    /// Everything that the builder has to say about it, errors and what a release would refuse.
+    QStringList complaints() const {
         Problems problems;
         const ContentFolder folder(path(), problems);
         const Cookbook book = loadCookbook(folder, problems);
         proofread(folder, book, problems);
         writeRecipeDatabase(book, path(QStringLiteral("Sarne.drc")), problems);
-        return problems.errors();
+        return problems.errors() + problems.notes();
     }
 
   private:

@@ -92,17 +92,17 @@ TEST(Effects, EveryButtonHasOneThatIsShortQuietEnoughAndAtRestAtBothEnds) {
 TEST(Effects, FaultsNameTheirLine) {
     const auto error = [](const char* text) { return firstError(readEffects, text); };
     EXPECT_EQ(error("== 1 | klep | 0,2 | -6\n\núder výška=400"), "");
-    EXPECT_EQ(error("== 1 | klep | 0,2\nrána výška=400").substr(0, 22), "soubor.txt:2: rána is");
-    EXPECT_EQ(error("== 1 | klep | 0,2\núder výška=vysoko"), "soubor.txt:2: výška is not a number: vysoko");
-    EXPECT_EQ(error("== 1 | klep | 0,2\núder barva=3"), "soubor.txt:2: nothing is known about barva");
-    EXPECT_EQ(error("== 1 | klep | 0,2\núder látka=vata").substr(0, 21), "soubor.txt:2: vata is");
-    EXPECT_EQ(error("== 1 | klep | 0,2\núder výška=0"), "soubor.txt:1: a layer without pitch or length");
-    EXPECT_EQ(error("== 1 | klep | 0,2 | -1\núder"), "soubor.txt:1: the effect's peak is above -3 dB");
-    EXPECT_EQ(error("== 1 | klep | dlouho\núder"), "soubor.txt:1: not \"number | name | seconds | peak\"");
-    EXPECT_EQ(error("== 1 | klep | 9\núder"),
-              "soubor.txt:1: the effect's length is not between 0,05 and 5 s");
-    EXPECT_EQ(error("== 1 | klep | 0,2"), "soubor.txt:1: an effect without a layer");
-    EXPECT_EQ(error("== 1 | a | 0,2\núder\n== 1 | b | 0,2\núder"), "soubor.txt:3: the effect 1 stands twice");
+    EXPECT_EQ(error("== 1 | klep | 0,2\nrána výška=400").substr(0, 36), "soubor.txt:2: rána není žádné z");
+    EXPECT_EQ(error("== 1 | klep | 0,2\núder výška=vysoko"), "soubor.txt:2: výška není číslo: vysoko");
+    EXPECT_EQ(error("== 1 | klep | 0,2\núder barva=3"), "soubor.txt:2: klíč „barva“ je neznámý");
+    EXPECT_EQ(error("== 1 | klep | 0,2\núder látka=vata").substr(0, 35), "soubor.txt:2: vata není žádné z");
+    EXPECT_EQ(error("== 1 | klep | 0,2\núder výška=0"), "soubor.txt:1: vrstva nemá výšku nebo délku");
+    EXPECT_EQ(error("== 1 | klep | 0,2 | -1\núder"), "soubor.txt:1: špička efektu je nad -3 dB");
+    EXPECT_EQ(error("== 1 | klep | dlouho\núder"),
+              "soubor.txt:1: tohle není „číslo | název | vteřiny | špička“");
+    EXPECT_EQ(error("== 1 | klep | 9\núder"), "soubor.txt:1: efekt netrvá 0,05 až 5 s");
+    EXPECT_EQ(error("== 1 | klep | 0,2"), "soubor.txt:1: efekt nemá vrstvu");
+    EXPECT_EQ(error("== 1 | a | 0,2\núder\n== 1 | b | 0,2\núder"), "soubor.txt:3: efekt 1 tu stojí podruhé");
 }
 
 TEST(Notes, CzechNamesGivePitchesAndChords) {
@@ -148,15 +148,15 @@ TEST(Scores, FaultsNameTheirLine) {
         return firstError(readScore, (std::string(kHead) + part).c_str());
     };
     EXPECT_EQ(error("akordy: C\nkytara: c4:2"), "");
-    EXPECT_EQ(error("akordy: C\nkytara: c4:1"), "soubor.txt:7: a bar of 1 beats: c4:1");
-    EXPECT_EQ(error("akordy: C\nkytara: x4:2"), "soubor.txt:7: not a note: x4");
-    EXPECT_EQ(error("akordy: C\nkytara: c4:dlouho"), "soubor.txt:7: not a length: c4:dlouho");
-    EXPECT_EQ(error("akordy: C | F\nkytara: c4:2"), "soubor.txt:7: 1 bars where the part has 2");
-    EXPECT_EQ(error("akordy: Q\nkytara: c4:2"), "soubor.txt:6: not a chord: Q");
-    EXPECT_EQ(error("akordy: C\nbuben: c4:2"), "soubor.txt:7: nobody plays \"buben\"");
-    EXPECT_EQ(firstError(readScore, "průběh: A B\n== A\nakordy: C"), "soubor.txt:1: there is no part B");
+    EXPECT_EQ(error("akordy: C\nkytara: c4:1"), "soubor.txt:7: takt má 1 dob: c4:1");
+    EXPECT_EQ(error("akordy: C\nkytara: x4:2"), "soubor.txt:7: tohle není nota: x4");
+    EXPECT_EQ(error("akordy: C\nkytara: c4:dlouho"), "soubor.txt:7: tohle není délka: c4:dlouho");
+    EXPECT_EQ(error("akordy: C | F\nkytara: c4:2"), "soubor.txt:7: taktů je 1, část jich má 2");
+    EXPECT_EQ(error("akordy: Q\nkytara: c4:2"), "soubor.txt:6: tohle není akord: Q");
+    EXPECT_EQ(error("akordy: C\nbuben: c4:2"), "soubor.txt:7: „buben“ nikdo nehraje");
+    EXPECT_EQ(firstError(readScore, "průběh: A B\n== A\nakordy: C"), "soubor.txt:1: část „B“ neexistuje");
     EXPECT_EQ(firstError(readScore, "tempo: rychle\nprůběh: A\n== A"),
-              "soubor.txt:1: tempo is not a number above 0");
+              "soubor.txt:1: tempo není číslo nad 0");
 }
 
 /// Two bars whose last note rings on, with silence at the beginning.
@@ -182,7 +182,7 @@ TEST(Music, WhatRingsOverTheEndSoundsAtTheBeginning) {
     Score unknown = score;
     unknown.events.first().effect = QStringLiteral("hrom");
     renderMusic(unknown, effects, -6, folder.path(), {}, problems);
-    EXPECT_EQ(problems.errors(), QStringList(QStringLiteral("soubor.txt:4: there is no effect hrom")));
+    EXPECT_EQ(problems.errors(), QStringList(QStringLiteral("soubor.txt:4: efekt hrom neexistuje")));
 }
 
 TEST(Sounds, FilesKeepTheSoundAndOthersAreNone) {

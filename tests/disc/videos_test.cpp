@@ -43,18 +43,17 @@ std::string errorOf(const char* line) {
 
 TEST(Films, FaultsNameTheirLine) {
     EXPECT_EQ(firstError(kScript), "");
-    EXPECT_EQ(errorOf("vidlička: x=4"), "soubor.txt:4: the film has no \"vidlička\"");
-    EXPECT_EQ(errorOf("ryba: x=daleko"), "soubor.txt:4: x is not a number: daleko");
-    EXPECT_EQ(errorOf("ryba: barva=4"), "soubor.txt:4: nothing is known about barva");
-    EXPECT_EQ(errorOf("ryba: od=0,8 do=0,2 x=4"),
-              "soubor.txt:4: od and do are shares of the step, from 0 to 1");
-    EXPECT_EQ(errorOf("trvá: chvíli"), "soubor.txt:4: trvá is not a number");
-    EXPECT_EQ(errorOf("zvuk: cinknutí"), "soubor.txt:4: a sound begins with its share of the step");
-    EXPECT_EQ(firstError("scéna: moře\n== Věta."), "soubor.txt:1: there is no scene moře");
-    EXPECT_EQ(firstError("věc: loď\nscéna: prkno\n== Věta."), "soubor.txt:1: nobody can draw loď");
-    EXPECT_EQ(firstError("scéna: prkno\n=="), "soubor.txt:2: a step without a caption");
-    EXPECT_EQ(firstError("scéna: prkno"), "soubor.txt:1: the script has no step");
-    EXPECT_EQ(firstError("bouře: ano"), "soubor.txt:1: a script has no line such as \"bouře: ano\"");
+    EXPECT_EQ(errorOf("vidlička: x=4"), "soubor.txt:4: ve filmu není „vidlička“");
+    EXPECT_EQ(errorOf("ryba: x=daleko"), "soubor.txt:4: x není číslo: daleko");
+    EXPECT_EQ(errorOf("ryba: barva=4"), "soubor.txt:4: klíč „barva“ je neznámý");
+    EXPECT_EQ(errorOf("ryba: od=0,8 do=0,2 x=4"), "soubor.txt:4: od a do jsou podíly kroku od 0 do 1");
+    EXPECT_EQ(errorOf("trvá: chvíli"), "soubor.txt:4: trvá není číslo");
+    EXPECT_EQ(errorOf("zvuk: cinknutí"), "soubor.txt:4: zvuk začíná podílem kroku");
+    EXPECT_EQ(firstError("scéna: moře\n== Věta."), "soubor.txt:1: scéna „moře“ neexistuje");
+    EXPECT_EQ(firstError("věc: loď\nscéna: prkno\n== Věta."), "soubor.txt:1: „loď“ nikdo neumí nakreslit");
+    EXPECT_EQ(firstError("scéna: prkno\n=="), "soubor.txt:2: krok nemá titulek");
+    EXPECT_EQ(firstError("scéna: prkno"), "soubor.txt:1: scénář nemá krok");
+    EXPECT_EQ(firstError("bouře: ano"), "soubor.txt:1: scénář nezná řádek „bouře: ano“");
 }
 
 TEST(Films, ThingsMoveWithinTheirStepAndStayWhereTheyCame) {
@@ -206,14 +205,14 @@ TEST_F(MakeVideos, HavePictureAndSoundAndAreMadeOnce) {
 TEST_F(MakeVideos, WhatIsWrongWithAScriptIsReportedAndMakesNothing) {
     const std::string script = kScript;
     write("content/videa/uvod.txt", script + "zvuk: 0,1 hrom\n");
-    EXPECT_EQ(run(), QStringList(QStringLiteral("videa/uvod.txt:13: there is no effect hrom")));
+    EXPECT_EQ(run(), QStringList(QStringLiteral("videa/uvod.txt:13: efekt hrom neexistuje")));
     write("content/videa/uvod.txt", script + "trvá: 40\n");
-    EXPECT_TRUE(run().join(u' ').startsWith(QStringLiteral("videa/uvod.txt:1: the film takes 44")));
+    EXPECT_TRUE(run().join(u' ').startsWith(QStringLiteral("videa/uvod.txt:1: film trvá 44")));
     write("content/videa/uvod.txt", script + "== Věta s přřeklepem.\n");
-    EXPECT_EQ(run(), QStringList(QStringLiteral(
-                         "videa/uvod.txt:13: a word that the dictionary does not know: přřeklepem")));
+    EXPECT_EQ(run(),
+              QStringList(QStringLiteral("videa/uvod.txt:13: slovo, které slovník nezná: přřeklepem")));
     write("content/videa/uvod.txt", script + "loď: x=4\n");
-    EXPECT_EQ(run(), QStringList(QStringLiteral("videa/uvod.txt:13: the film has no \"loď\"")));
+    EXPECT_EQ(run(), QStringList(QStringLiteral("videa/uvod.txt:13: ve filmu není „loď“")));
     EXPECT_FALSE(QFileInfo::exists(film()));
 }
 

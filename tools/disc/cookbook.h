@@ -56,6 +56,8 @@ struct IngredientLine {
     int unit = 0;
     double spoonAmount = 0;
     int spoonUnit = 0;
+    /// Whether a name of it was reported as unknown.
+    bool isUnclear = false;
 };
 
 struct Recipe {
@@ -83,6 +85,8 @@ struct Recipe {
     QString season;
     /// What the menu sorts by: species, method, season, course …, and what follows from wines and time.
     QSet<QString> tags;
+    /// The tags that the head gives, and under which key.
+    QHash<QString, QString> tagKeys;
     QStringList courses;
     QList<IngredientLine> ingredients;
     QStringList tools;

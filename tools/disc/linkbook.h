@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 namespace sarne::disc {
@@ -18,6 +19,8 @@ class LinkBook {
   public:
     /// False when the name is taken already.
     bool addKeyword(const QString& name, int number);
+    /// All names of keywords, in lower case.
+    QStringList names() const { return keywords_.keys(); }
     void addVideo(int number) { videos_.insert(number, true); }
 
     /// The target of a phrase: "video 3" the video, anything else the keyword of that name, letter case

@@ -97,7 +97,7 @@ Cookbook loadCookbook(const ContentFolder& folder, Problems& problems) {
     readArticles(folder, book, problems);
     readRecipes(folder, book, problems);
     readMenu(folder, book, problems);
-    checkCookbook(book, problems);
+    checkCookbook(book, readStems(folder, problems), problems);
     return book;
 }
 

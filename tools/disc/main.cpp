@@ -30,19 +30,19 @@ struct Options {
 Options parse(const QCoreApplication& app) {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Builds the cookbook's databases, resources and media from its content and art."));
+        QStringLiteral("Sestaví databáze, obrázky, zvuky a videa kuchařky z jejích textů a předloh."));
     parser.addHelpOption();
     const QString here = QDir::currentPath();
     const QString libexec = QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath);
-    parser.addOptions({{QStringLiteral("content"), QStringLiteral("folder of the texts"),
-                        QStringLiteral("dir"), here + QStringLiteral("/content")},
-                       {QStringLiteral("art"), QStringLiteral("folder of the art"), QStringLiteral("dir"),
-                        here + QStringLiteral("/art")},
-                       {QStringLiteral("out"), QStringLiteral("folder to build into"), QStringLiteral("dir"),
-                        here + QStringLiteral("/disc-out")},
-                       {QStringLiteral("rcc"), QStringLiteral("Qt's resource compiler"),
-                        QStringLiteral("file"), libexec + QStringLiteral("/rcc")},
-                       {QStringLiteral("vydani"), QStringLiteral("what is unfinished is an error")}});
+    parser.addOptions({{QStringLiteral("content"), QStringLiteral("složka s texty"), QStringLiteral("dir"),
+                        here + QStringLiteral("/content")},
+                       {QStringLiteral("art"), QStringLiteral("složka s obrazovými předlohami"),
+                        QStringLiteral("dir"), here + QStringLiteral("/art")},
+                       {QStringLiteral("out"), QStringLiteral("složka, kam se má stavět"),
+                        QStringLiteral("dir"), here + QStringLiteral("/disc-out")},
+                       {QStringLiteral("rcc"), QStringLiteral("překladač zdrojů Qt"), QStringLiteral("file"),
+                        libexec + QStringLiteral("/rcc")},
+                       {QStringLiteral("vydani"), QStringLiteral("k vydání: co není hotové, je chyba")}});
     parser.process(app);
     const auto folder = [&](const char* name) {
         return QFileInfo(parser.value(QLatin1String(name))).absoluteFilePath();
@@ -52,7 +52,7 @@ Options parse(const QCoreApplication& app) {
 }
 
 int report(const Problems& problems) {
-    for (const QString& note : problems.notes()) std::printf("note: %s\n", qUtf8Printable(note));
+    for (const QString& note : problems.notes()) std::printf("poznámka: %s\n", qUtf8Printable(note));
     for (const QString& error : problems.errors()) std::fprintf(stderr, "%s\n", qUtf8Printable(error));
     return problems.hasErrors() ? 1 : 0;
 }

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "charset.h"
+#include "nearword.h"
 #include "typography.h"
 
 namespace sarne::disc {
@@ -67,7 +68,7 @@ class Speller {
     QList<Word> words() {
         while (at_ < text_.size()) step();
         endWord();
-        if (bold_ || italic_) problems_.error(place_, QStringLiteral("bold or italic is not closed"));
+        if (bold_ || italic_) problems_.error(place_, QStringLiteral("tučné písmo nebo kurziva nekončí"));
         return words_;
     }
 
@@ -111,7 +112,7 @@ class Speller {
         }
         const auto code = windows1250(c);
         if (!code) {
-            problems_.error(place_, QStringLiteral("a character that the texts' charset lacks: %1 (U+%2)")
+            problems_.error(place_, QStringLiteral("znak, který texty neumějí: %1 (U+%2)")
                                         .arg(c)
                                         .arg(c.unicode(), 4, 16, QLatin1Char('0')));
         } else if (*code < 0x20 || *code > 0x7e || QStringLiteral("\\{}*#@").contains(c)) {
@@ -124,7 +125,7 @@ class Speller {
     void link() {
         const qsizetype end = text_.indexOf(u']', at_);
         if (end < 0) {
-            problems_.error(place_, QStringLiteral("a link phrase is not closed"));
+            problems_.error(place_, QStringLiteral("odkaz nemá konec"));
             ++at_;
             return;
         }
@@ -133,22 +134,22 @@ class Speller {
         const QString phrase = parts.first().trimmed();
         const auto target = links_.find(parts.last().trimmed());
         if (!target)
-            problems_.error(place_, QStringLiteral("a link to nowhere: \"%1\"").arg(parts.last().trimmed()));
+            problems_.error(place_, QStringLiteral("odkaz nikam: „%1“").arg(parts.last().trimmed()) +
+                                        didYouMean(parts.last().trimmed(), links_.names()));
         else if (checkPhrase(phrase, *target))
             addPhrase(phrase, *target);
     }
 
     bool checkPhrase(const QString& phrase, const LinkTarget& target) {
         const auto wrong = [&](const QString& why) {
-            problems_.error(place_, QStringLiteral("%1: \"%2\"").arg(why, phrase));
+            problems_.error(place_, QStringLiteral("%1: „%2“").arg(why, phrase));
             return false;
         };
-        if (phrase.isEmpty()) return wrong(QStringLiteral("an empty link phrase"));
-        if (phrase[0].isDigit() && target.number < 100)
-            return wrong(QStringLiteral("a link phrase begins with a digit"));
+        if (phrase.isEmpty()) return wrong(QStringLiteral("prázdný odkaz"));
+        if (phrase[0].isDigit() && target.number < 100) return wrong(QStringLiteral("odkaz začíná číslicí"));
         if (at_ < text_.size() && text_[at_].isDigit())
-            return wrong(QStringLiteral("a digit right behind a link phrase"));
-        if (phrase.size() > kLongestPhrase) return wrong(QStringLiteral("a link phrase too long for a line"));
+            return wrong(QStringLiteral("hned za odkazem je číslice"));
+        if (phrase.size() > kLongestPhrase) return wrong(QStringLiteral("odkaz se nevejde na řádek"));
         return true;
     }
 

@@ -33,7 +33,7 @@ QList<MenuNode> takeNodes(const Lines& lines, qsizetype& at, int indent, Problem
         if (lines[at].indent() == indent) {
             nodes << node(lines[at++]);
         } else if (nodes.isEmpty() || lines[at].indent() != indent + 2) {
-            problems.error(lines[at].place, QStringLiteral("indented by other than two blanks"));
+            problems.error(lines[at].place, QStringLiteral("odsazení má být o dvě mezery"));
             ++at;
         } else {
             nodes.last().children = takeNodes(lines, at, indent + 2, problems);
@@ -52,7 +52,7 @@ class RowMaker {
         const QString code = QString::number(topic.number);
         kind_ = topicKind(topic.number);
         if (!hasRows(kind_)) {
-            problems_.error(topic.place, QStringLiteral("topic %1 ships no menu").arg(topic.number));
+            problems_.error(topic.place, QStringLiteral("téma %1 nemá v knize nabídku").arg(topic.number));
             return {};
         }
         // The first topic's heading would have the tenth topic's own code.
@@ -64,7 +64,7 @@ class RowMaker {
     void level(const QString& code, const QString& heading, const QList<MenuNode>& nodes,
                const Place& place) {
         if (!heading.isEmpty()) rows_ << MenuRow{place, code + u'0', u'@' + heading, {}};
-        if (nodes.size() > 9) problems_.error(place, QStringLiteral("more than nine items in one level"));
+        if (nodes.size() > 9) problems_.error(place, QStringLiteral("v jedné úrovni je přes devět položek"));
         int position = 0;
         for (const MenuNode& item : nodes) add(code + QString::number(++position), item);
     }
@@ -100,7 +100,7 @@ class RowMaker {
     QString keyword(const MenuNode& item) {
         const auto found = links_.find(item.target.mid(6));
         if (found && found->kind == LinkKind::keyword) return u'H' + QString::number(found->number);
-        problems_.error(item.place, QStringLiteral("unknown keyword \"%1\"").arg(item.target.mid(6)));
+        problems_.error(item.place, QStringLiteral("heslo „%1“ neexistuje").arg(item.target.mid(6)));
         return {};
     }
 
@@ -164,30 +164,27 @@ bool isSubmenu(const MenuRow& row) {
 void checkCode(const MenuRow& row, Problems& problems) {
     static const QRegularExpression digits(QStringLiteral("^\\d{2,}$"));
     const auto wrong = [&](const QString& why) {
-        problems.error(row.place, QStringLiteral("menu row \"%1\": %2").arg(row.code, why));
+        problems.error(row.place, QStringLiteral("řádek nabídky %1: %2").arg(row.code, why));
     };
-    if (!digits.match(row.code).hasMatch())
-        return wrong(QStringLiteral("the code is not two digits or more"));
+    if (!digits.match(row.code).hasMatch()) return wrong(QStringLiteral("kód nemá aspoň dvě číslice"));
     const int number = row.code.toInt();
     if (row.code.size() == 2 && number >= 10 && number <= 18 && number != 11)
-        wrong(QStringLiteral("it has a topic's own code"));
-    if (!hasRows(topicKind(topicOf(row.code)))) wrong(QStringLiteral("its topic ships no menu"));
+        wrong(QStringLiteral("je to kód samotného tématu"));
+    if (!hasRows(topicKind(topicOf(row.code)))) wrong(QStringLiteral("jeho téma nemá nabídku"));
     if (levelOf(row).toInt() > 32767 || levelOf(row).size() > 5)
-        wrong(QStringLiteral("its level is too deep"));
-    if (isHeading(row) != row.code.endsWith(u'0'))
-        wrong(QStringLiteral("a heading ends in 0, and nothing else does"));
-    if (row.label.isEmpty() || row.label == QLatin1String("@")) wrong(QStringLiteral("it has no label"));
+        wrong(QStringLiteral("úroveň je příliš hluboko"));
+    if (isHeading(row) != row.code.endsWith(u'0')) wrong(QStringLiteral("nulou končí nadpis a nic jiného"));
+    if (row.label.isEmpty() || row.label == QLatin1String("@")) wrong(QStringLiteral("chybí text"));
 }
 
 void checkIds(const MenuRow& row, const QSet<int>& known, Problems& problems) {
     const auto wrong = [&](const QString& why) {
-        problems.error(row.place, QStringLiteral("menu row \"%1\" (%2): %3").arg(row.code, row.label, why));
+        problems.error(row.place, QStringLiteral("řádek nabídky %1 (%2): %3").arg(row.code, row.label, why));
     };
-    if (row.target.isEmpty()) return wrong(QStringLiteral("it leads to no recipe"));
-    if (!row.target.endsWith(u',')) return wrong(QStringLiteral("its list of ids does not end in a comma"));
+    if (row.target.isEmpty()) return wrong(QStringLiteral("nevede k žádnému receptu"));
+    if (!row.target.endsWith(u',')) return wrong(QStringLiteral("seznam čísel nekončí čárkou"));
     for (const QString& id : row.target.chopped(1).split(u','))
-        if (!known.contains(id.toInt()))
-            wrong(QStringLiteral("it names \"%1\", which does not exist").arg(id));
+        if (!known.contains(id.toInt())) wrong(QStringLiteral("číslo %1 neexistuje").arg(id));
 }
 
 QSet<int> quickNumbers(const Cookbook& book) {
@@ -205,19 +202,18 @@ void checkTarget(const MenuRow& row, const Cookbook& book, Problems& problems) {
     if (isHeading(row)) return;
     const TopicKind kind = topicKind(topicOf(row.code));
     const auto wrong = [&](const QString& why) {
-        problems.error(row.place, QStringLiteral("menu row \"%1\" (%2): %3").arg(row.code, row.label, why));
+        problems.error(row.place, QStringLiteral("řádek nabídky %1 (%2): %3").arg(row.code, row.label, why));
     };
     if (hasActions(kind)) {
-        if (row.target.isEmpty() || row.target == QLatin1String("D"))
-            wrong(QStringLiteral("it leads nowhere"));
+        if (row.target.isEmpty() || row.target == QLatin1String("D")) wrong(QStringLiteral("nevede nikam"));
         if (row.code.size() != QString::number(topicOf(row.code)).size() + 1)
-            wrong(QStringLiteral("this topic has no submenus"));
+            wrong(QStringLiteral("toto téma nemá podnabídky"));
         return;
     }
-    if (kind == TopicKind::submenus && isSubmenu(row)) return wrong(QStringLiteral("a submenu without items"));
+    if (kind == TopicKind::submenus && isSubmenu(row)) return wrong(QStringLiteral("podnabídka bez položek"));
     if (row.target.startsWith(u'H')) return;
     if (kind == TopicKind::lists && levelOf(row) != QString::number(topicOf(row.code)))
-        return wrong(QStringLiteral("a submenu of this topic leads to keywords only"));
+        return wrong(QStringLiteral("podnabídka tohoto tématu vede jen k heslům"));
     const QList<int> recipes = book.recipes.keys();
     checkIds(row, isOverRecipes(row) ? QSet<int>(recipes.cbegin(), recipes.cend()) : quickNumbers(book),
              problems);
@@ -230,13 +226,13 @@ void checkLevel(const QString& level, const QList<MenuRow>& rows, Problems& prob
         if (isHeading(row)) continue;
         submenus = submenus || isSubmenu(row);
         if (row.code != level + QString::number(++expected))
-            problems.error(row.place, QStringLiteral("menu row \"%1\": a gap in its level").arg(row.code));
+            problems.error(row.place, QStringLiteral("řádek nabídky %1: v úrovni je mezera").arg(row.code));
     }
     if (expected == 0)
-        problems.error(rows.first().place, QStringLiteral("menu level \"%1\" has no items").arg(level));
+        problems.error(rows.first().place, QStringLiteral("úroveň nabídky %1 nemá položky").arg(level));
     if (submenus && expected > 9)
         problems.error(rows.first().place,
-                       QStringLiteral("menu level \"%1\": more than nine items").arg(level));
+                       QStringLiteral("úroveň nabídky %1 má přes devět položek").arg(level));
 }
 
 /// What stands in the levels below topics with submenus: either submenus only, or the two lists.
@@ -249,8 +245,8 @@ void checkLastLevel(const QList<MenuRow>& rows, Problems& problems) {
     if (lists == 0) return;
     if (lists != items.size() || items.size() > 2)
         problems.error(items.first().place,
-                       QStringLiteral("menu level \"%1\": a last level has the recipes and perhaps "
-                                      "the quick recipes, nothing else")
+                       QStringLiteral("úroveň nabídky %1: v poslední úrovni jsou recepty, "
+                                      "popřípadě rychlé recepty, a nic jiného")
                            .arg(levelOf(items.first())));
 }
 
@@ -265,7 +261,7 @@ void readMenu(const ContentFolder& folder, Cookbook& book, Problems& problems) {
         const Line line = lines[at++];
         const auto match = head.match(line.text);
         if (!match.hasMatch())
-            problems.error(line.place, QStringLiteral("not a topic: \"%1\"").arg(line.text));
+            problems.error(line.place, QStringLiteral("tohle není téma: „%1“").arg(line.text));
         book.menuTopics << MenuTopic{line.place, match.captured(1).toInt(), match.captured(2),
                                      takeNodes(lines, at, 2, problems)};
     }
@@ -304,10 +300,11 @@ void checkReachable(const QList<MenuRow>& rows, const Cookbook& book, Problems& 
     for (const Recipe& recipe : book.recipes)
         if (!recipes.contains(recipe.id))
             problems.error(recipe.place,
-                           QStringLiteral("the menu does not lead to the recipe \"%1\"").arg(recipe.name));
+                           QStringLiteral("k receptu „%1“ nevede žádná nabídka").arg(recipe.name));
     for (const QuickRecipe& entry : book.quick)
         if (!quick.contains(entry.id))
-            problems.error(entry.place, QStringLiteral("the menu does not lead to \"%1\"").arg(entry.name));
+            problems.error(entry.place,
+                           QStringLiteral("k rychlému receptu „%1“ nevede žádná nabídka").arg(entry.name));
 }
 
 }  // namespace sarne::disc

@@ -2,11 +2,14 @@
 
 #include <QRegularExpression>
 
+#include "nearword.h"
 #include "readtables.h"
 #include "recipehead.h"
 
 namespace sarne::disc {
 namespace {
+
+const QString kIngredients = QStringLiteral("Suroviny");
 
 struct Amount {
     double number = 0;
@@ -18,18 +21,32 @@ Amount amount(const QString& text, const Line& line, const Cookbook& book, Probl
     const auto match = pattern.match(text.trimmed());
     Amount found{qMax(0.0, czechNumber(match.captured(1))),
                  book.unitForms.value(match.captured(2).trimmed())};
-    if (match.captured(2).trimmed().isEmpty())
-        problems.error(line.place, QStringLiteral("a unit is missing: \"%1\"").arg(text.trimmed()));
+    static const QRegularExpression range(QStringLiteral("^\\d+(,\\d+)?\\s*[-–]\\s*\\d"));
+    static const QRegularExpression point(QStringLiteral("^\\d+\\.\\d"));
+    if (range.match(text.trimmed()).hasMatch())
+        problems.error(line.place,
+                       QStringLiteral("místo rozsahu napište jedno číslo: „%1“").arg(text.trimmed()));
+    else if (point.match(text.trimmed()).hasMatch())
+        problems.error(line.place,
+                       QStringLiteral("desetinné číslo se píše s čárkou: „%1“").arg(text.trimmed()));
+    else if (match.captured(2).trimmed().isEmpty())
+        problems.error(line.place, QStringLiteral("chybí jednotka: „%1“").arg(text.trimmed()));
     else if (found.unit == 0)
-        problems.error(line.place, QStringLiteral("unknown unit \"%1\"").arg(match.captured(2).trimmed()));
+        problems.error(line.place, QStringLiteral("neznámá jednotka „%1“").arg(match.captured(2).trimmed()) +
+                                       didYouMean(match.captured(2).trimmed(), book.unitForms.keys()));
     else if (found.number <= 0 && book.unit(found.unit)->kind != UnitKind::free)
-        problems.error(line.place, QStringLiteral("a number is missing: \"%1\"").arg(text.trimmed()));
+        problems.error(line.place, QStringLiteral("chybí číslo: „%1“").arg(text.trimmed()));
     return found;
 }
 
 int ingredientId(const QString& name, const Line& line, const Cookbook& book, Problems& problems) {
     const int id = book.ingredientId(name);
-    if (id == 0) problems.error(line.place, QStringLiteral("unknown ingredient \"%1\"").arg(name));
+    if (id > 0) return id;
+    QStringList known;
+    for (const Ingredient& one : book.ingredients) known << one.name;
+    const QString near = didYouMean(name, known);
+    problems.error(line.place, QStringLiteral("neznámá surovina „%1“").arg(name) +
+                                   (near.isEmpty() ? QStringLiteral("; nová patří do suroviny.txt") : near));
     return id;
 }
 
@@ -44,7 +61,7 @@ void readAmounts(const QString& text, const Line& line, const Cookbook& book, Pr
     read.spoonUnit = second.unit;
     const Unit* unit = book.unit(first.unit);
     if (both.size() == 1 && unit && (unit->kind == UnitKind::weight || unit->kind == UnitKind::volume))
-        problems.error(line.place, QStringLiteral("the amount in spoons is missing"));
+        problems.error(line.place, QStringLiteral("chybí množství na lžíce"));
 }
 
 void readSection(const Section& section, const Cookbook& book, Recipe& recipe, Problems& problems) {
@@ -56,13 +73,15 @@ void readSection(const Section& section, const Cookbook& book, Recipe& recipe, P
     if (recipe.sectionPlaces.contains(section.title))
         problems.error(section.place, QStringLiteral("část „%1“ tu stojí podruhé").arg(section.title));
     recipe.sectionPlaces.insert(section.title, section.place);
-    if (section.title == QStringLiteral("Suroviny")) {
+    if (section.title == kIngredients) {
         for (const Line& line : section.lines)
             if (!line.isBlank()) recipe.ingredients << readIngredientLine(line, book, problems);
     } else if (texts.contains(section.title)) {
         recipe.*texts.value(section.title) = section.lines;
     } else {
-        problems.error(section.place, QStringLiteral("unknown section \"%1\"").arg(section.title));
+        problems.error(section.place,
+                       QStringLiteral("neznámá část „%1“").arg(section.title) +
+                           didYouMean(section.title, texts.keys() + QStringList{kIngredients}));
     }
 }
 
@@ -81,14 +100,16 @@ IngredientLine readIngredientLine(const Line& line, const Cookbook& book, Proble
     const KeyValue parts = keyValue(line);
     const QString name = line.text.section(u':', 0, 0).trimmed();
     if (parts.key.isEmpty()) {
-        problems.error(line.place, QStringLiteral("an ingredient without an amount"));
+        problems.error(line.place, QStringLiteral("surovina bez množství"));
         return read;
     }
     read.ingredient = ingredientId(name.section(u',', 0, 0).trimmed(), line, book, problems);
     const QString refinement = name.section(u',', 1).trimmed();
     read.refinement = book.refinements.id(refinement);
     if (!refinement.isEmpty() && read.refinement == 0)
-        problems.error(line.place, QStringLiteral("unknown refinement \"%1\"").arg(refinement));
+        problems.error(line.place, QStringLiteral("neznámé upřesnění „%1“").arg(refinement) +
+                                       didYouMean(refinement, book.refinements.names));
+    read.isUnclear = read.ingredient == 0 || (!refinement.isEmpty() && read.refinement == 0);
     const QStringList halves = parts.value.split(QStringLiteral(", nebo "));
     readAmounts(halves.first(), line, book, problems, read);
     if (halves.size() > 1) read.alternative = ingredientId(halves[1].trimmed(), line, book, problems);
@@ -105,7 +126,7 @@ void readRecipes(const ContentFolder& folder, Cookbook& book, Problems& problems
         for (const Section& section : parts.mid(1)) readSection(section, book, recipe, problems);
         addDerivedTags(book, recipe);
         if (recipe.id < 1 || recipe.id > 50 || book.recipes.contains(recipe.id))
-            problems.error(recipe.place, QStringLiteral("the file's number must be from 1 to 50, each once"));
+            problems.error(recipe.place, QStringLiteral("soubor začíná číslem od 1 do 50, každým jednou"));
         book.recipes.insert(recipe.id, recipe);
     }
 }

@@ -49,14 +49,14 @@ bool isPicture(const Cookbook& book, const GalleryPicture& from, const QString& 
 void checkArea(const Cookbook& book, const GalleryPicture& from, const GalleryArea& area,
                const LinkBook& links, Problems& problems) {
     if (area.place.isEmpty() || !QRect(0, 0, kWhole, kWhole).contains(area.place))
-        problems.error(area.where, QStringLiteral("the area must lie within 0 to 1000"));
-    if (area.name.isEmpty()) problems.error(area.where, QStringLiteral("an area without a name"));
+        problems.error(area.where, QStringLiteral("plocha musí ležet mezi 0 a 1000"));
+    if (area.name.isEmpty()) problems.error(area.where, QStringLiteral("plocha nemá název"));
     if (area.target.isEmpty() && !hasWords(area.text))
-        problems.error(area.where, QStringLiteral("an area with neither a text nor a target"));
+        problems.error(area.where, QStringLiteral("plocha nemá text ani cíl"));
     const bool dead = area.target.startsWith(kPicture) ? !isPicture(book, from, area.target)
                                                        : sponsorTarget(area, links).isEmpty();
     if (!area.target.isEmpty() && dead)
-        problems.error(area.where, QStringLiteral("there is no \"%1\"").arg(area.target));
+        problems.error(area.where, QStringLiteral("„%1“ neexistuje").arg(area.target));
 }
 
 }  // namespace
@@ -66,7 +66,7 @@ void readSponsors(const ContentFolder& folder, Cookbook& book, Problems& problem
         book.gallery << picture(section);
         const GalleryPicture& last = book.gallery.last();
         if (last.id < 1 || last.topic < 1 || last.name.isEmpty())
-            problems.error(last.place, QStringLiteral("a picture needs a number, a topic and a title"));
+            problems.error(last.place, QStringLiteral("obraz potřebuje číslo, téma a název"));
     }
 }
 
@@ -74,7 +74,7 @@ void checkSponsors(const Cookbook& book, const LinkBook& links, Problems& proble
     for (const int topic : {1, 9, 13}) {
         const auto shows = [topic](const GalleryPicture& one) { return one.topic == topic; };
         if (std::none_of(book.gallery.cbegin(), book.gallery.cend(), shows))
-            problems.error({kFile, 0}, QStringLiteral("topic %1 has no picture").arg(topic));
+            problems.error({kFile, 0}, QStringLiteral("téma %1 nemá obraz").arg(topic));
     }
     for (const GalleryPicture& picture : book.gallery)
         for (const GalleryArea& area : picture.areas) checkArea(book, picture, area, links, problems);

@@ -29,14 +29,14 @@ const QHash<QString, UnitKind>& unitKinds() {
 void readUnits(const ContentFolder& folder, Cookbook& book, Problems& problems) {
     for (const Row& row : tableRows(folder.read(QStringLiteral("jednotky.txt")))) {
         if (!unitKinds().contains(row.at(2)))
-            problems.error(row.place, QStringLiteral("unknown kind of unit"));
+            problems.error(row.place, QStringLiteral("neznámý druh jednotky"));
         const int id = static_cast<int>(book.units.size()) + 1;
         book.units << Unit{id, row.at(0), unitKinds().value(row.at(2)), qMax(0.0, czechNumber(row.at(3)))};
         QStringList forms = trimmedParts(row.at(1), u',');
         forms.prepend(row.at(0));
         for (const QString& form : std::as_const(forms)) {
             if (book.unitForms.contains(form))
-                problems.error(row.place, QStringLiteral("the unit \"%1\" stands twice").arg(form));
+                problems.error(row.place, QStringLiteral("jednotka „%1“ tu stojí podruhé").arg(form));
             book.unitForms.insert(form, id);
         }
     }
@@ -45,7 +45,7 @@ void readUnits(const ContentFolder& folder, Cookbook& book, Problems& problems) 
 void readIngredients(const ContentFolder& folder, Cookbook& book, Problems& problems) {
     for (const Row& row : tableRows(folder.read(QStringLiteral("suroviny.txt")))) {
         if (book.ingredientId(row.at(0)))
-            problems.error(row.place, QStringLiteral("the ingredient \"%1\" stands twice").arg(row.at(0)));
+            problems.error(row.place, QStringLiteral("surovina „%1“ tu stojí podruhé").arg(row.at(0)));
         book.ingredients << Ingredient{static_cast<int>(book.ingredients.size()) + 1, row.at(0),
                                        row.at(1) == QStringLiteral("ryba"), row.place};
     }
@@ -55,7 +55,7 @@ NamedList readNames(const ContentFolder& folder, const QString& file, Problems& 
     NamedList list;
     for (const Row& row : tableRows(folder.read(file))) {
         if (list.id(row.at(0)))
-            problems.error(row.place, QStringLiteral("\"%1\" stands twice").arg(row.at(0)));
+            problems.error(row.place, QStringLiteral("„%1“ tu stojí podruhé").arg(row.at(0)));
         list.names << row.at(0);
         list.places << row.place;
     }
@@ -64,7 +64,7 @@ NamedList readNames(const ContentFolder& folder, const QString& file, Problems& 
 
 void readWines(const ContentFolder& folder, Cookbook& book, Problems& problems) {
     for (const Row& row : tableRows(folder.read(QStringLiteral("vina.txt")))) {
-        if (row.at(1).isEmpty()) problems.error(row.place, QStringLiteral("a wine without a kind"));
+        if (row.at(1).isEmpty()) problems.error(row.place, QStringLiteral("víno nemá druh"));
         book.wines << Wine{row.at(0), row.at(1), row.place};
     }
 }
@@ -83,11 +83,11 @@ void readWeights(const ContentFolder& folder, Cookbook& book, Problems& problems
         const KeyValue entry = keyValue(line);
         const QString name = entry.key.section(u',', 0, 0).trimmed();
         if (!book.ingredientId(name) && name != QStringLiteral("ryba"))
-            problems.error(line.place, QStringLiteral("unknown ingredient \"%1\"").arg(name));
+            problems.error(line.place, QStringLiteral("neznámá surovina „%1“").arg(name));
         for (const QString& part : entry.value.split(QStringLiteral("; "))) {
             const auto [unit, grams] = unitWeight(part.trimmed(), book);
             if (unit == 0 || grams <= 0)
-                problems.error(line.place, QStringLiteral("not a weight per unit: \"%1\"").arg(part));
+                problems.error(line.place, QStringLiteral("tohle není váha jednotky: „%1“").arg(part));
             book.unitWeights[entry.key].insert(unit, grams);
         }
     }
@@ -132,7 +132,7 @@ QList<Article> articles(const ContentFolder& folder, const QString& subfolder, i
             all << article(section);
             if (all.last().id < 1 || all.last().id > highest || ids.contains(all.last().id))
                 problems.error(section.place,
-                               QStringLiteral("the number must be from 1 to %1, each once").arg(highest));
+                               QStringLiteral("číslo musí být od 1 do %1, každé jednou").arg(highest));
             ids.insert(all.last().id);
         }
     }
@@ -144,8 +144,7 @@ void readPages(const ContentFolder& folder, Cookbook& book, Problems& problems) 
         const QList<Section> parts = sections(folder.read(file));
         for (const Section& section : parts.mid(1)) {
             const Row head = titleCells(section);
-            if (head.at(0).toInt() < 1)
-                problems.error(section.place, QStringLiteral("a page without a number"));
+            if (head.at(0).toInt() < 1) problems.error(section.place, QStringLiteral("stránka nemá číslo"));
             book.pages << Page{head.at(0).toInt(), section.place, head.at(1), head.at(2), section.lines};
         }
     }
@@ -189,7 +188,7 @@ void readLookupTables(const ContentFolder& folder, Cookbook& book, Problems& pro
     for (const QString& file : folder.files(QStringLiteral("tabulky"))) {
         QList<Row> rows = tableRows(folder.read(file));
         if (rows.size() < 3) {
-            problems.error({file, 0}, QStringLiteral("a table needs a name, headings and rows"));
+            problems.error({file, 0}, QStringLiteral("tabulka potřebuje název, nadpisy a řádky"));
             continue;
         }
         const Row name = rows.takeFirst();
@@ -197,9 +196,9 @@ void readLookupTables(const ContentFolder& folder, Cookbook& book, Problems& pro
         LookupTable table{name.at(0).toInt(), name.place, name.at(1), name.at(2), heads.cells, {}};
         for (const Row& row : rows) {
             if (row.cells.size() != heads.cells.size())
-                problems.error(row.place, QStringLiteral("%1 cells under %2 headings")
-                                              .arg(row.cells.size())
-                                              .arg(heads.cells.size()));
+                problems.error(
+                    row.place,
+                    QStringLiteral("%1 buněk pod %2 nadpisy").arg(row.cells.size()).arg(heads.cells.size()));
             table.rows << row.cells;
         }
         if (table.id == kSpoonTable) table.rows << spoonRows(book);

@@ -2,6 +2,8 @@
 
 #include <functional>
 
+#include "nearword.h"
+
 namespace sarne::disc {
 namespace {
 
@@ -39,9 +41,15 @@ Field choice(QString Recipe::*member, const QStringList& words) {
     };
 }
 
-bool addTags(Recipe& recipe, const QString& value) {
-    for (const QString& tag : trimmedParts(value, u',')) recipe.tags.insert(tag);
-    return true;
+/// Tags, which the menu picks by.
+std::pair<QString, Field> tags(const QString& key) {
+    return {key, [key](Recipe& recipe, const QString& value) {
+                for (const QString& tag : trimmedParts(value, u',')) {
+                    recipe.tags.insert(tag);
+                    recipe.tagKeys.insert(tag, key);
+                }
+                return true;
+            }};
 }
 
 const QHash<QString, Field>& fields() {
@@ -62,10 +70,10 @@ const QHash<QString, Field>& fields() {
         {QStringLiteral("vydrží"), text(&Recipe::keeping)},
         {QStringLiteral("sezona"), text(&Recipe::season)},
         {QStringLiteral("chod"), names(&Recipe::courses)},
-        {QStringLiteral("ryba"), addTags},
-        {QStringLiteral("úprava"), addTags},
-        {QStringLiteral("období"), addTags},
-        {QStringLiteral("zařazení"), addTags},
+        tags(QStringLiteral("ryba")),
+        tags(QStringLiteral("úprava")),
+        tags(QStringLiteral("období")),
+        tags(QStringLiteral("zařazení")),
         {QStringLiteral("pomůcky"), names(&Recipe::tools)},
         {QStringLiteral("vína"), names(&Recipe::wines)},
         {QStringLiteral("odkazy"), names(&Recipe::auxiliary)}};
@@ -75,7 +83,8 @@ const QHash<QString, Field>& fields() {
 void readEntry(const KeyValue& entry, Recipe& recipe, Problems& problems) {
     const auto field = fields().constFind(entry.key);
     if (field == fields().cend()) {
-        problems.error(entry.place, QStringLiteral("neznámý klíč „%1“").arg(entry.key));
+        problems.error(entry.place, QStringLiteral("neznámý klíč „%1“").arg(entry.key) +
+                                        didYouMean(entry.key, fields().keys()));
     } else if (recipe.headPlaces.contains(entry.key)) {
         problems.error(entry.place, QStringLiteral("klíč „%1“ tu stojí podruhé").arg(entry.key));
     } else {

@@ -2,6 +2,7 @@
 
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 
 namespace sarne::disc {
@@ -19,23 +20,30 @@ void SpellCheck::add(const QString& text, const Place& place) {
 }
 
 void SpellCheck::report(Problems& problems) const {
+    // A word is asked about once a run, however many texts are checked.
+    static QSet<QString> correct;
+    QStringList asked;
+    for (auto word = words_.cbegin(); word != words_.cend(); ++word)
+        if (!correct.contains(word.key())) asked << word.key();
+    if (asked.isEmpty()) return;
     QProcess hunspell;
     hunspell.start(QStringLiteral("hunspell"),
                    {QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("utf-8"), QStringLiteral("-d"),
                     QStringLiteral("cs_CZ")});
-    hunspell.write(QStringList(words_.keys()).join(u'\n').toUtf8() + '\n');
+    hunspell.write(asked.join(u'\n').toUtf8() + '\n');
     hunspell.closeWriteChannel();
     if (!hunspell.waitForFinished() || hunspell.exitCode() != 0) {
-        problems.error({QStringLiteral("slovnik.txt"), 0},
-                       QStringLiteral("hunspell with cs_CZ cannot be run"));
+        problems.error({QStringLiteral("slovnik.txt"), 0}, QStringLiteral("hunspell s cs_CZ nelze spustit"));
         return;
     }
     QStringList unknown =
         QString::fromUtf8(hunspell.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
     unknown.sort();
-    for (const QString& word : unknown)
-        problems.error(words_.value(word),
-                       QStringLiteral("a word that the dictionary does not know: %1").arg(word));
+    correct.unite(QSet<QString>(asked.cbegin(), asked.cend()));
+    for (const QString& word : unknown) {
+        correct.remove(word);
+        problems.error(words_.value(word), QStringLiteral("slovo, které slovník nezná: %1").arg(word));
+    }
 }
 
 }  // namespace sarne::disc

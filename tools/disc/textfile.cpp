@@ -16,12 +16,12 @@ int Line::indent() const {
 Lines ContentFolder::read(const QString& file) const {
     QFile opened(root_ + u'/' + file);
     if (!opened.open(QIODevice::ReadOnly)) {
-        problems_.error({file, 0}, QStringLiteral("the file is missing"));
+        problems_.error({file, 0}, QStringLiteral("soubor chybí"));
         return {};
     }
     QStringDecoder utf8(QStringDecoder::Utf8);
     const QString all = utf8(opened.readAll());
-    if (utf8.hasError()) problems_.error({file, 0}, QStringLiteral("the file is not UTF-8"));
+    if (utf8.hasError()) problems_.error({file, 0}, QStringLiteral("soubor není v UTF-8"));
     Lines lines;
     int number = 0;
     for (QString text : all.split(u'\n')) {

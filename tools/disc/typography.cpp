@@ -11,18 +11,21 @@ struct Rule {
 };
 
 constexpr Rule kRules[] = {
-    {u"[\"\u201d']", u"straight or foreign quotation marks; Czech ones are \u201e and \u201c"},
-    {u"\\.\\.\\.", u"three full stops; the ellipsis is one character"},
-    {u"(^|\\s)-(\\s|$)", u"a hyphen between blanks; the dash is \u2013"},
-    {u"\\d-\\d", u"a hyphen between numbers; the dash is \u2013"},
-    {u"\\d\\.\\d", u"a decimal point; Czech has a comma"},
-    {u"\\d°", u"no blank in front of the degree sign"},
-    {u"°\\s", u"a blank behind the degree sign"},
-    {u"\\d%", u"no blank in front of the percent sign"},
-    {u"\\d/\\d", u"a fraction with a slash; write a decimal number"},
-    {u"\\S  +\\S", u"doubled blanks"},
-    {u"\\s[,;:!?]", u"a blank in front of punctuation"},
-    {u"[,;][^\\s\\d]", u"no blank behind punctuation"},
+    {u"[\"\u201d']", u"rovné nebo cizí uvozovky; české jsou \u201e a \u201c"},
+    {u"\\.\\.\\.", u"tři tečky; výpustka je jeden znak"},
+    {u"(^|\\s)-(\\s|$)", u"spojovník mezi mezerami; pomlčka je \u2013"},
+    {u"\\d-\\d", u"spojovník mezi čísly; pomlčka je \u2013"},
+    {u"\\d\\.\\d", u"desetinná tečka; čeština má čárku"},
+    {u"\\d°", u"před značkou stupně chybí mezera"},
+    {u"°(?!C)", u"za značkou stupně chybí C"},
+    {u"\\d stup(eň|ně|ňů)", u"stupně slovem; píše se °C"},
+    {u"--|\u2014", u"cizí pomlčka; česká je \u2013"},
+    {u"[\u2018\u2019\u201a\u00ab\u00bb`]", u"cizí uvozovky nebo apostrof"},
+    {u"\\d%", u"před procentem chybí mezera"},
+    {u"\\d/\\d", u"zlomek s lomítkem; napište desetinné číslo"},
+    {u"\\S  +\\S", u"dvě mezery za sebou"},
+    {u"\\s[,;:!?]", u"mezera před interpunkcí"},
+    {u"[,;][^\\s\\d]", u"za interpunkcí chybí mezera"},
 };
 
 }  // namespace
@@ -36,7 +39,7 @@ void checkTypography(const QString& text, const Place& place, Problems& problems
                                       text.mid(qMax(0, found.capturedStart() - 12), 30).trimmed() + u'"');
     }
     if (text.count(QChar(0x201e)) != text.count(QChar(0x201c)))
-        problems.error(place, QStringLiteral("quotation marks that do not pair"));
+        problems.error(place, QStringLiteral("uvozovky, které k sobě nepatří"));
 }
 
 QString withUnbreakableBlanks(QString text) {

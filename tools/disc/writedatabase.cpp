@@ -11,6 +11,7 @@
 #include "markup.h"
 #include "menu.h"
 #include "readsponsors.h"
+#include "recipefacts.h"
 
 namespace sarne::disc {
 namespace {
@@ -89,10 +90,13 @@ class CookbookWriter {
     }
 
     void recipe(const Recipe& r) {
+        Problems known;  // reported with the checks
+        const Lines facts = factLine(r);
+        const Lines foot = factFoot(r, nutrition(book_, r, known));
         writer_.add(
             QStringLiteral("Recepty"),
-            {r.id, r.name, r.longName, r.portions, rtf(r.method, QStringLiteral("Postup")),
-             rtf(r.introduction), rtf(r.serving, QStringLiteral("Jak podávat")),
+            {r.id, r.name, r.longName, r.portions, rtf(facts + r.method, methodHeading(r)),
+             rtf(facts + r.introduction + foot), rtf(r.serving, QStringLiteral("Jak podávat")),
              rtf(r.note, QStringLiteral("Poznámka")), rtf(r.wineText, QStringLiteral("Víno")), QVariant()});
         for (const IngredientLine& line : r.ingredients)
             writer_.add(QStringLiteral("SpojSur"),
@@ -162,7 +166,7 @@ class CookbookWriter {
 void makeEmpty(const QString& file) {
     QFile::remove(file);
     QFile empty(file);
-    if (!empty.open(QIODevice::WriteOnly)) throw SQLite::Exception("the file cannot be written");
+    if (!empty.open(QIODevice::WriteOnly)) throw SQLite::Exception("do souboru nelze psát");
 }
 
 enum class Keep { nothing, userData };
@@ -187,7 +191,7 @@ void replaceDatabase(const QString& file, const QStringList& schema, Keep keep, 
         }
         if (keep == Keep::userData && QFileInfo::exists(file)) carryOverUserData(file, fresh);
         QFile::remove(file);
-        if (!QFile::rename(fresh, file)) throw SQLite::Exception("the file cannot be replaced");
+        if (!QFile::rename(fresh, file)) throw SQLite::Exception("soubor nelze nahradit");
     } catch (const SQLite::Exception& failure) {
         problems.error({file, 0}, QString::fromUtf8(failure.what()));
     }

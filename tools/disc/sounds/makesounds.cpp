@@ -25,7 +25,7 @@ void checkButtons(const QList<Effect>& effects, Problems& problems) {
     for (const Effect& effect : effects) numbers << effect.number;
     for (int wanted = kFirstButton; wanted <= kLastButton; ++wanted)
         if (!numbers.contains(wanted))
-            problems.error({kEffects, 0}, QStringLiteral("the effect %1 is missing").arg(wanted));
+            problems.error({kEffects, 0}, QStringLiteral("chybí efekt %1").arg(wanted));
 }
 
 QList<Effect> readCheckedEffects(Workshop& shop) {

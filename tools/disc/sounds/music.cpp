@@ -97,7 +97,7 @@ void mixEvents(Sound& music, const Score& score, const QList<Effect>& effects, P
         const auto found = std::find_if(effects.cbegin(), effects.cend(),
                                         [&](const Effect& one) { return one.name == event.effect; });
         if (found == effects.cend())
-            problems.error(event.place, QStringLiteral("there is no effect %1").arg(event.effect));
+            problems.error(event.place, QStringLiteral("efekt %1 neexistuje").arg(event.effect));
         else
             mix(music, renderEffect(*found), event);
     }
@@ -114,7 +114,7 @@ Sound renderMusic(const Score& score, const QList<Effect>& effects, double peak,
     const Sound all = played(score, scratch);
     const int length = passFrames(score);
     if (length <= 0 || all.frames() < 2 * length + kBlendFrames) {
-        problems.error(place, QStringLiteral("fluidsynth with a sound font cannot play this"));
+        problems.error(place, QStringLiteral("fluidsynth to se svou sadou zvuků nezahrál"));
         return {};
     }
     Sound music = secondPass(all, length);

@@ -23,7 +23,7 @@ Parameters::Parameters(const QString& text, Place place, Problems& problems)
 double Parameters::parsed(const QString& key, const QString& value, double missing) {
     double number = missing;
     if (!readNumber(value, number))
-        problems_.error(place_, QStringLiteral("%1 is not a number: %2").arg(key, value));
+        problems_.error(place_, QStringLiteral("%1 není číslo: %2").arg(key, value));
     return number;
 }
 
@@ -49,8 +49,7 @@ QString Parameters::text(const QString& key) {
 void Parameters::reportUnknown() {
     QStringList keys = values_.keys();
     keys.sort();
-    for (const QString& key : keys)
-        problems_.error(place_, QStringLiteral("nothing is known about %1").arg(key));
+    for (const QString& key : keys) problems_.error(place_, QStringLiteral("klíč „%1“ je neznámý").arg(key));
 }
 
 }  // namespace sarne::disc

@@ -10,7 +10,7 @@ namespace {
 template <typename Value>
 Value chosen(const QMap<QString, Value>& names, const QString& name, const Place& place, Problems& problems) {
     if (!names.contains(name))
-        problems.error(place, QStringLiteral("%1 is none of %2")
+        problems.error(place, QStringLiteral("%1 není žádné z: %2")
                                   .arg(name, QStringList(names.keys()).join(QStringLiteral(", "))));
     return names.value(name);
 }
@@ -64,13 +64,13 @@ Layer readLayer(const Line& line, Problems& problems) {
 }
 
 void checkEffect(const Effect& effect, Problems& problems) {
-    if (effect.layers.isEmpty()) problems.error(effect.place, QStringLiteral("an effect without a layer"));
+    if (effect.layers.isEmpty()) problems.error(effect.place, QStringLiteral("efekt nemá vrstvu"));
     if (effect.length < 0.05 || effect.length > 5)
-        problems.error(effect.place, QStringLiteral("the effect's length is not between 0,05 and 5 s"));
-    if (effect.peak > -3) problems.error(effect.place, QStringLiteral("the effect's peak is above -3 dB"));
+        problems.error(effect.place, QStringLiteral("efekt netrvá 0,05 až 5 s"));
+    if (effect.peak > -3) problems.error(effect.place, QStringLiteral("špička efektu je nad -3 dB"));
     for (const Layer& layer : effect.layers)
         if (layer.pitch.first <= 0 || layer.pitch.second <= 0 || layer.length <= 0 || layer.from < 0)
-            problems.error(effect.place, QStringLiteral("a layer without pitch or length"));
+            problems.error(effect.place, QStringLiteral("vrstva nemá výšku nebo délku"));
 }
 
 Effect readEffect(const Section& section, Problems& problems) {
@@ -78,7 +78,7 @@ Effect readEffect(const Section& section, Problems& problems) {
     Effect effect{section.place, title.at(0).toInt(), title.at(1)};
     if (!readNumber(title.at(2), effect.length) ||
         (!title.at(3).isEmpty() && !readNumber(title.at(3), effect.peak)))
-        problems.error(section.place, QStringLiteral("not \"number | name | seconds | peak\""));
+        problems.error(section.place, QStringLiteral("tohle není „číslo | název | vteřiny | špička“"));
     for (const Line& line : section.lines)
         if (!line.isBlank()) effect.layers << readLayer(line, problems);
     checkEffect(effect, problems);
@@ -94,7 +94,7 @@ QList<Effect> readEffects(const Lines& lines, Problems& problems) {
         effects << readEffect(section, problems);
         for (const QString& name : {effects.last().name, QString::number(effects.last().number)}) {
             if (name != QStringLiteral("0") && names.contains(name))
-                problems.error(section.place, QStringLiteral("the effect %1 stands twice").arg(name));
+                problems.error(section.place, QStringLiteral("efekt %1 tu stojí podruhé").arg(name));
             names << name;
         }
     }

@@ -49,7 +49,7 @@ class Reader {
         else if (entry.key == QStringLiteral("událost"))
             event(entry);
         else
-            problems_.error(line.place, QStringLiteral("a score has no line such as \"%1\"").arg(line.text));
+            problems_.error(line.place, QStringLiteral("partitura nezná řádek „%1“").arg(line.text));
     }
 
     void part(const Section& section) {
@@ -59,10 +59,10 @@ class Reader {
     }
 
     void play() {
-        if (order_.value.isEmpty()) problems_.error(order_.place, QStringLiteral("the score has no průběh"));
+        if (order_.value.isEmpty()) problems_.error(order_.place, QStringLiteral("partitura nemá průběh"));
         for (const QString& name : order_.value.split(u' ', Qt::SkipEmptyParts)) {
             if (!parts_.contains(name))
-                problems_.error(order_.place, QStringLiteral("there is no part %1").arg(name));
+                problems_.error(order_.place, QStringLiteral("část „%1“ neexistuje").arg(name));
             else
                 playPart(parts_[name]);
         }
@@ -71,7 +71,7 @@ class Reader {
   private:
     void positive(const KeyValue& entry, double& value) {
         if (!readNumber(entry.value, value) || value <= 0)
-            problems_.error(entry.place, QStringLiteral("%1 is not a number above 0").arg(entry.key));
+            problems_.error(entry.place, QStringLiteral("%1 není číslo nad 0").arg(entry.key));
     }
 
     void beats(const KeyValue& entry) {
@@ -91,7 +91,7 @@ class Reader {
         number(QStringLiteral("strana"), made.side, -63, 63);
         number(QStringLiteral("dozvuk"), made.reverb, 0, 127);
         if (words.has(QStringLiteral("od"))) made.lowest = pitchOf(words.text(QStringLiteral("od")));
-        if (made.lowest < 0) problems_.error(entry.place, QStringLiteral("od is not a note"));
+        if (made.lowest < 0) problems_.error(entry.place, QStringLiteral("od není nota"));
         words.reportUnknown();
         score_.instruments << made;
     }
@@ -100,7 +100,7 @@ class Reader {
         Parameters words(entry.value, entry.place, problems_);
         Event made{entry.place, 0, words.names().mid(1).join(u' ')};
         if (!readNumber(words.names().value(0), made.seconds) || made.seconds < 0)
-            problems_.error(entry.place, QStringLiteral("an event begins with its second"));
+            problems_.error(entry.place, QStringLiteral("událost začíná vteřinou"));
         made.loudness = words.number(QStringLiteral("hlas"), 0);
         made.side = words.number(QStringLiteral("strana"), 0);
         words.reportUnknown();
@@ -126,7 +126,7 @@ class Reader {
         if (isPattern) entry.key.chop(pattern.size());
         const int player = instrumentNamed(entry.key);
         if (player < 0)
-            problems_.error(line.place, QStringLiteral("nobody plays \"%1\"").arg(entry.key));
+            problems_.error(line.place, QStringLiteral("„%1“ nikdo nehraje").arg(entry.key));
         else
             part.voices[player] << Voice{line.place, isPattern, entry.value};
     }
@@ -136,7 +136,7 @@ class Reader {
         for (const QString& chord :
              part.chords.split(QRegularExpression(QStringLiteral("[\\s|]+")), Qt::SkipEmptyParts))
             if (chordTones(chord).isEmpty())
-                problems_.error(part.chordPlace, QStringLiteral("not a chord: %1").arg(chord));
+                problems_.error(part.chordPlace, QStringLiteral("tohle není akord: %1").arg(chord));
         for (auto voice = part.voices.cbegin(); voice != part.voices.cend(); ++voice)
             for (const Voice& line : voice.value()) playVoice(voice.key(), line, chords);
         score_.length += static_cast<double>(chords.size()) * score_.beats;
@@ -147,7 +147,7 @@ class Reader {
         if (!voice.isPattern && bars.size() != chords.size())
             problems_.error(
                 voice.place,
-                QStringLiteral("%1 bars where the part has %2").arg(bars.size()).arg(chords.size()));
+                QStringLiteral("taktů je %1, část jich má %2").arg(bars.size()).arg(chords.size()));
         length_ = 1;
         for (int bar = 0; bar < chords.size(); ++bar)
             playBar(player, voice, bars.value(bar % bars.size()), chords[bar],
@@ -159,7 +159,7 @@ class Reader {
         for (const QString& word : bar.split(u' ', Qt::SkipEmptyParts)) {
             const QString note = word.section(u':', 0, 0);
             if (word.contains(u':') && (!readNumber(word.section(u':', 1), length_) || length_ <= 0))
-                problems_.error(voice.place, QStringLiteral("not a length: %1").arg(word));
+                problems_.error(voice.place, QStringLiteral("tohle není délka: %1").arg(word));
             const QStringList here = chords.split(u' ', Qt::SkipEmptyParts);
             const int slot = std::min(static_cast<int>(at / score_.beats * static_cast<double>(here.size())),
                                       static_cast<int>(here.size()) - 1);
@@ -167,7 +167,7 @@ class Reader {
             at += length_;
         }
         if (std::abs(at - score_.beats) > 1e-6)
-            problems_.error(voice.place, QStringLiteral("a bar of %1 beats: %2").arg(at).arg(bar.trimmed()));
+            problems_.error(voice.place, QStringLiteral("takt má %1 dob: %2").arg(at).arg(bar.trimmed()));
     }
 
     void playWord(int player, const Voice& voice, QString word, const QString& chord, double from) {
@@ -181,7 +181,7 @@ class Reader {
         for (const QString& tone : word.split(u'+')) {
             const int pitch = voice.isPattern ? patternPitch(player, tone, chordTones(chord)) : pitchOf(tone);
             if (pitch < 0 || pitch > 127)
-                problems_.error(voice.place, QStringLiteral("not a note: %1").arg(tone));
+                problems_.error(voice.place, QStringLiteral("tohle není nota: %1").arg(tone));
             else if (isTremolo)
                 tremolo(player, from, pitch);
             else

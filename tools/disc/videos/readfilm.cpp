@@ -25,40 +25,39 @@ class FilmReader {
         else if (entry.key == QStringLiteral("hudba"))
             number(entry, film_.music);
         else
-            problems_.error(line.place, QStringLiteral("a script has no line such as \"%1\"").arg(line.text));
+            problems_.error(line.place, QStringLiteral("scénář nezná řádek „%1“").arg(line.text));
     }
 
     void step(const Section& section) {
         Step step{section.place, section.title};
-        if (section.title.isEmpty())
-            problems_.error(section.place, QStringLiteral("a step without a caption"));
+        if (section.title.isEmpty()) problems_.error(section.place, QStringLiteral("krok nemá titulek"));
         for (const Line& line : section.lines)
             if (!line.isBlank()) stepLine(step, line);
         film_.steps << step;
     }
 
     void finish() {
-        if (film_.scene.isEmpty()) problems_.error(film_.place, QStringLiteral("the script has no scene"));
-        if (film_.steps.isEmpty()) problems_.error(film_.place, QStringLiteral("the script has no step"));
+        if (film_.scene.isEmpty()) problems_.error(film_.place, QStringLiteral("scénář nemá scénu"));
+        if (film_.steps.isEmpty()) problems_.error(film_.place, QStringLiteral("scénář nemá krok"));
     }
 
   private:
     void number(const KeyValue& entry, double& value) {
         if (!readNumber(entry.value, value))
-            problems_.error(entry.place, QStringLiteral("%1 is not a number").arg(entry.key));
+            problems_.error(entry.place, QStringLiteral("%1 není číslo").arg(entry.key));
     }
 
     void scene(const KeyValue& entry) {
         film_.scene = entry.value;
         if (!sceneNames().contains(entry.value))
-            problems_.error(entry.place, QStringLiteral("there is no scene %1").arg(entry.value));
+            problems_.error(entry.place, QStringLiteral("scéna „%1“ neexistuje").arg(entry.value));
     }
 
     void actor(const KeyValue& entry) {
         Parameters words(entry.value, entry.place, problems_);
         Actor made{entry.place, words.names().value(0), words.names().value(words.names().size() - 1), {}};
         if (!actorKinds().contains(made.kind))
-            problems_.error(entry.place, QStringLiteral("nobody can draw %1").arg(made.kind));
+            problems_.error(entry.place, QStringLiteral("„%1“ nikdo neumí nakreslit").arg(made.kind));
         for (const QString& property : kCommon + actorKinds().value(made.kind).properties)
             if (words.has(property)) made.start.insert(property, words.number(property, 0));
         words.reportUnknown();
@@ -75,7 +74,7 @@ class FilmReader {
         else if (entry.key == QStringLiteral("zvuk"))
             sound(step, entry);
         else if (found == film_.actors.cend())
-            problems_.error(line.place, QStringLiteral("the film has no \"%1\"").arg(entry.key));
+            problems_.error(line.place, QStringLiteral("ve filmu není „%1“").arg(entry.key));
         else
             movement(step, *found, entry);
     }
@@ -84,7 +83,7 @@ class FilmReader {
         Parameters words(entry.value, entry.place, problems_);
         SoundCue cue{entry.place, words.names().mid(1).join(u' ')};
         if (!readNumber(words.names().value(0), cue.share))
-            problems_.error(entry.place, QStringLiteral("a sound begins with its share of the step"));
+            problems_.error(entry.place, QStringLiteral("zvuk začíná podílem kroku"));
         cue.loudness = words.number(QStringLiteral("hlas"), cue.loudness);
         words.reportUnknown();
         step.sounds << cue;
@@ -95,7 +94,7 @@ class FilmReader {
         const double first = words.number(QStringLiteral("od"), 0);
         const double last = words.number(QStringLiteral("do"), 1);
         if (first < 0 || last > 1 || first > last)
-            problems_.error(entry.place, QStringLiteral("od and do are shares of the step, from 0 to 1"));
+            problems_.error(entry.place, QStringLiteral("od a do jsou podíly kroku od 0 do 1"));
         if (words.has(QStringLiteral("kmitů"))) swing(step, actor, words, first, last);
         for (const QString& property : kCommon + actorKinds().value(actor.kind).properties) {
             if (!words.has(property)) continue;

@@ -37,7 +37,7 @@ QList<Sound> speakCaptions(Film& film, const QString& scratch, QList<FilmFault>&
     for (Step& step : film.steps) {
         spoken << speak(step.caption, Pace::caption, scratch);
         if (spoken.last().samples.empty())
-            faults << FilmFault{step.place, QStringLiteral("espeak-ng cannot speak the caption")};
+            faults << FilmFault{step.place, QStringLiteral("espeak-ng titulek nepřečetl")};
         const double needed = spoken.last().seconds() + kBeforeSpeech + kAfterSpeech;
         step.begin = time;
         time += std::max(step.seconds, needed);
@@ -45,7 +45,7 @@ QList<Sound> speakCaptions(Film& film, const QString& scratch, QList<FilmFault>&
     }
     if (time < kShortest || time > kLongest)
         faults << FilmFault{film.place,
-                            QStringLiteral("the film takes %1 s, not 8 to 20").arg(time, 0, 'f', 1)};
+                            QStringLiteral("film trvá %1 s, má trvat 8 až 20").arg(time, 0, 'f', 1)};
     return spoken;
 }
 
@@ -55,7 +55,7 @@ void addEffects(const Film& film, const QList<Effect>& effects, Sound& sound, QL
             const auto found = std::find_if(effects.cbegin(), effects.cend(),
                                             [&](const Effect& one) { return one.name == cue.effect; });
             if (found == effects.cend())
-                faults << FilmFault{cue.place, QStringLiteral("there is no effect %1").arg(cue.effect)};
+                faults << FilmFault{cue.place, QStringLiteral("efekt %1 neexistuje").arg(cue.effect)};
             else
                 add(sound, renderEffect(*found), 0, step.begin + cue.share * (step.end - step.begin),
                     fromDecibels(cue.loudness));

@@ -1,0 +1,167 @@
+#include "checkrecipe.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "checkmethod.h"
+#include "courses.h"
+#include "nearword.h"
+#include "weights.h"
+
+namespace sarne::disc {
+namespace {
+
+/// How far the two unit systems may be apart.
+constexpr double kTolerance = 0.10;
+constexpr int kFewestIngredients = 6;
+constexpr int kMostIngredients = 16;
+constexpr int kMostPortions = 255;
+/// More spoons than that are measured in cups.
+constexpr double kMostSpoons = 12;
+constexpr double kCup = 250;
+
+void checkMeasure(const Cookbook& book, const Recipe& recipe, const IngredientLine& line,
+                  Problems& problems) {
+    for (const auto& [amount, id] :
+         {std::pair(line.amount, line.unit), std::pair(line.spoonAmount, line.spoonUnit)}) {
+        const Unit* unit = book.unit(id);
+        if (!unit) continue;
+        if (unit->name == QStringLiteral("porce") && amount != recipe.portions)
+            problems.finding(line.place,
+                             QStringLiteral("%1 porcí v receptu pro %2").arg(amount).arg(recipe.portions));
+        if (unit->kind == UnitKind::spoon && unit->size < kCup && amount > kMostSpoons)
+            problems.finding(line.place, QStringLiteral("%1 lžic nikdo neodměří; nejvýš %2, potom hrnky")
+                                             .arg(amount)
+                                             .arg(kMostSpoons));
+    }
+}
+
+void checkAmounts(const Cookbook& book, const IngredientLine& line, Problems& problems) {
+    if (line.unit == 0 || line.spoonUnit == 0 || line.ingredient == 0) return;
+    if (line.unit == line.spoonUnit) {
+        if (line.amount != line.spoonAmount)
+            problems.error(line.place, QStringLiteral("jedna jednotka a dvě různá množství"));
+        return;
+    }
+    const double weight = inGrams(book, line, line.amount, line.unit);
+    const double spoons = inGrams(book, line, line.spoonAmount, line.spoonUnit);
+    if (weight <= 0 || spoons <= 0) {
+        if (!line.isUnclear)
+            problems.error(line.place, QStringLiteral("lzice.txt neříká, kolik váží „%1“ suroviny „%2“")
+                                           .arg(book.unit(weight <= 0 ? line.unit : line.spoonUnit)->name,
+                                                book.ingredient(line.ingredient)->name));
+    } else if (std::abs(weight - spoons) > kTolerance * weight) {
+        problems.error(line.place,
+                       QStringLiteral("váha a lžíce se liší: %1 g a %2 g").arg(weight).arg(spoons));
+    }
+}
+
+bool isBlank(const Lines& text) {
+    return std::all_of(text.cbegin(), text.cend(), [](const Line& line) { return line.isBlank(); });
+}
+
+bool hasFish(const Cookbook& book, const Recipe& recipe) {
+    return std::any_of(recipe.ingredients.cbegin(), recipe.ingredients.cend(),
+                       [&](const IngredientLine& line) {
+                           const Ingredient* ingredient = book.ingredient(line.ingredient);
+                           return ingredient && ingredient->isFish;
+                       });
+}
+
+void checkCourses(const Recipe& recipe, Problems& problems) {
+    QStringList given = recipe.courses;
+    QStringList wanted = gridCourses(recipe.id);
+    given.sort();
+    wanted.sort();
+    if (given != wanted)
+        problems.error(
+            recipe.placeOf(QStringLiteral("chod")),
+            QStringLiteral("mřížka fotografií ukazuje recept %1 jako: %2; chod se řídí číslem receptu")
+                .arg(recipe.id)
+                .arg(gridCourses(recipe.id).join(QStringLiteral(", "))));
+}
+
+/// Reports those of \a names that are none of \a known.
+void checkNames(const Recipe& recipe, const char* key, const QStringList& names, const QStringList& known,
+                Problems& problems) {
+    for (const QString& name : names)
+        if (!known.contains(name))
+            problems.error(recipe.placeOf(QString::fromUtf8(key)),
+                           QStringLiteral("%1: „%2“ není v seznamu").arg(QString::fromUtf8(key), name) +
+                               didYouMean(name, known));
+}
+
+template <typename List>
+QStringList namesOf(const List& things) {
+    QStringList names;
+    for (const auto& thing : things) names << thing.name;
+    return names;
+}
+
+void checkHead(const Cookbook& book, const Recipe& recipe, Problems& problems) {
+    const auto required = [&](const char* key, bool isGiven) {
+        if (!isGiven)
+            problems.error(recipe.placeOf(QString::fromUtf8(key)),
+                           QStringLiteral("v hlavičce chybí „%1“").arg(QString::fromUtf8(key)));
+    };
+    required("název", !recipe.name.isEmpty());
+    required("dlouhý název", !recipe.longName.isEmpty());
+    required("porce", recipe.portions >= 1 && recipe.portions <= kMostPortions);
+    required("minut", recipe.minutes >= 1);
+    required("pomůcky", !recipe.tools.isEmpty());
+    required("vína", !recipe.wines.isEmpty());
+    for (const char* key : {"příprava", "vaření", "obtížnost", "kosti", "mrazit", "vydrží", "sezona"})
+        if (!recipe.headPlaces.contains(QString::fromUtf8(key)))
+            problems.finding(recipe.place,
+                             QStringLiteral("v hlavičce chybí „%1“").arg(QString::fromUtf8(key)));
+    checkNames(recipe, "pomůcky", recipe.tools, book.tools.names, problems);
+    checkNames(recipe, "vína", recipe.wines, namesOf(book.wines), problems);
+    checkNames(recipe, "odkazy", recipe.auxiliary, namesOf(book.auxiliary), problems);
+    checkCourses(recipe, problems);
+}
+
+void checkTimes(const Recipe& recipe, Problems& problems) {
+    const int parts = recipe.preparation + recipe.cooking;
+    if (parts == 0 || recipe.minutes == 0) return;
+    if (recipe.minutes > parts || recipe.minutes < std::max(recipe.preparation, recipe.cooking))
+        problems.finding(recipe.placeOf(QStringLiteral("minut")),
+                         QStringLiteral("%1 minut nesouhlasí s přípravou (%2) a vařením (%3)")
+                             .arg(recipe.minutes)
+                             .arg(recipe.preparation)
+                             .arg(recipe.cooking));
+}
+
+void checkSections(const Recipe& recipe, Problems& problems) {
+    const std::pair<const char*, const Lines*> texts[] = {{"Postup", &recipe.method},
+                                                          {"Úvod", &recipe.introduction},
+                                                          {"Jak podávat", &recipe.serving},
+                                                          {"Poznámka", &recipe.note},
+                                                          {"Víno", &recipe.wineText}};
+    for (const auto& [title, text] : texts)
+        if (isBlank(*text))
+            problems.error(recipe.sectionPlaces.value(QString::fromUtf8(title), recipe.place),
+                           QStringLiteral("chybí text části „%1“").arg(QString::fromUtf8(title)));
+    const qsizetype count = recipe.ingredients.size();
+    if (count < kFewestIngredients || count > kMostIngredients)
+        problems.error(recipe.sectionPlaces.value(QStringLiteral("Suroviny"), recipe.place),
+                       QStringLiteral("surovin je %1, má jich být %2 až %3")
+                           .arg(count)
+                           .arg(kFewestIngredients)
+                           .arg(kMostIngredients));
+}
+
+}  // namespace
+
+void checkRecipe(const Cookbook& book, const Stems& stems, const Recipe& recipe, Problems& problems) {
+    checkHead(book, recipe, problems);
+    checkTimes(recipe, problems);
+    checkSections(recipe, problems);
+    if (!hasFish(book, recipe)) problems.error(recipe.place, QStringLiteral("mezi surovinami není ryba"));
+    for (const IngredientLine& line : recipe.ingredients) {
+        checkAmounts(book, line, problems);
+        checkMeasure(book, recipe, line, problems);
+    }
+    checkMethod(book, stems, recipe, problems);
+}
+
+}  // namespace sarne::disc
