@@ -176,6 +176,7 @@ template <typename Fill>
 void replaceDatabase(const QString& file, const QStringList& schema, Keep keep, Problems& problems,
                      Fill fill) {
     const QString fresh = file + QStringLiteral(".new");
+    const qsizetype known = problems.errors().size();
     try {
         makeEmpty(fresh);
         {
@@ -185,7 +186,7 @@ void replaceDatabase(const QString& file, const QStringList& schema, Keep keep, 
             fill(connection);
             transaction.commit();
         }
-        if (problems.hasErrors()) {
+        if (problems.errors().size() > known) {
             QFile::remove(fresh);
             return;
         }
