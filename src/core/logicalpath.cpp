@@ -33,9 +33,22 @@ QString LogicalPaths::root(const QString& logical, QString& rest) const {
     rest = logical;
     rest.replace(u'\\', u'/');
     if (!hasDrive(rest)) return rest.startsWith(u'/') ? QStringLiteral("/") : QString();
-    const QString folder = drives_.value(rest[0].toUpper());
+    const QString folder = driveFolder(rest[0].toUpper());
     rest.remove(0, 2);
     return folder;
+}
+
+QString LogicalPaths::driveFolder(QChar letter) const {
+    if (mapped_.contains(letter)) return mapped_.value(letter);
+    if (find_ && !QFileInfo(drives_.value(letter)).isDir()) drives_ = find_();
+    return drives_.value(letter);
+}
+
+QString LogicalPaths::mapFolder(const QString& folder) {
+    char16_t letter = u'Z';
+    while (letter > u'A' && (drives_.contains(letter) || mapped_.contains(letter))) --letter;
+    mapped_.insert(letter, QDir::cleanPath(folder));
+    return QChar(letter) + QStringLiteral(":\\");
 }
 
 QString LogicalPaths::resolve(const QString& logical) const {

@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QString>
+#include <functional>
 
 namespace sarne {
 
@@ -9,8 +10,17 @@ namespace sarne {
 /// letters in either case. This is the one place where they become files of this machine.
 class LogicalPaths {
   public:
+    using Drives = QHash<QChar, QString>;
+
     /// \a drives maps upper-case drive letters to folders of this machine ("D" to "/media/disc").
-    explicit LogicalPaths(QHash<QChar, QString> drives = {}) : drives_(std::move(drives)) {}
+    explicit LogicalPaths(Drives drives = {}) : drives_(std::move(drives)) {}
+    /// \a find says which drives there are now; asked at the start, and again when a letter leads nowhere, so that
+    /// a disc that is put in later is found.
+    explicit LogicalPaths(std::function<Drives()> find) : find_(std::move(find)), drives_(find_()) {}
+
+    /// Gives the folder of this machine \a folder, which a logical path could not name, a free drive letter. Returns
+    /// the drive's root ("Z:\\").
+    QString mapFolder(const QString& folder);
 
     /// The file or folder that \a logical names, as a native path. Each part is found whatever the case of
     /// its letters and whether its accents are composed or not; an exact match is preferred. Empty when there
@@ -23,7 +33,11 @@ class LogicalPaths {
   private:
     QString root(const QString& logical, QString& rest) const;
 
-    QHash<QChar, QString> drives_;
+    QString driveFolder(QChar letter) const;
+
+    std::function<Drives()> find_;
+    Drives mapped_;  // beside those found
+    mutable Drives drives_;
 };
 
 /// \a folder with a "\" at its end, added only where there is none.

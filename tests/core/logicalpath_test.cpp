@@ -48,5 +48,19 @@ TEST(Folder, EndsInOneBackslash) {
               QStringLiteral("\\opt\\kuchyne\\"));
 }
 
+TEST(LogicalPathDrivesTest, DrivesAreAskedForAgainWhenALetterLeadsNowhere) {
+    const QTemporaryDir disc;
+    QFile(disc.filePath(QStringLiteral("hudba.wav"))).open(QIODevice::WriteOnly);
+    LogicalPaths::Drives drives;
+    LogicalPaths paths([&drives] { return drives; });
+    EXPECT_EQ(paths.resolve(QStringLiteral("E:\\HUDBA.WAV")), QString());
+    drives.insert(u'E', disc.path());
+    EXPECT_EQ(paths.resolve(QStringLiteral("E:\\HUDBA.WAV")), disc.filePath(QStringLiteral("hudba.wav")));
+    // A folder that a logical path cannot name gets a letter of its own.
+    const QString odd = disc.filePath(QStringLiteral("a\\b"));
+    ASSERT_TRUE(QDir().mkdir(odd));
+    EXPECT_EQ(paths.resolve(paths.mapFolder(odd)), odd);
+}
+
 }  // namespace
 }  // namespace sarne

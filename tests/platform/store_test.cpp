@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <csignal>
 
@@ -18,39 +17,57 @@ namespace {
 
 class SettingsStoreTest : public testing::Test {
   protected:
-    void SetUp() override {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                           folder.filePath(QStringLiteral("user")));
-        QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
-                           folder.filePath(QStringLiteral("system")));
-    }
-    void write(const QString& scope, const QByteArray& content) {
-        const QString path = folder.filePath(scope + QStringLiteral("/App Paths"));
+    void write(const QString& level, const QByteArray& content) {
+        const QString path = folder.filePath(level + QStringLiteral("/App Paths"));
         ASSERT_TRUE(QDir().mkpath(path));
         QFile file(path + QStringLiteral("/Dunvik.exe.conf"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
     }
-    QString read(const char* key) { return readAppPathValue(store, QLatin1String(key)); }
+    QString read(const char* key, const QString& session = {}) {
+        const SystemSettingsStore store({folder.filePath(QStringLiteral("user")), folder.filePath(QStringLiteral("xdg1")),
+                                         folder.filePath(QStringLiteral("xdg2")),
+                                         folder.filePath(QStringLiteral("own"))},
+                                        session);
+        return readAppPathValue(store, QLatin1String(key));
+    }
 
     QTemporaryDir folder;
-    SystemSettingsStore store;
 };
 
-TEST_F(SettingsStoreTest, TheUsersValueComesBeforeTheSystems) {
+TEST_F(SettingsStoreTest, EachKeyComesFromTheFirstLevelThatHasIt) {
     EXPECT_EQ(read("CDPath"), QString());
-    write(QStringLiteral("system"), "[General]\nCDPath=/media/disc\nOther=\" x \"\n");
-    EXPECT_EQ(read("CDPath"), QStringLiteral("/media/disc"));
+    write(QStringLiteral("own"), "CDPath=/own\nLast=z\n");
+    write(QStringLiteral("xdg2"), "[General]\nCDPath=/media/disc\nOther=\" x \"\n");
+    write(QStringLiteral("xdg1"), "[General]\nFirst=1\n");
+    EXPECT_EQ(read("CDPath"), QStringLiteral("/media/disc")) << "not only the first system folder is read";
     write(QStringLiteral("user"), "[General]\nCDPath=\"E:\\\\\"\n[Drives]\nE=/home/ryby, sladke\n");
     EXPECT_EQ(read("CDPath"), QStringLiteral("E:\\"));
     EXPECT_EQ(read("Other"), QStringLiteral("x"));
+    EXPECT_EQ(read("Last"), QStringLiteral("z"));
     EXPECT_EQ(read("Drives/E"), QStringLiteral("/home/ryby, sladke"));
+    QFile session(folder.filePath(QStringLiteral("run.conf")));
+    ASSERT_TRUE(session.open(QIODevice::WriteOnly));
+    session.write("CDPath=/tonight\n");
+    session.close();
+    EXPECT_EQ(read("CDPath", session.fileName()), QStringLiteral("/tonight"));
+    EXPECT_EQ(read("Other", session.fileName()), QStringLiteral("x"));
+}
+
+TEST_F(SettingsStoreTest, ATextIsReadBackWhole) {
+    for (const char* text : {"/home/ryby,sladke", "/home/ryby, a  dalsi", "/a;b#c", "/a\\b", "E:\\", "/a=b", "/a\"b"}) {
+        write(QStringLiteral("user"), QByteArray("[General]\nCDPath=") + text + "\n");
+        EXPECT_EQ(read("CDPath"), QLatin1String(text));
+        const QByteArray escaped = QByteArray(text).replace("\\", "\\\\").replace("\"", "\\\"");
+        write(QStringLiteral("user"), "[General]\nCDPath=\"" + escaped + "\"\n");
+        EXPECT_EQ(read("CDPath"), QLatin1String(text));
+    }
 }
 
 TEST_F(SettingsStoreTest, WhatCannotBeReadIsEmpty) {
     write(QStringLiteral("user"), QByteArray(3000, '\xFF'));
     EXPECT_EQ(read("CDPath"), QString());
-    ASSERT_TRUE(QDir().mkpath(folder.filePath(QStringLiteral("system/App Paths/Dunvik.exe.conf"))));
+    ASSERT_TRUE(QDir().mkpath(folder.filePath(QStringLiteral("xdg1/App Paths/Dunvik.exe.conf"))));
     EXPECT_EQ(read("CDPath"), QString());
 }
 
