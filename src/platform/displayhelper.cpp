@@ -58,6 +58,7 @@ class Monitor {
     bool can(Size wanted) const { return findMode(wanted).has_value(); }
     bool set(Size wanted);
     bool restore();
+    bool forget();
 
   private:
     Resources resources() const {
@@ -200,12 +201,19 @@ bool Monitor::restore() {
     return apply(target, target.screen, target.screenMm);
 }
 
+/// Lets the mode stay that is set now.
+bool Monitor::forget() {
+    original_.reset();
+    return true;
+}
+
 std::string answer(Monitor& monitor, const std::string& line) {
     Size size;
     if (std::sscanf(line.c_str(), "can %d %d", &size.width, &size.height) == 2)
         return monitor.can(size) ? "yes" : "no";
     if (std::sscanf(line.c_str(), "set %d %d", &size.width, &size.height) == 2)
         return monitor.set(size) ? "yes" : "no";
+    if (line == "forget") return monitor.forget() ? "yes" : "no";
     if (line == "restore") return monitor.restore() ? "yes" : "no";
     size = monitor.size().value_or(Size{});
     return std::to_string(size.width) + ' ' + std::to_string(size.height);

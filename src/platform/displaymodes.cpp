@@ -12,12 +12,15 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
+#include <utility>
 
 namespace sarne {
 
 namespace {
 
 constexpr int answerTimeoutMs = 5000;  // monitors take seconds to change their mode
+constexpr int endTimeoutMs = 3000;     // a helper that hangs does not keep the program
+constexpr int mostStarts = 3;
 
 QByteArray request(const char* word, QSize size) {
     return QByteArray(word) + ' ' + QByteArray::number(size.width()) + ' ' +
@@ -35,28 +38,43 @@ class SystemDisplayModes::Helper {
     Helper(const Helper&) = delete;
     Helper& operator=(const Helper&) = delete;
 
-    /// The helper's answer to one line; empty when there is none.
+    /// The helper's answer to one line; empty when there is none. A helper that is gone is started anew.
     QByteArray ask(const QByteArray& line);
+    /// How often the helper was started: a later one does not know what an earlier one has changed.
+    int starts() const { return starts_; }
 
   private:
     bool start();
+    void end();
+    QByteArray exchange(const QByteArray& line);
     QByteArray readLine();
 
     QString program_;
     int socket_ = -1;
     pid_t process_ = -1;
-    bool tried_ = false;
+    int starts_ = 0;
     bool deaf_ = false;  // a late answer would be taken for the next one
 };
 
 SystemDisplayModes::Helper::~Helper() {
+    end();
+}
+
+/// Lets the helper end, and waits for it as long as may be expected of it.
+void SystemDisplayModes::Helper::end() {
     if (socket_ >= 0) close(socket_);
-    if (process_ > 0) waitpid(process_, nullptr, 0);
+    socket_ = -1;
+    QElapsedTimer time;
+    time.start();
+    while (process_ > 0 && waitpid(process_, nullptr, WNOHANG) == 0 && time.elapsed() < endTimeoutMs)
+        poll(nullptr, 0, 10);
+    process_ = -1;
 }
 
 bool SystemDisplayModes::Helper::start() {
-    if (tried_) return socket_ >= 0;
-    tried_ = true;
+    if (socket_ >= 0) return true;
+    if (starts_ >= mostStarts) return false;
+    ++starts_;
     int ends[2];
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return false;
     const QByteArray path = QFile::encodeName(program_);
@@ -76,13 +94,19 @@ bool SystemDisplayModes::Helper::start() {
 }
 
 QByteArray SystemDisplayModes::Helper::ask(const QByteArray& line) {
+    QByteArray answer = exchange(line);
+    return answer.isEmpty() && !deaf_ && socket_ < 0 ? exchange(line) : answer;
+}
+
+/// One question and its answer. When the helper turns out to be gone it counts as ended.
+QByteArray SystemDisplayModes::Helper::exchange(const QByteArray& line) {
     if (deaf_ || !start()) return {};
     const QByteArray message = line + '\n';
-    if (send(socket_, message.constData(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) < 0)
+    if (send(socket_, message.constData(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) < 0) {
+        end();
         return {};
-    QByteArray answer = readLine();
-    deaf_ = answer.isEmpty();
-    return answer;
+    }
+    return readLine();
 }
 
 QByteArray SystemDisplayModes::Helper::readLine() {
@@ -93,10 +117,14 @@ QByteArray SystemDisplayModes::Helper::readLine() {
         pollfd waiting{socket_, POLLIN, 0};
         char letter = 0;
         if (poll(&waiting, 1, static_cast<int>(answerTimeoutMs - time.elapsed())) <= 0) continue;
-        if (recv(socket_, &letter, 1, 0) != 1) return {};
+        if (recv(socket_, &letter, 1, 0) != 1) {
+            end();
+            return {};
+        }
         if (letter == '\n') return line;
         line += letter;
     }
+    deaf_ = true;
     return {};
 }
 
@@ -127,14 +155,28 @@ bool SystemDisplayModes::canSwitch(QSize size) const {
 }
 
 bool SystemDisplayModes::setMode(QSize size) {
-    const bool done = helper_ && helper_->ask(request("set", size)) == "yes";
-    changed_ = changed_ || done;
-    return done;
+    if (!helper_) return false;
+    if (!original_.isEmpty() && size == original_) return giveBack();
+    const QSize before = current();
+    if (helper_->ask(request("set", size)) != "yes") return false;
+    if (original_.isEmpty()) {
+        original_ = before;
+        knowing_ = helper_->starts();
+    }
+    return true;
+}
+
+bool SystemDisplayModes::giveBack() {
+    if (original_.isEmpty()) return true;
+    const QSize size = std::exchange(original_, {});
+    // A helper that was started since must be told the size, and that it is there to stay.
+    if (helper_->ask("size").isEmpty()) return false;
+    if (helper_->starts() == knowing_) return helper_->ask("restore") == "yes";
+    return helper_->ask(request("set", size)) == "yes" && helper_->ask("forget") == "yes";
 }
 
 void SystemDisplayModes::restore() {
-    if (changed_) helper_->ask("restore");
-    changed_ = false;
+    giveBack();
 }
 
 QSize SystemDisplayModes::twipsPerPixel() const {

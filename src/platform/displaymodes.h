@@ -23,8 +23,8 @@ class DisplayModes {
 };
 
 /// The display that the program shows on. On X11 a helper process switches its mode by XRandR, and switches
-/// back when this process ends without having done so, even by a crash; elsewhere the mode stays. The
-/// destructor restores.
+/// back when this process ends without having done so, even by a crash; elsewhere the mode stays. A helper that is
+/// gone is replaced, one that hangs is waited for seconds only. The destructor restores.
 class SystemDisplayModes final : public DisplayModes {
   public:
     /// \a helper is the helper's executable, empty for "sarne-obnov" beside the program; without it no mode
@@ -39,8 +39,11 @@ class SystemDisplayModes final : public DisplayModes {
 
   private:
     class Helper;
+    bool giveBack();
+
     std::unique_ptr<Helper> helper_;
-    bool changed_ = false;
+    QSize original_;   ///< the size before the first change; empty while nothing is changed
+    int knowing_ = 0;  ///< the helper, by the number of its start, that knows the whole original mode
 };
 
 }  // namespace sarne

@@ -4,6 +4,8 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -15,7 +17,8 @@ SingleInstance::SingleInstance(const QString& lockFile) {
     QDir().mkpath(QFileInfo(lockFile).path());
     // Closed in programs that are started from here: they would hold the lock on.
     file_ = open(QFile::encodeName(lockFile).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    if (file_ >= 0) first_ = flock(file_, LOCK_EX | LOCK_NB) == 0;
+    // Only "held by another" means a second instance; a file system that knows no locks does not.
+    if (file_ >= 0 && flock(file_, LOCK_EX | LOCK_NB) != 0) first_ = errno != EWOULDBLOCK;
 }
 
 SingleInstance::~SingleInstance() {

@@ -4,6 +4,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <csignal>
 
 #include "displayserver.h"
@@ -49,6 +51,27 @@ TEST_F(DisplayModesTest, SwitchesAndRestores) {
     EXPECT_EQ(current(), full);
 }
 
+TEST_F(DisplayModesTest, AKilledHelperIsReplaced) {
+    const auto killHelper = [] {
+        QFile children(QStringLiteral("/proc/self/task/%1/children").arg(getpid()));
+        ASSERT_TRUE(children.open(QIODevice::ReadOnly));
+        for (const QByteArray& child : children.readAll().split(' ')) {
+            QFile name(QStringLiteral("/proc/%1/comm").arg(QString::fromLatin1(child)));
+            if (name.open(QIODevice::ReadOnly) && name.readAll().startsWith("sarne-obnov"))
+                kill(child.toInt(), SIGKILL);
+        }
+    };
+    auto display = modes();
+    EXPECT_TRUE(display->setMode(design));
+    killHelper();
+    display->restore();
+    EXPECT_EQ(current(), full);
+    EXPECT_TRUE(display->setMode(design));
+    killHelper();
+    display.reset();
+    EXPECT_EQ(current(), full) << "the second helper's end does not bring the small mode back";
+}
+
 TEST_F(DisplayModesTest, LeavesWhatTheUserChoseInTheMeantime) {
     auto display = modes();
     EXPECT_TRUE(display->setMode(design));
@@ -87,6 +110,20 @@ TEST_F(DisplayModesTest, AProgramThatDiesLeavesTheDisplayAsItWas) {
         close(ready[0]);
         close(ready[1]);
     }
+}
+
+TEST(DisplayModesElsewhereTest, AHelperThatHangsDoesNotKeepTheProgram) {
+    const QTemporaryDir folder;
+    const QString helper = folder.filePath(QStringLiteral("sarne-obnov"));
+    QFile script(helper);
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\nexec sleep 60\n");
+    script.close();
+    script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    auto display = std::make_unique<SystemDisplayModes>(helper, QStringLiteral("xcb"));
+    EXPECT_FALSE(display->setMode(design));
+    EXPECT_FALSE(display->canSwitch(design));
+    display.reset();  // the test's time limit is the assertion: sixty seconds a helper would be too many
 }
 
 TEST(DisplayModesElsewhereTest, WhereModesCannotBeSwitchedNothingHappens) {
