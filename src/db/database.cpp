@@ -19,13 +19,38 @@ Database::~Database() {
 
 bool Database::Open(const QString& file) {
     Close();
-    if (!QFileInfo(file).isFile()) return false;
+    return QFileInfo(file).isFile() && Create(file);
+}
+
+bool Database::Create(const QString& file) {
+    Close();
     try {
         connection_ = std::make_shared<Connection>(file);
     } catch (const std::exception&) {
         connection_.reset();
     }
     return isOpen();
+}
+
+bool Database::isSound() {
+    if (!connection_) return false;
+    try {
+        return connection_->database().execAndGet("PRAGMA quick_check(1)").getString() == "ok";
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+bool Database::makeTables(const QList<QStringList>& steps) {
+    return transaction([&] {
+        SQLite::Database& db = connection_->database();
+        const int version = db.execAndGet("PRAGMA user_version");
+        for (qsizetype step = version; step < steps.size(); ++step) {
+            for (const QString& statement : steps.at(step)) db.exec(statement.toStdString());
+        }
+        if (version < steps.size()) db.exec("PRAGMA user_version = " + std::to_string(steps.size()));
+        return true;
+    });
 }
 
 bool Database::isOpen() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <memory>
 
@@ -22,7 +23,14 @@ class Database {
     /// Opens the file at the native path \a file, for writing where the file allows it. False, and closed,
     /// when the file is missing or is not a database.
     bool Open(const QString& file);
+    /// Opens \a file, made empty when there is none. False, and closed, when that cannot be.
+    bool Create(const QString& file);
     bool isOpen() const;
+    /// Whether every page of the open file reads as it was written.
+    bool isSound();
+    /// Brings the open file to the version that \a steps end in: runs the statements of every step it lacks, all
+    /// or none of them. A file of a later version stays as it is.
+    bool makeTables(const QList<QStringList>& steps);
     void Close();
 
     /// The rows of a table, in the order of its key; the first one is current.

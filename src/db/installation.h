@@ -1,17 +1,33 @@
 #pragma once
 
 #include <QString>
+#include <vector>
+
+#include "db/notestore.h"
 
 namespace sarne {
 
-/// Which recipe database a run works on, as a native path. It is \a shipped, the file beside the program,
-/// where that can be written; otherwise \a ownCopy, made from it on first use and made anew, with the user's
-/// notes and settings carried over, when the shipped file has changed since. \a shipped again where no copy
-/// can be made.
-QString usableRecipeDatabase(const QString& shipped, const QString& ownCopy);
+/// The recipe database that a run works on, and what became of an older copy of the user's.
+struct RecipeDatabase {
+    QString file;       ///< native path
+    QString keptAside;  ///< where an own copy went that was damaged; else empty
+    std::vector<KeptNote> homeless;  ///< notes of an older copy whose recipes the newer one does not have
+};
 
-/// Copies the user's notes and switches from one recipe database to another that is alike. Notes of recipes
-/// that the other does not have are left out. False, and the target unchanged, when it cannot be written.
-bool carryOverUserData(const QString& from, const QString& to);
+/// Which recipe database a run works on: \a shipped, the file beside the program, where that can be written;
+/// otherwise \a ownCopy, made from it on first use and made anew, with the user's notes and switches carried over,
+/// when the shipped file has other contents than it had, or when the copy is damaged. An own copy that is not
+/// wholly readable is kept beside the new one under a dated name. Where no sound copy can be had, \a shipped.
+RecipeDatabase usableRecipeDatabase(const QString& shipped, const QString& ownCopy);
+
+/// What was carried from one recipe database to another.
+struct CarriedData {
+    bool stored = false;  ///< the other file took it; else it is unchanged
+    std::vector<KeptNote> homeless;
+};
+
+/// Copies the user's notes and switches from one recipe database to another, each by its key, so that one row that
+/// cannot be read costs no other.
+CarriedData carryOverUserData(const QString& from, const QString& to);
 
 }  // namespace sarne

@@ -1,5 +1,7 @@
 #include "db/recordset_rows.h"
 
+#include <utility>
+
 namespace sarne {
 
 void Recordset::Rows::readColumns(const SQLite::Statement& statement) {
@@ -62,12 +64,14 @@ void Recordset::TableRows::moveLast() {
     isCurrent_ = load(QStringLiteral("1 ORDER BY %1 DESC"), {});
 }
 
+// A row that cannot be read ends the walk: who walks to the end must come there.
 void Recordset::TableRows::moveNext() {
-    if (isCurrent_) isCurrent_ = load(QStringLiteral("%1 > ?1 ORDER BY %1"), key());
+    if (std::exchange(isCurrent_, false)) isCurrent_ = load(QStringLiteral("%1 > ?1 ORDER BY %1"), key());
 }
 
 void Recordset::TableRows::movePrevious() {
-    if (isCurrent_) isCurrent_ = load(QStringLiteral("%1 < ?1 ORDER BY %1 DESC"), key());
+    if (std::exchange(isCurrent_, false))
+        isCurrent_ = load(QStringLiteral("%1 < ?1 ORDER BY %1 DESC"), key());
 }
 
 qint64 Recordset::TableRows::count() const {

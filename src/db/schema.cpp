@@ -80,4 +80,10 @@ QStringList pictureSchema() {
     return {QStringLiteral("CREATE TABLE TabObr (obr BLOB)")};
 }
 
+QList<QStringList> userSchema() {
+    return {{QStringLiteral("CREATE TABLE Poznamky (ID INTEGER PRIMARY KEY, Nazev TEXT, Text TEXT)"),
+             QStringLiteral("CREATE TABLE Rozepsane (ID INTEGER PRIMARY KEY, Text TEXT)"),
+             QStringLiteral("CREATE TABLE Hodnoty (Nazev TEXT PRIMARY KEY, Hodnota TEXT)")}};
+}
+
 }  // namespace sarne

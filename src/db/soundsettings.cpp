@@ -26,14 +26,18 @@ std::vector<SoundSetting> readSoundSettings(Database& db) {
 
 int storeSoundSettings(Database& db, const std::vector<bool>& on) {
     int written = 0;
-    Recordset rows = openSettings(db);
-    for (size_t i = 0; i < on.size() && i < kSoundSettings && !rows.AtEnd(); ++i, rows.MoveNext()) {
-        if ((rows.field(kValue).toInt() == 1) == on[i]) continue;
-        rows.Edit();
-        rows.setField(kValue, on[i] ? 1 : 0);
-        written += rows.Update();
-    }
-    return written;
+    const bool stored = db.transaction([&] {
+        Recordset rows = openSettings(db);
+        for (size_t i = 0; i < on.size() && i < kSoundSettings && !rows.AtEnd(); ++i, rows.MoveNext()) {
+            if ((rows.field(kValue).toInt() == 1) == on[i]) continue;
+            rows.Edit();
+            rows.setField(kValue, on[i] ? 1 : 0);
+            if (!rows.Update()) return false;
+            ++written;
+        }
+        return true;
+    });
+    return stored ? written : 0;
 }
 
 }  // namespace sarne

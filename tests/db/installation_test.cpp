@@ -68,17 +68,17 @@ class InstallationTest : public testing::Test {
 };
 
 TEST_F(InstallationTest, AWritableFileIsUsedWhereItLies) {
-    EXPECT_EQ(usableRecipeDatabase(shipped, own), shipped);
+    EXPECT_EQ(usableRecipeDatabase(shipped, own).file, shipped);
     EXPECT_FALSE(QFile::exists(own));
 }
 
 TEST_F(InstallationTest, AReadOnlyProgramFolderLeadsToAnOwnCopyThatKeepsNotes) {
     protectProgramFolder();
     ASSERT_EQ(asOrdinaryUser([&] {
-                  if (usableRecipeDatabase(shipped, own) != own) return 1;
+                  if (usableRecipeDatabase(shipped, own).file != own) return 1;
                   write(own, "Recepty", "Vlastni", QStringLiteral("moje"));
                   write(own, "Nastav", "hodnota", 0);
-                  return usableRecipeDatabase(shipped, own) == own ? 0 : 2;
+                  return usableRecipeDatabase(shipped, own).file == own ? 0 : 2;
               }),
               0);
     EXPECT_EQ(read(own, "Recepty", "Vlastni"), QStringLiteral("moje"));
@@ -86,7 +86,7 @@ TEST_F(InstallationTest, AReadOnlyProgramFolderLeadsToAnOwnCopyThatKeepsNotes) {
     chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0755);
     ship("'Kapr na kmíně'");
     protectProgramFolder();
-    ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own) == own ? 0 : 1; }), 0);
+    ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
     EXPECT_EQ(read(own, "Recepty", "Nazev"), QStringLiteral("Kapr na kmíně")) << "the newer file's recipe";
     EXPECT_EQ(read(own, "Recepty", "Vlastni"), QStringLiteral("moje")) << "the user's note";
     EXPECT_EQ(read(own, "Nastav", "hodnota"), QStringLiteral("0"));
@@ -97,13 +97,117 @@ TEST_F(InstallationTest, WhereNothingCanBeWrittenTheShippedFileIsRead) {
     chmod(qPrintable(folder.filePath(QStringLiteral("data"))), 0555);
     EXPECT_EQ(asOrdinaryUser([&] {
                   Database db;
-                  const bool opens = usableRecipeDatabase(shipped, own) == shipped && db.Open(shipped);
+                  const bool opens = usableRecipeDatabase(shipped, own).file == shipped && db.Open(shipped);
                   Recordset rows = db.OpenTable(QStringLiteral("Recepty"));
                   rows.Edit();
                   rows.setField(QStringLiteral("Vlastni"), QStringLiteral("x"));
                   return opens && !rows.AtEnd() && !rows.Update() ? 0 : 1;
               }),
               0);
+}
+
+TEST_F(InstallationTest, FileAndFolderMustBothBeWritable) {
+    protectProgramFolder();
+    chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0777);
+    EXPECT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0)
+        << "a read-only file in a writable folder, as it comes from a disc";
+    protectProgramFolder();
+    QFile::setPermissions(shipped, QFile::Permissions(0x6666));
+    EXPECT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
+}
+
+/// Notes in an own copy of many pages, some of which are then damaged.
+class DamagedCopyTest : public InstallationTest {
+  protected:
+    void SetUp() override {
+        InstallationTest::SetUp();
+        QFile::remove(shipped);
+        QStringList rows{QStringLiteral("INSERT INTO Nastav VALUES (1,'Hudba',1)")};
+        for (int id = 1; id <= 50; ++id)
+            rows << QStringLiteral("INSERT INTO Recepty (ID,Nazev,Recept) VALUES (%1,'Kapr %1','%2')")
+                        .arg(id).arg(QString(3000, u'x'));
+        test::writeRecipeDatabase(shipped, rows);
+        protectProgramFolder();
+        ASSERT_EQ(asOrdinaryUser([&] {
+                      usableRecipeDatabase(shipped, own);
+                      Database db;
+                      if (!db.Open(own)) return 1;
+                      Recordset recipes = db.OpenTable(QStringLiteral("Recepty"));
+                      for (const int id : {1, 2, 3}) {
+                          if (!RecordExists(recipes, id)) return 2;
+                          recipes.Edit();
+                          recipes.setField(QStringLiteral("Vlastni"), QStringLiteral("moje %1").arg(id));
+                          if (!recipes.Update()) return 3;
+                      }
+                      return 0;
+                  }),
+                  0);
+    }
+    void damage(qint64 at, const QByteArray& bytes) {
+        QFile file(own);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.seek(at);
+        file.write(bytes);
+    }
+    qint64 lastRecipesPage() {
+        QFile file(own);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll().lastIndexOf("Kapr 50") / 4096 * 4096;
+    }
+    QString note(int id) {
+        Database db;
+        db.Open(own);
+        Recordset recipes = db.OpenTable(QStringLiteral("Recepty"));
+        return RecordExists(recipes, id) ? recipes.field(QStringLiteral("Vlastni")).toString() : QString();
+    }
+    void start() {
+        ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
+    }
+    QStringList aside() {
+        return QDir(folder.filePath(QStringLiteral("data"))).entryList({QStringLiteral("Sarne.drc.2*")});
+    }
+};
+
+TEST_F(DamagedCopyTest, OneBadPageCostsNoOtherNote) {
+    damage(lastRecipesPage(), QByteArray(8, '\xEE'));
+    start();
+    for (const int id : {1, 2, 3}) EXPECT_EQ(note(id), QStringLiteral("moje %1").arg(id));
+    EXPECT_EQ(read(own, "Recepty", "Nazev"), QStringLiteral("Kapr 1"));
+    EXPECT_EQ(aside().size(), 1) << "the damaged copy is kept";
+    start();
+    EXPECT_EQ(aside().size(), 1) << "and only once";
+}
+
+TEST_F(DamagedCopyTest, ACopyThatDoesNotOpenIsReplacedAndKept) {
+    for (const qint64 size : {qint64(0), qint64(100), qint64(20000)}) {
+        QFile::resize(own, size);
+        start();
+        EXPECT_EQ(read(own, "Recepty", "Nazev"), QStringLiteral("Kapr 1")) << size;
+        damage(0, QByteArray(200, 'x'));
+        start();
+        EXPECT_EQ(read(own, "Recepty", "Nazev"), QStringLiteral("Kapr 1")) << size;
+    }
+    EXPECT_EQ(aside().size(), 6);
+}
+
+TEST_F(DamagedCopyTest, ADamagedShippedFileLeavesTheOwnCopyInUse) {
+    chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0755);
+    QFile::remove(shipped);
+    QFile(shipped).open(QIODevice::WriteOnly);
+    protectProgramFolder();
+    start();
+    EXPECT_EQ(note(2), QStringLiteral("moje 2"));
+}
+
+TEST_F(DamagedCopyTest, ANoteWithoutARecipeIsHandedOver) {
+    const QString newer = folder.filePath(QStringLiteral("newer.drc"));
+    test::writeRecipeDatabase(newer, {QStringLiteral("INSERT INTO Recepty (ID,Nazev) VALUES (2,'Kapr 2')")});
+    const CarriedData carried = carryOverUserData(own, newer);
+    EXPECT_TRUE(carried.stored);
+    ASSERT_EQ(carried.homeless.size(), 2U);
+    EXPECT_EQ(carried.homeless[1].name, QStringLiteral("Kapr 3"));
+    EXPECT_EQ(carried.homeless[1].text, QStringLiteral("moje 3"));
+    EXPECT_EQ(read(newer, "Recepty", "Vlastni"), QStringLiteral("moje 2"));
 }
 
 }  // namespace
