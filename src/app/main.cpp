@@ -2,13 +2,20 @@
 #include <QLocale>
 #include <QScreen>
 #include <QStandardPaths>
+#include <cstdio>
+#include <cstdlib>
 
 #include "app/language.h"
 #include "app/program.h"
 #include "app/systemplatform.h"
+#include "platform/endsignals.h"
 #include "platform/singleinstance.h"
 
 namespace {
+
+/// The running program, for the one moment at which nobody can hand it over: the window system's connection breaks,
+/// and its library ends the process.
+sarne::Program* running = nullptr;
 
 /// Covers the display with \a stage, now and whenever the display's mode changes. Where no window manager
 /// runs nobody else does that.
@@ -24,11 +31,37 @@ QString commandLine(const QApplication& application) {
     return application.arguments().mid(1).join(u' ');
 }
 
+/// What the toolkit says while it looks for a display: the one fatal message is that there is none.
+void withoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type != QtFatalMsg) return;
+    std::fputs("Velisa sarn: není tu obrazovka, na které by se program ukázal.\n", stderr);
+    std::_Exit(1);
+}
+
+#ifdef NDEBUG
+constexpr QtMessageHandler kMessages = [](QtMsgType, const QMessageLogContext&, const QString&) {};
+#else
+constexpr QtMessageHandler kMessages = nullptr;  // the toolkit's own
+#endif
+
+/// Lets no typed word be lost when the system ends the program, the session or the display.
+void keepWordsAtTheEnd(sarne::Program& program) {
+    auto* signals = new sarne::EndSignals(&program);
+    QObject::connect(signals, &sarne::EndSignals::received, &program, &sarne::Program::endAtOnce);
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &program, &sarne::Program::keepUnsaved);
+    running = &program;
+    std::atexit([] {
+        if (running) running->keepUnsaved();
+    });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     using namespace sarne;
+    qInstallMessageHandler(withoutDisplay);
     QApplication application(argc, argv);
+    qInstallMessageHandler(kMessages);
     QApplication::setApplicationName(QStringLiteral("Velisa sarn"));
     QApplication::setQuitOnLastWindowClosed(false);
     installLanguage(QLocale::system().uiLanguages());
@@ -41,8 +74,13 @@ int main(int argc, char** argv) {
                                        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                                            QStringLiteral("/velisa-sarn")});
     program.stage().setWindowTitle(QStringLiteral("Velisa sarn"));
+    keepWordsAtTheEnd(program);
     fillDisplay(program.stage());
-    if (!program.Main(commandLine(application)) || program.hasEnded()) return 0;
-    platform.effects.prepare();
-    return QApplication::exec();
+    int code = 0;
+    if (program.Main(commandLine(application)) && !program.hasEnded()) {
+        platform.effects.prepare();
+        code = QApplication::exec();
+    }
+    running = nullptr;
+    return code;
 }

@@ -25,7 +25,7 @@ bool isShowSwitch(const QString& commandLine) {
 }
 
 Program::Program(const PlatformParts& platform, Folders folders)
-    : platform_(platform), folders_(std::move(folders)), stage_(std::make_unique<Stage>()), screens_(*this) {
+    : platform_(platform), folders_(std::move(folders)), userFile_(folders_.userData + QStringLiteral("/vlastni.db")), stage_(std::make_unique<Stage>()), screens_(*this) {
     if (platform_.makeAnnouncer) announcer_ = platform_.makeAnnouncer(*stage_);
     connect(stage_.get(), &Stage::closeRequested, this, [this] {
         if (Form* form = stage_->modalForm() ? stage_->modalForm() : FormStack.top()) form->closeRequested();
@@ -57,8 +57,11 @@ QString Program::ReadAppPathValue(const QString& name) const {
 }
 
 void Program::findMediaRoot() {
-    paths_ = LogicalPaths(driveLetters(platform_.settings, removableVolumes()));
-    QString root = ReadAppPathValue(QStringLiteral("CDPath"));
+    paths_ = LogicalPaths([this] { return driveLetters(platform_.settings, removableVolumes()); });
+    const QString stored = ReadAppPathValue(QStringLiteral("CDPath"));
+    // A folder of this machine may have a "\\" in its name, which in a logical path would part two names.
+    const bool odd = stored.startsWith(u'/') && stored.contains(u'\\') && isFolder(stored);
+    QString root = odd ? paths_.mapFolder(stored) : stored;
     root = root.isEmpty() ? root : withTrailingBackslash(root.replace(u'/', u'\\'));
     if (isFolder(paths().resolve(root))) {
         MediaRoot = root;
@@ -71,8 +74,11 @@ void Program::findMediaRoot() {
 }
 
 void Program::openDatabase() {
-    const QString shipped = folders_.program + QStringLiteral("/Sarne.drc");
-    db_.Open(usableRecipeDatabase(shipped, folders_.userData + QStringLiteral("/Sarne.drc")));
+    const RecipeDatabase book = usableRecipeDatabase(folders_.program + QStringLiteral("/Sarne.drc"),
+                                                     folders_.userData + QStringLiteral("/Sarne.drc"));
+    db_.Open(book.file);
+    for (const KeptNote& note : book.homeless) notes_.keep(note);
+    restoreNotes(db_, notes_.all());
     // Search results live in the menu's table; they are nothing to keep, and no full disk shall spoil a
     // search.
     db_.keepInMemory(QStringLiteral("Menu"));
@@ -138,6 +144,19 @@ void Program::endProgram() {
     keepAwake({});
     restoreDisplay();
     stage_->hide();
+    QCoreApplication::quit();
+}
+
+void Program::keepUnsaved() {
+    for (Form* form : stage_->forms()) form->keepUnsaved();
+}
+
+void Program::endAtOnce() {
+    if (ended_) return;
+    ended_ = true;
+    keepUnsaved();
+    db_.Close();
+    restoreDisplay();
     QCoreApplication::quit();
 }
 

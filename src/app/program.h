@@ -6,6 +6,8 @@
 #include "app/platformparts.h"
 #include "app/programscreens.h"
 #include "db/database.h"
+#include "db/notestore.h"
+#include "db/userfile.h"
 #include "forms/bassarne.h"
 #include "forms/resources.h"
 #include "forms/stage.h"
@@ -26,6 +28,12 @@ class Program final : public QObject, public basSarne {
     /// is everything behind the program's name. False when the user has declined to go on.
     bool Main(const QString& commandLine);
 
+    /// Keeps what was typed on any screen and is not stored.
+    void keepUnsaved();
+    /// Ends the run without a question, as the system demands it: words typed and not stored are kept, the display
+    /// is restored.
+    void endAtOnce();
+
     /// Whether the user has ended the program.
     bool hasEnded() const { return Ending; }
     frmHlavni* mainScreen() const { return screens_.mainScreen(); }
@@ -34,6 +42,7 @@ class Program final : public QObject, public basSarne {
     Stage& stage() override { return *stage_; }
     Resources& resources() override { return resources_; }
     Database& Db() override { return db_; }
+    NoteStore& notes() override { return notes_; }
     Screens& screens() override { return screens_; }
     const Clock& clock() override { return platform_.clock; }
     EffectPlayer& effects() override { return platform_.effects; }
@@ -61,6 +70,8 @@ class Program final : public QObject, public basSarne {
     Folders folders_;
     Resources resources_;
     Database db_;
+    UserFile userFile_;
+    NoteStore notes_{userFile_};
     std::unique_ptr<Stage> stage_;
     ProgramScreens screens_;
     std::unique_ptr<Announcer> announcer_;

@@ -18,6 +18,7 @@ class Screens;
 class Stage;
 class EffectPlayer;
 class MultimediaControl;
+class NoteStore;
 
 enum class KeepEnabled { No, Yes };
 
@@ -52,6 +53,8 @@ class basSarne {
     virtual Stage& stage() = 0;
     virtual Resources& resources() = 0;
     virtual Database& Db() = 0;
+    /// The user's notes apart from the book.
+    virtual NoteStore& notes() = 0;
     virtual Screens& screens() = 0;
     virtual const Clock& clock() = 0;
     virtual EffectPlayer& effects() = 0;

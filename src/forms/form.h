@@ -57,6 +57,8 @@ class Form : public TwipWidget {
     /// Asks what there is to ask before the program ends; false when the user wants to stay. Asked of every
     /// screen, before the program's own question.
     virtual bool readyToEnd() { return true; }
+    /// The program is about to end without asking: words that were typed and not stored are to be kept.
+    virtual void keepUnsaved() {}
     /// The window's close button or Alt+F4.
     virtual void closeRequested() { endProgram(); }
 

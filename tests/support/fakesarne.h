@@ -6,6 +6,8 @@
 #include <functional>
 
 #include "db/database.h"
+#include "db/notestore.h"
+#include "db/userfile.h"
 #include "forms/bassarne.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
@@ -80,6 +82,8 @@ class FakeSarne : public basSarne {
     Stage window;
     Resources pictures{QStringLiteral(":/none/")};
     Database database;
+    UserFile userFile;  // in memory only
+    NoteStore keptNotes{userFile};
     RecordedScreens recorded;
     ManualClock time;
     FakeEffects sounds;
@@ -98,6 +102,7 @@ class FakeSarne : public basSarne {
     Stage& stage() override { return window; }
     Resources& resources() override { return pictures; }
     Database& Db() override { return database; }
+    NoteStore& notes() override { return keptNotes; }
     Screens& screens() override { return recorded; }
     const Clock& clock() override { return time; }
     EffectPlayer& effects() override { return sounds; }

@@ -222,6 +222,10 @@ void frmRecept::musicSettings() {
     app().screens().showMusicSettings();
 }
 
+void frmRecept::keepUnsaved() {
+    for (const auto& section : sections_) section->keepUnsaved();
+}
+
 bool frmRecept::readyToEnd() {
     return current().readyToEnd();
 }

@@ -40,6 +40,7 @@ class frmRecept : public Form {
     void musicSettings() override;
     void restored() override;
     void unload() override;
+    void keepUnsaved() override;
 
   protected:
     bool keyDown(QKeyEvent& event) override;

@@ -15,7 +15,7 @@ constexpr int kNoAnswer = 0;
 
 NotePanel::NotePanel(const SectionRoom& room)
     : RecipeSection(room),
-      note_(room_.recipe.row),
+      note_(room_.recipe.row, room_.app.notes()),
       editor_(new NoteEdit(room.form, QStringLiteral("RtfPozn"))) {
     editor_->place(recipelayout::kNote);
     editor_->editor().setAccessibleName(QStringLiteral("Vlastní poznámka k receptu"));
@@ -97,6 +97,10 @@ bool NotePanel::readyToEnd() {
     const int answer = note_.isDirty() ? ask() : kAnswerYes;
     if (answer == kAnswerYes) note_.save(editor_->text());
     return answer != kNoAnswer;
+}
+
+void NotePanel::keepUnsaved() {
+    note_.keepDraft(editor_->text());
 }
 
 void NotePanel::beforePrint() {

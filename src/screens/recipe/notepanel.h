@@ -26,6 +26,7 @@ class NotePanel : public RecipeSection {
     /// Asks, and leaves the note open, as the program may go on yet.
     bool readyToEnd() override;
     void beforePrint() override;
+    void keepUnsaved() override;
 
   private:
     void close(OwnNote::Close how);

@@ -11,10 +11,15 @@ QString OwnNote::stored() const {
     return recipe_.field(kField).toString();
 }
 
+int OwnNote::recipe() const {
+    return recipe_.field(QStringLiteral("ID")).toInt();
+}
+
 QString OwnNote::open() {
     open_ = true;
-    tag_.clear();
-    return stored();
+    const std::optional<QString> draft = kept_.draft(recipe());
+    tag_ = draft ? QStringLiteral("1") : QString();
+    return draft.value_or(stored());
 }
 
 void OwnNote::changed() {
@@ -31,15 +36,27 @@ void OwnNote::saveForPrint(const QString& content) {
 
 void OwnNote::close(Close how, const QString& content) {
     if (how == Close::Save && isDirty()) store(content);
+    if (how == Close::Discard && isDirty()) kept_.dropDraft(recipe());
     tag_.clear();
     open_ = false;
 }
 
+void OwnNote::keepDraft(const QString& content) {
+    if (isDirty()) kept_.keepDraft(recipe(), content);
+}
+
 bool OwnNote::store(const QString& content) {
-    recipe_.Edit();
     // Never null: an emptied note is an empty text.
-    recipe_.setField(kField, content.isNull() ? QStringLiteral("") : content);
-    return recipe_.Update();
+    const QString text = content.isNull() ? QStringLiteral("") : content;
+    recipe_.Edit();
+    recipe_.setField(kField, text);
+    if (!recipe_.Update()) {
+        kept_.keepDraft(recipe(), text);
+        return false;
+    }
+    kept_.dropDraft(recipe());
+    kept_.keep({recipe(), recipe_.field(QStringLiteral("Nazev")).toString(), text});
+    return true;
 }
 
 }  // namespace sarne

@@ -77,6 +77,8 @@ class RecipeSection {
     /// The program is about to end, or not: false when the user wants to stay.
     virtual bool readyToEnd() { return true; }
     virtual void beforePrint() {}
+    /// The program ends without asking: what was typed and not stored is to be kept.
+    virtual void keepUnsaved() {}
 
   protected:
     /// Shows \a picture in the right half of the sheet until another section is opened.
