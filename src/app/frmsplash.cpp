@@ -21,9 +21,17 @@ Picture pictureOf(const Recordset& records) {
     return Picture::fromData(records.field(QStringLiteral("obr")).toByteArray());
 }
 
+/// The picture that goes on around the ground \a name; empty where there is none.
+Picture widePicture(const basSarne& run, QStringView name) {
+    return Picture::fromFile(run.paths().resolve(run.AppDir + QStringLiteral("siroke\\%1.jpg").arg(name)));
+}
+
 }  // namespace
 
-frmSplash::frmSplash(Program& program) : Form(program, QStringLiteral("frmSplash")), program_(program) {}
+frmSplash::frmSplash(Program& program) : Form(program, QStringLiteral("frmSplash")), program_(program) {
+    Room& room = app().Pictures.uvod;
+    if (room.isNull()) room = Room(app().resources().picture(QStringLiteral("uvod")), widePicture(app(), u"uvod"));
+}
 
 frmSplash::~frmSplash() = default;
 
@@ -104,13 +112,20 @@ void frmSplash::preparePictures() {
     Recordset records = queries::screenPictures(pictures);
     // The records are told apart by their position: the first one, then the others from the last one
     // backwards.
-    app().Pictures.hlavni = pictureOf(records);
+    ScreenPictures& rooms = app().Pictures;
+    rooms.hlavni = Room(pictureOf(records), widePicture(app(), u"hlavni"));
     records.MoveLast();
-    for (Picture* picture : {&app().Pictures.Sit, &app().Pictures.recept, &app().Pictures.seznam,
-                             &app().Pictures.video, &app().Pictures.konec}) {
-        *picture = pictureOf(records);
+    const std::pair<Room*, QStringView> others[] = {{&rooms.Sit, u"Sit"},
+                                                    {&rooms.recept, u"recept"},
+                                                    {&rooms.seznam, u"seznam"},
+                                                    {&rooms.video, u"video"},
+                                                    {&rooms.konec, u"konec"}};
+    for (const auto& [room, name] : others) {
+        *room = Room(pictureOf(records), widePicture(app(), name));
         records.MovePrevious();
     }
+    rooms.stranka = Room({}, widePicture(app(), u"stranka"));
+    if (rooms.stranka.isNull()) rooms.stranka = rooms.seznam;
 }
 
 void frmSplash::readSettings() {
@@ -130,10 +145,7 @@ void frmSplash::mousePressEvent(QMouseEvent*) {
 
 void frmSplash::paint(QPainter& painter) {
     const QRect screen(0, 0, basSarne::ScreenWidthTw, basSarne::ScreenHeightTw);
-    painter.fillRect(screen, colors::kNight);
-    const Picture ground =
-        caption_.isEmpty() ? app().resources().picture(QStringLiteral("uvod")) : app().Pictures.konec;
-    ground.draw(painter, screen);
+    paintRoom(painter, caption_.isEmpty() ? app().Pictures.uvod : app().Pictures.konec);
     const auto write = [&](const QString& text, int points, const QRect& place) {
         painter.setFont(TextFont{QStringLiteral("Times New Roman"), double(points), true, true}.toQFont());
         painter.setPen(colors::kNight);

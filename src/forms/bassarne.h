@@ -8,6 +8,7 @@
 #include "core/clock.h"
 #include "core/logicalpath.h"
 #include "forms/picture.h"
+#include "forms/room.h"
 #include "forms/screenstack.h"
 
 namespace sarne {
@@ -25,9 +26,12 @@ enum class KeepEnabled { No, Yes };
 /// The switches of the settings table, by their index in SoundFlags.
 enum SoundSwitch { kEffects = 0, kMusic = 1, kSpokenNames = 2, kVideoSound = 3, kWineSounds = 4 };
 
-/// The grounds of the screens, from the picture database.
+/// The grounds of the screens: of the main ones from the picture database, and wider ones from the folder "siroke"
+/// beside it.
 struct ScreenPictures {
-    Picture hlavni, Sit, recept, seznam, video, konec;
+    Room hlavni, Sit, recept, seznam, video, konec;
+    Room uvod;     ///< of the splash
+    Room stranka;  ///< of pages of text
 };
 
 /// What all screens share: the state of a run and the services that every screen uses. One object, made in

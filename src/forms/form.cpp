@@ -92,6 +92,14 @@ void Form::rescale() {
     if (pointer_ == Pointer::Back) setPointer(pointer_);
 }
 
+bool Form::fillsWindow() const {
+    return twips() == QRect(0, 0, Stage::kWidth, Stage::kHeight);
+}
+
+void Form::paintRoom(QPainter& painter, const Room& ground) const {
+    ground.draw(painter, covered());
+}
+
 void Form::endProgram() {
     app_.ConfirmExit();
 }

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "forms/focusring.h"
+#include "forms/room.h"
 #include "forms/twipwidget.h"
 
 class QEventLoop;
@@ -72,6 +73,11 @@ class Form : public TwipWidget {
     virtual bool keyDown(QKeyEvent& event);
     /// The form has got the keyboard, as by a click on what shows of it: the screen on top takes it.
     virtual void gotFocus();
+
+    /// A form with the design's own place fills the display: the room around the design area is its own, too.
+    bool fillsWindow() const override;
+    /// Paints \a ground up to the edges of the display.
+    void paintRoom(QPainter& painter, const Room& ground) const;
 
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

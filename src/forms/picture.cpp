@@ -20,6 +20,7 @@ struct Picture::Source {
     std::list<QPixmap> drawn;
 
     QImage decode(QSize pixels) const;
+    QImage exactly(QSize pixels) const;
     const QPixmap* at(QSize pixels);
 
   private:
@@ -51,12 +52,18 @@ const QPixmap* Picture::Source::at(QSize pixels) {
         drawn.splice(drawn.begin(), drawn, kept);
         return &drawn.front();
     }
-    QImage image = decode(pixels);
+    QImage image = exactly(pixels);
     if (image.isNull()) return nullptr;
-    if (image.size() != pixels) image = image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     drawn.push_front(QPixmap::fromImage(std::move(image)));
     if (drawn.size() > kKeptSizes) drawn.pop_back();
     return &drawn.front();
+}
+
+QImage Picture::Source::exactly(QSize pixels) const {
+    const QImage image = decode(pixels);
+    return image.isNull() || image.size() == pixels
+               ? image
+               : image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 Picture Picture::fromData(const QByteArray& encoded) {
@@ -109,8 +116,7 @@ void Picture::draw(QPainter& painter, const QRectF& place, Fit fit) const {
     if (!source_) return;
     const QTransform toPixels = painter.combinedTransform();
     const QRect pixels = toPixels.mapRect(fitted(size(), place, fit)).toAlignedRect();
-    const double ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1;
-    const QPixmap* drawn = pixels.isEmpty() ? nullptr : source_->at((QSizeF(pixels.size()) * ratio).toSize());
+    const QPixmap* drawn = pixels.isEmpty() ? nullptr : source_->at(pixels.size());
     if (!drawn) return;
     painter.save();
     if (fit == Fit::Cover) painter.setClipRect(place, Qt::IntersectClip);
@@ -131,6 +137,10 @@ void Picture::prepare(QSize pixels) const {
 
 QImage Picture::image() const {
     return source_ ? source_->decode({}) : QImage();
+}
+
+QImage Picture::scaled(QSize pixels) const {
+    return source_ && !pixels.isEmpty() ? source_->exactly(pixels) : QImage();
 }
 
 QPixmap Picture::pixmap(QSize pixels) const {

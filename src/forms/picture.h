@@ -40,6 +40,8 @@ class Picture {
     /// Decodes for \a pixels now, so that drawing at that size is quick.
     void prepare(QSize pixels) const;
     QImage image() const;
+    /// The picture in exactly \a pixels, decoded for this once and not kept. Null when it is broken.
+    QImage scaled(QSize pixels) const;
     QPixmap pixmap(QSize pixels) const;
 
     /// Where a picture of \a picture's proportions lies in \a place.

@@ -15,20 +15,24 @@ void TwipWidget::place(const QRect& twips) {
 }
 
 void TwipWidget::rescale() {
+    const auto* stage = qobject_cast<Stage*>(parentWidget());
     QPointF parentExact;
-    if (const auto* stage = qobject_cast<Stage*>(parentWidget())) {
+    QPoint parentPixel;
+    if (stage) {
         scale_ = stage->scale();
         parentExact = stage->designOrigin();
     } else if (const auto* parent = qobject_cast<TwipWidget*>(parentWidget())) {
         scale_ = parent->scale_;
         parentExact = parent->exactOrigin_;
+        parentPixel = parent->pixelOrigin_;
     }
     exactOrigin_ = parentExact + QPointF(twips_.topLeft()) * scale_;
-    const QPointF exactEnd = exactOrigin_ + QPointF(twips_.width(), twips_.height()) * scale_;
     const QPoint first = exactOrigin_.toPoint();
-    const QPoint end = exactEnd.toPoint();
-    const QPoint parentPixel = qobject_cast<Stage*>(parentWidget()) ? QPoint() : parentExact.toPoint();
-    setGeometry(QRect(first - parentPixel, QSize(end.x() - first.x(), end.y() - first.y())));
+    const QPoint end = (exactOrigin_ + QPointF(twips_.width(), twips_.height()) * scale_).toPoint();
+    const QRect pixels = stage && fillsWindow() ? stage->rect()
+                                                : QRect(first, QSize(end.x() - first.x(), end.y() - first.y()));
+    pixelOrigin_ = pixels.topLeft();
+    setGeometry(pixels.translated(-parentPixel));
     for (QObject* child : children()) {
         if (auto* widget = qobject_cast<TwipWidget*>(child)) widget->rescale();
     }
@@ -36,13 +40,16 @@ void TwipWidget::rescale() {
 }
 
 QPoint TwipWidget::toTwips(QPointF pixels) const {
-    const QPointF offset = exactOrigin_ - QPointF(exactOrigin_.toPoint());
-    const QPointF twips = (pixels - offset) / scale_;
+    const QPointF twips = (pixels + pixelOrigin_ - exactOrigin_) / scale_;
     return {static_cast<int>(std::floor(twips.x())), static_cast<int>(std::floor(twips.y()))};
 }
 
 QPoint TwipWidget::toPixels(QPoint twips) const {
-    return (QPointF(twips) * scale_ + exactOrigin_ - QPointF(exactOrigin_.toPoint())).toPoint();
+    return (QPointF(twips) * scale_ + exactOrigin_ - pixelOrigin_).toPoint();
+}
+
+QRectF TwipWidget::covered() const {
+    return {(pixelOrigin_ - exactOrigin_) / scale_, QSizeF(size()) / scale_};
 }
 
 void TwipWidget::paint(QPainter&) {}
@@ -51,7 +58,7 @@ void TwipWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform);
-    painter.translate(exactOrigin_ - QPointF(exactOrigin_.toPoint()));
+    painter.translate(exactOrigin_ - pixelOrigin_);
     painter.scale(scale_, scale_);
     paint(painter);
 }

@@ -30,8 +30,12 @@ class TwipWidget : public QWidget {
   protected:
     explicit TwipWidget(QWidget* parent);
 
-    /// Paints with one unit a twip, from this widget's upper left corner.
+    /// Paints with one unit a twip; 0, 0 is the upper left corner of this widget's place.
     virtual void paint(QPainter& painter);
+    /// Whether the widget covers the whole window, beyond its place to all sides. Its twips stay where they are.
+    virtual bool fillsWindow() const { return false; }
+    /// What this widget covers, in its twips: its place, or more where it fills the window.
+    QRectF covered() const;
     void paintEvent(QPaintEvent* event) override;
 
   private:
@@ -39,7 +43,8 @@ class TwipWidget : public QWidget {
 
     QRect twips_;
     double scale_ = 1. / 15;
-    QPointF exactOrigin_;  // pixels from the window's corner, unrounded
+    QPointF exactOrigin_;  // of the place: pixels from the window's corner, unrounded
+    QPoint pixelOrigin_;   // of the widget: pixels from the window's corner
 };
 
 }  // namespace sarne

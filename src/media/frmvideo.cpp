@@ -281,9 +281,7 @@ bool frmVideo::keyDown(QKeyEvent& event) {
 }
 
 void frmVideo::paint(QPainter& painter) {
-    const QRect screen(0, 0, basSarne::ScreenWidthTw, basSarne::ScreenHeightTw);
-    painter.fillRect(screen, colors::kNight);
-    app().Pictures.video.draw(painter, screen);
+    paintRoom(painter, app().Pictures.video);
     painter.setBrush(colors::kNight);
     painter.setPen(QPen(colors::kCopper, 45));
     painter.drawRoundedRect(QRect(1200, 7380, 10200, 1440), 120, 120);

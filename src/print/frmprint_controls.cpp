@@ -146,7 +146,7 @@ bool frmPrint::keyDown(QKeyEvent& event) {
 
 void frmPrint::paint(QPainter& painter) {
     const QRect screen({0, 0}, twips().size());
-    paintPanel(painter, screen, app().Pictures.seznam);
+    paintPanel(painter, screen, app().Pictures.seznam.design());
     // Texts stand on calm paper.
     painter.setPen(QPen(colors::kCopper, 30));
     painter.setBrush(colors::kPaper);

@@ -100,8 +100,9 @@ void frmFotoBig::rescale() {
 
 void frmFotoBig::paint(QPainter& painter) {
     const QRectF screen(QPointF(), QSizeF(twips().size()));
-    painter.fillRect(screen, colors::kNight);
+    painter.fillRect(covered(), colors::kNight);
     if (!photo_.isNull()) {
+        if (covered() != screen) paintSurroundings(painter, covered(), photo_);
         const double units = 1 / (scale() * devicePixelRatio());
         QRectF place(QPointF(), QSizeF(photo_.size()) * units);
         place.moveCenter(screen.center());

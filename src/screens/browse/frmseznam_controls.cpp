@@ -170,7 +170,7 @@ void frmSeznam::showButtonsOfSource() {
 // --- painting
 
 void frmSeznam::paint(QPainter& painter) {
-    ground_.draw(painter, {{0, 0}, twips().size()}, [this](QPainter& ground) { paintGround(ground); });
+    ground_.draw(painter, covered(), [this](QPainter& ground) { paintGround(ground); });
     painter.setPen(Qt::NoPen);
     painter.setBrush(colors::kSelected);
     if (markedRow_ > 0) painter.drawRoundedRect(seznam::rowBar(markedRow_), 90, 90);
@@ -179,9 +179,7 @@ void frmSeznam::paint(QPainter& painter) {
 }
 
 void frmSeznam::paintGround(QPainter& painter) const {
-    const QRect screen({0, 0}, twips().size());
-    painter.fillRect(screen, colors::kNight);
-    app().Pictures.seznam.draw(painter, screen, Fit::Cover);
+    app().Pictures.seznam.compose(painter, covered());
     if (app().Pictures.seznam.isNull()) {
         for (const QRect& plate : {seznam::kHeader, seznam::kSide, seznam::kFoot}) paintPlate(painter, plate);
     }

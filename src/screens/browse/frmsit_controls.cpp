@@ -116,13 +116,13 @@ void frmSit::paintGround(QPainter& painter) const {
     const QRect screen({0, 0}, twips().size());
     const Picture& composite =
         composites_[grid_.isWhole() ? size_t(kGridGroups) : size_t(grid_.group())];
-    painter.fillRect(screen, colors::kNight);
-    (composite.isNull() ? app().Pictures.Sit : composite).draw(painter, screen, Fit::Stretch);
+    app().Pictures.Sit.compose(painter, covered());
+    composite.draw(painter, screen, Fit::Stretch);
     for (const QRect& plate : {sit::kGroupPlate, sit::kBarPlate}) paintPlate(painter, plate);
 }
 
 void frmSit::paint(QPainter& painter) {
-    ground_.draw(painter, {{0, 0}, twips().size()}, [this](QPainter& ground) { paintGround(ground); });
+    ground_.draw(painter, covered(), [this](QPainter& ground) { paintGround(ground); });
     if (!Label1.text().isEmpty()) paintPlate(painter, sit::kNamePlate);
     if (grid_.cell() == 0) return;
     const QRectF cell = QRectF(gridCellRect(grid_.cell())).adjusted(10, 10, -10, -10);

@@ -32,10 +32,8 @@ void paintSheet(QPainter& painter, const QRectF& place) {
     painter.drawRoundedRect(place, kRounding / 2., kRounding / 2.);
 }
 
-void Ground::draw(QPainter& painter, const QRect& place, const std::function<void(QPainter&)>& paint) {
-    const double ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1;
-    const QRect pixels = painter.combinedTransform().mapRect(QRectF(place)).toAlignedRect();
-    const QSize size = (QSizeF(pixels.size()) * ratio).toSize();
+void Ground::draw(QPainter& painter, const QRectF& place, const std::function<void(QPainter&)>& paint) {
+    const QSize size = painter.combinedTransform().mapRect(place).toAlignedRect().size();
     if (size.isEmpty()) return;
     if (kept_.size() != size) {
         QImage image(size, QImage::Format_RGB32);

@@ -21,7 +21,7 @@ class Ground {
   public:
     /// Draws into \a place what \a paint paints, which is asked again only for another size or after
     /// forget().
-    void draw(QPainter& painter, const QRect& place, const std::function<void(QPainter&)>& paint);
+    void draw(QPainter& painter, const QRectF& place, const std::function<void(QPainter&)>& paint);
     void forget() { kept_ = Picture(); }
 
   private:

@@ -99,17 +99,19 @@ void BarForm::barClicked(int button) {
 }
 
 void BarForm::paintGround(QPainter& painter) {
-    const QRect all({0, 0}, twips().size());
-    painter.fillRect(all, colors::kTeal);
-    app().Pictures.seznam.draw(painter, all, Fit::Cover);
+    paintRoom(painter, app().Pictures.stranka);
 }
 
 void BarForm::paint(QPainter& painter) {
     paintGround(painter);
-    painter.fillRect(QRect(0, 0, twips().width(), kTitle.bottom() + 60), colors::kTeal);
-    painter.fillRect(QRect(0, kBar.y() - 105, twips().width(), twips().height()), colors::kTeal);
-    painter.fillRect(QRect(0, kTitle.bottom() + 60, twips().width(), 30), colors::kCopper);
-    painter.fillRect(QRect(0, kBar.y() - 135, twips().width(), 30), colors::kCopper);
+    const QRectF all = covered();
+    const auto band = [&](double top, double bottom, QColor color) {
+        painter.fillRect(QRectF(QPointF(all.left(), top), QPointF(all.right(), bottom)), color);
+    };
+    band(all.top(), kTitle.bottom() + 60, colors::kTeal);
+    band(kBar.y() - 105, all.bottom(), colors::kTeal);
+    band(kTitle.bottom() + 60, kTitle.bottom() + 90, colors::kCopper);
+    band(kBar.y() - 135, kBar.y() - 105, colors::kCopper);
 }
 
 void paintPaper(QPainter& painter, const QRect& place) {

@@ -228,9 +228,7 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
 }
 
 void frmHlavni::paint(QPainter& painter) {
-    const QRect screen(0, 0, Stage::kWidth, Stage::kHeight);
-    painter.fillRect(screen, colors::kNight);
-    app().Pictures.hlavni.draw(painter, screen, Fit::Stretch);
+    paintRoom(painter, app().Pictures.hlavni);
     if (current_ < 0 || shownFrame_ == 0) return;
     const auto& pictures = frames(current_);
     if (size_t(shownFrame_) <= pictures.size())

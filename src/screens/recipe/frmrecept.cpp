@@ -132,7 +132,7 @@ void frmRecept::loadRecipe(std::int16_t id) {
     recipe_.row.setIndex(QStringLiteral("primarykey"));
     recipe_.row.Seek(QStringLiteral("="), id);
     if (recipe_.row.NoMatch()) recipe_.row.Close();
-    ground_ = app().mediaPicture(QStringLiteral("foto\\Podklad\\r%1.bmp").arg(id));
+    ground_ = Room(app().mediaPicture(QStringLiteral("foto\\Podklad\\r%1.bmp").arg(id)));
     if (ground_.isNull()) ground_ = app().Pictures.recept;
     recipe_.photo = app().mediaPicture(QStringLiteral("foto\\Velke\\r%1.bmp").arg(id));
     recipe_.portions = Portions(recipe_.row.field(QStringLiteral("Porce")).toInt());
@@ -263,18 +263,15 @@ QString frmRecept::collectedText() {
 }
 
 void frmRecept::paint(QPainter& painter) {
-    const QRect all({0, 0}, twips().size());
-    if (ground_.isNull())
-        painter.fillRect(all, colors::kTeal);
-    else
-        ground_.draw(painter, all, Fit::Cover);
+    paintRoom(painter, ground_);
     QColor band = colors::kTeal, shadow = colors::kNight;
     band.setAlpha(215);
     shadow.setAlpha(225);
-    app().resources().picture(QStringLiteral("ZAHLAVI")).draw(painter, recipelayout::kHeader, Fit::Cover);
-    painter.fillRect(recipelayout::kHeader, band);
-    painter.fillRect(0, recipelayout::kHeader.bottom() - 30, recipelayout::kHeader.width(), 30,
-                     colors::kCopper);
+    const QRectF all = covered();
+    const QRectF header(all.topLeft(), QPointF(all.right(), recipelayout::kHeader.bottom()));
+    app().resources().picture(QStringLiteral("ZAHLAVI")).draw(painter, header, Fit::Cover);
+    painter.fillRect(header, band);
+    painter.fillRect(QRectF(all.left(), header.bottom() - 30, all.width(), 30), colors::kCopper);
     painter.setPen(QPen(colors::kCopper, 30));
     painter.setBrush(shadow);
     painter.drawRoundedRect(recipelayout::kSections, 120, 120);

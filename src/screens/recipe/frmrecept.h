@@ -82,7 +82,7 @@ class frmRecept : public Form {
     ShownRecipe recipe_;
     std::vector<std::unique_ptr<RecipeSection>> sections_;
     int section_ = 0;
-    Picture ground_;
+    Room ground_;
 
     Label* title_;
     Buttons sectionButtons_, bar_;

@@ -1,0 +1,93 @@
+#include "forms/room.h"
+
+#include <QPainter>
+#include <QPixmap>
+
+#include "forms/colors.h"
+#include "forms/stage.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kBlurred = 24;       // pixels across that are left of blurred surroundings
+constexpr int kShade = 110;        // of the surroundings, of 255
+constexpr double kHair = 1. / 64;  // less than this is no rest of the display
+
+QRectF designArea() {
+    return {0, 0, Stage::kWidth, Stage::kHeight};
+}
+
+void drawWhole(QPainter& painter, const QRectF& place, const Picture& picture) {
+    const QSize pixels = painter.transform().mapRect(place).toAlignedRect().size();
+    painter.drawImage(place, picture.scaled(pixels));
+}
+
+}  // namespace
+
+void paintSurroundings(QPainter& painter, const QRectF& covered, const QImage& picture) {
+    const QImage few = picture.scaled(kBlurred, kBlurred * 3 / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    painter.save();
+    painter.setClipRect(covered, Qt::IntersectClip);
+    painter.drawImage(Picture::fitted(picture.size(), covered, Fit::Cover), few);
+    QColor shade = colors::kNight;
+    shade.setAlpha(kShade);
+    painter.fillRect(covered, shade);
+    painter.restore();
+}
+
+/// The pictures, and the room as it was last drawn.
+struct Room::Parts {
+    Picture design, wide;
+    QPixmap composed;
+    QRectF covered;
+};
+
+Room::Room(Picture design, Picture wide) {
+    if (design.isNull() && wide.isNull()) return;
+    parts_ = std::make_shared<Parts>();
+    parts_->design = std::move(design);
+    parts_->wide = std::move(wide);
+}
+
+Picture Room::design() const {
+    return parts_ ? parts_->design : Picture();
+}
+
+QRectF Room::widePlace(QSizeF picture) {
+    const double width = Stage::kHeight * picture.width() / picture.height();
+    return {(Stage::kWidth - width) / 2, 0, width, Stage::kHeight};
+}
+
+void Room::compose(QPainter& painter, const QRectF& covered) const {
+    if (!parts_) return painter.fillRect(covered, colors::kNight);
+    const bool useWide = parts_->design.isNull() || (!parts_->wide.isNull() && covered != designArea());
+    const Picture& picture = useWide ? parts_->wide : parts_->design;
+    const QRectF place = useWide ? widePlace(picture.size()) : designArea();
+    if (!place.adjusted(-kHair, -kHair, kHair, kHair).contains(covered))
+        paintSurroundings(painter, covered, picture.scaled({kBlurred * 4, kBlurred * 3}));
+    drawWhole(painter, place, picture);
+}
+
+void Room::draw(QPainter& painter, const QRectF& covered) const {
+    const QRect pixels = painter.combinedTransform().mapRect(covered).toAlignedRect();
+    if (!parts_ || pixels.isEmpty()) return painter.fillRect(covered, colors::kNight);
+    if (parts_->composed.size() != pixels.size() || parts_->covered != covered) {
+        QImage image(pixels.size(), QImage::Format_RGB32);
+        image.fill(colors::kNight);
+        QPainter inside(&image);
+        inside.setRenderHints(QPainter::SmoothPixmapTransform);
+        inside.scale(pixels.width() / covered.width(), pixels.height() / covered.height());
+        inside.translate(-covered.topLeft());
+        compose(inside, covered);
+        inside.end();
+        parts_->covered = covered;
+        parts_->composed = QPixmap::fromImage(std::move(image));
+    }
+    painter.save();
+    painter.setWorldTransform(QTransform());
+    painter.drawPixmap(painter.combinedTransform().inverted().mapRect(QRectF(pixels)), parts_->composed,
+                       QRectF(QPointF(), pixels.size()));
+    painter.restore();
+}
+
+}  // namespace sarne

@@ -1,0 +1,97 @@
+#include "forms/room.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QPainter>
+#include <QMouseEvent>
+#include <QTest>
+
+#include "forms/control.h"
+#include "support/fakesarne.h"
+
+namespace sarne {
+namespace {
+
+QImage plain(QSize size, QColor color) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(color);
+    return image;
+}
+
+/// A wide ground whose design area is red and whose sides are green.
+Picture wideGround() {
+    QImage image = plain({336, 144}, Qt::green);
+    for (int y = 0; y < 144; ++y) {
+        for (int x = 72; x < 264; ++x) image.setPixelColor(x, y, Qt::red);
+    }
+    return Picture::fromImage(image);
+}
+
+/// A full-screen form that paints a room and remembers where it was clicked.
+class RoomForm final : public Form {
+  public:
+    RoomForm(basSarne& run, Room room) : Form(run, QStringLiteral("frmRoom")), room_(std::move(room)) {}
+    QPoint clicked;
+    QRectF all() const { return covered(); }
+
+  protected:
+    void paint(QPainter& painter) override { paintRoom(painter, room_); }
+    void mousePressEvent(QMouseEvent* event) override { clicked = toTwips(event->position()); }
+
+  private:
+    Room room_;
+};
+
+class RoomTest : public testing::Test {
+  protected:
+    QImage shot(const Room& room, QSize window) {
+        run.window.resize(window);
+        form = new RoomForm(run, room);
+        control = new Control(*form, QStringLiteral("thing"));
+        control->place({6000, 4500, 600, 600});
+        form->showForm();
+        QApplication::processEvents();
+        return run.window.grab().toImage();
+    }
+    static QColor at(const QImage& image, int x, int y) { return image.pixelColor(x, y); }
+
+    FakeSarne run;
+    RoomForm* form = nullptr;
+    Control* control = nullptr;
+};
+
+TEST_F(RoomTest, AWideGroundFillsTheDisplayAndItsMiddleIsTheDesignArea) {
+    const QImage image = shot(Room(Picture::fromImage(plain({160, 120}, Qt::blue)), wideGround()), {1920, 1080});
+    EXPECT_EQ(at(image, 3, 500), QColor(Qt::green));
+    EXPECT_EQ(at(image, 1917, 500), QColor(Qt::green));
+    EXPECT_EQ(at(image, 246, 5), QColor(Qt::red));
+    EXPECT_EQ(at(image, 1673, 1074), QColor(Qt::red));
+    EXPECT_EQ(control->mapTo(&run.window, QPoint()), QPoint(960, 540)) << "the design stays in the middle";
+
+    QTest::mouseClick(form, Qt::LeftButton, {}, {10, 540});
+    EXPECT_EQ(form->clicked, QPoint(-2084, 4500)) << "the side belongs to the form";
+    EXPECT_NEAR(form->all().left(), -2000, 1);
+    EXPECT_NEAR(form->all().width(), 16000, 1);
+}
+
+TEST_F(RoomTest, AtTheDesignsOwnShapeTheDesignPictureIsDrawn) {
+    const QImage image = shot(Room(Picture::fromImage(plain({160, 120}, Qt::blue)), wideGround()), {800, 600});
+    EXPECT_EQ(at(image, 0, 0), QColor(Qt::blue));
+    EXPECT_EQ(at(image, 799, 599), QColor(Qt::blue));
+}
+
+TEST_F(RoomTest, WithoutAWidePictureTheRestIsNeverBlack) {
+    for (const QSize& window : {QSize(1920, 1080), QSize(1280, 1024), QSize(3440, 1440), QSize(600, 900)}) {
+        const QImage image = shot(Room(Picture::fromImage(plain({160, 120}, QColor(200, 100, 50)))), window);
+        for (const QPoint& corner : {QPoint(0, 0), QPoint(window.width() - 1, window.height() - 1)})
+            EXPECT_GT(image.pixelColor(corner).red(), 60) << window.width();
+        EXPECT_EQ(image.pixelColor(window.width() / 2, window.height() / 2).red(), 200);
+        form->unload();
+        QApplication::sendPostedEvents(form, QEvent::DeferredDelete);
+    }
+    shot(Room(), {1920, 1080});  // an empty room is no reason to fail
+}
+
+}  // namespace
+}  // namespace sarne
