@@ -30,7 +30,8 @@ Picture widePicture(const basSarne& run, QStringView name) {
 
 frmSplash::frmSplash(Program& program) : Form(program, QStringLiteral("frmSplash")), program_(program) {
     Room& room = app().Pictures.uvod;
-    if (room.isNull()) room = Room(app().resources().picture(QStringLiteral("uvod")), widePicture(app(), u"uvod"));
+    if (room.isNull())
+        room = Room(app().resources().picture(QStringLiteral("uvod")), widePicture(app(), u"uvod"));
 }
 
 frmSplash::~frmSplash() = default;

@@ -13,8 +13,8 @@
 
 namespace {
 
-/// The running program, for the one moment at which nobody can hand it over: the window system's connection breaks,
-/// and its library ends the process.
+/// The running program, for the one moment at which nobody can hand it over: the window system's connection
+/// breaks, and its library ends the process.
 sarne::Program* running = nullptr;
 
 /// Covers the display with \a stage, now and whenever the display's mode changes. Where no window manager

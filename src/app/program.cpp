@@ -25,7 +25,11 @@ bool isShowSwitch(const QString& commandLine) {
 }
 
 Program::Program(const PlatformParts& platform, Folders folders)
-    : platform_(platform), folders_(std::move(folders)), userFile_(folders_.userData + QStringLiteral("/vlastni.db")), stage_(std::make_unique<Stage>()), screens_(*this) {
+    : platform_(platform),
+      folders_(std::move(folders)),
+      userFile_(folders_.userData + QStringLiteral("/vlastni.db")),
+      stage_(std::make_unique<Stage>()),
+      screens_(*this) {
     if (platform_.makeAnnouncer) announcer_ = platform_.makeAnnouncer(*stage_);
     connect(stage_.get(), &Stage::closeRequested, this, [this] {
         if (Form* form = stage_->modalForm() ? stage_->modalForm() : FormStack.top()) form->closeRequested();

@@ -30,8 +30,8 @@ class Program final : public QObject, public basSarne {
 
     /// Keeps what was typed on any screen and is not stored.
     void keepUnsaved();
-    /// Ends the run without a question, as the system demands it: words typed and not stored are kept, the display
-    /// is restored.
+    /// Ends the run without a question, as the system demands it: words typed and not stored are kept, the
+    /// display is restored.
     void endAtOnce();
 
     /// Whether the user has ended the program.

@@ -14,12 +14,12 @@ class LogicalPaths {
 
     /// \a drives maps upper-case drive letters to folders of this machine ("D" to "/media/disc").
     explicit LogicalPaths(Drives drives = {}) : drives_(std::move(drives)) {}
-    /// \a find says which drives there are now; asked at the start, and again when a letter leads nowhere, so that
-    /// a disc that is put in later is found.
+    /// \a find says which drives there are now; asked at the start, and again when a letter leads nowhere, so
+    /// that a disc that is put in later is found.
     explicit LogicalPaths(std::function<Drives()> find) : find_(std::move(find)), drives_(find_()) {}
 
-    /// Gives the folder of this machine \a folder, which a logical path could not name, a free drive letter. Returns
-    /// the drive's root ("Z:\\").
+    /// Gives the folder of this machine \a folder, which a logical path could not name, a free drive letter.
+    /// Returns the drive's root ("Z:\\").
     QString mapFolder(const QString& folder);
 
     /// The file or folder that \a logical names, as a native path. Each part is found whatever the case of

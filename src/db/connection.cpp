@@ -48,7 +48,8 @@ void registerCzech(sqlite3* db) {
 }  // namespace
 
 Connection::Connection(const QString& file)
-    : db_(std::make_unique<SQLite::Database>(file.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)) {
+    : db_(std::make_unique<SQLite::Database>(file.toStdString(),
+                                             SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)) {
     registerCzech(db_->getHandle());
     db_->setBusyTimeout(2000);
     // A note that was stored must survive a power cut: the journal and its folder are synced with every

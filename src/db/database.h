@@ -28,8 +28,8 @@ class Database {
     bool isOpen() const;
     /// Whether every page of the open file reads as it was written.
     bool isSound();
-    /// Brings the open file to the version that \a steps end in: runs the statements of every step it lacks, all
-    /// or none of them. A file of a later version stays as it is.
+    /// Brings the open file to the version that \a steps end in: runs the statements of every step it lacks,
+    /// all or none of them. A file of a later version stays as it is.
     bool makeTables(const QList<QStringList>& steps);
     void Close();
 

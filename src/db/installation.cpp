@@ -50,7 +50,8 @@ bool isSoundBook(const QString& file) {
            db.OpenTable(QStringLiteral("Nastav")).isOpen();
 }
 
-/// Keeps a copy of \a file, which is left where it is, under a dated name. Returns that; empty when it cannot be.
+/// Keeps a copy of \a file, which is left where it is, under a dated name. Returns that; empty when it cannot
+/// be.
 QString keepAside(const QString& file) {
     const QString name = keptAsideName(file);
     return QFile::copy(file, name) ? name : QString();
@@ -83,8 +84,8 @@ std::vector<QVariant> keys(Database& db, const QString& table) {
     return found;
 }
 
-/// Writes \a field of the row \a key of one table into the same row of another where it differs. False when it
-/// could not be written; a row that is missing or null writes nothing.
+/// Writes \a field of the row \a key of one table into the same row of another where it differs. False when
+/// it could not be written; a row that is missing or null writes nothing.
 bool carryField(Recordset& source, Recordset& target, const QVariant& key, const QString& field) {
     if (!RecordExists(source, key) || !RecordExists(target, key)) return true;
     const QVariant value = source.field(field);

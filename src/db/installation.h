@@ -9,15 +9,16 @@ namespace sarne {
 
 /// The recipe database that a run works on, and what became of an older copy of the user's.
 struct RecipeDatabase {
-    QString file;       ///< native path
-    QString keptAside;  ///< where an own copy went that was damaged; else empty
+    QString file;                    ///< native path
+    QString keptAside;               ///< where an own copy went that was damaged; else empty
     std::vector<KeptNote> homeless;  ///< notes of an older copy whose recipes the newer one does not have
 };
 
 /// Which recipe database a run works on: \a shipped, the file beside the program, where that can be written;
-/// otherwise \a ownCopy, made from it on first use and made anew, with the user's notes and switches carried over,
-/// when the shipped file has other contents than it had, or when the copy is damaged. An own copy that is not
-/// wholly readable is kept beside the new one under a dated name. Where no sound copy can be had, \a shipped.
+/// otherwise \a ownCopy, made from it on first use and made anew, with the user's notes and switches carried
+/// over, when the shipped file has other contents than it had, or when the copy is damaged. An own copy that
+/// is not wholly readable is kept beside the new one under a dated name. Where no sound copy can be had, \a
+/// shipped.
 RecipeDatabase usableRecipeDatabase(const QString& shipped, const QString& ownCopy);
 
 /// What was carried from one recipe database to another.
@@ -26,8 +27,8 @@ struct CarriedData {
     std::vector<KeptNote> homeless;
 };
 
-/// Copies the user's notes and switches from one recipe database to another, each by its key, so that one row that
-/// cannot be read costs no other.
+/// Copies the user's notes and switches from one recipe database to another, each by its key, so that one row
+/// that cannot be read costs no other.
 CarriedData carryOverUserData(const QString& from, const QString& to);
 
 }  // namespace sarne

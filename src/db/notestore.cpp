@@ -21,7 +21,8 @@ QHash<QString, int> recipesByName(Database& book) {
     return ids;
 }
 
-/// Makes the recipe that \a note belongs to the current row of \a recipes; \a byName is filled when first needed.
+/// Makes the recipe that \a note belongs to the current row of \a recipes; \a byName is filled when first
+/// needed.
 bool findRecipe(Database& book, Recordset& recipes, const KeptNote& note, QHash<QString, int>& byName) {
     if (RecordExists(recipes, note.recipe) && recipes.field(kName) == note.name) return true;
     if (byName.isEmpty()) byName = recipesByName(book);
@@ -37,7 +38,8 @@ bool NoteStore::keep(const KeptNote& note) {
 std::vector<KeptNote> NoteStore::all() {
     std::vector<KeptNote> notes;
     for (Recordset rows = file_.forReading().OpenTable(kNotes); !rows.AtEnd(); rows.MoveNext())
-        notes.push_back({rows.field(kId).toInt(), rows.field(kName).toString(), rows.field(kText).toString()});
+        notes.push_back(
+            {rows.field(kId).toInt(), rows.field(kName).toString(), rows.field(kText).toString()});
     return notes;
 }
 

@@ -10,23 +10,23 @@ namespace sarne {
 class Database;
 class UserFile;
 
-/// A user's own note to a recipe, known by the recipe's number and name, so that it finds its recipe in another
-/// edition of the book, too.
+/// A user's own note to a recipe, known by the recipe's number and name, so that it finds its recipe in
+/// another edition of the book, too.
 struct KeptNote {
     int recipe = 0;
     QString name;
     QString text;
 };
 
-/// The user's notes apart from the book: a copy of each note as it was last stored there, and the words that could
-/// not be stored. Nothing throws.
+/// The user's notes apart from the book: a copy of each note as it was last stored there, and the words that
+/// could not be stored. Nothing throws.
 class NoteStore {
   public:
     /// Keeps in \a file, which outlives this object.
     explicit NoteStore(UserFile& file) : file_(file) {}
 
-    /// Keeps a copy of a note that the book has stored; an empty text says that there is none any more. True when
-    /// it is on the disk.
+    /// Keeps a copy of a note that the book has stored; an empty text says that there is none any more. True
+    /// when it is on the disk.
     bool keep(const KeptNote& note);
     /// All copies, by number.
     std::vector<KeptNote> all();
@@ -44,8 +44,8 @@ class NoteStore {
     QHash<int, QString> unwritten_;
 };
 
-/// Writes into \a book each kept note whose recipe has none there: the recipe with the note's number and name, or
-/// else the one with its name. Returns the notes that found no recipe.
+/// Writes into \a book each kept note whose recipe has none there: the recipe with the note's number and
+/// name, or else the one with its name. Returns the notes that found no recipe.
 std::vector<KeptNote> restoreNotes(Database& book, const std::vector<KeptNote>& notes);
 
 }  // namespace sarne

@@ -12,9 +12,8 @@ namespace sarne {
 /// A query's rows are read when it is opened and stay as they were. A table's row is read when it becomes
 /// current, by its key, so that opening and seeking take as long in a large table as in a small one.
 ///
-/// Nothing here throws: what fails leaves the recordset as it was, or empty; a move onto a row that cannot be read
-/// ends at the end. Fields are found by name,
-/// whatever its case; one that does not exist is null.
+/// Nothing here throws: what fails leaves the recordset as it was, or empty; a move onto a row that cannot be
+/// read ends at the end. Fields are found by name, whatever its case; one that does not exist is null.
 class Recordset {
   public:
     /// A closed recordset: at its end, without rows.

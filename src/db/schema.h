@@ -12,8 +12,8 @@ inline constexpr const char* kCzechCollation = "CESTINA";
 /// were stored.
 QStringList recipeSchema();
 
-/// How the user's own file came to be: the statements of each version, the first one's first. A file of version n
-/// lacks those from n on.
+/// How the user's own file came to be: the statements of each version, the first one's first. A file of
+/// version n lacks those from n on.
 QList<QStringList> userSchema();
 
 /// The statements that make an empty picture database (KOp.bj).

@@ -19,8 +19,8 @@ inline constexpr size_t kSoundSettings = 5;
 /// The switches, as many as the table has.
 std::vector<SoundSetting> readSoundSettings(Database& db);
 
-/// Stores \a on for the first switches, one value each, all of them or none; a row that already says so is not
-/// written. Returns how many rows were written.
+/// Stores \a on for the first switches, one value each, all of them or none; a row that already says so is
+/// not written. Returns how many rows were written.
 int storeSoundSettings(Database& db, const std::vector<bool>& on);
 
 }  // namespace sarne

@@ -12,8 +12,7 @@ namespace sarne {
 QString keptAsideName(const QString& file) {
     const QString dated = file + u'.' + QDate::currentDate().toString(Qt::ISODate);
     QString name = dated;
-    for (int number = 2; QFile::exists(name); ++number)
-        name = dated + QStringLiteral("-%1").arg(number);
+    for (int number = 2; QFile::exists(name); ++number) name = dated + QStringLiteral("-%1").arg(number);
     return name;
 }
 

@@ -6,9 +6,9 @@
 
 namespace sarne {
 
-/// What the user makes beyond the book, in one SQLite file of their own: made when something is first kept, with a
-/// version number, every change synced to the disk. A file that is damaged is put aside under a dated name, and a new
-/// one is begun.
+/// What the user makes beyond the book, in one SQLite file of their own: made when something is first kept,
+/// with a version number, every change synced to the disk. A file that is damaged is put aside under a dated
+/// name, and a new one is begun.
 class UserFile {
   public:
     /// The native path \a file, whose folder is made when needed. An empty one can never be opened.
@@ -21,7 +21,8 @@ class UserFile {
     /// The open file for writing, made where there was none; closed where that cannot be.
     Database& forWriting();
 
-    /// Stores one row of \a table under its key: \a fields by name, the key among them. True when it is on the disk.
+    /// Stores one row of \a table under its key: \a fields by name, the key among them. True when it is on
+    /// the disk.
     bool store(const QString& table, const QString& keyName, const QHash<QString, QVariant>& fields);
 
     /// A small text kept under a name; empty when there is none.
@@ -35,7 +36,8 @@ class UserFile {
     Database db_;
 };
 
-/// A free name beside \a file for a copy of it that is kept: "Sarne.drc.2026-11-21", numbered when that exists.
+/// A free name beside \a file for a copy of it that is kept: "Sarne.drc.2026-11-21", numbered when that
+/// exists.
 QString keptAsideName(const QString& file);
 
 }  // namespace sarne

@@ -26,8 +26,8 @@ enum class KeepEnabled { No, Yes };
 /// The switches of the settings table, by their index in SoundFlags.
 enum SoundSwitch { kEffects = 0, kMusic = 1, kSpokenNames = 2, kVideoSound = 3, kWineSounds = 4 };
 
-/// The grounds of the screens: of the main ones from the picture database, and wider ones from the folder "siroke"
-/// beside it.
+/// The grounds of the screens: of the main ones from the picture database, and wider ones from the folder
+/// "siroke" beside it.
 struct ScreenPictures {
     Room hlavni, Sit, recept, seznam, video, konec;
     Room uvod;     ///< of the splash

@@ -25,7 +25,8 @@ void drawWhole(QPainter& painter, const QRectF& place, const Picture& picture) {
 }  // namespace
 
 void paintSurroundings(QPainter& painter, const QRectF& covered, const QImage& picture) {
-    const QImage few = picture.scaled(kBlurred, kBlurred * 3 / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage few =
+        picture.scaled(kBlurred, kBlurred * 3 / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     painter.save();
     painter.setClipRect(covered, Qt::IntersectClip);
     painter.drawImage(Picture::fitted(picture.size(), covered, Fit::Cover), few);

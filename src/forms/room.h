@@ -7,9 +7,9 @@
 
 namespace sarne {
 
-/// The ground of a full screen: a picture of the design area, and one of the same place that goes on around it, whose
-/// middle, at full height, is the design area. Where only the first is there, the display's rest shows its own
-/// surroundings, blurred and darkened. Copies share what was composed.
+/// The ground of a full screen: a picture of the design area, and one of the same place that goes on around
+/// it, whose middle, at full height, is the design area. Where only the first is there, the display's rest
+/// shows its own surroundings, blurred and darkened. Copies share what was composed.
 class Room {
   public:
     Room() = default;
@@ -20,8 +20,8 @@ class Room {
     /// The picture of the design area alone.
     Picture design() const;
 
-    /// Draws the room into \a covered, which contains the design area (twips), and keeps what it has composed until
-    /// it is drawn into another. An empty room is plain night.
+    /// Draws the room into \a covered, which contains the design area (twips), and keeps what it has composed
+    /// until it is drawn into another. An empty room is plain night.
     void draw(QPainter& painter, const QRectF& covered) const;
     /// The same without keeping anything: for those who keep what they paint.
     void compose(QPainter& painter, const QRectF& covered) const;
@@ -33,7 +33,8 @@ class Room {
     std::shared_ptr<Parts> parts_;
 };
 
-/// Fills \a covered with \a picture, blurred and darkened: what is round a picture that does not fill the display.
+/// Fills \a covered with \a picture, blurred and darkened: what is round a picture that does not fill the
+/// display.
 void paintSurroundings(QPainter& painter, const QRectF& covered, const QImage& picture);
 
 }  // namespace sarne

@@ -29,8 +29,9 @@ void TwipWidget::rescale() {
     exactOrigin_ = parentExact + QPointF(twips_.topLeft()) * scale_;
     const QPoint first = exactOrigin_.toPoint();
     const QPoint end = (exactOrigin_ + QPointF(twips_.width(), twips_.height()) * scale_).toPoint();
-    const QRect pixels = stage && fillsWindow() ? stage->rect()
-                                                : QRect(first, QSize(end.x() - first.x(), end.y() - first.y()));
+    const QRect pixels = stage && fillsWindow()
+                             ? stage->rect()
+                             : QRect(first, QSize(end.x() - first.x(), end.y() - first.y()));
     pixelOrigin_ = pixels.topLeft();
     setGeometry(pixels.translated(-parentPixel));
     for (QObject* child : children()) {

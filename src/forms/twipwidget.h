@@ -32,7 +32,8 @@ class TwipWidget : public QWidget {
 
     /// Paints with one unit a twip; 0, 0 is the upper left corner of this widget's place.
     virtual void paint(QPainter& painter);
-    /// Whether the widget covers the whole window, beyond its place to all sides. Its twips stay where they are.
+    /// Whether the widget covers the whole window, beyond its place to all sides. Its twips stay where they
+    /// are.
     virtual bool fillsWindow() const { return false; }
     /// What this widget covers, in its twips: its place, or more where it fills the window.
     QRectF covered() const;

@@ -23,8 +23,8 @@ class DisplayModes {
 };
 
 /// The display that the program shows on. On X11 a helper process switches its mode by XRandR, and switches
-/// back when this process ends without having done so, even by a crash; elsewhere the mode stays. A helper that is
-/// gone is replaced, one that hangs is waited for seconds only. The destructor restores.
+/// back when this process ends without having done so, even by a crash; elsewhere the mode stays. A helper
+/// that is gone is replaced, one that hangs is waited for seconds only. The destructor restores.
 class SystemDisplayModes final : public DisplayModes {
   public:
     /// \a helper is the helper's executable, empty for "sarne-obnov" beside the program; without it no mode

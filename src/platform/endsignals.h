@@ -5,8 +5,8 @@
 
 namespace sarne {
 
-/// Tells, in the event loop, that the system wants the program to end: SIGTERM, SIGINT or SIGHUP. One object at a
-/// time; while it lives these signals do not kill the process.
+/// Tells, in the event loop, that the system wants the program to end: SIGTERM, SIGINT or SIGHUP. One object
+/// at a time; while it lives these signals do not kill the process.
 class EndSignals final : public QObject {
     Q_OBJECT
   public:

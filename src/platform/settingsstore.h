@@ -20,15 +20,17 @@ class SettingsStore {
 /// whose file has a text under the key is the one that counts, for each key by itself.
 class SystemSettingsStore final : public SettingsStore {
   public:
-    /// \a levels are folders, the strongest first; \a session is a file that comes before them all and holds for
-    /// one run only.
+    /// \a levels are folders, the strongest first; \a session is a file that comes before them all and holds
+    /// for one run only.
     explicit SystemSettingsStore(QStringList levels = defaultLevels(), QString session = sessionFile());
 
     QString value(const QString& organisation, const QString& application, const QString& key) const override;
 
-    /// The user's folder, the system's folders in their order, and the folder that the program brought with it.
+    /// The user's folder, the system's folders in their order, and the folder that the program brought with
+    /// it.
     static QStringList defaultLevels();
-    /// The file that whoever started this run has named in the environment (VELISA_SARN_NASTAVENI); else empty.
+    /// The file that whoever started this run has named in the environment (VELISA_SARN_NASTAVENI); else
+    /// empty.
     static QString sessionFile();
 
   private:
@@ -36,10 +38,10 @@ class SystemSettingsStore final : public SettingsStore {
     QString session_;
 };
 
-/// The texts of one settings file: lines "Key=text", below a line "[Fold]" with "Fold/" before the key; the fold
-/// "General" is none. A text is taken as it stands, commas, semicolons and backslashes included, except that
-/// two backslashes are one; in quotation marks it may begin or end with a blank and contain \". Lines that begin
-/// with "#" or ";" say nothing. Empty when \a file cannot be read.
+/// The texts of one settings file: lines "Key=text", below a line "[Fold]" with "Fold/" before the key; the
+/// fold "General" is none. A text is taken as it stands, commas, semicolons and backslashes included, except
+/// that two backslashes are one; in quotation marks it may begin or end with a blank and contain \". Lines
+/// that begin with "#" or ";" say nothing. Empty when \a file cannot be read.
 QHash<QString, QString> readSettingsFile(const QString& file);
 
 /// Where the cookbook's settings lie in the store.

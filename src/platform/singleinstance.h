@@ -15,7 +15,8 @@ class SingleInstance {
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
 
-    /// False when another process holds the lock. Where the file cannot be made or locked, nobody can hold it: true.
+    /// False when another process holds the lock. Where the file cannot be made or locked, nobody can hold
+    /// it: true.
     bool isFirst() const { return first_; }
 
     /// A file of the user's in the session's runtime folder.

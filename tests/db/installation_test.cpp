@@ -125,7 +125,8 @@ class DamagedCopyTest : public InstallationTest {
         QStringList rows{QStringLiteral("INSERT INTO Nastav VALUES (1,'Hudba',1)")};
         for (int id = 1; id <= 50; ++id)
             rows << QStringLiteral("INSERT INTO Recepty (ID,Nazev,Recept) VALUES (%1,'Kapr %1','%2')")
-                        .arg(id).arg(QString(3000, u'x'));
+                        .arg(id)
+                        .arg(QString(3000, u'x'));
         test::writeRecipeDatabase(shipped, rows);
         protectProgramFolder();
         ASSERT_EQ(asOrdinaryUser([&] {

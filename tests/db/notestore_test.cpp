@@ -61,7 +61,8 @@ TEST_F(NoteStoreTest, ADamagedFileIsPutAsideAndANewOneBegun) {
     EXPECT_EQ(file.value(QStringLiteral("a")), QString());
     EXPECT_TRUE(file.setValue(QStringLiteral("a"), QStringLiteral("1")));
     EXPECT_EQ(file.value(QStringLiteral("a")), QStringLiteral("1"));
-    EXPECT_EQ(QDir(folder.filePath(QStringLiteral("data"))).entryList({QStringLiteral("vlastni.db.2*")}).size(), 1);
+    EXPECT_EQ(
+        QDir(folder.filePath(QStringLiteral("data"))).entryList({QStringLiteral("vlastni.db.2*")}).size(), 1);
 }
 
 TEST_F(NoteStoreTest, NotesComeBackToTheirRecipesInAnotherEdition) {
@@ -83,7 +84,8 @@ TEST_F(NoteStoreTest, NotesComeBackToTheirRecipesInAnotherEdition) {
     QStringList own;
     for (Recordset rows = db.OpenTable(QStringLiteral("Recepty")); !rows.AtEnd(); rows.MoveNext())
         own << rows.field(QStringLiteral("Vlastni")).toString();
-    EXPECT_EQ(own, (QStringList{QStringLiteral("a"), QStringLiteral("b"), QString(), QStringLiteral("nová")}));
+    EXPECT_EQ(own,
+              (QStringList{QStringLiteral("a"), QStringLiteral("b"), QString(), QStringLiteral("nová")}));
 }
 
 }  // namespace

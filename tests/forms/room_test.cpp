@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QPainter>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QTest>
 
 #include "forms/control.h"
@@ -62,7 +62,8 @@ class RoomTest : public testing::Test {
 };
 
 TEST_F(RoomTest, AWideGroundFillsTheDisplayAndItsMiddleIsTheDesignArea) {
-    const QImage image = shot(Room(Picture::fromImage(plain({160, 120}, Qt::blue)), wideGround()), {1920, 1080});
+    const QImage image =
+        shot(Room(Picture::fromImage(plain({160, 120}, Qt::blue)), wideGround()), {1920, 1080});
     EXPECT_EQ(at(image, 3, 500), QColor(Qt::green));
     EXPECT_EQ(at(image, 1917, 500), QColor(Qt::green));
     EXPECT_EQ(at(image, 246, 5), QColor(Qt::red));
@@ -76,7 +77,8 @@ TEST_F(RoomTest, AWideGroundFillsTheDisplayAndItsMiddleIsTheDesignArea) {
 }
 
 TEST_F(RoomTest, AtTheDesignsOwnShapeTheDesignPictureIsDrawn) {
-    const QImage image = shot(Room(Picture::fromImage(plain({160, 120}, Qt::blue)), wideGround()), {800, 600});
+    const QImage image =
+        shot(Room(Picture::fromImage(plain({160, 120}, Qt::blue)), wideGround()), {800, 600});
     EXPECT_EQ(at(image, 0, 0), QColor(Qt::blue));
     EXPECT_EQ(at(image, 799, 599), QColor(Qt::blue));
 }

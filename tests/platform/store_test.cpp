@@ -25,10 +25,10 @@ class SettingsStoreTest : public testing::Test {
         file.write(content);
     }
     QString read(const char* key, const QString& session = {}) {
-        const SystemSettingsStore store({folder.filePath(QStringLiteral("user")), folder.filePath(QStringLiteral("xdg1")),
-                                         folder.filePath(QStringLiteral("xdg2")),
-                                         folder.filePath(QStringLiteral("own"))},
-                                        session);
+        const SystemSettingsStore store(
+            {folder.filePath(QStringLiteral("user")), folder.filePath(QStringLiteral("xdg1")),
+             folder.filePath(QStringLiteral("xdg2")), folder.filePath(QStringLiteral("own"))},
+            session);
         return readAppPathValue(store, QLatin1String(key));
     }
 
@@ -55,7 +55,8 @@ TEST_F(SettingsStoreTest, EachKeyComesFromTheFirstLevelThatHasIt) {
 }
 
 TEST_F(SettingsStoreTest, ATextIsReadBackWhole) {
-    for (const char* text : {"/home/ryby,sladke", "/home/ryby, a  dalsi", "/a;b#c", "/a\\b", "E:\\", "/a=b", "/a\"b"}) {
+    for (const char* text :
+         {"/home/ryby,sladke", "/home/ryby, a  dalsi", "/a;b#c", "/a\\b", "E:\\", "/a=b", "/a\"b"}) {
         write(QStringLiteral("user"), QByteArray("[General]\nCDPath=") + text + "\n");
         EXPECT_EQ(read("CDPath"), QLatin1String(text));
         const QByteArray escaped = QByteArray(text).replace("\\", "\\\\").replace("\"", "\\\"");

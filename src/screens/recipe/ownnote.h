@@ -8,8 +8,8 @@
 namespace sarne {
 
 /// The user's own note to a recipe, between the record that keeps it and the editor that shows it. Plain
-/// text. Knows no widget; the editor's content is handed in. Words that cannot be stored are kept as a draft, which
-/// the recipe's note opens with the next time.
+/// text. Knows no widget; the editor's content is handed in. Words that cannot be stored are kept as a draft,
+/// which the recipe's note opens with the next time.
 class OwnNote {
   public:
     /// How the note is closed, by the index of the button that does it.
@@ -25,7 +25,8 @@ class OwnNote {
 
     /// The note as it is stored; empty when there is none.
     QString stored() const;
-    /// Opens the note and returns what the editor is to show: the draft, which counts as changed, or what is stored.
+    /// Opens the note and returns what the editor is to show: the draft, which counts as changed, or what is
+    /// stored.
     QString open();
     /// The user has typed.
     void changed();
