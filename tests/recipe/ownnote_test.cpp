@@ -12,10 +12,10 @@ namespace {
 class OwnNoteTest : public testing::Test {
   protected:
     void SetUp() override {
-        const QString file = folder.filePath(QStringLiteral("Sarne.drc"));
+        const QString book = folder.filePath(QStringLiteral("Sarne.drc"));
         test::writeRecipeDatabase(
-            file, {QStringLiteral("INSERT INTO Recepty (ID,Nazev,Vlastni) VALUES (5,'Kapr','stará')")});
-        ASSERT_TRUE(db.Open(file));
+            book, {QStringLiteral("INSERT INTO Recepty (ID,Nazev,Vlastni) VALUES (5,'Kapr','stará')")});
+        ASSERT_TRUE(db.Open(book));
         recipe = db.OpenTable(QStringLiteral("Recepty"));
     }
 
