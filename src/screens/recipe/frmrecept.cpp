@@ -25,7 +25,6 @@ constexpr double kTitleSizes[] = {20, 16, 13};
 
 frmRecept::frmRecept(basSarne& run, Serving& lookedAt, AskNumber ask)
     : Form(run, QStringLiteral("frmRecept")),
-      note_(recipe_, run.notes()),
       title_(new Label(*this, QStringLiteral("lblNazev"))),
       view_(new TextView(*this, QStringLiteral("picRecept"))),
       picture_(new PictureBox(*this, QStringLiteral("picVedle"))) {
