@@ -156,8 +156,8 @@ void Program::keepUnsaved() {
 }
 
 void Program::endAtOnce() {
-    if (ended_) return;
-    ended_ = true;
+    if (Ending) return;
+    Ending = true;
     keepUnsaved();
     db_.Close();
     restoreDisplay();
