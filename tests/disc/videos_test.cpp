@@ -8,7 +8,7 @@
 #include <cmath>
 
 #include "disc/loadcookbook.h"
-#include "disc/sounds/sound.h"
+#include "disc/sounds/voice.h"
 #include "disc/videos/draw.h"
 #include "disc/videos/makevideos.h"
 #include "medialines.h"
@@ -138,6 +138,9 @@ class MakeVideos : public testing::Test {
         write("content/videa/uvod.txt", kScript);
         write("content/zvuky/efekty.txt", "== 0 | cinknutí | 0,5\núder látka=sklo výška=2000 doznění=0,1\n");
         write("content/slovnik.txt", "\n");
+        for (const QString& source : Voices::sources({}))
+            ASSERT_TRUE(QFile::copy(QStringLiteral(SARNE_CONTENT) + source,
+                                    folder_.filePath(QStringLiteral("content")) + source));
     }
 
     void write(const char* file, const std::string& text) {

@@ -65,13 +65,30 @@ void makeMusic(Workshop& shop, const QList<Effect>& effects, const QString& sour
     })});
 }
 
+/// Where a person's own recording of the recipe's name would stand: beside its text.
+QString recordingOf(const Workshop& shop, const Recipe& recipe) {
+    const QFileInfo text(inContent(shop, recipe.place.file));
+    return text.path() + u'/' + text.completeBaseName() + QStringLiteral(".wav");
+}
+
+Task nameTask(Workshop& shop, const Voices& voices, const Recipe& recipe) {
+    const QString file = shop.disc + QStringLiteral("/zvuky/č%1.wav").arg(recipe.id);
+    const QString recording = recordingOf(shop, recipe);
+    const QStringList sources = Voices::sources(shop.content) << recording;
+    return {{file}, originOf(sources, stamp::sounds() + recipe.name), [=, &shop, &voices, &recipe] {
+                const Spoken name = QFile::exists(recording) ? voices.recording(recording)
+                                                             : voices.speak(recipe.name, Speaker::names);
+                if (!name.fault.isEmpty()) shop.problems.error(recipe.place, name.fault);
+                return name.fault.isEmpty() && writeWav(file, name.sound);
+            }};
+}
+
 void makeNames(Workshop& shop) {
+    const Voices voices(shop.content, shop.scratch, shop.problems);
+    if (shop.problems.hasErrors()) return;
+    QDir().mkpath(shop.scratch);
     QList<Task> tasks;
-    for (const Recipe& recipe : shop.book.recipes) {
-        const QString file = shop.disc + QStringLiteral("/zvuky/č%1.wav").arg(recipe.id);
-        tasks << soundTask(file, originOf({}, stamp::sounds() + recipe.name),
-                           [&shop, name = recipe.name] { return speak(name, Pace::name, shop.scratch); });
-    }
+    for (const Recipe& recipe : shop.book.recipes) tasks << nameTask(shop, voices, recipe);
     shop.makeAll(tasks);
 }
 

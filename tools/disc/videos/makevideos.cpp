@@ -40,7 +40,7 @@ QString originOfFilm(const Workshop& shop, const Source& source) {
     const QStringList files{shop.content + u'/' + source.script, shop.content + u'/' + kEffects,
                             shop.art + QStringLiteral("/rendered/pozadi/uvod.jpg"),
                             shop.content + QStringLiteral("/zvuky/hudba.txt")};
-    return originOf(files, stamp::videos() + source.title);
+    return originOf(files + Voices::sources(shop.content), stamp::videos() + source.title);
 }
 
 void proofreadCaptions(const ContentFolder& folder, const QList<Job>& jobs, Problems& problems) {
@@ -68,10 +68,10 @@ QList<Job> staleJobs(Workshop& shop, const ContentFolder& folder) {
     return jobs;
 }
 
-bool make(Job& job, const QList<Effect>& effects, const Workshop& shop) {
+bool make(Job& job, const QList<Effect>& effects, const Voices& voices, const Workshop& shop) {
     QList<FilmFault> faults;
     const Sound sound =
-        makeSoundtrack(job.film, effects, shop.disc + QStringLiteral("/HUDBA.WAV"), shop.scratch, faults);
+        makeSoundtrack(job.film, effects, shop.disc + QStringLiteral("/HUDBA.WAV"), voices, faults);
     for (const FilmFault& fault : faults) shop.problems.error(fault.place, fault.text);
     if (!faults.isEmpty()) return false;
     const QImage ground = drawScene(job.film.scene, shop.art);
@@ -86,10 +86,12 @@ void makeVideos(Workshop& shop) {
     const ContentFolder folder(shop.content, shop.problems);
     QList<Job> jobs = staleJobs(shop, folder);
     const QList<Effect> effects = readEffects(folder.read(kEffects), shop.problems);
+    const Voices voices(shop.content, shop.scratch, shop.problems);
     if (jobs.isEmpty() || shop.problems.hasErrors()) return;
     QDir().mkpath(shop.scratch);
     QList<Task> tasks;
-    for (Job& job : jobs) tasks << Task{{job.file}, job.origin, [&] { return make(job, effects, shop); }};
+    for (Job& job : jobs)
+        tasks << Task{{job.file}, job.origin, [&] { return make(job, effects, voices, shop); }};
     shop.makeAll(tasks);
 }
 

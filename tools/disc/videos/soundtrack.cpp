@@ -2,17 +2,15 @@
 
 #include <algorithm>
 
-#include "../sounds/voice.h"
-
 namespace sarne::disc {
 namespace {
 
-constexpr int kRate = 16000;
+constexpr int kRate = 32000;
 constexpr double kBeforeSpeech = 0.25;
 constexpr double kAfterSpeech = 0.55;
 constexpr double kLongest = 20;
 constexpr double kShortest = 8;
-constexpr double kPeak = -4;
+constexpr double kHighestPeak = -3.3;
 constexpr double kMusicLoudness = -5;
 
 /// Adds \a other from \a seconds on, at its own speed, its channels as one.
@@ -31,13 +29,13 @@ void add(Sound& sound, const Sound& other, double otherFrom, double seconds, dou
 }
 
 /// Speaks the captions and gives the steps their times.
-QList<Sound> speakCaptions(Film& film, const QString& scratch, QList<FilmFault>& faults) {
+QList<Sound> speakCaptions(Film& film, const Voices& voices, QList<FilmFault>& faults) {
     QList<Sound> spoken;
     double time = 0;
     for (Step& step : film.steps) {
-        spoken << speak(step.caption, Pace::caption, scratch);
-        if (spoken.last().samples.empty())
-            faults << FilmFault{step.place, QStringLiteral("espeak-ng titulek nepřečetl")};
+        const Spoken caption = voices.speak(step.caption, Speaker::films);
+        if (!caption.fault.isEmpty()) faults << FilmFault{step.place, caption.fault};
+        spoken << caption.sound;
         const double needed = spoken.last().seconds() + kBeforeSpeech + kAfterSpeech;
         step.begin = time;
         time += std::max(step.seconds, needed);
@@ -64,9 +62,9 @@ void addEffects(const Film& film, const QList<Effect>& effects, Sound& sound, QL
 
 }  // namespace
 
-Sound makeSoundtrack(Film& film, const QList<Effect>& effects, const QString& music, const QString& scratch,
+Sound makeSoundtrack(Film& film, const QList<Effect>& effects, const QString& music, const Voices& voices,
                      QList<FilmFault>& faults) {
-    const QList<Sound> spoken = speakCaptions(film, scratch, faults);
+    const QList<Sound> spoken = speakCaptions(film, voices, faults);
     Sound sound{kRate, 1, std::vector<float>(static_cast<size_t>(film.seconds() * kRate))};
     if (film.music >= 0) {
         add(sound, readWav(music), film.music, 0, fromDecibels(kMusicLoudness));
@@ -74,7 +72,7 @@ Sound makeSoundtrack(Film& film, const QList<Effect>& effects, const QString& mu
     }
     for (int i = 0; i < spoken.size(); ++i) add(sound, spoken[i], 0, film.steps[i].begin + kBeforeSpeech, 1);
     addEffects(film, effects, sound, faults);
-    setPeak(sound, kPeak);
+    if (peakOf(sound) > fromDecibels(kHighestPeak)) setPeak(sound, kHighestPeak);
     return sound;
 }
 

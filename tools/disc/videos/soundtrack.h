@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../sounds/effects.h"
+#include "../sounds/voice.h"
 #include "film.h"
 
 namespace sarne::disc {
@@ -12,8 +13,8 @@ struct FilmFault {
 };
 
 /// Speaks the captions, which gives every step its time, and mixes in the effects and the music. \a music is
-/// the background music's file, \a scratch an existing folder. Faults are appended.
-Sound makeSoundtrack(Film& film, const QList<Effect>& effects, const QString& music, const QString& scratch,
+/// the background music's file. Faults are appended.
+Sound makeSoundtrack(Film& film, const QList<Effect>& effects, const QString& music, const Voices& voices,
                      QList<FilmFault>& faults);
 
 }  // namespace sarne::disc
