@@ -118,11 +118,11 @@ def film():
     with open(os.path.join(folder, "veci.txt"), encoding="utf-8") as f:
         rows = [ln.split() for ln in f if ln.strip() and ln[0] != "#"]
     files = {n for n in os.listdir(folder) if n.endswith(".webp")}
-    for name, file, w, h, x, y, *_ in rows:
+    for name, file, w, h, *numbers in rows:
         if file not in files or size(os.path.join(folder, file)) != (int(w), int(h)):
             yield f"film: {file} is missing or not {w} x {h}"
-        elif not (0 <= int(x) <= int(w) and 0 <= int(y) <= int(h)):
-            yield f"film: the anchor of {name} is outside its picture"
+        elif len(numbers) != 4 or int(numbers[2]) > int(w):
+            yield f"film: the line of {name} is wrong"
     yield from (f"film: {n} is not in veci.txt" for n in sorted(files - {row[1] for row in rows}))
 
 

@@ -131,8 +131,18 @@ def fillet(skin=False, **more):
     line = outline("carp", .26, .97)
     line[:, 1] = np.maximum(line[:, 1], -.11 * CARP * np.clip((line[:, 0] / CARP + .32) / .25, .35, 1))
     if skin:
-        return food.slab(line * (1, -1), .4, food.fishskin("carp", "raw"), 2.4, .05, .8, 20, .06, .01, 6, 3, side=fleshside(ribs=False))
+        return bare(cut(whole("carpscaled"), .26, .97))
     return food.slab(line, .4, fleshside(ribs=False, **more), 3.0, .05, .8, 20, .06, .01, 6, 3, side=food.fishskin("carp", "raw"))
+
+
+def bare(f):
+    """A cut fish as flat as a fillet and without its fins."""
+    g = f.children[0]
+    body = max(g.children, key=lambda o: len(o.data.vertices))
+    for o in [o for o in g.children if o != body]:
+        bpy.data.objects.remove(o)
+    g.scale = (g.scale[0], g.scale[1] * .4, g.scale[2])
+    return f
 
 
 def frame(kind="carp", raw=True):
@@ -151,7 +161,7 @@ def frame(kind="carp", raw=True):
             y0 = spine[i] * CARP
             pts = [(x[i] + lean * q + bend * q * q * 0, y0 + way * end * q, .16 - .1 * q + (.22 * math.sin(math.pi * q) if way < 0 and t[i] < .6 else .04 * q)) for q in np.linspace(0, 1, 8)]
             parts.append(tube(pts, [.032 - .02 * q for q in np.linspace(0, 1, 8)], bone, 6))
-    parts.append(cut(whole(kind if kind == "trout" else "carpscaled"), .965, None) if kind == "carp" else cut(whole(kind), .965, None))
+    parts.append(cut(whole("carpscaled") if kind == "carp" else whole(kind, state="raw" if raw else "fried"), .965, None))
     return group(parts)
 
 
@@ -377,7 +387,7 @@ def make(name, look):
     core.evening(1.0)
     core.scene.view_settings.exposure = .45
     if "steel" in core._materials:   # a bright sky for metal to mirror
-        core.area(mid + Vector((-3, 6, 13)), mid, 16, 1500, "eef2f0")
+        core.area(mid + Vector((-3, 6, 13)), mid, 16, 600, "eef2f0")
         shader = core._materials["steel"].node_tree.nodes["Principled BSDF"]
         for link in list(shader.inputs["Base Color"].links) + list(shader.inputs["Roughness"].links):
             core._materials["steel"].node_tree.links.remove(link)

@@ -115,8 +115,8 @@ def video():
     slab_px(190, 90, 1410, 1000, table.wood("walnut"), .8, .5, .2)
     slab_px(238, 138, 1362, 952, mat("screen", "050c0e", .25, .4, coat=.15), .9, .35, .1, z=.06)
     frame_px(226, 126, 1374, 964, .3, z=.5, r=.5)
-    slab_px(-840, 1046, 2440, 1240, table.wood("dark"), 1.0, .1, .2)
-    put(tube([(-41, 0, 0), (41, 0, 0)], .14, copper(), 16), 0, px(0, 1048)[1], 1.0)
+    slab_px(-840, 1046, 2440, 1240, table.wood("dark"), 1.6, .1, .2)
+    put(tube([(-41, 0, 0), (41, 0, 0)], .14, copper(), 16), 0, px(0, 1048)[1], 1.6)
     above(.75)
 
 
@@ -363,8 +363,8 @@ def draw(n, options):
     if "look" in options:
         wide.widen()
         core.render(options["look"], 700, 300, int(options.get("samples", 4)))
-    elif n == "stranka":
-        wide.whole(target(n), int(options.get("samples", 5)), key, DUSK[n])
+    elif n in ("stranka", "video"):
+        wide.whole(target(n), int(options.get("samples", 5)), key, DUSK.get(n, wide.DUSK))
     elif n != middle:
         samples, height = WIDE.get(middle, (5, 900))
         wide.render(target(middle), int(options.get("samples", samples)), key, int(options.get("lines", height)), dusk=DUSK.get(middle, wide.DUSK))
