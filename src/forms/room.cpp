@@ -39,6 +39,7 @@ void paintSurroundings(QPainter& painter, const QRectF& covered, const QImage& p
 /// The pictures, and the room as it was last drawn.
 struct Room::Parts {
     Picture design, wide;
+    bool covers = false;  // the design's picture lies over all of the display
     QPixmap composed;
     QRectF covered;
 };
@@ -48,6 +49,12 @@ Room::Room(Picture design, Picture wide) {
     parts_ = std::make_shared<Parts>();
     parts_->design = std::move(design);
     parts_->wide = std::move(wide);
+}
+
+Room Room::covering(Picture picture) {
+    Room room(std::move(picture));
+    if (room.parts_) room.parts_->covers = true;
+    return room;
 }
 
 Picture Room::design() const {
@@ -61,6 +68,12 @@ QRectF Room::widePlace(QSizeF picture) {
 
 void Room::compose(QPainter& painter, const QRectF& covered) const {
     if (!parts_) return painter.fillRect(covered, colors::kNight);
+    if (parts_->covers) {
+        painter.save();
+        painter.setClipRect(covered, Qt::IntersectClip);
+        drawWhole(painter, Picture::fitted(parts_->design.size(), covered, Fit::Cover), parts_->design);
+        return painter.restore();
+    }
     const bool useWide = parts_->design.isNull() || (!parts_->wide.isNull() && covered != designArea());
     const Picture& picture = useWide ? parts_->wide : parts_->design;
     const QRectF place = useWide ? widePlace(picture.size()) : designArea();

@@ -16,6 +16,9 @@ class Room {
     /// \a design is 4 : 3; \a wide may be empty.
     Room(Picture design, Picture wide = {});
 
+    /// A calm ground that may be cut: \a picture over all of the display, proportions kept.
+    static Room covering(Picture picture);
+
     bool isNull() const { return !parts_; }
     /// The picture of the design area alone.
     Picture design() const;

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -48,7 +49,8 @@ bool copyProgramFolder(const QString& from, const QString& to) {
         if (!QFile::copy(from + file, to + file)) return false;
         QFile::setPermissions(to + file, QFile::ReadOwner | QFile::WriteOwner);
     }
-    return true;
+    const QString wide = QStringLiteral("/siroke");
+    return QFile::link(QFileInfo(from).absoluteFilePath() + wide, to + wide);
 }
 
 /// What the program logged as lacking, a line each. Each is a fault: the disc is to be complete.

@@ -131,7 +131,7 @@ void frmRecept::loadRecipe(std::int16_t id) {
     recipe_.row.setIndex(QStringLiteral("primarykey"));
     recipe_.row.Seek(QStringLiteral("="), id);
     if (recipe_.row.NoMatch()) recipe_.row.Close();
-    ground_ = Room(app().mediaPicture(QStringLiteral("foto\\Podklad\\r%1.bmp").arg(id)));
+    ground_ = Room::covering(app().mediaPicture(QStringLiteral("foto\\Podklad\\r%1.bmp").arg(id)));
     if (ground_.isNull()) ground_ = app().Pictures.recept;
     recipe_.photo = app().mediaPicture(QStringLiteral("foto\\Velke\\r%1.bmp").arg(id));
     recipe_.portions = Portions(recipe_.row.field(QStringLiteral("Porce")).toInt());
