@@ -31,9 +31,13 @@ Program::Program(const PlatformParts& platform, Folders folders)
       stage_(std::make_unique<Stage>()),
       screens_(*this) {
     if (platform_.makeAnnouncer) announcer_ = platform_.makeAnnouncer(*stage_);
-    connect(stage_.get(), &Stage::closeRequested, this, [this] {
-        if (Form* form = stage_->modalForm() ? stage_->modalForm() : FormStack.top()) form->closeRequested();
-    });
+    connect(stage_.get(), &Stage::closeRequested, this, &Program::closeWindow);
+}
+
+void Program::closeWindow() {
+    if (Form* box = stage_->modalForm()) return box->closeRequested();
+    if (FormStack.top()) return ConfirmExit();
+    if (Form* splash = stage_->focusForm()) splash->closeRequested();
 }
 
 Program::~Program() {

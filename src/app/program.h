@@ -61,6 +61,8 @@ class Program final : public QObject, public basSarne {
     void findMediaRoot();
     QString ReadAppPathValue(const QString& name) const;
     void openDatabase();
+    /// The window's close button: closes a box that asks, else asks whether to end the program.
+    void closeWindow();
     void endProgram();
     void unloadForms(const QStringList& names);
     void restoreDisplay();

@@ -1,5 +1,6 @@
 #include "core/value.h"
 
+#include <cmath>
 #include <limits>
 
 namespace sarne {
@@ -50,6 +51,13 @@ std::optional<std::int16_t> toRecordId(QStringView text) {
     bool whole = false;
     const qint64 value = text.trimmed().toLongLong(&whole);
     return whole ? toRecordId(value) : std::nullopt;
+}
+
+std::optional<std::int16_t> leadingRecordId(QStringView text) {
+    const double number = std::trunc(leadingNumber(text));
+    constexpr auto kMost = std::numeric_limits<std::int16_t>::max();
+    if (!(std::abs(number) <= kMost)) return std::nullopt;
+    return static_cast<std::int16_t>(number);
 }
 
 }  // namespace sarne

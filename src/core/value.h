@@ -20,4 +20,8 @@ std::optional<std::int16_t> toRecordId(qint64 value);
 /// else.
 std::optional<std::int16_t> toRecordId(QStringView text);
 
+/// The number at the beginning of \a text as a record id, its fraction dropped; nothing where it does not
+/// fit.
+std::optional<std::int16_t> leadingRecordId(QStringView text);
+
 }  // namespace sarne

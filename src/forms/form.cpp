@@ -28,6 +28,7 @@ void Form::showForm() {
     raise();
     if (Form* modal = app_.stage().modalForm(); modal && modal != this) return modal->bringToFront();
     ring_.restore();
+    app_.stage().refreshPointer();
 }
 
 void Form::hideForm() {

@@ -8,9 +8,8 @@ namespace sarne {
 
 class Control;
 
-/// Makes a control repeat its step while it is held down: once at the press, and after a while again and
-/// again until it is let go, disabled or hidden. A press by other means than the mouse is one step. Belongs
-/// to the control and goes with it.
+/// Makes a control step at each click and, while it is held down, after a while again and again until it is
+/// let go, disabled or hidden. Belongs to the control and goes with it.
 class HoldRepeat : public QObject {
     Q_OBJECT
   public:
@@ -32,13 +31,11 @@ class HoldRepeat : public QObject {
   private:
     void start();
     void repeat();
-    void clicked();
 
     Control& control_;
     std::function<void()> step_;
     Timer timer_;
     int interval_ = kInterval;
-    bool stepped_ = false;  // the press has made the step that its click would make
 };
 
 }  // namespace sarne

@@ -1,5 +1,6 @@
 #include "forms/label.h"
 
+#include <QEvent>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <cmath>
@@ -7,6 +8,11 @@
 #include "forms/colors.h"
 
 namespace sarne {
+namespace {
+
+constexpr QColor kLit(208, 143, 80, 70);  // under the mouse: a breath of copper
+
+}  // namespace
 
 Label::Label(Form& form, const QString& name) : Control(form, name), color_(colors::kInk) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -45,7 +51,39 @@ void Label::setWordWrap(bool wraps) {
 }
 
 void Label::setClickable(bool clickable) {
+    clickable_ = clickable;
     setAttribute(Qt::WA_TransparentForMouseEvents, !clickable);
+    showPointer();
+}
+
+void Label::setMargins(int left, int right) {
+    left_ = left;
+    right_ = right;
+    update();
+}
+
+void Label::showPointer() {
+    // As a button: a label that does nothing shows its form's pointer.
+    clickable_&& isEnabled() ? setCursor(Qt::PointingHandCursor) : unsetCursor();
+}
+
+void Label::light(bool on) {
+    lit_ = on;
+    update();
+}
+
+void Label::enterEvent(QEnterEvent*) {
+    light(clickable_);
+}
+
+void Label::leaveEvent(QEvent* event) {
+    light(false);
+    Control::leaveEvent(event);
+}
+
+void Label::changeEvent(QEvent* event) {
+    Control::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange) showPointer();
 }
 
 QSize Label::measure(const QString& text, const TextFont& font, int width) {
@@ -66,11 +104,15 @@ void Label::autoSize(int width) {
 
 void Label::paint(QPainter& painter) {
     const QRect place({0, 0}, twips().size());
-    if (ground_.alpha() > 0) painter.fillRect(place, ground_);
+    if (ground_.alpha() > 0)
+        painter.fillRect(place, ground_);
+    else if (lit_ && isEnabled())
+        painter.fillRect(place, kLit);
     painter.setFont(font_.toQFont());
     painter.setPen(color_);
     if (!isEnabled()) painter.setOpacity(colors::kDisabledText);
-    painter.drawText(place, int(alignment_) | (wraps_ ? Qt::TextWordWrap : 0), text_);
+    painter.drawText(place.adjusted(left_, 0, -right_, 0), int(alignment_) | (wraps_ ? Qt::TextWordWrap : 0),
+                     text_);
 }
 
 }  // namespace sarne

@@ -19,7 +19,10 @@ class Label : public Control {
     /// A ground behind the text; by default there is none.
     void setGround(const QColor& color);
     void setWordWrap(bool wraps);
+    /// A clickable label takes the mouse, shows a hand and lights up under it.
     void setClickable(bool clickable);
+    /// Empty room at the text's ends.
+    void setMargins(int left, int right);
 
     /// The size in twips that \a text takes: on its lines as they stand, or wrapped at \a width.
     static QSize measure(const QString& text, const TextFont& font, int width = 0);
@@ -29,14 +32,23 @@ class Label : public Control {
 
   protected:
     void paint(QPainter& painter) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    const QColor& color() const { return color_; }
+    const TextFont& font() const { return font_; }
 
   private:
+    void light(bool on);
+    void showPointer();
+
     QString text_;
     TextFont font_;
     QColor color_;
     QColor ground_ = Qt::transparent;
     Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignTop;
-    bool wraps_ = false;
+    int left_ = 0, right_ = 0;
+    bool wraps_ = false, clickable_ = false, lit_ = false;
 };
 
 }  // namespace sarne

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QWindow>
 
 #include "forms/control.h"
 #include "forms/form.h"
@@ -61,6 +62,12 @@ void Stage::raiseModal() {
     shield_->raise();
     form->raise();
     form->ring().restore();
+}
+
+void Stage::refreshPointer() {
+    const QPoint at = mapFromGlobal(QCursor::pos());
+    const QWidget* under = rect().contains(at) ? childAt(at) : nullptr;
+    if (under && windowHandle()) windowHandle()->setCursor(under->cursor());
 }
 
 void Stage::fit() {

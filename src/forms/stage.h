@@ -35,6 +35,10 @@ class Stage : public QWidget {
     void leaveModal(Form& form);
     Form* modalForm() const;
 
+    /// Shows the pointer of what lies under the mouse now. Something that appears there would otherwise wait
+    /// for the mouse's next move.
+    void refreshPointer();
+
     /// Whether the last input came from the keyboard: focus is shown then, and not while the mouse is used.
     bool keyboardInUse() const { return keyboardInUse_; }
     /// The plate that names what is pointed at or has the focus.

@@ -1,7 +1,6 @@
 #include "screens/browse/listentries.h"
 
 #include "browse/browsefixture.h"
-#include "screens/browse/lettersearch.h"
 
 namespace sarne {
 namespace {
@@ -71,32 +70,6 @@ TEST_F(ListEntriesTest, WinesStandOneALineBelowTheName) {
     EXPECT_EQ(wineText(run.database, QStringLiteral("Kapr"), 1),
               QStringLiteral("Kapr Víno \r\nRyzlink rýnský\r\nPálava"));
     EXPECT_EQ(wineText(run.database, QStringLiteral("Kapr"), 2), QStringLiteral("Kapr Víno "));
-}
-
-TEST(LetterJump, FindsTheNextNameRoundTheEnd) {
-    std::vector<ListEntry> entries;
-    for (const char* name : {"Candát", "Kapr na kmíně", "Kapr v aspiku", "Krém", "Štika", "Sumec", ""})
-        entries.push_back({0, QString::fromUtf8(name), 0});
-    const struct {
-        int current;
-        const char* letters;
-        int found;
-    } cases[] = {{-1, "k", 1}, {1, "k", 2}, {3, "K", 1},     {1, "ka", 1}, {3, "ka", 1},
-                 {0, "kr", 3}, {0, "s", 4}, {4, "s", 5},     {0, "š", 4},  {4, "š", 4},
-                 {0, "z", -1}, {0, "", -1}, {2, "kapr v", 2}};
-    for (const auto& c : cases)
-        EXPECT_EQ(findByLetters(entries, c.current, QString::fromUtf8(c.letters)), c.found)
-            << c.current << " " << c.letters;
-    EXPECT_EQ(findByLetters({}, -1, QStringLiteral("k")), -1);
-}
-
-TEST(LetterJump, LettersAddUpUntilAPause) {
-    LetterSearch search;
-    EXPECT_EQ(search.add(u'k', 5000), QStringLiteral("k"));
-    EXPECT_EQ(search.add(u'r', 5900), QStringLiteral("kr"));
-    EXPECT_EQ(search.add(u's', 7000), QStringLiteral("s"));
-    EXPECT_EQ(search.add(u'u', 7100), QStringLiteral("su"));
-    EXPECT_EQ(search.restart(), QStringLiteral("u"));
 }
 
 }  // namespace

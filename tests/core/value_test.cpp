@@ -23,6 +23,8 @@ TEST(RecordId, NeverWraps) {
     EXPECT_EQ(toRecordId(QStringView(u" 12 ")), 12);
     EXPECT_FALSE(toRecordId(QStringView(u"12a")));
     EXPECT_FALSE(toRecordId(QStringView(u"")));
+    EXPECT_EQ(leadingRecordId(u" 7.9 minut"), 7);
+    for (const auto* text : {u"1e30", u"-1e30", u"1e999", u"32768"}) EXPECT_FALSE(leadingRecordId(text));
     EXPECT_FALSE(toRecordId(QStringView(u"99999999999999999999")));
 }
 

@@ -46,22 +46,21 @@ TEST_F(TextControls, AHeldButtonRepeatsUntilItIsLetGo) {
     int steps = 0;
     HoldRepeat held(arrow, [&] { ++steps; });
     QTest::mousePress(&arrow, Qt::LeftButton);
-    EXPECT_EQ(steps, 1);
+    EXPECT_EQ(steps, 0) << "the click steps, not the press";
     EXPECT_EQ(held.timer().interval(), HoldRepeat::kDelay);
     held.timer().fire();
     held.timer().fire();
-    EXPECT_EQ(steps, 3);
+    EXPECT_EQ(steps, 2);
     EXPECT_EQ(held.timer().interval(), HoldRepeat::kInterval);
     QTest::mouseRelease(&arrow, Qt::LeftButton);
     EXPECT_FALSE(held.isHeld());
-    EXPECT_EQ(steps, 3) << "the click of the same press is no further step";
+    EXPECT_EQ(steps, 3);
     arrow.click();
     EXPECT_EQ(steps, 4) << "pressed by a screen reader";
 
     QTest::mousePress(&arrow, Qt::LeftButton);
     QTest::mouseRelease(&arrow, Qt::LeftButton, {}, {500, 500});
-    arrow.click();
-    EXPECT_EQ(steps, 6);
+    EXPECT_EQ(steps, 4) << "let go elsewhere";
     QTest::mousePress(&arrow, Qt::LeftButton);
     arrow.setEnabled(false);
     EXPECT_FALSE(held.isHeld());

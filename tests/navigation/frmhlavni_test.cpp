@@ -186,5 +186,28 @@ TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
     EXPECT_TRUE(button(1)->hasFocus()) << "who came by keyboard goes on from there";
 }
 
+TEST_F(MainScreenTest, AMenuThatOpensNothingGivesTheKeyboardBack) {
+    start();
+    QTest::mouseClick(button(3), Qt::LeftButton);
+    main->SkryjMenu();  // as after a choice that has opened no screen
+    EXPECT_EQ(run.window.focusForm(), main);
+    EXPECT_EQ(main->currentButton(), -5);
+    const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+    press(Qt::Key_Return);
+    EXPECT_TRUE(main->isMenuOpen()) << "the ring stands on what Enter opens";
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(button(3)->hasFocus());
+    EXPECT_EQ(main->currentButton(), -5) << "idle";
+    press(Qt::Key_Space);
+    EXPECT_TRUE(main->isMenuOpen());
+    press(Qt::Key_Escape);
+    press(Qt::Key_Tab);
+    EXPECT_FALSE(button(3)->hasFocus());
+    QTest::mouseMove(main, {700, 590});
+    EXPECT_EQ(main->currentButton(), -5);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(main->isMenuOpen()) << "the ring has stayed, and so has what Enter does";
+}
+
 }  // namespace
 }  // namespace sarne

@@ -1,6 +1,7 @@
 #include "screens/navigation/frmmenu.h"
 
 #include <QTest>
+#include <QWindow>
 
 #include "menudatabase.h"
 #include "screens/navigation/frmhlavni.h"
@@ -142,6 +143,110 @@ TEST_F(MenuFormTest, SharedLettersStayCommands) {
     EXPECT_EQ(run.exits, 1);
     key(Qt::Key_C);
     EXPECT_FALSE(main->isMenuOpen());
+}
+
+TEST_F(MenuFormTest, RestingOpensTheSubmenuOfAnItemThatIsMarkedAlready) {
+    clickButton(2);
+    const QStringList open{QStringLiteral("2"), QStringLiteral("21")};
+    const auto rest = [&](QPoint at) {
+        QTest::mouseMove(label(main->menu(), 1), at);
+        main->menu()->findChild<Timer*>()->fire();
+        return codes();
+    };
+    key(Qt::Key_Down);
+    EXPECT_EQ(rest({5, 5}), open) << "marked by the arrow key";
+    key(Qt::Key_Escape);
+    EXPECT_EQ(rest({6, 5}), open) << "closed by Escape";
+    key(Qt::Key_Left);
+    QTest::mouseMove(main->menu(), {3, 3});
+    EXPECT_EQ(rest({7, 5}), open) << "left for the background and come back";
+}
+
+TEST_F(MenuFormTest, AltF4AndAltXAreSwallowedInAMenu) {
+    clickButton(2);
+    for (const Qt::Key k : {Qt::Key_F4, Qt::Key_X})
+        QTest::keyClick(QApplication::focusWidget(), k, Qt::AltModifier);
+    EXPECT_EQ(run.exits, 0);
+    EXPECT_TRUE(main->isMenuOpen());
+}
+
+TEST_F(MenuFormTest, ThePointerIsThatOfTheLevelThatAppearsUnderIt) {
+    QCursor::setPos(run.window.mapToGlobal(QPoint(400, 560)));
+    clickButton(2);
+    QCursor::setPos(run.window.mapToGlobal(main->menu()->geometry().center()));
+    main->menu()->Zobraz();
+    EXPECT_EQ(run.window.windowHandle()->cursor().shape(), Qt::PointingHandCursor) << "an item lies there";
+    EXPECT_EQ(label(main->menu(), 1)->cursor().shape(), Qt::PointingHandCursor);
+    key(Qt::Key_Escape);
+    clickButton(12);
+    EXPECT_NE(label(main->menu(), 1)->cursor().shape(), Qt::PointingHandCursor) << "the prompt is no item";
+}
+
+TEST_F(MenuFormTest, AScreenOpenedByAFunctionKeyGivesTheMenuBack) {
+    clickButton(2);
+    for (const Qt::Key k : {Qt::Key_Down, Qt::Key_Right}) key(k);
+    key(Qt::Key_F1);
+    EXPECT_EQ(run.recorded.calls.last(), QStringLiteral("showHelpFor frmMenu"));
+    EXPECT_TRUE(deepest()->isVisible()) << "no help came: the menu stays";
+    auto* page = new Form(run, QStringLiteral("frmStranka"));
+    run.PushScreen(*page);
+    page->showForm();
+    run.PopScreen(*page);
+    EXPECT_TRUE(main->isMenuOpen());
+    EXPECT_EQ(codes().size(), 2);
+    EXPECT_EQ(QApplication::focusWidget(), deepest());
+    EXPECT_EQ(deepest()->selected(), 1);
+    EXPECT_FALSE(main->findChild<QWidget*>(QStringLiteral("imgClick(3)"))->isEnabled());
+    key(Qt::Key_Escape);
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(main->findChild<QWidget*>(QStringLiteral("imgClick(3)"))->isEnabled());
+}
+
+TEST_F(MenuFormTest, TrianglesPointWhereTheSubmenuOpens) {
+    const auto arrow = [&](int k) { return static_cast<MenuLabel*>(label(main->menu(), k))->arrow(); };
+    clickButton(17);
+    for (const int x : {100, 7900, 8519}) {
+        main->menu()->unfold(QStringLiteral("17"), {x, 1542, 1, 1});
+        for (const int k : {1, 2}) {
+            main->menu()->choose(k);
+            const bool left = deepest()->twips().left() < main->menu()->twips().left();
+            EXPECT_EQ(left, x == 7900) << x;
+            EXPECT_EQ(arrow(k), left ? MenuLabel::Arrow::Left : MenuLabel::Arrow::Right) << x;
+        }
+    }
+    EXPECT_EQ(label(main->menu(), 2)->text(), QStringLiteral("Štika   ")) << "nothing but three blanks more";
+}
+
+TEST_F(MenuFormTest, LettersFindNamesWithAccents) {
+    main->menu()->unfold(QStringLiteral("17"), {100, 100, 1, 1});
+    type("st");
+    EXPECT_EQ(main->menu()->selected(), 2);
+}
+
+TEST_F(MenuFormTest, ResultsNeverCoverTheSearchAndSayWhatTheyHold) {
+    clickButton(12);
+    auto* entry = child<Edit>(*main->menu(), "Text1");
+    const QRect home = main->menu()->twips();
+    for (const char* text : {"kap", "bylina", "nic"}) {
+        entry->focusAll();
+        type(text);
+        QTest::mouseClick(child<QWidget>(*main->menu(), "imgHledat"), Qt::LeftButton);
+        ASSERT_EQ(codes().size(), 2) << text;
+        EXPECT_FALSE(deepest()->twips().intersects(main->menu()->twips())) << text;
+        EXPECT_TRUE(main->twips().contains(deepest()->twips() | main->menu()->twips())) << text;
+    }
+    EXPECT_TRUE(run.announced.last().contains(QStringLiteral("háčky"))) << "what may help";
+    EXPECT_GT(deepest()->twips().height(), 2 * kMenuLine);
+    entry->focusAll();
+    type("kap");
+    key(Qt::Key_Return);
+    const auto note = [&](int k) { return static_cast<MenuLabel*>(label(deepest(), k))->note(); };
+    EXPECT_EQ((QStringList{note(1), note(2), note(3)}),
+              (QStringList{QStringLiteral("3"), QStringLiteral("1"), QStringLiteral("0")}));
+    EXPECT_EQ(label(deepest(), 2)->text(), QStringLiteral("kapary   "));
+    EXPECT_EQ(label(deepest(), 2)->accessibleDescription(), QStringLiteral("1 recept"));
+    key(Qt::Key_Escape);
+    EXPECT_EQ(main->menu()->twips(), home);
 }
 
 }  // namespace

@@ -17,7 +17,9 @@ class MenuFixture : public testing::Test {
                 "('210','@Kapr',''),('211','Pečený','D'),('212','Vařený','D'),('2111','Recepty','1,4,'),"
                 "('2112','Rychle','2,'),('2121','Recepty','5,'),('2122','Rychle','2,'),"
                 "('221','Recepty','6,'),('222','Rychle','3,'),"
-                "('121','Napište začátek názvu','F'),('31','Omáčky','7,9,'),('32','Základy','9,'),"
+                "('120','@Hledání podle surovin',''),('121','Napište začátek názvu a stiskněte Enter','F'),"
+                "('170','@Mísy',''),('171','Slavnostní mísy na velký stůl','D'),('1711','Recepty','1,'),"
+                "('172','Štika','D'),('1721','Recepty','1,'),('31','Omáčky','7,9,'),('32','Základy','9,'),"
                 "('41','Návod','x'),('42','Rejstřík','x'),('91','Naše vody','x'),('101','Promítání','x'),"
                 "('102','Mřížka','x'),('181','Kuchání','1'),('5','','')"),
             QStringLiteral("DELETE FROM Menu WHERE Id = '5'"),

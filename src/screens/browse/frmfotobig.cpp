@@ -45,8 +45,8 @@ void frmFotoBig::Zobraz(const PhotoRequest& request) {
     showForm();
     repaint();  // the words that ask for patience, while the photo loads
     steps_.start(request.photoIds, request.startPosition);
-    zone_ = Zone::Right;
-    loadCursor();
+    zone_ = Zone::Right;  // what a click does; the pointer tells it from the first change of zone on
+    setCursor(app().resources().cursor(QStringLiteral("ZPET"), scale()));
     loadPhoto();
     tmrPosun.setInterval(request.slideInterval > 0 ? request.slideInterval : kDefaultInterval);
     if (request.slideShow) setSlideShow(true);

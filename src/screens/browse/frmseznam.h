@@ -4,12 +4,12 @@
 #include <memory>
 #include <vector>
 
+#include "core/lettersearch.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/picturebox.h"
 #include "screens/browse/frmrychlyrecept.h"
 #include "screens/browse/ground.h"
-#include "screens/browse/lettersearch.h"
 #include "screens/browse/listentries.h"
 #include "screens/browse/listpages.h"
 #include "screens/browse/picturebutton.h"

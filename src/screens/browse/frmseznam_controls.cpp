@@ -255,8 +255,12 @@ bool frmSeznam::jumpToLetter(const QKeyEvent& event) {
     if (text.size() != 1 || !text[0].isLetter()) return false;
     if (event.key() == Qt::Key_C || event.key() == Qt::Key_X) return false;
     const int current = pages_.selectedEntry();
-    int found = findByLetters(entries_, current, letters_.add(text[0], app().clock().now()));
-    if (found < 0) found = findByLetters(entries_, current, letters_.restart());
+    const auto find = [&](const QString& letters) {
+        const auto nameAt = [this](int at) { return entries_[size_t(at)].Nazev; };
+        return findByLetters(static_cast<int>(entries_.size()), nameAt, current, letters);
+    };
+    int found = find(letters_.add(text[0], app().clock().now()));
+    if (found < 0) found = find(letters_.restart());
     if (pages_.selectEntry(found)) selectionChanged();
     drawPage();
     return true;

@@ -22,23 +22,6 @@ bool isFull(const std::vector<ListEntry>& entries) {
     return entries.size() >= kMostEntries;
 }
 
-QChar withoutAccent(QChar letter) {
-    const QString parts = letter.decomposition();
-    return parts.isEmpty() ? letter : parts.front();
-}
-
-bool sameLetter(QChar inName, QChar typed) {
-    inName = inName.toLower();
-    typed = typed.toLower();
-    return inName == typed || withoutAccent(inName) == typed;
-}
-
-bool beginsWith(const QString& name, const QString& letters) {
-    return name.size() >= letters.size() &&
-           std::equal(letters.begin(), letters.end(), name.begin(),
-                      [](QChar typed, QChar inName) { return sameLetter(inName, typed); });
-}
-
 }  // namespace
 
 std::vector<std::int16_t> parseIds(const QString& ids) {
@@ -75,17 +58,6 @@ QString wineText(Database& db, const QString& name, std::int32_t id) {
     for (; !wines.AtEnd(); wines.MoveNext())
         text += QStringLiteral("\r\n") + wines.field(QStringLiteral("polozka")).toString();
     return text;
-}
-
-int findByLetters(const std::vector<ListEntry>& entries, int current, const QString& letters) {
-    const int count = static_cast<int>(entries.size());
-    if (letters.isEmpty() || count == 0) return -1;
-    const int from = std::max(0, letters.size() > 1 ? current : current + 1);
-    for (int step = 0; step < count; ++step) {
-        const int index = (from + step) % count;
-        if (beginsWith(entries[size_t(index)].Nazev, letters)) return index;
-    }
-    return -1;
 }
 
 }  // namespace sarne

@@ -31,9 +31,4 @@ std::vector<ListEntry> readEntries(Database& db, const QString& table, const QSt
 /// joined by CR LF. The heading alone when there are none.
 QString wineText(Database& db, const QString& name, std::int32_t id);
 
-/// The index of the next entry behind \a current, round the end, whose name begins with \a letters; -1 when
-/// there is none. Case is ignored, and so are the accents of the names where the typed letter has none. With
-/// more than one letter the search starts at \a current itself.
-int findByLetters(const std::vector<ListEntry>& entries, int current, const QString& letters);
-
 }  // namespace sarne

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -62,10 +63,7 @@ void frmHlavni::Zobraz() {
     table_ = buttonTable(app().resources().layout(QStringLiteral("hlavni")));
     for (int i = 0; i < kButtonCount; ++i) makeButton(i);
     showForm();
-    menu_ = new frmMenu(app(), [this] {
-        SkryjMenu();
-        showForm();
-    });
+    menu_ = new frmMenu(app(), [this] { SkryjMenu(); });
     startMusic();
 }
 
@@ -92,7 +90,7 @@ void frmHlavni::hover(int i) {
     if (current_ >= 0) endHover();
     current_ = i;
     if (app().SoundFlags[kEffects]) app().PlayEffect(i + kFirstEffect);
-    TmrPohyby.setEnabled(true);
+    TmrPohyby.setEnabled(current_ == i);  // the effect lets events run: the mouse may be gone already
 }
 
 void frmHlavni::endHover() {
@@ -150,29 +148,42 @@ void frmHlavni::unfoldMenu(int i) {
 void frmHlavni::SkryjMenu() {
     menuOpen_ = false;
     menu_->fold();
-    const int last = current_;
     if (current_ >= 0) endHover();
     if (app().FormStack.top() != this) return;
     enableControls(true);
     setPointer(Pointer::Normal);
-    if (last >= 0 && app().stage().keyboardInUse()) imgClick[size_t(last)]->setFocus();
+    showForm();
+    // Whoever goes on by keyboard goes on from where they were.
+    if (lastClicked_ >= 0 && hasFocus()) imgClick[size_t(lastClicked_)]->setFocus(Qt::OtherFocusReason);
 }
 
 void frmHlavni::restored() {
-    if (menuOpen_) SkryjMenu();
+    if (menuOpen_) return showMenuAgain();
     if (current_ >= 0) endHover();
     // Who came by keyboard goes on from where they were.
     if (lastClicked_ >= 0 && app().stage().keyboardInUse()) moveTo(lastClicked_);
 }
 
+/// A help page or the settings, opened from the menu, have closed.
+void frmHlavni::showMenuAgain() {
+    setPointer(Pointer::Back);
+    enableControls(false);
+    menu_->comeBack();
+}
+
 void frmHlavni::mousePressEvent(QMouseEvent*) {
     if (!menuOpen_) return;
     SkryjMenu();
-    showForm();
 }
 
 void frmHlavni::gotFocus() {
     if (app().FormStack.count() > 1) app().FormStack.top()->bringToFront();
+}
+
+int frmHlavni::keyboardButton() const {
+    if (current_ >= 0) return current_;
+    const auto focused = std::ranges::find_if(imgClick, [](const Button* b) { return b && b->hasFocus(); });
+    return focused == imgClick.end() ? kNone : int(focused - imgClick.begin());
 }
 
 void frmHlavni::moveTo(int button) {
@@ -192,24 +203,25 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
     }
     const bool leaves = event.key() == Qt::Key_X || event.key() == Qt::Key_F4;
     if (leaves && (event.modifiers() & Qt::AltModifier)) return true;
+    const int here = keyboardButton();
     switch (event.key()) {
         case Qt::Key_Left:
-            moveTo(nearestButton(table_, current_, ArrowKey::Left));
+            moveTo(nearestButton(table_, here, ArrowKey::Left));
             return true;
         case Qt::Key_Right:
-            moveTo(nearestButton(table_, current_, ArrowKey::Right));
+            moveTo(nearestButton(table_, here, ArrowKey::Right));
             return true;
         case Qt::Key_Up:
-            moveTo(nearestButton(table_, current_, ArrowKey::Up));
+            moveTo(nearestButton(table_, here, ArrowKey::Up));
             return true;
         case Qt::Key_Down:
-            moveTo(nearestButton(table_, current_, ArrowKey::Down));
+            moveTo(nearestButton(table_, here, ArrowKey::Down));
             return true;
         case Qt::Key_Tab:
-            moveTo(buttonInReadingOrder(table_, current_, 1));
+            moveTo(buttonInReadingOrder(table_, here, 1));
             return true;
         case Qt::Key_Backtab:
-            moveTo(buttonInReadingOrder(table_, current_, -1));
+            moveTo(buttonInReadingOrder(table_, here, -1));
             return true;
         case Qt::Key_PageUp:
             moveTo(firstButton(table_));
@@ -220,7 +232,7 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
-            if (current_ >= 0) clickButton(current_);
+            if (here >= 0) clickButton(here);
             return true;
         default:
             return false;

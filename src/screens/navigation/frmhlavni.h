@@ -24,7 +24,8 @@ class frmHlavni : public Form {
 
     /// Shows the screen, loads the menu and starts the music. Called once.
     void Zobraz();
-    /// The menu has closed: back to idle. Buttons and pointer come back when this screen is on top.
+    /// The menu has closed: back to idle. When this screen is on top it gets its buttons, its pointer and the
+    /// keyboard back.
     void SkryjMenu();
 
     /// The button under the mouse or last clicked; -5 for none.
@@ -51,6 +52,9 @@ class frmHlavni : public Form {
     void tick();
     void clickButton(int i);
     void unfoldMenu(int i);
+    void showMenuAgain();
+    /// Where the keyboard is: the current button or, without one, the focused one.
+    int keyboardButton() const;
     void moveTo(int button);
     const std::vector<Picture>& frames(int i);
     QRect frameRect(int i) const;

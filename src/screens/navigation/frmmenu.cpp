@@ -18,7 +18,14 @@ const TextFont kHeadingFont{QStringLiteral("Times New Roman"), 14, true, true};
 const QString kSpacing = QStringLiteral("   ");  // follows every caption
 constexpr int kSubmenuDelay = 400;               // milliseconds
 constexpr QColor kDimmed(150, 170, 165);
-constexpr int kArrowRoom = 240;
+const TextFont kHintFont{QStringLiteral("Arial"), 10, false, true};
+constexpr QRect kScreen(0, 0, Stage::kWidth, Stage::kHeight);
+
+/// Room for what is drawn beside the texts of \a level.
+int besideTexts(const MenuLevel& level) {
+    const bool arrows = std::ranges::any_of(level.items, &MenuItem::opensSubmenu);
+    return arrows || level.isSearchResult() ? MenuLabel::kArrowRoom : 0;
+}
 
 }  // namespace
 
@@ -27,6 +34,7 @@ frmMenu::frmMenu(basSarne& sarne, std::function<void()> closed)
       closed_(std::move(closed)),
       lblNadpis(*this, QStringLiteral("lblNadpis")),
       Text1(*this, QStringLiteral("Text1")),
+      imgHledat(*this, QStringLiteral("imgHledat")),
       tmrPodmenu(this) {
     setUp();
 }
@@ -44,6 +52,9 @@ void frmMenu::setUp() {
     Text1.setFont(kItemFont);
     Text1.setAccessibleName(QStringLiteral("Začátek názvu suroviny"));
     Text1.hide();
+    imgHledat.setTip(QStringLiteral("Hledat"));
+    imgHledat.hide();
+    connect(&imgHledat, &Control::clicked, this, &frmMenu::search);
     connect(&tmrPodmenu, &Timer::tick, this, [this] {
         tmrPodmenu.setEnabled(false);
         openSelectedSubmenu();
@@ -65,48 +76,93 @@ void frmMenu::unfold(const QString& code, const QRect& beside) {
     Zobraz();
 }
 
+MenuLabel* frmMenu::newLabel() {
+    const int k = int(lblOdkaz.size()) + 1;
+    auto* label = new MenuLabel(*this, QStringLiteral("lblOdkaz(%1)").arg(k));
+    label->setFont(kItemFont);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(label, &Label::hovered, this, [this, k] { hoverItem(k); });
+    connect(label, &Label::clicked, this, [this, k] { choose(k); });
+    return label;
+}
+
+void frmMenu::dressLabel(int k) {
+    MenuLabel& label = *lblOdkaz[size_t(k - 1)];
+    label.setText(item(k).label + kSpacing);
+    label.setClickable(isSelectable(k));
+    const bool found = level_.isSearchResult() && isSelectable(k);
+    const int recipes = found ? int(recipesWithIngredient(app().Db(), item(k).target).size()) : 0;
+    label.setNote(found ? QString::number(recipes) : QString());
+    label.setAccessibleDescription(found ? recipeCountText(recipes) : QString());
+    mark(k, false);
+}
+
 void frmMenu::buildLabels() {
     lblNadpis.setText(level_.heading);
     lblNadpis.setVisible(!level_.heading.isEmpty());
-    while (lblOdkaz.size() < level_.items.size()) {
-        const int k = int(lblOdkaz.size()) + 1;
-        auto* label = new Label(*this, QStringLiteral("lblOdkaz(%1)").arg(k));
-        label->setFont(kItemFont);
-        label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-        label->setClickable(true);
-        connect(label, &Label::hovered, this, [this, k] { hoverItem(k); });
-        connect(label, &Label::clicked, this, [this, k] { choose(k); });
-        lblOdkaz.push_back(label);
-    }
+    hint_ = searchHint(level_);
+    while (lblOdkaz.size() < level_.items.size()) lblOdkaz.push_back(newLabel());
     for (size_t i = 0; i < lblOdkaz.size(); ++i) {
         lblOdkaz[i]->setVisible(i < level_.items.size());
-        if (i >= level_.items.size()) continue;
-        const MenuItem& item = level_.items[i];
-        lblOdkaz[i]->setText(u' ' + item.label + kSpacing);
-        lblOdkaz[i]->setColor(item.isSelectable() ? colors::kTitle : kDimmed);
-        lblOdkaz[i]->setGround(Qt::transparent);
+        if (i < level_.items.size()) dressLabel(int(i) + 1);
     }
 }
 
-void frmMenu::applyGeometry(const QRect& beside) {
+MenuContent frmMenu::contentOf(const MenuLevel& level, int besideText) const {
     MenuContent content;
-    for (const MenuItem& item : level_.items)
-        content.itemWidths.push_back(Label::measure(u' ' + item.label + kSpacing, kItemFont).width() +
-                                     (item.opensSubmenu() ? kArrowRoom : 0));
-    if (!level_.heading.isEmpty())
-        content.headingWidth = Label::measure(level_.heading, kHeadingFont).width();
-    content.hasEntry = hasEntry();
-    geometry_ = layOutMenu(content, beside);
+    for (const MenuItem& item : level.items)
+        content.itemWidths.push_back(Label::measure(item.label + kSpacing, kItemFont).width() + besideText);
+    if (!level.heading.isEmpty()) content.headingWidth = Label::measure(level.heading, kHeadingFont).width();
+    if (const QString hint = searchHint(level); !hint.isEmpty())
+        content.hintWidth = Label::measure(hint, kHintFont).width();
+    content.hasEntry = level.code == u"12";
+    return content;
+}
+
+void frmMenu::applyGeometry(const QRect& beside) {
+    const int room = besideTexts(level_);
+    geometry_ = layOutMenu(contentOf(level_, room), beside, maxHeight_);
     place(geometry_.level);
-    lblNadpis.place(geometry_.heading);
-    for (size_t i = 0; i < level_.items.size(); ++i) {
-        // The arrow of a submenu stands beside its label, where the mark of the selected one does not hide
-        // it.
-        const int arrow = level_.items[i].opensSubmenu() ? kArrowRoom : 0;
-        lblOdkaz[i]->place(geometry_.items[i].adjusted(0, 0, -arrow, 0));
+    placeLabels(false);
+    const bool left = anyOpensToTheLeft();
+    if (left) {
+        geometry_ = layOutMenu(contentOf(level_, 2 * room), beside, maxHeight_);
+        place(geometry_.level);
+        placeLabels(true);
     }
+    lblNadpis.place(geometry_.heading);
     Text1.setVisible(hasEntry());
-    if (hasEntry()) Text1.place(geometry_.entry);
+    imgHledat.setVisible(hasEntry());
+    if (!hasEntry()) return;
+    const int side = geometry_.entry.height();
+    Text1.place(geometry_.entry.adjusted(0, 0, -side, 0));
+    imgHledat.place({geometry_.entry.right() + 1 - side, geometry_.entry.top(), side, side});
+}
+
+void frmMenu::placeLabels(bool arrowsLeft) {
+    const int room = besideTexts(level_) + kMenuItemMargin;
+    for (size_t i = 0; i < level_.items.size(); ++i) {
+        MenuLabel& label = *lblOdkaz[i];
+        label.place(geometry_.items[i]);
+        label.setMargins(arrowsLeft ? room : kMenuItemMargin, room);
+        const bool opens = level_.items[i].opensSubmenu();
+        const bool left = arrowsLeft && opens && opensToTheLeft(int(i) + 1);
+        label.setArrow(!opens ? MenuLabel::Arrow::None
+                       : left ? MenuLabel::Arrow::Left
+                              : MenuLabel::Arrow::Right);
+    }
+}
+
+bool frmMenu::opensToTheLeft(int k) const {
+    const MenuLevel below = MenuLevel::build(app().Db(), level_.childCode(k));
+    const MenuContent content = contentOf(below, besideTexts(below));
+    return layOutMenu(content, labelOnScreen(k)).level.left() < twips().left();
+}
+
+bool frmMenu::anyOpensToTheLeft() const {
+    for (int k = 1; k <= int(level_.items.size()); ++k)
+        if (item(k).opensSubmenu() && opensToTheLeft(k)) return true;
+    return false;
 }
 
 void frmMenu::fold() {
@@ -117,11 +173,43 @@ void frmMenu::fold() {
     unload();
 }
 
+frmMenu& frmMenu::root() {
+    frmMenu* level = this;
+    while (level->parent_) level = level->parent_;
+    return *level;
+}
+
 void frmMenu::closeTree() {
-    frmMenu* root = this;
-    while (root->parent_) root = root->parent_;
-    root->fold();
-    if (root->closed_) root->closed_();
+    frmMenu& first = root();
+    first.fold();
+    if (first.closed_) first.closed_();
+}
+
+void frmMenu::setAside() {
+    tmrPodmenu.setEnabled(false);
+    hideForm();
+    if (child_) child_->setAside();
+}
+
+void frmMenu::comeBack() {
+    Zobraz();
+    if (child_) child_->comeBack();
+}
+
+void frmMenu::openAbove(const std::function<void()>& open) {
+    const int below = app().FormStack.count();
+    frmMenu& first = root();
+    first.setAside();
+    open();
+    if (app().FormStack.count() == below) first.comeBack();
+}
+
+void frmMenu::help() {
+    openAbove([this] { Form::help(); });
+}
+
+void frmMenu::musicSettings() {
+    openAbove([this] { Form::musicSettings(); });
 }
 
 void frmMenu::goBack() {
@@ -129,32 +217,43 @@ void frmMenu::goBack() {
     frmMenu* parent = parent_;
     fold();
     parent->bringToFront();
-    if (parent->hasEntry()) parent->Text1.focusAll();
+    if (!parent->hasEntry()) return;
+    parent->place(parent->geometry_.level);  // results may have pushed it up
+    parent->Text1.focusAll();
 }
 
 QRect frmMenu::labelOnScreen(int k) const {
     // The next level stands beside this one, its first line at the height of the item that it belongs to.
     const QRect label = lblOdkaz[size_t(k - 1)]->twips();
-    return {twips().left(), twips().top() + label.top(), std::max(label.right(), twips().width() - 1),
-            label.height()};
+    return {twips().left(), twips().top() + label.top(), twips().width(), label.height()};
+}
+
+bool frmMenu::isSelectable(int k) const {
+    return k >= 1 && size_t(k) <= level_.items.size() && item(k).isSelectable();
+}
+
+void frmMenu::mark(int k, bool marked) {
+    MenuLabel& label = *lblOdkaz[size_t(k - 1)];
+    const bool leadsOn = isSelectable(k) && label.note() != u"0";
+    label.setGround(marked ? colors::kSelected : QColor(Qt::transparent));
+    label.setColor(marked ? colors::kPaper : leadsOn ? colors::kTitle : kDimmed);
 }
 
 void frmMenu::select(int k) {
     if (k == selected_) return;
-    if (selected_ > 0) lblOdkaz[size_t(selected_ - 1)]->setGround(Qt::transparent);
-    if (selected_ > 0) lblOdkaz[size_t(selected_ - 1)]->setColor(colors::kTitle);
+    if (selected_ > 0) mark(selected_, false);
     selected_ = k;
     if (k == 0) return;
-    lblOdkaz[size_t(k - 1)]->setGround(colors::kSelected);
-    lblOdkaz[size_t(k - 1)]->setColor(colors::kPaper);
-    app().HookMessage(level_.items[size_t(k - 1)].label);
+    mark(k, true);
+    const QString more = lblOdkaz[size_t(k - 1)]->accessibleDescription();
+    app().HookMessage(more.isEmpty() ? item(k).label : item(k).label + QStringLiteral(", ") + more);
 }
 
 void frmMenu::hoverItem(int k) {
-    if (size_t(k) > level_.items.size() || !level_.items[size_t(k - 1)].isSelectable() || k == selected_)
-        return;
+    if (!isSelectable(k)) return;
+    const bool rests = k == selected_ && tmrPodmenu.isEnabled();
     select(k);
-    tmrPodmenu.setEnabled(false);
+    if (rests) return;
     tmrPodmenu.setInterval(kSubmenuDelay);
     tmrPodmenu.setEnabled(true);
 }
@@ -164,38 +263,45 @@ void frmMenu::mouseMoveEvent(QMouseEvent*) {
 }
 
 void frmMenu::choose(int k) {
-    if (k < 1 || size_t(k) > level_.items.size() || !level_.items[size_t(k - 1)].isSelectable()) return;
+    if (!isSelectable(k)) return;
     tmrPodmenu.setEnabled(false);
     select(k);
-    const MenuItem item = level_.items[size_t(k - 1)];
-    if (item.opensSubmenu()) return openChild(level_.childCode(k), labelOnScreen(k));
+    const MenuItem chosen = item(k);
+    if (chosen.opensSubmenu()) return openChild(level_.childCode(k), labelOnScreen(k));
     OpenMenuTarget(app(), static_cast<std::int16_t>(k), static_cast<std::int16_t>(level_.number()),
-                   item.target);
+                   chosen.target);
 }
 
 void frmMenu::openSelectedSubmenu() {
-    if (selected_ > 0 && level_.items[size_t(selected_ - 1)].opensSubmenu() &&
+    if (selected_ > 0 && item(selected_).opensSubmenu() &&
         !(child_ && childCode_ == level_.childCode(selected_)))
         openChild(level_.childCode(selected_), labelOnScreen(selected_));
 }
 
-void frmMenu::openChild(const QString& code, const QRect& beside) {
+void frmMenu::openChild(const QString& code, const QRect& beside, int maxHeight) {
     if (child_) child_->fold();
     child_ = new frmMenu(*this);
     childCode_ = code;
+    child_->maxHeight_ = maxHeight;
     child_->unfold(code, beside);
+}
+
+/// The results drop down below the entry, so that what was typed stays in sight: where they are many the
+/// entry moves up for them.
+void frmMenu::openResults() {
+    place(geometry_.level);
+    openChild(QStringLiteral("0"), QRect(twips().left() - 1, twips().bottom() + 1, 1, 1),
+              kScreen.height() - twips().height());
+    const int above = child_->twips().top() - twips().height();
+    if (above < twips().top()) moveTo({twips().left(), above});
 }
 
 void frmMenu::search() {
     if (!searchIngredients(app().Db(), Text1.text())) return;
-    // The results drop down below the entry, so that what was typed stays in sight.
-    openChild(QStringLiteral("0"), QRect(twips().left() - 1, twips().bottom() + 1, 1, 1));
-    if (child_->level_.items.size() == 1 && !child_->level_.items[0].isSelectable()) {
-        app().HookMessage(child_->level_.items[0].label);
-        Text1.focusAll();  // nothing to choose there: the next try is typed at once
-    } else {
-        child_->moveSelection(1);
-    }
+    openResults();
+    if (child_->hint_.isEmpty()) return child_->moveSelection(1);
+    app().HookMessage(child_->level_.items[0].label + QStringLiteral(". ") + child_->hint_);
+    Text1.focusAll();  // nothing to choose there: the next try is typed at once
 }
 
 void frmMenu::moveSelection(int step) {
@@ -207,13 +313,25 @@ void frmMenu::moveSelection(int step) {
     }
 }
 
-void frmMenu::jumpTo(const QString& letter) {
-    const int count = int(level_.items.size());
-    for (int i = 0; i < count && !letter.trimmed().isEmpty(); ++i) {
-        const int k = (selected_ + i) % count + 1;
-        const MenuItem& item = level_.items[size_t(k - 1)];
-        if (item.isSelectable() && item.label.startsWith(letter, Qt::CaseInsensitive)) return select(k);
-    }
+bool frmMenu::jumpTo(const QKeyEvent& event) {
+    const QString text = event.text();
+    const bool letter = text.size() == 1 && text[0].isLetterOrNumber() &&
+                        !(event.modifiers() & (Qt::AltModifier | Qt::ControlModifier));
+    if (!letter || event.key() == Qt::Key_C || event.key() == Qt::Key_X) return false;
+    const auto find = [this](const QString& letters) {
+        const auto nameAt = [this](int at) { return isSelectable(at + 1) ? item(at + 1).label : QString(); };
+        return findByLetters(int(level_.items.size()), nameAt, selected_ - 1, letters);
+    };
+    int found = find(letters_.add(text[0], app().clock().now()));
+    if (found < 0) found = find(letters_.restart());
+    if (found >= 0) select(found + 1);
+    return true;
+}
+
+void frmMenu::enterSelected() {
+    const int before = depth_;
+    choose(selected_);
+    if (child_ && child_->depth_ > before && child_->selected_ == 0) child_->moveSelection(1);
 }
 
 bool frmMenu::keyDown(QKeyEvent& event) {
@@ -232,36 +350,25 @@ bool frmMenu::keyDown(QKeyEvent& event) {
         case Qt::Key_Right:
         case Qt::Key_Return:
         case Qt::Key_Enter:
-        case Qt::Key_Space: {
-            const int before = depth_;
-            choose(selected_);
-            if (child_ && child_->depth_ > before && child_->selected_ == 0) child_->moveSelection(1);
+        case Qt::Key_Space:
+            enterSelected();
             return true;
-        }
         case Qt::Key_Left:
         case Qt::Key_Escape:
             goBack();
             return true;
         default:
-            break;
+            return jumpTo(event);
     }
-    const bool letter = !event.text().isEmpty() && event.text()[0].isLetterOrNumber() &&
-                        !(event.modifiers() & (Qt::AltModifier | Qt::ControlModifier));
-    if (!letter || event.key() == Qt::Key_C || event.key() == Qt::Key_X) return false;
-    jumpTo(event.text());
-    return true;
 }
 
 void frmMenu::paint(QPainter& painter) {
     paintPanel(painter, {{0, 0}, twips().size()}, app().resources().picture(QStringLiteral("menu")));
-    painter.setPen(Qt::NoPen);
-    for (size_t i = 0; i < level_.items.size(); ++i) {
-        if (!level_.items[i].opensSubmenu()) continue;
-        const QRect item = geometry_.items[i];
-        const QPointF tip(item.right() - 60, item.center().y());
-        painter.setBrush(colors::kCopper);
-        painter.drawPolygon(QPolygonF{tip, tip + QPointF(-90, -75), tip + QPointF(-90, 75)});
-    }
+    if (hint_.isEmpty()) return;
+    painter.setFont(kHintFont.toQFont());
+    painter.setPen(colors::kPaper);
+    painter.drawText(geometry_.hint.adjusted(kMenuItemMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                     hint_);
 }
 
 }  // namespace sarne

@@ -4,10 +4,12 @@
 #include <functional>
 #include <vector>
 
+#include "core/lettersearch.h"
 #include "forms/edit.h"
 #include "forms/form.h"
-#include "forms/label.h"
 #include "forms/timer.h"
+#include "screens/navigation/magnifier.h"
+#include "screens/navigation/menulabel.h"
 #include "screens/navigation/menulayout.h"
 #include "screens/navigation/menulevel.h"
 
@@ -27,6 +29,9 @@ class frmMenu : public Form {
     void unfold(const QString& code, const QRect& beside);
     /// Closes every level below this one, and this one.
     void fold();
+    /// Hides the tree as long as another screen lies above it; shows it again as it was.
+    void setAside();
+    void comeBack();
 
     int depth() const { return depth_; }
     frmMenu* child() const { return child_; }
@@ -38,6 +43,9 @@ class frmMenu : public Form {
 
     /// Closes this level; the first one closes the tree.
     void goBack() override;
+    void help() override;
+    void musicSettings() override;
+    void closeRequested() override {}  // as the main screen below it
 
   protected:
     void paint(QPainter& painter) override;
@@ -49,15 +57,28 @@ class frmMenu : public Form {
 
     void setUp();
     void buildLabels();
+    void dressLabel(int k);
+    MenuLabel* newLabel();
+    MenuContent contentOf(const MenuLevel& level, int besideText) const;
     void applyGeometry(const QRect& beside);
+    void placeLabels(bool arrowsLeft);
+    bool opensToTheLeft(int k) const;
+    bool anyOpensToTheLeft() const;
     void select(int k);
+    void mark(int k, bool marked);
     void moveSelection(int step);
-    void jumpTo(const QString& letter);
-    void openChild(const QString& code, const QRect& beside);
+    bool jumpTo(const QKeyEvent& event);
+    void openChild(const QString& code, const QRect& beside, int maxHeight = kMenuHeight);
     void openSelectedSubmenu();
+    void enterSelected();
     void search();
+    void openResults();
+    void openAbove(const std::function<void()>& open);
     void closeTree();
+    frmMenu& root();
     QRect labelOnScreen(int k) const;
+    const MenuItem& item(int k) const { return level_.items[size_t(k - 1)]; }
+    bool isSelectable(int k) const;
     bool hasEntry() const { return level_.code == u"12"; }
     void hoverItem(int k);
 
@@ -68,12 +89,16 @@ class frmMenu : public Form {
     QString childCode_;
     MenuLevel level_;
     MenuGeometry geometry_;
+    int maxHeight_ = kMenuHeight;
+    QString hint_;
+    LetterSearch letters_;
     int selected_ = 0;
 
     Label lblNadpis;
     Edit Text1;
+    Magnifier imgHledat;
     Timer tmrPodmenu;
-    std::vector<Label*> lblOdkaz;
+    std::vector<MenuLabel*> lblOdkaz;
 };
 
 }  // namespace sarne

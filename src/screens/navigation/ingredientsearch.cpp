@@ -1,10 +1,14 @@
 #include "screens/navigation/ingredientsearch.h"
 
+#include "core/value.h"
 #include "db/database.h"
 #include "db/queries.h"
+#include "screens/navigation/menulevel.h"
 
 namespace sarne {
 namespace {
+
+const QString kTooMany = QStringLiteral("Příliš mnoho nalezených surovin");
 
 void append(Recordset& menu, const QString& id, const QString& label, const QString& target) {
     menu.AddNew();
@@ -31,7 +35,7 @@ void writeResults(Database& db, const QString& text) {
     const qint64 count = found.RecordCount();
     const QString message = QStringLiteral("00"), nowhere = QStringLiteral("F");
     if (count > kMaxFoundIngredients)
-        append(menu, message, QStringLiteral("Příliš mnoho nalezených surovin"), nowhere);
+        append(menu, message, kTooMany, nowhere);
     else if (count == 0)
         append(menu, message, QStringLiteral("Nenalezena žádná surovina"), nowhere);
     else
@@ -48,6 +52,27 @@ bool searchIngredients(Database& db, const QString& text) {
         return true;
     });
     return true;
+}
+
+QString searchHint(const MenuLevel& level) {
+    if (!level.isSearchResult() || level.items.size() != 1 || level.items[0].isSelectable()) return {};
+    if (level.items[0].label == kTooMany) return QStringLiteral("Připište další písmena názvu.");
+    return QStringLiteral("Pište s háčky a čárkami; stačí začátek názvu.");
+}
+
+std::vector<std::int16_t> recipesWithIngredient(Database& db, const QString& ingredient) {
+    std::vector<std::int16_t> ids;
+    Recordset recipes = queries::recipesWithIngredient(db, ingredient);
+    for (; !recipes.AtEnd(); recipes.MoveNext()) {
+        if (const auto id = toRecordId(recipes.field(QStringLiteral("ID")).toLongLong())) ids.push_back(*id);
+    }
+    return ids;
+}
+
+QString recipeCountText(int recipes) {
+    if (recipes == 0) return QStringLiteral("žádný recept");
+    const auto* noun = recipes == 1 ? "recept" : recipes < 5 ? "recepty" : "receptů";
+    return QStringLiteral("%1 %2").arg(recipes).arg(QString::fromUtf8(noun));
 }
 
 }  // namespace sarne

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
+#include <vector>
 
 namespace sarne {
 
 class Database;
+struct MenuLevel;
 
 /// How many ingredients one search may find: the two-digit counter and the room on the screen both rest on
 /// it.
@@ -15,5 +18,13 @@ inline constexpr int kMaxFoundIngredients = 84;
 /// pattern as it was typed; one that breaks the query finds nothing. A blank text searches nothing and
 /// changes nothing: false.
 bool searchIngredients(Database& db, const QString& text);
+
+/// What may help where the search has found nothing to choose; empty for a level with something to choose.
+QString searchHint(const MenuLevel& level);
+
+/// The ids of the recipes that use the ingredient with this id, in the order of their names.
+std::vector<std::int16_t> recipesWithIngredient(Database& db, const QString& ingredient);
+/// "3 recepty"
+QString recipeCountText(int recipes);
 
 }  // namespace sarne

@@ -8,13 +8,41 @@ namespace {
 constexpr QRect kScreen(0, 0, 12000, 9000);
 constexpr int kMargin = 150;
 constexpr int kColumnGap = 120;
-constexpr int kItemMargin = 90;
+constexpr int kLeastItem = 900;
 constexpr int kHeadingHeight = 435;
 constexpr int kEntryWidth = 2700, kEntryHeight = 420;
-constexpr int kMaxHeight = 8700;
 
-int linesThatFit(int used) {
-    return (kMaxHeight - used - kMargin) / kMenuLine;
+struct Columns {
+    int count, rows;
+};
+
+/// Full columns to the left and a short one to the right are harder to read than equal ones.
+Columns columnsFor(int items, int linesThatFit) {
+    const int rows = std::clamp(items, 1, std::max(1, linesThatFit));
+    const int count = std::max(1, (items + rows - 1) / rows);
+    return {count, std::max(1, (items + count - 1) / count)};
+}
+
+/// What a level needs across beside its items.
+int roomBeside(const MenuContent& content, int columns) {
+    return 2 * kMargin + (columns - 1) * kColumnGap + (content.hasEntry ? kMenuItemMargin + kEntryWidth : 0);
+}
+
+int levelWidth(const MenuContent& content, int columns) {
+    int item = kLeastItem;
+    for (const int width : content.itemWidths) item = std::max(item, width + 2 * kMenuItemMargin);
+    const int words = std::max(content.headingWidth, content.hintWidth);
+    const int width = std::max(columns * item + roomBeside(content, columns),
+                               words > 0 ? words + 2 * (kMargin + kMenuItemMargin) : 0);
+    return std::min(width, kScreen.width());
+}
+
+std::vector<QRect> itemPlaces(int items, const Columns& columns, int top, int width) {
+    std::vector<QRect> places;
+    for (int i = 0; i < items; ++i)
+        places.emplace_back(kMargin + i / columns.rows * (width + kColumnGap),
+                            top + i % columns.rows * kMenuLine, width, kMenuLine);
+    return places;
 }
 
 QPoint onScreen(QSize level, const QRect& beside) {
@@ -26,35 +54,26 @@ QPoint onScreen(QSize level, const QRect& beside) {
 
 }  // namespace
 
-MenuGeometry layOutMenu(const MenuContent& content, const QRect& beside) {
-    MenuGeometry geometry;
-    int top = kMargin;
-    if (content.headingWidth > 0) top += kHeadingHeight;
+MenuGeometry layOutMenu(const MenuContent& content, const QRect& beside, int maxHeight) {
+    const int top = kMargin + (content.headingWidth > 0 ? kHeadingHeight : 0);
+    const int below = kMargin + (content.hintWidth > 0 ? kMenuLine : 0);
     const int count = int(content.itemWidths.size());
-    const int rows = std::clamp(count, 1, linesThatFit(top));
-    const int columns = std::max(1, (count + rows - 1) / rows);
-    // Full columns to the left and a short one to the right are harder to read than equal ones.
-    const int perColumn = std::max(1, (count + columns - 1) / columns);
+    const Columns columns = columnsFor(count, (maxHeight - top - below) / kMenuLine);
+    const int width = levelWidth(content, columns.count);
+    const int item = (width - roomBeside(content, columns.count)) / columns.count;
+    const int bottom = top + columns.rows * kMenuLine;
 
-    int itemWidth = 900;
-    for (const int width : content.itemWidths) itemWidth = std::max(itemWidth, width + 2 * kItemMargin);
-    const int mostWide = (kScreen.width() - 2 * kMargin - (columns - 1) * kColumnGap) / columns;
-    itemWidth = std::min(itemWidth, mostWide);
-    for (int i = 0; i < count; ++i)
-        geometry.items.emplace_back(kMargin + i / perColumn * (itemWidth + kColumnGap),
-                                    top + i % perColumn * kMenuLine, itemWidth, kMenuLine);
-
-    int width = 2 * kMargin + columns * itemWidth + (columns - 1) * kColumnGap;
-    int height = top + perColumn * kMenuLine + kMargin;
-    if (content.hasEntry) {
-        geometry.entry = QRect(kMargin + itemWidth + kItemMargin, top - (kEntryHeight - kMenuLine) / 2,
-                               kEntryWidth, kEntryHeight);
-        width += kItemMargin + kEntryWidth;
-        height = std::max(height, geometry.entry.bottom() + 1 + kMargin);
-    }
-    width = std::min(std::max(width, content.headingWidth + 2 * (kMargin + kItemMargin)), kScreen.width());
+    MenuGeometry geometry;
+    geometry.items = itemPlaces(count, columns, top, item);
     if (content.headingWidth > 0)
         geometry.heading = QRect(kMargin, kMargin / 2, width - 2 * kMargin, kHeadingHeight);
+    if (content.hintWidth > 0) geometry.hint = QRect(kMargin, bottom, width - 2 * kMargin, kMenuLine);
+    int height = bottom + below;
+    if (content.hasEntry) {
+        geometry.entry = QRect(kMargin + item + kMenuItemMargin, top - (kEntryHeight - kMenuLine) / 2,
+                               kEntryWidth, kEntryHeight);
+        height = std::max(height, geometry.entry.bottom() + 1 + kMargin);
+    }
     geometry.level = QRect(onScreen({width, height}, beside), QSize(width, height));
     return geometry;
 }

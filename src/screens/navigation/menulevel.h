@@ -30,6 +30,8 @@ struct MenuLevel {
     QString name() const { return !heading.isEmpty() || items.empty() ? heading : items.front().label; }
     /// The code of the level that item \a k opens.
     QString childCode(int k) const { return code + QString::number(k); }
+    /// Whether the level shows what the ingredient search found.
+    bool isSearchResult() const { return code == u"0"; }
     /// The code as a number: what the dispatcher calls the level.
     int number() const { return code.toInt(); }
 };

@@ -6,10 +6,10 @@
 #include "core/topics.h"
 #include "core/value.h"
 #include "db/database.h"
-#include "db/queries.h"
 #include "forms/bassarne.h"
 #include "forms/screens.h"
 #include "forms/stage.h"
+#include "screens/navigation/ingredientsearch.h"
 
 namespace sarne {
 namespace {
@@ -38,12 +38,8 @@ QString recipesWithFoundIngredient(Database& db, int k) {
     menu.setIndex(QStringLiteral("PrimaryKey"));
     menu.Seek(QStringLiteral("="), QStringLiteral("%1").arg(k, 3, 10, QLatin1Char('0')));
     const QString ingredient = menu.NoMatch() ? QString() : menu.field(QStringLiteral("Odkazy")).toString();
-    Recordset recipes = queries::recipesWithIngredient(db, ingredient);
     QString ids;
-    for (; !recipes.AtEnd(); recipes.MoveNext()) {
-        if (const auto id = toRecordId(recipes.field(QStringLiteral("ID")).toLongLong()))
-            ids += QString::number(*id) + u',';
-    }
+    for (const std::int16_t id : recipesWithIngredient(db, ingredient)) ids += QString::number(id) + u',';
     return ids;
 }
 
@@ -98,8 +94,7 @@ void openTarget(basSarne& app, std::int16_t item, std::int16_t level, const QStr
             openPhotos(screens, item);
             break;
         case TopicKind::videos:
-            if (const auto number = toRecordId(static_cast<qint64>(leadingNumber(text))))
-                screens.showVideo(*number);
+            if (const auto number = leadingRecordId(text)) screens.showVideo(*number);
             break;
         case TopicKind::none:
         case TopicKind::submenus:

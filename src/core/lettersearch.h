@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 namespace sarne {
 
@@ -22,5 +23,10 @@ class LetterSearch {
     QString typed_;
     qint64 last_ = 0;
 };
+
+/// The index of the next of \a count names behind \a current, round the end, that begins with \a letters; -1
+/// when there is none. Case is ignored, and so are the accents of the names where the typed letter has none.
+/// With more than one letter the search starts at \a current itself.
+int findByLetters(int count, const std::function<QString(int)>& nameAt, int current, const QString& letters);
 
 }  // namespace sarne
