@@ -11,7 +11,7 @@ namespace sarne {
 
 inline constexpr QSize kDesignResolution(800, 600);  ///< what the screens are designed for, in pixels
 
-/// "1024,768".
+/// "1024,768": how the mode to come back to is kept.
 inline QString resolutionText(QSize size) {
     return QStringLiteral("%1,%2").arg(size.width()).arg(size.height());
 }
@@ -20,7 +20,8 @@ inline QString resolutionQuestion(QSize current) {
     return Texts::tr(
                "Program je koncipován pro spouštění v rozlišení 800 x 600, Váš počítač má nastaveno "
                "rozlišení ") +
-           resolutionText(current) + Texts::tr("\r\nChcete dočasně změnit rozlišení na 800 x 600?");
+           QStringLiteral("%1 x %2").arg(current.width()).arg(current.height()) +
+           Texts::tr("\r\nChcete dočasně změnit rozlišení na 800 x 600?");
 }
 
 inline QString resolutionWarning() {

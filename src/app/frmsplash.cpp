@@ -5,9 +5,11 @@
 
 #include "app/displayquestions.h"
 #include "app/program.h"
+#include "core/texts.h"
 #include "db/queries.h"
 #include "db/soundsettings.h"
 #include "forms/colors.h"
+#include "forms/label.h"
 #include "forms/messagebox.h"
 #include "media/videoarea.h"
 #include "richtext/surface.h"
@@ -49,7 +51,7 @@ bool frmSplash::Zobraz() {
     preparePictures();
     playIntro();
     readSettings();
-    return true;
+    return !closed_;
 }
 
 bool frmSplash::checkDisplay() {
@@ -84,6 +86,7 @@ void frmSplash::playIntro() {
     auto* Picture1 = new VideoArea(*this, QStringLiteral("Picture1"), MMControl1.get());
     Picture1->setAttribute(Qt::WA_TransparentForMouseEvents);
     Picture1->place({0, 0, basSarne::ScreenWidthTw, basSarne::ScreenHeightTw});
+    const std::unique_ptr<Label> hint = skipHint();
     QEventLoop untilEnd;
     intro_ = &untilEnd;
     connect(MMControl1.get(), &MultimediaControl::done, this, &frmSplash::KonecVideo);
@@ -94,6 +97,22 @@ void frmSplash::playIntro() {
     delete Picture1;
     MMControl1->setNotify(MediaNotify::Off);
     MMControl1->command(u"close");
+}
+
+std::unique_ptr<Label> frmSplash::skipHint() {
+    auto hint = std::make_unique<Label>(*this, QStringLiteral("lblPreskocit"));
+    hint->setText(Texts::tr("Esc přeskočí film"));
+    hint->setFont({QStringLiteral("Arial"), 12});
+    hint->setColor(colors::kTitle);
+    hint->setGround(colors::kNight);
+    hint->setAlignment(Qt::AlignCenter);
+    hint->place({9450, 8430, 2400, 420});
+    return hint;
+}
+
+void frmSplash::closeRequested() {
+    closed_ = true;
+    KonecVideo();
 }
 
 void frmSplash::KonecVideo() {

@@ -9,6 +9,7 @@ class QEventLoop;
 
 namespace sarne {
 
+class Label;
 class MultimediaControl;
 class Program;
 
@@ -20,7 +21,8 @@ class frmSplash : public Form {
     explicit frmSplash(Program& program);
     ~frmSplash() override;
 
-    /// The start: shows itself and prepares the run. False when the user declines to go on.
+    /// The start: shows itself and prepares the run. False when the user declines to go on or closes the
+    /// window.
     bool Zobraz();
     /// Ends the intro video; the start goes on.
     void KonecVideo();
@@ -29,7 +31,7 @@ class frmSplash : public Form {
     /// The text under the title.
     void setCaption(const QString& caption);
 
-    void closeRequested() override { KonecVideo(); }
+    void closeRequested() override;
 
   protected:
     void paint(QPainter& painter) override;
@@ -41,12 +43,14 @@ class frmSplash : public Form {
     bool checkFonts();
     void preparePictures();
     void playIntro();
+    std::unique_ptr<Label> skipHint();
     void readSettings();
 
     Program& program_;
     QString caption_;
     std::unique_ptr<MultimediaControl> MMControl1;
     QEventLoop* intro_ = nullptr;
+    bool closed_ = false;
 };
 
 }  // namespace sarne

@@ -55,7 +55,10 @@ bool Program::Main(const QString& commandLine) {
     const bool goesOn = splash->Zobraz();
     if (goesOn) screens_.showMain();
     splash->unload();
-    if (!goesOn) return false;
+    if (!goesOn) {
+        restoreDisplay();
+        return false;
+    }
     mainScreen()->showForm();
     return true;
 }

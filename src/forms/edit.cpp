@@ -1,16 +1,20 @@
 #include "forms/edit.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMimeData>
 
 #include "forms/colors.h"
+#include "forms/editmenu.h"
 #include "forms/form.h"
 
 namespace sarne {
 
 Edit::Edit(Form& form, const QString& name) : Control(form, name), line_(new QLineEdit(this)) {
     line_->setObjectName(name + QStringLiteral(".line"));
-    line_->setContextMenuPolicy(Qt::NoContextMenu);
     line_->installEventFilter(this);
     setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(line_);
@@ -67,7 +71,18 @@ void Edit::rescale() {
             .arg(border * 2));
 }
 
+void Edit::showMenu(QPoint global) {
+    const QMimeData* clipboard = QGuiApplication::clipboard()->mimeData();
+    const EditState state{line_->isUndoAvailable(), line_->isRedoAvailable(), line_->hasSelectedText(),
+                          clipboard && clipboard->hasText(), !line_->text().isEmpty()};
+    showEditMenu(*line_, state, scale(), global);
+}
+
 bool Edit::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == line_ && event->type() == QEvent::ContextMenu) {
+        showMenu(static_cast<QContextMenuEvent*>(event)->globalPos());
+        return true;
+    }
     if (watched == line_ && event->type() == QEvent::KeyPress) {
         auto& key = static_cast<QKeyEvent&>(*event);
         const bool forForm = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||

@@ -37,6 +37,8 @@ class Edit : public Control {
     void focusInEvent(QFocusEvent* event) override;
 
   private:
+    void showMenu(QPoint global);
+
     QLineEdit* line_;
     TextFont font_;
 };

@@ -4,14 +4,13 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QTextBlock>
 
-#include "core/texts.h"
 #include "forms/colors.h"
+#include "forms/editmenu.h"
 #include "forms/form.h"
 
 namespace sarne {
@@ -25,10 +24,7 @@ QString editorStyle(double scale) {
                "QScrollBar:vertical{background:%1;width:%8px;margin:0}"
                "QScrollBar::handle:vertical{background:%3;border-radius:%6px;min-height:%9px}"
                "QScrollBar::add-line,QScrollBar::sub-line{height:0}"
-               "QScrollBar::add-page,QScrollBar::sub-page{background:none}"
-               "QMenu{background:%1;color:%2;border:%5px solid %3}"
-               "QMenu::item{padding:%7px %8px}"
-               "QMenu::item:selected{background:%4;color:%1}QMenu::item:disabled{color:%3}")
+               "QScrollBar::add-page,QScrollBar::sub-page{background:none}")
         .arg(colors::kPaper.name(), colors::kInk.name(), colors::kCopper.name(), colors::kSelected.name())
         .arg(unit * 2)
         .arg(unit * 5)
@@ -162,21 +158,10 @@ bool NoteEdit::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void NoteEdit::showMenu(QPoint global) {
-    QMenu menu(editor_);
     const QTextDocument& document = *editor_->document();
-    const bool selected = editor_->textCursor().hasSelection();
-    const auto add = [&](const QString& caption, bool enabled, void (QPlainTextEdit::*action)()) {
-        menu.addAction(caption, editor_, action)->setEnabled(enabled);
-    };
-    add(Texts::tr("Zpět\tCtrl+Z"), document.isUndoAvailable(), &QPlainTextEdit::undo);
-    add(Texts::tr("Znovu\tCtrl+Y"), document.isRedoAvailable(), &QPlainTextEdit::redo);
-    menu.addSeparator();
-    add(Texts::tr("Vyjmout\tCtrl+X"), selected, &QPlainTextEdit::cut);
-    add(Texts::tr("Kopírovat\tCtrl+C"), selected, &QPlainTextEdit::copy);
-    add(Texts::tr("Vložit\tCtrl+V"), editor_->canPaste(), &QPlainTextEdit::paste);
-    menu.addSeparator();
-    add(Texts::tr("Vybrat vše\tCtrl+A"), !document.isEmpty(), &QPlainTextEdit::selectAll);
-    menu.exec(global);
+    const EditState state{document.isUndoAvailable(), document.isRedoAvailable(),
+                          editor_->textCursor().hasSelection(), editor_->canPaste(), !document.isEmpty()};
+    showEditMenu(*editor_, state, scale(), global);
 }
 
 void NoteEdit::focusInEvent(QFocusEvent*) {

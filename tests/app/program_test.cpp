@@ -153,5 +153,26 @@ TEST_F(ProgramTest, StartsAndEndsWithoutAnything) {
     }
 }
 
+TEST_F(ProgramTest, TheWindowsCloseButtonAsksOnEveryScreen) {
+    ASSERT_TRUE(program->Main({}));
+    const auto close = [&](Qt::Key answer) {
+        bool asked = false;
+        QTimer::singleShot(0, [&asked, answer] {
+            asked = true;
+            press(answer);
+        });
+        program->stage().close();
+        QApplication::processEvents();
+        return asked && program->stage().modalForm() == nullptr;
+    };
+    EXPECT_TRUE(close(Qt::Key_N)) << "main screen";
+    press(Qt::Key_F4);
+    ASSERT_NE(program->FormStack.top(), program->mainScreen());
+    EXPECT_TRUE(close(Qt::Key_N)) << "settings";
+    EXPECT_FALSE(program->hasEnded());
+    EXPECT_TRUE(close(Qt::Key_A));
+    EXPECT_TRUE(program->hasEnded());
+}
+
 }  // namespace
 }  // namespace sarne

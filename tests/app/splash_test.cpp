@@ -57,7 +57,7 @@ class SplashTest : public testing::Test {
 
 const QString kQuestion = QStringLiteral(
     "Program je koncipován pro spouštění v rozlišení 800 x 600, Váš počítač má nastaveno rozlišení "
-    "1024,768\r\nChcete dočasně změnit rozlišení na 800 x 600?");
+    "1024 x 768\r\nChcete dočasně změnit rozlišení na 800 x 600?");
 const QString kWarning = QStringLiteral(
     "Pokud program spustíte pod současným rozlišením, mohou být obrazovky deformovány. \r\n\r\n"
     "Chcete přesto pokračovat?\r\n\r\n");
@@ -141,6 +141,23 @@ TEST_F(SplashTest, AnIntroThatCannotBePlayedIsSkipped) {
     };
     make(parts);
     EXPECT_TRUE(start({}));
+}
+
+TEST_F(SplashTest, TheWindowsCloseButtonEndsTheStart) {
+    QFile intro(folder.filePath(QStringLiteral("video/UVOD.AVI")));
+    ASSERT_TRUE(intro.open(QIODevice::WriteOnly));
+    platform.display.size = {1024, 768};
+    PlatformParts parts = platform.parts();
+    parts.makePlayer = [] { return std::make_unique<FakeMultimedia>(); };
+    make(parts);
+    QString hint;
+    QTimer::singleShot(300, [&] {
+        hint = child<Label>(program->stage(), "lblPreskocit")->text();
+        program->stage().close();
+    });
+    EXPECT_FALSE(start({Qt::Key_A}));
+    EXPECT_EQ(hint, QStringLiteral("Esc přeskočí film"));
+    EXPECT_EQ(platform.display.current(), QSize(1024, 768)) << "the display is as it was";
 }
 
 }  // namespace

@@ -218,17 +218,26 @@ TEST_F(NoteEditing, HoldsATextOfAnyLength) {
 TEST_F(NoteEditing, OffersItsCommandsInCzech) {
     note.setText(QStringLiteral("ryba"));
     QStringList captions;
-    QTimer::singleShot(0, [&] {
+    int large = 0;
+    const auto useMenu = [&] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         if (!menu) return;
         for (QAction* action : menu->actions()) captions << action->text();
+        large = menu->sizeHint().height();
         menu->actions().last()->trigger();
         menu->close();
-    });
+    };
+    QTimer::singleShot(0, useMenu);
     QContextMenuEvent ask(QContextMenuEvent::Keyboard, {5, 5}, note.mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(note.editor().viewport(), &ask);
     EXPECT_TRUE(captions.contains(QStringLiteral("Znovu\tCtrl+Y")));
     EXPECT_EQ(note.editor().textCursor().selectedText(), QStringLiteral("ryba"));
+    const int small = large;
+    run.window.resize(1600, 1200);
+    QApplication::processEvents();
+    QTimer::singleShot(0, useMenu);
+    QApplication::sendEvent(note.editor().viewport(), &ask);
+    EXPECT_NEAR(large, 2 * small, small / 5) << "as large as everything on the stage";
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/resources.h"
@@ -22,8 +23,8 @@ constexpr int kFirstEffect = 100;    // button i sounds effect i + 100
 
 /// What button \a i is called: as the menu that it opens.
 QString nameOf(Database& db, int i) {
-    if (i == kExitButton) return QStringLiteral("Konec programu");
-    if (i == kMusicButton) return QStringLiteral("Nastavení hudby a zvuků");
+    if (i == kExitButton) return Texts::tr("Konec programu");
+    if (i == kMusicButton) return Texts::tr("Nastavení hudby a zvuků");
     return MenuLevel::build(db, QString::number(i)).name();
 }
 

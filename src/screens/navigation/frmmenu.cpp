@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/panel.h"
@@ -52,7 +53,7 @@ void frmMenu::setUp() {
     Text1.setFont(kItemFont);
     Text1.setAccessibleName(QStringLiteral("Začátek názvu suroviny"));
     Text1.hide();
-    imgHledat.setTip(QStringLiteral("Hledat"));
+    imgHledat.setTip(Texts::tr("Hledat"));
     imgHledat.hide();
     connect(&imgHledat, &Control::clicked, this, &frmMenu::search);
     connect(&tmrPodmenu, &Timer::tick, this, [this] {
@@ -108,10 +109,11 @@ void frmMenu::buildLabels() {
     }
 }
 
-MenuContent frmMenu::contentOf(const MenuLevel& level, int besideText) const {
+MenuContent frmMenu::contentOf(const MenuLevel& level) const {
     MenuContent content;
+    const int room = besideTexts(level);
     for (const MenuItem& item : level.items)
-        content.itemWidths.push_back(Label::measure(item.label + kSpacing, kItemFont).width() + besideText);
+        content.itemWidths.push_back(Label::measure(item.label + kSpacing, kItemFont).width() + room);
     if (!level.heading.isEmpty()) content.headingWidth = Label::measure(level.heading, kHeadingFont).width();
     if (const QString hint = searchHint(level); !hint.isEmpty())
         content.hintWidth = Label::measure(hint, kHintFont).width();
@@ -120,16 +122,9 @@ MenuContent frmMenu::contentOf(const MenuLevel& level, int besideText) const {
 }
 
 void frmMenu::applyGeometry(const QRect& beside) {
-    const int room = besideTexts(level_);
-    geometry_ = layOutMenu(contentOf(level_, room), beside, maxHeight_);
+    geometry_ = layOutMenu(contentOf(level_), beside, maxHeight_);
     place(geometry_.level);
-    placeLabels(false);
-    const bool left = anyOpensToTheLeft();
-    if (left) {
-        geometry_ = layOutMenu(contentOf(level_, 2 * room), beside, maxHeight_);
-        place(geometry_.level);
-        placeLabels(true);
-    }
+    placeLabels();
     lblNadpis.place(geometry_.heading);
     Text1.setVisible(hasEntry());
     imgHledat.setVisible(hasEntry());
@@ -139,23 +134,22 @@ void frmMenu::applyGeometry(const QRect& beside) {
     imgHledat.place({geometry_.entry.right() + 1 - side, geometry_.entry.top(), side, side});
 }
 
-void frmMenu::placeLabels(bool arrowsLeft) {
+void frmMenu::placeLabels() {
+    for (size_t i = 0; i < level_.items.size(); ++i) lblOdkaz[i]->place(geometry_.items[i]);
     const int room = besideTexts(level_) + kMenuItemMargin;
-    for (size_t i = 0; i < level_.items.size(); ++i) {
-        MenuLabel& label = *lblOdkaz[i];
-        label.place(geometry_.items[i]);
-        label.setMargins(arrowsLeft ? room : kMenuItemMargin, room);
-        const bool opens = level_.items[i].opensSubmenu();
-        const bool left = arrowsLeft && opens && opensToTheLeft(int(i) + 1);
-        label.setArrow(!opens ? MenuLabel::Arrow::None
-                       : left ? MenuLabel::Arrow::Left
-                              : MenuLabel::Arrow::Right);
+    const bool left = anyOpensToTheLeft();
+    for (int k = 1; k <= int(level_.items.size()); ++k) {
+        MenuLabel& label = *lblOdkaz[size_t(k - 1)];
+        label.setMargins(left ? room : kMenuItemMargin, left ? kMenuItemMargin : room);
+        label.setArrow(!item(k).opensSubmenu() ? MenuLabel::Arrow::None
+                       : opensToTheLeft(k)     ? MenuLabel::Arrow::Left
+                                               : MenuLabel::Arrow::Right);
     }
 }
 
 bool frmMenu::opensToTheLeft(int k) const {
     const MenuLevel below = MenuLevel::build(app().Db(), level_.childCode(k));
-    const MenuContent content = contentOf(below, besideTexts(below));
+    const MenuContent content = contentOf(below);
     return layOutMenu(content, labelOnScreen(k)).level.left() < twips().left();
 }
 

@@ -59,9 +59,9 @@ class frmMenu : public Form {
     void buildLabels();
     void dressLabel(int k);
     MenuLabel* newLabel();
-    MenuContent contentOf(const MenuLevel& level, int besideText) const;
+    MenuContent contentOf(const MenuLevel& level) const;
     void applyGeometry(const QRect& beside);
-    void placeLabels(bool arrowsLeft);
+    void placeLabels();
     bool opensToTheLeft(int k) const;
     bool anyOpensToTheLeft() const;
     void select(int k);

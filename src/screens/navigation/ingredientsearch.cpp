@@ -1,5 +1,6 @@
 #include "screens/navigation/ingredientsearch.h"
 
+#include "core/texts.h"
 #include "core/value.h"
 #include "db/database.h"
 #include "db/queries.h"
@@ -56,8 +57,8 @@ bool searchIngredients(Database& db, const QString& text) {
 
 QString searchHint(const MenuLevel& level) {
     if (!level.isSearchResult() || level.items.size() != 1 || level.items[0].isSelectable()) return {};
-    if (level.items[0].label == kTooMany) return QStringLiteral("Připište další písmena názvu.");
-    return QStringLiteral("Pište s háčky a čárkami; stačí začátek názvu.");
+    if (level.items[0].label == kTooMany) return Texts::tr("Připište další písmena názvu.");
+    return Texts::tr("Pište s háčky a čárkami; stačí začátek názvu.");
 }
 
 std::vector<std::int16_t> recipesWithIngredient(Database& db, const QString& ingredient) {
@@ -70,9 +71,9 @@ std::vector<std::int16_t> recipesWithIngredient(Database& db, const QString& ing
 }
 
 QString recipeCountText(int recipes) {
-    if (recipes == 0) return QStringLiteral("žádný recept");
-    const auto* noun = recipes == 1 ? "recept" : recipes < 5 ? "recepty" : "receptů";
-    return QStringLiteral("%1 %2").arg(recipes).arg(QString::fromUtf8(noun));
+    if (recipes == 0) return Texts::tr("žádný recept");
+    if (recipes == 1) return Texts::tr("1 recept");
+    return (recipes < 5 ? Texts::tr("%1 recepty") : Texts::tr("%1 receptů")).arg(recipes);
 }
 
 }  // namespace sarne
