@@ -60,7 +60,15 @@ bool Program::Main(const QString& commandLine) {
         return false;
     }
     mainScreen()->showForm();
+    greet();
     return true;
+}
+
+void Program::greet() {
+    const QString shown = QStringLiteral("KitchenShown");
+    if (!ReadAppPathValue(shown).isEmpty() || !userFile_.value(shown).isEmpty()) return;
+    userFile_.setValue(shown, QStringLiteral("1"));
+    mainScreen()->showThings();
 }
 
 QString Program::ReadAppPathValue(const QString& name) const {

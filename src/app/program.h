@@ -63,6 +63,8 @@ class Program final : public QObject, public basSarne {
     void openDatabase();
     /// The window's close button: closes a box that asks, else asks whether to end the program.
     void closeWindow();
+    /// Shows the kitchen's things to a user who sees them for the first time.
+    void greet();
     void endProgram();
     void unloadForms(const QStringList& names);
     void restoreDisplay();

@@ -174,5 +174,22 @@ TEST_F(ProgramTest, TheWindowsCloseButtonAsksOnEveryScreen) {
     EXPECT_TRUE(program->hasEnded());
 }
 
+TEST_F(ProgramTest, TheFirstVisitShowsTheThingsAndNoOther) {
+    const auto lit = [&] {
+        int running = 0;
+        for (const Timer* timer : program->mainScreen()->findChildren<Timer*>())
+            running += timer->isEnabled();
+        return running;
+    };
+    ASSERT_TRUE(program->Main({}));
+    EXPECT_EQ(lit(), 1);
+    press(Qt::Key_F2);
+    EXPECT_EQ(lit(), 0) << "any key ends it";
+    EXPECT_EQ(program->mainScreen()->currentButton(), -5);
+    make();
+    ASSERT_TRUE(program->Main({}));
+    EXPECT_EQ(lit(), 0);
+}
+
 }  // namespace
 }  // namespace sarne

@@ -19,6 +19,7 @@ class TourSettings final : public SettingsStore {
   public:
     explicit TourSettings(QString disc) : disc_(std::move(disc)) {}
     QString value(const QString&, const QString&, const QString& key) const override {
+        if (key == u"KitchenShown") return QStringLiteral("1");
         return key == u"CDPath" ? disc_ : QString();
     }
 

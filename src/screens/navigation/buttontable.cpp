@@ -26,20 +26,6 @@ std::vector<int> numbers(const QString& line) {
     return found;
 }
 
-/// Button indices from the upper left to the lower right, in rows as people read them.
-std::vector<int> readingOrder(const ButtonTable& table) {
-    constexpr int kRow = 1500;
-    std::vector<int> order;
-    for (int i = 0; i < kButtonCount; ++i) {
-        if (table[size_t(i)].isShown()) order.push_back(i);
-    }
-    std::ranges::sort(order, {}, [&](int i) {
-        const QPoint middle = table[size_t(i)].hotArea.center();
-        return std::tuple(middle.y() / kRow, middle.x(), i);
-    });
-    return order;
-}
-
 /// How far \a there lies from \a here in \a direction, sideways steps counting double; negative when it lies
 /// elsewhere.
 int reach(QPoint here, QPoint there, ArrowKey direction) {
@@ -65,6 +51,19 @@ ButtonTable buttonTable(const QString& text) {
         table[size_t(n[0])].frame = QSize(n[5], n[6]);
     }
     return table;
+}
+
+std::vector<int> readingOrder(const ButtonTable& table) {
+    constexpr int kRow = 1500;
+    std::vector<int> order;
+    for (int i = 0; i < kButtonCount; ++i) {
+        if (table[size_t(i)].isShown()) order.push_back(i);
+    }
+    std::ranges::sort(order, {}, [&](int i) {
+        const QPoint middle = table[size_t(i)].hotArea.center();
+        return std::tuple(middle.y() / kRow, middle.x(), i);
+    });
+    return order;
 }
 
 int nearestButton(const ButtonTable& table, int from, ArrowKey direction) {

@@ -3,6 +3,7 @@
 #include <QRect>
 #include <QString>
 #include <array>
+#include <vector>
 
 namespace sarne {
 
@@ -30,6 +31,8 @@ enum class ArrowKey { Left, Right, Up, Down };
 
 /// The button nearest to \a from in \a direction; \a from itself when there is none further that way.
 int nearestButton(const ButtonTable& table, int from, ArrowKey direction);
+/// The buttons that have a place, from the upper left to the lower right, in rows as people read them.
+std::vector<int> readingOrder(const ButtonTable& table);
 /// The button \a step places after \a from in reading order, going round at the ends; the first one, or for a
 /// step back the last one, when \a from is no button.
 int buttonInReadingOrder(const ButtonTable& table, int from, int step);

@@ -34,11 +34,14 @@ frmHlavni::frmHlavni(basSarne& sarne)
     : Form(sarne, QStringLiteral("frmHlavni")),
       current_(kNone),
       TmrPohyby(this),
-      Label2(*this, QStringLiteral("Label2")) {
+      Label2(*this, QStringLiteral("Label2")),
+      tmrSvetlo(this) {
     setMouseTracking(true);
     TmrPohyby.setInterval(kFrameInterval);
     TmrPohyby.setTag(QStringLiteral("0"));
     connect(&TmrPohyby, &Timer::tick, this, &frmHlavni::tick);
+    tmrSvetlo.setInterval(Sweep::kInterval);
+    connect(&tmrSvetlo, &Timer::tick, this, &frmHlavni::stepSweep);
     Label2.setText(QStringLiteral("Velisa sarn"));
     Label2.setFont({QStringLiteral("Times New Roman"), 15, true, true});
     Label2.setColor(colors::kTitle);
@@ -128,7 +131,40 @@ void frmHlavni::tick() {
     update(QRect(toPixels(place.topLeft()), toPixels(place.bottomRight())).adjusted(-2, -2, 2, 2));
 }
 
+void frmHlavni::showThings() {
+    sweep_.start(readingOrder(table_));
+    tmrSvetlo.setEnabled(true);
+}
+
+void frmHlavni::stepSweep() {
+    sweep_.step();
+    if (!sweep_.isRunning()) tmrSvetlo.setEnabled(false);
+    update();
+}
+
+void frmHlavni::endSweep() {
+    if (!sweep_.isRunning()) return;
+    sweep_.stop();
+    stepSweep();
+}
+
+void frmHlavni::paintGlow(QPainter& painter, int thing) const {
+    constexpr QColor kLight(255, 236, 170);
+    const QRectF area = QRectF(table_[size_t(thing)].hotArea);
+    const double radius = std::max(area.width(), area.height()) * .7;
+    QRadialGradient light(area.center(), radius);
+    QColor middle = kLight, edge = kLight;
+    middle.setAlphaF(float(.7 * sweep_.glow(thing)));
+    edge.setAlpha(0);
+    light.setColorAt(0, middle);
+    light.setColorAt(1, edge);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(light);
+    painter.drawEllipse(area.center(), radius, radius);
+}
+
 void frmHlavni::clickButton(int i) {
+    endSweep();
     current_ = i;
     lastClicked_ = i;
     if (i == kExitButton) return app().ConfirmExit();
@@ -173,6 +209,7 @@ void frmHlavni::showMenuAgain() {
 }
 
 void frmHlavni::mousePressEvent(QMouseEvent*) {
+    endSweep();
     if (!menuOpen_) return;
     SkryjMenu();
 }
@@ -195,6 +232,7 @@ void frmHlavni::moveTo(int button) {
 }
 
 bool frmHlavni::keyDown(QKeyEvent& event) {
+    endSweep();
     if (menuOpen_) {
         frmMenu* deepest = menu_;
         while (deepest->child()) deepest = deepest->child();
@@ -242,6 +280,7 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
 
 void frmHlavni::paint(QPainter& painter) {
     paintRoom(painter, app().Pictures.hlavni);
+    for (const int thing : sweep_.lit()) paintGlow(painter, thing);
     if (current_ < 0 || shownFrame_ == 0) return;
     const auto& pictures = frames(current_);
     if (size_t(shownFrame_) <= pictures.size())

@@ -10,6 +10,7 @@
 #include "forms/picture.h"
 #include "forms/timer.h"
 #include "screens/navigation/buttontable.h"
+#include "screens/navigation/sweep.h"
 
 namespace sarne {
 
@@ -27,6 +28,10 @@ class frmHlavni : public Form {
     /// The menu has closed: back to idle. When this screen is on top it gets its buttons, its pointer and the
     /// keyboard back.
     void SkryjMenu();
+
+    /// Lets a light go over the things once, so that who is new here sees what can be used. Any key or click
+    /// ends it, and does what it always does.
+    void showThings();
 
     /// The button under the mouse or last clicked; -5 for none.
     int currentButton() const { return current_; }
@@ -51,6 +56,9 @@ class frmHlavni : public Form {
     void endHover();
     void tick();
     void clickButton(int i);
+    void stepSweep();
+    void endSweep();
+    void paintGlow(QPainter& painter, int thing) const;
     void unfoldMenu(int i);
     void showMenuAgain();
     /// Where the keyboard is: the current button or, without one, the focused one.
@@ -69,6 +77,8 @@ class frmHlavni : public Form {
     Timer TmrPohyby;
     Label Label2;
     frmMenu* menu_ = nullptr;
+    Sweep sweep_;
+    Timer tmrSvetlo;
 };
 
 }  // namespace sarne
