@@ -251,6 +251,11 @@ void MpvControl::setSilent(MediaSound sound) {
     if (d_->core_) d_->core_->setFlag("mute", sound == MediaSound::Silent);
 }
 
+void MpvControl::setVolume(double decibels) {
+    d_->decibels_ = decibels;
+    if (d_->core_) d_->core_->setDecibels(decibels);
+}
+
 void MpvControl::setPosition(qint64 milliseconds) {
     if (d_->mode_ != MediaMode::NotOpen) d_->goTo(milliseconds);
 }

@@ -22,6 +22,7 @@ class MpvControl final : public MultimediaControl {
     MediaMode mode() const override;
     MediaError lastError() const override;
     void setSilent(MediaSound sound) override;
+    void setVolume(double decibels) override;
     void setNotify(MediaNotify notify) override;
     void setLoop(MediaLoop loop) override;
     void setWait(MediaWait wait) override;

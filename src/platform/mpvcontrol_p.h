@@ -38,6 +38,7 @@ class MpvControl::Private {
     MediaMode mode_ = MediaMode::NotOpen;
     MediaError error_ = MediaError::None;
     MediaSound sound_ = MediaSound::On;
+    double decibels_ = 0;
     MediaNotify notify_ = MediaNotify::Off;
     MediaLoop loop_ = MediaLoop::Off;
     MediaWait wait_ = MediaWait::Wait;

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <clocale>
+#include <cmath>
 #include <utility>
 
 namespace sarne {
@@ -101,6 +102,11 @@ void MpvCore::setFlag(const char* property, bool value) {
 
 void MpvCore::setText(const char* property, const char* value) {
     mpv_.setPropertyAsync(handle_, 0, property, MPV_FORMAT_STRING, static_cast<void*>(&value));
+}
+
+void MpvCore::setDecibels(double decibels) {
+    double volume = 100 * std::pow(10, decibels / 60);  // the player takes the cube of it
+    mpv_.setPropertyAsync(handle_, 0, "volume", MPV_FORMAT_DOUBLE, &volume);
 }
 
 void MpvCore::seek(qint64 milliseconds, quint64 tag) {

@@ -27,6 +27,8 @@ class MpvCore {
     void unload();
     void setFlag(const char* property, bool value);
     void setText(const char* property, const char* value);
+    /// How loud it plays against the file.
+    void setDecibels(double decibels);
     /// Asks to go to \a milliseconds, or to the end. Answered by a command reply with \a tag and, when it
     /// succeeds, a restart.
     void seek(qint64 milliseconds, quint64 tag);

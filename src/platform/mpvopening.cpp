@@ -69,6 +69,7 @@ bool MpvControl::Private::startPlayer() {
             q_, [this] { pictureChanged(); }, Qt::QueuedConnection);
     });
     core_->setFlag("mute", sound_ == MediaSound::Silent);
+    core_->setDecibels(decibels_);
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <cmath>
 
 #include "platform/beeper.h"
 #include "platform/effectplayer.h"
@@ -75,6 +76,17 @@ TEST_F(SoundTest, SilentIsSilentWhileTimePasses) {
     EXPECT_TRUE(server.waitForTone(500));
     music.setSilent(MediaSound::Silent);
     EXPECT_TRUE(server.waitForSilence());
+}
+
+TEST_F(SoundTest, StepsBackByAsManyDecibelsAsAreAskedFor) {
+    playMusic(20000, MediaLoop::Off);
+    ASSERT_TRUE(server.waitForTone(500));
+    const int usual = server.recorded().peak();
+    music.setVolume(-10);
+    runFor(500);
+    server.rewind();
+    runFor(500);
+    EXPECT_NEAR(20 * std::log10(double(server.recorded().peak()) / usual), -10, 0.5);
 }
 
 TEST_F(SoundTest, TimePassesWhenTheDeviceIsPulledOut) {

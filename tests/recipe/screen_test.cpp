@@ -1,4 +1,5 @@
 #include <QClipboard>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QImage>
 
@@ -117,6 +118,13 @@ TEST_F(ScreenTest, TheNameIsSpokenWhenItsSwitchIsOnOrForShow) {
     EXPECT_EQ(playedBy(false, true), 1);
     EXPECT_EQ(run.sounds.played.last(), QByteArray("RIFF..."));
     EXPECT_EQ(run.EffectWave, QByteArray("RIFF...")) << "kept while it sounds";
+    QByteArray second(16044, '\0');
+    second.replace(28, 2, "\x80\x3e");  // bytes a second
+    makeFile(QStringLiteral("zvuky/č5.wav"), second);
+    playedBy(true, false);
+    const QDeadlineTimer deadline(5000);
+    while (run.player.decibels > -10 && !deadline.hasExpired()) QApplication::processEvents();
+    EXPECT_EQ(run.player.decibels, -10) << "the music steps back";
 }
 
 TEST_F(ScreenTest, TheBarLeadsWhereItsButtonsSay) {

@@ -17,6 +17,7 @@ class FakeMultimedia final : public MultimediaControl {
     /// The error that the next command of this name gives ("open", "play" ...).
     QHash<QString, MediaError> failing;
     MediaSound sound = MediaSound::On;
+    double decibels = 0;
     MediaNotify notify = MediaNotify::Off;
     MediaLoop loop = MediaLoop::Off;
     MediaWait wait = MediaWait::Wait;
@@ -50,6 +51,7 @@ class FakeMultimedia final : public MultimediaControl {
     MediaMode mode() const override { return state; }
     MediaError lastError() const override { return lastCode; }
     void setSilent(MediaSound value) override { sound = value; }
+    void setVolume(double value) override { decibels = value; }
     void setNotify(MediaNotify value) override { notify = value; }
     void setLoop(MediaLoop value) override { loop = value; }
     void setWait(MediaWait value) override { wait = value; }

@@ -27,7 +27,8 @@ frmRecept::frmRecept(basSarne& run, Serving& lookedAt, AskNumber ask)
     : Form(run, QStringLiteral("frmRecept")),
       title_(new Label(*this, QStringLiteral("lblNazev"))),
       view_(new TextView(*this, QStringLiteral("picRecept"))),
-      picture_(new PictureBox(*this, QStringLiteral("picVedle"))) {
+      picture_(new PictureBox(*this, QStringLiteral("picVedle"))),
+      duck_(run.music()) {
     if (!ask) ask = [&run](const QString& prompt) { return askNumber(run, prompt); };
     recipe_.units = lookedAt.units;
     title_->place(recipelayout::kTitle);
@@ -159,6 +160,7 @@ void frmRecept::playName() {
     if (!file.open(QIODevice::ReadOnly)) return;
     app().EffectWave = file.readAll();
     app().effects().play(app().EffectWave);
+    duck_.speaking(app().EffectWave);
 }
 
 void frmRecept::openSection(int section) {
@@ -192,6 +194,7 @@ void frmRecept::Skryj() {
 
 void frmRecept::unload() {
     if (isLoaded()) {
+        duck_.release();
         if (!app().Ending) current().abandon();
         app().keepAwake({});
     }

@@ -7,6 +7,7 @@
 #include "forms/button.h"
 #include "forms/form.h"
 #include "forms/label.h"
+#include "forms/musicduck.h"
 #include "screens/recipe/recipesection.h"
 
 namespace sarne {
@@ -89,6 +90,7 @@ class frmRecept : public Form {
     TextView* view_;
     PictureBox* picture_;
     QPointer<QWidget> lastFocus_;
+    MusicDuck duck_;
 };
 
 }  // namespace sarne

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QByteArray>
+
+#include "forms/timer.h"
+
+namespace sarne {
+
+class MultimediaControl;
+
+/// Holds the background music back while something is spoken: 10 dB down within 150 ms, back over a second.
+class MusicDuck {
+  public:
+    explicit MusicDuck(MultimediaControl& music);
+
+    /// Holds it back for as long as \a wavImage, a whole WAV file, lasts from now on; what is no WAV changes
+    /// nothing.
+    void speaking(const QByteArray& wavImage);
+    /// Lets the music sound as before at once.
+    void release();
+    /// Ticks while the music is not as loud as usual.
+    Timer& timer() { return timer_; }
+
+  private:
+    void tick();
+
+    MultimediaControl& music_;
+    Timer timer_;
+    qint64 milliseconds_ = 0;  // for which it is still held back
+    double level_ = 0;         // decibels
+};
+
+}  // namespace sarne
