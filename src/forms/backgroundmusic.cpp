@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "forms/bassarne.h"
+#include "forms/messagebox.h"
 #include "platform/multimediacontrol.h"
 
 namespace sarne {
@@ -17,6 +18,39 @@ bool isSameFile(const QString& one, const QString& other) {
     return real(one) == real(other);
 }
 
+/// Tells the user why the track that is being opened cannot be played, when that turns out later. A track
+/// that is opened after it is watched in its place.
+void watchOpening(basSarne& app, MultimediaControl& player) {
+    const auto name = QStringLiteral("openingWatch");
+    delete player.findChild<QObject*>(name, Qt::FindDirectChildrenOnly);
+    auto* watch = new QObject(&player);
+    watch->setObjectName(name);
+    QObject::connect(&player, &MultimediaControl::opened, watch, &QObject::deleteLater);
+    QObject::connect(&player, &MultimediaControl::done, watch, [&app, &player, watch](int code) {
+        if (code != int(MediaDone::Failed)) return;
+        // Not from within the player, which waits until its report has been heard.
+        QMetaObject::invokeMethod(
+            watch, [&app, text = player.errorMessage()] { app.ZobrazZpravu(text, kErrorBox); },
+            Qt::QueuedConnection);
+    });
+}
+
+void openTrack(basSarne& app, const QString& track) {
+    MultimediaControl& player = app.music();
+    player.command(u"stop");
+    player.command(u"close");
+    player.setFileName(track);
+    player.setWait(MediaWait::DontWait);
+    watchOpening(app, player);
+    player.command(u"open");
+    if (player.error() > 0) {
+        app.ZobrazZpravu(player.errorMessage(), kErrorBox);
+        return;
+    }
+    player.setNotify(MediaNotify::On);
+    player.command(u"Play");
+}
+
 }  // namespace
 
 QString fileForPlayer(const basSarne& app, const QString& relative) {
@@ -28,27 +62,16 @@ QString musicTrack(const basSarne& app, bool wineSounds) {
     return fileForPlayer(app, wineSounds ? QStringLiteral("zvuky\\vina.wav") : QStringLiteral("hudba.wav"));
 }
 
-QString applyMusicSwitches(basSarne& app, bool wineSounds) {
+void applyMusicSwitches(basSarne& app, bool wineSounds) {
     MultimediaControl& player = app.music();
     const QString track = musicTrack(app, wineSounds);
     app.SoundFlags[kWineSounds] = wineSounds;
-    if (!app.SoundFlags[kMusic]) {
+    if (!app.SoundFlags[kMusic])
         player.command(u"Stop");
-        return {};
-    }
-    if (player.mode() != MediaMode::NotOpen && isSameFile(player.fileName(), track)) {
-        if (player.mode() != MediaMode::Playing) player.command(u"Play");
-        return {};
-    }
-    player.command(u"stop");
-    player.command(u"close");
-    player.setFileName(track);
-    player.setWait(MediaWait::DontWait);
-    player.command(u"open");
-    if (player.error() > 0) return player.errorMessage();
-    player.setNotify(MediaNotify::On);
-    player.command(u"Play");
-    return {};
+    else if (player.mode() == MediaMode::NotOpen || !isSameFile(player.fileName(), track))
+        openTrack(app, track);
+    else if (player.mode() != MediaMode::Playing)
+        player.command(u"Play");
 }
 
 }  // namespace sarne

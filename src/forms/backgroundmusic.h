@@ -10,12 +10,12 @@ class basSarne;
 /// named all the same, so that the player says that it was not found.
 QString fileForPlayer(const basSarne& app, const QString& relative);
 
-/// The background track's file, as a native path; empty when it is missing.
+/// The background track's file, as a native path, whether it is there or not.
 QString musicTrack(const basSarne& app, bool wineSounds);
 
 /// Makes the background music follow its switches, after a change of them: stops it when it is off; starts
-/// the track \a wineSounds tells when another one is open or none; otherwise lets it play on. Returns the
-/// player's error text when the track cannot be opened, else an empty text.
-QString applyMusicSwitches(basSarne& app, bool wineSounds);
+/// the track \a wineSounds tells when another one is open or none; otherwise lets it play on. A track that
+/// cannot be opened is told to the user in the player's words, at once or when the player finds out.
+void applyMusicSwitches(basSarne& app, bool wineSounds);
 
 }  // namespace sarne

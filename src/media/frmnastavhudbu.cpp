@@ -5,7 +5,6 @@
 #include "forms/backgroundmusic.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
-#include "forms/messagebox.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
 
@@ -132,8 +131,7 @@ void frmNastavHudbu::store() {
     storeSoundSettings(app().Db(), on);
     const bool wineSounds = opthudba[1]->isChecked();
     for (size_t i = 0; i < on.size(); ++i) app().SoundFlags[i] = on[i];
-    const QString error = applyMusicSwitches(app(), wineSounds);
-    if (!error.isEmpty()) app().ZobrazZpravu(error, kErrorBox);
+    applyMusicSwitches(app(), wineSounds);
 }
 
 bool frmNastavHudbu::keyDown(QKeyEvent& event) {

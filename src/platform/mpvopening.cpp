@@ -107,6 +107,7 @@ void MpvControl::Private::opened() {
     atEnd_ = false;
     QMetaObject::invokeMethod(
         q_, [this] { pictureChanged(); }, Qt::QueuedConnection);
+    Q_EMIT q_->opened();
     if (playWhenOpen_) play();
 }
 

@@ -92,6 +92,8 @@ class MultimediaControl : public QObject {
     virtual QImage renderFrame(QSize size) = 0;
 
   Q_SIGNALS:
+    /// The file of the last "open" is open. With done(Failed) instead it could not be opened.
+    void opened();
     /// Playing ended; \a code is a MediaDone. Interruptions are told from within the command that interrupts.
     void done(int code);
     /// renderFrame() has something new to show.

@@ -172,7 +172,7 @@ TEST_F(PageTest, TheSoundButtonSwitchesTheMusicAndTheStoredSwitch) {
     EXPECT_FALSE(run.player.commands.contains(u("close"))) << "it goes on where it was";
 }
 
-TEST_F(PageTest, MusicThatWasNeverOpenIsOpenedOrStaysSilent) {
+TEST_F(PageTest, MusicThatWasNeverOpenIsOpenedOrTellsWhyNot) {
     run.SoundFlags = {true, false, true, false, true};
     run.MediaRoot = LogicalPaths::fromNativeFolder(book.folder.path());
     QDir(book.folder.path()).mkdir(u("ZVUKY"));
@@ -182,7 +182,7 @@ TEST_F(PageTest, MusicThatWasNeverOpenIsOpenedOrStaysSilent) {
     run.player.failing[u("open")] = MediaError::InvalidFile;
     click(4);
     EXPECT_FALSE(run.player.playing());
-    EXPECT_EQ(run.messages, QStringList());
+    EXPECT_EQ(run.messages, QStringList{u("16: ") + mediaErrorText(MediaError::InvalidFile)});
     click(4);
     run.player.failing.clear();
     click(4);

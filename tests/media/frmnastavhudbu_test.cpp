@@ -101,6 +101,30 @@ TEST_F(SettingsTest, ATrackThatCannotBeOpenedIsReportedAndTheSwitchesAreKept) {
     EXPECT_EQ(stored(), QStringLiteral("11111"));
 }
 
+TEST_F(SettingsTest, ATrackFoundBrokenLaterIsReportedThenAndOnlyOnce) {
+    const auto told = QStringLiteral("16: ") + mediaErrorText(MediaError::InvalidFile);
+    run.player.opensLater = true;
+    click(track(1));
+    confirm();
+    open();
+    click(track(0));
+    confirm();
+    EXPECT_EQ(run.messages, QStringList());
+    run.player.failToOpen(MediaError::InvalidFile);
+    EXPECT_EQ(run.messages, QStringList()) << "the player waits for its report to be heard";
+    QTest::qWait(0);
+    EXPECT_EQ(run.messages, QStringList{told});
+    run.player.opensLater = false;
+    open();
+    click(track(1));
+    confirm();
+    EXPECT_TRUE(run.player.playing());
+    QTest::qWait(0);
+    run.player.breakOff(MediaDone::Failed);
+    QTest::qWait(0);
+    EXPECT_EQ(run.messages, QStringList{told}) << "a track that broke off stays silent";
+}
+
 TEST_F(SettingsTest, AMissingTrackIsReportedByThePlayerThatLooksForIt) {
     QFile::remove(path("zvuky/Vina.WAV"));
     click(track(1));

@@ -111,6 +111,17 @@ TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
     run.SoundFlags[kWineSounds] = true;
     start();
     EXPECT_EQ(run.player.fileName(), folder.filePath(QStringLiteral("zvuky/vina.wav")));
+    QFile::remove(run.player.fileName());
+    run.player.failing[QStringLiteral("open")] = MediaError::FileNotFound;
+    start();
+    EXPECT_EQ(run.player.fileName(), run.MediaRoot + QStringLiteral("zvuky\\vina.wav"))
+        << "the player is told what it does not find";
+    run.player.failing.clear();
+    run.player.opensLater = true;
+    start();
+    run.player.failToOpen(MediaError::InvalidFile);
+    QTest::qWait(0);
+    EXPECT_EQ(run.messages, QStringList()) << "the start is silent about its music";
 }
 
 TEST_F(MainScreenTest, ThingsAreNamedAsTheMenusTheyOpen) {

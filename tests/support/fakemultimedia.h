@@ -26,6 +26,8 @@ class FakeMultimedia final : public MultimediaControl {
     QSize video;
     MediaMode state = MediaMode::NotOpen;
     MediaError lastCode = MediaError::None;
+    /// "open" leaves the file to be opened until failToOpen().
+    bool opensLater = false;
 
     /// The file comes to its end.
     void end() {
@@ -37,6 +39,11 @@ class FakeMultimedia final : public MultimediaControl {
     void breakOff(MediaDone code) {
         state = MediaMode::Stopped;
         if (notify == MediaNotify::On) Q_EMIT done(static_cast<int>(code));
+    }
+    /// The file that is being opened turns out to be none.
+    void failToOpen(MediaError error) {
+        lastCode = error;
+        if (notify == MediaNotify::On) Q_EMIT done(static_cast<int>(MediaDone::Failed));
     }
     bool playing() const { return state == MediaMode::Playing; }
 
@@ -71,10 +78,11 @@ class FakeMultimedia final : public MultimediaControl {
         if (word == u"close") {
             interrupt(MediaMode::NotOpen);
         } else if (word == u"open") {
-            interrupt(MediaMode::Stopped);
+            interrupt(opensLater ? MediaMode::NotOpen : MediaMode::Stopped);
             positionMs = 0;
+            if (!opensLater) Q_EMIT opened();
         } else if (state == MediaMode::NotOpen) {
-            lastCode = MediaError::NotOpen;
+            if (!opensLater) lastCode = MediaError::NotOpen;
         } else if (word == u"play") {
             const bool already = state == MediaMode::Playing;
             state = MediaMode::Playing;

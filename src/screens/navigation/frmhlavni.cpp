@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "core/texts.h"
+#include "forms/backgroundmusic.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/resources.h"
@@ -75,8 +76,7 @@ void frmHlavni::startMusic() {
     MultimediaControl& player = app().music();
     connect(&player, &MultimediaControl::done, this, &frmHlavni::playAgain);
     if (!app().SoundFlags[kMusic]) return;
-    player.setFileName(app().mediaFile(app().SoundFlags[kWineSounds] ? QStringLiteral("zvuky\\Vina.WAV")
-                                                                     : QStringLiteral("HUDBA.WAV")));
+    player.setFileName(musicTrack(app(), app().SoundFlags[kWineSounds]));
     player.setNotify(MediaNotify::Off);
     player.command(u"open");
     player.setNotify(MediaNotify::On);
