@@ -23,7 +23,8 @@ QString textOf(const QWidget& widget) {
 QString textsOf(const Form& form) {
     QStringList lines{QStringLiteral("[") + form.name() + QStringLiteral("]")};
     for (const auto* control : form.findChildren<Control*>()) {
-        const QString text = control->isVisible() ? textOf(*control) : QString();
+        QString text = control->isVisible() ? textOf(*control) : QString();
+        text.remove(u'\r');  // the texts expected are kept with plain line ends
         if (!text.trimmed().isEmpty()) lines << control->objectName() + QStringLiteral(": ") + text;
     }
     return lines.join(u'\n');

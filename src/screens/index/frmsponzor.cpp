@@ -130,7 +130,8 @@ void frmSponzor::showPicture(int index) {
     closeCard();
     picture_ = app().mediaPicture(QStringLiteral("foto\\sponzor\\%1.bmp").arg(current().number));
     setTitle(current().title);
-    hint_.setText(plainText(current().text, 400).simplified());
+    // Its blanks that hold words together stay what they are.
+    hint_.setText(plainText(current().text, 400).trimmed().replace(u'\n', u' '));
     position_.setText(count > 1 ? QStringLiteral("%1 z %2").arg(at_ + 1).arg(count) : QString());
     previous_.setVisible(count > 1);
     next_.setVisible(count > 1);
