@@ -8,7 +8,7 @@ namespace {
 constexpr int kRate = 32000;
 constexpr double kBeforeSpeech = 0.25;
 constexpr double kAfterSpeech = 0.55;
-constexpr double kLongest = 20;
+constexpr double kLongest = 75;
 constexpr double kShortest = 8;
 constexpr double kHighestPeak = -3.3;
 constexpr double kMusicLoudness = -5;
@@ -43,7 +43,7 @@ QList<Sound> speakCaptions(Film& film, const Voices& voices, QList<FilmFault>& f
     }
     if (time < kShortest || time > kLongest)
         faults << FilmFault{film.place,
-                            QStringLiteral("film trvá %1 s, má trvat 8 až 20").arg(time, 0, 'f', 1)};
+                            QStringLiteral("film trvá %1 s, má trvat 8 až 75").arg(time, 0, 'f', 1)};
     return spoken;
 }
 
