@@ -68,8 +68,8 @@ class MultimediaControl : public QObject {
     /// Silent: plays the picture and lets the time pass, without sound. Takes effect at once, lasts over
     /// files.
     virtual void setSilent(MediaSound sound) = 0;
-    /// How loud it plays, in \a decibels against the file: 0 as it is, less below 0. Takes effect at once, lasts
-    /// over files.
+    /// How loud it plays, in \a decibels against the file: 0 as it is, less below 0. Takes effect at once,
+    /// lasts over files.
     virtual void setVolume(double decibels) = 0;
     /// Whether done() is emitted.
     virtual void setNotify(MediaNotify notify) = 0;

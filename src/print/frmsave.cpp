@@ -83,8 +83,8 @@ frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover prin
     choice_.setAvailable(std::move(entries));
     fill(lstSeznam, choice_.available());
     showChosen();
-    ring().setStops({&lstSeznam, cmdRuka[0], cmdRuka[3], cmdRuka[1], cmdRuka[2], &lstVybrano, cmdOkEnd[0],
-                     cmdOkEnd[1]});
+    ring().setStops(
+        {&lstSeznam, cmdRuka[0], cmdRuka[3], cmdRuka[1], cmdRuka[2], &lstVybrano, cmdOkEnd[0], cmdOkEnd[1]});
 }
 
 void frmSave::Zobraz(const QString& mode) {

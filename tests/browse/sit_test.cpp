@@ -221,8 +221,9 @@ TEST_F(SitTest, TabFollowsTheBarAsItReads) {
         key(Qt::Key_Tab);
         if (tab >= 5) names << run.window.focusWidget()->accessibleName();
     }
-    EXPECT_EQ(names, (QStringList{QStringLiteral("Zobrazí foto"), QStringLiteral("Zobraz recept"),
-                                  QStringLiteral("Nápověda"), QStringLiteral("Zpět"), QStringLiteral("Konec")}));
+    EXPECT_EQ(names,
+              (QStringList{QStringLiteral("Zobrazí foto"), QStringLiteral("Zobraz recept"),
+                           QStringLiteral("Nápověda"), QStringLiteral("Zpět"), QStringLiteral("Konec")}));
 }
 
 TEST_F(SitTest, BackFromTheViewerTheGroupIsAsItWas) {

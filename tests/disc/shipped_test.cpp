@@ -68,10 +68,9 @@ TEST_F(ShippedTest, EveryScreenHasItsHelp) {
     for (const char* screen : {"frmHlavni", "frmMenu", "frmSeznam", "frmRychlyRecept", "frmSit", "frmFotoBig",
                                "frmRecept", "frmVideo", "frmNastavHudbu", "frmSave", "frmPrint", "FrmTabulky",
                                "frmIndex", "frmSponzor", "frmStranka"})
-        EXPECT_EQ(
-            count(
-                QStringLiteral("SELECT * FROM Stranky WHERE Obrazovka LIKE '*%1*'").arg(QLatin1String(screen))),
-            1)
+        EXPECT_EQ(count(QStringLiteral("SELECT * FROM Stranky WHERE Obrazovka LIKE '*%1*'")
+                            .arg(QLatin1String(screen))),
+                  1)
             << screen;
 }
 

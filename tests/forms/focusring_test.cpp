@@ -28,12 +28,10 @@ TEST(FocusOrder, TheNextPlaceIsTheNextUsableOne) {
 
 TEST(FocusOrder, PlacesAreReadRowByRow) {
     // Two large buttons above three small ones, given column by column.
-    EXPECT_EQ(readingOrder({{0, 0, 100, 100},
-                            {0, 150, 60, 60},
-                            {120, 20, 100, 100},
-                            {70, 140, 60, 60},
-                            {140, 150, 60, 60}}),
-              (Order{0, 2, 1, 3, 4}));
+    EXPECT_EQ(
+        readingOrder(
+            {{0, 0, 100, 100}, {0, 150, 60, 60}, {120, 20, 100, 100}, {70, 140, 60, 60}, {140, 150, 60, 60}}),
+        (Order{0, 2, 1, 3, 4}));
     EXPECT_EQ(readingOrder({}), Order{});
 }
 
@@ -139,7 +137,8 @@ TEST_F(FocusRingTest, EnterPressesButtonsAndCheckBoxesOnceHoweverLongItIsHeld) {
 
 TEST_F(FocusRingTest, TabTakesAGroupAsOneAndArrowsMoveInIt) {
     const auto& b = screen->buttons;
-    screen->ring().setGroups({FocusGroup(std::vector{b[0], b[1]}, b[1]), FocusGroup(std::vector{b[2], b[3]})});
+    screen->ring().setGroups(
+        {FocusGroup(std::vector{b[0], b[1]}, b[1]), FocusGroup(std::vector{b[2], b[3]})});
     screen->ring().focus(*b[2]);
     press(Qt::Key_Tab);
     EXPECT_EQ(focused(), 1) << "the group's entry";

@@ -123,7 +123,8 @@ TEST_F(VideoTest, WhatCannotBePlayedIsReportedAndTheScreenCloses) {
     run.messages.clear();
     open(99);
     start();
-    EXPECT_EQ(player->commands.value(0), QStringLiteral("open ") + run.MediaRoot + QStringLiteral("VIDEO\\99.AVI"))
+    EXPECT_EQ(player->commands.value(0),
+              QStringLiteral("open ") + run.MediaRoot + QStringLiteral("VIDEO\\99.AVI"))
         << "the player says that there is no such file";
     EXPECT_EQ(player->wait, MediaWait::DontWait);
     player->lastCode = MediaError::InvalidFile;

@@ -82,8 +82,7 @@ void menus(Tour& tour) {
     for (const int topic : {2, 3, 4, 5, 6, 8, 10, 11, 14, 15, 16, 17, 18}) {
         tour.click(button(topic));
         tour.key(Qt::Key_Down);
-        if (topic != 4 && topic != 6 && topic != 10 && topic != 15 && topic != 18)
-            tour.key(Qt::Key_Right);
+        if (topic != 4 && topic != 6 && topic != 10 && topic != 15 && topic != 18) tour.key(Qt::Key_Right);
         tour.stop(QStringLiteral("frmMenu"), QString::number(topic));
         if (topic == 2) tour.visitHelp();
         closeMenu(tour);

@@ -152,9 +152,10 @@ void frmSeznam::showButtonsOfSource() {
         imgBtn[at]->place(seznam::action(place));
         words_[at]->place(seznam::actionWord(place++));
     }
-    lblHint.setText(source_ == Source::Help
-                        ? QStringLiteral("Písmeno najde název, Enter otevře stránku.")
-                        : QStringLiteral("Písmeno najde název, mezerník promítá. Tab vybere Recept, Enter ho otevře."));
+    lblHint.setText(
+        source_ == Source::Help
+            ? QStringLiteral("Písmeno najde název, Enter otevře stránku.")
+            : QStringLiteral("Písmeno najde název, mezerník promítá. Tab vybere Recept, Enter ho otevře."));
     imgBtn[2]->dress(app(), source_ == Source::Help ? QStringLiteral("Help") : QStringLiteral("Recept"),
                      QStringLiteral("Recept"));
     words_[2]->setText(source_ == Source::Help ? QStringLiteral("Otevřít") : QStringLiteral("Recept"));

@@ -47,8 +47,7 @@ void frmSit::applyGroup() {
         const QString name = grid_.isWhole() ? QStringLiteral("Cela") : QString::number(grid_.group());
         composites_[shown] = app().mediaPicture(QStringLiteral("foto\\sit%1.bmp").arg(name));
     }
-    for (int cell = 1; cell <= kGridCells; ++cell)
-        imgFoto[size_t(cell - 1)]->setEnabled(grid_.isAlive(cell));
+    for (int cell = 1; cell <= kGridCells; ++cell) imgFoto[size_t(cell - 1)]->setEnabled(grid_.isAlive(cell));
     for (int group = 0; group < kGridGroups; ++group)
         imgSkupina[size_t(group)]->setLatched(group == grid_.group());
     imgCela->setLatched(grid_.isWhole());

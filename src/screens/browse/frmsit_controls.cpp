@@ -114,8 +114,7 @@ QRect frmSit::frameOf(int cell) {
 
 void frmSit::paintGround(QPainter& painter) const {
     const QRect screen({0, 0}, twips().size());
-    const Picture& composite =
-        composites_[grid_.isWhole() ? size_t(kGridGroups) : size_t(grid_.group())];
+    const Picture& composite = composites_[grid_.isWhole() ? size_t(kGridGroups) : size_t(grid_.group())];
     app().Pictures.Sit.compose(painter, covered());
     composite.draw(painter, screen, Fit::Stretch);
     for (const QRect& plate : {sit::kGroupPlate, sit::kBarPlate}) paintPlate(painter, plate);
