@@ -209,8 +209,8 @@ TEST_F(MakeVideos, WhatIsWrongWithAScriptIsReportedAndMakesNothing) {
     const std::string script = kScript;
     write("content/videa/uvod.txt", script + "zvuk: 0,1 hrom\n");
     EXPECT_EQ(run(), QStringList(QStringLiteral("videa/uvod.txt:13: efekt hrom neexistuje")));
-    write("content/videa/uvod.txt", script + "trvá: 40\n");
-    EXPECT_TRUE(run().join(u' ').startsWith(QStringLiteral("videa/uvod.txt:1: film trvá 44")));
+    write("content/videa/uvod.txt", script + "trvá: 80\n");
+    EXPECT_TRUE(run().join(u' ').startsWith(QStringLiteral("videa/uvod.txt:1: film trvá 84")));
     write("content/videa/uvod.txt", script + "== Věta s přřeklepem.\n");
     EXPECT_EQ(run(),
               QStringList(QStringLiteral("videa/uvod.txt:13: slovo, které slovník nezná: přřeklepem")));

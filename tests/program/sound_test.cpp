@@ -104,7 +104,7 @@ TEST_F(ProgramSoundTest, ADevicePulledOutSilencesAndEndsNothing) {
     EXPECT_EQ(platform->music.mode(), MediaMode::Playing);
     pointAt(2);
     set({"opthudba(1)"});
-    EXPECT_EQ(platform->music.mode(), MediaMode::Playing);
+    EXPECT_TRUE(waitFor([&] { return platform->music.mode() == MediaMode::Playing; }));
     showFilm(1);
     EXPECT_TRUE(waitFor([&] { return status() == QStringLiteral("Přehrávání skončeno"); }, 15000));
     press(Qt::Key_Escape);

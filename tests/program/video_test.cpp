@@ -18,7 +18,7 @@ TEST_F(ProgramVideoTest, WithoutASoundDeviceEverythingElseIsTheSame) {
     EXPECT_TRUE(waitFor([&] { return platform->music.position() > 300; })) << "time passes";
     pointAt(2);
     set({"opthudba(1)"});
-    EXPECT_EQ(platform->music.mode(), MediaMode::Playing);
+    EXPECT_TRUE(waitFor([&] { return platform->music.mode() == MediaMode::Playing; }));
     showFilm(1);
     EXPECT_TRUE(waitFor([&] { return status() == kEnded; }, 15000));
     press(Qt::Key_Escape);
@@ -42,7 +42,7 @@ TEST_F(ProgramVideoTest, FilmsThatCannotBeShownAreReportedAndLeft) {
     messages.clear();
     program->screens().showVideo(77);
     EXPECT_TRUE(waitFor([&] { return program->FormStack.top() == below; }));
-    EXPECT_EQ(messages, QStringList{mediaErrorText(MediaError::FileNameMissing)});
+    EXPECT_EQ(messages, QStringList{mediaErrorText(MediaError::FileNotFound)});
 
     QFile whole(media.path(QStringLiteral("VIDEO/1.AVI")));
     ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
@@ -57,8 +57,8 @@ TEST_F(ProgramVideoTest, AHundredOpeningsKeepNothing) {
         for (int i = 0; i < times; ++i) {
             showFilm(1);
             auto* area = top<frmVideo>()->findChild<VideoArea*>();
-            runFor(20);
-            ASSERT_GT(qGray(area->grab().toImage().pixel(area->rect().center())), 0);
+            ASSERT_TRUE(
+                waitFor([&] { return qGray(area->grab().toImage().pixel(area->rect().center())) > 0; }));
             press(Qt::Key_Escape);
             runFor(10);
         }
