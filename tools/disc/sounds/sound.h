@@ -13,9 +13,12 @@ struct Sound {
 
     int frames() const { return static_cast<int>(samples.size()) / channels; }
     double seconds() const { return static_cast<double>(frames()) / rate; }
-    float& at(int frame, int channel) { return samples[static_cast<size_t>(frame * channels + channel)]; }
-    float at(int frame, int channel) const {
-        return samples[static_cast<size_t>(frame * channels + channel)];
+    float& at(int frame, int channel) { return samples[place(frame, channel)]; }
+    float at(int frame, int channel) const { return samples[place(frame, channel)]; }
+
+  private:
+    size_t place(int frame, int channel) const {
+        return static_cast<size_t>(frame) * static_cast<size_t>(channels) + static_cast<size_t>(channel);
     }
 };
 
