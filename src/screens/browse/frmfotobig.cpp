@@ -112,9 +112,8 @@ void frmFotoBig::paint(QPainter& painter) {
         painter.drawImage(place, photo_);
     }
     if (lblNazev.text().isEmpty()) return;
-    paintPlate(
-        painter,
-        QRectF(lblNazev.twips()).adjusted(-kTitleMargin, -kTitleMargin / 4, kTitleMargin, kTitleMargin / 4));
+    paintPlate(painter, QRectF(lblNazev.twips())
+                            .adjusted(-kTitleMargin, -kTitleMargin / 4., kTitleMargin, kTitleMargin / 4.));
 }
 
 // --- stepping

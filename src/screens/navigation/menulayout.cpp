@@ -39,6 +39,7 @@ int levelWidth(const MenuContent& content, int columns) {
 
 std::vector<QRect> itemPlaces(int items, const Columns& columns, int top, int width) {
     std::vector<QRect> places;
+    places.reserve(static_cast<size_t>(items));
     for (int i = 0; i < items; ++i)
         places.emplace_back(kMargin + i / columns.rows * (width + kColumnGap),
                             top + i % columns.rows * kMenuLine, width, kMenuLine);
