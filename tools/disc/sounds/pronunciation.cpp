@@ -5,7 +5,7 @@ namespace {
 
 constexpr QChar kRest = u'…';
 
-QString withoutRest(QString text) {
+QString withoutRest(const QString& text) {
     return text.endsWith(kRest) ? text.chopped(1) : text;
 }
 

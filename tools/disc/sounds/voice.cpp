@@ -44,7 +44,7 @@ const QString kRoom = QStringLiteral(
 
 QByteArray inLatin2(const QString& text, QString& fault) {
     auto encoder = QStringEncoder("ISO-8859-2");
-    const QByteArray bytes = encoder(text);
+    QByteArray bytes = encoder(text);
     if (!encoder.isValid() || encoder.hasError()) fault = QStringLiteral("hlas přečte jen češtinu: ") + text;
     return bytes;
 }
@@ -126,7 +126,7 @@ QStringList Voices::sources(const QString& content) {
 
 Spoken Voices::speak(const QString& text, Speaker speaker) const {
     for (const double pace : kPaces) {
-        const Spoken spoken = said(text, speaker, pace);
+        Spoken spoken = said(text, speaker, pace);
         if (!spoken.fault.isEmpty()) return spoken;
         if (!hasClick(spoken.sound)) return finished(spoken.sound, kSpeech);
     }
