@@ -12,7 +12,7 @@ QString folded(const QString& name) {
 
 /// The entry of \a folder that is called \a part; empty when there is none.
 QString findEntry(const QString& folder, const QString& part) {
-    const QString direct = folder + u'/' + part;
+    QString direct = folder + u'/' + part;
     if (QFileInfo::exists(direct)) return direct;
     const QString wanted = folded(part);
     const auto entries =
@@ -33,7 +33,7 @@ QString LogicalPaths::root(const QString& logical, QString& rest) const {
     rest = logical;
     rest.replace(u'\\', u'/');
     if (!hasDrive(rest)) return rest.startsWith(u'/') ? QStringLiteral("/") : QString();
-    const QString folder = driveFolder(rest[0].toUpper());
+    QString folder = driveFolder(rest[0].toUpper());
     rest.remove(0, 2);
     return folder;
 }

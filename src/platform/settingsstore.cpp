@@ -48,7 +48,7 @@ QString SystemSettingsStore::value(const QString& organisation, const QString& a
     if (!session_.isEmpty()) files << session_;
     for (const QString& level : levels_) files << level + name;
     for (const QString& file : files) {
-        const QString text = readSettingsFile(file).value(key).trimmed();
+        QString text = readSettingsFile(file).value(key).trimmed();
         if (!text.isEmpty()) return text;
     }
     return {};
