@@ -27,7 +27,7 @@ int beatFrames(const Score& score) {
 
 QString soundFont() {
     for (const char* name : {"FluidR3_GM.sf2", "default-GM.sf2", "TimGM6mb.sf2"}) {
-        const QString file = QStringLiteral("/usr/share/sounds/sf2/") + QLatin1String(name);
+        QString file = QStringLiteral("/usr/share/sounds/sf2/") + QLatin1String(name);
         if (QFile::exists(file)) return file;
     }
     return {};
@@ -62,7 +62,7 @@ Sound played(const Score& score, const QString& scratch) {
 /// The second pass, its beginning blended out of the third.
 Sound secondPass(const Sound& all, int length) {
     Sound pass{all.rate, all.channels, {}};
-    pass.samples.resize(static_cast<size_t>(length * all.channels));
+    pass.samples.resize(static_cast<size_t>(length) * static_cast<size_t>(all.channels));
     for (int i = 0; i < length; ++i) {
         const float own = std::min(1.0F, static_cast<float>(i) / kBlendFrames);
         for (int c = 0; c < all.channels; ++c) {
