@@ -136,7 +136,7 @@ double askNumber(basSarne& app, const QString& prompt) {
 QString askText(basSarne& app, const QString& prompt) {
     auto* dialog = new frmDialog(app, prompt, frmDialog::Asks::Text);
     dialog->showModal();
-    const QString answer = dialog->answer();
+    QString answer = dialog->answer();
     dialog->unload();
     return answer;
 }
