@@ -1,10 +1,12 @@
 # Helpers shared by every folder: our own warnings, the folder libraries and the folder tests.
 
+include(Precompiled)
+
 find_program(SARNE_CCACHE ccache)
 if(SARNE_CCACHE)
     # Paths below the source folder count as relative, so that every checkout shares what another has compiled.
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
-        ${SARNE_CCACHE})
+        CCACHE_PCH_EXTSUM=1 CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${SARNE_CCACHE})
 endif()
 
 add_library(sarne_options INTERFACE)
@@ -22,12 +24,17 @@ if(SARNE_FUZZ)
     target_compile_options(sarne_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# sarne_library(name SOURCES ... [PUBLIC targets...] [PRIVATE targets...]): one static library per folder of src/.
+# sarne_library(name SOURCES ... [PUBLIC targets...] [PRIVATE targets...] [PRECOMPILED kind]): one static library per
+# folder of src/. Most draw, so the kind of precompiled headers is "widgets" where none is told.
 function(sarne_library name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC ${ARG_PUBLIC} PRIVATE sarne_options ${ARG_PRIVATE})
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
+    if(NOT ARG_PRECOMPILED)
+        set(ARG_PRECOMPILED widgets)
+    endif()
+    sarne_precompiled(${name} ${ARG_PRECOMPILED})
 endfunction()
 
 # The tests that are quick enough to run under the sanitizers with every change; leaks count there.
@@ -46,13 +53,21 @@ function(sarne_test_settings name)
                          "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=${leaks}")
 endfunction()
 
-# sarne_test(name SOURCES ... LIBS ...): one test executable per folder of tests/, run without a display.
+# sarne_test(name SOURCES ... LIBS ... [PRECOMPILED kind]): one test executable per folder of tests/, run without a display.
 function(sarne_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE sarne_options GTest::gtest Qt6::Core ${ARG_LIBS})
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
-    target_compile_options(${name} PRIVATE -include "${CMAKE_SOURCE_DIR}/tests/support/print.h")
+    target_compile_options(${name} PRIVATE ${SARNE_TEST_OPTIONS})
+    if(NOT ARG_PRECOMPILED)
+        set(ARG_PRECOMPILED test)
+    endif()
+    if(SARNE_PRECOMPILED)
+        sarne_precompiled(${name} ${ARG_PRECOMPILED})
+    else()
+        target_compile_options(${name} PRIVATE -include "${CMAKE_SOURCE_DIR}/tests/support/print.h")
+    endif()
     add_test(NAME ${name} COMMAND ${name})
     sarne_test_settings(${name})
 endfunction()
@@ -61,5 +76,5 @@ endfunction()
 function(sarne_widget_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
     sarne_test(${name} SOURCES ${ARG_SOURCES} "${CMAKE_SOURCE_DIR}/tests/support/main_widgets.cpp"
-               LIBS ${ARG_LIBS} sarne_forms sarne_db SQLiteCpp PkgConfig::SQLITE3 Qt6::Test)
+               LIBS ${ARG_LIBS} sarne_forms sarne_db SQLiteCpp PkgConfig::SQLITE3 Qt6::Test PRECOMPILED widgettest)
 endfunction()

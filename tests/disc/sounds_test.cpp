@@ -122,15 +122,14 @@ TEST(Notes, CzechNamesGivePitchesAndChords) {
     EXPECT_TRUE(chordTones(QStringLiteral("Cx")).isEmpty());
 }
 
-const char* const kHead = "tempo: 120\ntakt: 2\nprůběh: A A\nnástroj: kytara program=24 od=c3\n== A\n";
+const std::string kHead = "tempo: 120\ntakt: 2\nprůběh: A A\nnástroj: kytara program=24 od=c3\n== A\n";
 
 TEST(Scores, PartsBecomeNotes) {
     Problems problems;
-    const Score score =
-        readScore(linesOf((std::string(kHead) +
-                           "akordy: C | G F\nkytara: c4:0,5 e4 - g4 | ~:1 a4+c5:1\nkytara vzor: z:1 2")
-                              .c_str()),
-                  problems);
+    const Score score = readScore(
+        linesOf(
+            (kHead + "akordy: C | G F\nkytara: c4:0,5 e4 - g4 | ~:1 a4+c5:1\nkytara vzor: z:1 2").c_str()),
+        problems);
     EXPECT_EQ(problems.errors(), QStringList());
     EXPECT_EQ(score.length, 8);
     QStringList notes;
@@ -145,9 +144,7 @@ TEST(Scores, PartsBecomeNotes) {
 }
 
 TEST(Scores, FaultsNameTheirLine) {
-    const auto error = [](const char* part) {
-        return firstError(readScore, (std::string(kHead) + part).c_str());
-    };
+    const auto error = [](const char* part) { return firstError(readScore, (kHead + part).c_str()); };
     EXPECT_EQ(error("akordy: C\nkytara: c4:2"), "");
     EXPECT_EQ(error("akordy: C\nkytara: c4:1"), "soubor.txt:7: takt má 1 dob: c4:1");
     EXPECT_EQ(error("akordy: C\nkytara: x4:2"), "soubor.txt:7: tohle není nota: x4");

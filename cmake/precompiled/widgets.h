@@ -1,0 +1,6 @@
+#pragma once
+
+#include "gui.h"
+
+#include <QKeyEvent>
+#include <QWidget>

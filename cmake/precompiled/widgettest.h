@@ -1,0 +1,7 @@
+#pragma once
+
+#include "test.h"
+#include "widgets.h"
+
+#include <QApplication>
+#include <QTest>
