@@ -7,6 +7,8 @@
 #include <QPixmap>
 #include <list>
 
+#include "forms/finerpicture.h"
+
 namespace sarne {
 
 /// A picture's bytes and the few sizes in which it was last drawn.
@@ -24,26 +26,24 @@ struct Picture::Source {
     const QPixmap* at(QSize pixels);
 
   private:
-    QImage read(QSize pixels, QIODevice* device) const;
+    QImage readFile(QSize pixels) const;
 };
 
-QImage Picture::Source::read(QSize pixels, QIODevice* device) const {
-    QImageReader reader = device ? QImageReader(device) : QImageReader(file);
-    // The JPEG decoder makes a smaller picture much faster than a full one; it is asked for twice the size so
-    // that the last step is a smooth one.
-    const QSize twice = pixels * 2;
-    if (pixels.isValid() && reader.size().width() > twice.width() && reader.size().height() > twice.height())
-        reader.setScaledSize(twice);
-    return reader.read();
+QImage Picture::Source::readFile(QSize pixels) const {
+    QImage finer = readFiner(file, pixels);
+    if (!finer.isNull()) return finer;
+    QImageReader reader(file);
+    return readFor(reader, pixels);
 }
 
 QImage Picture::Source::decode(QSize pixels) const {
     if (!decoded.isNull()) return decoded;
-    if (encoded.isEmpty()) return read(pixels, nullptr);
+    if (encoded.isEmpty()) return readFile(pixels);
     QBuffer buffer;
     buffer.setData(encoded);
     buffer.open(QIODevice::ReadOnly);
-    return read(pixels, &buffer);
+    QImageReader reader(&buffer);
+    return readFor(reader, pixels);
 }
 
 const QPixmap* Picture::Source::at(QSize pixels) {

@@ -299,5 +299,21 @@ TEST_F(FotoBigTest, TheNextPhotoIsDecodedAheadAndTheSameAsWhenItIsNot) {
     }
 }
 
+TEST(PhotoFile, ALargeScreenShowsTheFinerVersion) {
+    const QTemporaryDir folder;
+    const QString bmp = folder.filePath(QStringLiteral("r1.bmp"));
+    const auto save = [&](QSize size, Qt::GlobalColor colour, const QString& file) {
+        QImage picture(size, QImage::Format_RGB32);
+        picture.fill(colour);
+        ASSERT_TRUE(picture.save(file));
+    };
+    save({40, 30}, Qt::red, bmp);
+    save({80, 60}, Qt::green, folder.filePath(QStringLiteral("r1.jpg")));
+    const QImage large = readPhoto(bmp, {200, 60});
+    EXPECT_EQ(large.size(), QSize(80, 60));
+    EXPECT_GT(large.pixelColor(40, 30).green(), 200);
+    EXPECT_GT(readPhoto(bmp, {20, 20}).pixelColor(10, 7).red(), 200);
+}
+
 }  // namespace
 }  // namespace sarne

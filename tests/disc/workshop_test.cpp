@@ -125,6 +125,8 @@ TEST_F(PhotosTest, AreOfTheRecipesOwnDish) {
     ASSERT_EQ(problems_.errors().join(u'\n').toStdString(), "");
     EXPECT_EQ(QImage(path("disc/foto/Velke/r6.bmp")).size(), QSize(1440, 1080));
     EXPECT_EQ(QImage(path("disc/foto/Male/r6.bmp")).size(), QSize(640, 480));
+    EXPECT_EQ(QImage(path("disc/foto/Velke/r6.jpg")).size(), QSize(1600, 1200));
+    EXPECT_FALSE(QFile::exists(path("disc/foto/Velke/r7.jpg"))) << "a plate has nothing finer to show";
     EXPECT_GT(colour("disc/foto/Recepty/r6.bmp").red(), 250);
     EXPECT_GT(colour("disc/foto/Recepty/r8.bmp").red(), 250);
     EXPECT_GT(colour("disc/foto/Recepty/r7.bmp").green(), 20);  // a plate with a name, no red

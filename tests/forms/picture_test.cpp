@@ -78,5 +78,48 @@ TEST(Picture, BrokenOnesDrawNothing) {
     EXPECT_TRUE(Picture::fromFile({}).isNull());
 }
 
+/// A BMP of 60 x 40 red pixels in a folder; what is put beside it is green.
+class FinerPicture : public ::testing::Test {
+  protected:
+    FinerPicture() {
+        QImage red(60, 40, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        red.save(folder_.filePath(QStringLiteral("r1.bmp")));
+    }
+    void putBeside(const char* name, QSize size) {
+        QImage green(size, QImage::Format_RGB32);
+        green.fill(Qt::green);
+        ASSERT_TRUE(green.save(folder_.filePath(QLatin1String(name)), "JPG", 100));
+    }
+    bool isGreen(QSize pixels) const {
+        const QImage shown = bmp().scaled(pixels);
+        EXPECT_EQ(shown.size(), pixels);
+        return shown.pixelColor(pixels.width() / 2, pixels.height() / 2).green() > 200;
+    }
+    Picture bmp() const { return Picture::fromFile(folder_.filePath(QStringLiteral("r1.bmp"))); }
+
+    QTemporaryDir folder_;
+};
+
+TEST_F(FinerPicture, IsTakenWhereItShowsMorePixels) {
+    EXPECT_FALSE(isGreen({120, 80}));
+    putBeside("r1.jpg", {120, 80});
+    EXPECT_FALSE(isGreen({60, 40}));
+    EXPECT_TRUE(isGreen({61, 41}));
+    EXPECT_TRUE(isGreen({600, 400}));
+    EXPECT_EQ(bmp().size(), QSize(60, 40)) << "the BMP says what the picture measures";
+    putBeside("r1.jpg", {60, 40});
+    EXPECT_FALSE(isGreen({120, 80})) << "no finer than the BMP";
+}
+
+TEST_F(FinerPicture, ABrokenOneLeavesTheBmp) {
+    putBeside("r1.jpg", {120, 80});
+    ASSERT_TRUE(QFile::resize(folder_.filePath(QStringLiteral("r1.jpg")), 200));
+    EXPECT_FALSE(isGreen({120, 80}));
+    QFile::remove(folder_.filePath(QStringLiteral("r1.bmp")));
+    putBeside("r1.jpg", {120, 80});
+    EXPECT_TRUE(bmp().isNull()) << "alone it stands for nothing";
+}
+
 }  // namespace
 }  // namespace sarne

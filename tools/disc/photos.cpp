@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QImageReader>
 #include <QPainter>
 #include <filesystem>
 
@@ -16,6 +17,8 @@ namespace {
 
 /// Photos and gallery pictures that fill the screen, and composites.
 constexpr QSize kScreenSize(1440, 1080);
+/// What a photo's finer version, beside the bitmap, is at most.
+constexpr QSize kFinestSize(2880, 2160);
 /// Lists and prints.
 constexpr QSize kSmallSize(640, 480);
 /// The grounds are blurred: more would only take room.
@@ -93,21 +96,42 @@ struct Dish {
     QString name;
     QString source;
 
-    QString file(const char* folder) const {
-        return disc + QStringLiteral("/foto/%1/r%2.bmp").arg(QLatin1String(folder)).arg(id);
+    QString file(const char* folder, const char* ending = "bmp") const {
+        return disc + QStringLiteral("/foto/%1/r%2.%3")
+                          .arg(QLatin1String(folder))
+                          .arg(id)
+                          .arg(QLatin1String(ending));
+    }
+
+    QSize sourceSize() const { return source.isEmpty() ? QSize() : QImageReader(source).size(); }
+
+    /// A photo that shows more than the bitmaps lies beside them with all its pixels, for large displays.
+    bool isFine() const {
+        return sourceSize().width() > kScreenSize.width() && sourceSize().height() > kScreenSize.height();
+    }
+
+    bool makeFiner(const QImage& photo) const {
+        if (!isFine()) return true;
+        QFile::remove(file("Recepty", "jpg"));
+        const bool asItIs = photo.size() == kFinestSize && source.endsWith(QLatin1String(".jpg"));
+        const QSize most = photo.size().boundedTo(kFinestSize);
+        const QSize size = kScreenSize.scaled(most, Qt::KeepAspectRatio);
+        return (asItIs ? QFile::copy(source, file("Recepty", "jpg"))
+                       : fitted(photo, size).save(file("Recepty", "jpg"), "JPG", 88)) &&
+               link(file("Recepty", "jpg"), file("Velke", "jpg"));
     }
 
     bool make() const {
         const QImage photo = source.isEmpty() ? plainPlate(name) : QImage(source);
         return !photo.isNull() && saveBitmap(fitted(photo, kScreenSize), file("Recepty")) &&
                link(file("Recepty"), file("Velke")) && saveBitmap(fitted(photo, kSmallSize), file("Male")) &&
-               saveBitmap(calmGround(photo), file("Podklad"));
+               saveBitmap(calmGround(photo), file("Podklad")) && makeFiner(photo);
     }
 
     Task task() const {
-        return {{file("Recepty"), file("Velke"), file("Male"), file("Podklad")},
-                originOf({source}, stamp::photos() + name),
-                [*this] { return make(); }};
+        QStringList outputs{file("Recepty"), file("Velke"), file("Male"), file("Podklad")};
+        if (isFine()) outputs << file("Recepty", "jpg") << file("Velke", "jpg");
+        return {outputs, originOf({source}, stamp::photos() + name), [*this] { return make(); }};
     }
 };
 

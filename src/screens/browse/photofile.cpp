@@ -4,6 +4,8 @@
 #include <QImageReader>
 #include <QtEndian>
 
+#include "forms/finerpicture.h"
+
 namespace sarne {
 namespace {
 
@@ -37,8 +39,11 @@ QImage readPhoto(const QString& name) {
 }
 
 QImage readPhoto(const QString& file, QSize room) {
-    QImage photo = readPhoto(file);
-    if (photo.isNull() || room.isEmpty()) return {};
+    if (room.isEmpty()) return {};
+    allowLargePhotos();
+    QImage photo = readFiner(file, room);
+    if (photo.isNull()) photo = readPhoto(file);
+    if (photo.isNull()) return {};
     const QSize fitted = photo.size().scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
     if (fitted != photo.size()) photo = photo.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return std::move(photo).convertToFormat(QImage::Format_RGB32);

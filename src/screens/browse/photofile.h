@@ -10,7 +10,8 @@ namespace sarne {
 /// short.
 QImage readPhoto(const QString& file);
 
-/// The same, scaled smoothly and undistorted to fit into \a room pixels, in the format of the screen.
+/// The same, or its finer version where that shows more, scaled smoothly and undistorted to fit into \a room
+/// pixels, in the format of the screen.
 QImage readPhoto(const QString& file, QSize room);
 
 }  // namespace sarne
