@@ -28,11 +28,12 @@ void ProgramScreens::returnToMain() {
     if (main_) main_->SkryjMenu();
 }
 
-void ProgramScreens::showList(const QString& ids, const QString& source) {
+void ProgramScreens::showList(const QString& ids, const QString& source, const QString& subject) {
     const bool help = source.compare(u"Help", Qt::CaseInsensitive) == 0;
     if (help && helpList_ && program_.FormStack.contains(*helpList_)) return returnToHelpList();
     auto* list = new frmSeznam(program_, &listPanel_);
     if (help) helpList_ = list;
+    list->setSubject(subject);
     list->Zobraz(ids, source);
 }
 
@@ -69,7 +70,7 @@ void ProgramScreens::showPage(const QString& id) {
 void ProgramScreens::showHelpFor(const QString& formName) {
     const QString page = helpPageFor(program_.Db(), formName);
     if (page.isEmpty())
-        showList({}, QStringLiteral("Help"));
+        showList({}, QStringLiteral("Help"), {});
     else
         showPage(page);
 }

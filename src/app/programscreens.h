@@ -19,7 +19,7 @@ class ProgramScreens final : public Screens {
     void showMain();
     frmHlavni* mainScreen() const { return main_; }
 
-    void showList(const QString& ids, const QString& source) override;
+    void showList(const QString& ids, const QString& source, const QString& subject) override;
     void showRecipe(std::int16_t id) override;
     void showGrid() override;
     void showPhotos(const PhotoRequest& request) override;

@@ -16,7 +16,6 @@ namespace {
 
 const TextFont kFont{QStringLiteral("Arial"), 11};
 const TextFont kEntryFont{QStringLiteral("Arial"), 13};
-const TextFont kButtonFont{QStringLiteral("Arial"), 11, true};
 
 constexpr int kMargin = 240;
 constexpr int kPromptWidth = 5500;
@@ -49,11 +48,7 @@ frmDialog::frmDialog(basSarne& sarne, const QString& prompt, Asks asks)
     const QString captions[] = {Texts::tr("OK"), Texts::tr("Storno")};
     for (int i = 0; i < 2; ++i) {
         auto* button = Command1[size_t(i)] = new Button(*this, QStringLiteral("Command1(%1)").arg(i));
-        button->setCaption(captions[i]);
-        button->setFont(kButtonFont);
-        button->setFramePictures(app().resources().picture(QStringLiteral("Tlacitko")),
-                                 app().resources().picture(QStringLiteral("TlacitkoStisk")));
-        button->setFrame(Button::Frame::Raised);
+        button->dressAsText(captions[i]);
         const int middle = kMargin + kPromptWidth / 2;
         button->place({QPoint(i == 0 ? middle - kButton.width() - 90 : middle + 90, buttonTop), kButton});
         connect(button, &Button::clicked, this, [this, i] { press(i); });
@@ -83,11 +78,7 @@ void frmDialog::addKey(const QString& name, const QRect& place, const QString& c
                        std::function<void()> use) {
     auto* button = new Button(*this, name);
     button->place(place);
-    button->setCaption(caption);
-    button->setTip(tip);
-    button->setFont(kButtonFont);
-    button->setGround(colors::kTeal);
-    button->setFrame(Button::Frame::Raised);
+    button->dressAsText(caption, tip);
     button->setFocusPolicy(Qt::NoFocus);
     connect(button, &Button::clicked, this, std::move(use));
 }

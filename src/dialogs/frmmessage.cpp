@@ -13,7 +13,6 @@ namespace sarne {
 namespace {
 
 const TextFont kTextFont{QStringLiteral("Arial"), 11};
-const TextFont kButtonFont{QStringLiteral("Arial"), 11, true};
 
 }  // namespace
 
@@ -26,7 +25,6 @@ frmMessage::frmMessage(basSarne& sarne)
     Image1.setAttribute(Qt::WA_TransparentForMouseEvents);
     for (int i = 0; i < 3; ++i) {
         cmdBtn[size_t(i)] = new Button(*this, QStringLiteral("cmdBtn(%1)").arg(i));
-        cmdBtn[size_t(i)]->setFont(kButtonFont);
         connect(cmdBtn[size_t(i)], &Button::clicked, this, [this, i] { press(i); });
     }
     ring().setStops({cmdBtn.begin(), cmdBtn.end()});
@@ -75,14 +73,10 @@ void frmMessage::setUp(const QString& text, int style, int silent) {
 
 void frmMessage::setUpButtons(const std::vector<MessageButton>& buttons, const MessageGeometry& geometry) {
     shown_ = buttons;
-    const Picture raised = app().resources().picture(QStringLiteral("Tlacitko"));
-    const Picture pressed = app().resources().picture(QStringLiteral("TlacitkoStisk"));
     for (size_t i = 0; i < cmdBtn.size(); ++i) {
         cmdBtn[i]->setVisible(i < buttons.size());
         if (i >= buttons.size()) continue;
-        cmdBtn[i]->setCaption(buttons[i].caption);
-        cmdBtn[i]->setFramePictures(raised, pressed);
-        cmdBtn[i]->setFrame(Button::Frame::Raised);
+        cmdBtn[i]->dressAsText(buttons[i].caption);
         cmdBtn[i]->place(geometry.buttons[i]);
     }
 }

@@ -89,6 +89,7 @@ class basSarne {
     void PlayEffect(int n);
     void StopEffect();
     /// Opens \a screen over the current one, whose controls are disabled unless they are to stay enabled.
+    /// From a dialog it opens above that one.
     void PushScreen(Form& screen, KeepEnabled keep = KeepEnabled::No);
     /// Closes the top screen and returns to the one below, all of whose controls are enabled.
     void PopScreen(Form& screen);

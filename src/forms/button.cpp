@@ -1,23 +1,40 @@
 #include "forms/button.h"
 
 #include <QPainter>
+#include <algorithm>
 
-#include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/form.h"
 #include "forms/ninepatch.h"
+#include "forms/resources.h"
 
 namespace sarne {
 namespace {
 
-constexpr int kFrameTwips = 90;    // thickness of a frame
-constexpr int kPressedShift = 15;  // a pressed face moves by one design pixel
+constexpr int kFrameTwips = 90;                 // thickness of a frame
+constexpr int kRingRoom = 60;                   // around a frame, for the ring that shows the keyboard
+constexpr int kPressedShift = 15;               // a pressed face moves by one design pixel
+constexpr int kTwoLines = 400, kOneLine = 215;  // twips below a square button for its caption
+constexpr int kLow = 1000;                      // twips: a lower button has room for one line
+constexpr double kFaceSide = .775;              // of the square's side: 60 % of the square
+const TextFont kTextFont{QStringLiteral("Arial"), 11, true}, kNameFont{QStringLiteral("Arial"), 9};
 
 }  // namespace
 
 Button::Button(Form& form, const QString& name) : Control(form, name) {
     setFocusPolicy(Qt::ClickFocus);
     setCursor(Qt::PointingHandCursor);
+    raised_ = form.resources().picture(QStringLiteral("RamVen"));
+    pressed_ = form.resources().picture(QStringLiteral("RamDovnitr"));
+}
+
+void Button::dressAsText(const QString& caption, const QString& tip) {
+    raised_ = form().resources().picture(QStringLiteral("Tlacitko"));
+    pressed_ = form().resources().picture(QStringLiteral("TlacitkoStisk"));
+    setFrame(Frame::Raised);
+    setFont(kTextFont);
+    setCaption(caption);
+    if (!tip.isEmpty()) setTip(tip);
 }
 
 void Button::setFace(const Picture& face) {
@@ -47,9 +64,46 @@ void Button::setGround(const QColor& color) {
     update();
 }
 
-void Button::setFramePictures(const Picture& raised, const Picture& pressed) {
-    raised_ = raised;
-    pressed_ = pressed;
+void Button::setCaptionPlace(CaptionPlace place) {
+    captionPlace_ = place;
+    if (place == CaptionPlace::Below) font_ = kNameFont;
+    update();
+}
+
+QRect Button::framePlace() const {
+    QRect room({0, 0}, twips().size());
+    if (captionPlace_ == CaptionPlace::Below) {
+        const int lines = room.height() < kLow ? kOneLine : kTwoLines;
+        const int side = std::min(room.width(), room.height() - lines);
+        room = QRect((room.width() - side) / 2, 0, side, side);
+    }
+    return frame_ == Frame::None ? room : room.adjusted(kRingRoom, kRingRoom, -kRingRoom, -kRingRoom);
+}
+
+QRect Button::facePlace() const {
+    const QRect frame = framePlace();
+    if (captionPlace_ == CaptionPlace::Below) {
+        QRect face({}, QSize(int(frame.width() * kFaceSide), int(frame.height() * kFaceSide)));
+        face.moveCenter(frame.center());
+        return face;
+    }
+    QRect inside =
+        frame_ == Frame::None ? frame : frame.adjusted(kFrameTwips, kFrameTwips, -kFrameTwips, -kFrameTwips);
+    if (captionPlace_ == CaptionPlace::Beside) inside.setWidth(std::min(inside.height(), inside.width() / 2));
+    return inside;
+}
+
+QRect Button::captionRoom() const {
+    const QRect whole({0, 0}, twips().size());
+    switch (captionPlace_) {
+        case CaptionPlace::Below:
+            return whole.adjusted(0, framePlace().bottom() + kRingRoom / 2, 0, 0);
+        case CaptionPlace::Beside:
+            return face_.isNull() ? whole
+                                  : framePlace().adjusted(facePlace().right(), 0, -2 * kFrameTwips, 0);
+        default:
+            return whole;
+    }
 }
 
 Button::Frame Button::shownFrame() const {
@@ -80,27 +134,33 @@ void Button::changeEvent(QEvent* event) {
         unsetCursor();
 }
 
+void Button::paintCaption(QPainter& painter) const {
+    const bool below = captionPlace_ == CaptionPlace::Below;
+    const int flags = below ? Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap
+                      : captionPlace_ == CaptionPlace::Beside ? Qt::AlignCenter | Qt::TextWordWrap
+                                                              : Qt::AlignCenter | Qt::TextShowMnemonic;
+    painter.setFont(font_.toQFont());
+    painter.setPen(below ? colors::kTitle : colors::kPaper);
+    painter.drawText(captionRoom(), flags, caption_);
+}
+
 void Button::paint(QPainter& painter) {
-    const QRect place({0, 0}, twips().size());
+    const QRect frame = framePlace();
     if (!isEnabled()) painter.setOpacity(colors::kDisabledFace);
-    const bool pressed = shownFrame() == Frame::Pressed;
-    QRect inside =
-        frame_ == Frame::None ? place : place.adjusted(kFrameTwips, kFrameTwips, -kFrameTwips, -kFrameTwips);
-    if (pressed) inside.translate(kPressedShift, kPressedShift);
     if (ground_.alpha() > 0) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(ground_);
-        painter.drawRoundedRect(QRectF(place).adjusted(23, 23, -23, -23), 90, 90);
+        painter.drawRoundedRect(QRectF(frame).adjusted(23, 23, -23, -23), 90, 90);
     }
-    face_.draw(painter, inside, Fit::Inside);
-    if (frame_ != Frame::None) paintFrame(painter, place);
+    const int shift = shownFrame() == Frame::Pressed ? kPressedShift : 0;
+    face_.draw(painter, facePlace().translated(shift, shift), Fit::Inside);
+    if (frame_ != Frame::None) paintFrame(painter, frame);
     if (!caption_.isEmpty()) {
         if (!isEnabled()) painter.setOpacity(colors::kDisabledText);
-        painter.setFont(font_.toQFont());
-        painter.setPen(colors::kPaper);
-        painter.drawText(inside, Qt::AlignCenter | Qt::TextShowMnemonic, caption_);
+        paintCaption(painter);
     }
-    if (showsFocus()) paintFocusRing(painter, place);
+    const int room = frame_ == Frame::None ? 0 : kRingRoom;
+    if (showsFocus()) paintFocusRing(painter, frame.adjusted(-room, -room, room, room));
 }
 
 }  // namespace sarne

@@ -12,6 +12,12 @@ class Button : public Control {
     Q_OBJECT
   public:
     enum class Frame { None, Raised, Pressed };
+    enum class CaptionPlace {
+        Over,   ///< in the middle of the button
+        Below,  ///< below a square button, on up to two lines, on one below a low button; the face fills 60 %
+                ///< of the square
+        Beside,  ///< right of the face
+    };
 
     Button(Form& form, const QString& name);
 
@@ -21,13 +27,21 @@ class Button : public Control {
     /// The frame at rest. While the mouse is down on a raised button its frame is the pressed one.
     void setFrame(Frame frame);
     Frame frame() const { return frame_; }
+    /// \a pressed for good, as long as what the button opens is what shows; else raised.
+    void setLatched(bool pressed) { setFrame(pressed ? Frame::Pressed : Frame::Raised); }
     void setCaption(const QString& caption);
     QString caption() const { return caption_; }
+    void setCaptionPlace(CaptionPlace place);
     void setFont(const TextFont& font);
     /// A ground behind face and caption; by default there is none.
     void setGround(const QColor& color);
-    /// The frames' pictures; they are drawn as nine patches, so that corners keep their size.
-    void setFramePictures(const Picture& raised, const Picture& pressed);
+    /// Makes it a button with \a caption on the program's plate for texts, instead of a framed picture.
+    void dressAsText(const QString& caption, const QString& tip = {});
+
+    /// Where the frame, or without one the face, is drawn, in twips of the button.
+    QRect framePlace() const;
+    /// Where the face is drawn.
+    QRect facePlace() const;
 
   protected:
     void paint(QPainter& painter) override;
@@ -35,11 +49,14 @@ class Button : public Control {
 
   private:
     Frame shownFrame() const;
+    QRect captionRoom() const;
     void paintFrame(QPainter& painter, const QRect& place) const;
+    void paintCaption(QPainter& painter) const;
 
     Picture face_, raised_, pressed_;
     Frame frame_ = Frame::None;
     QString caption_;
+    CaptionPlace captionPlace_ = CaptionPlace::Over;
     TextFont font_;
     QColor ground_ = Qt::transparent;
 };

@@ -93,6 +93,10 @@ void Form::rescale() {
     if (pointer_ == Pointer::Back) setPointer(pointer_);
 }
 
+const Resources& Form::resources() const {
+    return app_.resources();
+}
+
 bool Form::fillsWindow() const {
     return twips() == QRect(0, 0, Stage::kWidth, Stage::kHeight);
 }

@@ -13,6 +13,7 @@ namespace sarne {
 
 class basSarne;
 class Control;
+class Resources;
 
 enum class Pointer { Normal, Back, Hourglass };
 
@@ -44,6 +45,7 @@ class Form : public TwipWidget {
     /// again what is to stay disabled. Gives the keyboard back to what had it.
     virtual void restored() { ring_.restore(); }
 
+    const Resources& resources() const;
     /// The way of the keyboard through the form's controls.
     FocusRing& ring() { return ring_; }
 

@@ -38,7 +38,9 @@ class PictureBox : public Control, public Surface {
     void scrollBy(int twips) { scrollTo(scrolled_ + twips); }
     int scrollRange() const { return std::max(0, contentHeight_ - twips().height()); }
 
-    int scaleWidth() const override { return twips().width(); }
+    /// Keeps \a twips at the right edge free of texts that are wrapped.
+    void setRightMargin(int twips) { rightMargin_ = twips; }
+    int scaleWidth() const override { return twips().width() - rightMargin_; }
     int scaleHeight() const override { return twips().height(); }
     int currentX() const override { return x_; }
     int currentY() const override { return y_; }
@@ -82,7 +84,7 @@ class PictureBox : public Control, public Surface {
     std::vector<Placed> pictures_;
     std::vector<Painter> painters_;
     int contentHeight_ = 0, scrolled_ = 0;
-    int x_ = 0, y_ = 0;
+    int x_ = 0, y_ = 0, rightMargin_ = 0;
     TextFont font_;
     mutable std::optional<QFontMetricsF> metrics_;  // of the font, when they have been asked for
     QColor color_;

@@ -29,7 +29,7 @@ class Screens {
     virtual ~Screens() = default;
 
     /// The list of the records \a ids ("12,40,7,", all when empty) of the table \a source.
-    virtual void showList(const QString& ids, const QString& source) = 0;
+    virtual void showList(const QString& ids, const QString& source, const QString& subject = {}) = 0;
     virtual void showRecipe(std::int16_t id) = 0;
     virtual void showGrid() = 0;
     virtual void showPhotos(const PhotoRequest& request) = 0;

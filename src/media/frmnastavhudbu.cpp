@@ -13,7 +13,6 @@ namespace {
 
 const TextFont kTitleFont{QStringLiteral("Times New Roman"), 18, true, true};
 const TextFont kFont{QStringLiteral("Arial"), 12};
-const TextFont kButtonFont{QStringLiteral("Arial"), 12, true};
 
 constexpr QRect kForm(3000, 2100, 6000, 4800);
 constexpr QRect kTitle(300, 195, 5400, 450);
@@ -55,11 +54,7 @@ frmNastavHudbu::frmNastavHudbu(basSarne& sarne)
             if (chosen) trackChosen(i == 1);
         });
         auto* button = cmdOkEnd[size_t(i)] = new Button(*this, QStringLiteral("cmdOkEnd(%1)").arg(i));
-        button->setFont(kButtonFont);
-        button->setCaption(captions[i]);
-        button->setFramePictures(pictures.picture(QStringLiteral("Tlacitko")),
-                                 pictures.picture(QStringLiteral("TlacitkoStisk")));
-        button->setFrame(Button::Frame::Raised);
+        button->dressAsText(captions[i]);
         button->place(kButtons[i]);
         connect(button, &Button::clicked, this, [this, i] { press(i); });
     }

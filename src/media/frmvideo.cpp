@@ -7,6 +7,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/messagebox.h"
+#include "forms/panel.h"
 #include "forms/resources.h"
 #include "platform/multimediacontrol.h"
 
@@ -17,24 +18,26 @@ const TextFont kStatusFont{QStringLiteral("Arial"), 12};
 
 constexpr QRect kArea(1400, 450, 9200, 6900);
 constexpr QRect kWholeScreen(0, 0, 12000, 9000);
-constexpr QRect kStatus(1400, 8340, 4200, 420);
+constexpr QRect kBarPlate(1200, 7365, 10200, 1500);
+constexpr QRect kStatus(1400, 7845, 3300, 960);
 constexpr QRect kTime(9300, 7440, 1300, 330);
 constexpr QRect kBar(1400, 7440, 7800, 330);
-constexpr QSize kButton(690, 690);
-constexpr int kButtonTop = 7980, kFirstButton = 5700, kButtonStep = 765;
-constexpr int kBackLeft = 10500;
+constexpr QRect kFirstButton(4740, 7830, 940, 975);
+constexpr QRect kBackButton(10420, 7830, 900, 975);
 
 constexpr int kStartDelay = 10;     // milliseconds: the form is on the screen before the file is opened
 constexpr int kProgressStep = 200;  // milliseconds
 constexpr qint64 kJump = 5000;      // milliseconds
 
-struct Face {
-    const char *picture, *tip;
-};
 // The sound button's face and tip follow its switch.
-constexpr Face kFaces[] = {
-    {"ZvukOn", "Vypnout zvuk"},       {"Hrat", "Přehrát"},         {"Stop", "Konec"}, {"Pauza", "Pauza"},
-    {"NaZacatek", "Skok na začátek"}, {"NaKonec", "Skok na konec"}};
+constexpr BarFace kFaces[] = {{u"ZvukOn", u"Zvuk", u"Vypnout zvuk"},
+                              {u"Hrat", u"Přehrát"},
+                              {u"Stop", u"Stop", u"Konec"},
+                              {u"Pauza", u"Pauza"},
+                              {u"NaZacatek", u"Na začátek", u"Skok na začátek"},
+                              {u"NaKonec", u"Na konec", u"Skok na konec"}};
+constexpr BarFace kSoundIsOff{u"ZvukOff", u"Zvuk", u"Zapnout zvuk"};
+constexpr BarFace kBack[] = {barface::kBack};
 
 QString clockText(qint64 milliseconds) {
     const qint64 seconds = milliseconds / 1000;
@@ -50,19 +53,22 @@ frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
       Label1(*this, QStringLiteral("Label1")),
       time_(*this, QStringLiteral("lblCas")),
       bar_(*this, QStringLiteral("prgPozice")),
+      ImgTlacitko(*this, QStringLiteral("ImgTlacitko"), kFaces, [this](int index) { press(index); }),
+      imgBtn(*this, QStringLiteral("imgBtn"), kBack, [this](int) { Skryj(); }),
       tmrStart(this),
       progress_(this) {
     area_.place(kArea);
     Label1.setFont(kStatusFont);
     Label1.setColor(colors::kTitle);
     Label1.setWordWrap(true);
+    Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     Label1.place(kStatus);
     time_.setFont(kStatusFont);
     time_.setColor(colors::kTitle);
     time_.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     time_.place(kTime);
     bar_.place(kBar);
-    makeButtons();
+    placeButtons();
     connect(&area_, &VideoArea::doubleClicked, this, &frmVideo::toggleFullScreen);
     connect(&bar_, &SeekBar::sought, this, &frmVideo::seek);
     connect(&tmrStart, &Timer::tick, this, &frmVideo::start);
@@ -77,31 +83,14 @@ frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
 
 frmVideo::~frmVideo() = default;
 
-void frmVideo::makeButtons() {
-    const Picture raised = app().resources().picture(QStringLiteral("RamVen"));
-    const Picture pressed = app().resources().picture(QStringLiteral("RamDovnitr"));
-    const auto make = [&](const QString& name, const Face& face, int left) {
-        auto* button = new Button(*this, name);
-        button->setFace(app().resources().picture(QLatin1String(face.picture)));
-        button->setTip(QString::fromUtf8(face.tip));
-        button->setFramePictures(raised, pressed);
-        button->setFrame(Button::Frame::Raised);
-        button->place({QPoint(left, kButtonTop), kButton});
-        return button;
-    };
-    // Left to right as they are used: play, pause, stop, to the beginning, to the end, sound.
+/// Left to right as they are used: play, pause, stop, to the beginning, to the end, sound.
+void frmVideo::placeButtons() {
     constexpr int kOrder[] = {kPlay, kPause, kStop, kPrev, kNext, kSound};
-    std::vector<TwipWidget*> stops;
-    for (int at = 0; at < 6; ++at) {
-        const int i = kOrder[at];
-        ImgTlacitko[size_t(i)] =
-            make(QStringLiteral("ImgTlacitko(%1)").arg(i), kFaces[i], kFirstButton + at * kButtonStep);
-        connect(ImgTlacitko[size_t(i)], &Button::clicked, this, [this, i] { press(i); });
-        stops.push_back(ImgTlacitko[size_t(i)]);
-    }
-    back_ = make(QStringLiteral("imgBtn(0)"), {"Zpet", "Zpět"}, kBackLeft);
-    connect(back_, &Button::clicked, this, &frmVideo::Skryj);
-    stops.push_back(back_);
+    for (int at = 0; at < ImgTlacitko.count(); ++at)
+        ImgTlacitko[kOrder[at]].place(kFirstButton.translated(at * kFirstButton.width(), 0));
+    imgBtn[0].place(kBackButton);
+    std::vector<TwipWidget*> stops = ImgTlacitko.stops();
+    stops.push_back(&imgBtn[0]);
     ring().setStops(stops);
 }
 
@@ -116,7 +105,7 @@ void frmVideo::Zobraz(std::int16_t number) {
     tmrStart.setInterval(kStartDelay);
     tmrStart.setEnabled(true);
     showForm();
-    ImgTlacitko[kPlay]->setFocus();
+    ring().focus(ImgTlacitko[kPlay]);
     app().keepAwake(QStringLiteral("Přehrává se video"));
 }
 
@@ -156,8 +145,8 @@ void frmVideo::showError() {
 
 void frmVideo::setPlaying(bool playing) {
     if (playing) Label1.setText(QStringLiteral("Přehrávám"));
-    ImgTlacitko[kPlay]->setFrame(playing ? Button::Frame::Pressed : Button::Frame::Raised);
-    ImgTlacitko[kPause]->setFrame(Button::Frame::Raised);
+    ImgTlacitko[kPlay].setLatched(playing);
+    ImgTlacitko[kPause].setLatched(false);
 }
 
 /// A clip that turns out to be none while it is being opened ends in a failure.
@@ -199,7 +188,7 @@ void frmVideo::pause() {
     if (before != MediaMode::Paused && before != MediaMode::Playing) return;
     setPlaying(before == MediaMode::Paused);
     if (before == MediaMode::Paused) return;
-    ImgTlacitko[kPause]->setFrame(Button::Frame::Pressed);
+    ImgTlacitko[kPause].setLatched(true);
     Label1.setText(QStringLiteral("Pozastaveno"));
 }
 
@@ -211,9 +200,7 @@ void frmVideo::toggleSound() {
 void frmVideo::applySound() {
     const bool on = app().SoundFlags[kVideoSound];
     if (MMControlVideo) MMControlVideo->setSilent(on ? MediaSound::On : MediaSound::Silent);
-    ImgTlacitko[kSound]->setFace(
-        app().resources().picture(on ? QStringLiteral("ZvukOn") : QStringLiteral("ZvukOff")));
-    ImgTlacitko[kSound]->setTip(on ? QStringLiteral("Vypnout zvuk") : QStringLiteral("Zapnout zvuk"));
+    ImgTlacitko.setFace(kSound, on ? kFaces[kSound] : kSoundIsOff);
 }
 
 void frmVideo::seek(qint64 milliseconds) {
@@ -241,7 +228,7 @@ void frmVideo::unload() {
         closed_ = true;
         progress_.setEnabled(false);
         tmrStart.setEnabled(false);
-        for (Button* button : ImgTlacitko) button->setFrame(Button::Frame::Raised);
+        setPlaying(false);
         if (app().SoundFlags[kMusic]) app().music().command(u"play");
         if (MMControlVideo) MMControlVideo->command(u"stop");
         if (MMControlVideo) MMControlVideo->command(u"close");
@@ -282,9 +269,7 @@ bool frmVideo::keyDown(QKeyEvent& event) {
 
 void frmVideo::paint(QPainter& painter) {
     paintRoom(painter, app().Pictures.video);
-    painter.setBrush(colors::kNight);
-    painter.setPen(QPen(colors::kCopper, 45));
-    painter.drawRoundedRect(QRect(1200, 7380, 10200, 1440), 120, 120);
+    paintPlate(painter, kBarPlate);
 }
 
 }  // namespace sarne

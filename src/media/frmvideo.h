@@ -1,10 +1,9 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <memory>
 
-#include "forms/button.h"
+#include "forms/buttonbar.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/timer.h"
@@ -40,7 +39,7 @@ class frmVideo : public Form {
   private:
     enum Transport { kSound, kPlay, kStop, kPause, kPrev, kNext };
 
-    void makeButtons();
+    void placeButtons();
     void press(int index);
     void start();
     void showError();
@@ -59,8 +58,7 @@ class frmVideo : public Form {
     Label Label1;
     Label time_;
     SeekBar bar_;
-    std::array<Button*, 6> ImgTlacitko{};
-    Button* back_ = nullptr;
+    ButtonBar ImgTlacitko, imgBtn;
     Timer tmrStart;
     Timer progress_;
     bool wholeScreen_ = false;

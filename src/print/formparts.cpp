@@ -4,15 +4,6 @@
 
 namespace sarne {
 
-void dressButton(Button& button, const Resources& resources, const QString& caption, const QString& tip) {
-    button.setFont(printforms::kButtonFont);
-    button.setCaption(caption);
-    button.setTip(tip);
-    button.setFramePictures(resources.picture(QStringLiteral("Tlacitko")),
-                            resources.picture(QStringLiteral("TlacitkoStisk")));
-    button.setFrame(Button::Frame::Raised);
-}
-
 void dressCheckBox(CheckBox& box, const Resources& resources, const QString& caption) {
     box.setFont(printforms::kTextFont);
     box.setCaption(caption);

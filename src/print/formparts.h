@@ -1,6 +1,5 @@
 #pragma once
 
-#include "forms/button.h"
 #include "forms/checkbox.h"
 #include "forms/label.h"
 
@@ -16,8 +15,6 @@ inline const TextFont kSmallFont{QStringLiteral("Arial"), 11};
 inline const TextFont kButtonFont{QStringLiteral("Arial"), 12, true};
 }  // namespace printforms
 
-/// Gives \a button its caption, tooltip and the frame of the program's text buttons.
-void dressButton(Button& button, const Resources& resources, const QString& caption, const QString& tip);
 void dressCheckBox(CheckBox& box, const Resources& resources, const QString& caption);
 void dressLabel(Label& label, const TextFont& font, const QColor& color, const QString& text = {});
 

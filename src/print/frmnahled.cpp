@@ -49,7 +49,7 @@ frmNahled::frmNahled(basSarne& sarne, std::unique_ptr<PagePreview> preview)
     lblStrana.setAlignment(Qt::AlignCenter);
     for (int i = 0; i < 4; ++i) {
         auto* button = cmdStrana[size_t(i)] = new Button(*this, QStringLiteral("cmdStrana(%1)").arg(i));
-        dressButton(*button, app().resources(), QString::fromUtf8(kCaptions[i]), QString::fromUtf8(kTips[i]));
+        button->dressAsText(QString::fromUtf8(kCaptions[i]), QString::fromUtf8(kTips[i]));
         button->place(kButtons[i]);
     }
     connect(cmdStrana[kPrevious], &Button::clicked, this, [this] { go(current_ - 1); });

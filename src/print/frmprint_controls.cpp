@@ -82,7 +82,7 @@ void frmPrint::makeOptions() {
 Button* frmPrint::makeButton(const QString& name, const QString& caption, const QString& tip,
                              const QRect& place) {
     auto* button = new Button(*this, name);
-    dressButton(*button, app().resources(), caption, tip);
+    button->dressAsText(caption, tip);
     button->place(place);
     return button;
 }
@@ -147,10 +147,7 @@ bool frmPrint::keyDown(QKeyEvent& event) {
 void frmPrint::paint(QPainter& painter) {
     const QRect screen({0, 0}, twips().size());
     paintPanel(painter, screen, app().Pictures.seznam.design());
-    // Texts stand on calm paper.
-    painter.setPen(QPen(colors::kCopper, 30));
-    painter.setBrush(colors::kPaper);
-    for (const QRect& paper : {at::kFrame, at::kPrinterPaper}) painter.drawRoundedRect(paper, 90, 90);
+    for (const QRect& paper : {at::kFrame, at::kPrinterPaper}) paintPaper(painter, paper);
 }
 
 }  // namespace sarne

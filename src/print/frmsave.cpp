@@ -47,7 +47,6 @@ frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover prin
       lblVybrano(*this, QStringLiteral("lblVybrano")),
       lstSeznam(*this, QStringLiteral("lstSeznam")),
       lstVybrano(*this, QStringLiteral("lstVybrano")) {
-    const Resources& resources = app().resources();
     place(kDialog);
     Label2.place(kInstruction);
     dressLabel(Label2, printforms::kTextFont, colors::kTitle);
@@ -65,8 +64,7 @@ frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover prin
     lstVybrano.setTip(QStringLiteral("Vybrané položky"));
     for (int i = 0; i < 4; ++i) {
         auto* button = cmdRuka[size_t(i)] = new Button(*this, QStringLiteral("cmdRuka(%1)").arg(i));
-        dressButton(*button, resources, QString::fromUtf8(kArrowCaptions[i]),
-                    QString::fromUtf8(kArrowTips[i]));
+        button->dressAsText(QString::fromUtf8(kArrowCaptions[i]), QString::fromUtf8(kArrowTips[i]));
         button->place({{kArrowLeft, kArrowTop[i]}, kArrow});
         connect(button, &Button::clicked, this, [this, i] { cmdRukaClick(i); });
     }
@@ -74,7 +72,7 @@ frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover prin
     const QString tips[] = {QStringLiteral("Tisknout vybrané položky"), QStringLiteral("Zavřít bez tisku")};
     for (int i = 0; i < 2; ++i) {
         auto* button = cmdOkEnd[size_t(i)] = new Button(*this, QStringLiteral("cmdOkEnd(%1)").arg(i));
-        dressButton(*button, resources, captions[i], tips[i]);
+        button->dressAsText(captions[i], tips[i]);
         button->place(kButtons[i]);
         connect(button, &Button::clicked, this, [this, i] { cmdOkEndClick(i); });
     }

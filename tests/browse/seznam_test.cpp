@@ -121,6 +121,16 @@ TEST_F(SeznamTest, TheNextListShowsThePanelThatTheLastOneLeft) {
     EXPECT_TRUE(wineShows());
 }
 
+TEST_F(SeznamTest, ItSaysWhatItLists) {
+    const auto title = [&] { return child<Label>(*list, "lblNadpis")->text(); };
+    list = new frmSeznam(run);
+    list->setSubject(QStringLiteral("losos"));
+    list->Zobraz({}, QStringLiteral("recepty"));
+    EXPECT_EQ(title(), QStringLiteral("Recepty – losos"));
+    open("", "RychleRecepty");
+    EXPECT_EQ(title(), QStringLiteral("Rychlé recepty"));
+}
+
 TEST_F(SeznamTest, ALongNameBreaksInTheWinePanel) {
     run.database.Execute(QStringLiteral(
         "UPDATE Recepty SET Nazev = 'Koláč s lososem a pórkem na mnoho způsobů' WHERE ID = 3"));

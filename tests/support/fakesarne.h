@@ -25,9 +25,10 @@ class RecordedScreens : public Screens {
     std::vector<PrintEntry> printEntries;
     std::vector<std::int16_t> printed;
     Serving printServing;
-    QString printedText;
+    QString printedText, listSubject;
 
-    void showList(const QString& ids, const QString& source) override {
+    void showList(const QString& ids, const QString& source, const QString& subject) override {
+        listSubject = subject;
         calls << QStringLiteral("showList %1 %2").arg(ids, source);
     }
     void showRecipe(std::int16_t id) override { calls << QStringLiteral("showRecipe %1").arg(id); }

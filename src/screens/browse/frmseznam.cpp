@@ -11,22 +11,6 @@
 #include "screens/browse/photofile.h"
 
 namespace sarne {
-namespace {}  // namespace
-
-frmSeznam::frmSeznam(basSarne& run, Panel* panel)
-    : Form(run, QStringLiteral("frmSeznam")),
-      panelMode_(panel ? *panel : Panel::Photo),
-      keptPanel_(panel),
-      lblNadpis(*this, QStringLiteral("lblNadpis")),
-      lblPozice(*this, QStringLiteral("lblPozice")),
-      lblHint(*this, QStringLiteral("lblHint")),
-      imgJablko(*this, QStringLiteral("imgJablko")),
-      picFoto(*this, QStringLiteral("picFoto")),
-      lblVino(*this, QStringLiteral("lblVino")) {
-    buildList();
-    buildPanel();
-    buildBar();
-}
 
 void frmSeznam::Zobraz(const QString& ids, const QString& source) {
     fill(ids, source);
@@ -45,7 +29,7 @@ void frmSeznam::fill(const QString& ids, const QString& source) {
     entries_ = readEntries(app().Db(), sourceText_, ids);
     pages_.fill(static_cast<int>(entries_.size()), seznam::kRows);
     letters_.clear();
-    for (PictureButton* arrow : imgSipky) arrow->setVisible(pages_.scrolls());
+    for (Button* arrow : imgSipky) arrow->setVisible(pages_.scrolls());
     showButtonsOfSource();
     lblPozice.setText({});
     ground_.forget();
@@ -189,8 +173,8 @@ void frmSeznam::showInvitation() {
 void frmSeznam::setPanel(Panel panel) {
     panelMode_ = panel;
     if (keptPanel_) *keptPanel_ = panel;
-    imgBtn[0]->setLatched(panel == Panel::Photo);
-    imgBtn[1]->setLatched(panel == Panel::Wine);
+    imgBtn[0].setLatched(panel == Panel::Photo);
+    imgBtn[1].setLatched(panel == Panel::Wine);
 }
 
 QImage frmSeznam::smallPhoto(const ListEntry& entry) const {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/lettersearch.h"
+#include "forms/buttonbar.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/picturebox.h"
@@ -12,7 +13,6 @@
 #include "screens/browse/ground.h"
 #include "screens/browse/listentries.h"
 #include "screens/browse/listpages.h"
-#include "screens/browse/picturebutton.h"
 
 namespace sarne {
 
@@ -26,6 +26,8 @@ class frmSeznam : public Form {
     /// \a panel is what the panel beside the list showed last, kept by whoever makes lists; null: the photo.
     explicit frmSeznam(basSarne& app, Panel* panel = nullptr);
 
+    /// What the next list is about ("Kapr"), for its title.
+    void setSubject(const QString& subject) { subject_ = subject; }
     /// Lists the records \a ids ("12,40,7,"; all when empty) of the table \a source ("recepty",
     /// "RychleRecepty" or "Help") and opens the list over the current screen.
     void Zobraz(const QString& ids, const QString& source);
@@ -45,16 +47,15 @@ class frmSeznam : public Form {
     enum class Source { Recipes, QuickRecipes, Help };
     void buildList();
     void buildPanel();
-    void buildBar();
+    void setFocusOrder();
     void connectRow(int row);
     void connectArrow(int arrow);
-    PictureButton* addAction(int index, const QString& face, const QString& word, const QString& tip);
+    void setPanel(Panel panel);
 
     void fill(const QString& ids, const QString& source);
     void showButtonsOfSource();
     void startPanel();
     void showInvitation();
-    void setPanel(Panel panel);
 
     // What the user does.
     void selectRow(int row);
@@ -85,6 +86,7 @@ class frmSeznam : public Form {
     LetterSearch letters_;
     Panel panelMode_ = Panel::Photo;
     Panel* keptPanel_;
+    QString subject_;
     int wheel_ = 0;
 
     Ground ground_;
@@ -95,8 +97,8 @@ class frmSeznam : public Form {
     PictureBox imgJablko, picFoto;
     Label lblVino;
     std::vector<PictureBox*> ImgTlacitko;
-    std::vector<PictureButton*> imgBtn, imgBtnHlavni, imgSipky;
-    std::vector<Label*> words_;
+    ButtonBar imgBtn, imgBtnHlavni;
+    std::vector<Button*> imgSipky;
     QPointer<frmRychlyRecept> quickWindow_;
 };
 

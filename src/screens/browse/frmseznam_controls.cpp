@@ -24,9 +24,32 @@ const TextFont kTitleFont{QStringLiteral("Times New Roman"), 22, true};
 const TextFont kPositionFont{QStringLiteral("Arial"), 16};
 const TextFont kRowFont{QStringLiteral("Arial"), 14};
 const TextFont kHintFont{QStringLiteral("Arial"), 11};
-const TextFont kWordFont{QStringLiteral("Arial"), 12};
+
+constexpr BarFace kActions[] = {{u"Foto", u"Foto", u"Zobrazí malé foto"},
+                                {u"Vino", u"Víno", u"Zobrazí vhodná vína"},
+                                {u"Recept", u"Recept", u"Otevře recept"}};
+constexpr BarFace kOpenPage{u"Help", u"Otevřít", u"Otevře stránku nápovědy"};
+constexpr BarFace kBar[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
 
 }  // namespace
+
+frmSeznam::frmSeznam(basSarne& run, Panel* panel)
+    : Form(run, QStringLiteral("frmSeznam")),
+      panelMode_(panel ? *panel : Panel::Photo),
+      keptPanel_(panel),
+      lblNadpis(*this, QStringLiteral("lblNadpis")),
+      lblPozice(*this, QStringLiteral("lblPozice")),
+      lblHint(*this, QStringLiteral("lblHint")),
+      imgJablko(*this, QStringLiteral("imgJablko")),
+      picFoto(*this, QStringLiteral("picFoto")),
+      lblVino(*this, QStringLiteral("lblVino")),
+      imgBtn(*this, QStringLiteral("imgBtn"), kActions, [this](int index) { action(index); }),
+      imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int index) { mainAction(index); }) {
+    buildList();
+    buildPanel();
+    imgBtnHlavni.placeRow(seznam::kBar);
+    setFocusOrder();
+}
 
 // --- making them
 
@@ -70,9 +93,11 @@ void frmSeznam::connectArrow(int arrow) {
     static const QString kTips[] = {QStringLiteral("O řádek dolů"), QStringLiteral("O řádek nahoru"),
                                     QStringLiteral("O půl strany nahoru"),
                                     QStringLiteral("O půl strany dolů")};
-    auto* button = new PictureButton(*this, QStringLiteral("imgSipky(%1)").arg(arrow));
+    auto* button = new Button(*this, QStringLiteral("imgSipky(%1)").arg(arrow));
     button->place(seznam::arrow(arrow));
-    button->dress(app(), QLatin1String(kFaces[arrow]), QString::fromUtf8(kWords[arrow]));
+    const Picture face = resources().picture(QLatin1String(kFaces[arrow]));
+    button->setFace(face);
+    if (face.isNull()) button->setCaption(QString::fromUtf8(kWords[arrow]));
     button->setTip(kTips[arrow]);
     button->setFocusPolicy(Qt::NoFocus);
     const auto step = [this, arrow] {
@@ -83,27 +108,6 @@ void frmSeznam::connectArrow(int arrow) {
     imgSipky.push_back(button);
 }
 
-PictureButton* frmSeznam::addAction(int index, const QString& face, const QString& word, const QString& tip) {
-    auto* plate = new PictureBox(*this, QStringLiteral("ImgTlacitko(%1)").arg(index));
-    plate->setAttribute(Qt::WA_TransparentForMouseEvents);
-    plate->addPainted(
-        [picture = app().resources().picture(QStringLiteral("Tlacitko"))](
-            QPainter& painter, const QRect& all) { drawNinePatch(painter, picture, all, kPlateBorder); },
-        seznam::action(0).height());
-    ImgTlacitko.push_back(plate);
-    auto* button = new PictureButton(*this, QStringLiteral("imgBtn(%1)").arg(index));
-    button->dress(app(), face, word);
-    button->setTip(tip);
-    connect(button, &Control::clicked, this, [this, index] { action(index); });
-    auto* label = new Label(*this, QStringLiteral("lblBtn(%1)").arg(index));
-    label->setFont(kWordFont);
-    label->setColor(colors::kTitle);
-    label->setAlignment(Qt::AlignCenter);
-    label->setText(word);
-    words_.push_back(label);
-    return button;
-}
-
 void frmSeznam::buildPanel() {
     picFoto.place(seznam::kPhoto);
     connect(&picFoto, &Control::clicked, this, [this] {
@@ -111,61 +115,46 @@ void frmSeznam::buildPanel() {
     });
     lblVino.setWordWrap(true);
     lblVino.hide();
-    imgBtn = {
-        addAction(0, QStringLiteral("Foto"), QStringLiteral("Foto"), QStringLiteral("Zobrazí malé foto")),
-        addAction(1, QStringLiteral("Vino"), QStringLiteral("Víno"), QStringLiteral("Zobrazí vhodná vína")),
-        addAction(2, QStringLiteral("Recept"), QStringLiteral("Recept"), QStringLiteral("Otevře recept"))};
+    for (int index = 0; index < seznam::kActions; ++index) {
+        auto* plate = new PictureBox(*this, QStringLiteral("ImgTlacitko(%1)").arg(index));
+        plate->setAttribute(Qt::WA_TransparentForMouseEvents);
+        plate->stackUnder(&imgBtn[0]);
+        plate->addPainted(
+            [picture = app().resources().picture(QStringLiteral("Tlacitko"))](
+                QPainter& painter, const QRect& all) { drawNinePatch(painter, picture, all, kPlateBorder); },
+            seznam::actionPlate(0).height());
+        ImgTlacitko.push_back(plate);
+    }
 }
 
-void frmSeznam::buildBar() {
-    static const struct {
-        QString face, word, tip;
-    } kBar[] = {{QStringLiteral("Tisk"), QStringLiteral("Tisk"), QStringLiteral("Tisk")},
-                {QStringLiteral("Help"), QStringLiteral("?"), QStringLiteral("Nápověda")},
-                {QStringLiteral("Zpet"), QStringLiteral("Zpět"), QStringLiteral("Zpět")},
-                {QStringLiteral("Konec"), QStringLiteral("Konec"), QStringLiteral("Konec")},
-                {QStringLiteral("Hudba"), QStringLiteral("♪"), QStringLiteral("Hudba a zvuky")}};
-    for (int index = 0; index < seznam::kBarButtons; ++index) {
-        auto* button = new PictureButton(*this, QStringLiteral("imgBtnHlavni(%1)").arg(index));
-        button->dress(app(), kBar[index].face, kBar[index].word);
-        button->setTip(kBar[index].tip);
-        connect(button, &Control::clicked, this, [this, index] { mainAction(index); });
-        imgBtnHlavni.push_back(button);
-    }
-    std::vector<TwipWidget*> stops(imgBtn.begin(), imgBtn.end());
-    stops.insert(stops.end(), imgBtnHlavni.begin(), imgBtnHlavni.end());
+void frmSeznam::setFocusOrder() {
+    std::vector<TwipWidget*> stops = imgBtn.stops();
+    for (TwipWidget* stop : imgBtnHlavni.stops()) stops.push_back(stop);
     ring().setStops(stops);
     ring().setArrows(FocusRing::Arrows::Sideways);
 }
 
 void frmSeznam::showButtonsOfSource() {
-    lblNadpis.setText(source_ == Source::Recipes ? QStringLiteral("Recepty")
-                      : source_ == Source::Help  ? QStringLiteral("Nápověda")
-                                                 : QStringLiteral("Rychlé recepty"));
-    const bool shown[] = {source_ == Source::Recipes, source_ != Source::Help, true};
-    for (int index = 0, place = 0; index < seznam::kActions; ++index) {
-        const auto at = size_t(index);
-        for (Control* part : std::initializer_list<Control*>{ImgTlacitko[at], imgBtn[at], words_[at]})
-            part->setVisible(shown[index]);
+    const bool help = source_ == Source::Help;
+    const QString what = help                         ? QStringLiteral("Nápověda")
+                         : source_ == Source::Recipes ? QStringLiteral("Recepty")
+                                                      : QStringLiteral("Rychlé recepty");
+    lblNadpis.setText(subject_.isEmpty() ? what : what + QStringLiteral(" – ") + subject_);
+    setAccessibleName(lblNadpis.text());
+    const bool shown[] = {source_ == Source::Recipes, !help, true};
+    int place = 0;
+    for (int index = 0; index < seznam::kActions; ++index) {
+        imgBtn[index].setVisible(shown[index]);
+        ImgTlacitko[size_t(index)]->setVisible(shown[index]);
         if (!shown[index]) continue;
-        ImgTlacitko[at]->place(seznam::action(place));
-        imgBtn[at]->place(seznam::action(place));
-        words_[at]->place(seznam::actionWord(place++));
+        imgBtn[index].place(seznam::action(place));
+        ImgTlacitko[size_t(index)]->place(seznam::actionPlate(place++));
     }
     lblHint.setText(
-        source_ == Source::Help
-            ? QStringLiteral("Písmeno najde název, Enter otevře stránku.")
-            : QStringLiteral("Písmeno najde název, mezerník promítá. Tab vybere Recept, Enter ho otevře."));
-    imgBtn[2]->dress(app(), source_ == Source::Help ? QStringLiteral("Help") : QStringLiteral("Recept"),
-                     QStringLiteral("Recept"));
-    words_[2]->setText(source_ == Source::Help ? QStringLiteral("Otevřít") : QStringLiteral("Recept"));
-    imgBtn[2]->setTip(source_ == Source::Help ? QStringLiteral("Otevře stránku nápovědy")
-                                              : QStringLiteral("Otevře recept"));
+        help ? QStringLiteral("Písmeno najde název, Enter otevře stránku.")
+             : QStringLiteral("Písmeno najde název, mezerník promítá. Tab vybere Recept, Enter ho otevře."));
+    imgBtn.setFace(2, help ? kOpenPage : kActions[2]);
     setPanel(panelMode_);
-    for (int index = 0, place = 0; index < seznam::kBarButtons; ++index) {
-        PictureButton& button = *imgBtnHlavni[size_t(index)];
-        if (!button.isHidden()) button.place(seznam::barButton(place++));
-    }
 }
 
 // --- painting

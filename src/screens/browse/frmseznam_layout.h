@@ -9,7 +9,6 @@ namespace sarne::seznam {
 inline constexpr int kRows = 14;
 inline constexpr int kArrows = 4;
 inline constexpr int kActions = 3;
-inline constexpr int kBarButtons = 5;
 
 inline constexpr QRect kHeader{-200, -200, 12400, 1200};
 inline constexpr QRect kSheet{225, 1260, 7125, 6915};
@@ -44,13 +43,12 @@ constexpr QRect arrow(int index) {
     return {6660, kTops[index], 600, 600};
 }
 constexpr QRect action(int place) {
-    return {7800 + place * 1300, 4680, 1150, 1150};
+    return {7800 + place * 1300, 4620, 1150, 1500};
 }
-constexpr QRect actionWord(int place) {
-    return {7800 + place * 1300 - 60, 5860, 1270, 360};
+/// Behind the framed picture of an action.
+constexpr QRect actionPlate(int place) {
+    return {action(place).x() - 35, action(place).y() - 50, 1220, 1180};
 }
-constexpr QRect barButton(int place) {
-    return {7700 + place * 795, 7150, 770, 770};
-}
+inline constexpr QRect kBar{7600, 6860, 4150, 1140};
 
 }  // namespace sarne::seznam

@@ -3,12 +3,11 @@
 #include <array>
 #include <vector>
 
-#include "forms/button.h"
+#include "forms/buttonbar.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "screens/browse/ground.h"
 #include "screens/browse/photogrid.h"
-#include "screens/browse/picturebutton.h"
 
 namespace sarne {
 
@@ -35,7 +34,6 @@ class frmSit : public Form {
   private:
     void buildCells();
     void buildGroups();
-    void buildBar();
     void setFocusOrder();
     void readNames();
 
@@ -61,8 +59,9 @@ class frmSit : public Form {
     Ground ground_;
     int framedCell_ = 0;
     std::vector<Button*> imgFoto;  // cell 1 first
-    std::vector<PictureButton*> imgSkupina, imgBtnHlavni;
-    PictureButton* imgCela;
+    std::vector<Button*> imgSkupina;
+    Button* imgCela;
+    ButtonBar imgBtnHlavni;
     Label Label1;
 };
 

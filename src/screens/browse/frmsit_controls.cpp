@@ -3,6 +3,7 @@
 
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/resources.h"
 #include "forms/screens.h"
 #include "screens/browse/frmsit.h"
 #include "screens/browse/frmsit_layout.h"
@@ -13,6 +14,12 @@ namespace {
 
 constexpr int kCellFrame = 48;  // thickness of the frame of the chosen cell, twips
 
+constexpr BarFace kBar[] = {{u"Foto", u"Foto", u"Zobrazí foto"},
+                            barface::kHelp,
+                            {u"Recept", u"Recept", u" Zobraz recept "},
+                            barface::kBack,
+                            barface::kEnd};
+
 }  // namespace
 
 TextFont frmSit::nameFont() {
@@ -21,13 +28,13 @@ TextFont frmSit::nameFont() {
 
 frmSit::frmSit(basSarne& run)
     : Form(run, QStringLiteral("frmSit")),
-      imgCela(new PictureButton(*this, QStringLiteral("imgCela"))),
+      imgCela(new Button(*this, QStringLiteral("imgCela"))),
+      imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int index) { barAction(index); }),
       Label1(*this, QStringLiteral("Label1")) {
     setAccessibleName(QStringLiteral("Zobrazení fotografií"));
     setWindowTitle(QStringLiteral("Zobrazení fotografií"));
     buildCells();
     buildGroups();
-    buildBar();
     setFocusOrder();
     Label1.place(sit::kName);
     Label1.setFont(nameFont());
@@ -55,48 +62,32 @@ void frmSit::buildGroups() {
     static const QString kNames[] = {QStringLiteral("Polévky"), QStringLiteral("Teplá jídla"),
                                      QStringLiteral("Studená jídla"), QStringLiteral("Slavnostní mísy")};
     for (int group = 0; group < kGridGroups; ++group) {
-        auto* button = new PictureButton(*this, QStringLiteral("imgSkupina(%1)").arg(group));
+        auto* button = new Button(*this, QStringLiteral("imgSkupina(%1)").arg(group));
         button->place(sit::group(group));
-        button->dress(app(), QStringLiteral("Skupina%1").arg(group), kNames[group],
-                      PictureButton::Word::Beside);
+        button->setFace(resources().picture(QStringLiteral("Skupina%1").arg(group)));
+        button->setCaption(kNames[group]);
+        button->setCaptionPlace(Button::CaptionPlace::Beside);
         button->setTip(kNames[group]);
         button->setFocusPolicy(Qt::TabFocus);
         connect(button, &Control::clicked, this, [this, group] { setGroup(group); });
         imgSkupina.push_back(button);
     }
     imgCela->place(sit::kWhole);
-    imgCela->dress(app(), {}, QStringLiteral("Všechny"));
+    imgCela->setCaption(QStringLiteral("Všechny"));
     imgCela->setTip(QStringLiteral("Zobrazí všechny recepty"));
     imgCela->setFocusPolicy(Qt::TabFocus);
     connect(imgCela, &Control::clicked, this, [this] { setGroup(PhotoGrid::kNoGroup); });
 }
 
-void frmSit::buildBar() {
-    static const struct {
-        QString face, word, tip;
-    } kBar[] = {{QStringLiteral("Foto"), QStringLiteral("Foto"), QStringLiteral("Zobrazí foto")},
-                {QStringLiteral("Help"), QStringLiteral("?"), QStringLiteral("Nápověda")},
-                {QStringLiteral("Recept"), QStringLiteral("Recept"), QStringLiteral(" Zobraz recept ")},
-                {QStringLiteral("Zpet"), QStringLiteral("Zpět"), QStringLiteral("Zpět")},
-                {QStringLiteral("Konec"), QStringLiteral("Konec"), QStringLiteral("Konec")}};
-    for (int index = 0; index < sit::kBarButtons; ++index) {
-        auto* button = new PictureButton(*this, QStringLiteral("imgBtnHlavni(%1)").arg(index));
-        button->place(sit::barButton(index));
-        button->dress(app(), kBar[index].face, kBar[index].word);
-        button->setTip(kBar[index].tip);
-        button->setFocusPolicy(Qt::TabFocus);
-        connect(button, &Control::clicked, this, [this, index] { barAction(index); });
-        imgBtnHlavni.push_back(button);
-    }
-}
-
-/// The groups, then the bar as it reads, then the cells, which are the form's own.
+/// The groups, then the bar, then the cells, which are the form's own.
 void frmSit::setFocusOrder() {
+    for (int index = 0; index < imgBtnHlavni.count(); ++index) {
+        imgBtnHlavni[index].place(sit::barButton(index));
+        imgBtnHlavni[index].setFocusPolicy(Qt::TabFocus);
+    }
     std::vector<TwipWidget*> stops(imgSkupina.begin(), imgSkupina.end());
     stops.push_back(imgCela);
-    std::vector<QRect> places;
-    for (const PictureButton* button : imgBtnHlavni) places.push_back(button->twips());
-    for (const int at : readingOrder(places)) stops.push_back(imgBtnHlavni[size_t(at)]);
+    for (TwipWidget* stop : imgBtnHlavni.stops()) stops.push_back(stop);
     stops.push_back(this);
     ring().setStops(stops);
 }

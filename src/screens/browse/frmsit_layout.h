@@ -6,8 +6,6 @@
 /// the left part down to 7890; the last row has one.
 namespace sarne::sit {
 
-inline constexpr int kBarButtons = 5;
-
 inline constexpr QRect kName{1760, 7035, 7200, 780};
 inline constexpr QRect kNamePlate{1560, 6990, 7600, 870};
 inline constexpr QRect kGroupPlate{9290, 240, 2490, 5630};
@@ -19,11 +17,11 @@ constexpr QRect group(int index) {
 }
 /// The photo and the recipe above, help, back and end below.
 constexpr QRect barButton(int index) {
-    constexpr QRect kPlaces[] = {{9370, 6190, 1120, 1120},
-                                 {9370, 7680, 770, 770},
-                                 {10580, 6190, 1120, 1120},
-                                 {10150, 7680, 770, 770},
-                                 {10930, 7680, 770, 770}};
+    constexpr QRect kPlaces[] = {{9330, 6150, 1200, 1380},
+                                 {9330, 7580, 920, 1120},
+                                 {10540, 6150, 1200, 1380},
+                                 {10250, 7580, 740, 1120},
+                                 {10990, 7580, 740, 1120}};
     return kPlaces[index];
 }
 

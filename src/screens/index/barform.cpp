@@ -9,40 +9,20 @@
 namespace sarne {
 namespace {
 
-struct BarFace {
-    QStringView picture;
-    QStringView tip;
-};
-constexpr BarFace kFaces[BarForm::kBarButtons] = {{u"Tisk", u"Tisk"},
-                                                  {u"Help", u"Nápověda"},
-                                                  {u"Zpet", u"Zpět"},
-                                                  {u"Konec", u"Konec"},
-                                                  {u"ZvukOff", u"Vypnout hudbu"}};
-constexpr int kBarGap = 150;
+constexpr BarFace kFaces[BarForm::kBarButtons] = {
+    barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd, {u"ZvukOff", u"Hudba"}};
 
 }  // namespace
 
 BarForm::BarForm(basSarne& app, const QString& name)
-    : Form(app, name), title_(*this, QStringLiteral("lblTitul")) {
+    : Form(app, name),
+      title_(*this, QStringLiteral("lblTitul")),
+      imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int i) { barClicked(i); }) {
     title_.place(kTitle);
     title_.setFont({QStringLiteral("Arial"), 20, true});
     title_.setColor(colors::kTitle);
     title_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const int width = (kBar.width() - (kBarButtons - 1) * kBarGap) / kBarButtons;
-    for (int i = 0; i < kBarButtons; ++i) {
-        auto* button = new Button(*this, QStringLiteral("imgBtnHlavni(%1)").arg(i));
-        button->place({kBar.x() + i * (width + kBarGap), kBar.y(), width, kBar.height()});
-        const Picture face = app.resources().picture(kFaces[i].picture.toString());
-        button->setFace(face);
-        button->setFont({QStringLiteral("Arial"), 12});
-        if (face.isNull()) button->setCaption(kFaces[i].tip.toString());
-        button->setFrame(Button::Frame::Raised);
-        button->setFramePictures(app.resources().picture(QStringLiteral("RamVen")),
-                                 app.resources().picture(QStringLiteral("RamDovnitr")));
-        button->setTip(kFaces[i].tip.toString());
-        connect(button, &Button::clicked, this, [this, i] { barClicked(i); });
-        bar_[static_cast<size_t>(i)] = button;
-    }
+    imgBtnHlavni.placeRow(kBar);
     setContent({});
     ring().setArrows(FocusRing::Arrows::Sideways);
     showSound();
@@ -50,7 +30,7 @@ BarForm::BarForm(basSarne& app, const QString& name)
 
 void BarForm::setContent(const std::vector<TwipWidget*>& controls) {
     std::vector<TwipWidget*> stops = controls;
-    stops.insert(stops.end(), bar_.begin(), bar_.end());
+    for (TwipWidget* stop : imgBtnHlavni.stops()) stops.push_back(stop);
     ring().setStops(stops);
 }
 
@@ -76,9 +56,9 @@ void BarForm::restored() {
 }
 
 void BarForm::showSound() {
-    Button& button = *bar_[kSound];
+    Button& button = imgBtnHlavni[kSound];
     const bool on = app().SoundFlags[kMusic];
-    button.setFrame(on ? Button::Frame::Raised : Button::Frame::Pressed);
+    button.setLatched(!on);
     button.setTip(on ? QStringLiteral("Vypnout hudbu") : QStringLiteral("Zapnout hudbu"));
 }
 
@@ -112,12 +92,6 @@ void BarForm::paint(QPainter& painter) {
     band(kBar.y() - 105, all.bottom(), colors::kTeal);
     band(kTitle.bottom() + 60, kTitle.bottom() + 90, colors::kCopper);
     band(kBar.y() - 135, kBar.y() - 105, colors::kCopper);
-}
-
-void paintPaper(QPainter& painter, const QRect& place) {
-    painter.setPen(QPen(colors::kCopper, 45));
-    painter.setBrush(colors::kPaper);
-    painter.drawRoundedRect(QRectF(place).adjusted(23, 23, -23, -23), 90, 90);
 }
 
 }  // namespace sarne

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <array>
 #include <vector>
 
 #include "forms/bassarne.h"
-#include "forms/button.h"
+#include "forms/buttonbar.h"
 #include "forms/form.h"
 #include "forms/label.h"
 
@@ -21,8 +20,8 @@ class BarForm : public Form {
 
     /// Where the title, the content and the bar lie, in twips.
     static constexpr QRect kTitle{300, 60, 11400, 690};
-    static constexpr QRect kContent{300, 900, 11400, 7050};
-    static constexpr QRect kBar{3300, 8145, 8400, 750};
+    static constexpr QRect kContent{300, 900, 11400, 6930};
+    static constexpr QRect kBar{3300, 7995, 8400, 960};
 
     BarForm(basSarne& app, const QString& name);
 
@@ -38,7 +37,7 @@ class BarForm : public Form {
     /// Shows the screen over the others and gives \a first the keyboard.
     void open(Control& first);
 
-    Control& barButton(BarButton button) const { return *bar_[button]; }
+    Control& barButton(BarButton button) const { return imgBtnHlavni[button]; }
 
     virtual void print() = 0;
     /// The bar's "Help"; by default the help for this screen.
@@ -53,10 +52,7 @@ class BarForm : public Form {
     void showSound();
 
     Label title_;
-    std::array<Button*, kBarButtons> bar_{};
+    ButtonBar imgBtnHlavni;
 };
-
-/// Paper with a copper edge, for texts to stand on.
-void paintPaper(QPainter& painter, const QRect& place);
 
 }  // namespace sarne

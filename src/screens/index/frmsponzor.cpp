@@ -8,6 +8,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/followlink.h"
+#include "forms/panel.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "richtext/plaintext.h"
@@ -81,6 +82,7 @@ void frmSponzor::makeCard() {
     const Resources& resources = app().resources();
     placeCard();
     card_.setFocusPolicy(Qt::ClickFocus);
+    card_.setRightMargin(kTextStart.x());
     card_.setArrowPictures(resources.picture(QStringLiteral("SipkaNahoru")),
                            resources.picture(QStringLiteral("SipkaDolu")));
     dress(close_, {}, QStringLiteral("Zavřít"), QStringLiteral("Zavřít text"));

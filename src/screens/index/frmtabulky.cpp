@@ -8,6 +8,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/holdrepeat.h"
+#include "forms/panel.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 

@@ -4,6 +4,7 @@
 
 #include "forms/bassarne.h"
 #include "forms/followlink.h"
+#include "forms/panel.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "screens/index/headings.h"
@@ -14,14 +15,16 @@ namespace {
 constexpr QRect kPaper = BarForm::kContent;
 constexpr int kMargin = 180;            // of paper around the view
 constexpr QPoint kTextStart(180, 105);  // in the view: room for the ring that shows where the keyboard is
-constexpr QRect kText{kPaper.x() + kMargin, kPaper.y() + kMargin,
-                      kPaper.width() - 2 * kMargin - TextView::kArrowRoom, kPaper.height() - 2 * kMargin};
+constexpr int kSide = kMargin + TextView::kArrowRoom;  // left as right, so that the text stands in the middle
+constexpr QRect kText{kPaper.x() + kSide, kPaper.y() + kMargin, kPaper.width() - 2 * kSide,
+                      kPaper.height() - 2 * kMargin};
 
 }  // namespace
 
 TextForm::TextForm(basSarne& app, const QString& name)
     : BarForm(app, name), view_(*this, QStringLiteral("picText")) {
     view_.place(kText);
+    view_.setRightMargin(kTextStart.x());
     view_.setFocusPolicy(Qt::ClickFocus);
     view_.setArrowPictures(app.resources().picture(QStringLiteral("SipkaNahoru")),
                            app.resources().picture(QStringLiteral("SipkaDolu")));

@@ -24,8 +24,8 @@ constexpr int kFirstEffect = 100;    // button i sounds effect i + 100
 
 /// What button \a i is called: as the menu that it opens.
 QString nameOf(Database& db, int i) {
-    if (i == kExitButton) return Texts::tr("Konec programu");
-    if (i == kMusicButton) return Texts::tr("Nastavení hudby a zvuků");
+    if (i == kExitButton) return Texts::tr("Konec");
+    if (i == kMusicButton) return Texts::tr("Hudba a zvuky");
     return MenuLevel::build(db, QString::number(i)).name();
 }
 

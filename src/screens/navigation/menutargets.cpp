@@ -10,6 +10,7 @@
 #include "forms/screens.h"
 #include "forms/stage.h"
 #include "screens/navigation/ingredientsearch.h"
+#include "screens/navigation/menulevel.h"
 
 namespace sarne {
 namespace {
@@ -52,10 +53,26 @@ void openPhotos(Screens& screens, int item) {
     screens.showPhotos(all);
 }
 
-void openRecipeList(Screens& screens, int item, TopicKind kind, const QString& ids) {
+/// A level below a topic opens lists; two numbers more mean the music.
+TopicKind kindOfLevel(int level) {
+    if (level == 71 || level == 72) return TopicKind::music;
+    return level < kTopics ? topicKind(level) : TopicKind::submenus;
+}
+
+/// What a list is about that item \a item of \a level opens: the item, or for "Recepty" and "Rychlé recepty"
+/// what they are under.
+QString subjectOf(Database& db, int item, int level) {
+    const MenuLevel menu = MenuLevel::build(db, QString::number(level));
+    if (item < 1 || item > static_cast<int>(menu.items.size())) return menu.heading;
+    const QString& label = menu.items[static_cast<size_t>(item - 1)].label;
+    return label == u"Recepty" || label == u"Rychlé recepty" ? menu.heading : label;
+}
+
+void openRecipeList(basSarne& app, int item, int level, const QString& ids) {
     if (ids.isEmpty()) return;  // an empty list would mean the whole table
     const bool first = QString::number(item).endsWith(u'1');
-    screens.showList(ids, kind == TopicKind::lists || first ? kRecipes : kQuickRecipes);
+    const bool recipes = kindOfLevel(level) == TopicKind::lists || first;
+    app.screens().showList(ids, recipes ? kRecipes : kQuickRecipes, subjectOf(app.Db(), item, level));
 }
 
 /// "H81" in a menu row leads to keyword 81.
@@ -64,19 +81,13 @@ void openKeyword(Screens& screens, const QString& number) {
     if (keyword > 0) screens.showIndex(keyword);
 }
 
-/// A level below a topic opens lists; two numbers more mean the music.
-TopicKind kindOfLevel(int level) {
-    if (level == 71 || level == 72) return TopicKind::music;
-    return level < kTopics ? topicKind(level) : TopicKind::submenus;
-}
-
 void openTarget(basSarne& app, std::int16_t item, std::int16_t level, const QString& text) {
     Screens& screens = app.screens();
     const TopicKind kind = kindOfLevel(level);
     switch (kind) {
         case TopicKind::results:
             if (const QString ids = recipesWithFoundIngredient(app.Db(), item); !ids.isEmpty())
-                screens.showList(ids, kRecipes);
+                screens.showList(ids, kRecipes, subjectOf(app.Db(), item, level));
             break;
         case TopicKind::gallery:
             screens.showSponsor(level, QString());
@@ -103,7 +114,7 @@ void openTarget(basSarne& app, std::int16_t item, std::int16_t level, const QStr
             if (text.startsWith(u'H'))
                 openKeyword(screens, text.mid(1));
             else
-                openRecipeList(screens, item, kind, text);
+                openRecipeList(app, item, level, text);
     }
 }
 

@@ -66,8 +66,6 @@ Button& frmRecept::makeButton(const QString& name, const QRect& place, const cha
     button->setFace(face);
     if (face.isNull()) button->setCaption(tip.left(1));
     button->setTip(tip);
-    button->setFramePictures(pictures.picture(QStringLiteral("RamVen")),
-                             pictures.picture(QStringLiteral("RamDovnitr")));
     button->setFrame(Button::Frame::Raised);
     return *button;
 }

@@ -51,12 +51,9 @@ IngredientPanel::IngredientPanel(const SectionRoom& room) : RecipeSection(room) 
 }
 
 Button& IngredientPanel::addButton(const QString& name, const QRect& place) {
-    const Resources& pictures = room_.app.resources();
     auto* button = new Button(room_.form, name);
     button->place(place);
     button->setGround(colors::kTeal);
-    button->setFramePictures(pictures.picture(QStringLiteral("RamVen")),
-                             pictures.picture(QStringLiteral("RamDovnitr")));
     return *button;
 }
 

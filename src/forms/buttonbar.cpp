@@ -1,0 +1,50 @@
+#include "forms/buttonbar.h"
+
+#include <algorithm>
+
+#include "forms/form.h"
+#include "forms/resources.h"
+
+namespace sarne {
+
+ButtonBar::ButtonBar(Form& form, const QString& name, std::span<const BarFace> faces,
+                     const std::function<void(int)>& command)
+    : form_(form) {
+    for (const BarFace& face : faces) {
+        const int index = count();
+        auto* button = new Button(form, QStringLiteral("%1(%2)").arg(name).arg(index));
+        button->setFrame(Button::Frame::Raised);
+        button->setCaptionPlace(Button::CaptionPlace::Below);
+        QObject::connect(button, &Button::clicked, &form, [command, index] { command(index); });
+        buttons_.push_back(button);
+        setFace(index, face);
+    }
+}
+
+void ButtonBar::setFace(int index, const BarFace& face) {
+    Button& button = (*this)[index];
+    button.setFace(form_.resources().picture(face.picture.toString()));
+    button.setCaption(face.caption.toString());
+    button.setTip(face.tip.toString());
+}
+
+void ButtonBar::placeRow(const QRect& room) {
+    const auto shown =
+        std::ranges::count_if(buttons_, [](const Button* button) { return !button->isHidden(); });
+    int at = 0;
+    for (Button* button : buttons_) {
+        if (button->isHidden()) continue;
+        const int width = room.width() / static_cast<int>(shown);
+        button->place({room.x() + at++ * width, room.y(), width, room.height()});
+    }
+}
+
+std::vector<TwipWidget*> ButtonBar::stops() const {
+    std::vector<QRect> places;
+    for (const Button* button : buttons_) places.push_back(button->twips());
+    std::vector<TwipWidget*> stops;
+    for (const int at : readingOrder(places)) stops.push_back(buttons_[static_cast<size_t>(at)]);
+    return stops;
+}
+
+}  // namespace sarne

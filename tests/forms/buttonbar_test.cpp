@@ -1,0 +1,55 @@
+#include "forms/buttonbar.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "forms/form.h"
+#include "support/fakesarne.h"
+
+namespace sarne {
+namespace {
+
+constexpr BarFace kFaces[] = {barface::kPrint, {u"Foto", u"Foto", u"Zobrazí foto"}, barface::kEnd};
+
+class ButtonBarTest : public testing::Test {
+  protected:
+    FakeSarne run;
+    Form* form = new Form(run, QStringLiteral("frmA"));
+    QString pressed;
+    ButtonBar bar{*form, QStringLiteral("imgBtn"), kFaces, [this](int i) { pressed += QString::number(i); }};
+};
+
+TEST_F(ButtonBarTest, ButtonsHaveNamesCaptionsTipsAndACommand) {
+    ASSERT_EQ(bar.count(), 3);
+    EXPECT_EQ(bar[1].objectName(), QStringLiteral("imgBtn(1)"));
+    EXPECT_EQ(bar[1].caption(), QStringLiteral("Foto"));
+    EXPECT_EQ(bar[1].accessibleName(), QStringLiteral("Zobrazí foto"));
+    EXPECT_EQ(bar[2].toolTip(), QStringLiteral("Konec"));
+    form->showForm();
+    bar.placeRow({0, 0, 3000, 1000});
+    for (const int i : {2, 0}) QTest::mouseClick(&bar[i], Qt::LeftButton);
+    EXPECT_EQ(pressed, QStringLiteral("20"));
+}
+
+TEST_F(ButtonBarTest, AFaceFillsSixtyPercentOfItsSquareAndLeavesRoomForTheCaption) {
+    bar.placeRow({0, 0, 3000, 1200});
+    const QRect frame = bar[0].framePlace(), face = bar[0].facePlace();
+    EXPECT_EQ(frame.width(), frame.height());
+    EXPECT_NEAR(double(face.width()) * face.height() / (double(frame.width()) * frame.height()), .6, .01);
+    EXPECT_EQ(frame.center().x(), bar[0].twips().width() / 2 - 1);
+    EXPECT_LE(frame.bottom(), 1200 - 400);
+}
+
+TEST_F(ButtonBarTest, ShownButtonsShareTheRowAndTabReadsThem) {
+    bar[1].hide();
+    bar.placeRow({600, 300, 3000, 1000});
+    EXPECT_EQ(bar[0].twips(), QRect(600, 300, 1500, 1000));
+    EXPECT_EQ(bar[2].twips(), QRect(2100, 300, 1500, 1000));
+    bar[0].place({600, 2000, 1000, 1000});
+    bar[1].place({0, 2000, 500, 1000});
+    EXPECT_EQ(bar.stops(), (std::vector<TwipWidget*>{&bar[2], &bar[1], &bar[0]}));
+}
+
+}  // namespace
+}  // namespace sarne
