@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStringList>
 
 namespace sarne {
 namespace {
@@ -21,6 +22,24 @@ QString findEntry(const QString& folder, const QString& part) {
         if (folded(entry) == wanted) return folder + u'/' + entry;
     }
     return {};
+}
+
+/// Media endings, by kind: the first is the one that the program asks for, the others say what else a disc
+/// may hold in its place.
+const QStringList kMediaEndings[] = {
+    {QStringLiteral(".bmp"), QStringLiteral(".jpg"), QStringLiteral(".png"), QStringLiteral(".webp")},
+    {QStringLiteral(".wav"), QStringLiteral(".ogg"), QStringLiteral(".opus"), QStringLiteral(".flac")},
+    {QStringLiteral(".avi"), QStringLiteral(".mkv"), QStringLiteral(".webm"), QStringLiteral(".mp4")}};
+
+/// The names under which \a name may stand instead; none where it is no medium.
+QStringList otherNames(const QString& name) {
+    QStringList names;
+    for (const QStringList& endings : kMediaEndings) {
+        if (!name.endsWith(endings.first(), Qt::CaseInsensitive)) continue;
+        const QString stem = name.chopped(endings.first().size());
+        for (const QString& ending : endings.sliced(1)) names << stem + ending;
+    }
+    return names;
 }
 
 bool hasDrive(const QString& path) {
@@ -52,6 +71,14 @@ QString LogicalPaths::mapFolder(const QString& folder) {
 }
 
 QString LogicalPaths::resolve(const QString& logical) const {
+    QString found = resolveName(logical);
+    if (!found.isEmpty()) return found;
+    for (const QString& other : otherNames(logical))
+        if (found = resolveName(other); !found.isEmpty()) return found;
+    return {};
+}
+
+QString LogicalPaths::resolveName(const QString& logical) const {
     QString rest;
     QString found = root(logical, rest);
     if (found.isEmpty()) return {};

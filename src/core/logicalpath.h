@@ -24,7 +24,9 @@ class LogicalPaths {
 
     /// The file or folder that \a logical names, as a native path. Each part is found whatever the case of
     /// its letters and whether its accents are composed or not; an exact match is preferred. Empty when there
-    /// is no such file, the drive letter is not mapped, or the path is empty.
+    /// is no such file, the drive letter is not mapped, or the path is empty. Where a picture (.bmp), a sound
+    /// (.wav) or a film (.avi) is not there, the same name with another ending of its kind will do: .jpg,
+    /// .png, .webp; .ogg, .opus, .flac; .mkv, .webm, .mp4, in this order.
     QString resolve(const QString& logical) const;
 
     /// A folder of this machine as a logical path ending in "\".
@@ -32,7 +34,7 @@ class LogicalPaths {
 
   private:
     QString root(const QString& logical, QString& rest) const;
-
+    QString resolveName(const QString& logical) const;
     QString driveFolder(QChar letter) const;
 
     std::function<Drives()> find_;

@@ -1,9 +1,9 @@
 #include "forms/musicduck.h"
 
-#include <QtEndian>
 #include <algorithm>
 
 #include "platform/multimediacontrol.h"
+#include "platform/soundlength.h"
 
 namespace sarne {
 namespace {
@@ -13,13 +13,6 @@ constexpr double kHeldBack = -10;
 constexpr double kDown = kHeldBack * kTick / 150;
 constexpr double kUp = -kHeldBack * kTick / 1000;
 
-qint64 lengthOfWav(const QByteArray& image) {
-    constexpr qsizetype header = 44, speed = 28;
-    if (image.size() <= header) return 0;
-    const auto bytesPerSecond = qFromLittleEndian<quint32>(image.constData() + speed);
-    return bytesPerSecond == 0 ? 0 : (image.size() - header) * 1000 / bytesPerSecond;
-}
-
 }  // namespace
 
 MusicDuck::MusicDuck(MultimediaControl& music) : music_(music), timer_(nullptr) {
@@ -28,7 +21,7 @@ MusicDuck::MusicDuck(MultimediaControl& music) : music_(music), timer_(nullptr) 
 }
 
 void MusicDuck::speaking(const QByteArray& wavImage) {
-    milliseconds_ = lengthOfWav(wavImage);
+    milliseconds_ = soundLength(wavImage);
     if (milliseconds_ > 0) timer_.setEnabled(true);
 }
 

@@ -13,8 +13,8 @@ class MusicDuck {
   public:
     explicit MusicDuck(MultimediaControl& music);
 
-    /// Holds it back for as long as \a wavImage, a whole WAV file, lasts from now on; what is no WAV changes
-    /// nothing.
+    /// Holds it back for as long as \a wavImage, a whole sound file, lasts from now on; what is no sound
+    /// changes nothing.
     void speaking(const QByteArray& wavImage);
     /// Lets the music sound as before at once.
     void release();

@@ -9,8 +9,8 @@ namespace sarne {
 class EffectPlayer {
   public:
     virtual ~EffectPlayer() = default;
-    /// Starts \a wavImage, a whole WAV file, and returns at once. The effect that was playing is cut off.
-    /// What is no WAV plays nothing; an empty image changes nothing.
+    /// Starts \a wavImage, a whole WAV, Ogg or FLAC file, and returns at once. The effect that was playing is
+    /// cut off. What is no sound plays nothing; an empty image changes nothing.
     virtual void play(const QByteArray& wavImage) = 0;
     /// Cuts off the effect that is playing.
     virtual void stop() = 0;

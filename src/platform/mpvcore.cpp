@@ -26,9 +26,9 @@ constexpr std::pair<const char*, const char*> playerOptions[] = {
     {"audio-file-auto", "no"},
     {"ordered-chapters", "no"},
     {"stop-screensaver", "no"},
-    // A text with a playlist's beginning is no video: only the two formats are tried.
+    // A text with a playlist's beginning is no video: only the formats of a disc are tried.
     {"demuxer", "lavf"},
-    {"demuxer-lavf-o", "format_whitelist=%7%wav,avi"},
+    {"demuxer-lavf-o", "format_whitelist=%29%wav,avi,ogg,flac,matroska,mp4"},
     {"idle", "yes"},
     {"pause", "yes"},
     {"keep-open", "yes"},

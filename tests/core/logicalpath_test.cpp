@@ -36,6 +36,29 @@ TEST_F(LogicalPathTest, FindsFilesWhateverTheirLettersAndAccents) {
     EXPECT_EQ(paths.resolve(QStringLiteral("e:\\hudba.wav")), disc.filePath(QStringLiteral("hudba.wav")));
 }
 
+TEST_F(LogicalPathTest, AMediumMayStandUnderAnotherEndingOfItsKind) {
+    const std::pair<const char*, std::vector<const char*>> kinds[] = {
+        {"r2.bmp", {"r2.webp", "r2.PNG", "r2.jpg"}},
+        {"Vina.WAV", {"vina.flac", "Vina.opus", "VINA.ogg"}},
+        {"UVOD.AVI", {"uvod.mp4", "Uvod.webm", "uvod.mkv"}}};
+    for (const auto& [wanted, standing] : kinds) {
+        const QString logical = QStringLiteral("E:\\") + QLatin1String(wanted);
+        // Each is found, and before those that stood there already.
+        for (const char* file : standing) {
+            const QString name = QString::fromLatin1(file);
+            touch(name);
+            EXPECT_EQ(paths.resolve(logical), disc.filePath(name)) << wanted;
+        }
+        touch(QLatin1String(wanted));
+        EXPECT_EQ(paths.resolve(logical), disc.filePath(QLatin1String(wanted)))
+            << "what is named comes first";
+    }
+    touch(QStringLiteral("r3.ogg"));
+    touch(QStringLiteral("Sarne.bak"));
+    for (const char* other : {"r3.bmp", "r3.avi", "Sarne.drc"})
+        EXPECT_EQ(paths.resolve(QStringLiteral("E:\\") + QLatin1String(other)), QString()) << other;
+}
+
 TEST_F(LogicalPathTest, WhatIsNotThereIsEmpty) {
     for (const char* path : {"E:\\chybi.wav", "F:\\hudba.wav", ":\\hudba.wav", "", "hudba.wav"})
         EXPECT_EQ(paths.resolve(QString::fromLatin1(path)), QString()) << path;

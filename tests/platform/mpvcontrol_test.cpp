@@ -183,12 +183,15 @@ TEST_F(MpvControlTest, CommandsWithoutAFileAreErrors) {
 
 TEST_F(MpvControlTest, ShowsFilmsOfTheDiscsCodecs) {
     const std::pair<const char*, const char*> codecs[] = {
-        {"cinepak", "rgb24"}, {"msvideo1", "rgb555le"}, {"mjpeg", "yuvj420p"}};
-    for (const auto& [codec, pixels] : codecs) {
-        const QString options = QStringLiteral("-c:v %1 -pix_fmt %2 -c:a pcm_s16le");
-        const QString file =
-            media.film(QStringLiteral("a.avi"), 1000,
-                       options.arg(QLatin1String(codec), QLatin1String(pixels)), QStringLiteral("160x120"));
+        {"avi", "-c:v cinepak -pix_fmt rgb24 -c:a pcm_s16le"},
+        {"avi", "-c:v msvideo1 -pix_fmt rgb555le -c:a pcm_s16le"},
+        {"avi", "-c:v mjpeg -pix_fmt yuvj420p -c:a pcm_s16le"},
+        {"mkv", "-c:v mpeg4 -c:a libopus -ar 48000"},
+        {"webm", "-c:v libvpx -c:a libopus -ar 48000"},
+        {"mp4", "-c:v libx264 -preset ultrafast -pix_fmt yuv420p -c:a aac"}};
+    for (const auto& [ending, codec] : codecs) {
+        const QString name = QStringLiteral("a.%1").arg(QLatin1String(ending));
+        const QString file = media.film(name, 1000, QLatin1String(codec), QStringLiteral("160x120"));
         ASSERT_FALSE(file.isEmpty()) << codec;
         frames = 0;
         codes.clear();

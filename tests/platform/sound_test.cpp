@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QFile>
+#include <algorithm>
 #include <cmath>
 
 #include "platform/beeper.h"
 #include "platform/effectplayer.h"
 #include "platform/mpvcontrol.h"
+#include "platform/soundlength.h"
 #include "soundserver.h"
 #include "testmedia.h"
 
@@ -19,7 +22,10 @@ class SoundTest : public testing::Test {
         if (!server.start()) GTEST_SKIP() << "no PulseAudio server could be started";
     }
     void playMusic(int milliseconds, MediaLoop loop) {
-        music.setFileName(media.write(QStringLiteral("hudba.wav"), sineWav(500, milliseconds)));
+        playMusic(media.write(QStringLiteral("hudba.wav"), sineWav(500, milliseconds)), loop);
+    }
+    void playMusic(const QString& file, MediaLoop loop) {
+        music.setFileName(file);
         music.setLoop(loop);
         music.command(u"open");
         ASSERT_EQ(music.error(), 0);
@@ -49,6 +55,31 @@ TEST_F(SoundTest, MusicLoopsWithoutAGapAndStops) {
     EXPECT_TRUE(server.waitForSilence());
     music.command(u"play");
     EXPECT_TRUE(server.waitForTone(500));
+}
+
+// A compressed track ends and begins at samples of its own choosing, which the player must know to leave out:
+// a round that were longer or shorter by them would shift the tone against itself. With Vorbis that happens,
+// by some milliseconds, which is why the music of a disc is not made so.
+TEST_F(SoundTest, CompressedMusicLoopsWithoutASeam) {
+    constexpr double kTone = 100;  // a shift of up to 5 ms can be told
+    const QString whole = media.write(QStringLiteral("cela.wav"), sineWav(kTone, 610));
+    for (const auto& [name, exact] :
+         {std::pair("hudba.opus", true), {"hudba.flac", true}, {"hudba.ogg", false}}) {
+        const QString file = media.path(QLatin1String(name));
+        ASSERT_TRUE(media.compress(whole, file));
+        double seam = 1000;
+        for (int attempt = 0; attempt < 3 && seam > 1; ++attempt) {
+            playMusic(file, MediaLoop::On);
+            runFor(3000);
+            const Recording sound = server.recorded();
+            EXPECT_GT(sound.lastSound() - sound.firstSound(), 2000) << name;
+            seam = std::max(sound.longestGap(), exact ? sound.longestShift(kTone) : 0);
+            music.command(u"close");
+            EXPECT_TRUE(server.waitForSilence());
+        }
+        EXPECT_LT(seam, 1.0) << name;
+        RecordProperty(std::string("seam_us_") + (name + 6), static_cast<int>(seam * 1000));
+    }
 }
 
 // Where the user of a player starts it again there is a gap: the measurement above would have seen one.
@@ -122,6 +153,23 @@ TEST_F(SoundTest, EffectsCutEachOtherOff) {
     runFor(600);
     const Recording beep = server.recorded();
     EXPECT_LT(beep.lastSound() - beep.firstSound(), 250) << "a beep is short";
+}
+
+TEST_F(SoundTest, CompressedEffectsSoundAndTellTheirLength) {
+    const QString whole = media.write(QStringLiteral("cely.wav"), sineWav(1000, 1600));
+    MixerEffectPlayer effects;
+    for (const char* name : {"cely.wav", "efekt.ogg", "efekt.opus", "efekt.flac"}) {
+        const QString file = media.path(QLatin1String(name));
+        ASSERT_TRUE(file == whole || media.compress(whole, file));
+        QFile sound(file);
+        ASSERT_TRUE(sound.open(QIODevice::ReadOnly));
+        const QByteArray image = sound.readAll();
+        EXPECT_NEAR(double(soundLength(image)), 1600, 10) << name;
+        EXPECT_EQ(soundLength(image.left(12)), 0) << name;
+        effects.play(image);
+        EXPECT_TRUE(server.waitForTone(1000)) << name;
+        EXPECT_TRUE(server.waitForSilence()) << name;
+    }
 }
 
 TEST_F(SoundTest, BrokenEffectsPlayNothing) {

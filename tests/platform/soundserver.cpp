@@ -57,6 +57,22 @@ double Recording::longestGap() const {
     return longest / perMs;
 }
 
+double Recording::longestShift(double hertz) const {
+    const std::vector<qint16> inner = part(firstSound(), lastSound()).samples_;
+    const std::size_t window = static_cast<std::size_t>(std::llround(2 * 44100 / hertz));
+    std::complex<double> first;
+    double longest = 0;
+    for (std::size_t start = 0; start + window <= inner.size(); start += window) {
+        std::complex<double> wave;
+        for (std::size_t i = start; i < start + window; ++i)
+            wave +=
+                std::polar<double>(inner[i], -2 * std::numbers::pi * hertz * static_cast<double>(i) / 44100);
+        if (start == 0) first = wave;
+        longest = std::max(longest, std::abs(std::arg(wave / first)));
+    }
+    return longest / (2 * std::numbers::pi * hertz) * 1000;
+}
+
 double Recording::share(double hertz) const {
     constexpr std::size_t window = 441;  // short, so that a stutter on a busy machine does not matter
     double tone = 0;

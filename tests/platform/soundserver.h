@@ -23,6 +23,9 @@ class Recording {
     double lastSound() const;
     /// The longest silence between the first and the last sound, in milliseconds.
     double longestGap() const;
+    /// By how much a lasting tone of \a hertz comes too early or too late, at most, against how it began, in
+    /// milliseconds; more than half a period cannot be told.
+    double longestShift(double hertz) const;
     /// How much of the sound is a tone of \a hertz, 0 to 1.
     double share(double hertz) const;
 

@@ -55,6 +55,11 @@ QString TestMedia::write(const QString& name, const QByteArray& content) const {
     return path(name);
 }
 
+bool TestMedia::compress(const QString& from, const QString& to) const {
+    return QProcess::execute(QStringLiteral("ffmpeg"), {QStringLiteral("-v"), QStringLiteral("error"),
+                                                        QStringLiteral("-i"), from, to}) == 0;
+}
+
 QString TestMedia::film(const QString& name, int milliseconds, const QString& options, const QString& size,
                         int rate) const {
     QProcess ffmpeg;

@@ -21,6 +21,8 @@ class TestMedia {
     /// cannot.
     QString film(const QString& name, int milliseconds, const QString& options,
                  const QString& size = QStringLiteral("320x240"), int rate = 25) const;
+    /// Has ffmpeg write the sound \a from as \a to, in the format that its name says; whether it could.
+    bool compress(const QString& from, const QString& to) const;
     QString path(const QString& name) const { return folder_.filePath(name); }
 
   private:
