@@ -21,6 +21,12 @@ ButtonBar::ButtonBar(Form& form, const QString& name, std::span<const BarFace> f
     }
 }
 
+std::optional<int> ButtonBar::indexOf(const TwipWidget* button) const {
+    const auto found = std::ranges::find(buttons_, button);
+    if (found == buttons_.end()) return {};
+    return static_cast<int>(found - buttons_.begin());
+}
+
 void ButtonBar::setFace(int index, const BarFace& face) {
     Button& button = (*this)[index];
     button.setFace(form_.resources().picture(face.picture.toString()));

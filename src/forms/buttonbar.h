@@ -33,6 +33,8 @@ class ButtonBar {
               const std::function<void(int)>& command);
 
     Button& operator[](int index) const { return *buttons_[static_cast<size_t>(index)]; }
+    /// The index of \a button; nothing when it is none of the bar's.
+    std::optional<int> indexOf(const TwipWidget* button) const;
     int count() const { return static_cast<int>(buttons_.size()); }
     /// Gives button \a index another face.
     void setFace(int index, const BarFace& face);

@@ -28,9 +28,9 @@ std::optional<int> nearest(const std::vector<QRect>& places, int from, Direction
         const bool backwards = direction == Direction::Left || direction == Direction::Up;
         const int along = (sideways ? way.x() : way.y()) * (backwards ? -1 : 1);
         const int across = std::abs(sideways ? way.y() : way.x());
-        if (along <= 0 || places[static_cast<size_t>(i)].isEmpty()) continue;
+        if (along <= 0 || across > 2 * along || places[static_cast<size_t>(i)].isEmpty()) continue;
         // What lies straight ahead comes before what is nearer but off to the side.
-        const int distance = along + 3 * across;
+        const int distance = along + 2 * across;
         if (best && distance >= bestDistance) continue;
         best = i;
         bestDistance = distance;

@@ -14,8 +14,8 @@ enum class Direction { Left, Right, Up, Down };
 /// The usable place \a step (1 or -1) after \a from, going round at the ends. With no \a from it is the first
 /// one, or the last one for a step back. Nothing where none is usable.
 std::optional<int> nextPlace(const std::vector<bool>& usable, std::optional<int> from, int step);
-/// The place nearest to place \a from in \a direction; nothing when there is none further that way. Empty
-/// places do not count.
+/// The place nearest to place \a from in \a direction, sideways steps counting double; nothing when there is
+/// none that way: what lies aside more than twice as far as ahead is not. Empty places do not count.
 std::optional<int> nearest(const std::vector<QRect>& places, int from, Direction direction);
 /// The indices of \a places as people read them: row by row from the top, each from the left. Places belong
 /// to a row when they reach over the middle of its first one.

@@ -62,6 +62,12 @@ void FocusRing::step(int direction) {
     if (next) goTo(*entryOf(groups_[static_cast<size_t>(*next)]));
 }
 
+void FocusRing::tab(int direction) {
+    if (isUsable(last_) && last_->stepInside(direction)) return;
+    step(direction);
+    if (last_) last_->stepInside(direction);
+}
+
 bool FocusRing::stepWithin(int direction) {
     const auto at = groupAt();
     if (!at) return false;
@@ -104,10 +110,10 @@ bool FocusRing::keyDown(const QKeyEvent& event) {
     if (const auto direction = arrowDirection(event.key())) return arrow(*direction);
     switch (event.key()) {
         case Qt::Key_Tab:
-            step(1);
+            tab(1);
             return true;
         case Qt::Key_Backtab:
-            step(-1);
+            tab(-1);
             return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:

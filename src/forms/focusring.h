@@ -62,7 +62,7 @@ class FocusRing {
     bool press();
 
     /// Does what Tab, Shift+Tab, the arrows in use, Enter and Space do; false for any other key, for one that
-    /// finds nothing to press, and with Alt, Ctrl or Meta.
+    /// finds nothing to press, and with Alt, Ctrl or Meta. Tab also goes through the stops inside a stop.
     bool keyDown(const QKeyEvent& event);
 
     /// Gives the keyboard back to what had it last, or to the first stop that can take it.
@@ -77,6 +77,7 @@ class FocusRing {
     TwipWidget* entryOf(const FocusGroup& group) const;
     std::optional<int> groupAt() const;
     bool arrow(Direction direction);
+    void tab(int direction);
 
     Form& form_;
     basSarne& app_;

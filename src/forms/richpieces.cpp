@@ -60,10 +60,8 @@ bool RichPieces::setHovered(std::optional<int> link) {
     return std::exchange(hovered_, link) != link;
 }
 
-bool RichPieces::focusNext(Direction direction) {
-    const int step = direction == Direction::Forward ? 1 : -1;
-    const int start = direction == Direction::Forward ? 0 : linkCount_ - 1;
-    focused_ = focused_ ? *focused_ + step : start;
+bool RichPieces::focusNext(int direction) {
+    focused_ = focused_ ? *focused_ + direction : direction > 0 ? 0 : linkCount_ - 1;
     if (!piece(focused_)) focused_.reset();
     return focused_.has_value();
 }

@@ -12,8 +12,6 @@ namespace sarne {
 /// at. Knows no widget. Phrases are numbered through all the texts; lengths are twips of the surface.
 class RichPieces {
   public:
-    enum class Direction { Backward, Forward };
-
     void clear();
     /// Adds a text and returns its number.
     int add(RtfLayout layout);
@@ -33,7 +31,7 @@ class RichPieces {
     std::optional<int> hovered() const { return hovered_; }
     /// Moves on to the next phrase; without one begins at the first or the last. False, with no phrase
     /// focused, behind the last.
-    bool focusNext(Direction direction);
+    bool focusNext(int direction);
     /// Focuses a phrase, or none.
     void focus(std::optional<int> link) { focused_ = link; }
     std::optional<int> focused() const { return focused_; }

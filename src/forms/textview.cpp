@@ -83,7 +83,7 @@ QString TextView::drawnText() const {
     return printed.isEmpty() || rich.isEmpty() ? printed + rich : printed + u'\n' + rich;
 }
 
-bool TextView::focusNextLink(Direction direction) {
+bool TextView::stepInside(int direction) {
     const bool found = pieces_.focusNext(direction);
     focusLink(pieces_.focused());
     return found;

@@ -17,7 +17,6 @@ class TextView : public PictureBox {
     Q_OBJECT
   public:
     static constexpr int kArrowRoom = 540;  ///< twips right of the view that the arrows take
-    using Direction = RichPieces::Direction;
 
     TextView(Form& form, const QString& name);
     ~TextView() override;
@@ -39,9 +38,8 @@ class TextView : public PictureBox {
 
     /// Scrolling by keys and arrows goes line by line of this height (twips).
     const RichPieces& pieces() const { return pieces_; }
-    /// Focuses the next link phrase and brings it into sight. False when there is none any more: the turn of
-    /// the next control.
-    bool focusNextLink(Direction direction);
+    /// The stops inside are the link phrases: focuses the next one and brings it into sight.
+    bool stepInside(int direction) override;
     void focusLink(std::optional<int> link);
     /// Handles the keys of a view that has the keyboard: arrows up and down, Page keys, Home, End, and Enter
     /// on a focused phrase. False for any other key and for one that changes nothing.

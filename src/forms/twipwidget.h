@@ -24,6 +24,10 @@ class TwipWidget : public QWidget {
     /// Where a twip of this widget lies in the widget, in pixels. For tests and input methods.
     QPoint toPixels(QPoint twips) const;
 
+    /// Where the widget has stops of its own for the keyboard, goes to the next one, \a direction 1 or -1,
+    /// or to the first that way. False when there is none any more: the turn of the next widget.
+    virtual bool stepInside(int /*direction*/) { return false; }
+
     /// Re-applies the place of this widget and of all within it.
     virtual void rescale();
 

@@ -41,6 +41,8 @@ TEST(FocusOrder, ArrowsGoToWhatLiesStraightAhead) {
     EXPECT_EQ(nearest(places, 0, Direction::Down), 4);
     EXPECT_EQ(nearest(places, 4, Direction::Up), 0);
     EXPECT_EQ(nearest(places, 0, Direction::Left), std::nullopt);
+    EXPECT_EQ(nearest({{0, 0, 10, 10}, {100, 40, 10, 10}}, 0, Direction::Down), std::nullopt)
+        << "aside, not below";
 }
 
 struct Screen : Form {

@@ -125,8 +125,8 @@ TEST_F(TextControls, LinkPhrasesArePointedAtClickedAndSteppedThrough) {
     EXPECT_FALSE(view.pieces().hovered());
 
     view.focusLink({});
-    ASSERT_TRUE(view.focusNextLink(TextView::Direction::Forward));
-    ASSERT_TRUE(view.focusNextLink(TextView::Direction::Forward));
+    ASSERT_TRUE(view.stepInside(1));
+    ASSERT_TRUE(view.stepInside(1));
     EXPECT_EQ(spoken.last().first().toString(), QStringLiteral("video s rybou"));
     const QRect seen(0, view.scrolled(), 6000, 900);
     EXPECT_TRUE(seen.contains(view.pieces().linkRect(1))) << "the focus scrolls into sight";
@@ -135,9 +135,9 @@ TEST_F(TextControls, LinkPhrasesArePointedAtClickedAndSteppedThrough) {
     EXPECT_GT(shot.pixelColor(5, shot.height() / 2).blue(), colors::kPaper.blue() + 10);
     EXPECT_TRUE(view.keyDown(QKeyEvent(QEvent::KeyPress, Qt::Key_Return, {})));
     EXPECT_EQ(opened.last(), (LinkKey{LinkKind::Video, 7}));
-    EXPECT_TRUE(view.focusNextLink(TextView::Direction::Forward));
-    EXPECT_FALSE(view.focusNextLink(TextView::Direction::Forward));
-    EXPECT_TRUE(view.focusNextLink(TextView::Direction::Backward));
+    EXPECT_TRUE(view.stepInside(1));
+    EXPECT_FALSE(view.stepInside(1));
+    EXPECT_TRUE(view.stepInside(-1));
     EXPECT_EQ(view.pieces().focused(), 2);
 }
 

@@ -39,7 +39,7 @@ void show(RichPieces& pieces, int texts) {
     QPainter painter(&paper);
     painter.scale(.1, .1);
     for (int text = 0; text < texts; ++text) pieces.paint(painter, kSeen, text);
-    for (const auto direction : {RichPieces::Direction::Forward, RichPieces::Direction::Backward}) {
+    for (const auto direction : {1, -1}) {
         for (int steps = 0; steps <= pieces.linkCount() && pieces.focusNext(direction); ++steps) {
             const auto link = pieces.focused();
             pieces.key(link);

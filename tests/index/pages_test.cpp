@@ -92,11 +92,7 @@ TEST_F(KeywordTest, TabGoesThroughThePhrasesAndTheBarInACircle) {
         const auto link = view().pieces().focused();
         stops << (link ? QString::number(*link) : run.window.focusWidget()->objectName().right(2).left(1));
     }
-    EXPECT_EQ(stops.join(u' '), u("0 1 2 0 1 2 3 4 x")) << "phrases, the five buttons, the text again";
-    for (int link = 2; link >= 0; --link) {
-        QTest::keyClick(run.window.focusWidget(), Qt::Key_Backtab);
-        EXPECT_EQ(view().pieces().focused(), link);
-    }
+    EXPECT_EQ(stops.join(u' '), u("0 1 2 0 1 2 3 4 0")) << "phrases, the five buttons, the phrases again";
     QTest::keyClick(run.window.focusWidget(), Qt::Key_Backtab);
     EXPECT_EQ(run.window.focusWidget(), child(*form, "imgBtnHlavni(4)"));
 }

@@ -23,14 +23,14 @@ TEST(ButtonTable, PositionsAreFixedAndAreasComeFromTheArt) {
 
 TEST(ButtonTable, ArrowsGoToTheNearestAndEveryButtonCanBeReached) {
     const auto table = buttonTable({});
-    EXPECT_EQ(nearestButton(table, 5, ArrowKey::Right), 8);
-    EXPECT_EQ(nearestButton(table, 0, ArrowKey::Up), 0) << "nothing further up";
-    EXPECT_EQ(nearestButton(table, -5, ArrowKey::Down), firstButton(table));
+    EXPECT_EQ(nearestButton(table, 5, Direction::Right), 8);
+    EXPECT_EQ(nearestButton(table, 0, Direction::Up), 0) << "nothing further up";
+    EXPECT_EQ(nearestButton(table, -5, Direction::Down), firstButton(table));
     std::set<int> reached{firstButton(table)}, before;
     while (before != reached) {
         before = reached;
         for (const int from : before) {
-            for (const auto direction : {ArrowKey::Left, ArrowKey::Right, ArrowKey::Up, ArrowKey::Down})
+            for (const auto direction : {Direction::Left, Direction::Right, Direction::Up, Direction::Down})
                 reached.insert(nearestButton(table, from, direction));
         }
     }

@@ -239,11 +239,7 @@ void frmSponzor::print() {
 
 bool frmSponzor::cardKey(const QKeyEvent& event) {
     if (!cardIsOpen()) return false;
-    if (!ring().isAt(&card_)) return card_.pageKey(event);
-    const bool forward = event.key() == Qt::Key_Tab;
-    if (forward || event.key() == Qt::Key_Backtab)
-        return card_.focusNextLink(forward ? TextView::Direction::Forward : TextView::Direction::Backward);
-    return card_.keyDown(event);
+    return ring().isAt(&card_) ? card_.keyDown(event) : card_.pageKey(event);
 }
 
 bool frmSponzor::keyDown(QKeyEvent& event) {

@@ -55,10 +55,6 @@ void TextForm::print() {
 }
 
 bool TextForm::keyDown(QKeyEvent& event) {
-    const bool forward = event.key() == Qt::Key_Tab;
-    if ((forward || event.key() == Qt::Key_Backtab) && ring().isAt(&view_) &&
-        view_.focusNextLink(forward ? TextView::Direction::Forward : TextView::Direction::Backward))
-        return true;
     const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     // Enter is the focused button's; all other keys of the view scroll it from wherever the keyboard is.
     if ((ring().isAt(&view_) || !enter) && view_.keyDown(event)) return true;

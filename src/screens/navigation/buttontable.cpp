@@ -2,7 +2,6 @@
 
 #include <QStringList>
 #include <algorithm>
-#include <limits>
 #include <vector>
 
 namespace sarne {
@@ -26,14 +25,10 @@ std::vector<int> numbers(const QString& line) {
     return found;
 }
 
-/// How far \a there lies from \a here in \a direction, sideways steps counting double; negative when it lies
-/// elsewhere.
-int reach(QPoint here, QPoint there, ArrowKey direction) {
-    QPoint way = there - here;
-    if (direction == ArrowKey::Left || direction == ArrowKey::Up) way = -way;
-    const bool across = direction == ArrowKey::Left || direction == ArrowKey::Right;
-    const int along = across ? way.x() : way.y(), aside = std::abs(across ? way.y() : way.x());
-    return along > 0 && aside <= 2 * along ? along + 2 * aside : -1;
+std::vector<QRect> hotAreas(const ButtonTable& table) {
+    std::vector<QRect> areas;
+    for (size_t i = 0; i < kPlacedButtons; ++i) areas.push_back(table[i].hotArea);
+    return areas;
 }
 
 }  // namespace
@@ -54,38 +49,20 @@ ButtonTable buttonTable(const QString& text) {
 }
 
 std::vector<int> readingOrder(const ButtonTable& table) {
-    constexpr int kRow = 1500;
-    std::vector<int> order;
-    for (int i = 0; i < kButtonCount; ++i) {
-        if (table[size_t(i)].isShown()) order.push_back(i);
-    }
-    std::ranges::sort(order, {}, [&](int i) {
-        const QPoint middle = table[size_t(i)].hotArea.center();
-        return std::tuple(middle.y() / kRow, middle.x(), i);
-    });
-    return order;
+    return readingOrder(hotAreas(table));
 }
 
-int nearestButton(const ButtonTable& table, int from, ArrowKey direction) {
-    if (from < 0 || from >= kButtonCount) return firstButton(table);
-    const QPoint here = table[size_t(from)].hotArea.center();
-    int best = from, bestReach = std::numeric_limits<int>::max();
-    for (int i = 0; i < kButtonCount; ++i) {
-        if (i == from || !table[size_t(i)].isShown()) continue;
-        const int distance = reach(here, table[size_t(i)].hotArea.center(), direction);
-        if (distance < 0 || distance >= bestReach) continue;
-        best = i;
-        bestReach = distance;
-    }
-    return best;
+int nearestButton(const ButtonTable& table, int from, Direction direction) {
+    if (from < 0 || from >= kPlacedButtons) return firstButton(table);
+    return nearest(hotAreas(table), from, direction).value_or(from);
 }
 
 int buttonInReadingOrder(const ButtonTable& table, int from, int step) {
     const auto order = readingOrder(table);
-    const auto at = std::ranges::find(order, from);
-    if (at == order.end()) return step > 0 ? order.front() : order.back();
-    const auto count = static_cast<int>(order.size());
-    return order[size_t((int(at - order.begin()) + step % count + count) % count)];
+    const auto found = std::ranges::find(order, from);
+    std::optional<int> at;
+    if (found != order.end()) at = static_cast<int>(found - order.begin());
+    return order[size_t(nextPlace(std::vector(order.size(), true), at, step).value_or(0))];
 }
 
 int firstButton(const ButtonTable& table) {

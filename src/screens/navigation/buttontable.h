@@ -5,6 +5,8 @@
 #include <array>
 #include <vector>
 
+#include "forms/focusorder.h"
+
 namespace sarne {
 
 inline constexpr int kButtonCount = 21;
@@ -27,14 +29,12 @@ using ButtonTable = std::array<ButtonPlace, kButtonCount>;
 /// no place.
 ButtonTable buttonTable(const QString& text);
 
-enum class ArrowKey { Left, Right, Up, Down };
-
 /// The button nearest to \a from in \a direction; \a from itself when there is none further that way.
-int nearestButton(const ButtonTable& table, int from, ArrowKey direction);
+int nearestButton(const ButtonTable& table, int from, Direction direction);
 /// The buttons that have a place, from the upper left to the lower right, in rows as people read them.
 std::vector<int> readingOrder(const ButtonTable& table);
-/// The button \a step places after \a from in reading order, going round at the ends; the first one, or for a
-/// step back the last one, when \a from is no button.
+/// The button before (-1) or behind (1) \a from in reading order, going round at the ends; the first one, or
+/// for a step back the last one, when \a from is no button.
 int buttonInReadingOrder(const ButtonTable& table, int from, int step);
 int firstButton(const ButtonTable& table);
 int lastButton(const ButtonTable& table);

@@ -243,19 +243,11 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
     const bool leaves = event.key() == Qt::Key_X || event.key() == Qt::Key_F4;
     if (leaves && (event.modifiers() & Qt::AltModifier)) return true;
     const int here = keyboardButton();
+    if (const auto direction = arrowDirection(event.key())) {
+        moveTo(nearestButton(table_, here, *direction));
+        return true;
+    }
     switch (event.key()) {
-        case Qt::Key_Left:
-            moveTo(nearestButton(table_, here, ArrowKey::Left));
-            return true;
-        case Qt::Key_Right:
-            moveTo(nearestButton(table_, here, ArrowKey::Right));
-            return true;
-        case Qt::Key_Up:
-            moveTo(nearestButton(table_, here, ArrowKey::Up));
-            return true;
-        case Qt::Key_Down:
-            moveTo(nearestButton(table_, here, ArrowKey::Down));
-            return true;
         case Qt::Key_Tab:
             moveTo(buttonInReadingOrder(table_, here, 1));
             return true;

@@ -1,6 +1,9 @@
 #include "screens/recipe/frmrecept.h"
 
+#include <QClipboard>
 #include <QFile>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "db/database.h"
@@ -21,11 +24,22 @@ namespace {
 /// Points. Titles have the first size; a smaller one is for those that the header does not hold otherwise.
 constexpr double kTitleSizes[] = {20, 16, 13};
 
+constexpr BarFace kBar[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
+enum BarButton { kPrint, kHelp, kBack, kEnd, kMusicSettings };
+
+std::vector<BarFace> sectionFaces() {
+    std::vector<BarFace> faces;
+    for (const SectionKind& kind : sectionKinds()) faces.push_back(kind.face);
+    return faces;
+}
+
 }  // namespace
 
 frmRecept::frmRecept(basSarne& run, Serving& lookedAt, AskNumber ask)
     : Form(run, QStringLiteral("frmRecept")),
       title_(new Label(*this, QStringLiteral("lblNazev"))),
+      imgBtn(*this, QStringLiteral("imgBtn"), sectionFaces(), [this](int index) { openSection(index); }),
+      imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int index) { barClick(index); }),
       view_(new TextView(*this, QStringLiteral("picRecept"))),
       picture_(new PictureBox(*this, QStringLiteral("picVedle"))),
       duck_(run.music()) {
@@ -36,58 +50,38 @@ frmRecept::frmRecept(basSarne& run, Serving& lookedAt, AskNumber ask)
     title_->setColor(colors::kTitle);
     makeView();
     makeSections(lookedAt, std::move(ask));
-    makeBar();
+    imgBtnHlavni.placeRow(recipelayout::kBar);
+    ring().setGroups(stops());
 }
 
 void frmRecept::makeView() {
     view_->place(recipelayout::kView);
     view_->setArrowPictures(app().resources().picture(QStringLiteral("SipkaNahoru")),
                             app().resources().picture(QStringLiteral("SipkaDolu")));
-    connect(view_, &TextView::linkActivated, this, [this](LinkKey key) {
-        rememberFocus();
-        followLink(app(), key);
-    });
+    connect(view_, &TextView::linkActivated, this, [this](LinkKey key) { followLink(app(), key); });
     connect(view_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });
-    connect(view_, &Control::clicked, this, [this] {
-        rememberFocus();
-        current().viewClicked();
-    });
+    connect(view_, &Control::clicked, this, [this] { current().viewClicked(); });
     picture_->place(recipelayout::kBesideView);
     picture_->setAttribute(Qt::WA_TransparentForMouseEvents);
     picture_->hide();
 }
 
-Button& frmRecept::makeButton(const QString& name, const QRect& place, const char* picture,
-                              const QString& tip) {
-    const Resources& pictures = app().resources();
-    auto* button = new Button(*this, name);
-    const Picture face = pictures.picture(QString::fromLatin1(picture));
-    button->place(place);
-    button->setFace(face);
-    if (face.isNull()) button->setCaption(tip.left(1));
-    button->setTip(tip);
-    button->setFrame(Button::Frame::Raised);
-    return *button;
-}
-
 void frmRecept::makeSections(Serving& lookedAt, AskNumber ask) {
-    const SectionRoom room{
-        *this,   app(),    *view_,         *picture_,
-        recipe_, lookedAt, std::move(ask), [this] { sectionButtons_[size_t(section_)]->setFocus(); }};
+    const SectionRoom room{*this,   app(),    *view_,         *picture_,
+                           recipe_, lookedAt, std::move(ask), [this] { imgBtn[section_].setFocus(); }};
     for (const SectionKind& kind : sectionKinds()) {
-        makeSectionButton(static_cast<int>(sections_.size()), kind.title(), kind.picture);
+        placeSection(static_cast<int>(sections_.size()));
         sections_.push_back(kind.make(room));
     }
 }
 
-void frmRecept::makeSectionButton(int index, const QString& title, const char* picture) {
-    Button& button =
-        makeButton(QStringLiteral("imgBtn(%1)").arg(index), recipelayout::section(index), picture, title);
-    connect(&button, &Button::clicked, this, [this, index] { openSection(index); });
-    sectionButtons_.push_back(&button);
+void frmRecept::placeSection(int index) {
+    Button& button = imgBtn[index];
+    button.setCaptionPlace(Button::CaptionPlace::Over);
+    button.place(recipelayout::section(index));
     auto* name = new Label(*this, QStringLiteral("lblIkona(%1)").arg(index));
     name->place(recipelayout::sectionName(index));
-    name->setText(title);
+    name->setText(button.toolTip());
     name->setFont({QStringLiteral("Arial"), 11, true});
     name->setColor(colors::kTitle);
     name->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -95,24 +89,6 @@ void frmRecept::makeSectionButton(int index, const QString& title, const char* p
     name->setClickable(true);
     name->setCursor(Qt::PointingHandCursor);
     connect(name, &Label::clicked, &button, &Button::click);
-}
-
-void frmRecept::makeBar() {
-    static constexpr struct {
-        const char* picture;
-        const char* tip;
-    } kButtons[] = {{"Tisk", "Tisk receptu"},
-                    {"Help", "Nápověda"},
-                    {"Zpet", "Zpět"},
-                    {"Konec", "Konec"},
-                    {"Hudba", "Nastavení hudby a zvuků"}};
-    for (int index = 0; index < recipelayout::kBarCount; ++index) {
-        Button& button =
-            makeButton(QStringLiteral("imgBtnHlavni(%1)").arg(index), recipelayout::barButton(index),
-                       kButtons[index].picture, QString::fromUtf8(kButtons[index].tip));
-        connect(&button, &Button::clicked, this, [this, index] { barClick(Bar(index)); });
-        bar_.push_back(&button);
-    }
 }
 
 void frmRecept::Zobraz(std::int16_t id) {
@@ -170,7 +146,7 @@ void frmRecept::openSection(int section) {
 void frmRecept::showSection() {
     for (size_t index = 0; index < sections_.size(); ++index) {
         const bool shown = index == size_t(section_);
-        sectionButtons_[index]->setFrame(shown ? Button::Frame::Pressed : Button::Frame::Raised);
+        imgBtn[static_cast<int>(index)].setLatched(shown);
         sections_[index]->setVisible(shown);
     }
     picture_->hide();
@@ -178,7 +154,7 @@ void frmRecept::showSection() {
     view_->setVisible(true);
     view_->setAccessibleName(sectionKinds()[size_t(section_)].title());
     view_->place(current().viewPlace());
-    sectionButtons_[size_t(section_)]->setFocus();
+    imgBtn[section_].setFocus();
     current().draw();
     update();
 }
@@ -201,26 +177,11 @@ void frmRecept::unload() {
 
 void frmRecept::restored() {
     app().keepAwake(QStringLiteral("Na obrazovce je recept"));
-    if (lastFocus_ && lastFocus_->isVisible() && lastFocus_->isEnabled()) return lastFocus_->setFocus();
-    sectionButtons_[size_t(section_)]->setFocus();
-}
-
-void frmRecept::gotFocus() {
-    app().BringTopToFront(name());
-}
-
-void frmRecept::rememberFocus() {
-    lastFocus_ = focusWidget();
+    Form::restored();
 }
 
 void frmRecept::help() {
-    rememberFocus();
     app().screens().showPage(QStringLiteral("300"));
-}
-
-void frmRecept::musicSettings() {
-    rememberFocus();
-    app().screens().showMusicSettings();
 }
 
 void frmRecept::keepUnsaved() {
@@ -231,28 +192,22 @@ bool frmRecept::readyToEnd() {
     return current().readyToEnd();
 }
 
-void frmRecept::endProgram() {
-    rememberFocus();
-    app().ConfirmExit();
-}
-
 void frmRecept::print() {
     current().beforePrint();
-    rememberFocus();
     app().screens().printRecipes({recipe_.id}, recipe_.serving());
 }
 
-void frmRecept::barClick(Bar button) {
+void frmRecept::barClick(int button) {
     switch (button) {
-        case Bar::Print:
+        case kPrint:
             return print();
-        case Bar::Help:
+        case kHelp:
             return help();
-        case Bar::Back:
+        case kBack:
             return Skryj();
-        case Bar::End:
+        case kEnd:
             return endProgram();
-        case Bar::Music:
+        case kMusicSettings:
             return musicSettings();
     }
 }
@@ -260,6 +215,65 @@ void frmRecept::barClick(Bar button) {
 QString frmRecept::collectedText() {
     return sarne::collectedText(app().Db(), recipe_.row, recipe_.id, recipe_.units,
                                 recipe_.portions.quantities(app().Locale));
+}
+
+/// Tab stops at the section buttons, at what belongs to the section, at the bar. Within each the arrows move.
+std::vector<FocusGroup> frmRecept::stops() const {
+    std::vector<FocusGroup> stops{FocusGroup(imgBtn.stops(), &imgBtn[section_])};
+    const std::vector<FocusGroup> own = current().stops();
+    stops.insert(stops.end(), own.begin(), own.end());
+    const bool toRead = view_->pieces().linkCount() > 0 || view_->scrollRange() > 0;
+    if (toRead || current().opensView()) stops.emplace_back(std::array{view_});
+    stops.emplace_back(imgBtnHlavni.stops());
+    return stops;
+}
+
+bool frmRecept::keyDown(QKeyEvent& event) {
+    if (event.matches(QKeySequence::Copy)) {
+        QGuiApplication::clipboard()->setText(collectedText());
+        return true;
+    }
+    if (viewKey(event)) return true;
+    ring().setGroups(stops());
+    const auto direction = arrowDirection(event.key());
+    if (direction) arrow(*direction);
+    const bool used = direction || Form::keyDown(event);
+    if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) sayNothingHere();
+    return used;
+}
+
+/// The Page keys scroll the text from wherever the keyboard is.
+bool frmRecept::viewKey(const QKeyEvent& event) {
+    if (!ring().isAt(view_)) return view_->pageKey(event);
+    if (view_->keyDown(event)) return true;
+    const bool press =
+        event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
+    if (press && !event.isAutoRepeat()) view_->click();
+    return press;
+}
+
+void frmRecept::arrow(Direction direction) {
+    const bool sideways = direction == Direction::Left || direction == Direction::Right;
+    const int way = direction == Direction::Right || direction == Direction::Down ? 1 : -1;
+    if (!sideways && ring().isAt(view_)) return;  // the text is at its end
+    if (sideways && imgBtnHlavni.indexOf(ring().current()))
+        ring().stepWithin(way);
+    else if (!current().step(sideways, way))
+        stepSections(way);
+}
+
+void frmRecept::stepSections(int direction) {
+    if (imgBtn.indexOf(ring().current()))
+        ring().stepWithin(direction);
+    else
+        ring().goTo(imgBtn[section_]);
+    sayNothingHere();
+}
+
+void frmRecept::sayNothingHere() {
+    const auto at = imgBtn.indexOf(ring().current());
+    const QString nothing = at ? sections_[size_t(*at)]->nothingHere() : QString();
+    if (!nothing.isEmpty()) app().HookMessage(nothing);
 }
 
 void frmRecept::paint(QPainter& painter) {
@@ -274,7 +288,8 @@ void frmRecept::paint(QPainter& painter) {
     painter.fillRect(QRectF(all.left(), header.bottom() - 30, all.width(), 30), colors::kCopper);
     painter.setPen(QPen(colors::kCopper, 30));
     painter.setBrush(shadow);
-    painter.drawRoundedRect(recipelayout::kSections, 120, 120);
+    for (const QRect& ground : {recipelayout::kSections, recipelayout::kBarGround})
+        painter.drawRoundedRect(ground, 120, 120);
     QColor lit = colors::kCopper;
     lit.setAlpha(70);
     painter.fillRect(recipelayout::sectionRow(section_), lit);

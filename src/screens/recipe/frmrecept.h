@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QPointer>
 #include <memory>
 #include <vector>
 
-#include "forms/button.h"
+#include "forms/buttonbar.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/musicduck.h"
@@ -36,27 +35,19 @@ class frmRecept : public Form {
 
     void goBack() override { Skryj(); }
     bool readyToEnd() override;
-    void endProgram() override;
     void help() override;
-    void musicSettings() override;
     void restored() override;
     void unload() override;
     void keepUnsaved() override;
 
   protected:
     bool keyDown(QKeyEvent& event) override;
-    void gotFocus() override;
     void paint(QPainter& painter) override;
 
   private:
-    enum class Bar { Print, Help, Back, End, Music };
-    using Buttons = std::vector<Button*>;
-
     void makeView();
     void makeSections(Serving& lookedAt, AskNumber ask);
-    void makeSectionButton(int index, const QString& title, const char* picture);
-    void makeBar();
-    Button& makeButton(const QString& name, const QRect& place, const char* picture, const QString& tip);
+    void placeSection(int index);
 
     void loadRecipe(std::int16_t id);
     void showTitle();
@@ -64,21 +55,15 @@ class frmRecept : public Form {
     RecipeSection& current() const { return *sections_[size_t(section_)]; }
     void openSection(int section);
     void showSection();
-    void barClick(Bar button);
+    void barClick(int button);
     void print();
-    /// Remembers where the keyboard is, for the time when the screen is on top again.
-    void rememberFocus();
 
     // Keyboard
-    bool arrowKey(int key);
-    bool enterKey(QKeyEvent& event);
+    std::vector<FocusGroup> stops() const;
+    bool viewKey(const QKeyEvent& event);
+    void arrow(Direction direction);
     void stepSections(int direction);
-    void stepBar(int direction);
-    void tab(int direction);
-    void announceNothing(const RecipeSection& section);
-    std::vector<Control*> tabStops() const;
-    Control* tabStopOf(Control* control) const;
-    Control* focusedControl() const;
+    void sayNothingHere();
 
     ShownRecipe recipe_;
     std::vector<std::unique_ptr<RecipeSection>> sections_;
@@ -86,10 +71,9 @@ class frmRecept : public Form {
     Room ground_;
 
     Label* title_;
-    Buttons sectionButtons_, bar_;
+    ButtonBar imgBtn, imgBtnHlavni;
     TextView* view_;
     PictureBox* picture_;
-    QPointer<QWidget> lastFocus_;
     MusicDuck duck_;
 };
 

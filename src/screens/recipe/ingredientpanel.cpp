@@ -77,10 +77,6 @@ std::vector<Control*> IngredientPanel::pictures() const {
     return all;
 }
 
-bool IngredientPanel::owns(const Control* control) const {
-    return control == toggle_ || std::ranges::find(cutlery_, control) != cutlery_.end();
-}
-
 void IngredientPanel::draw() {
     const ShownRecipe& recipe = room_.recipe;
     room_.lookedAt = recipe.serving();
@@ -188,11 +184,10 @@ void IngredientPanel::unitToggle() {
                                                        : QStringLiteral("Přepočteno na lžíce"));
 }
 
-bool IngredientPanel::step(const Control* /*focused*/, bool sideways, int direction) {
+bool IngredientPanel::step(bool sideways, int direction) {
     if (!sideways) return false;
     const int position = position_.step(direction);
-    pictures()[size_t(position / kCutleryStep - 1)]->setFocus(Qt::TabFocusReason);
-    room_.app.HookMessage(PanelPosition::hint(position, room_.recipe.units));
+    room_.form.ring().goTo(*pictures()[size_t(position / kCutleryStep - 1)]);
     return true;
 }
 

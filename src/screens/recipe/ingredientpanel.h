@@ -17,10 +17,9 @@ class IngredientPanel : public RecipeSection {
     QRect viewPlace() const override { return recipelayout::kListView; }
     /// Draws the list, from the database.
     void draw() override;
-    std::vector<Control*> stops() const override { return {cutlery_.front()}; }
-    bool owns(const Control* control) const override;
+    std::vector<FocusGroup> stops() const override { return {FocusGroup(pictures())}; }
     /// Steps sideways to the next picture and says what it does.
-    bool step(const Control* focused, bool sideways, int direction) override;
+    bool step(bool sideways, int direction) override;
 
   private:
     Button& addButton(const QString& name, const QRect& place);

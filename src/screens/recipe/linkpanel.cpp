@@ -118,24 +118,20 @@ void LinkPanel::optionClick(int index) {
     draw();
 }
 
-bool LinkPanel::step(const Control* focused, bool /*sideways*/, int direction) {
-    const auto from = std::ranges::find(options_, focused);
+bool LinkPanel::step(bool /*sideways*/, int direction) {
+    FocusRing& ring = room_.form.ring();
+    const auto from = std::ranges::find(options_, ring.current());
     if (from == options_.end()) return false;
     const auto count = static_cast<int>(options_.size());
     const int at = (static_cast<int>(from - options_.begin()) + direction + count) % count;
     showRow(at / kOptionColumns);
-    options_[size_t(at)]->setFocus(Qt::TabFocusReason);
-    room_.app.HookMessage(links_[size_t(at)].title);
+    ring.goTo(*options_[size_t(at)]);
     return true;
 }
 
-std::vector<Control*> LinkPanel::stops() const {
+std::vector<FocusGroup> LinkPanel::stops() const {
     if (options_.empty()) return {};
-    return {options_[size_t(chosen_)]};
-}
-
-bool LinkPanel::owns(const Control* control) const {
-    return std::ranges::find(options_, control) != options_.end();
+    return {FocusGroup(options_, options_[size_t(chosen_)])};
 }
 
 }  // namespace sarne

@@ -22,9 +22,8 @@ class LinkPanel : public RecipeSection {
     QRect viewPlace() const override;
     /// Draws the text of the chosen link, or says that there is none.
     void draw() override;
-    std::vector<Control*> stops() const override;
-    bool owns(const Control* control) const override;
-    bool step(const Control* focused, bool sideways, int direction) override;
+    std::vector<FocusGroup> stops() const override;
+    bool step(bool sideways, int direction) override;
     QString nothingHere() const override;
 
   private:

@@ -18,7 +18,8 @@ NotePanel::NotePanel(const SectionRoom& room)
       note_(room_.recipe.row, room_.app.notes()),
       editor_(new NoteEdit(room.form, QStringLiteral("RtfPozn"))) {
     editor_->place(recipelayout::kNote);
-    editor_->editor().setAccessibleName(QStringLiteral("Vlastní poznámka k receptu"));
+    for (QWidget* named : {static_cast<QWidget*>(editor_), static_cast<QWidget*>(&editor_->editor())})
+        named->setAccessibleName(QStringLiteral("Vlastní poznámka k receptu"));
     editor_->setFont({QStringLiteral("Times New Roman"), 13});
     QObject::connect(editor_, &NoteEdit::edited, &room.form, [this] { note_.changed(); });
     const QString captions[] = {QStringLiteral("Uložit a zavřít"), QStringLiteral("Zavřít bez uložení")};
@@ -47,13 +48,9 @@ void NotePanel::draw() {
     editor_->focusAtEnd();
 }
 
-std::vector<Control*> NotePanel::stops() const {
-    if (!note_.isOpen()) return {};
-    return {editor_, buttons_[0], buttons_[1]};
-}
-
-bool NotePanel::owns(const Control* control) const {
-    return control == editor_ || control == buttons_[0] || control == buttons_[1];
+std::vector<FocusGroup> NotePanel::stops() const {
+    return {FocusGroup(std::array{editor_}), FocusGroup(std::array{buttons_[0]}),
+            FocusGroup(std::array{buttons_[1]})};
 }
 
 void NotePanel::close(OwnNote::Close how) {

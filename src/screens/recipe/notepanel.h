@@ -18,8 +18,7 @@ class NotePanel : public RecipeSection {
     void setVisible(bool visible) override;
     /// Opens the note and gives the editor the keyboard.
     void draw() override;
-    std::vector<Control*> stops() const override;
-    bool owns(const Control* control) const override;
+    std::vector<FocusGroup> stops() const override;
     bool leave() override;
     /// The screen cannot wait for an answer: a note about which there is none is stored.
     void abandon() override;

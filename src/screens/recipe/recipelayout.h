@@ -8,10 +8,9 @@ namespace sarne::recipelayout {
 inline constexpr QRect kHeader{0, 0, 12000, 1230};
 inline constexpr QRect kTitle{420, 75, 11160, 1080};
 inline constexpr QRect kSections{120, 1350, 2340, 7500};  ///< the ground of the section buttons
-inline constexpr QRect kPaper{2580, 1350, 9300, 6630};    ///< the ground of the section that is shown
+inline constexpr QRect kPaper{2580, 1350, 9300, 6510};    ///< the ground of the section that is shown
 
 inline constexpr int kSectionCount = 8;
-inline constexpr int kBarCount = 5;
 constexpr QRect section(int index) {
     return {210, 1410 + index * 930, 840, 840};
 }
@@ -23,15 +22,14 @@ constexpr QRect sectionRow(int index) {
 }
 static_assert(sectionRow(kSectionCount - 1).bottom() <= kSections.bottom(),
               "more sections than fit below each other");
-constexpr QRect barButton(int index) {
-    return {7530 + index * 880, 8100, 790, 750};
-}
+inline constexpr QRect kBarGround{5100, 7935, 6780, 915};
+inline constexpr QRect kBar{5220, 7950, 6540, 885};
 
-inline constexpr QRect kView{2880, 1590, 8400, 6150};  ///< the drawing surface
-inline constexpr QRect kPhotoView{2820, 1590, 8820, 6150};
-inline constexpr QRect kHalfView{2880, 1590, 4200, 6150};  ///< the drawing surface with a picture beside it
+inline constexpr QRect kView{2880, 1590, 8400, 6060};  ///< the drawing surface
+inline constexpr QRect kPhotoView{2820, 1590, 8820, 6060};
+inline constexpr QRect kHalfView{2880, 1590, 4200, 6060};  ///< the drawing surface with a picture beside it
 inline constexpr QRect kBesideView{7380, 1890, 4200, 5400};
-inline constexpr QRect kListView{2880, 2520, 8400, 5220};  ///< below the cutlery
+inline constexpr QRect kListView{2880, 2520, 8400, 5130};  ///< below the cutlery
 constexpr QRect cutlery(int position) {
     return {2880 + position * 870, 1530, 780, 780};
 }
@@ -51,12 +49,12 @@ constexpr QRect optionArrow(int index) {
 /// The drawing surface below \a rows rows of options.
 constexpr QRect linkView(int rows) {
     const int top = 1590 + rows * kOptionHeight + 120;
-    return {2880, top, 8400, 7740 - top};
+    return {2880, top, 8400, kView.bottom() + 1 - top};
 }
 
-inline constexpr QRect kNote{2880, 1590, 8700, 5430};
+inline constexpr QRect kNote{2880, 1590, 8700, 5340};
 constexpr QRect noteButton(int index) {
-    return {2880 + index * 3060, 7170, 2880, 570};
+    return {2880 + index * 3060, 7080, 2880, 570};
 }
 
 }  // namespace sarne::recipelayout

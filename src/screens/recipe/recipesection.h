@@ -57,12 +57,10 @@ class RecipeSection {
     /// Draws on the drawing surface, which is clear.
     virtual void draw() = 0;
 
-    /// Where Tab stops among the section's own controls. The first stands for those that only arrows reach.
-    virtual std::vector<Control*> stops() const { return {}; }
-    virtual bool owns(const Control* /*control*/) const { return false; }
-    /// An arrow key, forwards (1) or backwards (-1), while \a focused has the keyboard. True when the section
-    /// has used it.
-    virtual bool step(const Control* /*focused*/, bool /*sideways*/, int /*direction*/) { return false; }
+    /// Where Tab stops among the section's own controls.
+    virtual std::vector<FocusGroup> stops() const { return {}; }
+    /// An arrow key, forwards (1) or backwards (-1). True when the section has used it.
+    virtual bool step(bool /*sideways*/, int /*direction*/) { return false; }
     /// What is said to those who come to the section by keyboard when there is nothing in it.
     virtual QString nothingHere() const { return {}; }
 

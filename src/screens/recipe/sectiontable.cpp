@@ -23,14 +23,14 @@ Made introduction(const SectionRoom& room) {
     return std::make_unique<TextSection>(room, TextSection::Fields{"Uvod", "Prezentace", "Poznamka"});
 }
 
-constexpr SectionKind kSections[] = {{"Foto", "Foto", make<PhotoSection>},
-                                     {"Recept", "Recept", method},
-                                     {"Úvod", "Uvod", introduction},
-                                     {"Odkazy", "Odkazy", make<LinkPanel>},
-                                     {"Víno", "Vino", make<WineSection>},
-                                     {"Suroviny", "Suroviny", make<IngredientPanel>},
-                                     {"Pomůcky", "Pomucky", make<ToolSection>},
-                                     {"Vlastní poznámka", "Vlastni", make<NotePanel>}};
+constexpr SectionKind kSections[] = {{{u"Foto", {}, u"Foto"}, make<PhotoSection>},
+                                     {{u"Recept", {}, u"Recept"}, method},
+                                     {{u"Uvod", {}, u"Úvod"}, introduction},
+                                     {{u"Odkazy", {}, u"Odkazy"}, make<LinkPanel>},
+                                     {{u"Vino", {}, u"Víno"}, make<WineSection>},
+                                     {{u"Suroviny", {}, u"Suroviny"}, make<IngredientPanel>},
+                                     {{u"Pomucky", {}, u"Pomůcky"}, make<ToolSection>},
+                                     {{u"Vlastni", {}, u"Vlastní poznámka"}, make<NotePanel>}};
 static_assert(std::size(kSections) == recipelayout::kSectionCount, "a section without a place");
 
 }  // namespace

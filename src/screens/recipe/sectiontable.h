@@ -3,17 +3,17 @@
 #include <memory>
 #include <span>
 
+#include "forms/buttonbar.h"
 #include "screens/recipe/recipesection.h"
 
 namespace sarne {
 
 /// The sections of a recipe, in the order of their buttons. Another one is a class and a row.
 struct SectionKind {
-    const char* name;     ///< what it is called, on its button and for those who hear it
-    const char* picture;  ///< of its button
+    BarFace face;  ///< of its button; the tip is what the section is called
     std::unique_ptr<RecipeSection> (*make)(const SectionRoom& room);
 
-    QString title() const { return QString::fromUtf8(name); }
+    QString title() const { return face.tip.toString(); }
 };
 
 std::span<const SectionKind> sectionKinds();
