@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cmath>
@@ -274,13 +276,14 @@ TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
                       folder.filePath(QStringLiteral("disc")),
                       folder.filePath(QStringLiteral("scratch")),
                       ledger,
-                      problems};
+                      problems,
+                      DiscKind::Compact};
         makeSounds(shop);
     };
     run();
     ASSERT_EQ(problems.errors(), QStringList());
-    const QString music = folder.filePath(QStringLiteral("disc/HUDBA.WAV"));
-    const QString wine = folder.filePath(QStringLiteral("disc/zvuky/Vina.WAV"));
+    const QString music = folder.filePath(QStringLiteral("scratch/disk/HUDBA.WAV"));
+    const QString wine = folder.filePath(QStringLiteral("scratch/disk/zvuky/Vina.WAV"));
     for (const auto& [file, shortest, longest] : {std::tuple{music, 60, 120}, std::tuple{wine, 30, 60}}) {
         const Sound sound = readWav(file);
         EXPECT_GE(sound.seconds(), shortest);
@@ -290,10 +293,25 @@ TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
         expectSeamless(sound);
     }
     EXPECT_EQ(readWav(folder.filePath(QStringLiteral("scratch/zvuky/121.wav"))).channels, 1);
-    const Sound one = readWav(folder.filePath(QStringLiteral("disc/zvuky/č1.wav")));
-    const Sound other = readWav(folder.filePath(QStringLiteral("disc/zvuky/č16.wav")));
+    const Sound one = readWav(folder.filePath(QStringLiteral("scratch/disk/zvuky/č1.wav")));
+    const Sound other = readWav(folder.filePath(QStringLiteral("scratch/disk/zvuky/č16.wav")));
     EXPECT_GT(one.seconds(), 0.7);
     EXPECT_GT(other.seconds(), one.seconds());
+
+    // What goes on the compact disc lasts as long as what it was made of.
+    const std::pair<const char*, double> packed[] = {{"HUDBA.opus", readWav(music).seconds()},
+                                                     {"zvuky/Vina.opus", readWav(wine).seconds()},
+                                                     {"zvuky/č1.ogg", one.seconds()},
+                                                     {"zvuky/č16.ogg", other.seconds()}};
+    for (const auto& [name, seconds] : packed) {
+        const QString wave = folder.filePath(QStringLiteral("zpět.wav"));
+        QFile::remove(wave);
+        QProcess::execute(QStringLiteral("ffmpeg"),
+                          {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"),
+                           folder.filePath(QStringLiteral("disc/") + QString::fromUtf8(name)), wave});
+        EXPECT_NEAR(readWav(wave).seconds(), seconds, 0.001) << name;
+        EXPECT_GT(peakOf(readWav(wave)), 0.1) << name;
+    }
 
     const QDateTime made = QFileInfo(music).lastModified();
     run();

@@ -148,7 +148,7 @@ class MakeVideos : public testing::Test {
         ASSERT_TRUE(out.open(QIODevice::WriteOnly) && out.write(text.c_str()) > 0);
     }
 
-    QStringList run() {
+    QStringList run(DiscKind kind = DiscKind::Full) {
         Problems problems;
         Ledger ledger(folder_.filePath(QStringLiteral("ledger")));
         Workshop shop{book_,
@@ -158,7 +158,8 @@ class MakeVideos : public testing::Test {
                       folder_.filePath(QStringLiteral("disc")),
                       folder_.filePath(QStringLiteral("scratch")),
                       ledger,
-                      problems};
+                      problems,
+                      kind};
         makeVideos(shop);
         return problems.errors();
     }
@@ -203,6 +204,18 @@ TEST_F(MakeVideos, HavePictureAndSoundAndAreMadeOnce) {
     const QDateTime made = QFileInfo(film()).lastModified();
     ASSERT_EQ(run(), QStringList());
     EXPECT_EQ(QFileInfo(film()).lastModified(), made);
+}
+
+TEST_F(MakeVideos, OfTheCompactDiscAreThere) {
+    ASSERT_EQ(run(DiscKind::Compact), QStringList());
+    const QString streams =
+        output(QStringLiteral("ffprobe"),
+               {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-count_frames"),
+                QStringLiteral("-show_entries"), QStringLiteral("stream=codec_name,nb_read_frames"),
+                QStringLiteral("-of"), QStringLiteral("csv=p=0"),
+                folder_.filePath(QStringLiteral("disc/VIDEO/UVOD.mkv"))});
+    EXPECT_TRUE(streams.startsWith(QStringLiteral("h264,170\nopus,"))) << streams.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(film()));
 }
 
 TEST_F(MakeVideos, WhatIsWrongWithAScriptIsReportedAndMakesNothing) {

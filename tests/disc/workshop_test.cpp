@@ -137,5 +137,21 @@ TEST_F(PhotosTest, AreOfTheRecipesOwnDish) {
     EXPECT_LT(colour("disc/foto/sit0.bmp", 6).red(), 120);
 }
 
+TEST_F(PhotosTest, OfTheCompactDiscAreAsFineAsTheirSource) {
+    shop_.kind = DiscKind::Compact;
+    makePhotos(shop_);
+    ASSERT_EQ(problems_.errors().join(u'\n').toStdString(), "");
+    QFile source(path("art/rendered/dishes/06.jpg"));
+    QFile made(path("disc/foto/Recepty/r6.jpg"));
+    ASSERT_TRUE(source.open(QIODevice::ReadOnly) && made.open(QIODevice::ReadOnly));
+    EXPECT_EQ(source.readAll(), made.readAll()) << "compressed once, not twice";
+    EXPECT_EQ(QImage(path("disc/foto/Velke/r8.jpg")).size(), QSize(1600, 1200));
+    EXPECT_EQ(QImage(path("disc/foto/Male/r6.jpg")).size(), QSize(640, 480));
+    EXPECT_GT(colour("disc/foto/sitCela.jpg", 6).red(), 230);
+    EXPECT_LT(colour("disc/foto/sit0.jpg", 6).red(), 120);
+    const QStringList bitmaps = QDir(path("disc/foto/Male")).entryList({QStringLiteral("*.bmp")});
+    EXPECT_TRUE(bitmaps.isEmpty());
+}
+
 }  // namespace
 }  // namespace sarne::disc

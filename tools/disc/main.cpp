@@ -25,6 +25,7 @@ constexpr qint64 kDiscLimit = 650'000'000;
 struct Options {
     QString content, art, out, rcc;
     Edition edition;
+    DiscKind kind;
 };
 
 Options parse(const QCoreApplication& app) {
@@ -34,21 +35,28 @@ Options parse(const QCoreApplication& app) {
     parser.addHelpOption();
     const QString here = QDir::currentPath();
     const QString libexec = QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath);
-    parser.addOptions({{QStringLiteral("content"), QStringLiteral("složka s texty"), QStringLiteral("dir"),
-                        here + QStringLiteral("/content")},
-                       {QStringLiteral("art"), QStringLiteral("složka s obrazovými předlohami"),
-                        QStringLiteral("dir"), here + QStringLiteral("/art")},
-                       {QStringLiteral("out"), QStringLiteral("složka, kam se má stavět"),
-                        QStringLiteral("dir"), here + QStringLiteral("/disc-out")},
-                       {QStringLiteral("rcc"), QStringLiteral("překladač zdrojů Qt"), QStringLiteral("file"),
-                        libexec + QStringLiteral("/rcc")},
-                       {QStringLiteral("vydani"), QStringLiteral("k vydání: co není hotové, je chyba")}});
+    parser.addOptions(
+        {{QStringLiteral("content"), QStringLiteral("složka s texty"), QStringLiteral("dir"),
+          here + QStringLiteral("/content")},
+         {QStringLiteral("art"), QStringLiteral("složka s obrazovými předlohami"), QStringLiteral("dir"),
+          here + QStringLiteral("/art")},
+         {QStringLiteral("out"), QStringLiteral("složka, kam se má stavět"), QStringLiteral("dir"),
+          here + QStringLiteral("/disc-out")},
+         {QStringLiteral("rcc"), QStringLiteral("překladač zdrojů Qt"), QStringLiteral("file"),
+          libexec + QStringLiteral("/rcc")},
+         {QStringLiteral("vydani"), QStringLiteral("k vydání: co není hotové, je chyba")},
+         {QStringLiteral("kompaktni"),
+          QStringLiteral("disk desetinové velikosti: JPEG, Opus a H.264 místo BMP, WAV a AVI")}});
     parser.process(app);
     const auto folder = [&](const char* name) {
         return QFileInfo(parser.value(QLatin1String(name))).absoluteFilePath();
     };
-    return {folder("content"), folder("art"), folder("out"), parser.value(QStringLiteral("rcc")),
-            parser.isSet(QStringLiteral("vydani")) ? Edition::release : Edition::draft};
+    return {folder("content"),
+            folder("art"),
+            folder("out"),
+            parser.value(QStringLiteral("rcc")),
+            parser.isSet(QStringLiteral("vydani")) ? Edition::release : Edition::draft,
+            parser.isSet(QStringLiteral("kompaktni")) ? DiscKind::Compact : DiscKind::Full};
 }
 
 int report(const Problems& problems) {
@@ -84,7 +92,8 @@ int main(int argc, char** argv) {
                   options.out + QStringLiteral("/disc"),
                   options.out + QStringLiteral("/scratch"),
                   ledger,
-                  problems};
+                  problems,
+                  options.kind};
     if (!problems.hasErrors()) makeDatabase(shop, folder);
     if (problems.hasErrors()) return report(problems);
     makePhotos(shop);

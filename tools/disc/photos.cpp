@@ -45,8 +45,20 @@ QImage calmGround(const QImage& picture) {
     return ground;
 }
 
-bool saveBitmap(const QImage& picture, const QString& file) {
-    return !picture.isNull() && picture.convertToFormat(QImage::Format_RGB32).save(file, "BMP");
+/// As a bitmap or a JPEG, as \a file ends.
+bool savePicture(const QImage& picture, const QString& file) {
+    constexpr int kQuality = 90;
+    return !picture.isNull() && picture.convertToFormat(QImage::Format_RGB32).save(file, nullptr, kQuality);
+}
+
+/// All that a photo from the file \a source shows, as a JPEG; the source itself where it is one of this
+/// shape.
+bool saveFinest(const QImage& photo, const QString& source, const QString& file) {
+    const QSize size = kScreenSize.scaled(photo.size().boundedTo(kFinestSize), Qt::KeepAspectRatio);
+    if (photo.size() != size || !source.endsWith(QLatin1String(".jpg")))
+        return savePicture(fitted(photo, size), file);
+    QFile::remove(file);
+    return QFile::copy(source, file);
 }
 
 /// A second name for a file, without its bytes twice where the file system can.
@@ -95,42 +107,45 @@ struct Dish {
     int id = 0;
     QString name;
     QString source;
+    QString ending;
 
-    QString file(const char* folder, const char* ending = "bmp") const {
-        return disc + QStringLiteral("/foto/%1/r%2.%3")
-                          .arg(QLatin1String(folder))
-                          .arg(id)
-                          .arg(QLatin1String(ending));
+    QString file(const char* folder) const { return file(folder, ending); }
+    QString file(const char* folder, const QString& suffix) const {
+        return disc + QStringLiteral("/foto/%1/r%2.%3").arg(QLatin1String(folder)).arg(id).arg(suffix);
     }
+    bool isBitmap() const { return ending == u"bmp"; }
 
     QSize sourceSize() const { return source.isEmpty() ? QSize() : QImageReader(source).size(); }
 
     /// A photo that shows more than the bitmaps lies beside them with all its pixels, for large displays.
-    bool isFine() const {
-        return sourceSize().width() > kScreenSize.width() && sourceSize().height() > kScreenSize.height();
+    bool hasFiner() const {
+        return isBitmap() && sourceSize().width() > kScreenSize.width() &&
+               sourceSize().height() > kScreenSize.height();
     }
 
-    bool makeFiner(const QImage& photo) const {
-        if (!isFine()) return true;
-        QFile::remove(file("Recepty", "jpg"));
-        const bool asItIs = photo.size() == kFinestSize && source.endsWith(QLatin1String(".jpg"));
-        const QSize most = photo.size().boundedTo(kFinestSize);
-        const QSize size = kScreenSize.scaled(most, Qt::KeepAspectRatio);
-        return (asItIs ? QFile::copy(source, file("Recepty", "jpg"))
-                       : fitted(photo, size).save(file("Recepty", "jpg"), "JPG", 88)) &&
-               link(file("Recepty", "jpg"), file("Velke", "jpg"));
+    bool makeFinest(const QImage& photo) const {
+        const QString jpg = QStringLiteral("jpg");
+        return saveFinest(photo, source, file("Recepty", jpg)) &&
+               link(file("Recepty", jpg), file("Velke", jpg));
+    }
+
+    bool makeBitmap(const QImage& photo) const {
+        return savePicture(fitted(photo, kScreenSize), file("Recepty")) &&
+               link(file("Recepty"), file("Velke"));
     }
 
     bool make() const {
         const QImage photo = source.isEmpty() ? plainPlate(name) : QImage(source);
-        return !photo.isNull() && saveBitmap(fitted(photo, kScreenSize), file("Recepty")) &&
-               link(file("Recepty"), file("Velke")) && saveBitmap(fitted(photo, kSmallSize), file("Male")) &&
-               saveBitmap(calmGround(photo), file("Podklad")) && makeFiner(photo);
+        return !photo.isNull() && (!isBitmap() || makeBitmap(photo)) &&
+               ((isBitmap() && !hasFiner()) || makeFinest(photo)) &&
+               savePicture(fitted(photo, kSmallSize), file("Male")) &&
+               savePicture(calmGround(photo), file("Podklad"));
     }
 
     Task task() const {
         QStringList outputs{file("Recepty"), file("Velke"), file("Male"), file("Podklad")};
-        if (isFine()) outputs << file("Recepty", "jpg") << file("Velke", "jpg");
+        if (hasFiner())
+            outputs << file("Recepty", QStringLiteral("jpg")) << file("Velke", QStringLiteral("jpg"));
         return {outputs, originOf({source}, stamp::photos() + name), [*this] { return make(); }};
     }
 };
@@ -165,9 +180,9 @@ QList<Task> gridTasks(Workshop& shop, const QList<Dish>& dishes) {
     QList<Task> tasks;
     for (int i = -1; i < courses().size(); ++i) {
         const QString name = i < 0 ? QStringLiteral("sitCela") : QStringLiteral("sit%1").arg(i);
-        const QString file = shop.disc + QStringLiteral("/foto/%1.bmp").arg(name);
+        const QString file = shop.disc + QStringLiteral("/foto/%1.%2").arg(name, shop.pictureEnding());
         tasks << Task{{file}, originOf({ground}, details), [=] {
-                          return saveBitmap(composite(ground, dishes, courses().value(i)), file);
+                          return savePicture(composite(ground, dishes, courses().value(i)), file);
                       }};
     }
     return tasks;
@@ -176,10 +191,10 @@ QList<Task> gridTasks(Workshop& shop, const QList<Dish>& dishes) {
 /// One picture of the disc from one file of the art.
 Task pictureTask(Workshop& shop, const QString& source, const QString& target, const QSize& size) {
     const QString from = shop.neededPicture(source);
-    const QString to = shop.disc + u'/' + target;
+    const QString to = shop.disc + u'/' + target + u'.' + shop.pictureEnding();
     return {{to}, originOf({from}, stamp::photos()), [=] {
                 const QImage picture(from);
-                return !picture.isNull() && saveBitmap(fitted(picture, size), to);
+                return !picture.isNull() && savePicture(fitted(picture, size), to);
             }};
 }
 
@@ -190,7 +205,7 @@ QList<Dish> allDishes(Workshop& shop) {
         const auto recipe = shop.book.recipes.constFind(id);
         const bool isThere = recipe != shop.book.recipes.cend();
         dishes << Dish{shop.disc, id, isThere ? recipe->name : QString(),
-                       isThere ? photoOf(shop, *recipe) : QString()};
+                       isThere ? photoOf(shop, *recipe) : QString(), shop.pictureEnding()};
     }
     return dishes;
 }
@@ -201,11 +216,11 @@ void makePhotos(Workshop& shop) {
     const QList<Dish> dishes = allDishes(shop);
     QList<Task> tasks;
     for (const Dish& dish : dishes) tasks << dish.task();
-    tasks << pictureTask(shop, QStringLiteral("rendered/prvky/vino256"), QStringLiteral("foto/vino256.bmp"),
+    tasks << pictureTask(shop, QStringLiteral("rendered/prvky/vino256"), QStringLiteral("foto/vino256"),
                          {400, 300});
     for (const GalleryPicture& picture : shop.book.gallery)
         tasks << pictureTask(shop, QStringLiteral("rendered/sponzor/%1").arg(picture.id),
-                             QStringLiteral("foto/sponzor/%1.bmp").arg(picture.id), kScreenSize);
+                             QStringLiteral("foto/sponzor/%1").arg(picture.id), kScreenSize);
     if (shop.makeAll(tasks)) shop.makeAll(gridTasks(shop, dishes));
 }
 

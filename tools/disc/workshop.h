@@ -43,6 +43,11 @@ struct Task {
     std::function<bool()> make;
 };
 
+/// The two discs that can be made of the same source: one with the files that the program asks for by name,
+/// which any player or viewer of its day opens (BMP, WAV, AVI), and one a tenth of that size, with JPEG,
+/// Opus, Vorbis and H.264 in their place.
+enum class DiscKind { Full, Compact };
+
 /// Where the stages of the disc take from and put to.
 struct Workshop {
     const Cookbook& book;
@@ -55,6 +60,16 @@ struct Workshop {
     QString scratch;
     Ledger& ledger;
     Problems& problems;
+    DiscKind kind = DiscKind::Full;
+
+    /// The one of two names, or folders, that this disc calls for.
+    QString either(const QString& full, const QString& compact) const {
+        return kind == DiscKind::Full ? full : compact;
+    }
+    /// How pictures of this disc end.
+    QString pictureEnding() const { return either(QStringLiteral("bmp"), QStringLiteral("jpg")); }
+    /// Where the music and the names are made as WAV: on the full disc, which plays them so, else on the way.
+    QString waves() const { return either(disc, scratch + QStringLiteral("/disk")); }
 
     /// The picture of the art that \a stem names ("rendered/pozadi/sit"): a JPEG or PNG, letter case aside.
     /// Where there is none, the path that it should have.

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 
 #include "../stamps.h"
 #include "music.h"
@@ -11,6 +12,8 @@ namespace sarne::disc {
 namespace {
 
 const QString kEffects = QStringLiteral("zvuky/efekty.txt");
+const QString kMusic = QStringLiteral("HUDBA.WAV");
+const QString kWineMusic = QStringLiteral("zvuky/Vina.WAV");
 /// Music stays in the background of the effects and the voice.
 constexpr double kMusicPeak = -10;
 constexpr int kFirstButton = 101;
@@ -55,7 +58,7 @@ void renderEffects(Workshop& shop, const QList<Effect>& effects) {
 
 void makeMusic(Workshop& shop, const QList<Effect>& effects, const QString& source, const QString& output) {
     const ContentFolder folder(shop.content, shop.problems);
-    const QString file = shop.disc + u'/' + output;
+    const QString file = shop.waves() + u'/' + output;
     const QString origin = originOf({inContent(shop, source), inContent(shop, kEffects)}, stamp::sounds());
     if (shop.ledger.isCurrent(file, origin)) return;
     const Score score = readScore(folder.read(source), shop.problems);
@@ -71,8 +74,12 @@ QString recordingOf(const Workshop& shop, const Recipe& recipe) {
     return text.path() + u'/' + text.completeBaseName() + QStringLiteral(".wav");
 }
 
+QString nameFile(const Recipe& recipe) {
+    return QStringLiteral("zvuky/č%1.wav").arg(recipe.id);
+}
+
 Task nameTask(Workshop& shop, const Voices& voices, const Recipe& recipe) {
-    const QString file = shop.disc + QStringLiteral("/zvuky/č%1.wav").arg(recipe.id);
+    const QString file = shop.waves() + u'/' + nameFile(recipe);
     const QString recording = recordingOf(shop, recipe);
     const QStringList sources = Voices::sources(shop.content) << recording;
     return {{file}, originOf(sources, stamp::sounds() + recipe.name), [=, &shop, &voices, &recipe] {
@@ -92,6 +99,37 @@ void makeNames(Workshop& shop) {
     shop.makeAll(tasks);
 }
 
+/// The compact disc's sound \a output ("zvuky/č1.ogg"), made of the WAV of the same name.
+Task compressed(const Workshop& shop, const QString& wave, const QString& ending,
+                const QStringList& options) {
+    const QString from = shop.waves() + u'/' + wave;
+    const QString to = shop.disc + u'/' + wave.chopped(3) + ending;
+    return {{to}, originOf({from}, stamp::sounds()), [=] {
+                const QStringList sound{QStringLiteral("-nostdin"), QStringLiteral("-v"),
+                                        QStringLiteral("error"),    QStringLiteral("-y"),
+                                        QStringLiteral("-i"),       from};
+                return QProcess::execute(
+                           QStringLiteral("ffmpeg"),
+                           sound + options +
+                               QStringList{QStringLiteral("-fflags"), QStringLiteral("+bitexact"), to}) == 0;
+            }};
+}
+
+/// Music that loops is no Vorbis, which players cut by some milliseconds at a round's end; the player of the
+/// effects plays names best as Vorbis.
+void compress(Workshop& shop) {
+    const QStringList music{QStringLiteral("-c:a"), QStringLiteral("libopus"), QStringLiteral("-b:a"),
+                            QStringLiteral("128k")};
+    const QStringList speech{QStringLiteral("-c:a"), QStringLiteral("libvorbis"), QStringLiteral("-q:a"),
+                             QStringLiteral("5")};
+    QList<Task> tasks;
+    for (const QString& track : {kMusic, kWineMusic})
+        tasks << compressed(shop, track, QStringLiteral("opus"), music);
+    for (const Recipe& recipe : shop.book.recipes)
+        tasks << compressed(shop, nameFile(recipe), QStringLiteral("ogg"), speech);
+    shop.makeAll(tasks);
+}
+
 }  // namespace
 
 void makeEffects(Workshop& shop) {
@@ -102,9 +140,10 @@ void makeSounds(Workshop& shop) {
     const QList<Effect> effects = readCheckedEffects(shop);
     if (shop.problems.hasErrors()) return;
     renderEffects(shop, effects);
-    makeMusic(shop, effects, QStringLiteral("zvuky/hudba.txt"), QStringLiteral("HUDBA.WAV"));
-    makeMusic(shop, effects, QStringLiteral("zvuky/vina.txt"), QStringLiteral("zvuky/Vina.WAV"));
+    makeMusic(shop, effects, QStringLiteral("zvuky/hudba.txt"), kMusic);
+    makeMusic(shop, effects, QStringLiteral("zvuky/vina.txt"), kWineMusic);
     makeNames(shop);
+    if (shop.kind == DiscKind::Compact && !shop.problems.hasErrors()) compress(shop);
 }
 
 }  // namespace sarne::disc

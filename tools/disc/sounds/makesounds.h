@@ -6,7 +6,7 @@ namespace sarne::disc {
 
 /// Makes everything that sounds: the effects as scratch/zvuky/N.wav (they go into the program's resources; N
 /// is the resource's number: 1 and up, 101 to 121 for the main screen's buttons), the music disc/HUDBA.WAV
-/// and disc/zvuky/Vina.WAV, and the spoken names disc/zvuky/čN.wav
+/// and disc/zvuky/Vina.WAV, and the spoken names disc/zvuky/čN.wav, as .opus and .ogg on the compact disc
 /// (a recording beside a recipe's text, "33-candat.wav" for "33-candat.txt", is taken instead). Their sources
 /// are content/zvuky/*.txt.
 void makeSounds(Workshop& shop);

@@ -9,8 +9,8 @@ namespace sarne::disc {
 
 constexpr int kFramesPerSecond = 20;
 
-/// Writes the film as an AVI with its sound, through ffmpeg. False when that fails; \a file is then as it
-/// was.
+/// Writes the film with its sound, through ffmpeg, as an AVI or, where \a file ends so, a Matroska file
+/// (.mkv). False when that fails; \a file is then as it was.
 bool encodeFilm(const Film& film, const QImage& ground, const Sound& sound, const QString& file,
                 const QString& scratch);
 

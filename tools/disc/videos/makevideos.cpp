@@ -29,10 +29,11 @@ struct Source {
 };
 
 QList<Source> sources(const Workshop& shop) {
-    QList<Source> all{{QStringLiteral("videa/uvod.txt"), {}, shop.disc + QStringLiteral("/VIDEO/UVOD.AVI")}};
+    const QString file =
+        shop.disc + QStringLiteral("/VIDEO/%1.") + shop.either(QStringLiteral("AVI"), QStringLiteral("mkv"));
+    QList<Source> all{{QStringLiteral("videa/uvod.txt"), {}, file.arg(QStringLiteral("UVOD"))}};
     for (const Video& video : shop.book.videos)
-        all << Source{QStringLiteral("videa/%1.txt").arg(video.number), video.title,
-                      shop.disc + QStringLiteral("/VIDEO/%1.AVI").arg(video.number)};
+        all << Source{QStringLiteral("videa/%1.txt").arg(video.number), video.title, file.arg(video.number)};
     return all;
 }
 
@@ -71,7 +72,7 @@ QList<Job> staleJobs(Workshop& shop, const ContentFolder& folder) {
 bool make(Job& job, const QList<Effect>& effects, const Voices& voices, const Workshop& shop) {
     QList<FilmFault> faults;
     const Sound sound =
-        makeSoundtrack(job.film, effects, shop.disc + QStringLiteral("/HUDBA.WAV"), voices, faults);
+        makeSoundtrack(job.film, effects, shop.waves() + QStringLiteral("/HUDBA.WAV"), voices, faults);
     for (const FilmFault& fault : faults) shop.problems.error(fault.place, fault.text);
     if (!faults.isEmpty()) return false;
     const QImage ground = drawScene(job.film.scene, shop.art);
