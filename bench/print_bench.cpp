@@ -113,8 +113,7 @@ class WatchedProgress final : public PrintProgress {
     WatchedProgress() { timer_.start(); }
     void recipeStarted(const QString&) override {}
     void status(const QString&) override {}
-    void sectionDone() override {}
-    void pageDone(int, int) override {}
+    void progressed(double) override {}
     void recipeDone() override {}
     bool goOn() override {
         longestGap = std::max(longestGap, double(timer_.nsecsElapsed()) / 1e6);

@@ -6,6 +6,7 @@
 #include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/decimalentry.h"
 #include "forms/messagebox.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
@@ -39,6 +40,7 @@ frmDialog::frmDialog(basSarne& sarne, const QString& prompt, Asks asks)
     Label1.moveTo({kMargin, kMargin});
     Text1.setAccessibleName(prompt);
     Text1.setFont(kEntryFont);
+    if (asks == Asks::Number) takeDecimalComma(Text1);
 
     const int entryTop = kMargin + Label1.twips().height() + kMargin / 2;
     Text1.place({kMargin, entryTop, kPromptWidth, kEntryHeight});

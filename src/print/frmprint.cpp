@@ -1,9 +1,11 @@
 #include "print/frmprint.h"
 
 #include <QFontMetricsF>
+#include <algorithm>
 
 #include "core/value.h"
 #include "db/database.h"
+#include "db/notestore.h"
 #include "forms/bassarne.h"
 #include "forms/messagebox.h"
 #include "forms/resources.h"
@@ -17,6 +19,7 @@ namespace sarne {
 namespace {
 
 constexpr int kUsualPortions = 4;
+constexpr double kFewestPortions = 1, kMostPortions = 99;
 constexpr int kYieldInterval = 20;  // milliseconds between two looks at what the user does
 
 const QString kKeepAwake = QStringLiteral("Tisk");
@@ -57,6 +60,8 @@ void frmPrint::ZobrazTexty(std::vector<TitledText> texts) {
 void frmPrint::take(PrintMaterial material, const Serving& serving) {
     if (printing_) return;
     material_ = std::move(material);
+    // A note that is being written below is printed as it stands there.
+    for (Form* form : app().stage().forms()) form->keepUnsaved();
     lblVysledek.setText({});
     prepareOptions(serving);
     showMaterial();
@@ -64,6 +69,7 @@ void frmPrint::take(PrintMaterial material, const Serving& serving) {
         showForm();
         return start();
     }
+    if (serving.portions > kMostPortions) refusePortions();
     open();
 }
 
@@ -72,8 +78,9 @@ void frmPrint::open() {
 }
 
 void frmPrint::prepareOptions(const Serving& serving) {
+    const double portions = serving.portions > 0 ? serving.portions : kUsualPortions;
     // Read back with a decimal point, whatever the user's.
-    Text1.setText(QString::number(serving.portions > 0 ? serving.portions : kUsualPortions));
+    Text1.setText(QString::number(qBound(kFewestPortions, portions, kMostPortions)));
     chkZobrKg.setChecked(serving.units == UnitSystem::Weights);
 }
 
@@ -87,7 +94,7 @@ PrintOptions frmPrint::options() const {
 
 PrintSource frmPrint::source() {
     return {app().Db(), [this](const QString& path) { return app().mediaPicture(path); }, app().Locale,
-            printLogo(app().resources())};
+            printLogo(app().resources()), [this](int id) { return app().notes().draft(id); }};
 }
 
 QString frmPrint::materialName() const {
@@ -119,10 +126,14 @@ void frmPrint::showPrinter() {
 bool frmPrint::portionsValid() {
     if (material_.isText()) return true;
     const double portions = leadingNumber(Text1.text());
-    if (portions >= 1 && portions <= 99) return true;
+    if (portions >= kFewestPortions && portions <= kMostPortions) return true;
+    refusePortions();
+    return false;
+}
+
+void frmPrint::refusePortions() {
     app().ZobrazZpravu(QStringLiteral("Musí být zadáno celé číslo od 1 do 99!"), kWarningBox);
     Text1.focusAll();
-    return false;
 }
 
 void frmPrint::start() {
@@ -154,7 +165,8 @@ void frmPrint::setPrinting(bool printing) {
          std::initializer_list<Control*>{&Label1, &lblRecept, &prgRecept, &prgSeznam, cmdPrerus})
         control->setVisible(printing);
     lblVysledek.setVisible(!printing);
-    app().keepAwake(printing ? kKeepAwake : QString());
+    // A recipe below keeps the display awake by itself when it is on top again.
+    if (printing || !liesOverRecipe()) app().keepAwake(printing ? kKeepAwake : QString());
     if (printing) {
         hideOthers();
         cmdPrerus->setFocus();
@@ -163,6 +175,11 @@ void frmPrint::setPrinting(bool printing) {
         showPrinter();
         Command2->setFocus();
     }
+}
+
+bool frmPrint::liesOverRecipe() const {
+    return std::ranges::any_of(app().stage().forms(),
+                               [](const Form* form) { return form->name() == QLatin1String("frmRecept"); });
 }
 
 void frmPrint::hideOthers() {
@@ -236,12 +253,8 @@ void frmPrint::status(const QString& text) {
     app().Yield();
 }
 
-void frmPrint::sectionDone() {
-    prgRecept.advance();
-}
-
-void frmPrint::pageDone(int done, int pages) {
-    prgRecept.setValue(kPrintSections + kPrintSections * done / pages);
+void frmPrint::progressed(double part) {
+    prgRecept.setValue(qRound(part * prgRecept.maximum()));
 }
 
 void frmPrint::recipeDone() {

@@ -58,8 +58,10 @@ class frmPrint : public Form, private PrintProgress {
 
     void start();
     bool portionsValid();
+    void refusePortions();
     void run();
     void setPrinting(bool printing);
+    bool liesOverRecipe() const;
     void hideOthers();
     void showOthers();
     void showOutcome(const PrintOutcome& outcome);
@@ -70,8 +72,7 @@ class frmPrint : public Form, private PrintProgress {
     // Printing tells how far it is.
     void recipeStarted(const QString& name) override;
     void status(const QString& text) override;
-    void sectionDone() override;
-    void pageDone(int done, int pages) override;
+    void progressed(double part) override;
     void recipeDone() override;
     bool goOn() override;
 

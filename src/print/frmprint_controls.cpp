@@ -2,6 +2,7 @@
 
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/decimalentry.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
 #include "print/formparts.h"
@@ -13,10 +14,12 @@ namespace {
 
 namespace at = printlayout;
 
-const char* const kSections[kPrintSections] = {
-    "Foto", "Suroviny", "Úvod, recept, poznámka", "Servis", "Víno", "Vlastní poznámka", "Pomůcky", "Odkazy"};
+const char* const kSections[kPrintSections] = {"Foto",        "Suroviny", "Úvod, recept, poznámka",
+                                               "Jak podávat", "Víno",     "Vlastní poznámka",
+                                               "Pomůcky",     "Odkazy"};
 
 constexpr int kMostPortionDigits = 8;
+constexpr int kProgressSteps = 1000;
 
 }  // namespace
 
@@ -59,6 +62,7 @@ void frmPrint::makeOptions() {
     }
     Text1.setFont(printforms::kTextFont);
     Text1.setMaxLength(kMostPortionDigits);
+    takeDecimalComma(Text1);
     Text1.setTip(QStringLiteral("Počet porcí, 1 až 99"));
     dressCheckBox(chkZobrKg, app().resources(), QStringLiteral("Množství i v gramech"));
     // The frame holds the options: it is disabled with all that is in it.
@@ -104,7 +108,7 @@ void frmPrint::makeProgress() {
     dressLabel(lblRecept, printforms::kTextFont, colors::kPaper);
     prgRecept.place(at::kRecipeBar);
     prgRecept.setTip(QStringLiteral("Průběh tisku receptu"));
-    prgRecept.setMaximum(2 * kPrintSections);  // setting the sections, then painting the pages
+    prgRecept.setMaximum(kProgressSteps);
     prgSeznam.place(at::kListBar);
     prgSeznam.setTip(QStringLiteral("Průběh tisku všech receptů"));
     lblVysledek.place(at::kOutcome);

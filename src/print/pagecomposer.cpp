@@ -14,6 +14,9 @@ namespace {
 
 constexpr int kLogoHeight = 720;
 constexpr int kTextGap = 160;
+constexpr int kHeaderGap = 160;
+
+const QString kNameFromNumber = QStringLiteral(" · ");
 
 const QString kHeaderText = QStringLiteral("CD Tobrela - ");
 const QString kPrintTitle = QStringLiteral("Velisa sarn");
@@ -55,7 +58,7 @@ ComposedRecipe PageComposer::recipe(int id, const PrintOptions& options, PrintPr
     progress.status(Texts::tr(" Tisknu recept ... "));
     RecipeFlow flow(page_, metrics_, progress);
     RecipeSections(recipes, flow, {source_, options, progress, page_.bottom - bodyTop_}).set();
-    if (flow.wentOn()) composed.pages = paginate(flow.take());
+    if (flow.wentOn()) composed.pages = paginate(flow.take(), composed.name);
     return composed;
 }
 
@@ -65,13 +68,13 @@ std::vector<PrintedPage> PageComposer::text(const TitledText& text, PrintProgres
     flow.addText(text.title, printfonts::name(), FlowLine::Kind::Heading);
     flow.addSpace(kTextGap);
     flow.addRichText(text.richText, text.title);
-    return flow.wentOn() ? paginate(flow.take()) : std::vector<PrintedPage>();
+    return flow.wentOn() ? paginate(flow.take(), text.title) : std::vector<PrintedPage>();
 }
 
-std::vector<PrintedPage> PageComposer::paginate(const std::vector<FlowLine>& lines) {
+std::vector<PrintedPage> PageComposer::paginate(const std::vector<FlowLine>& lines, const QString& name) {
     std::vector<PrintedPage> pages;
     for (const PageRange& range : breakPages(lines, page_.bottom - bodyTop_)) {
-        PrintedPage page = startPage(!pages.empty());
+        PrintedPage page = startPage();
         int top = bodyTop_;
         for (size_t line = range.first; line < range.end; ++line) {
             addTo(page, lines[line], top);
@@ -79,28 +82,42 @@ std::vector<PrintedPage> PageComposer::paginate(const std::vector<FlowLine>& lin
         }
         pages.push_back(std::move(page));
     }
-    if (pages.empty()) pages.push_back(startPage(false));
+    if (pages.empty()) pages.push_back(startPage());
+    for (size_t i = 1; i < pages.size(); ++i)
+        addPageName(pages[i], name, Texts::tr("%1 z %2").arg(i + 1).arg(pages.size()));
     return pages;
 }
 
-/// The header: the logo, the title at the right margin, and on a continuation its number in the middle.
-PrintedPage PageComposer::startPage(bool continues) {
+/// The header: the logo, and the title at the right margin.
+PrintedPage PageComposer::startPage() {
     PrintedPage page;
-    page.number = pageNumber_++;
     if (!source_.logo.isNull()) page.pictures.push_back({logoPlace_, source_.logo});
     const TextFont font = printfonts::header();
-    const int top = logoPlace_.top() + logoPlace_.height() / 2 - metrics_.textHeight(font) / 2;
-    const int baseline = top + metrics_.textAscent(font);
-    if (continues) {
-        const QString number = Texts::tr("strana %1").arg(page.number);
-        const int width = metrics_.textWidth(font, number);
-        page.texts.push_back(
-            {page_.leftMargin + (page_.lineWidth - width) / 2, baseline, width, number, font});
-    }
     const QString header = kHeaderText + kPrintTitle;
     const int width = metrics_.textWidth(font, header);
-    page.texts.push_back({page_.rightMargin() - width, baseline, width, header, font});
+    page.texts.push_back({page_.rightMargin() - width, headerBaseline(), width, header, font});
     return page;
+}
+
+int PageComposer::headerBaseline() {
+    const TextFont font = printfonts::header();
+    return logoPlace_.top() + logoPlace_.height() / 2 - metrics_.textHeight(font) / 2 +
+           metrics_.textAscent(font);
+}
+
+/// Which page of what it is stands between logo and title.
+void PageComposer::addPageName(PrintedPage& page, const QString& name, const QString& number) {
+    const TextFont font = printfonts::header();
+    const int left = logoPlace_.right() + kHeaderGap;
+    const int room = page.texts.front().x - kHeaderGap - left;
+    const QString behind = kNameFromNumber + number;
+    QString text = name + behind;
+    for (QString shorter = name; !shorter.isEmpty() && metrics_.textWidth(font, text) > room;) {
+        shorter.chop(1);
+        text = shorter.trimmed() + QStringLiteral("…") + behind;
+    }
+    const int width = metrics_.textWidth(font, text);
+    page.texts.insert(page.texts.begin(), {left + (room - width) / 2, headerBaseline(), width, text, font});
 }
 
 }  // namespace sarne

@@ -2,6 +2,7 @@
 
 #include <QLocale>
 #include <functional>
+#include <optional>
 
 #include "print/pagegeometry.h"
 #include "print/printedpage.h"
@@ -20,6 +21,8 @@ struct PrintSource {
     std::function<Picture(const QString&)> media;
     QLocale locale;
     Picture logo;
+    /// The own note of a recipe as it stands in an open editor; none where nothing is being written.
+    std::function<std::optional<QString>(int)> draft = [](int) { return std::nullopt; };
 };
 
 /// A recipe as the pages it takes. No pages: there is no such recipe, or printing was stopped.
@@ -34,8 +37,7 @@ struct TitledText {
     QString richText;
 };
 
-/// Turns recipes into pages for one printer's scale. Pages are numbered on from recipe to recipe. The metrics
-/// must outlive it.
+/// Turns recipes into pages for one printer's scale. The metrics must outlive it.
 class PageComposer {
   public:
     PageComposer(PrintSource source, const PageScale& scale, TextMetrics& metrics);
@@ -47,15 +49,16 @@ class PageComposer {
     const PageGeometry& geometry() const { return page_; }
 
   private:
-    std::vector<PrintedPage> paginate(const std::vector<FlowLine>& lines);
-    PrintedPage startPage(bool continues);
+    std::vector<PrintedPage> paginate(const std::vector<FlowLine>& lines, const QString& name);
+    PrintedPage startPage();
+    int headerBaseline();
+    void addPageName(PrintedPage& page, const QString& name, const QString& number);
 
     PrintSource source_;
     PageGeometry page_;
     TextMetrics& metrics_;
     QRect logoPlace_;
     int bodyTop_ = 0;
-    int pageNumber_ = 1;
 };
 
 }  // namespace sarne

@@ -28,7 +28,6 @@ struct PagePicture {
 /// One page: everything on it, at its place, in reading order. What the preview shows, the file holds and
 /// the printer gets.
 struct PrintedPage {
-    int number = 1;  ///< within the document
     std::vector<PagePicture> pictures;
     std::vector<PageText> texts;
 };
@@ -47,6 +46,7 @@ struct FlowLine {
     bool endsParagraph = true;
     std::vector<PageText> texts;
     std::vector<PagePicture> pictures;
+    QString target;  ///< what the line is called, for links to lead to
 };
 
 }  // namespace sarne

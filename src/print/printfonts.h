@@ -5,6 +5,9 @@
 /// The fonts of the printed page.
 namespace sarne::printfonts {
 
+/// Of all headings below the name.
+inline constexpr QRgb kHeadingColor = 0xff963422;
+
 inline TextFont header() {
     return {QStringLiteral("Times New Roman"), 8, false, true, false, 238};
 }

@@ -33,7 +33,7 @@ bool PrintJob::put(const std::vector<PrintedPage>& pages, const QString& documen
     int done = 0;
     for (const PrintedPage& page : pages) {
         if (!put(page, documentName)) return false;
-        progress_.pageDone(++done, static_cast<int>(pages.size()));
+        progress_.progressed(kSetPart + (1 - kSetPart) * ++done / double(pages.size()));
     }
     return true;
 }

@@ -10,6 +10,10 @@ namespace {
 constexpr int kPictureShare = 2;  // of five parts of the line
 constexpr int kPictureGap = 240;  // to the text beside and below it
 constexpr int kNarrowestText = 1200;
+constexpr int kNarrowestName = 1300;  // beside columns of quantities
+constexpr int kColumnGap = 200;
+/// A paragraph is read in pieces of so many lines, so that the longest can be stopped.
+constexpr int kLinesRead = 48;
 
 /// How many lines of \a layout, up to the end of its first paragraph, say nothing but \a title.
 size_t linesOfTitle(const RtfLayout& layout, const QString& title) {
@@ -26,14 +30,34 @@ size_t linesOfTitle(const RtfLayout& layout, const QString& title) {
     return 0;
 }
 
+qsizetype blanksInFront(const QString& text) {
+    qsizetype blanks = 0;
+    while (blanks < text.size() && text[blanks] == u' ') ++blanks;
+    return blanks;
+}
+
 }  // namespace
+
+RecipeFlow::RecipeFlow(const PageGeometry& page, TextMetrics& metrics, PrintProgress& progress, double scale)
+    : page_(page),
+      metrics_(metrics),
+      progress_(progress),
+      scale_(scale),
+      setter_(metrics, [this](FlowLine line) { append(std::move(line)); }) {}
 
 void RecipeFlow::ask() {
     if (!stop_) stop_ = !progress_.goOn();
 }
 
+void RecipeFlow::setPart(double from, double to) {
+    partFrom_ = from;
+    partTo_ = to;
+}
+
 void RecipeFlow::append(FlowLine line) {
+    if (stop_) return;
     height_ += line.height;
+    if (!line.texts.empty()) line.target = std::exchange(target_, {});
     lines_.push_back(std::move(line));
     ask();
 }
@@ -45,111 +69,167 @@ void RecipeFlow::addSpace(int twips) {
     append(std::move(line));
 }
 
+TextFont RecipeFlow::scaled(TextFont font) const {
+    font.size *= scale_;
+    return font;
+}
+
 void RecipeFlow::addHeading(const QString& text) {
     endPicture();
-    addText(text, printfonts::heading(), FlowLine::Kind::Heading);
-}
-
-void RecipeFlow::addText(const QString& text, const TextFont& font, FlowLine::Kind kind) {
-    addWrapped(text, font, kind, true);
-}
-
-void RecipeFlow::addContinuation(const QString& text, const TextFont& font) {
-    if (!lines_.empty()) lines_.back().endsParagraph = false;
-    addWrapped(text, font, FlowLine::Kind::Text, false);
+    addWords(text, scaled(printfonts::heading()), plainStyle(FlowLine::Kind::Heading),
+             printfonts::kHeadingColor);
 }
 
 int RecipeFlow::currentWidth() const {
     return besidePicture() ? page_.lineWidth - pictureWidth_ : page_.lineWidth;
 }
 
-void RecipeFlow::addWrapped(const QString& text, const TextFont& font, FlowLine::Kind kind, bool starts) {
-    const int height = metrics_.textHeight(font), ascent = metrics_.textAscent(font);
-    QStringView rest(text);
-    while (!rest.isEmpty() && !stop_) {
-        const qsizetype length = firstLine(rest, currentWidth(), measuring(font), LongWords::Break);
-        QStringView shown = rest.left(length);
-        rest = rest.mid(length);
-        if (!rest.isEmpty()) {
-            while (shown.endsWith(u' ')) shown.chop(1);
-            while (rest.startsWith(u' ')) rest = rest.mid(1);
-        }
-        FlowLine line;
-        line.kind = kind;
-        line.height = height;
-        line.startsParagraph = starts;
-        line.endsParagraph = rest.isEmpty();
-        line.texts.push_back(
-            {page_.leftMargin, ascent, metrics_.textWidth(font, shown), shown.toString(), font});
-        append(std::move(line));
-        starts = false;
-    }
+ParagraphStyle RecipeFlow::plainStyle(FlowLine::Kind kind) const {
+    ParagraphStyle style;
+    style.kind = kind;
+    style.left = page_.leftMargin;
+    style.width = currentWidth();
+    style.justified = false;
+    return style;
 }
 
-MeasureText RecipeFlow::measuring(const TextFont& font) {
-    return [this, &font](QStringView text) { return metrics_.textWidth(font, text); };
+void RecipeFlow::addText(const QString& text, const TextFont& font, FlowLine::Kind kind) {
+    addWords(text, scaled(font), plainStyle(kind));
+}
+
+void RecipeFlow::addWords(const QString& text, const TextFont& font, const ParagraphStyle& style,
+                          QRgb color) {
+    const int blank = metrics_.textWidth(font, u" ");
+    ParagraphStyle indented = style;
+    indented.indent += static_cast<int>(blanksInFront(text)) * blank;
+    setter_.begin(indented);
+    for (const QString& word : text.split(u' ', Qt::SkipEmptyParts)) {
+        if (stop_) return;
+        setter_.add({word, font, color, metrics_.textWidth(font, word), blank});
+    }
+    setter_.end();
 }
 
 void RecipeFlow::addRichText(const QString& text, const QString& title) {
     if (text.trimmed().isEmpty()) return;
     endPicture();
-    addLayout(RtfLayout::of(text, textArea(), metrics_, LinkMarkers::Remove, &stop_, [this] { ask(); }),
-              title);
+    const RtfLayout layout =
+        RtfLayout::of(text, wideArea(), metrics_, LinkMarkers::Remove, &stop_, [this] { ask(); });
+    addLayout(layout, linesOfTitle(layout, title));
 }
 
 void RecipeFlow::addPlainText(const QString& text) {
     if (text.trimmed().isEmpty()) return;
     endPicture();
-    addLayout(RtfLayout::ofPlain(text, textArea(), metrics_, &stop_, [this] { ask(); }), {});
+    addLayout(RtfLayout::ofPlain(text, wideArea(), metrics_, &stop_, [this] { ask(); }), 0);
 }
 
-LayoutArea RecipeFlow::textArea() const {
-    return {page_.leftMargin, page_.rightMargin(), 0};
+/// Wide enough for many lines: what is read is set again by the setter.
+LayoutArea RecipeFlow::wideArea() const {
+    return {0, static_cast<int>(page_.lineWidth / scale_) * kLinesRead, 0};
 }
 
-void RecipeFlow::addLayout(const RtfLayout& layout, const QString& title) {
-    for (size_t line = linesOfTitle(layout, title); line < layout.lines().size() && !stop_; ++line)
+void RecipeFlow::addLayout(const RtfLayout& layout, size_t firstLine) {
+    const size_t count = layout.lines().size();
+    for (size_t line = firstLine; line < count && !stop_; ++line) {
         addLaidOutLine(layout, layout.lines()[line]);
+        progress_.progressed(partFrom_ + (partTo_ - partFrom_) * double(line + 1) / double(count));
+    }
+    if (inParagraph_ && !stop_) setter_.end();
+    inParagraph_ = false;
 }
 
 void RecipeFlow::addLaidOutLine(const RtfLayout& layout, const TextLine& line) {
-    if (line.boxCount == 0) return addSpace(line.height);
-    FlowLine placed;
-    placed.kind = line.isHeading ? FlowLine::Kind::Heading : FlowLine::Kind::Text;
-    placed.height = line.height;
-    placed.startsParagraph = line.startsParagraph;
-    placed.endsParagraph = line.endsParagraph;
-    placed.texts.reserve(static_cast<size_t>(line.boxCount));
-    for (qsizetype i = 0; i < line.boxCount; ++i) {
-        const WordBox& box = layout.boxes()[static_cast<size_t>(line.firstBox + i)];
-        if (box.x + box.width > page_.rightMargin()) {
-            addOverlongWord(layout, line, box);
-            continue;
-        }
-        placed.texts.push_back({box.x, box.baseline - line.top, box.width, layout.text(box).toString(),
-                                layout.fonts()[static_cast<size_t>(box.font)], box.color});
+    if (!inParagraph_ && line.boxCount == 0) return addSpace(static_cast<int>(line.height * scale_));
+    if (!inParagraph_) {
+        ParagraphStyle style = plainStyle(line.isHeading ? FlowLine::Kind::Heading : FlowLine::Kind::Text);
+        style.justified = !line.isHeading;
+        setter_.begin(style);
     }
-    if (!placed.texts.empty()) append(std::move(placed));
+    inParagraph_ = !line.endsParagraph;
+    for (qsizetype i = 0; i < line.boxCount && !stop_; ++i)
+        setter_.add(laidOutWord(layout, line, layout.boxes()[static_cast<size_t>(line.firstBox + i)]));
+    if (!inParagraph_ && !stop_) setter_.end();
 }
 
-void RecipeFlow::addOverlongWord(const RtfLayout& layout, const TextLine& line, const WordBox& box) {
-    const TextFont& font = layout.fonts()[static_cast<size_t>(box.font)];
-    QStringView rest = layout.text(box);
-    bool starts = line.startsParagraph;
-    while (!rest.isEmpty() && !stop_) {
-        const qsizetype length =
-            std::min(rest.size(), charactersFitting(rest, page_.lineWidth, measuring(font)));
-        FlowLine piece;
-        piece.height = line.height;
-        piece.startsParagraph = starts;
-        piece.endsParagraph = line.endsParagraph && length == rest.size();
-        piece.texts.push_back({page_.leftMargin, line.baseline - line.top,
-                               metrics_.textWidth(font, rest.left(length)), rest.left(length).toString(),
-                               font, box.color});
-        append(std::move(piece));
-        rest = rest.mid(length);
-        starts = false;
+SetWord RecipeFlow::laidOutWord(const RtfLayout& layout, const TextLine& line, const WordBox& box) {
+    SetWord word;
+    word.text = layout.text(box).toString();
+    word.color = line.isHeading ? printfonts::kHeadingColor : box.color;
+    const TextFont& own = layout.fonts()[static_cast<size_t>(box.font)];
+    word.font = scaled(line.isHeading ? printfonts::heading() : own);
+    word.width = word.font == own ? box.width : metrics_.textWidth(word.font, word.text);
+    word.blanks = box.blanks * metrics_.textWidth(word.font, u" ");
+    // Where a tab has moved a word, it stands off its neighbour.
+    if (!line.isHeading && line.endsParagraph) {
+        const WordBox* before =
+            &box == &layout.boxes()[static_cast<size_t>(line.firstBox)] ? nullptr : &box - 1;
+        const int natural =
+            before ? before->x + before->width +
+                         before->blanks *
+                             metrics_.textWidth(layout.fonts()[static_cast<size_t>(before->font)], u" ")
+                   : 0;
+        if (box.x > natural + 1) word.tab = static_cast<int>(box.x * scale_);
     }
+    return word;
+}
+
+std::array<int, 2> RecipeFlow::quantityColumns(const std::vector<QuantityRow>& rows) {
+    const TextFont font = scaled(printfonts::body());
+    int names = 0;
+    std::array<int, 2> widths{};
+    for (const QuantityRow& row : rows) {
+        names = std::max(names, metrics_.textWidth(font, row.name));
+        for (size_t i = 0; i < widths.size(); ++i)
+            widths[i] = std::max(widths[i], metrics_.textWidth(font, row.quantities[i]));
+    }
+    const auto gap = [&](int width) { return width > 0 ? width + static_cast<int>(kColumnGap * scale_) : 0; };
+    const int room = currentWidth() - gap(widths[0]) - gap(widths[1]);
+    if (room < std::min(names, static_cast<int>(kNarrowestName * scale_))) return {};
+    // The columns stand close to the names, not at the end of a wide line.
+    const int first = std::min(names, room) + static_cast<int>(kColumnGap * scale_);
+    return {first, first + gap(widths[0])};
+}
+
+void RecipeFlow::addQuantities(const std::vector<QuantityRow>& rows) {
+    const std::array<int, 2> columns = quantityColumns(rows);
+    for (const QuantityRow& row : rows) {
+        if (stop_) return;
+        columns[0] > 0 ? addQuantityRow(row, columns) : addJoinedRow(row);
+    }
+}
+
+void RecipeFlow::addQuantityRow(const QuantityRow& row, const std::array<int, 2>& columns) {
+    const TextFont font = scaled(printfonts::body());
+    const size_t first = lines_.size();
+    ParagraphStyle style = plainStyle(FlowLine::Kind::Text);
+    style.width = columns[0] - static_cast<int>(kColumnGap * scale_);
+    addWords(row.name, font, style);
+    if (first == lines_.size()) return;
+    for (size_t i = 0; i < columns.size(); ++i) {
+        if (row.quantities[i].isEmpty()) continue;
+        lines_[first].texts.push_back({page_.leftMargin + columns[i], metrics_.textAscent(font),
+                                       metrics_.textWidth(font, row.quantities[i]), row.quantities[i], font});
+    }
+    addAlternative(row);
+}
+
+void RecipeFlow::addAlternative(const QuantityRow& row) {
+    if (row.alternative.isEmpty() || lines_.empty()) return;
+    lines_.back().endsParagraph = false;
+    ParagraphStyle style = plainStyle(FlowLine::Kind::Text);
+    style.starts = false;
+    addWords(row.alternative, scaled(printfonts::body()), style);
+}
+
+void RecipeFlow::addJoinedRow(const QuantityRow& row) {
+    QStringList parts{row.name};
+    for (const QString& quantity : row.quantities) {
+        // What belongs together is not parted at the end of a line.
+        if (!quantity.isEmpty()) parts << QString(quantity).replace(u' ', QChar(0xa0));
+    }
+    addText(parts.join(u' '), printfonts::body());
+    addAlternative(row);
 }
 
 void RecipeFlow::addPicture(const Picture& picture, int room) {

@@ -1,39 +1,52 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "print/pagegeometry.h"
-#include "print/printedpage.h"
+#include "print/paragraphsetter.h"
 #include "print/printprogress.h"
 #include "richtext/rtflayout.h"
-#include "richtext/wordwrap.h"
 
 namespace sarne {
+
+/// An ingredient on paper: its name, and how much of it in one or two columns.
+struct QuantityRow {
+    QString name;
+    std::array<QString, 2> quantities;  ///< by weight and by the spoon, as "(g): 250"
+    QString alternative;                ///< the line below, its blanks in front; empty where there is none
+};
 
 /// Sets the texts of a recipe one below the other, as lines that have no page yet. Nothing passes the right
 /// margin: a word that is longer than a line is broken. Metrics and progress must outlive it.
 class RecipeFlow {
   public:
-    RecipeFlow(const PageGeometry& page, TextMetrics& metrics, PrintProgress& progress)
-        : page_(page), metrics_(metrics), progress_(progress) {}
+    /// \a scale is the size of all letters, 1 as usual.
+    RecipeFlow(const PageGeometry& page, TextMetrics& metrics, PrintProgress& progress, double scale = 1);
 
-    /// A paragraph of plain text, its blanks kept. An empty one adds nothing.
+    /// A paragraph of plain text. Blanks in front indent it. An empty one adds nothing.
     void addText(const QString& text, const TextFont& font, FlowLine::Kind kind = FlowLine::Kind::Text);
-    /// A second line that stays with the paragraph before it.
-    void addContinuation(const QString& text, const TextFont& font);
-    /// A text of the database, an RTF document or plain; link markers are left out. A first paragraph that
-    /// only repeats \a title is left out too.
+    /// A text of the database, an RTF document or plain; link markers are left out. Its headings look like
+    /// all others. A first paragraph that only repeats \a title is left out too.
     void addRichText(const QString& text, const QString& title = {});
     void addHeading(const QString& text);
     void addSpace(int twips);
     /// Adds a text in which every character stands for itself, laid out like a rich text.
     void addPlainText(const QString& text);
+    /// Adds the rows with their quantities in columns; where the line is too short for columns, one behind
+    /// the other.
+    void addQuantities(const std::vector<QuantityRow>& rows);
     /// Places \a picture at the right margin, in its proportions; the plain texts that follow stand to the
     /// left of it as long as it lasts. \a room is what is left of the page.
     void addPicture(const Picture& picture, int room);
     bool besidePicture() const { return height_ < pictureBottom_; }
     /// What follows stands below the picture.
     void endPicture();
+    /// What the next lines are called, for links to lead to.
+    void addTarget(const QString& name) { target_ = name; }
+
+    /// Which part of the recipe the next text is: its lines tell the progress.
+    void setPart(double from, double to);
 
     /// False when the progress wanted no more; the lines are incomplete then.
     bool wentOn() const { return !stop_; }
@@ -42,20 +55,31 @@ class RecipeFlow {
 
   private:
     void append(FlowLine line);
-    void addWrapped(const QString& text, const TextFont& font, FlowLine::Kind kind, bool starts);
-    MeasureText measuring(const TextFont& font);
-    LayoutArea textArea() const;
-    void addLayout(const RtfLayout& layout, const QString& title);
-    int currentWidth() const;
+    void addWords(const QString& text, const TextFont& font, const ParagraphStyle& style,
+                  QRgb color = 0xff000000);
+    void addQuantityRow(const QuantityRow& row, const std::array<int, 2>& columns);
+    void addJoinedRow(const QuantityRow& row);
+    void addAlternative(const QuantityRow& row);
+    std::array<int, 2> quantityColumns(const std::vector<QuantityRow>& rows);
+    ParagraphStyle plainStyle(FlowLine::Kind kind) const;
+    LayoutArea wideArea() const;
+    void addLayout(const RtfLayout& layout, size_t firstLine);
     void addLaidOutLine(const RtfLayout& layout, const TextLine& line);
-    void addOverlongWord(const RtfLayout& layout, const TextLine& line, const WordBox& box);
+    SetWord laidOutWord(const RtfLayout& layout, const TextLine& line, const WordBox& box);
+    TextFont scaled(TextFont font) const;
+    int currentWidth() const;
     void ask();
 
     const PageGeometry page_;
     TextMetrics& metrics_;
     PrintProgress& progress_;
+    const double scale_;
+    ParagraphSetter setter_;
     StopFlag stop_ = false;
     std::vector<FlowLine> lines_;
+    QString target_;
+    bool inParagraph_ = false;
+    double partFrom_ = 0, partTo_ = 0;
     int height_ = 0;
     int pictureBottom_ = 0;
     int pictureWidth_ = 0;  // with the gap beside it

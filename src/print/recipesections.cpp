@@ -11,13 +11,21 @@ namespace {
 
 constexpr int kSectionGap = 160;
 
-/// The quantities of \a ingredient behind its name: by weight where that is wanted, and by the spoon; once
-/// where both are the same.
-QString quantityText(const Ingredient& ingredient, const Quantities& quantities, UnitSystem units) {
-    const QString spoons = ingredient.spoons.text(quantities);
-    if (units == UnitSystem::Spoons) return spoons;
-    const QString kilograms = ingredient.weights.text(quantities);
-    return kilograms == spoons ? spoons : kilograms + spoons;
+/// An amount in a column of its own. Without a unit the number stands there alone: ": " would have nothing to
+/// part.
+QString columnText(const Measure& measure, const Quantities& quantities) {
+    const QString text = measure.text(quantities).trimmed();
+    return text.startsWith(u": ") ? text.mid(2) : text;
+}
+
+/// The row of \a ingredient: by weight where that is wanted, and by the spoon; once where both are the same.
+QuantityRow rowOf(const Ingredient& ingredient, const Quantities& quantities, UnitSystem units) {
+    QuantityRow row{ingredient.title(), {}, ingredient.alternativeLine()};
+    row.quantities[1] = columnText(ingredient.spoons, quantities);
+    if (units == UnitSystem::Spoons) return row;
+    row.quantities[0] = columnText(ingredient.weights, quantities);
+    if (row.quantities[0] == row.quantities[1]) row.quantities[1].clear();
+    return row;
 }
 
 }  // namespace
@@ -25,9 +33,11 @@ QString quantityText(const Ingredient& ingredient, const Quantities& quantities,
 void RecipeSections::set() {
     setName();
     for (int section = 0; section < kPrintSections && flow_.wentOn(); ++section) {
+        const double done = kSetPart * section / kPrintSections, next = done + kSetPart / kPrintSections;
+        flow_.setPart(done, next);
         if (context_.options.sections[static_cast<size_t>(section)])
             setSection(static_cast<PrintSection>(section));
-        context_.progress.sectionDone();
+        context_.progress.progressed(next);
     }
     flow_.endPicture();
 }
@@ -35,7 +45,7 @@ void RecipeSections::set() {
 void RecipeSections::setName() {
     const QString name = field(QStringLiteral("Nazev")), longName = field(QStringLiteral("DlouhyNazev"));
     flow_.addText(name, printfonts::name(), FlowLine::Kind::Heading);
-    if (longName != name) flow_.addText(longName, printfonts::name(), FlowLine::Kind::Heading);
+    if (!longName.isEmpty()) flow_.addText(longName, printfonts::name(), FlowLine::Kind::Heading);
 }
 
 void RecipeSections::setSection(PrintSection section) {
@@ -80,13 +90,10 @@ void RecipeSections::ingredients() {
     if (!flow_.besidePicture()) gap();
     flow_.addText(QStringLiteral("Porce: ") + numberText(context_.options.portions, context_.source.locale),
                   printfonts::body(), FlowLine::Kind::Heading);
-    for (const Ingredient& ingredient : readIngredients(context_.source.db, id())) {
-        if (!flow_.wentOn()) return;
-        const QString line =
-            ingredient.title() + quantityText(ingredient, quantities, context_.options.units);
-        flow_.addText(line.trimmed(), printfonts::body());
-        flow_.addContinuation(ingredient.alternativeLine(), printfonts::body());
-    }
+    std::vector<QuantityRow> rows;
+    for (const Ingredient& ingredient : readIngredients(context_.source.db, id()))
+        rows.push_back(rowOf(ingredient, quantities, context_.options.units));
+    flow_.addQuantities(rows);
 }
 
 void RecipeSections::richField(const QString& name, const QString& statusText) {
@@ -101,7 +108,7 @@ void RecipeSections::richField(const QString& name, const QString& statusText) {
 
 void RecipeSections::ownNote() {
     status(QStringLiteral(" Tisknu vlastní poznámku ... "));
-    const QString note = field(QStringLiteral("Vlastni"));
+    const QString note = context_.source.draft(id()).value_or(field(QStringLiteral("Vlastni")));
     if (note.trimmed().isEmpty()) return;
     flow_.endPicture();
     gap();
@@ -127,7 +134,7 @@ void RecipeSections::links() {
         flow_.endPicture();
         gap();
         flow_.addHeading(QStringLiteral("Odkaz: ") + title);
-        flow_.addRichText(links.field(QStringLiteral("Text")).toString(), title);
+        flow_.addRichText(links.field(QStringLiteral("Text")).toString());
     }
 }
 

@@ -1,0 +1,95 @@
+#include "print/paragraphsetter.h"
+
+#include <gtest/gtest.h>
+
+#include "richtext/layoutdump.h"
+
+namespace sarne {
+namespace {
+
+QString str(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+/// \a text set in lines of \a characters, a "|" between them; the metrics' characters are all equally wide.
+class Setting {
+  public:
+    explicit Setting(int characters, bool justified = false) : characters_(characters) {
+        style_.width = characters * kCharacter;
+        style_.justified = justified;
+    }
+
+    QString set(const QString& text) {
+        lines.clear();
+        ParagraphSetter setter(metrics_, [this](FlowLine line) { lines.push_back(std::move(line)); });
+        setter.begin(style_);
+        for (const QString& word : text.split(u' '))
+            setter.add({word, {}, 0xff000000, metrics_.textWidth({}, word), kCharacter});
+        setter.end();
+        QStringList shown;
+        for (const FlowLine& line : lines) {
+            QStringList words;
+            for (const PageText& word : line.texts) words << word.text;
+            shown << words.join(u' ');
+        }
+        return shown.join(u'|');
+    }
+    int left(size_t line) const { return lines.at(line).texts.front().x / kCharacter; }
+    int right(size_t line) const {
+        return (lines.at(line).texts.back().x + lines.at(line).texts.back().width) / kCharacter;
+    }
+
+    std::vector<FlowLine> lines;
+
+  private:
+    static constexpr int kCharacter = 120;
+    test::FixedMetrics metrics_;
+    ParagraphStyle style_;
+    int characters_;
+};
+
+TEST(ParagraphSetter, KeepsOneLetterWordsWithTheNextOne) {
+    EXPECT_EQ(Setting(12).set(str("kapra dáme k vodě a dušíme pět minut")),
+              str("kapra dáme|k vodě|a dušíme|pět minut"));
+    EXPECT_EQ(Setting(10).set(str("plát másla (v pánvi se solí")), str("plát másla|(v pánvi|se solí"));
+    EXPECT_EQ(Setting(8).set(str("a i o u k s v z")), str("a i o u|k s v z"))
+        << "a line is filled all the same";
+}
+
+TEST(ParagraphSetter, LeavesNoWordAloneAtTheEnd) {
+    EXPECT_EQ(Setting(16).set(str("jeden dva tři čtyři")), str("jeden dva|tři čtyři"));
+    Setting tight(20, true);
+    EXPECT_EQ(tight.set(str("ab ab ab ab ab ab abc")), str("ab ab ab ab ab ab abc")) << "drawn together";
+    EXPECT_EQ(tight.right(0), 20);
+    EXPECT_EQ(Setting(10).set(str("dlouhatánské slovo")), str("dlouhatáns|ké slovo"));
+    EXPECT_EQ(Setting(12).set(str("kapr candát sumec")), str("kapr candát|sumec")) << "no room for more";
+}
+
+TEST(ParagraphSetter, HangsTheLinesOfAStepBelowItsText) {
+    Setting step(20, true);
+    EXPECT_EQ(step.set(str("2. Rybu osolíme, necháme stát, pak dáme péct")),
+              str("2. Rybu osolíme,|necháme stát, pak|dáme péct"));
+    EXPECT_EQ(step.left(0), 0);
+    EXPECT_EQ(step.left(1), step.left(2));
+    EXPECT_EQ(step.lines[0].texts[1].x, step.lines[1].texts[0].x);
+    EXPECT_EQ(step.set(str("2.\u00a0Rybu osolíme, necháme stát, pak dáme péct")),
+              str("2. Rybu osolíme,|necháme stát, pak|dáme péct"))
+        << "the blank that holds number and word together makes no difference";
+    step.set(str("200 gramů másla rozpustíme na pánvi"));
+    EXPECT_EQ(step.left(1), 0) << "an amount is no step";
+    EXPECT_EQ(stepMark(str("10.")), 3);
+    EXPECT_EQ(stepMark(str("10.5")), 0);
+    EXPECT_EQ(stepMark(str("–")), 1);
+    EXPECT_EQ(stepMark(str("ryba")), 0);
+}
+
+TEST(ParagraphSetter, FillsTheLinesButTheLast) {
+    Setting lines(20, true);
+    lines.set(str("Rybu osolíme a necháme stát na chladném místě půl dne"));
+    for (size_t line = 0; line + 1 < lines.lines.size(); ++line) EXPECT_EQ(lines.right(line), 20);
+    EXPECT_LT(lines.right(lines.lines.size() - 1), 20);
+    EXPECT_TRUE(lines.lines.front().startsParagraph && lines.lines.back().endsParagraph);
+}
+
+}  // namespace
+}  // namespace sarne
