@@ -37,6 +37,17 @@ Recordset recipeIngredients(Database& db, int recipe) {
     return open(db, QStringLiteral("SELECT * FROM SpojSur WHERE ID_Receptu = "), recipe);
 }
 
+Recordset recipeSteps(Database& db, int recipe) {
+    return open(db, QStringLiteral("SELECT * FROM Kroky WHERE ID_Receptu = "), recipe,
+                QStringLiteral(" ORDER BY ID"));
+}
+
+Recordset stepNeeds(Database& db, int recipe) {
+    return open(db,
+                QStringLiteral("SELECT ID_Kroku, Radek, Podil FROM KrokySur, Kroky WHERE ID_Receptu = "),
+                recipe, QStringLiteral(" AND ID = ID_Kroku ORDER BY ID_Kroku, Radek"));
+}
+
 Recordset recipeTools(Database& db, int recipe) {
     return open(db, QStringLiteral("SELECT Polozka FROM Pomucky, SpojPomucky WHERE ID_Receptu = "), recipe,
                 QStringLiteral(" AND ID = ID_Polozky ORDER BY Polozka"));

@@ -22,6 +22,9 @@ Recordset recipesWithIngredient(Database& db, const QString& ingredient);
 
 /// What a recipe is made of, in the stored order.
 Recordset recipeIngredients(Database& db, int recipe);
+/// The steps of a recipe in their order; what each of them takes of the ingredients.
+Recordset recipeSteps(Database& db, int recipe);
+Recordset stepNeeds(Database& db, int recipe);
 /// The names of a recipe's tools in alphabetical order.
 Recordset recipeTools(Database& db, int recipe);
 /// `ID_Polozky` and name of a recipe's links in the order of their names.

@@ -46,6 +46,30 @@ QStringList galleries() {
                    QStringLiteral("Odkaz") + kText})};
 }
 
+/// What the kitchen needs beyond the recipes themselves. A book without these tables is a good book, too.
+QStringList kitchen() {
+    const QString name = QStringLiteral("Nazev") + kText;
+    return {
+        // A recipe's steps, and which share of which line of its ingredients each takes; lines from 0.
+        named(QStringLiteral("Kroky"),
+              {QStringLiteral("ID_Receptu INTEGER NOT NULL"), name, QStringLiteral("Text") + kText}),
+        QStringLiteral("CREATE INDEX Kroky_ID_Receptu ON Kroky (ID_Receptu)"),
+        QStringLiteral("CREATE TABLE KrokySur (ID_Kroku INTEGER NOT NULL, Radek INTEGER NOT NULL, Podil REAL)"),
+        QStringLiteral("CREATE INDEX KrokySur_ID_Kroku ON KrokySur (ID_Kroku)"),
+        // An ingredient as goods: the department, whether everyone has it, allergens by the bits of their numbers.
+        named(QStringLiteral("Zbozi"),
+              {QStringLiteral("Oddeleni INTEGER, Doma INTEGER, Alergeny INTEGER")}),
+        // The refinements that a cook makes and no shop sells.
+        QStringLiteral("CREATE TABLE Uprava (ID INTEGER PRIMARY KEY)"),
+        // How much of a whole fish, in hundredths, is left of it in this refinement.
+        named(QStringLiteral("Vyteznost"), {QStringLiteral("Podil INTEGER NOT NULL")}),
+        // A recipe in numbers: minutes; months and allergens by bits; the line of its main fish.
+        named(QStringLiteral("Fakta"),
+              {QStringLiteral("Priprava INTEGER, Vareni INTEGER, Minut INTEGER, Predem") + kText,
+               QStringLiteral("Mesice INTEGER, Alergeny INTEGER, Ryba INTEGER, Chod") + kText,
+               QStringLiteral("Obdobi") + kText})};
+}
+
 }  // namespace
 
 QStringList recipeSchema() {
@@ -72,7 +96,7 @@ QStringList recipeSchema() {
     all << named(QStringLiteral("RadkyTabulek"),
                  {QStringLiteral("ID_Tabulky INTEGER NOT NULL"), QStringLiteral("ID_Hesla INTEGER"),
                   QStringLiteral("Bunky") + kText});
-    all << galleries();
+    all << galleries() << kitchen();
     return all;
 }
 
@@ -83,7 +107,16 @@ QStringList pictureSchema() {
 QList<QStringList> userSchema() {
     return {{QStringLiteral("CREATE TABLE Poznamky (ID INTEGER PRIMARY KEY, Nazev TEXT, Text TEXT)"),
              QStringLiteral("CREATE TABLE Rozepsane (ID INTEGER PRIMARY KEY, Text TEXT)"),
-             QStringLiteral("CREATE TABLE Hodnoty (Nazev TEXT PRIMARY KEY, Hodnota TEXT)")}};
+             QStringLiteral("CREATE TABLE Hodnoty (Nazev TEXT PRIMARY KEY, Hodnota TEXT)")},
+            // What is to be bought: a row for each recipe that a thing is for, those of one thing together.
+            {QStringLiteral("CREATE TABLE Nakup (ID INTEGER PRIMARY KEY, Nazev TEXT, Oddeleni INTEGER, "
+                            "Doma INTEGER, Koupeno INTEGER, Nahrada TEXT, Recept INTEGER, NazevReceptu TEXT, "
+                            "Porce REAL, Jednotka TEXT, Mnozstvi REAL)"),
+             // What the user has made of a recipe: stars from 1 to 5, when it was opened last.
+             QStringLiteral("CREATE TABLE Kucharka (ID INTEGER PRIMARY KEY, Nazev TEXT, Hvezdy INTEGER, "
+                            "Otevreno TEXT)"),
+             QStringLiteral("CREATE TABLE Uvareno (ID INTEGER PRIMARY KEY, Recept INTEGER, Nazev TEXT, "
+                            "Den TEXT, Porce REAL)")}};
 }
 
 }  // namespace sarne

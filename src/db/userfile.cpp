@@ -37,11 +37,33 @@ Database& UserFile::forWriting() {
     return db_;
 }
 
+namespace {
+
+void setFields(Recordset& rows, const QHash<QString, QVariant>& fields) {
+    for (auto field = fields.cbegin(); field != fields.cend(); ++field)
+        rows.setField(field.key(), field.value());
+}
+
+}  // namespace
+
+bool UserFile::replaceAll(const QString& table, const QList<QHash<QString, QVariant>>& rows) {
+    Database& db = forWriting();
+    return db.transaction([&] {
+        if (!db.Execute(QStringLiteral("DELETE FROM ") + table)) return false;
+        Recordset records = db.OpenTable(table);
+        for (const QHash<QString, QVariant>& fields : rows) {
+            records.AddNew();
+            setFields(records, fields);
+            if (!records.Update()) return false;
+        }
+        return true;
+    });
+}
+
 bool UserFile::store(const QString& table, const QString& keyName, const QHash<QString, QVariant>& fields) {
     Recordset rows = forWriting().OpenTable(table);
     RecordExists(rows, fields.value(keyName)) ? rows.Edit() : rows.AddNew();
-    for (auto field = fields.cbegin(); field != fields.cend(); ++field)
-        rows.setField(field.key(), field.value());
+    setFields(rows, fields);
     return rows.Update();
 }
 

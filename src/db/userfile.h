@@ -25,6 +25,10 @@ class UserFile {
     /// the disk.
     bool store(const QString& table, const QString& keyName, const QHash<QString, QVariant>& fields);
 
+    /// Puts \a rows, their fields by name, in the place of all rows of \a table: all of them or none. True
+    /// when they are on the disk.
+    bool replaceAll(const QString& table, const QList<QHash<QString, QVariant>>& rows);
+
     /// A small text kept under a name; empty when there is none.
     QString value(const QString& name);
     bool setValue(const QString& name, const QString& text);

@@ -24,13 +24,6 @@ QList<StemEntry> entries(const Lines& lines) {
 
 }  // namespace
 
-QString folded(const QString& text) {
-    QString plain;
-    for (const QChar c : text.toLower().normalized(QString::NormalizationForm_D))
-        if (c.category() != QChar::Mark_NonSpacing) plain += c;
-    return plain;
-}
-
 QStringList stemsOf(const QString& name) {
     QStringList stems;
     for (const QString& word : folded(name).split(u' '))
@@ -39,14 +32,7 @@ QStringList stemsOf(const QString& name) {
 }
 
 QString wordsOf(const QString& text) {
-    QString words = QStringLiteral(" ");
-    for (const QChar c : folded(text)) {
-        if (c.isLetterOrNumber())
-            words += c;
-        else if (words.back() != u' ')
-            words += u' ';
-    }
-    return words.back() == u' ' ? words : words + u' ';
+    return foldedWords(text);
 }
 
 bool hasStem(const QString& words, const QString& stem) {

@@ -4,12 +4,10 @@
 #include <QString>
 #include <QStringList>
 
+#include "core/czech.h"
 #include "textfile.h"
 
 namespace sarne::disc {
-
-/// \a text in lower case, without accents.
-QString folded(const QString& text);
 
 /// What the words of a text begin with when they speak of \a name, whatever their case: "česn" for "česnek".
 /// One for each word of the name.

@@ -1,0 +1,38 @@
+#include "core/czech.h"
+
+#include <cmath>
+
+#include "core/numbertext.h"
+
+namespace sarne {
+
+QString folded(const QString& text) {
+    QString plain;
+    for (const QChar c : text.toLower().normalized(QString::NormalizationForm_D))
+        if (c.category() != QChar::Mark_NonSpacing) plain += c;
+    return plain;
+}
+
+QString foldedWords(const QString& text) {
+    QString words = QStringLiteral(" ");
+    for (const QChar c : folded(text)) {
+        if (c.isLetterOrNumber())
+            words += c;
+        else if (words.back() != u' ')
+            words += u' ';
+    }
+    return words.back() == u' ' ? words : words + u' ';
+}
+
+const QString& Noun::behind(double number) const {
+    constexpr double kMany = 5;
+    if (number != std::floor(number)) return part;
+    if (number == 1) return one;
+    return number > 0 && number < kMany ? few : many;
+}
+
+QString counted(double number, const Noun& noun, const QLocale& locale) {
+    return numberText(number, locale) + QChar(QChar::Nbsp) + noun.behind(number);
+}
+
+}  // namespace sarne

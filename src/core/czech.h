@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QLocale>
+#include <QString>
+
+namespace sarne {
+
+/// \a text in lower case, without accents.
+QString folded(const QString& text);
+
+/// The words of \a text, folded, with a blank in front of each and behind the last: a word begins with
+/// "los" where " los" is found.
+QString foldedWords(const QString& text);
+
+/// A noun as it stands behind a number: 1 lžíce, 2 lžíce, 5 lžic, and 2,5 lžíce.
+struct Noun {
+    QString one, few, many;
+    QString part;  ///< behind a number with a decimal part
+
+    const QString& behind(double number) const;
+};
+
+/// \a number with the noun behind it.
+QString counted(double number, const Noun& noun, const QLocale& locale);
+
+}  // namespace sarne
