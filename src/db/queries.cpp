@@ -43,8 +43,7 @@ Recordset recipeSteps(Database& db, int recipe) {
 }
 
 Recordset stepNeeds(Database& db, int recipe) {
-    return open(db,
-                QStringLiteral("SELECT ID_Kroku, Radek, Podil FROM KrokySur, Kroky WHERE ID_Receptu = "),
+    return open(db, QStringLiteral("SELECT ID_Kroku, Radek, Podil FROM KrokySur, Kroky WHERE ID_Receptu = "),
                 recipe, QStringLiteral(" AND ID = ID_Kroku ORDER BY ID_Kroku, Radek"));
 }
 

@@ -54,11 +54,12 @@ QStringList kitchen() {
         named(QStringLiteral("Kroky"),
               {QStringLiteral("ID_Receptu INTEGER NOT NULL"), name, QStringLiteral("Text") + kText}),
         QStringLiteral("CREATE INDEX Kroky_ID_Receptu ON Kroky (ID_Receptu)"),
-        QStringLiteral("CREATE TABLE KrokySur (ID_Kroku INTEGER NOT NULL, Radek INTEGER NOT NULL, Podil REAL)"),
+        QStringLiteral(
+            "CREATE TABLE KrokySur (ID_Kroku INTEGER NOT NULL, Radek INTEGER NOT NULL, Podil REAL)"),
         QStringLiteral("CREATE INDEX KrokySur_ID_Kroku ON KrokySur (ID_Kroku)"),
-        // An ingredient as goods: the department, whether everyone has it, allergens by the bits of their numbers.
-        named(QStringLiteral("Zbozi"),
-              {QStringLiteral("Oddeleni INTEGER, Doma INTEGER, Alergeny INTEGER")}),
+        // An ingredient as goods: the department, whether everyone has it, allergens by the bits of their
+        // numbers.
+        named(QStringLiteral("Zbozi"), {QStringLiteral("Oddeleni INTEGER, Doma INTEGER, Alergeny INTEGER")}),
         // The refinements that a cook makes and no shop sells.
         QStringLiteral("CREATE TABLE Uprava (ID INTEGER PRIMARY KEY)"),
         // How much of a whole fish, in hundredths, is left of it in this refinement.

@@ -17,11 +17,19 @@ struct NumberWord {
     double value;
 };
 constexpr NumberWord kNumberWords[] = {
-    {QT_TRANSLATE_NOOP("Texts", "čtvrt"), 0.25}, {QT_TRANSLATE_NOOP("Texts", "půl"), 0.5},
-    {"jedn", 1},    {"dv", 2},      {QT_TRANSLATE_NOOP("Texts", "tři"), 3},
-    {QT_TRANSLATE_NOOP("Texts", "čtyř"), 4},     {QT_TRANSLATE_NOOP("Texts", "pět"), 5},
-    {QT_TRANSLATE_NOOP("Texts", "šest"), 6},     {"sedm", 7},    {"osm", 8},
-    {QT_TRANSLATE_NOOP("Texts", "devět"), 9},    {"deset", 10},  {"patn", 15},
+    {QT_TRANSLATE_NOOP("Texts", "čtvrt"), 0.25},
+    {QT_TRANSLATE_NOOP("Texts", "půl"), 0.5},
+    {"jedn", 1},
+    {"dv", 2},
+    {QT_TRANSLATE_NOOP("Texts", "tři"), 3},
+    {QT_TRANSLATE_NOOP("Texts", "čtyř"), 4},
+    {QT_TRANSLATE_NOOP("Texts", "pět"), 5},
+    {QT_TRANSLATE_NOOP("Texts", "šest"), 6},
+    {"sedm", 7},
+    {"osm", 8},
+    {QT_TRANSLATE_NOOP("Texts", "devět"), 9},
+    {"deset", 10},
+    {"patn", 15},
     {"dvac", 20},
 };
 
@@ -54,12 +62,14 @@ int unitSeconds(const QString& unit) {
 
 const QRegularExpression& pattern() {
     static const QRegularExpression found(
-        QStringLiteral("(?<![\\p{L}\\d])"
-                       "(?:(?<from>\\d+(?:,\\d+)?)\\s?[–-]\\s?)?"
-                       "(?:(?<number>\\d+ a \\d/\\d|\\d+ \\d/\\d|\\d/\\d|\\d+(?:,\\d+)?|čtvrt|půl|jedn[aéuo]|dv[aě]|"
-                       "dvou|tři|tří|čtyři|čtyř|pět|pěti|šest|sedm|osm|devět|deset|deseti|patnáct|dvacet)\\s)?"
-                       "(?<unit>minut\\p{L}*|min\\b|hodin\\p{L}*|vteřin\\p{L}*|sekund\\p{L}*|dn[ůy]|dní|den)"
-                       "(?<half> a půl)?(?!\\p{L})"),
+        QStringLiteral(
+            "(?<![\\p{L}\\d])"
+            "(?:(?<from>\\d+(?:,\\d+)?)\\s?[–-]\\s?)?"
+            "(?:(?<number>\\d+ a \\d/\\d|\\d+ \\d/\\d|\\d/\\d|\\d+(?:,\\d+)?|čtvrt|půl|jedn[aéuo]|dv[aě]|"
+            "dvou|tři|tří|čtyři|čtyř|pět|pěti|šest|sedm|osm|devět|deset|deseti|patnáct|dvacet)\\s)?"
+            "(?<unit>minut(?:ách|ami|[ayu])?|min\\b|hodin(?:ách|ami|[ayu])?|vteřin(?:[ayu])?|sekund(?:[ayu])?"
+            "|dn[ůy]|dní|den)"
+            "(?<half> a půl)?(?!\\p{L})"),
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     return found;
 }
@@ -95,7 +105,8 @@ std::vector<FoundTime> findTimes(const QString& original) {
         const int size = unitSeconds(unit);
         const auto seconds = [size](double count) { return static_cast<int>(count * size + 0.5); };
         if (longest > 0)
-            times.push_back({match.capturedStart(), match.capturedLength(), seconds(shortest), seconds(longest)});
+            times.push_back(
+                {match.capturedStart(), match.capturedLength(), seconds(shortest), seconds(longest)});
     }
     return times;
 }

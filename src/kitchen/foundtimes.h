@@ -7,7 +7,7 @@ namespace sarne {
 
 /// A length of time that a text names.
 struct FoundTime {
-    qsizetype at = 0, length = 0;  ///< where its words stand in the text
+    qsizetype at = 0, length = 0;   ///< where its words stand in the text
     int shortest = 0, longest = 0;  ///< seconds; the same where no range is named
 
     bool operator==(const FoundTime&) const = default;

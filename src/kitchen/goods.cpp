@@ -37,16 +37,16 @@ std::vector<ShoppingItem> shoppingNeeds(const std::vector<Ingredient>& ingredien
     const double factor = basePortions > 0 ? recipe.portions / basePortions : 1;
     for (const Ingredient& ingredient : ingredients) {
         const Good good = goods.of(ingredient.name);
-        needs.push_back({goods.nameInShop(ingredient),
-                         good.department,
-                         good.atHome,
-                         false,
-                         ingredient.alternative.value_or(QString()),
-                         {ShoppingPart{recipe.recipe, recipe.name, recipe.portions,
-                                       ingredient.weights.amount > 0
-                                           ? ingredient.weights.unit.value_or(QString())
-                                           : QString(),
-                                       ingredient.weights.amount * factor}}});
+        needs.push_back(
+            {goods.nameInShop(ingredient),
+             good.department,
+             good.atHome,
+             false,
+             ingredient.alternative.value_or(QString()),
+             {ShoppingPart{
+                 recipe.recipe, recipe.name, recipe.portions,
+                 ingredient.weights.amount > 0 ? ingredient.weights.unit.value_or(QString()) : QString(),
+                 ingredient.weights.amount * factor}}});
     }
     return needs;
 }

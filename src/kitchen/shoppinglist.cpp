@@ -13,9 +13,9 @@ namespace {
 constexpr size_t kMostUndone = 50;
 
 const char* const kNames[kDepartments] = {
-    QT_TRANSLATE_NOOP("Texts", "Ryby"),          QT_TRANSLATE_NOOP("Texts", "Zelenina a ovoce"),
+    QT_TRANSLATE_NOOP("Texts", "Ryby"),           QT_TRANSLATE_NOOP("Texts", "Zelenina a ovoce"),
     QT_TRANSLATE_NOOP("Texts", "Mléčné a vejce"), QT_TRANSLATE_NOOP("Texts", "Suché a pečivo"),
-    QT_TRANSLATE_NOOP("Texts", "Koření"),        QT_TRANSLATE_NOOP("Texts", "Nápoje"),
+    QT_TRANSLATE_NOOP("Texts", "Koření"),         QT_TRANSLATE_NOOP("Texts", "Nápoje"),
     QT_TRANSLATE_NOOP("Texts", "Ostatní")};
 
 bool isOf(const ShoppingPart& part, int recipe) {

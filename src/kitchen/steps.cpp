@@ -26,8 +26,8 @@ std::vector<CookingStep> readSteps(Database& db, int recipe) {
     for (Recordset rows = queries::stepNeeds(db, recipe); !rows.AtEnd(); rows.MoveNext()) {
         const auto place = places.constFind(rows.field(QStringLiteral("ID_Kroku")).toLongLong());
         if (place == places.cend()) continue;
-        steps[*place].needs.push_back({rows.field(QStringLiteral("Radek")).toInt(),
-                                       rows.field(QStringLiteral("Podil")).toDouble()});
+        steps[*place].needs.push_back(
+            {rows.field(QStringLiteral("Radek")).toInt(), rows.field(QStringLiteral("Podil")).toDouble()});
     }
     return steps;
 }
@@ -42,7 +42,8 @@ QString needText(const Ingredient& ingredient, double share, UnitSystem units, c
     bool isNumber = false;
     const double shown = locale.toDouble(numberText(Quantities::forDisplay(amount), locale), &isNumber);
     return name + QStringLiteral(" – ") +
-           amountText(isNumber ? shown : static_cast<double>(amount), measure.unit.value_or(QString()), locale);
+           amountText(isNumber ? shown : static_cast<double>(amount), measure.unit.value_or(QString()),
+                      locale);
 }
 
 QString firstSentence(const QString& text) {

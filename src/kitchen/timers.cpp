@@ -42,8 +42,8 @@ bool KitchenTimers::ringing() const {
 }
 
 int KitchenTimers::running() const {
-    return static_cast<int>(
-        std::count_if(timers_.begin(), timers_.end(), [](const KitchenTimer& timer) { return !timer.rings; }));
+    return static_cast<int>(std::count_if(timers_.begin(), timers_.end(),
+                                          [](const KitchenTimer& timer) { return !timer.rings; }));
 }
 
 KitchenTimer* KitchenTimers::find(int id) {

@@ -58,8 +58,8 @@ QString boughtAmountText(double amount, const QString& unit, const QLocale& loca
     if (!isMetric(unit)) return amountText(std::ceil(amount * 2 - 1e-6) / 2, unit, locale);
     const double shown = static_cast<double>(Quantities::forDisplay(static_cast<float>(amount)));
     if (shown < kThousand) return amountText(roundHalfEven(shown, 1), unit, locale);
-    return amountText(roundHalfEven(shown / kThousand, 2), unit == u"g" ? QStringLiteral("kg") : QStringLiteral("l"),
-                      locale);
+    return amountText(roundHalfEven(shown / kThousand, 2),
+                      unit == u"g" ? QStringLiteral("kg") : QStringLiteral("l"), locale);
 }
 
 BaseAmount inBaseUnit(double amount, const QString& unit) {

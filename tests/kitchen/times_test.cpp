@@ -67,7 +67,9 @@ TEST(Counted, FollowsTheCzechPlural) {
                        QStringLiteral("porce")};
     const Noun clove{QStringLiteral("stroužek"), QStringLiteral("stroužky"), QStringLiteral("stroužků"),
                      QStringLiteral("stroužku")};
-    const auto text = [](double n, const Noun& noun) { return counted(n, noun, kCzech).replace(QChar(0xa0), u' '); };
+    const auto text = [](double n, const Noun& noun) {
+        return counted(n, noun, kCzech).replace(QChar(0xa0), u' ');
+    };
     EXPECT_EQ(text(1, portion), QStringLiteral("1 porce"));
     EXPECT_EQ(text(4, portion), QStringLiteral("4 porce"));
     EXPECT_EQ(text(5, portion), QStringLiteral("5 porcí"));

@@ -20,17 +20,6 @@ bool hasAny(const QString& words, const QStringList& stems) {
                        [&](const QString& stem) { return hasStem(words, stem); });
 }
 
-/// By which words a text may speak of \a ingredient.
-QStringList wordsFor(const Ingredient& ingredient, const Stems& stems) {
-    QStringList words = stemsOf(ingredient.name);
-    for (const StemEntry& entry : stems.ingredients)
-        if (entry.names.contains(ingredient.name) ||
-            entry.names.contains(ingredient.name.section(u' ', 0, 0)) ||
-            (ingredient.isFish && entry.names.contains(QStringLiteral("ryba"))))
-            words << entry.stems;
-    return words;
-}
-
 void checkIngredients(const Cookbook& book, const Stems& stems, const Recipe& recipe, Problems& problems) {
     const QString words = wordsOf(joined(recipe.method) + joined(recipe.serving));
     for (const IngredientLine& line : recipe.ingredients) {
@@ -98,6 +87,16 @@ void checkTemperatures(const Lines& text, Problems& problems) {
 }
 
 }  // namespace
+
+QStringList wordsFor(const Ingredient& ingredient, const Stems& stems) {
+    QStringList words = stemsOf(ingredient.name);
+    for (const StemEntry& entry : stems.ingredients)
+        if (entry.names.contains(ingredient.name) ||
+            entry.names.contains(ingredient.name.section(u' ', 0, 0)) ||
+            (ingredient.isFish && entry.names.contains(QStringLiteral("ryba"))))
+            words << entry.stems;
+    return words;
+}
 
 void checkMethod(const Cookbook& book, const Stems& stems, const Recipe& recipe, Problems& problems) {
     checkIngredients(book, stems, recipe, problems);

@@ -5,6 +5,9 @@
 
 namespace sarne::disc {
 
+/// By which words a text may speak of \a ingredient.
+QStringList wordsFor(const Ingredient& ingredient, const Stems& stems);
+
 /// Reports what the method and the rest of a recipe tell differently: ingredients that neither the method nor
 /// the serving names, tools that it names and the list lacks, times longer than the total, temperatures
 /// without a unit, steps out of order.

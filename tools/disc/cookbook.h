@@ -60,6 +60,25 @@ struct IngredientLine {
     bool isUnclear = false;
 };
 
+/// What a method says in braces behind an ingredient of which a step takes but a part: "{máslo: polovina}".
+struct ShareMark {
+    Place place;
+    /// The index of its line in the method; -1 where it stands in how the dish is served.
+    qsizetype line = 0;
+    QString ingredient;
+    QString share;
+};
+
+/// A step as it is followed at the stove.
+struct RecipeStep {
+    Place place;
+    /// Empty but for what is no numbered step.
+    QString title;
+    QString text;
+    /// The share of each line of the list of ingredients, by its index, that the step takes.
+    QMap<qsizetype, double> shares;
+};
+
 struct Recipe {
     int id = 0;
     Place place;
@@ -97,6 +116,8 @@ struct Recipe {
     Lines serving;
     Lines note;
     Lines wineText;
+    QList<ShareMark> shareMarks;
+    QList<RecipeStep> steps;
     /// Where the head's keys and the sections stand.
     QHash<QString, Place> headPlaces;
     QHash<QString, Place> sectionPlaces;
@@ -219,6 +240,19 @@ struct Food {
     QList<int> allergens;
 };
 
+/// What the shop and the kitchen know of the ingredients: obchod.txt.
+struct Goods {
+    bool isGiven = false;
+    /// The number of a department by the ingredient's name.
+    QHash<QString, int> departments;
+    /// Ingredients that everyone has.
+    QStringList atHome;
+    /// Refinements that the cook makes and no shop sells.
+    QStringList madeAtHome;
+    /// How much of a whole fish a refinement leaves, in hundredths, by the refinement's id.
+    QMap<int, int> yields;
+};
+
 /// A word that a cook may type to find ingredients.
 struct SearchWord {
     Place place;
@@ -237,6 +271,7 @@ struct Cookbook {
     /// By ingredient, or "ingredient, refinement", in lower case.
     QHash<QString, Food> foods;
     QList<SearchWord> searchWords;
+    Goods goods;
     QMap<int, Recipe> recipes;
     QList<Article> auxiliary;
     QList<Article> keywords;

@@ -3,9 +3,11 @@
 #include "checks.h"
 #include "markup.h"
 #include "menu.h"
+#include "readgoods.h"
 #include "readrecipes.h"
 #include "readtables.h"
 #include "spelling.h"
+#include "steps.h"
 #include "typography.h"
 
 namespace sarne::disc {
@@ -97,7 +99,10 @@ Cookbook loadCookbook(const ContentFolder& folder, Problems& problems) {
     readArticles(folder, book, problems);
     readRecipes(folder, book, problems);
     readMenu(folder, book, problems);
-    checkCookbook(book, readStems(folder, problems), problems);
+    readGoods(folder, book, problems);
+    const Stems stems = readStems(folder, problems);
+    for (Recipe& recipe : book.recipes) recipe.steps = cookingSteps(book, stems, recipe, problems);
+    checkCookbook(book, stems, problems);
     return book;
 }
 

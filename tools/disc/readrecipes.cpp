@@ -5,6 +5,7 @@
 #include "nearword.h"
 #include "readtables.h"
 #include "recipehead.h"
+#include "steps.h"
 
 namespace sarne::disc {
 namespace {
@@ -77,7 +78,9 @@ void readSection(const Section& section, const Cookbook& book, Recipe& recipe, P
         for (const Line& line : section.lines)
             if (!line.isBlank()) recipe.ingredients << readIngredientLine(line, book, problems);
     } else if (texts.contains(section.title)) {
-        recipe.*texts.value(section.title) = section.lines;
+        Lines& text = recipe.*texts.value(section.title) = section.lines;
+        if (&text == &recipe.method) recipe.shareMarks << takeShareMarks(text, StepText::method, problems);
+        if (&text == &recipe.serving) recipe.shareMarks << takeShareMarks(text, StepText::serving, problems);
     } else {
         problems.error(section.place,
                        QStringLiteral("neznámá část „%1“").arg(section.title) +

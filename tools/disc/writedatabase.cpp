@@ -12,6 +12,7 @@
 #include "menu.h"
 #include "readsponsors.h"
 #include "recipefacts.h"
+#include "writekitchen.h"
 
 namespace sarne::disc {
 namespace {
@@ -52,6 +53,9 @@ class CookbookWriter {
         lookupTables();
         galleries();
         menu();
+        writeKitchen(
+            book_,
+            [this](const QString& table, const QVariantList& values) { writer_.add(table, values); }, problems_);
     }
 
   private:
