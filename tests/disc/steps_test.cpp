@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "db/database.h"
 #include "disc/season.h"
 #include "kitchen/goods.h"
 #include "kitchen/steps.h"
@@ -68,8 +69,8 @@ TEST(StepsTest, WhatDoesNotAddUpIsReportedAtItsLine) {
     };
     for (const WrongMark& one : cases) {
         SmallCookbook small;
-        ASSERT_TRUE(small.replace(kRecipe, QStringLiteral("na másle"),
-                                  QStringLiteral("na másle ") + QString::fromUtf8(one.mark)));
+        ASSERT_TRUE(small.replace(kRecipe, QStringLiteral("pánvi na másle"),
+                                  QStringLiteral("pánvi na másle ") + QString::fromUtf8(one.mark)));
         const QString all = small.complaints().join(u'\n');
         EXPECT_TRUE(all.contains(QString::fromUtf8(one.message))) << one.mark << "\n" << all.toStdString();
     }
@@ -108,7 +109,7 @@ TEST(GoodsTest, TheShippedBookKnowsItsGoodsAndSteps) {
     writeRecipeDatabase(book, file, problems);
     Database db;
     ASSERT_TRUE(db.Open(file));
-    const Goods goods(db);
+    const sarne::Goods goods(db);
     EXPECT_EQ(goods.of(QStringLiteral("kapr")).department, Department::Fish);
     EXPECT_TRUE(goods.of(QStringLiteral("sůl")).atHome);
     EXPECT_EQ(goods.of(QStringLiteral("máslo")).allergens, 1 << 6);
