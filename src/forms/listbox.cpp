@@ -189,7 +189,7 @@ void ListBox::rescale() {
 
 void ListBox::paint(QPainter& painter) {
     const QRect place({0, 0}, twips().size());
-    painter.setPen(QPen(colors::kCopper, kBorder));
+    painter.setPen(QPen(colors::kCopper, kBorder, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(colors::kPaper);
     painter.drawRect(QRectF(place).adjusted(kBorder / 2., kBorder / 2., -kBorder / 2., -kBorder / 2.));
     if (showsFocus()) paintFocusRing(painter, place);

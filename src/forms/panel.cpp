@@ -32,7 +32,7 @@ void paintPanel(QPainter& painter, const QRect& place, const Picture& ground) {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(colors::kNight, 2 * kFrame));
     painter.drawRect(place);
-    painter.setPen(QPen(colors::kCopper, kFrame));
+    painter.setPen(QPen(colors::kCopper, kFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(QRectF(place).adjusted(kFrame / 2., kFrame / 2., -kFrame / 2., -kFrame / 2.));
 }
 
