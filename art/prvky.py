@@ -11,6 +11,7 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import bpy  # noqa: E402
 import numpy as np  # noqa: E402
 
+import stin  # noqa: E402
 from lib import core, fish as fishlib, food, table  # noqa: E402
 from lib.core import box, curve_points, group, lathe, mat, mesh, outline_solid, put, smooth_profile, sphere, text, tube  # noqa: E402
 
@@ -282,10 +283,10 @@ def _cutlery(n, s):
     m = mat("isilver", ((.3, "c2c2bc"), (.7, "efece2")), .18, metal=1)
     for i in range(n):
         x = (i - (n - 1) / 2) * (4.0 / n if n > 1 else 1)
-        f = put(table.fork(2.9, m), x - .30 * (1 if n < 3 else .62), -.62, .1, turn=90, scale=(1, .86 if n < 3 else .7, 1))
-        k = put(table.tableknife(2.9, m), x + .38 * (1 if n < 3 else .62), -.62, .1, turn=90, scale=(1, .95 if n < 3 else .8, 1))
+        f = put(table.fork(2.9, m), x - .30 * (1 if n < 3 else .62), -.1, .1, turn=90, scale=(1, .86 if n < 3 else .7, 1))
+        k = put(table.tableknife(2.9, m), x + .38 * (1 if n < 3 else .62), -.1, .1, turn=90, scale=(1, .95 if n < 3 else .8, 1))
         gr += [f, k]
-    gr.append(put(text(s, 2.2, mat("digit", "f0b878", .25, metal=.7, coat=.5), .4, .06), 0, -1.72, .1))
+    gr.append(put(text(s, 3.1, mat("digit", "f0b878", .25, metal=.7, coat=.5), .5, .07), 0, -1.6, .1))
     return facing(group(gr), 30)
 
 
@@ -634,6 +635,7 @@ def make(name):
         px = core.render_linear(256, 256, 14)
         px[..., 3] = np.clip((px[..., 3] - .12) / .88, 0, 1)  # the far shade of the shadow would draw the tile's edge
         core.save(px, path, alpha=True)
+        stin.soften(path)
 
 
 def main(names):
