@@ -21,25 +21,27 @@ struct Size {
 void boxRows(Plane& p, Size s, int r) {
 #pragma omp parallel for
     for (int y = 0; y < s.height; ++y) {
-        Plane row(p.begin() + s.at(0, y), p.begin() + s.at(0, y) + s.width);
-        double sum = 0;
-        for (int x = -r; x <= r; ++x) sum += row[std::clamp(x, 0, s.width - 1)];
-        for (int x = 0; x < s.width; ++x) {
-            p[s.at(x, y)] = static_cast<float>(sum / (2 * r + 1));
-            sum += row[std::min(x + r + 1, s.width - 1)] - row[std::max(x - r, 0)];
-        }
+        float* out = &p[s.at(0, y)];
+        std::vector<float> row(s.width + 2 * r, out[0]);  // its ends go on
+        std::copy(out, out + s.width, row.begin() + r);
+        std::fill(row.begin() + r + s.width, row.end(), out[s.width - 1]);
+        std::fill(out, out + s.width, 0.F);
+        for (int d = 0; d <= 2 * r; ++d)
+            for (int x = 0; x < s.width; ++x) out[x] += row[x + d] / static_cast<float>(2 * r + 1);
     }
 }
 
 void boxColumns(Plane& p, Size s, int r) {
-    Plane in = p;
+    const Plane in = p;
 #pragma omp parallel for
-    for (int y = 0; y < s.height; ++y)
-        for (int x = 0; x < s.width; ++x) {
-            float sum = 0;
-            for (int d = -r; d <= r; ++d) sum += in[s.at(x, std::clamp(y + d, 0, s.height - 1))];
-            p[s.at(x, y)] = sum / (2 * r + 1);
+    for (int y = 0; y < s.height; ++y) {
+        float* out = &p[s.at(0, y)];
+        std::fill(out, out + s.width, 0.F);
+        for (int d = -r; d <= r; ++d) {
+            const float* row = &in[s.at(0, std::clamp(y + d, 0, s.height - 1))];
+            for (int x = 0; x < s.width; ++x) out[x] += row[x] / static_cast<float>(2 * r + 1);
         }
+    }
 }
 
 void box(Plane& p, Size s, int r) {
@@ -60,21 +62,15 @@ Plane variance(const Plane& l, Size s) {
     return v;
 }
 
-struct Guide {
-    const float* albedo;
-    const float* normal;
-};
-
-float guideWeight(const Guide& g, std::size_t i, std::size_t j) {
-    float a = 0;
-    float n = 0;
-    for (int c = 0; c < 3; ++c) {
-        const float da = g.albedo[3 * i + c] - g.albedo[3 * j + c];
-        const float dn = g.normal[3 * i + c] - g.normal[3 * j + c];
-        a += da * da;
-        n += dn * dn;
-    }
-    return a / 0.02F + n / 0.18F;
+/// Surface colour and normal, one plane for each of their six numbers, so that a row is worked on at once.
+std::vector<Plane> guidePlanes(const float* albedo, const float* normal, std::size_t n) {
+    std::vector<Plane> planes(6, Plane(n));
+    for (std::size_t i = 0; i < n; ++i)
+        for (int c = 0; c < 3; ++c) {
+            planes[c][i] = albedo[3 * i + c] * std::sqrt(1 / 0.02F);
+            planes[3 + c][i] = normal[3 * i + c] * std::sqrt(1 / 0.18F);
+        }
+    return planes;
 }
 
 }  // namespace
@@ -100,33 +96,45 @@ extern "C" void denoise(float* colour, const float* albedo, const float* normal,
     std::vector<Plane> acc(3, Plane(n, 0.F));
     Plane total(n, 1e-9F);
     Plane dist(n);
-    const Guide guide{albedo, normal};
+    const std::vector<Plane> guide = guidePlanes(albedo, normal, n);
     const float k2 = 0.45F * strength * strength + 1e-6F;
     for (int dy = -radius; dy <= radius; ++dy)
         for (int dx = -radius; dx <= radius; ++dx) {
             if (dx * dx + dy * dy > radius * radius + 1) continue;
 #pragma omp parallel for
-            for (int y = 0; y < height; ++y)
-                for (int x = 0; x < width; ++x) {
-                    const auto i = s.at(x, y);
-                    const auto j = s.at(std::clamp(x + dx, 0, width - 1), std::clamp(y + dy, 0, height - 1));
-                    const float d = lum[i] - lum[j];
-                    dist[i] =
-                        (d * d - (var[i] + std::min(var[i], var[j]))) / (1e-5F + k2 * (var[i] + var[j]));
-                }
+            for (int y = 0; y < height; ++y) {
+                const std::size_t row = s.at(0, y);
+                const std::size_t other = s.at(0, std::clamp(y + dy, 0, height - 1));
+                const auto at = [&](int x, std::size_t j) {
+                    const float d = lum[row + x] - lum[j];
+                    const float v = var[row + x];
+                    dist[row + x] = (d * d - (v + std::min(v, var[j]))) / (1e-5F + k2 * (v + var[j]));
+                };
+                const int from = std::max(0, -dx);
+                const int to = std::min(width, width - dx);
+                for (int x = 0; x < from; ++x) at(x, other);
+                for (int x = from; x < to; ++x) at(x, other + x + dx);
+                for (int x = to; x < width; ++x) at(x, other + width - 1);
+            }
             box(dist, s, 2);
+            const int from = std::max(0, -dx);
+            const int to = std::min(width, width - dx);
 #pragma omp parallel for
-            for (int y = 0; y < height; ++y)
-                for (int x = 0; x < width; ++x) {
-                    const int x2 = x + dx;
-                    const int y2 = y + dy;
-                    if (x2 < 0 || y2 < 0 || x2 >= width || y2 >= height) continue;
-                    const auto i = s.at(x, y);
-                    const auto j = s.at(x2, y2);
-                    const float w = std::exp(-std::max(0.F, dist[i]) - guideWeight(guide, i, j));
-                    for (int c = 0; c < 3; ++c) acc[c][i] += w * light[c][j];
-                    total[i] += w;
-                }
+            for (int y = std::max(0, -dy); y < std::min(height, height - dy); ++y) {
+                const std::size_t row = s.at(0, y);
+                const std::size_t other = s.at(0, y + dy) + dx;
+                std::vector<float> weight(width);
+                for (int x = from; x < to; ++x) weight[x] = std::max(0.F, dist[row + x]);
+                for (const Plane& g : guide)
+                    for (int x = from; x < to; ++x) {
+                        const float d = g[row + x] - g[other + x];
+                        weight[x] += d * d;
+                    }
+                for (int x = from; x < to; ++x) weight[x] = std::exp(-weight[x]);
+                for (int c = 0; c < 3; ++c)
+                    for (int x = from; x < to; ++x) acc[c][row + x] += weight[x] * light[c][other + x];
+                for (int x = from; x < to; ++x) total[row + x] += weight[x];
+            }
         }
     for (std::size_t i = 0; i < n; ++i)
         for (int c = 0; c < 3; ++c)
