@@ -108,15 +108,17 @@ def video():
         v = []
         nx, ny, folds = 470, 30, 380   # the last folds are those beyond the edge of a 4:3 display
         for i in range(-folds, nx - folds):
+            uneven = 9 * float(core.fbm([[i * .021, s * 3, 0]], 3, 4)[0])   # no two folds of one width
             for j in range(ny):
                 x = s * (20.5 - 4.6 * i / 89)
-                v.append((x, -16 + 32 * j / (ny - 1), .7 + .5 * math.sin(i * .55) + .15 * math.sin(i * .23 + j * .2)))
+                fold = math.sin(i * .36 + uneven + .12 * math.sin(j * .3 + i * .05))
+                v.append((x, -16 + 32 * j / (ny - 1), .75 + .55 * math.copysign(abs(fold) ** .8, fold) + .15 * math.sin(i * .23 + j * .2)))
         mesh(v, core.grid_faces(nx, ny), cur)
     slab_px(190, 90, 1410, 1000, table.wood("walnut"), .8, .5, .2)
     slab_px(238, 138, 1362, 952, mat("screen", "050c0e", .25, .4, coat=.15), .9, .35, .1, z=.06)
     frame_px(226, 126, 1374, 964, .3, z=.5, r=.5)
-    slab_px(-840, 1046, 2440, 1240, table.wood("dark"), 1.6, .1, .2)
-    put(tube([(-41, 0, 0), (41, 0, 0)], .14, copper(), 16), 0, px(0, 1048)[1], 1.6)
+    slab_px(-840, 1046, 2440, 1240, table.wood("dark"), 2.2, .1, .2)
+    put(tube([(-41, 0, 0), (41, 0, 0)], .14, copper(), 16), 0, px(0, 1048)[1], 2.2)
     above(.75)
 
 

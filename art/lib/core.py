@@ -578,11 +578,13 @@ def world(col="14383f", strength=0.6):
 
 
 def evening(strength=1.0):
-    """The light of every dish: warm lamp from the left, teal dusk all round, a cool rim from the window behind."""
+    """The light of every dish: warm lamp from the left, teal dusk all round, a cool rim from the window behind, and a
+    broad soft one high behind the table, which moist and glazed things mirror."""
     world("3d6a72", 0.42 * strength)
     area((-7.5, 4.5, 8.5), (0, 0, 0.5), 3.4, 1900 * strength, "ffe2bd")
     area((6.5, 8.5, 5.0), (0, 0, 0.5), 4.5, 700 * strength, "a9dbe6")
     area((2.0, -9.0, 8.0), (0, 0, 0), 6.0, 300 * strength, "ffecd6")
+    area((-1.5, 12.0, 11.5), (0, 0, 0.5), 7.0, 420 * strength, "fff0dc", 2.6)
 
 
 def camera(at, target, lens=62, fstop=None, focus=None, sensor=36, ortho=None):

@@ -8,4 +8,4 @@ from .vegetables import (almond, apple_slice, asparagus, aubergine_slice, bacon,
 from .herbs import (_dill, _leafshape, _needle, _needles, herb_mat, leaf, lettuce, sprig)  # noqa: F401
 from .strewn import (_bit, sprinkle)  # noqa: F401
 from .sauces import (SAUCES, aspic_cube, aspic_mat, aspic_mould, drape, drops, line, liquid, pool, salad_heap, sauce_mat, steam, swirl, swirl_cream)  # noqa: F401
-from .home import (bramborak, halved, penne, salmonportion, sauerkraut, spinach, spreadheap, tin)  # noqa: F401
+from .home import (bramborak, codsalad, halved, penne, salmonportion, sauerkraut, spinach, spreadheap, tin)  # noqa: F401

@@ -73,11 +73,11 @@ def steak(outer, inner, kind="white", state="roasted", seed=1, n=360):
     seam = seam * np.clip((deep - .2) / .15, 0, 1)   # no bull's eye in the middle of a muscle
     tall = tall + .4 * (fine - .5)
     seam = np.maximum(seam, np.clip((.035 - X) / .02, 0, 1) * (Y > .1) * .9)
-    side = np.clip((.11 * np.clip(X - .25, 0, 1) - np.abs(Y - .1)) / .03 + .4, 0, 1)
+    side = np.clip((.1 * np.clip(X - .55, 0, 1) - np.abs(Y - .1)) / .03 + .3, 0, 1) * np.clip((X - .5) / .2, 0, 1)
     base = "e2bf86" if cooked and kind == "white" else raw if cooked else POACHED.get(kind, raw)
     img = _tone(base) * (.84 + .26 * fine[..., None])
     img = img + (_tone("fbf0d8" if kind == "white" else seam_) - img) * (seam * (.2 if cooked else .5))[..., None]
-    img = img + (_tone("8a5a3c") * .9 - img) * (side * .6)[..., None]
+    img = img + (_tone("8a5a3c") * .9 - img) * (side * (.6 if cooked else .35))[..., None]
     if cooked:
         f = np.clip(1.0 - rim / .34, 0, 1) ** 1.2 * .8 + (wide - .5) * 2.6 + .5
         img = _brown(img, np.clip(f, .1, 1) * (1 - .3 * seam), crust, burnt, fine)

@@ -8,10 +8,11 @@ from mathutils import Matrix, Vector
 from ..core import fbm, grid_faces, group, mat, mesh, outline_solid, put, scatter, tube
 from ..table import rounded_rect, steel
 from .flakes import flakes
-from .pieces import _cubelet, block, fillet
+from .pieces import _cubelet, block, fillet, flake
 from .sauces import sauce_mat
 from .shapes import blob, slab
 from .surfaces import fishskin
+from .vegetables import dice, pea, strip
 
 
 def _pancake():
@@ -21,12 +22,13 @@ def _pancake():
 def _shreds(o, n):
     """Shreds of grated potato fried into a surface: golden, dark at their tips."""
     v, f = _cubelet()
-    polys = [p for p in o.data.polygons if p.normal.z > -.3]
+    polys = [p for p in o.data.polygons if p.normal.z > -.1]
+    size = [p.area for p in polys]   # as thick on the flat as at the rim, whose faces are many and small
     ts = []
-    for _ in range(n):
-        p = random.choice(polys)
-        turn = Vector((0, 0, 1)).rotation_difference(p.normal).to_matrix().to_4x4() @ Matrix.Rotation(random.random() * 6.28, 4, "Z") @ Matrix.Rotation(random.uniform(-.12, .12), 4, "Y")
-        ts.append(Matrix.Translation(p.center) @ turn @ Matrix.Diagonal((random.uniform(.1, .3), .022, .014, 1)))
+    for p in random.choices(polys, size, k=n):
+        along = random.random() * 6.28 if p.normal.z > .6 else random.choice((0, 3.14)) + random.uniform(-.5, .5)
+        turn = Vector((0, 0, 1)).rotation_difference(p.normal).to_matrix().to_4x4() @ Matrix.Rotation(along, 4, "Z") @ Matrix.Rotation(random.uniform(-.07, .07), 4, "Y")
+        ts.append(Matrix.Translation(p.center - p.normal * .008) @ turn @ Matrix.Diagonal((random.uniform(.06, .2), .02, .013, 1)))
     return scatter(v, f, ts, mat("shred", ((.34, "7a4212"), (.5, "c98f38"), (.64, "e8cb8c")), .4, coat=.3, noise=1.6, detail=4), False)
 
 
@@ -98,9 +100,32 @@ def tin(sx=3.4, sy=2.2, h=.7):
     oil = put(outline_solid(rounded_rect(sx - .2, sy - .2, .5), .1, mat("tinoil", "d9a93a", .05, .6, trans=.35, ior=1.3, coat=1), .02), 0, 0, h * .42)
     lid = [tube([(sx / 2 - .1 + .05 * i, -sy / 2 + .15, h + .12 + .06 * math.sin(i)), (sx / 2 - .1 + .05 * i, sy / 2 - .15, h + .12 + .06 * math.sin(i))], .2 - .03 * i, m, 16) for i in range(3)]
     parts = [wall, floor, oil, *lid]
+    skin = mat("sardineskin", ((.34, "3d4f58"), (.46, "8fa0a4"), (.6, "d3dad6"), (.72, "a89a6a")), .2, .6, coat=.8, metal=.55, noise=1.3, stretch=(.5, 2.2, 1), bump=.2, cells=16)
     for i in range(4):
-        f = fillet("grey", "raw", sx * .84, .62, .34, "herring", i)
-        parts.append(put(f, -.05, (i - 1.5) * .46, h * .42 + .04, turn=180 * (i % 2) + random.uniform(-4, 4), roll=0))
+        n = 40
+        x = np.linspace(-.5, .5, n)
+        rad = .3 * np.clip(1.06 - .55 * (x + .5) ** 1.6, 0, 1) * np.sqrt(np.clip((.5 - np.abs(x)) / .06, .03, 1))
+        o = tube([(q * sx * .84, .05 * math.sin(q * 3 + i), .22) for q in x], list(rad), skin, 20)
+        parts.append(put(o, -.05, (i - 1.5) * .47, h * .42 - .06, turn=180 * (i % 2) + random.uniform(-3, 3), scale=(1, .82, 1)))
+    return group(parts)
+
+
+def codsalad(r=2.0, h=1.0, n=46):
+    """Mound of cod in mayonnaise: large flakes and thin strips of roots, bound by a dressing that shines between them."""
+    base = slab(blob(2 * r, 1.8 * r, .14, 90), h * .8, sauce_mat("mayonnaise"), 2.3, .16, 1.4, 26, .05, .05, 4, taper=-.05)
+    parts = [base]
+    for i in range(n * 2):
+        a, q = i * 2.399 + random.uniform(-.2, .2), math.sqrt((i + .5) / (n * 2)) * .93
+        x, y = r * q * math.cos(a), .9 * r * q * math.sin(a)
+        hit, loc, nor, _ = base.ray_cast(Vector((x, y, 9)), Vector((0, 0, -1)))
+        if not hit:
+            continue
+        kind = ("fish", "carrot", "fish", "pea", "fish", "celeriac", "gherkin", "fish", "leek", "pea")[i % 10]
+        o = flake("white", 1.0) if kind == "fish" else pea(.17) if kind == "pea" else dice("gherkin", .3) if kind == "gherkin" else strip(kind, random.uniform(.8, 1.2), .12)
+        sunk = {"fish": .06, "pea": .13, "gherkin": .08}.get(kind, .03)
+        turn = Vector((0, 0, 1)).rotation_difference(nor).to_matrix().to_4x4() @ Matrix.Rotation(random.random() * 6.28, 4, "Z") @ Matrix.Rotation(random.uniform(-.3, .3), 4, "X")
+        o.matrix_world = Matrix.Translation(loc - nor * sunk) @ turn
+        parts.append(o)
     return group(parts)
 
 
@@ -124,16 +149,16 @@ def halved(kind="tench", length=5.4, state="poached"):
             if hit:
                 line.append((loc.x, loc.y, loc.z - .012))
         if len(line) > 3:
-            parts.append(tube(line, [.02 + .05 * math.sin(math.pi * i / (len(line) - 1)) for i in range(len(line))], cut, 6))
+            parts.append(tube(line, [.012 + .03 * math.sin(math.pi * i / (len(line) - 1)) for i in range(len(line))], cut, 6))
     return group(parts)
 
 
 def salmonportion(sx=3.6, sy=2.0, h=1.0):
-    """Salmon fried on its skin: silver skin below, pink flakes, a golden top with dark edges."""
-    o = block("pink", "seared", sx, sy, h, None, 7)
-    skin = slab(blob(sx * 1.01, sy * 1.02, .07, 72, 4.2, 7), .14, fishskin("salmon", "roasted"), 6, .02, 2, 10, 0, .02, 7, 7, taper=0)
-    o.location.z = .1
-    return group([o, skin])
+    """Salmon fried on its skin and served with it up: crisp skin, pink flakes along the cut sides, dark edges."""
+    skin = mat("crispsalmon", ((.34, "2e241c"), (.46, "6d5a44"), (.58, "a89070"), (.68, "c9bca2")), .26, .55, coat=.7, metal=.2, noise=1.1, stretch=(.6, 1.6, 1), bump=.5, cells=11)
+    o = block("pink", "seared", sx, sy, h, "salmon", 7)
+    o.data.materials[0] = skin
+    return group([o])
 
 
 def spreadheap(sx=3.0, sy=2.0, h=.4):

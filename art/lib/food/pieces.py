@@ -92,7 +92,7 @@ def grillmarks(o, seed=0, n=5, col="140a05"):
         for y in np.arange(min(ys) - .1, max(ys) + .1, .07):
             x = x0 + (y - ys[0]) * .25
             hit, loc, nor, _ = o.ray_cast(Vector((x, y, zt + 2)), Vector((0, 0, -1)))
-            if hit and nor.z > .6:
+            if hit and abs(nor.z) > .6:
                 run.append((loc.x, loc.y, loc.z))
             elif len(run) > 2:
                 _bar(run, pts, quads)

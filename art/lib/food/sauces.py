@@ -174,9 +174,8 @@ def steam(at=(0, 0, 2), h=3.0, r=.6, strength=.25, seed=0):
     nt.nodes.remove(nt.nodes["Principled BSDF"])
     em = nt.nodes.new("ShaderNodeEmission")
     em.inputs[0].default_value = (.75, .85, .9, 1)
-    em.inputs[1].default_value = .8
     tr = nt.nodes.new("ShaderNodeBsdfTransparent")
-    mx = nt.nodes.new("ShaderNodeMixShader")
+    both = nt.nodes.new("ShaderNodeAddShader")   # a mixture of the two would be grainy
     uvn = nt.nodes.new("ShaderNodeUVMap")
     sep = nt.nodes.new("ShaderNodeSeparateXYZ")
     nt.links.new(uvn.outputs[0], sep.inputs[0])
@@ -188,10 +187,10 @@ def steam(at=(0, 0, 2), h=3.0, r=.6, strength=.25, seed=0):
     nt.links.new(uvn.outputs[0], mp.inputs[0])
     nt.links.new(mp.outputs[0], nz.inputs["Vector"])
 
-    def mth(op, a, b):
+    def mth(op, a, b, clamp=True):
         n = nt.nodes.new("ShaderNodeMath")
         n.operation = op
-        n.use_clamp = True
+        n.use_clamp = clamp
         for i, q in enumerate((a, b)):
             if hasattr(q, "links"):
                 nt.links.new(q, n.inputs[i])
@@ -199,7 +198,7 @@ def steam(at=(0, 0, 2), h=3.0, r=.6, strength=.25, seed=0):
                 n.inputs[i].default_value = q
         return n.outputs[0]
 
-    sx = mth("SINE", mth("MULTIPLY", sep.outputs[0], 3.1416), 0)
+    sx = mth("SINE", mth("MULTIPLY", sep.outputs[0], 3.1416, False), 0)
     n_ = nt.nodes.new("ShaderNodeMath")
     n_.operation = "SINE"
     m2 = nt.nodes.new("ShaderNodeMath")
@@ -208,11 +207,10 @@ def steam(at=(0, 0, 2), h=3.0, r=.6, strength=.25, seed=0):
     m2.inputs[1].default_value = 3.1416
     nt.links.new(m2.outputs[0], n_.inputs[0])
     f = mth("MULTIPLY", mth("MULTIPLY", mth("POWER", sx, 1.6), n_.outputs[0]), mth("SUBTRACT", nz.outputs["Fac"], .38))
-    f = mth("MULTIPLY", f, strength * 6)
-    nt.links.new(f, mx.inputs[0])
-    nt.links.new(tr.outputs[0], mx.inputs[1])
-    nt.links.new(em.outputs[0], mx.inputs[2])
-    nt.links.new(mx.outputs[0], out.inputs[0])
+    nt.links.new(mth("MULTIPLY", f, strength * 4.8), em.inputs[1])
+    nt.links.new(tr.outputs[0], both.inputs[0])
+    nt.links.new(em.outputs[0], both.inputs[1])
+    nt.links.new(both.outputs[0], out.inputs[0])
     nx, nz_ = 12, 40
     u, v = np.meshgrid(np.linspace(0, 1, nx), np.linspace(0, 1, nz_), indexing="ij")
     x = at[0] + (u - .5) * 2 * r * (.5 + v * .8) + .35 * r * np.sin(v * 5 + seed)

@@ -103,11 +103,19 @@ def toast_triangle(s=1.6):
 
 
 def roll(length=3.0, r=.8):
-    """Bread roll (rohlík) with poppy or salt left out: bent bar with ends."""
-    m = mat("rollcrust", ((.36, "8a4c18"), (.5, "b87a34"), (.64, "d9a860")), .45, .4, noise=2, bump=.2, bumpscale=6, coat=.3)
-    pts = [(x * length / 2, -.12 * x * x * length, r * .8) for x in np.linspace(-1, 1, 24)]
-    rad = [r * math.sqrt(max(.02, 1 - abs(x) ** 3.2)) * (.9 + .1 * math.cos(x * 20)) for x in np.linspace(-1, 1, 24)]
-    return tube(pts, rad, m, 28)
+    """Bread roll (rohlík): a bent bar rolled up from dough, thick in the middle, with salt and poppy seed."""
+    m = mat("rollcrust", ((.34, "7a3d10"), (.48, "b06a26"), (.6, "d29a4c"), (.72, "e8c486")), .38, .4, noise=1.4, detail=8, bump=.12, bumpscale=14, coat=.35)
+    x = np.linspace(-1, 1, 120)
+    turns = np.mod(x * 3.6 + .3, 1)   # where one turn of the dough ends on the next
+    rad = r * (1 - .52 * np.abs(x) ** 1.7) * np.sqrt(np.clip((1 - np.abs(x)) / .05, .04, 1)) * (.965 + .05 * turns ** 1.5)
+    o = tube([(q * length / 2, -.13 * q * q * length, r * .8) for q in x], list(rad), m, 36)
+    grains = []
+    tops = [p for p in o.data.polygons if p.normal.z > .35]
+    for kind, n in (("f4efe4", 26), ("2a2620", 60)):
+        v, f = _grain()
+        ts = [Matrix.Translation(random.choice(tops).center) @ Matrix.Rotation(random.random() * 6, 4, "Z") @ Matrix.Diagonal((.04, .03, .025, 1) if kind[0] == "f" else (.018, .014, .014, 1)) for _ in range(n)]
+        grains.append(scatter(v, f, ts, mat("grain" + kind, kind, .5)))
+    return group([o, *grains])
 
 
 def crouton(s=.34):

@@ -45,7 +45,7 @@ def _bit(kind):
     if kind == "paprika":
         return (*_lump(5), mat("paprikagr", "a82c0c", .7), lambda: (random.uniform(.015, .03),) * 3)
     if kind == "crumbs":
-        return (*_lump(6), crumb("gold"), lambda: (random.uniform(.03, .07),) * 3)
+        return (*_lump(6), crumb("gold"), lambda: tuple(random.uniform(.012, .05) for _ in range(3)))
     if kind == "cheese":
         return (*_needle(), mat("cheese", ((.4, "e0b24a"), (.6, "f0d07a")), .4, sss=.1), lambda: (random.uniform(.2, .45), .05, .04))
     if kind == "horseradish":
