@@ -95,12 +95,23 @@ void Program::findMediaRoot() {
 void Program::openDatabase() {
     const RecipeDatabase book = usableRecipeDatabase(folders_.program + QStringLiteral("/Sarne.drc"),
                                                      folders_.userData + QStringLiteral("/Sarne.drc"));
-    db_.Open(book.file);
+    book_ = book.file;
+    db_.Open(book_);
     for (const KeptNote& note : book.homeless) notes_.keep(note);
-    restoreNotes(db_, notes_.all());
+    homeless_ = restoreNotes(db_, notes_.all());
     // Search results live in the menu's table; they are nothing to keep, and no full disk shall spoil a
     // search.
     db_.keepInMemory(QStringLiteral("Menu"));
+}
+
+Condition Program::condition() {
+    Condition found;
+    if (!db_.OpenTable(QStringLiteral("Recepty")).isOpen()) found.unreadableBook = book_;
+    if (!isFolder(paths().resolve(MediaRoot))) found.missingMedia = MediaRoot;
+    found.keptAside =
+        keptAsideCopies(folders_.userData + QStringLiteral("/Sarne.drc")) + keptAsideCopies(userFile_.path());
+    found.homeless = homeless_;
+    return found;
 }
 
 frmMessage& Program::messageForm() {

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <memory>
 
+#include "app/condition.h"
 #include "app/platformparts.h"
 #include "app/programscreens.h"
 #include "db/database.h"
@@ -34,6 +35,8 @@ class Program final : public QObject, public basSarne {
     /// display is restored.
     void endAtOnce();
 
+    /// What this run goes without at the moment.
+    Condition condition();
     /// Whether the user has ended the program.
     bool hasEnded() const { return Ending; }
     frmHlavni* mainScreen() const { return screens_.mainScreen(); }
@@ -76,6 +79,8 @@ class Program final : public QObject, public basSarne {
     Database db_;
     UserFile userFile_;
     NoteStore notes_{userFile_};
+    QString book_;  // the recipe database's native path
+    std::vector<KeptNote> homeless_;
     std::unique_ptr<Stage> stage_;
     ProgramScreens screens_;
     std::unique_ptr<Announcer> announcer_;

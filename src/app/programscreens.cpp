@@ -69,10 +69,11 @@ void ProgramScreens::showPage(const QString& id) {
 
 void ProgramScreens::showHelpFor(const QString& formName) {
     const QString page = helpPageFor(program_.Db(), formName);
-    if (page.isEmpty())
+    const auto additions = helpAdditions(formName, program_.condition());
+    if (page.isEmpty() && additions.empty())
         showList({}, QStringLiteral("Help"), {});
     else
-        showPage(page);
+        (new frmStranka(program_))->Zobraz(page, additions);
 }
 
 void ProgramScreens::showTables(std::int16_t item) {

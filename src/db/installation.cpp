@@ -50,11 +50,9 @@ bool isSoundBook(const QString& file) {
            db.OpenTable(QStringLiteral("Nastav")).isOpen();
 }
 
-/// Keeps a copy of \a file, which is left where it is, under a dated name. Returns that; empty when it cannot
-/// be.
-QString keepAside(const QString& file) {
-    const QString name = keptAsideName(file);
-    return QFile::copy(file, name) ? name : QString();
+/// Keeps a copy of \a file, which is left where it is, under a dated name.
+bool keepAside(const QString& file) {
+    return QFile::copy(file, keptAsideName(file));
 }
 
 /// Puts a copy of \a shipped in the place of \a result's file, which is sound or not there when \a wasSound.
@@ -67,8 +65,7 @@ bool makeCopy(const QString& shipped, RecipeDatabase& result, bool wasSound) {
     if (QFile::exists(result.file)) {
         CarriedData carried = carryOverUserData(result.file, fresh);
         result.homeless = std::move(carried.homeless);
-        if (!wasSound) result.keptAside = keepAside(result.file);
-        if (!carried.stored || (!wasSound && result.keptAside.isEmpty())) return false;
+        if (!carried.stored || (!wasSound && !keepAside(result.file))) return false;
     }
     QFile::remove(result.file + QStringLiteral("-journal"));
     return syncToDisk(fresh) &&
@@ -134,9 +131,9 @@ CarriedData carryOverUserData(const QString& from, const QString& to) {
 }
 
 RecipeDatabase usableRecipeDatabase(const QString& shipped, const QString& ownCopy) {
-    if (canBeWritten(shipped)) return {shipped, {}, {}};
-    if (!QFile::exists(shipped)) return {QFile::exists(ownCopy) ? ownCopy : shipped, {}, {}};
-    RecipeDatabase result{ownCopy, {}, {}};
+    if (canBeWritten(shipped)) return {shipped, {}};
+    if (!QFile::exists(shipped)) return {QFile::exists(ownCopy) ? ownCopy : shipped, {}};
+    RecipeDatabase result{ownCopy, {}};
     const QString markFile = ownCopy + QStringLiteral(".origin");
     const QString mark = digest(shipped);
     const bool sound = isSoundBook(ownCopy);

@@ -7,10 +7,9 @@
 
 namespace sarne {
 
-/// The recipe database that a run works on, and what became of an older copy of the user's.
+/// The recipe database that a run works on, and what of an older copy of the user's is not in it.
 struct RecipeDatabase {
     QString file;                    ///< native path
-    QString keptAside;               ///< where an own copy went that was damaged; else empty
     std::vector<KeptNote> homeless;  ///< notes of an older copy whose recipes the newer one does not have
 };
 

@@ -16,6 +16,16 @@ QString keptAsideName(const QString& file) {
     return name;
 }
 
+QStringList keptAsideCopies(const QString& file) {
+    const QFileInfo info(file);
+    const QString dated = info.fileName() + QStringLiteral(".[12][0-9][0-9][0-9]-[01][0-9]-[0-3][0-9]");
+    QStringList copies;
+    for (const QFileInfo& copy : info.dir().entryInfoList({dated, dated + QStringLiteral("-*")}, QDir::Files,
+                                                          QDir::Time | QDir::Reversed))
+        copies << copy.absoluteFilePath();
+    return copies;
+}
+
 bool UserFile::openExisting() {
     if (db_.isOpen()) return true;
     if (file_.isEmpty() || !QFile::exists(file_)) return false;

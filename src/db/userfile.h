@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "db/database.h"
 
@@ -43,5 +44,7 @@ class UserFile {
 /// A free name beside \a file for a copy of it that is kept: "Sarne.drc.2026-11-21", numbered when that
 /// exists.
 QString keptAsideName(const QString& file);
+/// The copies of \a file that are kept under such names, as native paths, the oldest first.
+QStringList keptAsideCopies(const QString& file);
 
 }  // namespace sarne

@@ -1,7 +1,9 @@
 #include "media/frmnastavhudbu.h"
 
+#include <QFileInfo>
 #include <QKeyEvent>
 
+#include "core/texts.h"
 #include "forms/backgroundmusic.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -23,7 +25,9 @@ constexpr QRect kButtons[] = {{1230, 4020, 1680, 540}, {3090, 4020, 1680, 540}};
 }  // namespace
 
 frmNastavHudbu::frmNastavHudbu(basSarne& sarne)
-    : Form(sarne, QStringLiteral("frmNastavHudbu")), title_(*this, QStringLiteral("lblNadpis")) {
+    : Form(sarne, QStringLiteral("frmNastavHudbu")),
+      title_(*this, QStringLiteral("lblNadpis")),
+      missing_(*this, QStringLiteral("lblChybi")) {
     place(kForm);
     title_.setText(QStringLiteral("Nastavení hudby"));
     title_.setFont(kTitleFont);
@@ -58,6 +62,9 @@ frmNastavHudbu::frmNastavHudbu(basSarne& sarne)
         button->place(kButtons[i]);
         connect(button, &Button::clicked, this, [this, i] { press(i); });
     }
+    missing_.setFont(kFont);
+    missing_.setColor(colors::kPaper);
+    missing_.setWordWrap(true);
     std::vector<TwipWidget*> stops(chkNastav.begin(), chkNastav.end());
     stops.insert(stops.end(), opthudba.begin(), opthudba.end());
     stops.insert(stops.end(), cmdOkEnd.begin(), cmdOkEnd.end());
@@ -83,7 +90,20 @@ void frmNastavHudbu::load() {
     }
     opthudba[app().SoundFlags[kWineSounds] ? 1 : 0]->setChecked(true);
     enableTracks();
+    tellWhatIsMissing();
     loading_ = false;
+}
+
+void frmNastavHudbu::tellWhatIsMissing() {
+    if (settings_.empty()) {
+        missing_.setText(
+            Texts::tr("Kuchařku se nepodařilo otevřít, přepínače zvuků proto chybějí. Víc řekne "
+                      "nápověda (F1)."));
+        missing_.place({kLeft, kFirstRow, kWidth, 2 * kRow});
+    } else if (!QFileInfo(app().mediaFile({})).isDir()) {
+        missing_.setText(Texts::tr("Složka s hudbou nebyla nalezena (F1)."));
+        missing_.place({kLeft, kTrackTop + kRow, kWidth, kRowHeight});
+    }
 }
 
 void frmNastavHudbu::showCaption(size_t index) {

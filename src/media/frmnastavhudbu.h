@@ -30,6 +30,7 @@ class frmNastavHudbu : public Form {
 
   private:
     void load();
+    void tellWhatIsMissing();
     void switched(size_t index);
     void trackChosen(bool wineSounds);
     void showCaption(size_t index);
@@ -40,6 +41,7 @@ class frmNastavHudbu : public Form {
     bool loading_ = false;
     std::vector<SoundSetting> settings_;
     Label title_;
+    Label missing_;  // says why switches or music are not to be had
     std::array<CheckBox*, kSoundSettings> chkNastav{};
     std::array<OptionButton*, 2> opthudba{};
     std::array<Button*, 2> cmdOkEnd{};

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "dialogs/frmdialog.h"
+#include "forms/textview.h"
 #include "screens/navigation/frmhlavni.h"
 #include "support/fakeplatform.h"
 #include "support/fakesarne.h"
@@ -151,6 +152,40 @@ TEST_F(ProgramTest, StartsAndEndsWithoutAnything) {
         exitAnswering(Qt::Key_Return);
         EXPECT_TRUE(program->hasEnded());
     }
+}
+
+TEST_F(ProgramTest, TheMainScreensHelpSaysWhatIsMissingAndWhatWasKept) {
+    const QString note = QStringLiteral("se *1 víc\nsoli");
+    ASSERT_TRUE(program->notes().keep({77, QStringLiteral("Úhoř"), note}));
+    QFile(path("data/Sarne.drc.2026-11-21-2")).open(QIODevice::WriteOnly);
+    QFile(path("data/Sarne.drc.origin")).open(QIODevice::WriteOnly);
+    const auto help = [&](const char* form) {
+        program->screens().showHelpFor(QLatin1String(form));
+        auto* view = program->FormStack.top()->findChild<TextView*>(QStringLiteral("picText"));
+        const QString text = view ? view->drawnText().simplified() : QString();
+        press(Qt::Key_Escape);
+        return text;
+    };
+    make();
+    ASSERT_TRUE(program->Main({}));
+    const QString found = help("frmHlavni");
+    EXPECT_TRUE(found.contains(path("data/Sarne.drc.2026-11-21-2"))) << qPrintable(found);
+    EXPECT_FALSE(found.contains(QStringLiteral("origin")));
+    EXPECT_TRUE(found.contains(QStringLiteral("Úhoř se *1 víc soli"))) << "words, not links";
+    EXPECT_FALSE(found.contains(QStringLiteral("chybí"), Qt::CaseInsensitive));
+    EXPECT_EQ(help("frmSit"), QString()) << "no page: the list of help topics";
+
+    QFile::resize(path("program/Sarne.drc"), 0);
+    QDir(path("disc")).removeRecursively();
+    for (const char* form : {"frmHlavni", "frmNastavHudbu"}) {
+        EXPECT_TRUE(help(form).contains(QStringLiteral("Složku ") + program->MediaRoot)) << form;
+    }
+    make();
+    QTimer::singleShot(0, [] { press(Qt::Key_Return); });
+    ASSERT_TRUE(program->Main({}));
+    EXPECT_TRUE(help("frmHlavni").contains(path("program/Sarne.drc")));
+    EXPECT_TRUE(help("frmHlavni").contains(QStringLiteral("víc soli")))
+        << "notes can be read without the book";
 }
 
 TEST_F(ProgramTest, TheWindowsCloseButtonAsksOnEveryScreen) {

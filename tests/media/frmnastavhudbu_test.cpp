@@ -143,6 +143,19 @@ TEST_F(SettingsTest, AShortTableIsReadAsFarAsItGoes) {
     EXPECT_EQ(stored(), QStringLiteral("01"));
 }
 
+TEST_F(SettingsTest, SaysWhatIsMissing) {
+    const auto said = [&] { return child<Label>(*form, "lblChybi")->text(); };
+    EXPECT_EQ(said(), QString());
+    confirm(1);
+    run.MediaRoot = QStringLiteral("Q:\\");
+    open();
+    EXPECT_TRUE(said().contains(QStringLiteral("Složka s hudbou")));
+    confirm(1);
+    run.database.Close();
+    open();
+    EXPECT_TRUE(said().contains(QStringLiteral("Kuchařku se nepodařilo otevřít")));
+}
+
 TEST_F(SettingsTest, ByKeyboardAlone) {
     for (int i = 0; i < 2; ++i) press(Qt::Key_Down);  // past Storno to the first switch
     EXPECT_TRUE(box(0)->hasFocus());

@@ -3,20 +3,34 @@
 #include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/screens.h"
-#include "screens/index/pages.h"
+#include "screens/index/rtfdocument.h"
 
 namespace sarne {
+namespace {
+
+QString withAdditions(const QString& page, const std::vector<PageAddition>& additions) {
+    RtfDocument behind;
+    for (const PageAddition& addition : additions) {
+        if (!addition.heading.isEmpty()) behind.paragraph(addition.heading, {});
+        behind.paragraph(addition.text + u'\n');
+    }
+    return behind.appendedTo(page);
+}
+
+}  // namespace
 
 frmStranka::frmStranka(basSarne& app) : TextForm(app, QStringLiteral("frmStranka")) {}
 
-bool frmStranka::Zobraz(const QString& id) {
-    const std::optional<Page> page = readPage(app().Db(), id);
-    if (!page) {
+bool frmStranka::Zobraz(const QString& id, const std::vector<PageAddition>& additions) {
+    const QString help = Texts::tr("Nápověda");
+    std::optional<Page> page = readPage(app().Db(), id);
+    if (!page && additions.empty()) {
         unload();
         return false;
     }
+    if (!page) page = Page{0, help, {}};
     id_ = page->id;
-    showText(page->name, page->text, Texts::tr("Nápověda"));
+    showText(page->name, additions.empty() ? page->text : withAdditions(page->text, additions), help);
     open(view());
     return true;
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <vector>
+
+#include "screens/index/pages.h"
 #include "screens/index/textform.h"
 
 namespace sarne {
@@ -11,8 +14,9 @@ class frmStranka : public TextForm {
   public:
     explicit frmStranka(basSarne& app);
 
-    /// Shows the page whose id is written in \a id. False, and the form is gone, when there is none.
-    bool Zobraz(const QString& id);
+    /// Shows the page whose id is written in \a id, and behind it \a additions, which need no page. False,
+    /// and the form is gone, when there is nothing to show.
+    bool Zobraz(const QString& id, const std::vector<PageAddition>& additions = {});
 
     /// The help for pages; nothing but a beep where that is the page that shows.
     void help() override;

@@ -14,6 +14,12 @@ struct Page {
     QString text;
 };
 
+/// What a run has to add to a page: a bold beginning, and what it says.
+struct PageAddition {
+    QString heading;
+    QString text;
+};
+
 /// The page whose id is written in \a id; nothing when there is none.
 std::optional<Page> readPage(Database& db, const QString& id);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "richtext/charset.h"
+#include "richtext/rtfreader.h"
 
 namespace sarne {
 namespace {
@@ -43,6 +44,13 @@ void RtfDocument::paragraph(const QString& text) {
 void RtfDocument::paragraph(const QString& bold, const QString& text) {
     // The blank before \b0 ends the bold word: a word takes the font in force at its end.
     body_ += QStringLiteral("\\b %1 \\b0 %2\\par\r\n").arg(escaped(bold), escaped(text));
+}
+
+QString RtfDocument::appendedTo(const QString& document) const {
+    const qsizetype end = document.lastIndexOf(u'}');
+    if (!isRtf(document) || end < 0) return text();
+    return document.left(end) + QStringLiteral("\\par\r\n\\pard\\plain\\f0\\fs24 ") + body_ +
+           document.mid(end);
 }
 
 QString RtfDocument::text() const {

@@ -14,6 +14,8 @@ class RtfDocument {
     void paragraph(const QString& bold, const QString& text);
     /// The whole document.
     QString text() const;
+    /// \a document, a text of the cookbook, with this one behind it.
+    QString appendedTo(const QString& document) const;
 
   private:
     QString body_;
