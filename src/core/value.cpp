@@ -3,6 +3,8 @@
 #include <cmath>
 #include <limits>
 
+#include "core/checked.h"
+
 namespace sarne {
 namespace {
 
@@ -33,12 +35,17 @@ qsizetype numberEnd(QStringView text) {
     return end;
 }
 
+/// The number at the start of \a text, infinite when no double holds it.
+double readNumber(QStringView text) {
+    const QStringView trimmed = text.trimmed();
+    return trimmed.first(numberEnd(trimmed)).toDouble();
+}
+
 }  // namespace
 
 double leadingNumber(QStringView text) {
-    const QStringView trimmed = text.trimmed();
-    const double number = trimmed.first(numberEnd(trimmed)).toDouble();
-    return number == number ? number : 0;
+    const double number = readNumber(text);
+    return std::isfinite(number) ? number : 0;
 }
 
 std::optional<std::int16_t> toRecordId(qint64 value) {
@@ -54,10 +61,10 @@ std::optional<std::int16_t> toRecordId(QStringView text) {
 }
 
 std::optional<std::int16_t> leadingRecordId(QStringView text) {
-    const double number = std::trunc(leadingNumber(text));
+    const double number = std::trunc(readNumber(text));
     constexpr auto kMost = std::numeric_limits<std::int16_t>::max();
     if (!(std::abs(number) <= kMost)) return std::nullopt;
-    return static_cast<std::int16_t>(number);
+    return wholeNumber<std::int16_t>(number);
 }
 
 }  // namespace sarne

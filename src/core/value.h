@@ -8,8 +8,8 @@
 namespace sarne {
 
 /// The number at the beginning of \a text: blanks skipped, an optional sign, digits, a point as the decimal
-/// separator whatever the user's locale, an optional exponent. 0 when the text does not begin with a number;
-/// what follows the number is ignored.
+/// separator whatever the user's locale, an optional exponent. 0 when the text does not begin with a number
+/// or with one that is too large ("1e999"); what follows the number is ignored.
 double leadingNumber(QStringView text);
 
 /// \a value as a record id. Ids travel between screens as 16-bit integers: a value that does not fit, or is

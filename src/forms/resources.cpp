@@ -6,6 +6,8 @@
 #include <QPixmap>
 #include <QResource>
 
+#include "core/sealedfile.h"
+
 namespace sarne {
 namespace {
 
@@ -24,7 +26,7 @@ Resources::Resources(QString root) : root_(std::move(root)) {}
 bool Resources::load(const QString& file) {
     files_.clear();
     pictures_.clear();
-    return !file.isEmpty() && QResource::registerResource(file);
+    return isSealed(file) && QResource::registerResource(file);
 }
 
 /// The path of the file in \a folder whose name, its ending aside, is \a name; else one that differs in case.

@@ -15,7 +15,8 @@ class Resources {
   public:
     /// Reads below \a root, a resource path or a folder.
     explicit Resources(QString root = QStringLiteral(":/"));
-    /// Makes the resource file at the native path \a file the source. False when it cannot be read.
+    /// Makes the resource file at the native path \a file the source. False when it cannot be read, or is not
+    /// what the disc's builder has sealed: Qt trusts such a file to the last byte.
     bool load(const QString& file);
 
     /// The picture called \a name, whatever the case of its letters. A missing one is logged.

@@ -2,6 +2,7 @@
 #include <QFileInfo>
 #include <chrono>
 
+#include "core/checked.h"
 #include "platform/mpvcontrol_p.h"
 
 namespace sarne {
@@ -93,8 +94,8 @@ void MpvControl::Private::waitUntilOpen() {
 void MpvControl::Private::opened() {
     const bool atEnd = core_->flag("eof-reached");
     length_ = core_->milliseconds("duration");
-    videoSize_ = QSize(static_cast<int>(core_->number("dwidth").value_or(0)),
-                       static_cast<int>(core_->number("dheight").value_or(0)));
+    videoSize_ = QSize(wholeNumber(core_->number("dwidth").value_or(0)),
+                       wholeNumber(core_->number("dheight").value_or(0)));
     if (lacksPicture() || (atEnd && videoSize_.isEmpty())) return openFailed(MediaError::InvalidFile);
     core_->followPosition(!videoSize_.isEmpty());
     // With it, a loop's end does not wait until it has been heard. Only while the file is open: it would keep
@@ -114,7 +115,7 @@ void MpvControl::Private::opened() {
 /// A film whose picture cannot be decoded is no film, even when its sound can.
 bool MpvControl::Private::lacksPicture() const {
     bool film = false;
-    const int tracks = static_cast<int>(core_->number("track-list/count").value_or(0));
+    const int tracks = wholeNumber(core_->number("track-list/count").value_or(0));
     for (int i = 0; i < tracks; ++i) {
         const QString track = QStringLiteral("track-list/%1/").arg(i);
         film = film || core_->text(track + QStringLiteral("type")) == u"video";

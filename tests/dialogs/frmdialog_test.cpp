@@ -54,7 +54,7 @@ TEST_F(DialogTest, F1OpensHelpAndTheEntryGoesOn) {
 }
 
 TEST_F(DialogTest, AnythingElseIsRefusedAndAskedAgain) {
-    for (const char* text : {"0", "-3", "", "abc"}) {
+    for (const char* text : {"0", "-3", "", "abc", "1e999"}) {
         stayedOpen = false;
         run.messages.clear();
         EXPECT_EQ(number(text, {Qt::Key_Return}), 0);

@@ -5,6 +5,7 @@
 #include <QResource>
 #include <QTemporaryDir>
 
+#include "core/sealedfile.h"
 #include "db/database.h"
 #include "disc/resources.h"
 #include "disc/screenpictures.h"
@@ -62,6 +63,7 @@ TEST_F(PackingTest, ResourcesAreFoundUnderTheirNames) {
         EXPECT_EQ(sound.read(4), "RIFF");
     }
     QResource::unregisterResource(file, QStringLiteral("/packed"));
+    EXPECT_TRUE(isSealed(file)) << "the program takes no other";
 }
 
 TEST_F(PackingTest, APackerThatFailsIsAnError) {

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include "core/sealedfile.h"
 #include "stamps.h"
 
 namespace sarne::disc {
@@ -51,7 +52,7 @@ bool pack(const QList<Packed>& all, const QString& rcc, const QString& list, con
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(rcc, {QStringLiteral("--binary"), QStringLiteral("--no-compress"), QStringLiteral("-o"),
                         output, list});
-    return process.waitForFinished(120000) && process.exitCode() == 0;
+    return process.waitForFinished(120000) && process.exitCode() == 0 && sealFile(output);
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace sarne::disc {
 ///     :/zvuky/N.wav               sound effect resources (the scratch folder's zvuky/)
 ///     :/layout/NAME.txt           layouts (art/layout)
 ///
-/// \a rcc is Qt's resource compiler.
+/// The file is sealed (sealFile()): the program takes no other. \a rcc is Qt's resource compiler.
 void makeResources(Workshop& shop, const QString& rcc);
 
 }  // namespace sarne::disc

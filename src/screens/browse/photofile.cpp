@@ -4,6 +4,8 @@
 #include <QImageReader>
 #include <QtEndian>
 
+#include "core/checked.h"
+
 #include "forms/finerpicture.h"
 
 namespace sarne {
@@ -20,7 +22,7 @@ bool isCutShort(QFile& file) {
     const int bits = qFromLittleEndian<quint16>(header.constData() + 28), compression = number(30);
     if (compression != 0 || width <= 0) return false;
     const qint64 row = (width * bits + 31) / 32 * 4;
-    return file.size() < offset + row * qAbs(height);
+    return file.size() - offset < boundedProduct(row, qAbs(height));
 }
 
 /// Lets the decoder make pictures of up to a gigabyte; it would stop at an eighth of that.

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace sarne {
+
+/// Writes a digest of what \a file holds behind it, so that damage to it is noticed. False when it cannot be
+/// written.
+bool sealFile(const QString& file);
+
+/// Whether \a file ends in the digest that sealFile() wrote and holds what it held then.
+bool isSealed(const QString& file);
+
+}  // namespace sarne
