@@ -22,7 +22,9 @@ bool clearFoundIngredients(Database& db) {
 }
 
 Recordset ingredientsBeginning(Database& db, const QString& text) {
-    return db.OpenQuery(QStringLiteral("SELECT * FROM Suroviny WHERE Polozka LIKE '") + text +
+    QString pattern = text;
+    pattern.replace(u'\'', QStringLiteral("''"));  // what is typed stays within the query's quotes
+    return db.OpenQuery(QStringLiteral("SELECT * FROM Suroviny WHERE Polozka LIKE '") + pattern +
                         QStringLiteral("*'"));
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "db/database.h"
+#include "db/queries.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -57,12 +58,20 @@ TEST_F(RecordsetTest, CzechOrderCaseAside) {
     EXPECT_EQ(column("SELECT ID FROM Suroviny WHERE Polozka = 'KAPR'", "ID"), list("1"));
 }
 
-TEST_F(RecordsetTest, WhatBreaksTheTextFindsNothing) {
-    for (const char* typed : {"'", "kap[", "x'; DELETE * FROM Suroviny; '"})
-        EXPECT_EQ(db.OpenQuery(QStringLiteral("SELECT * FROM Suroviny WHERE Polozka LIKE '%1*'")
-                                   .arg(QString::fromUtf8(typed)))
-                      .RecordCount(),
-                  0);
+TEST_F(RecordsetTest, WhateverIsTypedIsOnePattern) {
+    const auto found = [&](const char* typed) {
+        return queries::ingredientsBeginning(db, QString::fromUtf8(typed)).RecordCount();
+    };
+    for (const char* typed : {"'", "''", "kap[", "x'; DELETE * FROM Suroviny; '",
+                              "x' UNION SELECT 1,sql FROM sqlite_master WHERE name LIKE 'Recepty"})
+        EXPECT_EQ(found(typed), 0) << typed;
+    EXPECT_EQ(found("kap"), 2);
+    Recordset ingredients = db.OpenTable(QStringLiteral("Suroviny"));
+    ASSERT_TRUE(RecordExists(ingredients, 8));
+    ingredients.Edit();
+    ingredients.setField(QStringLiteral("Polozka"), QStringLiteral("O'Neilova omáčka"));
+    ASSERT_TRUE(ingredients.Update());
+    EXPECT_EQ(found("o'ne"), 1);
     EXPECT_EQ(db.OpenTable(QStringLiteral("Suroviny")).RecordCount(), 9);
     EXPECT_FALSE(db.OpenTable(QStringLiteral("Neni")).isOpen());
 }
