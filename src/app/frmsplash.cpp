@@ -31,6 +31,7 @@ Picture widePicture(const basSarne& run, QStringView name) {
 }  // namespace
 
 frmSplash::frmSplash(Program& program) : Form(program, QStringLiteral("frmSplash")), program_(program) {
+    setAccessibleName(kTitle);
     Room& room = app().Pictures.uvod;
     if (room.isNull())
         room = Room(app().resources().picture(QStringLiteral("uvod")), widePicture(app(), u"uvod"));

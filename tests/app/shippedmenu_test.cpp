@@ -121,6 +121,43 @@ void ShippedMenu::walk(int topic, const QString& code) {
     }
 }
 
+TEST_F(ShippedMenu, EveryScreenHasItsGroundAndTheMenuGivesThePointerBack) {
+    const ScreenPictures& rooms = program->Pictures;
+    for (const Room* room : {&rooms.hlavni, &rooms.Sit, &rooms.recept, &rooms.seznam, &rooms.video,
+                             &rooms.konec, &rooms.uvod, &rooms.stranka})
+        EXPECT_FALSE(room->isNull());
+    const auto pointer = [&] { return main->cursor().pixmap().toImage(); };
+    const QImage normal = pointer();
+    QTest::mouseClick(button(2), Qt::LeftButton);
+    const QImage back = pointer();
+    EXPECT_FALSE(back.isNull());
+    EXPECT_NE(back, normal);
+    QTest::mouseClick(main, Qt::LeftButton, {}, {10, 590});
+    EXPECT_FALSE(main->isMenuOpen());
+    EXPECT_EQ(pointer(), normal);
+}
+
+TEST_F(ShippedMenu, ADamagedResourceFileIsNotTaken) {
+    const QString name = folder.filePath(QStringLiteral("Sarne.rcc"));
+    Resources resources(QStringLiteral(":/"));
+    ASSERT_TRUE(resources.load(name));
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    const qint64 size = file.size();
+    for (const qint64 at : {qint64{8}, size / 2, size - 300, size - 3}) {
+        file.seek(at);
+        const QByteArray sound = file.read(2);
+        file.seek(at);
+        file.write(QByteArray(2, char(~sound[0])));
+        file.flush();
+        EXPECT_FALSE(resources.load(name)) << at;
+        file.seek(at);
+        file.write(sound);
+        file.flush();
+    }
+    EXPECT_TRUE(resources.load(name));
+}
+
 TEST_F(ShippedMenu, EveryRowOpensItsScreenOverRecordsThatExist) {
     for (int topic = 1; topic < 19; ++topic) {
         if (topic == 7) continue;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QTest>
@@ -15,6 +16,25 @@
 #include "support/recipedatabase.h"
 
 namespace sarne {
+namespace test {
+
+/// Tells \a seen of every widget that is shown while it lives.
+class OnShow final : public QObject {
+  public:
+    explicit OnShow(std::function<void(const QObject*)> seen) : seen_(std::move(seen)) {
+        qApp->installEventFilter(this);
+    }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Show) seen_(object);
+        return false;
+    }
+
+  private:
+    std::function<void(const QObject*)> seen_;
+};
+
+}  // namespace test
+
 namespace {
 
 class SplashTest : public testing::Test {
@@ -141,6 +161,46 @@ TEST_F(SplashTest, AnIntroThatCannotBePlayedIsSkipped) {
     };
     make(parts);
     EXPECT_TRUE(start({}));
+}
+
+TEST_F(SplashTest, ThePicturesAreToldApartByTheirOrder) {
+    const QColor colours[] = {Qt::red, Qt::green, Qt::blue, Qt::cyan, Qt::magenta, Qt::yellow};
+    {
+        SQLite::Database file(folder.filePath(QStringLiteral("KOp.bj")).toStdString(),
+                              SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        for (const QString& statement : pictureSchema()) file.exec(statement.toStdString());
+        for (const QColor& colour : colours) {
+            QImage image(8, 6, QImage::Format_RGB32);
+            image.fill(colour);
+            QByteArray bytes;
+            QBuffer buffer(&bytes);
+            buffer.open(QIODevice::WriteOnly);
+            image.save(&buffer, "BMP");
+            SQLite::Statement insert(file, "INSERT INTO TabObr VALUES (?)");
+            insert.bind(1, bytes.constData(), int(bytes.size()));
+            insert.exec();
+        }
+    }
+    ASSERT_TRUE(start({}));
+    const ScreenPictures& rooms = program->Pictures;
+    const Room* const inOrder[] = {&rooms.hlavni, &rooms.konec,  &rooms.video,
+                                   &rooms.seznam, &rooms.recept, &rooms.Sit};
+    for (size_t i = 0; i < std::size(colours); ++i) {
+        ASSERT_FALSE(inOrder[i]->isNull()) << i;
+        EXPECT_EQ(inOrder[i]->design().image().pixelColor(3, 3), colours[i]) << i;
+    }
+}
+
+TEST_F(SplashTest, ItSaysTheTitleAtTheStartAndTheEndAtTheEnd) {
+    QStringList said;
+    const test::OnShow watch([&](const QObject* shown) {
+        if (auto* splash = qobject_cast<const frmSplash*>(shown)) said << splash->accessibleName();
+    });
+    ASSERT_TRUE(start({}));
+    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
+    program->ConfirmExit();
+    EXPECT_EQ(said,
+              (QStringList{QStringLiteral("Velisa sarn - Lumora"), QStringLiteral("Ukončení progamu")}));
 }
 
 TEST_F(SplashTest, TheWindowsCloseButtonEndsTheStart) {

@@ -105,6 +105,10 @@ TEST_F(GalleryTest, ATextOpensOnACardAndClosesBackToItsArea) {
 
     click(1);
     EXPECT_TRUE(card->drawnText().startsWith(u("Hlas.")));
+    QTest::mouseClick(child<Button>(*form, "imgZavri"), Qt::LeftButton);
+    EXPECT_FALSE(form->cardIsOpen());
+    EXPECT_EQ(book.top(), form);
+    click(1);
     QTest::mouseClick(form, Qt::LeftButton, {}, form->toPixels({11700, 6000}));
     EXPECT_FALSE(form->cardIsOpen()) << "a click beside the card closes it";
     click(2);

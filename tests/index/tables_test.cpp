@@ -146,7 +146,11 @@ TEST_F(TablesTest, OnlyTheNameOfARowWithAKeywordIsALink) {
 TEST_F(TablesTest, ATablePrintsAndAMissingOneDoesNotOpen) {
     show(3);
     press(Qt::Key_Left);
-    EXPECT_EQ(child<Label>(*form, "lblPoznamka")->text(), u("Podle vyhlášky."));
+    const auto* note = child<Label>(*form, "lblPoznamka");
+    EXPECT_EQ(note->text(), u("Podle vyhlášky."));
+    EXPECT_TRUE(form->rect().contains(note->geometry()));
+    EXPECT_GT(note->geometry().top(), child<Label>(*form, "lblTitul")->geometry().bottom());
+    EXPECT_LE(note->geometry().bottom(), table().geometry().top());
     child<Button>(*form, "imgBtnHlavni(0)")->click();
     EXPECT_EQ(run.recorded.calls, QStringList{u("printText Ryby")});
     EXPECT_TRUE(run.recorded.printedText.contains(u("40 cm")));

@@ -143,6 +143,14 @@ TEST_F(SettingsTest, AShortTableIsReadAsFarAsItGoes) {
     EXPECT_EQ(stored(), QStringLiteral("01"));
 }
 
+TEST_F(SettingsTest, OpensWithTheTrackThatIsChosen) {
+    confirm(1);
+    run.SoundFlags[kWineSounds] = true;
+    open();
+    EXPECT_TRUE(track(1)->isChecked());
+    EXPECT_FALSE(track(0)->isChecked());
+}
+
 TEST_F(SettingsTest, SaysWhatIsMissing) {
     const auto said = [&] { return child<Label>(*form, "lblChybi")->text(); };
     EXPECT_EQ(said(), QString());

@@ -88,6 +88,8 @@ TEST_F(VideoTest, TransportButtons) {
     bar->show(0, 60000);
     QTest::mouseClick(bar, Qt::LeftButton, {}, {bar->width() / 2, bar->height() / 2});
     EXPECT_NEAR(double(player->position()), 30000, 200);
+    QTest::mouseClick(bar, Qt::RightButton, {}, {bar->width() / 4, bar->height() / 2});
+    EXPECT_NEAR(double(player->position()), 30000, 200) << "the right button is no seek";
 }
 
 TEST_F(VideoTest, SoundIsKeptForTheNextClip) {

@@ -42,9 +42,11 @@ TEST_F(DisplayModesTest, SwitchesAndRestores) {
 
     EXPECT_TRUE(display->setMode(design));
     EXPECT_EQ(current(), design);
+    EXPECT_EQ(server.screenSize(), design) << "the screen fits the monitor";
     EXPECT_TRUE(display->setMode({1024, 768}));
     display->restore();
     EXPECT_EQ(current(), full);
+    EXPECT_EQ(server.screenSize(), full);
 
     EXPECT_TRUE(display->setMode(design));
     display.reset();

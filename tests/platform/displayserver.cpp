@@ -4,6 +4,8 @@
 
 #include "testmedia.h"
 
+#include <X11/Xlib.h>
+
 namespace sarne {
 
 namespace {
@@ -65,6 +67,16 @@ bool DisplayServer::start() {
     if (!server_.waitForStarted() || !waitFor(answered, 15000) || !number.endsWith('\n')) return false;
     qputenv("DISPLAY", ":" + number.trimmed());
     return true;
+}
+
+QSize DisplayServer::screenSize() {
+    Display* display = XOpenDisplay(nullptr);
+    if (!display) return {};
+    XWindowAttributes root;
+    const bool known = XGetWindowAttributes(display, DefaultRootWindow(display), &root) != 0;
+    const QSize size = known ? QSize(root.width, root.height) : QSize();
+    XCloseDisplay(display);
+    return size;
 }
 
 }  // namespace sarne

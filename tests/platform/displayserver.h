@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QProcess>
+#include <QSize>
 #include <QTemporaryDir>
 
 namespace sarne {
@@ -15,6 +16,9 @@ class DisplayServer {
 
     /// Starts the server; false when this machine has none or it does not start.
     bool start();
+
+    /// How large its whole screen is, which the monitor shows a part of; empty when it does not answer.
+    static QSize screenSize();
 
   private:
     QTemporaryDir folder_;

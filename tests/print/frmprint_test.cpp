@@ -178,7 +178,12 @@ TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
     open({1, 3});
     QStringList seen;
     int farthest = 0;
+    QString recipe;
     whilePrinting([&] {
+        if (const QString name = control<Label>("lblRecept")->text(); name != recipe) {
+            recipe = name;
+            EXPECT_LE(control<ProgressBar>("prgRecept")->value(), 1) << name.toStdString();
+        }
         const QString status = control<Label>("Label1")->text();
         if (!status.isEmpty() && (seen.isEmpty() || seen.last() != status)) seen << status;
         farthest = qMax(farthest, control<ProgressBar>("prgRecept")->value());
@@ -316,6 +321,8 @@ TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
     key(Qt::Key_Down);
     EXPECT_GT(sheet->scrolled(), 0);
     EXPECT_EQ(preview->currentPage(), 0);
+    key(Qt::Key_F1);
+    EXPECT_EQ(run.recorded.calls.last(), str("showHelpFor frmNahled"));
     key(Qt::Key_Escape);
     EXPECT_FALSE(preview->isLoaded());
     EXPECT_EQ(run.FormStack.top(), form());

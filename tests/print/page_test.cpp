@@ -95,6 +95,13 @@ TEST(PrintedPage, FontsAreEmbedded) {
     for (const QString& line : lines) EXPECT_TRUE(line.contains(embedded)) << line.toStdString();
 }
 
+TEST(PrintedPage, AWrappedLineLosesNoLetter) {
+    QStringList words;
+    for (int i = 0; i < 60; ++i) words << str("slovo%1").arg(i);
+    PrintCookbook book({PrintCookbook::recipe(1, words.join(u' '))});
+    EXPECT_TRUE(textOf(book.print({1})).contains(words.join(u' '))) << textOf(book.print({1})).toStdString();
+}
+
 class PaperTest : public testing::TestWithParam<QPageSize::PageSizeId> {};
 
 TEST_P(PaperTest, NothingLeavesTheColumnAndTheHeaderEndsAtItsEdge) {

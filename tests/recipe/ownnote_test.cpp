@@ -39,6 +39,14 @@ TEST_F(OwnNoteTest, AStoredNoteLeavesACopyBesideTheBook) {
     EXPECT_EQ(kept.draft(5), std::nullopt);
 }
 
+TEST_F(OwnNoteTest, AClosedNoteTakesNoChange) {
+    note.open();
+    note.close(OwnNote::Close::Discard, {});
+    EXPECT_FALSE(note.isOpen());
+    note.changed();
+    EXPECT_FALSE(note.isDirty());
+}
+
 TEST_F(OwnNoteTest, WordsThatCouldNotBeStoredComeBackAsChanged) {
     note.open();
     note.changed();
