@@ -67,14 +67,17 @@ void keepLacking(QtMsgType type, const QMessageLogContext& context, const QStrin
 }
 
 int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QString& run,
-           const QString& expectedFile, bool accept) {
+           const QString& expectedFile, const Looks& looks, bool accept) {
     QFile texts(pictures.filePath(QStringLiteral("tour.txt")));
     // The folder that the tour runs in has another name every time.
     const QByteArray shown = tour.texts().replace(run, QStringLiteral("…")).toUtf8();
     if (!texts.open(QIODevice::WriteOnly) || texts.write(shown) != shown.size())
         out << "tour.txt cannot be written\n";
     QFile expected(expectedFile);
-    if (accept) return expected.open(QIODevice::WriteOnly) && expected.write(shown) == shown.size() ? 0 : 1;
+    if (accept)
+        return expected.open(QIODevice::WriteOnly) && expected.write(shown) == shown.size() && looks.accept()
+                   ? 0
+                   : 1;
     const bool same =
         expectedFile.isEmpty() || (expected.open(QIODevice::ReadOnly) && expected.readAll() == shown);
     if (!same) out << "The texts of tour.txt differ from those expected in " << expectedFile << '\n';
@@ -107,9 +110,12 @@ int main(int argc, char** argv) {
                                   QStringLiteral("DIR"));
     const QCommandLineOption expect(QStringLiteral("expect"), QStringLiteral("texts to compare with"),
                                     QStringLiteral("FILE"));
-    const QCommandLineOption accept(QStringLiteral("accept"),
-                                    QStringLiteral("take the texts shown as the expected ones"));
-    options.addOptions({size, program, disc, expect, accept});
+    const QCommandLineOption look(QStringLiteral("looks"), QStringLiteral("looks to compare with"),
+                                  QStringLiteral("FILE"));
+    const QCommandLineOption accept(
+        QStringLiteral("accept"),
+        QStringLiteral("take the texts shown as the expected ones, and this size's looks as the kept ones"));
+    options.addOptions({size, program, disc, expect, look, accept});
     options.process(application);
     const QStringList wide = options.value(size).split(u'x');
     if (options.positionalArguments().size() != 1 || wide.size() != 2) options.showHelp(2);
@@ -138,9 +144,10 @@ int main(int argc, char** argv) {
     run.stage().show();
     run.stage().activateWindow();
     QApplication::processEvents();
-    Tour tour(run, pictures);
+    Looks looks(options.value(look), options.value(size));
+    Tour tour(run, pictures, looks);
     tour.skipIntro();
     run.Main({});
     walk(tour);
-    return report(out, tour, pictures, folder.path(), options.value(expect), options.isSet(accept));
+    return report(out, tour, pictures, folder.path(), options.value(expect), looks, options.isSet(accept));
 }

@@ -1,13 +1,22 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
+#include <vector>
 
 namespace sarne {
 
 class Stage;
+struct TextContrast;
 
-/// The texts that can be read on \a stage now, one a line: of the form in front, or of all menu levels when
-/// the menu is open, top to bottom as the controls were made. Controls without a text give none.
-QString textsOn(const Stage& stage);
+/// What a user can read on a stage.
+struct ScreenText {
+    QStringList lines;  ///< what the form in front says, a line for each control that can be seen
+    QStringList cut;    ///< labels of which only a part can be read
+};
+
+/// The texts of the form in front, or of all levels of an open menu. \a painted is what textContrasts() says
+/// of the stage: a label counts only where its text was painted and nothing covers it, another control where
+/// the mouse meets it.
+ScreenText screenText(const Stage& stage, const std::vector<TextContrast>& painted);
 
 }  // namespace sarne

@@ -104,7 +104,8 @@ class WatchingEngine final : public QPaintEngine {
     /// The text's contrast with what lies there now; an empty place when nothing of it will show.
     TextContrast judged(const QPointF& at, const QTextItem& item) const {
         const QRectF letters(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
-        const QRect place = (visible_ & painter_.transform().mapRect(letters).toAlignedRect()).boundingRect();
+        const QRect all = painter_.transform().mapRect(letters).toAlignedRect();
+        const QRect place = (visible_ & all).boundingRect();
         if (place.isEmpty() || item.text().trimmed().isEmpty()) return {};
         const auto contrastOn = [&](QRgb ground) {
             return contrastRatio(mixed(painter_.pen().color(), ground, painter_.opacity()), ground);
@@ -115,7 +116,10 @@ class WatchingEngine final : public QPaintEngine {
                 grounds.emplace_back(contrastOn(image_.pixel(x, y)), image_.pixel(x, y));
         const auto worst = grounds.begin() + std::ptrdiff_t(grounds.size() / 20);
         std::nth_element(grounds.begin(), worst, grounds.end());
-        return {item.text(), place, painter_.pen().color(), QColor(worst->second), worst->first};
+        // A letter's box is larger than the letter.
+        const bool whole = 4 * place.width() * place.height() >= 3 * all.width() * all.height() &&
+                           place.width() + all.height() / 2 >= all.width();
+        return {item.text(), place, painter_.pen().color(), QColor(worst->second), worst->first, whole};
     }
 
     static bool isShadow(const TextContrast& earlier, const TextContrast& text) {

@@ -18,6 +18,7 @@ struct TextContrast {
     QRect place;         ///< pixels of the picture
     QColor ink, ground;  ///< the ground where the contrast is taken
     double contrast;     ///< 1 (none) to 21 (black on white)
+    bool isWhole;        ///< all of it lies where its widget can be seen
 };
 
 /// The contrast of two colours by their relative luminances, as web pages are judged by.

@@ -23,13 +23,19 @@ void Tour::stop(const QString& form, const QString& what) {
     const QString there = frontName();
     if (there != form) fault(QStringLiteral("%1: %2 is in front").arg(name, there));
     picture(name);
-    texts_ << QStringLiteral("== ") + name + u'\n' + textsOn(program_.stage());
-    checkContrast(name);
+    const std::vector<TextContrast> painted = textContrasts(program_.stage());
+    const ScreenText shown = screenText(program_.stage(), painted);
+    texts_ << QStringLiteral("== ") + name + u'\n' + shown.lines.join(u'\n');
+    for (const QString& cut : shown.cut)
+        fault(QStringLiteral("%1: not all can be read of %2").arg(name, cut));
+    checkContrast(name, painted);
+    if (const QString wrong = looks_.fault(name, program_.stage().grab().toImage()); !wrong.isEmpty())
+        fault(wrong);
 }
 
-void Tour::checkContrast(const QString& name) {
+void Tour::checkContrast(const QString& name, const std::vector<TextContrast>& painted) {
     constexpr double kReadable = 4.5;  // as web pages are asked to keep
-    for (const TextContrast& text : textContrasts(program_.stage())) {
+    for (const TextContrast& text : painted) {
         leastContrast_ = std::min(leastContrast_, text.contrast);
         if (text.contrast >= kReadable) continue;
         fault(QStringLiteral("%1: \"%2\" at %3, %4 has a contrast of %5 (%6 on %7)")
@@ -81,17 +87,25 @@ QWidget* Tour::find(const QString& control) {
 }
 
 void Tour::hover(const QString& control) {
-    if (QWidget* widget = find(control)) QTest::mouseMove(widget, widget->rect().center());
+    if (QWidget* widget = find(control)) {
+        const auto [hit, at] = hitBy(*widget);
+        QTest::mouseMove(hit, at);
+    }
     wait();
 }
 
-void Tour::clickWidget(QWidget& widget) {
-    // The click goes to whatever lies there, as a real one does.
+std::pair<QWidget*, QPoint> Tour::hitBy(const QWidget& aimedAt) const {
+    // The mouse meets whatever lies there, as a real one does.
     Stage& stage = program_.stage();
-    const QPoint at = widget.mapTo(&stage, widget.rect().center());
+    const QPoint at = aimedAt.mapTo(&stage, aimedAt.rect().center());
     QWidget* hit = stage.childAt(at);
     if (!hit) hit = &stage;
-    QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&stage, at));
+    return {hit, hit->mapFrom(&stage, at)};
+}
+
+void Tour::clickWidget(QWidget& widget) {
+    const auto [hit, at] = hitBy(widget);
+    QTest::mouseClick(hit, Qt::LeftButton, {}, at);
     wait();
 }
 
@@ -100,8 +114,10 @@ void Tour::click(const QString& control) {
 }
 
 void Tour::doubleClick(const QString& control) {
-    if (QWidget* widget = find(control))
-        QTest::mouseDClick(widget, Qt::LeftButton, {}, widget->rect().center());
+    if (QWidget* widget = find(control)) {
+        const auto [hit, at] = hitBy(*widget);
+        QTest::mouseDClick(hit, Qt::LeftButton, {}, at);
+    }
     wait();
 }
 

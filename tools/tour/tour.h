@@ -5,6 +5,10 @@
 #include <QStringList>
 #include <Qt>
 #include <functional>
+#include <utility>
+#include <vector>
+
+#include "looks.h"
 
 class QWidget;
 
@@ -12,20 +16,22 @@ namespace sarne {
 
 class Form;
 class Program;
+struct TextContrast;
 
 /// Drives a running program as a user does, by mouse and keyboard, and keeps a picture and the texts of every
 /// place it stops at. What goes wrong is collected as faults.
 class Tour {
   public:
-    Tour(Program& program, const QDir& pictures) : program_(program), pictures_(pictures) {}
+    Tour(Program& program, const QDir& pictures, Looks& looks)
+        : program_(program), pictures_(pictures), looks_(looks) {}
 
     Program& program() { return program_; }
 
     /// Saves the splash while the intro plays, and ends the intro by a key. To be called before the program
     /// starts.
     void skipIntro();
-    /// Expects the form \a form in front and saves it as "form-what.png"; its texts are kept, and each has to
-    /// stand out from its ground.
+    /// Expects the form \a form in front and saves it as "form-what.png"; its texts are kept as far as they
+    /// can be seen, each has to stand out from its ground, and the whole has to look as it did.
     void stop(const QString& form, const QString& what = {});
     /// Whether the form in front has a control called \a control that can be seen.
     bool has(const QString& control) const;
@@ -60,10 +66,13 @@ class Tour {
     Form* front() const;
     QWidget* find(const QString& control);
     void clickWidget(QWidget& widget);
-    void checkContrast(const QString& name);
+    /// The widget that the mouse meets in the middle of \a aimedAt, and where within it.
+    std::pair<QWidget*, QPoint> hitBy(const QWidget& aimedAt) const;
+    void checkContrast(const QString& name, const std::vector<TextContrast>& painted);
 
     Program& program_;
     QDir pictures_;
+    Looks& looks_;
     QStringList texts_, faults_;
     double leastContrast_ = 21;
 };
