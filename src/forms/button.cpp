@@ -14,7 +14,7 @@ namespace {
 constexpr int kFrameTwips = 90;                 // thickness of a frame
 constexpr int kRingRoom = 60;                   // around a frame, for the ring that shows the keyboard
 constexpr int kPressedShift = 15;               // a pressed face moves by one design pixel
-constexpr int kTwoLines = 400, kOneLine = 215;  // twips below a square button for its caption
+constexpr int kTwoLines = 430, kOneLine = 245;  // twips below a square button for its caption
 constexpr int kLow = 1000;                      // twips: a lower button has room for one line
 constexpr double kFaceSide = .775;              // of the square's side: 60 % of the square
 const TextFont kTextFont{QStringLiteral("Arial"), 11, true}, kNameFont{QStringLiteral("Arial"), 9};
@@ -97,7 +97,7 @@ QRect Button::captionRoom() const {
     const QRect whole({0, 0}, twips().size());
     switch (captionPlace_) {
         case CaptionPlace::Below:
-            return whole.adjusted(0, framePlace().bottom() + kRingRoom / 2, 0, 0);
+            return whole.adjusted(0, framePlace().bottom() + kRingRoom, 0, 0);
         case CaptionPlace::Beside:
             return face_.isNull() ? whole
                                   : framePlace().adjusted(facePlace().right(), 0, -2 * kFrameTwips, 0);
@@ -159,8 +159,6 @@ void Button::paint(QPainter& painter) {
         if (!isEnabled()) painter.setOpacity(colors::kDisabledText);
         paintCaption(painter);
     }
-    const int room = frame_ == Frame::None ? 0 : kRingRoom;
-    if (showsFocus()) paintFocusRing(painter, frame.adjusted(-room, -room, room, room));
 }
 
 }  // namespace sarne

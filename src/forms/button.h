@@ -22,6 +22,7 @@ class Button : public Control {
     Button(Form& form, const QString& name);
 
     QAccessible::Role role() const override { return QAccessible::Button; }
+    QRect focusPlace() const override { return framePlace(); }
 
     void setFace(const Picture& face);
     /// The frame at rest. While the mouse is down on a raised button its frame is the pressed one.

@@ -74,7 +74,6 @@ void CheckBox::paint(QPainter& painter) {
     painter.setFont(font_.toQFont());
     painter.setPen(color_);
     painter.drawText(place.adjusted(box.right() + kGap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, caption_);
-    if (showsFocus()) paintFocusRing(painter, place);
 }
 
 void CheckBox::paintMark(QPainter& painter, const QRect& place) const {

@@ -13,6 +13,7 @@ class CheckBox : public Control {
     CheckBox(Form& form, const QString& name);
 
     QAccessible::Role role() const override { return QAccessible::CheckBox; }
+    QRect focusPlace() const override { return {{0, 0}, twips().size()}; }
     void addAccessibleState(QAccessible::State& state) const override;
 
     bool isChecked() const { return checked_; }

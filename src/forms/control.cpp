@@ -1,10 +1,8 @@
 #include "forms/control.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 
 #include "forms/accessiblecontrol.h"
-#include "forms/colors.h"
 #include "forms/form.h"
 #include "forms/stage.h"
 
@@ -39,17 +37,6 @@ bool Control::showsFocus() const {
     return hasFocus() && stage && stage->keyboardInUse();
 }
 
-void Control::paintFocusRing(QPainter& painter, const QRect& twips) {
-    // Light on dark on light: seen on every picture.
-    constexpr int kInset = 30;
-    const QRectF ring = QRectF(twips).adjusted(kInset, kInset, -kInset, -kInset);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(colors::kNight, 60));
-    painter.drawRoundedRect(ring, 60, 60);
-    painter.setPen(QPen(colors::kTitle, 26, Qt::SolidLine));
-    painter.drawRoundedRect(ring, 60, 60);
-}
-
 void Control::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     if (focusPolicy() & Qt::ClickFocus) setFocus(Qt::MouseFocusReason);
@@ -76,11 +63,19 @@ void Control::mouseDoubleClickEvent(QMouseEvent* event) {
     if (self) Q_EMIT doubleClicked();
 }
 
+void Control::setPointedAt(bool pointedAt) {
+    if (pointedAt_ == pointedAt) return;
+    pointedAt_ = pointedAt;
+    update();
+}
+
 void Control::mouseMoveEvent(QMouseEvent* event) {
+    setPointedAt(true);
     Q_EMIT hovered(toTwips(event->position()));
 }
 
 void Control::leaveEvent(QEvent*) {
+    setPointedAt(false);
     Q_EMIT left();
 }
 

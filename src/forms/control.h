@@ -29,6 +29,12 @@ class Control : public TwipWidget {
     /// Does what a click does. Nothing while the control is disabled.
     void click();
 
+    /// Whether the control should show that it has the keyboard.
+    bool showsFocus() const;
+    /// What of the control the ring goes around that shows the keyboard, in its twips; it may reach beyond
+    /// the control. Empty where the control shows the keyboard by itself.
+    virtual QRect focusPlace() const { return {}; }
+
   Q_SIGNALS:
     void pressed();
     void released();
@@ -39,10 +45,6 @@ class Control : public TwipWidget {
     void left();
 
   protected:
-    /// Whether the control should show that it has the keyboard.
-    bool showsFocus() const;
-    static void paintFocusRing(QPainter& painter, const QRect& twips);
-
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -52,10 +54,14 @@ class Control : public TwipWidget {
     void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool isDown() const { return down_; }
+    /// Whether the mouse has come to the control; what appears under a resting mouse is not pointed at.
+    bool isPointedAt() const { return pointedAt_; }
 
   private:
     Form& form_;
-    bool down_ = false;
+    void setPointedAt(bool pointedAt);
+
+    bool down_ = false, pointedAt_ = false;
 };
 
 }  // namespace sarne

@@ -5,13 +5,15 @@
 
 #include "forms/bassarne.h"
 #include "forms/control.h"
+#include "forms/focusframe.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "forms/stage.h"
 
 namespace sarne {
 
-Form::Form(basSarne& app, const QString& name) : TwipWidget(&app.stage()), app_(app), ring_(*this, app) {
+Form::Form(basSarne& app, const QString& name)
+    : TwipWidget(&app.stage()), app_(app), ring_(*this, app), focusFrame_(new FocusFrame(*this)) {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
     hide();

@@ -13,6 +13,7 @@ namespace sarne {
 
 class basSarne;
 class Control;
+class FocusFrame;
 class Resources;
 
 enum class Pointer { Normal, Back, Hourglass };
@@ -48,6 +49,8 @@ class Form : public TwipWidget {
     const Resources& resources() const;
     /// The way of the keyboard through the form's controls.
     FocusRing& ring() { return ring_; }
+    /// What shows where the keyboard is.
+    FocusFrame& focusFrame() const { return *focusFrame_; }
 
     void setPointer(Pointer pointer);
 
@@ -91,6 +94,7 @@ class Form : public TwipWidget {
 
     basSarne& app_;
     FocusRing ring_;
+    FocusFrame* focusFrame_;
     Pointer pointer_ = Pointer::Normal;
     QEventLoop* modalLoop_ = nullptr;
     bool loaded_ = true;

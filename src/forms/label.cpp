@@ -67,20 +67,6 @@ void Label::showPointer() {
     clickable_&& isEnabled() ? setCursor(Qt::PointingHandCursor) : unsetCursor();
 }
 
-void Label::light(bool on) {
-    lit_ = on;
-    update();
-}
-
-void Label::enterEvent(QEnterEvent*) {
-    light(clickable_);
-}
-
-void Label::leaveEvent(QEvent* event) {
-    light(false);
-    Control::leaveEvent(event);
-}
-
 void Label::changeEvent(QEvent* event) {
     Control::changeEvent(event);
     if (event->type() == QEvent::EnabledChange) showPointer();
@@ -106,7 +92,7 @@ void Label::paint(QPainter& painter) {
     const QRect place({0, 0}, twips().size());
     if (ground_.alpha() > 0)
         painter.fillRect(place, ground_);
-    else if (lit_ && isEnabled())
+    else if (clickable_ && isPointedAt() && isEnabled())
         painter.fillRect(place, kLit);
     painter.setFont(font_.toQFont());
     painter.setPen(color_);

@@ -32,14 +32,11 @@ class Label : public Control {
 
   protected:
     void paint(QPainter& painter) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     const QColor& color() const { return color_; }
     const TextFont& font() const { return font_; }
 
   private:
-    void light(bool on);
     void showPointer();
 
     QString text_;
@@ -48,7 +45,7 @@ class Label : public Control {
     QColor ground_ = Qt::transparent;
     Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignTop;
     int left_ = 0, right_ = 0;
-    bool wraps_ = false, clickable_ = false, lit_ = false;
+    bool wraps_ = false, clickable_ = false;
 };
 
 }  // namespace sarne

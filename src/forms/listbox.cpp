@@ -192,7 +192,6 @@ void ListBox::paint(QPainter& painter) {
     painter.setPen(QPen(colors::kCopper, kBorder, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(colors::kPaper);
     painter.drawRect(QRectF(place).adjusted(kBorder / 2., kBorder / 2., -kBorder / 2., -kBorder / 2.));
-    if (showsFocus()) paintFocusRing(painter, place);
 }
 
 }  // namespace sarne

@@ -21,6 +21,7 @@ class ListBox : public Control {
     ListBox(Form& form, const QString& name);
 
     QAccessible::Role role() const override { return QAccessible::Client; }
+    QRect focusPlace() const override { return {{0, 0}, twips().size()}; }
     QString accessibleValue() const override { return text(listIndex()); }
 
     void setFont(const TextFont& font);

@@ -7,6 +7,7 @@
 #include <QWindow>
 
 #include "forms/control.h"
+#include "forms/focusframe.h"
 #include "forms/form.h"
 #include "forms/nameplate.h"
 
@@ -101,20 +102,38 @@ void Stage::watchInput(const QEvent& event) {
     if (!key && event.type() != QEvent::MouseButtonPress) return;
     if (keyboardInUse_ == key) return;
     keyboardInUse_ = key;
-    if (QWidget* focused = focusWidget()) focused->update();
+    QWidget* focused = focusWidget();
+    if (!focused) return;
+    focused->update();
+    followFocus(focused, QEvent::None);
 }
 
-/// Lets the form of \a watched know which of its controls has got the keyboard.
-void Stage::focusArrived(QObject* watched) {
+/// Lets the form of \a watched know which of its controls has the keyboard, and where that is.
+void Stage::followFocus(QObject* watched, QEvent::Type type) {
     auto* widget = qobject_cast<QWidget*>(watched);
     while (widget && !qobject_cast<Control*>(widget)) widget = widget->parentWidget();
-    if (auto* control = qobject_cast<Control*>(widget)) control->form().ring().arrived(*control);
+    auto* form = widget ? qobject_cast<Form*>(widget->parentWidget()) : nullptr;  // not while it is destroyed
+    if (!form) return;
+    auto& control = static_cast<Control&>(*widget);
+    if (type == QEvent::FocusIn) form->ring().arrived(control);
+    form->focusFrame().follow(control);
 }
 
 bool Stage::eventFilter(QObject* watched, QEvent* event) {
     watchInput(*event);
     if (isPartOfThis(watched)) {
-        if (event->type() == QEvent::FocusIn) focusArrived(watched);
+        switch (event->type()) {
+            case QEvent::FocusIn:
+            case QEvent::FocusOut:
+            case QEvent::Move:
+            case QEvent::Resize:
+            case QEvent::Show:
+            case QEvent::Hide:
+                followFocus(watched, event->type());
+                break;
+            default:
+                break;
+        }
         if (event->type() == QEvent::ToolTip) return true;  // the name plate says it
         if (watched != namePlate_) namePlate_->see(watched, *event);
     }

@@ -59,7 +59,7 @@ class Stage : public QWidget {
     void raiseModal();
     void watchInput(const QEvent& event);
     bool isPartOfThis(const QObject* watched) const;
-    static void focusArrived(QObject* watched);
+    static void followFocus(QObject* watched, QEvent::Type type);
 
     double scale_ = 1. / 15;
     QPointF origin_;

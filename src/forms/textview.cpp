@@ -5,6 +5,7 @@
 
 #include "core/texts.h"
 #include "forms/colors.h"
+#include "forms/focusframe.h"
 #include "forms/form.h"
 #include "forms/holdrepeat.h"
 #include "richtext/basZobrazRtfSarne.h"
@@ -31,6 +32,7 @@ TextView::TextView(Form& form, const QString& name)
     new HoldRepeat(*down_, [this] { scrollBy(kLineStep); });
     connect(this, &PictureBox::scrolledTo, this, [this] {
         updateArrows();
+        this->form().focusFrame().follow(*this);
         if (underMouse()) point(linkAt(mapFromGlobal(QPointF(QCursor::pos()))));
     });
     updateArrows();
@@ -92,6 +94,7 @@ bool TextView::stepInside(int direction) {
 void TextView::focusLink(std::optional<int> link) {
     pieces_.focus(link);
     update();
+    form().focusFrame().follow(*this);
     if (!link) return;
     // Scrolls no further than needed; of a phrase taller than the view its beginning shows.
     const QRect place = pieces_.linkRect(*link).adjusted(0, -kFade, 0, kFade);
@@ -221,13 +224,15 @@ void TextView::paint(QPainter& painter) {
     painter.restore();
     if (scrolled() > 0) paintFade(painter, 0, kFade);
     if (scrolled() < scrollRange()) paintFade(painter, twips().height(), twips().height() - kFade);
-    if (!showsFocus()) return;
-    constexpr int kAround = 45;
-    QRect ring({0, 0}, twips().size());
-    if (const auto link = pieces_.focused())
-        ring =
-            pieces_.linkRect(*link).translated(0, -scrolled()).adjusted(-kAround, -kAround, kAround, kAround);
-    paintFocusRing(painter, ring);
+}
+
+QRect TextView::focusPlace() const {
+    constexpr int kInside = 150;  // twips of the sheet around the ring
+    const QRect all({0, 0}, twips().size());
+    if (const auto link = pieces_.focused()) return pieces_.linkRect(*link).translated(0, -scrolled()) & all;
+    return sheet_.isEmpty()
+               ? all
+               : sheet_.translated(-twips().topLeft()).adjusted(kInside, kInside, -kInside, -kInside);
 }
 
 }  // namespace sarne

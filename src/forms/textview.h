@@ -23,6 +23,10 @@ class TextView : public PictureBox {
 
     QAccessible::Role role() const override { return QAccessible::Document; }
 
+    /// The sheet of paper that the view stands on, in twips of the form: the ring that shows the keyboard
+    /// runs along its edge. Without one it goes around the view.
+    void setSheet(const QRect& sheet) { sheet_ = sheet; }
+    QRect focusPlace() const override;
     void setArrowPictures(const Picture& up, const Picture& down);
 
     void Cls() override;
@@ -75,6 +79,7 @@ class TextView : public PictureBox {
     QtTextMetrics metrics_;
     QPointer<Button> up_, down_;  // the form's, and gone with this view
     std::optional<int> pressed_;
+    QRect sheet_;
 };
 
 }  // namespace sarne

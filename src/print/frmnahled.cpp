@@ -6,7 +6,6 @@
 #include "forms/colors.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
-#include "forms/stage.h"
 #include "print/formparts.h"
 
 namespace sarne {
@@ -24,17 +23,6 @@ const char* const kTips[] = {"Předchozí strana", "Další strana", "Zvětšit 
                              "Zpět k tisku"};
 
 }  // namespace
-
-void showOver(basSarne& app, Form& form) {
-    if (app.stage().modalForm()) return form.showModal();
-    app.PushScreen(form);
-    form.showForm();
-}
-
-void closeOver(basSarne& app, Form& form) {
-    if (app.FormStack.contains(form)) return app.PopScreen(form);
-    form.unload();
-}
 
 frmNahled::frmNahled(basSarne& sarne, std::unique_ptr<PagePreview> preview)
     : Form(sarne, QStringLiteral("frmNahled")),
@@ -69,12 +57,13 @@ void frmNahled::Zobraz() {
     go(0);
     Timer1.setInterval(0);
     Timer1.setEnabled(!preview_->isComplete());
-    showOver(app(), *this);
+    app().PushScreen(*this);
+    showForm();
 }
 
 void frmNahled::goBack() {
     Timer1.setEnabled(false);
-    closeOver(app(), *this);
+    app().PopScreen(*this);
 }
 
 void frmNahled::layOutMore() {

@@ -16,7 +16,7 @@ class frmNahled : public Form {
   public:
     frmNahled(basSarne& app, std::unique_ptr<PagePreview> preview);
 
-    /// Shows the first page; returns when the preview is closed, where another form is modal, else at once.
+    /// Shows the first page.
     void Zobraz();
 
     int currentPage() const { return current_; }
@@ -40,10 +40,5 @@ class frmNahled : public Form {
     Timer Timer1;
     int current_ = 0;
 };
-
-/// Shows \a form as a screen of its own, or on top of a modal form as another modal one.
-void showOver(basSarne& app, Form& form);
-/// Closes a form that showOver() has shown.
-void closeOver(basSarne& app, Form& form);
 
 }  // namespace sarne

@@ -74,7 +74,9 @@ void frmPrint::take(PrintMaterial material, const Serving& serving) {
 }
 
 void frmPrint::open() {
-    if (!isVisible()) showOver(app(), *this);
+    if (isVisible()) return;
+    app().PushScreen(*this);
+    showForm();
 }
 
 void frmPrint::prepareOptions(const Serving& serving) {
@@ -222,7 +224,7 @@ void frmPrint::choosePrinter() {
 
 void frmPrint::goBack() {
     if (printing_) return askToStop();
-    closeOver(app(), *this);
+    app().PopScreen(*this);
 }
 
 void frmPrint::endProgram() {

@@ -10,6 +10,7 @@
 #include "dialogs/frmdialog.h"
 #include "forms/textview.h"
 #include "screens/navigation/frmhlavni.h"
+#include "screens/navigation/frmmenu.h"
 #include "support/fakeplatform.h"
 #include "support/fakesarne.h"
 #include "support/recipedatabase.h"
@@ -23,7 +24,9 @@ class ProgramTest : public testing::Test {
         for (const char* name : {"program", "disc", "data"}) QDir(folder.path()).mkpath(QLatin1String(name));
         test::writeRecipeDatabase(
             path("program/Sarne.drc"),
-            {QStringLiteral("INSERT INTO Nastav VALUES (1,'a',1),(2,'b',0),(3,'c',1),(4,'d',0)")});
+            {QStringLiteral("INSERT INTO Nastav VALUES (1,'a',1),(2,'b',0),(3,'c',1),(4,'d',0)"),
+             QStringLiteral("INSERT INTO Menu VALUES ('120','@Hledání',''),('121','Napište název','F')"),
+             QStringLiteral("INSERT INTO Suroviny VALUES (1,'kapie')")});
         platform.settings.set(QStringLiteral("CDPath"), path("disc"));
         make();
     }
@@ -207,6 +210,39 @@ TEST_F(ProgramTest, TheWindowsCloseButtonAsksOnEveryScreen) {
     EXPECT_FALSE(program->hasEnded());
     EXPECT_TRUE(close(Qt::Key_A));
     EXPECT_TRUE(program->hasEnded());
+}
+
+TEST_F(ProgramTest, AnIngredientWithoutRecipesLeavesTheKeyboardUsable) {
+    ASSERT_TRUE(program->Main({}));
+    frmHlavni& main = *program->mainScreen();
+    const auto chooseIt = [&](bool byMouse) {
+        QTest::mouseClick(child<QWidget>(main, "imgClick(12)"), Qt::LeftButton);
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("kapie"));
+        press(Qt::Key_Return);
+        frmMenu* results = main.menu()->child();
+        if (byMouse)
+            QTest::mouseClick(child<QWidget>(*results, "lblOdkaz(1)"), Qt::LeftButton);
+        else
+            press(Qt::Key_Return);
+        return !main.isMenuOpen() && program->FormStack.top() == &main;
+    };
+    for (const bool byMouse : {true, false}) {
+        ASSERT_TRUE(chooseIt(byMouse));
+        press(Qt::Key_Right);
+        EXPECT_NE(main.currentButton(), -5) << "arrows";
+        press(Qt::Key_F4);
+        ASSERT_NE(program->FormStack.top(), &main);
+        press(Qt::Key_Escape);
+        ASSERT_EQ(program->FormStack.top(), &main);
+        ASSERT_TRUE(chooseIt(byMouse));
+        bool asked = false;
+        QTimer::singleShot(0, [&asked] {
+            asked = true;
+            press(Qt::Key_N);
+        });
+        press(Qt::Key_X);
+        EXPECT_TRUE(asked);
+    }
 }
 
 TEST_F(ProgramTest, TheFirstVisitShowsTheThingsAndNoOther) {

@@ -5,6 +5,7 @@
 
 #include "forms/checkbox.h"
 #include "forms/form.h"
+#include "forms/label.h"
 #include "forms/listbox.h"
 #include "forms/progressbar.h"
 #include "support/fakesarne.h"
@@ -79,6 +80,25 @@ TEST(CheckBox, ClicksAndTheSpaceBarSwitch) {
     ASSERT_TRUE(reader);
     EXPECT_EQ(reader->role(), QAccessible::RadioButton);
     EXPECT_TRUE(reader->state().checked);
+}
+
+TEST(Label, LightsUpOnlyUnderAMouseThatHasComeToIt) {
+    FakeSarne run;
+    KeyForm form(run);
+    Label label(form, QStringLiteral("lblSeznam(1)"));
+    label.place({300, 300, 1500, 450});
+    label.setClickable(true);
+    form.show();
+    const auto ground = [&] { return form.grab().toImage().pixelColor(label.geometry().center()); };
+    const QColor resting = ground();
+    QEnterEvent appeared({5, 5}, {5, 5}, {5, 5});
+    QApplication::sendEvent(&label, &appeared);
+    EXPECT_EQ(ground(), resting) << "what appears below a resting mouse stays dark";
+    QTest::mouseMove(&label, {6, 6});
+    EXPECT_NE(ground(), resting);
+    QEvent gone(QEvent::Leave);
+    QApplication::sendEvent(&label, &gone);
+    EXPECT_EQ(ground(), resting);
 }
 
 TEST(ProgressBar, StaysWithinItsRange) {

@@ -7,6 +7,7 @@
 #include "forms/button.h"
 #include "forms/checkbox.h"
 #include "forms/edit.h"
+#include "forms/focusframe.h"
 #include "support/fakesarne.h"
 
 namespace sarne {
@@ -179,6 +180,24 @@ TEST_F(FocusRingTest, AScreenBelowHandsTheKeyboardToTheOneOnTop) {
     over->showForm();
     screen->setFocus();
     EXPECT_EQ(run.window.focusForm(), over);
+}
+
+TEST_F(FocusRingTest, TheKeyboardIsShownAtADistanceAndOnlyToThoseWhoUseIt) {
+    const FocusFrame& frame = screen->focusFrame();
+    Button& button = *screen->buttons[0];
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_FALSE(frame.isVisible());
+    press(Qt::Key_A);
+    ASSERT_TRUE(frame.isVisible());
+    button.place({3000, 6000, 750, 450});
+    const QRect thing = button.focusPlace().translated(3000, 6000);
+    EXPECT_TRUE(frame.twips().contains(thing.adjusted(-75, -75, 75, 75))) << "it has moved along";
+    const QImage shot = screen->grab().toImage();
+    const QColor beside = shot.pixelColor(screen->toPixels({thing.left() - 15, thing.center().y()}));
+    EXPECT_EQ(beside, shot.pixelColor(shot.width() - 1, shot.height() - 1))
+        << "ground between thing and ring";
+    button.setEnabled(false);
+    EXPECT_FALSE(frame.isVisible());
 }
 
 TEST_F(FocusRingTest, TheFormItselfCanBeAStop) {

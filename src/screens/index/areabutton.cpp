@@ -34,7 +34,7 @@ QRect AreaButton::plate() const {
 }
 
 void AreaButton::paint(QPainter& painter) {
-    const bool marked = hovered_ || showsFocus();
+    const bool marked = isPointedAt() || showsFocus();
     const QRect place = plate();
     QColor ground = marked ? colors::kSelected : colors::kNight;
     ground.setAlpha(marked ? 255 : 225);
@@ -44,23 +44,11 @@ void AreaButton::paint(QPainter& painter) {
     painter.setFont(kFont.toQFont());
     painter.setPen(marked ? Qt::white : colors::kTitle);
     painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, caption_);
-    if (hovered_) {
+    if (isPointedAt()) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(colors::kCopper, 45));
         painter.drawRoundedRect(QRectF({0, 0}, twips().size()).adjusted(30, 30, -30, -30), 90, 90);
     }
-    if (showsFocus()) paintFocusRing(painter, {{0, 0}, twips().size()});
-}
-
-void AreaButton::enterEvent(QEnterEvent*) {
-    hovered_ = true;
-    update();
-}
-
-void AreaButton::leaveEvent(QEvent* event) {
-    Control::leaveEvent(event);
-    hovered_ = false;
-    update();
 }
 
 }  // namespace sarne

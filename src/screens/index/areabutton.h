@@ -12,12 +12,11 @@ class AreaButton : public Control {
     AreaButton(Form& form, const QString& name, const QString& caption);
 
     QAccessible::Role role() const override { return QAccessible::Button; }
+    QRect focusPlace() const override { return {{0, 0}, twips().size()}; }
     const QString& caption() const { return caption_; }
 
   protected:
     void paint(QPainter& painter) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 
   private:
     QRect plate() const;

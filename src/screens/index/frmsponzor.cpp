@@ -96,6 +96,7 @@ void frmSponzor::placeCard() {
     const int text = std::clamp(card_.contentHeight() + kTextStart.y(), kLeastText, kMostText);
     const int height = text + 2 * kCardMargin + kCardFoot;
     cardPlace_ = QRect(kCardLeft, kCardMiddle - height / 2, kCardWidth, height);
+    card_.setSheet(cardPlace_.adjusted(0, 0, 0, -kCardFoot));
     card_.place({cardPlace_.left() + kCardMargin, cardPlace_.top() + kCardMargin,
                  kCardWidth - 2 * kCardMargin - TextView::kArrowRoom, text});
     QRect close({}, kClose);

@@ -176,7 +176,6 @@ void TableView::paint(QPainter& painter) {
     painter.setClipRect(QRect({0, 0}, twips().size()));
     if (!table_.isEmpty()) paintHead(painter);
     for (int row = rows_.top(); row < rows_.end(); ++row) paintRow(painter, row);
-    if (showsFocus()) paintFocusRing(painter, {{0, 0}, twips().size()});
 }
 
 }  // namespace sarne

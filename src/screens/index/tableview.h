@@ -15,6 +15,7 @@ class TableView : public Control {
     TableView(Form& form, const QString& name);
 
     QAccessible::Role role() const override { return QAccessible::Table; }
+    QRect focusPlace() const override { return {{0, 0}, twips().size()}; }
     QString accessibleValue() const override { return rowText(rows_.selected()); }
 
     /// Shows \a table from its first row. The control must have its place by now.

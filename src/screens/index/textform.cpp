@@ -24,6 +24,7 @@ constexpr QRect kText{kPaper.x() + kSide, kPaper.y() + kMargin, kPaper.width() -
 TextForm::TextForm(basSarne& app, const QString& name)
     : BarForm(app, name), view_(*this, QStringLiteral("picText")) {
     view_.place(kText);
+    view_.setSheet(kPaper);
     view_.setRightMargin(kTextStart.x());
     view_.setFocusPolicy(Qt::ClickFocus);
     view_.setArrowPictures(app.resources().picture(QStringLiteral("SipkaNahoru")),

@@ -56,6 +56,7 @@ frmRecept::frmRecept(basSarne& run, Serving& lookedAt, AskNumber ask)
 
 void frmRecept::makeView() {
     view_->place(recipelayout::kView);
+    view_->setSheet(recipelayout::kPaper);
     view_->setArrowPictures(app().resources().picture(QStringLiteral("SipkaNahoru")),
                             app().resources().picture(QStringLiteral("SipkaDolu")));
     connect(view_, &TextView::linkActivated, this, [this](LinkKey key) { followLink(app(), key); });
