@@ -14,7 +14,7 @@ namespace {
 /// How far the two unit systems may be apart.
 constexpr double kTolerance = 0.10;
 constexpr int kFewestIngredients = 6;
-constexpr int kMostIngredients = 16;
+constexpr int kMostIngredients = 18;
 constexpr int kMostPortions = 255;
 /// More spoons than that are measured in cups.
 constexpr double kMostSpoons = 12;
