@@ -52,7 +52,7 @@ Lines factLine(const Recipe& recipe) {
     if (!recipe.ahead.isEmpty()) facts << QStringLiteral("předem: ") + recipe.ahead;
     facts << portions(recipe.portions, QStringLiteral("porce"));
     if (!recipe.difficulty.isEmpty()) facts << recipe.difficulty;
-    const QString text = u'_' + facts.join(QStringLiteral(" · ")) + u'_';
+    const QString text = u'_' + facts.join(QStringLiteral("\u00a0· ")) + u'_';
     return {Line{recipe.place, text}, Line{recipe.place, {}}};
 }
 

@@ -1,4 +1,5 @@
 #include "app/program.h"
+#include "factlines.h"
 #include "screens/navigation/frmhlavni.h"
 #include "tour.h"
 
@@ -213,6 +214,7 @@ void walk(Tour& tour) {
     galleries(tour);
     media(tour);
     printing(tour);
+    recipeFacts(tour);
     ending(tour);
 }
 

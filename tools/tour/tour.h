@@ -35,6 +35,7 @@ class Tour {
     void stop(const QString& form, const QString& what = {});
     /// Whether the form in front has a control called \a control that can be seen.
     bool has(const QString& control) const;
+    Form* front() const;
     /// The name of the form in front.
     QString frontName() const;
     /// Opens the help of the form in front by F1, keeps it as "frmStranka-F1-form", and goes back.
@@ -63,7 +64,6 @@ class Tour {
     void fault(const QString& text) { faults_ << text; }
 
   private:
-    Form* front() const;
     QWidget* find(const QString& control);
     void clickWidget(QWidget& widget);
     /// The widget that the mouse meets in the middle of \a aimedAt, and where within it.

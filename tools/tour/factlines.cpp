@@ -1,0 +1,175 @@
+#include "factlines.h"
+
+#include <QImage>
+#include <QRegularExpression>
+#include <algorithm>
+
+#include "app/program.h"
+#include "forms/textview.h"
+#include "screens/recipe/recipelayout.h"
+#include "textcontrast.h"
+#include "tour.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kRecipes = 50;
+constexpr int kMethod = 1;  // sections of the recipe screen
+constexpr int kIntroduction = 2;
+constexpr int kMostSteps = 80;  // of the scroll key, from the top of a text to its foot
+constexpr double kReadable =
+    3;  // of the darkest point of a word with the lightest around it, letters being thin
+
+QRegularExpression pattern(const char16_t* text) {
+    return QRegularExpression(QString::fromUtf16(text), QRegularExpression::UseUnicodePropertiesOption);
+}
+
+/// A line that the builder writes.
+struct FactLine {
+    const char* what;
+    QRegularExpression pattern;
+};
+
+FactLine timesLine() {
+    return {"times", pattern(u"^Příprava \\d+ min( · vaření \\d+ min)?( · předem: .+)? · \\d+ porc[eí] · "
+                             u"(snadné|střední|náročné)$")};
+}
+
+/// At the head of the method.
+QList<FactLine> methodFacts() {
+    return {{"portions", pattern(u"^Postup pro (1 porci|[234] porce|\\d+ porcí)$")}, timesLine()};
+}
+
+/// At the head and the foot of the introduction.
+QList<FactLine> introductionFacts() {
+    return {timesLine(),
+            {"energy", pattern(u"^Jedna porce: asi [\\d ]+ kcal \\([\\d ]+ kJ\\), \\d+ g bílkovin\\. "
+                               u"Alergeny: \\d+ \\p{L}.*\\.$")},
+            {"season",
+             pattern(u"^Sezona: .+\\. Kosti: (ano|málo|ne)\\. Mrazit: (ano|ne)\\b.*\\. Vydrží: .+\\.$")}};
+}
+
+/// A paragraph of a text laid out: what it reads and which lines it takes.
+struct Paragraph {
+    QString text;
+    qsizetype firstLine = 0;
+    qsizetype endLine = 0;
+};
+
+QString textOf(const RtfLayout& layout, const TextLine& line) {
+    QString text;
+    for (qsizetype i = line.firstBox; i < line.firstBox + line.boxCount; ++i)
+        text += layout.text(layout.boxes()[size_t(i)]).toString() + u' ';
+    return text.replace(QChar(QChar::Nbsp), u' ');
+}
+
+std::vector<Paragraph> paragraphs(const RtfLayout& layout) {
+    std::vector<Paragraph> all;
+    for (qsizetype i = 0; i < qsizetype(layout.lines().size()); ++i) {
+        const TextLine& line = layout.lines()[size_t(i)];
+        if (all.empty() || line.startsParagraph) all.push_back({{}, i, i});
+        all.back().text += textOf(layout, line);
+        all.back().endLine = i + 1;
+    }
+    return all;
+}
+
+/// Looks at one paragraph on the screen that shows.
+class Inspector {
+  public:
+    Inspector(Tour& tour, const TextView& view, const QString& name)
+        : tour_(tour), view_(view), layout_(view.pieces().layout(0)), name_(name) {}
+
+    void look(const FactLine& fact) {
+        const auto all = paragraphs(layout_);
+        const auto found = std::find_if(all.begin(), all.end(), [&](const Paragraph& paragraph) {
+            return fact.pattern.match(paragraph.text.trimmed()).hasMatch();
+        });
+        if (found == all.end()) return fault(fact, QStringLiteral("is missing"));
+        if (!scrollTo(*found)) return fault(fact, QStringLiteral("cannot be seen whole"));
+        const QImage picture = tour_.program().stage().grab().toImage();
+        for (qsizetype i = found->firstLine; i < found->endLine; ++i)
+            lookAtWords(fact, layout_.lines()[size_t(i)], picture);
+    }
+
+  private:
+    void fault(const FactLine& fact, const QString& why) {
+        tour_.fault(QStringLiteral("%1: the line of %2 %3").arg(name_, QLatin1String(fact.what), why));
+    }
+
+    /// As a reader does: down, until all of the paragraph shows.
+    bool scrollTo(const Paragraph& paragraph) {
+        const int bottom = layout_.lines()[size_t(paragraph.endLine - 1)].bottom();
+        for (int step = 0; step < kMostSteps && bottom > view_.scrolled() + view_.twips().height(); ++step)
+            tour_.key(Qt::Key_PageDown);
+        const int top = layout_.lines()[size_t(paragraph.firstLine)].top;
+        return top >= view_.scrolled() && bottom <= view_.scrolled() + view_.twips().height();
+    }
+
+    void lookAtWords(const FactLine& fact, const TextLine& line, const QImage& picture) {
+        for (qsizetype i = line.firstBox; i < line.firstBox + line.boxCount; ++i) {
+            const WordBox& box = layout_.boxes()[size_t(i)];
+            const QString word = layout_.text(box).toString();
+            if (!paper().contains(RtfLayout::rect(box)))
+                fault(fact, QStringLiteral("leaves the paper at \"%1\"").arg(word));
+            else if (word.size() > 1 && !isPainted(picture, placeOf(box)))
+                fault(fact, QStringLiteral("does not show \"%1\"").arg(word));
+        }
+    }
+
+    /// What of the section's paper the view shows, in twips of its content.
+    QRect paper() const {
+        const QRect sheet = recipelayout::kPaper.intersected(view_.twips());
+        return sheet.translated(QPoint(0, view_.scrolled()) - view_.twips().topLeft());
+    }
+
+    /// In pixels of the window.
+    QRect placeOf(const WordBox& box) const {
+        const QRect place = RtfLayout::rect(box).translated(0, -view_.scrolled());
+        const QPoint first = view_.mapTo(&tour_.program().stage(), view_.toPixels(place.topLeft()));
+        const QPoint last = view_.mapTo(&tour_.program().stage(), view_.toPixels(place.bottomRight()));
+        return {first, last};
+    }
+
+    static bool isPainted(const QImage& picture, const QRect& place) {
+        QColor dark = Qt::white;
+        QColor light = Qt::black;
+        for (int y = place.top(); y <= place.bottom(); ++y)
+            for (int x = place.left(); x <= place.right(); ++x) {
+                const QColor here = picture.pixelColor(x, y);
+                if (here.lightness() < dark.lightness()) dark = here;
+                if (here.lightness() > light.lightness()) light = here;
+            }
+        return contrastRatio(light, dark) >= kReadable;
+    }
+
+    Tour& tour_;
+    const TextView& view_;
+    const RtfLayout& layout_;
+    QString name_;
+};
+
+void section(Tour& tour, int recipe, int section, const QList<FactLine>& facts) {
+    const QString name = QStringLiteral("recept-%1-%2").arg(recipe, 2, 10, QLatin1Char('0')).arg(section);
+    tour.click(QStringLiteral("imgBtn(%1)").arg(section));
+    const auto* view =
+        tour.front() ? tour.front()->findChild<TextView*>(QStringLiteral("picRecept")) : nullptr;
+    if (!view || view->drawnText().isEmpty()) return tour.fault(name + QStringLiteral(": no text"));
+    tour.picture(name);
+    Inspector inspector(tour, *view, name);
+    for (const FactLine& fact : facts) inspector.look(fact);
+    if (view->scrolled() > 0) tour.picture(name + QStringLiteral("-dole"));
+}
+
+}  // namespace
+
+void recipeFacts(Tour& tour) {
+    for (int recipe = 1; recipe <= kRecipes; ++recipe) {
+        tour.program().screens().showRecipe(std::int16_t(recipe));
+        section(tour, recipe, kMethod, methodFacts());
+        section(tour, recipe, kIntroduction, introductionFacts());
+        tour.key(Qt::Key_Escape);
+    }
+}
+
+}  // namespace sarne
