@@ -87,9 +87,9 @@ class Inspector {
         });
         if (found == all.end()) return fault(fact, QStringLiteral("is missing"));
         if (!scrollTo(*found)) return fault(fact, QStringLiteral("cannot be seen whole"));
-        const QImage picture = tour_.program().stage().grab().toImage();
+        keepPicture();
         for (qsizetype i = found->firstLine; i < found->endLine; ++i)
-            lookAtWords(fact, layout_.lines()[size_t(i)], picture);
+            lookAtWords(fact, layout_.lines()[size_t(i)]);
     }
 
   private:
@@ -106,13 +106,20 @@ class Inspector {
         return top >= view_.scrolled() && bottom <= view_.scrolled() + view_.twips().height();
     }
 
-    void lookAtWords(const FactLine& fact, const TextLine& line, const QImage& picture) {
+    /// Keeps what shows, unless the last picture shows it.
+    void keepPicture() {
+        if (shown_ == view_.scrolled()) return;
+        shown_ = view_.scrolled();
+        picture_ = tour_.picture(shown_ == 0 ? name_ : name_ + QStringLiteral("-dole"), Tour::As::Photo);
+    }
+
+    void lookAtWords(const FactLine& fact, const TextLine& line) {
         for (qsizetype i = line.firstBox; i < line.firstBox + line.boxCount; ++i) {
             const WordBox& box = layout_.boxes()[size_t(i)];
             const QString word = layout_.text(box).toString();
             if (!paper().contains(RtfLayout::rect(box)))
                 fault(fact, QStringLiteral("leaves the paper at \"%1\"").arg(word));
-            else if (word.size() > 1 && !isPainted(picture, placeOf(box)))
+            else if (word.size() > 1 && !isPainted(placeOf(box)))
                 fault(fact, QStringLiteral("does not show \"%1\"").arg(word));
         }
     }
@@ -131,12 +138,12 @@ class Inspector {
         return {first, last};
     }
 
-    static bool isPainted(const QImage& picture, const QRect& place) {
+    bool isPainted(const QRect& place) const {
         QColor dark = Qt::white;
         QColor light = Qt::black;
         for (int y = place.top(); y <= place.bottom(); ++y)
             for (int x = place.left(); x <= place.right(); ++x) {
-                const QColor here = picture.pixelColor(x, y);
+                const QColor here = picture_.pixelColor(x, y);
                 if (here.lightness() < dark.lightness()) dark = here;
                 if (here.lightness() > light.lightness()) light = here;
             }
@@ -147,6 +154,8 @@ class Inspector {
     const TextView& view_;
     const RtfLayout& layout_;
     QString name_;
+    QImage picture_;
+    int shown_ = -1;  // how far the picture was scrolled
 };
 
 void section(Tour& tour, int recipe, int section, const QList<FactLine>& facts) {
@@ -155,10 +164,8 @@ void section(Tour& tour, int recipe, int section, const QList<FactLine>& facts) 
     const auto* view =
         tour.front() ? tour.front()->findChild<TextView*>(QStringLiteral("picRecept")) : nullptr;
     if (!view || view->drawnText().isEmpty()) return tour.fault(name + QStringLiteral(": no text"));
-    tour.picture(name);
     Inspector inspector(tour, *view, name);
     for (const FactLine& fact : facts) inspector.look(fact);
-    if (view->scrolled() > 0) tour.picture(name + QStringLiteral("-dole"));
 }
 
 }  // namespace

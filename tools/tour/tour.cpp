@@ -72,10 +72,11 @@ void Tour::skipIntro() {
     });
 }
 
-void Tour::picture(const QString& name) {
-    const QString file = pictures_.filePath(name + QStringLiteral(".png"));
-    if (!program_.stage().grab().save(file))
-        fault(QStringLiteral("%1: the picture cannot be written").arg(name));
+QImage Tour::picture(const QString& name, As how) {
+    const QString file = pictures_.filePath(name + QLatin1String(how == As::Exact ? ".png" : ".jpg"));
+    const QImage seen = program_.stage().grab().toImage();
+    if (!seen.save(file)) fault(QStringLiteral("%1: the picture cannot be written").arg(name));
+    return seen;
 }
 
 QWidget* Tour::find(const QString& control) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDir>
+#include <QImage>
 #include <QString>
 #include <QStringList>
 #include <Qt>
@@ -40,8 +41,10 @@ class Tour {
     QString frontName() const;
     /// Opens the help of the form in front by F1, keeps it as "frmStranka-F1-form", and goes back.
     void visitHelp();
-    /// Saves a picture only: of a place whose texts tell the time.
-    void picture(const QString& name);
+    /// Saves a picture only, of a place whose texts tell the time or are looked at otherwise, and returns it.
+    /// A photo is smaller and sooner written than what is exact to the pixel.
+    enum class As { Exact, Photo };
+    QImage picture(const QString& name, As how = As::Exact);
     /// Moves the mouse over, or clicks, the control called \a control on the form in front.
     void hover(const QString& control);
     void click(const QString& control);
