@@ -88,6 +88,11 @@ QStringList recipeSchema() {
     for (const char* table : {"RychleRecepty", "Help"})
         all << named(QLatin1String(table), {name, QStringLiteral("Recept INTEGER")});
     all << named(QStringLiteral("IndexHesla"), {QStringLiteral("nazvy") + kText, text});
+    // What stands beside a keyword's text: the path of a picture and what it shows, the number of a film, the
+    // recipes that use the word ("7,12,"). A keyword without any of them has no row.
+    all << named(QStringLiteral("UkazkyHesel"),
+                 {QStringLiteral("Obraz") + kText, QStringLiteral("Popis") + kText,
+                  QStringLiteral("Film INTEGER"), QStringLiteral("Recepty") + kText});
     all << named(QStringLiteral("Nastav"), {name, QStringLiteral("hodnota INTEGER NOT NULL DEFAULT 0")});
     // Pages of text; Obrazovka is the form whose help a page is, empty for the others.
     all << named(QStringLiteral("Stranky"), {name, text, QStringLiteral("Obrazovka") + kText});

@@ -112,6 +112,18 @@ class PhotosTest : public WorkshopTest {
                    path("disc"), path("scratch"), ledger_,     problems_};
 };
 
+TEST_F(PhotosTest, ThingsOfTheFilmsStandBesideKeywordsAsTheyAre) {
+    draw("art/rendered/film/kapr.webp", Qt::red);
+    book_.keywordPictures << KeywordPicture{{}, {}, QStringLiteral("kapr"), {}, 0};
+    makePhotos(shop_);
+    EXPECT_EQ(QImage(path("disc/foto/hesla/kapr.webp")).size(), QSize(1600, 1200));
+    book_.keywordPictures << KeywordPicture{
+        {QStringLiteral("obrazky.txt"), 3}, {}, QStringLiteral("kaprik"), {}, 0};
+    makePhotos(shop_);
+    EXPECT_TRUE(problems_.errors().contains(
+        QStringLiteral("obrazky.txt:3: obraz „kaprik“ v art/rendered/film není – mysleli jste „kapr“?")));
+}
+
 TEST_F(PhotosTest, AreOfTheRecipesOwnDish) {
     Problems release(Edition::release);
     Workshop shipped{book_,        folder_.path(),  path("art"), path("program"),

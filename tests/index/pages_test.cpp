@@ -97,6 +97,47 @@ TEST_F(KeywordTest, TabGoesThroughThePhrasesAndTheBarInACircle) {
     EXPECT_EQ(run.window.focusWidget(), child(*form, "imgBtnHlavni(4)"));
 }
 
+TEST_F(KeywordTest, BesideTheTextStandWhatIsKnownOfRecipesAndFilm) {
+    run.database.Execute(u("INSERT INTO UkazkyHesel VALUES (1, '', '', 6, '7,12,')"));
+    run.database.Execute(u("INSERT INTO UkazkyHesel VALUES (2, '', '', 0, '7,')"));
+    show(3);
+    const int whole = view().twips().width();
+    form->goBack();
+    show(1);
+    EXPECT_LT(view().twips().right() + TextView::kArrowRoom,
+              child<Button>(*form, "cmdRecepty")->twips().left());
+    EXPECT_EQ(child<Button>(*form, "cmdRecepty")->caption(), u("Recepty: 2"));
+    child<Button>(*form, "cmdRecepty")->click();
+    child<Button>(*form, "cmdFilm")->click();
+    EXPECT_EQ(run.recorded.calls, (QStringList{u("showList 7,12, recepty"), u("showVideo 6")}));
+
+    clickLink(0);
+    EXPECT_EQ(child<Button>(*form, "cmdRecepty")->caption(), u("Recepty: 1")) << "the next keyword's own";
+    EXPECT_FALSE(child<Button>(*form, "cmdFilm")->isVisible());
+    EXPECT_LT(view().twips().width(), whole);
+    form->goBack();
+    EXPECT_TRUE(child<Button>(*form, "cmdFilm")->isVisible()) << "going back shows what stood there";
+}
+
+TEST_F(KeywordTest, APictureOfTheDiscStandsAboveItsCaption) {
+    run.database.Execute(u("INSERT INTO UkazkyHesel VALUES (1, 'foto\\hesla\\kapr.png', 'Kapr', 0, '')"));
+    QDir(book.folder.path()).mkpath(u("foto/hesla"));
+    QImage(8, 6, QImage::Format_RGB32).save(book.folder.filePath(u("foto/hesla/kapr.png")));
+    run.MediaRoot = book.folder.path() + u'/';
+    show(1);
+    const auto* picture = child<PictureBox>(*form, "picHeslo");
+    const auto* caption = child<Label>(*form, "lblHeslo");
+    EXPECT_TRUE(picture->isVisible());
+    EXPECT_EQ(caption->text(), u("Kapr"));
+    EXPECT_GT(caption->twips().top(), picture->twips().bottom());
+    EXPECT_FALSE(child<Button>(*form, "cmdRecepty")->isVisible()) << "no recipe uses the word";
+    form->goBack();
+    QFile::remove(book.folder.filePath(u("foto/hesla/kapr.png")));
+    show(1);
+    EXPECT_FALSE(child<PictureBox>(*form, "picHeslo")->isVisible());
+    EXPECT_FALSE(child<Label>(*form, "lblHeslo")->isVisible()) << "no caption of nothing";
+}
+
 class PageTest : public testing::Test {
   protected:
     Cookbook book{{Cookbook::page(10, u("Jak na to"), u("slovo ").repeated(2000), {}),

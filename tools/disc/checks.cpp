@@ -5,6 +5,7 @@
 #include "checkmethod.h"
 #include "checkrecipe.h"
 #include "checktags.h"
+#include "keywordsamples.h"
 #include "markup.h"
 #include "nearword.h"
 #include "readsponsors.h"
@@ -138,7 +139,9 @@ void checkCookbook(const Cookbook& book, const Stems& stems, Problems& problems)
     checkUse(book, problems);
     checkPages(book, problems);
     Problems known;  // names that stand twice are reported when the database is written
-    checkSponsors(book, linkBook(book, known), problems);
+    const LinkBook links = linkBook(book, known);
+    checkSponsors(book, links, problems);
+    keywordSamples(book, links, problems);
     if (book.settings.size() != kSwitches)
         problems.error({QStringLiteral("nastav.txt"), 0}, QStringLiteral("program má pět přepínačů"));
 }

@@ -136,6 +136,17 @@ struct Article {
     Lines text;
 };
 
+/// The picture that obrazky.txt puts beside a keyword.
+struct KeywordPicture {
+    Place place;
+    QString keyword;
+    /// The name of one of the films' things, when it is no dish.
+    QString thing;
+    QString caption;
+    /// The dish whose photo it is, 0 when it is a thing.
+    int recipe = 0;
+};
+
 struct QuickRecipe {
     int id = 0;
     Place place;
@@ -275,6 +286,7 @@ struct Cookbook {
     QMap<int, Recipe> recipes;
     QList<Article> auxiliary;
     QList<Article> keywords;
+    QList<KeywordPicture> keywordPictures;
     QList<QuickRecipe> quick;
     QList<Page> pages;
     QList<HelpTopic> help;

@@ -1,6 +1,7 @@
 #include "loadcookbook.h"
 
 #include "checks.h"
+#include "keywordsamples.h"
 #include "markup.h"
 #include "menu.h"
 #include "readgoods.h"
@@ -98,6 +99,7 @@ Cookbook loadCookbook(const ContentFolder& folder, Problems& problems) {
     readTables(folder, book, problems);
     readArticles(folder, book, problems);
     readRecipes(folder, book, problems);
+    readKeywordPictures(folder, book, problems);
     readMenu(folder, book, problems);
     readGoods(folder, book, problems);
     const Stems stems = readStems(folder, problems);
@@ -124,6 +126,7 @@ void proofread(const ContentFolder& folder, const Cookbook& book, Problems& prob
         reader.text(topic.heading, topic.place);
         readMenuTexts(topic.items, reader);
     }
+    for (const KeywordPicture& picture : book.keywordPictures) reader.text(picture.caption, picture.place);
     readLookupTables(book, reader);
     readGallery(book, reader);
     reader.finish();

@@ -1,5 +1,6 @@
 #include "photos.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -9,6 +10,7 @@
 
 #include "core/gridtable.h"
 #include "courses.h"
+#include "nearword.h"
 #include "plate.h"
 #include "stamps.h"
 
@@ -198,6 +200,31 @@ Task pictureTask(Workshop& shop, const QString& source, const QString& target, c
             }};
 }
 
+/// The films' things that stand beside keywords: as they are, so that the paper shows around them.
+QList<Task> thingTasks(Workshop& shop) {
+    const QDir things(shop.art + QStringLiteral("/rendered/film"));
+    QStringList known;
+    for (const QFileInfo& file : things.entryInfoList({QStringLiteral("*.webp")})) known << file.baseName();
+    QList<Task> tasks;
+    QSet<QString> taken;
+    for (const KeywordPicture& picture : shop.book.keywordPictures) {
+        if (picture.recipe > 0 || taken.contains(picture.thing)) continue;
+        taken << picture.thing;
+        const QString from = things.filePath(picture.thing + QStringLiteral(".webp"));
+        const QString to = shop.disc + QStringLiteral("/foto/hesla/%1.webp").arg(picture.thing);
+        if (!known.contains(picture.thing))
+            shop.problems.error(picture.place,
+                                QStringLiteral("obraz „%1“ v art/rendered/film není").arg(picture.thing) +
+                                    didYouMean(picture.thing, known));
+        else
+            tasks << Task{{to}, originOf({from}, stamp::photos()), [=] {
+                              QFile::remove(to);
+                              return QFile::copy(from, to);
+                          }};
+    }
+    return tasks;
+}
+
 /// The fifty cells of the grid; a number without a recipe shows an empty plate.
 QList<Dish> allDishes(Workshop& shop) {
     QList<Dish> dishes;
@@ -221,6 +248,7 @@ void makePhotos(Workshop& shop) {
     for (const GalleryPicture& picture : shop.book.gallery)
         tasks << pictureTask(shop, QStringLiteral("rendered/sponzor/%1").arg(picture.id),
                              QStringLiteral("foto/sponzor/%1").arg(picture.id), kScreenSize);
+    tasks << thingTasks(shop);
     if (shop.makeAll(tasks)) shop.makeAll(gridTasks(shop, dishes));
 }
 

@@ -8,6 +8,7 @@
 #include "db/connection.h"
 #include "db/installation.h"
 #include "db/schema.h"
+#include "keywordsamples.h"
 #include "markup.h"
 #include "menu.h"
 #include "readsponsors.h"
@@ -49,6 +50,7 @@ class CookbookWriter {
         for (const Article& article : book_.keywords)
             writer_.add(QStringLiteral("IndexHesla"),
                         {article.id, article.name, rtf(article.text, article.name)});
+        samples();
         pages();
         lookupTables();
         galleries();
@@ -112,6 +114,16 @@ class CookbookWriter {
             writer_.add(QStringLiteral("SpojOdkazy"), {r.id, book_.auxiliaryId(name)});
         for (const QString& wine : r.wines)
             writer_.add(QStringLiteral("SpojVino"), {r.id, book_.wineId(wine)});
+    }
+
+    void samples() {
+        Problems known;  // reported with the checks
+        for (const KeywordSample& sample : keywordSamples(book_, links_, known)) {
+            QString recipes;
+            for (const int recipe : sample.recipes) recipes += QString::number(recipe) + u',';
+            writer_.add(QStringLiteral("UkazkyHesel"),
+                        {sample.keyword, sample.picture, sample.caption, sample.film, recipes});
+        }
     }
 
     void pages() {

@@ -130,6 +130,15 @@ void tables(Tour& tour) {
     }
 }
 
+/// Keywords with a thing beside them, a dish, nothing at all; an auxiliary recipe.
+void keywords(Tour& tour) {
+    for (const int keyword : {33, 72, 114, 808}) {
+        tour.program().screens().showIndex(std::int16_t(keyword));
+        tour.stop(QStringLiteral("frmIndex"), QString::number(keyword));
+        tour.key(Qt::Key_Escape);
+    }
+}
+
 /// Every area of the gallery in front: it shows its card, or leads to a keyword.
 void areas(Tour& tour, int topic) {
     for (int i = 0; tour.has(QStringLiteral("lblOblast(%1)").arg(i)); ++i) {
@@ -211,6 +220,7 @@ void walk(Tour& tour) {
     menus(tour);
     photos(tour);
     tables(tour);
+    keywords(tour);
     galleries(tour);
     media(tour);
     printing(tour);

@@ -5,7 +5,7 @@
 
 namespace sarne {
 
-frmIndex::frmIndex(basSarne& app) : TextForm(app, QStringLiteral("frmIndex")) {}
+frmIndex::frmIndex(basSarne& app) : TextForm(app, QStringLiteral("frmIndex")), aside_(*this, app) {}
 
 bool frmIndex::Zobraz(std::int16_t keyword) {
     if (!showKeyword(keyword)) {
@@ -20,8 +20,13 @@ bool frmIndex::Zobraz(std::int16_t keyword) {
 bool frmIndex::showKeyword(int keyword) {
     Recordset keywords = app().Db().OpenTable(QStringLiteral("IndexHesla"));
     if (!RecordExists(keywords, keyword)) return false;
-    showText(keywords.field(QStringLiteral("nazvy")).toString(),
-             keywords.field(QStringLiteral("Text")).toString(), QStringLiteral("Rejstřík hesel"));
+    const QString name = keywords.field(QStringLiteral("nazvy")).toString();
+    aside_.show(keyword, name);
+    placeText(aside_.isEmpty() ? wholePaper() : aside_.besideIt(wholePaper()));
+    std::vector<TwipWidget*> stops{&view()};
+    for (Button* button : aside_.buttons()) stops.push_back(button);
+    setContent(stops);
+    showText(name, keywords.field(QStringLiteral("Text")).toString(), QStringLiteral("Rejstřík hesel"));
     return true;
 }
 

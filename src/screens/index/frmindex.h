@@ -1,11 +1,13 @@
 #pragma once
 
+#include "screens/index/keywordaside.h"
 #include "screens/index/keywordhistory.h"
 #include "screens/index/textform.h"
 
 namespace sarne {
 
-/// The text of an index keyword. Its phrases lead to other keywords, which show in the same screen; going
+/// The text of an index keyword, and beside it a picture, the recipes that use the word and the film that
+/// shows it, where there are any. Its phrases lead to other keywords, which show in the same screen; going
 /// back retraces them, and then leaves to the caller. Made anew each time it is shown.
 class frmIndex : public TextForm {
     Q_OBJECT
@@ -23,6 +25,7 @@ class frmIndex : public TextForm {
   private:
     bool showKeyword(int keyword);
 
+    KeywordAside aside_;
     KeywordHistory visited_;
 };
 

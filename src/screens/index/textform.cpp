@@ -35,6 +35,10 @@ TextForm::TextForm(basSarne& app, const QString& name)
     setContent({&view_});
 }
 
+QRect TextForm::wholePaper() {
+    return kText;
+}
+
 void TextForm::showText(const QString& name, const QString& text, const QString& kind) {
     name_ = name;
     text_ = text;

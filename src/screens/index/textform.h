@@ -17,6 +17,10 @@ class TextForm : public BarForm {
     /// heading, \a kind.
     void showText(const QString& name, const QString& text, const QString& kind);
     TextView& view() { return view_; }
+    /// Where a text stands that has the paper to itself, its scroll arrows right of it.
+    static QRect wholePaper();
+    /// Places the text; before it is shown.
+    void placeText(const QRect& place) { view_.place(place); }
 
     virtual void linkActivated(const LinkKey& key);
     /// Prints the text that shows.
