@@ -140,7 +140,7 @@ void Button::paintCaption(QPainter& painter) const {
                       : captionPlace_ == CaptionPlace::Beside ? Qt::AlignCenter | Qt::TextWordWrap
                                                               : Qt::AlignCenter | Qt::TextShowMnemonic;
     painter.setFont(font_.toQFont());
-    painter.setPen(below ? colors::kTitle : colors::kPaper);
+    painter.setPen(below ? colors::kTitle : QColor(Qt::white));
     painter.drawText(captionRoom(), flags, caption_);
 }
 

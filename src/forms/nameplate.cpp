@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "forms/button.h"
 #include "forms/colors.h"
 #include "forms/form.h"
 #include "forms/label.h"
@@ -20,8 +21,11 @@ constexpr int kWidest = 5400;
 constexpr QRect kPointer(-14, -6, 42, 42);
 constexpr QRect kStage(0, 0, Stage::kWidth, Stage::kHeight);
 
+/// Nothing where the thing's own caption says the same.
 QString tipOf(const Control* thing) {
-    return thing ? thing->toolTip().trimmed() : QString();
+    const QString tip = thing ? thing->toolTip().trimmed() : QString();
+    const auto* button = qobject_cast<const Button*>(thing);
+    return button && button->caption() == tip ? QString() : tip;
 }
 
 }  // namespace

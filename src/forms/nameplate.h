@@ -14,10 +14,10 @@ class Stage;
 /// stage ends; always whole on the stage and never on \a pointer, the place that the mouse pointer covers.
 QRect namePlatePlace(QSize size, const QRect& thing, const QRect& pointer);
 
-/// The one plate that says what a thing is called: its tip, below it, in the program's dress and as large as
-/// the stage makes all texts. It comes when the pointer has rested on the thing for a moment, and at once
-/// when the thing gets the focus from the keyboard; it goes when the pointer leaves, and with every key,
-/// click, turn of the wheel and change of screen. The mouse goes through it.
+/// The one plate that says what a thing is called where its caption does not: its tip, below it, in the
+/// program's dress and as large as the stage makes all texts. It comes when the pointer has rested on the
+/// thing for a moment, and at once when the thing gets the focus from the keyboard; it goes when the pointer
+/// leaves, and with every key, click, turn of the wheel and change of screen. The mouse goes through it.
 class NamePlate : public TwipWidget {
     Q_OBJECT
   public:

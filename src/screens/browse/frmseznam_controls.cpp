@@ -75,7 +75,9 @@ void frmSeznam::buildList() {
 
 void frmSeznam::connectRow(int row) {
     auto* label = new Label(*this, QStringLiteral("lblSeznam(%1)").arg(row));
-    label->place(seznam::row(row));
+    const QRect bar = seznam::rowBar(row);
+    label->place(bar);
+    label->setMargins(seznam::row(row).x() - bar.x(), 0);
     label->setFont(kRowFont);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     label->setClickable(true);

@@ -3,7 +3,6 @@
 #include <QPlainTextEdit>
 
 #include "forms/bassarne.h"
-#include "forms/colors.h"
 #include "forms/messagebox.h"
 
 namespace sarne {
@@ -26,10 +25,7 @@ NotePanel::NotePanel(const SectionRoom& room)
     for (int index = 0; index < 2; ++index) {
         auto* button = new Button(room.form, QStringLiteral("cmdUloz(%1)").arg(index));
         button->place(recipelayout::noteButton(index));
-        button->setCaption(captions[index]);
-        button->setTip(captions[index]);
-        button->setGround(colors::kTeal);
-        button->setFrame(Button::Frame::Raised);
+        button->dressAsText(captions[index]);
         QObject::connect(button, &Button::clicked, &room.form,
                          [this, index] { closeByButton(OwnNote::Close(index)); });
         buttons_[size_t(index)] = button;
