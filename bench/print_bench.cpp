@@ -100,7 +100,7 @@ void BM_RecipesToPages(benchmark::State& state) {
         QtTextMetrics metrics;
         PageComposer composer(book.source(), {0, 0, 10772, 15704, {}}, metrics);
         for (const std::int16_t id : allRecipes())
-            pages += static_cast<int>(composer.recipe(id, {}, silent).pages.size());
+            pages += static_cast<int>(composer.recipe(id, {}, silent).size());
     }
     count(state, pages);
 }
@@ -135,10 +135,10 @@ void BM_LongestWaitToStop(benchmark::State& state) {
     for (auto _ : state) {
         WatchedProgress watched;
         SystemPrinter printer(book.folder.filePath(str("Dokumenty")));
-        printer.setPrinter({});
+        printer.use({});
         QtTextMetrics metrics;
         PageComposer composer(book.source(), printer.scale(), metrics);
-        PrintJob(printer, composer, watched).print({1}, {});
+        PrintJob(printer, composer, watched).print({{1}, {}}, {}, str("Lín"));
         longest = std::max(longest, watched.longestGap);
     }
     state.counters["longest_wait_ms"] = longest;

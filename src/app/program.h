@@ -45,6 +45,7 @@ class Program final : public QObject, public basSarne {
     Stage& stage() override { return *stage_; }
     Resources& resources() override { return resources_; }
     Database& Db() override { return db_; }
+    UserFile& userFile() { return userFile_; }
     NoteStore& notes() override { return notes_; }
     Screens& screens() override { return screens_; }
     const Clock& clock() override { return platform_.clock; }

@@ -15,9 +15,18 @@
 #include "screens/recipe/frmrecept.h"
 
 namespace sarne {
+namespace {
+
+const QString kPrinterChoice = QStringLiteral("Tiskarna");
+
+}  // namespace
 
 ProgramScreens::ProgramScreens(Program& program)
-    : program_(program), printing_(program, program.platform().printer) {}
+    : program_(program),
+      printing_(
+          program, program.platform().printer,
+          {[&program] { return program.userFile().value(kPrinterChoice); },
+           [&program](const QString& choice) { program.userFile().setValue(kPrinterChoice, choice); }}) {}
 
 void ProgramScreens::showMain() {
     main_ = new frmHlavni(program_);

@@ -2,21 +2,45 @@
 
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
 class QPainter;
-class QWidget;
 
 namespace sarne {
 
-/// A printer's scale: the part of a sheet that can be printed on, in twips. Its left and top are the numbers
+/// A page of a printer's scale: the part that can be printed on, in twips. Its left and top are the numbers
 /// that positions begin with, 0 for most.
 struct PageScale {
     int left = 0;
     int top = 0;
     int width = 0;
     int height = 0;
-    /// The sheet itself, in positions of the scale: it begins left of and above it.
+    /// The page itself, in positions of the scale: it begins left of and above it.
     QRect sheet;
+    /// The page is a card: small, for the essence of a recipe.
+    bool card = false;
+};
+
+/// What pages are printed on.
+enum class Paper { A4, A5, Letter, Card, TwoA5, FourCards };
+inline constexpr int kPapers = 6;
+/// As people call it ("A4", "Kartička A6").
+QString paperName(Paper paper);
+
+/// What the user wants of the printer.
+struct PrinterChoice {
+    QString printer;  ///< by its name; empty for a PDF file
+    Paper paper = Paper::A4;
+    int copies = 1;  ///< of a file there is one
+    bool bothSides = false;
+    bool colour = true;
+    QString folder = {};  ///< of files, as a native path; empty for the usual one
+    QString file = {};    ///< a file's name without its ending; empty: as what is printed is called
+
+    bool operator==(const PrinterChoice&) const = default;
+    /// The choice as one text to be kept, and back. A text that makes no sense is the usual choice.
+    QString toText() const;
+    static PrinterChoice fromText(const QString& text);
 };
 
 /// How a document ended.
@@ -25,27 +49,25 @@ struct PrintedDocument {
     QString file;           ///< the native path of the file that it was written to, or empty
 };
 
-/// Where pages go: the system's printer, or a PDF file where there is none. One document at a time:
-/// begin(), pages, end().
+/// Where pages go: a printer of the system, or a PDF file. One document at a time: begin(), pages, end().
 class Printer {
   public:
     virtual ~Printer() = default;
 
-    /// The printer's name as the system shows it; empty when pages go to a file.
-    virtual QString name() const = 0;
-    /// The paper as people call it ("A4"), with its orientation where that is not upright.
-    virtual QString paper() const = 0;
-    virtual PageScale scale() const = 0;
-    /// The file that a document called \a documentName would go to, as a native path; empty when it goes to a
-    /// printer.
-    virtual QString fileFor(const QString& documentName) const = 0;
+    /// The names of the printers that the system has now.
+    virtual QStringList printers() const = 0;
+    virtual PrinterChoice choice() const = 0;
+    /// From now on prints as \a choice says. False, and then into a file, when there is no such printer.
+    virtual bool use(const PrinterChoice& choice) = 0;
 
-    /// Lets the user choose printer, copies and paper in the desktop's dialog. False when it was dismissed.
-    virtual bool choose(QWidget* parent) = 0;
+    virtual PageScale scale() const = 0;
+    /// The file that a document called \a documentName would go to, as a native path, whether or not there is
+    /// one already; empty when it goes to a printer.
+    virtual QString fileFor(const QString& documentName) const = 0;
 
     /// Starts a document on its first page. The painter maps one unit to one twip, its origin is the scale's.
     /// It belongs to the printer and lives until end(). Nothing when the document cannot be started.
-    virtual QPainter* begin(const QString& title, const QString& documentName) = 0;
+    virtual QPainter* begin(const QString& documentName) = 0;
     /// False when the printer takes no more pages.
     virtual bool newPage() = 0;
     virtual PrintedDocument end() = 0;

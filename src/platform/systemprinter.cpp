@@ -5,26 +5,19 @@
 #include <QLibrary>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QStandardPaths>
 
-#include "core/texts.h"
+#include "platform/pagesonsheet.h"
 #include "platform/wholefile.h"
 
 namespace sarne {
 namespace {
 
 constexpr int kTwipsPerInch = 1440;
-constexpr double kFileMargin = 10;  // millimetres; a file has no unprintable border of its own
 constexpr int kLongestFileName = 100;
-
-QPageLayout layoutForFile() {
-    return QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
-                       QMarginsF(kFileMargin, kFileMargin, kFileMargin, kFileMargin),
-                       QPageLayout::Millimeter);
-}
+constexpr int kCutLine = 8;  // twips; where cards are cut apart
 
 /// Whether the print system took the last job of this thread: Qt sends it but keeps the answer to itself.
 bool printSystemTookIt() {
@@ -35,13 +28,18 @@ bool printSystemTookIt() {
     return !lastError || lastError() <= kLastSuccess;
 }
 
-/// The first of "name.pdf", "name (2).pdf" ... in \a folder that is not there yet.
-QString freeFile(const QString& folder, const QString& name) {
-    const QDir dir(folder);
-    QString file = dir.filePath(name + QStringLiteral(".pdf"));
-    for (int n = 2; QFileInfo::exists(file); ++n)
-        file = dir.filePath(QStringLiteral("%1 (%2).pdf").arg(name).arg(n));
-    return file;
+/// What a PDF file says about itself: its title and that it is Czech.
+QByteArray metadata(const QString& title) {
+    return QStringLiteral(
+               "<?xpacket begin=\"\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n"
+               "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\">"
+               "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+               "<rdf:Description rdf:about=\"\" xmlns:dc=\"http://purl.org/dc/elements/1.1/\">"
+               "<dc:title><rdf:Alt><rdf:li xml:lang=\"x-default\">%1</rdf:li></rdf:Alt></dc:title>"
+               "<dc:language><rdf:Bag><rdf:li>cs-CZ</rdf:li></rdf:Bag></dc:language>"
+               "</rdf:Description></rdf:RDF></x:xmpmeta>\n<?xpacket end=\"w\"?>")
+        .arg(title.toHtmlEscaped())
+        .toUtf8();
 }
 
 }  // namespace
@@ -59,30 +57,63 @@ QString printFileName(const QString& documentName) {
 class SystemPrinter::State {
   public:
     State() {
-        if (toFile()) printer.setPageLayout(layoutForFile());
+        if (printer.outputFormat() == QPrinter::NativeFormat) choice.printer = printer.printerName();
+        apply();
     }
 
-    bool toFile() const { return printer.outputFormat() == QPrinter::PdfFormat; }
+    bool toFile() const { return choice.printer.isEmpty(); }
+    void apply();
+    PageScale scale() const;
+    bool beginFile(const QString& path, const QString& title);
+    bool beginPrinter(const QString& title);
+    bool nextPage();
+    PrintedDocument endFile();
+    PrintedDocument endPrinter();
 
     QPrinter printer{QPrinter::HighResolution};
+    PrinterChoice choice;
+    PagesOnSheet pages;
     QPainter painter;
     std::unique_ptr<WholeFile> file;
     std::unique_ptr<QPdfWriter> pdf;
-    QString written;  ///< the file of the user's choice that a document has gone to
 
-    /// A file's margins are the usual ones, whatever its paper.
-    void keepFileMargins() {
-        QPageLayout layout = printer.pageLayout();
-        const QPageLayout usual = layoutForFile();
-        layout.setUnits(usual.units());
-        layout.setMargins(usual.margins());
-        printer.setPageLayout(layout);
-    }
-    bool beginFile(const QString& path, const QString& title);
-    bool beginPrinter(const QString& title);
-    PrintedDocument endFile();
-    PrintedDocument endPrinter();
+  private:
+    QPageLayout fileLayout() const;
+    void toPage();
+    void drawCuts();
+
+    int page_ = 0;  // on the sheet
+    QTransform base_;
 };
+
+void SystemPrinter::State::apply() {
+    pages = PagesOnSheet::of(choice.paper);
+    if (toFile()) return;
+    printer.setOutputFormat(QPrinter::NativeFormat);
+    printer.setPrinterName(choice.printer);
+    printer.setFullPage(pages.count() > 1);
+    printer.setPageSize(QPageSize(pages.sheet));
+    printer.setPageOrientation(pages.orientation);
+    printer.setCopyCount(choice.copies);
+    printer.setDuplex(choice.bothSides ? QPrinter::DuplexAuto : QPrinter::DuplexNone);
+    printer.setColorMode(choice.colour ? QPrinter::Color : QPrinter::GrayScale);
+}
+
+PageScale SystemPrinter::State::scale() const {
+    if (toFile() || pages.count() > 1) return pages.scale();
+    const QPageLayout layout = printer.pageLayout();
+    const QRect area = layout.paintRectPixels(kTwipsPerInch);
+    return {0,
+            0,
+            area.width(),
+            area.height(),
+            layout.fullRectPixels(kTwipsPerInch).translated(-area.topLeft()),
+            pages.card};
+}
+
+QPageLayout SystemPrinter::State::fileLayout() const {
+    return {QPageSize(pages.sheet), pages.orientation, QMarginsF()};
+}
 
 bool SystemPrinter::State::beginFile(const QString& path, const QString& title) {
     QDir().mkpath(QFileInfo(path).absolutePath());
@@ -92,10 +123,16 @@ bool SystemPrinter::State::beginFile(const QString& path, const QString& title) 
         return false;
     }
     pdf = std::make_unique<QPdfWriter>(file.get());
-    pdf->setPageLayout(printer.pageLayout());
+    pdf->setPageLayout(fileLayout());
     pdf->setResolution(kTwipsPerInch);
     pdf->setTitle(title);
-    return painter.begin(pdf.get());
+    pdf->setCreator(QStringLiteral("Velisa sarn"));
+    pdf->setDocumentXmpMetadata(metadata(title));
+    if (!painter.begin(pdf.get())) return false;
+    base_ = QTransform();
+    page_ = 0;
+    toPage();
+    return true;
 }
 
 bool SystemPrinter::State::beginPrinter(const QString& title) {
@@ -103,7 +140,30 @@ bool SystemPrinter::State::beginPrinter(const QString& title) {
     printer.setDocName(title);
     if (!painter.begin(&printer)) return false;
     const double unit = double(printer.resolution()) / kTwipsPerInch;
-    painter.scale(unit, unit);
+    base_ = QTransform::fromScale(unit, unit);
+    page_ = 0;
+    toPage();
+    return true;
+}
+
+/// Moves the painter to the page of the sheet that comes next.
+void SystemPrinter::State::toPage() {
+    painter.setTransform(base_);
+    if (page_ == 0 && pages.count() > 1 && pages.card) drawCuts();
+    // A single page of a printer begins where the printer can print.
+    if (toFile() || pages.count() > 1) painter.translate(pages.corner(page_) - scale().sheet.topLeft());
+}
+
+void SystemPrinter::State::drawCuts() {
+    const QSize size = pages.page();
+    painter.fillRect(QRect(size.width(), 0, kCutLine, pages.down * size.height()), Qt::lightGray);
+    painter.fillRect(QRect(0, size.height(), pages.across * size.width(), kCutLine), Qt::lightGray);
+}
+
+bool SystemPrinter::State::nextPage() {
+    page_ = (page_ + 1) % pages.count();
+    if (page_ == 0 && !(pdf ? pdf->newPage() : printer.newPage())) return false;
+    toPage();
     return true;
 }
 
@@ -112,10 +172,7 @@ PrintedDocument SystemPrinter::State::endFile() {
     pdf.reset();
     PrintedDocument document;
     document.complete = file->commit();
-    if (document.complete) {
-        document.file = file->fileName();
-        written = printer.outputFileName();
-    }
+    if (document.complete) document.file = file->fileName();
     file.reset();
     return document;
 }
@@ -134,84 +191,52 @@ SystemPrinter::State& SystemPrinter::state() const {
     return *state_;
 }
 
-QString SystemPrinter::name() const {
-    return state().toFile() ? QString() : state().printer.printerName();
+QStringList SystemPrinter::printers() const {
+    return QPrinterInfo::availablePrinterNames();
 }
 
-QString SystemPrinter::paper() const {
-    const QPageLayout layout = pageLayout();
-    const QString name = layout.pageSize().name();
-    return layout.orientation() == QPageLayout::Portrait ? name : name + Texts::tr(", na šířku");
+PrinterChoice SystemPrinter::choice() const {
+    PrinterChoice choice = state().choice;
+    if (choice.folder.isEmpty()) choice.folder = folder_;
+    if (choice.folder.isEmpty())
+        choice.folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return choice;
+}
+
+bool SystemPrinter::use(const PrinterChoice& choice) {
+    const bool known = choice.printer.isEmpty() || !QPrinterInfo::printerInfo(choice.printer).isNull();
+    state().choice = choice;
+    if (!known) state().choice.printer.clear();
+    state().apply();
+    return known;
 }
 
 PageScale SystemPrinter::scale() const {
-    const QPageLayout layout = pageLayout();
-    const QRect area = layout.paintRectPixels(kTwipsPerInch);
-    PageScale scale;
-    scale.width = area.width();
-    scale.height = area.height();
-    scale.sheet = layout.fullRectPixels(kTwipsPerInch).translated(-area.topLeft());
-    return scale;
+    return state().scale();
 }
 
 QString SystemPrinter::fileFor(const QString& documentName) const {
     if (!state().toFile()) return {};
-    const QString chosen = state().printer.outputFileName();
-    if (!chosen.isEmpty()) {
-        const QFileInfo file(chosen);
-        // What was just printed there is not printed over.
-        return chosen == state().written ? freeFile(file.absolutePath(), file.completeBaseName())
-                                         : file.absoluteFilePath();
-    }
-    QString folder = folder_;
-    if (folder.isEmpty()) folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return freeFile(folder, printFileName(documentName));
+    const PrinterChoice now = choice();
+    const QString name = printFileName(now.file.isEmpty() ? documentName : now.file);
+    return QDir(now.folder).filePath(name + QStringLiteral(".pdf"));
 }
 
-bool SystemPrinter::choose(QWidget* parent) {
-    QPrintDialog dialog(&state().printer, parent);
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-    if (dialog.exec() != QDialog::Accepted) return false;
-    state().written.clear();
-    if (state().toFile()) state().keepFileMargins();
-    return true;
-}
-
-QPainter* SystemPrinter::begin(const QString& title, const QString& documentName) {
+QPainter* SystemPrinter::begin(const QString& documentName) {
     State& now = state();
     if (now.painter.isActive()) return nullptr;
-    const bool begun = now.toFile() ? now.beginFile(fileFor(documentName), title) : now.beginPrinter(title);
+    const bool begun =
+        now.toFile() ? now.beginFile(fileFor(documentName), documentName) : now.beginPrinter(documentName);
     return begun ? &now.painter : nullptr;
 }
 
 bool SystemPrinter::newPage() {
-    return state().pdf ? state().pdf->newPage() : state().printer.newPage();
+    return state().nextPage();
 }
 
 PrintedDocument SystemPrinter::end() {
     if (!state().painter.isActive()) return {};
     return state().pdf ? state().endFile() : state().endPrinter();
-}
-
-bool SystemPrinter::setPrinter(const QString& name) {
-    QPrinter& printer = state().printer;
-    if (name.isEmpty()) {
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setPageLayout(layoutForFile());
-        return true;
-    }
-    if (QPrinterInfo::printerInfo(name).isNull()) return false;
-    printer.setOutputFormat(QPrinter::NativeFormat);
-    printer.setPrinterName(name);
-    return true;
-}
-
-QPageLayout SystemPrinter::pageLayout() const {
-    return state().printer.pageLayout();
-}
-
-void SystemPrinter::setPageLayout(const QPageLayout& layout) {
-    state().printer.setPageLayout(layout);
 }
 
 }  // namespace sarne

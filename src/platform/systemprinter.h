@@ -1,35 +1,29 @@
 #pragma once
 
+#include <QStringList>
 #include <memory>
 
 #include "platform/printer.h"
 
-class QPageLayout;
-
 namespace sarne {
 
-/// The system's printer through Qt. Where there is none, or where the user chose so in the dialog, a PDF file
-/// is written: all of it or nothing, and never over a file that is there already, unless the user named it.
-/// The printers are looked up on first use.
+/// The system's printers through Qt, and PDF files: all of a file is written or nothing. Printers are looked
+/// up when they are first needed; without another choice pages go to the system's default printer, or to a
+/// file where there is none.
 class SystemPrinter final : public Printer {
   public:
     /// Files go to \a folder, a native path; where it is empty, to the user's documents.
     explicit SystemPrinter(QString folder = {});
     ~SystemPrinter() override;
 
-    QString name() const override;
-    QString paper() const override;
+    QStringList printers() const override;
+    PrinterChoice choice() const override;
+    bool use(const PrinterChoice& choice) override;
     PageScale scale() const override;
     QString fileFor(const QString& documentName) const override;
-    bool choose(QWidget* parent) override;
-    QPainter* begin(const QString& title, const QString& documentName) override;
+    QPainter* begin(const QString& documentName) override;
     bool newPage() override;
     PrintedDocument end() override;
-
-    /// Prints on the printer called \a name; an empty name means a file. False when there is no such printer.
-    bool setPrinter(const QString& name);
-    QPageLayout pageLayout() const;
-    void setPageLayout(const QPageLayout& layout);
 
   private:
     class State;

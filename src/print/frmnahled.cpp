@@ -11,6 +11,7 @@
 namespace sarne {
 namespace {
 
+constexpr QRect kPanel(120, 90, 11760, 8820);
 constexpr QRect kSheet(240, 180, 9120, 8640);
 constexpr QRect kPosition(9540, 420, 2220, 600);
 constexpr QRect kButtons[] = {
@@ -51,10 +52,10 @@ frmNahled::frmNahled(basSarne& sarne, std::unique_ptr<PagePreview> preview)
     connect(&Timer1, &Timer::tick, this, [this] { layOutMore(); });
 }
 
-void frmNahled::Zobraz() {
-    while (preview_->pageCount() == 0 && preview_->layOutMore()) {
+void frmNahled::Zobraz(int page) {
+    while (preview_->pageCount() <= page && preview_->layOutMore()) {
     }
-    go(0);
+    go(page);
     Timer1.setInterval(0);
     Timer1.setEnabled(!preview_->isComplete());
     app().PushScreen(*this);
@@ -131,7 +132,8 @@ bool frmNahled::keyDown(QKeyEvent& event) {
 }
 
 void frmNahled::paint(QPainter& painter) {
-    paintPanel(painter, {{0, 0}, twips().size()});
+    paintRoom(painter, app().Pictures.stranka);
+    paintPanel(painter, kPanel);
 }
 
 }  // namespace sarne

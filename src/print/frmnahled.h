@@ -16,8 +16,8 @@ class frmNahled : public Form {
   public:
     frmNahled(basSarne& app, std::unique_ptr<PagePreview> preview);
 
-    /// Shows the first page.
-    void Zobraz();
+    /// Shows number \a page, from 0.
+    void Zobraz(int page = 0);
 
     int currentPage() const { return current_; }
     void goBack() override;

@@ -1,6 +1,9 @@
 #include "print/frmprint.h"
 
+#include <QDesktopServices>
+#include <QFileInfo>
 #include <QFontMetricsF>
+#include <QUrl>
 #include <algorithm>
 
 #include "core/value.h"
@@ -13,6 +16,7 @@
 #include "print/formparts.h"
 #include "print/frmnahled.h"
 #include "print/frmprint_layout.h"
+#include "print/frmtiskarna.h"
 #include "print/printlogo.h"
 
 namespace sarne {
@@ -63,8 +67,10 @@ void frmPrint::take(PrintMaterial material, const Serving& serving) {
     // A note that is being written below is printed as it stands there.
     for (Form* form : app().stage().forms()) form->keepUnsaved();
     lblVysledek.setText({});
+    cmdOtevrit->hide();
     prepareOptions(serving);
     showMaterial();
+    refreshPreview();
     if (printedBefore_) {
         showForm();
         return start();
@@ -95,8 +101,12 @@ PrintOptions frmPrint::options() const {
 }
 
 PrintSource frmPrint::source() {
-    return {app().Db(), [this](const QString& path) { return app().mediaPicture(path); }, app().Locale,
-            printLogo(app().resources()), [this](int id) { return app().notes().draft(id); }};
+    return {app().Db(),
+            [this](const QString& path) { return app().mediaPicture(path); },
+            app().Locale,
+            printLogo(app().resources()),
+            !printer_.choice().colour,
+            [this](int id) { return app().notes().draft(id); }};
 }
 
 QString frmPrint::materialName() const {
@@ -114,15 +124,29 @@ void frmPrint::showMaterial() {
 }
 
 void frmPrint::showPrinter() {
-    const QString paper = QStringLiteral("Papír: ") + printer_.paper();
-    const QString name = printer_.name();
-    if (!name.isEmpty()) return lblTiskarna.setText(QStringLiteral("Tiskárna: ") + name + u'\n' + paper);
+    const PrinterChoice choice = printer_.choice();
+    const QString paper = QStringLiteral("Papír: ") + paperName(choice.paper);
+    if (!choice.printer.isEmpty()) {
+        const QString copies =
+            choice.copies > 1 ? QStringLiteral(", počet kopií: %1").arg(choice.copies) : QString();
+        lblTiskarna.setToolTip({});
+        return lblTiskarna.setText(QStringLiteral("Tiskárna: ") + choice.printer + u'\n' + paper + copies);
+    }
     // The end of a long path says more than its middle.
     const QFontMetricsF metrics(printforms::kSmallFont.toQFont());
-    const QString file = QStringLiteral("Tisk do souboru: ") + printer_.fileFor(materialName());
+    const QString file = QStringLiteral("Tisk do souboru: ") + printer_.fileFor(documentName());
     lblTiskarna.setText(metrics.elidedText(file, Qt::ElideMiddle, printlayout::kPrinter.width()) + u'\n' +
                         paper);
     lblTiskarna.setToolTip(file);
+}
+
+void frmPrint::recallPrinter() {
+    const QString kept = memory_.load();
+    if (kept.isEmpty()) return;
+    const PrinterChoice choice = PrinterChoice::fromText(kept);
+    if (printer_.use(choice)) return;
+    lblVysledek.setText(
+        QStringLiteral("Tiskárna %1 teď není k dispozici, tisk půjde do souboru.").arg(choice.printer));
 }
 
 bool frmPrint::portionsValid() {
@@ -139,7 +163,7 @@ void frmPrint::refusePortions() {
 }
 
 void frmPrint::start() {
-    if (printing_ || !portionsValid()) return;
+    if (printing_ || !portionsValid() || !mayReplaceFile()) return;
     printedBefore_ = true;
     prgSeznam.setMaximum(material_.count());
     prgSeznam.setValue(0);
@@ -149,13 +173,25 @@ void frmPrint::start() {
     if (self) setPrinting(false);
 }
 
+bool frmPrint::mayReplaceFile() {
+    const QString file = printer_.fileFor(documentName());
+    if (file.isEmpty() || !QFileInfo::exists(file)) return true;
+    const QString question = QStringLiteral("Soubor %1 už existuje. Chcete ho nahradit?");
+    return app().ZobrazZpravu(question.arg(QFileInfo(file).fileName()), kQuestionBox) == kAnswerYes;
+}
+
+void frmPrint::openFile() {
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(printedFile_)))
+        app().ZobrazZpravu(QStringLiteral("Soubor se nepodařilo otevřít."), kWarningBox);
+}
+
 void frmPrint::run() {
     stopped_ = false;
     app().Yield();
     QtTextMetrics metrics;
     PageComposer composer(source(), printer_.scale(), metrics);
     PrintJob job(printer_, composer, *this);
-    showOutcome(material_.isText() ? job.print(material_.texts) : job.print(material_.recipes, options()));
+    showOutcome(job.print(material_, options(), documentName()));
 }
 
 void frmPrint::setPrinting(bool printing) {
@@ -167,6 +203,7 @@ void frmPrint::setPrinting(bool printing) {
          std::initializer_list<Control*>{&Label1, &lblRecept, &prgRecept, &prgSeznam, cmdPrerus})
         control->setVisible(printing);
     lblVysledek.setVisible(!printing);
+    cmdOtevrit->setVisible(!printing && !printedFile_.isEmpty());
     // A recipe below keeps the display awake by itself when it is on top again.
     if (printing || !liesOverRecipe()) app().keepAwake(printing ? kKeepAwake : QString());
     if (printing) {
@@ -202,6 +239,7 @@ void frmPrint::showOthers() {
 }
 
 void frmPrint::showOutcome(const PrintOutcome& outcome) {
+    printedFile_ = outcome.file;
     lblVysledek.setText(outcomeText(outcome));
     app().HookMessage(lblVysledek.text());
 }
@@ -213,13 +251,56 @@ void frmPrint::askToStop() {
 }
 
 void frmPrint::preview() {
-    if (!portionsValid()) return;
+    if (printing_ || !portionsValid()) return;
     auto preview = std::make_unique<PagePreview>(source(), printer_.scale(), material_, options());
-    (new frmNahled(app(), std::move(preview)))->Zobraz();
+    (new frmNahled(app(), std::move(preview)))->Zobraz(previewed_);
+}
+
+/// Shows the pages as they would be printed now; the first ones at once, the others when there is time.
+void frmPrint::refreshPreview() {
+    const PrintOptions wanted = options();
+    const bool valid = wanted.portions >= kFewestPortions && wanted.portions <= kMostPortions;
+    if (printing_ || (!material_.isText() && !valid)) return;
+    auto preview = std::make_unique<PagePreview>(source(), printer_.scale(), material_, wanted);
+    while (preview->pageCount() <= previewed_ && preview->layOutMore()) {
+    }
+    picStrana.showPage(*preview, 0);
+    preview_ = std::move(preview);
+    turnTo(previewed_);
+    Timer1.setInterval(0);
+    Timer1.setEnabled(!preview_->isComplete());
+}
+
+void frmPrint::layOutMore() {
+    if (!preview_->layOutMore()) Timer1.setEnabled(false);
+    showPosition();
+}
+
+void frmPrint::turnTo(int page) {
+    if (!preview_) return;
+    previewed_ = qBound(0, page, qMax(0, preview_->pageCount() - 1));
+    picStrana.showPage(*preview_, previewed_);
+    showPosition();
+}
+
+void frmPrint::showPosition() {
+    const int count = preview_->pageCount();
+    lblStrana.setText(count == 0 ? QString() : QStringLiteral("%1 z %2").arg(previewed_ + 1).arg(count));
+    cmdStrana[0]->setEnabled(previewed_ > 0 && !printing_);
+    cmdStrana[1]->setEnabled(previewed_ + 1 < count && !printing_);
 }
 
 void frmPrint::choosePrinter() {
-    if (printer_.choose(&app().stage())) showPrinter();
+    auto* dialog = new frmTiskarna(app(), printer_.printers(), printer_.choice(), documentName());
+    const std::optional<PrinterChoice> choice = dialog->ask();
+    dialog->unload();
+    if (!choice) return;
+    if (!printer_.use(*choice))
+        app().ZobrazZpravu(QStringLiteral("Tiskárna %1 teď není k dispozici.").arg(choice->printer),
+                           kWarningBox);
+    memory_.store(printer_.choice().toText());
+    showPrinter();
+    refreshPreview();
 }
 
 void frmPrint::goBack() {
@@ -242,6 +323,7 @@ void frmPrint::help() {
 
 void frmPrint::restored() {
     Frame1.setEnabled(!material_.isText());
+    showPosition();
     Form::restored();
 }
 

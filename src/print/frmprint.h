@@ -9,19 +9,26 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/progressbar.h"
+#include "forms/timer.h"
 #include "platform/printer.h"
+#include "print/pagesheet.h"
 #include "print/printjob.h"
-#include "print/printmaterial.h"
 
 namespace sarne {
 
-/// The printing form: what of a recipe is printed and for how many portions, where it goes, and how far it
-/// is. Printing runs within start(), which lets window events run between the lines.
+/// Where the user's choice of the printer is kept from run to run.
+struct PrinterMemory {
+    std::function<QString()> load = [] { return QString(); };
+    std::function<void(const QString&)> store = [](const QString&) {};
+};
+
+/// The printing form: what of a recipe is printed and for how many portions, where it goes, how it will look,
+/// and how far it is. Printing runs within start(), which lets window events run between the lines.
 class frmPrint : public Form, private PrintProgress {
     Q_OBJECT
   public:
     /// Prints on \a printer, which must outlive the form.
-    frmPrint(basSarne& app, Printer& printer);
+    frmPrint(basSarne& app, Printer& printer, PrinterMemory memory = {});
 
     /// Takes the ids of recipes to print and shows the form. The first selection waits for the user to look
     /// through the options; one that comes while the form is open is printed at once.
@@ -45,6 +52,8 @@ class frmPrint : public Form, private PrintProgress {
     void makePrinterLine();
     void makeProgress();
     void makeButtons();
+    void makePreview();
+    void watchOptions();
     Button* makeButton(const QString& name, const QString& caption, const QString& tip, const QRect& place);
 
     void take(PrintMaterial material, const Serving& serving);
@@ -53,6 +62,7 @@ class frmPrint : public Form, private PrintProgress {
     PrintOptions options() const;
     PrintSource source();
     QString materialName() const;
+    QString documentName() const { return material_.documentName(materialName()); }
     void showMaterial();
     void showPrinter();
 
@@ -66,7 +76,14 @@ class frmPrint : public Form, private PrintProgress {
     void showOthers();
     void showOutcome(const PrintOutcome& outcome);
     void askToStop();
+    bool mayReplaceFile();
+    void openFile();
     void preview();
+    void refreshPreview();
+    void layOutMore();
+    void turnTo(int page);
+    void showPosition();
+    void recallPrinter();
     void choosePrinter();
 
     // Printing tells how far it is.
@@ -77,6 +94,10 @@ class frmPrint : public Form, private PrintProgress {
     bool goOn() override;
 
     Printer& printer_;
+    PrinterMemory memory_;
+    std::unique_ptr<PagePreview> preview_;
+    int previewed_ = 0;  // the page that shows
+    QString printedFile_;
     PrintMaterial material_;
     bool printedBefore_ = false;  // further selections are printed at once
     bool printing_ = false;
@@ -93,7 +114,11 @@ class frmPrint : public Form, private PrintProgress {
     Label lblTiskarna, lblVysledek;
     Label Label1, lblRecept;
     ProgressBar prgRecept, prgSeznam;
-    Button *Command1, *Command2, *cmdPrerus, *cmdTiskarna, *cmdNahled;
+    PageSheet picStrana;
+    Label lblStrana;
+    Timer Timer1;
+    Button *Command1, *Command2, *cmdPrerus, *cmdTiskarna, *cmdNahled, *cmdOtevrit;
+    std::array<Button*, 2> cmdStrana{};
 };
 
 }  // namespace sarne

@@ -23,9 +23,10 @@ constexpr int kProgressSteps = 1000;
 
 }  // namespace
 
-frmPrint::frmPrint(basSarne& sarne, Printer& printer)
+frmPrint::frmPrint(basSarne& sarne, Printer& printer, PrinterMemory memory)
     : Form(sarne, QStringLiteral("frmPrint")),
       printer_(printer),
+      memory_(std::move(memory)),
       lblNadpis(*this, QStringLiteral("lblNadpis")),
       lblCo(*this, QStringLiteral("lblCo")),
       Frame1(*this, QStringLiteral("Frame1")),
@@ -37,7 +38,10 @@ frmPrint::frmPrint(basSarne& sarne, Printer& printer)
       Label1(*this, QStringLiteral("Label1")),
       lblRecept(*this, QStringLiteral("lblRecept")),
       prgRecept(*this, QStringLiteral("prgRecept")),
-      prgSeznam(*this, QStringLiteral("prgSeznam")) {
+      prgSeznam(*this, QStringLiteral("prgSeznam")),
+      picStrana(*this, QStringLiteral("picStrana")),
+      lblStrana(*this, QStringLiteral("lblStrana")),
+      Timer1(this) {
     lblNadpis.place(at::kTitle);
     dressLabel(lblNadpis, printforms::kTitleFont, colors::kTitle, QStringLiteral("Tisk"));
     lblCo.place(at::kMaterial);
@@ -45,7 +49,10 @@ frmPrint::frmPrint(basSarne& sarne, Printer& printer)
     makeOptions();
     makePrinterLine();
     makeProgress();
+    makePreview();
     makeButtons();
+    watchOptions();
+    recallPrinter();
 }
 
 void frmPrint::makeOptions() {
@@ -54,10 +61,12 @@ void frmPrint::makeOptions() {
     Frame1.setToolTip({});
     auto* title = new Label(*this, QStringLiteral("lblCoTisknout"));
     dressLabel(*title, printforms::kButtonFont, colors::kInk, QStringLiteral("Co se má tisknout"));
-    dressLabel(lblPorce, printforms::kButtonFont, colors::kInk, QStringLiteral("Počet porcí"));
+    lblPorce.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    dressLabel(lblPorce, printforms::kTextFont, colors::kInk, QStringLiteral("Počet porcí"));
     for (int i = 0; i < kPrintSections; ++i) {
         auto* box = Chco[size_t(i)] = new CheckBox(*this, QStringLiteral("Chco(%1)").arg(i));
         dressCheckBox(*box, app().resources(), QString::fromUtf8(kSections[i]));
+        box->setFont(printforms::kSmallFont);
         box->setChecked(true);
     }
     Text1.setFont(printforms::kTextFont);
@@ -65,6 +74,7 @@ void frmPrint::makeOptions() {
     takeDecimalComma(Text1);
     Text1.setTip(QStringLiteral("Počet porcí, 1 až 99"));
     dressCheckBox(chkZobrKg, app().resources(), QStringLiteral("Množství i v gramech"));
+    chkZobrKg.setFont(printforms::kSmallFont);
     // The frame holds the options: it is disabled with all that is in it.
     for (Control* held : std::initializer_list<Control*>{title, &lblPorce, &Text1, &chkZobrKg}) {
         held->setParent(&Frame1);
@@ -117,9 +127,38 @@ void frmPrint::makeProgress() {
     cmdPrerus = makeButton(QStringLiteral("cmdPrerus"), QStringLiteral("Přerušit tisk"),
                            QStringLiteral("Přerušit tisk"), at::kStop);
     connect(cmdPrerus, &Button::clicked, this, [this] { askToStop(); });
+    cmdOtevrit = makeButton(QStringLiteral("cmdOtevrit"), QStringLiteral("Otevřít"),
+                            QStringLiteral("Otevřít vytištěný soubor"), at::kOpen);
+    connect(cmdOtevrit, &Button::clicked, this, [this] { openFile(); });
     for (Control* control :
-         std::initializer_list<Control*>{&Label1, &lblRecept, &prgRecept, &prgSeznam, cmdPrerus})
+         std::initializer_list<Control*>{&Label1, &lblRecept, &prgRecept, &prgSeznam, cmdPrerus, cmdOtevrit})
         control->hide();
+}
+
+void frmPrint::makePreview() {
+    picStrana.place(at::kSheet);
+    picStrana.setTip(QStringLiteral("Náhled strany; kliknutím se zvětší"));
+    lblStrana.place(at::kPosition);
+    lblStrana.setAlignment(Qt::AlignCenter);
+    dressLabel(lblStrana, printforms::kTextFont, colors::kPaper);
+    const QString captions[] = {QStringLiteral("◄"), QStringLiteral("►")};
+    const QString tips[] = {QStringLiteral("Předchozí strana"), QStringLiteral("Další strana")};
+    const QRect places[] = {at::kPrevious, at::kNext};
+    for (int i = 0; i < 2; ++i) {
+        cmdStrana[size_t(i)] =
+            makeButton(QStringLiteral("cmdStrana(%1)").arg(i), captions[i], tips[i], places[i]);
+        connect(cmdStrana[size_t(i)], &Button::clicked, this, [this, i] { turnTo(previewed_ + 2 * i - 1); });
+    }
+    connect(&picStrana, &Control::clicked, this, [this] { preview(); });
+    connect(&picStrana, &PageSheet::turned, this, [this](int pages) { turnTo(previewed_ + pages); });
+    connect(&Timer1, &Timer::tick, this, [this] { layOutMore(); });
+}
+
+/// Whatever is changed shows at once.
+void frmPrint::watchOptions() {
+    for (CheckBox* box : Chco) connect(box, &CheckBox::toggled, this, [this] { refreshPreview(); });
+    connect(&chkZobrKg, &CheckBox::toggled, this, [this] { refreshPreview(); });
+    connect(&Text1, &Edit::textChanged, this, [this] { refreshPreview(); });
 }
 
 void frmPrint::makeButtons() {
@@ -133,8 +172,9 @@ void frmPrint::makeButtons() {
     connect(cmdNahled, &Button::clicked, this, [this] { preview(); });
     connect(Command2, &Button::clicked, this, [this] { goBack(); });
     std::vector<TwipWidget*> stops(Chco.begin(), Chco.end());
-    for (Control* control : std::initializer_list<Control*>{&Text1, &chkZobrKg, cmdTiskarna, cmdPrerus,
-                                                            Command1, cmdNahled, Command2})
+    for (Control* control :
+         std::initializer_list<Control*>{&Text1, &chkZobrKg, cmdTiskarna, cmdPrerus, cmdOtevrit, Command1,
+                                         cmdNahled, Command2, cmdStrana[0], cmdStrana[1]})
         stops.push_back(control);
     ring().setStops(stops);
     ring().setArrows(FocusRing::Arrows::All);
@@ -142,6 +182,10 @@ void frmPrint::makeButtons() {
 }
 
 bool frmPrint::keyDown(QKeyEvent& event) {
+    if (event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown) {
+        turnTo(previewed_ + (event.key() == Qt::Key_PageDown ? 1 : -1));
+        return true;
+    }
     const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     if (Form::keyDown(event)) return true;
     if (enter && !printing_) start();
@@ -149,8 +193,8 @@ bool frmPrint::keyDown(QKeyEvent& event) {
 }
 
 void frmPrint::paint(QPainter& painter) {
-    const QRect screen({0, 0}, twips().size());
-    paintPanel(painter, screen, app().Pictures.seznam.design());
+    paintRoom(painter, app().Pictures.stranka);
+    for (const QRect& panel : {at::kLeftPanel, at::kRightPanel}) paintPanel(painter, panel);
     for (const QRect& paper : {at::kFrame, at::kPrinterPaper}) paintPaper(painter, paper);
 }
 

@@ -21,9 +21,13 @@ const QString kNameFromNumber = QStringLiteral(" · ");
 const QString kHeaderText = QStringLiteral("CD Tobrela - ");
 const QString kPrintTitle = QStringLiteral("Velisa sarn");
 
-QRect placeLogo(const Picture& logo, const PageGeometry& page) {
-    const QSizeF size = logo.isNull() ? QSizeF(0, kLogoHeight)
-                                      : QSizeF(logo.size()).scaled(1e6, kLogoHeight, Qt::KeepAspectRatio);
+/// The letters of a card, the largest first: a recipe that is short takes it all.
+constexpr double kCardScales[] = {.88, .8, .74, .68, .62, .56};
+constexpr double kCardHeaderScale = .75;
+
+QRect placeLogo(const Picture& logo, const PageGeometry& page, int height) {
+    const QSizeF size =
+        logo.isNull() ? QSizeF(0, height) : QSizeF(logo.size()).scaled(1e6, height, Qt::KeepAspectRatio);
     return QRect(QPoint(page.left, page.top), size.toSize());
 }
 
@@ -41,25 +45,60 @@ void addTo(PrintedPage& page, const FlowLine& line, int top) {
 }  // namespace
 
 PageComposer::PageComposer(PrintSource source, const PageScale& scale, TextMetrics& metrics)
-    : source_(std::move(source)), page_(PageGeometry::of(scale)), metrics_(metrics) {
-    logoPlace_ = placeLogo(source_.logo, page_);
-    const int headerHeight = metrics_.textHeight(printfonts::header());
+    : source_(std::move(source)), page_(PageGeometry::of(scale)), metrics_(metrics), card_(scale.card) {
+    logoPlace_ = placeLogo(source_.logo, page_, card_ ? kLogoHeight / 2 : kLogoHeight);
+    const int headerHeight = metrics_.textHeight(headerFont());
     const int below = page_.top + logoPlace_.height() / 2 + (headerHeight + 1) / 2;
-    bodyTop_ = std::max(below + metrics_.textHeight(printfonts::body()), page_.top + logoPlace_.height());
+    const int gap = card_ ? 0 : metrics_.textHeight(printfonts::body());
+    bodyTop_ = std::max(below + gap, page_.top + logoPlace_.height());
 }
 
-ComposedRecipe PageComposer::recipe(int id, const PrintOptions& options, PrintProgress& progress) {
+TextFont PageComposer::headerFont() const {
+    TextFont font = printfonts::header();
+    if (card_) font.size *= kCardHeaderScale;
+    return font;
+}
+
+std::vector<PrintedPage> PageComposer::item(const PrintMaterial& material, int index,
+                                            const PrintOptions& options, PrintProgress& progress) {
+    const auto at = static_cast<size_t>(index);
+    return material.isText() ? text(material.texts.at(at), progress)
+                             : recipe(material.recipes.at(at), options, progress);
+}
+
+std::vector<PrintedPage> PageComposer::recipe(int id, const PrintOptions& options, PrintProgress& progress) {
     Recordset recipes = source_.db.OpenTable(QStringLiteral("Recepty"));
     recipes.setIndex(QStringLiteral("PrimaryKey"));
     if (!RecordExists(recipes, id)) return {};
-    ComposedRecipe composed;
-    composed.name = recipes.field(QStringLiteral("Nazev")).toString();
-    progress.recipeStarted(composed.name);
+    const QString name = recipes.field(QStringLiteral("Nazev")).toString();
+    progress.recipeStarted(name);
     progress.status(Texts::tr(" Tisknu recept ... "));
+    const std::vector<FlowLine> lines =
+        card_ ? setCard(recipes, options, progress) : setRecipe(recipes, options, progress);
+    return lines.empty() ? std::vector<PrintedPage>() : paginate(lines, name);
+}
+
+/// The lines of a recipe; none when it was stopped.
+std::vector<FlowLine> PageComposer::setRecipe(const Recordset& recipe, const PrintOptions& options,
+                                              PrintProgress& progress) {
     RecipeFlow flow(page_, metrics_, progress);
-    RecipeSections(recipes, flow, {source_, options, progress, page_.bottom - bodyTop_}).set();
-    if (flow.wentOn()) composed.pages = paginate(flow.take(), composed.name);
-    return composed;
+    RecipeSections(recipe, flow, {source_, options, progress, room()}).set();
+    return flow.wentOn() ? flow.take() : std::vector<FlowLine>();
+}
+
+/// The lines of a recipe's card, in the largest letters in which it is one page.
+std::vector<FlowLine> PageComposer::setCard(const Recordset& recipe, const PrintOptions& options,
+                                            PrintProgress& progress) {
+    std::vector<FlowLine> lines;
+    for (const double scale : kCardScales) {
+        RecipeFlow flow(page_, metrics_, progress, scale);
+        RecipeSections(recipe, flow, {source_, options, progress, room()}).setCard();
+        if (!flow.wentOn()) return {};
+        const bool fits = flow.height() <= room();
+        lines = flow.take();
+        if (fits) break;
+    }
+    return lines;
 }
 
 std::vector<PrintedPage> PageComposer::text(const TitledText& text, PrintProgress& progress) {
@@ -73,7 +112,7 @@ std::vector<PrintedPage> PageComposer::text(const TitledText& text, PrintProgres
 
 std::vector<PrintedPage> PageComposer::paginate(const std::vector<FlowLine>& lines, const QString& name) {
     std::vector<PrintedPage> pages;
-    for (const PageRange& range : breakPages(lines, page_.bottom - bodyTop_)) {
+    for (const PageRange& range : breakPages(lines, room())) {
         PrintedPage page = startPage();
         int top = bodyTop_;
         for (size_t line = range.first; line < range.end; ++line) {
@@ -85,14 +124,25 @@ std::vector<PrintedPage> PageComposer::paginate(const std::vector<FlowLine>& lin
     if (pages.empty()) pages.push_back(startPage());
     for (size_t i = 1; i < pages.size(); ++i)
         addPageName(pages[i], name, Texts::tr("%1 z %2").arg(i + 1).arg(pages.size()));
+    if (source_.grey) std::ranges::for_each(pages, [this](PrintedPage& page) { loseColours(page); });
     return pages;
+}
+
+void PageComposer::loseColours(PrintedPage& page) const {
+    for (PageText& text : page.texts) {
+        const int grey = qGray(text.color);
+        text.color = qRgb(grey, grey, grey);
+    }
+    for (PagePicture& picture : page.pictures)
+        picture.picture =
+            Picture::fromImage(picture.picture.image().convertToFormat(QImage::Format_Grayscale8));
 }
 
 /// The header: the logo, and the title at the right margin.
 PrintedPage PageComposer::startPage() {
     PrintedPage page;
     if (!source_.logo.isNull()) page.pictures.push_back({logoPlace_, source_.logo});
-    const TextFont font = printfonts::header();
+    const TextFont font = headerFont();
     const QString header = kHeaderText + kPrintTitle;
     const int width = metrics_.textWidth(font, header);
     page.texts.push_back({page_.rightMargin() - width, headerBaseline(), width, header, font});
@@ -100,14 +150,14 @@ PrintedPage PageComposer::startPage() {
 }
 
 int PageComposer::headerBaseline() {
-    const TextFont font = printfonts::header();
+    const TextFont font = headerFont();
     return logoPlace_.top() + logoPlace_.height() / 2 - metrics_.textHeight(font) / 2 +
            metrics_.textAscent(font);
 }
 
 /// Which page of what it is stands between logo and title.
 void PageComposer::addPageName(PrintedPage& page, const QString& name, const QString& number) {
-    const TextFont font = printfonts::header();
+    const TextFont font = headerFont();
     const int left = logoPlace_.right() + kHeaderGap;
     const int room = page.texts.front().x - kHeaderGap - left;
     const QString behind = kNameFromNumber + number;

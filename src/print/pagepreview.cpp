@@ -12,10 +12,7 @@ PagePreview::PagePreview(const PrintSource& source, const PageScale& scale, Prin
 bool PagePreview::layOutMore() {
     if (isComplete()) return false;
     SilentProgress silent;
-    const auto index = static_cast<size_t>(next_++);
-    std::vector<PrintedPage> more = material_.isText()
-                                        ? composer_.text(material_.texts[index], silent)
-                                        : composer_.recipe(material_.recipes[index], options_, silent).pages;
+    std::vector<PrintedPage> more = composer_.item(material_, next_++, options_, silent);
     std::ranges::move(more, std::back_inserter(pages_));
     return !isComplete();
 }

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "print/printmaterial.h"
+#include "print/pagecomposer.h"
 #include "richtext/qttextmetrics.h"
 
 namespace sarne {

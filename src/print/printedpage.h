@@ -46,7 +46,6 @@ struct FlowLine {
     bool endsParagraph = true;
     std::vector<PageText> texts;
     std::vector<PagePicture> pictures;
-    QString target;  ///< what the line is called, for links to lead to
 };
 
 }  // namespace sarne

@@ -7,7 +7,7 @@
 namespace sarne {
 
 frmPrint& Printing::form() {
-    if (!form_ || !form_->isLoaded()) form_ = new frmPrint(app_, printer_);
+    if (!form_ || !form_->isLoaded()) form_ = new frmPrint(app_, printer_, memory_);
     return *form_;
 }
 

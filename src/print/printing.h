@@ -11,7 +11,9 @@ namespace sarne {
 /// Opens the forms of printing. Made once by the program; the printer must outlive it.
 class Printing {
   public:
-    Printing(basSarne& app, Printer& printer) : app_(app), printer_(printer) {}
+    /// \a memory keeps which printer the user chose.
+    Printing(basSarne& app, Printer& printer, PrinterMemory memory = {})
+        : app_(app), printer_(printer), memory_(std::move(memory)) {}
 
     /// Lets the user choose among \a entries and prints the choice; returns when the choice was made. Their
     /// items are recipes; in the mode "Help" they are text pages.
@@ -27,6 +29,7 @@ class Printing {
 
     basSarne& app_;
     Printer& printer_;
+    PrinterMemory memory_;
     QPointer<frmPrint> form_;
 };
 

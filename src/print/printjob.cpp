@@ -3,44 +3,30 @@
 #include "print/pagepainter.h"
 
 namespace sarne {
-namespace {
 
-const QString kDocumentTitle = QStringLiteral("Velisa sarn");
-
-}  // namespace
-
-PrintOutcome PrintJob::print(const std::vector<std::int16_t>& recipes, const PrintOptions& options) {
-    for (const std::int16_t id : recipes) {
+PrintOutcome PrintJob::print(const PrintMaterial& material, const PrintOptions& options,
+                             const QString& documentName) {
+    documentName_ = documentName;
+    for (int index = 0; index < material.count(); ++index) {
         stopped_ = !progress_.goOn();
-        if (stopped_) break;
-        const ComposedRecipe composed = composer_.recipe(id, options, progress_);
-        if (!put(composed.pages, composed.name)) break;
+        if (stopped_ || !put(composer_.item(material, index, options, progress_))) break;
         progress_.recipeDone();
     }
     return end();
 }
 
-PrintOutcome PrintJob::print(const std::vector<TitledText>& texts) {
-    for (const TitledText& text : texts) {
-        stopped_ = !progress_.goOn();
-        if (stopped_ || !put(composer_.text(text, progress_), text.title)) break;
-        progress_.recipeDone();
-    }
-    return end();
-}
-
-bool PrintJob::put(const std::vector<PrintedPage>& pages, const QString& documentName) {
+bool PrintJob::put(const std::vector<PrintedPage>& pages) {
     int done = 0;
     for (const PrintedPage& page : pages) {
-        if (!put(page, documentName)) return false;
+        if (!put(page)) return false;
         progress_.progressed(kSetPart + (1 - kSetPart) * ++done / double(pages.size()));
     }
     return true;
 }
 
-bool PrintJob::put(const PrintedPage& page, const QString& documentName) {
+bool PrintJob::put(const PrintedPage& page) {
     if (!painter_) {
-        painter_ = printer_.begin(kDocumentTitle, documentName);
+        painter_ = printer_.begin(documentName_);
         failed_ = !painter_;
     } else {
         failed_ = !printer_.newPage();

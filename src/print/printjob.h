@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <vector>
 
 #include "platform/printer.h"
@@ -21,24 +20,26 @@ struct PrintOutcome {
     QString file;  ///< where the pages are, when they went to a file
 };
 
-/// Prints recipes as one document. The printer, the composer and the progress must outlive it.
+/// Prints recipes or texts as one document. The printer, the composer and the progress must outlive it.
 class PrintJob {
   public:
     PrintJob(Printer& printer, PageComposer& composer, PrintProgress& progress)
         : printer_(printer), composer_(composer), progress_(progress) {}
 
-    PrintOutcome print(const std::vector<std::int16_t>& recipes, const PrintOptions& options);
-    PrintOutcome print(const std::vector<TitledText>& texts);
+    /// \a documentName is what the document is called, in the printer's queue or as a file.
+    PrintOutcome print(const PrintMaterial& material, const PrintOptions& options,
+                       const QString& documentName);
 
   private:
     /// False when the document must end.
-    bool put(const std::vector<PrintedPage>& pages, const QString& documentName);
-    bool put(const PrintedPage& page, const QString& documentName);
+    bool put(const std::vector<PrintedPage>& pages);
+    bool put(const PrintedPage& page);
     PrintOutcome end();
 
     Printer& printer_;
     PageComposer& composer_;
     PrintProgress& progress_;
+    QString documentName_;
     QPainter* painter_ = nullptr;
     int pages_ = 0;
     bool stopped_ = false;

@@ -7,10 +7,11 @@
 namespace sarne {
 namespace {
 
-constexpr int kPictureShare = 2;  // of five parts of the line
-constexpr int kPictureGap = 240;  // to the text beside and below it
-constexpr int kNarrowestText = 1200;
-constexpr int kNarrowestName = 1300;  // beside columns of quantities
+constexpr double kPictureShare = .4, kCardShare = .3;  // of the line, beside texts
+constexpr double kAloneShare = .6;                     // of the line, without texts beside it
+constexpr int kPictureGap = 240;                       // to the text beside and below it
+constexpr int kNarrowestText = 4200;                   // beside the picture
+constexpr int kNarrowestName = 1300;                   // beside columns of quantities
 constexpr int kColumnGap = 200;
 /// A paragraph is read in pieces of so many lines, so that the longest can be stopped.
 constexpr int kLinesRead = 48;
@@ -57,7 +58,6 @@ void RecipeFlow::setPart(double from, double to) {
 void RecipeFlow::append(FlowLine line) {
     if (stop_) return;
     height_ += line.height;
-    if (!line.texts.empty()) line.target = std::exchange(target_, {});
     lines_.push_back(std::move(line));
     ask();
 }
@@ -232,19 +232,24 @@ void RecipeFlow::addJoinedRow(const QuantityRow& row) {
     addAlternative(row);
 }
 
+/// Where quantities in columns have room beside the picture, they stand there; else it takes the middle of
+/// the line, larger.
 void RecipeFlow::addPicture(const Picture& picture, int room) {
     if (picture.isNull() || room <= 0) return;
-    const int width = page_.lineWidth * kPictureShare / 5;
+    const auto besideWidth = static_cast<int>(page_.lineWidth * (scale_ < 1 ? kCardShare : kPictureShare));
+    const bool beside = page_.lineWidth - besideWidth - kPictureGap >= kNarrowestText * scale_;
+    const int width = beside ? besideWidth : static_cast<int>(page_.lineWidth * kAloneShare);
     if (width <= 0) return;
-    const QSizeF size =
-        QSizeF(picture.size()).scaled(QSizeF(width, std::min(width, room)), Qt::KeepAspectRatio);
+    const QSize placed =
+        QSizeF(picture.size()).scaled(QSizeF(width, std::min(width, room)), Qt::KeepAspectRatio).toSize();
+    const int free = page_.lineWidth - placed.width();
     FlowLine line;
-    const QSize placed = size.toSize();
-    line.pictures.push_back({QRect({page_.rightMargin() - placed.width(), 0}, placed), picture});
+    line.pictures.push_back({QRect({page_.leftMargin + (beside ? free : free / 2), 0}, placed), picture});
+    if (!beside) line.height = placed.height() + kPictureGap;
     append(std::move(line));
+    if (!beside) return;
     pictureBottom_ = height_ + placed.height();
     pictureWidth_ = placed.width() + kPictureGap;
-    if (page_.lineWidth - pictureWidth_ < kNarrowestText) endPicture();
 }
 
 void RecipeFlow::endPicture() {

@@ -37,13 +37,12 @@ class RecipeFlow {
     /// the other.
     void addQuantities(const std::vector<QuantityRow>& rows);
     /// Places \a picture at the right margin, in its proportions; the plain texts that follow stand to the
-    /// left of it as long as it lasts. \a room is what is left of the page.
+    /// left of it as long as it lasts. Where the line is too short for both it stands alone. \a room is what
+    /// is left of the page.
     void addPicture(const Picture& picture, int room);
     bool besidePicture() const { return height_ < pictureBottom_; }
     /// What follows stands below the picture.
     void endPicture();
-    /// What the next lines are called, for links to lead to.
-    void addTarget(const QString& name) { target_ = name; }
 
     /// Which part of the recipe the next text is: its lines tell the progress.
     void setPart(double from, double to);
@@ -77,7 +76,6 @@ class RecipeFlow {
     ParagraphSetter setter_;
     StopFlag stop_ = false;
     std::vector<FlowLine> lines_;
-    QString target_;
     bool inParagraph_ = false;
     double partFrom_ = 0, partTo_ = 0;
     int height_ = 0;

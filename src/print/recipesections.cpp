@@ -5,11 +5,14 @@
 #include "db/ingredients.h"
 #include "db/queries.h"
 #include "print/printfonts.h"
+#include "print/shortsteps.h"
+#include "richtext/plaintext.h"
 
 namespace sarne {
 namespace {
 
 constexpr int kSectionGap = 160;
+constexpr int kCardGap = 60;
 
 /// An amount in a column of its own. Without a unit the number stands there alone: ": " would have nothing to
 /// part.
@@ -40,6 +43,25 @@ void RecipeSections::set() {
         context_.progress.progressed(next);
     }
     flow_.endPicture();
+}
+
+void RecipeSections::setCard() {
+    flow_.addText(field(QStringLiteral("Nazev")), printfonts::name(), FlowLine::Kind::Heading);
+    const PrintOptions& options = context_.options;
+    if (options.wants(PrintSection::Photo)) photo();
+    if (options.wants(PrintSection::Ingredients)) ingredients();
+    if (options.wants(PrintSection::Texts) && flow_.wentOn()) shortSteps();
+    context_.progress.progressed(kSetPart);
+    flow_.endPicture();
+}
+
+void RecipeSections::shortSteps() {
+    status(QStringLiteral(" Tisknu recept ... "));
+    const QStringList steps = stepsInShort(plainText(field(QStringLiteral("Recept"))));
+    if (steps.isEmpty()) return;
+    flow_.endPicture();
+    flow_.addSpace(kCardGap);
+    flow_.addPlainText(steps.join(u'\n'));
 }
 
 void RecipeSections::setName() {

@@ -21,9 +21,12 @@ class RecipeSections {
         : recipe_(recipe), flow_(flow), context_(context) {}
 
     void set();
+    /// The essence for a card: name, photo, ingredients, and the steps in a sentence each.
+    void setCard();
 
   private:
     void setName();
+    void shortSteps();
     void setSection(PrintSection section);
     void photo();
     void ingredients();

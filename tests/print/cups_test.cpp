@@ -109,9 +109,8 @@ TEST(Cups, PrintsOnAQueueAndNoticesWhenItIsGone) {
          PrintCookbook::recipe(2, str("Úhoř"))});
 
     SystemPrinter printer(book.folder.path());
-    ASSERT_TRUE(printer.setPrinter(str("PDF")));
-    EXPECT_EQ(printer.name(), str("PDF"));
-    EXPECT_EQ(printer.paper(), str("A4"));
+    ASSERT_TRUE(printer.use({str("PDF")}));
+    EXPECT_EQ(printer.printers(), QStringList{str("PDF")});
     EXPECT_TRUE(printer.fileFor(str("Candát")).isEmpty());
     const PrintOutcome outcome = book.printOn(printer, {1, 2});
     EXPECT_EQ(outcome.kind, Kind::Printed);
@@ -125,7 +124,7 @@ TEST(Cups, PrintsOnAQueueAndNoticesWhenItIsGone) {
         EXPECT_TRUE(printable.adjusted(-20, -20, 20, 20).contains(word.place)) << word.text.toStdString();
     }
 
-    QPainter* painter = printer.begin(str("Velisa sarn"), str("Candát"));
+    QPainter* painter = printer.begin(str("Candát"));
     ASSERT_TRUE(painter);
     painter->drawText(1000, 1000, str("poslední slova"));
     EXPECT_TRUE(server.admin({str("-x"), str("PDF")}).isEmpty());
@@ -134,8 +133,8 @@ TEST(Cups, PrintsOnAQueueAndNoticesWhenItIsGone) {
     server.stop();
     EXPECT_EQ(book.printOn(printer, {1}).kind, Kind::Failed);
     SystemPrinter another(book.folder.path());
-    EXPECT_EQ(another.name(), QString());
-    EXPECT_EQ(book.printOn(another, {2}).file, book.folder.filePath(str("Úhoř.pdf")))
+    EXPECT_EQ(another.choice().printer, QString());
+    EXPECT_EQ(book.printOn(another, {2}).file, book.folder.filePath(str("Recept.pdf")))
         << "without a printer there is a file";
 }
 

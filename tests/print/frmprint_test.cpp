@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <QPainter>
 #include <QTest>
 #include <QTimer>
 #include <csignal>
 
+#include "forms/listbox.h"
 #include "print/frmnahled.h"
 #include "print/printing.h"
 #include "printcookbook.h"
@@ -44,12 +46,12 @@ class FailingPrinter final : public Printer {
     enum class Fails { Begin, NewPage, End };
     explicit FailingPrinter(Fails fails) : fails_(fails), sheet_(100, 100, QImage::Format_RGB32) {}
 
-    QString name() const override { return str("Tiskárna v chodbě"); }
-    QString paper() const override { return str("A5"); }
+    QStringList printers() const override { return {str("Tiskárna v chodbě")}; }
+    PrinterChoice choice() const override { return {str("Tiskárna v chodbě"), Paper::A5, 2}; }
+    bool use(const PrinterChoice&) override { return true; }
     PageScale scale() const override { return {0, 0, 8000, 12000, {-100, -100, 8200, 12200}}; }
     QString fileFor(const QString&) const override { return {}; }
-    bool choose(QWidget*) override { return false; }
-    QPainter* begin(const QString&, const QString&) override {
+    QPainter* begin(const QString&) override {
         if (fails_ == Fails::Begin) return nullptr;
         painter_.begin(&sheet_);
         return &painter_;
@@ -72,7 +74,7 @@ class FrmPrintTest : public testing::Test {
   protected:
     FrmPrintTest() : book(cookbook()), printer(book.folder.filePath(str("Dokumenty"))) {
         EXPECT_TRUE(run.database.Open(book.folder.filePath(str("Sarne.drc"))));
-        printer.setPrinter({});
+        printer.use({});
         below->showForm();
         run.PushScreen(*below);
     }
@@ -125,7 +127,7 @@ TEST_F(FrmPrintTest, OpensWithWhatTheUserLastLookedAt) {
     }
     EXPECT_EQ(names.removeDuplicates(), 0);
     EXPECT_TRUE(control<Label>("lblTiskarna")->text().contains(str("A4")));
-    EXPECT_TRUE(control<Label>("lblTiskarna")->toolTip().endsWith(file("Candát.pdf")));
+    EXPECT_TRUE(control<Label>("lblTiskarna")->toolTip().endsWith(file("Rybí recepty (2).pdf")));
     EXPECT_FALSE(control("cmdPrerus")->isVisible() || control("prgRecept")->isVisible());
     control("Command2")->click();
     open({1});
@@ -171,7 +173,7 @@ TEST_F(FrmPrintTest, AsksForPortionsFrom1To99) {
         EXPECT_TRUE(test::pdfText(outcome().section(str("souboru "), 1)).simplified().endsWith(str(line)))
             << typed;
     }
-    EXPECT_TRUE(run.messages.isEmpty());
+    EXPECT_TRUE(run.messages.filter(str("48:")).isEmpty());
 }
 
 TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
@@ -208,7 +210,7 @@ TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
     EXPECT_TRUE(control("Command1")->isEnabled() && control("Frame1")->isEnabled());
     EXPECT_FALSE(control("cmdPrerus")->isVisible());
     EXPECT_EQ(run.awake, (QStringList{str("Tisk"), QString()}));
-    EXPECT_TRUE(outcome().endsWith(file("Candát.pdf"))) << outcome().toStdString();
+    EXPECT_TRUE(outcome().endsWith(file("Rybí recepty (2).pdf"))) << outcome().toStdString();
 }
 
 TEST_F(FrmPrintTest, PrintsASecondSelectionAtOnceUntilItIsClosed) {
@@ -268,7 +270,8 @@ TEST_F(FrmPrintTest, SaysWhenThePrinterFails) {
         FailingPrinter failing(fails);
         auto* print = new frmPrint(run, failing);
         print->Zobraz({1, 3}, {});
-        EXPECT_EQ(child<Label>(*print, "lblTiskarna")->text(), str("Tiskárna: Tiskárna v chodbě\nPapír: A5"));
+        EXPECT_EQ(child<Label>(*print, "lblTiskarna")->text(),
+                  str("Tiskárna: Tiskárna v chodbě\nPapír: A5, počet kopií: 2"));
         child<Button>(*print, "Command1")->click();
         EXPECT_TRUE(child<Label>(*print, "lblVysledek")->text().startsWith(str("Tisk se nezdařil")));
         EXPECT_EQ(failing.ended, fails == Fails::Begin ? 0 : 1) << "what was begun is ended";
@@ -292,14 +295,14 @@ TEST_F(FrmPrintTest, AFullDiskLeavesNoHalfAFile) {
     EXPECT_TRUE(QDir(book.folder.filePath(str("Dokumenty"))).isEmpty())
         << QFileInfo(file("Candát.pdf")).size();
     control("Command1")->click();
-    EXPECT_TRUE(outcome().endsWith(file("Candát.pdf"))) << "and then there is room again";
+    EXPECT_TRUE(outcome().endsWith(file("Rybí recepty (2).pdf"))) << "and then there is room again";
     std::signal(SIGXFSZ, handler);
 }
 
 TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
     open({1, 3});
     control("Command1")->click();
-    const QStringList printed = test::pdfPages(file("Candát.pdf"));
+    const QStringList printed = test::pdfPages(file("Rybí recepty (2).pdf"));
     control("cmdNahled")->click();
     auto* preview = dynamic_cast<frmNahled*>(loaded("frmNahled"));
     ASSERT_TRUE(preview);
@@ -327,6 +330,91 @@ TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
     EXPECT_FALSE(preview->isLoaded());
     EXPECT_EQ(run.FormStack.top(), form());
     EXPECT_TRUE(control("cmdNahled")->hasFocus());
+}
+
+TEST_F(FrmPrintTest, EveryChangeShowsInThePreviewAtOnce) {
+    open({1, 3});
+    const auto* sheet = control<PageSheet>("picStrana");
+    const auto shows = [&](const char* text) { return sheet->accessibleValue().contains(str(text)); };
+    EXPECT_TRUE(shows("Candát") && shows("Porce: 4"));
+    control<CheckBox>("Chco(1)")->setChecked(false);
+    EXPECT_FALSE(shows("Porce"));
+    control<CheckBox>("Chco(1)")->setChecked(true);
+    control<Edit>("Text1")->setText(str("6,5"));
+    EXPECT_TRUE(shows("Porce: 6,5"));
+    control<Edit>("Text1")->setText({});
+    EXPECT_TRUE(shows("Porce: 6,5")) << "what cannot be printed shows nothing new";
+    control<Edit>("Text1")->setText(str("6"));
+    QTest::keyClick(form(), Qt::Key_PageDown);
+    EXPECT_TRUE(shows("2 z "));
+    for (int i = 0; i < 20; ++i) control("cmdStrana(1)")->click();
+    QTest::qWait(20);
+    for (int i = 0; i < 20; ++i) control("cmdStrana(1)")->click();
+    EXPECT_TRUE(shows("Štika"));
+    EXPECT_FALSE(control("cmdStrana(1)")->isEnabled());
+    control("picStrana")->click();
+    auto* large = dynamic_cast<frmNahled*>(loaded("frmNahled"));
+    ASSERT_TRUE(large);
+    EXPECT_GT(large->currentPage(), 0) << "the page that was clicked";
+    EXPECT_EQ(child<PageSheet>(*large, "picStrana")->accessibleValue(), sheet->accessibleValue());
+}
+
+TEST_F(FrmPrintTest, AsksBeforeItReplacesAFile) {
+    open({3});
+    EXPECT_FALSE(control("cmdOtevrit")->isVisible());
+    control("Command1")->click();
+    EXPECT_TRUE(run.messages.isEmpty());
+    EXPECT_TRUE(control("cmdOtevrit")->isVisible());
+    const QDateTime written = QFileInfo(file("Štika.pdf")).lastModified();
+    run.answers = {7};
+    QTest::qWait(20);
+    control("Command1")->click();
+    EXPECT_EQ(run.messages, QStringList{str("36: Soubor Štika.pdf už existuje. Chcete ho nahradit?")});
+    EXPECT_EQ(QFileInfo(file("Štika.pdf")).lastModified(), written);
+    control("Command1")->click();
+    EXPECT_GT(QFileInfo(file("Štika.pdf")).lastModified(), written);
+    EXPECT_EQ(QDir(book.folder.filePath(str("Dokumenty"))).entryList(QDir::Files).size(), 1);
+}
+
+TEST_F(FrmPrintTest, ChoosesPrinterAndPaperAndRemembersThem) {
+    QString kept;
+    const PrinterMemory memory{[&] { return kept; }, [&](const QString& choice) { kept = choice; }};
+    auto* print = new frmPrint(run, printer, memory);
+    print->Zobraz({1, 3}, {});
+    const auto answer = [&](int button, const char* folder) {
+        QTimer::singleShot(0, below, [&, button, folder] {
+            auto* dialog = loaded("frmTiskarna");
+            ASSERT_TRUE(dialog);
+            EXPECT_EQ(child<Edit>(*dialog, "txtSoubor")->text(), str("Rybí recepty (2)"));
+            EXPECT_FALSE(child<Edit>(*dialog, "txtKopie")->isEnabled()) << "of a file there is one";
+            child<ListBox>(*dialog, "lstPapir")->setListIndex(int(Paper::Card));
+            child<CheckBox>(*dialog, "chkBarevne")->setChecked(false);
+            child<Edit>(*dialog, "txtSlozka")->setText(book.folder.filePath(str(folder)));
+            child<Button>(*dialog, qPrintable(str("cmdOkStorno(%1)").arg(button)))->click();
+            if (dialog->isVisible()) QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        child<Button>(*print, "cmdTiskarna")->click();
+    };
+    answer(1, "Jinam");
+    EXPECT_EQ(printer.choice().paper, Paper::A4);
+    answer(0, "Sarne.drc/x");
+    EXPECT_EQ(run.messages, QStringList{str("48: Do této složky nelze ukládat. Zvolte jinou.")});
+    EXPECT_TRUE(kept.isEmpty());
+    answer(0, "Karty");
+    EXPECT_TRUE(printer.scale().card);
+    EXPECT_TRUE(child<Label>(*print, "lblTiskarna")->text().contains(str("Kartička A6")));
+    EXPECT_FALSE(child<PageSheet>(*print, "picStrana")->accessibleValue().contains(str("poznámka")));
+    child<Button>(*print, "Command1")->click();
+    EXPECT_TRUE(QFileInfo::exists(book.folder.filePath(str("Karty/Rybí recepty (2).pdf"))));
+
+    SystemPrinter another(book.folder.path());
+    frmPrint next(run, another, memory);
+    EXPECT_EQ(another.choice().paper, Paper::Card);
+    EXPECT_FALSE(another.choice().colour);
+    kept = PrinterChoice{str("Zmizelá")}.toText();
+    frmPrint gone(run, another, memory);
+    EXPECT_EQ(child<Label>(gone, "lblVysledek")->text(),
+              str("Tiskárna Zmizelá teď není k dispozici, tisk půjde do souboru."));
 }
 
 TEST_F(FrmPrintTest, QuickRecipesPrintTheRecipesTheyShowAboveTheirDialog) {

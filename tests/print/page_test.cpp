@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QDialog>
-#include <QLineEdit>
-#include <QTimer>
+#include <QRegularExpression>
 
+#include "platform/pagesonsheet.h"
 #include "print/recipeflow.h"
+#include "print/shortsteps.h"
 #include "printcookbook.h"
 #include "richtext/layoutdump.h"
 
@@ -47,7 +46,7 @@ TEST(PrintedPage, HoldsTheSectionsInTheirOrder) {
     options.portions = 6;
     const PrintOutcome outcome = book.print({7}, options);
     ASSERT_EQ(outcome.kind, Kind::Printed);
-    EXPECT_EQ(outcome.file, book.folder.filePath(str("Dokumenty/Kapr na černo.pdf")));
+    EXPECT_EQ(outcome.file, book.folder.filePath(str("Dokumenty/Recept.pdf")));
     EXPECT_EQ(textOf(outcome),
               str("CD Tobrela - Velisa sarn Kapr na černo Kapr na černo s povidly Porce: 6 "
                   "kapr - podkovy (g): 380 (ks): 3 - nebo amur sůl (g): 8,2 (lžíce): 0,8 citron (ks): 1,5 "
@@ -59,7 +58,6 @@ TEST(PrintedPage, HoldsTheSectionsInTheirOrder) {
     options.units = UnitSystem::Spoons;
     options.portions = 2.5;
     const PrintOutcome spoons = book.print({7}, options);
-    EXPECT_EQ(spoons.file, book.folder.filePath(str("Dokumenty/Kapr na černo (2).pdf")));
     EXPECT_TRUE(textOf(spoons).contains(
         str("Porce: 2,5 kapr - podkovy (ks): 1,2 - nebo amur sůl (lžíce): 0,3 citron (ks): 0,6")))
         << textOf(spoons).toStdString();
@@ -102,7 +100,7 @@ TEST(PrintedPage, AWrappedLineLosesNoLetter) {
     EXPECT_TRUE(textOf(book.print({1})).contains(words.join(u' '))) << textOf(book.print({1})).toStdString();
 }
 
-class PaperTest : public testing::TestWithParam<QPageSize::PageSizeId> {};
+class PaperTest : public testing::TestWithParam<Paper> {};
 
 TEST_P(PaperTest, NothingLeavesTheColumnAndTheHeaderEndsAtItsEdge) {
     const QString wide = QString(400, u'W');
@@ -113,7 +111,7 @@ TEST_P(PaperTest, NothingLeavesTheColumnAndTheHeaderEndsAtItsEdge) {
     book.addPhoto(1, {400, 300}, Qt::red);
     const PrintOutcome outcome = book.print({1}, {}, GetParam());
     ASSERT_EQ(outcome.kind, Kind::Printed);
-    const QSizeF paper = QPageSize(GetParam()).size(QPageSize::Point) * 20;
+    const QSizeF paper = PagesOnSheet::of(GetParam()).page();
     const QRectF printable = QRectF({0, 0}, paper).adjusted(566, 566, -566, -566);
     const double right = paper.width() / 2 + printable.width() * .8 / 2;
     for (int page = 1; page <= outcome.pages; ++page) {
@@ -131,7 +129,7 @@ TEST_P(PaperTest, NothingLeavesTheColumnAndTheHeaderEndsAtItsEdge) {
     EXPECT_EQ(text.count(str("konec")), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Papers, PaperTest, testing::Values(QPageSize::A4, QPageSize::A5, QPageSize::Letter));
+INSTANTIATE_TEST_SUITE_P(Papers, PaperTest, testing::Values(Paper::A4, Paper::A5, Paper::Letter));
 
 TEST(PrintedPage, RepeatsTheHeaderWithNameAndPageAndStartsEachRecipeOnItsOwn) {
     PrintCookbook book(
@@ -201,30 +199,76 @@ TEST(PrintedPage, TakesLargeMaterial) {
     }
 }
 
-TEST(SystemPrinter, AFileChosenInTheDialogIsWrittenAndNotPrintedOverAgain) {
+TEST(SystemPrinter, WritesTheFileOfTheUsersChoice) {
     PrintCookbook book(kCookbook);
     SystemPrinter printer(book.folder.path());
-    printer.setPrinter({});
-    const QString chosen = book.folder.filePath(str("vybraný.pdf"));
-    int dialogs = 0;
-    const auto answer = [&](bool accept) {
-        QTimer::singleShot(0, qApp, [&, accept] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(dialog);
-            ++dialogs;
-            if (auto* file = dialog->findChild<QLineEdit*>(str("filename"))) file->setText(chosen);
-            accept ? dialog->accept() : dialog->reject();
-        });
-        return printer.choose(nullptr);
-    };
-    EXPECT_FALSE(answer(false));
+    EXPECT_FALSE(printer.use({str("Tiskárna, která zmizela")}));
+    EXPECT_TRUE(printer.choice().printer.isEmpty()) << "without it there is a file";
     EXPECT_EQ(printer.fileFor(str("a/b:c. ")), book.folder.filePath(str("a b c..pdf")));
-    ASSERT_TRUE(answer(true));
-    EXPECT_EQ(dialogs, 2);
-    EXPECT_EQ(book.printOn(printer, {7}).file, chosen);
-    EXPECT_NEAR(printer.scale().sheet.left(), -567, 20) << "with the usual margins";
-    EXPECT_EQ(book.printOn(printer, {8}).file, book.folder.filePath(str("vybraný (2).pdf")));
-    EXPECT_TRUE(textOf({{}, 1, chosen}).contains(str("povidly")));
+    PrinterChoice choice;
+    choice.folder = book.folder.filePath(str("nová složka"));
+    choice.file = str("vybraný");
+    ASSERT_TRUE(printer.use(choice));
+    EXPECT_EQ(book.printOn(printer, {7}).file, choice.folder + str("/vybraný.pdf"));
+    EXPECT_EQ(book.printOn(printer, {8}).file, choice.folder + str("/vybraný.pdf"))
+        << "who prints has asked whether to replace it";
+    EXPECT_TRUE(textOf({{}, 1, choice.folder + str("/vybraný.pdf")}).contains(str("Štika")));
+    const QString info = test::pdfTool(str("pdfinfo"), {choice.folder + str("/vybraný.pdf")});
+    EXPECT_TRUE(info.contains(QRegularExpression(str("Title: +Recept")))) << info.toStdString();
+    EXPECT_TRUE(test::pdfTool(str("pdfinfo"), {str("-meta"), choice.folder + str("/vybraný.pdf")})
+                    .contains(str("cs-CZ")));
+}
+
+TEST(SystemPrinter, KeepsAChoiceAsText) {
+    const PrinterChoice choice{str("HP v chodbě"), Paper::FourCards, 3, true, false, str("/tmp/Složka"), {}};
+    EXPECT_EQ(PrinterChoice::fromText(choice.toText()), choice);
+    for (const char* broken : {"", "{", "[1]", "{\"paper\":99,\"copies\":-4}"}) {
+        const PrinterChoice read = PrinterChoice::fromText(str(broken));
+        EXPECT_GE(read.copies, 1);
+        EXPECT_LT(int(read.paper), kPapers);
+    }
+}
+
+TEST(SystemPrinter, PutsSmallPagesSideBySide) {
+    PrintCookbook book(
+        {PrintCookbook::recipe(1, str("Candát"), {str("Recept"), test::rtf(test::longText(9000))}),
+         PrintCookbook::recipe(2, str("Okoun")), PrintCookbook::recipe(3, str("Lín"))});
+    const PrintOutcome two = book.print({1, 2}, {}, Paper::TwoA5);
+    EXPECT_EQ(test::pdfPages(two.file).size(), (two.pages + 1) / 2);
+    const QSize a5 = PagesOnSheet::of(Paper::TwoA5).page();
+    bool left = false, right = false;
+    for (const test::PdfWord& word : test::pdfWords(two.file, 1)) {
+        EXPECT_TRUE(word.place.right() < a5.width() || word.place.left() > a5.width())
+            << "no word over the fold";
+        (word.place.left() < a5.width() ? left : right) = true;
+    }
+    EXPECT_TRUE(left && right);
+    const PrintOutcome cards = book.print({1, 2, 3, 2, 3}, {}, Paper::FourCards);
+    EXPECT_EQ(test::pdfPages(cards.file).size(), 2);
+    const QSize card = PagesOnSheet::of(Paper::FourCards).page();
+    for (const test::PdfWord& word : test::pdfWords(cards.file, 1)) {
+        EXPECT_TRUE(word.text != str("Okoun") || word.place.left() > card.width());
+        EXPECT_TRUE(word.text != str("Lín") || word.place.top() > card.height());
+    }
+}
+
+TEST(RecipeCard, HoldsTheEssenceOnOnePage) {
+    QString steps;
+    for (int step = 1; step <= 9; ++step)
+        steps += str("%1. Krok %1 popíšeme takto. %2\\par ").arg(step).arg(test::longText(400));
+    PrintCookbook book({PrintCookbook::recipe(
+        1, str("Candát"),
+        {str("Uvod"), test::rtf(str("úvod")), str("Recept"), test::rtf(str("\\b Postup\\b0\\par ") + steps),
+         str("vino"), test::rtf(str("víno"))})});
+    const PrintOutcome card = book.print({1}, {}, Paper::Card);
+    EXPECT_EQ(card.pages, 1);
+    const QString text = textOf(card);
+    EXPECT_TRUE(text.contains(str("Candát Porce: 4 1. Krok 1 popíšeme takto. 2. Krok 2")))
+        << text.toStdString();
+    for (const char* elsewhere : {"úvod", "víno", "Postup", "necháme"})
+        EXPECT_FALSE(text.contains(str(elsewhere)));
+    EXPECT_EQ(stepsInShort(str("Nadpis\nRybu osolíme a dáme na půl hodiny do chladu. Pak pečeme.")),
+              QStringList{str("Rybu osolíme a dáme na půl hodiny do chladu.")});
 }
 
 TEST(SystemPrinter, NamesFilesSoThatEveryDiskTakesThem) {

@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QImage>
-#include <QPageLayout>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -125,14 +124,13 @@ class PrintCookbook {
                 printLogo(Resources(QStringLiteral(":/none/")))};
     }
 
-    /// Prints to a file on paper of \a size and says how that went.
+    /// Prints to a file on \a paper and says how that went.
     PrintOutcome print(const std::vector<std::int16_t>& ids, const PrintOptions& options = {},
-                       QPageSize::PageSizeId size = QPageSize::A4) {
+                       Paper paper = Paper::A4) {
         SystemPrinter printer(folder.filePath(QStringLiteral("Dokumenty")));
-        printer.setPrinter({});
-        QPageLayout layout = printer.pageLayout();
-        layout.setPageSize(QPageSize(size));
-        printer.setPageLayout(layout);
+        PrinterChoice choice;
+        choice.paper = paper;
+        printer.use(choice);
         return printOn(printer, ids, options);
     }
 
@@ -141,7 +139,7 @@ class PrintCookbook {
         SilentProgress silent;
         QtTextMetrics metrics;
         PageComposer composer(source(), printer.scale(), metrics);
-        return PrintJob(printer, composer, silent).print(ids, options);
+        return PrintJob(printer, composer, silent).print({ids, {}}, options, QStringLiteral("Recept"));
     }
 };
 

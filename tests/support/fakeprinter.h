@@ -14,12 +14,15 @@ class FakePrinter final : public Printer {
     int pages = 0;
     QString document;
 
-    QString name() const override { return QStringLiteral("Zkušební"); }
-    QString paper() const override { return QStringLiteral("A4"); }
+    QStringList printers() const override { return {QStringLiteral("Zkušební")}; }
+    PrinterChoice choice() const override { return choice_; }
+    bool use(const PrinterChoice& choice) override {
+        choice_ = choice;
+        return true;
+    }
     PageScale scale() const override { return {0, 0, 11400, 16300, QRect(-250, -250, 11900, 16840)}; }
     QString fileFor(const QString&) const override { return {}; }
-    bool choose(QWidget*) override { return true; }
-    QPainter* begin(const QString&, const QString& documentName) override {
+    QPainter* begin(const QString& documentName) override {
         document = documentName;
         pages = 1;
         painter_ = std::make_unique<QPainter>(&sheet_);
@@ -36,6 +39,7 @@ class FakePrinter final : public Printer {
     }
 
   private:
+    PrinterChoice choice_{QStringLiteral("Zkušební"), Paper::A4, 1, false, true, {}, {}};
     QImage sheet_{600, 850, QImage::Format_RGB32};
     std::unique_ptr<QPainter> painter_;
 };

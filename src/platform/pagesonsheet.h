@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPageLayout>
+
+#include "platform/printer.h"
+
+namespace sarne {
+
+/// How the pages of one kind of paper lie on its sheets.
+struct PagesOnSheet {
+    QPageSize::PageSizeId sheet = QPageSize::A4;
+    QPageLayout::Orientation orientation = QPageLayout::Portrait;
+    int across = 1, down = 1;
+    bool card = false;
+
+    static PagesOnSheet of(Paper paper);
+    int count() const { return across * down; }
+    /// The size of one page, in twips.
+    QSize page() const;
+    /// Where page number \a index (from 0) of a sheet begins, in twips from the sheet's corner.
+    QPoint corner(int index) const;
+    /// Around the texts of a page, in twips, where the printer demands no other margin.
+    int margin() const;
+    /// A page with the usual margin.
+    PageScale scale() const;
+};
+
+}  // namespace sarne

@@ -1,0 +1,12 @@
+#include "print/printmaterial.h"
+
+#include "core/texts.h"
+
+namespace sarne {
+
+QString PrintMaterial::documentName(const QString& first) const {
+    if (count() <= 1) return first;
+    return (isText() ? Texts::tr("Texty z kuchařky (%1)") : Texts::tr("Rybí recepty (%1)")).arg(count());
+}
+
+}  // namespace sarne

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QStringList>
+
+namespace sarne {
+
+/// The steps of a recipe, each by its first sentence: the numbered paragraphs of its plain \a text; where
+/// none is numbered, all but the short ones that are headings.
+QStringList stepsInShort(const QString& text);
+
+}  // namespace sarne
