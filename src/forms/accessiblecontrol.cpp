@@ -2,7 +2,7 @@
 
 #include <QAccessibleWidget>
 
-#include "forms/control.h"
+#include "forms/picturebox.h"
 
 namespace sarne {
 namespace {
@@ -13,7 +13,11 @@ class AccessibleControl final : public QAccessibleWidget {
         : QAccessibleWidget(control, control->role()), control_(control) {}
 
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? control_->accessibleValue() : QAccessibleWidget::text(kind);
+        if (kind == QAccessible::Value) return control_->accessibleValue();
+        const QString said = QAccessibleWidget::text(kind);
+        // What a surface shows is put together when somebody asks for it: it may be a book.
+        const auto* surface = qobject_cast<PictureBox*>(control_);
+        return kind == QAccessible::Description && said.isEmpty() && surface ? surface->drawnText() : said;
     }
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();

@@ -25,7 +25,7 @@ LookupTable keywordIndex(Database& db) {
     table.hasLetters = true;
     Recordset keywords = queries::keywords(db);
     for (; !keywords.AtEnd(); keywords.MoveNext()) {
-        const QString name = keywords.field(QStringLiteral("nazvy")).toString().trimmed();
+        const QString name = keywords.field(QStringLiteral("nazvy")).toString().left(kPreview).trimmed();
         table.rows.push_back({{name, preview(keywords.field(QStringLiteral("Text")).toString(), name)},
                               keywords.field(QStringLiteral("id")).toInt()});
     }

@@ -23,6 +23,7 @@ namespace {
 
 /// Points. Titles have the first size; a smaller one is for those that the header does not hold otherwise.
 constexpr double kTitleSizes[] = {20, 16, 13};
+constexpr int kLongestTitle = 400;  // characters: more than the header holds in the smallest size
 
 constexpr BarFace kBar[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
 enum BarButton { kPrint, kHelp, kBack, kEnd, kMusicSettings };
@@ -116,7 +117,7 @@ void frmRecept::loadRecipe(std::int16_t id) {
 }
 
 void frmRecept::showTitle() {
-    const QString title = recipe_.field("DlouhyNazev");
+    const QString title = recipe_.field("DlouhyNazev").left(kLongestTitle);
     TextFont font{QStringLiteral("Times New Roman"), 0, true};
     QStringList lines;
     for (double size : kTitleSizes) {

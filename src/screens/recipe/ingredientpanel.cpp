@@ -94,7 +94,6 @@ void IngredientPanel::draw() {
             return line.x == 0 && lineWidth(line.text) <= half;
         }))
         showBeside(recipe.photo);
-    view.setAccessibleDescription(view.drawnText());
 }
 
 void IngredientPanel::redraw() {

@@ -108,7 +108,6 @@ void LinkPanel::draw() {
         room_.view.setFont({QStringLiteral("Arial"), 12});
         room_.view.print(noneText());
     }
-    room_.view.setAccessibleDescription(room_.view.drawnText());
 }
 
 void LinkPanel::optionClick(int index) {

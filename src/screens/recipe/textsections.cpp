@@ -29,7 +29,6 @@ void PhotoSection::show() {
     shown_ = true;
     room_.view.setPicture(room_.recipe.photo);
     if (opensView()) room_.view.setCursor(Qt::PointingHandCursor);
-    room_.view.setAccessibleDescription({});
 }
 
 bool PhotoSection::opensView() const {
@@ -51,7 +50,6 @@ void TextSection::draw() {
         if (view.currentY() > 0) view.setCurrentY(view.currentY() + kBetweenTexts);
         view.drawRichText(text);
     }
-    view.setAccessibleDescription(view.drawnText());
 }
 
 void WineSection::draw() {
@@ -72,7 +70,6 @@ void ToolSection::draw() {
     TextView& view = room_.view;
     view.setFont({QStringLiteral("Arial"), 12});
     for (const QString& tool : tools) view.print(tool);
-    view.setAccessibleDescription(view.drawnText());
 }
 
 }  // namespace sarne
