@@ -10,6 +10,7 @@
 #include "platform/mpvcontrol.h"
 #include "platform/systemprinter.h"
 #include "tour.h"
+#include "wander.h"
 
 namespace sarne {
 namespace {
@@ -115,7 +116,13 @@ int main(int argc, char** argv) {
     const QCommandLineOption accept(
         QStringLiteral("accept"),
         QStringLiteral("take the texts shown as the expected ones, and this size's looks as the kept ones"));
-    options.addOptions({size, program, disc, expect, look, accept});
+    const QCommandLineOption steps(
+        QStringLiteral("steps"),
+        QStringLiteral("instead of the tour, do so many things at chance, and tell what they cost"),
+        QStringLiteral("N"));
+    const QCommandLineOption seed(QStringLiteral("seed"), QStringLiteral("of chance"), QStringLiteral("N"),
+                                  QStringLiteral("1"));
+    options.addOptions({size, program, disc, expect, look, accept, steps, seed});
     options.process(application);
     const QStringList wide = options.value(size).split(u'x');
     if (options.positionalArguments().size() != 1 || wide.size() != 2) options.showHelp(2);
@@ -148,6 +155,8 @@ int main(int argc, char** argv) {
     Tour tour(run, pictures, looks);
     tour.skipIntro();
     run.Main({});
+    if (options.isSet(steps))
+        return wander(run, options.value(steps).toInt(), options.value(seed).toUInt(), out) ? 0 : 1;
     walk(tour);
     return report(out, tour, pictures, folder.path(), options.value(expect), looks, options.isSet(accept));
 }

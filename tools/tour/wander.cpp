@@ -1,0 +1,108 @@
+#include "wander.h"
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+#include <random>
+
+#include "app/program.h"
+
+namespace sarne {
+namespace {
+
+/// What the process takes of the machine.
+struct Use {
+    double megabytes = 0;
+    qsizetype files = 0, threads = 0;
+
+    static Use now() {
+        QFile pages(QStringLiteral("/proc/self/statm"));
+        if (!pages.open(QIODevice::ReadOnly)) return {};
+        const auto entries = [](const char* folder) {
+            return QDir(QLatin1String(folder))
+                .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+                .size();
+        };
+        const double page = double(sysconf(_SC_PAGESIZE)) / 1e6;
+        return {pages.readAll().split(' ').value(1).toDouble() * page, entries("/proc/self/fd"),
+                entries("/proc/self/task")};
+    }
+};
+
+/// One who presses and clicks whatever comes, but stays.
+class Wanderer {
+  public:
+    Wanderer(Program& program, unsigned seed) : program_(program), random_(seed) {
+        // Boxes and dialogs wait within their question; each is left, the one that would end the program, too.
+        QObject::connect(&patience_, &QTimer::timeout, &patience_, [this] {
+            if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+            if (QWidget* dialog = QApplication::activeModalWidget()) dialog->close();
+            if (Form* box = program_.stage().modalForm()) QTest::keyClick(box, Qt::Key_Escape);
+        });
+        patience_.start(40);
+    }
+
+    void step() {
+        below(3) == 0 ? click() : press();
+        QTest::qWait(1);
+    }
+    const QSet<QString>& seen() const { return seen_; }
+
+  private:
+    int below(int limit) { return std::uniform_int_distribution<>(0, limit - 1)(random_); }
+
+    void press() {
+        static constexpr Qt::Key kKeys[] = {Qt::Key_Left,     Qt::Key_Right,  Qt::Key_Up,     Qt::Key_Down,
+                                            Qt::Key_Tab,      Qt::Key_Return, Qt::Key_Return, Qt::Key_Return,
+                                            Qt::Key_Space,    Qt::Key_Escape, Qt::Key_PageUp, Qt::Key_Home,
+                                            Qt::Key_PageDown, Qt::Key_End,    Qt::Key_F1,     Qt::Key_F4,
+                                            Qt::Key_K,        Qt::Key_P,      Qt::Key_C,      Qt::Key_X};
+        QWidget* target = QApplication::focusWidget();
+        note();
+        QTest::keyClick(target ? target : &program_.stage(), kKeys[below(std::size(kKeys))]);
+    }
+    void click() {
+        Stage& stage = program_.stage();
+        const QPoint at(below(stage.width()), below(stage.height()));
+        QWidget* hit = stage.childAt(at);
+        if (!hit) hit = &stage;
+        note();
+        QTest::mouseMove(hit, hit->mapFrom(&stage, at));
+        QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&stage, at));
+    }
+    void note() {
+        if (const Form* top = program_.FormStack.top()) seen_ << top->name();
+    }
+
+    Program& program_;
+    std::mt19937 random_;
+    QTimer patience_;
+    QSet<QString> seen_;
+};
+
+}  // namespace
+
+bool wander(Program& program, int steps, unsigned seed, QTextStream& out) {
+    constexpr int kWarm = 1000, kEvery = 500;
+    Wanderer user(program, seed);
+    Use warm, now;
+    for (int done = 1; done <= steps && !program.hasEnded(); ++done) {
+        user.step();
+        if (done % kEvery != 0) continue;
+        now = Use::now();
+        if (done == kWarm) warm = now;
+        out << done << " steps: " << now.megabytes << " MB, " << now.files << " files, " << now.threads
+            << " threads, " << user.seen().size() << " screens seen" << Qt::endl;
+    }
+    if (steps < kWarm) return !program.hasEnded();
+    out << "Grown since step " << kWarm << ": " << 100 * (now.megabytes / warm.megabytes - 1) << " %"
+        << Qt::endl;
+    return !program.hasEnded() && now.megabytes < 1.01 * warm.megabytes && now.files <= warm.files &&
+           now.threads <= warm.threads;
+}
+
+}  // namespace sarne

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QTextStream>
+
+namespace sarne {
+
+class Program;
+
+/// Presses keys and clicks at chance, \a steps times, through whatever screens that leads to, and tells on
+/// the way what the process takes. False when memory grew by a hundredth or more after the first thousand
+/// steps, files or threads grew at all, or the program ended.
+bool wander(Program& program, int steps, unsigned seed, QTextStream& out);
+
+}  // namespace sarne
