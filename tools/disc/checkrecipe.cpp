@@ -19,6 +19,12 @@ constexpr int kMostPortions = 255;
 /// More spoons than that are measured in cups.
 constexpr double kMostSpoons = 12;
 constexpr double kCup = 250;
+constexpr double kHalf = 0.5;
+
+/// As a writer writes it: "0,6 hrnky".
+QString czechText(double amount, const QString& unit) {
+    return QString::number(amount).replace(u'.', u',') + u' ' + unit;
+}
 
 void checkMeasure(const Cookbook& book, const Recipe& recipe, const IngredientLine& line,
                   Problems& problems) {
@@ -33,6 +39,10 @@ void checkMeasure(const Cookbook& book, const Recipe& recipe, const IngredientLi
             problems.finding(line.place, QStringLiteral("%1 lžic nikdo neodměří; nejvýš %2, potom hrnky")
                                              .arg(amount)
                                              .arg(kMostSpoons));
+        if (unit->kind == UnitKind::spoon && std::fmod(amount, kHalf) != 0)
+            problems.finding(
+                line.place,
+                QStringLiteral("%1: lžíce a hrnky se měří po polovinách").arg(czechText(amount, unit->name)));
     }
 }
 

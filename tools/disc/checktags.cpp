@@ -50,13 +50,17 @@ void checkTags(const Cookbook& book, Problems& problems) {
 
 void checkSearch(const Cookbook& book, Problems& problems) {
     QStringList names;
-    for (const Ingredient& ingredient : book.ingredients) names << ingredient.name;
+    QStringList nouns;
+    for (const Ingredient& ingredient : book.ingredients) {
+        names << ingredient.name;
+        nouns << ingredient.name.section(u' ', 0, 0);
+    }
     for (const SearchWord& typed : book.searchWords)
         if (std::none_of(names.cbegin(), names.cend(), [&](const QString& name) {
                 return name.startsWith(typed.word, Qt::CaseInsensitive);
             }))
             problems.error(typed.place, QStringLiteral("„%1“ nenajde žádnou surovinu").arg(typed.word) +
-                                            didYouMean(typed.word, names));
+                                            didYouMean(typed.word, nouns));
     if (book.searchWords.size() < kFewestSearchWords)
         problems.finding({QStringLiteral("hledani.txt"), 0},
                          QStringLiteral("slov je %1, má jich být aspoň %2")

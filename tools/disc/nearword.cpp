@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 #include "stems.h"
@@ -9,20 +10,25 @@
 namespace sarne::disc {
 namespace {
 
-/// How many letters have to be put in, taken out or changed.
+/// How many letters have to be put in, taken out, changed, or swapped with their neighbour.
 qsizetype distance(const QString& a, const QString& b) {
-    std::vector<qsizetype> row(static_cast<std::size_t>(b.size()) + 1);
-    std::iota(row.begin(), row.end(), 0);
+    using Row = std::vector<qsizetype>;
+    const auto width = static_cast<std::size_t>(b.size()) + 1;
+    Row before;  // two letters of a back
+    Row last(width);
+    std::iota(last.begin(), last.end(), 0);
     for (qsizetype i = 1; i <= a.size(); ++i) {
-        qsizetype corner = std::exchange(row[0], i);
+        Row row(width, i);
         for (qsizetype j = 1; j <= b.size(); ++j) {
-            qsizetype& cell = row[static_cast<std::size_t>(j)];
-            const qsizetype changed = corner + (a[i - 1] == b[j - 1] ? 0 : 1);
-            corner = cell;
-            cell = std::min({changed, cell + 1, row[static_cast<std::size_t>(j) - 1] + 1});
+            const auto at = static_cast<std::size_t>(j);
+            const bool isSame = a[i - 1] == b[j - 1];
+            row[at] = std::min({last[at - 1] + (isSame ? 0 : 1), last[at] + 1, row[at - 1] + 1});
+            if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
+                row[at] = std::min(row[at], before[at - 2] + 1);
         }
+        before = std::exchange(last, row);
     }
-    return row.back();
+    return last.back();
 }
 
 }  // namespace
