@@ -8,8 +8,8 @@
 #include "screens/index/keywordhistory.h"
 #include "screens/index/lookuptable.h"
 #include "screens/index/pages.h"
-#include "screens/index/rowpaging.h"
-#include "screens/index/rtfdocument.h"
+#include "core/rowpaging.h"
+#include "richtext/rtfdocument.h"
 #include "screens/index/tablelayout.h"
 
 namespace sarne {

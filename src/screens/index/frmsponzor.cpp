@@ -12,7 +12,7 @@
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "richtext/plaintext.h"
-#include "screens/index/rtfdocument.h"
+#include "richtext/rtfdocument.h"
 
 namespace sarne {
 namespace {

@@ -3,7 +3,7 @@
 #include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/screens.h"
-#include "screens/index/rtfdocument.h"
+#include "richtext/rtfdocument.h"
 
 namespace sarne {
 namespace {

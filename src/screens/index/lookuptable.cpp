@@ -3,7 +3,7 @@
 #include "db/database.h"
 #include "db/queries.h"
 #include "richtext/plaintext.h"
-#include "screens/index/rtfdocument.h"
+#include "richtext/rtfdocument.h"
 
 namespace sarne {
 namespace {

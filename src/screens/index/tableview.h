@@ -2,7 +2,7 @@
 
 #include "forms/control.h"
 #include "screens/index/lookuptable.h"
-#include "screens/index/rowpaging.h"
+#include "core/rowpaging.h"
 #include "screens/index/tablelayout.h"
 
 namespace sarne {

@@ -1,4 +1,4 @@
-#include "screens/index/rtfdocument.h"
+#include "richtext/rtfdocument.h"
 
 #include <algorithm>
 

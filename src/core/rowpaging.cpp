@@ -1,4 +1,4 @@
-#include "screens/index/rowpaging.h"
+#include "core/rowpaging.h"
 
 #include <algorithm>
 
