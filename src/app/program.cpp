@@ -147,7 +147,7 @@ void Program::keepAwake(const QString& reason) {
 }
 
 void Program::ConfirmExit() {
-    if (Ending || !ReadyToEnd() ||
+    if (Ending || !ReadyToEnd() || !screens_.readyToEnd() ||
         ZobrazZpravu(Texts::tr("Chcete ukončit program?  "), kQuestionBox) != kAnswerYes)
         return;
     endProgram();

@@ -19,6 +19,9 @@ namespace {
 
 const QString kPrinterChoice = QStringLiteral("Tiskarna");
 
+/// The item of the topic of tables that is none: the shopping list.
+constexpr std::int16_t kShoppingItem = 9;
+
 }  // namespace
 
 ProgramScreens::ProgramScreens(Program& program)
@@ -26,7 +29,8 @@ ProgramScreens::ProgramScreens(Program& program)
       printing_(
           program, program.platform().printer,
           {[&program] { return program.userFile().value(kPrinterChoice); },
-           [&program](const QString& choice) { program.userFile().setValue(kPrinterChoice, choice); }}) {}
+           [&program](const QString& choice) { program.userFile().setValue(kPrinterChoice, choice); }}),
+      kitchen_(program) {}
 
 void ProgramScreens::showMain() {
     main_ = new frmHlavni(program_);
@@ -86,6 +90,7 @@ void ProgramScreens::showHelpFor(const QString& formName) {
 }
 
 void ProgramScreens::showTables(std::int16_t item) {
+    if (item == kShoppingItem) return showShoppingList();
     (new FrmTabulky(program_))->Zobraz(item);
 }
 
@@ -103,6 +108,26 @@ void ProgramScreens::showPrintSelection(const std::vector<PrintEntry>& entries, 
 
 void ProgramScreens::printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving) {
     printing_.printRecipes(ids, serving);
+}
+
+bool ProgramScreens::canCook(std::int16_t id) {
+    return kitchen_.canCook(id);
+}
+
+void ProgramScreens::cookRecipe(std::int16_t id, const Serving& serving) {
+    kitchen_.cook(id, serving);
+}
+
+void ProgramScreens::addToShoppingList(const std::vector<std::int16_t>& ids, const Serving& serving) {
+    kitchen_.addToShoppingList(ids, serving);
+}
+
+void ProgramScreens::showShoppingList() {
+    kitchen_.showShoppingList();
+}
+
+void ProgramScreens::stopRinging() {
+    kitchen_.stopRinging();
 }
 
 void ProgramScreens::printText(const QString& title, const QString& text) {

@@ -2,6 +2,7 @@
 
 #include <QPointer>
 
+#include "app/kitchenscreens.h"
 #include "print/printing.h"
 #include "screens/browse/frmseznam.h"
 
@@ -33,7 +34,15 @@ class ProgramScreens final : public Screens {
     void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) override;
     void printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving) override;
     void printText(const QString& title, const QString& text) override;
+    bool canCook(std::int16_t id) override;
+    void cookRecipe(std::int16_t id, const Serving& serving) override;
+    void addToShoppingList(const std::vector<std::int16_t>& ids, const Serving& serving) override;
+    void showShoppingList() override;
+    void stopRinging() override;
     void returnToMain() override;
+
+    /// Asks about what would be lost that belongs to no screen: running timers.
+    bool readyToEnd() { return kitchen_.readyToEnd(); }
 
   private:
     void returnToHelpList();
@@ -43,6 +52,7 @@ class ProgramScreens final : public Screens {
     QPointer<frmSeznam> helpList_;
     frmSeznam::Panel listPanel_ = frmSeznam::Panel::Photo;  ///< as the user left it
     Printing printing_;
+    KitchenScreens kitchen_;
     Serving lookedAt_;  ///< how the user looked at a recipe last
 };
 

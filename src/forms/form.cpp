@@ -140,8 +140,20 @@ bool Form::sharedKey(const QKeyEvent& event) {
         case Qt::Key_F1:
             help();
             return true;
+        case Qt::Key_F3:
+            app_.screens().showShoppingList();
+            return true;
         case Qt::Key_F4:
             musicSettings();
+            return true;
+        case Qt::Key_F5:
+            app_.screens().showPantry();
+            return true;
+        case Qt::Key_F6:
+            app_.screens().showMyCookbook();
+            return true;
+        case Qt::Key_F7:
+            app_.screens().stopRinging();
             return true;
         case Qt::Key_C:
             goBack();

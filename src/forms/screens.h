@@ -51,6 +51,17 @@ class Screens {
         Q_UNUSED(title)
         Q_UNUSED(text)
     }
+    /// Whether the book knows the steps of a recipe; the recipe at the stove, step by step.
+    virtual bool canCook(std::int16_t /*id*/) { return false; }
+    virtual void cookRecipe(std::int16_t /*id*/, const Serving& /*serving*/) {}
+    /// Puts what recipes need on the shopping list; for 0 portions, for as many as each is written for.
+    virtual void addToShoppingList(const std::vector<std::int16_t>& /*ids*/, const Serving& /*serving*/) {}
+    virtual void showShoppingList() {}
+    /// Recipes by what is at home; what the user has made of the book.
+    virtual void showPantry() {}
+    virtual void showMyCookbook() {}
+    /// Stops the kitchen timers that ring.
+    virtual void stopRinging() {}
     /// Hides the menu tree and returns the main screen to idle.
     virtual void returnToMain() = 0;
 };

@@ -80,6 +80,7 @@ void ShippedMenu::expectScreen(int topic, const MenuLevel& level, int k) {
     QString form = QStringLiteral("frmSeznam");
     if (topic == 1 || topic == 9 || topic == 13) form = QStringLiteral("frmSponzor");
     if (topic == 4) form = k == 1 ? QStringLiteral("frmStranka") : QStringLiteral("FrmTabulky");
+    if (topic == 4 && k == 9) form = QStringLiteral("frmNakup");
     if (topic == 10) form = k == 1 ? QStringLiteral("frmFotoBig") : QStringLiteral("frmSit");
     if (topic == 18) form = QStringLiteral("frmVideo");
     if (target.startsWith(u'H')) form = QStringLiteral("frmIndex");

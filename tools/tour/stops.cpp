@@ -139,6 +139,46 @@ void keywords(Tour& tour) {
     }
 }
 
+/// From a recipe to the stove and to the shop.
+void kitchen(Tour& tour) {
+    tour.click(button(6));
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Return);
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_F3);
+    tour.doubleClick(QStringLiteral("lblSeznam(2)"));
+    tour.click(QStringLiteral("imgKuchyne(1)"));
+    tour.wait(kSlowScreen);
+    tour.key(Qt::Key_F3, Qt::ShiftModifier);
+    tour.stop(QStringLiteral("frmNakup"));
+    tour.key(Qt::Key_Space);
+    tour.key(Qt::Key_End);
+    tour.key(Qt::Key_Space);
+    tour.stop(QStringLiteral("frmNakup"), QStringLiteral("doma"));
+    tour.visitHelp();
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_F2);
+    tour.stop(QStringLiteral("frmVarime"));
+    tour.visitHelp();
+    tour.key(Qt::Key_Return);
+    tour.wait(kSlowScreen);
+    for (int page = 1; page <= 3; ++page) {
+        tour.stop(QStringLiteral("frmVarime"), QString::number(page));
+        tour.key(Qt::Key_Space);
+    }
+    for (int page = 0; page < 30 && !tour.has(QStringLiteral("imgUvareno")); ++page)
+        tour.key(Qt::Key_PageDown);
+    tour.stop(QStringLiteral("frmVarime"), QStringLiteral("hotovo"));
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_Escape);
+    tour.click(button(4));
+    tour.key(Qt::Key_Up);
+    tour.key(Qt::Key_Return);
+    tour.stop(QStringLiteral("frmNakup"), QStringLiteral("police"));
+    tour.key(Qt::Key_Escape);
+}
+
 /// Every area of the gallery in front: it shows its card, or leads to a keyword.
 void areas(Tour& tour, int topic) {
     for (int i = 0; tour.has(QStringLiteral("lblOblast(%1)").arg(i)); ++i) {
@@ -225,6 +265,7 @@ void walk(Tour& tour) {
     media(tour);
     printing(tour);
     recipeFacts(tour);
+    kitchen(tour);
     ending(tour);
 }
 

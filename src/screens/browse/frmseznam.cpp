@@ -105,6 +105,12 @@ void frmSeznam::openSelected() {
     app().screens().showRecipe(entry->target);
 }
 
+void frmSeznam::buySelected() {
+    const ListEntry* entry = visiblySelected();
+    if (!entry || entry->target == 0 || source_ == Source::Help) return app().screens().showShoppingList();
+    app().screens().addToShoppingList({entry->target}, {});
+}
+
 void frmSeznam::mainAction(int index) {
     switch (index) {
         case 0:

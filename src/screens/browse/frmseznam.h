@@ -63,6 +63,7 @@ class frmSeznam : public Form {
     void action(int index);
     void mainAction(int index);
     void openSelected();
+    void buySelected();
     void printEntries();
     void showPhotos(bool slideShow);
     bool jumpToLetter(const QKeyEvent& event);

@@ -208,6 +208,10 @@ bool frmSeznam::keyDown(QKeyEvent& event) {
         case Qt::Key_Space:
             showPhotos(true);
             return true;
+        case Qt::Key_F3:
+            if (event.modifiers() & Qt::ShiftModifier) return false;
+            buySelected();
+            return true;
         default:
             return moveByKey(event.key()) || jumpToLetter(event) || Form::keyDown(event);
     }

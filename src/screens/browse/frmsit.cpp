@@ -126,6 +126,10 @@ bool frmSit::keyDown(QKeyEvent& event) {
         case Qt::Key_Space:
             showPhoto();
             return true;
+        case Qt::Key_F3:
+            if (event.modifiers() & Qt::ShiftModifier) return Form::keyDown(event);
+            if (needsCell()) app().screens().addToShoppingList({toRecordId(grid_.cell()).value_or(0)}, {});
+            return true;
         default:
             return moveByKey(event.key()) || groupByKey(event.key()) || Form::keyDown(event);
     }

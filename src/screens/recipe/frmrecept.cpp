@@ -28,6 +28,10 @@ constexpr int kLongestTitle = 400;  // characters: more than the header holds in
 constexpr BarFace kBar[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
 enum BarButton { kPrint, kHelp, kBack, kEnd, kMusicSettings };
 
+constexpr BarFace kKitchen[] = {{u"Varime", u"Vaříme", u"Vaříme krok za krokem (F2)"},
+                                {u"Nakup", u"Na seznam", u"Dát suroviny na nákupní seznam (F3)"}};
+enum KitchenButton { kCook, kBuy };
+
 std::vector<BarFace> sectionFaces() {
     std::vector<BarFace> faces;
     for (const SectionKind& kind : sectionKinds()) faces.push_back(kind.face);
@@ -41,6 +45,7 @@ frmRecept::frmRecept(basSarne& run, Serving& lookedAt, AskNumber ask)
       title_(new Label(*this, QStringLiteral("lblNazev"))),
       imgBtn(*this, QStringLiteral("imgBtn"), sectionFaces(), [this](int index) { openSection(index); }),
       imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int index) { barClick(index); }),
+      imgKuchyne(*this, QStringLiteral("imgKuchyne"), kKitchen, [this](int index) { kitchenClick(index); }),
       view_(new TextView(*this, QStringLiteral("picRecept"))),
       picture_(new PictureBox(*this, QStringLiteral("picVedle"))),
       duck_(run.music()) {
@@ -52,6 +57,7 @@ frmRecept::frmRecept(basSarne& run, Serving& lookedAt, AskNumber ask)
     makeView();
     makeSections(lookedAt, std::move(ask));
     imgBtnHlavni.placeRow(recipelayout::kBar);
+    imgKuchyne.placeRow(recipelayout::kKitchen);
     ring().setGroups(stops());
 }
 
@@ -113,6 +119,8 @@ void frmRecept::loadRecipe(std::int16_t id) {
     recipe_.photo = app().mediaPicture(QStringLiteral("foto\\Velke\\r%1.bmp").arg(id));
     recipe_.portions = Portions(recipe_.row.field(QStringLiteral("Porce")).toInt());
     for (const auto& section : sections_) section->recipeChanged();
+    const bool canCook = app().screens().canCook(id);
+    for (int button = 0; button < imgKuchyne.count(); ++button) imgKuchyne[button].setVisible(canCook);
     showTitle();
 }
 
@@ -214,6 +222,19 @@ void frmRecept::barClick(int button) {
     }
 }
 
+void frmRecept::kitchenClick(int button) {
+    if (button == kBuy) return app().screens().addToShoppingList({recipe_.id}, recipe_.serving());
+    current().beforePrint();
+    app().screens().cookRecipe(recipe_.id, recipe_.serving());
+}
+
+bool frmRecept::kitchenKey(const QKeyEvent& event) {
+    const bool cook = event.key() == Qt::Key_F2, buy = event.key() == Qt::Key_F3;
+    if ((!cook && !buy) || event.modifiers() != Qt::NoModifier || imgKuchyne[kCook].isHidden()) return false;
+    kitchenClick(cook ? kCook : kBuy);
+    return true;
+}
+
 QString frmRecept::collectedText() {
     return sarne::collectedText(app().Db(), recipe_.row, recipe_.id, recipe_.units,
                                 recipe_.portions.quantities(app().Locale));
@@ -226,6 +247,7 @@ std::vector<FocusGroup> frmRecept::stops() const {
     stops.insert(stops.end(), own.begin(), own.end());
     const bool toRead = view_->pieces().linkCount() > 0 || view_->scrollRange() > 0;
     if (toRead || current().opensView()) stops.emplace_back(std::array{view_});
+    stops.emplace_back(imgKuchyne.stops());
     stops.emplace_back(imgBtnHlavni.stops());
     return stops;
 }
@@ -235,7 +257,7 @@ bool frmRecept::keyDown(QKeyEvent& event) {
         QGuiApplication::clipboard()->setText(collectedText());
         return true;
     }
-    if (viewKey(event)) return true;
+    if (kitchenKey(event) || viewKey(event)) return true;
     ring().setGroups(stops());
     const auto direction = arrowDirection(event.key());
     if (direction) arrow(*direction);
@@ -258,7 +280,8 @@ void frmRecept::arrow(Direction direction) {
     const bool sideways = direction == Direction::Left || direction == Direction::Right;
     const int way = direction == Direction::Right || direction == Direction::Down ? 1 : -1;
     if (!sideways && ring().isAt(view_)) return;  // the text is at its end
-    if (sideways && imgBtnHlavni.indexOf(ring().current()))
+    const TwipWidget* at = ring().current();
+    if (sideways && (imgBtnHlavni.indexOf(at) || imgKuchyne.indexOf(at)))
         ring().stepWithin(way);
     else if (!current().step(sideways, way))
         stepSections(way);
@@ -292,6 +315,7 @@ void frmRecept::paint(QPainter& painter) {
     painter.setBrush(shadow);
     for (const QRect& ground : {recipelayout::kSections, recipelayout::kBarGround})
         painter.drawRoundedRect(ground, 120, 120);
+    if (imgKuchyne[kCook].isVisible()) painter.drawRoundedRect(recipelayout::kKitchenGround, 120, 120);
     QColor lit = colors::kCopper;
     lit.setAlpha(70);
     painter.fillRect(recipelayout::sectionRow(section_), lit);

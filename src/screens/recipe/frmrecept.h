@@ -57,6 +57,8 @@ class frmRecept : public Form {
     void showSection();
     void barClick(int button);
     void print();
+    void kitchenClick(int button);
+    bool kitchenKey(const QKeyEvent& event);
 
     // Keyboard
     std::vector<FocusGroup> stops() const;
@@ -71,7 +73,7 @@ class frmRecept : public Form {
     Room ground_;
 
     Label* title_;
-    ButtonBar imgBtn, imgBtnHlavni;
+    ButtonBar imgBtn, imgBtnHlavni, imgKuchyne;
     TextView* view_;
     PictureBox* picture_;
     MusicDuck duck_;

@@ -25,6 +25,9 @@ static_assert(sectionRow(kSectionCount - 1).bottom() <= kSections.bottom(),
 inline constexpr QRect kBarGround{5100, 7935, 6780, 915};
 inline constexpr QRect kBar{5220, 7950, 6540, 885};
 
+inline constexpr QRect kKitchenGround{2580, 7935, 2400, 915};  ///< of the buttons that lead to the stove
+inline constexpr QRect kKitchen{2640, 7950, 2280, 885};
+
 inline constexpr QRect kView{2880, 1590, 8400, 6060};  ///< the drawing surface
 inline constexpr QRect kPhotoView{2820, 1590, 8820, 6060};
 inline constexpr QRect kHalfView{2880, 1590, 4200, 6060};  ///< the drawing surface with a picture beside it

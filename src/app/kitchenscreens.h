@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QPointer>
+#include <memory>
+#include <optional>
+
+#include "kitchen/goods.h"
+#include "screens/kitchen/frmnakup.h"
+#include "screens/kitchen/kitchenplates.h"
+
+namespace sarne {
+
+class Program;
+struct Serving;
+
+/// What leads from reading to cooking, and lives longer than a screen: the timers, the shopping list.
+class KitchenScreens {
+  public:
+    explicit KitchenScreens(Program& program) : program_(program) {}
+
+    bool canCook(std::int16_t id) const;
+    void cook(std::int16_t id, const Serving& serving);
+    void addToShoppingList(const std::vector<std::int16_t>& ids, const Serving& serving);
+    void showShoppingList();
+    void stopRinging();
+    /// Asks about timers that run.
+    bool readyToEnd();
+
+  private:
+    const Goods& goods();
+    KitchenPlates& plates();
+    std::optional<ShoppingRecipe> recipe(std::int16_t id, double portions, int& base) const;
+
+    Program& program_;
+    std::optional<Goods> goods_;
+    KitchenTimers timers_;
+    std::unique_ptr<KitchenPlates> plates_;
+    QPointer<frmNakup> shopping_;
+};
+
+}  // namespace sarne

@@ -1,0 +1,35 @@
+#include "kitchen/cooked.h"
+
+#include <algorithm>
+
+#include "db/userfile.h"
+
+namespace sarne {
+namespace {
+
+const QString kTable = QStringLiteral("Uvareno");
+constexpr int kDays = 100'000;  // more than a Julian day's last digits ever tell apart in a lifetime
+
+}  // namespace
+
+bool keepCooked(UserFile& file, int recipe, const QString& name, QDate day, double portions) {
+    // The key is the recipe and the day, so that pressing twice keeps one.
+    const qint64 key = qint64(recipe) * kDays + day.toJulianDay() % kDays;
+    return file.store(kTable, QStringLiteral("ID"),
+                      {{QStringLiteral("ID"), key},
+                       {QStringLiteral("Recept"), recipe},
+                       {QStringLiteral("Nazev"), name},
+                       {QStringLiteral("Den"), day.toString(Qt::ISODate)},
+                       {QStringLiteral("Porce"), portions}});
+}
+
+std::vector<QDate> cookedDays(UserFile& file, int recipe) {
+    std::vector<QDate> days;
+    for (Recordset rows = file.forReading().OpenTable(kTable); !rows.AtEnd(); rows.MoveNext())
+        if (rows.field(QStringLiteral("Recept")).toInt() == recipe)
+            days.push_back(QDate::fromString(rows.field(QStringLiteral("Den")).toString(), Qt::ISODate));
+    std::sort(days.begin(), days.end(), std::greater<>());
+    return days;
+}
+
+}  // namespace sarne

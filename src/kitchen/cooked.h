@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <vector>
+
+namespace sarne {
+
+class UserFile;
+
+/// Keeps that a recipe was cooked on a day, once a day. True when it is on the disk.
+bool keepCooked(UserFile& file, int recipe, const QString& name, QDate day, double portions);
+/// The days on which it was, the last one first.
+std::vector<QDate> cookedDays(UserFile& file, int recipe);
+
+}  // namespace sarne

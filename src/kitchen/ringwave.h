@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace sarne {
+
+/// The sound of a kitchen timer that is over, as a WAV file: three strokes of a small bell.
+QByteArray ringWave();
+
+}  // namespace sarne

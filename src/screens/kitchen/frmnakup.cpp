@@ -1,0 +1,348 @@
+#include "screens/kitchen/frmnakup.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "core/czech.h"
+#include "core/texts.h"
+#include "db/userfile.h"
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/messagebox.h"
+#include "forms/panel.h"
+#include "forms/resources.h"
+#include "forms/screens.h"
+#include "kitchen/shoppingstore.h"
+#include "richtext/rtfdocument.h"
+
+namespace sarne {
+namespace {
+
+constexpr QRect kTitle{1140, 90, 8400, 780};
+constexpr QRect kPicture{240, 60, 840, 840};
+constexpr QRect kState{7200, 90, 4560, 780};
+constexpr QRect kPaper{240, 1110, 7620, 6780};
+constexpr QRect kRows{360, 1230, 7380, 6540};
+constexpr QRect kSide{8040, 1110, 3720, 6780};
+constexpr QRect kRecipes{8190, 1200, 3420, 1560};
+constexpr QRect kOwn{8190, 3180, 3420, 480};
+constexpr QRect kHint{8190, 2830, 3420, 330};
+constexpr QRect kBar{5220, 7965, 6540, 930};
+constexpr int kActionTop = 3780, kActionHeight = 540, kActionStep = 576;
+constexpr double kRowPoints = 14;
+
+enum Bar { kPrint, kHelp, kBack, kEnd, kMusicSettings };
+constexpr BarFace kFaces[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd,
+                              barface::kMusic};
+
+constexpr struct {
+    const char *caption, *tip;
+} kActionTexts[] = {
+    {QT_TRANSLATE_NOOP("Texts", "Připsat"),
+     QT_TRANSLATE_NOOP("Texts", "Připsat, co je napsáno nad tlačítkem")},
+    {QT_TRANSLATE_NOOP("Texts", "Množství"), QT_TRANSLATE_NOOP("Texts", "Změnit množství vybrané věci")},
+    {QT_TRANSLATE_NOOP("Texts", "Odebrat"), QT_TRANSLATE_NOOP("Texts", "Odebrat vybranou věc ze seznamu")},
+    {QT_TRANSLATE_NOOP("Texts", "Vrátit zpět"), QT_TRANSLATE_NOOP("Texts", "Vzít poslední změnu zpět")},
+    {QT_TRANSLATE_NOOP("Texts", "Smazat koupené"),
+     QT_TRANSLATE_NOOP("Texts", "Smazat ze seznamu, co je koupeno")},
+    {QT_TRANSLATE_NOOP("Texts", "Kopírovat"), QT_TRANSLATE_NOOP("Texts", "Zkopírovat seznam jako text")},
+    {QT_TRANSLATE_NOOP("Texts", "Mám doma"), QT_TRANSLATE_NOOP("Texts", "Vybraná věc je doma, nebo není")}};
+
+}  // namespace
+
+frmNakup::frmNakup(basSarne& run, UserFile& file, AskNumber askNumber)
+    : Form(run, QStringLiteral("frmNakup")),
+      file_(file),
+      askNumber_(std::move(askNumber)),
+      title_(*this, QStringLiteral("lblTitul")),
+      state_(*this, QStringLiteral("lblStav")),
+      recipes_(*this, QStringLiteral("lblRecepty")),
+      hint_(*this, QStringLiteral("lblPripsat")),
+      rows_(*this, QStringLiteral("picSeznam")),
+      own_(*this, QStringLiteral("txtVlastni")),
+      bar_(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int button) { barClick(button); }) {
+    const auto dress = [](Label& label, const QRect& place, double points, bool bold,
+                          Qt::Alignment alignment) {
+        label.place(place);
+        label.setFont({QStringLiteral("Arial"), points, bold});
+        label.setColor(colors::kTitle);
+        label.setAlignment(alignment);
+    };
+    dress(title_, kTitle, 20, true, Qt::AlignLeft | Qt::AlignVCenter);
+    title_.setText(Texts::tr("Nákupní seznam"));
+    setAccessibleName(title_.text());
+    dress(state_, kState, 13, false, Qt::AlignRight | Qt::AlignVCenter);
+    dress(recipes_, kRecipes, 11, false, Qt::AlignLeft | Qt::AlignTop);
+    recipes_.setWordWrap(true);
+    dress(hint_, kHint, 11, true, Qt::AlignLeft | Qt::AlignVCenter);
+    hint_.setText(Texts::tr("Koupit ještě:"));
+    rows_.place(kRows);
+    rows_.setPoints(kRowPoints);
+    rows_.setAccessibleName(title_.text());
+    own_.place(kOwn);
+    own_.setFont({QStringLiteral("Arial"), 13});
+    own_.setMaxLength(80);
+    own_.setAccessibleName(hint_.text());
+    makeActions();
+    bar_.placeRow(kBar);
+    std::vector<FocusGroup> groups{FocusGroup(std::array<TwipWidget*, 1>{&rows_}),
+                                   FocusGroup(std::array<TwipWidget*, 1>{&own_})};
+    groups.emplace_back(actions_);
+    groups.emplace_back(bar_.stops());
+    ring().setGroups(std::move(groups));
+    ring().setArrows(FocusRing::Arrows::All);
+    connect(&rows_, &TickList::used, this, &frmNakup::use);
+    connect(&rows_, &TickList::moved, this, &frmNakup::showState);
+}
+
+void frmNakup::makeActions() {
+    for (int i = 0; i < kActions; ++i) {
+        auto* button = new Button(*this, QStringLiteral("cmdAkce(%1)").arg(i));
+        button->dressAsText(Texts::tr(kActionTexts[i].caption), Texts::tr(kActionTexts[i].tip));
+        button->place({kOwn.x(), kActionTop + i * kActionStep, kOwn.width(), kActionHeight});
+        connect(button, &Button::clicked, this, [this, i] { act(Action(i)); });
+        actions_.push_back(button);
+    }
+}
+
+void frmNakup::Zobraz() {
+    list_ = readShoppingList(file_);
+    app().PushScreen(*this);
+    showList();
+    showForm();
+    rows_.select(0);
+    ring().focus(list_.isEmpty() ? static_cast<TwipWidget&>(own_) : rows_);
+    app().HookMessage(title_.text());
+}
+
+void frmNakup::goBack() {
+    app().PopScreen(*this);
+}
+
+void frmNakup::barClick(int button) {
+    switch (button) {
+        case kPrint:
+            return print();
+        case kHelp:
+            return help();
+        case kBack:
+            return goBack();
+        case kEnd:
+            return endProgram();
+        case kMusicSettings:
+            return musicSettings();
+    }
+}
+
+void frmNakup::act(Action action) {
+    switch (action) {
+        case Action::Add:
+            return addOwn();
+        case Action::Amount:
+            return changeAmount();
+        case Action::Remove:
+            list_.remove(selectedItem());
+            return changed();
+        case Action::Undo:
+            list_.undo();
+            return changed();
+        case Action::DropBought:
+            list_.removeBought();
+            return changed();
+        case Action::Copy:
+            return copy();
+        case Action::Home:
+            return toggleHome();
+    }
+}
+
+int frmNakup::selectedItem() const {
+    const int row = rows_.selected();
+    return row >= 0 && row < static_cast<int>(itemOfRow_.size()) ? itemOfRow_[static_cast<size_t>(row)] : -1;
+}
+
+void frmNakup::use(int row) {
+    const int item = itemOfRow_[static_cast<size_t>(row)];
+    if (item < 0) {
+        showsHome_ = !showsHome_;
+        return showList();
+    }
+    list_.setBought(item, !list_.items()[static_cast<size_t>(item)].bought);
+    changed();
+    app().HookMessage(rows_.accessibleValue());
+}
+
+void frmNakup::changed() {
+    if (!storeShoppingList(file_, list_) && !storeFailed_) {
+        storeFailed_ = true;
+        app().ZobrazZpravu(Texts::tr("Nákupní seznam se nepodařilo uložit na disk.\r\n"
+                                     "Do konce programu zůstane na obrazovce."),
+                           kInformationBox);
+    }
+    showList();
+}
+
+void frmNakup::addOwn() {
+    list_.addOwn(own_.text());
+    own_.setText({});
+    changed();
+    ring().focus(own_);
+}
+
+void frmNakup::changeAmount() {
+    const int item = selectedItem();
+    if (item < 0) return app().Beep();
+    const ShoppingItem& thing = list_.items()[static_cast<size_t>(item)];
+    const QString known = thing.amounts(app().Locale);
+    if (known.isEmpty()) return app().Beep();
+    const QString unit = thing.parts.front().unit == u"ml" ? Texts::tr("mililitrů") : Texts::tr("gramů");
+    const bool metric = known.contains(u"g") || known.endsWith(u'l');
+    const double amount = askNumber_(Texts::tr("%1: na seznamu je %2.\r\nKolik%3 koupit?")
+                                         .arg(thing.name, known, metric ? u' ' + unit : QString()));
+    if (amount <= 0) return;
+    list_.setAmount(item, amount);
+    changed();
+}
+
+void frmNakup::toggleHome() {
+    const int item = selectedItem();
+    if (item < 0) return app().Beep();
+    list_.setAtHome(item, !list_.items()[static_cast<size_t>(item)].atHome);
+    changed();
+}
+
+void frmNakup::copy() {
+    QGuiApplication::clipboard()->setText(list_.text(app().Locale));
+    app().HookMessage(Texts::tr("Seznam je zkopírován"));
+    state_.setText(Texts::tr("Zkopírováno"));
+}
+
+void frmNakup::print() {
+    RtfDocument document;
+    document.heading(title_.text());
+    for (const QString& line : list_.text(app().Locale).split(u'\n')) {
+        if (line.isEmpty()) continue;
+        line.startsWith(u'☐') ? document.paragraph(QStringLiteral("[  ] ") + line.mid(2))
+                              : document.paragraph(line, {});
+    }
+    app().screens().printText(title_.text(), document.text());
+}
+
+void frmNakup::showList() {
+    std::vector<TickRow> rows;
+    itemOfRow_.clear();
+    int department = -1, index = -1;
+    const auto& items = list_.items();
+    const auto atHome =
+        std::count_if(items.begin(), items.end(), [](const ShoppingItem& i) { return i.atHome; });
+    const auto add = [&](TickRow row, int item) {
+        rows.push_back(std::move(row));
+        itemOfRow_.push_back(item);
+    };
+    for (const ShoppingItem& item : items) {
+        ++index;
+        const int group = item.atHome ? kDepartments : static_cast<int>(item.department);
+        if (group != department) {
+            department = group;
+            if (item.atHome)
+                add({TickRow::Kind::Fold, Texts::tr("Nejspíš už doma (%1)").arg(atHome), {}, {}, showsHome_},
+                    -1);
+            else
+                add({TickRow::Kind::Heading, departmentName(item.department), {}, {}, false}, -1);
+        }
+        if (item.atHome && !showsHome_) continue;
+        QStringList below;
+        if (!item.alternative.isEmpty()) below << Texts::tr("nebo %1").arg(item.alternative);
+        below << item.recipes();
+        add({TickRow::Kind::Item, item.name, item.amounts(app().Locale), below.join(QStringLiteral(" · ")),
+             item.bought},
+            index);
+    }
+    rows_.setRows(std::move(rows));
+    showRecipes();
+    showState();
+}
+
+void frmNakup::showRecipes() {
+    QStringList lines;
+    const Noun portions{Texts::tr("porce"), Texts::tr("porce"), Texts::tr("porcí"), Texts::tr("porce")};
+    const auto recipes = list_.recipes();
+    for (const ShoppingRecipe& recipe : recipes)
+        lines << recipe.name + QStringLiteral(" – ") + counted(recipe.portions, portions, app().Locale);
+    constexpr qsizetype kShown = 5;
+    if (lines.size() > kShown)
+        lines = lines.mid(0, kShown) << Texts::tr("a další: %1").arg(recipes.size() - kShown);
+    recipes_.setText(
+        lines.isEmpty()
+            ? Texts::tr("Klávesa F3 u receptu, v seznamu receptů nebo ve fotkách sem dá jeho suroviny.")
+            : lines.join(u'\n'));
+}
+
+void frmNakup::showState() {
+    const auto& items = list_.items();
+    const auto left = std::count_if(items.begin(), items.end(),
+                                    [](const ShoppingItem& item) { return !item.bought && !item.atHome; });
+    const Noun things{Texts::tr("věc"), Texts::tr("věci"), Texts::tr("věcí"), Texts::tr("věci")};
+    state_.setText(items.empty() ? Texts::tr("seznam je prázdný")
+                   : left == 0   ? Texts::tr("všechno je koupeno")
+                                 : Texts::tr("zbývá %1").arg(counted(double(left), things, app().Locale)));
+    const bool chosen = selectedItem() >= 0;
+    actions_[size_t(Action::Amount)]->setEnabled(chosen);
+    actions_[size_t(Action::Remove)]->setEnabled(chosen);
+    actions_[size_t(Action::Home)]->setEnabled(chosen);
+    actions_[size_t(Action::Undo)]->setEnabled(list_.canUndo());
+}
+
+bool frmNakup::keyDown(QKeyEvent& event) {
+    if (event.matches(QKeySequence::Copy)) {
+        copy();
+        return true;
+    }
+    if (event.matches(QKeySequence::Undo)) {
+        act(Action::Undo);
+        return true;
+    }
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (enter && ring().isAt(&own_)) {
+        addOwn();
+        return true;
+    }
+    if (event.key() == Qt::Key_Delete) {
+        act(Action::Remove);
+        return true;
+    }
+    if (ring().isAt(&rows_)) {
+        if (enter && rows_.selected() != RowPaging::kNone) {
+            use(rows_.selected());
+            return true;
+        }
+        const int before = rows_.selected();
+        if (rows_.keyDown(event)) {
+            if (before != rows_.selected()) app().HookMessage(rows_.accessibleValue());
+            return true;
+        }
+    }
+    return Form::keyDown(event);
+}
+
+void frmNakup::paint(QPainter& painter) {
+    paintRoom(painter, app().Pictures.stranka);
+    const QRectF all = covered();
+    painter.fillRect(QRectF(all.left(), all.top(), all.width(), 960 - all.top()), colors::kTeal);
+    painter.fillRect(QRectF(all.left(), 960, all.width(), 30), colors::kCopper);
+    app().resources().picture(QStringLiteral("Nakup")).draw(painter, kPicture, Fit::Inside);
+    paintPaper(painter, kPaper);
+    paintPlate(painter, kSide);
+    paintPlate(painter, kBar.adjusted(-120, -30, 120, 0));
+    if (!list_.isEmpty()) return;
+    painter.setFont(TextFont{QStringLiteral("Times New Roman"), 18}.toQFont());
+    painter.setPen(colors::kInk);
+    painter.drawText(
+        kRows.adjusted(600, 600, -600, -600), Qt::AlignCenter | Qt::TextWordWrap,
+        Texts::tr("Na seznamu zatím nic není.\n\nOtevřete recept a stiskněte F3 nebo obrázek nákupu, "
+                  "anebo napište vpravo, co koupit."));
+}
+
+}  // namespace sarne

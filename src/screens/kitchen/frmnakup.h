@@ -1,0 +1,67 @@
+#pragma once
+
+#include "forms/buttonbar.h"
+#include "forms/edit.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "kitchen/shoppinglist.h"
+#include "screens/kitchen/ticklist.h"
+
+namespace sarne {
+
+class UserFile;
+
+/// The shopping list: on its left the things to buy, department by department, on its right what can be done
+/// with them. Every change is stored at once.
+class frmNakup : public Form {
+    Q_OBJECT
+  public:
+    /// Keeps the list in \a file, which outlives the screen. \a askNumber asks for an amount; 0 when
+    /// the user gives none.
+    using AskNumber = std::function<double(const QString& prompt)>;
+    frmNakup(basSarne& app, UserFile& file, AskNumber askNumber);
+
+    void Zobraz();
+    const ShoppingList& list() const { return list_; }
+
+    void goBack() override;
+
+  protected:
+    bool keyDown(QKeyEvent& event) override;
+    void paint(QPainter& painter) override;
+
+  private:
+    enum class Action { Add, Amount, Remove, Undo, DropBought, Copy, Home };
+    static constexpr int kActions = 7;
+
+    void makeActions();
+    void barClick(int button);
+    void act(Action action);
+    void use(int row);
+    void showList();
+    void showRecipes();
+    void showState();
+    void changed();
+    void addOwn();
+    void changeAmount();
+    void toggleHome();
+    void copy();
+    void print();
+    /// The item that is selected, by its place on the list; -1 when none is.
+    int selectedItem() const;
+
+    UserFile& file_;
+    AskNumber askNumber_;
+    ShoppingList list_;
+    std::vector<int> itemOfRow_;  ///< -1 for rows that are none
+    bool showsHome_ = false;
+    bool storeFailed_ = false;
+
+    Label title_, state_, recipes_, hint_;
+    TickList rows_;
+    Edit own_;
+    std::vector<Button*> actions_;
+    ButtonBar bar_;
+};
+
+}  // namespace sarne

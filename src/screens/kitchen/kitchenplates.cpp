@@ -1,0 +1,232 @@
+#include "screens/kitchen/kitchenplates.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "core/czech.h"
+#include "core/texts.h"
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/messagebox.h"
+#include "forms/resources.h"
+#include "forms/stage.h"
+#include "kitchen/foundtimes.h"
+#include "kitchen/ringwave.h"
+#include "platform/effectplayer.h"
+
+namespace sarne {
+namespace {
+
+constexpr int kLook = 250, kSayingTime = 4000, kRingAgain = 3500;  // milliseconds
+constexpr int kWidth = 2100, kHeight = 630, kGap = 60, kColumns = 4;
+constexpr int kSayingBottom = 7800;
+const TextFont kTime{QStringLiteral("Arial"), 15, true}, kName{QStringLiteral("Arial"), 9},
+    kSaying{QStringLiteral("Arial"), 14, true};
+
+QRect timerPlace(int index) {
+    const int column = index % kColumns, row = index / kColumns;
+    return {Stage::kWidth - (column + 1) * (kWidth + kGap), 90 + row * (kHeight + kGap), kWidth, kHeight};
+}
+
+}  // namespace
+
+/// One plate. A click on it does what it is for.
+class KitchenPlates::Plate : public TwipWidget {
+  public:
+    Plate(Stage& stage, Picture picture) : TwipWidget(&stage), picture_(std::move(picture)) {
+        setCursor(Qt::PointingHandCursor);
+    }
+
+    void set(const QString& text, const QString& name, bool rings) {
+        if (text == text_ && name == name_ && rings == rings_) return;
+        text_ = text;
+        name_ = name;
+        rings_ = rings;
+        setAccessibleName(name.isEmpty() ? text : name + QStringLiteral(", ") + text);
+        update();
+    }
+    const QString& text() const { return text_; }
+    const QString& name() const { return name_; }
+
+    std::function<void()> use;
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        event->accept();
+        const auto doIt = use;
+        if (doIt && rect().contains(event->position().toPoint())) doIt();
+    }
+
+    void paint(QPainter& painter) override {
+        const QRectF all({0, 0}, QSizeF(twips().size()));
+        painter.setPen(QPen(colors::kCopper, 30));
+        painter.setBrush(rings_ ? colors::kSelected : colors::kTeal);
+        painter.drawRoundedRect(all.adjusted(15, 15, -15, -15), 100, 100);
+        const double side = all.height() - 120;
+        double left = 90;
+        if (!picture_.isNull()) {
+            picture_.draw(painter, QRectF(60, 60, side, side), Fit::Inside);
+            left += side + 30;
+        }
+        const QRectF text(left, 30, all.width() - left - 60, all.height() - 60);
+        painter.setPen(colors::kTitle);
+        if (name_.isEmpty()) {
+            painter.setFont(kSaying.toQFont());
+            return painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap, text_);
+        }
+        painter.setFont(kTime.toQFont());
+        painter.drawText(text, Qt::AlignTop | Qt::AlignLeft, text_);
+        painter.setFont(kName.toQFont());
+        painter.setPen(colors::kPaper);
+        painter.drawText(text, Qt::AlignBottom | Qt::AlignLeft,
+                         QFontMetricsF(painter.font()).elidedText(name_, Qt::ElideRight, text.width()));
+    }
+
+  private:
+    Picture picture_;
+    QString text_, name_;
+    bool rings_ = false;
+};
+
+KitchenPlates::KitchenPlates(basSarne& app, KitchenTimers& timers)
+    : app_(app), timers_(timers), clock_(this), sayingTime_(this) {
+    clock_.setInterval(kLook);
+    connect(&clock_, &Timer::tick, this, &KitchenPlates::look);
+    sayingTime_.setInterval(kSayingTime);
+    connect(&sayingTime_, &Timer::tick, this, &KitchenPlates::hush);
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+KitchenPlates::~KitchenPlates() = default;
+
+bool KitchenPlates::eventFilter(QObject* watched, QEvent* event) {
+    const bool moves = event->type() == QEvent::Show || event->type() == QEvent::ZOrderChange;
+    if (moves && (!plates_.empty() || saying_) && qobject_cast<Form*>(watched)) raisePlates();
+    return false;
+}
+
+void KitchenPlates::raisePlates() {
+    for (const QPointer<Plate>& plate : plates_)
+        if (plate) plate->raise();
+    if (saying_) saying_->raise();
+}
+
+void KitchenPlates::start(const QString& name, int seconds) {
+    timers_.start(name, seconds, app_.clock().now());
+    app_.HookMessage(Texts::tr("Časovač běží: %1").arg(durationText(seconds)));
+    look();
+}
+
+void KitchenPlates::look() {
+    const std::vector<KitchenTimer> over = timers_.over(app_.clock().now());
+    for (const KitchenTimer& timer : over) app_.HookMessage(Texts::tr("Čas vypršel: %1").arg(timer.name));
+    if (!over.empty()) lastRing_ = app_.clock().now() - kRingAgain;
+    if (timers_.ringing()) ring();
+    show();
+    clock_.setEnabled(!timers_.all().empty());
+}
+
+void KitchenPlates::ring() {
+    if (app_.clock().now() - lastRing_ < kRingAgain) return;
+    lastRing_ = app_.clock().now();
+    app_.EffectWave = ringWave();
+    app_.effects().play(app_.EffectWave);
+}
+
+void KitchenPlates::show() {
+    const std::vector<KitchenTimer>& timers = timers_.all();
+    while (plates_.size() > timers.size()) {
+        if (Plate* plate = plates_.back()) {
+            plate->setObjectName({});
+            plate->hide();
+            plate->deleteLater();  // its own click may have brought it here
+        }
+        plates_.pop_back();
+    }
+    while (plates_.size() < timers.size()) {
+        auto* plate = new Plate(app_.stage(), app_.resources().picture(QStringLiteral("Casovac")));
+        plate->setObjectName(QStringLiteral("casovac(%1)").arg(plates_.size()));
+        plate->place(timerPlace(static_cast<int>(plates_.size())));
+        plate->show();
+        plate->raise();
+        plates_.emplace_back(plate);
+    }
+    for (size_t i = 0; i < timers.size(); ++i) {
+        if (!plates_[i]) continue;
+        const KitchenTimer& timer = timers[i];
+        plates_[i]->set(timer.rings ? Texts::tr("Hotovo!") : clockText(timer.left(app_.clock().now())),
+                        timer.name, timer.rings);
+        plates_[i]->use = [this, id = timer.id] { timerClicked(id); };
+    }
+}
+
+void KitchenPlates::timerClicked(int id) {
+    for (const KitchenTimer& timer : timers_.all()) {
+        if (timer.id != id) continue;
+        const QString question = Texts::tr("Zbývá %1: %2.\r\nZastavit časovač?")
+                                     .arg(clockText(timer.left(app_.clock().now())), timer.name);
+        if (!timer.rings && app_.ZobrazZpravu(question, kQuestionBox) != kAnswerYes) return;
+        timers_.stop(id);
+        if (!timers_.ringing()) app_.StopEffect();
+        return look();
+    }
+}
+
+bool KitchenPlates::stopRinging() {
+    if (!timers_.ringing()) return false;
+    const std::vector<KitchenTimer> all = timers_.all();
+    for (const KitchenTimer& timer : all)
+        if (timer.rings) timers_.stop(timer.id);
+    app_.StopEffect();
+    look();
+    return true;
+}
+
+bool KitchenPlates::readyToEnd() {
+    const int running = timers_.running();
+    if (running == 0) return true;
+    const QString question =
+        running == 1
+            ? Texts::tr("Ještě běží časovač: %1.\r\nPřestane, když program skončí. Opravdu skončit?")
+                  .arg(timers_.all().front().name)
+            : Texts::tr("Ještě běží časovače (%1).\r\nPřestanou, když program skončí. Opravdu skončit?")
+                  .arg(running);
+    return app_.ZobrazZpravu(question, kQuestionBox) == kAnswerYes;
+}
+
+void KitchenPlates::say(const QString& text, std::function<void()> use) {
+    if (!saying_) saying_ = new Plate(app_.stage(), app_.resources().picture(QStringLiteral("Nakup")));
+    constexpr int kMostWidth = 8400, kPicture = 900;
+    const QSize size = Label::measure(text, kSaying, kMostWidth - kPicture);
+    const QSize plate(std::min(kMostWidth, size.width() + kPicture + 60), std::max(720, size.height() + 240));
+    saying_->place({{(Stage::kWidth - plate.width()) / 2, kSayingBottom - plate.height()}, plate});
+    saying_->set(text, {}, false);
+    saying_->use = [this, use = std::move(use)] {
+        if (saying_) saying_->hide();
+        if (use) use();
+    };
+    saying_->show();
+    saying_->raise();
+    sayingTime_.setEnabled(true);
+    app_.HookMessage(text);
+}
+
+void KitchenPlates::hush() {
+    sayingTime_.setEnabled(false);
+    if (saying_) saying_->hide();
+}
+
+QStringList KitchenPlates::texts() const {
+    QStringList all;
+    for (const QPointer<Plate>& plate : plates_)
+        if (plate) all << plate->text() + QStringLiteral(" ") + plate->name();
+    if (saying_ && saying_->isVisible()) all << saying_->text();
+    return all;
+}
+
+}  // namespace sarne

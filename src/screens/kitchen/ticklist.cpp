@@ -1,0 +1,230 @@
+#include "screens/kitchen/ticklist.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "core/texts.h"
+#include "forms/colors.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/resources.h"
+
+namespace sarne {
+namespace {
+
+const QString kFamily = QStringLiteral("Arial");
+constexpr double kSmall = .72;  // the smaller text, of the row's
+constexpr double kLead = 1.75;  // a row's height, of its text's size
+constexpr int kTwipsOfPoint = 20;
+constexpr int kEdge = 120;  // twips left and right of a row
+constexpr int kBoxGap = 150;
+constexpr int kBar = 75;
+constexpr int kWheelNotch = 120;
+constexpr QColor kSoftInk(92, 70, 50);
+
+QString spoken(const TickRow& row) {
+    QStringList parts{row.text, row.right, row.below};
+    if (row.ticked) parts << Texts::tr("odškrtnuto");
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
+}  // namespace
+
+TickList::TickList(Form& form, const QString& name) : Control(form, name) {
+    setFocusPolicy(Qt::ClickFocus);
+    setCursor(Qt::PointingHandCursor);
+    on_ = form.resources().picture(QStringLiteral("Zaskrtnuto"));
+    off_ = form.resources().picture(QStringLiteral("Nezaskrtnuto"));
+}
+
+QString TickList::accessibleValue() const {
+    const int row = selected();
+    return row == RowPaging::kNone ? QString() : spoken(rows_[static_cast<size_t>(row)]);
+}
+
+void TickList::setPoints(double points) {
+    points_ = points;
+    setRows(rows_);
+}
+
+int TickList::twipsOf(double points) const {
+    return static_cast<int>(points * kTwipsOfPoint);
+}
+
+TextFont TickList::font(double share, bool bold) const {
+    return {kFamily, points_ * share, bold};
+}
+
+int TickList::heightOf(const TickRow& row) const {
+    const int line = twipsOf(points_ * kLead);
+    const int text = twips().width() - 2 * kEdge - line - Label::measure(row.right, font(1, true)).width();
+    const int lines = std::max(1, Label::measure(row.text, font(1, false), std::max(line, text)).height() /
+                                      std::max(1, twipsOf(points_)));
+    const int wrapped = line + (lines - 1) * twipsOf(points_ * 1.15);
+    return row.below.isEmpty() ? wrapped : wrapped + twipsOf(points_ * kSmall * 1.1);
+}
+
+void TickList::setRows(std::vector<TickRow> rows) {
+    const int top = paging_.top(), wanted = selected();
+    rows_ = std::move(rows);
+    std::vector<int> heights;
+    for (const TickRow& row : rows_) heights.push_back(heightOf(row));
+    paging_.reset(heights, twips().height());
+    paging_.scrollBy(top);
+    if (wanted != RowPaging::kNone) select(wanted);
+    changed(true);
+}
+
+bool TickList::canBeSelected(int row) const {
+    return row >= 0 && row < paging_.count() &&
+           rows_[static_cast<size_t>(row)].kind != TickRow::Kind::Heading;
+}
+
+void TickList::select(int row) {
+    int wanted = std::clamp(row, 0, std::max(0, paging_.count() - 1));
+    while (wanted < paging_.count() && !canBeSelected(wanted)) ++wanted;
+    if (canBeSelected(wanted)) changed(paging_.select(wanted));
+}
+
+void TickList::scrollBy(int rows) {
+    changed(paging_.scrollBy(rows));
+}
+
+void TickList::moveBy(int rows) {
+    const int direction = rows < 0 ? -1 : 1;
+    int wanted = selected() == RowPaging::kNone ? paging_.top() - direction : selected();
+    wanted = std::clamp(wanted + rows, 0, std::max(0, paging_.count() - 1));
+    while (wanted >= 0 && wanted < paging_.count() && !canBeSelected(wanted)) wanted += direction;
+    if (canBeSelected(wanted)) changed(paging_.select(wanted));
+    if (selected() == 1 && !canBeSelected(0)) changed(paging_.scrollBy(-1));  // the heading above the first
+}
+
+void TickList::changed(bool something) {
+    if (!something) return;
+    update();
+    Q_EMIT moved();
+}
+
+bool TickList::keyDown(const QKeyEvent& event) {
+    const int page = std::max(1, paging_.end() - paging_.top() - 1);
+    switch (event.key()) {
+        case Qt::Key_Up:
+            moveBy(-1);
+            return true;
+        case Qt::Key_Down:
+            moveBy(1);
+            return true;
+        case Qt::Key_PageUp:
+            moveBy(-page);
+            return true;
+        case Qt::Key_PageDown:
+            moveBy(page);
+            return true;
+        case Qt::Key_Home:
+            moveBy(-paging_.count());
+            return true;
+        case Qt::Key_End:
+            moveBy(paging_.count());
+            return true;
+        case Qt::Key_Space:
+            if (!event.isAutoRepeat() && selected() != RowPaging::kNone) Q_EMIT used(selected());
+            return true;
+        default:
+            return false;
+    }
+}
+
+QRect TickList::rowRect(int row) const {
+    if (!paging_.sees(row)) return {};
+    int top = 0;
+    for (int above = paging_.top(); above < row; ++above) top += paging_.height(above);
+    return {0, top, twips().width(), paging_.height(row)};
+}
+
+int TickList::rowAt(QPoint at) const {
+    for (int row = paging_.top(); row < paging_.end(); ++row)
+        if (rowRect(row).contains(at)) return row;
+    return RowPaging::kNone;
+}
+
+void TickList::mousePressEvent(QMouseEvent* event) {
+    Control::mousePressEvent(event);
+    const int row = rowAt(toTwips(event->position()));
+    if (event->button() != Qt::LeftButton || !canBeSelected(row)) return;
+    select(row);
+    Q_EMIT used(row);
+}
+
+void TickList::wheelEvent(QWheelEvent* event) {
+    scrollBy(event->angleDelta().y() < 0 ? 2 : event->angleDelta().y() / kWheelNotch == 0 ? 0 : -2);
+    event->accept();
+}
+
+void TickList::paintBox(QPainter& painter, const QRect& place, const TickRow& row) const {
+    if (row.kind == TickRow::Kind::Fold) {
+        painter.drawText(place, Qt::AlignCenter, row.ticked ? QStringLiteral("▾") : QStringLiteral("▸"));
+        return;
+    }
+    const Picture& mark = row.ticked ? on_ : off_;
+    if (!mark.isNull()) return mark.draw(painter, place, Fit::Inside);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(place);
+    if (row.ticked) painter.drawLine(place.bottomLeft(), place.topRight());
+}
+
+void TickList::paintRow(QPainter& painter, int row) const {
+    const TickRow& content = rows_[static_cast<size_t>(row)];
+    const QRect place = rowRect(row);
+    const bool isSelected = row == selected() && showsFocus();
+    const bool isHeading = content.kind == TickRow::Kind::Heading;
+    if (isSelected) painter.fillRect(place, colors::kSelected);
+    if (isHeading) painter.fillRect(place.adjusted(0, 30, 0, -15), colors::kTeal);
+    const QColor ink = isHeading ? colors::kTitle : isSelected ? colors::kPaper : colors::kInk;
+    painter.setPen(ink);
+    const int line = twipsOf(points_ * kLead);
+    QRect text = place.adjusted(kEdge, 0, -kEdge - kBar, 0);
+    if (!isHeading && content.kind != TickRow::Kind::Plain) {
+        const int side = twipsOf(points_ * 1.25);
+        painter.setFont(font(1, true).toQFont());
+        paintBox(painter, {text.left(), place.top() + (line - side) / 2, side, side}, content);
+        text.setLeft(text.left() + side + kBoxGap);
+    }
+    painter.setFont(font(1, true).toQFont());
+    const QRect first(text.left(), text.top(), text.width(), line);
+    painter.drawText(first, Qt::AlignRight | Qt::AlignVCenter, content.right);
+    const int amount =
+        content.right.isEmpty() ? 0 : Label::measure(content.right, font(1, true)).width() + kBoxGap;
+    QFont named = font(1, isHeading || content.kind == TickRow::Kind::Fold).toQFont();
+    named.setStrikeOut(content.ticked && content.kind == TickRow::Kind::Item);
+    painter.setFont(named);
+    const int below = content.below.isEmpty() ? 0 : twipsOf(points_ * kSmall * 1.1);
+    painter.drawText(text.adjusted(0, 0, -amount, -below),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, content.text);
+    painter.setFont(font(kSmall, false).toQFont());
+    painter.setPen(isSelected ? colors::kPaper : kSoftInk);
+    painter.drawText(QRect(text.left(), place.bottom() - below - 30, text.width(), below + 30),
+                     Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, content.below);
+}
+
+/// Where in the list one is, at its right edge, when not all of it is seen.
+void TickList::paintPosition(QPainter& painter) const {
+    if (!paging_.canScroll()) return;
+    const int height = twips().height(), count = paging_.count();
+    const int top = height * paging_.top() / count, bottom = height * paging_.end() / count;
+    const QRect track(twips().width() - kBar, 0, kBar, height);
+    QColor ground = kSoftInk;
+    ground.setAlpha(60);
+    painter.fillRect(track, ground);
+    painter.fillRect(QRect(track.left(), top, kBar, bottom - top), colors::kCopper);
+}
+
+void TickList::paint(QPainter& painter) {
+    painter.setClipRect(QRect({0, 0}, twips().size()));
+    for (int row = paging_.top(); row < paging_.end(); ++row) paintRow(painter, row);
+    paintPosition(painter);
+}
+
+}  // namespace sarne

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "support/fakesarne.h"
+#include "support/recipedatabase.h"
+
+namespace sarne {
+
+/// A run on a book of one recipe with steps, and one without; the user's things are kept in a file.
+class KitchenRun : public FakeSarne {
+  public:
+    KitchenRun() {
+        const auto row = [](const char* text) { return QString::fromUtf8(text); };
+        const QString file = folder_.filePath(QStringLiteral("Sarne.drc"));
+        test::writeRecipeDatabase(
+            file,
+            {row("INSERT INTO Suroviny VALUES (1,'kapr'),(2,'máslo'),(3,'sůl')"),
+             row("INSERT INTO Jednotky VALUES (1,'g'),(2,'lžíce')"),
+             row("INSERT INTO Pomucky VALUES (1,'pekáč')"),
+             row("INSERT INTO Recepty (ID, Nazev, Porce) VALUES (5,'Kapr na kmíně',4),(6,'Bez kroků',4)"),
+             row("INSERT INTO SpojSur VALUES (5,1,0,1,1200,1,1200,0),(5,2,0,1,80,2,4,0),(5,3,0,0,0,0,0,0)"),
+             row("INSERT INTO SpojPomucky VALUES (5,1)"),
+             row("INSERT INTO Kroky VALUES (1,5,'','Kapra osolíme a necháme 15 minut stát.'),"
+                 "(2,5,'','Polovinu másla rozpustíme.'),(3,5,'Na stůl','S chlebem.')"),
+             row("INSERT INTO KrokySur VALUES (1,0,1),(1,2,1),(2,1,0.5),(3,1,0.5)"),
+             row("INSERT INTO Zbozi VALUES (1,0,0,8),(2,2,0,64),(3,4,1,0)")});
+        database.Open(file);
+        file_ = UserFile(folder_.filePath(QStringLiteral("vlastni.db")));
+    }
+
+    UserFile& file() { return file_; }
+
+  private:
+    QTemporaryDir folder_;
+    UserFile file_;
+};
+
+inline void press(Form& form, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QWidget* focus = form.window()->focusWidget();
+    QTest::keyClick(focus ? focus : &form, key, modifiers);
+}
+
+}  // namespace sarne

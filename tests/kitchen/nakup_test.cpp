@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "kitchen/goods.h"
+#include "kitchen/shoppingstore.h"
+#include "kitchenbook.h"
+#include "screens/kitchen/frmnakup.h"
+
+namespace sarne {
+namespace {
+
+class NakupTest : public testing::Test {
+  protected:
+    NakupTest() {
+        ShoppingList list;
+        list.addRecipe(shoppingNeeds(readIngredients(run_.database, 5), Goods(run_.database),
+                                     {5, QStringLiteral("Kapr na kmíně"), 4}, 4));
+        EXPECT_TRUE(storeShoppingList(run_.file(), list));
+    }
+
+    frmNakup& open() {
+        auto* screen = new frmNakup(run_, run_.file(), [this](const QString&) { return amount_; });
+        screen->Zobraz();
+        return *screen;
+    }
+    /// What the rows say, "x" in front of what is ticked.
+    static QString rows(const frmNakup& screen) {
+        QStringList all;
+        for (const TickRow& row : child<TickList>(screen, "picSeznam")->rows())
+            all << (row.ticked ? QStringLiteral("x ") : QString()) + row.text +
+                       (row.right.isEmpty() ? QString() : u' ' + row.right);
+        return all.join(QStringLiteral(" | ")).replace(QChar(QChar::Nbsp), u' ');
+    }
+
+    KitchenRun run_;
+    double amount_ = 0;
+};
+
+TEST_F(NakupTest, ShowsDepartmentsAndFoldsWhatIsAtHome) {
+    frmNakup& screen = open();
+    EXPECT_EQ(rows(screen),
+              QStringLiteral("Ryby | kapr 1,2 kg | Mléčné a vejce | máslo 80 g | Nejspíš už doma (1)"));
+    press(screen, Qt::Key_End);
+    press(screen, Qt::Key_Space);
+    EXPECT_TRUE(rows(screen).endsWith(QStringLiteral("x Nejspíš už doma (1) | sůl")));
+}
+
+TEST_F(NakupTest, TicksOffByKeyAndMouseAndRemembersIt) {
+    frmNakup& screen = open();
+    press(screen, Qt::Key_Space);
+    EXPECT_TRUE(rows(screen).contains(QStringLiteral("x kapr")));
+    auto* list = child<TickList>(screen, "picSeznam");
+    QTest::mouseClick(list, Qt::LeftButton, {}, list->toPixels(list->rowRect(3).center()));
+    EXPECT_TRUE(rows(screen).contains(QStringLiteral("x máslo")));
+    press(screen, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_FALSE(rows(screen).contains(QStringLiteral("x máslo")));
+    press(screen, Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(rows(open()).contains(QStringLiteral("x kapr")));
+}
+
+TEST_F(NakupTest, TakesOwnLinesAmountsAndRemovals) {
+    frmNakup& screen = open();
+    amount_ = 1500;
+    child<Button>(screen, "cmdAkce(1)")->click();
+    EXPECT_TRUE(rows(screen).contains(QStringLiteral("kapr 1,5 kg")));
+    amount_ = 0;  // the question was left
+    child<Button>(screen, "cmdAkce(1)")->click();
+    EXPECT_TRUE(rows(screen).contains(QStringLiteral("kapr 1,5 kg")));
+    press(screen, Qt::Key_Delete);
+    EXPECT_FALSE(rows(screen).contains(QStringLiteral("kapr")));
+    child<Edit>(screen, "txtVlastni")->focusAll();
+    QTest::keyClicks(run_.window.focusWidget(), QStringLiteral("houska"));
+    press(screen, Qt::Key_Return);
+    EXPECT_TRUE(rows(screen).contains(QStringLiteral("Ostatní | houska")));
+    child<Button>(screen, "cmdAkce(5)")->click();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(QStringLiteral("☐ houska")));
+    QTest::mouseClick(child(screen, "imgBtnHlavni(0)"), Qt::LeftButton);
+    EXPECT_TRUE(run_.recorded.printedText.contains(QStringLiteral("houska")));
+}
+
+TEST_F(NakupTest, SaysOnceThatNothingCanBeKept) {
+    UserFile nowhere;
+    auto* screen = new frmNakup(run_, nowhere, {});
+    screen->Zobraz();
+    child<Edit>(*screen, "txtVlastni")->setText(QStringLiteral("houska"));
+    child<Button>(*screen, "cmdAkce(0)")->click();
+    child<Button>(*screen, "cmdAkce(3)")->click();
+    EXPECT_EQ(run_.messages.size(), 1);
+    EXPECT_EQ(rows(*screen), QString());
+}
+
+}  // namespace
+}  // namespace sarne

@@ -1,0 +1,72 @@
+#include <gtest/gtest.h>
+
+#include "kitchenbook.h"
+#include "screens/kitchen/kitchenplates.h"
+
+namespace sarne {
+namespace {
+
+class PlatesTest : public testing::Test {
+  protected:
+    void clickFirst() {
+        QTest::mouseClick(run_.window.findChild<QWidget*>(QStringLiteral("casovac(0)")), Qt::LeftButton);
+    }
+
+    FakeSarne run_;
+    KitchenTimers timers_;
+    KitchenPlates plates_{run_, timers_};
+};
+
+TEST_F(PlatesTest, ShowWhatIsLeftAndRingUntilStopped) {
+    plates_.start(QStringLiteral("Brambory"), 1200);
+    plates_.start(QStringLiteral("Ryba"), 600);
+    EXPECT_EQ(plates_.texts(), (QStringList{QStringLiteral("10:00 Ryba"), QStringLiteral("20:00 Brambory")}));
+    run_.time.time = 600'000;
+    plates_.look();
+    EXPECT_EQ(plates_.texts().first(), QStringLiteral("Hotovo! Ryba"));
+    EXPECT_EQ(run_.sounds.played.size(), 1);
+    EXPECT_EQ(run_.announced.last(), QStringLiteral("Čas vypršel: Ryba"));
+    run_.time.time += 4'000;
+    plates_.look();
+    EXPECT_EQ(run_.sounds.played.size(), 2);
+    EXPECT_TRUE(plates_.stopRinging());
+    EXPECT_FALSE(plates_.stopRinging());
+    EXPECT_EQ(plates_.texts(), QStringList{QStringLiteral("9:56 Brambory")});
+}
+
+TEST_F(PlatesTest, LieOverEveryScreenThatIsShown) {
+    plates_.start(QStringLiteral("Ryba"), 600);
+    auto* screen = new Form(run_, QStringLiteral("frmJina"));
+    run_.PushScreen(*screen);
+    screen->showForm();
+    const QWidget* plate = run_.window.findChild<QWidget*>(QStringLiteral("casovac(0)"));
+    EXPECT_EQ(run_.window.childAt(plate->geometry().center()), plate);
+}
+
+TEST_F(PlatesTest, AClickAsksBeforeItStopsARunningTimer) {
+    plates_.start(QStringLiteral("Ryba"), 600);
+    run_.answers = {7, 6};
+    clickFirst();
+    EXPECT_EQ(plates_.texts().size(), 1);
+    clickFirst();
+    EXPECT_TRUE(plates_.texts().isEmpty());
+    EXPECT_EQ(run_.messages.size(), 2);
+    plates_.start(QStringLiteral("Ryba"), 1);
+    run_.time.time = 2'000;
+    plates_.look();
+    clickFirst();  // one that rings is stopped at once
+    EXPECT_TRUE(plates_.texts().isEmpty());
+    EXPECT_EQ(run_.messages.size(), 2);
+}
+
+TEST_F(PlatesTest, TheEndIsAskedAboutWhileATimerRuns) {
+    EXPECT_TRUE(plates_.readyToEnd());
+    EXPECT_TRUE(run_.messages.isEmpty());
+    plates_.start(QStringLiteral("Ryba"), 600);
+    run_.answers = {7};
+    EXPECT_FALSE(plates_.readyToEnd());
+    EXPECT_TRUE(plates_.readyToEnd());
+}
+
+}  // namespace
+}  // namespace sarne

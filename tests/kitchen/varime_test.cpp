@@ -1,0 +1,91 @@
+#include <gtest/gtest.h>
+
+#include "kitchen/cooked.h"
+#include "kitchenbook.h"
+#include "screens/kitchen/frmvarime.h"
+
+namespace sarne {
+namespace {
+
+class VarimeTest : public testing::Test {
+  protected:
+    frmVarime& open(const Serving& serving) {
+        auto* screen = new frmVarime(run_, run_.file(), [this](const QString& name, int seconds) {
+            started_ << QStringLiteral("%1: %2").arg(name).arg(seconds);
+        });
+        EXPECT_TRUE(screen->Zobraz(5, serving));
+        return *screen;
+    }
+    static QString text(const Form& form, const char* label) {
+        return QString(child<Label>(form, label)->text()).replace(QChar(QChar::Nbsp), u' ');
+    }
+
+    KitchenRun run_;
+    QStringList started_;
+};
+
+TEST_F(VarimeTest, GoesThroughTheStepsByTheKeysOfTheStove) {
+    frmVarime& screen = open({4, UnitSystem::Weights});
+    EXPECT_EQ(screen.pageCount(), 5);
+    EXPECT_EQ(screen.shown().kind, CookingPage::Kind::Ready);
+    press(screen, Qt::Key_Space);  // ticks the first ingredient
+    EXPECT_EQ(screen.page(), 0);
+    EXPECT_TRUE(child<TickList>(screen, "picSuroviny")->rows()[1].ticked);
+    press(screen, Qt::Key_Return);
+    EXPECT_EQ(text(screen, "lblKrok"), QStringLiteral("Krok 1 z 2 · 4 porce"));
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Right, Qt::Key_PageDown}) press(screen, key);
+    EXPECT_EQ(screen.shown().kind, CookingPage::Kind::Done);
+    press(screen, Qt::Key_Right);  // there is no further
+    EXPECT_EQ(screen.page(), 4);
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_PageUp}) press(screen, key);
+    EXPECT_EQ(screen.page(), 2);
+    QTest::mouseClick(child(screen, "imgPapir"), Qt::LeftButton);
+    EXPECT_EQ(screen.page(), 3);
+}
+
+TEST_F(VarimeTest, EachStepNamesItsShareForThePortionsAndUnits) {
+    frmVarime& screen = open({6, UnitSystem::Spoons});
+    EXPECT_EQ(text(screen, "lblSuroviny"), QStringLiteral("pekáč"));
+    press(screen, Qt::Key_Return);
+    EXPECT_EQ(text(screen, "lblSuroviny"), QStringLiteral("kapr – 1800 g\nsůl"));
+    press(screen, Qt::Key_Space);
+    EXPECT_EQ(text(screen, "lblSuroviny"), QStringLiteral("máslo – 3 lžíce"));
+    EXPECT_EQ(text(screen, "lblKrok"), QStringLiteral("Krok 2 z 2 · 6 porcí"));
+    press(screen, Qt::Key_Space);
+    EXPECT_EQ(text(screen, "lblKrok"), QStringLiteral("Na stůl · 6 porcí"));
+}
+
+TEST_F(VarimeTest, ATimeInTheStepStartsATimerWithItsName) {
+    frmVarime& screen = open({});
+    press(screen, Qt::Key_1);  // nothing to start while getting ready
+    press(screen, Qt::Key_Return);
+    EXPECT_TRUE(child(screen, "cmdCas(0)")->isVisible());
+    EXPECT_FALSE(child(screen, "cmdCas(1)")->isVisible());
+    press(screen, Qt::Key_1);
+    press(screen, Qt::Key_2);
+    QTest::mouseClick(child(screen, "cmdCas(0)"), Qt::LeftButton);
+    EXPECT_EQ(started_, QStringList(2, QStringLiteral("Krok 1, Kapr na kmíně: 900")));
+}
+
+TEST_F(VarimeTest, KeepsTheDisplayAwakeAndWhatWasCooked) {
+    frmVarime& screen = open({4, UnitSystem::Weights});
+    EXPECT_FALSE(run_.awake.last().isEmpty());
+    press(screen, Qt::Key_Return);
+    while (screen.shown().kind != CookingPage::Kind::Done) press(screen, Qt::Key_Space);
+    press(screen, Qt::Key_Space);  // "Uvařeno!"
+    EXPECT_EQ(cookedDays(run_.file(), 5).size(), 1u);
+    press(screen, Qt::Key_Escape);
+    EXPECT_TRUE(run_.awake.last().isEmpty());
+    EXPECT_FALSE(run_.FormStack.contains(screen));
+}
+
+TEST_F(VarimeTest, ARecipeWithoutStepsIsNotShown) {
+    for (const std::int16_t id : {std::int16_t{6}, std::int16_t{99}}) {
+        auto* screen = new frmVarime(run_, run_.file(), {});
+        EXPECT_FALSE(screen->Zobraz(id, {}));
+        EXPECT_EQ(run_.FormStack.top(), nullptr);
+    }
+}
+
+}  // namespace
+}  // namespace sarne
