@@ -38,7 +38,7 @@ function(sarne_library name)
 endfunction()
 
 # The tests that are quick enough to run under the sanitizers with every change; leaks count there.
-set(SARNE_SANITIZED_TESTS test_core test_db test_richtext test_forms test_dialogs richtext_fuzz)
+set(SARNE_SANITIZED_TESTS test_core test_db test_richtext test_forms test_dialogs richtext_fuzz query_fuzz content_fuzz picture_fuzz)
 add_custom_target(sanitized_tests)
 
 # sarne_test_settings(name): what every test runs with.

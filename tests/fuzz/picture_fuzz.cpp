@@ -1,0 +1,33 @@
+// Any bytes as a photo's file and as a picture of the screens: no crash, no endless loop, no picture larger
+// than what it says.
+#include <QFile>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include "forms/picture.h"
+#include "screens/browse/photofile.h"
+
+using namespace sarne;
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
+
+int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    static int count = 1;
+    static char name[] = "fuzz", *arguments[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static const QGuiApplication application(count, arguments);
+    static const QTemporaryDir folder;
+
+    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    const Picture picture = Picture::fromData(bytes);
+    // Large ones are decoded as they are asked for: correct, but slow a million times.
+    constexpr int kMost = 2000;
+    if (const QSize large = picture.size(); large.width() > kMost || large.height() > kMost) return 0;
+    picture.scaled({40, 30});
+    QFile file(folder.filePath(QStringLiteral("r1.bmp")));
+    if (!file.open(QIODevice::WriteOnly)) return 0;
+    file.write(bytes);
+    file.close();
+    readPhoto(file.fileName(), {40, 30});
+    return 0;
+}
