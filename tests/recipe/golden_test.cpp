@@ -8,7 +8,7 @@ namespace {
 // What is read on the screen, what is taken along as text and what goes on paper, string for string: the
 // texts look alike and differ on purpose.
 
-/// The lines of one printed recipe, the words of each parted by a bar.
+/// The lines of one printed recipe.
 QStringList printedLines(basSarne& run, int id, const PrintOptions& options) {
     SilentProgress silent;
     QtTextMetrics metrics;
@@ -21,11 +21,12 @@ QStringList printedLines(basSarne& run, int id, const PrintOptions& options) {
     for (const PrintedPage& page : composer.recipe(id, options, silent).pages) {
         for (const PageText& text : page.texts) {
             if (std::exchange(baseline, text.baseline) == text.baseline)
-                lines.last() += u'|' + text.text;
+                lines.last() += u' ' + text.text;
             else
                 lines << text.text;
         }
     }
+    for (QString& line : lines) line = line.simplified();
     return lines;
 }
 
@@ -99,22 +100,22 @@ TEST_F(RecipeTest, PrintedGolden) {
                              "Porce: 6\n"
                              "kapr - filety bez kůže (g): 380 (kus): 0,8\n"
                              "máslo (g): 75 (lžíce): 3\n"
-                             "      - nebo olej\n"
+                             "- nebo olej\n"
                              "máslo (g): 19 (lžíce): 0,08\n"
                              "sůl\n"
-                             "Úvod|k|receptu.\n"
-                             "Kapra|osolíme|a|pečeme|podle|videa.\n"
-                             "Podáváme|ihned.\n"
-                             "Poznámka|kuchaře.\n"
-                             "Na|talíři.\n"
+                             "Úvod k receptu.\n"
+                             "Kapra osolíme a pečeme podle videa.\n"
+                             "Podáváme ihned.\n"
+                             "Poznámka kuchaře.\n"
+                             "Na talíři.\n"
                              "Ryzlink\n"
-                             "Vlastní poznámka: \n"
-                             "Méně|soli.\n"
+                             "Vlastní poznámka:\n"
+                             "Méně soli.\n"
                              "Pomůcky: číška, chňapka, pánev, vařečka\n"
                              "Odkaz: Chlebové kostky\n"
-                             "Chléb|nakrájíme.\n"
+                             "Chléb nakrájíme.\n"
                              "Odkaz: Rybí vývar\n"
-                             "Vývar|vaříme|pomalu."));
+                             "Vývar vaříme pomalu."));
 }
 
 }  // namespace
