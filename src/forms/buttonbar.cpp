@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "forms/form.h"
 #include "forms/resources.h"
 
 namespace sarne {
@@ -15,7 +14,9 @@ ButtonBar::ButtonBar(Form& form, const QString& name, std::span<const BarFace> f
         auto* button = new Button(form, QStringLiteral("%1(%2)").arg(name).arg(index));
         button->setFrame(Button::Frame::Raised);
         button->setCaptionPlace(Button::CaptionPlace::Below);
-        QObject::connect(button, &Button::clicked, &form, [command, index] { command(index); });
+        QObject::connect(button, &Button::clicked, &form, [&form, command, does = face.does, index] {
+            does ? (form.*does)() : command(index);
+        });
         buttons_.push_back(button);
         setFace(index, face);
     }

@@ -5,30 +5,31 @@
 #include <vector>
 
 #include "forms/button.h"
-#include "forms/focusring.h"
+#include "forms/form.h"
 
 namespace sarne {
 
 /// What a button of a bar shows and is called: its picture, the words below it, and its tip, by default the
-/// same words.
+/// same words. What every form can do needs no command of the bar's owner.
 struct BarFace {
     QStringView picture, caption, tip = caption;
+    void (Form::*does)() = nullptr;
 };
 
-/// The things that several screens offer look and are called the same on all of them.
+/// The things that several screens offer look, are called and do the same on all of them.
 namespace barface {
 inline constexpr BarFace kPrint{u"Tisk", u"Tisk"};
-inline constexpr BarFace kHelp{u"Help", u"Nápověda"};
-inline constexpr BarFace kBack{u"Zpet", u"Zpět"};
-inline constexpr BarFace kEnd{u"Konec", u"Konec"};
-inline constexpr BarFace kMusic{u"Hudba", u"Hudba a zvuky"};
+inline constexpr BarFace kHelp{u"Help", u"Nápověda", u"Nápověda", &Form::help};
+inline constexpr BarFace kBack{u"Zpet", u"Zpět", u"Zpět", &Form::goBack};
+inline constexpr BarFace kEnd{u"Konec", u"Konec", u"Konec", &Form::endProgram};
+inline constexpr BarFace kMusic{u"Hudba", u"Hudba a zvuky", u"Hudba a zvuky", &Form::musicSettings};
 }  // namespace barface
 
 /// The buttons of a form that do one thing each: framed pictures with their names below.
 class ButtonBar {
   public:
     /// Makes a button of \a form for each of \a faces, called \a name with its index ("imgBtn(2)"). A click
-    /// on it gives its index to \a command.
+    /// on it does what its face says, or else gives its index to \a command.
     ButtonBar(Form& form, const QString& name, std::span<const BarFace> faces,
               const std::function<void(int)>& command);
 
@@ -36,7 +37,7 @@ class ButtonBar {
     /// The index of \a button; nothing when it is none of the bar's.
     std::optional<int> indexOf(const TwipWidget* button) const;
     int count() const { return static_cast<int>(buttons_.size()); }
-    /// Gives button \a index another face.
+    /// Gives button \a index another face, for the same command.
     void setFace(int index, const BarFace& face);
     /// Places the buttons that are not hidden side by side in \a room, in the order of their indices.
     void placeRow(const QRect& room);

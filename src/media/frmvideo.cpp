@@ -54,7 +54,7 @@ frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
       time_(*this, QStringLiteral("lblCas")),
       bar_(*this, QStringLiteral("prgPozice")),
       ImgTlacitko(*this, QStringLiteral("ImgTlacitko"), kFaces, [this](int index) { press(index); }),
-      imgBtn(*this, QStringLiteral("imgBtn"), kBack, [this](int) { Skryj(); }),
+      imgBtn(*this, QStringLiteral("imgBtn"), kBack, {}),
       tmrStart(this),
       progress_(this) {
     area_.place(kArea);

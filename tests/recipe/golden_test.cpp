@@ -18,7 +18,7 @@ QStringList printedLines(basSarne& run, int id, const PrintOptions& options) {
     PageComposer composer({run.Db(), [](const QString&) { return Picture(); }, run.Locale, {}}, a4, metrics);
     QStringList lines;
     int baseline = -1;
-    for (const PrintedPage& page : composer.recipe(id, options, silent).pages) {
+    for (const PrintedPage& page : composer.recipe(id, options, silent)) {
         for (const PageText& text : page.texts) {
             if (std::exchange(baseline, text.baseline) == text.baseline)
                 lines.last() += u' ' + text.text;

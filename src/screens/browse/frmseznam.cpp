@@ -111,21 +111,6 @@ void frmSeznam::buySelected() {
     app().screens().addToShoppingList({entry->target}, {});
 }
 
-void frmSeznam::mainAction(int index) {
-    switch (index) {
-        case 0:
-            return printEntries();
-        case 1:
-            return help();
-        case 2:
-            return goBack();
-        case 3:
-            return endProgram();
-        case 4:
-            return musicSettings();
-    }
-}
-
 void frmSeznam::printEntries() {
     std::vector<PrintEntry> print;
     for (const ListEntry& entry : entries_) {

@@ -61,7 +61,6 @@ class frmSeznam : public Form {
     void selectRow(int row);
     void scroll(int step);
     void action(int index);
-    void mainAction(int index);
     void openSelected();
     void buySelected();
     void printEntries();

@@ -44,7 +44,7 @@ frmSeznam::frmSeznam(basSarne& run, Panel* panel)
       picFoto(*this, QStringLiteral("picFoto")),
       lblVino(*this, QStringLiteral("lblVino")),
       imgBtn(*this, QStringLiteral("imgBtn"), kActions, [this](int index) { action(index); }),
-      imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int index) { mainAction(index); }) {
+      imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int) { printEntries(); }) {
     buildList();
     buildPanel();
     imgBtnHlavni.placeRow(seznam::kBar);

@@ -99,21 +99,6 @@ void frmSit::showRecipe() {
     if (needsCell()) app().screens().showRecipe(toRecordId(grid_.cell()).value_or(0));
 }
 
-void frmSit::barAction(int index) {
-    switch (index) {
-        case 0:
-            return showPhoto();
-        case 1:
-            return help();
-        case 2:
-            return showRecipe();
-        case 3:
-            return goBack();
-        case 4:
-            return endProgram();
-    }
-}
-
 // --- the keyboard
 
 bool frmSit::keyDown(QKeyEvent& event) {

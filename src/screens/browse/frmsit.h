@@ -46,7 +46,6 @@ class frmSit : public Form {
     void showPhoto();
     void showRecipe();
     bool needsCell();
-    void barAction(int index);
 
     bool moveByKey(int key);
     bool groupByKey(int key);

@@ -29,7 +29,8 @@ TextFont frmSit::nameFont() {
 frmSit::frmSit(basSarne& run)
     : Form(run, QStringLiteral("frmSit")),
       imgCela(new Button(*this, QStringLiteral("imgCela"))),
-      imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int index) { barAction(index); }),
+      imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar,
+                   [this](int index) { index == 0 ? showPhoto() : showRecipe(); }),
       Label1(*this, QStringLiteral("Label1")) {
     setAccessibleName(QStringLiteral("Zobrazení fotografií"));
     setWindowTitle(QStringLiteral("Zobrazení fotografií"));

@@ -10,7 +10,7 @@ namespace sarne {
 namespace {
 
 constexpr BarFace kFaces[BarForm::kBarButtons] = {
-    barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd, {u"ZvukOff", u"Hudba"}};
+    barface::kPrint, {u"Help", u"Nápověda"}, barface::kBack, barface::kEnd, {u"ZvukOff", u"Hudba"}};
 
 }  // namespace
 
@@ -63,19 +63,10 @@ void BarForm::showSound() {
 }
 
 void BarForm::barClicked(int button) {
-    switch (button) {
-        case kPrint:
-            return print();
-        case kHelp:
-            return helpButton();
-        case kBack:
-            return goBack();
-        case kEnd:
-            return endProgram();
-        case kSound:
-            switchMusic(app());
-            return showSound();
-    }
+    if (button == kPrint) return print();
+    if (button == kHelp) return helpButton();
+    switchMusic(app());
+    showSound();
 }
 
 void BarForm::paintGround(QPainter& painter) {

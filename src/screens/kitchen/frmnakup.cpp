@@ -33,7 +33,6 @@ constexpr QRect kBar{5220, 7965, 6540, 930};
 constexpr int kActionTop = 3780, kActionHeight = 540, kActionStep = 576;
 constexpr double kRowPoints = 14;
 
-enum Bar { kPrint, kHelp, kBack, kEnd, kMusicSettings };
 constexpr BarFace kFaces[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd,
                               barface::kMusic};
 
@@ -62,7 +61,7 @@ frmNakup::frmNakup(basSarne& run, UserFile& file, AskNumber askNumber)
       hint_(*this, QStringLiteral("lblPripsat")),
       rows_(*this, QStringLiteral("picSeznam")),
       own_(*this, QStringLiteral("txtVlastni")),
-      bar_(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int button) { barClick(button); }) {
+      bar_(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int) { print(); }) {
     const auto dress = [](Label& label, const QRect& place, double points, bool bold,
                           Qt::Alignment alignment) {
         label.place(place);
@@ -119,21 +118,6 @@ void frmNakup::Zobraz() {
 
 void frmNakup::goBack() {
     app().PopScreen(*this);
-}
-
-void frmNakup::barClick(int button) {
-    switch (button) {
-        case kPrint:
-            return print();
-        case kHelp:
-            return help();
-        case kBack:
-            return goBack();
-        case kEnd:
-            return endProgram();
-        case kMusicSettings:
-            return musicSettings();
-    }
 }
 
 void frmNakup::act(Action action) {

@@ -35,7 +35,6 @@ class frmNakup : public Form {
     static constexpr int kActions = 7;
 
     void makeActions();
-    void barClick(int button);
     void act(Action action);
     void use(int row);
     void showList();

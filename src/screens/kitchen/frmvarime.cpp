@@ -36,7 +36,6 @@ constexpr int kLongestTimer = 24 * 3600;  // seconds
 const TextFont kStepFont{QStringLiteral("Arial"), 28};
 constexpr double kNeedSizes[] = {17, 15, 13, 11};
 
-enum Bar { kHelp, kBack, kEnd, kMusicSettings };
 constexpr BarFace kFaces[] = {barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
 
 /// Sets \a text in the largest of the sizes in which it fits the label's place.
@@ -67,7 +66,7 @@ frmVarime::frmVarime(basSarne& run, UserFile& file, StartTimer startTimer)
       next_(*this, QStringLiteral("imgDal")),
       previous_(*this, QStringLiteral("imgZpatky")),
       cooked_(*this, QStringLiteral("imgUvareno")),
-      bar_(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int button) { barClick(button); }) {
+      bar_(*this, QStringLiteral("imgBtnHlavni"), kFaces, {}) {
     dress();
     makeButtons();
     bar_.placeRow(kBar);
@@ -325,19 +324,6 @@ void frmVarime::cooked() {
     showDone();
     cooked_.setCaption(kept ? Texts::tr("Zapsáno") : Texts::tr("Nelze zapsat"));
     ring().focus(next_);
-}
-
-void frmVarime::barClick(int button) {
-    switch (button) {
-        case kHelp:
-            return help();
-        case kBack:
-            return goBack();
-        case kEnd:
-            return endProgram();
-        case kMusicSettings:
-            return musicSettings();
-    }
 }
 
 void frmVarime::goBack() {

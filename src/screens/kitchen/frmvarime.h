@@ -47,7 +47,6 @@ class frmVarime : public Form {
     void dress();
     void makeButtons();
     void readRecipe(std::int16_t id, const Serving& serving);
-    void barClick(int button);
     void go(int pages);
     void forward();
     void showPage();

@@ -26,7 +26,6 @@ constexpr double kTitleSizes[] = {20, 16, 13};
 constexpr int kLongestTitle = 400;  // characters: more than the header holds in the smallest size
 
 constexpr BarFace kBar[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
-enum BarButton { kPrint, kHelp, kBack, kEnd, kMusicSettings };
 
 constexpr BarFace kKitchen[] = {{u"Varime", u"Vaříme", u"Vaříme krok za krokem (F2)"},
                                 {u"Nakup", u"Na seznam", u"Dát suroviny na nákupní seznam (F3)"}};
@@ -44,7 +43,7 @@ frmRecept::frmRecept(basSarne& run, Serving& lookedAt, AskNumber ask)
     : Form(run, QStringLiteral("frmRecept")),
       title_(new Label(*this, QStringLiteral("lblNazev"))),
       imgBtn(*this, QStringLiteral("imgBtn"), sectionFaces(), [this](int index) { openSection(index); }),
-      imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int index) { barClick(index); }),
+      imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int) { print(); }),
       imgKuchyne(*this, QStringLiteral("imgKuchyne"), kKitchen, [this](int index) { kitchenClick(index); }),
       view_(new TextView(*this, QStringLiteral("picRecept"))),
       picture_(new PictureBox(*this, QStringLiteral("picVedle"))),
@@ -205,21 +204,6 @@ bool frmRecept::readyToEnd() {
 void frmRecept::print() {
     current().beforePrint();
     app().screens().printRecipes({recipe_.id}, recipe_.serving());
-}
-
-void frmRecept::barClick(int button) {
-    switch (button) {
-        case kPrint:
-            return print();
-        case kHelp:
-            return help();
-        case kBack:
-            return Skryj();
-        case kEnd:
-            return endProgram();
-        case kMusicSettings:
-            return musicSettings();
-    }
 }
 
 void frmRecept::kitchenClick(int button) {

@@ -55,7 +55,6 @@ class frmRecept : public Form {
     RecipeSection& current() const { return *sections_[size_t(section_)]; }
     void openSection(int section);
     void showSection();
-    void barClick(int button);
     void print();
     void kitchenClick(int button);
     bool kitchenKey(const QKeyEvent& event);
