@@ -26,6 +26,7 @@ bool KitchenScreens::canCook(std::int16_t id) const {
 }
 
 void KitchenScreens::cook(std::int16_t id, const Serving& serving) {
+    if (plates_) plates_->hush();
     auto* screen = new frmVarime(program_, program_.userFile(),
                                  [this](const QString& name, int seconds) { plates().start(name, seconds); });
     screen->Zobraz(id, serving);

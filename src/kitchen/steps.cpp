@@ -38,10 +38,10 @@ QString needText(const Ingredient& ingredient, double share, UnitSystem units, c
     QString name = ingredient.refinement ? ingredient.name + QStringLiteral(", ") + *ingredient.refinement
                                          : ingredient.name;
     const float amount = quantities.amount(measure.amount * (share > kWhole ? 1 : share));
-    if (amount <= 0) return measure.unit ? name + QStringLiteral("\u00a0– ") + *measure.unit : name;
+    if (amount <= 0) return measure.unit ? name + QStringLiteral("\u00a0–\u00a0") + *measure.unit : name;
     bool isNumber = false;
     const double shown = locale.toDouble(numberText(Quantities::forDisplay(amount), locale), &isNumber);
-    return name + QStringLiteral("\u00a0– ") +
+    return name + QStringLiteral("\u00a0–\u00a0") +
            amountText(isNumber ? shown : static_cast<double>(amount), measure.unit.value_or(QString()),
                       locale);
 }

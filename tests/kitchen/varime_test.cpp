@@ -17,7 +17,8 @@ class VarimeTest : public testing::Test {
         return *screen;
     }
     static QString text(const Form& form, const char* label) {
-        return QString(child<Label>(form, label)->text()).replace(QChar(QChar::Nbsp), u' ');
+        QString text = child<Label>(form, label)->text();
+        return text.remove(QChar(0x2060)).replace(QChar(QChar::Nbsp), u' ');
     }
 
     KitchenRun run_;

@@ -15,6 +15,7 @@ foreach(screen navigation recipe browse index)
     set(may_screens/${screen} screens/${screen} ${screen_base})
 endforeach()
 set(may_screens/kitchen screens/kitchen kitchen ${screen_base})
+list(APPEND may_screens/recipe kitchen)
 set(may_app app media print screens/navigation screens/recipe screens/browse screens/index screens/kitchen kitchen ${screen_base})
 
 # Libraries that one folder alone wraps.

@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRegularExpression>
 
 #include "core/czech.h"
 #include "core/texts.h"
@@ -27,7 +28,7 @@ constexpr QRect kSideTitle{8400, 1170, 3210, 390};
 constexpr QRect kNeeds{8400, 1590, 3210, 3480};
 constexpr QRect kPrevious{8250, 6480, 1410, 1410};
 constexpr QRect kNext{9810, 5970, 1950, 1950};
-constexpr QRect kCooked{2700, 5400, 2700, 1800};
+constexpr QRect kCooked{8850, 1260, 2310, 2100};
 constexpr QRect kBar{6600, 7965, 5160, 930};
 constexpr int kTimeHeight = 570;
 constexpr int kLongestTimer = 24 * 3600;  // seconds
@@ -46,7 +47,13 @@ void fit(Label& label, const QString& text, const QRect& place) {
         label.setFont(font);
         if (Label::measure(text, font, place.width()).height() <= place.height()) break;
     }
-    label.setText(text);
+    label.setText(QString(text).replace(QStringLiteral("–\u00a0"), QStringLiteral("–\u2060\u00a0")));
+}
+
+/// A range stays on one line: "8–10" is not to be broken behind its dash.
+QString unbroken(QString text) {
+    static const QRegularExpression range(QStringLiteral("(\\d)–(\\d)"));
+    return text.replace(range, QStringLiteral("\\1–\u2060\\2"));
 }
 
 }  // namespace
@@ -210,7 +217,7 @@ void frmVarime::showReady() {
     std::vector<TickRow> rows{{TickRow::Kind::Heading, Texts::tr("Suroviny"), {}, {}, false}};
     for (size_t i = 0; i < ingredients_.size(); ++i) {
         const QString need = needText(ingredients_[i], 1, serving_.units, quantities_, app().Locale);
-        const QString dash = QStringLiteral("\u00a0– ");
+        const QString dash = QStringLiteral("\u00a0–\u00a0");
         const QString alternative =
             ingredients_[i].alternative ? Texts::tr("nebo %1").arg(*ingredients_[i].alternative) : QString();
         rows.push_back({TickRow::Kind::Item, need.section(dash, 0, 0), need.section(dash, 1), alternative,
@@ -253,7 +260,8 @@ void frmVarime::showStep() {
     counter_.setText(counter + QStringLiteral(" · ") + portionsText());
     text_.place(kText);
     text_.setFont(kStepFont);
-    text_.setText(page.text);
+    text_.setText(unbroken(page.text));
+    text_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     const QString needs = needsOf(step);
     side_.setText(needs.isEmpty() ? QString() : Texts::tr("Je potřeba"));
     showTimes(page.text);
@@ -270,7 +278,8 @@ void frmVarime::showStep() {
 
 void frmVarime::showDone() {
     counter_.setText(Texts::tr("Hotovo"));
-    text_.place({kText.x(), kText.y(), kText.width(), 3900});
+    text_.place(kText);
+    text_.setAlignment(Qt::AlignCenter);
     const std::vector<QDate> days = cookedDays(file_, recipe_);
     QString text = Texts::tr("Dobrou chuť!");
     if (!days.empty())

@@ -22,12 +22,16 @@ namespace sarne {
 namespace {
 
 constexpr int kLook = 250, kSayingTime = 4000, kRingAgain = 3500;  // milliseconds
-constexpr int kWidth = 2100, kHeight = 630, kGap = 60, kColumns = 4;
+constexpr int kWidth = 1920, kHeight = 630, kGap = 60, kColumns = 4;
 constexpr int kSayingBottom = 7800;
 const TextFont kTime{QStringLiteral("Arial"), 15, true}, kName{QStringLiteral("Arial"), 9},
     kSaying{QStringLiteral("Arial"), 14, true};
 
-QRect timerPlace(int index) {
+/// Where the plate of timer \a index lies: beside the design area where the display is wide enough, else in
+/// the upper right corner, side by side.
+QRect timerPlace(int index, double roomBeside) {
+    if (roomBeside >= kWidth + kGap)
+        return {Stage::kWidth + kGap / 2, 90 + index * (kHeight + kGap), kWidth, kHeight};
     const int column = index % kColumns, row = index / kColumns;
     return {Stage::kWidth - (column + 1) * (kWidth + kGap), 90 + row * (kHeight + kGap), kWidth, kHeight};
 }
@@ -151,7 +155,6 @@ void KitchenPlates::show() {
     while (plates_.size() < timers.size()) {
         auto* plate = new Plate(app_.stage(), app_.resources().picture(QStringLiteral("Casovac")));
         plate->setObjectName(QStringLiteral("casovac(%1)").arg(plates_.size()));
-        plate->place(timerPlace(static_cast<int>(plates_.size())));
         plate->show();
         plate->raise();
         plates_.emplace_back(plate);
@@ -159,6 +162,9 @@ void KitchenPlates::show() {
     for (size_t i = 0; i < timers.size(); ++i) {
         if (!plates_[i]) continue;
         const KitchenTimer& timer = timers[i];
+        const double beside = app_.stage().designOrigin().x() / app_.stage().scale();
+        const QRect place = timerPlace(static_cast<int>(i), beside);
+        if (plates_[i]->twips() != place) plates_[i]->place(place);
         plates_[i]->set(timer.rings ? Texts::tr("Hotovo!") : clockText(timer.left(app_.clock().now())),
                         timer.name, timer.rings);
         plates_[i]->use = [this, id = timer.id] { timerClicked(id); };

@@ -3,10 +3,13 @@
 #include <algorithm>
 
 #include "core/numbertext.h"
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/form.h"
+#include "forms/messagebox.h"
 #include "forms/resources.h"
+#include "kitchen/fishamount.h"
 #include "screens/recipe/ingredientcolumns.h"
 
 namespace sarne {
@@ -47,6 +50,10 @@ IngredientPanel::IngredientPanel(const SectionRoom& room) : RecipeSection(room) 
     portionText_->place(recipelayout::kPortionText);
     portionText_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     portionText_->setFont({QStringLiteral("Arial"), 12, true});
+    fish_ = new Button(room_.form, QStringLiteral("cmdRyba"));
+    fish_->place(recipelayout::kFishButton);
+    fish_->dressAsText(Texts::tr("Mám rybu"), Texts::tr("Kolik porcí bude z ryby, kterou mám"));
+    QObject::connect(fish_, &Button::clicked, &room_.form, [this] { askFish(); });
     setVisible(false);
 }
 
@@ -59,6 +66,7 @@ Button& IngredientPanel::addButton(const QString& name, const QRect& place) {
 
 void IngredientPanel::recipeChanged() {
     position_.reset();
+    knowsFish_ = mainFish(room_.app.Db(), room_.recipe.id).has_value();
     for (size_t at = 0; at < cutlery_.size(); ++at) showCutlery(cutleryIndex(at));
     showUnits();
     showPortions();
@@ -68,6 +76,7 @@ void IngredientPanel::setVisible(bool visible) {
     for (Control* control : pictures()) control->setVisible(visible);
     current_->setVisible(visible);
     portionText_->setVisible(visible);
+    fish_->setVisible(visible && knowsFish_);
 }
 
 /// The pictures in the order in which the keyboard steps over them.
@@ -160,16 +169,41 @@ void IngredientPanel::portionClick(int index) {
     alive->setPointer(Pointer::Hourglass);
     const bool answered = index != Portions::kAnyNumber || askPortions();
     if (!alive) return;
-    if (answered) {
-        const int previous = portions.choice();
-        portions.choose(index);
-        showCutlery(previous);
-        showCutlery(index);
-        showPortions();
-        redraw();
-    }
+    if (answered) usePortions(index);
     position_.set(index);
     alive->setPointer(Pointer::Normal);
+}
+
+void IngredientPanel::usePortions(int index) {
+    const int previous = room_.recipe.portions.choice();
+    room_.recipe.portions.choose(index);
+    showCutlery(previous);
+    showCutlery(index);
+    showPortions();
+    redraw();
+}
+
+void IngredientPanel::askFish() {
+    const auto fish = mainFish(room_.app.Db(), room_.recipe.id);
+    if (!fish) return;
+    const QPointer<Form> alive(&room_.form);
+    const QString amount = numberText(fish->grams, room_.app.Locale);
+    const double grams = room_.askNumber(
+        Texts::tr("Kolik gramů ryby máte?\r\n%1: recept počítá %2 g na %3 %4.")
+            .arg(fish->name, amount, QString::number(fish->portions), portionWord(fish->portions)));
+    if (!alive || grams <= 0) return;
+    const QString question = Texts::tr(
+                                 "Je to váha celé nekuchané ryby?\r\n"
+                                 "Z celé ryby zbude na tento recept asi %1 %.")
+                                 .arg(qRound(fish->wholeShare * 100));
+    const bool whole = fish->isCut() && room_.app.ZobrazZpravu(question, kQuestionBox) == kAnswerYes;
+    if (!alive) return;
+    const double portions =
+        fish->portionsFor(grams, whole ? MainFish::Bought::Whole : MainFish::Bought::AsInTheList);
+    if (portions <= 0) return room_.app.Beep();
+    room_.recipe.portions.setCustom(portions);
+    usePortions(Portions::kAnyNumber);
+    room_.app.HookMessage(portionText_->text());
 }
 
 void IngredientPanel::unitToggle() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "forms/button.h"
 #include "forms/label.h"
 #include "richtext/qttextmetrics.h"
@@ -17,7 +19,9 @@ class IngredientPanel : public RecipeSection {
     QRect viewPlace() const override { return recipelayout::kListView; }
     /// Draws the list, from the database.
     void draw() override;
-    std::vector<FocusGroup> stops() const override { return {FocusGroup(pictures())}; }
+    std::vector<FocusGroup> stops() const override {
+        return {FocusGroup(pictures()), FocusGroup(std::array<TwipWidget*, 1>{fish_})};
+    }
     /// Steps sideways to the next picture and says what it does.
     bool step(bool sideways, int direction) override;
 
@@ -27,6 +31,10 @@ class IngredientPanel : public RecipeSection {
     void portionClick(int index);
     bool askPortions();
     void unitToggle();
+    /// Asks how much fish there is, and shows the recipe for so many portions.
+    void askFish();
+    /// Shows the recipe for the portions of picture \a index.
+    void usePortions(int index);
     void redraw();
     void showCutlery(int index);
     void showUnits();
@@ -37,6 +45,8 @@ class IngredientPanel : public RecipeSection {
     Button* toggle_;
     Button* current_;  // the other picture beside the toggle: the unit system in use
     Label* portionText_;
+    Button* fish_;  ///< only for a recipe whose main fish is known
+    bool knowsFish_ = false;
     PanelPosition position_;
     QtTextMetrics metrics_;
 };

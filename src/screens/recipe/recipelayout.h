@@ -38,7 +38,8 @@ constexpr QRect cutlery(int position) {
 }
 inline constexpr QRect kWeights{7440, 1530, 780, 780};
 inline constexpr QRect kSpoons{8280, 1530, 780, 780};
-inline constexpr QRect kPortionText{9240, 1530, 2460, 780};
+inline constexpr QRect kPortionText{9180, 1530, 1260, 780};
+inline constexpr QRect kFishButton{10380, 1620, 1380, 600};
 
 inline constexpr int kOptionColumns = 2;
 inline constexpr int kOptionRows = 4;  ///< rows of link options that show at once
