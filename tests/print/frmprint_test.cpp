@@ -325,7 +325,7 @@ TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
     EXPECT_GT(sheet->scrolled(), 0);
     EXPECT_EQ(preview->currentPage(), 0);
     key(Qt::Key_F1);
-    EXPECT_EQ(run.recorded.calls.last(), str("showHelpFor frmNahled"));
+    EXPECT_TRUE(run.recorded.calls.contains(str("showHelpFor frmNahled")));
     key(Qt::Key_Escape);
     EXPECT_FALSE(preview->isLoaded());
     EXPECT_EQ(run.FormStack.top(), form());

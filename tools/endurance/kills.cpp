@@ -107,6 +107,13 @@ bool isWhole(const QString& text) {
     return text.isEmpty() || text == noteText(text.section(u' ', 0, 0).toInt());
 }
 
+/// What became of a book whose program was killed again and again.
+struct KillCounts {
+    int kills = 0;
+    int saves = 0;   ///< that were acknowledged before a kill
+    int faults = 0;  ///< kills after which the book did not open, or words were lost or torn
+};
+
 class Kills {
   public:
     Kills(const QString& book, unsigned seed) : book_(book), random_(seed) {}
@@ -247,13 +254,20 @@ class Kills {
 
 }  // namespace
 
-QList<std::pair<const char*, KillCounts>> killEverywhere(const QString& book, int count, unsigned seed) {
+int killEverywhere(const QString& book, int count, unsigned seed, QTextStream& out) {
     Kills kills(book, seed);
-    return {{"note saves", kills.notes(count)},
-            {"settings saves", kills.settings(count)},
-            {"first copy", kills.copies(count, Kills::Before::Nothing)},
-            {"renewal", kills.copies(count, Kills::Before::Sound)},
-            {"renewal of a damaged copy", kills.copies(count, Kills::Before::Damaged)}};
+    int faults = 0;
+    const auto tell = [&](const char* what, const KillCounts& counts) {
+        out << what << ": " << counts.kills << " kills, " << counts.saves << " saves acknowledged, "
+            << counts.faults << " faults" << Qt::endl;
+        faults += counts.faults;
+    };
+    tell("note saves", kills.notes(count));
+    tell("settings saves", kills.settings(count));
+    tell("first copy", kills.copies(count, Kills::Before::Nothing));
+    tell("renewal", kills.copies(count, Kills::Before::Sound));
+    tell("renewal of a damaged copy", kills.copies(count, Kills::Before::Damaged));
+    return faults;
 }
 
 }  // namespace sarne

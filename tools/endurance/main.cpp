@@ -34,12 +34,6 @@ int main(int argc, char** argv) {
     if (!kills)
         return readDamaged(options.value(program), options.value(disc), times, options.value(seed).toUInt(),
                            20) > 0;
-    int faults = 0;
-    for (const auto& [what, counts] : killEverywhere(options.value(program) + QStringLiteral("/Sarne.drc"),
-                                                     times, options.value(seed).toUInt())) {
-        out << what << ": " << counts.kills << " kills, " << counts.saves << " saves acknowledged, "
-            << counts.faults << " faults\n";
-        faults += counts.faults;
-    }
-    return faults > 0;
+    const QString book = options.value(program) + QStringLiteral("/Sarne.drc");
+    return killEverywhere(book, times, options.value(seed).toUInt(), out) > 0;
 }
