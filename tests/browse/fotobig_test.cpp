@@ -36,16 +36,6 @@ TEST(PhotoSteps, StopsAtTheEndsAndWrapsByItself) {
     EXPECT_EQ(steps.position(), 0);
 }
 
-TEST(PhotoSteps, TheGuardCountsFromTheLastClickThatCounted) {
-    PhotoSteps steps;
-    steps.start({1, 2}, 0);
-    EXPECT_TRUE(steps.accept(0)) << "the first click of all";
-    EXPECT_FALSE(steps.accept(499));
-    EXPECT_TRUE(steps.accept(500));
-    EXPECT_FALSE(steps.accept(999));
-    EXPECT_TRUE(steps.accept(1000));
-}
-
 TEST(PhotoSteps, NeighboursAreWhereAStepCanLead) {
     PhotoSteps steps;
     Ids all;

@@ -45,6 +45,8 @@ class NamePlateTest : public testing::Test {
         nameless.place({7500, 3000, 1500, 900});
         first.setTip(QStringLiteral("Pánev"));
         second.setTip(QStringLiteral("Hrnec"));
+        nameless.setCaption(QStringLiteral("Mísa"));
+        nameless.setTip(QStringLiteral("Mísa"));  // its caption says it already
         form->showForm();
     }
     const NamePlate& plate() { return run.window.namePlate(); }

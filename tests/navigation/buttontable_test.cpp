@@ -37,20 +37,5 @@ TEST(ButtonTable, ArrowsGoToTheNearestAndEveryButtonCanBeReached) {
     EXPECT_EQ(reached.size(), 19u);
 }
 
-TEST(ButtonTable, ReadingOrderGoesRound) {
-    const auto table = buttonTable({});
-    std::set<int> seen;
-    int at = buttonInReadingOrder(table, -5, 1);
-    EXPECT_EQ(at, firstButton(table));
-    for (int i = 0; i < 19; ++i) {
-        seen.insert(at);
-        EXPECT_EQ(buttonInReadingOrder(table, buttonInReadingOrder(table, at, 1), -1), at);
-        at = buttonInReadingOrder(table, at, 1);
-    }
-    EXPECT_EQ(seen.size(), 19u);
-    EXPECT_EQ(at, firstButton(table));
-    EXPECT_EQ(buttonInReadingOrder(table, -5, -1), lastButton(table));
-}
-
 }  // namespace
 }  // namespace sarne

@@ -134,6 +134,10 @@ TEST_F(IngredientPanelTest, TheKeyboardStepsOverThePicturesWithHints) {
     EXPECT_EQ(run.announced.last(), QStringLiteral("Přepočti na gramy"));
     press(Qt::Key_Down);
     EXPECT_EQ(run.announced.last(), QStringLiteral("Suroviny")) << "up and down lead back to the sections";
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), QStringLiteral("imgPrepocet(2)"));
+    press(Qt::Key_Right);
+    EXPECT_EQ(focused(), QStringLiteral("imgPrepocet(4)")) << "on from where Tab has led";
 }
 
 TEST_F(IngredientPanelTest, TheUnitsLastLookedAtOutliveTheRecipe) {

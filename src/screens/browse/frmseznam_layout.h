@@ -47,7 +47,7 @@ constexpr QRect action(int place) {
 }
 /// Behind the framed picture of an action.
 constexpr QRect actionPlate(int place) {
-    return {action(place).x() - 35, action(place).y() - 50, 1220, 1180};
+    return {action(place).x() - 10, action(place).y() - 30, 1170, 1110};
 }
 inline constexpr QRect kBar{7600, 6860, 4150, 1140};
 

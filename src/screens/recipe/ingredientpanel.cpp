@@ -219,8 +219,10 @@ void IngredientPanel::unitToggle() {
 
 bool IngredientPanel::step(bool sideways, int direction) {
     if (!sideways) return false;
-    const int position = position_.step(direction);
-    room_.form.ring().goTo(*pictures()[size_t(position / kCutleryStep - 1)]);
+    const std::vector<Control*> all = pictures();
+    const auto at = std::ranges::find(all, room_.form.ring().current());
+    if (at != all.end()) position_.set(cutleryIndex(size_t(at - all.begin())));  // Tab leads here, too
+    room_.form.ring().goTo(*all[size_t(position_.step(direction) / kCutleryStep - 1)]);
     return true;
 }
 
