@@ -135,6 +135,13 @@ def fillet(skin=False, **more):
     return food.slab(line, .4, fleshside(ribs=False, **more), 3.0, .05, .8, 20, .06, .01, 6, 3, side=food.fishskin("carp", "raw"))
 
 
+def friedfillet():
+    """The scored fillet, fried."""
+    line = outline("carp", .26, .97)
+    line[:, 1] = np.maximum(line[:, 1], -.11 * CARP * np.clip((line[:, 0] / CARP + .32) / .25, .35, 1))
+    return food.slab(line, .45, mat("friedscored", ((.36, "7a4416"), (.5, "b8762c"), (.62, "dba758")), .45, coat=.3, noise=5, detail=9, bump=.7, bumpscale=14), 3.0, .05, .8, 20, .06, .05, 7, 3)
+
+
 def bare(f):
     """A cut fish as flat as a fillet and without its fins."""
     g = f.children[0]
@@ -165,8 +172,8 @@ def frame(kind="carp", raw=True):
     return group(parts)
 
 
-def opened(gutted=True):
-    """The carp with its belly cut open; gutted: empty, with the dark membrane along the spine."""
+def opened(gutted=True, washed=False):
+    """The carp with its belly cut open; gutted: empty, with the dark membrane along the spine; washed: without it."""
     f = whole("carpscaled")
     core.bpy.context.view_layer.update()
     k = fishlib.KINDS["carp"]
@@ -184,11 +191,11 @@ def opened(gutted=True):
     h, w = 160, 480
     b, a = np.mgrid[0:1:h * 1j, 0:1:w * 1j]
     n = fbm(np.stack([a * 9, b * 3, a * 0], -1), 4, 4)
-    dark, wall = np.array([.20, .045, .04]), np.array([.52, .22, .18])
+    dark, wall = (np.array([.62, .36, .30]), np.array([.78, .52, .45])) if washed else (np.array([.20, .045, .04]), np.array([.52, .22, .18]))
     img = dark + (wall - dark) * np.clip(b * 1.5 - .15 + (n - .5) * .6, 0, 1)[..., None]
     rib = np.exp(-((np.mod(a * 15 + b * .8, 1) - .5) / .12) ** 2) * np.clip((b - .2) / .2, 0, 1)
     img = img + (np.array([.86, .66, .58]) - img) * (rib * .5)[..., None]
-    m = mat("cavity", "5a1c16", .18, .6, coat=.9, image=core.picture("cavity", img.clip(0, 1)))
+    m = mat("cavity", "5a1c16", .18, .6, coat=.9, image=core.picture("cavity-washed" if washed else "cavity", img.clip(0, 1)))
     uv = [(i / (nu - 1), j / (nv - 1)) for i in range(nu) for j in range(nv)]
     parts = [f, mesh(v, core.grid_faces(nu, nv), m, uv=uv)]
     lip = [v[i * nv + nv - 1] for i in range(nu)]
@@ -329,6 +336,84 @@ def aspic(full=True):
     return g
 
 
+def aspicstage(stage):
+    """The mould with a first set layer (dno), or with fish and vegetables laid on it (kousky)."""
+    g = aspic(False)
+    put(lathe([(.01, .5), (1.2, .5), (1.62, .51)], mat("aspiclayer", "d9a640", .05, .6, trans=.45, ior=1.2, coat=1), 64)).parent = g
+    if stage == "kousky":
+        for i in range(6):
+            a = i * 1.05
+            put(food.flake("tuna", .75, "poached"), .95 * math.cos(a), .95 * math.sin(a), .5, turn=i * 50).parent = g
+        for i in range(5):
+            put(food.carrot_star(.28), 1.35 * math.cos(i * 1.26 + .5), 1.35 * math.sin(i * 1.26 + .5), .56).parent = g
+        put(food.egg_slice(.5), 0, 0, .62).parent = g
+    return g
+
+
+def turnedout():
+    """The aspic turned out onto a plate, fish and vegetables seen within."""
+    parts = [table.plate(4.0, "ece6da", "blue"), put(lathe(table.smooth_profile([(2.2, .16), (2.12, .5), (1.85, 1.0), (1.3, 1.4), (.7, 1.55), (.01, 1.57)], 6), mat("aspicbody", "cf9a36", .05, .6, trans=.35, ior=1.15, coat=1), 96))]
+    for i in range(6):
+        a = i * 1.05
+        parts.append(put(food.flake("tuna", .7, "poached"), 1.3 * math.cos(a), 1.3 * math.sin(a), 1.14, turn=i * 50, tilt=18))
+    for i in range(5):
+        parts.append(put(food.carrot_star(.3), .8 * math.cos(i * 1.26 + .5), .8 * math.sin(i * 1.26 + .5), 1.48))
+    parts.append(put(food.egg_slice(.55), 0, 0, 1.52))
+    for i in range(7):
+        a = i * .9 + .4
+        parts.append(put(food.sprig("parsley", .8), 2.9 * math.cos(a), 2.9 * math.sin(a), .3, turn=i * 70))
+    return group(parts)
+
+
+def ladle():
+    """A ladle, its bowl at the anchor."""
+    m = table.steel()
+    cup = lathe(table.smooth_profile([(.01, 0), (.5, .06), (.85, .4), (.95, .8), (.9, .8), (.8, .42), (.45, .12), (.01, .08)], 5), m, 48)
+    return group([cup, tube(curve_points([(.9, 0, .75), (1.6, 0, 1.1), (3.0, 0, 1.4), (5.0, 0, 1.5)], 8), .1, m, 12)])
+
+
+def thermometer():
+    """A probe thermometer: a steel needle, a round dial."""
+    m = table.steel()
+    face = mat("dialface", "f4efe2", .4, coat=.5)
+    parts = [tube([(-3.2, 0, .3), (0, 0, .3)], [.03, .07], m, 12), put(lathe([(.01, 0), (.85, 0), (.9, .12), (.85, .26), (.76, .26)], m, 64), 1.0, 0, .15), put(lathe([(.01, .24), (.76, .24)], face, 64), 1.0, 0, .15)]
+    for i in range(9):
+        a = math.radians(-220 + i * 32.5)
+        parts.append(put(box(.14, .035, .02, table.iron()), 1.0 + .6 * math.cos(a), .6 * math.sin(a), .41, turn=math.degrees(a)))
+    a = math.radians(15)
+    parts.append(put(box(.62, .05, .03, mat("needle", "a8281c", .4)), 1.0 + .22 * math.cos(a), .22 * math.sin(a), .43, turn=15))
+    return group(parts)
+
+
+def sliced():
+    """The cut side of a scored fillet, bent open: thin leaves of flesh that hang together by the skin below."""
+    m = mat("sliceleaf", ((.38, "dba794"), (.5, "ecc7b4"), (.62, "f6e0d4")), .28, .5, coat=.6, noise=2.5, bump=.25, cells=3)
+    parts, n = [], 15
+    for i in range(n):
+        q = (i - (n - 1) / 2) / ((n - 1) / 2)
+        leaf = food.slab([(-.15, -.9), (.15, -.9), (.16, 0), (.15, .95), (-.15, .95), (-.16, 0)], 1.9, m, 6, .03, 2, 10, 0, .01, 6, i)
+        parts.append(put(leaf, q * 2.9, 0, .32 - .22 * q * q, roll=q * 24))
+    skin_ = food.fishskin("carp", "raw")
+    strip = curve_points([(-3.1, 0, .02), (-1.5, 0, .22), (0, 0, .3), (1.5, 0, .22), (3.1, 0, .02)], 8)
+    parts.append(mesh([(x, y, z + .03) for x, _, z in strip for y in (-.95, 1.0)], core.grid_faces(len(strip), 2), skin_, uv=[(i / len(strip), j) for i in range(len(strip)) for j in (0, 1)]))
+    return group(parts)
+
+
+def ground(kind):
+    """What everything stands on, larger than the view: a white cloth, a dark hob with a ring that glows."""
+    if kind == "ubrus":
+        return group([table.boards("oak", 20, 4.2), table.cloth("damask", 19, 17, folds=.1)])
+    parts = [box(20, 18, .4, mat("hob", "15191b", .62, .2), .02)]
+    put(parts[0], 0, 0, -.4)
+    for r, col, glow in ((3.1, "d8481c", 3.0), (2.6, "c23c16", 2.2), (2.1, "b03612", 1.8)):
+        ring = mat("glow%.1f" % r, col, .6)
+        s = ring.node_tree.nodes["Principled BSDF"]
+        s.inputs["Emission"].default_value = (*core.rgb(col)[:3], 1)
+        s.inputs["Emission Strength"].default_value = glow
+        parts.append(put(table.torus(r, .05, ring), 0, 0, .01, scale=(1, 1, .2)))
+    return group(parts)
+
+
 def trout(part):
     """The fried trout that is boned at table: whole, its upper fillet, what lies below, the frame."""
     if part == "whole":
@@ -356,8 +441,12 @@ THINGS = {
     "prkno": lambda: table.board(11, 6.6, "pale", False, .5, .5), "panev": lambda: fried(False), "panev-tuk": fried, "hrnec": lambda: potted(False), "hrnec-voda": potted, "poklice": lambda: table.potlid(2.9, "steel"),
     "talir": lambda: table.plate(4.0, "ece6da", "blue"), "misa": lambda: table.bowl(2.4, 1.6, "ece6da", rim="teal"), "talir-mouka": lambda: filled("flour"), "talir-vejce": lambda: filled("egg"),
     "talir-strouhanka": lambda: filled("crumbs"), "forma": lambda: aspic(False), "forma-aspik": aspic, "citron": lambda: food.lemon_half(.9), "sul": lambda: table.bowl(1.0, .7, "e9e0cc", inside="f7f4ec", rim="copper"),
+    "kapr-vymyty": lambda: opened(True, True), "kapr-filet-smazeny": lambda: friedfillet(), "prorez": sliced, "naberacka": ladle, "teplomer": thermometer,
+    "uterka": lambda: table.cloth("check", 5.2, 3.8, folds=.3), "forma-dno": lambda: aspicstage("dno"), "forma-kousky": lambda: aspicstage("kousky"), "aspik": turnedout,
+    "ubrus": lambda: ground("ubrus"), "sporak": lambda: ground("sporak"),
 }
-SMALLER = {"prkno": .66} | dict.fromkeys("panev panev-tuk hrnec hrnec-voda poklice talir talir-mouka talir-vejce talir-strouhanka misa forma forma-aspik".split(), .5)   # share of the usual scale at which a large thing is rendered
+GROUNDS = {"ubrus": 70, "sporak": 70}   # of these the middle, 18 x 14 units, is rendered at so many pixels a unit
+SMALLER = {"prkno": .66} | dict.fromkeys("panev panev-tuk hrnec hrnec-voda poklice talir talir-mouka talir-vejce talir-strouhanka misa forma forma-aspik forma-dno forma-kousky aspik uterka".split(), .5)   # share of the usual scale at which a large thing is rendered
 
 
 def seen(o):
@@ -377,8 +466,8 @@ def seen(o):
 def make(name, look):
     core.start(3)
     o = THINGS[name]()
-    l, b, r, t = (v + q for v, q in zip(seen(o), (-.06, -.06, .06, .06)))
-    scale = UNIT * SMALLER.get(name, 1) * (.25 if look else 1)
+    l, b, r, t = (-9, -7, 9, 7) if name in GROUNDS else (v + q for v, q in zip(seen(o), (-.06, -.06, .06, .06)))
+    scale = (GROUNDS.get(name) or UNIT * SMALLER.get(name, 1)) * (.25 if look else 1)
     w, h = int((r - l) * scale), int((t - b) * scale)
     e = math.radians(HIGH)
     up = Vector((0, math.sin(e), math.cos(e)))

@@ -24,6 +24,8 @@ constexpr qint64 kDiscLimit = 650'000'000;
 
 struct Options {
     QString content, art, out, rcc;
+    /// The only film to be made, empty for a whole disc.
+    QString film;
     Edition edition;
     DiscKind kind;
 };
@@ -44,6 +46,8 @@ Options parse(const QCoreApplication& app) {
           here + QStringLiteral("/disc-out")},
          {QStringLiteral("rcc"), QStringLiteral("překladač zdrojů Qt"), QStringLiteral("file"),
           libexec + QStringLiteral("/rcc")},
+         {QStringLiteral("film"), QStringLiteral("jen jeden film: číslo nebo „uvod“"),
+          QStringLiteral("název")},
          {QStringLiteral("vydani"), QStringLiteral("k vydání: co není hotové, je chyba")},
          {QStringLiteral("kompaktni"),
           QStringLiteral("disk desetinové velikosti: JPEG, Opus a H.264 místo BMP, WAV a AVI")}});
@@ -55,6 +59,7 @@ Options parse(const QCoreApplication& app) {
             folder("art"),
             folder("out"),
             parser.value(QStringLiteral("rcc")),
+            parser.value(QStringLiteral("film")),
             parser.isSet(QStringLiteral("vydani")) ? Edition::release : Edition::draft,
             parser.isSet(QStringLiteral("kompaktni")) ? DiscKind::Compact : DiscKind::Full};
 }
@@ -94,6 +99,11 @@ int main(int argc, char** argv) {
                   ledger,
                   problems,
                   options.kind};
+    if (!options.film.isEmpty()) {
+        makeVideos(shop, options.film);
+        ledger.save();
+        return report(problems);
+    }
     if (!problems.hasErrors()) makeDatabase(shop, folder);
     if (problems.hasErrors()) return report(problems);
     makePhotos(shop);

@@ -58,7 +58,8 @@ QString originOf(const QStringList& files, const QString& details) {
 QString Workshop::artPicture(const QString& stem) const {
     const QFileInfo wanted(art + u'/' + stem);
     const QStringList patterns{wanted.fileName() + QStringLiteral(".jpg"),
-                               wanted.fileName() + QStringLiteral(".png")};
+                               wanted.fileName() + QStringLiteral(".png"),
+                               wanted.fileName() + QStringLiteral(".webp")};
     const QStringList found = QDir(wanted.path()).entryList(patterns, QDir::Files, QDir::Name);
     return wanted.path() + u'/' + (found.isEmpty() ? patterns.first() : found.first());
 }

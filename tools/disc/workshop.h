@@ -71,7 +71,8 @@ struct Workshop {
     /// Where the music and the names are made as WAV: on the full disc, which plays them so, else on the way.
     QString waves() const { return either(disc, scratch + QStringLiteral("/disk")); }
 
-    /// The picture of the art that \a stem names ("rendered/pozadi/sit"): a JPEG or PNG, letter case aside.
+    /// The picture of the art that \a stem names ("rendered/pozadi/sit"): a JPEG, PNG or WebP, letter case
+    /// aside.
     /// Where there is none, the path that it should have.
     QString artPicture(const QString& stem) const;
     /// The same; an error naming the file when it is missing.

@@ -4,9 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QSaveFile>
 #include <QTemporaryDir>
 
-#include "draw.h"
+#include "projector.h"
 
 namespace sarne::disc {
 namespace {
@@ -15,30 +16,40 @@ constexpr int kTimeout = 120'000;
 /// Bytes that wait for ffmpeg before the next frame is drawn.
 constexpr qint64 kAhead = 8 * qint64{kFilmWidth} * kFilmHeight * 4;
 
-/// How a film is stored, by the ending of its name; a key frame every second or two, so that seeking is
-/// quick.
+/// How a film is stored, by the ending of its name.
 QString codecs(const QString& ending) {
     if (ending == u"mkv")
         return QStringLiteral(
-            "-c:v libx264 -preset fast -crf 21 -pix_fmt yuv420p -g 40 -c:a libopus -b:a 96k -f matroska");
-    return QStringLiteral("-c:v mpeg4 -vtag XVID -q:v 6 -g 20 -bf 0 -c:a pcm_s16le -f avi");
+            "-c:v libx264 -preset fast -crf 21 -pix_fmt yuv420p -g 100 -c:a libopus -b:a 96k -f matroska");
+    return QStringLiteral(
+        "-c:v mpeg4 -vtag XVID -q:v 4 -g 150 -bf 0 -sc_threshold 1000000000 -c:a libmp3lame -b:a 80k -ac 1 "
+        "-f avi");
 }
 
-QStringList arguments(const QString& sound, const QString& output) {
+/// Where the film can be entered at once.
+QString keyFrames(const Film& film) {
+    QStringList times{QStringLiteral("0")};
+    for (const Chapter& chapter : film.chapters) times << QString::number(chapter.begin, 'f', 3);
+    return times.join(u',');
+}
+
+QStringList arguments(const Film& film, const QString& sound, const QString& output) {
     const QString input = QStringLiteral("-v error -y -f rawvideo -pix_fmt bgr0 -s %1x%2 -r %3 -i - -i")
                               .arg(kFilmWidth)
                               .arg(kFilmHeight)
                               .arg(kFramesPerSecond);
-    const QString film = QStringLiteral("-map 0:v -map 1:a -threads 1 -fflags +bitexact ");
-    return input.split(u' ') + QStringList{sound} + (film + codecs(QFileInfo(output).suffix())).split(u' ') +
+    const QString made =
+        QStringLiteral("-map 0:v -map 1:a -threads 1 -fflags +bitexact -force_key_frames %1 ")
+            .arg(keyFrames(film));
+    return input.split(u' ') + QStringList{sound} + (made + codecs(QFileInfo(output).suffix())).split(u' ') +
            QStringList{output};
 }
 
-bool sendFrames(QProcess& encoder, const Film& film, const QImage& ground) {
-    const int count = static_cast<int>(film.seconds() * kFramesPerSecond);
+bool sendFrames(QProcess& encoder, const Film& film, const std::function<const QImage&(double)>& frame) {
+    const int count = static_cast<int>(film.seconds * kFramesPerSecond);
     for (int i = 0; i < count; ++i) {
-        const QImage frame = drawFrame(film, ground, static_cast<double>(i) / kFramesPerSecond);
-        encoder.write(reinterpret_cast<const char*>(frame.constBits()), frame.sizeInBytes());
+        const QImage& picture = frame(static_cast<double>(i) / kFramesPerSecond);
+        encoder.write(reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes());
         while (encoder.bytesToWrite() > kAhead)
             if (!encoder.waitForBytesWritten(kTimeout)) return false;
     }
@@ -47,20 +58,28 @@ bool sendFrames(QProcess& encoder, const Film& film, const QImage& ground) {
 
 }  // namespace
 
-bool encodeFilm(const Film& film, const QImage& ground, const Sound& sound, const QString& file,
-                const QString& scratch) {
+bool encodeFilm(const Film& film, const std::function<const QImage&(double)>& frame, const Sound& sound,
+                const QString& file, const QString& scratch) {
     const QTemporaryDir folder(scratch + QStringLiteral("/film"));
     const QString wave = folder.filePath(QStringLiteral("zvuk.wav"));
     const QString made = folder.filePath(QStringLiteral("film.") + QFileInfo(file).suffix().toLower());
     if (!writeWav(wave, sound)) return false;
     QProcess encoder;
     encoder.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    encoder.start(QStringLiteral("ffmpeg"), arguments(wave, made));
-    if (!encoder.waitForStarted() || !sendFrames(encoder, film, ground)) return false;
+    encoder.start(QStringLiteral("ffmpeg"), arguments(film, wave, made));
+    if (!encoder.waitForStarted() || !sendFrames(encoder, film, frame)) return false;
     encoder.closeWriteChannel();
     if (!encoder.waitForFinished(kTimeout) || encoder.exitCode() != 0) return false;
     QFile::remove(file);
     return QFile::rename(made, file) || QFile::copy(made, file);
+}
+
+bool writeChapters(const Film& film, const QString& file) {
+    QString text;
+    for (const Chapter& chapter : film.chapters)
+        text += QStringLiteral("%1\t%2\n").arg(chapter.begin, 0, 'f', 2).arg(chapter.title);
+    QSaveFile out(file);
+    return out.open(QIODevice::WriteOnly) && out.write(text.toUtf8()) >= 0 && out.commit();
 }
 
 }  // namespace sarne::disc

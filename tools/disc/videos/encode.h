@@ -1,17 +1,22 @@
 #pragma once
 
 #include <QImage>
+#include <functional>
 
 #include "../sounds/sound.h"
 #include "film.h"
 
 namespace sarne::disc {
 
-constexpr int kFramesPerSecond = 20;
+constexpr int kFramesPerSecond = 25;
 
-/// Writes the film with its sound, through ffmpeg, as an AVI or, where \a file ends so, a Matroska file
-/// (.mkv). False when that fails; \a file is then as it was.
-bool encodeFilm(const Film& film, const QImage& ground, const Sound& sound, const QString& file,
-                const QString& scratch);
+/// Writes a film with its sound, through ffmpeg, as an AVI or, where \a file ends so, a Matroska file (.mkv).
+/// \a frame gives the picture of a moment; the film can be entered at its chapters. False when that fails;
+/// \a file is then as it was.
+bool encodeFilm(const Film& film, const std::function<const QImage&(double)>& frame, const Sound& sound,
+                const QString& file, const QString& scratch);
+
+/// Writes the chapters beside a film: a line for each, the seconds, a tab, the title. False when that fails.
+bool writeChapters(const Film& film, const QString& file);
 
 }  // namespace sarne::disc

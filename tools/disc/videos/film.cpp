@@ -1,48 +1,70 @@
 #include "film.h"
 
+#include <QLineF>
+#include <QtMath>
 #include <algorithm>
 #include <cmath>
 
 namespace sarne::disc {
 namespace {
 
-double eased(double share) {
-    const double x = std::clamp(share, 0.0, 1.0);
-    return x * x * (3 - 2 * x);
+/// The point at a share of a way's length.
+QPointF along(const QPolygonF& way, double share) {
+    double length = 0;
+    for (qsizetype i = 1; i < way.size(); ++i) length += QLineF(way[i - 1], way[i]).length();
+    double left = share * length;
+    for (qsizetype i = 1; i < way.size(); ++i) {
+        const QLineF part(way[i - 1], way[i]);
+        if (left <= part.length()) return part.length() > 0 ? part.pointAt(left / part.length()) : part.p1();
+        left -= part.length();
+    }
+    return way.last();
 }
 
-double shareOf(double time, double from, double to) {
-    return to > from ? std::clamp((time - from) / (to - from), 0.0, 1.0) : (time >= from ? 1 : 0);
-}
-
-void apply(const Move& move, double share, Pose& pose) {
-    if (share < move.first) return;
-    const double done = eased(shareOf(share, move.first, move.last));
-    pose.values.insert(move.property, move.from + (move.to - move.from) * done);
-}
-
-/// There and back; the first and the last time less far, so that nothing jerks.
-void apply(const Swing& swing, double share, Pose& pose) {
-    if (share <= swing.from || share >= swing.to) return;
-    const double within = shareOf(share, swing.from, swing.to);
-    const double reach = std::min({1.0, within * 8, (1 - within) * 8});
-    const double way = reach * std::sin(2 * M_PI * swing.times * within);
-    pose.values[QStringLiteral("x")] += swing.dx * way;
-    pose.values[QStringLiteral("y")] += swing.dy * way;
-    pose.values[QStringLiteral("otočení")] += swing.turn * way;
+/// There and back; less far at both ends, so that nothing jerks.
+void apply(const Swing& swing, double seconds, Pose& pose) {
+    if (seconds <= swing.begin || seconds >= swing.end) return;
+    const double reach = std::min({1.0, (seconds - swing.begin) * 4, (swing.end - seconds) * 4});
+    const double phase = 2 * M_PI * swing.perSecond * (seconds - swing.begin);
+    const double angle = qDegreesToRadians(pose.of(Property::angle));
+    const QPointF way(
+        swing.reach.x() * std::sin(phase),
+        swing.reach.y() * std::sin(phase + (swing.reach.y() == swing.reach.x() ? M_PI / 2 : 0)));
+    pose.place += reach * QPointF(way.x() * std::cos(angle) - way.y() * std::sin(angle),
+                                  way.x() * std::sin(angle) + way.y() * std::cos(angle));
+    pose.of(Property::angle) += reach * swing.turn * std::sin(phase);
 }
 
 }  // namespace
 
-Pose Film::pose(const Actor& actor, double seconds) const {
-    Pose pose{actor.start, seconds};
-    for (const Step& step : steps) {
-        if (seconds < step.begin) break;
-        const double share = shareOf(seconds, step.begin, step.end);
-        for (const Move& move : step.moves.value(actor.name)) apply(move, share, pose);
-        for (const Swing& swing : step.swings.value(actor.name)) apply(swing, share, pose);
-    }
+double easedShare(double seconds, double begin, double end) {
+    if (end <= begin) return seconds >= begin ? 1 : 0;
+    const double x = std::clamp((seconds - begin) / (end - begin), 0.0, 1.0);
+    return x * x * (3 - 2 * x);
+}
+
+Pose poseOf(const Actor& actor, double seconds) {
+    Pose pose;
+    pose.of(Property::opacity) = 0;
+    for (const Walk& walk : actor.walks)
+        if (seconds >= walk.begin) pose.place = along(walk.way, easedShare(seconds, walk.begin, walk.end));
+    for (const Glide& glide : actor.glides)
+        if (seconds >= glide.begin)
+            pose.of(glide.property) =
+                glide.from + (glide.to - glide.from) * easedShare(seconds, glide.begin, glide.end);
+    for (const Swing& swing : actor.swings) apply(swing, seconds, pose);
     return pose;
+}
+
+View viewOf(const Set& set, double seconds) {
+    View view;
+    for (const ViewMove& move : set.views) {
+        if (seconds < move.begin) break;
+        const double share = easedShare(seconds, move.begin, move.end);
+        view.middle += (move.to.middle - view.middle) * share;
+        view.nearness *= std::pow(move.to.nearness / view.nearness, share);
+    }
+    return view;
 }
 
 }  // namespace sarne::disc

@@ -1,93 +1,157 @@
 #pragma once
 
-#include <QHash>
 #include <QList>
+#include <QPolygonF>
 #include <QString>
 
-#include "../textfile.h"
+#include "../problems.h"
+#include "script.h"
 
 namespace sarne::disc {
 
-/// How a thing of a film stands at one moment: its properties, and the seconds since the film began, by which
-/// water ripples and steam rises.
-struct Pose {
-    QHash<QString, double> values;
-    double seconds = 0;
+/// The film's stage in centimetres: what the whole view shows, (0, 0) being the middle of the part that no
+/// caption covers.
+constexpr double kStageWidth = 40;
+/// How much of it lies above the middle; what it shows is four to three.
+constexpr double kStageAbove = 0.3075 * kStageWidth;
 
-    double of(const QString& property, double missing = 0) const { return values.value(property, missing); }
-};
+/// What of a thing changes with time.
+enum class Property { angle, opacity, reveal, lift, squash, count };
 
-/// A property that goes from one value to another between two shares of a step, slowly at both ends.
-struct Move {
-    QString property;
+/// A property that goes from one value to another, slowly at both ends. Times are seconds of the film.
+struct Glide {
+    Property property = Property::opacity;
+    double begin = 0;
+    double end = 0;
     double from = 0;
-    double to = 1;
-    double first = 0;
-    double last = 1;
+    double to = 0;
 };
 
-/// A movement there and back, several times between two shares of a step.
+/// A way that a thing goes, with the same gentle start and end.
+struct Walk {
+    double begin = 0;
+    double end = 0;
+    QPolygonF way;
+};
+
+/// A small movement there and back, many times: sawing, scraping, stirring, trembling.
 struct Swing {
-    double times = 4;
-    double dx = 0;
-    double dy = 0;
+    double begin = 0;
+    double end = 0;
+    double perSecond = 3;
+    QPointF reach;
     double turn = 0;
-    double from = 0;
-    double to = 1;
 };
 
-/// A thing that is drawn: its kind ("kapr", "nůž" …) and how it stands at first.
+/// A picture on the stage.
 struct Actor {
-    Place place;
     QString name;
-    QString kind;
-    QHash<QString, double> start;
+    QString layer;
+    /// What has more lies above what has less.
+    double level = 0;
+    double size = 1;
+    /// What of the picture is there, centimetres from its anchor; where one was cut, each half has its part.
+    double left = -1000;
+    double right = 1000;
+    /// Where a picture that appears little by little has its edge at the beginning and at the end; equal ones
+    /// show it at once.
+    double revealFrom = 0;
+    double revealTo = 0;
+    /// Before this it lies in the shadow of the picture whose place it takes.
+    double shadowFrom = 0;
+    int set = 0;
+    QList<Glide> glides;
+    QList<Walk> walks;
+    QList<Swing> swings;
 };
 
-struct SoundCue {
+/// How an actor stands at one moment.
+struct Pose {
+    QPointF place;
+    double values[static_cast<int>(Property::count)] = {0, 0, 1, 0, 1};
+
+    double& of(Property property) { return values[static_cast<int>(property)]; }
+    double of(Property property) const { return values[static_cast<int>(property)]; }
+    bool operator==(const Pose&) const = default;
+};
+Pose poseOf(const Actor& actor, double seconds);
+
+/// Something that flows, flies or rises for a while about a place.
+struct Show {
+    Spectacle kind = Spectacle::water;
+    double begin = 0;
+    double end = 0;
+    /// The place, or the actor that it goes with, -1 for none.
+    QPointF place;
+    int actor = -1;
+    int set = 0;
+};
+
+/// A short text beside a place.
+struct Tag {
+    QString text;
+    QPointF place;
+    double begin = 0;
+    double end = 0;
+    int set = 0;
+};
+
+/// Where the eye is: the middle of what it sees and how much nearer than the whole view.
+struct View {
+    QPointF middle;
+    double nearness = 1;
+    bool operator==(const View&) const = default;
+};
+
+struct ViewMove {
+    double begin = 0;
+    double end = 0;
+    View to;
+};
+
+/// A ground and since when it is seen.
+struct Set {
+    QString ground;
+    double begin = 0;
+    QList<ViewMove> views;
+};
+View viewOf(const Set& set, double seconds);
+
+struct Cue {
     Place place;
     QString effect;
-    double share = 0;
-    double loudness = -10;
-};
-
-/// One caption, spoken and written, and what happens meanwhile.
-struct Step {
-    Place place;
-    QString caption;
-    /// At least so many seconds; the spoken caption may need more.
-    double seconds = 2.5;
-    QHash<QString, QList<Move>> moves{};
-    QHash<QString, QList<Swing>> swings{};
-    QList<SoundCue> sounds{};
-    /// The times in the film, known when the captions have been spoken.
     double begin = 0;
     double end = 0;
 };
 
-struct Film {
-    Place place;
-    QString title;
-    QString scene;
-    /// Second of the background music from which it sounds under the film; negative for none.
-    double music = -1;
-    QList<Actor> actors;
-    QList<Step> steps;
-
-    double seconds() const { return steps.isEmpty() ? 0 : steps.last().end; }
-    /// How the actor stands at \a seconds.
-    Pose pose(const Actor& actor, double seconds) const;
+struct Caption {
+    QString text;
+    /// "2 · Žábry": the chapter that it belongs to, empty in a film of one.
+    QString chapter;
+    double begin = 0;
+    double end = 0;
 };
 
-/// Reads a film's script:
-///   scéna: prkno
-///   věc: ryba kapr x=400 y=300            a name and a kind; the things in front come last
-///   == The caption.
-///   trvá: 4
-///   nůž: od=0 do=0,5 x=100>300 otočení=-40
-///   nůž: od=0,5 do=1 kmitů=4 dx=30
-///   zvuk: 0,3 nalévání hlas=-12
-/// Whatever is unknown or wrong is reported with its line.
-Film readFilm(const Lines& lines, const QString& title, Problems& problems);
+/// A part of the film that can be gone to.
+struct Chapter {
+    QString title;
+    double begin = 0;
+};
+
+/// What a script came to: everything has its time.
+struct Film {
+    QString title;
+    double seconds = 0;
+    QList<Set> sets;
+    QList<Actor> actors;
+    QList<Show> shows;
+    QList<Tag> tags;
+    QList<Cue> cues;
+    QList<Caption> captions;
+    QList<Chapter> chapters;
+};
+
+/// 0 to 1 within the times, slowly at both ends.
+double easedShare(double seconds, double begin, double end);
 
 }  // namespace sarne::disc

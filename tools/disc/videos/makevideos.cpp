@@ -1,23 +1,29 @@
 #include "makevideos.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <mutex>
 
 #include "../spelling.h"
 #include "../stamps.h"
 #include "../typography.h"
-#include "draw.h"
+#include "direct.h"
 #include "encode.h"
+#include "projector.h"
 #include "soundtrack.h"
 
 namespace sarne::disc {
 namespace {
 
 const QString kEffects = QStringLiteral("zvuky/efekty.txt");
+const QString kCast = QStringLiteral("videa/obsazeni.txt");
+const QString kMusic = QStringLiteral("zvuky/hudba.txt");
 
 /// A video that is to be made.
 struct Job {
-    Film film;
-    QString file;
+    Script script;
+    QString film;
+    QString chapters;
     QString origin;
 };
 
@@ -25,74 +31,160 @@ struct Job {
 struct Source {
     QString script;
     QString title;
-    QString file;
+    QString stem;
 };
 
 QList<Source> sources(const Workshop& shop) {
-    const QString file =
-        shop.disc + QStringLiteral("/VIDEO/%1.") + shop.either(QStringLiteral("AVI"), QStringLiteral("mkv"));
-    QList<Source> all{{QStringLiteral("videa/uvod.txt"), {}, file.arg(QStringLiteral("UVOD"))}};
+    QList<Source> all{{QStringLiteral("videa/uvod.txt"), {}, shop.disc + QStringLiteral("/VIDEO/UVOD")}};
     for (const Video& video : shop.book.videos)
-        all << Source{QStringLiteral("videa/%1.txt").arg(video.number), video.title, file.arg(video.number)};
+        all << Source{QStringLiteral("videa/%1.txt").arg(video.number), video.title,
+                      shop.disc + QStringLiteral("/VIDEO/%1").arg(video.number)};
     return all;
 }
 
-QString originOfFilm(const Workshop& shop, const Source& source) {
-    const QStringList files{shop.content + u'/' + source.script, shop.content + u'/' + kEffects,
-                            shop.art + QStringLiteral("/rendered/pozadi/uvod.jpg"),
-                            shop.content + QStringLiteral("/zvuky/hudba.txt")};
-    return originOf(files + Voices::sources(shop.content), stamp::videos() + source.title);
+/// The pictures in which a thing may be seen.
+void addLooks(const QString& name, const Cast& cast, const QString& art, QSet<QString>& files) {
+    const Role* role = cast.find(name);
+    if (!role) return;
+    for (const auto& look : role->looks)
+        files << art + QStringLiteral("/rendered/film/") + cast.layers.value(look.second).file;
 }
 
-void proofreadCaptions(const ContentFolder& folder, const QList<Job>& jobs, Problems& problems) {
+/// The pictures that a script may need.
+QStringList picturesOf(const Script& script, const Cast& cast, const Workshop& shop) {
+    QSet<QString> files{shop.artPicture(grounds().value(script.ground).picture)};
+    for (const Scene& scene : script.scenes) {
+        if (!scene.ground.isEmpty()) files << shop.artPicture(grounds().value(scene.ground).picture);
+        for (const Sentence& line : scene.sentences) {
+            addLooks(line.subject, cast, shop.art, files);
+            for (const QString& part : line.parts) addLooks(part, cast, shop.art, files);
+        }
+    }
+    QStringList all(files.cbegin(), files.cend());
+    all.sort();
+    return all;
+}
+
+QString originOfFilm(const Workshop& shop, const Source& source, const QStringList& pictures) {
+    QStringList files{shop.content + u'/' + source.script, shop.content + u'/' + kCast,
+                      shop.content + u'/' + kEffects, shop.content + u'/' + kMusic};
+    return originOf(files + pictures + Voices::sources(shop.content), stamp::videos() + source.title);
+}
+
+void proofread(const ContentFolder& folder, const QList<Job>& jobs, Problems& problems) {
     QStringList known;
     for (const Row& row : tableRows(folder.read(QStringLiteral("slovnik.txt")))) known << row.at(0);
     SpellCheck spelling(known);
     for (const Job& job : jobs)
-        for (const Step& step : job.film.steps) {
-            checkTypography(step.caption, step.place, problems);
-            spelling.add(step.caption, step.place);
-        }
+        for (const Scene& scene : job.script.scenes)
+            for (const QString& text : {scene.chapter, scene.caption, scene.speech}) {
+                checkTypography(text, scene.place, problems);
+                spelling.add(text, scene.place);
+            }
     spelling.report(problems);
 }
 
-QList<Job> staleJobs(Workshop& shop, const ContentFolder& folder) {
+QList<Job> staleJobs(Workshop& shop, const ContentFolder& folder, const Cast& cast, const QString& only) {
     QList<Job> jobs;
     for (const Source& source : sources(shop)) {
-        const QString origin = originOfFilm(shop, source);
-        if (shop.ledger.isCurrent(source.file, origin)) continue;
-        jobs << Job{readFilm(folder.read(source.script), source.title, shop.problems), source.file, origin};
+        if (!only.isEmpty() && source.script != QStringLiteral("videa/%1.txt").arg(only)) continue;
+        const Script script = readScript(folder.read(source.script), source.title, cast, shop.problems);
+        const QStringList pictures = picturesOf(script, cast, shop);
+        for (const QString& picture : pictures)
+            if (!QFileInfo::exists(picture))
+                shop.problems.error({picture, 0}, QStringLiteral("obrázek chybí"));
+        const QString origin = originOfFilm(shop, source, pictures);
+        const QString film = source.stem + shop.either(QStringLiteral(".AVI"), QStringLiteral(".mkv"));
+        const QString chapters = source.stem + QStringLiteral(".KAP");
+        const bool isCurrent = shop.ledger.isCurrent(chapters, origin);
+        if (shop.ledger.isCurrent(film, origin) && isCurrent) continue;
+        jobs << Job{script, film, chapters, origin};
     }
-    if (!jobs.isEmpty()) proofreadCaptions(folder, jobs, shop.problems);
+    if (!jobs.isEmpty()) proofread(folder, jobs, shop.problems);
     for (Job& job : jobs)
-        for (Step& step : job.film.steps) step.caption = withUnbreakableBlanks(step.caption);
+        for (Scene& scene : job.script.scenes) scene.caption = withUnbreakableBlanks(scene.caption);
     return jobs;
 }
 
-bool make(Job& job, const QList<Effect>& effects, const Voices& voices, const Workshop& shop) {
-    QList<FilmFault> faults;
+/// The grounds, each read once for all films.
+class GroundStore {
+  public:
+    explicit GroundStore(const Workshop& shop) : shop_(shop) {}
+    QImage operator()(const QString& name) {
+        const std::lock_guard lock(reading_);
+        if (!pictures_.contains(name))
+            pictures_.insert(name, preparedGround(name, shop_.artPicture(grounds().value(name).picture)));
+        return pictures_.value(name);
+    }
+
+  private:
+    const Workshop& shop_;
+    std::mutex reading_;
+    QHash<QString, QImage> pictures_;
+};
+
+/// What all films share.
+struct Studio {
+    const Workshop& shop;
+    const Cast& cast;
+    const QList<Effect>& effects;
+    const Voices& voices;
+    GroundStore& grounds;
+};
+
+/// A lesson, which has a title, takes its time; the intro does not.
+void checkLength(const Script& script, const Film& film, Problems& problems) {
+    const double shortest = script.title.isEmpty() ? 8 : 40;
+    const double longest = script.title.isEmpty() ? 14 : 75;
+    if (film.seconds < shortest || film.seconds > longest)
+        problems.error(script.place, QStringLiteral("film trvá %1 s, má trvat %2 až %3")
+                                         .arg(film.seconds, 0, 'f', 1)
+                                         .arg(shortest)
+                                         .arg(longest));
+}
+
+bool make(const Job& job, const Studio& studio) {
+    Problems& problems = studio.shop.problems;
+    const qsizetype before = problems.errors().size();
+    const QList<Sound> speech = speakScenes(job.script, studio.voices, problems);
+    QList<double> seconds;
+    for (const Sound& one : speech) seconds << one.seconds();
+    const Film film = directFilm(job.script, studio.cast, seconds, problems);
+    checkLength(job.script, film, problems);
     const Sound sound =
-        makeSoundtrack(job.film, effects, shop.waves() + QStringLiteral("/HUDBA.WAV"), voices, faults);
-    for (const FilmFault& fault : faults) shop.problems.error(fault.place, fault.text);
-    if (!faults.isEmpty()) return false;
-    const QImage ground = drawScene(job.film.scene, shop.art);
-    if (encodeFilm(job.film, ground, sound, job.file, shop.scratch)) return true;
-    shop.problems.error(job.film.place, QStringLiteral("ffmpeg z něj neudělal video"));
+        makeSoundtrack(film, speech, studio.effects, studio.shop.waves() + QStringLiteral("/HUDBA.WAV"),
+                       job.script.music, problems);
+    if (problems.errors().size() > before) return false;
+    Projector projector(film, studio.cast, studio.shop.art,
+                        [&](const QString& name) { return studio.grounds(name); });
+    const auto frame = [&](double at) -> const QImage& { return projector.frame(at); };
+    if (encodeFilm(film, frame, sound, job.film, studio.shop.scratch) && writeChapters(film, job.chapters))
+        return true;
+    problems.error(job.script.place, QStringLiteral("ffmpeg z něj neudělal video"));
     return false;
 }
 
 }  // namespace
 
-void makeVideos(Workshop& shop) {
+Cast readFilmCast(const ContentFolder& folder, const QString& art, Problems& problems) {
+    const ContentFolder pictures(art + QStringLiteral("/rendered/film"), problems);
+    return readCast(folder.read(kCast), readLayers(pictures.read(QStringLiteral("veci.txt")), problems),
+                    problems);
+}
+
+void makeVideos(Workshop& shop, const QString& only) {
     const ContentFolder folder(shop.content, shop.problems);
-    QList<Job> jobs = staleJobs(shop, folder);
+    const Cast cast = readFilmCast(folder, shop.art, shop.problems);
+    const QList<Job> jobs = staleJobs(shop, folder, cast, only);
     const QList<Effect> effects = readEffects(folder.read(kEffects), shop.problems);
     const Voices voices(shop.content, shop.scratch, shop.problems);
     if (jobs.isEmpty() || shop.problems.hasErrors()) return;
     QDir().mkpath(shop.scratch);
+    GroundStore grounds(shop);
+    const Studio studio{shop, cast, effects, voices, grounds};
     QList<Task> tasks;
-    for (Job& job : jobs)
-        tasks << Task{{job.file}, job.origin, [&] { return make(job, effects, voices, shop); }};
+    for (const Job& job : jobs)
+        tasks << Task{{job.film, job.chapters}, job.origin, [&] { return make(job, studio); }};
     shop.makeAll(tasks);
 }
 

@@ -2,76 +2,94 @@
 
 #include <algorithm>
 
+#include "../nearword.h"
+#include "direct.h"
+
 namespace sarne::disc {
 namespace {
 
 constexpr int kRate = 32000;
-constexpr double kBeforeSpeech = 0.25;
-constexpr double kAfterSpeech = 0.55;
-constexpr double kLongest = 75;
-constexpr double kShortest = 8;
 constexpr double kHighestPeak = -3.3;
 constexpr double kMusicLoudness = -5;
+constexpr double kEffectLoudness = -12;
+/// An effect at least so long goes on for as long as what sounds; a shorter one sounds once.
+constexpr double kLasting = 1.2;
+constexpr double kBlend = 0.25;
 
-/// Adds \a other from \a seconds on, at its own speed, its channels as one.
-void add(Sound& sound, const Sound& other, double otherFrom, double seconds, double gain) {
+/// A part of a sound and where it comes.
+struct Part {
+    const Sound& sound;
+    double from = 0;
+    double seconds = 1e9;
+};
+
+/// 0 to 1 at the ends of a part that begins and ends within its sound.
+double blend(const Part& part, double seconds) {
+    return std::clamp(std::min({1.0, seconds / 0.01, (part.seconds - seconds) / kBlend}), 0.0, 1.0);
+}
+
+/// Adds \a part at \a begin, at the film's own rate, its channels as one.
+void add(Sound& sound, const Part& part, double begin, double gain) {
+    const Sound& other = part.sound;
     const double step = static_cast<double>(other.rate) / sound.rate;
-    const int from = static_cast<int>(seconds * sound.rate);
-    for (int i = 0; from + i < sound.frames(); ++i) {
-        const double place = otherFrom * other.rate + i * step;
+    const int from = static_cast<int>(begin * sound.rate);
+    const int count = static_cast<int>(std::min(1e8, part.seconds * sound.rate));
+    for (int i = 0; i < count && from + i < sound.frames(); ++i) {
+        const double place = part.from * other.rate + i * step;
         const int left = static_cast<int>(place);
         if (left + 1 >= other.frames()) break;
         double value = 0;
         for (int c = 0; c < other.channels; ++c)
             value += other.at(left, c) + (place - left) * (other.at(left + 1, c) - other.at(left, c));
-        sound.at(from + i, 0) += static_cast<float>(gain * value / other.channels);
+        sound.at(from + i, 0) += static_cast<float>(gain * blend(part, i / static_cast<double>(sound.rate)) *
+                                                    value / other.channels);
     }
 }
 
-/// Speaks the captions and gives the steps their times.
-QList<Sound> speakCaptions(Film& film, const Voices& voices, QList<FilmFault>& faults) {
-    QList<Sound> spoken;
-    double time = 0;
-    for (Step& step : film.steps) {
-        const Spoken caption = voices.speak(step.caption, Speaker::films);
-        if (!caption.fault.isEmpty()) faults << FilmFault{step.place, caption.fault};
-        spoken << caption.sound;
-        const double needed = spoken.last().seconds() + kBeforeSpeech + kAfterSpeech;
-        step.begin = time;
-        time += std::max(step.seconds, needed);
-        step.end = time;
-    }
-    if (time < kShortest || time > kLongest)
-        faults << FilmFault{film.place,
-                            QStringLiteral("film trvá %1 s, má trvat 8 až 75").arg(time, 0, 'f', 1)};
-    return spoken;
+/// A short effect once; a lasting one again and again, each time blending into the next.
+void addCue(Sound& sound, const Cue& cue, const Sound& effect) {
+    const double gain = fromDecibels(kEffectLoudness);
+    if (effect.seconds() < kLasting) return add(sound, {effect}, cue.begin, gain);
+    for (double at = cue.begin; at < cue.end - 0.05; at += effect.seconds() - kBlend)
+        add(sound, {effect, 0, std::min(effect.seconds(), cue.end - at)}, at, gain);
 }
 
-void addEffects(const Film& film, const QList<Effect>& effects, Sound& sound, QList<FilmFault>& faults) {
-    for (const Step& step : film.steps)
-        for (const SoundCue& cue : step.sounds) {
-            const auto found = std::find_if(effects.cbegin(), effects.cend(),
-                                            [&](const Effect& one) { return one.name == cue.effect; });
-            if (found == effects.cend())
-                faults << FilmFault{cue.place, QStringLiteral("efekt %1 neexistuje").arg(cue.effect)};
-            else
-                add(sound, renderEffect(*found), 0, step.begin + cue.share * (step.end - step.begin),
-                    fromDecibels(cue.loudness));
-        }
+void addEffects(const Film& film, const QList<Effect>& effects, Sound& sound, Problems& problems) {
+    QStringList names;
+    for (const Effect& effect : effects) names << effect.name;
+    for (const Cue& cue : film.cues) {
+        const qsizetype found = names.indexOf(cue.effect);
+        if (found < 0)
+            problems.error(cue.place, QStringLiteral("zvuk „%1“ neexistuje").arg(cue.effect) +
+                                          didYouMean(cue.effect, names));
+        else
+            addCue(sound, cue, renderEffect(effects[found]));
+    }
 }
 
 }  // namespace
 
-Sound makeSoundtrack(Film& film, const QList<Effect>& effects, const QString& music, const Voices& voices,
-                     QList<FilmFault>& faults) {
-    const QList<Sound> spoken = speakCaptions(film, voices, faults);
-    Sound sound{kRate, 1, std::vector<float>(static_cast<size_t>(film.seconds() * kRate))};
-    if (film.music >= 0) {
-        add(sound, readWav(music), film.music, 0, fromDecibels(kMusicLoudness));
+QList<Sound> speakScenes(const Script& script, const Voices& voices, Problems& problems) {
+    QList<Sound> spoken;
+    for (const Scene& scene : script.scenes) {
+        const Spoken one = voices.speak(scene.speech, Speaker::films);
+        if (!one.fault.isEmpty()) problems.error(scene.place, one.fault);
+        spoken << one.sound;
+    }
+    return spoken;
+}
+
+Sound makeSoundtrack(const Film& film, const QList<Sound>& speech, const QList<Effect>& effects,
+                     const QString& music, double musicFrom, Problems& problems) {
+    Sound sound{kRate, 1, std::vector<float>(static_cast<size_t>(film.seconds * kRate))};
+    if (musicFrom >= 0) {
+        const Sound background = readWav(music);
+        add(sound, {background, musicFrom}, 0, fromDecibels(kMusicLoudness));
         fadeEnds(sound, 0.6, 1.8);
     }
-    for (int i = 0; i < spoken.size(); ++i) add(sound, spoken[i], 0, film.steps[i].begin + kBeforeSpeech, 1);
-    addEffects(film, effects, sound, faults);
+    for (int i = 0; i < speech.size(); ++i)
+        add(sound, {speech[i]}, film.captions[i].begin + kBeforeSpeech, 1);
+    addEffects(film, effects, sound, problems);
     if (peakOf(sound) > fromDecibels(kHighestPeak)) setPeak(sound, kHighestPeak);
     return sound;
 }

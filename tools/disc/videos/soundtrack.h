@@ -6,15 +6,12 @@
 
 namespace sarne::disc {
 
-/// What the making of a film has to say: pictures and sound are made beside the main thread.
-struct FilmFault {
-    Place place;
-    QString text;
-};
+/// What is said in each scene of a script, spoken. Faults of the voice are reported.
+QList<Sound> speakScenes(const Script& script, const Voices& voices, Problems& problems);
 
-/// Speaks the captions, which gives every step its time, and mixes in the effects and the music. \a music is
-/// the background music's file. Faults are appended.
-Sound makeSoundtrack(Film& film, const QList<Effect>& effects, const QString& music, const Voices& voices,
-                     QList<FilmFault>& faults);
+/// The film's sound: the speech at the beginning of each scene, the effects and, with \a music not empty, the
+/// background music from that file.
+Sound makeSoundtrack(const Film& film, const QList<Sound>& speech, const QList<Effect>& effects,
+                     const QString& music, double musicFrom, Problems& problems);
 
 }  // namespace sarne::disc
