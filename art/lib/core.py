@@ -667,7 +667,9 @@ def _raw(width, height, samples, region):
         r.image_settings.file_format = "OPEN_EXR"
         bpy.ops.render.render(write_still=False)
         n = f"{scene.frame_current:04d}.exr"
-        return [_load(os.path.join(folder, s + "_" + n)) for s in ("image", "albedo", "normal")]
+        parts = [_load(os.path.join(folder, s + "_" + n)) for s in ("image", "albedo", "normal")]
+        if os.environ.get("ART_RAW"): np.savez(os.environ["ART_RAW"], *[q.astype(np.float16) for q in parts])
+        return parts
 
 
 def _clean(im, al, no, strength, radius):
@@ -679,11 +681,38 @@ def _clean(im, al, no, strength, radius):
     a3 = np.ascontiguousarray(np.clip(al[:, :, :3], 0, 1), np.float32)
     n3 = np.ascontiguousarray(no[:, :, :3], np.float32)
     a3[(a3.sum(axis=2) < 0.02)] = 1
-    fp = ctypes.POINTER(ctypes.c_float)
     if strength > 0:
-        _filter().denoise(c.ctypes.data_as(fp), a3.ctypes.data_as(fp), n3.ctypes.data_as(fp), c.shape[1], c.shape[0],
-                          ctypes.c_float(strength), radius)
+        c = _filtered(c, a3, n3, strength, radius, 2 if c.shape[1] >= COARSE else 0)
     return np.dstack([c, alpha])
+
+
+COARSE = 1400   # from this width on the filter's reach is too short for the blotches that remain
+
+
+def _halved(p):
+    return np.ascontiguousarray((p[0::2, 0::2] + p[1::2, 0::2] + p[0::2, 1::2] + p[1::2, 1::2]) / 4)
+
+
+def _doubled(p):
+    """Twice the size, going over from pixel to pixel."""
+    for axis in (0, 1):
+        before = np.concatenate([p.take([0], axis), p.take(range(p.shape[axis] - 1), axis)], axis)
+        after = np.concatenate([p.take(range(1, p.shape[axis]), axis), p.take([-1], axis)], axis)
+        both = np.stack([p * .75 + before * .25, p * .75 + after * .25], axis + 1)
+        p = both.reshape([n * 2 if k == axis else n for k, n in enumerate(p.shape)])
+    return p
+
+
+def _filtered(c, al, no, strength, radius, coarser):
+    """The grain filter; then the light's coarse part from the picture in half the size, filtered in the same way."""
+    fine, fp = c.copy(), ctypes.POINTER(ctypes.c_float)
+    _filter().denoise(fine.ctypes.data_as(fp), al.ctypes.data_as(fp), no.ctypes.data_as(fp), c.shape[1], c.shape[0],
+                      ctypes.c_float(strength), radius)
+    if not coarser or c.shape[0] % 2 or c.shape[1] % 2:
+        return fine
+    small = _halved(al)
+    coarse = _filtered(_halved(c), small, _halved(no), strength, radius, coarser - 1)
+    return fine + _doubled((coarse - _halved(fine)) / (small + .03)) * (al + .03)
 
 
 def render_linear(width, height, samples, region=None, strength=1.0, radius=7):

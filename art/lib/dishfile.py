@@ -194,7 +194,6 @@ def build(path):
     _firm()
     core.evening(light)
     core.scene.view_settings.exposure = EXPOSURE
-    core.scene.cycles.diffuse_bounces = 2
     core.scene.cycles.sample_clamp_direct = 6
     core.scene.cycles.sample_clamp_indirect = 2
 

@@ -155,9 +155,12 @@ def halved(kind="tench", length=5.4, state="poached"):
 
 def salmonportion(sx=3.6, sy=2.0, h=1.0):
     """Salmon fried on its skin and served with it up: crisp skin, pink flakes along the cut sides, dark edges."""
-    skin = mat("crispsalmon", ((.34, "2e241c"), (.46, "6d5a44"), (.58, "a89070"), (.68, "c9bca2")), .26, .55, coat=.7, metal=.2, noise=1.1, stretch=(.6, 1.6, 1), bump=.5, cells=11)
-    o = block("pink", "seared", sx, sy, h, "salmon", 7)
-    o.data.materials[0] = skin
+    skin = mat("crispsalmon", ((.34, "3a2c20"), (.46, "7d7468"), (.58, "b4b0a6"), (.68, "d8d4c8")), .24, .6, coat=.8, metal=.35, noise=1.1, stretch=(.6, 1.6, 1), bump=.4, cells=13)
+    o = block("pink", "poached", sx, sy, h, None, 7)
+    o.data.materials.append(skin)
+    for p in o.data.polygons:
+        if abs(p.normal.z) > .8 and p.center.z > .5 * h:
+            p.material_index = len(o.data.materials) - 1
     return group([o])
 
 
