@@ -667,9 +667,7 @@ def _raw(width, height, samples, region):
         r.image_settings.file_format = "OPEN_EXR"
         bpy.ops.render.render(write_still=False)
         n = f"{scene.frame_current:04d}.exr"
-        parts = [_load(os.path.join(folder, s + "_" + n)) for s in ("image", "albedo", "normal")]
-        if os.environ.get("ART_RAW"): np.savez(os.environ["ART_RAW"], *[q.astype(np.float16) for q in parts])
-        return parts
+        return [_load(os.path.join(folder, s + "_" + n)) for s in ("image", "albedo", "normal")]
 
 
 def _clean(im, al, no, strength, radius):
