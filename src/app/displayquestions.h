@@ -16,6 +16,17 @@ inline QString resolutionText(QSize size) {
     return QStringLiteral("%1,%2").arg(size.width()).arg(size.height());
 }
 
+/// The size in such a text; empty when it is none.
+inline QSize resolutionFromText(const QString& text) {
+    const qsizetype comma = text.indexOf(u',');
+    const QSize size(text.left(comma).toInt(), text.mid(comma + 1).toInt());
+    return comma < 0 ? QSize() : size;
+}
+
+/// Where the settings store tells the resolution, which then counts for the question instead of the display's
+/// own.
+inline const QString kStoredResolution = QStringLiteral("Config/0001/Display/Settings/Resolution");
+
 inline QString resolutionQuestion(QSize current) {
     return Texts::tr(
                "Program je koncipován pro spouštění v rozlišení 800 x 600, Váš počítač má nastaveno "

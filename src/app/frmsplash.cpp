@@ -52,16 +52,20 @@ bool frmSplash::Zobraz() {
     preparePictures();
     playIntro();
     readSettings();
-    return !closed_;
+    return !closed_ && !app().Ending;
 }
 
 bool frmSplash::checkDisplay() {
-    const QSize current = program_.platform().display.current();
-    if (current.isEmpty() || current == kDesignResolution) return true;
+    const QSize display = program_.platform().display.current();
+    if (display.isEmpty()) return true;  // nothing is known, or nothing can be changed
+    const QSize stored =
+        resolutionFromText(readAppPathValue(program_.platform().settings, kStoredResolution));
+    const QSize current = stored.isEmpty() ? display : stored;
+    if (current == kDesignResolution) return true;
     switch (program_.ask(resolutionQuestion(current), kQuestionBox, kAnswerCancel)) {
         case kAnswerYes:
             if (program_.platform().display.setMode(kDesignResolution))
-                program_.SavedDisplayMode = resolutionText(current);
+                program_.SavedDisplayMode = resolutionText(display);
             return true;
         case kAnswerNo:
             return program_.ask(resolutionWarning(), kQuestionBox, kAnswerCancel) != kAnswerNo;

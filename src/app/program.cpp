@@ -1,5 +1,6 @@
 #include "app/program.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include "app/frmsplash.h"
@@ -77,7 +78,9 @@ QString Program::ReadAppPathValue(const QString& name) const {
 
 void Program::findMediaRoot() {
     paths_ = LogicalPaths([this] { return driveLetters(platform_.settings, removableVolumes()); });
-    const QString stored = ReadAppPathValue(QStringLiteral("CDPath"));
+    QString stored = ReadAppPathValue(QStringLiteral("CDPath"));
+    // As the package's own setting says it, wherever the package was put.
+    if (stored.startsWith(u'.')) stored = QDir::cleanPath(QDir(folders_.program).absoluteFilePath(stored));
     // A folder of this machine may have a "\\" in its name, which in a logical path would part two names.
     const bool odd = stored.startsWith(u'/') && stored.contains(u'\\') && isFolder(stored);
     QString root = odd ? paths_.mapFolder(stored) : stored;
@@ -187,7 +190,7 @@ void Program::endAtOnce() {
     keepUnsaved();
     db_.Close();
     restoreDisplay();
-    QCoreApplication::quit();
+    QCoreApplication::exit();  // also while the start still plays its film or asks
 }
 
 void Program::restoreDisplay() {

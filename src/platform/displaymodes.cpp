@@ -141,13 +141,9 @@ SystemDisplayModes::~SystemDisplayModes() {
 }
 
 QSize SystemDisplayModes::current() const {
-    if (helper_) {
-        const QList<QByteArray> numbers = helper_->ask("size").split(' ');
-        const QSize size(numbers.value(0).toInt(), numbers.value(1).toInt());
-        if (!size.isEmpty()) return size;
-    }
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? (QSizeF(screen->size()) * screen->devicePixelRatio()).toSize() : QSize();
+    if (!helper_) return {};
+    const QList<QByteArray> numbers = helper_->ask("size").split(' ');
+    return {numbers.value(0).toInt(), numbers.value(1).toInt()};
 }
 
 bool SystemDisplayModes::canSwitch(QSize size) const {

@@ -10,7 +10,7 @@ namespace sarne {
 class DisplayModes {
   public:
     virtual ~DisplayModes() = default;
-    /// The display's size in device pixels. Empty when unknown.
+    /// The display's size in device pixels. Empty when unknown, or where no mode can be changed at all.
     virtual QSize current() const = 0;
     /// Whether setMode() can give the display \a size.
     virtual bool canSwitch(QSize size) const = 0;

@@ -102,6 +102,13 @@ TEST_F(ProgramTest, ADriveLetterInTheStoreIsMapped) {
     EXPECT_EQ(program->mediaFile(QStringLiteral("HUDBA.WAV")), path("disc/hudba.wav"));
 }
 
+TEST_F(ProgramTest, APathInTheStoreMayCountFromTheProgramsFolder) {
+    platform.settings.set(QStringLiteral("CDPath"), QStringLiteral("../disc"));
+    ASSERT_TRUE(program->Main({}));
+    QFile(path("disc/hudba.wav")).open(QIODevice::WriteOnly);
+    EXPECT_EQ(program->mediaFile(QStringLiteral("HUDBA.WAV")), path("disc/hudba.wav"));
+}
+
 TEST_F(ProgramTest, NoLeavesEverythingAsItWas) {
     ASSERT_TRUE(program->Main({}));
     platform.music.commands.clear();

@@ -87,6 +87,22 @@ TEST_F(SplashTest, ADisplayThatFitsAsksNothing) {
     EXPECT_TRUE(platform.display.asked.isEmpty());
 }
 
+TEST_F(SplashTest, AResolutionInTheStoreCountsInsteadOfTheDisplays) {
+    platform.display.size = {1024, 768};
+    platform.settings.set(kStoredResolution, QStringLiteral("800,600"));
+    EXPECT_TRUE(start({}));
+    EXPECT_TRUE(asked.isEmpty());
+    platform.settings.set(kStoredResolution, QStringLiteral("kdovíco"));
+    make(platform.parts());
+    EXPECT_TRUE(start({Qt::Key_N, Qt::Key_A}));
+    EXPECT_EQ(asked, (QStringList{kQuestion, kWarning}));
+
+    platform.display.size = {};  // a display whose modes nobody can change
+    make(platform.parts());
+    platform.settings.set(kStoredResolution, QStringLiteral("640,480"));
+    EXPECT_TRUE(start({}));
+}
+
 TEST_F(SplashTest, YesSwitchesTheDisplayAndTheExitRestoresIt) {
     platform.display.size = {1024, 768};
     EXPECT_TRUE(start({Qt::Key_A}));
@@ -148,6 +164,16 @@ TEST_F(SplashTest, TheIntroPlaysUntilItEndsOrSomebodyHasSeenEnough) {
                   (QStringList{QStringLiteral("open ") + intro.fileName(), QStringLiteral("play")}));
         EXPECT_TRUE(program->mainScreen()->isVisible());
     }
+}
+
+TEST_F(SplashTest, WhenTheSystemEndsTheProgramTheStartEndsToo) {
+    QFile intro(folder.filePath(QStringLiteral("video/UVOD.AVI")));
+    ASSERT_TRUE(intro.open(QIODevice::WriteOnly));
+    QTimer::singleShot(0, [&] { program->endAtOnce(); });
+    EXPECT_FALSE(start({})) << "the film no longer holds it";
+    EXPECT_EQ(program->mainScreen(), nullptr);
+    QTimer::singleShot(0, [] { QApplication::exit(); });  // this process goes on
+    QApplication::exec();
 }
 
 TEST_F(SplashTest, AnIntroThatCannotBePlayedIsSkipped) {
