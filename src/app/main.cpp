@@ -1,6 +1,6 @@
 #include <QApplication>
+#include <QIcon>
 #include <QLocale>
-#include <QScreen>
 #include <QStandardPaths>
 #include <cstdio>
 #include <cstdlib>
@@ -8,6 +8,7 @@
 #include "app/language.h"
 #include "app/program.h"
 #include "app/systemplatform.h"
+#include "app/windowplace.h"
 #include "platform/endsignals.h"
 #include "platform/singleinstance.h"
 
@@ -17,14 +18,10 @@ namespace {
 /// breaks, and its library ends the process.
 sarne::Program* running = nullptr;
 
-/// Covers the display with \a stage, now and whenever the display's mode changes. Where no window manager
-/// runs nobody else does that.
-void fillDisplay(QWidget& stage) {
-    QScreen* screen = stage.screen();
-    stage.setGeometry(screen->geometry());
-    stage.showFullScreen();
-    QObject::connect(screen, &QScreen::geometryChanged, &stage,
-                     qOverload<const QRect&>(&QWidget::setGeometry));
+/// What the launcher or the user's settings ask for: a window, or else the whole display.
+sarne::WindowKind windowKind(const sarne::SettingsStore& settings) {
+    const QString window = sarne::readAppPathValue(settings, QStringLiteral("Okno"));
+    return window == u"1" ? sarne::WindowKind::Window : sarne::WindowKind::FullScreen;
 }
 
 QString commandLine(const QApplication& application) {
@@ -63,6 +60,8 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     qInstallMessageHandler(kMessages);
     QApplication::setApplicationName(QStringLiteral("Velisa sarn"));
+    QGuiApplication::setDesktopFileName(QStringLiteral(SARNE_ID));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/" SARNE_ID ".png")));
     QApplication::setQuitOnLastWindowClosed(false);
     installLanguage(QLocale::system().uiLanguages());
 
@@ -75,7 +74,8 @@ int main(int argc, char** argv) {
                                            QStringLiteral("/velisa-sarn")});
     program.stage().setWindowTitle(QStringLiteral("Velisa sarn"));
     keepWordsAtTheEnd(program);
-    fillDisplay(program.stage());
+    WindowPlace place(program.stage(), windowKind(platform.settings));
+    place.show();
     int code = 0;
     if (program.Main(commandLine(application)) && !program.hasEnded()) {
         platform.effects.prepare();
