@@ -161,7 +161,6 @@ void frmTiskarna::printerChanged() {
 
 std::optional<PrinterChoice> frmTiskarna::ask() {
     accepted_ = false;
-    lstTiskarny.setFocus();
     showModal();
     if (!accepted_) return std::nullopt;
     return shown();

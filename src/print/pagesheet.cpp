@@ -87,6 +87,7 @@ void PageSheet::paint(QPainter& painter) {
     if (page_ >= preview_->pageCount()) return;
     painter.scale(scale, scale);
     painter.translate(-sheet.topLeft());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     SilentProgress silent;
     paintPage(painter, preview_->page(page_), silent);
 }

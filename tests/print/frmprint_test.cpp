@@ -393,9 +393,11 @@ TEST_F(FrmPrintTest, ChoosesPrinterAndPaperAndRemembersThem) {
             child<Button>(*dialog, qPrintable(str("cmdOkStorno(%1)").arg(button)))->click();
             if (dialog->isVisible()) QTest::keyClick(dialog, Qt::Key_Escape);
         });
+        child<Button>(*print, "cmdTiskarna")->setFocus();
         child<Button>(*print, "cmdTiskarna")->click();
     };
     answer(1, "Jinam");
+    EXPECT_TRUE(child<Button>(*print, "cmdTiskarna")->hasFocus()) << "the keyboard comes back";
     EXPECT_EQ(printer.choice().paper, Paper::A4);
     answer(0, "Sarne.drc/x");
     EXPECT_EQ(run.messages, QStringList{str("48: Do této složky nelze ukládat. Zvolte jinou.")});

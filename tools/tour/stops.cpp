@@ -235,6 +235,14 @@ void printing(Tour& tour) {
     tour.click(QStringLiteral("imgBtnHlavni(0)"));
     tour.stop(QStringLiteral("frmPrint"));
     tour.visitHelp();
+    tour.later([&] {
+        tour.stop(QStringLiteral("frmTiskarna"));
+        tour.key(Qt::Key_Escape);
+    });
+    tour.click(QStringLiteral("cmdTiskarna"));
+    tour.click(QStringLiteral("cmdNahled"));
+    tour.stop(QStringLiteral("frmNahled"));
+    tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_Escape);
