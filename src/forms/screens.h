@@ -20,6 +20,7 @@ struct PhotoRequest {
 struct PrintEntry {
     QString text;
     std::int32_t item = 0;  ///< a recipe id
+    bool marked = false;    ///< the entry that the user is at: it is marked when the selection opens
 };
 
 /// How a screen opens another: by what it wants shown, without knowing who shows it. A screen that cannot be
@@ -46,7 +47,7 @@ class Screens {
     virtual void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) = 0;
     /// Prints recipes; the user is first offered to have them as \a serving says.
     virtual void printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving) = 0;
-    /// Prints the rich text \a text, which belongs to no recipe, under \a title.
+    /// Prints \a text, an RTF document or plain text, which belongs to no recipe, under \a title.
     virtual void printText(const QString& title, const QString& text) {
         Q_UNUSED(title)
         Q_UNUSED(text)

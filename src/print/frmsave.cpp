@@ -80,6 +80,7 @@ frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover prin
     connect(&lstVybrano, &Control::doubleClicked, this, [this] { removeMarked(); });
     choice_.setAvailable(std::move(entries));
     fill(lstSeznam, choice_.available());
+    markStart();
     showChosen();
     ring().setStops(
         {&lstSeznam, cmdRuka[0], cmdRuka[3], cmdRuka[1], cmdRuka[2], &lstVybrano, cmdOkEnd[0], cmdOkEnd[1]});
@@ -97,6 +98,12 @@ void frmSave::Zobraz(const QString& mode) {
     if (!self || !isLoaded()) return;
     if (accepted_) print_(choice_.ids());
     if (self) unload();
+}
+
+void frmSave::markStart() {
+    const auto marked = std::ranges::find(choice_.available(), true, &PrintEntry::marked);
+    if (marked != choice_.available().end())
+        lstSeznam.setListIndex(static_cast<int>(marked - choice_.available().begin()));
 }
 
 void frmSave::showChosen() {

@@ -39,6 +39,7 @@ class frmSave : public Form {
     void addMarked();
     void addAndGoOn();
     void removeMarked();
+    void markStart();
     void showChosen();
     void enterPressed();
     bool isOrdinary() const { return mode_.isEmpty(); }

@@ -73,6 +73,13 @@ TEST_F(FrmSaveTest, F1OpensItsHelp) {
     EXPECT_EQ(run.recorded.calls, QStringList{str("showHelpFor frmSave")});
 }
 
+TEST_F(FrmSaveTest, BeginsAtTheEntryThatWasSelected) {
+    frmSave other(run, {{str("Candát"), 40}, {str("Kapr"), 10, true}, {str("Lín"), 30}}, {});
+    EXPECT_EQ(child<ListBox>(other, "lstSeznam")->marked(), std::vector<int>{1});
+    child<Button>(other, "cmdRuka(0)")->click();
+    EXPECT_EQ(child<ListBox>(other, "lstVybrano")->itemData(0), 10);
+}
+
 TEST_F(FrmSaveTest, AddsEachEntryOnce) {
     show([&] {
         EXPECT_EQ(child<Label>(*save, "Label2")->text(),

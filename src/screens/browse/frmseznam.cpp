@@ -114,7 +114,7 @@ void frmSeznam::buySelected() {
 void frmSeznam::printEntries() {
     std::vector<PrintEntry> print;
     for (const ListEntry& entry : entries_) {
-        if (entry.target != 0) print.push_back({entry.Nazev, entry.target});
+        if (entry.target != 0) print.push_back({entry.Nazev, entry.target, &entry == visiblySelected()});
     }
     // The recipes are the ordinary thing to print; another source is named.
     app().screens().showPrintSelection(print, source_ == Source::Recipes ? QString() : sourceText_);
