@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Fails when a picture is missing or of a wrong size, when a moving thing does not move or does not come to rest, when two
 dishes look nearly alike, when hot areas collide, a cursor's hot spot is off or the list of the films' things is wrong.
 

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # One sheet of all dishes, seven in a row, with their names: art/contact_sheet.sh [OUT.jpg]
 here=$(dirname "$(readlink -f "$0")")
 out=${1:-$here/build/dishes.jpg}

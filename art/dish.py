@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Renders one dish: blender -b -P art/dish.py -- NN [width height samples [file]]"""
 import math
 import os

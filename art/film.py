@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Layers for the films: things with transparency, all seen by one eye, so that they can be moved over each other.
 
 blender -b -P art/film.py -- all | NAME … [look]     (those that exist are skipped with "all"; look: quarter size, into build/film)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Renders the main screen.
 
 blender -b -P art/hlavni.py -- pozadi [samples]          the room at rest

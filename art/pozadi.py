@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Grounds of the screens: blender -b -P art/pozadi.py -- all | NAME … [samples=N]
 
 Calm pictures on which texts, lists and pictures stand. Each function sets one of them.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Small rendered things of the bars, frames, cursors and message icons.
 
 blender -b -P art/prvky.py -- all | NAME …     (those that exist are skipped with "all")

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Small things of the screens that help at home: cooking step by step, shopping, the pantry, one's own cookbook, the timer."""
 import math
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Renders every picture that is missing or whose description changed; may be stopped at any time and started again.
 
     art/render.py                 everything

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The pictures of the galleries: blender -b -P art/sponzor.py -- NUMBER … [width height samples]
 
 1 the things on the table that tell about the cookbook, 9 the fish of our waters, 13 how pictures, voices and music are

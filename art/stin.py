@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Makes the shadows round rendered things soft: no grain, and nothing left of them at the picture's edge, where they
 would show as a square on paper or lacquer. The thing itself stays as it is. Done once after rendering (prvky.py).
 

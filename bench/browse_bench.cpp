@@ -184,3 +184,5 @@ int main(int argc, char** argv) {
     sarne::theKitchen().reset();
     return 0;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -91,3 +91,5 @@ BENCHMARK(openRecipeOfAHundredThousand)->Unit(benchmark::kMicrosecond);
 }  // namespace sarne
 
 BENCHMARK_MAIN();
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -166,3 +166,5 @@ int main(int argc, char** argv) {
     watch("key End", [&] { key(Qt::Key_End); });
     return 0;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -219,3 +219,5 @@ int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

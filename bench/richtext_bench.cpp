@@ -183,3 +183,5 @@ int main(int argc, char** argv) {
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

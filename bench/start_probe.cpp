@@ -133,3 +133,5 @@ int main(int argc, char** argv) {
     waitpid(process, nullptr, 0);
     return 0;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Where an installed program lies: the program in libdir as its own folder, the data it stands beside linked from
 # datadir, the launcher in bindir, the compact disc under datadir. Nothing knows the prefix, so a staged tree runs from
 # where it stands. Components: program, data, tools.

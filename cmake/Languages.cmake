@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Further languages of the program's texts: each `translations/sarne_LL.ts` is compiled into the program. The target
 # `texts` gathers what there is to translate from the sources into these files.
 file(GLOB SARNE_LANGUAGES CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/translations/sarne_*.ts")

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Precompiled headers: nine tenths of compiling a source are the headers of Qt and of the standard library. Each kind below
 # is compiled once and used by all folders of its kind; with SARNE_PRECOMPILED off every source proves that it includes
 # what it needs (the sanitizer build does).

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Helpers shared by every folder: our own warnings, the folder libraries and the folder tests.
 
 include(Precompiled)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Writes a source with one function per stage of the builder: a hash of everything that the stage is compiled from,
 # which is what its sources include, and the sources of that.
 #     cmake -DSOURCE=<checkout> -DSTAGES="name=file;name=file" -DOUTPUT=stamps.cpp -P Stamp.cmake
@@ -40,7 +41,9 @@ foreach(stage IN LISTS STAGES)
     files_of("${CMAKE_MATCH_2}" files)
     set(hashes "")
     foreach(file IN LISTS files)
-        file(SHA1 "${file}" hash)
+        file(READ "${file}" text_of)
+        string(REGEX REPLACE "\n// SPDX-[^\n]*\n" "" text_of "${text_of}")  # a licence changes nothing that is made
+        string(SHA1 hash "${text_of}")
         string(APPEND hashes "${hash}")
     endforeach()
     string(SHA1 hash "${hashes}")

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The kitchen by the pond at dusk: one room, a thing for every button of the main screen.
 
 Things are put by where they are seen: at_table(px, py) and at_wall(px, py) give the point behind a pixel of the 800 x 600

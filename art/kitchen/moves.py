@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """How each thing moves: pose(parts, button, phase). Phases 0 and 1 are the same picture, the thing at rest."""
 import math
 

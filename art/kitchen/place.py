@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Where things stand: sight lines from pixels of the 800 x 600 screen to points of the room, in decimetres."""
 import math
 

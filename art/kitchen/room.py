@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The room itself: walls, window on the pond, sideboard, shelves, lamp, light."""
 import math
 import random

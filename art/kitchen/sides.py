@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What a wide display shows left and right of the main screen: the same room, ornament without buttons.
 
 Everything is put by pixels of the 800 x 600 screen like the rest of the kitchen; they run from -300 to 1100 here.

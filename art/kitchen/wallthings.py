@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What hangs on the wall or stands along it."""
 import math
 import random

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Scene basics: start a scene, materials, meshes, noise, light, camera and the render itself.
 
 Lengths in dishes: 1 unit is about 3.5 cm, a dinner plate has a radius of 4. Everything made here stands on z = 0 at the

@@ -140,3 +140,5 @@ extern "C" void denoise(float* colour, const float* albedo, const float* normal,
         for (int c = 0; c < 3; ++c)
             colour[3 * i + c] = std::expm1(acc[c][i] / total[i]) * (albedo[3 * i + c] + 0.03F);
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Reads a dish description (art/dishes/NN.dish) and sets the scene. The words are explained in art/README.md."""
 import inspect
 import math

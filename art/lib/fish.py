@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Whole fish: a body lofted from the outline of its kind, gill cover, mouth and eye socket worked into the surface,
 fins with rays that grow out of the body, and a skin painted for the kind and for what the kitchen did to it.
 

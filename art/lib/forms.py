@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Composed dishes and vessels that a single recipe needs: jars, moulds, loaves, tarts, parcels, trays."""
 import math
 import random

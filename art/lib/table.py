@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Table tops, cloths, plates, bowls, pans, glasses."""
 import math
 import random

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Wide grounds: the sides of a 21:9 picture whose 4:3 middle is there already.
 
 The eye stays where it is and its film only grows to the left and right. The sides are rendered and laid beside the middle,

@@ -51,3 +51,5 @@ std::vector<PageAddition> helpAdditions(const QString& formName, const Condition
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

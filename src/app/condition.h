@@ -22,3 +22,5 @@ struct Condition {
 std::vector<PageAddition> helpAdditions(const QString& formName, const Condition& condition);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

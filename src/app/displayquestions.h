@@ -49,3 +49,5 @@ inline QString fontQuestion() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -183,3 +183,5 @@ void frmSplash::paint(QPainter& painter) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

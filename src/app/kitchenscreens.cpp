@@ -77,3 +77,5 @@ bool KitchenScreens::readyToEnd() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

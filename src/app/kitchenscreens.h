@@ -39,3 +39,5 @@ class KitchenScreens {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -37,3 +37,5 @@ void installLanguage(const QStringList& wanted) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

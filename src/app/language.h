@@ -9,3 +9,5 @@ namespace sarne {
 void installLanguage(const QStringList& wanted);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -84,3 +84,5 @@ int main(int argc, char** argv) {
     running = nullptr;
     return code;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

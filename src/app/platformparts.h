@@ -40,3 +40,5 @@ struct Folders {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

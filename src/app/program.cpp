@@ -201,3 +201,5 @@ void Program::restoreDisplay() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -91,3 +91,5 @@ class Program final : public QObject, public basSarne {
 bool isShowSwitch(const QString& commandLine);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -135,3 +135,5 @@ void ProgramScreens::printText(const QString& title, const QString& text) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -57,3 +57,5 @@ class ProgramScreens final : public Screens {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

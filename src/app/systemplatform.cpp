@@ -21,3 +21,5 @@ PlatformParts SystemPlatform::parts() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

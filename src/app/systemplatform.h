@@ -25,3 +25,5 @@ class SystemPlatform {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

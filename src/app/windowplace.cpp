@@ -95,3 +95,5 @@ bool WindowPlace::eventFilter(QObject* watched, QEvent* event) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

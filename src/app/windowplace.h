@@ -49,3 +49,5 @@ int displayAt(const QList<QRect>& displays, QPoint point);
 QRect windowWithin(const QRect& room);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

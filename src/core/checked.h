@@ -27,3 +27,5 @@ inline qint64 boundedProduct(qint64 a, qint64 b) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -11,3 +11,5 @@ qint64 SteadyClock::now() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -23,3 +23,5 @@ class SteadyClock final : public Clock {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -36,3 +36,5 @@ QString counted(double number, const Noun& noun, const QLocale& locale) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -34,3 +34,5 @@ constexpr std::span<const std::int16_t> gridGroupIds(int group) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

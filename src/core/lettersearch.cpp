@@ -35,3 +35,5 @@ int findByLetters(int count, const std::function<QString(int)>& nameAt, int curr
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -30,3 +30,5 @@ class LetterSearch {
 int findByLetters(int count, const std::function<QString(int)>& nameAt, int current, const QString& letters);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -103,3 +103,5 @@ QString withTrailingBackslash(QString folder) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

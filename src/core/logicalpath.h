@@ -46,3 +46,5 @@ class LogicalPaths {
 QString withTrailingBackslash(QString folder);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

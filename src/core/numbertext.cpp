@@ -76,3 +76,5 @@ QString numberText(float value, const QLocale& locale) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -17,3 +17,5 @@ QString numberText(double value, const QLocale& locale);
 QString numberText(float value, const QLocale& locale);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -35,3 +35,5 @@ float Quantities::forDisplay(float amount) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -43,3 +43,5 @@ class Quantities {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

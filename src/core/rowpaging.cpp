@@ -54,3 +54,5 @@ bool RowPaging::jumpTo(int row) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -39,3 +39,5 @@ bool isSealed(const QString& name) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -12,3 +12,5 @@ bool sealFile(const QString& file);
 bool isSealed(const QString& file);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

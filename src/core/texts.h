@@ -13,3 +13,5 @@ class Texts {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

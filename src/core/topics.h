@@ -28,3 +28,5 @@ constexpr TopicKind topicKind(int topic) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -68,3 +68,5 @@ std::optional<std::int16_t> leadingRecordId(QStringView text) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

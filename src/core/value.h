@@ -25,3 +25,5 @@ std::optional<std::int16_t> toRecordId(QStringView text);
 std::optional<std::int16_t> leadingRecordId(QStringView text);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

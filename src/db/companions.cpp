@@ -38,3 +38,5 @@ std::optional<LinkDocument> linkDocument(Database& db, int link) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

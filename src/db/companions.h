@@ -31,3 +31,5 @@ struct LinkDocument {
 std::optional<LinkDocument> linkDocument(Database& db, int link);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -117,3 +117,5 @@ QString quotedName(const QString& name) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -47,3 +47,5 @@ void bindValue(SQLite::Statement& statement, int parameter, const QVariant& valu
 QString quotedName(const QString& name);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

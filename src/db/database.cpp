@@ -129,3 +129,5 @@ bool Database::transaction(const std::function<bool()>& change) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

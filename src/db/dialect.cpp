@@ -48,3 +48,5 @@ std::optional<QString> adaptStatement(const QString& text) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -11,3 +11,5 @@ namespace sarne {
 std::optional<QString> adaptStatement(const QString& text);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

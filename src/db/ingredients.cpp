@@ -147,3 +147,5 @@ QString ingredientsText(const std::vector<Ingredient>& ingredients, UnitSystem s
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

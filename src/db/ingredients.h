@@ -51,3 +51,5 @@ QString ingredientsText(const std::vector<Ingredient>& ingredients, UnitSystem s
                         const Quantities& quantities);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -148,3 +148,5 @@ RecipeDatabase usableRecipeDatabase(const QString& shipped, const QString& ownCo
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

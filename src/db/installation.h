@@ -31,3 +31,5 @@ struct CarriedData {
 CarriedData carryOverUserData(const QString& from, const QString& to);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

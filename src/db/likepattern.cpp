@@ -124,3 +124,5 @@ bool LikePattern::matches(std::string_view text) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

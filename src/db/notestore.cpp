@@ -81,3 +81,5 @@ std::vector<KeptNote> restoreNotes(Database& book, const std::vector<KeptNote>& 
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -49,3 +49,5 @@ class NoteStore {
 std::vector<KeptNote> restoreNotes(Database& book, const std::vector<KeptNote>& notes);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

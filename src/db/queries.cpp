@@ -107,3 +107,5 @@ Recordset screenPictures(Database& pictures) {
 }
 
 }  // namespace sarne::queries
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -51,3 +51,5 @@ Recordset screenPictures(Database& pictures);
 
 }  // namespace queries
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

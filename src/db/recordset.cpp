@@ -105,3 +105,5 @@ bool RecordExists(Recordset& records, const QVariant& key) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

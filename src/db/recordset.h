@@ -65,3 +65,5 @@ class Recordset {
 bool RecordExists(Recordset& records, const QVariant& key);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

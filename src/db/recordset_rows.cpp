@@ -141,3 +141,5 @@ bool Recordset::TableRows::update() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -93,3 +93,5 @@ class Recordset::TableRows final : public Rows {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

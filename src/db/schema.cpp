@@ -126,3 +126,5 @@ QList<QStringList> userSchema() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

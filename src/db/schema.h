@@ -20,3 +20,5 @@ QList<QStringList> userSchema();
 QStringList pictureSchema();
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -41,3 +41,5 @@ int storeSoundSettings(Database& db, const std::vector<bool>& on) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

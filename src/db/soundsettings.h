@@ -24,3 +24,5 @@ std::vector<SoundSetting> readSoundSettings(Database& db);
 int storeSoundSettings(Database& db, const std::vector<bool>& on);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -88,3 +88,5 @@ bool UserFile::setValue(const QString& name, const QString& text) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

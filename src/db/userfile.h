@@ -48,3 +48,5 @@ QString keptAsideName(const QString& file);
 QStringList keptAsideCopies(const QString& file);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

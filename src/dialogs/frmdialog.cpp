@@ -135,3 +135,5 @@ QString askText(basSarne& app, const QString& prompt) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

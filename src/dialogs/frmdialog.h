@@ -47,3 +47,5 @@ double askNumber(basSarne& app, const QString& prompt);
 QString askText(basSarne& app, const QString& prompt);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -138,3 +138,5 @@ void frmMessage::paint(QPainter& painter) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

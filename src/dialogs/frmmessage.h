@@ -52,3 +52,5 @@ class frmMessage : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

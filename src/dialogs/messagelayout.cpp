@@ -83,3 +83,5 @@ MessageGeometry layOutMessage(QSize label, bool hasIcon, int buttonCount) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -38,3 +38,5 @@ inline constexpr int kMessageTextLimit = 6000;
 MessageGeometry layOutMessage(QSize label, bool hasIcon, int buttonCount);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

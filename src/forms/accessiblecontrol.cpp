@@ -51,3 +51,5 @@ void registerAccessibleControls() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

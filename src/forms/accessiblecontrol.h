@@ -7,3 +7,5 @@ namespace sarne {
 void registerAccessibleControls();
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -75,3 +75,5 @@ void applyMusicSwitches(basSarne& app, bool wineSounds) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -19,3 +19,5 @@ QString musicTrack(const basSarne& app, bool wineSounds);
 void applyMusicSwitches(basSarne& app, bool wineSounds);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

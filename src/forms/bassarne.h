@@ -105,3 +105,5 @@ class basSarne {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

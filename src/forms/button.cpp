@@ -162,3 +162,5 @@ void Button::paint(QPainter& painter) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -63,3 +63,5 @@ class Button : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

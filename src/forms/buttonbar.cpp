@@ -55,3 +55,5 @@ std::vector<TwipWidget*> ButtonBar::stops() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

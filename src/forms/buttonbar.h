@@ -50,3 +50,5 @@ class ButtonBar {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

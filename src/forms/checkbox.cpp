@@ -110,3 +110,5 @@ void OptionButton::paintMark(QPainter& painter, const QRect& place) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -65,3 +65,5 @@ class OptionButton : public CheckBox {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

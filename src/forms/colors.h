@@ -18,3 +18,5 @@ inline constexpr QColor kGreen(63, 107, 53);
 inline constexpr double kDisabledFace = .45, kDisabledText = .7;
 
 }  // namespace sarne::colors
+
+// SPDX-License-Identifier: GPL-3.0-or-later

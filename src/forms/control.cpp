@@ -95,3 +95,5 @@ void Control::changeEvent(QEvent* event) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -65,3 +65,5 @@ class Control : public TwipWidget {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -11,3 +11,5 @@ void takeDecimalComma(Edit& entry) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

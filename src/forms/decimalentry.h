@@ -8,3 +8,5 @@ class Edit;
 void takeDecimalComma(Edit& entry);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -101,3 +101,5 @@ void Edit::focusInEvent(QFocusEvent*) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -44,3 +44,5 @@ class Edit : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

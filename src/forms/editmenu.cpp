@@ -18,3 +18,5 @@ QString editMenuStyle(double scale) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

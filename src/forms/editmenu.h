@@ -34,3 +34,5 @@ void showEditMenu(Editor& editor, const EditState& state, double scale, QPoint g
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

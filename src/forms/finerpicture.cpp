@@ -34,3 +34,5 @@ QImage readFiner(const QString& bmp, QSize pixels) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -17,3 +17,5 @@ QImage readFor(QImageReader& reader, QSize pixels);
 QImage readFiner(const QString& bmp, QSize pixels);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -43,3 +43,5 @@ void FocusFrame::paint(QPainter& painter) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -27,3 +27,5 @@ class FocusFrame : public TwipWidget {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -68,3 +68,5 @@ std::optional<Direction> arrowDirection(int key) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

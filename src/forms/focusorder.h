@@ -24,3 +24,5 @@ std::vector<int> readingOrder(const std::vector<QRect>& places);
 std::optional<Direction> arrowDirection(int key);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

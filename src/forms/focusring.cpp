@@ -133,3 +133,5 @@ void FocusRing::restore() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

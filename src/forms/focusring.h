@@ -87,3 +87,5 @@ class FocusRing {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

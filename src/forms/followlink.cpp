@@ -19,3 +19,5 @@ void followLink(basSarne& app, const LinkKey& key) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

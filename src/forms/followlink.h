@@ -10,3 +10,5 @@ class basSarne;
 void followLink(basSarne& app, const LinkKey& key);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

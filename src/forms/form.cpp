@@ -188,3 +188,5 @@ bool Form::focusNextPrevChild(bool) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -101,3 +101,5 @@ class Form : public TwipWidget {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -37,3 +37,5 @@ bool HoldRepeat::eventFilter(QObject* watched, QEvent* event) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

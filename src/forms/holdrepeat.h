@@ -39,3 +39,5 @@ class HoldRepeat : public QObject {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -102,3 +102,5 @@ void Label::paint(QPainter& painter) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

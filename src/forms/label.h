@@ -49,3 +49,5 @@ class Label : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

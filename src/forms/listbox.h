@@ -59,3 +59,5 @@ class ListBox : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

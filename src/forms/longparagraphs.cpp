@@ -52,3 +52,5 @@ QString LongParagraphs::joined(QString text) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

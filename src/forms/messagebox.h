@@ -23,3 +23,5 @@ enum MessageBoxAnswer : int {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -41,3 +41,5 @@ void MusicDuck::tick() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -31,3 +31,5 @@ class MusicDuck {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -54,3 +54,5 @@ class NamePlate : public TwipWidget {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

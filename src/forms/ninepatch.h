@@ -25,3 +25,5 @@ inline void drawNinePatch(QPainter& painter, const Picture& picture, const QRect
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -169,3 +169,5 @@ void NoteEdit::focusInEvent(QFocusEvent*) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -48,3 +48,5 @@ class NoteEdit : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -49,3 +49,5 @@ void paintSheet(QPainter& painter, const QRectF& place) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -17,3 +17,5 @@ void paintPaper(QPainter& painter, const QRectF& place);
 void paintSheet(QPainter& painter, const QRectF& place);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

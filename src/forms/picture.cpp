@@ -149,3 +149,5 @@ QPixmap Picture::pixmap(QSize pixels) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

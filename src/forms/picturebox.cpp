@@ -124,3 +124,5 @@ void PictureBox::wheelEvent(QWheelEvent* event) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -91,3 +91,5 @@ class PictureBox : public Control, public Surface {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

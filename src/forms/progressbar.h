@@ -31,3 +31,5 @@ class ProgressBar : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

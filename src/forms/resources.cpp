@@ -85,3 +85,5 @@ QString Resources::layout(const QString& name) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

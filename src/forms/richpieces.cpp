@@ -90,3 +90,5 @@ void RichPieces::paint(QPainter& painter, const QRect& visible, int text) const 
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

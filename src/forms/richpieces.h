@@ -55,3 +55,5 @@ class RichPieces {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

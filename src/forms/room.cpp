@@ -105,3 +105,5 @@ void Room::draw(QPainter& painter, const QRectF& covered) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -41,3 +41,5 @@ class Room {
 void paintSurroundings(QPainter& painter, const QRectF& covered, const QImage& picture);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -21,3 +21,5 @@ void ScreenStack::remove(const Form& screen) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -141,3 +141,5 @@ bool Stage::eventFilter(QObject* watched, QEvent* event) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

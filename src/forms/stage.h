@@ -70,3 +70,5 @@ class Stage : public QWidget {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -236,3 +236,5 @@ QRect TextView::focusPlace() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -83,3 +83,5 @@ class TextView : public PictureBox {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -15,3 +15,5 @@ void Timer::fire() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

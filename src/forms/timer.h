@@ -30,3 +30,5 @@ class Timer : public QObject {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -65,3 +65,5 @@ void TwipWidget::paintEvent(QPaintEvent*) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

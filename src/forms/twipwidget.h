@@ -53,3 +53,5 @@ class TwipWidget : public QWidget {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

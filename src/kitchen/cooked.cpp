@@ -33,3 +33,5 @@ std::vector<QDate> cookedDays(UserFile& file, int recipe) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

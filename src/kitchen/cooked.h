@@ -14,3 +14,5 @@ bool keepCooked(UserFile& file, int recipe, const QString& name, QDate day, doub
 std::vector<QDate> cookedDays(UserFile& file, int recipe);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

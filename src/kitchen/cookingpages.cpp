@@ -56,3 +56,5 @@ std::vector<CookingPage> cookingPages(const std::vector<CookingStep>& steps,
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -26,3 +26,5 @@ std::vector<CookingPage> cookingPages(const std::vector<CookingStep>& steps,
                                       const std::function<bool(const QString&)>& fits);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

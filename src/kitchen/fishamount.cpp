@@ -43,3 +43,5 @@ std::optional<MainFish> mainFish(Database& db, int recipe) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -27,3 +27,5 @@ struct MainFish {
 std::optional<MainFish> mainFish(Database& db, int recipe);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -134,3 +134,5 @@ QString durationText(int seconds) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

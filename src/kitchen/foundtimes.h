@@ -25,3 +25,5 @@ QString clockText(qint64 milliseconds);
 QString durationText(int seconds);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -52,3 +52,5 @@ std::vector<ShoppingItem> shoppingNeeds(const std::vector<Ingredient>& ingredien
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -39,3 +39,5 @@ std::vector<ShoppingItem> shoppingNeeds(const std::vector<Ingredient>& ingredien
                                         const ShoppingRecipe& recipe, int basePortions);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -50,3 +50,5 @@ QByteArray ringWave() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -8,3 +8,5 @@ namespace sarne {
 QByteArray ringWave();
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

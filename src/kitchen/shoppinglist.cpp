@@ -198,3 +198,5 @@ QString ShoppingList::text(const QLocale& locale) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

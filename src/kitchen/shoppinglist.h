@@ -99,3 +99,5 @@ class ShoppingList {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -56,3 +56,5 @@ bool storeShoppingList(UserFile& file, const ShoppingList& list) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

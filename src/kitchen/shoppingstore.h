@@ -12,3 +12,5 @@ ShoppingList readShoppingList(UserFile& file);
 bool storeShoppingList(UserFile& file, const ShoppingList& list);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

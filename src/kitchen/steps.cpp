@@ -55,3 +55,5 @@ QString firstSentence(const QString& text) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

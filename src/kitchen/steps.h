@@ -33,3 +33,5 @@ QString needText(const Ingredient& ingredient, double share, UnitSystem units, c
 QString firstSentence(const QString& text);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -58,3 +58,5 @@ void KitchenTimers::sort() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -69,3 +69,5 @@ BaseAmount inBaseUnit(double amount, const QString& unit) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

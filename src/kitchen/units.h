@@ -21,3 +21,5 @@ struct BaseAmount {
 BaseAmount inBaseUnit(double amount, const QString& unit);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -167,3 +167,5 @@ void frmNastavHudbu::paint(QPainter& painter) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

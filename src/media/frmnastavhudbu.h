@@ -48,3 +48,5 @@ class frmNastavHudbu : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

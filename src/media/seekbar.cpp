@@ -45,3 +45,5 @@ void SeekBar::mousePressEvent(QMouseEvent* event) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -29,3 +29,5 @@ class SeekBar : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

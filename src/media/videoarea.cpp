@@ -24,3 +24,5 @@ void VideoArea::paintEvent(QPaintEvent*) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

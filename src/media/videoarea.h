@@ -23,3 +23,5 @@ class VideoArea : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

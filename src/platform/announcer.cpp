@@ -57,3 +57,5 @@ void AccessibleAnnouncer::announce(const QString& text) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

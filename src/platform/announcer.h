@@ -30,3 +30,5 @@ class AccessibleAnnouncer final : public Announcer {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

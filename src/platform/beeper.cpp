@@ -55,3 +55,5 @@ void ToneBeeper::beep() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -25,3 +25,5 @@ class ToneBeeper final : public Beeper {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

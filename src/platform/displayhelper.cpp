@@ -249,3 +249,5 @@ int main() {
     XCloseDisplay(display);
     return 0;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -182,3 +182,5 @@ QSize SystemDisplayModes::twipsPerPixel() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -47,3 +47,5 @@ class SystemDisplayModes final : public DisplayModes {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -73,3 +73,5 @@ QHash<QChar, QString> driveLetters(const SettingsStore& store, const QStringList
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -20,3 +20,5 @@ QStringList removableVolumes(const QString& mountTable = QStringLiteral("/proc/s
 QHash<QChar, QString> driveLetters(const SettingsStore& store, const QStringList& volumes);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

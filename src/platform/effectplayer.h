@@ -36,3 +36,5 @@ class MixerEffectPlayer final : public EffectPlayer {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

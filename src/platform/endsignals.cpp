@@ -45,3 +45,5 @@ EndSignals::~EndSignals() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -21,3 +21,5 @@ class EndSignals final : public QObject {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -36,3 +36,5 @@ inline void quietSoundLibrary(const LibraryCalls& library) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

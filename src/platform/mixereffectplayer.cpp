@@ -150,3 +150,5 @@ void MixerEffectPlayer::stop() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -23,3 +23,5 @@ std::optional<MixerLibrary> MixerLibrary::load() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -26,3 +26,5 @@ struct MixerLibrary {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

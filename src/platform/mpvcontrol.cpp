@@ -273,3 +273,5 @@ QImage MpvControl::renderFrame(QSize size) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

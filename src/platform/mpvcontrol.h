@@ -38,3 +38,5 @@ class MpvControl final : public MultimediaControl {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -90,3 +90,5 @@ class MpvControl::Private {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -171,3 +171,5 @@ const mpv_event& MpvCore::nextEvent(qint64 milliseconds) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

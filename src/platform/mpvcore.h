@@ -66,3 +66,5 @@ class MpvCore {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

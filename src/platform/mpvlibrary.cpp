@@ -38,3 +38,5 @@ std::optional<MpvLibrary> MpvLibrary::load() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -36,3 +36,5 @@ struct MpvLibrary {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -145,3 +145,5 @@ void MpvControl::Private::close() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

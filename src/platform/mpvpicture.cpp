@@ -77,3 +77,5 @@ void MpvPicture::skip() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

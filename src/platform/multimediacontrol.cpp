@@ -31,3 +31,5 @@ QString mediaErrorText(MediaError error) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -104,3 +104,5 @@ class MultimediaControl : public QObject {
 QString mediaErrorText(MediaError error);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -47,3 +47,5 @@ PageScale PagesOnSheet::scale() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

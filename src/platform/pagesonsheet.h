@@ -26,3 +26,5 @@ struct PagesOnSheet {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -74,3 +74,5 @@ class Printer {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

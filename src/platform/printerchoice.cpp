@@ -50,3 +50,5 @@ PrinterChoice PrinterChoice::fromText(const QString& text) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

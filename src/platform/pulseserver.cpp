@@ -126,3 +126,5 @@ bool pulseServerHasDevice() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -7,3 +7,5 @@ namespace sarne {
 bool pulseServerHasDevice();
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

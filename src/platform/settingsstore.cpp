@@ -68,3 +68,5 @@ QString readAppPathValue(const SettingsStore& store, const QString& key) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -56,3 +56,5 @@ inline QString appPathsApplication() {
 QString readAppPathValue(const SettingsStore& store, const QString& key);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -30,3 +30,5 @@ QString SingleInstance::defaultLockFile() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

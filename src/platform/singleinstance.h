@@ -28,3 +28,5 @@ class SingleInstance {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

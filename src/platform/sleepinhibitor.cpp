@@ -75,3 +75,5 @@ void DesktopSleepInhibitor::release() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

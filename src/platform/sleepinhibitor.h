@@ -31,3 +31,5 @@ class DesktopSleepInhibitor final : public SleepInhibitor {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

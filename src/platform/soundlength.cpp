@@ -50,3 +50,5 @@ qint64 soundLength(const QByteArray& image) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -9,3 +9,5 @@ namespace sarne {
 qint64 soundLength(const QByteArray& image);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

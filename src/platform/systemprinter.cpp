@@ -240,3 +240,5 @@ PrintedDocument SystemPrinter::end() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -37,3 +37,5 @@ class SystemPrinter final : public Printer {
 QString printFileName(const QString& documentName);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

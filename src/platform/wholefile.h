@@ -36,3 +36,5 @@ class WholeFile final : public QIODevice {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

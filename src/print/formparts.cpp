@@ -18,3 +18,5 @@ void dressLabel(Label& label, const TextFont& font, const QColor& color, const Q
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

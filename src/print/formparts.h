@@ -19,3 +19,5 @@ void dressCheckBox(CheckBox& box, const Resources& resources, const QString& cap
 void dressLabel(Label& label, const TextFont& font, const QColor& color, const QString& text = {});
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -42,3 +42,5 @@ class frmNahled : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -354,3 +354,5 @@ bool frmPrint::goOn() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

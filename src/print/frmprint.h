@@ -122,3 +122,5 @@ class frmPrint : public Form, private PrintProgress {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

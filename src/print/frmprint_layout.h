@@ -45,3 +45,5 @@ inline constexpr QRect kPosition(7650, 8100, 2625, 540);
 inline constexpr QRect kNext(10350, 8100, 1200, 540);
 
 }  // namespace sarne::printlayout
+
+// SPDX-License-Identifier: GPL-3.0-or-later

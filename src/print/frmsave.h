@@ -57,3 +57,5 @@ class frmSave : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

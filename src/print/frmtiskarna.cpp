@@ -199,3 +199,5 @@ void frmTiskarna::paint(QPainter& painter) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -54,3 +54,5 @@ class frmTiskarna : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -66,3 +66,5 @@ std::vector<PageRange> breakPages(const std::vector<FlowLine>& lines, int height
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

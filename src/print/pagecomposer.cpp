@@ -171,3 +171,5 @@ void PageComposer::addPageName(PrintedPage& page, const QString& name, const QSt
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

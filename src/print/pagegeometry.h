@@ -29,3 +29,5 @@ struct PageGeometry {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

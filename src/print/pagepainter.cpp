@@ -60,3 +60,5 @@ bool paintPage(QPainter& painter, const PrintedPage& page, PrintProgress& progre
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

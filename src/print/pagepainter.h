@@ -12,3 +12,5 @@ namespace sarne {
 bool paintPage(QPainter& painter, const PrintedPage& page, PrintProgress& progress);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

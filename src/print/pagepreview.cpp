@@ -18,3 +18,5 @@ bool PagePreview::layOutMore() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -32,3 +32,5 @@ class PagePreview {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -43,3 +43,5 @@ class PageSheet : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -221,3 +221,5 @@ void ParagraphSetter::put(const Line& line, bool justify, bool ends) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

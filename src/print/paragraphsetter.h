@@ -80,3 +80,5 @@ class ParagraphSetter {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

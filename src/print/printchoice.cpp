@@ -46,3 +46,5 @@ std::vector<std::int16_t> PrintChoice::ids() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

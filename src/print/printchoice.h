@@ -35,3 +35,5 @@ class PrintChoice {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -49,3 +49,5 @@ struct FlowLine {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

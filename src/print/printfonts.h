@@ -25,3 +25,5 @@ inline TextFont body() {
 }
 
 }  // namespace sarne::printfonts
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -41,3 +41,5 @@ void Printing::printPages(const std::vector<std::int16_t>& ids) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

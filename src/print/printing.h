@@ -34,3 +34,5 @@ class Printing {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

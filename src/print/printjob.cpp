@@ -53,3 +53,5 @@ PrintOutcome PrintJob::end() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -47,3 +47,5 @@ class PrintJob {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

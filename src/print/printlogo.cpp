@@ -46,3 +46,5 @@ Picture printLogo(const Resources& resources) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -10,3 +10,5 @@ class Resources;
 Picture printLogo(const Resources& resources);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -10,3 +10,5 @@ QString PrintMaterial::documentName(const QString& first) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -24,3 +24,5 @@ struct PrintMaterial {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

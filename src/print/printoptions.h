@@ -20,3 +20,5 @@ struct PrintOptions {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

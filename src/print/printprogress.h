@@ -34,3 +34,5 @@ class SilentProgress final : public PrintProgress {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -258,3 +258,5 @@ void RecipeFlow::endPicture() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -84,3 +84,5 @@ class RecipeFlow {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

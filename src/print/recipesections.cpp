@@ -161,3 +161,5 @@ void RecipeSections::links() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

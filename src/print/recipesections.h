@@ -45,3 +45,5 @@ class RecipeSections {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -33,3 +33,5 @@ QStringList stepsInShort(const QString& text) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

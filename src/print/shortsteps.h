@@ -9,3 +9,5 @@ namespace sarne {
 QStringList stepsInShort(const QString& text);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -48,3 +48,5 @@ void ZobrazRtf(Surface& surface, const QString& text) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

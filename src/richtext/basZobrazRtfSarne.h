@@ -37,3 +37,5 @@ class basZobrazRtfSarne {
 void ZobrazRtf(Surface& surface, const QString& text);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

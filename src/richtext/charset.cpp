@@ -52,3 +52,5 @@ const CharsetTable& charsetTable(int charset) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -13,3 +13,5 @@ using CharsetTable = std::array<QChar, 256>;
 const CharsetTable& charsetTable(int charset);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -64,3 +64,5 @@ qreal FontFace::width(QStringView word) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -143,3 +143,5 @@ void LineBuilder::markHeading(TextLine& line) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -77,3 +77,5 @@ class LineBuilder {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

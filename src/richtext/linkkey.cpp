@@ -19,3 +19,5 @@ QColor linkColor(LinkKind kind) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -26,3 +26,5 @@ struct LinkKey {
 QColor linkColor(LinkKind kind);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -39,3 +39,5 @@ QString plainText(QStringView text, qsizetype enough) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

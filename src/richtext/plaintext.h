@@ -10,3 +10,5 @@ namespace sarne {
 QString plainText(QStringView text, qsizetype enough = std::numeric_limits<qsizetype>::max());
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

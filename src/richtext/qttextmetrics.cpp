@@ -26,3 +26,5 @@ int QtTextMetrics::textAscent(const TextFont& font) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -102,3 +102,5 @@ bool RtfCursor::atSilentGroup() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -62,3 +62,5 @@ class RtfCursor {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

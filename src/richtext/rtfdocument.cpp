@@ -61,3 +61,5 @@ QString RtfDocument::text() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

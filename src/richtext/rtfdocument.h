@@ -22,3 +22,5 @@ class RtfDocument {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

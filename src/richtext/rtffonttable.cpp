@@ -82,3 +82,5 @@ const RtfFontTable::Entry* RtfFontTable::find(int number) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

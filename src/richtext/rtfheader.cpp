@@ -165,3 +165,5 @@ RtfHeader RtfHeader::read(QStringView text) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -41,3 +41,5 @@ RtfLayout::LineRange RtfLayout::linesBetween(int top, int bottom) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -114,3 +114,5 @@ class RtfLayout {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

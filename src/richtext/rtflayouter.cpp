@@ -187,3 +187,5 @@ RtfLayout RtfLayout::ofPlain(QStringView text, const LayoutArea& area, TextMetri
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

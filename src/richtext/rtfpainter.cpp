@@ -127,3 +127,5 @@ void drawLine(Surface& surface, const RtfLayout& layout, qsizetype line, QPoint 
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -27,3 +27,5 @@ void drawLine(Surface& surface, const RtfLayout& layout, qsizetype line, QPoint 
               const StopFlag* stop = nullptr);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

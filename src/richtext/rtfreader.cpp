@@ -345,3 +345,5 @@ void readPlainText(QStringView text, RtfSink& sink, const StopFlag* stop) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

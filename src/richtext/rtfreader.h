@@ -24,3 +24,5 @@ void readPlainText(QStringView text, RtfSink& sink, const StopFlag* stop = nullp
 bool isRtf(QStringView text);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

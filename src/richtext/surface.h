@@ -67,3 +67,5 @@ class Surface {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -22,3 +22,5 @@ int SurfaceTextMetrics::textAscent(const TextFont& font) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -31,3 +31,5 @@ size_t qHash(const TextFont& font, size_t seed) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

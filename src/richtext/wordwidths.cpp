@@ -18,3 +18,5 @@ void WordWidths::grow() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -45,3 +45,5 @@ class WordWidths {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

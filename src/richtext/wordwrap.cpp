@@ -55,3 +55,5 @@ QStringList wrapAtBlanks(const QString& text, int width, const MeasureText& meas
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -25,3 +25,5 @@ QStringList wrapAtBlanks(const QString& text, int width, const MeasureText& meas
                          const QString& indent = {});
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -15,3 +15,5 @@ TEST(Language, QtsOwnTextsAreCzechWhateverTheUsersLanguage) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

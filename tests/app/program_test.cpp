@@ -271,3 +271,5 @@ TEST_F(ProgramTest, TheFirstVisitShowsTheThingsAndNoOther) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

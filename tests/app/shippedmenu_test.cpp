@@ -169,3 +169,5 @@ TEST_F(ShippedMenu, EveryRowOpensItsScreenOverRecordsThatExist) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -248,3 +248,5 @@ TEST_F(SplashTest, TheWindowsCloseButtonEndsTheStart) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -42,3 +42,5 @@ TEST(WindowPlaceTest, FillsTheDisplayOrStandsInItsMiddle) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

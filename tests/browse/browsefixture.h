@@ -79,3 +79,5 @@ class BrowseTest : public testing::Test {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

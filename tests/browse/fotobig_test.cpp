@@ -307,3 +307,5 @@ TEST(PhotoFile, ALargeScreenShowsTheFinerVersion) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

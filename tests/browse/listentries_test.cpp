@@ -74,3 +74,5 @@ TEST_F(ListEntriesTest, WinesStandOneALineBelowTheName) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

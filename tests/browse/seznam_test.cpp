@@ -385,3 +385,5 @@ TEST_F(SeznamTest, AnEmptyListAndAClosedDatabaseAreHarmless) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

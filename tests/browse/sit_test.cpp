@@ -245,3 +245,5 @@ TEST_F(SitTest, BackFromTheViewerTheGroupIsAsItWas) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -40,3 +40,5 @@ TEST(LetterJump, LettersAddUpUntilAPause) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -87,3 +87,5 @@ TEST(LogicalPathDrivesTest, DrivesAreAskedForAgainWhenALetterLeadsNowhere) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

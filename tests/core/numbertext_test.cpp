@@ -35,3 +35,5 @@ TEST(NumberText, IsShortAndFollowsTheLocale) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -115,3 +115,5 @@ TEST(QuantitiesTest, WithoutPortionsThereAreNoAmounts) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -83,3 +83,5 @@ TEST(SealedFile, AnyDamageBreaksTheSeal) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -29,3 +29,5 @@ TEST(Dialect, OneStatementOrNone) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -130,3 +130,5 @@ TEST_F(DatabaseFaults, NoStoredNoteIsLostToAKill) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -99,3 +99,5 @@ TEST_F(IngredientsTest, ToolsAndLinksAreAlphabetical) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -213,3 +213,5 @@ TEST_F(DamagedCopyTest, ANoteWithoutARecipeIsHandedOver) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

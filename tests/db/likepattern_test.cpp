@@ -54,3 +54,5 @@ TEST(LikePattern, ManyRunsStayQuick) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

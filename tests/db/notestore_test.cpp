@@ -90,3 +90,5 @@ TEST_F(NoteStoreTest, NotesComeBackToTheirRecipesInAnotherEdition) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -167,3 +167,5 @@ TEST_F(RecordsetTest, ATransactionIsAllOrNothing) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -95,3 +95,5 @@ TEST_F(DialogTest, ATextIsTakenAsItIs) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

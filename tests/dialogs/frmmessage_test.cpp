@@ -109,3 +109,5 @@ TEST_F(MessageTest, IsDraggedByItsGroundAndStaysOnTheScreen) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -68,3 +68,5 @@ TEST(MessageLayout, TheBoxHoldsItsButtonsInTheMiddleOfTheScreen) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -62,3 +62,5 @@ TEST_F(FactsTest, APortionIsReckonedFromTheWeights) {
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -185,3 +185,5 @@ INSTANTIATE_TEST_SUITE_P(Small, FaultTest, testing::ValuesIn(kFaults));
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

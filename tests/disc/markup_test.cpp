@@ -74,3 +74,5 @@ TEST_F(MarkupTest, PlainTextIsWhatAReaderSees) {
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -14,3 +14,5 @@ inline Lines linesOf(const char* text) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

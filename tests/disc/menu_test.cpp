@@ -102,3 +102,5 @@ INSTANTIATE_TEST_SUITE_P(
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

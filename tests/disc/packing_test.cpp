@@ -99,3 +99,5 @@ TEST_F(PackingTest, ScreenPicturesKeepTheirOrder) {
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

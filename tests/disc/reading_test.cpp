@@ -128,3 +128,5 @@ TEST(TypographyTest, GoodCzechPasses) {
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

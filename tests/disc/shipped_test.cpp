@@ -98,3 +98,5 @@ TEST_F(ShippedTest, NotesSurviveANewEdition) {
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -52,3 +52,5 @@ class SmallCookbook {
 };
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

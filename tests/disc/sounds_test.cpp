@@ -320,3 +320,5 @@ TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -124,3 +124,5 @@ TEST(GoodsTest, TheShippedBookKnowsItsGoodsAndSteps) {
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

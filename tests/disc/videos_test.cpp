@@ -315,3 +315,5 @@ TEST_F(MakeVideos, WhatIsWrongWithAScriptIsReportedAndMakesNothing) {
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -167,3 +167,5 @@ TEST_F(PhotosTest, OfTheCompactDiscAreAsFineAsTheirSource) {
 
 }  // namespace
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

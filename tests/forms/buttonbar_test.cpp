@@ -58,3 +58,5 @@ TEST_F(ButtonBarTest, ShownButtonsShareTheRowAndTabReadsThem) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

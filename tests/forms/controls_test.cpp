@@ -116,3 +116,5 @@ TEST(ProgressBar, StaysWithinItsRange) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

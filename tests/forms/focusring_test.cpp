@@ -214,3 +214,5 @@ TEST_F(FocusRingTest, TheFormItselfCanBeAStop) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

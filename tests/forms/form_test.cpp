@@ -197,3 +197,5 @@ TEST_F(FormTest, ALabelWrapsAtItsWidth) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

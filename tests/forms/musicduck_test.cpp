@@ -53,3 +53,5 @@ TEST_F(MusicDuckTest, ComesBackAtOnceWhenTheScreenGoesAndStaysForWhatIsNoSound) 
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

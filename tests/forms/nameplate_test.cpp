@@ -126,3 +126,5 @@ TEST_F(NamePlateTest, NamesAtOnceWhatTheKeyboardReaches) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -123,3 +123,5 @@ TEST_F(FinerPicture, ABrokenOneLeavesTheBmp) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -97,3 +97,5 @@ TEST_F(RoomTest, WithoutAWidePictureTheRestIsNeverBlack) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

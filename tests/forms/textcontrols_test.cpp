@@ -242,3 +242,5 @@ TEST_F(NoteEditing, OffersItsCommandsInCzech) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

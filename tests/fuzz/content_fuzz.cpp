@@ -17,3 +17,5 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     loadCookbook(ContentFolder(book.path(), problems), problems);
     return 0;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

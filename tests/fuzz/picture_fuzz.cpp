@@ -31,3 +31,5 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     readPhoto(file.fileName(), {40, 30});
     return 0;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -42,3 +42,5 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (rows(book.db.OpenTable(QStringLiteral("Suroviny"))) != 3) std::abort();
     return 0;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

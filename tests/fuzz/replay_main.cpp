@@ -27,3 +27,5 @@ int main(int argc, char** argv) {
     std::printf("%d inputs replayed\n", replayed);
     return replayed > 0 ? 0 : 1;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -62,3 +62,5 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     show(pieces, 2);
     return 0;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -68,3 +68,5 @@ class Cookbook {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

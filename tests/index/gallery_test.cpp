@@ -143,3 +143,5 @@ TEST_F(GalleryTest, APicturePrintsAsItsTexts) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -185,3 +185,5 @@ TEST(Pages, EachScreenFindsItsHelp) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -252,3 +252,5 @@ TEST_F(PageTest, KeysScrollTheTextFromTheBar) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -172,3 +172,5 @@ TEST_F(TablesTest, AnEmptyIndexIsUsable) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -48,3 +48,5 @@ TEST(MainFish, IsTheLineThatTheBookNames) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

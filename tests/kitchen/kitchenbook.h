@@ -43,3 +43,5 @@ inline void press(Form& form, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

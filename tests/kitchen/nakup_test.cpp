@@ -94,3 +94,5 @@ TEST_F(NakupTest, SaysOnceThatNothingCanBeKept) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

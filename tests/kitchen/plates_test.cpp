@@ -70,3 +70,5 @@ TEST_F(PlatesTest, TheEndIsAskedAboutWhileATimerRuns) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -115,3 +115,5 @@ TEST(KitchenTimers, RingOnceInTheOrderInWhichTheyEnd) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -182,3 +182,5 @@ TEST_F(SettingsTest, ByKeyboardAlone) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

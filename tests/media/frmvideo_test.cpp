@@ -179,3 +179,5 @@ TEST_F(VideoTest, SettingsOverAVideoKeepTheKeyboard) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

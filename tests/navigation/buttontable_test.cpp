@@ -39,3 +39,5 @@ TEST(ButtonTable, ArrowsGoToTheNearestAndEveryButtonCanBeReached) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

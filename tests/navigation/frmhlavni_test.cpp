@@ -235,3 +235,5 @@ TEST_F(MainScreenTest, AMenuThatOpensNothingGivesTheKeyboardBack) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

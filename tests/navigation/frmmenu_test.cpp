@@ -250,3 +250,5 @@ TEST_F(MenuFormTest, ResultsNeverCoverTheSearchAndSayWhatTheyHold) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

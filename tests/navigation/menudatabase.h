@@ -42,3 +42,5 @@ class MenuFixture : public testing::Test {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -57,3 +57,5 @@ TEST(MenuLayout, ALevelKeepsToTheHeightItIsGivenAndAHintHasItsLine) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

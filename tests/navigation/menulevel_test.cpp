@@ -56,3 +56,5 @@ TEST_F(MenuLevelTest, ASearchSaysWhatItDidNotFind) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -62,3 +62,5 @@ TEST_F(MenuTargetsTest, AnIngredientLeadsToItsRecipesOnceEachInCzechOrder) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

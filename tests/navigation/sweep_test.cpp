@@ -30,3 +30,5 @@ TEST(Sweep, EachThingGlowsUpOnceAndGoesOutAgain) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -155,3 +155,5 @@ TEST(AnnouncerTest, TextsAreAlertsOfTheWindow) {
 }  // namespace sarne
 
 #include "desktop_test.moc"
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -147,3 +147,5 @@ TEST(DisplayModesElsewhereTest, WhereModesCannotBeSwitchedNothingHappens) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

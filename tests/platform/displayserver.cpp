@@ -80,3 +80,5 @@ QSize DisplayServer::screenSize() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

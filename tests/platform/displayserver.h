@@ -26,3 +26,5 @@ class DisplayServer {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

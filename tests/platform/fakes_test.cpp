@@ -55,3 +55,5 @@ TEST(FakeDisplayModesTest, RestoresTheFirstSize) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -286,3 +286,5 @@ TEST(MpvControlUseTest, OpeningAHundredTimesKeepsNothing) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -235,3 +235,5 @@ TEST(SoundlessTest, EffectsWithoutADeviceAreSilentAndQuick) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -180,3 +180,5 @@ bool SoundServer::waitForSilence() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

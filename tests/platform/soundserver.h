@@ -71,3 +71,5 @@ class SoundServer {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

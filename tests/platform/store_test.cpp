@@ -157,3 +157,5 @@ TEST(SingleInstanceTest, AKilledProcessLeavesNoLock) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -140,3 +140,5 @@ ProcessUse ProcessUse::now() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

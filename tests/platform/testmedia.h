@@ -54,3 +54,5 @@ struct ProcessUse {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

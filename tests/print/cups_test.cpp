@@ -140,3 +140,5 @@ TEST(Cups, PrintsOnAQueueAndNoticesWhenItIsGone) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -462,3 +462,5 @@ TEST_F(FrmPrintTest, HelpPagesAndOtherTextsPrintWithoutOptions) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -208,3 +208,5 @@ TEST_F(FrmSaveTest, WorksFromTheKeyboardAlone) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

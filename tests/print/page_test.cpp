@@ -304,3 +304,5 @@ TEST(RecipeFlow, AsksAtEveryLineAndStopsAtOnce) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -93,3 +93,5 @@ TEST(ParagraphSetter, FillsTheLinesButTheLast) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -144,3 +144,5 @@ class PrintCookbook {
 };
 
 }  // namespace sarne::test
+
+// SPDX-License-Identifier: GPL-3.0-or-later

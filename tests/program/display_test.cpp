@@ -99,3 +99,5 @@ TEST_F(ProgramDisplayTest, NoAndNoEndAtOnce) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

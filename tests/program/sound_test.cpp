@@ -123,3 +123,5 @@ TEST_F(ProgramSoundTest, ADevicePulledOutSilencesAndEndsNothing) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -114,3 +114,5 @@ TEST_F(ProgramVideoTest, AFilmOfAnHourIsSoughtAtOnce) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

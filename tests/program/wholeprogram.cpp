@@ -117,3 +117,5 @@ void WholeProgram::showFilm(int number, const QString& expected) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

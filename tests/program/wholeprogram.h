@@ -72,3 +72,5 @@ class AudibleProgram : public WholeProgram {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -120,3 +120,5 @@ TEST_F(RecipeTest, PrintedGolden) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

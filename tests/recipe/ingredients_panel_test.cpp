@@ -163,3 +163,5 @@ TEST_F(IngredientPanelTest, CollectedTextFollowsTheChoice) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -310,3 +310,5 @@ TEST_F(NoteTest, ASavedNoteSurvivesAKill) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -78,3 +78,5 @@ TEST_F(OwnNoteTest, ADraftIsKeptAtASuddenEndAndForgottenWhenDeclined) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

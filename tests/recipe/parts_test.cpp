@@ -98,3 +98,5 @@ TEST_F(ColumnsTest, WideLinesStayInTheirColumn) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

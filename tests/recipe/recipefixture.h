@@ -133,3 +133,5 @@ class RecipeTest : public testing::Test {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -300,3 +300,5 @@ TEST_F(ScreenTest, TakesAnyKeyOnAnyControlWithoutHarm) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -208,3 +208,5 @@ TEST(LinkColors, AreReadableOnPaper) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -119,3 +119,5 @@ TEST(Faults, CanBePainted) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -40,3 +40,5 @@ INSTANTIATE_TEST_SUITE_P(Editors, Fixtures, testing::Values("wordpad", "office",
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

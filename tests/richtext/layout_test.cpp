@@ -141,3 +141,5 @@ TEST_F(Layout, MarksParagraphsAndHeadings) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

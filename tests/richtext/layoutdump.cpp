@@ -120,3 +120,5 @@ QString lossOf(QStringView text, const RtfLayout& layout, LinkMarkers markers) {
 }
 
 }  // namespace sarne::test
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -40,3 +40,5 @@ QString faultOf(const RtfLayout& layout);
 QString lossOf(QStringView text, const RtfLayout& layout, LinkMarkers markers);
 
 }  // namespace sarne::test
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -151,3 +151,5 @@ TEST(RtfReader, StopsBetweenCharacters) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

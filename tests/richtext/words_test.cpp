@@ -43,3 +43,5 @@ TEST(PlainTextTest, KeepsWordsAndParagraphsOnly) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fails when a folder of src/ includes a folder that it may not use, goes round that by an odd path, or queries the
 # database in a text of its own.
 cmake_minimum_required(VERSION 3.25)

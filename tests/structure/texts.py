@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Finds Czech texts in the sources below DIR that do not pass through Texts::tr: texts.py DIR. Names of files, and what
 only sorts letters, are no texts for the user."""
 import pathlib

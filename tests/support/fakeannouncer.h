@@ -14,3 +14,5 @@ class FakeAnnouncer final : public Announcer {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

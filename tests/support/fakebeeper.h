@@ -12,3 +12,5 @@ class FakeBeeper final : public Beeper {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -36,3 +36,5 @@ class FakeDisplayModes final : public DisplayModes {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -26,3 +26,5 @@ class FakeEffects final : public EffectPlayer {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

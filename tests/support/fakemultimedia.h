@@ -108,3 +108,5 @@ class FakeMultimedia final : public MultimediaControl {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -40,3 +40,5 @@ class FakePlatform {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

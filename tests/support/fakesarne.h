@@ -133,3 +133,5 @@ Widget* child(const QWidget& form, const char* name) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

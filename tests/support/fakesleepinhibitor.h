@@ -20,3 +20,5 @@ class FakeSleepInhibitor final : public SleepInhibitor {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

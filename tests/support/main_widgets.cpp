@@ -9,3 +9,5 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

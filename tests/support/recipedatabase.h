@@ -26,3 +26,5 @@ inline void writeRecipeDatabase(const QString& file, const QStringList& statemen
 }
 
 }  // namespace sarne::test
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -45,3 +45,5 @@ TEST(Looks, AnotherDishPassesAMissingGroundDoesNot) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

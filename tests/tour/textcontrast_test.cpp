@@ -60,3 +60,5 @@ TEST(TextContrast, CountsWhatShowsThroughTheText) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

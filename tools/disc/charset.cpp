@@ -29,3 +29,5 @@ std::optional<unsigned char> windows1250(QChar character) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

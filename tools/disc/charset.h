@@ -9,3 +9,5 @@ namespace sarne::disc {
 std::optional<unsigned char> windows1250(QChar character);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

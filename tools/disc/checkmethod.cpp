@@ -120,3 +120,5 @@ void checkSteps(const Lines& text, Problems& problems) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -17,3 +17,5 @@ void checkMethod(const Cookbook& book, const Stems& stems, const Recipe& recipe,
 void checkSteps(const Lines& text, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

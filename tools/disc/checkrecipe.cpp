@@ -175,3 +175,5 @@ void checkRecipe(const Cookbook& book, const Stems& stems, const Recipe& recipe,
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -12,3 +12,5 @@ namespace sarne::disc {
 void checkRecipe(const Cookbook& book, const Stems& stems, const Recipe& recipe, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

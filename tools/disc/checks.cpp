@@ -147,3 +147,5 @@ void checkCookbook(const Cookbook& book, const Stems& stems, Problems& problems)
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -15,3 +15,5 @@ LinkBook linkBook(const Cookbook& book, Problems& problems);
 void checkCookbook(const Cookbook& book, const Stems& stems, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -81,3 +81,5 @@ void checkSearch(const Cookbook& book, Problems& problems) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -13,3 +13,5 @@ void checkTags(const Cookbook& book, Problems& problems);
 void checkSearch(const Cookbook& book, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -30,3 +30,5 @@ int Cookbook::auxiliaryId(const QString& name) const {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -308,3 +308,5 @@ struct Cookbook {
 };
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

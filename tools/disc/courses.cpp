@@ -20,3 +20,5 @@ QStringList gridCourses(int recipe) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

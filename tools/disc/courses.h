@@ -11,3 +11,5 @@ const QStringList& courses();
 QStringList gridCourses(int recipe);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

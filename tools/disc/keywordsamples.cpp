@@ -127,3 +127,5 @@ QList<KeywordSample> keywordSamples(const Cookbook& book, const LinkBook& links,
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

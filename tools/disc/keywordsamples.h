@@ -30,3 +30,5 @@ void readKeywordPictures(const ContentFolder& folder, Cookbook& book, Problems& 
 QList<KeywordSample> keywordSamples(const Cookbook& book, const LinkBook& links, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -29,3 +29,5 @@ std::optional<LinkTarget> LinkBook::find(const QString& name) const {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

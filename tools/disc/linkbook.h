@@ -33,3 +33,5 @@ class LinkBook {
 };
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

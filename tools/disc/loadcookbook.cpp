@@ -133,3 +133,5 @@ void proofread(const ContentFolder& folder, const Cookbook& book, Problems& prob
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

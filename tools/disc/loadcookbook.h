@@ -12,3 +12,5 @@ Cookbook loadCookbook(const ContentFolder& folder, Problems& problems);
 void proofread(const ContentFolder& folder, const Cookbook& book, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

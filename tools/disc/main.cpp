@@ -116,3 +116,5 @@ int main(int argc, char** argv) {
     if (sizeOf(shop.disc) > kDiscLimit) problems.error({shop.disc, 0}, QStringLiteral("disk má přes 650 MB"));
     return report(problems);
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

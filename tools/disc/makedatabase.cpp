@@ -16,3 +16,5 @@ void makeDatabase(Workshop& shop, const ContentFolder& folder) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

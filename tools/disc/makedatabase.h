@@ -8,3 +8,5 @@ namespace sarne::disc {
 void makeDatabase(Workshop& shop, const ContentFolder& folder);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

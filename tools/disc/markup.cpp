@@ -224,3 +224,5 @@ QString plainText(const QString& line) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

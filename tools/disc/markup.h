@@ -22,3 +22,5 @@ QString toRtf(const Lines& lines, const QString& heading, const LinkBook& links,
 QString plainText(const QString& line);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

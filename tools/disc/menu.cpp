@@ -308,3 +308,5 @@ void checkReachable(const QList<MenuRow>& rows, const Cookbook& book, Problems& 
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -28,3 +28,5 @@ void checkMenu(const QList<MenuRow>& rows, const Cookbook& book, Problems& probl
 void checkReachable(const QList<MenuRow>& rows, const Cookbook& book, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

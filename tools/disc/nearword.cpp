@@ -48,3 +48,5 @@ QString didYouMean(const QString& word, const QStringList& known) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

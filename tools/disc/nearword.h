@@ -10,3 +10,5 @@ namespace sarne::disc {
 QString didYouMean(const QString& word, const QStringList& known);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -21,3 +21,5 @@ void inParallel(qsizetype count, const Work& work) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -253,3 +253,5 @@ void makePhotos(Workshop& shop) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -12,3 +12,5 @@ namespace sarne::disc {
 void makePhotos(Workshop& shop);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -30,3 +30,5 @@ QImage plainPlate(const QString& name) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

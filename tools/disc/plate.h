@@ -9,3 +9,5 @@ namespace sarne::disc {
 QImage plainPlate(const QString& name);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

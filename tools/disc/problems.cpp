@@ -28,3 +28,5 @@ void Problems::note(const QString& text) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

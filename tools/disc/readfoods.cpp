@@ -59,3 +59,5 @@ void readSearchWords(const ContentFolder& folder, Cookbook& book) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

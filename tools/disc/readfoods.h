@@ -16,3 +16,5 @@ void readFoods(const ContentFolder& folder, Cookbook& book, Problems& problems);
 void readSearchWords(const ContentFolder& folder, Cookbook& book);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -79,3 +79,5 @@ void readGoods(const ContentFolder& folder, Cookbook& book, Problems& problems) 
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -11,3 +11,5 @@ namespace sarne::disc {
 void readGoods(const ContentFolder& folder, Cookbook& book, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

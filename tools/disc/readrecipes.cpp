@@ -135,3 +135,5 @@ void readRecipes(const ContentFolder& folder, Cookbook& book, Problems& problems
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -18,3 +18,5 @@ void readRecipes(const ContentFolder& folder, Cookbook& book, Problems& problems
 IngredientLine readIngredientLine(const Line& line, const Cookbook& book, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

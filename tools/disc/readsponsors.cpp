@@ -89,3 +89,5 @@ QString sponsorTarget(const GalleryArea& area, const LinkBook& links) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

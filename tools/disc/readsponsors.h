@@ -27,3 +27,5 @@ void checkSponsors(const Cookbook& book, const LinkBook& links, Problems& proble
 QString sponsorTarget(const GalleryArea& area, const LinkBook& links);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

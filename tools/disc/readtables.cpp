@@ -240,3 +240,5 @@ void readArticles(const ContentFolder& folder, Cookbook& book, Problems& problem
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -17,3 +17,5 @@ void readArticles(const ContentFolder& folder, Cookbook& book, Problems& problem
 double czechNumber(const QString& text);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

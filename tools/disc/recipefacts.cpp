@@ -77,3 +77,5 @@ Lines factFoot(const Recipe& recipe, const std::optional<Nutrition>& portion) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

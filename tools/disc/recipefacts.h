@@ -19,3 +19,5 @@ Lines factLine(const Recipe& recipe);
 Lines factFoot(const Recipe& recipe, const std::optional<Nutrition>& portion);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -102,3 +102,5 @@ void readRecipeHead(const Lines& lines, Recipe& recipe, Problems& problems) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

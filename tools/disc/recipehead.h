@@ -10,3 +10,5 @@ namespace sarne::disc {
 void readRecipeHead(const Lines& lines, Recipe& recipe, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

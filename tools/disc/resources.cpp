@@ -71,3 +71,5 @@ void makeResources(Workshop& shop, const QString& rcc) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

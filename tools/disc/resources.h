@@ -16,3 +16,5 @@ namespace sarne::disc {
 void makeResources(Workshop& shop, const QString& rcc);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

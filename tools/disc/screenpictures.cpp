@@ -53,3 +53,5 @@ void makeScreenPictures(Workshop& shop) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

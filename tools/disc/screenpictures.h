@@ -9,3 +9,5 @@ namespace sarne::disc {
 void makeScreenPictures(Workshop& shop);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

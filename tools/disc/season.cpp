@@ -30,3 +30,5 @@ std::optional<int> monthsOf(const QString& season) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

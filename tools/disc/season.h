@@ -10,3 +10,5 @@ namespace sarne::disc {
 std::optional<int> monthsOf(const QString& season);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

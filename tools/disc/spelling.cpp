@@ -47,3 +47,5 @@ void SpellCheck::report(Problems& problems) const {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

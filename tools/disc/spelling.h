@@ -26,3 +26,5 @@ class SpellCheck {
 };
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

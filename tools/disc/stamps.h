@@ -14,3 +14,5 @@ QString sounds();
 QString videos();
 
 }  // namespace sarne::disc::stamp
+
+// SPDX-License-Identifier: GPL-3.0-or-later

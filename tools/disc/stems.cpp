@@ -53,3 +53,5 @@ Stems readStems(const ContentFolder& folder, Problems& problems) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

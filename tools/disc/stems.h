@@ -35,3 +35,5 @@ struct Stems {
 Stems readStems(const ContentFolder& folder, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

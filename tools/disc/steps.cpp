@@ -244,3 +244,5 @@ QList<RecipeStep> cookingSteps(const Cookbook& book, const Stems& stems, const R
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -19,3 +19,5 @@ QList<RecipeStep> cookingSteps(const Cookbook& book, const Stems& stems, const R
                                Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

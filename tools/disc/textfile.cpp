@@ -89,3 +89,5 @@ QStringList trimmedParts(const QString& text, QChar separator) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -72,3 +72,5 @@ KeyValue keyValue(const Line& line);
 QStringList trimmedParts(const QString& text, QChar separator);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

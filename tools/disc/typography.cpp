@@ -53,3 +53,5 @@ QString withUnbreakableBlanks(QString text) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -16,3 +16,5 @@ void checkTypography(const QString& text, const Place& place, Problems& problems
 QString withUnbreakableBlanks(QString text);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

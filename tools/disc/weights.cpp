@@ -70,3 +70,5 @@ std::optional<Nutrition> nutrition(const Cookbook& book, const Recipe& recipe, P
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -22,3 +22,5 @@ struct Nutrition {
 std::optional<Nutrition> nutrition(const Cookbook& book, const Recipe& recipe, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

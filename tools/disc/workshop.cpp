@@ -102,3 +102,5 @@ bool Workshop::makeAll(const QList<Task>& tasks) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -88,3 +88,5 @@ struct Workshop {
 };
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

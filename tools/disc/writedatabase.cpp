@@ -229,3 +229,5 @@ void writePictureDatabase(const QList<QByteArray>& pictures, const QString& file
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

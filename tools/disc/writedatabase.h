@@ -12,3 +12,5 @@ void writeRecipeDatabase(const Cookbook& book, const QString& file, Problems& pr
 void writePictureDatabase(const QList<QByteArray>& pictures, const QString& file, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

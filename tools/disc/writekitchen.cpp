@@ -80,3 +80,5 @@ void writeKitchen(const Cookbook& book, const AddRow& add, Problems& problems) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -14,3 +14,5 @@ using AddRow = std::function<void(const QString& table, const QVariantList& valu
 void writeKitchen(const Cookbook& book, const AddRow& add, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

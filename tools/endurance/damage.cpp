@@ -154,3 +154,5 @@ int readDamaged(const QString& program, const QString& disc, int count, unsigned
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -17,3 +17,5 @@ QByteArray damaged(const QByteArray& sound, std::mt19937& random);
 int readDamaged(const QString& program, const QString& disc, int count, unsigned seed, double seconds);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

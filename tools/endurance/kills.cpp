@@ -271,3 +271,5 @@ int killEverywhere(const QString& book, int count, unsigned seed, QTextStream& o
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -11,3 +11,5 @@ namespace sarne {
 int killEverywhere(const QString& book, int count, unsigned seed, QTextStream& out);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -37,3 +37,5 @@ int main(int argc, char** argv) {
     const QString book = options.value(program) + QStringLiteral("/Sarne.drc");
     return killEverywhere(book, times, options.value(seed).toUInt(), out) > 0;
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Puts small faults into src/, one at a time, and tells how many of them the tests notice.
 
     tools/mutants/mutants.py --seed 1 --count 30 --minutes 20 [--folders db,forms] [--others]

@@ -180,3 +180,5 @@ void recipeFacts(Tour& tour) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

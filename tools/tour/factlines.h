@@ -11,3 +11,5 @@ class Tour;
 void recipeFacts(Tour& tour);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -62,3 +62,5 @@ bool Looks::accept() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -33,3 +33,5 @@ class Looks {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

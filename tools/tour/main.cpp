@@ -160,3 +160,5 @@ int main(int argc, char** argv) {
     walk(tour);
     return report(out, tour, pictures, folder.path(), options.value(expect), looks, options.isSet(accept));
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -91,3 +91,5 @@ ScreenText screenText(const Stage& stage, const std::vector<TextContrast>& paint
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -20,3 +20,5 @@ struct ScreenText {
 ScreenText screenText(const Stage& stage, const std::vector<TextContrast>& painted);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -278,3 +278,5 @@ void walk(Tour& tour) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -200,3 +200,5 @@ std::vector<TextContrast> textContrasts(QWidget& widget) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -30,3 +30,5 @@ double contrastRatio(const QColor& one, const QColor& other);
 std::vector<TextContrast> textContrasts(QWidget& widget);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

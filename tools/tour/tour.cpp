@@ -153,3 +153,5 @@ void Tour::wait(int milliseconds) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

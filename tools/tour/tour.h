@@ -84,3 +84,5 @@ class Tour {
 void walk(Tour& tour);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -106,3 +106,5 @@ bool wander(Program& program, int steps, unsigned seed, QTextStream& out) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

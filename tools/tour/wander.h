@@ -12,3 +12,5 @@ class Program;
 bool wander(Program& program, int steps, unsigned seed, QTextStream& out);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Lays settings of a voice side by side: for each a spectrogram and the pitch over time as pictures, and the loudness,
 # peak, pitch and its spread as a table. Needs festival, festvox-czech-*, ffmpeg, sox and praat.
 #     tools/voices/compare.sh FOLDER "Kapr na kmíně." "voice_czech_dita 208 1.16" "voice_czech_dita 222 1.0" …

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What lies on the plates."""
 from .flakes import flakes  # noqa: F401
 from .shapes import (blob, loft, sheet, slab)  # noqa: F401

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Cooked fish flesh: muscle layers that part into flakes, seams, a crust that is darker at its edges."""
 import numpy as np
 

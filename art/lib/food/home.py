@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Plain home cooking: potato pancakes, tubes of pasta, spinach, sauerkraut, sardines in their tin, covered fillets."""
 import math
 import random

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Fish as it comes from the kitchen: steaks, fillets, cubes, breaded, rolled, cured."""
 import math
 import random

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Sauces, soups, aspic, cream, steam."""
 import math
 import random

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """The shapes that food is made of: blobs, slabs, sheets, lofts."""
 import math
 import random

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Potatoes, dumplings, bread, rice, pasta."""
 import math
 import random

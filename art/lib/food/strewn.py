@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Grains and small bits that are strewn over a dish."""
 import math
 import random

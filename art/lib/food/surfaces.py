@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What cut fish, skin and crumbs look like."""
 
 from ..core import mat

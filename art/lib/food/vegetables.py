@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Vegetables, fruit, eggs, nuts, butter, bacon."""
 import math
 import random

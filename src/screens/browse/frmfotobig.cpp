@@ -224,3 +224,5 @@ void frmFotoBig::gotFocus() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

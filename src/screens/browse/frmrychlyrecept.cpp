@@ -66,3 +66,5 @@ void showPictureOrWords(PictureBox& box, const QImage& picture, const QString& w
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -36,3 +36,5 @@ class frmRychlyRecept : public Form {
 void showPictureOrWords(PictureBox& box, const QImage& picture, const QString& words);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

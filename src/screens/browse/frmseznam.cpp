@@ -233,3 +233,5 @@ void frmSeznam::restored() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -103,3 +103,5 @@ class frmSeznam : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -263,3 +263,5 @@ bool frmSeznam::jumpToLetter(const QKeyEvent& event) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

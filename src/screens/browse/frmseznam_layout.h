@@ -52,3 +52,5 @@ constexpr QRect actionPlate(int place) {
 inline constexpr QRect kBar{7600, 6860, 4150, 1140};
 
 }  // namespace sarne::seznam
+
+// SPDX-License-Identifier: GPL-3.0-or-later

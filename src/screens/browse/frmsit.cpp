@@ -149,3 +149,5 @@ void frmSit::restored() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

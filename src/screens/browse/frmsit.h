@@ -65,3 +65,5 @@ class frmSit : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

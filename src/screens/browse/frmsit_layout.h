@@ -26,3 +26,5 @@ constexpr QRect barButton(int index) {
 }
 
 }  // namespace sarne::sit
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -24,3 +24,5 @@ void updatePart(TwipWidget& widget, const QRect& twips) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -26,3 +26,5 @@ class Ground {
 void updatePart(TwipWidget& widget, const QRect& twips);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

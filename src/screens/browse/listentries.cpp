@@ -61,3 +61,5 @@ QString wineText(Database& db, const QString& name, std::int32_t id) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

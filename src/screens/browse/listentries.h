@@ -32,3 +32,5 @@ std::vector<ListEntry> readEntries(Database& db, const QString& table, const QSt
 QString wineText(Database& db, const QString& name, std::int32_t id);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

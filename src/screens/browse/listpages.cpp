@@ -68,3 +68,5 @@ bool ListPages::moveToLast() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -65,3 +65,5 @@ void PhotoDecoder::work(const std::stop_token& stop) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

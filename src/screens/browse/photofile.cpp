@@ -52,3 +52,5 @@ QImage readPhoto(const QString& file, QSize room) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -15,3 +15,5 @@ QImage readPhoto(const QString& file);
 QImage readPhoto(const QString& file, QSize room);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -97,3 +97,5 @@ int PhotoGrid::photoPosition() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -51,3 +51,5 @@ class PhotoGrid {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

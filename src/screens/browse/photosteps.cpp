@@ -94,3 +94,5 @@ std::vector<std::int16_t> PhotoSteps::neighbours() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

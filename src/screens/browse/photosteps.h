@@ -47,3 +47,5 @@ class PhotoSteps {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -26,3 +26,5 @@ class AreaButton : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

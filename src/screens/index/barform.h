@@ -56,3 +56,5 @@ class BarForm : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

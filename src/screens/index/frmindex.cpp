@@ -51,3 +51,5 @@ void frmIndex::goBack() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -30,3 +30,5 @@ class frmIndex : public TextForm {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

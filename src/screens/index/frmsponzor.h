@@ -59,3 +59,5 @@ class frmSponzor : public BarForm {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -45,3 +45,5 @@ void frmStranka::helpButton() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

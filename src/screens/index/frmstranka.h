@@ -29,3 +29,5 @@ class frmStranka : public TextForm {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

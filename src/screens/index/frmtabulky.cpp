@@ -217,3 +217,5 @@ void FrmTabulky::paint(QPainter& painter) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

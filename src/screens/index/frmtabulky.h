@@ -38,3 +38,5 @@ class FrmTabulky : public BarForm {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

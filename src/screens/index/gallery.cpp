@@ -55,3 +55,5 @@ std::vector<GalleryPicture> readGallery(Database& db, int topic) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -45,3 +45,5 @@ struct GalleryPicture {
 std::vector<GalleryPicture> readGallery(Database& db, int topic);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -11,3 +11,5 @@ bool beginsWithHeading(QStringView text, const QString& name) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -9,3 +9,5 @@ namespace sarne {
 bool beginsWithHeading(QStringView text, const QString& name);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -96,3 +96,5 @@ QRect KeywordAside::besideIt(const QRect& text) const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

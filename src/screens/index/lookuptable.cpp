@@ -84,3 +84,5 @@ QString tableAsText(const LookupTable& table) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -46,3 +46,5 @@ QString indexLetter(const QString& name);
 QString tableAsText(const LookupTable& table);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

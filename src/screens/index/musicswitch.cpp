@@ -17,3 +17,5 @@ void switchMusic(basSarne& app) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

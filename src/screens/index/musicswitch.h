@@ -9,3 +9,5 @@ class basSarne;
 void switchMusic(basSarne& app);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

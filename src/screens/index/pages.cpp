@@ -28,3 +28,5 @@ QString helpPageFor(Database& db, const QString& formName) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -28,3 +28,5 @@ std::optional<Page> readPage(Database& db, const QString& id);
 QString helpPageFor(Database& db, const QString& formName);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

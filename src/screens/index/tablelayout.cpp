@@ -104,3 +104,5 @@ TableLayout TableLayout::of(const LookupTable& table, int width, const TextFont&
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

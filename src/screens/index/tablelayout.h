@@ -22,3 +22,5 @@ struct TableLayout {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

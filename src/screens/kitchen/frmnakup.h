@@ -64,3 +64,5 @@ class frmNakup : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

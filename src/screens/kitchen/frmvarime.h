@@ -85,3 +85,5 @@ class frmVarime : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -236,3 +236,5 @@ QStringList KitchenPlates::texts() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -74,3 +74,5 @@ int lastButton(const ButtonTable& table) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -40,3 +40,5 @@ int firstButton(const ButtonTable& table);
 int lastButton(const ButtonTable& table);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

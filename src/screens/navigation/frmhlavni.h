@@ -82,3 +82,5 @@ class frmHlavni : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -102,3 +102,5 @@ class frmMenu : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

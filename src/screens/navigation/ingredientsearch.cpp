@@ -77,3 +77,5 @@ QString recipeCountText(int recipes) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

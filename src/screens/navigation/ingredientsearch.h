@@ -28,3 +28,5 @@ std::vector<std::int16_t> recipesWithIngredient(Database& db, const QString& ing
 QString recipeCountText(int recipes);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

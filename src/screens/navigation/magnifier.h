@@ -38,3 +38,5 @@ class Magnifier : public Control {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

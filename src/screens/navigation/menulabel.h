@@ -48,3 +48,5 @@ class MenuLabel : public Label {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

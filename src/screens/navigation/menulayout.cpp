@@ -80,3 +80,5 @@ MenuGeometry layOutMenu(const MenuContent& content, const QRect& beside, int max
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -35,3 +35,5 @@ inline constexpr int kMenuHeight = 8700;
 MenuGeometry layOutMenu(const MenuContent& content, const QRect& beside, int maxHeight = kMenuHeight);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -36,3 +36,5 @@ MenuLevel MenuLevel::build(Database& db, const QString& code) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -37,3 +37,5 @@ struct MenuLevel {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

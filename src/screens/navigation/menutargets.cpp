@@ -128,3 +128,5 @@ void OpenMenuTarget(basSarne& app, std::int16_t item, std::int16_t level, const 
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

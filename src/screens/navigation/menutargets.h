@@ -15,3 +15,5 @@ class basSarne;
 void OpenMenuTarget(basSarne& app, std::int16_t item, std::int16_t level, const QString& text);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -30,3 +30,5 @@ std::vector<int> Sweep::lit() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -30,3 +30,5 @@ class Sweep {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

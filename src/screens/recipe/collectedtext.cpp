@@ -53,3 +53,5 @@ QString collectedText(Database& db, const Recordset& recipe, int id, UnitSystem 
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -14,3 +14,5 @@ QString collectedText(Database& db, const Recordset& recipe, int id, UnitSystem 
                       const Quantities& quantities);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

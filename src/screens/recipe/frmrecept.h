@@ -79,3 +79,5 @@ class frmRecept : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

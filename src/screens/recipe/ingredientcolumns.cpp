@@ -43,3 +43,5 @@ std::vector<PlacedLine> placeInColumns(const std::vector<QString>& lines, const 
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

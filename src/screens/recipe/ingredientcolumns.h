@@ -30,3 +30,5 @@ std::vector<PlacedLine> placeInColumns(const std::vector<QString>& lines, const 
                                        const MeasureText& measure);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

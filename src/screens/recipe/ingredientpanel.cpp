@@ -227,3 +227,5 @@ bool IngredientPanel::step(bool sideways, int direction) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -52,3 +52,5 @@ class IngredientPanel : public RecipeSection {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -134,3 +134,5 @@ std::vector<FocusGroup> LinkPanel::stops() const {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

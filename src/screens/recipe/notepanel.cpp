@@ -101,3 +101,5 @@ void NotePanel::beforePrint() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

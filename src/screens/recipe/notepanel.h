@@ -39,3 +39,5 @@ class NotePanel : public RecipeSection {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

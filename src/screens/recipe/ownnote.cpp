@@ -60,3 +60,5 @@ bool OwnNote::store(const QString& content) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -50,3 +50,5 @@ class OwnNote {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

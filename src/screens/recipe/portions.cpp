@@ -45,3 +45,5 @@ QString PanelPosition::hint(int position, UnitSystem units) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

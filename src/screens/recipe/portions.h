@@ -58,3 +58,5 @@ class PanelPosition {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -62,3 +62,5 @@ constexpr QRect noteButton(int index) {
 }
 
 }  // namespace sarne::recipelayout
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -89,3 +89,5 @@ class RecipeSection {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -40,3 +40,5 @@ std::span<const SectionKind> sectionKinds() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -19,3 +19,5 @@ struct SectionKind {
 std::span<const SectionKind> sectionKinds();
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -73,3 +73,5 @@ void ToolSection::draw() {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

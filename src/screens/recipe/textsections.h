@@ -53,3 +53,5 @@ class ToolSection : public RecipeSection {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

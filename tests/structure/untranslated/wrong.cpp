@@ -6,3 +6,5 @@ void show() {
     setText(Texts::tr("Není vybrán recept"));
     setText(QStringLiteral("Není přeloženo"));
 }
+
+// SPDX-License-Identifier: GPL-3.0-or-later

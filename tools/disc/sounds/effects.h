@@ -56,3 +56,5 @@ QList<Effect> readEffects(const Lines& lines, Problems& problems);
 Sound renderEffect(const Effect& effect);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -147,3 +147,5 @@ void makeSounds(Workshop& shop) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

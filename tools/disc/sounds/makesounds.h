@@ -15,3 +15,5 @@ void makeSounds(Workshop& shop);
 void makeEffects(Workshop& shop);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

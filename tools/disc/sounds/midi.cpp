@@ -93,3 +93,5 @@ QByteArray midiFile(const Score& score, int passes, int beatMicroseconds) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

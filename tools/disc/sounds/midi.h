@@ -11,3 +11,5 @@ namespace sarne::disc {
 QByteArray midiFile(const Score& score, int passes, int beatMicroseconds);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -125,3 +125,5 @@ Sound renderMusic(const Score& score, const QList<Effect>& effects, double peak,
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

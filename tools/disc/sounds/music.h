@@ -18,3 +18,5 @@ Sound renderMusic(const Score& score, const QList<Effect>& effects, double peak,
                   const Place& place, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -75,3 +75,5 @@ QList<int> chordTones(const QString& chord) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

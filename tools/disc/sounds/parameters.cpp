@@ -53,3 +53,5 @@ void Parameters::reportUnknown() {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

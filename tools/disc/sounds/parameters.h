@@ -41,3 +41,5 @@ class Parameters {
 };
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -35,3 +35,5 @@ QString Pronunciation::spoken(QString text) const {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

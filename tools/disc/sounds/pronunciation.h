@@ -28,3 +28,5 @@ class Pronunciation {
 };
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

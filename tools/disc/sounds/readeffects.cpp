@@ -102,3 +102,5 @@ QList<Effect> readEffects(const Lines& lines, Problems& problems) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

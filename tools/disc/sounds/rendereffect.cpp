@@ -220,3 +220,5 @@ Sound renderEffect(const Effect& effect) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -230,3 +230,5 @@ Score readScore(const Lines& lines, Problems& problems) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

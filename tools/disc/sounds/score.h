@@ -71,3 +71,5 @@ int pitchOf(const QString& note);
 QList<int> chordTones(const QString& chord);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

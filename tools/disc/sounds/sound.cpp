@@ -119,3 +119,5 @@ Sound readWav(const QString& file) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -39,3 +39,5 @@ bool writeWav(const QString& file, const Sound& sound);
 Sound readWav(const QString& file);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -186,3 +186,5 @@ Spoken Voices::finished(Sound raw, const QString& filters) const {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

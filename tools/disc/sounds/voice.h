@@ -42,3 +42,5 @@ class Voices {
 };
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -156,3 +156,5 @@ Cast readCast(const Lines& lines, const QHash<QString, Picture>& layers, Problem
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

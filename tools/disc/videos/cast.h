@@ -73,3 +73,5 @@ QHash<QString, Picture> readLayers(const Lines& lines, Problems& problems);
 Cast readCast(const Lines& lines, const QHash<QString, Picture>& layers, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -457,3 +457,5 @@ Film directFilm(const Script& script, const Cast& cast, const QList<double>& spe
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

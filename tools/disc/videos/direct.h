@@ -13,3 +13,5 @@ constexpr double kAfterSpeech = 0.6;
 Film directFilm(const Script& script, const Cast& cast, const QList<double>& speech, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -83,3 +83,5 @@ bool writeChapters(const Film& film, const QString& file) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -20,3 +20,5 @@ bool encodeFilm(const Film& film, const std::function<const QImage&(double)>& fr
 bool writeChapters(const Film& film, const QString& file);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -68,3 +68,5 @@ View viewOf(const Set& set, double seconds) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -155,3 +155,5 @@ struct Film {
 double easedShare(double seconds, double begin, double end);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -82,3 +82,5 @@ const QImage& LayerStore::shadow(const QString& name, int left, int right) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

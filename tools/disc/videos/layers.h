@@ -43,3 +43,5 @@ class LayerStore {
 QImage blurred(QImage picture, int radius);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -131,3 +131,5 @@ QRegion changedLettering(const Film& film, double before, double now, const QLis
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

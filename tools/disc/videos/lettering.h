@@ -13,3 +13,5 @@ void drawLettering(QPainter& painter, const Film& film, double seconds, const QL
 QRegion changedLettering(const Film& film, double before, double now, const QList<QPointF>& tagPlaces);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -189,3 +189,5 @@ void makeVideos(Workshop& shop, const QString& only) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -15,3 +15,5 @@ Cast readFilmCast(const ContentFolder& folder, const QString& art, Problems& pro
 void makeVideos(Workshop& shop, const QString& only = {});
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

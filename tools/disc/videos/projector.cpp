@@ -372,3 +372,5 @@ QRect Projector::rectOf(const Show& show, double seconds, const View& view) cons
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -76,3 +76,5 @@ class Projector {
 QImage preparedGround(const QString& name, const QString& file);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -112,3 +112,5 @@ Script readScript(const Lines& lines, const QString& title, const Cast& cast, Pr
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

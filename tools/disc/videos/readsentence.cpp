@@ -290,3 +290,5 @@ Sentence readSentence(const Line& line, const Cast& cast, Problems& problems) {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

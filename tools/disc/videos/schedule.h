@@ -16,3 +16,5 @@ struct Schedule {
 Schedule scheduleOf(const Scene& scene, double speech, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

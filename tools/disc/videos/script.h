@@ -112,3 +112,5 @@ Script readScript(const Lines& lines, const QString& title, const Cast& cast, Pr
 Sentence readSentence(const Line& line, const Cast& cast, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

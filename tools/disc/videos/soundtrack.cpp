@@ -95,3 +95,5 @@ Sound makeSoundtrack(const Film& film, const QList<Sound>& speech, const QList<E
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

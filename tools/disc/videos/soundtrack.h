@@ -15,3 +15,5 @@ Sound makeSoundtrack(const Film& film, const QList<Sound>& speech, const QList<E
                      const QString& music, double musicFrom, Problems& problems);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

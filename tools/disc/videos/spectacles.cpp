@@ -236,3 +236,5 @@ void drawSpectacle(QPainter& painter, Spectacle kind, double seconds, double lef
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

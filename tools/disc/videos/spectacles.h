@@ -13,3 +13,5 @@ QRectF reachOf(Spectacle kind);
 void drawSpectacle(QPainter& painter, Spectacle kind, double seconds, double left);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -107,3 +107,5 @@ QPolygonF Stage::line(const QString& word) const {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

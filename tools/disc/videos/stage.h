@@ -57,3 +57,5 @@ class Stage {
 QPointF turned(QPointF point, double angle);
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -88,3 +88,5 @@ const QMap<QString, Habit>& swings() {
 }
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -31,3 +31,5 @@ struct Habit {
 const QMap<QString, Habit>& swings();
 
 }  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,1 +1,3 @@
 #include "core/../forms/form.h"
+
+// SPDX-License-Identifier: GPL-3.0-or-later

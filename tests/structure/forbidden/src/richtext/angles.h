@@ -1,1 +1,3 @@
 #include <forms/form.h>
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,1 +1,3 @@
 #include <QLabel>
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,1 +1,3 @@
 #include "screens/recipe/frmrecept.h"
+
+// SPDX-License-Identifier: GPL-3.0-or-later

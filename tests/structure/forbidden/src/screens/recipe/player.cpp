@@ -1,1 +1,3 @@
 #include <mpv/client.h>
+
+// SPDX-License-Identifier: GPL-3.0-or-later
