@@ -68,6 +68,12 @@ void KitchenScreens::showShoppingList() {
     shopping_->Zobraz();
 }
 
+void KitchenScreens::showPantry() {
+    if (!program_.FormStack.top() || (pantry_ && program_.FormStack.contains(*pantry_))) return;
+    pantry_ = new frmDoma(program_, program_.userFile());
+    pantry_->Zobraz();
+}
+
 void KitchenScreens::stopRinging() {
     if (plates_) plates_->stopRinging();
 }

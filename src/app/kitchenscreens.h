@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "kitchen/goods.h"
+#include "screens/kitchen/frmdoma.h"
 #include "screens/kitchen/frmnakup.h"
 #include "screens/kitchen/kitchenplates.h"
 
@@ -22,6 +23,8 @@ class KitchenScreens {
     void cook(std::int16_t id, const Serving& serving);
     void addToShoppingList(const std::vector<std::int16_t>& ids, const Serving& serving);
     void showShoppingList();
+    /// Recipes by what is at home.
+    void showPantry();
     void stopRinging();
     /// Asks about timers that run.
     bool readyToEnd();
@@ -36,6 +39,7 @@ class KitchenScreens {
     KitchenTimers timers_;
     std::unique_ptr<KitchenPlates> plates_;
     QPointer<frmNakup> shopping_;
+    QPointer<frmDoma> pantry_;
 };
 
 }  // namespace sarne

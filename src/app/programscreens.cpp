@@ -26,10 +26,9 @@ constexpr std::int16_t kShoppingItem = 9;
 
 ProgramScreens::ProgramScreens(Program& program)
     : program_(program),
-      printing_(
-          program, program.platform().printer,
-          {[&program] { return program.userFile().value(kPrinterChoice); },
-           [&program](const QString& choice) { program.userFile().setValue(kPrinterChoice, choice); }}),
+      printing_(program, program.platform().printer,
+                {[&program] { return program.userFile().value(kPrinterChoice); },
+                 [&program](const QString& choice) { program.userFile().setValue(kPrinterChoice, choice); }}),
       kitchen_(program) {}
 
 void ProgramScreens::showMain() {
@@ -124,6 +123,10 @@ void ProgramScreens::addToShoppingList(const std::vector<std::int16_t>& ids, con
 
 void ProgramScreens::showShoppingList() {
     kitchen_.showShoppingList();
+}
+
+void ProgramScreens::showPantry() {
+    kitchen_.showPantry();
 }
 
 void ProgramScreens::stopRinging() {

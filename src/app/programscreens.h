@@ -38,6 +38,7 @@ class ProgramScreens final : public Screens {
     void cookRecipe(std::int16_t id, const Serving& serving) override;
     void addToShoppingList(const std::vector<std::int16_t>& ids, const Serving& serving) override;
     void showShoppingList() override;
+    void showPantry() override;
     void stopRinging() override;
     void returnToMain() override;
 

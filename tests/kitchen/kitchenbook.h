@@ -25,7 +25,8 @@ class KitchenRun : public FakeSarne {
              row("INSERT INTO Kroky VALUES (1,5,'','Kapra osolíme a necháme 15 minut stát.'),"
                  "(2,5,'','Polovinu másla rozpustíme.'),(3,5,'Na stůl','S chlebem.')"),
              row("INSERT INTO KrokySur VALUES (1,0,1),(1,2,1),(2,1,0.5),(3,1,0.5)"),
-             row("INSERT INTO Zbozi VALUES (1,0,0,8),(2,2,0,64),(3,4,1,0)")});
+             row("INSERT INTO Zbozi VALUES (1,0,0,8),(2,2,0,64),(3,4,1,0)"),
+             row("INSERT INTO Fakta (ID, Minut, Mesice, Alergeny, Ryba) VALUES (5,40,4095,72,0)")});
         database.Open(file);
         file_ = UserFile(folder_.filePath(QStringLiteral("vlastni.db")));
     }

@@ -146,7 +146,9 @@ void kitchen(Tour& tour) {
     tour.key(Qt::Key_Return);
     tour.key(Qt::Key_Down);
     tour.key(Qt::Key_F3);
-    tour.doubleClick(QStringLiteral("lblSeznam(2)"));
+    tour.click(QStringLiteral("lblSeznam(2)"));
+    tour.click(QStringLiteral("imgBtn(2)"));
+    tour.wait(kSlowScreen);
     tour.click(QStringLiteral("imgKuchyne(1)"));
     tour.wait(kSlowScreen);
     tour.key(Qt::Key_F3, Qt::ShiftModifier);
@@ -173,9 +175,18 @@ void kitchen(Tour& tour) {
     tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_Escape);
     tour.click(button(4));
-    tour.key(Qt::Key_Up);
+    for (int item = 0; item < 9; ++item) tour.key(Qt::Key_Down);
     tour.key(Qt::Key_Return);
     tour.stop(QStringLiteral("frmNakup"), QStringLiteral("police"));
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_F5);
+    tour.stop(QStringLiteral("frmDoma"));
+    for (const char* typed : {"kapr", "brambory", "cibul"}) {
+        tour.type(QString::fromUtf8(typed));
+        tour.key(Qt::Key_Return);
+    }
+    tour.stop(QStringLiteral("frmDoma"), QStringLiteral("nalezeno"));
+    tour.visitHelp();
     tour.key(Qt::Key_Escape);
 }
 

@@ -29,10 +29,12 @@ constexpr QRect kSide{8040, 1110, 3720, 6780};
 constexpr QRect kRecipes{8190, 1200, 3420, 1560};
 constexpr QRect kOwn{8190, 3180, 3420, 480};
 constexpr QRect kHint{8190, 2830, 3420, 330};
+constexpr QRect kAside{300, 7965, 1500, 930};
 constexpr QRect kBar{5220, 7965, 6540, 930};
 constexpr int kActionTop = 3780, kActionHeight = 540, kActionStep = 576;
 constexpr double kRowPoints = 14;
 
+constexpr BarFace kAsideFaces[] = {{u"Doma", u"Co mám doma", u"Recepty podle toho, co je doma (F5)"}};
 constexpr BarFace kFaces[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd,
                               barface::kMusic};
 
@@ -61,7 +63,8 @@ frmNakup::frmNakup(basSarne& run, UserFile& file, AskNumber askNumber)
       hint_(*this, QStringLiteral("lblPripsat")),
       rows_(*this, QStringLiteral("picSeznam")),
       own_(*this, QStringLiteral("txtVlastni")),
-      bar_(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int) { print(); }) {
+      bar_(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int) { print(); }),
+      aside_(*this, QStringLiteral("imgVedle"), kAsideFaces, [this](int) { app().screens().showPantry(); }) {
     const auto dress = [](Label& label, const QRect& place, double points, bool bold,
                           Qt::Alignment alignment) {
         label.place(place);
@@ -86,9 +89,11 @@ frmNakup::frmNakup(basSarne& run, UserFile& file, AskNumber askNumber)
     own_.setAccessibleName(hint_.text());
     makeActions();
     bar_.placeRow(kBar);
+    aside_.placeRow(kAside);
     std::vector<FocusGroup> groups{FocusGroup(std::array<TwipWidget*, 1>{&rows_}),
                                    FocusGroup(std::array<TwipWidget*, 1>{&own_})};
     groups.emplace_back(actions_);
+    groups.emplace_back(aside_.stops());
     groups.emplace_back(bar_.stops());
     ring().setGroups(std::move(groups));
     ring().setArrows(FocusRing::Arrows::All);
@@ -319,7 +324,7 @@ void frmNakup::paint(QPainter& painter) {
     app().resources().picture(QStringLiteral("Nakup")).draw(painter, kPicture, Fit::Inside);
     paintPaper(painter, kPaper);
     paintPlate(painter, kSide);
-    paintPlate(painter, kBar.adjusted(-120, -30, 120, 0));
+    for (const QRect& plate : {kBar, kAside}) paintPlate(painter, plate.adjusted(-60, -30, 60, 0));
     if (!list_.isEmpty()) return;
     painter.setFont(TextFont{QStringLiteral("Times New Roman"), 18}.toQFont());
     painter.setPen(colors::kInk);

@@ -60,7 +60,7 @@ class frmNakup : public Form {
     TickList rows_;
     Edit own_;
     std::vector<Button*> actions_;
-    ButtonBar bar_;
+    ButtonBar bar_, aside_;
 };
 
 }  // namespace sarne

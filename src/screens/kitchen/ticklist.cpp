@@ -47,7 +47,7 @@ QString TickList::accessibleValue() const {
 
 void TickList::setPoints(double points) {
     points_ = points;
-    setRows(rows_);
+    setRows(rows_, done_);
 }
 
 int TickList::twipsOf(double points) const {
@@ -67,7 +67,8 @@ int TickList::heightOf(const TickRow& row) const {
     return row.below.isEmpty() ? wrapped : wrapped + twipsOf(points_ * kSmall * 1.1);
 }
 
-void TickList::setRows(std::vector<TickRow> rows) {
+void TickList::setRows(std::vector<TickRow> rows, Done done) {
+    done_ = done;
     const int top = paging_.top(), wanted = selected();
     rows_ = std::move(rows);
     std::vector<int> heights;
@@ -198,7 +199,7 @@ void TickList::paintRow(QPainter& painter, int row) const {
     const int amount =
         content.right.isEmpty() ? 0 : Label::measure(content.right, font(1, true)).width() + kBoxGap;
     QFont named = font(1, isHeading || content.kind == TickRow::Kind::Fold).toQFont();
-    named.setStrikeOut(content.ticked && content.kind == TickRow::Kind::Item);
+    named.setStrikeOut(content.ticked && content.kind == TickRow::Kind::Item && done_ == Done::StruckOut);
     painter.setFont(named);
     const int below = content.below.isEmpty() ? 0 : twipsOf(points_ * kSmall * 1.1);
     painter.drawText(text.adjusted(0, 0, -amount, -below),
@@ -206,7 +207,8 @@ void TickList::paintRow(QPainter& painter, int row) const {
     painter.setFont(font(kSmall, false).toQFont());
     painter.setPen(isSelected ? colors::kPaper : kSoftInk);
     painter.drawText(QRect(text.left(), place.bottom() - below - 30, text.width(), below + 30),
-                     Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, content.below);
+                     Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
+                     QFontMetricsF(painter.font()).elidedText(content.below, Qt::ElideRight, text.width()));
 }
 
 /// Where in the list one is, at its right edge, when not all of it is seen.

@@ -38,7 +38,9 @@ class TickList : public Control {
     void setPoints(double points);
     /// Shows \a rows. The selection and what is seen stay where they were, as far as there are rows. The
     /// control must have its place by now.
-    void setRows(std::vector<TickRow> rows);
+    /// \a done says what becomes of ticked rows: struck out, or left as they are.
+    enum class Done { StruckOut, Kept };
+    void setRows(std::vector<TickRow> rows, Done done = Done::StruckOut);
     const std::vector<TickRow>& rows() const { return rows_; }
     const RowPaging& paging() const { return paging_; }
     int selected() const { return paging_.selected(); }
@@ -76,6 +78,7 @@ class TickList : public Control {
     std::vector<TickRow> rows_;
     RowPaging paging_;
     double points_ = 14;
+    Done done_ = Done::StruckOut;
     Picture on_, off_;
 };
 

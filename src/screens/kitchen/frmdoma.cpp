@@ -1,0 +1,297 @@
+#include "screens/kitchen/frmdoma.h"
+
+#include <QDate>
+#include <QKeyEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "core/czech.h"
+#include "core/texts.h"
+#include "core/value.h"
+#include "db/userfile.h"
+#include "forms/bassarne.h"
+#include "forms/colors.h"
+#include "forms/panel.h"
+#include "forms/resources.h"
+#include "forms/screens.h"
+
+namespace sarne {
+namespace {
+
+constexpr QRect kPicture{240, 60, 840, 840};
+constexpr QRect kTitle{1140, 90, 4500, 780};
+constexpr QRect kState{5700, 90, 6060, 780};
+constexpr QRect kTyped{240, 1110, 3900, 510};
+constexpr QRect kHavePaper{240, 1710, 3900, 6180};
+constexpr QRect kRecipePaper{4290, 1110, 5280, 6780};
+constexpr QRect kSide{9720, 1110, 2040, 6780};
+constexpr QRect kAside{300, 7965, 1500, 930};
+constexpr QRect kBar{5220, 7965, 6540, 930};
+constexpr int kInside = 90, kActionHeight = 570, kActionStep = 735;
+constexpr size_t kMostFound = 100;
+constexpr int kQuick = 30;  // minutes
+constexpr int kGluten = 1 << 0, kEggs = 1 << 2, kMilk = 1 << 6;
+const QString kKept = QStringLiteral("Doma");
+
+constexpr BarFace kAsideFaces[] = {{u"Nakup", u"Nákupní seznam", u"Nákupní seznam (Shift+F3)"}};
+constexpr BarFace kFaces[] = {barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
+
+const char* const kActionTexts[] = {
+    QT_TRANSLATE_NOOP("Texts", "Bez této"),  QT_TRANSLATE_NOOP("Texts", "V sezoně"),
+    QT_TRANSLATE_NOOP("Texts", "Do 30 min"), QT_TRANSLATE_NOOP("Texts", "Bez lepku"),
+    QT_TRANSLATE_NOOP("Texts", "Bez mléka"), QT_TRANSLATE_NOOP("Texts", "Bez vajec"),
+    QT_TRANSLATE_NOOP("Texts", "Znovu"),     QT_TRANSLATE_NOOP("Texts", "Recept"),
+    QT_TRANSLATE_NOOP("Texts", "Na seznam")};
+
+bool contains(const std::vector<int>& ids, int id) {
+    return std::find(ids.begin(), ids.end(), id) != ids.end();
+}
+
+/// Takes \a id out of \a ids, or puts it in.
+void toggle(std::vector<int>& ids, int id) {
+    if (std::erase(ids, id) == 0) ids.push_back(id);
+}
+
+}  // namespace
+
+frmDoma::frmDoma(basSarne& run, UserFile& file)
+    : Form(run, QStringLiteral("frmDoma")),
+      file_(file),
+      title_(*this, QStringLiteral("lblTitul")),
+      state_(*this, QStringLiteral("lblStav")),
+      typed_(*this, QStringLiteral("txtHledat")),
+      have_(*this, QStringLiteral("picSuroviny")),
+      recipes_(*this, QStringLiteral("picRecepty")),
+      bar_(*this, QStringLiteral("imgBtnHlavni"), kFaces, {}),
+      aside_(*this, QStringLiteral("imgVedle"), kAsideFaces,
+             [this](int) { app().screens().showShoppingList(); }) {
+    title_.place(kTitle);
+    title_.setFont({QStringLiteral("Arial"), 20, true});
+    title_.setText(Texts::tr("Co mám doma"));
+    title_.setColor(colors::kTitle);
+    title_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setAccessibleName(title_.text());
+    state_.place(kState);
+    state_.setFont({QStringLiteral("Arial"), 13});
+    state_.setColor(colors::kTitle);
+    state_.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    typed_.place(kTyped);
+    typed_.setFont({QStringLiteral("Arial"), 13});
+    typed_.setMaxLength(40);
+    typed_.setAccessibleName(Texts::tr("Hledat surovinu"));
+    have_.place(kHavePaper.adjusted(kInside, kInside, -kInside, -kInside));
+    have_.setPoints(12);
+    have_.setAccessibleName(Texts::tr("Suroviny"));
+    recipes_.place(kRecipePaper.adjusted(kInside, kInside, -kInside, -kInside));
+    recipes_.setPoints(13);
+    recipes_.setAccessibleName(Texts::tr("Recepty"));
+    makeActions();
+    bar_.placeRow(kBar);
+    aside_.placeRow(kAside);
+    std::vector<FocusGroup> groups{FocusGroup(std::array<TwipWidget*, 1>{&typed_}),
+                                   FocusGroup(std::array<TwipWidget*, 1>{&have_}),
+                                   FocusGroup(std::array<TwipWidget*, 1>{&recipes_})};
+    groups.emplace_back(actions_);
+    groups.emplace_back(aside_.stops());
+    groups.emplace_back(bar_.stops());
+    ring().setGroups(std::move(groups));
+    ring().setArrows(FocusRing::Arrows::All);
+    connect(&typed_, &Edit::textChanged, this, &frmDoma::showIngredients);
+    connect(&have_, &TickList::used, this, &frmDoma::tick);
+    connect(&recipes_, &Control::doubleClicked, this, &frmDoma::openRecipe);
+}
+
+void frmDoma::makeActions() {
+    for (int i = 0; i < kActions; ++i) {
+        auto* button = new Button(*this, QStringLiteral("cmdAkce(%1)").arg(i));
+        button->dressAsText(Texts::tr(kActionTexts[i]));
+        button->place({kSide.x() + kInside, kSide.y() + kInside + i * kActionStep,
+                       kSide.width() - 2 * kInside, kActionHeight});
+        connect(button, &Button::clicked, this, [this, i] { act(Action(i)); });
+        actions_.push_back(button);
+    }
+    actions_[size_t(Action::Without)]->setTip(Texts::tr("Recepty bez vybrané suroviny"));
+    actions_[size_t(Action::Again)]->setTip(Texts::tr("Zapomenout výběr a začít znovu"));
+    actions_[size_t(Action::Open)]->setTip(Texts::tr("Otevřít vybraný recept"));
+    actions_[size_t(Action::Buy)]->setTip(Texts::tr("Dát vybraný recept na nákupní seznam (F3)"));
+}
+
+bool frmDoma::Zobraz() {
+    index_ = PantryIndex(readPantryRecipes(app().Db()));
+    if (index_.isEmpty()) {
+        unload();
+        return false;
+    }
+    ingredients_ = readPantryIngredients(app().Db());
+    for (const QString& id : file_.value(kKept).split(u',', Qt::SkipEmptyParts))
+        query_.have.push_back(id.toInt());
+    app().PushScreen(*this);
+    showIngredients();
+    showRecipes();
+    showForm();
+    ring().focus(typed_);
+    app().HookMessage(title_.text());
+    return true;
+}
+
+void frmDoma::goBack() {
+    app().PopScreen(*this);
+}
+
+void frmDoma::keep() {
+    QStringList ids;
+    for (const int id : query_.have) ids << QString::number(id);
+    file_.setValue(kKept, ids.join(u','));
+}
+
+/// What was chosen stands first; then what the typed letters find.
+void frmDoma::showIngredients() {
+    const auto chosen = [this](int place) {
+        const int id = ingredients_[static_cast<size_t>(place)].id;
+        return contains(query_.have, id) || contains(query_.without, id);
+    };
+    shown_ = namesWithWord(ingredients_, typed_.text());
+    if (typed_.text().trimmed().isEmpty()) std::stable_partition(shown_.begin(), shown_.end(), chosen);
+    std::vector<TickRow> rows;
+    for (const int place : shown_) {
+        const PantryIngredient& one = ingredients_[static_cast<size_t>(place)];
+        rows.push_back({TickRow::Kind::Item,
+                        one.name,
+                        contains(query_.without, one.id) ? Texts::tr("bez") : QString(),
+                        {},
+                        contains(query_.have, one.id)});
+    }
+    have_.setRows(std::move(rows), TickList::Done::Kept);
+}
+
+void frmDoma::tick(int row) {
+    const int id = ingredients_[static_cast<size_t>(shown_[static_cast<size_t>(row)])].id;
+    std::erase(query_.without, id);
+    toggle(query_.have, id);
+    search();
+}
+
+void frmDoma::exclude() {
+    const int row = have_.selected();
+    if (row < 0 || row >= static_cast<int>(shown_.size())) return app().Beep();
+    const int id = ingredients_[static_cast<size_t>(shown_[static_cast<size_t>(row)])].id;
+    std::erase(query_.have, id);
+    toggle(query_.without, id);
+    search();
+}
+
+void frmDoma::search() {
+    keep();
+    showIngredients();
+    showRecipes();
+    app().HookMessage(state_.text());
+}
+
+void frmDoma::showRecipes() {
+    found_ = index_.find(query_, kMostFound);
+    QHash<int, QString> names;
+    for (const PantryIngredient& one : ingredients_) names.insert(one.id, one.name);
+    std::vector<TickRow> rows;
+    for (const PantryMatch& match : found_) {
+        QStringList missing;
+        for (const int id : index_.missing(match.recipe, query_)) missing << names.value(id);
+        rows.push_back({TickRow::Kind::Plain, index_.recipe(match.recipe).name,
+                        match.missing == 0 ? Texts::tr("máte vše") : Texts::tr("chybí %1").arg(match.missing),
+                        missing.join(QStringLiteral(", ")), false});
+    }
+    recipes_.setRows(std::move(rows));
+    const Noun recipes{Texts::tr("recept"), Texts::tr("recepty"), Texts::tr("receptů"), Texts::tr("receptu")};
+    state_.setText(query_.have.empty()
+                       ? Texts::tr("Odškrtněte, co máte doma")
+                       : Texts::tr("Vyhovuje %1").arg(counted(double(found_.size()), recipes, app().Locale)));
+    const auto latch = [this](Action action, bool on) { actions_[size_t(action)]->setLatched(on); };
+    latch(Action::Season, query_.month != 0);
+    latch(Action::Quick, query_.mostMinutes != 0);
+    latch(Action::NoGluten, query_.withoutAllergens & kGluten);
+    latch(Action::NoMilk, query_.withoutAllergens & kMilk);
+    latch(Action::NoEggs, query_.withoutAllergens & kEggs);
+}
+
+void frmDoma::act(Action action) {
+    switch (action) {
+        case Action::Without:
+            return exclude();
+        case Action::Season:
+            query_.month = query_.month == 0 ? QDate::currentDate().month() : 0;
+            return search();
+        case Action::Quick:
+            query_.mostMinutes = query_.mostMinutes == 0 ? kQuick : 0;
+            return search();
+        case Action::NoGluten:
+            query_.withoutAllergens ^= kGluten;
+            return search();
+        case Action::NoMilk:
+            query_.withoutAllergens ^= kMilk;
+            return search();
+        case Action::NoEggs:
+            query_.withoutAllergens ^= kEggs;
+            return search();
+        case Action::Again:
+            query_ = {};
+            typed_.setText({});
+            return search();
+        case Action::Open:
+            return openRecipe();
+        case Action::Buy:
+            if (const std::int16_t id = selectedRecipe()) app().screens().addToShoppingList({id}, {});
+    }
+}
+
+std::int16_t frmDoma::selectedRecipe() const {
+    const int row = recipes_.selected();
+    if (row < 0 || row >= static_cast<int>(found_.size())) return 0;
+    return toRecordId(index_.recipe(found_[static_cast<size_t>(row)].recipe).id).value_or(0);
+}
+
+void frmDoma::openRecipe() {
+    if (const std::int16_t id = selectedRecipe()) return app().screens().showRecipe(id);
+    app().Beep();
+}
+
+bool frmDoma::keyDown(QKeyEvent& event) {
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (event.key() == Qt::Key_F3 && event.modifiers() == Qt::NoModifier && selectedRecipe() != 0) {
+        act(Action::Buy);
+        return true;
+    }
+    if (enter && ring().isAt(&typed_)) {
+        if (!shown_.empty()) tick(0);
+        typed_.focusAll();
+        return true;
+    }
+    if (ring().isAt(&typed_) && event.key() == Qt::Key_Down) {
+        ring().focus(have_);
+        have_.select(0);
+        return true;
+    }
+    TickList* list = ring().isAt(&have_) ? &have_ : ring().isAt(&recipes_) ? &recipes_ : nullptr;
+    if (list && enter) {
+        list == &recipes_ ? openRecipe()
+                          : void(have_.selected() >= 0 ? tick(have_.selected()) : app().Beep());
+        return true;
+    }
+    if (list && list->keyDown(event)) {
+        app().HookMessage(list->accessibleValue());
+        return true;
+    }
+    return Form::keyDown(event);
+}
+
+void frmDoma::paint(QPainter& painter) {
+    paintRoom(painter, app().Pictures.stranka);
+    const QRectF all = covered();
+    painter.fillRect(QRectF(all.left(), all.top(), all.width(), 960 - all.top()), colors::kTeal);
+    painter.fillRect(QRectF(all.left(), 960, all.width(), 30), colors::kCopper);
+    app().resources().picture(QStringLiteral("Doma")).draw(painter, kPicture, Fit::Inside);
+    paintPaper(painter, kHavePaper);
+    paintPaper(painter, kRecipePaper);
+    paintPlate(painter, kSide);
+    for (const QRect& plate : {kBar, kAside}) paintPlate(painter, plate.adjusted(-60, -30, 60, 0));
+}
+
+}  // namespace sarne
