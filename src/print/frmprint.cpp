@@ -132,11 +132,14 @@ void frmPrint::showPrinter() {
         lblTiskarna.setToolTip({});
         return lblTiskarna.setText(QStringLiteral("Tiskárna: ") + choice.printer + u'\n' + paper + copies);
     }
-    // The end of a long path says more than its middle.
+    const QString file = printer_.fileFor(documentName());
     const QFontMetricsF metrics(printforms::kSmallFont.toQFont());
-    const QString file = QStringLiteral("Tisk do souboru: ") + printer_.fileFor(documentName());
-    lblTiskarna.setText(metrics.elidedText(file, Qt::ElideMiddle, printlayout::kPrinter.width()) + u'\n' +
-                        paper);
+    // The end of a long path says more than its middle.
+    const auto shown = [&](const QString& line) {
+        return metrics.elidedText(line, Qt::ElideMiddle, printlayout::kPrinter.width());
+    };
+    lblTiskarna.setText(shown(QStringLiteral("Tisk do souboru: ") + QFileInfo(file).fileName()) + u'\n' +
+                        shown(QStringLiteral("Složka: ") + QFileInfo(file).path()) + u'\n' + paper);
     lblTiskarna.setToolTip(file);
 }
 
