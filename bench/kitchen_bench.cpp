@@ -30,3 +30,5 @@ BENCHMARK(searchPantry)->Unit(benchmark::kMillisecond);
 }  // namespace sarne
 
 BENCHMARK_MAIN();
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -145,3 +145,5 @@ std::vector<int> namesWithWord(const std::vector<PantryIngredient>& all, const Q
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -69,3 +69,5 @@ std::vector<PantryIngredient> readPantryIngredients(Database& db);
 std::vector<int> namesWithWord(const std::vector<PantryIngredient>& all, const QString& typed);
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -69,3 +69,5 @@ TEST(Pantry, AnyWordOfANameIsFoundByItsBeginning) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

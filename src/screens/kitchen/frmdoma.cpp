@@ -171,6 +171,12 @@ void frmDoma::tick(int row) {
     search();
 }
 
+/// What is there already stays: a word typed again means that it is at home, not that it is gone.
+void frmDoma::addFirst() {
+    if (shown_.empty()) return app().Beep();
+    if (!contains(query_.have, ingredients_[static_cast<size_t>(shown_.front())].id)) tick(0);
+}
+
 void frmDoma::exclude() {
     const int row = have_.selected();
     if (row < 0 || row >= static_cast<int>(shown_.size())) return app().Beep();
@@ -260,7 +266,7 @@ bool frmDoma::keyDown(QKeyEvent& event) {
         return true;
     }
     if (enter && ring().isAt(&typed_)) {
-        if (!shown_.empty()) tick(0);
+        addFirst();
         typed_.focusAll();
         return true;
     }
@@ -295,3 +301,5 @@ void frmDoma::paint(QPainter& painter) {
 }
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

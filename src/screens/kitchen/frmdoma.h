@@ -36,6 +36,7 @@ class frmDoma : public Form {
     void makeActions();
     void act(Action action);
     void tick(int row);
+    void addFirst();
     void exclude();
     void search();
     void showIngredients();
@@ -60,3 +61,5 @@ class frmDoma : public Form {
 };
 
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later
