@@ -22,7 +22,7 @@ QString codecs(const QString& ending) {
         return QStringLiteral(
             "-c:v libx264 -preset fast -crf 21 -pix_fmt yuv420p -g 100 -c:a libopus -b:a 96k -f matroska");
     return QStringLiteral(
-        "-c:v mpeg4 -vtag XVID -q:v 4 -g 150 -bf 0 -sc_threshold 1000000000 -c:a libmp3lame -b:a 80k -ac 1 "
+        "-c:v mpeg4 -vtag XVID -q:v 5 -g 150 -bf 0 -sc_threshold 1000000000 -c:a libmp3lame -b:a 80k -ac 1 "
         "-f avi");
 }
 
