@@ -20,6 +20,7 @@ SIZES = {f"prvky/{n}.png": (256, 256) for n in ICONS}
 SIZES |= {f"prvky/{n}.png": (64, 64) for n in CURSORS}
 SIZES |= {f"prvky/{n}.png": s for n, s in (("RamVen", (192, 192)), ("RamDovnitr", (192, 192)), ("Tlacitko", (360, 120)), ("TlacitkoStisk", (360, 120)),
                                            ("OkrajHorni", (64, 32)), ("OkrajLeft", (32, 64)), ("ZAHLAVI", (1600, 180)))}
+SIZES["prvky/LogoTisk.png"] = (640, 400)   # the carp of the films, on the paper's white
 SIZES |= {f"pozadi/{n}.jpg": (1600, 1200) for n in ("Sit", "recept", "seznam", "video", "konec", "uvod", "zprava", "stranka")}
 SIZES |= {f"{n}-siroke.jpg": (3360, 1440) for n in ("hlavni/pozadi", "pozadi/uvod", "pozadi/stranka", "pozadi/recept", "pozadi/seznam", "pozadi/Sit", "pozadi/konec", "pozadi/video")}
 SIZES |= {"pozadi/menu.jpg": (800, 600), "prvky/vino256.jpg": (1024, 768), "hlavni/pozadi.jpg": (1600, 1200)}
