@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QPainter>
 #include <QWidget>
 
@@ -47,6 +48,30 @@ TEST(TextContrast, TakesTheGroundUnderTheTextAndLeavesOutWhatIsCovered) {
     EXPECT_EQ(found[0].ground, QColor(40, 40, 40));
     EXPECT_NEAR(found[0].contrast, contrastRatio(QColor(40, 40, 40), QColor(80, 80, 80)), 1e-9);
     EXPECT_TRUE(QRect(20, 10, 200, 40).contains(found[0].place));
+}
+
+TEST(TextContrast, LeavesOutLettersThatTheSameGroundCovers) {
+    QWidget window;
+    window.resize(300, 100);
+    const Sign hidden(&window, Qt::red, Qt::white, QStringLiteral("covered"));
+    const Sign shown(&window, Qt::red, Qt::black, QStringLiteral("\u2060"));
+    EXPECT_EQ(textContrasts(window).size(), 0U);
+}
+
+TEST(TextContrast, TakesAMarkedTextInTheInkOfItsMark) {
+    QWidget window;
+    window.resize(300, 100);
+    QLineEdit edit(QStringLiteral("marked"), &window);
+    edit.setGeometry(20, 10, 200, 40);
+    QPalette palette;
+    palette.setColor(QPalette::Highlight, Qt::black);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    edit.setPalette(palette);
+    edit.selectAll();
+    const auto found = textContrasts(window);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].ink, QColor(Qt::white));
+    EXPECT_NEAR(found[0].contrast, 21, 1e-9);
 }
 
 TEST(TextContrast, CountsWhatShowsThroughTheText) {

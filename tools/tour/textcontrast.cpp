@@ -33,8 +33,8 @@ class WatchingEngine final : public QPaintEngine {
     /// What was painted and not painted over since.
     std::vector<TextContrast> found() const {
         std::vector<TextContrast> shown;
-        for (const auto& [text, looks] : painted_)
-            if (isThere(looks, text.place)) shown.push_back(text);
+        for (const Painted& painted : painted_)
+            if (isThere(painted)) shown.push_back(painted.text);
         return shown;
     }
 
@@ -75,17 +75,26 @@ class WatchingEngine final : public QPaintEngine {
     void drawTextItem(const QPointF& at, const QTextItem& item) override {
         QPainter& watched = painter();
         const TextContrast text = judged(at, item);
+        if (isBesideSelection(text)) return;
+        const QImage ground = image_.copy(text.place);
         watched.drawTextItem(at, item);
         if (text.place.isEmpty()) return;
         std::erase_if(painted_, [&](const Painted& earlier) { return isShadow(earlier.text, text); });
-        painted_.push_back({text, image_.copy(text.place)});
+        painted_.push_back({text, ground, image_.copy(text.place)});
     }
 
   private:
     struct Painted {
         TextContrast text;
+        QImage ground;
         QImage looks;
     };
+
+    /// A marked text is painted first, and then once more with a clip that keeps to what is not marked.
+    bool isBesideSelection(const TextContrast& text) const {
+        return !text.place.isEmpty() && !painted_.empty() && painted_.back().text.text == text.text &&
+               painted_.back().text.place == text.place;
+    }
 
     /// The painter, held to the widget that paints now. Clips of the widgets' own are left out: what they
     /// keep from a text's ground would matter little, and Qt restores them in the wrong place for such an
@@ -127,12 +136,18 @@ class WatchingEngine final : public QPaintEngine {
         return earlier.text == text.text && apart.manhattanLength() < text.place.height() / 2;
     }
 
-    bool isThere(const QImage& looks, const QRect& place) const {
-        int same = 0;
-        for (int y = 0; y < looks.height(); ++y)
-            for (int x = 0; x < looks.width(); ++x)
-                same += looks.pixel(x, y) == image_.pixel(place.topLeft() + QPoint(x, y));
-        return same > looks.width() * looks.height() / 2;
+    /// Whether the letters are seen: most of what the text changed is still as it left it.
+    bool isThere(const Painted& painted) const {
+        int changed = 0, same = 0;
+        const QPoint corner = painted.text.place.topLeft();
+        for (int y = 0; y < painted.looks.height(); ++y)
+            for (int x = 0; x < painted.looks.width(); ++x) {
+                const QRgb letters = painted.looks.pixel(x, y);
+                if (letters == painted.ground.pixel(x, y)) continue;
+                ++changed;
+                same += letters == image_.pixel(corner + QPoint(x, y));
+            }
+        return 2 * same > changed;
     }
 
     QImage& image_;
