@@ -90,3 +90,5 @@ TEST(PrintedPage, StandsToTheTwipWhereItStood) {
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later
