@@ -2,7 +2,6 @@
 
 #include <QPointer>
 
-#include "core/checked.h"
 #include "platform/mpvcontrol_p.h"
 
 namespace sarne {
@@ -167,11 +166,9 @@ void MpvControl::Private::restarted() {
 
 void MpvControl::Private::changed(const mpv_event_property& property) {
     if (property.format == MPV_FORMAT_DOUBLE)
-        filmPosition_ = wholeNumber<qint64>(std::round(*static_cast<double*>(property.data) * 1000));
+        filmPosition_ = qRound64(*static_cast<double*>(property.data) * 1000);
     else if (property.format == MPV_FORMAT_FLAG && *static_cast<int*>(property.data) != 0 && !target_)
         finish();
-    else
-        core_->followDevices(property);
 }
 
 void MpvControl::Private::finish() {

@@ -5,8 +5,6 @@
 #include <cmath>
 #include <utility>
 
-#include "core/checked.h"
-
 namespace sarne {
 
 namespace {
@@ -52,9 +50,6 @@ constexpr std::pair<const char*, const char*> playerOptions[] = {
     {"demuxer-max-back-bytes", "0"},
 };
 
-constexpr char kDevices[] = "audio-device-list";
-constexpr char kOutput[] = "current-ao";
-
 }  // namespace
 
 std::unique_ptr<MpvCore> MpvCore::start(const MpvLibrary& mpv, const std::function<void()>& wakeup) {
@@ -65,7 +60,6 @@ std::unique_ptr<MpvCore> MpvCore::start(const MpvLibrary& mpv, const std::functi
     std::unique_ptr<MpvCore> core(new MpvCore(mpv, handle, wakeup));
     if (mpv.initialize(handle) < 0) return {};
     mpv.observeProperty(handle, 0, "eof-reached", MPV_FORMAT_FLAG);
-    mpv.observeProperty(handle, 0, kDevices, MPV_FORMAT_NONE);
     return core;
 }
 
@@ -130,13 +124,6 @@ void MpvCore::askForEnd() {
     mpv_.getPropertyAsync(handle_, 0, "eof-reached", MPV_FORMAT_FLAG);
 }
 
-void MpvCore::followDevices(const mpv_event_property& property) {
-    if (qstrcmp(property.name, kDevices) == 0) mpv_.getPropertyAsync(handle_, 0, kOutput, MPV_FORMAT_STRING);
-    if (qstrcmp(property.name, kOutput) != 0 || property.format != MPV_FORMAT_STRING) return;
-    const char* command[] = {"ao-reload", nullptr};
-    if (qstrcmp(*static_cast<char**>(property.data), "null") == 0) mpv_.commandAsync(handle_, 0, command);
-}
-
 void MpvCore::followPosition(bool follow) {
     constexpr quint64 positionTag = 1;
     mpv_.unobserveProperty(handle_, positionTag);
@@ -155,7 +142,7 @@ std::optional<double> MpvCore::number(const char* property) const {
 }
 
 qint64 MpvCore::milliseconds(const char* property) const {
-    return wholeNumber<qint64>(std::round(number(property).value_or(0) * 1000));
+    return qRound64(number(property).value_or(0) * 1000);
 }
 
 QString MpvCore::text(const QString& property) const {

@@ -36,9 +36,6 @@ class MpvCore {
 
     /// Has the end of the file reported once more, whether or not it changed; it is an event on every change.
     void askForEnd();
-    /// Tries the sound devices anew when \a property says that they have changed and none was to be had
-    /// before. Gets every property that changed or was asked for.
-    void followDevices(const mpv_event_property& property);
     /// From now on, or no longer, every change of the position is an event.
     void followPosition(bool follow);
 
