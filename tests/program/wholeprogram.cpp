@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QProcess>
 
+#include "core/sealedfile.h"
 #include "dialogs/frmmessage.h"
 #include "forms/button.h"
 #include "media/frmvideo.h"
@@ -24,6 +25,7 @@ void writeResources(const TestMedia& media) {
     const QString file = media.write(QStringLiteral("a.qrc"), list + "</qresource></RCC>");
     QProcess::execute(QStringLiteral(SARNE_RCC), {QStringLiteral("--binary"), QStringLiteral("-o"),
                                                   media.path(QStringLiteral("Sarne.rcc")), file});
+    sealFile(media.path(QStringLiteral("Sarne.rcc")));
 }
 
 }  // namespace
