@@ -2,6 +2,6 @@
 
 #include "core.h"
 
-#include "../../tests/support/print.h"
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <QTemporaryDir>
+#include "../../tests/support/print.h"

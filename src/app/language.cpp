@@ -16,7 +16,7 @@ QString ownTexts(const QString& language) {
 
 QString languageOf(const QStringList& wanted) {
     for (const QString& locale : wanted) {
-        const QString language = locale.section(u'-', 0, 0);
+        QString language = locale.section(u'-', 0, 0);
         if (language == kSourceLanguage || QFile::exists(ownTexts(language))) return language;
     }
     return kSourceLanguage;

@@ -27,7 +27,7 @@ bool suits(const PantryRecipe& recipe, const PantryQuery& query) {
 }
 
 QCollator czech() {
-    QCollator collator(QLocale(QLocale::Czech));
+    QCollator collator{QLocale(QLocale::Czech)};
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     return collator;
 }

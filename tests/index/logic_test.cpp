@@ -1,15 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "cookbook.h"
+#include "core/rowpaging.h"
 #include "core/value.h"
 #include "richtext/plaintext.h"
+#include "richtext/rtfdocument.h"
 #include "screens/index/gallery.h"
 #include "screens/index/headings.h"
 #include "screens/index/keywordhistory.h"
 #include "screens/index/lookuptable.h"
 #include "screens/index/pages.h"
-#include "core/rowpaging.h"
-#include "richtext/rtfdocument.h"
 #include "screens/index/tablelayout.h"
 
 namespace sarne {

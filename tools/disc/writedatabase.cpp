@@ -56,8 +56,8 @@ class CookbookWriter {
         galleries();
         menu();
         writeKitchen(
-            book_,
-            [this](const QString& table, const QVariantList& values) { writer_.add(table, values); }, problems_);
+            book_, [this](const QString& table, const QVariantList& values) { writer_.add(table, values); },
+            problems_);
     }
 
   private:

@@ -37,7 +37,8 @@ struct Use {
 class Wanderer {
   public:
     Wanderer(Program& program, unsigned seed) : program_(program), random_(seed) {
-        // Boxes and dialogs wait within their question; each is left, the one that would end the program, too.
+        // Boxes and dialogs wait within their question; each is left, the one that would end the program,
+        // too.
         QObject::connect(&patience_, &QTimer::timeout, &patience_, [this] {
             if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
             if (QWidget* dialog = QApplication::activeModalWidget()) dialog->close();

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "core/rowpaging.h"
 #include "forms/control.h"
 #include "screens/index/lookuptable.h"
-#include "core/rowpaging.h"
 #include "screens/index/tablelayout.h"
 
 namespace sarne {
