@@ -149,9 +149,6 @@ bool Form::sharedKey(const QKeyEvent& event) {
         case Qt::Key_F5:
             app_.screens().showPantry();
             return true;
-        case Qt::Key_F6:
-            app_.screens().showMyCookbook();
-            return true;
         case Qt::Key_F7:
             app_.screens().stopRinging();
             return true;

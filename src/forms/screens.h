@@ -58,9 +58,8 @@ class Screens {
     /// Puts what recipes need on the shopping list; for 0 portions, for as many as each is written for.
     virtual void addToShoppingList(const std::vector<std::int16_t>& /*ids*/, const Serving& /*serving*/) {}
     virtual void showShoppingList() {}
-    /// Recipes by what is at home; what the user has made of the book.
+    /// Recipes by what is at home.
     virtual void showPantry() {}
-    virtual void showMyCookbook() {}
     /// Stops the kitchen timers that ring.
     virtual void stopRinging() {}
     /// Hides the menu tree and returns the main screen to idle.
