@@ -9,6 +9,7 @@
 #include "app/program.h"
 #include "app/systemplatform.h"
 #include "app/windowplace.h"
+#include "core/texts.h"
 #include "platform/endsignals.h"
 #include "platform/singleinstance.h"
 
@@ -31,7 +32,8 @@ QString commandLine(const QApplication& application) {
 /// What the toolkit says while it looks for a display: the one fatal message is that there is none.
 void withoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
     if (type != QtFatalMsg) return;
-    std::fputs("Velisa sarn: není tu obrazovka, na které by se program ukázal.\n", stderr);
+    std::fputs(qUtf8Printable(sarne::Texts::tr("Velisa sarn: není tu obrazovka, na které by se program ukázal.\n")),
+               stderr);
     std::_Exit(1);
 }
 

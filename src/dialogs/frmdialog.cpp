@@ -118,16 +118,16 @@ void frmDialog::paint(QPainter& painter) {
     paintPanel(painter, {{0, 0}, twips().size()}, app().resources().picture(QStringLiteral("zprava")));
 }
 
-double askNumber(basSarne& app, const QString& prompt) {
-    auto* dialog = new frmDialog(app, prompt, frmDialog::Asks::Number);
+double askNumber(basSarne& sarne, const QString& prompt) {
+    auto* dialog = new frmDialog(sarne, prompt, frmDialog::Asks::Number);
     dialog->showModal();
     const double number = leadingNumber(dialog->answer());
     dialog->unload();
     return number;
 }
 
-QString askText(basSarne& app, const QString& prompt) {
-    auto* dialog = new frmDialog(app, prompt, frmDialog::Asks::Text);
+QString askText(basSarne& sarne, const QString& prompt) {
+    auto* dialog = new frmDialog(sarne, prompt, frmDialog::Asks::Text);
     dialog->showModal();
     QString answer = dialog->answer();
     dialog->unload();

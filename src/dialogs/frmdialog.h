@@ -17,7 +17,7 @@ class frmDialog : public Form {
   public:
     enum class Asks { Number, Text };
 
-    frmDialog(basSarne& app, const QString& prompt, Asks asks);
+    frmDialog(basSarne& sarne, const QString& prompt, Asks asks);
 
     QString answer() const { return Text1.text(); }
     void goBack() override { press(1); }
@@ -41,10 +41,10 @@ class frmDialog : public Form {
 
 /// Asks for a positive number under \a prompt; 0 when the user cancels. The number is what stands at the
 /// beginning of the text that was typed, with a decimal point.
-double askNumber(basSarne& app, const QString& prompt);
+double askNumber(basSarne& sarne, const QString& prompt);
 
 /// Asks for a text under \a prompt; empty when the user cancels.
-QString askText(basSarne& app, const QString& prompt);
+QString askText(basSarne& sarne, const QString& prompt);
 
 }  // namespace sarne
 

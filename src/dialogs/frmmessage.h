@@ -15,7 +15,7 @@ namespace sarne {
 class frmMessage : public Form {
     Q_OBJECT
   public:
-    explicit frmMessage(basSarne& app);
+    explicit frmMessage(basSarne& sarne);
 
     /// Shows \a text with the buttons, icon and default button of \a style and returns the code of the button
     /// pressed. \a closeCode is what the box returns when the window is closed meanwhile; with 0 it stays

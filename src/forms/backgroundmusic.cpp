@@ -20,31 +20,31 @@ bool isSameFile(const QString& one, const QString& other) {
 
 /// Tells the user why the track that is being opened cannot be played, when that turns out later. A track
 /// that is opened after it is watched in its place.
-void watchOpening(basSarne& app, MultimediaControl& player) {
+void watchOpening(basSarne& sarne, MultimediaControl& player) {
     const auto name = QStringLiteral("openingWatch");
     delete player.findChild<QObject*>(name, Qt::FindDirectChildrenOnly);
     auto* watch = new QObject(&player);
     watch->setObjectName(name);
     QObject::connect(&player, &MultimediaControl::opened, watch, &QObject::deleteLater);
-    QObject::connect(&player, &MultimediaControl::done, watch, [&app, &player, watch](int code) {
+    QObject::connect(&player, &MultimediaControl::done, watch, [&sarne, &player, watch](int code) {
         if (code != int(MediaDone::Failed)) return;
         // Not from within the player, which waits until its report has been heard.
         QMetaObject::invokeMethod(
-            watch, [&app, text = player.errorMessage()] { app.ZobrazZpravu(text, kErrorBox); },
+            watch, [&sarne, text = player.errorMessage()] { sarne.ZobrazZpravu(text, kErrorBox); },
             Qt::QueuedConnection);
     });
 }
 
-void openTrack(basSarne& app, const QString& track) {
-    MultimediaControl& player = app.music();
+void openTrack(basSarne& sarne, const QString& track) {
+    MultimediaControl& player = sarne.music();
     player.command(u"stop");
     player.command(u"close");
     player.setFileName(track);
     player.setWait(MediaWait::DontWait);
-    watchOpening(app, player);
+    watchOpening(sarne, player);
     player.command(u"open");
     if (player.error() > 0) {
-        app.ZobrazZpravu(player.errorMessage(), kErrorBox);
+        sarne.ZobrazZpravu(player.errorMessage(), kErrorBox);
         return;
     }
     player.setNotify(MediaNotify::On);
@@ -53,23 +53,23 @@ void openTrack(basSarne& app, const QString& track) {
 
 }  // namespace
 
-QString fileForPlayer(const basSarne& app, const QString& relative) {
-    const QString file = app.mediaFile(relative);
-    return file.isEmpty() ? app.MediaRoot + relative : file;
+QString fileForPlayer(const basSarne& sarne, const QString& relative) {
+    const QString file = sarne.mediaFile(relative);
+    return file.isEmpty() ? sarne.MediaRoot + relative : file;
 }
 
-QString musicTrack(const basSarne& app, bool wineSounds) {
-    return fileForPlayer(app, wineSounds ? QStringLiteral("zvuky\\vina.wav") : QStringLiteral("hudba.wav"));
+QString musicTrack(const basSarne& sarne, bool wineSounds) {
+    return fileForPlayer(sarne, wineSounds ? QStringLiteral("zvuky\\vina.wav") : QStringLiteral("hudba.wav"));
 }
 
-void applyMusicSwitches(basSarne& app, bool wineSounds) {
-    MultimediaControl& player = app.music();
-    const QString track = musicTrack(app, wineSounds);
-    app.SoundFlags[kWineSounds] = wineSounds;
-    if (!app.SoundFlags[kMusic])
+void applyMusicSwitches(basSarne& sarne, bool wineSounds) {
+    MultimediaControl& player = sarne.music();
+    const QString track = musicTrack(sarne, wineSounds);
+    sarne.SoundFlags[kWineSounds] = wineSounds;
+    if (!sarne.SoundFlags[kMusic])
         player.command(u"Stop");
     else if (player.mode() == MediaMode::NotOpen || !isSameFile(player.fileName(), track))
-        openTrack(app, track);
+        openTrack(sarne, track);
     else if (player.mode() != MediaMode::Playing)
         player.command(u"Play");
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/texts.h"
 #include "forms/resources.h"
 
 namespace sarne {
@@ -30,9 +31,9 @@ std::optional<int> ButtonBar::indexOf(const TwipWidget* button) const {
 
 void ButtonBar::setFace(int index, const BarFace& face) {
     Button& button = (*this)[index];
-    button.setFace(form_.resources().picture(face.picture.toString()));
-    button.setCaption(face.caption.toString());
-    button.setTip(face.tip.toString());
+    button.setFace(form_.resources().picture(QString::fromUtf8(face.picture)));
+    button.setCaption(face.caption ? Texts::tr(face.caption) : QString());
+    button.setTip(Texts::tr(face.tip));
 }
 
 void ButtonBar::placeRow(const QRect& room) {

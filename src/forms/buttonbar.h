@@ -9,20 +9,24 @@
 
 namespace sarne {
 
-/// What a button of a bar shows and is called: its picture, the words below it, and its tip, by default the
-/// same words. What every form can do needs no command of the bar's owner.
+/// What a button of a bar shows and is called: its picture, the words below it if it has any, and its tip, by
+/// default the same words. What every form can do needs no command of the bar's owner.
 struct BarFace {
-    QStringView picture, caption, tip = caption;
+    const char *picture, *caption, *tip = caption;
     void (Form::*does)() = nullptr;
 };
 
 /// The things that several screens offer look, are called and do the same on all of them.
 namespace barface {
-inline constexpr BarFace kPrint{u"Tisk", u"Tisk"};
-inline constexpr BarFace kHelp{u"Help", u"Nápověda", u"Nápověda", &Form::help};
-inline constexpr BarFace kBack{u"Zpet", u"Zpět", u"Zpět", &Form::goBack};
-inline constexpr BarFace kEnd{u"Konec", u"Konec", u"Konec", &Form::endProgram};
-inline constexpr BarFace kMusic{u"Hudba", u"Hudba a zvuky", u"Hudba a zvuky", &Form::musicSettings};
+inline constexpr BarFace kPrint{"Tisk", QT_TRANSLATE_NOOP("Texts", "Tisk")};
+inline constexpr BarFace kHelp{"Help", QT_TRANSLATE_NOOP("Texts", "Nápověda"),
+                               QT_TRANSLATE_NOOP("Texts", "Nápověda"), &Form::help};
+inline constexpr BarFace kBack{"Zpet", QT_TRANSLATE_NOOP("Texts", "Zpět"), QT_TRANSLATE_NOOP("Texts", "Zpět"),
+                               &Form::goBack};
+inline constexpr BarFace kEnd{"Konec", QT_TRANSLATE_NOOP("Texts", "Konec"),
+                              QT_TRANSLATE_NOOP("Texts", "Konec"), &Form::endProgram};
+inline constexpr BarFace kMusic{"Hudba", QT_TRANSLATE_NOOP("Texts", "Hudba a zvuky"),
+                                QT_TRANSLATE_NOOP("Texts", "Hudba a zvuky"), &Form::musicSettings};
 }  // namespace barface
 
 /// The buttons of a form that do one thing each: framed pictures with their names below.

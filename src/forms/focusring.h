@@ -33,7 +33,7 @@ class FocusRing {
     /// Which arrow keys move along the ring besides Tab.
     enum class Arrows { None, Sideways, All };
 
-    FocusRing(Form& form, basSarne& app) : form_(form), app_(app) {}
+    FocusRing(Form& form, basSarne& sarne) : form_(form), app_(sarne) {}
 
     /// The stops in the order of Tab.
     void setStops(const std::vector<TwipWidget*>& stops);

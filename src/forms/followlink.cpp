@@ -6,15 +6,15 @@
 
 namespace sarne {
 
-void followLink(basSarne& app, const LinkKey& key) {
+void followLink(basSarne& sarne, const LinkKey& key) {
     const auto number = toRecordId(key.number).value_or(0);
     switch (key.kind) {
         case LinkKind::Keyword:
-            return app.screens().showIndex(number);
+            return sarne.screens().showIndex(number);
         case LinkKind::Video:
-            return app.screens().showVideo(number);
+            return sarne.screens().showVideo(number);
         case LinkKind::Beep:
-            return app.Beep();
+            return sarne.Beep();
     }
 }
 

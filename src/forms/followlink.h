@@ -7,7 +7,7 @@ namespace sarne {
 class basSarne;
 
 /// Does what a link phrase does: opens the keyword or the video, or only beeps.
-void followLink(basSarne& app, const LinkKey& key);
+void followLink(basSarne& sarne, const LinkKey& key);
 
 }  // namespace sarne
 

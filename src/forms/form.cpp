@@ -12,8 +12,8 @@
 
 namespace sarne {
 
-Form::Form(basSarne& app, const QString& name)
-    : TwipWidget(&app.stage()), app_(app), ring_(*this, app), focusFrame_(new FocusFrame(*this)) {
+Form::Form(basSarne& sarne, const QString& name)
+    : TwipWidget(&sarne.stage()), app_(sarne), ring_(*this, sarne), focusFrame_(new FocusFrame(*this)) {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
     hide();

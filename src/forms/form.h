@@ -25,7 +25,7 @@ class Form : public TwipWidget {
     Q_OBJECT
   public:
     /// A form called \a name ("frmRecept") that fills the stage, hidden.
-    Form(basSarne& app, const QString& name);
+    Form(basSarne& sarne, const QString& name);
     ~Form() override;
 
     QString name() const { return objectName(); }

@@ -29,7 +29,7 @@ frmNastavHudbu::frmNastavHudbu(basSarne& sarne)
       title_(*this, QStringLiteral("lblNadpis")),
       missing_(*this, QStringLiteral("lblChybi")) {
     place(kForm);
-    title_.setText(QStringLiteral("Nastavení hudby"));
+    title_.setText(Texts::tr("Nastavení hudby"));
     title_.setFont(kTitleFont);
     title_.setColor(colors::kTitle);
     title_.setAlignment(Qt::AlignCenter);
@@ -44,7 +44,7 @@ frmNastavHudbu::frmNastavHudbu(basSarne& sarne)
         box->place({kLeft, kFirstRow + int(i) * kRow, kWidth, kRowHeight});
         connect(box, &CheckBox::toggled, this, [this, i] { switched(i); });
     }
-    const QString tracks[] = {QStringLiteral("Hudba"), QStringLiteral("Zvuky vín")};
+    const QString tracks[] = {Texts::tr("Hudba"), Texts::tr("Zvuky vín")};
     const QString captions[] = {QStringLiteral("&Nastav"), QStringLiteral("&Storno")};
     for (int i = 0; i < 2; ++i) {
         auto* track = opthudba[size_t(i)] = new OptionButton(*this, QStringLiteral("opthudba(%1)").arg(i));

@@ -15,7 +15,7 @@ namespace sarne {
 class frmNastavHudbu : public Form {
     Q_OBJECT
   public:
-    explicit frmNastavHudbu(basSarne& app);
+    explicit frmNastavHudbu(basSarne& sarne);
 
     /// Loads the switches and shows the screen.
     void Zobraz();

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "core/texts.h"
 #include "forms/backgroundmusic.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -30,13 +31,15 @@ constexpr int kProgressStep = 200;  // milliseconds
 constexpr qint64 kJump = 5000;      // milliseconds
 
 // The sound button's face and tip follow its switch.
-constexpr BarFace kFaces[] = {{u"ZvukOn", u"Zvuk", u"Vypnout zvuk"},
-                              {u"Hrat", u"Přehrát"},
-                              {u"Stop", u"Stop", u"Konec"},
-                              {u"Pauza", u"Pauza"},
-                              {u"NaZacatek", u"Na začátek", u"Skok na začátek"},
-                              {u"NaKonec", u"Na konec", u"Skok na konec"}};
-constexpr BarFace kSoundIsOff{u"ZvukOff", u"Zvuk", u"Zapnout zvuk"};
+constexpr BarFace kFaces[] = {
+    {"ZvukOn", QT_TRANSLATE_NOOP("Texts", "Zvuk"), QT_TRANSLATE_NOOP("Texts", "Vypnout zvuk")},
+    {"Hrat", QT_TRANSLATE_NOOP("Texts", "Přehrát")},
+    {"Stop", QT_TRANSLATE_NOOP("Texts", "Stop"), QT_TRANSLATE_NOOP("Texts", "Konec")},
+    {"Pauza", QT_TRANSLATE_NOOP("Texts", "Pauza")},
+    {"NaZacatek", QT_TRANSLATE_NOOP("Texts", "Na začátek"), QT_TRANSLATE_NOOP("Texts", "Skok na začátek")},
+    {"NaKonec", QT_TRANSLATE_NOOP("Texts", "Na konec"), QT_TRANSLATE_NOOP("Texts", "Skok na konec")}};
+constexpr BarFace kSoundIsOff{"ZvukOff", QT_TRANSLATE_NOOP("Texts", "Zvuk"),
+                              QT_TRANSLATE_NOOP("Texts", "Zapnout zvuk")};
 constexpr BarFace kBack[] = {barface::kBack};
 
 QString clockText(qint64 milliseconds) {
@@ -97,7 +100,7 @@ void frmVideo::placeButtons() {
 void frmVideo::Zobraz(std::int16_t number) {
     if (app().ShowMode) app().SoundFlags[kVideoSound] = true;
     stopMusic();
-    Label1.setText(QStringLiteral("Chvilku prosím počkejte, otevírám soubor s videem...."));
+    Label1.setText(Texts::tr("Chvilku prosím počkejte, otevírám soubor s videem...."));
     applySound();
     app().PushScreen(*this);
     if (MMControlVideo)
@@ -106,7 +109,7 @@ void frmVideo::Zobraz(std::int16_t number) {
     tmrStart.setEnabled(true);
     showForm();
     ring().focus(ImgTlacitko[kPlay]);
-    app().keepAwake(QStringLiteral("Přehrává se video"));
+    app().keepAwake(Texts::tr("Přehrává se video"));
 }
 
 /// Also a music that is still being opened, which would start over the film.
@@ -129,7 +132,7 @@ void frmVideo::start() {
     MMControlVideo->setNotify(MediaNotify::On);
     MMControlVideo->command(u"open");
     if (MMControlVideo->error() > 0) return showError();
-    Label1.setText(QStringLiteral("Soubor otevřen, začínám přehrávat ...."));
+    Label1.setText(Texts::tr("Soubor otevřen, začínám přehrávat ...."));
     MMControlVideo->command(u"play");
     if (MMControlVideo->error() > 0) return showError();
     setPlaying(true);
@@ -144,7 +147,7 @@ void frmVideo::showError() {
 }
 
 void frmVideo::setPlaying(bool playing) {
-    if (playing) Label1.setText(QStringLiteral("Přehrávám"));
+    if (playing) Label1.setText(Texts::tr("Přehrávám"));
     ImgTlacitko[kPlay].setLatched(playing);
     ImgTlacitko[kPause].setLatched(false);
 }
@@ -153,7 +156,7 @@ void frmVideo::setPlaying(bool playing) {
 void frmVideo::ended(int code) {
     if (!closed_ && code == int(MediaDone::Failed)) return showError();
     if (closed_ || MMControlVideo->mode() == MediaMode::Playing) return;
-    Label1.setText(QStringLiteral("Přehrávání skončeno"));
+    Label1.setText(Texts::tr("Přehrávání skončeno"));
     setPlaying(false);
 }
 
@@ -168,14 +171,14 @@ void frmVideo::press(int index) {
             return setPlaying(true);
         case kStop:
             MMControlVideo->command(u"stop");
-            Label1.setText(QStringLiteral("Zastaveno"));
+            Label1.setText(Texts::tr("Zastaveno"));
             return setPlaying(false);
         case kPause:
             return pause();
         case kPrev:
         case kNext:
             MMControlVideo->command(index == kPrev ? u"prev" : u"next");
-            Label1.setText(index == kPrev ? QStringLiteral("Na začátku") : QStringLiteral("Na konci"));
+            Label1.setText(index == kPrev ? Texts::tr("Na začátku") : Texts::tr("Na konci"));
             return setPlaying(false);
         default:
             return;
@@ -189,7 +192,7 @@ void frmVideo::pause() {
     setPlaying(before == MediaMode::Paused);
     if (before == MediaMode::Paused) return;
     ImgTlacitko[kPause].setLatched(true);
-    Label1.setText(QStringLiteral("Pozastaveno"));
+    Label1.setText(Texts::tr("Pozastaveno"));
 }
 
 void frmVideo::toggleSound() {

@@ -20,7 +20,7 @@ class frmVideo : public Form {
     Q_OBJECT
   public:
     /// Owns \a player; without one nothing can be played and the screen closes again.
-    frmVideo(basSarne& app, std::unique_ptr<MultimediaControl> player);
+    frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player);
     ~frmVideo() override;
 
     /// Shows the screen and, a moment later, opens and plays the clip "VIDEO\" + number + ".AVI".

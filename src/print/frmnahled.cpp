@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/panel.h"
@@ -19,9 +20,12 @@ constexpr QRect kButtons[] = {
 constexpr int kScrollStep = 600;
 
 enum ButtonIndex { kPrevious, kNext, kZoom, kClose };
-const char* const kCaptions[] = {"◄ Předchozí", "Další ►", "Zvětšit", "Zpět"};
-const char* const kTips[] = {"Předchozí strana", "Další strana", "Zvětšit nebo zmenšit stranu",
-                             "Zpět k tisku"};
+const char* const kCaptions[] = {QT_TRANSLATE_NOOP("Texts", "◄ Předchozí"),
+                                 QT_TRANSLATE_NOOP("Texts", "Další ►"), QT_TRANSLATE_NOOP("Texts", "Zvětšit"),
+                                 QT_TRANSLATE_NOOP("Texts", "Zpět")};
+const char* const kTips[] = {
+    QT_TRANSLATE_NOOP("Texts", "Předchozí strana"), QT_TRANSLATE_NOOP("Texts", "Další strana"),
+    QT_TRANSLATE_NOOP("Texts", "Zvětšit nebo zmenšit stranu"), QT_TRANSLATE_NOOP("Texts", "Zpět k tisku")};
 
 }  // namespace
 
@@ -32,13 +36,13 @@ frmNahled::frmNahled(basSarne& sarne, std::unique_ptr<PagePreview> preview)
       lblStrana(*this, QStringLiteral("lblStrana")),
       Timer1(this) {
     picStrana.place(kSheet);
-    picStrana.setTip(QStringLiteral("Náhled strany"));
+    picStrana.setTip(Texts::tr("Náhled strany"));
     lblStrana.place(kPosition);
     dressLabel(lblStrana, printforms::kTextFont, colors::kTitle);
     lblStrana.setAlignment(Qt::AlignCenter);
     for (int i = 0; i < 4; ++i) {
         auto* button = cmdStrana[size_t(i)] = new Button(*this, QStringLiteral("cmdStrana(%1)").arg(i));
-        button->dressAsText(QString::fromUtf8(kCaptions[i]), QString::fromUtf8(kTips[i]));
+        button->dressAsText(Texts::tr(kCaptions[i]), Texts::tr(kTips[i]));
         button->place(kButtons[i]);
     }
     connect(cmdStrana[kPrevious], &Button::clicked, this, [this] { go(current_ - 1); });
@@ -81,16 +85,15 @@ void frmNahled::go(int page) {
 void frmNahled::showPosition() {
     const int count = preview_->pageCount();
     const QString more = preview_->isComplete() ? QString() : QStringLiteral(" ...");
-    lblStrana.setText(count == 0 ? QStringLiteral("Není co tisknout")
-                                 : QStringLiteral("Strana %1 z %2").arg(current_ + 1).arg(count) + more);
+    lblStrana.setText(count == 0 ? Texts::tr("Není co tisknout")
+                                 : Texts::tr("Strana %1 z %2").arg(current_ + 1).arg(count) + more);
     cmdStrana[kPrevious]->setEnabled(current_ > 0);
     cmdStrana[kNext]->setEnabled(current_ + 1 < count);
 }
 
 void frmNahled::zoom() {
     picStrana.setZoomed(!picStrana.isZoomed());
-    cmdStrana[kZoom]->setCaption(picStrana.isZoomed() ? QStringLiteral("Zmenšit")
-                                                      : QStringLiteral("Zvětšit"));
+    cmdStrana[kZoom]->setCaption(picStrana.isZoomed() ? Texts::tr("Zmenšit") : Texts::tr("Zvětšit"));
 }
 
 bool frmNahled::scrollKey(int key) {

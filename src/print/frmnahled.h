@@ -14,7 +14,7 @@ namespace sarne {
 class frmNahled : public Form {
     Q_OBJECT
   public:
-    frmNahled(basSarne& app, std::unique_ptr<PagePreview> preview);
+    frmNahled(basSarne& sarne, std::unique_ptr<PagePreview> preview);
 
     /// Shows number \a page, from 0.
     void Zobraz(int page = 0);

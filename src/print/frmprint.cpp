@@ -6,6 +6,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "core/texts.h"
 #include "core/value.h"
 #include "db/database.h"
 #include "db/notestore.h"
@@ -37,16 +38,16 @@ QString recipeName(Database& db, int id) {
 QString outcomeText(const PrintOutcome& outcome) {
     using Kind = PrintOutcome::Kind;
     const QString where =
-        outcome.file.isEmpty() ? QString() : QStringLiteral("\nStrany jsou v souboru ") + outcome.file;
+        outcome.file.isEmpty() ? QString() : Texts::tr("\nStrany jsou v souboru ") + outcome.file;
     switch (outcome.kind) {
         case Kind::Printed:
-            return QStringLiteral("Tisk je hotov, počet stran: %1.").arg(outcome.pages) + where;
+            return Texts::tr("Tisk je hotov, počet stran: %1.").arg(outcome.pages) + where;
         case Kind::Stopped:
-            return QStringLiteral("Tisk byl přerušen.") + where;
+            return Texts::tr("Tisk byl přerušen.") + where;
         case Kind::Failed:
-            return QStringLiteral("Tisk se nezdařil: tiskárna neodpovídá nebo na disku není místo.");
+            return Texts::tr("Tisk se nezdařil: tiskárna neodpovídá nebo na disku není místo.");
         case Kind::Nothing:
-            return QStringLiteral("Není co tisknout.");
+            return Texts::tr("Není co tisknout.");
     }
     return {};
 }
@@ -117,7 +118,7 @@ QString frmPrint::materialName() const {
 void frmPrint::showMaterial() {
     const int more = material_.count() - 1;
     QString name = materialName();
-    if (more > 0) name += QStringLiteral(" a další (celkem %1)").arg(more + 1);
+    if (more > 0) name += Texts::tr(" a další (celkem %1)").arg(more + 1);
     lblCo.setText(name);
     Frame1.setEnabled(!material_.isText());
     showPrinter();
@@ -125,12 +126,12 @@ void frmPrint::showMaterial() {
 
 void frmPrint::showPrinter() {
     const PrinterChoice choice = printer_.choice();
-    const QString paper = QStringLiteral("Papír: ") + paperName(choice.paper);
+    const QString paper = Texts::tr("Papír: ") + paperName(choice.paper);
     if (!choice.printer.isEmpty()) {
         const QString copies =
-            choice.copies > 1 ? QStringLiteral(", počet kopií: %1").arg(choice.copies) : QString();
+            choice.copies > 1 ? Texts::tr(", počet kopií: %1").arg(choice.copies) : QString();
         lblTiskarna.setToolTip({});
-        return lblTiskarna.setText(QStringLiteral("Tiskárna: ") + choice.printer + u'\n' + paper + copies);
+        return lblTiskarna.setText(Texts::tr("Tiskárna: ") + choice.printer + u'\n' + paper + copies);
     }
     const QString file = printer_.fileFor(documentName());
     const QFontMetricsF metrics(printforms::kSmallFont.toQFont());
@@ -138,8 +139,8 @@ void frmPrint::showPrinter() {
     const auto shown = [&](const QString& line) {
         return metrics.elidedText(line, Qt::ElideMiddle, printlayout::kPrinter.width());
     };
-    lblTiskarna.setText(shown(QStringLiteral("Tisk do souboru: ") + QFileInfo(file).fileName()) + u'\n' +
-                        shown(QStringLiteral("Složka: ") + QFileInfo(file).path()) + u'\n' + paper);
+    lblTiskarna.setText(shown(Texts::tr("Tisk do souboru: ") + QFileInfo(file).fileName()) + u'\n' +
+                        shown(Texts::tr("Složka: ") + QFileInfo(file).path()) + u'\n' + paper);
     lblTiskarna.setToolTip(file);
 }
 
@@ -149,7 +150,7 @@ void frmPrint::recallPrinter() {
     const PrinterChoice choice = PrinterChoice::fromText(kept);
     if (printer_.use(choice)) return;
     lblVysledek.setText(
-        QStringLiteral("Tiskárna %1 teď není k dispozici, tisk půjde do souboru.").arg(choice.printer));
+        Texts::tr("Tiskárna %1 teď není k dispozici, tisk půjde do souboru.").arg(choice.printer));
 }
 
 bool frmPrint::portionsValid() {
@@ -161,7 +162,7 @@ bool frmPrint::portionsValid() {
 }
 
 void frmPrint::refusePortions() {
-    app().ZobrazZpravu(QStringLiteral("Musí být zadáno celé číslo od 1 do 99!"), kWarningBox);
+    app().ZobrazZpravu(Texts::tr("Musí být zadáno celé číslo od 1 do 99!"), kWarningBox);
     Text1.focusAll();
 }
 
@@ -179,13 +180,13 @@ void frmPrint::start() {
 bool frmPrint::mayReplaceFile() {
     const QString file = printer_.fileFor(documentName());
     if (file.isEmpty() || !QFileInfo::exists(file)) return true;
-    const QString question = QStringLiteral("Soubor %1 už existuje. Chcete ho nahradit?");
+    const QString question = Texts::tr("Soubor %1 už existuje. Chcete ho nahradit?");
     return app().ZobrazZpravu(question.arg(QFileInfo(file).fileName()), kQuestionBox) == kAnswerYes;
 }
 
 void frmPrint::openFile() {
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(printedFile_)))
-        app().ZobrazZpravu(QStringLiteral("Soubor se nepodařilo otevřít."), kWarningBox);
+        app().ZobrazZpravu(Texts::tr("Soubor se nepodařilo otevřít."), kWarningBox);
 }
 
 void frmPrint::run() {
@@ -249,7 +250,7 @@ void frmPrint::showOutcome(const PrintOutcome& outcome) {
 
 void frmPrint::askToStop() {
     if (!printing_) return;
-    const QString question = QStringLiteral(" Opravdu chcete ukončit tisk? ");
+    const QString question = Texts::tr(" Opravdu chcete ukončit tisk? ");
     if (app().ZobrazZpravu(question, kWarningQuestionBox) == kAnswerYes) stopped_ = true;
 }
 
@@ -299,8 +300,7 @@ void frmPrint::choosePrinter() {
     dialog->unload();
     if (!choice) return;
     if (!printer_.use(*choice))
-        app().ZobrazZpravu(QStringLiteral("Tiskárna %1 teď není k dispozici.").arg(choice->printer),
-                           kWarningBox);
+        app().ZobrazZpravu(Texts::tr("Tiskárna %1 teď není k dispozici.").arg(choice->printer), kWarningBox);
     memory_.store(printer_.choice().toText());
     showPrinter();
     refreshPreview();

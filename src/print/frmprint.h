@@ -28,7 +28,7 @@ class frmPrint : public Form, private PrintProgress {
     Q_OBJECT
   public:
     /// Prints on \a printer, which must outlive the form.
-    frmPrint(basSarne& app, Printer& printer, PrinterMemory memory = {});
+    frmPrint(basSarne& sarne, Printer& printer, PrinterMemory memory = {});
 
     /// Takes the ids of recipes to print and shows the form. The first selection waits for the user to look
     /// through the options; one that comes while the form is open is printed at once.

@@ -1,5 +1,6 @@
 #include <QKeyEvent>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/decimalentry.h"
@@ -14,9 +15,14 @@ namespace {
 
 namespace at = printlayout;
 
-const char* const kSections[kPrintSections] = {"Foto",        "Suroviny", "Úvod, recept, poznámka",
-                                               "Jak podávat", "Víno",     "Vlastní poznámka",
-                                               "Pomůcky",     "Odkazy"};
+const char* const kSections[kPrintSections] = {QT_TRANSLATE_NOOP("Texts", "Foto"),
+                                               QT_TRANSLATE_NOOP("Texts", "Suroviny"),
+                                               QT_TRANSLATE_NOOP("Texts", "Úvod, recept, poznámka"),
+                                               QT_TRANSLATE_NOOP("Texts", "Jak podávat"),
+                                               QT_TRANSLATE_NOOP("Texts", "Víno"),
+                                               QT_TRANSLATE_NOOP("Texts", "Vlastní poznámka"),
+                                               QT_TRANSLATE_NOOP("Texts", "Pomůcky"),
+                                               QT_TRANSLATE_NOOP("Texts", "Odkazy")};
 
 constexpr int kMostPortionDigits = 8;
 constexpr int kProgressSteps = 1000;
@@ -57,23 +63,23 @@ frmPrint::frmPrint(basSarne& sarne, Printer& printer, PrinterMemory memory)
 
 void frmPrint::makeOptions() {
     Frame1.place(at::kFrame);
-    Frame1.setTip(QStringLiteral("Co se má tisknout"));
+    Frame1.setTip(Texts::tr("Co se má tisknout"));
     Frame1.setToolTip({});
     auto* title = new Label(*this, QStringLiteral("lblCoTisknout"));
-    dressLabel(*title, printforms::kButtonFont, colors::kInk, QStringLiteral("Co se má tisknout"));
+    dressLabel(*title, printforms::kButtonFont, colors::kInk, Texts::tr("Co se má tisknout"));
     lblPorce.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    dressLabel(lblPorce, printforms::kTextFont, colors::kInk, QStringLiteral("Počet porcí"));
+    dressLabel(lblPorce, printforms::kTextFont, colors::kInk, Texts::tr("Počet porcí"));
     for (int i = 0; i < kPrintSections; ++i) {
         auto* box = Chco[size_t(i)] = new CheckBox(*this, QStringLiteral("Chco(%1)").arg(i));
-        dressCheckBox(*box, app().resources(), QString::fromUtf8(kSections[i]));
+        dressCheckBox(*box, app().resources(), Texts::tr(kSections[i]));
         box->setFont(printforms::kSmallFont);
         box->setChecked(true);
     }
     Text1.setFont(printforms::kTextFont);
     Text1.setMaxLength(kMostPortionDigits);
     takeDecimalComma(Text1);
-    Text1.setTip(QStringLiteral("Počet porcí, 1 až 99"));
-    dressCheckBox(chkZobrKg, app().resources(), QStringLiteral("Množství i v gramech"));
+    Text1.setTip(Texts::tr("Počet porcí, 1 až 99"));
+    dressCheckBox(chkZobrKg, app().resources(), Texts::tr("Množství i v gramech"));
     chkZobrKg.setFont(printforms::kSmallFont);
     // The frame holds the options: it is disabled with all that is in it.
     for (Control* held : std::initializer_list<Control*>{title, &lblPorce, &Text1, &chkZobrKg}) {
@@ -106,8 +112,8 @@ void frmPrint::makePrinterLine() {
     lblTiskarna.setWordWrap(true);
     lblTiskarna.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     dressLabel(lblTiskarna, printforms::kSmallFont, colors::kInk);
-    cmdTiskarna = makeButton(QStringLiteral("cmdTiskarna"), QStringLiteral("Tiskárna ..."),
-                             QStringLiteral("Vybrat tiskárnu, papír a počet kopií"), at::kChoosePrinter);
+    cmdTiskarna = makeButton(QStringLiteral("cmdTiskarna"), Texts::tr("Tiskárna ..."),
+                             Texts::tr("Vybrat tiskárnu, papír a počet kopií"), at::kChoosePrinter);
     connect(cmdTiskarna, &Button::clicked, this, [this] { choosePrinter(); });
 }
 
@@ -117,18 +123,18 @@ void frmPrint::makeProgress() {
     lblRecept.place(at::kRecipeName);
     dressLabel(lblRecept, printforms::kTextFont, colors::kPaper);
     prgRecept.place(at::kRecipeBar);
-    prgRecept.setTip(QStringLiteral("Průběh tisku receptu"));
+    prgRecept.setTip(Texts::tr("Průběh tisku receptu"));
     prgRecept.setMaximum(kProgressSteps);
     prgSeznam.place(at::kListBar);
-    prgSeznam.setTip(QStringLiteral("Průběh tisku všech receptů"));
+    prgSeznam.setTip(Texts::tr("Průběh tisku všech receptů"));
     lblVysledek.place(at::kOutcome);
     lblVysledek.setWordWrap(true);
     dressLabel(lblVysledek, printforms::kTextFont, colors::kTitle);
-    cmdPrerus = makeButton(QStringLiteral("cmdPrerus"), QStringLiteral("Přerušit tisk"),
-                           QStringLiteral("Přerušit tisk"), at::kStop);
+    cmdPrerus = makeButton(QStringLiteral("cmdPrerus"), Texts::tr("Přerušit tisk"),
+                           Texts::tr("Přerušit tisk"), at::kStop);
     connect(cmdPrerus, &Button::clicked, this, [this] { askToStop(); });
-    cmdOtevrit = makeButton(QStringLiteral("cmdOtevrit"), QStringLiteral("Otevřít"),
-                            QStringLiteral("Otevřít vytištěný soubor"), at::kOpen);
+    cmdOtevrit = makeButton(QStringLiteral("cmdOtevrit"), Texts::tr("Otevřít"),
+                            Texts::tr("Otevřít vytištěný soubor"), at::kOpen);
     connect(cmdOtevrit, &Button::clicked, this, [this] { openFile(); });
     for (Control* control :
          std::initializer_list<Control*>{&Label1, &lblRecept, &prgRecept, &prgSeznam, cmdPrerus, cmdOtevrit})
@@ -137,12 +143,12 @@ void frmPrint::makeProgress() {
 
 void frmPrint::makePreview() {
     picStrana.place(at::kSheet);
-    picStrana.setTip(QStringLiteral("Náhled strany; kliknutím se zvětší"));
+    picStrana.setTip(Texts::tr("Náhled strany; kliknutím se zvětší"));
     lblStrana.place(at::kPosition);
     lblStrana.setAlignment(Qt::AlignCenter);
     dressLabel(lblStrana, printforms::kTextFont, colors::kPaper);
     const QString captions[] = {QStringLiteral("◄"), QStringLiteral("►")};
-    const QString tips[] = {QStringLiteral("Předchozí strana"), QStringLiteral("Další strana")};
+    const QString tips[] = {Texts::tr("Předchozí strana"), Texts::tr("Další strana")};
     const QRect places[] = {at::kPrevious, at::kNext};
     for (int i = 0; i < 2; ++i) {
         cmdStrana[size_t(i)] =
@@ -162,12 +168,12 @@ void frmPrint::watchOptions() {
 }
 
 void frmPrint::makeButtons() {
-    Command1 = makeButton(QStringLiteral("Command1"), QStringLiteral("Tisk"), QStringLiteral("Začít tisk"),
-                          at::kPrint);
-    cmdNahled = makeButton(QStringLiteral("cmdNahled"), QStringLiteral("Náhled"),
-                           QStringLiteral("Ukázat strany tak, jak se vytisknou"), at::kPreview);
-    Command2 = makeButton(QStringLiteral("Command2"), QStringLiteral("Zavřít"), QStringLiteral("Zavřít tisk"),
-                          at::kClose);
+    Command1 =
+        makeButton(QStringLiteral("Command1"), QStringLiteral("Tisk"), Texts::tr("Začít tisk"), at::kPrint);
+    cmdNahled = makeButton(QStringLiteral("cmdNahled"), Texts::tr("Náhled"),
+                           Texts::tr("Ukázat strany tak, jak se vytisknou"), at::kPreview);
+    Command2 =
+        makeButton(QStringLiteral("Command2"), Texts::tr("Zavřít"), Texts::tr("Zavřít tisk"), at::kClose);
     connect(Command1, &Button::clicked, this, [this] { start(); });
     connect(cmdNahled, &Button::clicked, this, [this] { preview(); });
     connect(Command2, &Button::clicked, this, [this] { goBack(); });

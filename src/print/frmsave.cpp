@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <algorithm>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/panel.h"
@@ -23,9 +24,13 @@ constexpr int kArrowLeft = 4470;
 constexpr int kArrowTop[] = {1860, 3780, 4440, 2520};
 constexpr QRect kButtons[] = {{3540, 6435, 1620, 540}, {5340, 6435, 1620, 540}};
 
-const char* const kArrowCaptions[] = {"Přidat ►", "◄ Odebrat", "◄◄ Vše", "Vše ►►"};
-const char* const kArrowTips[] = {"Přidat označené položky", "Odebrat označené položky",
-                                  "Odebrat všechny položky", "Přidat všechny položky"};
+const char* const kArrowCaptions[] = {
+    QT_TRANSLATE_NOOP("Texts", "Přidat ►"), QT_TRANSLATE_NOOP("Texts", "◄ Odebrat"),
+    QT_TRANSLATE_NOOP("Texts", "◄◄ Vše"), QT_TRANSLATE_NOOP("Texts", "Vše ►►")};
+const char* const kArrowTips[] = {QT_TRANSLATE_NOOP("Texts", "Přidat označené položky"),
+                                  QT_TRANSLATE_NOOP("Texts", "Odebrat označené položky"),
+                                  QT_TRANSLATE_NOOP("Texts", "Odebrat všechny položky"),
+                                  QT_TRANSLATE_NOOP("Texts", "Přidat všechny položky")};
 
 void fill(ListBox& list, const std::vector<PrintEntry>& entries) {
     QStringList texts;
@@ -59,17 +64,17 @@ frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover prin
         list->place(room);
         list->setFont(printforms::kSmallFont);
     }
-    lblSeznam.setText(QStringLiteral("Seznam"));
-    lstSeznam.setTip(QStringLiteral("Seznam položek"));
-    lstVybrano.setTip(QStringLiteral("Vybrané položky"));
+    lblSeznam.setText(Texts::tr("Seznam"));
+    lstSeznam.setTip(Texts::tr("Seznam položek"));
+    lstVybrano.setTip(Texts::tr("Vybrané položky"));
     for (int i = 0; i < 4; ++i) {
         auto* button = cmdRuka[size_t(i)] = new Button(*this, QStringLiteral("cmdRuka(%1)").arg(i));
-        button->dressAsText(QString::fromUtf8(kArrowCaptions[i]), QString::fromUtf8(kArrowTips[i]));
+        button->dressAsText(Texts::tr(kArrowCaptions[i]), Texts::tr(kArrowTips[i]));
         button->place({{kArrowLeft, kArrowTop[i]}, kArrow});
         connect(button, &Button::clicked, this, [this, i] { cmdRukaClick(i); });
     }
-    const QString captions[] = {QStringLiteral("OK"), QStringLiteral("Zavřít")};
-    const QString tips[] = {QStringLiteral("Tisknout vybrané položky"), QStringLiteral("Zavřít bez tisku")};
+    const QString captions[] = {Texts::tr("OK"), Texts::tr("Zavřít")};
+    const QString tips[] = {Texts::tr("Tisknout vybrané položky"), Texts::tr("Zavřít bez tisku")};
     for (int i = 0; i < 2; ++i) {
         auto* button = cmdOkEnd[size_t(i)] = new Button(*this, QStringLiteral("cmdOkEnd(%1)").arg(i));
         button->dressAsText(captions[i], tips[i]);
@@ -88,7 +93,7 @@ frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover prin
 
 void frmSave::Zobraz(const QString& mode) {
     mode_ = mode.toLower();
-    Label2.setText(QStringLiteral("Vyberte ze seznamu položky, které chcete tisknout"));
+    Label2.setText(Texts::tr("Vyberte ze seznamu položky, které chcete tisknout"));
     app().HookMessage(Label2.text());
     cmdOkEnd[0]->setEnabled(false);
     const QPointer<frmSave> self(this);
@@ -108,7 +113,7 @@ void frmSave::markStart() {
 
 void frmSave::showChosen() {
     fill(lstVybrano, choice_.chosen());
-    lblVybrano.setText(QStringLiteral("Vybráno: %1").arg(choice_.chosen().size()));
+    lblVybrano.setText(Texts::tr("Vybráno: %1").arg(choice_.chosen().size()));
     if (choice_.isEmpty() && cmdOkEnd[0]->hasFocus()) lstSeznam.setFocus();
     cmdOkEnd[0]->setEnabled(!choice_.isEmpty());
 }

@@ -19,7 +19,7 @@ class frmSave : public Form {
     using Handover = std::function<void(const std::vector<std::int16_t>&)>;
 
     /// \a entries are what can be chosen; \a print is called with the choice.
-    frmSave(basSarne& app, std::vector<PrintEntry> entries, Handover print);
+    frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover print);
 
     /// Shows the dialog and returns when it was closed. In the ordinary \a mode, "", OK closes it and prints;
     /// in any other it stays, to choose again.

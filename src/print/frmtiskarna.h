@@ -19,7 +19,7 @@ class frmTiskarna : public Form {
   public:
     /// Offers \a printers beside the file and begins with \a choice. \a usualFile is what a file is called
     /// when nothing else is typed.
-    frmTiskarna(basSarne& app, const QStringList& printers, const PrinterChoice& choice,
+    frmTiskarna(basSarne& sarne, const QStringList& printers, const PrinterChoice& choice,
                 const QString& usualFile);
 
     /// Shows the dialog and returns when it was closed; nothing when it was left without OK.

@@ -12,8 +12,8 @@ namespace sarne {
 class Printing {
   public:
     /// \a memory keeps which printer the user chose.
-    Printing(basSarne& app, Printer& printer, PrinterMemory memory = {})
-        : app_(app), printer_(printer), memory_(std::move(memory)) {}
+    Printing(basSarne& sarne, Printer& printer, PrinterMemory memory = {})
+        : app_(sarne), printer_(printer), memory_(std::move(memory)) {}
 
     /// Lets the user choose among \a entries and prints the choice; returns when the choice was made. Their
     /// items are recipes; in the mode "Help" they are text pages.

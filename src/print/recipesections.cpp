@@ -1,6 +1,7 @@
 #include "print/recipesections.h"
 
 #include "core/numbertext.h"
+#include "core/texts.h"
 #include "db/companions.h"
 #include "db/ingredients.h"
 #include "db/queries.h"
@@ -56,7 +57,7 @@ void RecipeSections::setCard() {
 }
 
 void RecipeSections::shortSteps() {
-    status(QStringLiteral(" Tisknu recept ... "));
+    status(Texts::tr(" Tisknu recept ... "));
     const QStringList steps = stepsInShort(plainText(field(QStringLiteral("Recept"))));
     if (steps.isEmpty()) return;
     flow_.endPicture();
@@ -77,13 +78,13 @@ void RecipeSections::setSection(PrintSection section) {
         case PrintSection::Ingredients:
             return ingredients();
         case PrintSection::Texts:
-            richField(QStringLiteral("Uvod"), QStringLiteral(" Tisknu úvod ... "));
-            richField(QStringLiteral("Recept"), QStringLiteral(" Tisknu recept ... "));
-            return richField(QStringLiteral("Poznamka"), QStringLiteral(" Tisknu poznámku ... "));
+            richField(QStringLiteral("Uvod"), Texts::tr(" Tisknu úvod ... "));
+            richField(QStringLiteral("Recept"), Texts::tr(" Tisknu recept ... "));
+            return richField(QStringLiteral("Poznamka"), Texts::tr(" Tisknu poznámku ... "));
         case PrintSection::Serving:
-            return richField(QStringLiteral("Prezentace"), QStringLiteral(" Tisknu servis ... "));
+            return richField(QStringLiteral("Prezentace"), Texts::tr(" Tisknu servis ... "));
         case PrintSection::Wine:
-            return richField(QStringLiteral("vino"), QStringLiteral(" Tisknu víno ... "));
+            return richField(QStringLiteral("vino"), Texts::tr(" Tisknu víno ... "));
         case PrintSection::OwnNote:
             return ownNote();
         case PrintSection::Tools:
@@ -98,7 +99,7 @@ void RecipeSections::gap() {
 }
 
 void RecipeSections::photo() {
-    status(QStringLiteral(" Tisknu foto ... "));
+    status(Texts::tr(" Tisknu foto ... "));
     const Picture photo = context_.source.media(QStringLiteral("foto\\male\\r%1.bmp").arg(id()));
     if (photo.isNull()) return;
     gap();
@@ -106,11 +107,11 @@ void RecipeSections::photo() {
 }
 
 void RecipeSections::ingredients() {
-    status(QStringLiteral(" Tisknu Suroviny ... "));
+    status(Texts::tr(" Tisknu Suroviny ... "));
     const Quantities quantities(context_.options.portions, recipe_.field(QStringLiteral("Porce")).toInt(),
                                 context_.source.locale);
     if (!flow_.besidePicture()) gap();
-    flow_.addText(QStringLiteral("Porce: ") + numberText(context_.options.portions, context_.source.locale),
+    flow_.addText(Texts::tr("Porce: ") + numberText(context_.options.portions, context_.source.locale),
                   printfonts::body(), FlowLine::Kind::Heading);
     std::vector<QuantityRow> rows;
     for (const Ingredient& ingredient : readIngredients(context_.source.db, id()))
@@ -129,22 +130,22 @@ void RecipeSections::richField(const QString& name, const QString& statusText) {
 }
 
 void RecipeSections::ownNote() {
-    status(QStringLiteral(" Tisknu vlastní poznámku ... "));
+    status(Texts::tr(" Tisknu vlastní poznámku ... "));
     const QString note = context_.source.draft(id()).value_or(field(QStringLiteral("Vlastni")));
     if (note.trimmed().isEmpty()) return;
     flow_.endPicture();
     gap();
-    flow_.addHeading(QStringLiteral("Vlastní poznámka: "));
+    flow_.addHeading(Texts::tr("Vlastní poznámka: "));
     flow_.addPlainText(note);
 }
 
 void RecipeSections::tools() {
-    status(QStringLiteral(" Tisknu pomůcky ... "));
+    status(Texts::tr(" Tisknu pomůcky ... "));
     const QStringList tools = recipeTools(context_.source.db, id());
     if (tools.isEmpty()) return;
     flow_.endPicture();
     gap();
-    flow_.addText(QStringLiteral("Pomůcky: ") + tools.join(QStringLiteral(", ")), printfonts::body());
+    flow_.addText(Texts::tr("Pomůcky: ") + tools.join(QStringLiteral(", ")), printfonts::body());
 }
 
 void RecipeSections::links() {
@@ -152,10 +153,10 @@ void RecipeSections::links() {
          links.MoveNext()) {
         if (!flow_.wentOn()) return;
         const QString title = links.field(QStringLiteral("Polozka")).toString();
-        status(QStringLiteral(" Tisknu odkaz ") + title + QStringLiteral(" ... "));
+        status(Texts::tr(" Tisknu odkaz ") + title + QStringLiteral(" ... "));
         flow_.endPicture();
         gap();
-        flow_.addHeading(QStringLiteral("Odkaz: ") + title);
+        flow_.addHeading(Texts::tr("Odkaz: ") + title);
         flow_.addRichText(links.field(QStringLiteral("Text")).toString());
     }
 }

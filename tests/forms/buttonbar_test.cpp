@@ -10,7 +10,7 @@
 namespace sarne {
 namespace {
 
-constexpr BarFace kFaces[] = {barface::kPrint, {u"Foto", u"Foto", u"Zobrazí foto"}, barface::kEnd};
+constexpr BarFace kFaces[] = {barface::kPrint, {"Foto", "Foto", "Zobrazí foto"}, barface::kEnd};
 
 class ButtonBarTest : public testing::Test {
   protected:

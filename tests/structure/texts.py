@@ -9,6 +9,8 @@ import sys
 TOKEN = re.compile(r'//[^\n]*|/\*.*?\*/|u?"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)+\'', re.S)
 CZECH = re.compile('[áčďéěíňóřšťúůýžÁČĎÉĚÍŇÓŘŠŤÚŮÝŽ]')
 TRANSLATED = re.compile(r'(tr|QT_TRANSLATE_NOOP)\($|QT_TRANSLATE_NOOP\("Texts",$')
+# What the book itself says: units and times as its recipes write them, names of its menus.
+OF_THE_BOOK = {'units.cpp', 'foundtimes.cpp', 'menutargets.cpp'}
 NO_TEXTS = {'"zvuky\\\\č%1.wav"', '"ÁÄĎÉĚÍŇÓÖŤÚŮÜÝ"'}
 
 
@@ -28,7 +30,7 @@ def faults(path):
             yield f'{path}:{source.count(chr(10), 0, token.start()) + 1}: {text}'
 
 
-found = [fault for file in sorted(pathlib.Path(sys.argv[1]).rglob('*')) if file.suffix in ('.h', '.cpp')
+found = [fault for file in sorted(pathlib.Path(sys.argv[1]).rglob('*')) if file.suffix in ('.h', '.cpp') and file.name not in OF_THE_BOOK
          for fault in faults(file)]
 print('\n'.join(found) or 'every Czech text can be translated')
 sys.exit(1 if found else 0)

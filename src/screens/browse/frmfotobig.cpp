@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "core/texts.h"
 #include "db/database.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -21,18 +22,18 @@ const TextFont kMomentFont{QStringLiteral("Arial"), 16};
 
 }  // namespace
 
-frmFotoBig::frmFotoBig(basSarne& run)
-    : Form(run, QStringLiteral("frmFotoBig")),
+frmFotoBig::frmFotoBig(basSarne& sarne)
+    : Form(sarne, QStringLiteral("frmFotoBig")),
       lblNazev(*this, QStringLiteral("lblNazev")),
       lblMoment(*this, QStringLiteral("lblMoment")),
       tmrPosun(this) {
-    setAccessibleName(QStringLiteral("Velké foto"));
+    setAccessibleName(Texts::tr("Velké foto"));
     setMouseTracking(true);
     lblNazev.setFont(kTitleFont);
     lblNazev.setColor(colors::kTitle);
     lblMoment.setFont(kMomentFont);
     lblMoment.setColor(colors::kTitle);
-    lblMoment.setText(QStringLiteral("Moment prosím, načítám foto ..."));
+    lblMoment.setText(Texts::tr("Moment prosím, načítám foto ..."));
     lblMoment.place({450, 450, 9000, 450});
     connect(&tmrPosun, &Timer::tick, this, &frmFotoBig::tick);
 }
@@ -143,7 +144,7 @@ void frmFotoBig::tick() {
 void frmFotoBig::setSlideShow(bool runs) {
     if (runs == tmrPosun.isEnabled()) return;
     tmrPosun.setEnabled(runs);
-    app().keepAwake(runs ? QStringLiteral("Promítání fotografií") : QString());
+    app().keepAwake(runs ? Texts::tr("Promítání fotografií") : QString());
 }
 
 bool frmFotoBig::keyDown(QKeyEvent& event) {

@@ -17,7 +17,7 @@ namespace sarne {
 class frmFotoBig : public Form {
     Q_OBJECT
   public:
-    explicit frmFotoBig(basSarne& app);
+    explicit frmFotoBig(basSarne& sarne);
 
     /// Opens the viewer over the current screen on the photos of \a request. An empty list opens nothing, and
     /// the form goes again.

@@ -12,8 +12,8 @@ constexpr int kBorder = 100;  // from the window's edge to its picture
 
 }  // namespace
 
-frmRychlyRecept::frmRychlyRecept(basSarne& app, Form& owner)
-    : Form(app, QStringLiteral("frmRychlyRecept")),
+frmRychlyRecept::frmRychlyRecept(basSarne& sarne, Form& owner)
+    : Form(sarne, QStringLiteral("frmRychlyRecept")),
       owner_(owner),
       Picture1(*this, QStringLiteral("Picture1")) {
     setAccessibleName(QStringLiteral("Seznam s recepty"));

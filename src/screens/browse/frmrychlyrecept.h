@@ -13,7 +13,7 @@ class frmRychlyRecept : public Form {
     Q_OBJECT
   public:
     /// \a owner, the list, outlives the window and unloads it.
-    frmRychlyRecept(basSarne& app, Form& owner);
+    frmRychlyRecept(basSarne& sarne, Form& owner);
 
     /// Shows the window at \a place (twips of the screen), above the list, without taking the keyboard.
     void Zobraz(const QRect& place);

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/messagebox.h"
@@ -85,7 +86,7 @@ const ListEntry* frmSeznam::visiblySelected() const {
 
 void frmSeznam::action(int index) {
     if (!visiblySelected()) {
-        app().ZobrazZpravu(QStringLiteral("Není vybrán recept"), kWarningBox);
+        app().ZobrazZpravu(Texts::tr("Není vybrán recept"), kWarningBox);
         return;
     }
     switch (index) {

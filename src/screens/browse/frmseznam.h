@@ -24,7 +24,7 @@ class frmSeznam : public Form {
     enum class Panel { Photo, Wine };
 
     /// \a panel is what the panel beside the list showed last, kept by whoever makes lists; null: the photo.
-    explicit frmSeznam(basSarne& app, Panel* panel = nullptr);
+    explicit frmSeznam(basSarne& sarne, Panel* panel = nullptr);
 
     /// What the next list is about ("Kapr"), for its title.
     void setSubject(const QString& subject) { subject_ = subject; }

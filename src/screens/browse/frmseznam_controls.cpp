@@ -3,6 +3,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/holdrepeat.h"
@@ -25,16 +26,18 @@ const TextFont kPositionFont{QStringLiteral("Arial"), 16};
 const TextFont kRowFont{QStringLiteral("Arial"), 14};
 const TextFont kHintFont{QStringLiteral("Arial"), 11};
 
-constexpr BarFace kActions[] = {{u"Foto", u"Foto", u"Zobrazí malé foto"},
-                                {u"Vino", u"Víno", u"Zobrazí vhodná vína"},
-                                {u"Recept", u"Recept", u"Otevře recept"}};
-constexpr BarFace kOpenPage{u"Help", u"Otevřít", u"Otevře stránku nápovědy"};
+constexpr BarFace kActions[] = {
+    {"Foto", QT_TRANSLATE_NOOP("Texts", "Foto"), QT_TRANSLATE_NOOP("Texts", "Zobrazí malé foto")},
+    {"Vino", QT_TRANSLATE_NOOP("Texts", "Víno"), QT_TRANSLATE_NOOP("Texts", "Zobrazí vhodná vína")},
+    {"Recept", QT_TRANSLATE_NOOP("Texts", "Recept"), QT_TRANSLATE_NOOP("Texts", "Otevře recept")}};
+constexpr BarFace kOpenPage{"Help", QT_TRANSLATE_NOOP("Texts", "Otevřít"),
+                            QT_TRANSLATE_NOOP("Texts", "Otevře stránku nápovědy")};
 constexpr BarFace kBar[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
 
 }  // namespace
 
-frmSeznam::frmSeznam(basSarne& run, Panel* panel)
-    : Form(run, QStringLiteral("frmSeznam")),
+frmSeznam::frmSeznam(basSarne& sarne, Panel* panel)
+    : Form(sarne, QStringLiteral("frmSeznam")),
       panelMode_(panel ? *panel : Panel::Photo),
       keptPanel_(panel),
       lblNadpis(*this, QStringLiteral("lblNadpis")),
@@ -92,9 +95,8 @@ void frmSeznam::connectArrow(int arrow) {
     static constexpr const char* kFaces[] = {"SipkaDolu", "SipkaNahoru", "SipkaNahoruRychle",
                                              "SipkaDoluRychle"};
     static constexpr const char* kWords[] = {"▼", "▲", "▲▲", "▼▼"};
-    static const QString kTips[] = {QStringLiteral("O řádek dolů"), QStringLiteral("O řádek nahoru"),
-                                    QStringLiteral("O půl strany nahoru"),
-                                    QStringLiteral("O půl strany dolů")};
+    static const QString kTips[] = {Texts::tr("O řádek dolů"), Texts::tr("O řádek nahoru"),
+                                    Texts::tr("O půl strany nahoru"), Texts::tr("O půl strany dolů")};
     auto* button = new Button(*this, QStringLiteral("imgSipky(%1)").arg(arrow));
     button->place(seznam::arrow(arrow));
     const Picture face = resources().picture(QLatin1String(kFaces[arrow]));
@@ -138,9 +140,9 @@ void frmSeznam::setFocusOrder() {
 
 void frmSeznam::showButtonsOfSource() {
     const bool help = source_ == Source::Help;
-    const QString what = help                         ? QStringLiteral("Nápověda")
+    const QString what = help                         ? Texts::tr("Nápověda")
                          : source_ == Source::Recipes ? QStringLiteral("Recepty")
-                                                      : QStringLiteral("Rychlé recepty");
+                                                      : Texts::tr("Rychlé recepty");
     lblNadpis.setText(subject_.isEmpty() ? what : what + QStringLiteral(" – ") + subject_);
     setAccessibleName(lblNadpis.text());
     const bool shown[] = {source_ == Source::Recipes, !help, true};
@@ -153,8 +155,8 @@ void frmSeznam::showButtonsOfSource() {
         ImgTlacitko[size_t(index)]->place(seznam::actionPlate(place++));
     }
     lblHint.setText(
-        help ? QStringLiteral("Písmeno najde název, Enter otevře stránku.")
-             : QStringLiteral("Písmeno najde název, mezerník promítá. Tab vybere Recept, Enter ho otevře."));
+        help ? Texts::tr("Písmeno najde název, Enter otevře stránku.")
+             : Texts::tr("Písmeno najde název, mezerník promítá. Tab vybere Recept, Enter ho otevře."));
     imgBtn.setFace(2, help ? kOpenPage : kActions[2]);
     setPanel(panelMode_);
 }

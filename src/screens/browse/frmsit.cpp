@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "core/texts.h"
 #include "core/value.h"
 #include "db/database.h"
 #include "forms/bassarne.h"
@@ -83,7 +84,7 @@ void frmSit::showChoice() {
 bool frmSit::needsCell() {
     if (grid_.isAlive(grid_.cell())) return true;
     grid_.clear();
-    app().ZobrazZpravu(QStringLiteral("Jeden recept musí být vybrán"), kInformationBox);
+    app().ZobrazZpravu(Texts::tr("Jeden recept musí být vybrán"), kInformationBox);
     return false;
 }
 

@@ -16,7 +16,7 @@ namespace sarne {
 class frmSit : public Form {
     Q_OBJECT
   public:
-    explicit frmSit(basSarne& app);
+    explicit frmSit(basSarne& sarne);
 
     /// Opens the whole grid over the current screen.
     void Zobraz();

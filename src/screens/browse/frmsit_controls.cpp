@@ -1,6 +1,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/resources.h"
@@ -14,11 +15,12 @@ namespace {
 
 constexpr int kCellFrame = 48;  // thickness of the frame of the chosen cell, twips
 
-constexpr BarFace kBar[] = {{u"Foto", u"Foto", u"Zobrazí foto"},
-                            barface::kHelp,
-                            {u"Recept", u"Recept", u" Zobraz recept "},
-                            barface::kBack,
-                            barface::kEnd};
+constexpr BarFace kBar[] = {
+    {"Foto", QT_TRANSLATE_NOOP("Texts", "Foto"), QT_TRANSLATE_NOOP("Texts", "Zobrazí foto")},
+    barface::kHelp,
+    {"Recept", QT_TRANSLATE_NOOP("Texts", "Recept"), QT_TRANSLATE_NOOP("Texts", " Zobraz recept ")},
+    barface::kBack,
+    barface::kEnd};
 
 }  // namespace
 
@@ -26,14 +28,14 @@ TextFont frmSit::nameFont() {
     return {QStringLiteral("Times New Roman"), 16, true};
 }
 
-frmSit::frmSit(basSarne& run)
-    : Form(run, QStringLiteral("frmSit")),
+frmSit::frmSit(basSarne& sarne)
+    : Form(sarne, QStringLiteral("frmSit")),
       imgCela(new Button(*this, QStringLiteral("imgCela"))),
       imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar,
                    [this](int index) { index == 0 ? showPhoto() : showRecipe(); }),
       Label1(*this, QStringLiteral("Label1")) {
-    setAccessibleName(QStringLiteral("Zobrazení fotografií"));
-    setWindowTitle(QStringLiteral("Zobrazení fotografií"));
+    setAccessibleName(Texts::tr("Zobrazení fotografií"));
+    setWindowTitle(Texts::tr("Zobrazení fotografií"));
     buildCells();
     buildGroups();
     setFocusOrder();
@@ -60,8 +62,8 @@ void frmSit::buildCells() {
 }
 
 void frmSit::buildGroups() {
-    static const QString kNames[] = {QStringLiteral("Polévky"), QStringLiteral("Teplá jídla"),
-                                     QStringLiteral("Studená jídla"), QStringLiteral("Slavnostní mísy")};
+    static const QString kNames[] = {Texts::tr("Polévky"), Texts::tr("Teplá jídla"),
+                                     Texts::tr("Studená jídla"), Texts::tr("Slavnostní mísy")};
     for (int group = 0; group < kGridGroups; ++group) {
         auto* button = new Button(*this, QStringLiteral("imgSkupina(%1)").arg(group));
         button->place(sit::group(group));
@@ -74,8 +76,8 @@ void frmSit::buildGroups() {
         imgSkupina.push_back(button);
     }
     imgCela->place(sit::kWhole);
-    imgCela->setCaption(QStringLiteral("Všechny"));
-    imgCela->setTip(QStringLiteral("Zobrazí všechny recepty"));
+    imgCela->setCaption(Texts::tr("Všechny"));
+    imgCela->setTip(Texts::tr("Zobrazí všechny recepty"));
     imgCela->setFocusPolicy(Qt::TabFocus);
     connect(imgCela, &Control::clicked, this, [this] { setGroup(PhotoGrid::kNoGroup); });
 }

@@ -1,5 +1,6 @@
 #include "screens/browse/listentries.h"
 
+#include "core/texts.h"
 #include "core/value.h"
 #include "db/database.h"
 #include "db/queries.h"
@@ -53,7 +54,7 @@ std::vector<ListEntry> readEntries(Database& db, const QString& table, const QSt
 }
 
 QString wineText(Database& db, const QString& name, std::int32_t id) {
-    QString text = name + QStringLiteral(" Víno ");
+    QString text = name + Texts::tr(" Víno ");
     Recordset wines = queries::recipeWines(db, id);
     for (; !wines.AtEnd(); wines.MoveNext())
         text += QStringLiteral("\r\n") + wines.field(QStringLiteral("polozka")).toString();

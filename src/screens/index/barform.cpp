@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "core/texts.h"
 #include "forms/colors.h"
 #include "forms/resources.h"
 #include "screens/index/musicswitch.h"
@@ -9,13 +10,16 @@
 namespace sarne {
 namespace {
 
-constexpr BarFace kFaces[BarForm::kBarButtons] = {
-    barface::kPrint, {u"Help", u"Nápověda"}, barface::kBack, barface::kEnd, {u"ZvukOff", u"Hudba"}};
+constexpr BarFace kFaces[BarForm::kBarButtons] = {barface::kPrint,
+                                                  {"Help", QT_TRANSLATE_NOOP("Texts", "Nápověda")},
+                                                  barface::kBack,
+                                                  barface::kEnd,
+                                                  {"ZvukOff", QT_TRANSLATE_NOOP("Texts", "Hudba")}};
 
 }  // namespace
 
-BarForm::BarForm(basSarne& app, const QString& name)
-    : Form(app, name),
+BarForm::BarForm(basSarne& sarne, const QString& name)
+    : Form(sarne, name),
       title_(*this, QStringLiteral("lblTitul")),
       imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int i) { barClicked(i); }) {
     title_.place(kTitle);
@@ -59,7 +63,7 @@ void BarForm::showSound() {
     Button& button = imgBtnHlavni[kSound];
     const bool on = app().SoundFlags[kMusic];
     button.setLatched(!on);
-    button.setTip(on ? QStringLiteral("Vypnout hudbu") : QStringLiteral("Zapnout hudbu"));
+    button.setTip(on ? Texts::tr("Vypnout hudbu") : Texts::tr("Zapnout hudbu"));
 }
 
 void BarForm::barClicked(int button) {

@@ -23,7 +23,7 @@ class BarForm : public Form {
     static constexpr QRect kContent{300, 900, 11400, 6930};
     static constexpr QRect kBar{3300, 7995, 8400, 960};
 
-    BarForm(basSarne& app, const QString& name);
+    BarForm(basSarne& sarne, const QString& name);
 
     void goBack() override;
     void restored() override;

@@ -1,11 +1,12 @@
 #include "screens/index/frmindex.h"
 
+#include "core/texts.h"
 #include "db/database.h"
 #include "forms/bassarne.h"
 
 namespace sarne {
 
-frmIndex::frmIndex(basSarne& app) : TextForm(app, QStringLiteral("frmIndex")), aside_(*this, app) {}
+frmIndex::frmIndex(basSarne& sarne) : TextForm(sarne, QStringLiteral("frmIndex")), aside_(*this, sarne) {}
 
 bool frmIndex::Zobraz(std::int16_t keyword) {
     if (!showKeyword(keyword)) {
@@ -26,7 +27,7 @@ bool frmIndex::showKeyword(int keyword) {
     std::vector<TwipWidget*> stops{&view()};
     for (Button* button : aside_.buttons()) stops.push_back(button);
     setContent(stops);
-    showText(name, keywords.field(QStringLiteral("Text")).toString(), QStringLiteral("Rejstřík hesel"));
+    showText(name, keywords.field(QStringLiteral("Text")).toString(), Texts::tr("Rejstřík hesel"));
     return true;
 }
 

@@ -12,7 +12,7 @@ namespace sarne {
 class frmIndex : public TextForm {
     Q_OBJECT
   public:
-    explicit frmIndex(basSarne& app);
+    explicit frmIndex(basSarne& sarne);
 
     /// Shows keyword \a keyword. False, and the form is gone, when there is none.
     bool Zobraz(std::int16_t keyword);

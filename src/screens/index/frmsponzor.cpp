@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "core/texts.h"
 #include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -45,8 +46,8 @@ void dress(Button& button, const Picture& face, const QString& caption, const QS
 
 }  // namespace
 
-frmSponzor::frmSponzor(basSarne& app)
-    : BarForm(app, QStringLiteral("frmSponzor")),
+frmSponzor::frmSponzor(basSarne& sarne)
+    : BarForm(sarne, QStringLiteral("frmSponzor")),
       hint_(*this, QStringLiteral("lblPopis")),
       position_(*this, QStringLiteral("lblPozice")),
       previous_(*this, QStringLiteral("imgSipky(0)")),
@@ -69,9 +70,9 @@ frmSponzor::frmSponzor(basSarne& app)
 void frmSponzor::makeArrows() {
     const Resources& resources = app().resources();
     dress(previous_, resources.picture(QStringLiteral("SipkaVlevo")), QStringLiteral("◄"),
-          QStringLiteral("Předchozí obraz"));
+          Texts::tr("Předchozí obraz"));
     dress(next_, resources.picture(QStringLiteral("SipkaVpravo")), QStringLiteral("►"),
-          QStringLiteral("Další obraz"));
+          Texts::tr("Další obraz"));
     previous_.place(kPrevious);
     next_.place(kNext);
     connect(&previous_, &Button::clicked, this, [this] { showPicture(at_ - 1); });
@@ -85,7 +86,7 @@ void frmSponzor::makeCard() {
     card_.setRightMargin(kTextStart.x());
     card_.setArrowPictures(resources.picture(QStringLiteral("SipkaNahoru")),
                            resources.picture(QStringLiteral("SipkaDolu")));
-    dress(close_, {}, QStringLiteral("Zavřít"), QStringLiteral("Zavřít text"));
+    dress(close_, {}, Texts::tr("Zavřít"), Texts::tr("Zavřít text"));
     connect(&close_, &Button::clicked, this, &frmSponzor::closeCard);
     connect(&card_, &TextView::linkActivated, this, [this](LinkKey key) { followLink(this->app(), key); });
     connect(&card_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });

@@ -12,7 +12,7 @@ namespace sarne {
 class frmSponzor : public BarForm {
     Q_OBJECT
   public:
-    explicit frmSponzor(basSarne& app);
+    explicit frmSponzor(basSarne& sarne);
 
     /// Shows the pictures of main-screen topic \a topic, first the one whose number is written in \a text, or
     /// the first one where it is empty. False, and the form is gone, when the topic has none.

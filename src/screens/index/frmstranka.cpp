@@ -19,7 +19,7 @@ QString withAdditions(const QString& page, const std::vector<PageAddition>& addi
 
 }  // namespace
 
-frmStranka::frmStranka(basSarne& app) : TextForm(app, QStringLiteral("frmStranka")) {}
+frmStranka::frmStranka(basSarne& sarne) : TextForm(sarne, QStringLiteral("frmStranka")) {}
 
 bool frmStranka::Zobraz(const QString& id, const std::vector<PageAddition>& additions) {
     const QString help = Texts::tr("Nápověda");

@@ -12,7 +12,7 @@ namespace sarne {
 class frmStranka : public TextForm {
     Q_OBJECT
   public:
-    explicit frmStranka(basSarne& app);
+    explicit frmStranka(basSarne& sarne);
 
     /// Shows the page whose id is written in \a id, and behind it \a additions, which need no page. False,
     /// and the form is gone, when there is nothing to show.

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "core/texts.h"
 #include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -23,21 +24,19 @@ constexpr int kArrowSide = 600;
 constexpr QRect kPosition{300, 8145, 2850, 750};
 
 struct Arrow {
-    QStringView picture;
-    QStringView tip;
-    QStringView caption;
+    const char *picture, *tip, *caption;
     int place;  // from the top
 };
 // In the order of the steps: one row down, one up, half a page up, half a page down.
-constexpr Arrow kArrows[4] = {{u"SipkaDolu", u"O řádek níž", u"↓", 2},
-                              {u"SipkaNahoru", u"O řádek výš", u"↑", 1},
-                              {u"SipkaNahoruRychle", u"O půl strany výš", u"⇈", 0},
-                              {u"SipkaDoluRychle", u"O půl strany níž", u"⇊", 3}};
+constexpr Arrow kArrows[4] = {{"SipkaDolu", QT_TRANSLATE_NOOP("Texts", "O řádek níž"), "↓", 2},
+                              {"SipkaNahoru", QT_TRANSLATE_NOOP("Texts", "O řádek výš"), "↑", 1},
+                              {"SipkaNahoruRychle", QT_TRANSLATE_NOOP("Texts", "O půl strany výš"), "⇈", 0},
+                              {"SipkaDoluRychle", QT_TRANSLATE_NOOP("Texts", "O půl strany níž"), "⇊", 3}};
 
 }  // namespace
 
-FrmTabulky::FrmTabulky(basSarne& app)
-    : BarForm(app, QStringLiteral("FrmTabulky")),
+FrmTabulky::FrmTabulky(basSarne& sarne)
+    : BarForm(sarne, QStringLiteral("FrmTabulky")),
       table_(*this, QStringLiteral("picTabulka")),
       note_(*this, QStringLiteral("lblPoznamka")),
       position_(*this, QStringLiteral("lblPozice")) {
@@ -79,7 +78,7 @@ void FrmTabulky::makeLetters() {
         auto* button = new Button(*this, QStringLiteral("lblPismeno(%1)").arg(number));
         button->setFont({QStringLiteral("Arial"), 13, true});
         button->setCaption(letter);
-        button->setTip(QStringLiteral("Hesla od %1").arg(letter));
+        button->setTip(Texts::tr("Hesla od %1").arg(letter));
         connect(button, &Button::clicked, this, [this, letter] { jumpToLetter(letter); });
         letters_.push_back(button);
     }
@@ -88,12 +87,12 @@ void FrmTabulky::makeLetters() {
 void FrmTabulky::makeArrows() {
     for (size_t i = 0; i < arrows_.size(); ++i) {
         auto* arrow = new Button(*this, QStringLiteral("imgSipky(%1)").arg(i));
-        const Picture face = app().resources().picture(kArrows[i].picture.toString());
+        const Picture face = app().resources().picture(QString::fromUtf8(kArrows[i].picture));
         arrow->setFace(face);
         arrow->setFrame(Button::Frame::Raised);
         arrow->setFont({QStringLiteral("Arial"), 16, true});
-        if (face.isNull()) arrow->setCaption(kArrows[i].caption.toString());
-        arrow->setTip(kArrows[i].tip.toString());
+        if (face.isNull()) arrow->setCaption(QString::fromUtf8(kArrows[i].caption));
+        arrow->setTip(Texts::tr(kArrows[i].tip));
         new HoldRepeat(*arrow, [this, i] {
             const int half = table_.halfPage();
             const int steps[] = {1, -1, -half, half};

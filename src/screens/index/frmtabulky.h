@@ -10,7 +10,7 @@ namespace sarne {
 class FrmTabulky : public BarForm {
     Q_OBJECT
   public:
-    explicit FrmTabulky(basSarne& app);
+    explicit FrmTabulky(basSarne& sarne);
 
     /// Shows the table of menu item \a item. False, and the form is gone, when there is none.
     bool Zobraz(std::int16_t item);

@@ -22,8 +22,8 @@ constexpr int kTop = BarForm::kContent.y() + kEdge;
 
 }  // namespace
 
-KeywordAside::KeywordAside(Form& form, basSarne& app)
-    : app_(app),
+KeywordAside::KeywordAside(Form& form, basSarne& sarne)
+    : app_(sarne),
       picture_(*new PictureBox(form, QStringLiteral("picHeslo"))),
       caption_(*new Label(form, QStringLiteral("lblHeslo"))),
       recipesButton_(*new Button(form, QStringLiteral("cmdRecepty"))),

@@ -16,7 +16,7 @@ class basSarne;
 /// have is not shown, and what is below moves up.
 class KeywordAside {
   public:
-    KeywordAside(Form& form, basSarne& app);
+    KeywordAside(Form& form, basSarne& sarne);
 
     /// Shows what there is for the keyword \a name; nothing when the cookbook has nothing.
     void show(int keyword, const QString& name);

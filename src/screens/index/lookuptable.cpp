@@ -1,5 +1,6 @@
 #include "screens/index/lookuptable.h"
 
+#include "core/texts.h"
 #include "db/database.h"
 #include "db/queries.h"
 #include "richtext/plaintext.h"
@@ -19,8 +20,8 @@ QString preview(const QString& text, const QString& name) {
 
 LookupTable keywordIndex(Database& db) {
     LookupTable table;
-    table.title = QStringLiteral("Rejstřík hesel");
-    table.columns = QStringList{QStringLiteral("Heslo"), QStringLiteral("Co o něm kuchařka říká")};
+    table.title = Texts::tr("Rejstřík hesel");
+    table.columns = QStringList{Texts::tr("Heslo"), Texts::tr("Co o něm kuchařka říká")};
     table.layout = LookupTable::Rows::OneLine;
     table.hasLetters = true;
     Recordset keywords = queries::keywords(db);

@@ -7,13 +7,13 @@
 
 namespace sarne {
 
-void switchMusic(basSarne& app) {
-    app.SoundFlags[kMusic] = !app.SoundFlags[kMusic];
+void switchMusic(basSarne& sarne) {
+    sarne.SoundFlags[kMusic] = !sarne.SoundFlags[kMusic];
     std::vector<bool> on;
-    for (const SoundSetting& setting : readSoundSettings(app.Db())) on.push_back(setting.on);
-    if (on.size() > kMusic) on[kMusic] = app.SoundFlags[kMusic];
-    storeSoundSettings(app.Db(), on);
-    applyMusicSwitches(app, app.SoundFlags[kWineSounds]);
+    for (const SoundSetting& setting : readSoundSettings(sarne.Db())) on.push_back(setting.on);
+    if (on.size() > kMusic) on[kMusic] = sarne.SoundFlags[kMusic];
+    storeSoundSettings(sarne.Db(), on);
+    applyMusicSwitches(sarne, sarne.SoundFlags[kWineSounds]);
 }
 
 }  // namespace sarne

@@ -6,7 +6,7 @@ class basSarne;
 
 /// Switches the background music off where it is on, and the other way round, and stores that as the settings
 /// screen does. Music that cannot be opened stays silent.
-void switchMusic(basSarne& app);
+void switchMusic(basSarne& sarne);
 
 }  // namespace sarne
 

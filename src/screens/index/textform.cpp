@@ -21,14 +21,14 @@ constexpr QRect kText{kPaper.x() + kSide, kPaper.y() + kMargin, kPaper.width() -
 
 }  // namespace
 
-TextForm::TextForm(basSarne& app, const QString& name)
-    : BarForm(app, name), view_(*this, QStringLiteral("picText")) {
+TextForm::TextForm(basSarne& sarne, const QString& name)
+    : BarForm(sarne, name), view_(*this, QStringLiteral("picText")) {
     view_.place(kText);
     view_.setSheet(kPaper);
     view_.setRightMargin(kTextStart.x());
     view_.setFocusPolicy(Qt::ClickFocus);
-    view_.setArrowPictures(app.resources().picture(QStringLiteral("SipkaNahoru")),
-                           app.resources().picture(QStringLiteral("SipkaDolu")));
+    view_.setArrowPictures(sarne.resources().picture(QStringLiteral("SipkaNahoru")),
+                           sarne.resources().picture(QStringLiteral("SipkaDolu")));
     connect(&view_, &TextView::linkActivated, this, [this](LinkKey key) { linkActivated(key); });
     connect(&view_, &TextView::linkFocused, this,
             [this](const QString& words) { this->app().HookMessage(words); });

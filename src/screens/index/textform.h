@@ -10,7 +10,7 @@ namespace sarne {
 class TextForm : public BarForm {
     Q_OBJECT
   public:
-    TextForm(basSarne& app, const QString& name);
+    TextForm(basSarne& sarne, const QString& name);
 
   protected:
     /// Shows \a text from its top. The title is \a name, or, where the text begins with that as its own

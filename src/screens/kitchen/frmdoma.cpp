@@ -33,7 +33,8 @@ constexpr int kQuick = 30;  // minutes
 constexpr int kGluten = 1 << 0, kEggs = 1 << 2, kMilk = 1 << 6;
 const QString kKept = QStringLiteral("Doma");
 
-constexpr BarFace kAsideFaces[] = {{u"Nakup", u"Nákupní seznam", u"Nákupní seznam (Shift+F3)"}};
+constexpr BarFace kAsideFaces[] = {{"Nakup", QT_TRANSLATE_NOOP("Texts", "Nákupní seznam"),
+                                    QT_TRANSLATE_NOOP("Texts", "Nákupní seznam (Shift+F3)")}};
 constexpr BarFace kFaces[] = {barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
 
 const char* const kActionTexts[] = {
@@ -54,8 +55,8 @@ void toggle(std::vector<int>& ids, int id) {
 
 }  // namespace
 
-frmDoma::frmDoma(basSarne& run, UserFile& file)
-    : Form(run, QStringLiteral("frmDoma")),
+frmDoma::frmDoma(basSarne& sarne, UserFile& file)
+    : Form(sarne, QStringLiteral("frmDoma")),
       file_(file),
       title_(*this, QStringLiteral("lblTitul")),
       state_(*this, QStringLiteral("lblStav")),

@@ -17,7 +17,7 @@ class frmDoma : public Form {
     Q_OBJECT
   public:
     /// Keeps in \a file, which outlives the screen, what is at home.
-    frmDoma(basSarne& app, UserFile& file);
+    frmDoma(basSarne& sarne, UserFile& file);
 
     /// False, and the form is gone, for a book that does not know what the search needs.
     bool Zobraz();

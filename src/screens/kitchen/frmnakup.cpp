@@ -34,7 +34,8 @@ constexpr QRect kBar{5220, 7965, 6540, 930};
 constexpr int kActionTop = 3780, kActionHeight = 540, kActionStep = 576;
 constexpr double kRowPoints = 14;
 
-constexpr BarFace kAsideFaces[] = {{u"Doma", u"Co mám doma", u"Recepty podle toho, co je doma (F5)"}};
+constexpr BarFace kAsideFaces[] = {{"Doma", QT_TRANSLATE_NOOP("Texts", "Co mám doma"),
+                                    QT_TRANSLATE_NOOP("Texts", "Recepty podle toho, co je doma (F5)")}};
 constexpr BarFace kFaces[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd,
                               barface::kMusic};
 
@@ -53,8 +54,8 @@ constexpr struct {
 
 }  // namespace
 
-frmNakup::frmNakup(basSarne& run, UserFile& file, AskNumber askNumber)
-    : Form(run, QStringLiteral("frmNakup")),
+frmNakup::frmNakup(basSarne& sarne, UserFile& file, AskNumber askNumber)
+    : Form(sarne, QStringLiteral("frmNakup")),
       file_(file),
       askNumber_(std::move(askNumber)),
       title_(*this, QStringLiteral("lblTitul")),

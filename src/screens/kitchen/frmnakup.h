@@ -19,7 +19,7 @@ class frmNakup : public Form {
     /// Keeps the list in \a file, which outlives the screen. \a askNumber asks for an amount; 0 when
     /// the user gives none.
     using AskNumber = std::function<double(const QString& prompt)>;
-    frmNakup(basSarne& app, UserFile& file, AskNumber askNumber);
+    frmNakup(basSarne& sarne, UserFile& file, AskNumber askNumber);
 
     void Zobraz();
     const ShoppingList& list() const { return list_; }

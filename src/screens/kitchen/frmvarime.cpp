@@ -58,8 +58,8 @@ QString unbroken(QString text) {
 
 }  // namespace
 
-frmVarime::frmVarime(basSarne& run, UserFile& file, StartTimer startTimer)
-    : Form(run, QStringLiteral("frmVarime")),
+frmVarime::frmVarime(basSarne& sarne, UserFile& file, StartTimer startTimer)
+    : Form(sarne, QStringLiteral("frmVarime")),
       file_(file),
       startTimer_(std::move(startTimer)),
       title_(*this, QStringLiteral("lblNazev")),

@@ -24,7 +24,7 @@ class frmVarime : public Form {
   public:
     using StartTimer = std::function<void(const QString& name, int seconds)>;
     /// Keeps in \a file, which outlives the screen, what was cooked.
-    frmVarime(basSarne& app, UserFile& file, StartTimer startTimer);
+    frmVarime(basSarne& sarne, UserFile& file, StartTimer startTimer);
 
     /// Opens the screen on what to get ready. False, and the form is gone, for a recipe without steps.
     bool Zobraz(std::int16_t id, const Serving& serving);

@@ -97,8 +97,8 @@ class KitchenPlates::Plate : public TwipWidget {
     bool rings_ = false;
 };
 
-KitchenPlates::KitchenPlates(basSarne& app, KitchenTimers& timers)
-    : app_(app), timers_(timers), clock_(this), sayingTime_(this) {
+KitchenPlates::KitchenPlates(basSarne& sarne, KitchenTimers& timers)
+    : app_(sarne), timers_(timers), clock_(this), sayingTime_(this) {
     clock_.setInterval(kLook);
     connect(&clock_, &Timer::tick, this, &KitchenPlates::look);
     sayingTime_.setInterval(kSayingTime);

@@ -17,8 +17,8 @@ class basSarne;
 class KitchenPlates : public QObject {
     Q_OBJECT
   public:
-    /// Shows \a timers, which outlive it, on the stage of \a app.
-    KitchenPlates(basSarne& app, KitchenTimers& timers);
+    /// Shows \a timers, which outlive it, on the stage of \a sarne.
+    KitchenPlates(basSarne& sarne, KitchenTimers& timers);
     ~KitchenPlates() override;
 
     /// Starts a timer and shows it.

@@ -21,7 +21,7 @@ class frmMenu;
 class frmHlavni : public Form {
     Q_OBJECT
   public:
-    explicit frmHlavni(basSarne& app);
+    explicit frmHlavni(basSarne& sarne);
 
     /// Shows the screen, loads the menu and starts the music. Called once.
     void Zobraz();

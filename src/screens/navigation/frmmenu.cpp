@@ -51,7 +51,7 @@ void frmMenu::setUp() {
     lblNadpis.setColor(colors::kCopper.lighter(125));
     lblNadpis.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     Text1.setFont(kItemFont);
-    Text1.setAccessibleName(QStringLiteral("Začátek názvu suroviny"));
+    Text1.setAccessibleName(Texts::tr("Začátek názvu suroviny"));
     Text1.hide();
     imgHledat.setTip(Texts::tr("Hledat"));
     imgHledat.hide();

@@ -21,7 +21,7 @@ class frmMenu : public Form {
     Q_OBJECT
   public:
     /// The first level. \a closed is called when the whole tree closes without an action.
-    frmMenu(basSarne& app, std::function<void()> closed);
+    frmMenu(basSarne& sarne, std::function<void()> closed);
 
     /// Shows the level as it is.
     void Zobraz();

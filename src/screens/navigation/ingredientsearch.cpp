@@ -9,7 +9,9 @@
 namespace sarne {
 namespace {
 
-const QString kTooMany = QStringLiteral("Příliš mnoho nalezených surovin");
+QString tooMany() {
+    return Texts::tr("Příliš mnoho nalezených surovin");
+}
 
 void append(Recordset& menu, const QString& id, const QString& label, const QString& target) {
     menu.AddNew();
@@ -36,9 +38,9 @@ void writeResults(Database& db, const QString& text) {
     const qint64 count = found.RecordCount();
     const QString message = QStringLiteral("00"), nowhere = QStringLiteral("F");
     if (count > kMaxFoundIngredients)
-        append(menu, message, kTooMany, nowhere);
+        append(menu, message, tooMany(), nowhere);
     else if (count == 0)
-        append(menu, message, QStringLiteral("Nenalezena žádná surovina"), nowhere);
+        append(menu, message, Texts::tr("Nenalezena žádná surovina"), nowhere);
     else
         appendFound(menu, found);
 }
@@ -57,7 +59,7 @@ bool searchIngredients(Database& db, const QString& text) {
 
 QString searchHint(const MenuLevel& level) {
     if (!level.isSearchResult() || level.items.size() != 1 || level.items[0].isSelectable()) return {};
-    if (level.items[0].label == kTooMany) return Texts::tr("Připište další písmena názvu.");
+    if (level.items[0].label == tooMany()) return Texts::tr("Připište další písmena názvu.");
     return Texts::tr("Pište s háčky a čárkami; stačí začátek názvu.");
 }
 

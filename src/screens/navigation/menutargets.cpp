@@ -68,11 +68,11 @@ QString subjectOf(Database& db, int item, int level) {
     return label == u"Recepty" || label == u"Rychlé recepty" ? menu.heading : label;
 }
 
-void openRecipeList(basSarne& app, int item, int level, const QString& ids) {
+void openRecipeList(basSarne& sarne, int item, int level, const QString& ids) {
     if (ids.isEmpty()) return;  // an empty list would mean the whole table
     const bool first = QString::number(item).endsWith(u'1');
     const bool recipes = kindOfLevel(level) == TopicKind::lists || first;
-    app.screens().showList(ids, recipes ? kRecipes : kQuickRecipes, subjectOf(app.Db(), item, level));
+    sarne.screens().showList(ids, recipes ? kRecipes : kQuickRecipes, subjectOf(sarne.Db(), item, level));
 }
 
 /// "H81" in a menu row leads to keyword 81.
@@ -81,13 +81,13 @@ void openKeyword(Screens& screens, const QString& number) {
     if (keyword > 0) screens.showIndex(keyword);
 }
 
-void openTarget(basSarne& app, std::int16_t item, std::int16_t level, const QString& text) {
-    Screens& screens = app.screens();
+void openTarget(basSarne& sarne, std::int16_t item, std::int16_t level, const QString& text) {
+    Screens& screens = sarne.screens();
     const TopicKind kind = kindOfLevel(level);
     switch (kind) {
         case TopicKind::results:
-            if (const QString ids = recipesWithFoundIngredient(app.Db(), item); !ids.isEmpty())
-                screens.showList(ids, kRecipes, subjectOf(app.Db(), item, level));
+            if (const QString ids = recipesWithFoundIngredient(sarne.Db(), item); !ids.isEmpty())
+                screens.showList(ids, kRecipes, subjectOf(sarne.Db(), item, level));
             break;
         case TopicKind::gallery:
             screens.showSponsor(level, QString());
@@ -114,17 +114,17 @@ void openTarget(basSarne& app, std::int16_t item, std::int16_t level, const QStr
             if (text.startsWith(u'H'))
                 openKeyword(screens, text.mid(1));
             else
-                openRecipeList(app, item, level, text);
+                openRecipeList(sarne, item, level, text);
     }
 }
 
 }  // namespace
 
-void OpenMenuTarget(basSarne& app, std::int16_t item, std::int16_t level, const QString& text) {
-    hideMenus(app.stage());
+void OpenMenuTarget(basSarne& sarne, std::int16_t item, std::int16_t level, const QString& text) {
+    hideMenus(sarne.stage());
     const Hourglass hourglass;
-    openTarget(app, item, level, text);
-    app.screens().returnToMain();
+    openTarget(sarne, item, level, text);
+    sarne.screens().returnToMain();
 }
 
 }  // namespace sarne

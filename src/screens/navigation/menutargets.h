@@ -12,7 +12,7 @@ class basSarne;
 /// \a item is the item's position in its level, \a level the number of the level's code, \a text what the
 /// item leads to: a list of ids, or a number. The menu is hidden first; afterwards the main screen is idle
 /// again.
-void OpenMenuTarget(basSarne& app, std::int16_t item, std::int16_t level, const QString& text);
+void OpenMenuTarget(basSarne& sarne, std::int16_t item, std::int16_t level, const QString& text);
 
 }  // namespace sarne
 

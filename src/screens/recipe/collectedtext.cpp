@@ -1,5 +1,6 @@
 #include "screens/recipe/collectedtext.h"
 
+#include "core/texts.h"
 #include "db/companions.h"
 #include "richtext/plaintext.h"
 
@@ -23,13 +24,13 @@ QString textSections(const Recordset& recipe) {
         all += asParagraph(wordsOf(recipe.field(QString::fromLatin1(field)).toString()));
     QString note = recipe.field(QStringLiteral("Vlastni")).toString();
     if (note.isEmpty()) return all;
-    return all + asParagraph(QStringLiteral("Vlastní poznámka: ") + note.replace(u'\n', kLineEnd));
+    return all + asParagraph(Texts::tr("Vlastní poznámka: ") + note.replace(u'\n', kLineEnd));
 }
 
 QString toolsLine(Database& db, int recipe) {
     const QStringList tools = recipeTools(db, recipe);
     if (tools.isEmpty()) return {};
-    return kLineEnd + QStringLiteral("Pomůcky ") + tools.join(QStringLiteral(", "));
+    return kLineEnd + Texts::tr("Pomůcky ") + tools.join(QStringLiteral(", "));
 }
 
 QString linkDocuments(Database& db, int recipe) {
@@ -37,7 +38,7 @@ QString linkDocuments(Database& db, int recipe) {
     for (const RecipeLink& link : recipeLinks(db, recipe)) {
         const auto document = linkDocument(db, link.id);
         if (!document) continue;
-        all += kLineEnd + QStringLiteral("Pomocný recept: ") + document->title + wordsOf(document->text);
+        all += kLineEnd + Texts::tr("Pomocný recept: ") + document->title + wordsOf(document->text);
     }
     return all;
 }

@@ -27,8 +27,10 @@ constexpr int kLongestTitle = 400;  // characters: more than the header holds in
 
 constexpr BarFace kBar[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
 
-constexpr BarFace kKitchen[] = {{u"Varime", u"Vaříme", u"Vaříme krok za krokem (F2)"},
-                                {u"Nakup", u"Na seznam", u"Dát suroviny na nákupní seznam (F3)"}};
+constexpr BarFace kKitchen[] = {{"Varime", QT_TRANSLATE_NOOP("Texts", "Vaříme"),
+                                 QT_TRANSLATE_NOOP("Texts", "Vaříme krok za krokem (F2)")},
+                                {"Nakup", QT_TRANSLATE_NOOP("Texts", "Na seznam"),
+                                 QT_TRANSLATE_NOOP("Texts", "Dát suroviny na nákupní seznam (F3)")}};
 enum KitchenButton { kCook, kBuy };
 
 std::vector<BarFace> sectionFaces() {
@@ -39,16 +41,16 @@ std::vector<BarFace> sectionFaces() {
 
 }  // namespace
 
-frmRecept::frmRecept(basSarne& run, Serving& lookedAt, AskNumber ask)
-    : Form(run, QStringLiteral("frmRecept")),
+frmRecept::frmRecept(basSarne& sarne, Serving& lookedAt, AskNumber ask)
+    : Form(sarne, QStringLiteral("frmRecept")),
       title_(new Label(*this, QStringLiteral("lblNazev"))),
       imgBtn(*this, QStringLiteral("imgBtn"), sectionFaces(), [this](int index) { openSection(index); }),
       imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int) { print(); }),
       imgKuchyne(*this, QStringLiteral("imgKuchyne"), kKitchen, [this](int index) { kitchenClick(index); }),
       view_(new TextView(*this, QStringLiteral("picRecept"))),
       picture_(new PictureBox(*this, QStringLiteral("picVedle"))),
-      duck_(run.music()) {
-    if (!ask) ask = [&run](const QString& prompt) { return askNumber(run, prompt); };
+      duck_(sarne.music()) {
+    if (!ask) ask = [&sarne](const QString& prompt) { return askNumber(sarne, prompt); };
     recipe_.units = lookedAt.units;
     title_->place(recipelayout::kTitle);
     title_->setAlignment(Qt::AlignCenter);

@@ -19,7 +19,7 @@ class frmRecept : public Form {
     /// Shows recipes in the units of \a lookedAt, and keeps there how a recipe was looked at last; it must
     /// outlive the screen. \a ask asks the user for a number of portions; by default the program's own dialog
     /// does.
-    frmRecept(basSarne& app, Serving& lookedAt, AskNumber ask = {});
+    frmRecept(basSarne& sarne, Serving& lookedAt, AskNumber ask = {});
 
     /// Opens the screen on the recipe \a id, its photo first, and plays its name. An id that does not exist
     /// shows a recipe without texts.

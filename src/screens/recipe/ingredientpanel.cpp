@@ -66,7 +66,7 @@ Button& IngredientPanel::addButton(const QString& name, const QRect& place) {
 
 void IngredientPanel::recipeChanged() {
     position_.reset();
-    knowsFish_ = mainFish(room_.app.Db(), room_.recipe.id).has_value();
+    knowsFish_ = mainFish(room_.sarne.Db(), room_.recipe.id).has_value();
     for (size_t at = 0; at < cutlery_.size(); ++at) showCutlery(cutleryIndex(at));
     showUnits();
     showPortions();
@@ -91,8 +91,8 @@ void IngredientPanel::draw() {
     room_.lookedAt = recipe.serving();
     TextView& view = room_.view;
     view.setFont(kListFont);
-    const auto lines = ingredientLines(readIngredients(room_.app.Db(), recipe.id), recipe.units,
-                                       recipe.portions.quantities(room_.app.Locale));
+    const auto lines = ingredientLines(readIngredients(room_.sarne.Db(), recipe.id), recipe.units,
+                                       recipe.portions.quantities(room_.sarne.Locale));
     const ListArea area{view.scaleWidth(), view.scaleHeight(), view.textHeight(QStringLiteral("T"))};
     const auto measure = [this](QStringView text) { return lineWidth(text); };
     const auto placed = placeInColumns(lines, area, measure);
@@ -121,7 +121,7 @@ int IngredientPanel::lineWidth(QStringView line) {
 
 void IngredientPanel::showCutlery(int index) {
     Button& button = *cutlery_[size_t(index / kCutleryStep - 1)];
-    const Picture face = room_.app.resources().picture(QStringLiteral("Pribor%1").arg(index));
+    const Picture face = room_.sarne.resources().picture(QStringLiteral("Pribor%1").arg(index));
     button.setFace(face);
     if (face.isNull()) button.setCaption(cutleryCaption(index));
     button.setTip(PanelPosition::hint(index, room_.recipe.units));
@@ -134,29 +134,29 @@ void IngredientPanel::showUnits() {
     const bool weights = room_.recipe.units == UnitSystem::Weights;
     const auto show = [this](Button& button, bool weight) {
         const Picture face =
-            room_.app.resources().picture(weight ? QStringLiteral("zavazi") : QStringLiteral("lzice"));
+            room_.sarne.resources().picture(weight ? QStringLiteral("zavazi") : QStringLiteral("lzice"));
         button.place(weight ? recipelayout::kWeights : recipelayout::kSpoons);
         button.setFace(face);
-        if (face.isNull()) button.setCaption(weight ? QStringLiteral("g") : QStringLiteral("lžíce"));
+        if (face.isNull()) button.setCaption(weight ? QStringLiteral("g") : Texts::tr("lžíce"));
     };
     show(*toggle_, !weights);
     show(*current_, weights);
     toggle_->setTip(PanelPosition::hint(PanelPosition::kToggle, room_.recipe.units));
-    current_->setTip(weights ? QStringLiteral("Množství v gramech") : QStringLiteral("Množství na lžíce"));
+    current_->setTip(weights ? Texts::tr("Množství v gramech") : Texts::tr("Množství na lžíce"));
 }
 
 void IngredientPanel::showPortions() {
     const Serving serving = room_.recipe.serving();
     const QString units =
-        serving.units == UnitSystem::Weights ? QStringLiteral("v gramech") : QStringLiteral("na lžíce");
-    portionText_->setText(numberText(serving.portions, room_.app.Locale) + u' ' +
+        serving.units == UnitSystem::Weights ? Texts::tr("v gramech") : Texts::tr("na lžíce");
+    portionText_->setText(numberText(serving.portions, room_.sarne.Locale) + u' ' +
                           portionWord(serving.portions) + u'\n' + units);
 }
 
 /// False when the user gives no number; then everything stays as it was.
 bool IngredientPanel::askPortions() {
     const QPointer<Form> alive(&room_.form);
-    const double number = room_.askNumber(QStringLiteral("Zadejte počet porcí:"));
+    const double number = room_.askNumber(Texts::tr("Zadejte počet porcí:"));
     if (!alive || number <= 0) return false;
     room_.recipe.portions.setCustom(number);
     return true;
@@ -184,10 +184,10 @@ void IngredientPanel::usePortions(int index) {
 }
 
 void IngredientPanel::askFish() {
-    const auto fish = mainFish(room_.app.Db(), room_.recipe.id);
+    const auto fish = mainFish(room_.sarne.Db(), room_.recipe.id);
     if (!fish) return;
     const QPointer<Form> alive(&room_.form);
-    const QString amount = numberText(fish->grams, room_.app.Locale);
+    const QString amount = numberText(fish->grams, room_.sarne.Locale);
     const double grams = room_.askNumber(
         Texts::tr("Kolik gramů ryby máte?\r\n%1: recept počítá %2 g na %3 %4.")
             .arg(fish->name, amount, QString::number(fish->portions), portionWord(fish->portions)));
@@ -196,14 +196,14 @@ void IngredientPanel::askFish() {
                                  "Je to váha celé nekuchané ryby?\r\n"
                                  "Z celé ryby zbude na tento recept asi %1 %.")
                                  .arg(qRound(fish->wholeShare * 100));
-    const bool whole = fish->isCut() && room_.app.ZobrazZpravu(question, kQuestionBox) == kAnswerYes;
+    const bool whole = fish->isCut() && room_.sarne.ZobrazZpravu(question, kQuestionBox) == kAnswerYes;
     if (!alive) return;
     const double portions =
         fish->portionsFor(grams, whole ? MainFish::Bought::Whole : MainFish::Bought::AsInTheList);
-    if (portions <= 0) return room_.app.Beep();
+    if (portions <= 0) return room_.sarne.Beep();
     room_.recipe.portions.setCustom(portions);
     usePortions(Portions::kAnyNumber);
-    room_.app.HookMessage(portionText_->text());
+    room_.sarne.HookMessage(portionText_->text());
 }
 
 void IngredientPanel::unitToggle() {
@@ -213,8 +213,8 @@ void IngredientPanel::unitToggle() {
     showUnits();
     showPortions();
     redraw();
-    room_.app.HookMessage(units == UnitSystem::Weights ? QStringLiteral("Přepočteno na gramy")
-                                                       : QStringLiteral("Přepočteno na lžíce"));
+    room_.sarne.HookMessage(units == UnitSystem::Weights ? Texts::tr("Přepočteno na gramy")
+                                                         : Texts::tr("Přepočteno na lžíce"));
 }
 
 bool IngredientPanel::step(bool sideways, int direction) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/form.h"
@@ -15,7 +16,7 @@ using namespace recipelayout;
 namespace {
 
 QString noneText() {
-    return QStringLiteral("K tomuto receptu není přiřazen žádný odkaz");
+    return Texts::tr("K tomuto receptu není přiřazen žádný odkaz");
 }
 
 }  // namespace
@@ -32,11 +33,11 @@ LinkPanel::LinkPanel(const SectionRoom& room)
 void LinkPanel::setArrow(Button& arrow, int rows) {
     const bool up = rows < 0;
     const Picture face =
-        room_.app.resources().picture(up ? QStringLiteral("SipkaNahoru") : QStringLiteral("SipkaDolu"));
+        room_.sarne.resources().picture(up ? QStringLiteral("SipkaNahoru") : QStringLiteral("SipkaDolu"));
     arrow.place(optionArrow(up ? 0 : 1));
     arrow.setFace(face);
     if (face.isNull()) arrow.setCaption(up ? QStringLiteral("▲") : QStringLiteral("▼"));
-    arrow.setTip(up ? QStringLiteral("Předchozí odkazy") : QStringLiteral("Další odkazy"));
+    arrow.setTip(up ? Texts::tr("Předchozí odkazy") : Texts::tr("Další odkazy"));
     if (face.isNull()) arrow.setGround(colors::kTeal);
     arrow.setFocusPolicy(Qt::NoFocus);
     QObject::connect(&arrow, &Button::clicked, &room_.form, [this, rows] { scrollRows(rows); });
@@ -45,15 +46,15 @@ void LinkPanel::setArrow(Button& arrow, int rows) {
 void LinkPanel::recipeChanged() {
     for (OptionButton* option : options_) delete option;
     options_.clear();
-    links_ = recipeLinks(room_.app.Db(), room_.recipe.id);
+    links_ = recipeLinks(room_.sarne.Db(), room_.recipe.id);
     chosen_ = firstRow_ = 0;
     for (size_t at = 0; at < links_.size(); ++at) {
         auto* option = new OptionButton(room_.form, QStringLiteral("optOdkaz(%1)").arg(at));
         option->setCaption(links_[at].title);
         option->setToolTip(links_[at].title);
         option->setFont({QStringLiteral("Times New Roman"), 12});
-        option->setMarkPictures(room_.app.resources().picture(QStringLiteral("VolbaAno")),
-                                room_.app.resources().picture(QStringLiteral("VolbaNe")));
+        option->setMarkPictures(room_.sarne.resources().picture(QStringLiteral("VolbaAno")),
+                                room_.sarne.resources().picture(QStringLiteral("VolbaNe")));
         QObject::connect(option, &Control::clicked, &room_.form,
                          [this, at] { optionClick(static_cast<int>(at)); });
         options_.push_back(option);
@@ -101,7 +102,7 @@ QString LinkPanel::nothingHere() const {
 }
 
 void LinkPanel::draw() {
-    const auto text = links_.empty() ? std::nullopt : linkText(room_.app.Db(), links_[size_t(chosen_)].id);
+    const auto text = links_.empty() ? std::nullopt : linkText(room_.sarne.Db(), links_[size_t(chosen_)].id);
     if (text) {
         room_.view.drawRichText(*text);
     } else {

@@ -2,6 +2,7 @@
 
 #include <QPlainTextEdit>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/messagebox.h"
 
@@ -14,14 +15,14 @@ constexpr int kNoAnswer = 0;
 
 NotePanel::NotePanel(const SectionRoom& room)
     : RecipeSection(room),
-      note_(room_.recipe.row, room_.app.notes()),
+      note_(room_.recipe.row, room_.sarne.notes()),
       editor_(new NoteEdit(room.form, QStringLiteral("RtfPozn"))) {
     editor_->place(recipelayout::kNote);
     for (QWidget* named : {static_cast<QWidget*>(editor_), static_cast<QWidget*>(&editor_->editor())})
-        named->setAccessibleName(QStringLiteral("Vlastní poznámka k receptu"));
+        named->setAccessibleName(Texts::tr("Vlastní poznámka k receptu"));
     editor_->setFont({QStringLiteral("Times New Roman"), 13});
     QObject::connect(editor_, &NoteEdit::edited, &room.form, [this] { note_.changed(); });
-    const QString captions[] = {QStringLiteral("Uložit a zavřít"), QStringLiteral("Zavřít bez uložení")};
+    const QString captions[] = {Texts::tr("Uložit a zavřít"), Texts::tr("Zavřít bez uložení")};
     for (int index = 0; index < 2; ++index) {
         auto* button = new Button(room.form, QStringLiteral("cmdUloz(%1)").arg(index));
         button->place(recipelayout::noteButton(index));
@@ -65,8 +66,8 @@ void NotePanel::closeByButton(OwnNote::Close how) {
 }
 
 int NotePanel::ask() {
-    return room_.app.AskOrLeave(QStringLiteral("Poznámka byla změněna. Chcete tyto změny uložit?"),
-                                kQuestionBox);
+    return room_.sarne.AskOrLeave(Texts::tr("Poznámka byla změněna. Chcete tyto změny uložit?"),
+                                  kQuestionBox);
 }
 
 bool NotePanel::leave() {

@@ -31,7 +31,7 @@ using AskNumber = std::function<double(const QString& prompt)>;
 /// What a section works with. All of it outlives the section.
 struct SectionRoom {
     Form& form;
-    basSarne& app;
+    basSarne& sarne;
     TextView& view;  ///< the drawing surface
     PictureBox&
         picture;  ///< a picture beside a text that leaves room for it; hidden until a section shows it

@@ -23,14 +23,15 @@ Made introduction(const SectionRoom& room) {
     return std::make_unique<TextSection>(room, TextSection::Fields{"Uvod", "Prezentace", "Poznamka"});
 }
 
-constexpr SectionKind kSections[] = {{{u"Foto", {}, u"Foto"}, make<PhotoSection>},
-                                     {{u"Recept", {}, u"Recept"}, method},
-                                     {{u"Uvod", {}, u"Úvod"}, introduction},
-                                     {{u"Odkazy", {}, u"Odkazy"}, make<LinkPanel>},
-                                     {{u"Vino", {}, u"Víno"}, make<WineSection>},
-                                     {{u"Suroviny", {}, u"Suroviny"}, make<IngredientPanel>},
-                                     {{u"Pomucky", {}, u"Pomůcky"}, make<ToolSection>},
-                                     {{u"Vlastni", {}, u"Vlastní poznámka"}, make<NotePanel>}};
+constexpr SectionKind kSections[] = {
+    {{"Foto", nullptr, QT_TRANSLATE_NOOP("Texts", "Foto")}, make<PhotoSection>},
+    {{"Recept", nullptr, QT_TRANSLATE_NOOP("Texts", "Recept")}, method},
+    {{"Uvod", nullptr, QT_TRANSLATE_NOOP("Texts", "Úvod")}, introduction},
+    {{"Odkazy", nullptr, QT_TRANSLATE_NOOP("Texts", "Odkazy")}, make<LinkPanel>},
+    {{"Vino", nullptr, QT_TRANSLATE_NOOP("Texts", "Víno")}, make<WineSection>},
+    {{"Suroviny", nullptr, QT_TRANSLATE_NOOP("Texts", "Suroviny")}, make<IngredientPanel>},
+    {{"Pomucky", nullptr, QT_TRANSLATE_NOOP("Texts", "Pomůcky")}, make<ToolSection>},
+    {{"Vlastni", nullptr, QT_TRANSLATE_NOOP("Texts", "Vlastní poznámka")}, make<NotePanel>}};
 static_assert(std::size(kSections) == recipelayout::kSectionCount, "a section without a place");
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <memory>
 #include <span>
 
+#include "core/texts.h"
 #include "forms/buttonbar.h"
 #include "screens/recipe/recipesection.h"
 
@@ -13,7 +14,7 @@ struct SectionKind {
     BarFace face;  ///< of its button; the tip is what the section is called
     std::unique_ptr<RecipeSection> (*make)(const SectionRoom& room);
 
-    QString title() const { return face.tip.toString(); }
+    QString title() const { return Texts::tr(face.tip); }
 };
 
 std::span<const SectionKind> sectionKinds();

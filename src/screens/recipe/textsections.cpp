@@ -2,6 +2,7 @@
 
 #include <QTimer>
 
+#include "core/texts.h"
 #include "db/companions.h"
 #include "forms/bassarne.h"
 #include "forms/screens.h"
@@ -16,7 +17,7 @@ constexpr int kBetweenTexts = 200;  // twips between the texts of one section
 void PhotoSection::draw() {
     if (shown_) return show();
     room_.view.setFont({QStringLiteral("Times New Roman"), 12});
-    room_.view.print(QStringLiteral("Moment prosím, načítám foto ..."));
+    room_.view.print(Texts::tr("Moment prosím, načítám foto ..."));
     // Reading a large picture takes a moment, so the text is painted before.
     QTimer::singleShot(0, &room_.form, [this] {
         if (!visible_) return;
@@ -39,7 +40,7 @@ void PhotoSection::viewClicked() {
     if (!opensView()) return;
     PhotoRequest request;
     request.photoIds = {room_.recipe.id};
-    room_.app.screens().showPhotos(request);
+    room_.sarne.screens().showPhotos(request);
 }
 
 void TextSection::draw() {
@@ -53,7 +54,7 @@ void TextSection::draw() {
 }
 
 void WineSection::draw() {
-    const Picture wine = room_.app.mediaPicture(QStringLiteral("foto\\vino256.bmp"));
+    const Picture wine = room_.sarne.mediaPicture(QStringLiteral("foto\\vino256.bmp"));
     const bool hasText = !room_.recipe.field("vino").trimmed().isEmpty();
     if (!wine.isNull() && hasText) room_.view.place(recipelayout::kHalfView);
     TextSection::draw();
@@ -65,7 +66,7 @@ void WineSection::draw() {
 }
 
 void ToolSection::draw() {
-    const QStringList tools = recipeTools(room_.app.Db(), room_.recipe.id);
+    const QStringList tools = recipeTools(room_.sarne.Db(), room_.recipe.id);
     if (tools.isEmpty()) return;
     TextView& view = room_.view;
     view.setFont({QStringLiteral("Arial"), 12});
