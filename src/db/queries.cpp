@@ -1,5 +1,6 @@
 #include "db/queries.h"
 
+#include "core/topics.h"
 #include "db/database.h"
 
 namespace sarne::queries {
@@ -15,6 +16,18 @@ Recordset open(Database& db, const QString& before, int number, const QString& a
 Recordset menuRows(Database& db, const QString& pattern) {
     return db.OpenQuery(QStringLiteral("SELECT * FROM menu WHERE ID LIKE '") + pattern +
                         QStringLiteral("' ORDER BY Id"));
+}
+
+QString filmTitle(Database& db, int number) {
+    for (int topic = 0; topic < kTopics; ++topic) {
+        if (topicKind(topic) != TopicKind::videos) continue;
+        for (Recordset films = menuRows(db, QString::number(topic) + u'?'); !films.AtEnd();
+             films.MoveNext()) {
+            if (films.field(QStringLiteral("Odkazy")).toString() == QString::number(number))
+                return films.field(QStringLiteral("Label")).toString();
+        }
+    }
+    return {};
 }
 
 bool clearFoundIngredients(Database& db) {

@@ -13,6 +13,8 @@ namespace queries {
 
 /// The rows of `Menu` whose codes are like \a pattern, in the order of the codes.
 Recordset menuRows(Database& db, const QString& pattern);
+/// What the menu item reads that plays the film \a number; empty when there is none.
+QString filmTitle(Database& db, int number);
 /// Clears topic "0" of `Menu`, the results of the ingredient search.
 bool clearFoundIngredients(Database& db);
 /// The ingredients whose names begin with \a text, which goes into the pattern as it was typed.

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "core/texts.h"
+#include "db/queries.h"
 #include "forms/backgroundmusic.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -15,16 +16,21 @@
 namespace sarne {
 namespace {
 
-const TextFont kStatusFont{QStringLiteral("Arial"), 12};
+const TextFont kStatusFont{QStringLiteral("Arial"), 10};
+const TextFont kTimeFont{QStringLiteral("Arial"), 12};
+const TextFont kTitleFont{QStringLiteral("Arial"), 14, true};
 
-constexpr QRect kArea(1400, 450, 9200, 6900);
+// The film, and below it, as wide, a plate: title and time, the bar, the state and the buttons.
+constexpr QRect kArea(1400, 105, 9200, 6900);
 constexpr QRect kWholeScreen(0, 0, 12000, 9000);
-constexpr QRect kBarPlate(1200, 7365, 10200, 1500);
-constexpr QRect kStatus(1400, 7845, 3300, 960);
-constexpr QRect kTime(9300, 7440, 1300, 330);
-constexpr QRect kBar(1400, 7440, 7800, 330);
-constexpr QRect kFirstButton(4740, 7830, 940, 975);
-constexpr QRect kBackButton(10420, 7830, 900, 975);
+constexpr QRect kBarPlate(1400, 7065, 9200, 1860);
+constexpr QRect kTitle(1600, 7125, 7300, 390);
+constexpr QRect kTime(9000, 7125, 1400, 390);
+constexpr QRect kBar(1600, 7530, 8800, 330);
+constexpr QRect kStatus(1600, 7905, 1560, 960);
+constexpr QRect kFirstButton(3180, 7905, 940, 975);
+constexpr QRect kBackButton(9500, 7905, 900, 975);
+constexpr int kLightsOut = 215;  // how dark the room is around a film on the whole screen, of 255
 
 constexpr int kStartDelay = 10;     // milliseconds: the form is on the screen before the file is opened
 constexpr int kProgressStep = 200;  // milliseconds
@@ -53,6 +59,7 @@ frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
     : Form(sarne, QStringLiteral("frmVideo")),
       MMControlVideo(std::move(player)),
       area_(*this, QStringLiteral("picVideo"), MMControlVideo.get()),
+      title_(*this, QStringLiteral("lblNazev")),
       Label1(*this, QStringLiteral("Label1")),
       time_(*this, QStringLiteral("lblCas")),
       bar_(*this, QStringLiteral("prgPozice")),
@@ -66,7 +73,11 @@ frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
     Label1.setWordWrap(true);
     Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     Label1.place(kStatus);
-    time_.setFont(kStatusFont);
+    title_.setFont(kTitleFont);
+    title_.setColor(colors::kTitle);
+    title_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    title_.place(kTitle);
+    time_.setFont(kTimeFont);
     time_.setColor(colors::kTitle);
     time_.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     time_.place(kTime);
@@ -100,6 +111,7 @@ void frmVideo::placeButtons() {
 void frmVideo::Zobraz(std::int16_t number) {
     if (app().ShowMode) app().SoundFlags[kVideoSound] = true;
     stopMusic();
+    title_.setText(queries::filmTitle(app().Db(), number));
     Label1.setText(Texts::tr("Chvilku prosím počkejte, otevírám soubor s videem...."));
     applySound();
     app().PushScreen(*this);
@@ -219,6 +231,7 @@ void frmVideo::toggleFullScreen() {
     wholeScreen_ = !wholeScreen_;
     area_.place(wholeScreen_ ? kWholeScreen : kArea);
     wholeScreen_ ? area_.raise() : area_.lower();
+    update();
 }
 
 void frmVideo::Skryj() {
@@ -272,7 +285,10 @@ bool frmVideo::keyDown(QKeyEvent& event) {
 
 void frmVideo::paint(QPainter& painter) {
     paintRoom(painter, app().Pictures.video);
-    paintPlate(painter, kBarPlate);
+    if (!wholeScreen_) return paintPlate(painter, kBarPlate);
+    QColor dark = colors::kNight;
+    dark.setAlpha(kLightsOut);
+    painter.fillRect(covered(), dark);
 }
 
 }  // namespace sarne

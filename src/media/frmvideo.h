@@ -55,6 +55,7 @@ class frmVideo : public Form {
 
     std::unique_ptr<MultimediaControl> MMControlVideo;
     VideoArea area_;
+    Label title_;  // of the clip, as its menu item reads
     Label Label1;
     Label time_;
     SeekBar bar_;

@@ -7,6 +7,11 @@
 #include "forms/colors.h"
 
 namespace sarne {
+namespace {
+
+constexpr int kKnob = 90;  // twips from the knob's middle to its edge; it stays within the track
+
+}  // namespace
 
 SeekBar::SeekBar(Form& owner, const QString& name) : Control(owner, name) {
     setTip(Texts::tr("Pozice ve videu"));
@@ -21,7 +26,8 @@ void SeekBar::show(qint64 position, qint64 length) {
 }
 
 qint64 SeekBar::positionAt(int x) const {
-    return twips().width() > 0 ? length_ * qBound(0, x, twips().width()) / twips().width() : 0;
+    const int track = twips().width() - 2 * kKnob;
+    return track > 0 ? length_ * qBound(0, x - kKnob, track) / track : 0;
 }
 
 void SeekBar::paint(QPainter& painter) {
@@ -31,12 +37,14 @@ void SeekBar::paint(QPainter& painter) {
     painter.setBrush(colors::kNight);
     painter.drawRoundedRect(bar, 45, 45);
     if (length_ <= 0) return;
-    bar.setWidth(bar.width() * double(qMin(position_, length_)) / double(length_));
+    const double share = double(qMin(position_, length_)) / double(length_);
+    const double knob = kKnob + (bar.width() - 2 * kKnob) * share;  // its middle
+    bar.setWidth(knob);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colors::kCopper);
     painter.drawRoundedRect(bar, 45, 45);
     painter.setBrush(colors::kTitle);
-    painter.drawEllipse(bar.topRight() + QPointF(0, kThickness / 2.), 90, 90);
+    painter.drawEllipse(QPointF(knob, bar.center().y()), kKnob, kKnob);
 }
 
 void SeekBar::mousePressEvent(QMouseEvent* event) {

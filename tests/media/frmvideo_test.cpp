@@ -1,5 +1,6 @@
 #include "media/frmvideo.h"
 
+#include "forms/colors.h"
 #include "mediafixture.h"
 
 namespace sarne {
@@ -47,6 +48,32 @@ TEST_F(VideoTest, PlaysAndGivesTheMusicBack) {
     EXPECT_TRUE(run.player.playing());
     EXPECT_EQ(run.awake.last(), QString());
     EXPECT_EQ(run.FormStack.top(), below);
+}
+
+TEST_F(VideoTest, TheTitleStandsThereAsTheMenuHasIt) {
+    for (const char* row :
+         {"('181', 'Jak rybu obalit', '13')", "('182', 'Jak vykrojit filety', '3')", "('53', 'Pečeně', '3')"})
+        run.database.Execute(QStringLiteral("INSERT INTO Menu VALUES ") + QLatin1String(row));
+    open(3);
+    EXPECT_EQ(child<Label>(*form, "lblNazev")->text(), QStringLiteral("Jak vykrojit filety"));
+    press(Qt::Key_Escape);
+    open(4);
+    EXPECT_EQ(child<Label>(*form, "lblNazev")->text(), QString()) << "a film that no menu knows";
+}
+
+TEST_F(VideoTest, TheKnobStaysWithinTheBar) {
+    open();
+    auto* bar = form->findChild<SeekBar*>();
+    bar->show(0, 60000);
+    const QImage start = bar->grab().toImage();
+    bar->show(60000, 60000);
+    const QImage end = bar->grab().toImage();
+    const int middle = bar->height() / 2;
+    EXPECT_EQ(start.pixelColor(bar->toPixels({90, 165}).x(), middle), colors::kTitle);
+    EXPECT_EQ(end.pixelColor(bar->toPixels({bar->twips().width() - 90, 165}).x(), middle), colors::kTitle);
+    EXPECT_EQ(bar->positionAt(0), 0);
+    EXPECT_EQ(bar->positionAt(90), 0) << "where the knob stands";
+    EXPECT_EQ(bar->positionAt(bar->twips().width() - 90), 60000);
 }
 
 TEST_F(VideoTest, MusicThatIsOffStaysOff) {
