@@ -122,7 +122,11 @@ int main(int argc, char** argv) {
         QStringLiteral("N"));
     const QCommandLineOption seed(QStringLiteral("seed"), QStringLiteral("of chance"), QStringLiteral("N"),
                                   QStringLiteral("1"));
-    options.addOptions({size, program, disc, expect, look, accept, steps, seed});
+    const QCommandLineOption only(
+        QStringLiteral("only"),
+        QStringLiteral("visit only these parts of the tour: ") + tourParts().join(QStringLiteral(", ")),
+        QStringLiteral("PART,…"));
+    options.addOptions({only, size, program, disc, expect, look, accept, steps, seed});
     options.process(application);
     const QStringList wide = options.value(size).split(u'x');
     if (options.positionalArguments().size() != 1 || wide.size() != 2) options.showHelp(2);
@@ -157,7 +161,8 @@ int main(int argc, char** argv) {
     run.Main({});
     if (options.isSet(steps))
         return wander(run, options.value(steps).toInt(), options.value(seed).toUInt(), out) ? 0 : 1;
-    walk(tour);
+    walk(tour, options.value(only).split(u',', Qt::SkipEmptyParts));
+    tour.writeSheets();
     return report(out, tour, pictures, folder.path(), options.value(expect), looks, options.isSet(accept));
 }
 

@@ -190,6 +190,37 @@ void kitchen(Tour& tour) {
     tour.key(Qt::Key_Escape);
 }
 
+/// A quick recipe, which has a window of its own: from the second item of a topic.
+void quickRecipe(Tour& tour) {
+    tour.click(button(5));
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Right);
+    tour.key(Qt::Key_Down);
+    tour.key(Qt::Key_Return);
+    tour.stop(QStringLiteral("frmSeznam"), QStringLiteral("rychle"));
+    tour.click(QStringLiteral("lblSeznam(1)"));
+    tour.click(QStringLiteral("imgBtn(2)"));
+    tour.wait(kSlowScreen);
+    tour.stop(QStringLiteral("frmRychlyRecept"));
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_Escape);
+    closeMenu(tour);
+}
+
+/// How many portions is asked for in a dialog, and refused in a message.
+void numberDialog(Tour& tour) {
+    tour.program().screens().showRecipe(1);
+    tour.click(QStringLiteral("imgBtn(5)"));
+    tour.later([&] {
+        tour.stop(QStringLiteral("frmDialog"));
+        tour.type(QStringLiteral("6,5"));
+        tour.stop(QStringLiteral("frmDialog"), QStringLiteral("zadano"));
+        tour.key(Qt::Key_Escape);
+    });
+    tour.click(QStringLiteral("imgPrepocet(10)"));
+    tour.key(Qt::Key_Escape);
+}
+
 /// Every area of the gallery in front: it shows its card, or leads to a keyword.
 void areas(Tour& tour, int topic) {
     for (int i = 0; tour.has(QStringLiteral("lblOblast(%1)").arg(i)); ++i) {
@@ -273,19 +304,31 @@ void ending(Tour& tour) {
 
 }  // namespace
 
-void walk(Tour& tour) {
-    mainJob(tour);
-    mainJobByKeyboard(tour);
-    menus(tour);
-    photos(tour);
-    tables(tour);
-    keywords(tour);
-    galleries(tour);
-    media(tour);
-    printing(tour);
-    recipeFacts(tour);
-    kitchen(tour);
-    ending(tour);
+namespace {
+
+struct Part {
+    const char* name;
+    void (*visit)(Tour&);
+};
+constexpr Part kParts[] = {{"job", mainJob},          {"keyboard", mainJobByKeyboard},
+                           {"menus", menus},          {"photos", photos},
+                           {"tables", tables},        {"keywords", keywords},
+                           {"galleries", galleries},  {"media", media},
+                           {"printing", printing},    {"quick", quickRecipe},
+                           {"dialogs", numberDialog}, {"recipes", recipeFacts},
+                           {"kitchen", kitchen},      {"ending", ending}};
+
+}  // namespace
+
+QStringList tourParts() {
+    QStringList names;
+    for (const Part& part : kParts) names << QLatin1String(part.name);
+    return names;
+}
+
+void walk(Tour& tour, const QStringList& parts) {
+    for (const Part& part : kParts)
+        if (parts.isEmpty() || parts.contains(QLatin1String(part.name))) part.visit(tour);
 }
 
 }  // namespace sarne

@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "app/program.h"
+#include "blackline.h"
 #include "forms/control.h"
 #include "forms/label.h"
 #include "screentext.h"
@@ -22,7 +23,9 @@ void Tour::stop(const QString& form, const QString& what) {
     const QString name = what.isEmpty() ? form : form + u'-' + what;
     const QString there = frontName();
     if (there != form) fault(QStringLiteral("%1: %2 is in front").arg(name, there));
-    picture(name);
+    const QImage seen = picture(name);
+    sheets_.add(name, seen);
+    if (const QString black = blackLine(seen); !black.isEmpty()) fault(name + QStringLiteral(": ") + black);
     const std::vector<TextContrast> painted = textContrasts(program_.stage());
     const ScreenText shown = screenText(program_.stage(), painted);
     texts_ << QStringLiteral("== ") + name + u'\n' + shown.lines.join(u'\n');
@@ -30,8 +33,7 @@ void Tour::stop(const QString& form, const QString& what) {
         fault(QStringLiteral("%1: not all can be read of %2").arg(name, cut));
     checkContrast(name, painted);
     if (form == u"frmSplash") return;  // a film plays there: it looks as the moment has it
-    if (const QString wrong = looks_.fault(name, program_.stage().grab().toImage()); !wrong.isEmpty())
-        fault(wrong);
+    if (const QString wrong = looks_.fault(name, seen); !wrong.isEmpty()) fault(wrong);
 }
 
 void Tour::checkContrast(const QString& name, const std::vector<TextContrast>& painted) {
@@ -146,6 +148,14 @@ void Tour::type(const QString& text) {
 void Tour::later(const std::function<void()>& what) {
     constexpr int kUntilShown = 150;  // milliseconds
     QTimer::singleShot(kUntilShown, &program_.stage(), what);
+}
+
+void Tour::writeSheets() {
+    int number = 0;
+    for (const QImage& sheet : sheets_.sheets()) {
+        const QString file = QStringLiteral("sheet-%1.jpg").arg(++number);
+        if (!sheet.save(pictures_.filePath(file))) fault(file + QStringLiteral(" cannot be written"));
+    }
 }
 
 void Tour::wait(int milliseconds) {

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "contactsheets.h"
 #include "looks.h"
 
 class QWidget;
@@ -59,6 +60,9 @@ class Tour {
     /// Lets the program work for \a milliseconds.
     void wait(int milliseconds = 30);
 
+    /// Writes the pictures kept by stop(), small, on sheets "sheet-1.jpg" and on.
+    void writeSheets();
+
     /// All texts kept, stop by stop.
     QString texts() const { return texts_.join(QStringLiteral("\n\n")) + u'\n'; }
     /// The contrast of the text that was hardest to tell from its ground.
@@ -76,12 +80,15 @@ class Tour {
     Program& program_;
     QDir pictures_;
     Looks& looks_;
+    ContactSheets sheets_;
     QStringList texts_, faults_;
     double leastContrast_ = 21;
 };
 
-/// Everywhere the tour goes.
-void walk(Tour& tour);
+/// The parts of a tour, each of which begins and ends on the main screen.
+QStringList tourParts();
+/// Goes through \a parts in their own order; through all, when none is named.
+void walk(Tour& tour, const QStringList& parts);
 
 }  // namespace sarne
 
