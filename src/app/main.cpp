@@ -80,7 +80,7 @@ int main(int argc, char** argv) {
     place.show();
     int code = 0;
     if (program.Main(commandLine(application)) && !program.hasEnded()) {
-        platform.effects.prepare();
+        platform.prepare();
         code = QApplication::exec();
     }
     running = nullptr;

@@ -12,6 +12,7 @@
 #include "platform/printer.h"
 #include "platform/settingsstore.h"
 #include "platform/sleepinhibitor.h"
+#include "platform/speech.h"
 
 namespace sarne {
 
@@ -26,6 +27,7 @@ struct PlatformParts {
     DisplayModes& display;
     SleepInhibitor& sleep;
     Printer& printer;
+    Speech& speech;
     /// Makes a player for a video. May be empty: then there are no videos.
     std::function<std::unique_ptr<MultimediaControl>()> makePlayer;
     /// Makes the announcer of the program's window.

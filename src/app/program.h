@@ -10,6 +10,7 @@
 #include "db/notestore.h"
 #include "db/userfile.h"
 #include "forms/bassarne.h"
+#include "forms/readaloud.h"
 #include "forms/resources.h"
 #include "forms/stage.h"
 
@@ -51,6 +52,7 @@ class Program final : public QObject, public basSarne {
     const Clock& clock() override { return platform_.clock; }
     EffectPlayer& effects() override { return platform_.effects; }
     MultimediaControl& music() override { return platform_.music; }
+    ReadAloud& readAloud() override { return readAloud_; }
 
     void ConfirmExit() override;
     int ZobrazZpravu(const QString& text, int style, int silent = 0) override;
@@ -82,6 +84,7 @@ class Program final : public QObject, public basSarne {
     NoteStore notes_{userFile_};
     QString book_;  // the recipe database's native path
     std::vector<KeptNote> homeless_;
+    ReadAloud readAloud_{platform_.speech, platform_.music};
     std::unique_ptr<Stage> stage_;
     ProgramScreens screens_;
     std::unique_ptr<Announcer> announcer_;

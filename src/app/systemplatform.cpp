@@ -16,8 +16,16 @@ PlatformParts SystemPlatform::parts() {
             display,
             sleep,
             printer,
+            speech,
             [] { return std::make_unique<MpvControl>(); },
             [](QObject& window) { return std::make_unique<AccessibleAnnouncer>(&window); }};
+}
+
+void SystemPlatform::prepare() {
+    effects.prepare();
+#ifdef SARNE_SPEECH
+    speech.lookForVoice();
+#endif
 }
 
 }  // namespace sarne

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "app/platformparts.h"
+#ifdef SARNE_SPEECH
+#include "platform/dispatcherspeech.h"
+#endif
 #include "platform/mpvcontrol.h"
 #include "platform/systemprinter.h"
 
@@ -13,6 +16,8 @@ class SystemPlatform {
     SystemPlatform();
     /// For a Program, which this object outlives.
     PlatformParts parts();
+    /// Makes ready, in the background, what takes a while: sound effects, the voice.
+    void prepare();
 
     SystemSettingsStore settings;
     SteadyClock clock;
@@ -22,6 +27,11 @@ class SystemPlatform {
     SystemDisplayModes display;
     DesktopSleepInhibitor sleep;
     SystemPrinter printer;
+#ifdef SARNE_SPEECH
+    DispatcherSpeech speech;
+#else
+    Speech speech;
+#endif
 };
 
 }  // namespace sarne

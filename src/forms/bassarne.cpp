@@ -4,6 +4,7 @@
 #include <QLoggingCategory>
 #include <algorithm>
 
+#include "forms/readaloud.h"
 #include "forms/resources.h"
 #include "forms/stage.h"
 #include "platform/effectplayer.h"
@@ -34,6 +35,7 @@ void basSarne::StopEffect() {
 }
 
 void basSarne::PushScreen(Form& screen, KeepEnabled keep) {
+    readAloud().stop();
     if (Form* below = FormStack.top()) {
         below->setPointer(Pointer::Back);
         if (keep == KeepEnabled::No) below->enableControls(false);
@@ -43,6 +45,7 @@ void basSarne::PushScreen(Form& screen, KeepEnabled keep) {
 }
 
 void basSarne::PopScreen(Form& screen) {
+    readAloud().stop();
     FormStack.remove(screen);
     Form* below = FormStack.top();
     if (below) below->raise();

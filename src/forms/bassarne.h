@@ -20,6 +20,7 @@ class Stage;
 class EffectPlayer;
 class MultimediaControl;
 class NoteStore;
+class ReadAloud;
 
 enum class KeepEnabled { No, Yes };
 
@@ -64,6 +65,8 @@ class basSarne {
     virtual EffectPlayer& effects() = 0;
     /// The main screen's player: the background music.
     virtual MultimediaControl& music() = 0;
+    /// What reads texts aloud where a Czech voice is found; one for the whole run.
+    virtual ReadAloud& readAloud() = 0;
 
     /// Asks whether to end the program, and ends it.
     virtual void ConfirmExit() = 0;

@@ -6,8 +6,10 @@
 #include "forms/bassarne.h"
 #include "forms/control.h"
 #include "forms/focusframe.h"
+#include "forms/readaloud.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
+#include "forms/showntexts.h"
 #include "forms/stage.h"
 
 namespace sarne {
@@ -119,6 +121,10 @@ void Form::musicSettings() {
     app_.screens().showMusicSettings();
 }
 
+QString Form::textToRead() const {
+    return shownTexts(*this).join(u'\n');
+}
+
 bool Form::keyDown(QKeyEvent& event) {
     if (event.key() != Qt::Key_Escape) return ring_.keyDown(event);
     goBack();
@@ -151,6 +157,9 @@ bool Form::sharedKey(const QKeyEvent& event) {
             return true;
         case Qt::Key_F7:
             app_.screens().stopRinging();
+            return true;
+        case Qt::Key_F9:
+            app_.readAloud().toggle(textToRead());
             return true;
         case Qt::Key_C:
             goBack();

@@ -60,6 +60,8 @@ class Form : public TwipWidget {
     virtual void endProgram();
     virtual void help();
     virtual void musicSettings();
+    /// What F9 reads aloud: by default all texts that show, from the top left to the bottom right.
+    virtual QString textToRead() const;
     /// Asks what there is to ask before the program ends; false when the user wants to stay. Asked of every
     /// screen, before the program's own question.
     virtual bool readyToEnd() { return true; }

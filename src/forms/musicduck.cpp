@@ -1,6 +1,7 @@
 #include "forms/musicduck.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "platform/multimediacontrol.h"
 #include "platform/soundlength.h"
@@ -23,6 +24,15 @@ MusicDuck::MusicDuck(MultimediaControl& music) : music_(music), timer_(nullptr) 
 void MusicDuck::speaking(const QByteArray& wavImage) {
     milliseconds_ = soundLength(wavImage);
     if (milliseconds_ > 0) timer_.setEnabled(true);
+}
+
+void MusicDuck::hold() {
+    milliseconds_ = std::numeric_limits<qint64>::max();
+    timer_.setEnabled(true);
+}
+
+void MusicDuck::letGo() {
+    milliseconds_ = 0;
 }
 
 void MusicDuck::release() {

@@ -16,6 +16,10 @@ class MusicDuck {
     /// Holds it back for as long as \a wavImage, a whole sound file, lasts from now on; what is no sound
     /// changes nothing.
     void speaking(const QByteArray& wavImage);
+    /// Holds it back until letGo().
+    void hold();
+    /// Lets it come back, over a second.
+    void letGo();
     /// Lets the music sound as before at once.
     void release();
     /// Ticks while the music is not as loud as usual.

@@ -72,7 +72,7 @@ void WholeProgram::start(const char* switches) {
     const PlatformParts system = platform->parts();
     program = std::make_unique<Program>(
         PlatformParts{settings_, system.clock, system.effects, system.beeper, system.music, display_,
-                      system.sleep, system.printer, system.makePlayer, system.makeAnnouncer},
+                      system.sleep, system.printer, system.speech, system.makePlayer, system.makeAnnouncer},
         Folders{media.path({}), media.path({})});
     program->stage().resize(800, 600);
     program->stage().show();

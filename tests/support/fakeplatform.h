@@ -9,6 +9,7 @@
 #include "support/fakeprinter.h"
 #include "support/fakesettings.h"
 #include "support/fakesleepinhibitor.h"
+#include "support/fakespeech.h"
 
 namespace sarne {
 
@@ -23,6 +24,7 @@ class FakePlatform {
     FakeDisplayModes display;
     FakeSleepInhibitor sleep;
     FakePrinter printer;
+    FakeSpeech speech;
 
     FakePlatform() { display.size = {800, 600}; }
     PlatformParts parts() {
@@ -34,6 +36,7 @@ class FakePlatform {
                 display,
                 sleep,
                 printer,
+                speech,
                 [] { return std::make_unique<FakeMultimedia>(); },
                 [](QObject&) { return std::make_unique<FakeAnnouncer>(); }};
     }

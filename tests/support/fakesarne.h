@@ -9,11 +9,13 @@
 #include "db/notestore.h"
 #include "db/userfile.h"
 #include "forms/bassarne.h"
+#include "forms/readaloud.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "forms/stage.h"
 #include "support/fakeeffects.h"
 #include "support/fakemultimedia.h"
+#include "support/fakespeech.h"
 
 namespace sarne {
 
@@ -89,6 +91,8 @@ class FakeSarne : public basSarne {
     ManualClock time;
     FakeEffects sounds;
     FakeMultimedia player;
+    FakeSpeech speech;
+    ReadAloud reader{speech, player};
     /// Called while a message box would be open.
     std::function<void()> whileAsking;
 
@@ -108,6 +112,7 @@ class FakeSarne : public basSarne {
     const Clock& clock() override { return time; }
     EffectPlayer& effects() override { return sounds; }
     MultimediaControl& music() override { return player; }
+    ReadAloud& readAloud() override { return reader; }
     void ConfirmExit() override {
         if (ReadyToEnd()) ++exits;
     }

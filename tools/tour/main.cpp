@@ -145,9 +145,9 @@ int main(int argc, char** argv) {
     TourDisplay display;
     NoSleepInhibitor sleep;
     SystemPrinter printer(folder.path());
-    const PlatformParts parts{settings, clock,   effects,
-                              beeper,   music,   display,
-                              sleep,    printer, [] { return std::make_unique<MpvControl>(); },
+    Speech speech;
+    const PlatformParts parts{settings, clock, effects, beeper, music,
+                              display,  sleep, printer, speech, [] { return std::make_unique<MpvControl>(); },
                               {}};
     Program run(parts, {folder.path(), folder.path()});
     run.Locale = QLocale(QLocale::Czech, QLocale::CzechRepublic);

@@ -11,6 +11,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/followlink.h"
+#include "forms/readaloud.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "platform/effectplayer.h"
@@ -48,8 +49,7 @@ frmRecept::frmRecept(basSarne& sarne, Serving& lookedAt, AskNumber ask)
       imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int) { print(); }),
       imgKuchyne(*this, QStringLiteral("imgKuchyne"), kKitchen, [this](int index) { kitchenClick(index); }),
       view_(new TextView(*this, QStringLiteral("picRecept"))),
-      picture_(new PictureBox(*this, QStringLiteral("picVedle"))),
-      duck_(sarne.music()) {
+      picture_(new PictureBox(*this, QStringLiteral("picVedle"))) {
     if (!ask) ask = [&sarne](const QString& prompt) { return askNumber(sarne, prompt); };
     recipe_.units = lookedAt.units;
     title_->place(recipelayout::kTitle);
@@ -145,7 +145,7 @@ void frmRecept::playName() {
     if (!file.open(QIODevice::ReadOnly)) return;
     app().EffectWave = file.readAll();
     app().effects().play(app().EffectWave);
-    duck_.speaking(app().EffectWave);
+    app().readAloud().duck().speaking(app().EffectWave);
 }
 
 void frmRecept::openSection(int section) {
@@ -179,7 +179,7 @@ void frmRecept::Skryj() {
 
 void frmRecept::unload() {
     if (isLoaded()) {
-        duck_.release();
+        app().readAloud().duck().release();
         if (!app().Ending) current().abandon();
         app().keepAwake({});
     }

@@ -6,7 +6,6 @@
 #include "forms/buttonbar.h"
 #include "forms/form.h"
 #include "forms/label.h"
-#include "forms/musicduck.h"
 #include "screens/recipe/recipesection.h"
 
 namespace sarne {
@@ -75,7 +74,6 @@ class frmRecept : public Form {
     ButtonBar imgBtn, imgBtnHlavni, imgKuchyne;
     TextView* view_;
     PictureBox* picture_;
-    MusicDuck duck_;
 };
 
 }  // namespace sarne

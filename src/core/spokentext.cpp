@@ -1,0 +1,86 @@
+#include "core/spokentext.h"
+
+#include <QLocale>
+#include <QRegularExpression>
+
+#include "core/czech.h"
+#include "core/texts.h"
+
+namespace sarne {
+namespace {
+
+/// A unit of measure as it is written, and its noun: behind 1, 2, 5 and 2,5.
+struct Unit {
+    const char* written;
+    const char* one;
+    const char* few;
+    const char* many;
+    const char* part;
+};
+constexpr Unit kUnits[] = {
+    {"kg", QT_TRANSLATE_NOOP("Texts", "kilogram"), QT_TRANSLATE_NOOP("Texts", "kilogramy"),
+     QT_TRANSLATE_NOOP("Texts", "kilogramů"), QT_TRANSLATE_NOOP("Texts", "kilogramu")},
+    {"g", QT_TRANSLATE_NOOP("Texts", "gram"), QT_TRANSLATE_NOOP("Texts", "gramy"),
+     QT_TRANSLATE_NOOP("Texts", "gramů"), QT_TRANSLATE_NOOP("Texts", "gramu")},
+    {"ml", QT_TRANSLATE_NOOP("Texts", "mililitr"), QT_TRANSLATE_NOOP("Texts", "mililitry"),
+     QT_TRANSLATE_NOOP("Texts", "mililitrů"), QT_TRANSLATE_NOOP("Texts", "mililitru")},
+    {"l", QT_TRANSLATE_NOOP("Texts", "litr"), QT_TRANSLATE_NOOP("Texts", "litry"),
+     QT_TRANSLATE_NOOP("Texts", "litrů"), QT_TRANSLATE_NOOP("Texts", "litru")},
+    {"cm", QT_TRANSLATE_NOOP("Texts", "centimetr"), QT_TRANSLATE_NOOP("Texts", "centimetry"),
+     QT_TRANSLATE_NOOP("Texts", "centimetrů"), QT_TRANSLATE_NOOP("Texts", "centimetru")},
+    {"\u00b0C", QT_TRANSLATE_NOOP("Texts", "stupeň Celsia"), QT_TRANSLATE_NOOP("Texts", "stupně Celsia"),
+     QT_TRANSLATE_NOOP("Texts", "stupňů Celsia"), QT_TRANSLATE_NOOP("Texts", "stupně Celsia")},
+};
+
+const Unit* unitWritten(QStringView written) {
+    for (const Unit& unit : kUnits) {
+        if (written == QString::fromUtf8(unit.written)) return &unit;
+    }
+    return nullptr;
+}
+
+QString unitBehind(double number, const Unit& unit) {
+    return Noun{Texts::tr(unit.one), Texts::tr(unit.few), Texts::tr(unit.many), Texts::tr(unit.part)}.behind(
+        number);
+}
+
+QString withUnitsInWords(const QString& text) {
+    static const QRegularExpression measure(
+        QStringLiteral("(\\d+(?:,\\d+)?)[ \u00a0](kg|g|ml|l|cm|\u00b0C)(?!\\w)"),
+        QRegularExpression::UseUnicodePropertiesOption);
+    const QLocale czech(QLocale::Czech);
+    QString words;
+    qsizetype done = 0;
+    for (auto found = measure.globalMatch(text); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        words += text.mid(done, match.capturedStart(2) - done) +
+                 unitBehind(czech.toDouble(match.captured(1)), *unitWritten(match.capturedView(2)));
+        done = match.capturedEnd();
+    }
+    return words + text.mid(done);
+}
+
+/// Ends each line that ends in a letter or digit, so that the next one is not read as its continuation.
+QString withLinesEnded(const QString& text) {
+    static const QRegularExpression end(QStringLiteral("([\\w)])[ ]*\n"),
+                                        QRegularExpression::UseUnicodePropertiesOption);
+    return QString(text).replace(end, QStringLiteral("\\1.\n"));
+}
+
+}  // namespace
+
+QString spokenText(const QString& text) {
+    static const QRegularExpression range(QStringLiteral("(\\d)[–-]\u2060?(\\d)"));
+    static const QRegularExpression onlyForTheEye(QStringLiteral("[\u2060•·▲▼▸▾@]"));
+    static const QRegularExpression word(QStringLiteral("\\w"),
+                                         QRegularExpression::UseUnicodePropertiesOption);
+    QString words = QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    words.replace(range, QStringLiteral("\\1 ") + Texts::tr("až") + QStringLiteral(" \\2"));
+    words.remove(onlyForTheEye);
+    if (!words.contains(word)) return {};
+    return withLinesEnded(withUnitsInWords(words).trimmed());
+}
+
+}  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,0 +1,81 @@
+#include "forms/readaloud.h"
+
+#include <gtest/gtest.h>
+
+#include "forms/form.h"
+#include "forms/label.h"
+#include "support/fakesarne.h"
+
+namespace sarne {
+namespace {
+
+class ReadAloudTest : public testing::Test {
+  protected:
+    void press(int key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&form, &event);
+    }
+    void pass(int milliseconds) {
+        Timer& timer = sarne.reader.duck().timer();
+        for (int i = 0; i < milliseconds && timer.isEnabled(); i += timer.interval()) timer.fire();
+    }
+
+    FakeSarne sarne;
+    Form& form = *new Form(sarne, QStringLiteral("frmText"));
+};
+
+TEST_F(ReadAloudTest, WithoutAVoiceNothingIsOfferedAndTheKeyDoesNothing) {
+    Label label(form, QStringLiteral("lblText"));
+    label.setText(QStringLiteral("Kapr"));
+    press(Qt::Key_F9);
+    EXPECT_FALSE(sarne.reader.isOffered());
+    EXPECT_FALSE(sarne.reader.isReading());
+    EXPECT_TRUE(sarne.speech.said.isEmpty());
+    EXPECT_FALSE(sarne.reader.duck().timer().isEnabled()) << "the music plays on";
+}
+
+TEST_F(ReadAloudTest, OneKeyReadsWhatShowsInReadingOrderAndStops) {
+    Label below(form, QStringLiteral("lblDole"));
+    Label above(form, QStringLiteral("lblNahore"));
+    Label hidden(form, QStringLiteral("lblSkryty"));
+    below.place({100, 2000, 5000, 400});
+    above.place({100, 100, 5000, 400});
+    hidden.place({100, 1000, 5000, 400});
+    below.setText(QStringLiteral("Troubu rozehřejeme na 180 °C."));
+    above.setText(QStringLiteral("Kapr na kmíně"));
+    hidden.setText(QStringLiteral("tajné"));
+    hidden.hide();
+    form.showForm();
+    sarne.speech.find();
+    press(Qt::Key_F9);
+    EXPECT_EQ(sarne.speech.said,
+              QStringList{QStringLiteral("Kapr na kmíně.\nTroubu rozehřejeme na 180 stupňů Celsia.")});
+    EXPECT_TRUE(sarne.reader.isReading());
+    press(Qt::Key_F9);
+    EXPECT_EQ(sarne.speech.stops, 1);
+    EXPECT_FALSE(sarne.reader.isReading());
+}
+
+TEST_F(ReadAloudTest, TheMusicStepsBackUntilTheTextHasEnded) {
+    sarne.speech.find();
+    sarne.reader.read(QStringLiteral("Kapr"));
+    pass(60000);
+    EXPECT_NEAR(sarne.player.decibels, -10, 0.01);
+    sarne.speech.end();
+    EXPECT_FALSE(sarne.reader.isReading());
+    pass(2000);
+    EXPECT_EQ(sarne.player.decibels, 0);
+}
+
+TEST_F(ReadAloudTest, AnotherScreenEndsIt) {
+    sarne.speech.find();
+    sarne.PushScreen(form);
+    sarne.reader.read(QStringLiteral("Kapr"));
+    sarne.PushScreen(*new Form(sarne, QStringLiteral("frmDalsi")));
+    EXPECT_EQ(sarne.speech.stops, 1);
+}
+
+}  // namespace
+}  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later
