@@ -19,7 +19,11 @@ sarne_way("${folder}" "${data}/program" to_data)
 sarne_way("${folder}" "${data}/disc" to_disc)
 
 # --- program
-install(TARGETS sarne sarne-obnov RUNTIME DESTINATION "${folder}" COMPONENT program)
+set(programs sarne)
+if(SARNE_HAS_XRANDR)
+    list(APPEND programs sarne-obnov)
+endif()
+install(TARGETS ${programs} RUNTIME DESTINATION "${folder}" COMPONENT program)
 configure_file(packaging/velisa-sarn.in "${wanted}/velisa-sarn" @ONLY)
 install(PROGRAMS "${wanted}/velisa-sarn" DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT program)
 file(CONFIGURE OUTPUT "${wanted}/Dunvik.exe.conf" CONTENT "[General]\nCDPath=${to_disc}\n")

@@ -40,6 +40,7 @@ bool Device::open() {
     constexpr int rate = 44100;
     constexpr int samplesAtOnce = 512;  // 12 ms: an effect belongs to what the hand does
     mixer_.setHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    mixer_.setHint(SDL_HINT_AUDIODRIVER, effectDrivers());
     if (mixer_.initSubSystem(SDL_INIT_AUDIO) < 0) return false;
     isOpen_ = mixer_.openAudioDevice(rate, AUDIO_S16SYS, 2, samplesAtOnce, nullptr,
                                      SDL_AUDIO_ALLOW_FREQUENCY_CHANGE | SDL_AUDIO_ALLOW_CHANNELS_CHANGE) == 0;

@@ -125,6 +125,10 @@ bool pulseServerHasDevice() {
     return !question.connect() || question.hasDevice().value_or(true);
 }
 
+const char* effectDrivers() {
+    return nullptr;
+}
+
 }  // namespace sarne
 
 // SPDX-License-Identifier: GPL-3.0-or-later

@@ -6,6 +6,10 @@ namespace sarne {
 /// sound goes other ways. Waits for the server's answer, half a second at most.
 bool pulseServerHasDevice();
 
+/// The ways to a device that SDL may try, separated by commas; nullptr for all, in its own order. Those that
+/// it would not survive without a device are there only where pulseServerHasDevice() can tell.
+const char* effectDrivers();
+
 }  // namespace sarne
 
 // SPDX-License-Identifier: GPL-3.0-or-later

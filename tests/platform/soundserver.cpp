@@ -94,6 +94,7 @@ SoundServer::SoundServer() = default;
 SoundServer::~SoundServer() {
     kill();
     qputenv("PULSE_SERVER", "unix:/nonexistent/pulse");
+    qputenv("ALSA_CONFIG_PATH", "/dev/null");
 }
 
 bool SoundServer::start() {
@@ -113,7 +114,17 @@ bool SoundServer::start() {
          QStringLiteral("-L"), QStringLiteral("module-null-sink sink_name=nahravka")});
     if (!server_.waitForStarted() || !waitFor([&] { return QFile::exists(socket); })) return false;
     qputenv("PULSE_SERVER", "unix:" + socket.toUtf8());
+    offerByAlsa();
     return startRecording();
+}
+
+/// A program that does not know the server reaches it as one reaches a sound card, where ALSA's plugin is
+/// installed.
+void SoundServer::offerByAlsa() {
+    QFile config(folder_.filePath(QStringLiteral("asound.conf")));
+    if (!config.open(QIODevice::WriteOnly)) return;
+    config.write("pcm.!default { type pulse }\nctl.!default { type pulse }\n");
+    qputenv("ALSA_CONFIG_PATH", config.fileName().toUtf8());
 }
 
 bool SoundServer::startRecording() {

@@ -62,6 +62,7 @@ class SoundServer {
 
   private:
     Recording latest();
+    void offerByAlsa();
     bool startRecording();
 
     QTemporaryDir folder_;
