@@ -114,17 +114,20 @@ def _bar(run, pts, quads, w=.085):
 
 
 def crumbs_on(o, n, kind="gold", size=.035):
-    """Loose crumbs stuck on a piece."""
-    me = o.data
-    polys = [p for p in me.polygons if p.normal.z > -.2]
-    base_v, base_f = _lump(6)
-    ts = []
-    for _ in range(n):
-        p = random.choice(polys)
-        c = p.center
-        s = size * random.uniform(.5, 1.5)
-        ts.append(Matrix.Translation(c) @ Matrix.Rotation(random.random() * 6, 4, random.choice("XYZ")) @ Matrix.Diagonal((s, s * random.uniform(.6, 1), s * .7, 1)))
-    return scatter(base_v, base_f, ts, crumb(kind))
+    """The crumbs of a crust, ten times n: a few coarse ones, most fine, some fried darker, some paler than the rest."""
+    polys = [p for p in o.data.polygons if p.normal.z > -.2]
+    lump = _lump(6)
+    tints = [(kind, .62)] + [(other, .19) for other in ("brown", "pale") if other != kind]
+    return group([scatter(*lump, [_crumb_at(o.data, p, size) for p in random.choices(polys, [p.area for p in polys], k=int(10 * n * share))], crumb(tint))
+                  for tint, share in tints])
+
+
+def _crumb_at(me, polygon, size):
+    corners = random.sample(list(polygon.vertices), 3)
+    u, v = sorted((random.random(), random.random()))
+    at = sum((me.vertices[c].co * w for c, w in zip(corners, (u, v - u, 1 - v))), Vector())
+    s = size * min(2.2, random.expovariate(1.6) + .25)
+    return Matrix.Translation(at) @ Matrix.Rotation(random.random() * 6, 4, random.choice("XYZ")) @ Matrix.Diagonal((s, s * random.uniform(.6, 1), s * .8, 1))
 
 
 def _lump(n=8):

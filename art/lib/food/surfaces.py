@@ -27,7 +27,7 @@ def fishskin(kind="carp", state="roasted"):
 
 def crumb(kind="gold"):
     cols = {"gold": ("8a4c16", "c88635", "e6b665"), "brown": ("5c3012", "9c5f24", "c9924a"), "pale": ("b98846", "dcb878", "efd9a6"), "batter": ("b5701f", "dca047", "f0cd84")}[kind]
-    return mat("crumb-" + kind, tuple(zip((.36, .5, .62), cols)), .62, .35, noise=6, detail=9, bump=.55, bumpscale=16, sss=.03)
+    return mat("crumb-" + kind, tuple(zip((.3, .5, .7), cols)), .62, .35, noise=3.2, detail=12, bump=.7, bumpscale=26, sss=.03)
 
 
 def gherkin_mat():
