@@ -615,8 +615,10 @@ def _filter():
     tag = hashlib.sha1(open(src, "rb").read()).hexdigest()[:10]
     os.makedirs(BUILD, exist_ok=True)
     so = os.path.join(BUILD, f"denoise-{tag}.so")
-    if not os.path.exists(so):
-        subprocess.check_call(["g++", "-O3", "-march=native", "-ffast-math", "-fopenmp", "-shared", "-fPIC", "-std=c++20", src, "-o", so])
+    if not os.path.exists(so):  # another renderer may be compiling it at the same moment
+        made = f"{so}.{os.getpid()}"
+        subprocess.check_call(["g++", "-O3", "-march=native", "-ffast-math", "-fopenmp", "-shared", "-fPIC", "-std=c++20", src, "-o", made])
+        os.replace(made, so)
     return ctypes.CDLL(so)
 
 
