@@ -100,7 +100,7 @@ int readKind(const Kind& kind, int count, std::mt19937& random, double seconds) 
         slow += double(time.elapsed()) > 1000 * seconds;
     }
     QTextStream(stdout) << kind.name << ": " << (files.isEmpty() ? 0 : count) << " files, the slowest took "
-                        << longest << " ms\n";
+                        << longest << " ms" << Qt::endl;
     return slow;
 }
 
@@ -141,12 +141,15 @@ int readDamaged(const QString& program, const QString& disc, int count, unsigned
         {"resources", program, {QStringLiteral("Sarne.rcc")}, readResources},
         {"pictures",
          disc + QStringLiteral("/foto"),
-         {QStringLiteral("*.bmp"), QStringLiteral("*.jpg")},
+         {QStringLiteral("*.bmp"), QStringLiteral("*.jpg"), QStringLiteral("*.webp")},
          [](const QString& file) {
              readPhoto(file, {800, 600});
          }},
-        {"sounds", disc, {QStringLiteral("*.wav"), QStringLiteral("*.WAV")}, readMedia},
-        {"videos", disc, {QStringLiteral("*.avi"), QStringLiteral("*.AVI")}, readMedia}};
+        {"sounds",
+         disc,
+         {QStringLiteral("*.wav"), QStringLiteral("*.ogg"), QStringLiteral("*.opus")},
+         readMedia},
+        {"videos", disc, {QStringLiteral("*.avi"), QStringLiteral("*.mkv")}, readMedia}};
     std::mt19937 random(seed);
     int slow = 0;
     for (const Kind& kind : kinds) slow += readKind(kind, count, random, seconds);

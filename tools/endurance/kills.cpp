@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <chrono>
 #include <csignal>
 #include <random>
 
@@ -167,15 +168,28 @@ class Kills {
 
     /// Kills while the own copy is made: for the first time, from a sound one, or from a damaged one.
     KillCounts copies(int count, Before before) {
-        KillCounts counts;
-        for (; counts.kills < count; ++counts.kills) {
-            const Machine machine(book_);
-            if (before != Before::Nothing) fill(machine, before == Before::Damaged);
-            const int said = kill_(From::Start, 150000, [&](int pipe) {
+        const auto copy = [](const Machine& machine) {
+            return [&machine](int pipe) {
                 usableRecipeDatabase(machine.shipped, machine.own);
                 say(pipe, 1);
                 pause();
-            });
+            };
+        };
+        const auto prepare = [&](const Machine& machine) {
+            if (before != Before::Nothing) fill(machine, before == Before::Damaged);
+        };
+        int longest = 0;
+        KillCounts counts;
+        for (; counts.kills < count; ++counts.kills) {
+            if (counts.kills % kMeasureEvery == 0) {
+                const Machine timed(book_);
+                prepare(timed);
+                longest = duration(copy(timed));
+            }
+            const Machine machine(book_);
+            prepare(machine);
+            // A third beyond its end: some copies are finished, or just not.
+            const int said = kill_(From::Start, longest + longest / 3, copy(machine));
             counts.saves += said == 1;
             const bool notes = before != Before::Nothing;
             counts.faults += asUser([&] {
@@ -193,6 +207,7 @@ class Kills {
 
   private:
     enum class From { Start, FirstSaid };
+    static constexpr int kMeasureEvery = 10;  // kills: the machine may be busier by then
 
     /// Kills \a body at most \a longest microseconds after it began, or after it said something for the first
     /// time, and returns what it said last.
@@ -207,6 +222,22 @@ class Kills {
         ::kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
         return lastSaid(said);
+    }
+
+    /// For how many microseconds \a body works until it says something.
+    template <typename Body>
+    static int duration(Body body) {
+        constexpr int kPatience = 60000;  // milliseconds
+        const auto begin = std::chrono::steady_clock::now();
+        int said = -1;
+        const pid_t child = start(said, body);
+        pollfd first{said, POLLIN, 0};
+        poll(&first, 1, kPatience);
+        const std::chrono::duration<double, std::micro> taken = std::chrono::steady_clock::now() - begin;
+        ::kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        lastSaid(said);
+        return static_cast<int>(taken.count());
     }
 
     static int noteFaults(const Machine& machine, int acknowledged) {

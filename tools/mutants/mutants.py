@@ -5,17 +5,23 @@
     tools/mutants/mutants.py --seed 1 --count 30 --minutes 20 [--folders db,forms] [--others]
 
 Works in a copy of the last commit (--copy, by default beside this tree; made and built when needed), so the tree
-itself is never touched. A fault that does not compile is not counted. The tests of the fault's own folder run first;
-with --others, those of all other folders and the tours run on what they let pass. Survivors are printed as a diff
-each: most of them are faults that change nothing anybody could notice; who counts shares looks at them first.
+itself is never touched. A fault that does not compile, or compiles to the very same code, is not counted. The tests of
+the fault's own folder run first, and those that fail are named; with --others, those of all other folders and the tours
+run on what they let pass, after all faults had their turn. Survivors are printed as a diff each: many of them are
+faults that change nothing anybody could notice; who counts shares looks at them first.
+
+With --again FILE, the output of an earlier run, only the faults that it says were caught are put in again: after tests
+were changed, this tells whether any of them is missed now.
 """
 import argparse
 import math
+import os
 import random
 import re
 import subprocess
 import sys
 import time
+from collections import Counter
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
@@ -80,12 +86,14 @@ def test_of(file):
     return parts[2] if parts[1] == "screens" else parts[1]
 
 
-def run(copy, command, seconds):
+def run(copy, command, seconds, cached=False):
+    """The exit code, -1 when time is up, and what was said."""
     try:
-        return subprocess.run(command, cwd=copy, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
-                              timeout=seconds).returncode
+        done = subprocess.run(command, cwd=copy, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                              errors="replace", timeout=seconds, env=os.environ | ({} if cached else {"CCACHE_DISABLE": "1"}))
+        return done.returncode, done.stdout
     except subprocess.TimeoutExpired:
-        return -1
+        return -1, ""
 
 
 def prepare(copy):
@@ -98,7 +106,7 @@ def prepare(copy):
     if built.exists() and not (copy / "build/release/disc-out").exists():
         (copy / "build/release").mkdir(parents=True, exist_ok=True)  # a disc takes long to make
         subprocess.run(["cp", "-a", str(built), str(copy / "build/release")], check=True)
-    if run(copy, ["cmake", "--preset", "release"], 600) != 0:
+    if subprocess.run(["cmake", "--preset", "release"], cwd=copy, stdout=subprocess.DEVNULL).returncode != 0:
         sys.exit("the copy cannot be configured")
 
 
@@ -110,26 +118,93 @@ def wilson(hits, all_):
     return (middle - spread) / (1 + z * z / all_), (middle + spread) / (1 + z * z / all_)
 
 
-def judge(copy, fault, options):
-    """One of "broken", "own", "others", "survived"."""
+class Fault:
+    """A fault while it stands in the copy."""
+
+    code = {}  # of the objects without a fault
+
+    def __init__(self, copy, fault, jobs):
+        _, file, number, self.new = fault
+        self.copy, self.number, self.jobs = copy, number, jobs
+        self.path = copy / file
+        self.own = f"test_{test_of(file)}"
+        if file not in Fault.code:
+            run(copy, ["ninja", f"-j{jobs}", "-C", PRESET, self.own], 3600, cached=True)
+        self.object = next((copy / PRESET / file.parent / "CMakeFiles").glob(f"*/{file.name}.o"), None)
+        if file not in Fault.code:
+            Fault.code[file] = self.object.read_bytes() if self.object else None
+        self.file = file
+
+    def __enter__(self):
+        self.sound = self.path.read_text()
+        lines = self.sound.splitlines(keepends=True)
+        lines[self.number] = self.new
+        self.path.write_text("".join(lines))
+        return self
+
+    def __exit__(self, *_):
+        self.path.write_text(self.sound)
+
+    def build(self, *targets):
+        return run(self.copy, ["ninja", f"-j{self.jobs}", "-C", PRESET, *map(str, targets)], 3600)[0] == 0
+
+    def failing(self, choice, seconds):
+        """The tests that fail of those chosen; "?" when one crashes or never ends."""
+        code, said = run(self.copy, ["ctest", "--test-dir", PRESET, "--output-on-failure", "--stop-on-failure",
+                                     *choice], seconds)
+        return sorted(set(re.findall(r"\[  FAILED  \] (\w+\.\w+)", said))) or ["?"] if code else []
+
+    def by_own(self, seconds):
+        if self.object and not self.build(self.object.relative_to(self.copy / PRESET)):
+            return "broken", []
+        if self.object and self.object.read_bytes() == Fault.code[self.file]:
+            return "same", []
+        if not self.build(self.own):
+            return "broken", []
+        failing = self.failing(["-R", f"^{self.own}$"], seconds)
+        return ("own", failing) if failing else ("survived", [])
+
+    def by_others(self, seconds):
+        self.build("all")
+        failing = self.failing(["-E", f"^({self.own}|tour.*)$"], seconds) or self.failing(["-R", "^tour"], seconds)
+        return ("others", failing) if failing else ("survived", [])
+
+
+def sample(options):
+    everything = {}
+    for fault in candidates(set(filter(None, options.folders.split(",")))):
+        everything.setdefault((fault[1], fault[2]), []).append(fault)
+    if options.again:
+        caught = re.findall(r"^own +(\S+):(\d+) ([\w\- ]+?)(?: by .*)?\n    -(.*)\n    \+(.*)$", options.again.read_text(), re.M)
+        wanted = {(file, kind, old.strip(), new.strip()) for file, _, kind, old, new in caught}
+        lines = {}
+        return [fault for faults in everything.values() for fault in faults
+                if (str(fault[1]), fault[0], lines.setdefault(fault[1], (ROOT / fault[1]).read_text().splitlines())
+                    [fault[2]].strip(), fault[3].strip()) in wanted]
+    chance = random.Random(options.seed)
+    places = sorted(everything)
+    return [chance.choice(everything[place]) for place in chance.sample(places, min(options.count, len(places)))]
+
+
+def tell(fault, verdict, failing):
     kind, file, number, new = fault
-    path = copy / file
-    sound = path.read_text()
-    lines = sound.splitlines(keepends=True)
-    lines[number] = new
-    path.write_text("".join(lines))
-    try:
-        own = f"test_{test_of(file)}"
-        if run(copy, ["ninja", "-j2", "-C", PRESET, own], 1800) != 0:
-            return "broken"
-        if run(copy, ["ctest", "--test-dir", PRESET, "-R", f"^{own}$"], options.test_seconds) != 0:
-            return "own"
-        if not options.others:
-            return "survived"
-        run(copy, ["ninja", "-j2", "-C", PRESET], 3600)
-        return "survived" if run(copy, ["ctest", "--test-dir", PRESET, "-E", f"^{own}$"], 3600) == 0 else "others"
-    finally:
-        path.write_text(sound)
+    print(f"{verdict:9} {file}:{number + 1} {kind}{' by ' + ' '.join(failing) if failing else ''}")
+    if verdict not in ("same", "broken"):
+        print(f"    -{(ROOT / file).read_text().splitlines()[number]}\n    +{new.rstrip()}", flush=True)
+
+
+def put_in(faults, judge, end, options):
+    """The verdicts of \a judge on the faults that there is time for."""
+    verdicts = []
+    for fault in faults:
+        if time.time() > end:
+            print(f"time is up after {len(verdicts)} of {len(faults)}")
+            break
+        with Fault(options.copy, fault, options.jobs) as present:
+            verdict, failing = judge(present)
+        tell(fault, verdict, failing)
+        verdicts.append((fault, verdict))
+    return verdicts
 
 
 def main():
@@ -141,35 +216,27 @@ def main():
     parser.add_argument("--others", action="store_true", help="try survivors on all other tests")
     parser.add_argument("--test-seconds", type=int, default=300)
     parser.add_argument("--copy", type=Path, default=ROOT.parent / (ROOT.name + "-mutants"))
+    parser.add_argument("--jobs", type=int, default=2)
+    parser.add_argument("--again", type=Path, help="output of an earlier run whose caught faults are put in again")
     parser.add_argument("--list", action="store_true", help="only show which faults would be put in")
     options = parser.parse_args()
     end = time.time() + 60 * options.minutes
-    everything = {}
-    for fault in candidates(set(filter(None, options.folders.split(",")))):
-        everything.setdefault((fault[1], fault[2]), []).append(fault)
-    chance = random.Random(options.seed)
-    places = sorted(everything)
-    chosen = [chance.choice(everything[place]) for place in chance.sample(places, min(options.count, len(places)))]
+    chosen = sample(options)
     if options.list:
         for kind, file, number, new in chosen:
             print(f"{file}:{number + 1}: {kind}: {new.strip()}")
         return
     prepare(options.copy)
-    tally = dict.fromkeys(("broken", "own", "others", "survived"), 0)
-    for done, fault in enumerate(chosen):
-        if time.time() > end:
-            print(f"time is up after {done} of {len(chosen)}")
-            break
-        kind, file, number, new = fault
-        verdict = judge(options.copy, fault, options)
-        tally[verdict] += 1
-        print(f"{verdict:9} {file}:{number + 1} {kind}", flush=True)
-        if verdict == "survived":
-            old = (ROOT / file).read_text().splitlines()[number]
-            print(f"    -{old}\n    +{new.rstrip()}", flush=True)
-    real = sum(tally.values()) - tally["broken"]
+    verdicts = put_in(chosen, lambda fault: fault.by_own(options.test_seconds), end, options)
+    tally = Counter(verdict for _, verdict in verdicts)
+    if options.others:
+        survivors = [fault for fault, verdict in verdicts if verdict == "survived"]
+        print(f"--- all other tests on {len(survivors)} faults")
+        others = Counter(verdict for _, verdict in put_in(survivors, lambda fault: fault.by_others(3600), end, options))
+        tally.update(others=others["others"], survived=-others["others"])
+    real = tally["own"] + tally["others"] + tally["survived"]
     low, high = wilson(tally["own"] + tally["others"], real)
-    print(f"{tally}; caught {tally['own'] + tally['others']} of {real}, by their own folder {tally['own']}; "
+    print(f"{dict(tally)}; caught {tally['own'] + tally['others']} of {real}, by their own folder {tally['own']}; "
           f"95 % interval {100 * low:.0f} to {100 * high:.0f} %")
 
 

@@ -7,8 +7,9 @@ namespace sarne {
 class Program;
 
 /// Presses keys and clicks at chance, \a steps times, through whatever screens that leads to, and tells on
-/// the way what the process takes. False when memory grew by a hundredth or more after the first thousand
-/// steps, files or threads grew at all, or the program ended.
+/// the way what the process takes; now and then it goes through the next of all doors of the program, so that
+/// it comes to every screen. False when it did not, when memory grew by a hundredth or more after the first
+/// thousand steps, files or threads grew at all, or the program ended.
 bool wander(Program& program, int steps, unsigned seed, QTextStream& out);
 
 }  // namespace sarne
