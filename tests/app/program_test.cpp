@@ -93,30 +93,15 @@ TEST_F(ProgramTest, AsksForTheDriveWhenTheStoreNamesNone) {
     }
 }
 
-TEST_F(ProgramTest, ADriveLetterInTheStoreIsMapped) {
-    platform.settings.set(QStringLiteral("CDPath"), QStringLiteral("F:\\"));
+TEST_F(ProgramTest, TheStoreMayNameALetterOrAPathFromTheProgramsFolder) {
     platform.settings.set(QStringLiteral("Drives/F"), path("disc"));
-    ASSERT_TRUE(program->Main({}));
-    EXPECT_EQ(program->MediaRoot, QStringLiteral("F:\\"));
     QFile(path("disc/hudba.wav")).open(QIODevice::WriteOnly);
-    EXPECT_EQ(program->mediaFile(QStringLiteral("HUDBA.WAV")), path("disc/hudba.wav"));
-}
-
-TEST_F(ProgramTest, APathInTheStoreMayCountFromTheProgramsFolder) {
-    platform.settings.set(QStringLiteral("CDPath"), QStringLiteral("../disc"));
-    ASSERT_TRUE(program->Main({}));
-    QFile(path("disc/hudba.wav")).open(QIODevice::WriteOnly);
-    EXPECT_EQ(program->mediaFile(QStringLiteral("HUDBA.WAV")), path("disc/hudba.wav"));
-}
-
-TEST_F(ProgramTest, NoLeavesEverythingAsItWas) {
-    ASSERT_TRUE(program->Main({}));
-    platform.music.commands.clear();
-    exitAnswering(Qt::Key_Escape);
-    EXPECT_FALSE(program->hasEnded());
-    EXPECT_TRUE(program->Db().isOpen());
-    EXPECT_TRUE(program->mainScreen()->isVisible());
-    EXPECT_TRUE(platform.music.commands.isEmpty());
+    for (const char* stored : {"F:\\", "../disc"}) {
+        platform.settings.set(QStringLiteral("CDPath"), QLatin1String(stored));
+        make();
+        ASSERT_TRUE(program->Main({}));
+        EXPECT_EQ(program->mediaFile(QStringLiteral("HUDBA.WAV")), path("disc/hudba.wav")) << stored;
+    }
 }
 
 TEST_F(ProgramTest, YesEndsWhateverIsOpen) {
@@ -134,12 +119,6 @@ TEST_F(ProgramTest, YesEndsWhateverIsOpen) {
     EXPECT_GT(platform.effects.stops, 0);
     EXPECT_EQ(platform.display.asked, QList<QSize>{QSize(1024, 768)});
     program->ConfirmExit();  // asks nothing more
-}
-
-TEST_F(ProgramTest, TheDisplayIsNotTouchedWithoutASavedMode) {
-    ASSERT_TRUE(program->Main({}));
-    exitAnswering(Qt::Key_Return);
-    EXPECT_TRUE(platform.display.asked.isEmpty());
 }
 
 TEST_F(ProgramTest, StartsAndEndsWithoutAnything) {

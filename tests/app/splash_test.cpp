@@ -82,11 +82,6 @@ const QString kWarning = QStringLiteral(
     "Pokud program spustíte pod současným rozlišením, mohou být obrazovky deformovány. \r\n\r\n"
     "Chcete přesto pokračovat?\r\n\r\n");
 
-TEST_F(SplashTest, ADisplayThatFitsAsksNothing) {
-    EXPECT_TRUE(start({}));
-    EXPECT_TRUE(platform.display.asked.isEmpty());
-}
-
 TEST_F(SplashTest, AResolutionInTheStoreCountsInsteadOfTheDisplays) {
     platform.display.size = {1024, 768};
     platform.settings.set(kStoredResolution, QStringLiteral("800,600"));

@@ -36,18 +36,6 @@ TEST(PhotoSteps, StopsAtTheEndsAndWrapsByItself) {
     EXPECT_EQ(steps.position(), 0);
 }
 
-TEST(PhotoSteps, NeighboursAreWhereAStepCanLead) {
-    PhotoSteps steps;
-    Ids all;
-    for (std::int16_t id = 1; id <= 20; ++id) all.push_back(id);
-    steps.start(all, 9);
-    EXPECT_EQ(steps.neighbours(), (Ids{11, 9, 17, 3}));
-    steps.start(all, 19);
-    EXPECT_EQ(steps.neighbours(), (Ids{1, 19, 13})) << "the slide show goes round";
-    steps.start({5}, 0);
-    EXPECT_EQ(steps.neighbours(), Ids());
-}
-
 class FotoBigTest : public BrowseTest {
   protected:
     FotoBigTest() {
@@ -259,15 +247,6 @@ TEST_F(FotoBigTest, AMissingOrBrokenPhotoLeavesItsName) {
     EXPECT_EQ(run.messages, QStringList());
 }
 
-TEST_F(FotoBigTest, TheTitleStandsInTheMiddle) {
-    run.database.Execute(
-        QStringLiteral("UPDATE Recepty SET Nazev = 'Mísa uzených ryb s křenem' WHERE ID = 1"));
-    open({1});
-    const QRect place = child<Label>(*viewer, "lblNazev")->twips();
-    EXPECT_NEAR(place.center().x(), 6000, 2);
-    EXPECT_FALSE(child(*viewer, "lblMoment")->isVisible());
-}
-
 TEST_F(FotoBigTest, AnEmptyListOpensNothing) {
     open({});
     EXPECT_TRUE(isClosed());
@@ -287,22 +266,6 @@ TEST_F(FotoBigTest, TheNextPhotoIsDecodedAheadAndTheSameAsWhenItIsNot) {
         const QString file = QStringLiteral("foto/Recepty/r%1.bmp").arg(viewer->position() + 1);
         EXPECT_EQ(viewer->photo(), readPhoto(folder.filePath(file), viewer->size()));
     }
-}
-
-TEST(PhotoFile, ALargeScreenShowsTheFinerVersion) {
-    const QTemporaryDir folder;
-    const QString bmp = folder.filePath(QStringLiteral("r1.bmp"));
-    const auto save = [&](QSize size, Qt::GlobalColor colour, const QString& file) {
-        QImage picture(size, QImage::Format_RGB32);
-        picture.fill(colour);
-        ASSERT_TRUE(picture.save(file));
-    };
-    save({40, 30}, Qt::red, bmp);
-    save({80, 60}, Qt::green, folder.filePath(QStringLiteral("r1.jpg")));
-    const QImage large = readPhoto(bmp, {200, 60});
-    EXPECT_EQ(large.size(), QSize(80, 60));
-    EXPECT_GT(large.pixelColor(40, 30).green(), 200);
-    EXPECT_GT(readPhoto(bmp, {20, 20}).pixelColor(10, 7).red(), 200);
 }
 
 }  // namespace

@@ -57,21 +57,6 @@ TEST_F(ListEntriesTest, TheListHoldsTheFirst251) {
     EXPECT_EQ(readEntries(run.database, QStringLiteral("recepty"), {}).back().id, 251);
 }
 
-TEST_F(ListEntriesTest, AnEntryKnowsWhatItLeadsTo) {
-    const auto quick = readEntries(run.database, QStringLiteral("rychlerecepty"), {});
-    ASSERT_EQ(quick.size(), 3u);
-    EXPECT_EQ(quick[1].id, 2);
-    EXPECT_EQ(quick[1].target, 32);
-    EXPECT_EQ(quick[2].target, 0) << "a record that names no recipe";
-    EXPECT_EQ(readEntries(run.database, QStringLiteral("recepty"), QStringLiteral("9,"))[0].target, 9);
-}
-
-TEST_F(ListEntriesTest, WinesStandOneALineBelowTheName) {
-    EXPECT_EQ(wineText(run.database, QStringLiteral("Kapr"), 1),
-              QStringLiteral("Kapr Víno \r\nRyzlink rýnský\r\nPálava"));
-    EXPECT_EQ(wineText(run.database, QStringLiteral("Kapr"), 2), QStringLiteral("Kapr Víno "));
-}
-
 }  // namespace
 }  // namespace sarne
 

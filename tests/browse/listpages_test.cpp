@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <random>
 
 namespace sarne {
@@ -84,26 +85,13 @@ TEST(ListPages, NoSequenceOfStepsLeavesTheList) {
         ListPages pages = pagesOf(count);
         for (int i = 0; i < 2000; ++i) {
             const int step = int(random() % 41) - 20;
-            switch (random() % 6) {
-                case 0:
-                    pages.scroll(step);
-                    break;
-                case 1:
-                    pages.moveRow(step < 0 ? -1 : 1);
-                    break;
-                case 2:
-                    pages.movePage(step < 0 ? -1 : 1);
-                    break;
-                case 3:
-                    pages.selectRow(step);
-                    break;
-                case 4:
-                    pages.moveToLast();
-                    break;
-                default:
-                    pages.moveToFirst();
-                    break;
-            }
+            const std::function<void()> moves[] = {[&] { pages.scroll(step); },
+                                                   [&] { pages.moveRow(step < 0 ? -1 : 1); },
+                                                   [&] { pages.movePage(step < 0 ? -1 : 1); },
+                                                   [&] { pages.selectRow(step); },
+                                                   [&] { pages.moveToLast(); },
+                                                   [&] { pages.moveToFirst(); }};
+            moves[random() % std::size(moves)]();
             ASSERT_GE(pages.top(), 0);
             ASSERT_LE(pages.top(), std::max(0, count - 10));
             ASSERT_LT(pages.selectedEntry(), count);

@@ -131,21 +131,6 @@ TEST_F(SeznamTest, ItSaysWhatItLists) {
     EXPECT_EQ(title(), QStringLiteral("Rychlé recepty"));
 }
 
-TEST_F(SeznamTest, ALongNameBreaksInTheWinePanel) {
-    run.database.Execute(QStringLiteral(
-        "UPDATE Recepty SET Nazev = 'Koláč s lososem a pórkem na mnoho způsobů' WHERE ID = 3"));
-    open("3,", "recepty");
-    click(row(1));
-    click(button("imgBtn(1)"));
-    auto* label = child<Label>(*list, "lblVino");
-    const QImage drawn = label->grab().toImage();
-    bool second = false;
-    for (int y = drawn.height() * 2 / 3; y < drawn.height(); ++y) {
-        for (int x = 0; x < drawn.width(); ++x) second |= drawn.pixelColor(x, y) != drawn.pixelColor(0, 0);
-    }
-    EXPECT_TRUE(second) << "its end stands on a line of its own";
-}
-
 TEST_F(SeznamTest, TheWinesFitIntoThePanel) {
     open("1,", "recepty");
     for (int more = 0; more < 5; ++more)

@@ -215,17 +215,6 @@ TEST_F(SitTest, TheKeyboardReachesEverything) {
     EXPECT_EQ(run.FormStack.top(), below);
 }
 
-TEST_F(SitTest, TabFollowsTheBarAsItReads) {
-    QStringList names;
-    for (int tab = 0; tab < 10; ++tab) {
-        key(Qt::Key_Tab);
-        if (tab >= 5) names << run.window.focusWidget()->accessibleName();
-    }
-    EXPECT_EQ(names,
-              (QStringList{QStringLiteral("Zobrazí foto"), QStringLiteral("Zobraz recept"),
-                           QStringLiteral("Nápověda"), QStringLiteral("Zpět"), QStringLiteral("Konec")}));
-}
-
 TEST_F(SitTest, BackFromTheViewerTheGroupIsAsItWas) {
     click(button("imgSkupina(3)"));
     click(cell(9));

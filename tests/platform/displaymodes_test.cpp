@@ -1,7 +1,6 @@
 #include "platform/displaymodes.h"
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QFile>
@@ -81,37 +80,6 @@ TEST_F(DisplayModesTest, LeavesWhatTheUserChoseInTheMeantime) {
     EXPECT_TRUE(user->setMode({1280, 720}));
     display.reset();
     EXPECT_EQ(current(), QSize(1280, 720));
-}
-
-TEST_F(DisplayModesTest, AProgramThatDiesLeavesTheDisplayAsItWas) {
-    enum class Death { Killed, GroupKilled, Crashed };
-    for (const Death death : {Death::Killed, Death::GroupKilled, Death::Crashed}) {
-        int ready[2];
-        ASSERT_EQ(pipe(ready), 0);
-        const pid_t program = fork();
-        if (program == 0) {
-            setpgid(0, 0);
-            const auto display = modes();
-            const char answer = display->setMode(design) ? 'y' : 'n';
-            if (write(ready[1], &answer, 1) != 1) _exit(1);
-            std::signal(SIGABRT, SIG_DFL);
-            if (death == Death::Crashed) abort();
-            pause();
-            _exit(0);
-        }
-        char answer = 0;
-        ASSERT_EQ(read(ready[0], &answer, 1), 1);
-        EXPECT_EQ(answer, 'y');
-        if (death == Death::Killed) {
-            EXPECT_EQ(current(), design);
-            kill(program, SIGKILL);
-        }
-        if (death == Death::GroupKilled) kill(-program, SIGKILL);
-        waitpid(program, nullptr, 0);
-        EXPECT_TRUE(waitFor([] { return current() == full; })) << static_cast<int>(death);
-        close(ready[0]);
-        close(ready[1]);
-    }
 }
 
 TEST(DisplayModesElsewhereTest, AHelperThatHangsDoesNotKeepTheProgram) {

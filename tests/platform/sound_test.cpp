@@ -83,21 +83,6 @@ TEST_F(SoundTest, CompressedMusicLoopsWithoutASeam) {
     }
 }
 
-// Where the user of a player starts it again there is a gap: the measurement above would have seen one.
-TEST_F(SoundTest, MusicStartedAgainAtItsEndHasAGap) {
-    QObject::connect(&music, &MultimediaControl::done, [this](int) {
-        music.command(u"prev");
-        music.command(u"play");
-    });
-    music.setNotify(MediaNotify::On);
-    playMusic(600, MediaLoop::Off);
-    runFor(2500);
-    music.setNotify(MediaNotify::Off);
-    const Recording sound = server.recorded();
-    EXPECT_GT(sound.lastSound() - sound.firstSound(), 1000);
-    EXPECT_GT(sound.longestGap(), 3.0);
-}
-
 TEST_F(SoundTest, SilentIsSilentWhileTimePasses) {
     music.setSilent(MediaSound::Silent);
     playMusic(20000, MediaLoop::Off);

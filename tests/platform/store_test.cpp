@@ -1,11 +1,8 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <csignal>
 
 #include "platform/drives.h"
 #include "platform/settingsstore.h"
@@ -130,29 +127,6 @@ TEST(SingleInstanceTest, TheSecondIsRefusedUntilTheFirstEnds) {
     }
     EXPECT_TRUE(SingleInstance(lock).isFirst());
     EXPECT_TRUE(SingleInstance(QStringLiteral("/proc/none/lock")).isFirst());
-}
-
-TEST(SingleInstanceTest, AKilledProcessLeavesNoLock) {
-    const QTemporaryDir folder;
-    const QString lock = folder.filePath(QStringLiteral("zámek"));
-    int ready[2];
-    ASSERT_EQ(pipe(ready), 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        const SingleInstance held(lock);
-        const char answer = held.isFirst() ? 'y' : 'n';
-        if (write(ready[1], &answer, 1) == 1) pause();
-        _exit(0);
-    }
-    char answer = 0;
-    ASSERT_EQ(read(ready[0], &answer, 1), 1);
-    EXPECT_EQ(answer, 'y');
-    EXPECT_FALSE(SingleInstance(lock).isFirst());
-    kill(child, SIGKILL);
-    waitpid(child, nullptr, 0);
-    EXPECT_TRUE(SingleInstance(lock).isFirst());
-    close(ready[0]);
-    close(ready[1]);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "media/frmvideo.h"
 
-#include <QFile>
 #include <QRegularExpression>
 
 #include "media/videoarea.h"
@@ -24,62 +23,6 @@ TEST_F(ProgramVideoTest, WithoutASoundDeviceEverythingElseIsTheSame) {
     press(Qt::Key_Escape);
     end();
     EXPECT_EQ(messages.size(), 1) << messages.join(u'|').toStdString();
-}
-
-TEST_F(ProgramVideoTest, FilmsThatCannotBeShownAreReportedAndLeft) {
-    start("11010");
-    Form* const below = program->FormStack.top();
-    const auto films = brokenFilms(media);
-    ASSERT_FALSE(films.empty());
-    for (const BrokenFilm& broken : films) {
-        media.write(QStringLiteral("VIDEO/2.AVI"), broken.content);
-        messages.clear();
-        program->screens().showVideo(2);
-        EXPECT_TRUE(waitFor([&] { return program->FormStack.top() == below; })) << broken.what;
-        EXPECT_EQ(messages, QStringList{mediaErrorText(MediaError::InvalidFile)}) << broken.what;
-        EXPECT_TRUE(waitFor([&] { return platform->music.mode() == MediaMode::Playing; })) << broken.what;
-    }
-    messages.clear();
-    program->screens().showVideo(77);
-    EXPECT_TRUE(waitFor([&] { return program->FormStack.top() == below; }));
-    EXPECT_EQ(messages, QStringList{mediaErrorText(MediaError::FileNotFound)});
-
-    QFile whole(media.path(QStringLiteral("VIDEO/1.AVI")));
-    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
-    media.write(QStringLiteral("VIDEO/2.AVI"), whole.read(whole.size() / 4));
-    showFilm(2);
-    EXPECT_TRUE(waitFor([&] { return status() == kEnded; }, 15000)) << "what is there plays";
-}
-
-TEST_F(ProgramVideoTest, AHundredOpeningsKeepNothing) {
-    start("11010");
-    const auto open = [&](int times) {
-        for (int i = 0; i < times; ++i) {
-            showFilm(1);
-            auto* area = top<frmVideo>()->findChild<VideoArea*>();
-            ASSERT_TRUE(
-                waitFor([&] { return qGray(area->grab().toImage().pixel(area->rect().center())) > 0; }));
-            press(Qt::Key_Escape);
-            runFor(10);
-        }
-        runFor(300);
-    };
-    open(25);
-    const ProcessUse before = ProcessUse::now();
-    // What leaks grows every time; memory that the players' threads share out anew does so once in a while.
-    ProcessUse last = before;
-    qint64 leastGrowth = std::numeric_limits<qint64>::max();
-    for (int block = 0; block < 4; ++block) {
-        open(25);
-        const ProcessUse now = ProcessUse::now();
-        leastGrowth = std::min(leastGrowth, now.pages - last.pages);
-        last = now;
-    }
-    RecordProperty("least_growth_kb", static_cast<int>(leastGrowth));
-    EXPECT_LT(leastGrowth, 500);
-    EXPECT_LT(last.kilobytes, before.kilobytes + 1000);
-    EXPECT_LE(last.files, before.files);
-    EXPECT_LE(last.threads, before.threads);
 }
 
 TEST_F(ProgramVideoTest, AFilmOfAnHourIsSoughtAtOnce) {

@@ -36,17 +36,6 @@ TEST_F(IngredientPanelTest, CutleryForSixRecalculates) {
     EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 250")) << "always from the database";
 }
 
-TEST_F(IngredientPanelTest, TheToggleChangesTheUnitsAndSaysSo) {
-    click("imgPrepocet(8)");
-    click("imgKgLzice");
-    EXPECT_EQ(shown(), QStringLiteral("kapr - filety bez kůže (kus): 1\nmáslo (lžíce): 4\n      - nebo olej\n"
-                                      "máslo (lžíce): 0,1\nsůl"));
-    click("imgKgLzice");
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 500"));
-    EXPECT_EQ(run.announced,
-              (QStringList{QStringLiteral("Přepočteno na lžíce"), QStringLiteral("Přepočteno na gramy")}));
-}
-
 TEST_F(IngredientPanelTest, AnyNumberAlwaysAsks) {
     customPortions = 2.5;
     click("imgPrepocet(10)");
@@ -106,16 +95,6 @@ TEST_F(IngredientPanelTest, ARecipeWithoutPortionsHasNoAmounts) {
     EXPECT_EQ(shown(), QString()) << "no ingredients at all";
 }
 
-TEST_F(IngredientPanelTest, AnOddNumberOfPortionsStandsOnTheAnyNumberPicture) {
-    form->Skryj();
-    open(7);
-    click("imgBtn(5)");
-    EXPECT_EQ(frame(10), Button::Frame::Pressed);
-    EXPECT_EQ(state(), QStringLiteral("3 porce\nv gramech"));
-    EXPECT_TRUE(prompts.isEmpty());
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - čerstvé (g): 30"));
-}
-
 TEST_F(IngredientPanelTest, TheKeyboardStepsOverThePicturesWithHints) {
     run.announced.clear();
     for (int step = 0; step < 3; ++step) press(Qt::Key_Right);
@@ -152,13 +131,6 @@ TEST_F(IngredientPanelTest, TheUnitsLastLookedAtOutliveTheRecipe) {
     EXPECT_EQ(run.recorded.printServing.units, UnitSystem::Spoons);
     click("imgBtn(5)");
     EXPECT_EQ(state(), QStringLiteral("3 porce\nna lžíce"));
-}
-
-TEST_F(IngredientPanelTest, CollectedTextFollowsTheChoice) {
-    click("imgPrepocet(6)");
-    click("imgKgLzice");
-    EXPECT_TRUE(form->collectedText().startsWith(QStringLiteral(
-        "Porce: 6\r\nkapr - filety bez kůže (kus): 0,8\r\nmáslo (lžíce): 3\r\n      - nebo olej\r\n")));
 }
 
 }  // namespace

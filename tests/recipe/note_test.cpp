@@ -1,8 +1,6 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QPlainTextEdit>
-#include <QProcess>
-#include <csignal>
 
 #include "forms/noteedit.h"
 #include "recipe/recipefixture.h"
@@ -210,41 +208,12 @@ TEST_F(NoteTest, PrintingStoresTheNoteWithABlankBehindIt) {
     EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba ")) << "an unchanged note is left alone";
 }
 
-TEST_F(NoteTest, AScreenOverTheNoteLeavesItOpen) {
-    type(QStringLiteral("ryba"));
-    auto* music = new Form(run, QStringLiteral("frmNastavHudbu"));
-    run.PushScreen(*music);
-    music->showForm();
-    EXPECT_FALSE(note().isEnabled());
-    run.PopScreen(*music);
-    EXPECT_TRUE(note().isEnabled());
-    note().focusAtEnd();
-    type(QStringLiteral("!"));
-    EXPECT_EQ(note().text(), QStringLiteral("ryba!"));
-    EXPECT_TRUE(run.messages.isEmpty());
-}
-
-TEST_F(NoteTest, AStoreThatFailsClosesAllTheSame) {
-    type(QStringLiteral("ryba"));
-    run.database.Execute(QStringLiteral("DELETE FROM Recepty WHERE ID = 5"));
-    click("cmdUloz(0)");
-    EXPECT_FALSE(note().isVisible());
-    EXPECT_TRUE(run.messages.isEmpty());
-}
-
-TEST_F(NoteTest, LongNotesAndStrangeCharactersComeBackAsTheyWere) {
-    const QString text = QStringLiteral("'; DROP TABLE Recepty; -- \"ž\"\n\t€ 😀\n").repeated(5000);
-    note().editor().insertPlainText(text);
-    run.answers = {6};
-    click("imgBtn(0)");
-    click("imgBtn(7)");
-    EXPECT_EQ(note().text(), text);
-}
-
 TEST_F(NoteTest, AParagraphOfAnyLengthIsQuickToTypeInAndComesBackWhole) {
     const QString piece = QStringLiteral("rohlík\u00a0😀\u2063 ");
-    for (const QString& text : {piece.repeated(100000), QString(1000000, u'x')}) {
-        run.database.Execute(QStringLiteral("UPDATE Recepty SET Vlastni = '%1' WHERE ID = 5").arg(text));
+    const QString strange = QStringLiteral("'; DROP TABLE Recepty; -- \"ž\"\t€ 😀 ").repeated(5000);
+    for (const QString& text : {piece.repeated(100000), QString(1000000, u'x'), strange}) {
+        run.database.Execute(QStringLiteral("UPDATE Recepty SET Vlastni = '%1' WHERE ID = 5")
+                                 .arg(QString(text).replace(u'\'', QStringLiteral("''"))));
         form->Skryj();
         open(5);
         QElapsedTimer opening;
@@ -281,31 +250,6 @@ TEST_F(NoteTest, TabReachesItsButtons) {
     press(Qt::Key_Return);
     EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"));
     EXPECT_EQ(focused(), QStringLiteral("imgBtn(7)"));
-}
-
-/// Run by the next test in a process of its own: saves a note and dies at once.
-TEST_F(NoteTest, DISABLED_SaveAndDie) {
-    run.database.Close();
-    run.database.Open(qEnvironmentVariable("SARNE_TEST_DATABASE"));
-    form->Skryj();
-    open(5);
-    click("imgBtn(7)");
-    type(QStringLiteral("přežije"));
-    click("cmdUloz(0)");
-    std::raise(SIGKILL);
-}
-
-TEST_F(NoteTest, ASavedNoteSurvivesAKill) {
-    QProcess dying;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("SARNE_TEST_DATABASE"), file());
-    dying.setProcessEnvironment(environment);
-    dying.start(QCoreApplication::applicationFilePath(),
-                {QStringLiteral("--gtest_also_run_disabled_tests"),
-                 QStringLiteral("--gtest_filter=NoteTest.DISABLED_SaveAndDie")});
-    ASSERT_TRUE(dying.waitForFinished());
-    EXPECT_EQ(dying.exitStatus(), QProcess::CrashExit);
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("přežije"));
 }
 
 }  // namespace

@@ -48,20 +48,6 @@ TEST(PortionsTest, AreCountedInCzech) {
     for (const auto& c : cases) EXPECT_EQ(portionWord(c.number), QString::fromUtf8(c.word)) << c.number;
 }
 
-TEST(PortionsTest, TheKeyboardStepsRoundThePictures) {
-    PanelPosition position;
-    QStringList hints;
-    for (int step = 0; step < 7; ++step) hints << PanelPosition::hint(position.step(1), UnitSystem::Weights);
-    EXPECT_EQ(hints,
-              (QStringList{QStringLiteral("2 porce"), QStringLiteral("4 porce"), QStringLiteral("6 porcí"),
-                           QStringLiteral("8 porcí"), QStringLiteral("Přepočet na libovolný počet porcí"),
-                           QStringLiteral("Přepočti na lžíce"), QStringLiteral("2 porce")}));
-    EXPECT_EQ(PanelPosition::hint(position.step(-1), UnitSystem::Spoons),
-              QStringLiteral("Přepočti na gramy"));
-    PanelPosition fresh;
-    EXPECT_EQ(fresh.step(-1), PanelPosition::kToggle);
-}
-
 class ColumnsTest : public testing::Test {
   protected:
     static std::vector<PlacedLine> place(int count, const QString& text, int height = 2000) {
