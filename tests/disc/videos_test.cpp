@@ -226,7 +226,7 @@ class MakeVideos : public testing::Test {
     }
 
     QStringList run(DiscKind kind = DiscKind::Full) {
-        Problems problems;
+        Problems problems(Edition::release);
         Ledger ledger(folder_.filePath(QStringLiteral("ledger")));
         Workshop shop{book_,
                       folder_.filePath(QStringLiteral("content")),

@@ -24,7 +24,7 @@ void checkIngredients(const Cookbook& book, const Stems& stems, const Recipe& re
     const QString words = wordsOf(joined(recipe.method) + joined(recipe.serving));
     for (const IngredientLine& line : recipe.ingredients) {
         const Ingredient* ingredient = book.ingredient(line.ingredient);
-        if (ingredient && !hasAny(words, wordsFor(*ingredient, stems)))
+        if (ingredient && !hasAny(words, wordsFor(*ingredient, book.facts.mainMark, stems)))
             problems.finding(line.place,
                              QStringLiteral("postup nejmenuje surovinu „%1“").arg(ingredient->name));
     }
@@ -88,12 +88,12 @@ void checkTemperatures(const Lines& text, Problems& problems) {
 
 }  // namespace
 
-QStringList wordsFor(const Ingredient& ingredient, const Stems& stems) {
+QStringList wordsFor(const Ingredient& ingredient, const QString& mainMark, const Stems& stems) {
     QStringList words = stemsOf(ingredient.name);
     for (const StemEntry& entry : stems.ingredients)
         if (entry.names.contains(ingredient.name) ||
             entry.names.contains(ingredient.name.section(u' ', 0, 0)) ||
-            (ingredient.isFish && entry.names.contains(QStringLiteral("ryba"))))
+            (ingredient.isMain && entry.names.contains(mainMark)))
             words << entry.stems;
     return words;
 }

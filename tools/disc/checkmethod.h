@@ -5,8 +5,9 @@
 
 namespace sarne::disc {
 
-/// By which words a text may speak of \a ingredient.
-QStringList wordsFor(const Ingredient& ingredient, const Stems& stems);
+/// By which words a text may speak of \a ingredient; one that the book is about, also by those of \a
+/// mainMark.
+QStringList wordsFor(const Ingredient& ingredient, const QString& mainMark, const Stems& stems);
 
 /// Reports what the method and the rest of a recipe tell differently: ingredients that neither the method nor
 /// the serving names, tools that it names and the list lacks, times longer than the total, temperatures

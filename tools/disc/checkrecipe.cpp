@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "checkmethod.h"
+#include "core/gridtable.h"
 #include "courses.h"
 #include "nearword.h"
 #include "weights.h"
@@ -13,8 +14,6 @@ namespace {
 
 /// How far the two unit systems may be apart.
 constexpr double kTolerance = 0.10;
-constexpr int kFewestIngredients = 6;
-constexpr int kMostIngredients = 18;
 constexpr int kMostPortions = 255;
 /// More spoons than that are measured in cups.
 constexpr double kMostSpoons = 12;
@@ -57,9 +56,9 @@ void checkAmounts(const Cookbook& book, const IngredientLine& line, Problems& pr
     const double spoons = inGrams(book, line, line.spoonAmount, line.spoonUnit);
     if (weight <= 0 || spoons <= 0) {
         if (!line.isUnclear)
-            problems.error(line.place, QStringLiteral("lzice.txt neříká, kolik váží „%1“ suroviny „%2“")
-                                           .arg(book.unit(weight <= 0 ? line.unit : line.spoonUnit)->name,
-                                                book.ingredient(line.ingredient)->name));
+            problems.finding(line.place, QStringLiteral("lzice.txt neříká, kolik váží „%1“ suroviny „%2“")
+                                             .arg(book.unit(weight <= 0 ? line.unit : line.spoonUnit)->name,
+                                                  book.ingredient(line.ingredient)->name));
     } else if (std::abs(weight - spoons) > kTolerance * weight) {
         problems.error(line.place,
                        QStringLiteral("váha a lžíce se liší: %1 g a %2 g").arg(weight).arg(spoons));
@@ -70,25 +69,44 @@ bool isBlank(const Lines& text) {
     return std::all_of(text.cbegin(), text.cend(), [](const Line& line) { return line.isBlank(); });
 }
 
-bool hasFish(const Cookbook& book, const Recipe& recipe) {
+bool hasMain(const Cookbook& book, const Recipe& recipe) {
     return std::any_of(recipe.ingredients.cbegin(), recipe.ingredients.cend(),
                        [&](const IngredientLine& line) {
                            const Ingredient* ingredient = book.ingredient(line.ingredient);
-                           return ingredient && ingredient->isFish;
+                           return ingredient && ingredient->isMain;
                        });
 }
 
-void checkCourses(const Recipe& recipe, Problems& problems) {
+/// Numbers that are free for a recipe of these courses.
+QString freeNumbers(const Cookbook& book, QStringList courses) {
+    courses.sort();
+    QStringList free;
+    for (int id = 1; id <= kGridCells && free.size() < 5; ++id) {
+        QStringList shown = gridCourses(book.facts, id);
+        shown.sort();
+        if (shown == courses && !book.recipes.contains(id)) free << QString::number(id);
+    }
+    return free.isEmpty() ? QStringLiteral("51 a dál") : free.join(QStringLiteral(", "));
+}
+
+void checkCourses(const Cookbook& book, const Recipe& recipe, Problems& problems) {
+    const Place place = recipe.placeOf(QStringLiteral("chod"));
+    for (const QString& course : recipe.courses)
+        if (!book.facts.courses.contains(course))
+            problems.error(place, QStringLiteral("chod „%1“ kniha nemá").arg(course) +
+                                      didYouMean(course, book.facts.courses));
+    if (recipe.id > kGridCells) return;
     QStringList given = recipe.courses;
-    QStringList wanted = gridCourses(recipe.id);
+    QStringList wanted = gridCourses(book.facts, recipe.id);
     given.sort();
     wanted.sort();
     if (given != wanted)
-        problems.error(
-            recipe.placeOf(QStringLiteral("chod")),
-            QStringLiteral("mřížka fotografií ukazuje recept %1 jako: %2; chod se řídí číslem receptu")
-                .arg(recipe.id)
-                .arg(gridCourses(recipe.id).join(QStringLiteral(", "))));
+        problems.error(place,
+                       QStringLiteral("mřížka fotografií ukazuje recept %1 jako: %2; chod se řídí číslem "
+                                      "receptu, volná čísla pro %3: %4")
+                           .arg(recipe.id)
+                           .arg(gridCourses(book.facts, recipe.id).join(QStringLiteral(", ")),
+                                given.join(QStringLiteral(", ")), freeNumbers(book, given)));
 }
 
 /// Reports those of \a names that are none of \a known.
@@ -118,8 +136,9 @@ void checkHead(const Cookbook& book, const Recipe& recipe, Problems& problems) {
     required("dlouhý název", !recipe.longName.isEmpty());
     required("porce", recipe.portions >= 1 && recipe.portions <= kMostPortions);
     required("minut", recipe.minutes >= 1);
-    required("pomůcky", !recipe.tools.isEmpty());
-    required("vína", !recipe.wines.isEmpty());
+    for (const char* key : {"pomůcky", "vína"})
+        required(key, recipe.headPlaces.contains(QString::fromUtf8(key)) ||
+                          !book.facts.required.contains(QString::fromUtf8(key)));
     for (const char* key : {"příprava", "vaření", "obtížnost", "kosti", "mrazit", "vydrží", "sezona"})
         if (!recipe.headPlaces.contains(QString::fromUtf8(key)))
             problems.finding(recipe.place,
@@ -127,7 +146,7 @@ void checkHead(const Cookbook& book, const Recipe& recipe, Problems& problems) {
     checkNames(recipe, "pomůcky", recipe.tools, book.tools.names, problems);
     checkNames(recipe, "vína", recipe.wines, namesOf(book.wines), problems);
     checkNames(recipe, "odkazy", recipe.auxiliary, namesOf(book.auxiliary), problems);
-    checkCourses(recipe, problems);
+    checkCourses(book, recipe, problems);
 }
 
 void checkTimes(const Recipe& recipe, Problems& problems) {
@@ -141,23 +160,23 @@ void checkTimes(const Recipe& recipe, Problems& problems) {
                              .arg(recipe.cooking));
 }
 
-void checkSections(const Recipe& recipe, Problems& problems) {
+void checkSections(const BookFacts& facts, const Recipe& recipe, Problems& problems) {
     const std::pair<const char*, const Lines*> texts[] = {{"Postup", &recipe.method},
                                                           {"Úvod", &recipe.introduction},
                                                           {"Jak podávat", &recipe.serving},
                                                           {"Poznámka", &recipe.note},
                                                           {"Víno", &recipe.wineText}};
     for (const auto& [title, text] : texts)
-        if (isBlank(*text))
+        if (isBlank(*text) && facts.required.contains(QString::fromUtf8(title)))
             problems.error(recipe.sectionPlaces.value(QString::fromUtf8(title), recipe.place),
                            QStringLiteral("chybí text části „%1“").arg(QString::fromUtf8(title)));
     const qsizetype count = recipe.ingredients.size();
-    if (count < kFewestIngredients || count > kMostIngredients)
+    if (count < facts.fewestIngredients || count > facts.mostIngredients)
         problems.error(recipe.sectionPlaces.value(QStringLiteral("Suroviny"), recipe.place),
                        QStringLiteral("surovin je %1, má jich být %2 až %3")
                            .arg(count)
-                           .arg(kFewestIngredients)
-                           .arg(kMostIngredients));
+                           .arg(facts.fewestIngredients)
+                           .arg(facts.mostIngredients));
 }
 
 }  // namespace
@@ -165,8 +184,9 @@ void checkSections(const Recipe& recipe, Problems& problems) {
 void checkRecipe(const Cookbook& book, const Stems& stems, const Recipe& recipe, Problems& problems) {
     checkHead(book, recipe, problems);
     checkTimes(recipe, problems);
-    checkSections(recipe, problems);
-    if (!hasFish(book, recipe)) problems.error(recipe.place, QStringLiteral("mezi surovinami není ryba"));
+    checkSections(book.facts, recipe, problems);
+    if (const QString& mark = book.facts.mainMark; !mark.isEmpty() && !hasMain(book, recipe))
+        problems.error(recipe.place, QStringLiteral("mezi surovinami není %1").arg(mark));
     for (const IngredientLine& line : recipe.ingredients) {
         checkAmounts(book, line, problems);
         checkMeasure(book, recipe, line, problems);

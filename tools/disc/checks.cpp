@@ -14,9 +14,6 @@
 namespace sarne::disc {
 namespace {
 
-/// How long the text of a keyword is.
-constexpr int kFewestWords = 60;
-constexpr int kMostWords = 160;
 constexpr int kQuickMinutes = 30;
 constexpr int kSwitches = 5;
 
@@ -30,14 +27,15 @@ void checkArticle(const Article& article, Problems& problems) {
     checkSteps(article.text, problems);
 }
 
-void checkKeyword(const Article& keyword, Problems& problems) {
+void checkKeyword(const BookFacts& facts, const Article& keyword, Problems& problems) {
     qsizetype words = 0;
     for (const Line& line : keyword.text)
         words += plainText(line.text).split(u' ', Qt::SkipEmptyParts).size();
-    if (words < kFewestWords || words > kMostWords)
-        problems.finding(
-            keyword.place,
-            QStringLiteral("%1 slov, má jich být %2 až %3").arg(words).arg(kFewestWords).arg(kMostWords));
+    if (words < facts.fewestKeywordWords || words > facts.mostKeywordWords)
+        problems.finding(keyword.place, QStringLiteral("%1 slov, má jich být %2 až %3")
+                                            .arg(words)
+                                            .arg(facts.fewestKeywordWords)
+                                            .arg(facts.mostKeywordWords));
 }
 
 void checkQuick(const Cookbook& book, Problems& problems) {
@@ -134,7 +132,7 @@ void checkCookbook(const Cookbook& book, const Stems& stems, Problems& problems)
     checkTags(book, problems);
     checkSearch(book, problems);
     for (const Article& article : book.auxiliary + book.keywords) checkArticle(article, problems);
-    for (const Article& keyword : book.keywords) checkKeyword(keyword, problems);
+    for (const Article& keyword : book.keywords) checkKeyword(book.facts, keyword, problems);
     checkQuick(book, problems);
     checkUse(book, problems);
     checkPages(book, problems);

@@ -7,8 +7,6 @@
 namespace sarne::disc {
 namespace {
 
-constexpr int kFewestSearchWords = 150;
-
 bool isTagList(const QString& target) {
     static const QStringList others{QStringLiteral("přímo "), QStringLiteral("video "),
                                     QStringLiteral("heslo ")};
@@ -61,11 +59,11 @@ void checkSearch(const Cookbook& book, Problems& problems) {
             }))
             problems.error(typed.place, QStringLiteral("„%1“ nenajde žádnou surovinu").arg(typed.word) +
                                             didYouMean(typed.word, nouns));
-    if (book.searchWords.size() < kFewestSearchWords)
+    if (book.searchWords.size() < book.facts.searchWords)
         problems.finding({QStringLiteral("hledani.txt"), 0},
                          QStringLiteral("slov je %1, má jich být aspoň %2")
                              .arg(book.searchWords.size())
-                             .arg(kFewestSearchWords));
+                             .arg(book.facts.searchWords));
     QSet<int> own;
     QSet<int> alternatives;
     for (const Recipe& recipe : book.recipes)

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QList>
 #include <QMap>
+#include <QPointF>
 #include <QRect>
 #include <QSet>
 #include <QString>
@@ -26,7 +27,8 @@ struct Unit {
 struct Ingredient {
     int id = 0;
     QString name;
-    bool isFish = false;
+    /// Whether the book is about it: a fish.
+    bool isMain = false;
     Place place;
 };
 
@@ -104,6 +106,9 @@ struct Recipe {
     QString season;
     /// What the menu sorts by: species, method, season, course …, and what follows from wines and time.
     QSet<QString> tags;
+    /// The point of the photo around which it is cut to the screen's shape, 0 to 1 from the upper left
+    /// corner.
+    QPointF photoFocus{0.5, 0.5};
     /// The tags that the head gives, and under which key.
     QHash<QString, QString> tagKeys;
     QStringList courses;
@@ -270,8 +275,31 @@ struct SearchWord {
     QString word;
 };
 
+/// What kind of book it is, as kniha.txt says; where it says nothing, as the fish book was written.
+struct BookFacts {
+    QString title = QStringLiteral("Velisa sarn");
+    /// The mark that the ingredients have which the book is about; empty when every dish may be in it.
+    QString mainMark = QStringLiteral("ryba");
+    /// What the four groups of the photo grid are called in the recipes' heads.
+    QStringList courses{QStringLiteral("polévka"), QStringLiteral("teplé"), QStringLiteral("studené"),
+                        QStringLiteral("slavnostní")};
+    /// The keys of a recipe's head whose words the menu picks by.
+    QStringList tagKeys{QStringLiteral("ryba"), QStringLiteral("úprava"), QStringLiteral("období"),
+                        QStringLiteral("zařazení")};
+    /// Keys and sections that no recipe may lack.
+    QStringList required{QStringLiteral("pomůcky"), QStringLiteral("vína"),        QStringLiteral("Postup"),
+                         QStringLiteral("Úvod"),    QStringLiteral("Jak podávat"), QStringLiteral("Poznámka"),
+                         QStringLiteral("Víno")};
+    int fewestIngredients = 6;
+    int mostIngredients = 18;
+    int fewestKeywordWords = 60;
+    int mostKeywordWords = 160;
+    int searchWords = 150;
+};
+
 /// The whole content of the disc as it was read.
 struct Cookbook {
+    BookFacts facts;
     QList<Unit> units;
     QHash<QString, int> unitForms;
     QList<Ingredient> ingredients;

@@ -6,16 +6,10 @@
 
 namespace sarne::disc {
 
-const QStringList& courses() {
-    static const QStringList all{QStringLiteral("polévka"), QStringLiteral("teplé"),
-                                 QStringLiteral("studené"), QStringLiteral("slavnostní")};
-    return all;
-}
-
-QStringList gridCourses(int recipe) {
+QStringList gridCourses(const BookFacts& facts, int recipe) {
     QStringList found;
     for (int group = 0; group < kGridGroups; ++group)
-        if (std::ranges::count(gridGroupIds(group), recipe) > 0) found << courses()[group];
+        if (std::ranges::count(gridGroupIds(group), recipe) > 0) found << facts.courses[group];
     return found;
 }
 

@@ -1,14 +1,11 @@
 #pragma once
 
-#include <QStringList>
+#include "cookbook.h"
 
 namespace sarne::disc {
 
-/// The photo grid's groups in their order, as courses: "polévka", "teplé", "studené", "slavnostní".
-const QStringList& courses();
-
-/// The courses that the grid shows \a recipe in.
-QStringList gridCourses(int recipe);
+/// The courses that the grid shows \a recipe in; none where it has no cell for it.
+QStringList gridCourses(const BookFacts& facts, int recipe);
 
 }  // namespace sarne::disc
 

@@ -6,11 +6,13 @@
 #include <QImage>
 #include <QImageReader>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 #include <filesystem>
 
 #include "core/gridtable.h"
-#include "courses.h"
 #include "nearword.h"
+#include "ownfiles.h"
 #include "plate.h"
 #include "stamps.h"
 
@@ -28,12 +30,25 @@ constexpr QSize kGroundSize(320, 240);
 const QColor kPaper(244, 234, 210);
 const QColor kNight(11, 34, 38);
 
-/// \a picture cut to \a size's shape around its middle and scaled to it.
-QImage fitted(const QImage& picture, const QSize& size) {
+constexpr QPointF kMiddle(0.5, 0.5);
+
+/// \a picture cut to \a size's shape around a point of it, as nearly as its edges allow, and scaled to it.
+QImage fitted(const QImage& picture, const QSize& size, const QPointF& focus = kMiddle) {
     const QSize part = size.scaled(picture.size(), Qt::KeepAspectRatio);
-    const QRect middle(QPoint((picture.width() - part.width()) / 2, (picture.height() - part.height()) / 2),
-                       part);
-    return picture.copy(middle).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const auto begin = [](int whole, int kept, double at) {
+        return std::clamp(static_cast<int>(std::lround(whole * at - kept / 2.0)), 0, whole - kept);
+    };
+    const QRect cut(QPoint(begin(picture.width(), part.width(), focus.x()),
+                           begin(picture.height(), part.height(), focus.y())),
+                    part);
+    return picture.copy(cut).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// A ground where the art has none.
+QImage plainGround() {
+    QImage ground(kScreenSize, QImage::Format_RGB32);
+    ground.fill(kNight);
+    return ground;
 }
 
 /// A calm ground for texts: the picture blurred and lightened towards paper.
@@ -84,13 +99,13 @@ QString renderedName(const QString& description) {
 /// The photo of \a recipe; empty when there is none of this dish.
 QString photoOf(Workshop& shop, const Recipe& recipe) {
     const QString beside = shop.content + u'/' + recipe.place.file.chopped(4);
-    for (const char* suffix : {".jpg", ".jpeg", ".png", ".webp"})
-        if (QFileInfo::exists(beside + QLatin1String(suffix))) return beside + QLatin1String(suffix);
+    if (const QString own = ownPicture(beside); !own.isEmpty()) return own;
     const QString number = QStringLiteral("%1").arg(recipe.id, 2, 10, QLatin1Char('0'));
     const QString file = shop.artPicture(QStringLiteral("rendered/dishes/") + number);
     const QString shown = renderedName(shop.art + QStringLiteral("/dishes/%1.dish").arg(number));
     if (!QFileInfo::exists(file)) {
-        shop.problems.finding({file, 0}, QStringLiteral("fotografie jídla „%1“ chybí").arg(recipe.name));
+        shop.problems.finding({shop.isOwnDisc() ? recipe.place.file : file, 0},
+                              QStringLiteral("fotografie jídla „%1“ chybí").arg(recipe.name));
     } else if (shown != recipe.name) {
         shop.problems.finding(
             recipe.placeOf(QStringLiteral("název")),
@@ -110,6 +125,7 @@ struct Dish {
     QString name;
     QString source;
     QString ending;
+    QPointF focus = kMiddle;
 
     QString file(const char* folder) const { return file(folder, ending); }
     QString file(const char* folder, const QString& suffix) const {
@@ -127,7 +143,7 @@ struct Dish {
 
     bool makeFinest(const QImage& photo) const {
         const QString jpg = QStringLiteral("jpg");
-        return saveFinest(photo, source, file("Recepty", jpg)) &&
+        return saveFinest(photo, focus == kMiddle ? source : QString(), file("Recepty", jpg)) &&
                link(file("Recepty", jpg), file("Velke", jpg));
     }
 
@@ -137,7 +153,9 @@ struct Dish {
     }
 
     bool make() const {
-        const QImage photo = source.isEmpty() ? plainPlate(name) : QImage(source);
+        QImage photo = source.isEmpty() ? plainPlate(name) : readPicture(source);
+        if (!photo.isNull() && focus != kMiddle)
+            photo = fitted(photo, kScreenSize.scaled(photo.size(), Qt::KeepAspectRatio), focus);
         return !photo.isNull() && (!isBitmap() || makeBitmap(photo)) &&
                ((isBitmap() && !hasFiner()) || makeFinest(photo)) &&
                savePicture(fitted(photo, kSmallSize), file("Male")) &&
@@ -148,7 +166,10 @@ struct Dish {
         QStringList outputs{file("Recepty"), file("Velke"), file("Male"), file("Podklad")};
         if (hasFiner())
             outputs << file("Recepty", QStringLiteral("jpg")) << file("Velke", QStringLiteral("jpg"));
-        return {outputs, originOf({source}, stamp::photos() + name), [*this] { return make(); }};
+        return {outputs,
+                originOf({source},
+                         stamp::photos() + name + QStringLiteral("%1 %2").arg(focus.x()).arg(focus.y())),
+                [*this] { return make(); }};
     }
 };
 
@@ -158,16 +179,15 @@ QRect onPicture(const QRect& twips) {
         .toRect();
 }
 
-/// All dishes on the grid's ground; those outside \a course dimmed, none when it is empty.
-QImage composite(const QString& ground, const QList<Dish>& dishes, const QString& course) {
-    QImage picture(ground);
-    if (picture.isNull()) return {};
-    picture = fitted(picture, kScreenSize).convertToFormat(QImage::Format_RGB32);
+/// The cells' dishes on the grid's ground; those outside \a group dimmed, none when it is negative.
+QImage composite(const QImage& ground, const QList<Dish>& dishes, int group) {
+    if (ground.isNull()) return {};
+    QImage picture = fitted(ground, kScreenSize).convertToFormat(QImage::Format_RGB32);
     QPainter painter(&picture);
     for (const Dish& dish : dishes) {
         const QRect cell = onPicture(gridCellRect(dish.id));
         painter.drawImage(cell, fitted(QImage(dish.file("Male")), cell.size()));
-        if (course.isEmpty() || gridCourses(dish.id).contains(course)) continue;
+        if (group < 0 || std::ranges::count(gridGroupIds(group), dish.id) > 0) continue;
         QColor dim = kNight;
         dim.setAlpha(200);
         painter.fillRect(cell, dim);
@@ -177,25 +197,41 @@ QImage composite(const QString& ground, const QList<Dish>& dishes, const QString
 
 QList<Task> gridTasks(Workshop& shop, const QList<Dish>& dishes) {
     QString details = stamp::photos();
-    for (const Dish& dish : dishes) details += dish.task().origin;
-    const QString ground = shop.neededPicture(QStringLiteral("rendered/pozadi/sit"));
+    const QList<Dish> cells = dishes.first(kGridCells);
+    for (const Dish& dish : cells) details += dish.task().origin;
+    const QString ground = shop.base.isEmpty() ? shop.neededPicture(QStringLiteral("rendered/pozadi/sit"))
+                                               : shop.artPicture(QStringLiteral("rendered/pozadi/sit"));
     QList<Task> tasks;
-    for (int i = -1; i < courses().size(); ++i) {
+    for (int i = -1; i < kGridGroups; ++i) {
         const QString name = i < 0 ? QStringLiteral("sitCela") : QStringLiteral("sit%1").arg(i);
         const QString file = shop.disc + QStringLiteral("/foto/%1.%2").arg(name, shop.pictureEnding());
         tasks << Task{{file}, originOf({ground}, details), [=] {
-                          return savePicture(composite(ground, dishes, courses().value(i)), file);
+                          return savePicture(
+                              composite(QFileInfo::exists(ground) ? QImage(ground) : plainGround(), cells, i),
+                              file);
                       }};
     }
     return tasks;
 }
 
-/// One picture of the disc from one file of the art.
-Task pictureTask(Workshop& shop, const QString& source, const QString& target, const QSize& size) {
-    const QString from = shop.neededPicture(source);
+/// Where a picture of the disc comes from: the author's own, called \a own below the content; the art's; none
+/// where a base gives the screens, else that is an error.
+QString sourceOf(Workshop& shop, const QString& own, const QString& art) {
+    if (QString file = ownPicture(shop.content + u'/' + own); !file.isEmpty()) return file;
+    QString file = shop.artPicture(art);
+    if (QFileInfo::exists(file)) return file;
+    if (!shop.isOwnDisc()) return shop.neededPicture(art);
+    shop.problems.finding({own + QStringLiteral(".jpg"), 0},
+                          QStringLiteral("obrázek chybí, místo něj je prostý talíř"));
+    return {};
+}
+
+/// One picture of the disc; a plate with \a name where \a from is empty.
+Task pictureTask(const Workshop& shop, const QString& from, const QString& name, const QString& target,
+                 const QSize& size) {
     const QString to = shop.disc + u'/' + target + u'.' + shop.pictureEnding();
-    return {{to}, originOf({from}, stamp::photos()), [=] {
-                const QImage picture(from);
+    return {{to}, originOf({from}, stamp::photos() + name), [=] {
+                const QImage picture = from.isEmpty() ? plainPlate(name) : readPicture(from);
                 return !picture.isNull() && savePicture(fitted(picture, size), to);
             }};
 }
@@ -225,29 +261,52 @@ QList<Task> thingTasks(Workshop& shop) {
     return tasks;
 }
 
-/// The fifty cells of the grid; a number without a recipe shows an empty plate.
+/// The fifty cells of the grid, where a number without a recipe shows an empty plate, then what it has no
+/// cell for.
 QList<Dish> allDishes(Workshop& shop) {
     QList<Dish> dishes;
     for (int id = 1; id <= kGridCells; ++id) {
         const auto recipe = shop.book.recipes.constFind(id);
         const bool isThere = recipe != shop.book.recipes.cend();
-        dishes << Dish{shop.disc, id, isThere ? recipe->name : QString(),
-                       isThere ? photoOf(shop, *recipe) : QString(), shop.pictureEnding()};
+        dishes << Dish{shop.disc,
+                       id,
+                       isThere ? recipe->name : QString(),
+                       isThere ? photoOf(shop, *recipe) : QString(),
+                       shop.pictureEnding(),
+                       isThere ? recipe->photoFocus : kMiddle};
     }
+    for (const Recipe& recipe : shop.book.recipes)
+        if (recipe.id > kGridCells)
+            dishes << Dish{
+                shop.disc,        recipe.id, recipe.name, photoOf(shop, recipe), shop.pictureEnding(),
+                recipe.photoFocus};
     return dishes;
 }
 
 }  // namespace
 
+void checkPhotos(Workshop& shop) {
+    for (const Dish& dish : allDishes(shop))
+        if (!dish.source.isEmpty() && !isReadable(dish.source))
+            shop.problems.error({QDir(shop.content).relativeFilePath(dish.source), 0},
+                                QStringLiteral("obrázek nejde přečíst"));
+    thingTasks(shop);
+}
+
 void makePhotos(Workshop& shop) {
     const QList<Dish> dishes = allDishes(shop);
     QList<Task> tasks;
     for (const Dish& dish : dishes) tasks << dish.task();
-    tasks << pictureTask(shop, QStringLiteral("rendered/prvky/vino256"), QStringLiteral("foto/vino256"),
-                         {400, 300});
-    for (const GalleryPicture& picture : shop.book.gallery)
-        tasks << pictureTask(shop, QStringLiteral("rendered/sponzor/%1").arg(picture.id),
-                             QStringLiteral("foto/sponzor/%1").arg(picture.id), kScreenSize);
+    tasks << pictureTask(shop,
+                         sourceOf(shop, QStringLiteral("vino"), QStringLiteral("rendered/prvky/vino256")),
+                         QStringLiteral("Víno"), QStringLiteral("foto/vino256"), {400, 300});
+    for (const GalleryPicture& picture : shop.book.gallery) {
+        const QString number = QString::number(picture.id);
+        tasks << pictureTask(
+            shop,
+            sourceOf(shop, QStringLiteral("sponzor/") + number, QStringLiteral("rendered/sponzor/") + number),
+            picture.name, QStringLiteral("foto/sponzor/") + number, kScreenSize);
+    }
     tasks << thingTasks(shop);
     if (shop.makeAll(tasks)) shop.makeAll(gridTasks(shop, dishes));
 }

@@ -10,21 +10,26 @@ QString located(const Place& place, const QString& text) {
 
 }  // namespace
 
-void Problems::add(QStringList& list, const QString& text) {
+void Problems::add(QStringList& list, const Problem& problem) {
+    const QString line = located(problem.place, problem.text);
     const std::lock_guard lock(adding_);
-    if (!list.contains(text)) list << text;
+    if (list.contains(line)) return;
+    list << line;
+    all_ << problem;
 }
 
 void Problems::error(const Place& place, const QString& text) {
-    add(errors_, located(place, text));
+    add(errors_, {place, text, true});
 }
 
 void Problems::finding(const Place& place, const QString& text) {
-    add(edition_ == Edition::release ? errors_ : notes_, located(place, text));
+    const bool isError = edition_ == Edition::release;
+    add(isError ? errors_ : notes_, {place, text, isError});
 }
 
 void Problems::note(const QString& text) {
-    add(notes_, text);
+    const std::lock_guard lock(adding_);
+    if (!notes_.contains(text)) notes_ << text;
 }
 
 }  // namespace sarne::disc

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <mutex>
@@ -11,6 +12,13 @@ namespace sarne::disc {
 struct Place {
     QString file;
     int line = 0;
+};
+
+/// Something wrong, as a person is told of it.
+struct Problem {
+    Place place;
+    QString text;
+    bool isError = true;
 };
 
 /// Whether the book is being written, when what is only unfinished may wait, or is to be shipped.
@@ -31,14 +39,17 @@ class Problems {
     /// "file:line: text", in the order in which they were found, each once.
     const QStringList& errors() const { return errors_; }
     const QStringList& notes() const { return notes_; }
+    /// Errors and findings with their places, in the order in which they were found.
+    const QList<Problem>& all() const { return all_; }
 
   private:
-    void add(QStringList& list, const QString& text);
+    void add(QStringList& list, const Problem& problem);
 
     const Edition edition_;
     std::mutex adding_;
     QStringList errors_;
     QStringList notes_;
+    QList<Problem> all_;
 };
 
 }  // namespace sarne::disc

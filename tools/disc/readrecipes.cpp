@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 
+#include "courses.h"
 #include "nearword.h"
 #include "readtables.h"
 #include "recipehead.h"
@@ -11,6 +12,9 @@ namespace sarne::disc {
 namespace {
 
 const QString kIngredients = QStringLiteral("Suroviny");
+
+/// What the recipe table's key holds.
+constexpr int kHighestRecipe = 9999;
 
 struct Amount {
     double number = 0;
@@ -62,7 +66,7 @@ void readAmounts(const QString& text, const Line& line, const Cookbook& book, Pr
     read.spoonUnit = second.unit;
     const Unit* unit = book.unit(first.unit);
     if (both.size() == 1 && unit && (unit->kind == UnitKind::weight || unit->kind == UnitKind::volume))
-        problems.error(line.place, QStringLiteral("chybí množství na lžíce"));
+        problems.finding(line.place, QStringLiteral("chybí množství na lžíce"));
 }
 
 void readSection(const Section& section, const Cookbook& book, Recipe& recipe, Problems& problems) {
@@ -125,11 +129,14 @@ void readRecipes(const ContentFolder& folder, Cookbook& book, Problems& problems
         recipe.place = {file, 1};
         recipe.id = file.section(u'/', -1).section(u'-', 0, 0).toInt();
         const QList<Section> parts = sections(folder.read(file));
-        readRecipeHead(parts.first().lines, recipe, problems);
+        readRecipeHead(parts.first().lines, book.facts, recipe, problems);
+        if (recipe.courses.isEmpty()) recipe.courses = gridCourses(book.facts, recipe.id);
         for (const Section& section : parts.mid(1)) readSection(section, book, recipe, problems);
         addDerivedTags(book, recipe);
-        if (recipe.id < 1 || recipe.id > 50 || book.recipes.contains(recipe.id))
-            problems.error(recipe.place, QStringLiteral("soubor začíná číslem od 1 do 50, každým jednou"));
+        if (recipe.id < 1 || recipe.id > kHighestRecipe || book.recipes.contains(recipe.id))
+            problems.error(
+                recipe.place,
+                QStringLiteral("soubor začíná číslem od 1 do %1, každým jednou").arg(kHighestRecipe));
         book.recipes.insert(recipe.id, recipe);
     }
 }

@@ -74,7 +74,7 @@ void checkSponsors(const Cookbook& book, const LinkBook& links, Problems& proble
     for (const int topic : {1, 9, 13}) {
         const auto shows = [topic](const GalleryPicture& one) { return one.topic == topic; };
         if (std::none_of(book.gallery.cbegin(), book.gallery.cend(), shows))
-            problems.error({kFile, 0}, QStringLiteral("téma %1 nemá obraz").arg(topic));
+            problems.finding({kFile, 0}, QStringLiteral("téma %1 nemá obraz").arg(topic));
     }
     for (const GalleryPicture& picture : book.gallery)
         for (const GalleryArea& area : picture.areas) checkArea(book, picture, area, links, problems);

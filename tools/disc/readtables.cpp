@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "readfacts.h"
 #include "readfoods.h"
 #include "readsponsors.h"
 
@@ -47,7 +48,7 @@ void readIngredients(const ContentFolder& folder, Cookbook& book, Problems& prob
         if (book.ingredientId(row.at(0)))
             problems.error(row.place, QStringLiteral("surovina „%1“ tu stojí podruhé").arg(row.at(0)));
         book.ingredients << Ingredient{static_cast<int>(book.ingredients.size()) + 1, row.at(0),
-                                       row.at(1) == QStringLiteral("ryba"), row.place};
+                                       !row.at(1).isEmpty() && row.at(1) == book.facts.mainMark, row.place};
     }
 }
 
@@ -82,7 +83,7 @@ void readWeights(const ContentFolder& folder, Cookbook& book, Problems& problems
         if (line.isBlank()) continue;
         const KeyValue entry = keyValue(line);
         const QString name = entry.key.section(u',', 0, 0).trimmed();
-        if (!book.ingredientId(name) && name != QStringLiteral("ryba"))
+        if (!book.ingredientId(name) && name != book.facts.mainMark)
             problems.error(line.place, QStringLiteral("neznámá surovina „%1“").arg(name));
         for (const QString& part : entry.value.split(QStringLiteral("; "))) {
             const auto [unit, grams] = unitWeight(part.trimmed(), book);
@@ -217,6 +218,7 @@ double czechNumber(const QString& text) {
 }
 
 void readTables(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    book.facts = readFacts(folder, problems);
     readUnits(folder, book, problems);
     readIngredients(folder, book, problems);
     book.refinements = readNames(folder, QStringLiteral("upresneni.txt"), problems);

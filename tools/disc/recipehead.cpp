@@ -41,15 +41,21 @@ Field choice(QString Recipe::*member, const QStringList& words) {
     };
 }
 
+/// "30 60": a point of the photo, in hundredths of its width and height.
+bool readFocus(Recipe& recipe, const QString& value) {
+    QString plain = value;
+    const QStringList parts = plain.remove(u'%').simplified().split(u' ');
+    bool isAcross = false, isDown = false;
+    recipe.photoFocus = QPointF(parts.value(0).toInt(&isAcross), parts.value(1).toInt(&isDown)) / 100;
+    return parts.size() == 2 && isAcross && isDown && QRectF(0, 0, 1, 1).contains(recipe.photoFocus);
+}
+
 /// Tags, which the menu picks by.
-std::pair<QString, Field> tags(const QString& key) {
-    return {key, [key](Recipe& recipe, const QString& value) {
-                for (const QString& tag : trimmedParts(value, u',')) {
-                    recipe.tags.insert(tag);
-                    recipe.tagKeys.insert(tag, key);
-                }
-                return true;
-            }};
+void readTags(const KeyValue& entry, Recipe& recipe) {
+    for (const QString& tag : trimmedParts(entry.value, u',')) {
+        recipe.tags.insert(tag);
+        recipe.tagKeys.insert(tag, entry.key);
+    }
 }
 
 const QHash<QString, Field>& fields() {
@@ -70,35 +76,35 @@ const QHash<QString, Field>& fields() {
         {QStringLiteral("vydrží"), text(&Recipe::keeping)},
         {QStringLiteral("sezona"), text(&Recipe::season)},
         {QStringLiteral("chod"), names(&Recipe::courses)},
-        tags(QStringLiteral("ryba")),
-        tags(QStringLiteral("úprava")),
-        tags(QStringLiteral("období")),
-        tags(QStringLiteral("zařazení")),
+        {QStringLiteral("výřez"), readFocus},
         {QStringLiteral("pomůcky"), names(&Recipe::tools)},
         {QStringLiteral("vína"), names(&Recipe::wines)},
         {QStringLiteral("odkazy"), names(&Recipe::auxiliary)}};
     return all;
 }
 
-void readEntry(const KeyValue& entry, Recipe& recipe, Problems& problems) {
+void readEntry(const KeyValue& entry, const QStringList& tagKeys, Recipe& recipe, Problems& problems) {
     const auto field = fields().constFind(entry.key);
-    if (field == fields().cend()) {
+    const bool isTag = tagKeys.contains(entry.key);
+    if (field == fields().cend() && !isTag) {
         problems.error(entry.place, QStringLiteral("neznámý klíč „%1“").arg(entry.key) +
-                                        didYouMean(entry.key, fields().keys()));
+                                        didYouMean(entry.key, fields().keys() + tagKeys));
     } else if (recipe.headPlaces.contains(entry.key)) {
         problems.error(entry.place, QStringLiteral("klíč „%1“ tu stojí podruhé").arg(entry.key));
     } else {
         recipe.headPlaces.insert(entry.key, entry.place);
-        if (!(*field)(recipe, entry.value))
+        if (isTag)
+            readTags(entry, recipe);
+        else if (!(*field)(recipe, entry.value))
             problems.error(entry.place, QStringLiteral("„%1“ nemůže být „%2“").arg(entry.key, entry.value));
     }
 }
 
 }  // namespace
 
-void readRecipeHead(const Lines& lines, Recipe& recipe, Problems& problems) {
+void readRecipeHead(const Lines& lines, const BookFacts& facts, Recipe& recipe, Problems& problems) {
     for (const Line& line : lines)
-        if (!line.isBlank()) readEntry(keyValue(line), recipe, problems);
+        if (!line.isBlank()) readEntry(keyValue(line), facts.tagKeys, recipe, problems);
 }
 
 }  // namespace sarne::disc

@@ -7,7 +7,7 @@ namespace sarne::disc {
 
 /// Reads the "key: value" lines at the head of a recipe's file. What is unknown, doubled or no value of its
 /// key is reported at its own line.
-void readRecipeHead(const Lines& lines, Recipe& recipe, Problems& problems);
+void readRecipeHead(const Lines& lines, const BookFacts& facts, Recipe& recipe, Problems& problems);
 
 }  // namespace sarne::disc
 

@@ -58,6 +58,7 @@ bool pack(const QList<Packed>& all, const QString& rcc, const QString& list, con
 }  // namespace
 
 void makeResources(Workshop& shop, const QString& rcc) {
+    if (shop.usesBase()) return shop.takeFromBase(QStringLiteral("program/Sarne.rcc"));
     const QList<Packed> all = everything(shop);
     QStringList files;
     QString aliases = stamp::resources();

@@ -47,6 +47,12 @@ void copyWideGrounds(Workshop& shop, const QString& folder) {
 }  // namespace
 
 void makeScreenPictures(Workshop& shop) {
+    if (shop.usesBase()) {
+        shop.takeFromBase(QStringLiteral("program/KOp.bj"));
+        for (const QString& name : QDir(shop.base + QStringLiteral("/program/siroke")).entryList(QDir::Files))
+            shop.takeFromBase(QStringLiteral("program/siroke/") + name);
+        return;
+    }
     makeRecords(shop);
     copyWideGrounds(shop, kMain);
     copyWideGrounds(shop, QStringLiteral("pozadi"));

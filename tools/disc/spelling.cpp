@@ -33,7 +33,8 @@ void SpellCheck::report(Problems& problems) const {
     hunspell.write(asked.join(u'\n').toUtf8() + '\n');
     hunspell.closeWriteChannel();
     if (!hunspell.waitForFinished() || hunspell.exitCode() != 0) {
-        problems.error({QStringLiteral("slovnik.txt"), 0}, QStringLiteral("hunspell s cs_CZ nelze spustit"));
+        problems.finding({QStringLiteral("slovnik.txt"), 0},
+                         QStringLiteral("hunspell s cs_CZ nelze spustit"));
         return;
     }
     QStringList unknown =
@@ -42,7 +43,7 @@ void SpellCheck::report(Problems& problems) const {
     correct.unite(QSet<QString>(asked.cbegin(), asked.cend()));
     for (const QString& word : unknown) {
         correct.remove(word);
-        problems.error(words_.value(word), QStringLiteral("slovo, které slovník nezná: %1").arg(word));
+        problems.finding(words_.value(word), QStringLiteral("slovo, které slovník nezná: %1").arg(word));
     }
 }
 

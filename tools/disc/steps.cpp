@@ -158,7 +158,7 @@ QList<QStringList> wordsBySureness(const Cookbook& book, const IngredientLine& l
     while (!name.first().isEmpty() && QStringLiteral("aeiouy").contains(name.first().back()))
         name.first().chop(1);
     if (name.first().size() < kTelling) name = cases = {};
-    if (ingredient.isFish && line.refinement > 0)
+    if (ingredient.isMain && line.refinement > 0)
         for (const QString& cut : stemsOf(book.refinements.names[line.refinement - 1].section(u' ', 0, 0))) {
             name << cut;
             cases << cut;
@@ -166,8 +166,8 @@ QList<QStringList> wordsBySureness(const Cookbook& book, const IngredientLine& l
     for (const StemEntry& entry : stems.ingredients)
         if (entry.names == QStringList{first}) own << entry.stems;
     // Salt is spoken of by what is done with it: the first of those words counts.
-    if (isSprinkled(ingredient.name)) return {name + own, wordsFor(ingredient, stems)};
-    return {name, cases, own, wordsFor(ingredient, stems)};
+    if (isSprinkled(ingredient.name)) return {name + own, wordsFor(ingredient, book.facts.mainMark, stems)};
+    return {name, cases, own, wordsFor(ingredient, book.facts.mainMark, stems)};
 }
 
 bool speaksOf(const RecipeStep& step, const QStringList& stems) {

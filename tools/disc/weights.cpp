@@ -13,7 +13,7 @@ QStringList keys(const Cookbook& book, const IngredientLine& line) {
     if (line.refinement > 0)
         names.prepend(names.first() + QStringLiteral(", ") +
                       book.refinements.names[line.refinement - 1].toLower());
-    if (ingredient->isFish) names << QStringLiteral("ryba");
+    if (ingredient->isMain) names << book.facts.mainMark;
     return names;
 }
 

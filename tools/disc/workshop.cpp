@@ -1,7 +1,6 @@
 #include "workshop.h"
 
 #include <QCryptographicHash>
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,11 +10,11 @@
 
 namespace sarne::disc {
 
-Ledger::Ledger(QString file) : file_(std::move(file)) {
+Ledger::Ledger(QString file) : file_(std::move(file)), root_(QFileInfo(file_).absolutePath()) {
     QFile kept(file_);
     if (!kept.open(QIODevice::ReadOnly)) return;
     for (const QString& line : QString::fromUtf8(kept.readAll()).split(u'\n', Qt::SkipEmptyParts))
-        origins_.insert(line.section(u'\t', 1), line.section(u'\t', 0, 0));
+        origins_.insert(root_.absoluteFilePath(line.section(u'\t', 1)), line.section(u'\t', 0, 0));
 }
 
 bool Ledger::isCurrent(const QString& output, const QString& origin) {
@@ -32,7 +31,7 @@ void Ledger::save() const {
     QFile kept(file_);
     if (!kept.open(QIODevice::WriteOnly)) return;
     for (auto entry = origins_.cbegin(); entry != origins_.cend(); ++entry)
-        kept.write((entry.value() + u'\t' + entry.key() + u'\n').toUtf8());
+        kept.write((entry.value() + u'\t' + root_.relativeFilePath(entry.key()) + u'\n').toUtf8());
 }
 
 void Ledger::sweep() {
@@ -46,10 +45,14 @@ void Ledger::sweep() {
 
 QString originOf(const QStringList& files, const QString& details) {
     QCryptographicHash hash(QCryptographicHash::Sha1);
-    for (const QString& file : files) {
-        const QFileInfo info(file);
-        const qint64 time = info.exists() ? info.lastModified().toMSecsSinceEpoch() : 0;
-        hash.addData(QStringLiteral("%1\n%2\n%3\n").arg(file).arg(info.size()).arg(time).toUtf8());
+    for (const QString& name : files) {
+        QFile file(name);
+        hash.addData(QFileInfo(name).fileName().toUtf8() + '\n');
+        if (!name.isEmpty() && file.open(QIODevice::ReadOnly)) {
+            QCryptographicHash bytes(QCryptographicHash::Sha1);
+            bytes.addData(&file);
+            hash.addData(bytes.result());
+        }
     }
     hash.addData(details.toUtf8());
     return QString::fromLatin1(hash.result().toHex());
@@ -70,6 +73,17 @@ QString Workshop::neededPicture(const QString& stem) {
     return file;
 }
 
+void Workshop::takeFromBase(const QString& file) {
+    const QString from = base + u'/' + file;
+    const QString to =
+        (file.startsWith(QLatin1String("program/")) ? program : disc) + file.mid(file.indexOf(u'/'));
+    if (base.isEmpty() || !QFileInfo::exists(from)) return;
+    make(to, originOf({from}, {}), [&] {
+        QFile::remove(to);
+        return QFile::copy(from, to);
+    });
+}
+
 bool Workshop::make(const QString& output, const QString& origin, const std::function<bool()>& make) {
     return makeAll({{{output}, origin, make}});
 }
@@ -85,6 +99,7 @@ bool Workshop::makeAll(const QList<Task>& tasks) {
     }
     const qsizetype known = problems.errors().size();
     QStringList failed;
+    qsizetype done = 0;
     std::mutex finished;
     inParallel(stale.size(), [&](qsizetype i) {
         const bool isMade = stale[i].make();
@@ -95,6 +110,7 @@ bool Workshop::makeAll(const QList<Task>& tasks) {
         }
         for (const QString& output : stale[i].outputs) ledger.setMade(output, stale[i].origin);
         ledger.save();
+        if (progress) progress->made(stage, ++done, stale.size(), stale[i].outputs.first());
     });
     if (problems.errors().size() == known)
         for (const QString& output : failed) problems.error({output, 0}, QStringLiteral("nelze vyrobit"));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QDir>
+#include <QFileInfo>
 #include <QHash>
 #include <QSet>
 #include <QString>
@@ -11,7 +13,7 @@
 namespace sarne::disc {
 
 /// Remembers, from one run to the next, from what each file of the disc was made, so that only what changed
-/// is made again.
+/// is made again. A disc may be moved with its ledger: files are remembered by where they lie beside it.
 class Ledger {
   public:
     /// Reads the ledger of an earlier run where there is one.
@@ -27,12 +29,13 @@ class Ledger {
 
   private:
     QString file_;
+    QDir root_;
     QHash<QString, QString> origins_;
     QSet<QString> wanted_;
 };
 
-/// A short text that changes when one of the files does (its size or its time), or \a details. A file that
-/// does not exist counts as such.
+/// A short text that changes when what one of the files holds or is called does, or \a details. Times and
+/// folders do not count. A file that does not exist counts as such.
 QString originOf(const QStringList& files, const QString& details);
 
 /// Files that are made in one go from the same things.
@@ -48,6 +51,14 @@ struct Task {
 /// Opus, Vorbis and H.264 in their place.
 enum class DiscKind { Full, Compact };
 
+/// Is told how far the work has come, by one thread at a time.
+class Progress {
+  public:
+    virtual ~Progress() = default;
+    /// \a done of \a all files of \a stage are made, the last of them \a file.
+    virtual void made(const QString& stage, qsizetype done, qsizetype all, const QString& file) = 0;
+};
+
 /// Where the stages of the disc take from and put to.
 struct Workshop {
     const Cookbook& book;
@@ -61,7 +72,19 @@ struct Workshop {
     Ledger& ledger;
     Problems& problems;
     DiscKind kind = DiscKind::Full;
+    /// A finished disc, the folder with its program and its disc, whose screens, effects and music are taken
+    /// where the art and the content have none; may be empty.
+    QString base = {};
+    /// Whether the builder draws the art, because there is neither art nor a base.
+    bool isDrawn = false;
+    /// What the stage at work is called, and who is told of it; may be null.
+    QString stage = {};
+    Progress* progress = nullptr;
 
+    /// Whether the screens' pictures are the base's, because the art has none.
+    bool usesBase() const {
+        return !base.isEmpty() && !QFileInfo::exists(art + QStringLiteral("/rendered/hlavni"));
+    }
     /// The one of two names, or folders, that this disc calls for.
     QString either(const QString& full, const QString& compact) const {
         return kind == DiscKind::Full ? full : compact;
@@ -77,6 +100,13 @@ struct Workshop {
     QString artPicture(const QString& stem) const;
     /// The same; an error naming the file when it is missing.
     QString neededPicture(const QString& stem);
+
+    /// Whether it is an author's disc, whose screens come from a base or are drawn, and not the project's
+    /// own.
+    bool isOwnDisc() const { return isDrawn || usesBase(); }
+
+    /// Copies a file of the base, "program/KOp.bj", to the same place of this disc where the base has it.
+    void takeFromBase(const QString& file);
 
     /// Makes \a output unless it was made from the same \a origin before. See makeAll().
     bool make(const QString& output, const QString& origin, const std::function<bool()>& make);

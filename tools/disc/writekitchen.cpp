@@ -30,7 +30,7 @@ void writeSteps(const Recipe& recipe, int& last, const AddRow& add) {
 
 qsizetype mainFish(const Cookbook& book, const Recipe& recipe) {
     for (qsizetype i = 0; i < recipe.ingredients.size(); ++i)
-        if (const Ingredient* one = book.ingredient(recipe.ingredients[i].ingredient); one && one->isFish)
+        if (const Ingredient* one = book.ingredient(recipe.ingredients[i].ingredient); one && one->isMain)
             return i;
     return -1;
 }

@@ -20,7 +20,8 @@ constexpr qint64 kAhead = 8 * qint64{kFilmWidth} * kFilmHeight * 4;
 QString codecs(const QString& ending) {
     if (ending == u"mkv")
         return QStringLiteral(
-            "-c:v libx264 -preset fast -crf 21 -pix_fmt yuv420p -g 100 -c:a libopus -b:a 96k -f matroska");
+            "-c:v libx264 -preset veryfast -crf 20 -pix_fmt yuv420p -g 100 -c:a libopus -b:a 96k -f "
+            "matroska");
     return QStringLiteral(
         "-c:v mpeg4 -vtag XVID -q:v 5 -g 150 -bf 0 -sc_threshold 1000000000 -c:a libmp3lame -b:a 80k -ac 1 "
         "-f avi");
@@ -56,7 +57,35 @@ bool sendFrames(QProcess& encoder, const Film& film, const std::function<const Q
     return true;
 }
 
+/// Puts a finished film in its place.
+bool moveTo(const QString& made, const QString& file) {
+    QFile::remove(file);
+    return QFile::rename(made, file) || QFile::copy(made, file);
+}
+
 }  // namespace
+
+bool convertFilm(const QString& source, const QString& file, const QString& scratch) {
+    QDir().mkpath(scratch);
+    const QTemporaryDir folder(scratch + QStringLiteral("/film"));
+    const QString ending = QFileInfo(file).suffix().toLower();
+    const QString made = folder.filePath(QStringLiteral("film.") + ending);
+    // The whole picture, with bars where its shape is another one.
+    const QString shape =
+        QStringLiteral("scale=%1:%2:force_original_aspect_ratio=decrease,pad=%1:%2:-1:-1,setsar=1")
+            .arg(kFilmWidth)
+            .arg(kFilmHeight);
+    const QStringList arguments = QStringList{QStringLiteral("-nostdin"), QStringLiteral("-v"),
+                                              QStringLiteral("error"),    QStringLiteral("-y"),
+                                              QStringLiteral("-i"),       source,
+                                              QStringLiteral("-map"),     QStringLiteral("0:v:0"),
+                                              QStringLiteral("-map"),     QStringLiteral("0:a:0?"),
+                                              QStringLiteral("-vf"),      shape,
+                                              QStringLiteral("-r"),       QString::number(kFramesPerSecond),
+                                              QStringLiteral("-fflags"),  QStringLiteral("+bitexact")} +
+                                  codecs(ending).split(u' ') + QStringList{made};
+    return QProcess::execute(QStringLiteral("ffmpeg"), arguments) == 0 && moveTo(made, file);
+}
 
 bool encodeFilm(const Film& film, const std::function<const QImage&(double)>& frame, const Sound& sound,
                 const QString& file, const QString& scratch) {
@@ -70,8 +99,7 @@ bool encodeFilm(const Film& film, const std::function<const QImage&(double)>& fr
     if (!encoder.waitForStarted() || !sendFrames(encoder, film, frame)) return false;
     encoder.closeWriteChannel();
     if (!encoder.waitForFinished(kTimeout) || encoder.exitCode() != 0) return false;
-    QFile::remove(file);
-    return QFile::rename(made, file) || QFile::copy(made, file);
+    return moveTo(made, file);
 }
 
 bool writeChapters(const Film& film, const QString& file) {

@@ -16,6 +16,10 @@ constexpr int kFramesPerSecond = 25;
 bool encodeFilm(const Film& film, const std::function<const QImage&(double)>& frame, const Sound& sound,
                 const QString& file, const QString& scratch);
 
+/// Converts any film that ffmpeg reads, \a source, to the size and the form that \a file ends in. False when
+/// that fails; \a file is then as it was.
+bool convertFilm(const QString& source, const QString& file, const QString& scratch);
+
 /// Writes the chapters beside a film: a line for each, the seconds, a tab, the title. False when that fails.
 bool writeChapters(const Film& film, const QString& file);
 

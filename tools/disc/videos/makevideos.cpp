@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <mutex>
 
+#include "../ownfiles.h"
 #include "../spelling.h"
 #include "../stamps.h"
 #include "../typography.h"
@@ -32,6 +33,12 @@ struct Source {
     QString script;
     QString title;
     QString stem;
+    /// The author's own film, which is taken instead of a script; empty when there is none.
+    QString own = {};
+
+    QString film(const Workshop& shop) const {
+        return stem + shop.either(QStringLiteral(".AVI"), QStringLiteral(".mkv"));
+    }
 };
 
 QList<Source> sources(const Workshop& shop) {
@@ -39,7 +46,34 @@ QList<Source> sources(const Workshop& shop) {
     for (const Video& video : shop.book.videos)
         all << Source{QStringLiteral("videa/%1.txt").arg(video.number), video.title,
                       shop.disc + QStringLiteral("/VIDEO/%1").arg(video.number)};
+    for (Source& source : all) source.own = ownFilm(shop.content + u'/' + source.script.chopped(4));
     return all;
+}
+
+/// Those of the sources that are scripts. An author's disc needs no intro.
+QList<Source> scripts(const Workshop& shop, const QString& only) {
+    QList<Source> all;
+    for (const Source& source : sources(shop)) {
+        if (!source.own.isEmpty()) continue;
+        if (!only.isEmpty() && source.script != QStringLiteral("videa/%1.txt").arg(only)) continue;
+        const bool isIntro = source.title.isEmpty();
+        if (isIntro && shop.isOwnDisc() && !QFileInfo::exists(shop.content + u'/' + source.script)) continue;
+        all << source;
+    }
+    return all;
+}
+
+/// Films that the author made elsewhere, in the size and the form of this disc.
+void takeOwnFilms(Workshop& shop) {
+    QList<Task> tasks;
+    for (const Source& source : sources(shop)) {
+        if (source.own.isEmpty()) continue;
+        const QString film = source.film(shop);
+        tasks << Task{{film}, originOf({source.own}, stamp::videos()), [&shop, film, own = source.own] {
+                          return convertFilm(own, film, shop.scratch);
+                      }};
+    }
+    shop.makeAll(tasks);
 }
 
 /// The pictures in which a thing may be seen.
@@ -86,15 +120,14 @@ void proofread(const ContentFolder& folder, const QList<Job>& jobs, Problems& pr
 
 QList<Job> staleJobs(Workshop& shop, const ContentFolder& folder, const Cast& cast, const QString& only) {
     QList<Job> jobs;
-    for (const Source& source : sources(shop)) {
-        if (!only.isEmpty() && source.script != QStringLiteral("videa/%1.txt").arg(only)) continue;
+    for (const Source& source : scripts(shop, only)) {
         const Script script = readScript(folder.read(source.script), source.title, cast, shop.problems);
         const QStringList pictures = picturesOf(script, cast, shop);
         for (const QString& picture : pictures)
             if (!QFileInfo::exists(picture))
                 shop.problems.error({picture, 0}, QStringLiteral("obrázek chybí"));
         const QString origin = originOfFilm(shop, source, pictures);
-        const QString film = source.stem + shop.either(QStringLiteral(".AVI"), QStringLiteral(".mkv"));
+        const QString film = source.film(shop);
         const QString chapters = source.stem + QStringLiteral(".KAP");
         const bool isCurrent = shop.ledger.isCurrent(chapters, origin);
         if (shop.ledger.isCurrent(film, origin) && isCurrent) continue;
@@ -172,7 +205,18 @@ Cast readFilmCast(const ContentFolder& folder, const QString& art, Problems& pro
                     problems);
 }
 
+void checkVideos(Workshop& shop) {
+    const QList<Source> wanted = scripts(shop, {});
+    if (wanted.isEmpty()) return;
+    const ContentFolder folder(shop.content, shop.problems);
+    const Cast cast = readFilmCast(folder, shop.art, shop.problems);
+    for (const Source& source : wanted)
+        readScript(folder.read(source.script), source.title, cast, shop.problems);
+}
+
 void makeVideos(Workshop& shop, const QString& only) {
+    takeOwnFilms(shop);
+    if (shop.problems.hasErrors() || scripts(shop, only).isEmpty()) return;
     const ContentFolder folder(shop.content, shop.problems);
     const Cast cast = readFilmCast(folder, shop.art, shop.problems);
     const QList<Job> jobs = staleJobs(shop, folder, cast, only);

@@ -1,0 +1,112 @@
+#include "build.h"
+
+#include <QDirIterator>
+#include <QTemporaryDir>
+#include <functional>
+
+#include "../drawnart.h"
+#include "../loadcookbook.h"
+#include "../makedatabase.h"
+#include "../photos.h"
+#include "../resources.h"
+#include "../screenpictures.h"
+#include "../sounds/makesounds.h"
+#include "../videos/makevideos.h"
+#include "../writedatabase.h"
+#include "core/gridtable.h"
+
+namespace sarne::disc {
+namespace {
+
+struct Stage {
+    QString name;
+    std::function<void()> make;
+};
+
+Workshop workshop(const Project& project, const Cookbook& book, Ledger& ledger, Problems& problems) {
+    const QDir out(project.out);
+    Workshop shop{book,
+                  project.content,
+                  project.art,
+                  out.filePath(QStringLiteral("program")),
+                  out.filePath(QStringLiteral("disc")),
+                  out.filePath(QStringLiteral("scratch")),
+                  ledger,
+                  problems,
+                  project.kind,
+                  project.base};
+    shop.isDrawn = !shop.usesBase() && !QFileInfo::exists(shop.art + QStringLiteral("/rendered/hlavni"));
+    return shop;
+}
+
+}  // namespace
+
+qint64 sizeOf(const QString& folder) {
+    qint64 total = 0;
+    for (QDirIterator walk(folder, QDir::Files, QDirIterator::Subdirectories); walk.hasNext();) {
+        walk.next();
+        total += walk.fileInfo().size();
+    }
+    return total;
+}
+
+void buildDisc(const Project& project, const QString& only, Problems& problems, Progress* progress) {
+    QDir().mkpath(project.out);
+    const ContentFolder folder(project.content, problems);
+    const Cookbook book = loadCookbook(folder, problems);
+    Ledger ledger(project.out + QStringLiteral("/.made"));
+    Workshop shop = workshop(project, book, ledger, problems);
+    shop.progress = progress;
+    drawArtIfNeeded(shop);
+    QList<Stage> stages{{QStringLiteral("recepty"), [&] { makeDatabase(shop, folder); }},
+                        {QStringLiteral("fotografie"), [&] { makePhotos(shop); }},
+                        {QStringLiteral("obrazovky"), [&] { makeScreenPictures(shop); }},
+                        {QStringLiteral("zvuky"), [&] { makeSounds(shop); }},
+                        {QStringLiteral("filmy"), [&] { makeVideos(shop); }},
+                        {QStringLiteral("tlačítka"), [&] { makeResources(shop, project.rcc); }}};
+    if (!only.isEmpty()) stages = {{QStringLiteral("film"), [&] { makeVideos(shop, only); }}};
+    for (const Stage& stage : stages) {
+        if (problems.hasErrors()) break;
+        shop.stage = stage.name;
+        stage.make();
+    }
+    if (only.isEmpty() && !problems.hasErrors()) ledger.sweep();
+    ledger.save();
+    if (sizeOf(shop.disc) > kDiscLimit) problems.error({shop.disc, 0}, QStringLiteral("disk má přes 650 MB"));
+}
+
+void buildTexts(const Project& project, Problems& problems) {
+    const ContentFolder folder(project.content, problems);
+    const Cookbook book = loadCookbook(folder, problems);
+    Ledger ledger(project.out + QStringLiteral("/.made"));
+    Workshop shop = workshop(project, book, ledger, problems);
+    if (!problems.hasErrors()) makeDatabase(shop, folder);
+    ledger.save();
+}
+
+void checkDisc(const Project& project, Problems& problems) {
+    const ContentFolder folder(project.content, problems);
+    const Cookbook book = loadCookbook(folder, problems);
+    proofread(folder, book, problems);
+    const QTemporaryDir scratch;
+    writeRecipeDatabase(book, scratch.filePath(QStringLiteral("Sarne.drc")), problems);
+    Ledger ledger(scratch.filePath(QStringLiteral("made")));
+    Workshop shop = workshop(project, book, ledger, problems);
+    checkPhotos(shop);
+    checkSounds(shop);
+    checkVideos(shop);
+}
+
+QString beyondGrid(const Cookbook& book) {
+    QStringList beyond;
+    for (const int id : book.recipes.keys())
+        if (id > kGridCells) beyond << QString::number(id);
+    if (beyond.isEmpty()) return {};
+    return QStringLiteral(
+               "mřížka fotografií má padesát míst; recepty %1 v ní nejsou, vedou k nim nabídky a hledání")
+        .arg(beyond.join(QStringLiteral(", ")));
+}
+
+}  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

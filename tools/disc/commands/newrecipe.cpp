@@ -1,0 +1,128 @@
+#include <QCommandLineParser>
+#include <QFile>
+#include <cstdio>
+
+#include "../recipefile.h"
+#include "commands.h"
+
+namespace sarne::disc {
+namespace {
+
+/// The value of an option, or what the user types when asked.
+QString answer(const QCommandLineParser& parser, const char* option, const QString& question,
+               const QString& usual) {
+    if (parser.isSet(QLatin1String(option))) return parser.value(QLatin1String(option)).trimmed();
+    std::printf("%s%s ", qUtf8Printable(question),
+                usual.isEmpty() ? "" : qUtf8Printable(QStringLiteral(" [%1]").arg(usual)));
+    std::fflush(stdout);
+    char typed[512] = {};
+    if (!std::fgets(typed, sizeof typed, stdin)) return usual;
+    const QString line = QString::fromLocal8Bit(typed).trimmed();
+    return line.isEmpty() ? usual : line;
+}
+
+struct NewRecipe {
+    QString name;
+    QString main;
+    int portions = 4;
+    QString course;
+};
+
+QString recipeText(const NewRecipe& recipe, const BookFacts& facts) {
+    const QString tag = facts.mainMark.isEmpty() ? facts.tagKeys.value(0) : facts.mainMark;
+    QString text = QStringLiteral(
+                       "; Řádky za středníkem jsou poznámky a na disk nejdou. Fotografie leží vedle tohoto "
+                       "souboru a jmenuje se stejně.\n"
+                       "název: %1\n"
+                       "dlouhý název: %1\n"
+                       "porce: %2\n"
+                       "; Minuty: práce rukama, vaření vedle ní nebo po ní, celkem od začátku ke stolu.\n"
+                       "příprava: 20\n"
+                       "vaření: 20\n"
+                       "minut: 40\n"
+                       "; snadné, střední, náročné\n"
+                       "obtížnost: snadné\n"
+                       "kosti: ne\n"
+                       "mrazit: ne\n"
+                       "vydrží: 1 den v chladu\n"
+                       "sezona: celoročně\n"
+                       "chod: %3\n")
+                       .arg(recipe.name)
+                       .arg(recipe.portions)
+                       .arg(recipe.course);
+    if (facts.tagKeys.contains(tag))
+        text += QStringLiteral("; Štítky, podle kterých vybírá menu.txt; další klíče: %1.\n%2: %3\n")
+                    .arg(facts.tagKeys.join(QStringLiteral(", ")), tag, recipe.main);
+    text += QStringLiteral(
+                "; Volitelně: předem, pomůcky, vína, odkazy (jména ze seznamů), výřez (bod fotografie v "
+                "procentech: 30 60).\n"
+                "\n== Suroviny\n"
+                "; jméno, upřesnění: množství podle váhy = totéž na lžíce, hrnky nebo kusy, nebo náhrada\n"
+                "%1: 400 g = 4 ks\n"
+                "sůl: podle chuti\n"
+                "\n== Úvod\n"
+                "Odkud jídlo je a čím je dobré.\n"
+                "\n== Postup\n"
+                "1. Připravíme, co je třeba: %1.\n\n"
+                "2. Osolíme a upečeme.\n"
+                "\n== Jak podávat\n"
+                "S přílohou.\n")
+                .arg(recipe.main);
+    return text;
+}
+
+bool writeNew(const QString& file, const QString& text) {
+    QDir().mkpath(QFileInfo(file).path());
+    QFile out(file);
+    return out.open(QIODevice::WriteOnly | QIODevice::NewOnly) && out.write(text.toUtf8()) >= 0;
+}
+
+}  // namespace
+
+int createRecipe(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Napíše soubor nového receptu. Na co neodpovídá volba, na to se zeptá."));
+    addProjectOptions(parser);
+    parser.addOptions(
+        {{QStringLiteral("nazev"), QStringLiteral("jak se jídlo jmenuje"), QStringLiteral("text")},
+         {QStringLiteral("hlavni"), QStringLiteral("hlavní surovina"), QStringLiteral("jméno")},
+         {QStringLiteral("porce"), QStringLiteral("pro kolik"), QStringLiteral("číslo")},
+         {QStringLiteral("chod"), QStringLiteral("který chod"), QStringLiteral("chod")}});
+    int code = 0;
+    if (!parseLine(parser, "recept", arguments, code)) return code;
+    const Project project = projectOf(parser);
+    const ReadBook read(project);
+    const BookFacts& facts = read.book.facts;
+    NewRecipe recipe;
+    recipe.name = answer(parser, "nazev", QStringLiteral("Jak se jídlo jmenuje?"), {});
+    recipe.main = answer(parser, "hlavni", QStringLiteral("Hlavní surovina?"), {});
+    recipe.portions = answer(parser, "porce", QStringLiteral("Pro kolik lidí?"), QStringLiteral("4")).toInt();
+    recipe.course =
+        answer(parser, "chod", QStringLiteral("Chod (%1)?").arg(facts.courses.join(QStringLiteral(", "))),
+               facts.courses.value(1));
+    if (recipe.name.isEmpty() || recipe.main.isEmpty() || recipe.portions < 1 ||
+        !facts.courses.contains(recipe.course)) {
+        complain(QStringLiteral("Recept potřebuje název, hlavní surovinu, počet porcí a jeden z chodů: %1")
+                     .arg(facts.courses.join(QStringLiteral(", "))));
+        return 2;
+    }
+    const QString file =
+        QStringLiteral("recepty/%1.txt").arg(recipeStem(read.book, recipe.course, recipe.name));
+    if (!writeNew(project.content + u'/' + file, recipeText(recipe, facts))) {
+        complain(QStringLiteral("Soubor %1 nejde zapsat.").arg(file));
+        return 1;
+    }
+    const QString mark = facts.mainMark.isEmpty() ? QString() : QStringLiteral(" | ") + facts.mainMark;
+    const QStringList added =
+        addToList(project.content + QStringLiteral("/suroviny.txt"), {recipe.main}, mark) +
+        addToList(project.content + QStringLiteral("/suroviny.txt"), {QStringLiteral("sůl")});
+    say(QStringLiteral("Recept je v %1; doplňte jej a zkontrolujte: sarne-disc zkontroluj").arg(file));
+    if (!added.isEmpty())
+        say(QStringLiteral("Do suroviny.txt přibylo: %1").arg(added.join(QStringLiteral(", "))));
+    return 0;
+}
+
+}  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

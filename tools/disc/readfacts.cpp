@@ -1,0 +1,76 @@
+#include "readfacts.h"
+
+#include <QRegularExpression>
+#include <functional>
+
+#include "core/gridtable.h"
+#include "nearword.h"
+
+namespace sarne::disc {
+namespace {
+
+/// Takes a value over; false when it is none that the key may have.
+using Fact = std::function<bool(BookFacts&, const QString&)>;
+
+Fact text(QString BookFacts::*member) {
+    return [member](BookFacts& facts, const QString& value) {
+        facts.*member = value;
+        return true;
+    };
+}
+
+Fact names(QStringList BookFacts::*member, qsizetype count) {
+    return [member, count](BookFacts& facts, const QString& value) {
+        facts.*member = trimmedParts(value, u',');
+        return count == 0 || (facts.*member).size() == count;
+    };
+}
+
+/// "6–18"; one number is the fewest, with no limit above.
+Fact range(int BookFacts::*fewest, int BookFacts::*most) {
+    return [fewest, most](BookFacts& facts, const QString& value) {
+        static const QRegularExpression pattern(QStringLiteral("^(\\d+)(?:[–-](\\d+))?$"));
+        const auto match = pattern.match(value);
+        facts.*fewest = match.captured(1).toInt();
+        facts.*most = match.captured(2).isEmpty() ? 1'000'000 : match.captured(2).toInt();
+        return match.hasMatch() && facts.*fewest <= facts.*most;
+    };
+}
+
+const QHash<QString, Fact>& allFacts() {
+    static const QHash<QString, Fact> all{
+        {QStringLiteral("název"), text(&BookFacts::title)},
+        {QStringLiteral("hlavní surovina"), text(&BookFacts::mainMark)},
+        {QStringLiteral("chody"), names(&BookFacts::courses, kGridGroups)},
+        {QStringLiteral("štítky"), names(&BookFacts::tagKeys, 0)},
+        {QStringLiteral("povinné"), names(&BookFacts::required, 0)},
+        {QStringLiteral("surovin"), range(&BookFacts::fewestIngredients, &BookFacts::mostIngredients)},
+        {QStringLiteral("slov hesla"), range(&BookFacts::fewestKeywordWords, &BookFacts::mostKeywordWords)},
+        {QStringLiteral("slov k hledání"), [](BookFacts& facts, const QString& value) {
+             bool isNumber = false;
+             facts.searchWords = value.toInt(&isNumber);
+             return isNumber;
+         }}};
+    return all;
+}
+
+}  // namespace
+
+BookFacts readFacts(const ContentFolder& folder, Problems& problems) {
+    BookFacts facts;
+    for (const Line& line : folder.readIfThere(QStringLiteral("kniha.txt"))) {
+        if (line.isBlank()) continue;
+        const KeyValue entry = keyValue(line);
+        const auto fact = allFacts().constFind(entry.key);
+        if (fact == allFacts().cend())
+            problems.error(line.place, QStringLiteral("neznámý klíč „%1“").arg(entry.key) +
+                                           didYouMean(entry.key, allFacts().keys()));
+        else if (!(*fact)(facts, entry.value))
+            problems.error(line.place, QStringLiteral("„%1“ nemůže být „%2“").arg(entry.key, entry.value));
+    }
+    return facts;
+}
+
+}  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later

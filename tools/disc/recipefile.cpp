@@ -1,0 +1,56 @@
+#include "recipefile.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include "core/gridtable.h"
+#include "courses.h"
+
+namespace sarne::disc {
+namespace {
+
+int freeNumber(const Cookbook& book, const QString& course) {
+    for (int id = 1; id <= kGridCells; ++id)
+        if (!book.recipes.contains(id) && gridCourses(book.facts, id) == QStringList{course}) return id;
+    int id = kGridCells + 1;
+    while (book.recipes.contains(id)) ++id;
+    return id;
+}
+
+}  // namespace
+
+QString plainFileName(const QString& name) {
+    static const QRegularExpression marks(QStringLiteral("\\p{Mn}"));
+    static const QRegularExpression others(QStringLiteral("[^a-z0-9]+"));
+    QString plain = name.normalized(QString::NormalizationForm_D).toLower();
+    plain.remove(marks).replace(others, QStringLiteral("-"));
+    while (plain.startsWith(u'-')) plain.remove(0, 1);
+    while (plain.endsWith(u'-')) plain.chop(1);
+    return plain.isEmpty() ? QStringLiteral("recept") : plain;
+}
+
+QString recipeStem(const Cookbook& book, const QString& course, const QString& name) {
+    return QStringLiteral("%1-%2")
+        .arg(freeNumber(book, course), 2, 10, QLatin1Char('0'))
+        .arg(plainFileName(name));
+}
+
+QStringList addToList(const QString& file, const QStringList& names, const QString& tail) {
+    QFile list(file);
+    if (!list.open(QIODevice::ReadWrite)) return {};
+    const QString text = QString::fromUtf8(list.readAll());
+    QStringList known, added;
+    for (const QString& line : text.split(u'\n')) known << line.section(u'|', 0, 0).trimmed();
+    QString more = text.isEmpty() || text.endsWith(u'\n') ? QString() : QStringLiteral("\n");
+    for (const QString& name : names) {
+        if (name.isEmpty() || known.contains(name) || added.contains(name)) continue;
+        added << name;
+        more += name + tail + u'\n';
+    }
+    list.write(more.toUtf8());
+    return added;
+}
+
+}  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later
