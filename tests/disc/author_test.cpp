@@ -68,8 +68,8 @@ TEST_F(AuthorTest, AllMistakesAreToldAtOnceWhereTheyStand) {
     replace("content/hesla/houby.txt", "ve vodě by", "[ve vodě] by");
     EXPECT_EQ(check(),
               "recepty/01-smazenice.txt:24:1 neznámá surovina „maslo“ – mysleli jste „máslo“?\n"
-              "recepty/02-nakladane-zampiony.txt:7:1 „obtížnost“ nemůže být „lehké“\n"
-              "hesla/houby.txt:4:14 odkaz nikam: „ve vodě“");
+              "recepty/02-nakladane-zampiony.txt:8:1 „obtížnost“ nemůže být „lehké“\n"
+              "hesla/houby.txt:4:15 odkaz nikam: „ve vodě“");
 }
 
 TEST_F(AuthorTest, ANewRecipeIsFaultlessButForItsMenu) {
