@@ -39,6 +39,16 @@ class SeznamTest : public BrowseTest {
     frmSeznam* list = nullptr;
 };
 
+TEST_F(SeznamTest, AShortListFillsItsSheetWithLargerRows) {
+    open("3,1,2,", "Recepty");
+    EXPECT_EQ(row(2)->twips(), seznam::rowBar(2, seznam::kLargePitch));
+    for (int number = 1; number <= kRows; ++number)
+        EXPECT_EQ(row(number)->isVisible(), number <= kRows / 2) << number;
+    list->Zobraz(QStringLiteral("1,2,3,4,5,6,7,8,"), QStringLiteral("Recepty"));
+    EXPECT_EQ(row(8)->twips(), seznam::rowBar(8)) << "the same list filled anew";
+    EXPECT_TRUE(row(kRows)->isVisible());
+}
+
 TEST_F(SeznamTest, ShowsAPageAndSelectsByMouse) {
     open("3,1,2,", "Recepty");
     EXPECT_EQ(row(1)->text(), QStringLiteral("Recept 003"));

@@ -142,7 +142,7 @@ TEST(TableLayout, ColumnsFillTheWidthAndBreakNoWord) {
         bool high;
     } cases[] = {{{u("a"), u("b")}, LookupTable::Rows::Wrapped, false},
                  {{u("nejdelší"), longText}, LookupTable::Rows::Wrapped, true},
-                 {{u("nejdelší"), longText}, LookupTable::Rows::OneLine, false},
+                 {{u("nejdelší"), longText}, LookupTable::Rows::Names, true},
                  {{QString(400, u'm'), longText}, LookupTable::Rows::Wrapped, true}};
     for (const auto& c : cases) {
         LookupTable table;
@@ -168,6 +168,30 @@ TEST(RtfDocument, PlainTextsStandForThemselves) {
               u("Nadpis\n\nTučně 50 % *cukr* #1 {\\par} @7 žluť – ? ?\ndva\nřádky"));
     EXPECT_TRUE(beginsWithHeading(document.text(), u("Nadpis")));
     EXPECT_FALSE(beginsWithHeading(document.text(), u("Nad")));
+}
+
+TEST(Headings, AreTakenOutWhereTheTitleSaysThem) {
+    RtfDocument document;
+    document.heading(u("Váhy a\u00a0lžíce"));
+    document.paragraph(u("Dále."));
+    const QString text = document.text();
+    EXPECT_EQ(plainText(withoutHeading(text, u("Váhy a lžíce")), 100).trimmed(), u("Dále."));
+    EXPECT_EQ(withoutHeading(text, u("Váhy")), text) << "another name";
+    EXPECT_EQ(withoutHeading(u("{\\rtf1 \\b Kapr\\b0\\par Text.}"), u("Kapr")), u("{\\rtf1 \\b \\b0 Text.}"))
+        << "what follows is not bold";
+    EXPECT_EQ(withoutHeading(u("{\\rtf1 Kapr"), u("Kapr")), u("{\\rtf1 Kapr"));
+}
+
+TEST(KeywordIndex, ShowsWholeFirstSentences) {
+    const struct {
+        const char *text, *shown;
+    } cases[] = {{"Ryba do 1. 9. hájená. Potom ne.", "Ryba do 1. 9. hájená."},
+                 {"Plave? Ano.", "Plave?"},
+                 {"Bez konce", "Bez konce"}};
+    for (const auto& c : cases) {
+        Cookbook book({Cookbook::keyword(1, u("Slovo"), u(c.text))});
+        EXPECT_EQ(readLookupTable(book.run.database, kKeywordIndexItem).rows.at(0).cells.at(1), u(c.shown));
+    }
 }
 
 TEST(Pages, EachScreenFindsItsHelp) {

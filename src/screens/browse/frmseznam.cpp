@@ -30,6 +30,7 @@ void frmSeznam::fill(const QString& ids, const QString& source) {
     entries_ = readEntries(app().Db(), sourceText_, ids);
     pages_.fill(static_cast<int>(entries_.size()), seznam::kRows);
     letters_.clear();
+    placeRows();
     for (Button* arrow : imgSipky) arrow->setVisible(pages_.scrolls());
     showButtonsOfSource();
     lblPozice.setText({});
@@ -52,9 +53,9 @@ void frmSeznam::drawPage() {
     }
     const int row = pages_.selectedRow();
     imgJablko.setVisible(row > 0);
-    if (row > 0) imgJablko.place(seznam::apple(row));
+    if (row > 0) imgJablko.place(seznam::apple(row, pitch_));
     for (const int changed : {markedRow_, row}) {
-        if (changed > 0 && markedRow_ != row) updatePart(*this, seznam::rowBar(changed));
+        if (changed > 0 && markedRow_ != row) updatePart(*this, seznam::rowBar(changed, pitch_));
     }
     markedRow_ = row;
     if (pages_.scrolls()) updatePart(*this, seznam::kTrack);

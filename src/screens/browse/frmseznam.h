@@ -49,6 +49,7 @@ class frmSeznam : public Form {
     void buildPanel();
     void setFocusOrder();
     void connectRow(int row);
+    void placeRows();
     void connectArrow(int arrow);
     void setPanel(Panel panel);
 
@@ -90,6 +91,7 @@ class frmSeznam : public Form {
     int wheel_ = 0;
 
     Ground ground_;
+    int pitch_ = 0;      // twips from row to row
     int markedRow_ = 0;  // the row that is painted as selected
 
     Label lblNadpis, lblPozice, lblHint;

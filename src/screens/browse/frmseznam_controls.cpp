@@ -23,7 +23,7 @@ constexpr int kPlateBorder = 130;  // thickness of a button plate's edge, twips
 
 const TextFont kTitleFont{QStringLiteral("Times New Roman"), 22, true};
 const TextFont kPositionFont{QStringLiteral("Arial"), 16};
-const TextFont kRowFont{QStringLiteral("Arial"), 14};
+const TextFont kRowFont{QStringLiteral("Arial"), 14}, kLargeRowFont{QStringLiteral("Arial"), 18};
 const TextFont kHintFont{QStringLiteral("Arial"), 11};
 
 constexpr BarFace kActions[] = {
@@ -78,10 +78,6 @@ void frmSeznam::buildList() {
 
 void frmSeznam::connectRow(int row) {
     auto* label = new Label(*this, QStringLiteral("lblSeznam(%1)").arg(row));
-    const QRect bar = seznam::rowBar(row);
-    label->place(bar);
-    label->setMargins(seznam::row(row).x() - bar.x(), 0);
-    label->setFont(kRowFont);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     label->setClickable(true);
     connect(label, &Control::clicked, this, [this, row] { selectRow(row); });
@@ -89,6 +85,19 @@ void frmSeznam::connectRow(int row) {
         if (pages_.selectedRow() == row) action(2);
     });
     lblSeznam.push_back(label);
+}
+
+void frmSeznam::placeRows() {
+    const bool large = pages_.count() <= seznam::kRows / 2;
+    pitch_ = large ? seznam::kLargePitch : seznam::kPitch;
+    for (int number = 1; number <= seznam::kRows; ++number) {
+        Label& label = *lblSeznam[size_t(number - 1)];
+        const QRect bar = seznam::rowBar(number, pitch_);
+        label.place(bar);
+        label.setMargins(seznam::row(number, pitch_).x() - bar.x(), 0);
+        label.setFont(large ? kLargeRowFont : kRowFont);
+        label.setVisible(seznam::kSheet.contains(bar));
+    }
 }
 
 void frmSeznam::connectArrow(int arrow) {
@@ -146,13 +155,14 @@ void frmSeznam::showButtonsOfSource() {
     lblNadpis.setText(subject_.isEmpty() ? what : what + QStringLiteral(" – ") + subject_);
     setAccessibleName(lblNadpis.text());
     const bool shown[] = {source_ == Source::Recipes, !help, true};
+    const int count = int(std::count(std::begin(shown), std::end(shown), true));
     int place = 0;
     for (int index = 0; index < seznam::kActions; ++index) {
         imgBtn[index].setVisible(shown[index]);
         ImgTlacitko[size_t(index)]->setVisible(shown[index]);
         if (!shown[index]) continue;
-        imgBtn[index].place(seznam::action(place));
-        ImgTlacitko[size_t(index)]->place(seznam::actionPlate(place++));
+        imgBtn[index].place(seznam::action(place, count));
+        ImgTlacitko[size_t(index)]->place(seznam::actionPlate(place++, count));
     }
     lblHint.setText(
         help ? Texts::tr("Písmeno najde název, Enter otevře stránku.")
@@ -167,7 +177,7 @@ void frmSeznam::paint(QPainter& painter) {
     ground_.draw(painter, covered(), [this](QPainter& ground) { paintGround(ground); });
     painter.setPen(Qt::NoPen);
     painter.setBrush(colors::kSelected);
-    if (markedRow_ > 0) painter.drawRoundedRect(seznam::rowBar(markedRow_), 90, 90);
+    if (markedRow_ > 0) painter.drawRoundedRect(seznam::rowBar(markedRow_, pitch_), 90, 90);
     painter.setBrush(colors::kCopper);
     if (pages_.scrolls()) painter.drawRoundedRect(thumb(), 55, 55);
 }

@@ -27,27 +27,31 @@ inline constexpr QRect kPhoto{7775, 1470, 3800, 2850};
 inline constexpr QRect kInvitation{700, 2130, 2400, 560};  ///< in the photo's frame
 inline constexpr QRect kWineText{7900, 1600, 3550, 2590};
 
-constexpr QRect row(int row) {
-    return {1020, 1375 + (row - 1) * 478, 5400, 478};
+/// How far rows are apart: a list that fits into half of them has larger ones, which fill the sheet.
+inline constexpr int kPitch = 478, kLargePitch = 2 * kPitch;
+constexpr QRect row(int row, int pitch = kPitch) {
+    return {1020, 1375 + (row - 1) * pitch, 5400, pitch};
 }
-constexpr QRect rowBar(int number) {
-    const QRect at = row(number);
-    return {at.x() - 180, at.y() + 20, at.width() + 330, at.height() - 40};
+constexpr QRect rowBar(int number, int pitch = kPitch) {
+    const QRect at = row(number, pitch);
+    const int gap = pitch == kPitch ? 20 : 120;
+    return {at.x() - 180, at.y() + gap, at.width() + 330, at.height() - 2 * gap};
 }
-constexpr QRect apple(int number) {
-    return {360, row(number).y() + 29, 420, 420};
+constexpr QRect apple(int number, int pitch = kPitch) {
+    return {360, row(number, pitch).y() + (pitch - 420) / 2, 420, 420};
 }
 /// Down by one, up by one, half a page up, half a page down; the outer ones are the fast ones.
 constexpr QRect arrow(int index) {
     constexpr int kTops[] = {6760, 2060, 1430, 7400};
     return {6660, kTops[index], 600, 600};
 }
-constexpr QRect action(int place) {
-    return {7800 + place * 1300, 4620, 1150, 1500};
+/// One of \a count actions, which stand in the middle of the panel.
+constexpr QRect action(int place, int count = kActions) {
+    return {7800 + (kActions - count) * 650 + place * 1300, 4620, 1150, 1500};
 }
 /// Behind the framed picture of an action.
-constexpr QRect actionPlate(int place) {
-    return {action(place).x() - 10, action(place).y() - 30, 1170, 1110};
+constexpr QRect actionPlate(int place, int count = kActions) {
+    return {action(place, count).x() - 10, action(place, count).y() - 30, 1170, 1110};
 }
 inline constexpr QRect kBar{7600, 6860, 4150, 1140};
 

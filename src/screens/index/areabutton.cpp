@@ -33,8 +33,29 @@ QRect AreaButton::plate() const {
     return place;
 }
 
+/// A light that falls on the thing: what is bright becomes brighter, so that it is the thing that glows and
+/// not its ground.
+void AreaButton::paintLight(QPainter& painter) const {
+    const QRectF area(0, 0, twips().width(), plate().top());
+    QRadialGradient light(QPointF(), 1);
+    constexpr QColor kMiddle(120, 108, 84);
+    light.setColorAt(0, kMiddle);
+    light.setColorAt(.55, kMiddle);
+    light.setColorAt(1, Qt::black);  // no light
+    painter.save();
+    painter.setClipRect(area);
+    painter.translate(area.center());
+    painter.scale(area.width() / 2, area.height() / 2);
+    painter.setCompositionMode(QPainter::CompositionMode_ColorDodge);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(light);
+    painter.drawEllipse(QPointF(), 1, 1);
+    painter.restore();
+}
+
 void AreaButton::paint(QPainter& painter) {
     const bool marked = isPointedAt() || showsFocus();
+    if (marked) paintLight(painter);
     const QRect place = plate();
     QColor ground = marked ? colors::kSelected : colors::kNight;
     ground.setAlpha(marked ? 255 : 225);
@@ -44,11 +65,6 @@ void AreaButton::paint(QPainter& painter) {
     painter.setFont(kFont.toQFont());
     painter.setPen(marked ? Qt::white : colors::kTitle);
     painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, caption_);
-    if (isPointedAt()) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(colors::kCopper, 45));
-        painter.drawRoundedRect(QRectF({0, 0}, twips().size()).adjusted(30, 30, -30, -30), 90, 90);
-    }
 }
 
 }  // namespace sarne

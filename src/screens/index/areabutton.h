@@ -4,15 +4,15 @@
 
 namespace sarne {
 
-/// A click area on a picture: a plate with its name at its lower edge, and a frame while it is pointed at or
-/// has the keyboard.
+/// A click area on a picture: a plate with its name at its lower edge, and a soft light on the thing while it
+/// is pointed at or has the keyboard.
 class AreaButton : public Control {
     Q_OBJECT
   public:
     AreaButton(Form& form, const QString& name, const QString& caption);
 
     QAccessible::Role role() const override { return QAccessible::Button; }
-    QRect focusPlace() const override { return {{0, 0}, twips().size()}; }
+    QRect focusPlace() const override { return plate(); }
     const QString& caption() const { return caption_; }
 
   protected:
@@ -20,9 +20,9 @@ class AreaButton : public Control {
 
   private:
     QRect plate() const;
+    void paintLight(QPainter& painter) const;
 
     QString caption_;
-    bool hovered_ = false;
 };
 
 }  // namespace sarne

@@ -10,6 +10,8 @@
 namespace sarne {
 namespace {
 
+const TextFont kTitleFont{QStringLiteral("Arial"), 20, true};
+
 constexpr BarFace kFaces[BarForm::kBarButtons] = {barface::kPrint,
                                                   {"Help", QT_TRANSLATE_NOOP("Texts", "Nápověda")},
                                                   barface::kBack,
@@ -23,7 +25,7 @@ BarForm::BarForm(basSarne& sarne, const QString& name)
       title_(*this, QStringLiteral("lblTitul")),
       imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int i) { barClicked(i); }) {
     title_.place(kTitle);
-    title_.setFont({QStringLiteral("Arial"), 20, true});
+    title_.setFont(kTitleFont);
     title_.setColor(colors::kTitle);
     title_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     imgBtnHlavni.placeRow(kBar);
@@ -41,6 +43,10 @@ void BarForm::setContent(const std::vector<TwipWidget*>& controls) {
 void BarForm::setTitle(const QString& title) {
     title_.setText(title);
     setAccessibleName(title);
+}
+
+int BarForm::titleEnd() const {
+    return kTitle.left() + Label::measure(title(), kTitleFont).width();
 }
 
 void BarForm::open(Control& first) {
@@ -83,10 +89,10 @@ void BarForm::paint(QPainter& painter) {
     const auto band = [&](double top, double bottom, QColor color) {
         painter.fillRect(QRectF(QPointF(all.left(), top), QPointF(all.right(), bottom)), color);
     };
-    band(all.top(), kTitle.bottom() + 60, colors::kTeal);
-    band(kBar.y() - 105, all.bottom(), colors::kTeal);
-    band(kTitle.bottom() + 60, kTitle.bottom() + 90, colors::kCopper);
-    band(kBar.y() - 135, kBar.y() - 105, colors::kCopper);
+    band(all.top(), kTitleBand - 30, colors::kTeal);
+    band(kBarBand + 30, all.bottom(), colors::kTeal);
+    band(kTitleBand - 30, kTitleBand, colors::kCopper);
+    band(kBarBand, kBarBand + 30, colors::kCopper);
 }
 
 }  // namespace sarne

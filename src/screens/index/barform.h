@@ -20,7 +20,9 @@ class BarForm : public Form {
 
     /// Where the title, the content and the bar lie, in twips.
     static constexpr QRect kTitle{300, 60, 11400, 690};
-    static constexpr QRect kContent{300, 900, 11400, 6930};
+    static constexpr QRect kContent{360, 1200, 11280, 6300};  ///< with even margins, for a sheet
+    static constexpr int kTitleBand = 840;                    ///< where the title's band ends
+    static constexpr int kBarBand = 7860;                     ///< where the bar's band begins
     static constexpr QRect kBar{3300, 7995, 8400, 960};
 
     BarForm(basSarne& sarne, const QString& name);
@@ -32,6 +34,8 @@ class BarForm : public Form {
     /// The title at the top of the screen.
     void setTitle(const QString& title);
     QString title() const { return title_.text(); }
+    /// Where the title's text ends, in twips.
+    int titleEnd() const;
     /// The controls before the bar, in the order in which the keyboard goes through them.
     void setContent(const std::vector<TwipWidget*>& controls);
     /// Shows the screen over the others and gives \a first the keyboard.

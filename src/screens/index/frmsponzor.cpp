@@ -18,7 +18,8 @@
 namespace sarne {
 namespace {
 
-constexpr QRect kHint{5400, 60, 6300, 690};
+constexpr QRect kHint{600, 60, 11100, 690};  // less the title
+constexpr int kAreasBottom = BarForm::kBarBand - 60;
 constexpr QRect kPosition{300, 8145, 2850, 750};
 constexpr QRect kPrevious{120, 4200, 600, 600};
 constexpr QRect kNext{11280, 4200, 600, 600};
@@ -54,8 +55,6 @@ frmSponzor::frmSponzor(basSarne& sarne)
       next_(*this, QStringLiteral("imgSipky(1)")),
       card_(*this, QStringLiteral("picText")),
       close_(*this, QStringLiteral("imgZavri")) {
-    hint_.place(kHint);
-    hint_.setFont({QStringLiteral("Arial"), 12});
     hint_.setColor(colors::kPaper);
     hint_.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     hint_.setWordWrap(true);
@@ -132,10 +131,9 @@ void frmSponzor::showPicture(int index) {
     const int count = static_cast<int>(pictures_.size());
     at_ = (index + count) % count;
     closeCard();
-    picture_ = app().mediaPicture(QStringLiteral("foto\\sponzor\\%1.bmp").arg(current().number));
+    room_ = Room(app().mediaPicture(QStringLiteral("foto\\sponzor\\%1.bmp").arg(current().number)));
     setTitle(current().title);
-    // Its blanks that hold words together stay what they are.
-    hint_.setText(plainText(current().text, 400).trimmed().replace(u'\n', u' '));
+    showHint();
     position_.setText(count > 1 ? QStringLiteral("%1 z %2").arg(at_ + 1).arg(count) : QString());
     previous_.setVisible(count > 1);
     next_.setVisible(count > 1);
@@ -143,6 +141,25 @@ void frmSponzor::showPicture(int index) {
     setKeyboardOrder();
     if (isVisible()) ring().focus(firstControl());
     update();
+}
+
+/// What the picture is about stands beside the title, in one line as long as that can be read.
+void frmSponzor::showHint() {
+    // Its blanks that hold words together stay what they are.
+    hint_.setText(plainText(current().text, 400).trimmed().replace(u'\n', u' '));
+    QRect place = kHint;
+    place.setLeft(std::min(titleEnd() + kHint.x(), kHint.center().x()));
+    TextFont font{QStringLiteral("Arial"), 12};
+    while (font.size > 10 && Label::measure(hint_.text(), font).width() > place.width()) font.size -= .5;
+    hint_.setFont(font);
+    hint_.place(place);
+}
+
+/// The bar hides what of a picture lies below it; the name of a thing is not to.
+QRect frmSponzor::areaPlace(const GalleryArea& area) const {
+    QRect place = onScreen(area.place, twips().size());
+    if (place.top() < kAreasBottom) place.setBottom(std::min(place.bottom(), kAreasBottom));
+    return place;
 }
 
 void frmSponzor::makeAreas() {
@@ -154,7 +171,7 @@ void frmSponzor::makeAreas() {
     for (const GalleryArea& area : current().areas) {
         const int number = static_cast<int>(areas_.size());
         auto* button = new AreaButton(*this, QStringLiteral("lblOblast(%1)").arg(number), area.name);
-        button->place(onScreen(area.place, twips().size()));
+        button->place(areaPlace(area));
         button->stackUnder(&previous_);
         connect(button, &AreaButton::clicked, this, [this, number] { choose(number); });
         areas_.push_back(button);
@@ -261,9 +278,8 @@ void frmSponzor::mousePressEvent(QMouseEvent* event) {
 }
 
 void frmSponzor::paintGround(QPainter& painter) {
-    const QRect all({0, 0}, twips().size());
-    if (picture_.isNull()) return BarForm::paintGround(painter);
-    picture_.draw(painter, all, Fit::Cover);
+    if (room_.isNull()) return BarForm::paintGround(painter);
+    paintRoom(painter, room_);
 }
 
 void frmSponzor::paint(QPainter& painter) {

@@ -35,7 +35,9 @@ class frmSponzor : public BarForm {
     void placeCard();
     void makeArrows();
     void showPicture(int index);
+    void showHint();
     bool showNumber(int number);
+    QRect areaPlace(const GalleryArea& area) const;
     void makeAreas();
     Control& firstControl() const;
     void choose(int area);
@@ -47,7 +49,7 @@ class frmSponzor : public BarForm {
 
     std::vector<GalleryPicture> pictures_;
     int at_ = 0;
-    Picture picture_;
+    Room room_;  // the picture, and its own surroundings where the display is wider
     std::vector<AreaButton*> areas_;
     int chosen_ = -1;  // the area whose text is on the card
     Label hint_;

@@ -16,10 +16,10 @@
 namespace sarne {
 namespace {
 
-constexpr int kLettersHeight = 450;
-constexpr int kLetterWidth = 900;  // at most
-constexpr int kGap = 75;           // between the letters or the note and the paper
-constexpr int kPaperEdge = 75;     // of paper around the table
+constexpr int kLetterColumns = 2, kLetterWidth = 480, kLetterHeight = 600;  // the height at most
+constexpr int kGap = 75;  // between the note and the paper, the paper and the arrows
+constexpr int kNoteTop = BarForm::kTitleBand + 30;
+constexpr int kPaperEdge = 75;  // of paper around the table
 constexpr int kArrowSide = 600;
 constexpr QRect kPosition{300, 8145, 2850, 750};
 
@@ -102,20 +102,30 @@ void FrmTabulky::makeArrows() {
     }
 }
 
-/// Places everything: above the table its letters or its note, on its right the arrows where they are needed.
+/// The letters stand in columns on a plate of their own, at the left edge of \a room; what they leave of it.
+QRect FrmTabulky::placeLetters(const QRect& room) {
+    lettersPlate_ = {};
+    if (letters_.empty()) return room;
+    const int lines = (static_cast<int>(letters_.size()) + kLetterColumns - 1) / kLetterColumns;
+    const int height = std::min(kLetterHeight, (room.height() - 2 * kGap) / lines);
+    const QPoint corner = room.topLeft() + QPoint(kGap, kGap);
+    for (int i = 0; i < static_cast<int>(letters_.size()); ++i)
+        letters_[static_cast<size_t>(i)]->place(
+            {corner + QPoint(i / lines * kLetterWidth, i % lines * height), QSize(kLetterWidth, height)});
+    const int width = kLetterColumns * kLetterWidth + 2 * kGap;
+    lettersPlate_ = QRect(room.topLeft(), QSize(width, lines * height + 2 * kGap));
+    return room.adjusted(width + 2 * kGap, 0, 0, 0);
+}
+
+/// Places everything: beside the table its letters, above it its note, on its right the arrows where they are
+/// needed.
 void FrmTabulky::layOut() {
-    QRect room = kContent;
-    if (!letters_.empty()) {
-        const int width = std::min(kLetterWidth, room.width() / static_cast<int>(letters_.size()));
-        for (size_t i = 0; i < letters_.size(); ++i)
-            letters_[i]->place({room.x() + static_cast<int>(i) * width, room.y(), width, kLettersHeight});
-        room.setTop(room.top() + kLettersHeight + kGap);
-    }
+    QRect room = placeLetters(kContent);
     note_.setVisible(!note_.text().isEmpty());
     if (!note_.text().isEmpty()) {
-        note_.place({room.topLeft(), QSize()});
+        note_.place({room.left(), kNoteTop, 0, 0});
         note_.autoSize(room.width());
-        room.setTop(room.top() + note_.twips().height() + kGap);
+        room.setTop(std::max(room.top(), note_.twips().bottom() + 2 * kGap));
     }
     const QRect narrow = room.adjusted(0, 0, -kArrowSide - kGap, 0);
     const auto fit = [this](const QRect& paper) {
@@ -208,10 +218,13 @@ bool FrmTabulky::keyDown(QKeyEvent& event) {
 void FrmTabulky::paint(QPainter& painter) {
     BarForm::paint(painter);
     const QRect paper = table_.twips().adjusted(-kPaperEdge, -kPaperEdge, kPaperEdge, kPaperEdge);
-    // The letters and the note stand on the band above the paper.
-    painter.fillRect(
-        QRect(0, kTitle.bottom() + 90, twips().width(), paper.top() - kGap - kTitle.bottom() - 90),
-        colors::kTeal);
+    if (note_.isVisible()) {  // it stands on a band of its own, as wide as the display
+        const QRectF all = covered();
+        const double bottom = note_.twips().bottom() + kGap;
+        painter.fillRect(QRectF(QPointF(all.left(), kTitleBand), QPointF(all.right(), bottom)),
+                         colors::kTeal);
+    }
+    if (!lettersPlate_.isEmpty()) paintPlate(painter, lettersPlate_);
     paintPaper(painter, paper);
 }
 

@@ -23,6 +23,7 @@ class FrmTabulky : public BarForm {
   private:
     void makeLetters();
     void makeArrows();
+    QRect placeLetters(const QRect& room);
     void layOut();
     void jumpToLetter(const QString& letter);
     bool moveKey(int key);
@@ -34,6 +35,7 @@ class FrmTabulky : public BarForm {
     Label note_;
     Label position_;
     std::vector<Button*> letters_;
+    QRect lettersPlate_;
     std::array<Button*, 4> arrows_{};
 };
 

@@ -1,5 +1,7 @@
 #include "screens/index/lookuptable.h"
 
+#include <QRegularExpression>
+
 #include "core/texts.h"
 #include "db/database.h"
 #include "db/queries.h"
@@ -9,20 +11,27 @@
 namespace sarne {
 namespace {
 
-constexpr int kPreview = 160;  // characters: more than a row can show
+constexpr int kPreview = 400;  // characters: more than a first sentence has
 
-/// The beginning of a keyword's text, its heading left out.
+/// The first sentence of \a text: up to a full stop before a capital letter. One that does not end is cut.
+QString firstSentence(const QString& text) {
+    static const QRegularExpression end(QStringLiteral(R"((?<!\d|\b\w)[.!?](?= +\p{Lu}|$))"));
+    const QRegularExpressionMatch found = end.match(text);
+    return found.hasMatch() ? text.left(found.capturedEnd()) : text;
+}
+
+/// What a keyword's text says first, its heading left out.
 QString preview(const QString& text, const QString& name) {
     QStringList lines = plainText(text, kPreview + name.size()).trimmed().split(u'\n');
     if (lines.size() > 1 && lines.first().simplified() == name.simplified()) lines.removeFirst();
-    return lines.join(u' ').simplified();
+    return firstSentence(lines.join(u' ').simplified());
 }
 
 LookupTable keywordIndex(Database& db) {
     LookupTable table;
     table.title = Texts::tr("Rejstřík hesel");
     table.columns = QStringList{Texts::tr("Heslo"), Texts::tr("Co o něm kuchařka říká")};
-    table.layout = LookupTable::Rows::OneLine;
+    table.layout = LookupTable::Rows::Names;
     table.hasLetters = true;
     Recordset keywords = queries::keywords(db);
     for (; !keywords.AtEnd(); keywords.MoveNext()) {
@@ -75,7 +84,7 @@ QString tableAsText(const LookupTable& table) {
         QStringList rest;
         for (qsizetype column = 1; column < table.columns.size(); ++column) {
             if (row.cells[column].isEmpty()) continue;
-            rest << (table.layout == LookupTable::Rows::OneLine
+            rest << (table.layout == LookupTable::Rows::Names
                          ? row.cells[column]
                          : table.columns[column] + QStringLiteral(": ") + row.cells[column]);
         }

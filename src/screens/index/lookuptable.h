@@ -18,7 +18,7 @@ struct LookupRow {
 struct LookupTable {
     enum class Rows {
         Wrapped,  ///< a row is as high as its longest cell needs
-        OneLine,  ///< cells that are too long are cut
+        Names,    ///< the same, and the first column breaks no line
     };
 
     QString title;

@@ -63,8 +63,8 @@ std::vector<int> columnWidths(const std::vector<Wish>& wishes, int width, Lookup
     std::vector<int> widths;
     if (naturalSum <= width) {
         widths = shareOut(natural, natural, width - naturalSum);
-    } else if (rows == LookupTable::Rows::OneLine) {
-        widths = natural;  // only the last column is cut
+    } else if (rows == LookupTable::Rows::Names) {
+        widths = natural;  // only the last column gives way
     } else if (leastSum <= width) {
         widths = shareOut(least, missing, width - leastSum);
     } else {
@@ -96,10 +96,8 @@ TableLayout TableLayout::of(const LookupTable& table, int width, const TextFont&
         left += column;
     }
     layout.headHeight = rowHeight(table.columns, layout.widths, headFont);
-    const int oneLine = Label::measure(QStringLiteral("T"), font).height() + 2 * kLeading;
     for (const LookupRow& row : table.rows)
-        layout.heights.push_back(
-            table.layout == LookupTable::Rows::OneLine ? oneLine : rowHeight(row.cells, layout.widths, font));
+        layout.heights.push_back(rowHeight(row.cells, layout.widths, font));
     return layout;
 }
 

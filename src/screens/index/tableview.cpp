@@ -135,11 +135,7 @@ void TableView::wheelEvent(QWheelEvent* event) {
 void TableView::paintCell(QPainter& painter, const QRect& cell, const QString& text) const {
     const QRect room = cell.adjusted(TableLayout::kPadding, TableLayout::kLeading, -TableLayout::kPadding,
                                      -TableLayout::kLeading);
-    if (table_.layout == LookupTable::Rows::Wrapped)
-        return painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
-    const QString fitting =
-        QFontMetricsF(painter.font()).elidedText(text, Qt::ElideRight, static_cast<double>(room.width()));
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, fitting);
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
 }
 
 void TableView::paintHead(QPainter& painter) const {

@@ -42,11 +42,12 @@ QRect TextForm::wholePaper() {
 void TextForm::showText(const QString& name, const QString& text, const QString& kind) {
     name_ = name;
     text_ = text;
-    setTitle(beginsWithHeading(text, name) ? kind : name);
+    const QString body = withoutHeading(text, name);
+    setTitle(beginsWithHeading(body, name) ? kind : name);
     view_.Cls();
     view_.setCurrentX(kTextStart.x());
     view_.setCurrentY(kTextStart.y());
-    view_.drawRichText(text);
+    view_.drawRichText(body);
     view_.scrollTo(0);
     view_.setAccessibleName(name);
 }

@@ -13,8 +13,8 @@ class TextForm : public BarForm {
     TextForm(basSarne& sarne, const QString& name);
 
   protected:
-    /// Shows \a text from its top. The title is \a name, or, where the text begins with that as its own
-    /// heading, \a kind.
+    /// Shows \a text from its top. The title is \a name, which is not said again as the text's own heading;
+    /// where that cannot be taken out, the title is \a kind.
     void showText(const QString& name, const QString& text, const QString& kind);
     TextView& view() { return view_; }
     /// Where a text stands that has the paper to itself, its scroll arrows right of it.

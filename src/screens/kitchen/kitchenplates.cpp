@@ -22,18 +22,23 @@ namespace sarne {
 namespace {
 
 constexpr int kLook = 250, kSayingTime = 4000, kRingAgain = 3500;  // milliseconds
-constexpr int kWidth = 1920, kHeight = 630, kGap = 60, kColumns = 4;
+constexpr int kWidth = 1920, kHeight = 630, kGap = 60;
+// Without room beside the screens: what shows the time alone, above their titles.
+constexpr QSize kSmall(1080, 330);
+constexpr int kSmallTop = 15, kColumns = 8;
 constexpr int kSayingBottom = 7800;
-const TextFont kTime{QStringLiteral("Arial"), 15, true}, kName{QStringLiteral("Arial"), 9},
-    kSaying{QStringLiteral("Arial"), 14, true};
+const TextFont kTime{QStringLiteral("Arial"), 15, true}, kSmallTime{QStringLiteral("Arial"), 11, true},
+    kName{QStringLiteral("Arial"), 9}, kSaying{QStringLiteral("Arial"), 14, true};
 
-/// Where the plate of timer \a index lies: beside the design area where the display is wide enough, else in
-/// the upper right corner, side by side.
+/// Where the plate of timer \a index lies: beside the design area where the display is wide enough, else
+/// along the upper edge from the right, small, so that no title is covered.
 QRect timerPlace(int index, double roomBeside) {
     if (roomBeside >= kWidth + kGap)
         return {Stage::kWidth + kGap / 2, 90 + index * (kHeight + kGap), kWidth, kHeight};
     const int column = index % kColumns, row = index / kColumns;
-    return {Stage::kWidth - (column + 1) * (kWidth + kGap), 90 + row * (kHeight + kGap), kWidth, kHeight};
+    return {
+        {Stage::kWidth - (column + 1) * (kSmall.width() + kGap), kSmallTop + row * (kSmall.height() + kGap)},
+        kSmall};
 }
 
 }  // namespace
@@ -50,6 +55,7 @@ class KitchenPlates::Plate : public TwipWidget {
         text_ = text;
         name_ = name;
         rings_ = rings;
+        setToolTip(name);
         setAccessibleName(name.isEmpty() ? text : name + QStringLiteral(", ") + text);
         update();
     }
@@ -71,14 +77,19 @@ class KitchenPlates::Plate : public TwipWidget {
         painter.setPen(QPen(colors::kCopper, 30));
         painter.setBrush(rings_ ? colors::kSelected : colors::kTeal);
         painter.drawRoundedRect(all.adjusted(15, 15, -15, -15), 100, 100);
-        const double side = all.height() - 120;
-        double left = 90;
+        const bool small = twips().height() <= kSmall.height();
+        const double edge = small ? 30 : 60, side = all.height() - 2 * edge;
+        double left = 1.5 * edge;
         if (!picture_.isNull()) {
-            picture_.draw(painter, QRectF(60, 60, side, side), Fit::Inside);
+            picture_.draw(painter, QRectF(edge, edge, side, side), Fit::Inside);
             left += side + 30;
         }
-        const QRectF text(left, 30, all.width() - left - 60, all.height() - 60);
+        const QRectF text(left, 30, all.width() - left - edge, all.height() - 60);
         painter.setPen(colors::kTitle);
+        if (small) {
+            painter.setFont(kSmallTime.toQFont());
+            return painter.drawText(text, Qt::AlignCenter, text_);
+        }
         if (name_.isEmpty()) {
             painter.setFont(kSaying.toQFont());
             return painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap, text_);

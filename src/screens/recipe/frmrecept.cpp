@@ -70,7 +70,6 @@ void frmRecept::makeView() {
     connect(view_, &TextView::linkActivated, this, [this](LinkKey key) { followLink(app(), key); });
     connect(view_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });
     connect(view_, &Control::clicked, this, [this] { current().viewClicked(); });
-    picture_->place(recipelayout::kBesideView);
     picture_->setAttribute(Qt::WA_TransparentForMouseEvents);
     picture_->hide();
 }

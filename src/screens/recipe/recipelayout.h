@@ -31,14 +31,19 @@ inline constexpr QRect kKitchen{2640, 7950, 2280, 885};
 inline constexpr QRect kView{2880, 1590, 8400, 6060};  ///< the drawing surface
 inline constexpr QRect kPhotoView{2820, 1590, 8820, 6060};
 inline constexpr QRect kHalfView{2880, 1590, 4200, 6060};  ///< the drawing surface with a picture beside it
-inline constexpr QRect kBesideView{7380, 1890, 4200, 5400};
+/// A picture of \a size's proportions beside a text that begins at \a top.
+constexpr QRect beside(int top, QSize size) {
+    constexpr int kWidth = 4200, kHeight = 5400;  // at most
+    const int height = size.isEmpty() ? kWidth * 3 / 4 : kWidth * size.height() / size.width();
+    return {7380, top + 75, kWidth, height < kHeight ? height : kHeight};
+}
 inline constexpr QRect kListView{2880, 2520, 8400, 5130};  ///< below the cutlery
 constexpr QRect cutlery(int position) {
-    return {2880 + position * 870, 1530, 780, 780};
+    return {2880 + position * 855, 1530, 780, 780};
 }
-inline constexpr QRect kWeights{7440, 1530, 780, 780};
-inline constexpr QRect kSpoons{8280, 1530, 780, 780};
-inline constexpr QRect kPortionText{9180, 1530, 1260, 780};
+inline constexpr QRect kWeights{7290, 1530, 780, 780};
+inline constexpr QRect kSpoons{8130, 1530, 780, 780};
+inline constexpr QRect kPortionText{9000, 1530, 1380, 780};
 inline constexpr QRect kFishButton{10380, 1620, 1380, 600};
 
 inline constexpr int kOptionColumns = 2;

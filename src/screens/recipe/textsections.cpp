@@ -14,6 +14,24 @@ constexpr int kBetweenTexts = 200;  // twips between the texts of one section
 
 }  // namespace
 
+void RecipeSection::showBeside(const Picture& picture) const {
+    if (picture.isNull()) return;
+    room_.picture.place(recipelayout::beside(room_.view.twips().top(), picture.size()));
+    room_.picture.setPicture(picture, Fit::Inside);
+    room_.picture.show();
+}
+
+void RecipeSection::drawBeside(const Picture& picture, const std::function<void()>& text) const {
+    if (picture.isNull()) return text();
+    room_.view.place(recipelayout::kHalfView);
+    text();
+    if (room_.view.drawnText().isEmpty()) return;
+    if (room_.view.scrollRange() == 0) return showBeside(picture);
+    room_.view.Cls();
+    room_.view.place(viewPlace());
+    text();
+}
+
 void PhotoSection::draw() {
     if (shown_) return show();
     room_.view.setFont({QStringLiteral("Times New Roman"), 12});
@@ -54,23 +72,18 @@ void TextSection::draw() {
 }
 
 void WineSection::draw() {
-    const Picture wine = room_.sarne.mediaPicture(QStringLiteral("foto\\vino256.bmp"));
-    const bool hasText = !room_.recipe.field("vino").trimmed().isEmpty();
-    if (!wine.isNull() && hasText) room_.view.place(recipelayout::kHalfView);
-    TextSection::draw();
-    if (wine.isNull() || !hasText) return;
-    if (room_.view.scrollRange() == 0) return showBeside(wine);
-    room_.view.Cls();
-    room_.view.place(viewPlace());
-    TextSection::draw();
+    drawBeside(room_.sarne.mediaPicture(QStringLiteral("foto\\vino256.bmp")),
+               [this] { TextSection::draw(); });
 }
 
 void ToolSection::draw() {
     const QStringList tools = recipeTools(room_.sarne.Db(), room_.recipe.id);
     if (tools.isEmpty()) return;
-    TextView& view = room_.view;
-    view.setFont({QStringLiteral("Arial"), 12});
-    for (const QString& tool : tools) view.print(tool);
+    drawBeside(room_.recipe.photo, [this, &tools] {
+        TextView& view = room_.view;
+        view.setFont({QStringLiteral("Arial"), 12});
+        for (const QString& tool : tools) view.print(tool);
+    });
 }
 
 }  // namespace sarne
