@@ -38,7 +38,7 @@ QRect AreaButton::plate() const {
 void AreaButton::paintLight(QPainter& painter) const {
     const QRectF area(0, 0, twips().width(), plate().top());
     QRadialGradient light(QPointF(), 1);
-    constexpr QColor kMiddle(120, 108, 84);
+    constexpr QColor kMiddle(92, 82, 62);
     light.setColorAt(0, kMiddle);
     light.setColorAt(.55, kMiddle);
     light.setColorAt(1, Qt::black);  // no light
