@@ -185,6 +185,34 @@ TEST_F(MainScreenTest, ButtonsByKeyboard) {
     EXPECT_TRUE(run.recorded.calls.contains(QStringLiteral("showList 7,9, recepty")));
 }
 
+TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
+    start();
+    run.window.activateWindow();
+    ASSERT_TRUE(run.window.isActiveWindow());
+    Timer* life = main->findChildren<Timer*>().at(2);
+    const auto moves = [&] {
+        const QImage still = main->grab().toImage();
+        bool moved = false;
+        for (int tick = 0; tick < 30; ++tick) {
+            life->fire();
+            moved |= main->grab().toImage() != still;
+        }
+        return moved;
+    };
+    EXPECT_TRUE(moves());
+    auto* above = new Form(run, QStringLiteral("frmSeznam"));
+    run.PushScreen(*above);
+    life->fire();
+    EXPECT_FALSE(moves()) << "another screen is on top";
+    run.PopScreen(*above);
+    EXPECT_TRUE(moves());
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    life->fire();
+    EXPECT_FALSE(moves()) << "another program has the keyboard";
+}
+
 TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
     start();
     auto* top = new Form(run, QStringLiteral("frmSeznam"));

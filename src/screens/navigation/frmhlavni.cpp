@@ -20,6 +20,7 @@ namespace {
 
 constexpr int kNone = -5;
 constexpr int kFrameInterval = 100;  // milliseconds
+constexpr int kLookAgain = 2000;     // milliseconds until it is seen that somebody is there again
 constexpr int kFirstEffect = 100;    // button i sounds effect i + 100
 
 /// What button \a i is called: as the menu that it opens.
@@ -36,13 +37,15 @@ frmHlavni::frmHlavni(basSarne& sarne)
       current_(kNone),
       TmrPohyby(this),
       Label2(*this, QStringLiteral("Label2")),
-      tmrSvetlo(this) {
+      tmrSvetlo(this),
+      tmrOzdoby(this) {
     setMouseTracking(true);
     TmrPohyby.setInterval(kFrameInterval);
     TmrPohyby.setTag(QStringLiteral("0"));
     connect(&TmrPohyby, &Timer::tick, this, &frmHlavni::tick);
     tmrSvetlo.setInterval(Sweep::kInterval);
     connect(&tmrSvetlo, &Timer::tick, this, &frmHlavni::stepSweep);
+    connect(&tmrOzdoby, &Timer::tick, this, &frmHlavni::liveOn);
     Label2.setText(QStringLiteral("Velisa sarn"));
     Label2.setFont({QStringLiteral("Times New Roman"), 15, true, true});
     Label2.setColor(colors::kTitle);
@@ -68,6 +71,8 @@ void frmHlavni::Zobraz() {
     table_ = buttonTable(app().resources().layout(QStringLiteral("hlavni")));
     for (int i = 0; i < kButtonCount; ++i) makeButton(i);
     showForm();
+    tmrOzdoby.setInterval(kLookAgain);
+    tmrOzdoby.setEnabled(true);
     menu_ = new frmMenu(app(), [this] { SkryjMenu(); });
     startMusic();
 }
@@ -146,6 +151,29 @@ void frmHlavni::endSweep() {
     if (!sweep_.isRunning()) return;
     sweep_.stop();
     stepSweep();
+}
+
+/// Whether what belongs to no button may move: somebody looks at the kitchen.
+bool frmHlavni::mayMoveByItself() const {
+    return isVisible() && app().FormStack.top() == this && app().stage().isActiveWindow();
+}
+
+void frmHlavni::liveOn() {
+    std::vector<QRectF> changed;
+    const auto gather = [&] {
+        for (int thing = 0; thing < Ornaments::kThings; ++thing)
+            if (ornaments_.phase(Ornaments::Thing(thing)) >= 0)
+                changed.push_back(Ornaments::place(Ornaments::Thing(thing)));
+    };
+    gather();  // also what comes to rest has to be painted once more
+    const bool moves = mayMoveByItself();
+    moves ? ornaments_.step() : ornaments_.rest();
+    gather();
+    for (const QRectF& place : changed)
+        update(QRect(toPixels(place.topLeft().toPoint()), toPixels(place.bottomRight().toPoint())));
+    const int wait = ornaments_.stepsUntilMove();
+    if (moves && wait > 0) ornaments_.skip(wait - 1);
+    tmrOzdoby.setInterval(moves ? std::max(1, wait) * Ornaments::kInterval : kLookAgain);
 }
 
 void frmHlavni::paintGlow(QPainter& painter, int thing) const {
@@ -272,6 +300,7 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
 
 void frmHlavni::paint(QPainter& painter) {
     paintRoom(painter, app().Pictures.hlavni);
+    ornaments_.paint(painter, [this](QPainter& part) { paintRoom(part, app().Pictures.hlavni); });
     for (const int thing : sweep_.lit()) paintGlow(painter, thing);
     if (current_ < 0 || shownFrame_ == 0) return;
     const auto& pictures = frames(current_);

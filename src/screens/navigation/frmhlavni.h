@@ -10,6 +10,7 @@
 #include "forms/picture.h"
 #include "forms/timer.h"
 #include "screens/navigation/buttontable.h"
+#include "screens/navigation/ornaments.h"
 #include "screens/navigation/sweep.h"
 
 namespace sarne {
@@ -56,6 +57,8 @@ class frmHlavni : public Form {
     void endHover();
     void tick();
     void clickButton(int i);
+    void liveOn();
+    bool mayMoveByItself() const;
     void stepSweep();
     void endSweep();
     void paintGlow(QPainter& painter, int thing) const;
@@ -79,6 +82,8 @@ class frmHlavni : public Form {
     frmMenu* menu_ = nullptr;
     Sweep sweep_;
     Timer tmrSvetlo;
+    Ornaments ornaments_;
+    Timer tmrOzdoby;
 };
 
 }  // namespace sarne
