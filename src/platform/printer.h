@@ -3,6 +3,7 @@
 #include <QRect>
 #include <QString>
 #include <QStringList>
+#include <vector>
 
 class QPainter;
 
@@ -43,6 +44,20 @@ struct PrinterChoice {
     static PrinterChoice fromText(const QString& text);
 };
 
+/// A place of a document that a link leads to and that its table of contents may name.
+struct DocumentPlace {
+    int top = 0;  ///< twips from where the line or page begins
+    QString name = {};
+    QString title = {};  ///< in the table of contents; empty: it is not in it
+    int level = 0;       ///< in the table of contents: 0 the outermost, 1 below the last of those
+};
+
+/// What leads from one place of a document to another.
+struct DocumentLink {
+    QRect place;     ///< twips, like those of the texts
+    QString target;  ///< a DocumentPlace's name
+};
+
 /// How a document ended.
 struct PrintedDocument {
     bool complete = false;  ///< all of it has reached the printer or the file
@@ -68,6 +83,8 @@ class Printer {
     /// Starts a document on its first page. The painter maps one unit to one twip, its origin is the scale's.
     /// It belongs to the printer and lives until end(). Nothing when the document cannot be started.
     virtual QPainter* begin(const QString& documentName) = 0;
+    /// Notes the places and links of the page that is being painted; paper has no use for them.
+    virtual void addNotes(const std::vector<DocumentPlace>&, const std::vector<DocumentLink>&) {}
     /// False when the printer takes no more pages.
     virtual bool newPage() = 0;
     virtual PrintedDocument end() = 0;

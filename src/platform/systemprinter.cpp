@@ -1,5 +1,6 @@
 #include "platform/systemprinter.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QLibrary>
@@ -10,6 +11,7 @@
 #include <QStandardPaths>
 
 #include "platform/pagesonsheet.h"
+#include "platform/pdfnotes.h"
 #include "platform/wholefile.h"
 
 namespace sarne {
@@ -66,6 +68,7 @@ class SystemPrinter::State {
     PageScale scale() const;
     bool beginFile(const QString& path, const QString& title);
     bool beginPrinter(const QString& title);
+    void addNotes(const std::vector<DocumentPlace>& places, const std::vector<DocumentLink>& links);
     bool nextPage();
     PrintedDocument endFile();
     PrintedDocument endPrinter();
@@ -75,14 +78,17 @@ class SystemPrinter::State {
     PagesOnSheet pages;
     QPainter painter;
     std::unique_ptr<WholeFile> file;
+    QBuffer written;  // what becomes of the file
     std::unique_ptr<QPdfWriter> pdf;
+    PdfNotes notes;
 
   private:
     QPageLayout fileLayout() const;
     void toPage();
     void drawCuts();
 
-    int page_ = 0;  // on the sheet
+    int page_ = 0;   // on the sheet
+    int sheet_ = 0;  // in the document
     QTransform base_;
 };
 
@@ -122,7 +128,10 @@ bool SystemPrinter::State::beginFile(const QString& path, const QString& title) 
         file.reset();
         return false;
     }
-    pdf = std::make_unique<QPdfWriter>(file.get());
+    written.setData({});
+    written.open(QIODevice::WriteOnly);
+    notes = {};
+    pdf = std::make_unique<QPdfWriter>(&written);
     pdf->setPageLayout(fileLayout());
     pdf->setResolution(kTwipsPerInch);
     pdf->setTitle(title);
@@ -130,7 +139,7 @@ bool SystemPrinter::State::beginFile(const QString& path, const QString& title) 
     pdf->setDocumentXmpMetadata(metadata(title));
     if (!painter.begin(pdf.get())) return false;
     base_ = QTransform();
-    page_ = 0;
+    page_ = sheet_ = 0;
     toPage();
     return true;
 }
@@ -160,8 +169,19 @@ void SystemPrinter::State::drawCuts() {
     painter.fillRect(QRect(0, size.height(), pages.across * size.width(), kCutLine), Qt::lightGray);
 }
 
+void SystemPrinter::State::addNotes(const std::vector<DocumentPlace>& places,
+                                    const std::vector<DocumentLink>& links) {
+    if (!pdf) return;
+    const QTransform& toSheet = painter.transform();
+    for (const DocumentPlace& place : places)
+        notes.addPlace(sheet_, toSheet.map(QPointF(0, place.top)).y(), place);
+    for (const DocumentLink& link : links)
+        notes.addLink(sheet_, toSheet.mapRect(QRectF(link.place)), link.target);
+}
+
 bool SystemPrinter::State::nextPage() {
     page_ = (page_ + 1) % pages.count();
+    sheet_ += page_ == 0 ? 1 : 0;
     if (page_ == 0 && !(pdf ? pdf->newPage() : printer.newPage())) return false;
     toPage();
     return true;
@@ -170,6 +190,8 @@ bool SystemPrinter::State::nextPage() {
 PrintedDocument SystemPrinter::State::endFile() {
     painter.end();
     pdf.reset();
+    written.close();
+    file->write(notes.writtenInto(written.data()));
     PrintedDocument document;
     document.complete = file->commit();
     if (document.complete) document.file = file->fileName();
@@ -228,6 +250,11 @@ QPainter* SystemPrinter::begin(const QString& documentName) {
     const bool begun =
         now.toFile() ? now.beginFile(fileFor(documentName), documentName) : now.beginPrinter(documentName);
     return begun ? &now.painter : nullptr;
+}
+
+void SystemPrinter::addNotes(const std::vector<DocumentPlace>& places,
+                             const std::vector<DocumentLink>& links) {
+    state().addNotes(places, links);
 }
 
 bool SystemPrinter::newPage() {

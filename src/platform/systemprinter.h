@@ -22,6 +22,7 @@ class SystemPrinter final : public Printer {
     PageScale scale() const override;
     QString fileFor(const QString& documentName) const override;
     QPainter* begin(const QString& documentName) override;
+    void addNotes(const std::vector<DocumentPlace>& places, const std::vector<DocumentLink>& links) override;
     bool newPage() override;
     PrintedDocument end() override;
 

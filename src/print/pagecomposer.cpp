@@ -40,6 +40,14 @@ void addTo(PrintedPage& page, const FlowLine& line, int top) {
         picture.place.translate(0, top);
         page.pictures.push_back(std::move(picture));
     }
+    for (DocumentPlace place : line.places) {
+        place.top += top;
+        page.places.push_back(std::move(place));
+    }
+    for (DocumentLink link : line.links) {
+        link.place.translate(0, top);
+        page.links.push_back(std::move(link));
+    }
 }
 
 }  // namespace
@@ -82,8 +90,12 @@ std::vector<PrintedPage> PageComposer::recipe(int id, const PrintOptions& option
 std::vector<FlowLine> PageComposer::setRecipe(const Recordset& recipe, const PrintOptions& options,
                                               PrintProgress& progress) {
     RecipeFlow flow(page_, metrics_, progress);
-    RecipeSections(recipe, flow, {source_, options, progress, room()}).set();
-    return flow.wentOn() ? flow.take() : std::vector<FlowLine>();
+    RecipeSections sections(recipe, flow, {source_, options, progress, room()});
+    sections.set();
+    if (!flow.wentOn()) return {};
+    std::vector<FlowLine> lines = flow.take();
+    sections.linkTexts(lines);
+    return lines;
 }
 
 /// The lines of a recipe's card, in the largest letters in which it is one page.
@@ -104,6 +116,7 @@ std::vector<FlowLine> PageComposer::setCard(const Recordset& recipe, const Print
 std::vector<PrintedPage> PageComposer::text(const TitledText& text, PrintProgress& progress) {
     progress.recipeStarted(text.title);
     RecipeFlow flow(page_, metrics_, progress);
+    flow.nameNext({0, text.title, text.title});
     flow.addText(text.title, printfonts::name(), FlowLine::Kind::Heading);
     flow.addSpace(kTextGap);
     flow.addRichText(text.richText, text.title);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/picture.h"
+#include "platform/printer.h"
 #include "richtext/surface.h"
 
 namespace sarne {
@@ -30,6 +31,8 @@ struct PagePicture {
 struct PrintedPage {
     std::vector<PagePicture> pictures;
     std::vector<PageText> texts;
+    std::vector<DocumentPlace> places;
+    std::vector<DocumentLink> links;
 };
 
 /// One line of a recipe before it has a page. Its texts and picture are placed as if the line's top were 0.
@@ -46,6 +49,8 @@ struct FlowLine {
     bool endsParagraph = true;
     std::vector<PageText> texts;
     std::vector<PagePicture> pictures;
+    std::vector<DocumentPlace> places;
+    std::vector<DocumentLink> links;
 };
 
 }  // namespace sarne

@@ -33,6 +33,7 @@ bool PrintJob::put(const PrintedPage& page) {
     }
     if (failed_) return false;
     ++pages_;
+    printer_.addNotes(page.places, page.links);
     stopped_ = !paintPage(*painter_, page, progress_);
     return !stopped_;
 }

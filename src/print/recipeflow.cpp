@@ -16,14 +16,20 @@ constexpr int kColumnGap = 200;
 /// A paragraph is read in pieces of so many lines, so that the longest can be stopped.
 constexpr int kLinesRead = 48;
 
+QString textOf(const RtfLayout& layout, const TextLine& line) {
+    QStringList words;
+    for (qsizetype i = 0; i < line.boxCount; ++i)
+        words << layout.text(layout.boxes()[static_cast<size_t>(line.firstBox + i)]).toString();
+    return words.join(u' ');
+}
+
 /// How many lines of \a layout, up to the end of its first paragraph, say nothing but \a title.
 size_t linesOfTitle(const RtfLayout& layout, const QString& title) {
     if (title.isEmpty()) return 0;
     QStringList words;
     for (size_t line = 0; line < layout.lines().size(); ++line) {
         const TextLine& textLine = layout.lines()[line];
-        for (qsizetype i = 0; i < textLine.boxCount; ++i)
-            words << layout.text(layout.boxes()[static_cast<size_t>(textLine.firstBox + i)]).toString();
+        if (textLine.boxCount > 0) words << textOf(layout, textLine);
         if (!textLine.endsParagraph || words.isEmpty()) continue;
         const QString paragraph = words.join(u' ').simplified();
         return paragraph.compare(title.simplified(), Qt::CaseInsensitive) == 0 ? line + 1 : 0;
@@ -58,6 +64,10 @@ void RecipeFlow::setPart(double from, double to) {
 void RecipeFlow::append(FlowLine line) {
     if (stop_) return;
     height_ += line.height;
+    if (nextPlace_ && line.kind != FlowLine::Kind::Space) {
+        line.places.push_back(*nextPlace_);
+        nextPlace_.reset();
+    }
     lines_.push_back(std::move(line));
     ask();
 }
@@ -144,6 +154,7 @@ void RecipeFlow::addLaidOutLine(const RtfLayout& layout, const TextLine& line) {
     if (!inParagraph_) {
         ParagraphStyle style = plainStyle(line.isHeading ? FlowLine::Kind::Heading : FlowLine::Kind::Text);
         style.justified = !line.isHeading;
+        if (line.isHeading && listHeadings_) nameNext({0, {}, textOf(layout, line), 1});
         setter_.begin(style);
     }
     inParagraph_ = !line.endsParagraph;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "print/pagegeometry.h"
@@ -30,6 +31,10 @@ class RecipeFlow {
     /// all others. A first paragraph that only repeats \a title is left out too.
     void addRichText(const QString& text, const QString& title = {});
     void addHeading(const QString& text);
+    /// Whether the headings in rich texts stand in the table of contents; at first they do.
+    void listHeadings(bool listed) { listHeadings_ = listed; }
+    /// What is added next is \a place, which links lead to.
+    void nameNext(const DocumentPlace& place) { nextPlace_ = place; }
     void addSpace(int twips);
     /// Adds a text in which every character stands for itself, laid out like a rich text.
     void addPlainText(const QString& text);
@@ -76,6 +81,8 @@ class RecipeFlow {
     ParagraphSetter setter_;
     StopFlag stop_ = false;
     std::vector<FlowLine> lines_;
+    std::optional<DocumentPlace> nextPlace_;
+    bool listHeadings_ = true;
     bool inParagraph_ = false;
     double partFrom_ = 0, partTo_ = 0;
     int height_ = 0;

@@ -47,7 +47,9 @@ void RecipeSections::set() {
 }
 
 void RecipeSections::setCard() {
-    flow_.addText(field(QStringLiteral("Nazev")), printfonts::name(), FlowLine::Kind::Heading);
+    const QString name = field(QStringLiteral("Nazev"));
+    flow_.nameNext({0, placeName(), name});
+    flow_.addText(name, printfonts::name(), FlowLine::Kind::Heading);
     const PrintOptions& options = context_.options;
     if (options.wants(PrintSection::Photo)) photo();
     if (options.wants(PrintSection::Ingredients)) ingredients();
@@ -67,6 +69,7 @@ void RecipeSections::shortSteps() {
 
 void RecipeSections::setName() {
     const QString name = field(QStringLiteral("Nazev")), longName = field(QStringLiteral("DlouhyNazev"));
+    flow_.nameNext({0, placeName(), name});
     flow_.addText(name, printfonts::name(), FlowLine::Kind::Heading);
     if (!longName.isEmpty()) flow_.addText(longName, printfonts::name(), FlowLine::Kind::Heading);
 }
@@ -135,7 +138,9 @@ void RecipeSections::ownNote() {
     if (note.trimmed().isEmpty()) return;
     flow_.endPicture();
     gap();
-    flow_.addHeading(Texts::tr("Vlastní poznámka: "));
+    const QString heading = Texts::tr("Vlastní poznámka: ");
+    flow_.nameNext({0, {}, heading.trimmed().chopped(1), 1});
+    flow_.addHeading(heading);
     flow_.addPlainText(note);
 }
 
@@ -149,6 +154,7 @@ void RecipeSections::tools() {
 }
 
 void RecipeSections::links() {
+    flow_.listHeadings(false);  // they repeat what is linked
     for (Recordset links = queries::printedLinks(context_.source.db, id()); !links.AtEnd();
          links.MoveNext()) {
         if (!flow_.wentOn()) return;
@@ -156,7 +162,11 @@ void RecipeSections::links() {
         status(Texts::tr(" Tisknu odkaz ") + title + QStringLiteral(" ... "));
         flow_.endPicture();
         gap();
-        flow_.addHeading(Texts::tr("Odkaz: ") + title);
+        const QString place = placeName() + u'-' + links.field(QStringLiteral("ID")).toString();
+        const QString heading = Texts::tr("Odkaz: ") + title;
+        flow_.nameNext({0, place, heading, 1});
+        mentions_.add(title, place);
+        flow_.addHeading(heading);
         flow_.addRichText(links.field(QStringLiteral("Text")).toString());
     }
 }

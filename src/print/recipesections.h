@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/recordset.h"
+#include "print/linkmentions.h"
 #include "print/pagecomposer.h"
 #include "print/recipeflow.h"
 
@@ -23,6 +24,8 @@ class RecipeSections {
     void set();
     /// The essence for a card: name, photo, ingredients, and the steps in a sentence each.
     void setCard();
+    /// Links the texts of \a lines, the recipe's, with its linked texts and back.
+    void linkTexts(std::vector<FlowLine>& lines) const { mentions_.mark(lines, placeName()); }
 
   private:
     void setName();
@@ -33,6 +36,7 @@ class RecipeSections {
     void ownNote();
     void tools();
     void links();
+    QString placeName() const { return QStringLiteral("recept%1").arg(id()); }
     void richField(const QString& field, const QString& status);
     void status(const QString& text) { context_.progress.status(text); }
     void gap();
@@ -42,6 +46,7 @@ class RecipeSections {
     const Recordset& recipe_;
     RecipeFlow& flow_;
     Context context_;
+    LinkMentions mentions_;
 };
 
 }  // namespace sarne

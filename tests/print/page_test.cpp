@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 
 #include "platform/pagesonsheet.h"
+#include "platform/pdfnotes.h"
 #include "print/recipeflow.h"
 #include "print/shortsteps.h"
 #include "printcookbook.h"
@@ -197,6 +198,40 @@ TEST(PrintedPage, TakesLargeMaterial) {
         EXPECT_TRUE(text.contains(str("Odkaz: Odkaz číslo %1\n").arg(link))) << link;
         EXPECT_TRUE(text.contains(str("Text odkazu %1.").arg(link))) << link;
     }
+}
+
+TEST(PrintedPage, LeadsFromAMentionToTheLinkedTextAndBack) {
+    if (!PdfNotes::arePossible()) GTEST_SKIP() << "built without the library that writes links";
+    PrintCookbook book(
+        {PrintCookbook::recipe(1, str("Kapr v aspiku"),
+                               {str("Recept"), test::rtf(str("\\b Postup\\b0\\par Rybu va\\'f8\\'edme v "
+                                                             "ryb\\'edm v\\'fdvaru, ryb k v\\'fdvaru "
+                                                             "nelitujeme.\\par ") +
+                                                         test::longText(9000))}),
+         PrintCookbook::recipe(2, str("Lín")),
+         str("INSERT INTO Odkazy VALUES (5,'Rybí vývar',") + test::sqlText(test::rtf(str("Hlavy."))) +
+             str("),(6,'Aspik',") + test::sqlText(test::rtf(str("Rybí vývar ztuhne."))) + u')',
+         str("INSERT INTO SpojOdkazy VALUES (1,5),(1,6)")});
+    for (const Paper paper : {Paper::A4, Paper::TwoA5}) {
+        const PrintOutcome outcome = book.print({1, 2}, {}, paper);
+        const QString xml =
+            test::pdfTool(str("pdftohtml"), {str("-xml"), str("-i"), str("-stdout"), outcome.file});
+        // Where a link leads, and what it is: two A5 stand on each sheet.
+        static const QRegularExpression link(str("<a href=\"[^#\"]*#(\\d+)\">(.*?)</a>"));
+        static const QRegularExpression markup(str("<[^>]*>"));
+        QStringList links;
+        for (const auto& match : link.globalMatch(xml))
+            links << (match.captured(1) + u' ' + match.captured(2).remove(markup)).simplified();
+        EXPECT_EQ(links, (QStringList{str("3 rybím vývaru,"), str("1 Odkaz: Aspik"), str("3 Rybí vývar"),
+                                      str("1 Odkaz: Rybí vývar")}))
+            << xml.right(3000).toStdString();
+        static const QRegularExpression item(str("<item page=\"(\\d+)\">(.*?)</item>"));
+        QStringList contents;
+        for (const auto& match : item.globalMatch(xml)) contents << match.captured(2);
+        EXPECT_EQ(contents, (QStringList{str("Kapr v aspiku"), str("Postup"), str("Odkaz: Aspik"),
+                                         str("Odkaz: Rybí vývar"), str("Lín")}));
+    }
+    EXPECT_EQ(PdfNotes().writtenInto("no document"), QByteArray("no document"));
 }
 
 TEST(SystemPrinter, WritesTheFileOfTheUsersChoice) {
