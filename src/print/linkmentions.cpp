@@ -22,7 +22,7 @@ bool isCaseOf(const QString& word, const QString& stem) {
 }
 
 QString backName(const QString& place) {
-    return place + QStringLiteral("-zmínka");
+    return place + QStringLiteral("-odkud");
 }
 
 }  // namespace
