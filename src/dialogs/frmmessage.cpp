@@ -23,6 +23,7 @@ frmMessage::frmMessage(basSarne& sarne)
     Label1.setFont(kTextFont);
     Label1.setColor(colors::kPaper);
     Image1.setAttribute(Qt::WA_TransparentForMouseEvents);
+    Image1.setUnheard(true);
     for (int i = 0; i < 3; ++i) {
         cmdBtn[size_t(i)] = new Button(*this, QStringLiteral("cmdBtn(%1)").arg(i));
         connect(cmdBtn[size_t(i)], &Button::clicked, this, [this, i] { press(i); });
@@ -68,7 +69,7 @@ void frmMessage::setUp(const QString& text, int style, int silent) {
     setAccessibleName(text.trimmed());
     const size_t first = size_t(parts.defaultButton) < buttons.size() ? size_t(parts.defaultButton) : 0;
     ring().startAt(cmdBtn[first]);
-    app().HookMessage(text);
+    ring().sayWithoutReader(text);  // a screen reader says what the dialog is called
 }
 
 void frmMessage::setUpButtons(const std::vector<MessageButton>& buttons, const MessageGeometry& geometry) {

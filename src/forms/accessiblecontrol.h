@@ -2,8 +2,8 @@
 
 namespace sarne {
 
-/// Teaches the accessibility layer what our controls are: their role, name, and that they can be pressed.
-/// Called by the first control; further calls do nothing.
+/// Teaches the accessibility layer what the window, its forms and their controls are: their roles, names,
+/// texts, tables and the parts within them. Called by the window; further calls do nothing.
 void registerAccessibleControls();
 
 }  // namespace sarne

@@ -2,16 +2,13 @@
 
 #include <QMouseEvent>
 
-#include "forms/accessiblecontrol.h"
 #include "forms/form.h"
 #include "forms/stage.h"
 
 namespace sarne {
 
 Control::Control(Form& form, const QString& name) : TwipWidget(&form), form_(form) {
-    registerAccessibleControls();
     setObjectName(name);
-    setAccessibleName(name);
     setMouseTracking(true);
     show();
 }

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 
+#include "forms/accessiblepart.h"
 #include "forms/twipwidget.h"
 
 namespace sarne {
@@ -21,6 +22,18 @@ class Control : public TwipWidget {
     /// What a screen reader says beside the name: the current entry, how far a bar is.
     virtual QString accessibleValue() const { return {}; }
     virtual void addAccessibleState(QAccessible::State&) const {}
+    /// The things within the control that a screen reader comes to one by one, whether in sight or not. Of a
+    /// table they go row by row, headings first, in partColumns() columns.
+    virtual int partCount() const { return 0; }
+    virtual AccessiblePart part(int /*index*/) const { return {}; }
+    virtual int partColumns() const { return 1; }
+    /// The part that the user is at; -1 for none.
+    virtual int currentPart() const { return -1; }
+    /// Does what Enter or a click does to a part.
+    virtual void usePart(int /*index*/) {}
+    /// A control that is only for the eye, or is told of elsewhere, is left out of what is heard.
+    void setUnheard(bool unheard) { unheard_ = unheard; }
+    bool isUnheard() const { return unheard_; }
     /// Whether Enter and Space do what a click does.
     bool isPressable() const;
 
@@ -61,7 +74,7 @@ class Control : public TwipWidget {
     Form& form_;
     void setPointedAt(bool pointedAt);
 
-    bool down_ = false, pointedAt_ = false;
+    bool down_ = false, pointedAt_ = false, unheard_ = false;
 };
 
 }  // namespace sarne

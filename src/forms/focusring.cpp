@@ -51,8 +51,33 @@ void FocusRing::focus(TwipWidget& stop) {
 
 void FocusRing::goTo(TwipWidget& stop) {
     focus(stop);
+    sayWithoutReader(stop.accessibleName());
+}
+
+void FocusRing::sayWithoutReader(const QString& text) {
     // A screen reader that listens has the focus event, which says the same.
-    if (!QAccessible::isActive()) app_.HookMessage(stop.accessibleName());
+    if (!QAccessible::isActive()) app_.HookMessage(text);
+}
+
+void FocusRing::say(const Control& control) {
+    if (!QAccessible::isActive()) return app_.HookMessage(control.accessibleName());
+    QAccessibleEvent event(const_cast<Control*>(&control), QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+}
+
+void FocusRing::sayPart(const Control& control, int part) {
+    if (part < 0 || part >= control.partCount()) return;
+    if (!QAccessible::isActive()) {
+        const QString value = control.accessibleValue();
+        return app_.HookMessage(value.isEmpty() ? control.part(part).name : value);
+    }
+    QAccessibleInterface* whole = QAccessible::queryAccessibleInterface(const_cast<Control*>(&control));
+    QAccessibleEvent event(whole->child(part), QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+}
+
+void FocusRing::sayPart(const Control& control) {
+    sayPart(control, control.currentPart());
 }
 
 void FocusRing::step(int direction) {

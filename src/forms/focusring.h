@@ -12,6 +12,7 @@ class QKeyEvent;
 namespace sarne {
 
 class basSarne;
+class Control;
 class Form;
 
 /// Stops of the keyboard that Tab takes as one; within it the arrow keys move.
@@ -51,6 +52,14 @@ class FocusRing {
     void focus(TwipWidget& stop);
     /// Gives \a stop the keyboard because the user went there: says its name.
     void goTo(TwipWidget& stop);
+    /// Says the name of \a control, at which the user is without its having the keyboard.
+    void say(const Control& control);
+    /// Says \a part of \a control, or its current one, to which the user has come: where a screen reader
+    /// listens by an event of the part's own, else as a text.
+    void sayPart(const Control& control, int part);
+    void sayPart(const Control& control);
+    /// Says \a text where no screen reader says it by itself, as it does what a dialog asks.
+    void sayWithoutReader(const QString& text);
     /// To the next group's entry, \a direction 1 or -1; round at the ends.
     void step(int direction);
     /// To the next member of the group that has the keyboard. False when no group has it.

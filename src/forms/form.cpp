@@ -106,7 +106,15 @@ bool Form::fillsWindow() const {
 }
 
 void Form::paintRoom(QPainter& painter, const Room& ground) const {
-    ground.draw(painter, covered());
+    eyes().hasContrast() ? painter.fillRect(covered(), Qt::black) : ground.draw(painter, covered());
+}
+
+QAccessible::Role Form::role() const {
+    return fillsWindow() ? QAccessible::Client : QAccessible::Dialog;
+}
+
+const Eyes& Form::eyes() const {
+    return app_.stage().eyes();
 }
 
 void Form::endProgram() {

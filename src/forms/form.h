@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QString>
 #include <functional>
 
@@ -13,6 +14,7 @@ namespace sarne {
 
 class basSarne;
 class Control;
+class Eyes;
 class FocusFrame;
 class Resources;
 
@@ -29,6 +31,8 @@ class Form : public TwipWidget {
     ~Form() override;
 
     QString name() const { return objectName(); }
+    /// For a screen reader: a screen is where things are; a form that does not fill the display is a dialog.
+    virtual QAccessible::Role role() const;
     bool isLoaded() const { return loaded_; }
 
     /// Shows the form in front of the others and gives it the keyboard.
@@ -60,6 +64,10 @@ class Form : public TwipWidget {
     virtual void endProgram();
     virtual void help();
     virtual void musicSettings();
+    /// What the eyes that look at the form need.
+    const Eyes& eyes() const;
+    /// The eyes need other things than before: lays texts out anew, in the new size.
+    virtual void eyesChanged() {}
     /// What F9 reads aloud: by default all texts that show, from the top left to the bottom right.
     virtual QString textToRead() const;
     /// Asks what there is to ask before the program ends; false when the user wants to stay. Asked of every

@@ -49,6 +49,19 @@ QString PictureBox::drawnText() const {
     return all;
 }
 
+ReadableText PictureBox::readableText() const {
+    ReadableText all;
+    for (const Text& text : texts_) {
+        const int width = static_cast<int>(QFontMetricsF(text.font.toQFont()).horizontalAdvance(text.text));
+        all.addLine(text.text, {text.x, text.top, width, text.bottom - text.top});
+    }
+    return all;
+}
+
+QAccessible::Role PictureBox::role() const {
+    return texts_.empty() ? QAccessible::Graphic : QAccessible::StaticText;
+}
+
 void PictureBox::scrollTo(int y) {
     y = qBound(0, y, scrollRange());
     if (y == scrolled_) return;
@@ -64,8 +77,10 @@ void PictureBox::grow(int bottom) {
 }
 
 void PictureBox::setFont(const TextFont& font) {
-    if (font_ == font) return;
-    font_ = font;
+    TextFont wanted = font;
+    wanted.size *= textScale();
+    if (font_ == wanted) return;
+    font_ = wanted;
     metrics_.reset();
 }
 

@@ -8,6 +8,7 @@
 
 #include "forms/control.h"
 #include "forms/picture.h"
+#include "forms/readabletext.h"
 #include "richtext/surface.h"
 
 namespace sarne {
@@ -30,6 +31,9 @@ class PictureBox : public Control, public Surface {
     void addPainted(Painter painter, int height);
     /// The texts drawn since Cls(), top to bottom, one a line; for tests and for a screen reader.
     virtual QString drawnText() const;
+    /// The same with the places on the surface.
+    virtual ReadableText readableText() const;
+    QAccessible::Role role() const override;
 
     int contentHeight() const { return contentHeight_; }
     int scrolled() const { return scrolled_; }
@@ -64,6 +68,8 @@ class PictureBox : public Control, public Surface {
 
     /// Called after content was added or cleared.
     virtual void contentChanged() {}
+    /// How much larger than asked for its texts are.
+    virtual double textScale() const { return 1; }
 
   private:
     struct Text {

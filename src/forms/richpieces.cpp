@@ -66,19 +66,25 @@ bool RichPieces::focusNext(int direction) {
     return focused_.has_value();
 }
 
-QString RichPieces::text() const {
-    QStringList lines;
+void RichPieces::addTo(ReadableText& text) const {
     for (const Piece& piece : pieces_) {
+        const LayoutArea& area = piece.layout.area();
         for (const TextLine& line : piece.layout.lines()) {
             QString words;
             for (qsizetype i = 0; i < line.boxCount; ++i) {
                 const WordBox& box = piece.layout.boxes()[size_t(line.firstBox + i)];
                 words += piece.layout.text(box).toString() + QString(box.blanks, u' ');
             }
-            lines << words.trimmed();
+            text.addLine(words.trimmed(), {area.left, line.top, area.right - area.left, line.height},
+                         line.isHeading);
         }
     }
-    return lines.join(u'\n');
+}
+
+QString RichPieces::text() const {
+    ReadableText lines;
+    addTo(lines);
+    return lines.text();
 }
 
 void RichPieces::paint(QPainter& painter, const QRect& visible, int text) const {

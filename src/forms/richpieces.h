@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "forms/readabletext.h"
 #include "richtext/rtflayout.h"
 #include "richtext/rtfpainter.h"
 
@@ -36,6 +37,8 @@ class RichPieces {
     void focus(std::optional<int> link) { focused_ = link; }
     std::optional<int> focused() const { return focused_; }
 
+    /// Adds the texts' lines to \a text.
+    void addTo(ReadableText& text) const;
     /// The texts, each line a line of the result.
     QString text() const;
     /// Paints one text.

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QWindow>
 
+#include "forms/accessiblecontrol.h"
 #include "forms/control.h"
 #include "forms/focusframe.h"
 #include "forms/form.h"
@@ -14,11 +15,13 @@
 namespace sarne {
 
 Stage::Stage() : shield_(new QWidget(this)), namePlate_(new NamePlate(*this)) {
+    registerAccessibleControls();
     setAttribute(Qt::WA_OpaquePaintEvent);
     shield_->setObjectName(QStringLiteral("shield"));
     shield_->hide();
     resize(kWidth / 15, kHeight / 15);
     qApp->installEventFilter(this);
+    connect(&eyes_, &Eyes::changed, this, &Stage::showToEyes);
 }
 
 Stage::~Stage() {
@@ -77,6 +80,12 @@ void Stage::fit() {
     shield_->setGeometry(rect());
     namePlate_->dismiss();
     for (Form* form : findChildren<Form*>(Qt::FindDirectChildrenOnly)) form->rescale();
+}
+
+void Stage::showToEyes() {
+    for (Form* form : forms()) form->eyesChanged();
+    fit();
+    update();
 }
 
 void Stage::resizeEvent(QResizeEvent*) {

@@ -5,6 +5,8 @@
 #include <QWidget>
 #include <vector>
 
+#include "forms/eyes.h"
+
 namespace sarne {
 
 class Form;
@@ -42,6 +44,9 @@ class Stage : public QWidget {
 
     /// Whether the last input came from the keyboard: focus is shown then, and not while the mouse is used.
     bool keyboardInUse() const { return keyboardInUse_; }
+    /// What eyes that need more are shown.
+    Eyes& eyes() { return eyes_; }
+    const Eyes& eyes() const { return eyes_; }
     /// The plate that names what is pointed at or has the focus.
     const NamePlate& namePlate() const { return *namePlate_; }
 
@@ -58,10 +63,12 @@ class Stage : public QWidget {
   private:
     void fit();
     void raiseModal();
+    void showToEyes();
     void watchInput(const QEvent& event);
     bool isPartOfThis(const QObject* watched) const;
     static void followFocus(QObject* watched, QEvent::Type type);
 
+    Eyes eyes_;
     double scale_ = 1. / 15;
     QPointF origin_;
     QWidget* shield_;  // lies below the modal form and takes the mouse meant for the others

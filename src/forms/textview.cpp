@@ -2,9 +2,11 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <algorithm>
 
 #include "core/texts.h"
 #include "forms/colors.h"
+#include "forms/eyes.h"
 #include "forms/focusframe.h"
 #include "forms/form.h"
 #include "forms/holdrepeat.h"
@@ -59,6 +61,7 @@ void TextView::setArrowPictures(const Picture& up, const Picture& down) {
 
 void TextView::Cls() {
     pieces_.clear();
+    caret_ = 0;
     pressed_.reset();
     unsetCursor();
     PictureBox::Cls();
@@ -83,6 +86,96 @@ bool TextView::keepRichText(const RtfLayout& layout) {
 QString TextView::drawnText() const {
     const QString printed = PictureBox::drawnText(), rich = pieces_.text();
     return printed.isEmpty() || rich.isEmpty() ? printed + rich : printed + u'\n' + rich;
+}
+
+ReadableText TextView::readableText() const {
+    ReadableText all = PictureBox::readableText();
+    pieces_.addTo(all);
+    return all;
+}
+
+const ReadableText& TextView::readable() const {
+    if (!readable_) readable_ = readableText();
+    return *readable_;
+}
+
+TextMetrics* TextView::textMetrics() {
+    metrics_.setTextScale(textScale());
+    return &metrics_;
+}
+
+double TextView::textScale() const {
+    return form().eyes().textScale();
+}
+
+void TextView::setCaret(qsizetype offset) {
+    caret_ = std::clamp<qsizetype>(offset, 0, readable().text().size());
+    const QRect line = readable().placeOf(caret_).adjusted(0, -kFade, 0, kFade);
+    if (line.bottom() >= scrolled() + twips().height()) scrollTo(line.bottom() + 1 - twips().height());
+    if (line.top() < scrolled()) scrollTo(line.top());
+    QAccessibleTextCursorEvent event(this, static_cast<int>(caret_));
+    QAccessible::updateAccessibility(&event);
+}
+
+/// The keys of those who hear the text: a line, a character, with Ctrl a word; Home and End of the line, with
+/// Ctrl of the text.
+bool TextView::caretKey(const QKeyEvent& event) {
+    using Step = ReadableText::Step;
+    const bool word = event.modifiers() & Qt::ControlModifier;
+    const ReadableText& text = readable();
+    const ReadableText::Line line =
+        text.lines().empty() ? ReadableText::Line() : text.lines()[size_t(text.lineAt(caret_).value_or(0))];
+    qsizetype to = caret_;
+    switch (event.key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+            to = text.moved(caret_, Step::Line, event.key() == Qt::Key_Down ? 1 : -1);
+            break;
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+            to = text.moved(caret_, word ? Step::Word : Step::Character,
+                            event.key() == Qt::Key_Right ? 1 : -1);
+            break;
+        case Qt::Key_Home:
+            to = word ? 0 : line.start;
+            break;
+        case Qt::Key_End:
+            to = word ? text.text().size() : line.start + line.length;
+            break;
+        default:
+            return false;
+    }
+    if (to == caret_) return false;
+    setCaret(to);
+    return true;
+}
+
+int TextView::partCount() const {
+    const auto headings = std::ranges::count_if(readable().lines(), &ReadableText::Line::isHeading);
+    return static_cast<int>(headings) + pieces_.linkCount();
+}
+
+AccessiblePart TextView::part(int index) const {
+    // Headings and phrases are each in order of the text; the two are merged by where they stand.
+    std::vector<AccessiblePart> parts;
+    for (const ReadableText::Line& line : readable().lines()) {
+        if (!line.isHeading) continue;
+        parts.push_back({readable().text().mid(line.start, line.length), QAccessible::Heading, line.place});
+        parts.back().isUsable = false;
+    }
+    for (int link = 0; link < pieces_.linkCount(); ++link)
+        parts.push_back({pieces_.linkText(link), QAccessible::Link, pieces_.linkRect(link)});
+    std::ranges::stable_sort(parts, {}, [](const AccessiblePart& part) { return part.place.top(); });
+    if (index < 0 || index >= static_cast<int>(parts.size())) return {};
+    AccessiblePart found = parts[size_t(index)];
+    found.place = found.place.translated(0, -scrolled()) & QRect({0, 0}, twips().size());
+    return found;
+}
+
+void TextView::usePart(int index) {
+    const QString words = part(index).name;
+    for (int link = 0; link < pieces_.linkCount(); ++link)
+        if (pieces_.linkText(link) == words) return open(link);
 }
 
 bool TextView::stepInside(int direction) {
@@ -113,6 +206,7 @@ bool TextView::pageKey(const QKeyEvent& event) {
 }
 
 bool TextView::keyDown(const QKeyEvent& event) {
+    if (QAccessible::isActive() && hasFocus() && caretKey(event)) return true;
     if (event.modifiers() & ~Qt::KeypadModifier) return false;
     const int before = scrolled();
     switch (event.key()) {
@@ -166,6 +260,7 @@ void TextView::updateArrows() {
 }
 
 void TextView::contentChanged() {
+    readable_.reset();
     updateArrows();
 }
 

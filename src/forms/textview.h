@@ -35,10 +35,21 @@ class TextView : public PictureBox {
     void drawRichText(const QString& text);
     /// The same for a text in which every character stands for itself.
     void drawPlainText(const QString& text);
-    TextMetrics* textMetrics() override { return &metrics_; }
+    TextMetrics* textMetrics() override;
     bool keepRichText(const RtfLayout& layout) override;
     /// Also what the rich texts say, a line for each of theirs.
     QString drawnText() const override;
+    ReadableText readableText() const override;
+    /// The same, kept until the content changes.
+    const ReadableText& readable() const;
+    /// Where in readable() a screen reader is; the reader's keys move it, the text scrolls along.
+    qsizetype caret() const { return caret_; }
+    void setCaret(qsizetype offset);
+
+    /// Headings and link phrases, in the order of the text.
+    int partCount() const override;
+    AccessiblePart part(int index) const override;
+    void usePart(int index) override;
 
     /// Scrolling by keys and arrows goes line by line of this height (twips).
     const RichPieces& pieces() const { return pieces_; }
@@ -67,6 +78,7 @@ class TextView : public PictureBox {
     void leaveEvent(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void contentChanged() override;
+    double textScale() const override;
 
   private:
     void updateArrows();
@@ -75,7 +87,11 @@ class TextView : public PictureBox {
     void point(std::optional<int> link);
     void open(std::optional<int> link);
 
+    bool caretKey(const QKeyEvent& event);
+
     RichPieces pieces_;
+    mutable std::optional<ReadableText> readable_;
+    qsizetype caret_ = 0;
     QtTextMetrics metrics_;
     QPointer<Button> up_, down_;  // the form's, and gone with this view
     std::optional<int> pressed_;

@@ -15,11 +15,14 @@ class QtTextMetrics final : public TextMetrics {
     int textWidth(const TextFont& font, QStringView text) override;
     int textHeight(const TextFont& font) override;
     int textAscent(const TextFont& font) override;
+    double textScale() const override { return textScale_; }
+    void setTextScale(double scale) { textScale_ = scale; }
 
   private:
     const FontFace& face(const TextFont& font);
 
     QHash<TextFont, std::shared_ptr<FontFace>> faces_;
+    double textScale_ = 1;
     TextFont lastFont_;
     const FontFace* lastFace_ = nullptr;
 };

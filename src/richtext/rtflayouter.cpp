@@ -14,6 +14,7 @@ class RtfLayouter final : public RtfSink {
                 const std::function<void()>& lineDone)
         : layout_(layout),
           longWords_(longWords),
+          scale_(metrics.textScale()),
           lines_({layout.words_, layout.fonts_, layout.boxes_, layout.lines_}, layout.area_, metrics,
                  lineDone) {
         font(TextFont());
@@ -49,6 +50,7 @@ class RtfLayouter final : public RtfSink {
         }
         font_ = static_cast<int>(layout_.fonts_.size());
         layout_.fonts_.push_back(font);
+        layout_.fonts_.back().size *= scale_;
         fontIndexes_.insert(font, font_);
     }
 
@@ -146,6 +148,7 @@ class RtfLayouter final : public RtfSink {
 
     RtfLayout& layout_;
     const LongWords longWords_;
+    const double scale_;
     LineBuilder lines_;
     QHash<TextFont, int> fontIndexes_;
     int font_ = 0;

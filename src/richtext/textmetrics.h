@@ -16,6 +16,8 @@ class TextMetrics {
     virtual int textHeight(const TextFont& font) = 0;
     /// How far the baseline lies below the top of the line.
     virtual int textAscent(const TextFont& font) = 0;
+    /// How much larger than it says a text is laid out.
+    virtual double textScale() const { return 1; }
 };
 
 /// Measures with a surface, in its own way. Changes the surface's current font. The surface must outlive it.

@@ -61,7 +61,8 @@ TEST_F(SeznamTest, ShowsAPageAndSelectsByMouse) {
     click(row(2));
     EXPECT_EQ(position(), QStringLiteral("2 z 3"));
     EXPECT_TRUE(control("imgJablko")->isVisible());
-    EXPECT_EQ(run.announced, QStringList{QStringLiteral("Recept 001")});
+    EXPECT_EQ(run.announced,
+              (QStringList{QStringLiteral("Recepty, 3 recepty"), QStringLiteral("Recept 001")}));
     click(button("imgBtn(2)"));
     doubleClick(row(1));
     EXPECT_EQ(run.recorded.calls,

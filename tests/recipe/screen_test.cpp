@@ -214,6 +214,8 @@ TEST_F(ScreenTest, ManyLinksScroll) {
 }
 
 TEST_F(ScreenTest, ArrowsMoveOverTheSectionsAndSayTheirNames) {
+    EXPECT_EQ(run.announced.size(), 1) << "the dish, on opening";
+    run.announced.clear();
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     press(Qt::Key_Right);

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "core/czech.h"
 #include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -19,6 +20,31 @@ void frmSeznam::Zobraz(const QString& ids, const QString& source) {
     showForm();
     startPanel();
     ring().restore();
+    app().HookMessage(lblNadpis.text() + QStringLiteral(", ") + countText());
+}
+
+QString frmSeznam::countText() const {
+    const Noun nouns[] = {
+        {Texts::tr("stránka"), Texts::tr("stránky"), Texts::tr("stránek"), Texts::tr("stránky")},
+        {Texts::tr("recept"), Texts::tr("recepty"), Texts::tr("receptů"), Texts::tr("receptu")}};
+    return counted(pages_.count(), nouns[source_ == Source::Help ? 0 : 1], app().Locale);
+}
+
+/// Tells those who hear the list what is in it and what choosing does.
+void frmSeznam::hearEntries() {
+    const auto entry = [this](int index) {
+        AccessiblePart part;
+        part.name = entries_[size_t(index)].Nazev;
+        const int row = index - pages_.entryAt(1) + 1;
+        if (row >= 1 && row <= pages_.rows())
+            part.place = seznam::rowBar(row).translated(-seznam::kSheet.topLeft());
+        return part;
+    };
+    list_.setEntries(pages_.count(), entry, [this](int index) {
+        if (pages_.selectEntry(index)) selectionChanged();
+        drawPage();
+        openSelected();
+    });
 }
 
 void frmSeznam::fill(const QString& ids, const QString& source) {
@@ -34,6 +60,7 @@ void frmSeznam::fill(const QString& ids, const QString& source) {
     for (Button* arrow : imgSipky) arrow->setVisible(pages_.scrolls());
     showButtonsOfSource();
     lblPozice.setText({});
+    hearEntries();
     ground_.forget();
     drawPage();
     update();
@@ -72,7 +99,8 @@ void frmSeznam::selectionChanged() {
     if (!entry) return;
     lblPozice.setText(QString::number(pages_.selectedEntry() + 1) + QStringLiteral(" z ") +
                       QString::number(pages_.count()));
-    app().HookMessage(entry->Nazev);
+    list_.setCurrent(pages_.selectedEntry());
+    ring().sayPart(list_);
     refreshPanel();
 }
 
@@ -152,6 +180,7 @@ void frmSeznam::startPanel() {
 
 /// Before the first choice: a still life, and what to do.
 void frmSeznam::showInvitation() {
+    picFoto.setAccessibleName(Texts::tr("Zátiší s vínem"));
     picFoto.setPicture(app().mediaPicture(QStringLiteral("foto\\vino256.bmp")), Fit::Cover);
     picFoto.addPainted(
         [](QPainter& painter, const QRect&) {
@@ -187,6 +216,7 @@ void frmSeznam::showPhoto() {
     const QImage photo = smallPhoto(*entry);
     showPictureOrWords(picFoto, photo, entry->Nazev);
     picFoto.setTip(entry->Nazev);
+    picFoto.setAccessibleName(Texts::tr("Fotografie: %1").arg(entry->Nazev));
     if (!quickWindow_) return;
     quickWindow_->setPicture(photo, entry->Nazev);
     quickWindow_->show();

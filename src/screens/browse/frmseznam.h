@@ -6,6 +6,7 @@
 
 #include "core/lettersearch.h"
 #include "forms/buttonbar.h"
+#include "forms/entrylist.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/picturebox.h"
@@ -71,6 +72,8 @@ class frmSeznam : public Form {
 
     void paintGround(QPainter& painter) const;
     QRectF thumb() const;
+    void hearEntries();
+    QString countText() const;
     void drawPage();
     void selectionChanged();
     void refreshPanel();
@@ -96,6 +99,7 @@ class frmSeznam : public Form {
 
     Label lblNadpis, lblPozice, lblHint;
     std::vector<Label*> lblSeznam;
+    EntryList list_;  // the entries for those who hear them
     PictureBox imgJablko, picFoto;
     Label lblVino;
     std::vector<PictureBox*> ImgTlacitko;

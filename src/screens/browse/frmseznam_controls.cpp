@@ -43,6 +43,7 @@ frmSeznam::frmSeznam(basSarne& sarne, Panel* panel)
       lblNadpis(*this, QStringLiteral("lblNadpis")),
       lblPozice(*this, QStringLiteral("lblPozice")),
       lblHint(*this, QStringLiteral("lblHint")),
+      list_(*this, QStringLiteral("lstSeznam"), QAccessible::List),
       imgJablko(*this, QStringLiteral("imgJablko")),
       picFoto(*this, QStringLiteral("picFoto")),
       lblVino(*this, QStringLiteral("lblVino")),
@@ -73,6 +74,9 @@ void frmSeznam::buildList() {
     imgJablko.place(seznam::apple(1));
     imgJablko.setPicture(app().resources().picture(QStringLiteral("Jablko")));
     imgJablko.setAttribute(Qt::WA_TransparentForMouseEvents);
+    imgJablko.setUnheard(true);
+    lblPozice.setUnheard(true);
+    list_.place(seznam::kSheet);
     for (int arrow = 0; arrow < seznam::kArrows; ++arrow) connectArrow(arrow);
 }
 
@@ -80,6 +84,7 @@ void frmSeznam::connectRow(int row) {
     auto* label = new Label(*this, QStringLiteral("lblSeznam(%1)").arg(row));
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     label->setClickable(true);
+    label->setUnheard(true);
     connect(label, &Control::clicked, this, [this, row] { selectRow(row); });
     connect(label, &Control::doubleClicked, this, [this, row] {
         if (pages_.selectedRow() == row) action(2);
@@ -131,6 +136,7 @@ void frmSeznam::buildPanel() {
     for (int index = 0; index < seznam::kActions; ++index) {
         auto* plate = new PictureBox(*this, QStringLiteral("ImgTlacitko(%1)").arg(index));
         plate->setAttribute(Qt::WA_TransparentForMouseEvents);
+        plate->setUnheard(true);
         plate->stackUnder(&imgBtn[0]);
         plate->addPainted(
             [picture = app().resources().picture(QStringLiteral("Tlacitko"))](
@@ -154,6 +160,7 @@ void frmSeznam::showButtonsOfSource() {
                                                       : Texts::tr("Rychlé recepty");
     lblNadpis.setText(subject_.isEmpty() ? what : what + QStringLiteral(" – ") + subject_);
     setAccessibleName(lblNadpis.text());
+    list_.setAccessibleName(lblNadpis.text());
     const bool shown[] = {source_ == Source::Recipes, !help, true};
     const int count = int(std::count(std::begin(shown), std::end(shown), true));
     int place = 0;

@@ -128,7 +128,7 @@ bool frmSit::moveByKey(int key) {
     ring().focus(*this);  // away from a button: Enter means the cell again
     if (!grid_.move(right, down)) return true;
     showChoice();
-    app().HookMessage(names_[size_t(grid_.cell())]);
+    ring().say(*imgFoto[size_t(grid_.cell() - 1)]);
     return true;
 }
 

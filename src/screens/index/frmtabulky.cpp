@@ -191,7 +191,7 @@ bool FrmTabulky::moveKey(int key) {
         default:
             return false;
     }
-    app().HookMessage(table_.accessibleValue());
+    ring().sayPart(table_);
     return true;
 }
 

@@ -58,6 +58,29 @@ QString TableView::rowText(int row) const {
     return parts.join(QStringLiteral(", "));
 }
 
+int TableView::currentPart() const {
+    return rows_.selected() == RowPaging::kNone ? -1 : (rows_.selected() + 1) * partColumns();
+}
+
+AccessiblePart TableView::part(int index) const {
+    const int row = index / partColumns() - 1, column = index % partColumns();
+    if (row < 0) return {table_.columns.value(column), QAccessible::ColumnHeader, {}, {}, false, false};
+    if (row >= rows_.count()) return {};
+    AccessiblePart cell{table_.rows[static_cast<size_t>(row)].cells.value(column), QAccessible::Cell,
+                        cellRect(row, column)};
+    cell.isCurrent = row == rows_.selected();
+    if (column > 0) return cell;
+    // The first cell stands for its row, as the keyboard goes from row to row.
+    const QString rest = rowText(row).mid(cell.name.size() + 2);
+    cell.description = (rest.isEmpty() ? rest : rest + QStringLiteral(", ")) + placeAmong(row, rows_.count());
+    return cell;
+}
+
+void TableView::usePart(int index) {
+    select(index / partColumns() - 1);
+    openSelected();
+}
+
 QRect TableView::rowRect(int row) const {
     if (!rows_.sees(row)) return {};
     int top = layout_.headHeight;

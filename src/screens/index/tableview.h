@@ -17,6 +17,11 @@ class TableView : public Control {
     QAccessible::Role role() const override { return QAccessible::Table; }
     QRect focusPlace() const override { return {{0, 0}, twips().size()}; }
     QString accessibleValue() const override { return rowText(rows_.selected()); }
+    int partColumns() const override { return std::max(1, static_cast<int>(layout_.lefts.size())); }
+    int partCount() const override { return table_.isEmpty() ? 0 : (rows_.count() + 1) * partColumns(); }
+    AccessiblePart part(int index) const override;
+    int currentPart() const override;
+    void usePart(int index) override;
 
     /// Shows \a table from its first row. The control must have its place by now.
     void setTable(LookupTable table);

@@ -283,7 +283,7 @@ bool frmDoma::keyDown(QKeyEvent& event) {
         return true;
     }
     if (list && list->keyDown(event)) {
-        app().HookMessage(list->accessibleValue());
+        ring().sayPart(*list);
         return true;
     }
     return Form::keyDown(event);

@@ -161,7 +161,7 @@ void frmNakup::use(int row) {
     }
     list_.setBought(item, !list_.items()[static_cast<size_t>(item)].bought);
     changed();
-    app().HookMessage(rows_.accessibleValue());
+    ring().sayPart(rows_);
 }
 
 void frmNakup::changed() {
@@ -310,7 +310,7 @@ bool frmNakup::keyDown(QKeyEvent& event) {
         }
         const int before = rows_.selected();
         if (rows_.keyDown(event)) {
-            if (before != rows_.selected()) app().HookMessage(rows_.accessibleValue());
+            if (before != rows_.selected()) ring().sayPart(rows_);
             return true;
         }
     }

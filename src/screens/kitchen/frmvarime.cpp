@@ -381,7 +381,7 @@ bool frmVarime::keyDown(QKeyEvent& event) {
         return true;
     }
     if (inList && event.key() != Qt::Key_PageUp && event.key() != Qt::Key_PageDown && list_.keyDown(event)) {
-        app().HookMessage(list_.accessibleValue());
+        ring().sayPart(list_);
         return true;
     }
     if (event.key() >= Qt::Key_1 && event.key() < Qt::Key_1 + kTimes) {

@@ -45,6 +45,31 @@ QString TickList::accessibleValue() const {
     return row == RowPaging::kNone ? QString() : spoken(rows_[static_cast<size_t>(row)]);
 }
 
+AccessiblePart TickList::part(int index) const {
+    if (index < 0 || index >= partCount()) return {};
+    const TickRow& row = rows_[static_cast<size_t>(index)];
+    AccessiblePart part;
+    QStringList words{row.text, row.right, row.below};
+    words.removeAll(QString());
+    part.name = words.join(QStringLiteral(", "));
+    part.place = rowRect(index);
+    part.description = placeAmong(index, partCount());
+    part.isCurrent = index == selected();
+    part.isCheckable = row.kind == TickRow::Kind::Item;
+    part.isChecked = part.isCheckable && row.ticked;
+    part.isUsable = row.kind != TickRow::Kind::Heading;
+    part.role = !part.isUsable     ? QAccessible::Heading
+                : part.isCheckable ? QAccessible::CheckBox
+                                   : QAccessible::ListItem;
+    return part;
+}
+
+void TickList::usePart(int index) {
+    if (!canBeSelected(index)) return;
+    select(index);
+    Q_EMIT used(index);
+}
+
 void TickList::setPoints(double points) {
     points_ = points;
     setRows(rows_, done_);

@@ -33,6 +33,10 @@ class TickList : public Control {
 
     QAccessible::Role role() const override { return QAccessible::List; }
     QString accessibleValue() const override;
+    int partCount() const override { return static_cast<int>(rows_.size()); }
+    AccessiblePart part(int index) const override;
+    int currentPart() const override { return selected() == RowPaging::kNone ? -1 : selected(); }
+    void usePart(int index) override;
 
     /// The size of the rows' text in points; the smaller text and the boxes follow it.
     void setPoints(double points);

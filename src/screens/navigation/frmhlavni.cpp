@@ -256,7 +256,7 @@ void frmHlavni::moveTo(int button) {
     if (button < 0) return;
     imgClick[size_t(button)]->setFocus(Qt::TabFocusReason);
     hover(button);
-    app().HookMessage(imgClick[size_t(button)]->accessibleName());
+    ring().sayWithoutReader(imgClick[size_t(button)]->accessibleName());
 }
 
 bool frmHlavni::keyDown(QKeyEvent& event) {

@@ -36,6 +36,7 @@ frmMenu::frmMenu(basSarne& sarne, std::function<void()> closed)
       lblNadpis(*this, QStringLiteral("lblNadpis")),
       Text1(*this, QStringLiteral("Text1")),
       imgHledat(*this, QStringLiteral("imgHledat")),
+      items_(*this, QStringLiteral("polozky"), QAccessible::PopupMenu),
       tmrPodmenu(this) {
     setUp();
 }
@@ -74,12 +75,14 @@ void frmMenu::unfold(const QString& code, const QRect& beside) {
     selected_ = 0;
     buildLabels();
     applyGeometry(beside);
+    hearItems();
     Zobraz();
 }
 
 MenuLabel* frmMenu::newLabel() {
     const int k = int(lblOdkaz.size()) + 1;
     auto* label = new MenuLabel(*this, QStringLiteral("lblOdkaz(%1)").arg(k));
+    label->setUnheard(true);
     label->setFont(kItemFont);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(label, &Label::hovered, this, [this, k] { hoverItem(k); });
@@ -107,6 +110,24 @@ void frmMenu::buildLabels() {
         lblOdkaz[i]->setVisible(i < level_.items.size());
         if (i < level_.items.size()) dressLabel(int(i) + 1);
     }
+}
+
+AccessiblePart frmMenu::heard(int k) const {
+    const QString more = lblOdkaz[size_t(k - 1)]->accessibleDescription();
+    AccessiblePart part;
+    part.role = QAccessible::MenuItem;
+    part.name = more.isEmpty() ? item(k).label : item(k).label + QStringLiteral(", ") + more;
+    part.place = lblOdkaz[size_t(k - 1)]->twips();
+    part.isUsable = isSelectable(k);
+    return part;
+}
+
+void frmMenu::hearItems() {
+    items_.setAccessibleName(level_.heading.isEmpty() ? Texts::tr("Nabídka") : level_.heading);
+    items_.place({{0, 0}, twips().size()});
+    items_.setEntries(
+        int(level_.items.size()), [this](int index) { return heard(index + 1); },
+        [this](int index) { choose(index + 1); });
 }
 
 MenuContent frmMenu::contentOf(const MenuLevel& level) const {
@@ -239,8 +260,8 @@ void frmMenu::select(int k) {
     selected_ = k;
     if (k == 0) return;
     mark(k, true);
-    const QString more = lblOdkaz[size_t(k - 1)]->accessibleDescription();
-    app().HookMessage(more.isEmpty() ? item(k).label : item(k).label + QStringLiteral(", ") + more);
+    items_.setCurrent(k - 1);
+    ring().sayPart(items_);
 }
 
 void frmMenu::hoverItem(int k) {

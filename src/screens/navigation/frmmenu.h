@@ -6,6 +6,7 @@
 
 #include "core/lettersearch.h"
 #include "forms/edit.h"
+#include "forms/entrylist.h"
 #include "forms/form.h"
 #include "forms/timer.h"
 #include "screens/navigation/magnifier.h"
@@ -42,6 +43,7 @@ class frmMenu : public Form {
     void choose(int k);
 
     /// Closes this level; the first one closes the tree.
+    QAccessible::Role role() const override { return QAccessible::Pane; }
     void goBack() override;
     void help() override;
     void musicSettings() override;
@@ -56,6 +58,8 @@ class frmMenu : public Form {
     explicit frmMenu(frmMenu& parent);
 
     void setUp();
+    AccessiblePart heard(int k) const;
+    void hearItems();
     void buildLabels();
     void dressLabel(int k);
     MenuLabel* newLabel();
@@ -97,6 +101,7 @@ class frmMenu : public Form {
     Label lblNadpis;
     Edit Text1;
     Magnifier imgHledat;
+    EntryList items_;  // for those who hear the menu
     Timer tmrPodmenu;
     std::vector<MenuLabel*> lblOdkaz;
 };

@@ -71,6 +71,7 @@ void frmRecept::makeView() {
     connect(view_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });
     connect(view_, &Control::clicked, this, [this] { current().viewClicked(); });
     picture_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    picture_->setUnheard(true);
     picture_->hide();
 }
 
@@ -103,6 +104,7 @@ void frmRecept::Zobraz(std::int16_t id) {
     loadRecipe(id);
     if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
+    app().HookMessage(QString(title_->text()).replace(u'\n', u' '));
     openSection(0);
     app().keepAwake(QStringLiteral("Na obrazovce je recept"));
     playName();
@@ -151,6 +153,10 @@ void frmRecept::openSection(int section) {
     if (!current().leave()) return;
     section_ = section;
     showSection();
+    if (!QAccessible::isActive()) return;
+    // Who hears the recipe reads on at once: the section's name, then its text by the reader's keys.
+    app().HookMessage(view_->accessibleName());
+    if (current().stops().empty()) ring().focus(*view_);
 }
 
 void frmRecept::showSection() {
@@ -230,7 +236,8 @@ std::vector<FocusGroup> frmRecept::stops() const {
     std::vector<FocusGroup> stops{FocusGroup(imgBtn.stops(), &imgBtn[section_])};
     const std::vector<FocusGroup> own = current().stops();
     stops.insert(stops.end(), own.begin(), own.end());
-    const bool toRead = view_->pieces().linkCount() > 0 || view_->scrollRange() > 0;
+    const bool toRead =
+        QAccessible::isActive() || view_->pieces().linkCount() > 0 || view_->scrollRange() > 0;
     if (toRead || current().opensView()) stops.emplace_back(std::array{view_});
     stops.emplace_back(imgKuchyne.stops());
     stops.emplace_back(imgBtnHlavni.stops());

@@ -181,6 +181,7 @@ void IngredientPanel::usePortions(int index) {
     showCutlery(index);
     showPortions();
     redraw();
+    room_.sarne.HookMessage(QString(portionText_->text()).replace(u'\n', QStringLiteral(", ")));
 }
 
 void IngredientPanel::askFish() {
@@ -203,7 +204,6 @@ void IngredientPanel::askFish() {
     if (portions <= 0) return room_.sarne.Beep();
     room_.recipe.portions.setCustom(portions);
     usePortions(Portions::kAnyNumber);
-    room_.sarne.HookMessage(portionText_->text());
 }
 
 void IngredientPanel::unitToggle() {
