@@ -62,7 +62,7 @@ TEST_F(SeznamTest, ShowsAPageAndSelectsByMouse) {
     EXPECT_EQ(position(), QStringLiteral("2 z 3"));
     EXPECT_TRUE(control("imgJablko")->isVisible());
     EXPECT_EQ(run.announced,
-              (QStringList{QStringLiteral("Recepty, 3 recepty"), QStringLiteral("Recept 001")}));
+              (QStringList{QStringLiteral("Recepty, 3\u00a0recepty"), QStringLiteral("Recept 001")}));
     click(button("imgBtn(2)"));
     doubleClick(row(1));
     EXPECT_EQ(run.recorded.calls,
