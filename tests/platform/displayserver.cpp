@@ -18,13 +18,14 @@ EndSection
 Section "Device"
     Identifier "card"
     Driver "dummy"
-    VideoRam 32768
+    VideoRam 65536
 EndSection
 Section "Monitor"
     Identifier "monitor"
     HorizSync 5-1000
     VertRefresh 5-200
     Modeline "1920x1080" 148.5 1920 2008 2052 2200 1080 1084 1089 1125
+    Modeline "1024x768" 65 1024 1048 1184 1344 768 771 777 806
 EndSection
 Section "Screen"
     Identifier "screen"
@@ -67,6 +68,18 @@ bool DisplayServer::start() {
     if (!server_.waitForStarted() || !waitFor(answered, 15000) || !number.endsWith('\n')) return false;
     qputenv("DISPLAY", ":" + number.trimmed());
     return true;
+}
+
+bool DisplayServer::addDisplay() {
+    const auto xrandr = [](const char* arguments) {
+        return QProcess::execute(QStringLiteral("xrandr"), QString::fromLatin1(arguments).split(u' ')) == 0;
+    };
+    return xrandr("--addmode DUMMY1 1024x768") && xrandr("--output DUMMY1 --mode 1024x768 --pos 1920x0");
+}
+
+bool DisplayServer::removeDisplay() {
+    return QProcess::execute(QStringLiteral("xrandr"), {QStringLiteral("--output"), QStringLiteral("DUMMY1"),
+                                                        QStringLiteral("--off")}) == 0;
 }
 
 QSize DisplayServer::screenSize() {

@@ -17,6 +17,10 @@ class DisplayServer {
     /// Starts the server; false when this machine has none or it does not start.
     bool start();
 
+    /// Puts a second display, 1024 x 768, to the right of the first, or takes it away; whether that was done.
+    static bool addDisplay();
+    static bool removeDisplay();
+
     /// How large its whole screen is, which the monitor shows a part of; empty when it does not answer.
     static QSize screenSize();
 

@@ -29,8 +29,8 @@ class ProgramDisplayTest : public testing::Test {
         program.kill();
         program.waitForFinished();
     }
-    /// Starts the program and waits until its window covers the display.
-    bool start() {
+    /// Starts the program and waits until its window covers \a display.
+    bool start(const QRect& display = QRect({}, kFull)) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
             environment.insert(QLatin1String(name), home.path({}));
@@ -40,7 +40,7 @@ class ProgramDisplayTest : public testing::Test {
         environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0:handle_segv=0"));
         program.setProcessEnvironment(environment);
         program.start(QStringLiteral(SARNE_PROGRAM), QStringList());
-        return program.waitForStarted() && waitFor([this] { return window() == QRect({}, kFull); }, 20000);
+        return program.waitForStarted() && waitFor([&] { return window() == display; }, 20000);
     }
     static QSize mode() {
         return SystemDisplayModes(QStringLiteral(SARNE_DISPLAY_HELPER), QStringLiteral("xcb")).current();
@@ -95,6 +95,19 @@ TEST_F(ProgramDisplayTest, NoAndNoEndAtOnce) {
     EXPECT_TRUE(typeUntil("key n", [this] { return hasEnded(); }));
     EXPECT_EQ(program.exitCode(), 0);
     EXPECT_EQ(mode(), kFull);
+}
+
+TEST_F(ProgramDisplayTest, OpensWhereThePointerIsMovesOnByAKeyAndLeavesADisplayThatGoes) {
+    const QRect first({}, kFull);
+    const QRect second(1920, 0, 1024, 768);
+    ASSERT_TRUE(DisplayServer::addDisplay()) << "is xrandr installed?";
+    xdotool("mousemove 2400 300");
+    ASSERT_TRUE(start(second)) << "where the pointer is";
+    EXPECT_TRUE(typeUntil("key F8", [&] { return window() == first; }));
+    EXPECT_TRUE(typeUntil("key F8", [&] { return window() == second; }));
+    ASSERT_TRUE(DisplayServer::removeDisplay());
+    EXPECT_TRUE(waitFor([&] { return window() == first; })) << "the display went";
+    EXPECT_FALSE(hasEnded());
 }
 
 }  // namespace
