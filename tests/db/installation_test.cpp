@@ -1,6 +1,8 @@
 #include "db/installation.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -28,6 +30,16 @@ class InstallationTest : public testing::Test {
             shipped,
             {QStringLiteral("INSERT INTO Recepty (ID,Nazev) VALUES (1,%1)").arg(QString::fromUtf8(name)),
              QStringLiteral("INSERT INTO Nastav VALUES (1,'Hudba',1)")});
+        setTime(0);  // as package formats do with all files
+    }
+    void setTime(time_t seconds) {
+        const timespec time{seconds, 0};
+        const timespec times[] = {time, time};
+        ASSERT_EQ(utimensat(AT_FDCWD, qPrintable(shipped), times, 0), 0);
+    }
+    static ino_t inode(const QString& file) {
+        struct stat info {};
+        return stat(qPrintable(file), &info) == 0 ? info.st_ino : 0;
     }
     static QString read(const QString& file, const char* table, const char* field) {
         Database db;
@@ -83,13 +95,20 @@ TEST_F(InstallationTest, AReadOnlyProgramFolderLeadsToAnOwnCopyThatKeepsNotes) {
               0);
     EXPECT_EQ(read(own, "Recepty", "Vlastni"), QStringLiteral("moje"));
 
+    const qint64 size = QFileInfo(shipped).size();
     chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0755);
     ship("'Kapr na kmíně'");
+    ASSERT_EQ(QFileInfo(shipped).size(), size) << "neither time nor size tells the two apart";
     protectProgramFolder();
     ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
     EXPECT_EQ(read(own, "Recepty", "Nazev"), QStringLiteral("Kapr na kmíně")) << "the newer file's recipe";
     EXPECT_EQ(read(own, "Recepty", "Vlastni"), QStringLiteral("moje")) << "the user's note";
     EXPECT_EQ(read(own, "Nastav", "hodnota"), QStringLiteral("0"));
+
+    const ino_t copy = inode(own);
+    setTime(1000000000);
+    ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
+    EXPECT_EQ(inode(own), copy) << "the same book is not copied again, whatever its time";
 }
 
 TEST_F(InstallationTest, WhereNothingCanBeWrittenTheShippedFileIsRead) {
