@@ -11,6 +11,7 @@
 #include "forms/textview.h"
 #include "screens/navigation/frmhlavni.h"
 #include "screens/navigation/frmmenu.h"
+#include "screens/navigation/sweep.h"
 #include "support/fakeplatform.h"
 #include "support/fakesarne.h"
 #include "support/recipedatabase.h"
@@ -235,7 +236,7 @@ TEST_F(ProgramTest, TheFirstVisitShowsTheThingsAndNoOther) {
     const auto lit = [&] {
         int running = 0;
         for (const Timer* timer : program->mainScreen()->findChildren<Timer*>())
-            running += timer->isEnabled();
+            running += timer->isEnabled() && timer->interval() == Sweep::kInterval;
         return running;
     };
     ASSERT_TRUE(program->Main({}));
