@@ -4,6 +4,7 @@ namespace sarne {
 namespace {
 
 constexpr int kTwipsPerInch = 1440;
+constexpr int kCutLine = 8;
 constexpr int kMargin = 567, kCardMargin = 340;  // 10 and 6 mm
 
 }  // namespace
@@ -34,6 +35,13 @@ QSize PagesOnSheet::page() const {
 
 QPoint PagesOnSheet::corner(int index) const {
     return {index % across * page().width(), index / across * page().height()};
+}
+
+std::vector<QRect> PagesOnSheet::cuts() const {
+    if (!card || count() == 1) return {};
+    const QSize one = page();
+    return {{one.width(), 0, kCutLine, down * one.height()},
+            {0, one.height(), across * one.width(), kCutLine}};
 }
 
 int PagesOnSheet::margin() const {

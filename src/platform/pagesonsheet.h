@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPageLayout>
+#include <vector>
 
 #include "platform/printer.h"
 
@@ -19,6 +20,8 @@ struct PagesOnSheet {
     QSize page() const;
     /// Where page number \a index (from 0) of a sheet begins, in twips from the sheet's corner.
     QPoint corner(int index) const;
+    /// The lines along which cards are cut apart, in twips from the sheet's corner.
+    std::vector<QRect> cuts() const;
     /// Around the texts of a page, in twips, where the printer demands no other margin.
     int margin() const;
     /// A page with the usual margin.

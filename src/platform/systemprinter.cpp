@@ -19,7 +19,6 @@ namespace {
 
 constexpr int kTwipsPerInch = 1440;
 constexpr int kLongestFileName = 100;
-constexpr int kCutLine = 8;  // twips; where cards are cut apart
 
 /// Whether the print system took the last job of this thread: Qt sends it but keeps the answer to itself.
 bool printSystemTookIt() {
@@ -85,7 +84,6 @@ class SystemPrinter::State {
   private:
     QPageLayout fileLayout() const;
     void toPage();
-    void drawCuts();
 
     int page_ = 0;   // on the sheet
     int sheet_ = 0;  // in the document
@@ -158,15 +156,11 @@ bool SystemPrinter::State::beginPrinter(const QString& title) {
 /// Moves the painter to the page of the sheet that comes next.
 void SystemPrinter::State::toPage() {
     painter.setTransform(base_);
-    if (page_ == 0 && pages.count() > 1 && pages.card) drawCuts();
+    if (page_ == 0) {
+        for (const QRect& cut : pages.cuts()) painter.fillRect(cut, Qt::lightGray);
+    }
     // A single page of a printer begins where the printer can print.
     if (toFile() || pages.count() > 1) painter.translate(pages.corner(page_) - scale().sheet.topLeft());
-}
-
-void SystemPrinter::State::drawCuts() {
-    const QSize size = pages.page();
-    painter.fillRect(QRect(size.width(), 0, kCutLine, pages.down * size.height()), Qt::lightGray);
-    painter.fillRect(QRect(0, size.height(), pages.across * size.width(), kCutLine), Qt::lightGray);
 }
 
 void SystemPrinter::State::addNotes(const std::vector<DocumentPlace>& places,

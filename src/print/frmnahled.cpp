@@ -8,6 +8,7 @@
 #include "forms/panel.h"
 #include "forms/resources.h"
 #include "print/formparts.h"
+#include "print/printdialog.h"
 
 namespace sarne {
 namespace {
@@ -15,17 +16,21 @@ namespace {
 constexpr QRect kPanel(120, 90, 11760, 8820);
 constexpr QRect kSheet(240, 180, 9120, 8640);
 constexpr QRect kPosition(9540, 420, 2220, 600);
-constexpr QRect kButtons[] = {
-    {9540, 1260, 2220, 600}, {9540, 2010, 2220, 600}, {9540, 3060, 2220, 600}, {9540, 8040, 2220, 600}};
 constexpr int kScrollStep = 600;
 
 enum ButtonIndex { kPrevious, kNext, kZoom, kClose };
-const char* const kCaptions[] = {QT_TRANSLATE_NOOP("Texts", "◄ Předchozí"),
-                                 QT_TRANSLATE_NOOP("Texts", "Další ►"), QT_TRANSLATE_NOOP("Texts", "Zvětšit"),
-                                 QT_TRANSLATE_NOOP("Texts", "Zpět")};
-const char* const kTips[] = {
-    QT_TRANSLATE_NOOP("Texts", "Předchozí strana"), QT_TRANSLATE_NOOP("Texts", "Další strana"),
-    QT_TRANSLATE_NOOP("Texts", "Zvětšit nebo zmenšit stranu"), QT_TRANSLATE_NOOP("Texts", "Zpět k tisku")};
+constexpr TextFace kFaces[] = {{QT_TRANSLATE_NOOP("Texts", "◄ Předchozí"),
+                                QT_TRANSLATE_NOOP("Texts", "Předchozí strana"),
+                                {9540, 1260, 2220, 600}},
+                               {QT_TRANSLATE_NOOP("Texts", "Další ►"),
+                                QT_TRANSLATE_NOOP("Texts", "Další strana"),
+                                {9540, 2010, 2220, 600}},
+                               {QT_TRANSLATE_NOOP("Texts", "Zvětšit"),
+                                QT_TRANSLATE_NOOP("Texts", "Zvětšit nebo zmenšit stranu"),
+                                {9540, 3060, 2220, 600}},
+                               {QT_TRANSLATE_NOOP("Texts", "Zpět"),
+                                QT_TRANSLATE_NOOP("Texts", "Zpět k tisku"),
+                                {9540, 8040, 2220, 600}}};
 
 }  // namespace
 
@@ -40,26 +45,30 @@ frmNahled::frmNahled(basSarne& sarne, std::unique_ptr<PagePreview> preview)
     lblStrana.place(kPosition);
     dressLabel(lblStrana, printforms::kTextFont, colors::kTitle);
     lblStrana.setAlignment(Qt::AlignCenter);
-    for (int i = 0; i < 4; ++i) {
-        auto* button = cmdStrana[size_t(i)] = new Button(*this, QStringLiteral("cmdStrana(%1)").arg(i));
-        button->dressAsText(Texts::tr(kCaptions[i]), Texts::tr(kTips[i]));
-        button->place(kButtons[i]);
-    }
-    connect(cmdStrana[kPrevious], &Button::clicked, this, [this] { go(current_ - 1); });
-    connect(cmdStrana[kNext], &Button::clicked, this, [this] { go(current_ + 1); });
-    connect(cmdStrana[kZoom], &Button::clicked, this, [this] { zoom(); });
-    connect(cmdStrana[kClose], &Button::clicked, this, [this] { goBack(); });
+    makeButtons(*this, QStringLiteral("cmdStrana"), kFaces, cmdStrana, [this](int i) { command(i); });
     // The sheet is the form's own stop.
     ring().setStops({this, cmdStrana[kPrevious], cmdStrana[kNext], cmdStrana[kZoom], cmdStrana[kClose]});
     connect(&picStrana, &Control::clicked, this, [this] { zoom(); });
-    connect(&picStrana, &PageSheet::turned, this, [this](int pages) { go(current_ + pages); });
+    connect(&picStrana, &PageSheet::turned, this, [this](int sheets) { go(current_ + sheets); });
     connect(&Timer1, &Timer::tick, this, [this] { layOutMore(); });
 }
 
-void frmNahled::Zobraz(int page) {
-    while (preview_->pageCount() <= page && preview_->layOutMore()) {
+void frmNahled::command(int button) {
+    switch (button) {
+        case kPrevious:
+        case kNext:
+            return go(current_ + (button == kNext ? 1 : -1));
+        case kZoom:
+            return zoom();
+        case kClose:
+            return goBack();
     }
-    go(page);
+}
+
+void frmNahled::Zobraz(int sheet) {
+    while (preview_->sheetCount() <= sheet && preview_->layOutMore()) {
+    }
+    go(sheet);
     Timer1.setInterval(0);
     Timer1.setEnabled(!preview_->isComplete());
     app().PushScreen(*this);
@@ -76,17 +85,18 @@ void frmNahled::layOutMore() {
     showPosition();
 }
 
-void frmNahled::go(int page) {
-    current_ = qBound(0, page, qMax(0, preview_->pageCount() - 1));
-    picStrana.showPage(*preview_, current_);
+void frmNahled::go(int sheet) {
+    current_ = qBound(0, sheet, qMax(0, preview_->sheetCount() - 1));
+    picStrana.showSheet(*preview_, current_);
     showPosition();
 }
 
 void frmNahled::showPosition() {
-    const int count = preview_->pageCount();
+    const int count = preview_->sheetCount();
     const QString more = preview_->isComplete() ? QString() : QStringLiteral(" ...");
-    lblStrana.setText(count == 0 ? Texts::tr("Není co tisknout")
-                                 : Texts::tr("Strana %1 z %2").arg(current_ + 1).arg(count) + more);
+    const QString place =
+        preview_->onSheet().count() > 1 ? Texts::tr("List %1 z %2") : Texts::tr("Strana %1 z %2");
+    lblStrana.setText(count == 0 ? Texts::tr("Není co tisknout") : place.arg(current_ + 1).arg(count) + more);
     cmdStrana[kPrevious]->setEnabled(current_ > 0);
     cmdStrana[kNext]->setEnabled(current_ + 1 < count);
 }
@@ -122,7 +132,7 @@ bool frmNahled::keyDown(QKeyEvent& event) {
             go(0);
             return true;
         case Qt::Key_End:
-            go(preview_->pageCount() - 1);
+            go(preview_->sheetCount() - 1);
             return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:

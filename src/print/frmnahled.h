@@ -10,16 +10,16 @@
 
 namespace sarne {
 
-/// The preview: the pages as they will be printed, to leaf through. Owns the preview it shows.
+/// The preview: the sheets as they will be printed, to leaf through. Owns the preview it shows.
 class frmNahled : public Form {
     Q_OBJECT
   public:
     frmNahled(basSarne& sarne, std::unique_ptr<PagePreview> preview);
 
-    /// Shows number \a page, from 0.
-    void Zobraz(int page = 0);
+    /// Shows number \a sheet, from 0.
+    void Zobraz(int sheet = 0);
 
-    int currentPage() const { return current_; }
+    int currentSheet() const { return current_; }
     void goBack() override;
 
   protected:
@@ -27,7 +27,8 @@ class frmNahled : public Form {
     bool keyDown(QKeyEvent& event) override;
 
   private:
-    void go(int page);
+    void command(int button);
+    void go(int sheet);
     void zoom();
     void layOutMore();
     void showPosition();

@@ -68,6 +68,7 @@ void frmPrint::take(PrintMaterial material, const Serving& serving) {
     // A note that is being written below is printed as it stands there.
     for (Form* form : app().stage().forms()) form->keepUnsaved();
     lblVysledek.setText({});
+    if (!isVisible()) recallPrinter();
     cmdOtevrit->hide();
     prepareOptions(serving);
     showMaterial();
@@ -254,9 +255,14 @@ void frmPrint::askToStop() {
     if (app().ZobrazZpravu(question, kWarningQuestionBox) == kAnswerYes) stopped_ = true;
 }
 
+std::unique_ptr<PagePreview> frmPrint::newPreview(const PrintOptions& wanted) {
+    return std::make_unique<PagePreview>(source(), printer_.scale(), material_, wanted,
+                                         PagesOnSheet::of(printer_.choice().paper));
+}
+
 void frmPrint::preview() {
     if (printing_ || !portionsValid()) return;
-    auto preview = std::make_unique<PagePreview>(source(), printer_.scale(), material_, options());
+    auto preview = newPreview(options());
     (new frmNahled(app(), std::move(preview)))->Zobraz(previewed_);
 }
 
@@ -265,10 +271,10 @@ void frmPrint::refreshPreview() {
     const PrintOptions wanted = options();
     const bool valid = wanted.portions >= kFewestPortions && wanted.portions <= kMostPortions;
     if (printing_ || (!material_.isText() && !valid)) return;
-    auto preview = std::make_unique<PagePreview>(source(), printer_.scale(), material_, wanted);
-    while (preview->pageCount() <= previewed_ && preview->layOutMore()) {
+    auto preview = newPreview(wanted);
+    while (preview->sheetCount() <= previewed_ && preview->layOutMore()) {
     }
-    picStrana.showPage(*preview, 0);
+    picStrana.showSheet(*preview, 0);
     preview_ = std::move(preview);
     turnTo(previewed_);
     Timer1.setInterval(0);
@@ -280,16 +286,17 @@ void frmPrint::layOutMore() {
     showPosition();
 }
 
-void frmPrint::turnTo(int page) {
+void frmPrint::turnTo(int sheet) {
     if (!preview_) return;
-    previewed_ = qBound(0, page, qMax(0, preview_->pageCount() - 1));
-    picStrana.showPage(*preview_, previewed_);
+    previewed_ = qBound(0, sheet, qMax(0, preview_->sheetCount() - 1));
+    picStrana.showSheet(*preview_, previewed_);
     showPosition();
 }
 
 void frmPrint::showPosition() {
-    const int count = preview_->pageCount();
-    lblStrana.setText(count == 0 ? QString() : QStringLiteral("%1 z %2").arg(previewed_ + 1).arg(count));
+    const int count = preview_->sheetCount();
+    const QString place = preview_->onSheet().count() > 1 ? Texts::tr("List %1 z %2") : Texts::tr("%1 z %2");
+    lblStrana.setText(count == 0 ? QString() : place.arg(previewed_ + 1).arg(count));
     cmdStrana[0]->setEnabled(previewed_ > 0 && !printing_);
     cmdStrana[1]->setEnabled(previewed_ + 1 < count && !printing_);
 }

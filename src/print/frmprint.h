@@ -78,10 +78,11 @@ class frmPrint : public Form, private PrintProgress {
     void askToStop();
     bool mayReplaceFile();
     void openFile();
+    std::unique_ptr<PagePreview> newPreview(const PrintOptions& wanted);
     void preview();
     void refreshPreview();
     void layOutMore();
-    void turnTo(int page);
+    void turnTo(int sheet);
     void showPosition();
     void recallPrinter();
     void choosePrinter();
@@ -96,7 +97,7 @@ class frmPrint : public Form, private PrintProgress {
     Printer& printer_;
     PrinterMemory memory_;
     std::unique_ptr<PagePreview> preview_;
-    int previewed_ = 0;  // the page that shows
+    int previewed_ = 0;  // the sheet that shows
     QString printedFile_;
     PrintMaterial material_;
     bool printedBefore_ = false;  // further selections are printed at once

@@ -58,7 +58,6 @@ frmPrint::frmPrint(basSarne& sarne, Printer& printer, PrinterMemory memory)
     makePreview();
     makeButtons();
     watchOptions();
-    recallPrinter();
 }
 
 void frmPrint::makeOptions() {
@@ -156,7 +155,7 @@ void frmPrint::makePreview() {
         connect(cmdStrana[size_t(i)], &Button::clicked, this, [this, i] { turnTo(previewed_ + 2 * i - 1); });
     }
     connect(&picStrana, &Control::clicked, this, [this] { preview(); });
-    connect(&picStrana, &PageSheet::turned, this, [this](int pages) { turnTo(previewed_ + pages); });
+    connect(&picStrana, &PageSheet::turned, this, [this](int sheets) { turnTo(previewed_ + sheets); });
     connect(&Timer1, &Timer::tick, this, [this] { layOutMore(); });
 }
 

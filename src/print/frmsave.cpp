@@ -3,34 +3,30 @@
 #include <QKeyEvent>
 #include <algorithm>
 
-#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
-#include "forms/panel.h"
-#include "forms/resources.h"
 #include "print/formparts.h"
 
 namespace sarne {
 namespace {
 
-constexpr QRect kDialog(750, 900, 10500, 7200);
 constexpr QRect kInstruction(360, 270, 9780, 360);
 constexpr QRect kAvailable(360, 1080, 3960, 5160);
 constexpr QRect kChosen(6180, 1080, 3960, 5160);
-constexpr int kListTitleHeight = 330;
-constexpr QSize kArrow(1560, 540);
-constexpr int kArrowLeft = 4470;
-// Adding stands above taking away.
-constexpr int kArrowTop[] = {1860, 3780, 4440, 2520};
-constexpr QRect kButtons[] = {{3540, 6435, 1620, 540}, {5340, 6435, 1620, 540}};
 
-const char* const kArrowCaptions[] = {
-    QT_TRANSLATE_NOOP("Texts", "Přidat ►"), QT_TRANSLATE_NOOP("Texts", "◄ Odebrat"),
-    QT_TRANSLATE_NOOP("Texts", "◄◄ Vše"), QT_TRANSLATE_NOOP("Texts", "Vše ►►")};
-const char* const kArrowTips[] = {QT_TRANSLATE_NOOP("Texts", "Přidat označené položky"),
-                                  QT_TRANSLATE_NOOP("Texts", "Odebrat označené položky"),
-                                  QT_TRANSLATE_NOOP("Texts", "Odebrat všechny položky"),
-                                  QT_TRANSLATE_NOOP("Texts", "Přidat všechny položky")};
+// Adding stands above taking away.
+constexpr TextFace kArrows[] = {{QT_TRANSLATE_NOOP("Texts", "Přidat ►"),
+                                 QT_TRANSLATE_NOOP("Texts", "Přidat označené položky"),
+                                 {4470, 1860, 1560, 540}},
+                                {QT_TRANSLATE_NOOP("Texts", "◄ Odebrat"),
+                                 QT_TRANSLATE_NOOP("Texts", "Odebrat označené položky"),
+                                 {4470, 3780, 1560, 540}},
+                                {QT_TRANSLATE_NOOP("Texts", "◄◄ Vše"),
+                                 QT_TRANSLATE_NOOP("Texts", "Odebrat všechny položky"),
+                                 {4470, 4440, 1560, 540}},
+                                {QT_TRANSLATE_NOOP("Texts", "Vše ►►"),
+                                 QT_TRANSLATE_NOOP("Texts", "Přidat všechny položky"),
+                                 {4470, 2520, 1560, 540}}};
 
 void fill(ListBox& list, const std::vector<PrintEntry>& entries) {
     QStringList texts;
@@ -45,42 +41,21 @@ void fill(ListBox& list, const std::vector<PrintEntry>& entries) {
 }  // namespace
 
 frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover print)
-    : Form(sarne, QStringLiteral("frmSave")),
+    : PrintDialog(sarne, QStringLiteral("frmSave")),
       print_(std::move(print)),
       Label2(*this, QStringLiteral("Label2")),
       lblSeznam(*this, QStringLiteral("lblSeznam")),
       lblVybrano(*this, QStringLiteral("lblVybrano")),
       lstSeznam(*this, QStringLiteral("lstSeznam")),
       lstVybrano(*this, QStringLiteral("lstVybrano")) {
-    place(kDialog);
     Label2.place(kInstruction);
     dressLabel(Label2, printforms::kTextFont, colors::kTitle);
-    for (ListBox* list : {&lstSeznam, &lstVybrano}) {
-        const bool available = list == &lstSeznam;
-        const QRect room = available ? kAvailable : kChosen;
-        Label& title = available ? lblSeznam : lblVybrano;
-        title.place({room.left(), room.top() - kListTitleHeight, room.width(), kListTitleHeight});
-        dressLabel(title, printforms::kSmallFont, colors::kPaper);
-        list->place(room);
-        list->setFont(printforms::kSmallFont);
-    }
-    lblSeznam.setText(Texts::tr("Seznam"));
-    lstSeznam.setTip(Texts::tr("Seznam položek"));
-    lstVybrano.setTip(Texts::tr("Vybrané položky"));
-    for (int i = 0; i < 4; ++i) {
-        auto* button = cmdRuka[size_t(i)] = new Button(*this, QStringLiteral("cmdRuka(%1)").arg(i));
-        button->dressAsText(Texts::tr(kArrowCaptions[i]), Texts::tr(kArrowTips[i]));
-        button->place({{kArrowLeft, kArrowTop[i]}, kArrow});
-        connect(button, &Button::clicked, this, [this, i] { cmdRukaClick(i); });
-    }
-    const QString captions[] = {Texts::tr("OK"), Texts::tr("Zavřít")};
-    const QString tips[] = {Texts::tr("Tisknout vybrané položky"), Texts::tr("Zavřít bez tisku")};
-    for (int i = 0; i < 2; ++i) {
-        auto* button = cmdOkEnd[size_t(i)] = new Button(*this, QStringLiteral("cmdOkEnd(%1)").arg(i));
-        button->dressAsText(captions[i], tips[i]);
-        button->place(kButtons[i]);
-        connect(button, &Button::clicked, this, [this, i] { cmdOkEndClick(i); });
-    }
+    makeLists();
+    makeButtons(*this, QStringLiteral("cmdRuka"), kArrows, cmdRuka, [this](int i) { cmdRukaClick(i); });
+    static constexpr TextFace kFoot[] = {
+        {QT_TRANSLATE_NOOP("Texts", "OK"), QT_TRANSLATE_NOOP("Texts", "Tisknout vybrané položky"), kFootLeft},
+        {QT_TRANSLATE_NOOP("Texts", "Zavřít"), QT_TRANSLATE_NOOP("Texts", "Zavřít bez tisku"), kFootRight}};
+    makeButtons(*this, QStringLiteral("cmdOkEnd"), kFoot, cmdOkEnd, [this](int i) { cmdOkEndClick(i); });
     connect(&lstSeznam, &Control::doubleClicked, this, [this] { addMarked(); });
     connect(&lstVybrano, &Control::doubleClicked, this, [this] { removeMarked(); });
     choice_.setAvailable(std::move(entries));
@@ -89,6 +64,16 @@ frmSave::frmSave(basSarne& sarne, std::vector<PrintEntry> entries, Handover prin
     showChosen();
     ring().setStops(
         {&lstSeznam, cmdRuka[0], cmdRuka[3], cmdRuka[1], cmdRuka[2], &lstVybrano, cmdOkEnd[0], cmdOkEnd[1]});
+}
+
+void frmSave::makeLists() {
+    placeList(lstSeznam, lblSeznam, kAvailable);
+    placeList(lstVybrano, lblVybrano, kChosen);
+    for (Label* title : {&lblSeznam, &lblVybrano}) dressLabel(*title, printforms::kSmallFont, colors::kPaper);
+    for (ListBox* list : {&lstSeznam, &lstVybrano}) list->setFont(printforms::kSmallFont);
+    lblSeznam.setText(Texts::tr("Seznam"));
+    lstSeznam.setTip(Texts::tr("Seznam položek"));
+    lstVybrano.setTip(Texts::tr("Vybrané položky"));
 }
 
 void frmSave::Zobraz(const QString& mode) {
@@ -170,39 +155,20 @@ void frmSave::enterPressed() {
     ring().press();
 }
 
-bool frmSave::keyDown(QKeyEvent& event) {
+bool frmSave::otherKey(QKeyEvent& event) {
     switch (event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            enterPressed();
-            break;
         case Qt::Key_Delete:
             if (lstVybrano.hasFocus()) removeMarked();
-            break;
-        case Qt::Key_Escape:
-            goBack();
-            break;
+            return true;
         case Qt::Key_Right:
             lstVybrano.setFocus(Qt::TabFocusReason);
-            break;
+            return true;
         case Qt::Key_Left:
             lstSeznam.setFocus(Qt::TabFocusReason);
-            break;
-        case Qt::Key_F4:
-        case Qt::Key_X:
-            if (event.modifiers() & Qt::AltModifier) closeRequested();
-            break;
-        case Qt::Key_F1:
-            help();
-            break;
+            return true;
         default:
-            ring().keyDown(event);
+            return false;
     }
-    return true;  // a dialog: its keys mean nothing else
-}
-
-void frmSave::paint(QPainter& painter) {
-    paintPanel(painter, {{0, 0}, twips().size()}, app().resources().picture(QStringLiteral("zprava")));
 }
 
 }  // namespace sarne

@@ -1,18 +1,14 @@
 #pragma once
 
-#include <array>
 #include <functional>
 
-#include "forms/button.h"
-#include "forms/form.h"
-#include "forms/label.h"
-#include "forms/listbox.h"
 #include "print/printchoice.h"
+#include "print/printdialog.h"
 
 namespace sarne {
 
 /// The dialog in which the user chooses what to print of a list. It unloads itself when it is closed.
-class frmSave : public Form {
+class frmSave : public PrintDialog {
     Q_OBJECT
   public:
     /// Gets the ids that were chosen, in their order.
@@ -29,11 +25,9 @@ class frmSave : public Form {
     void goBack() override { cmdOkEndClick(1); }
     void closeRequested() override { cmdOkEndClick(1); }
 
-  protected:
-    void paint(QPainter& painter) override;
-    bool keyDown(QKeyEvent& event) override;
-
   private:
+    bool otherKey(QKeyEvent& event) override;
+    void makeLists();
     void cmdRukaClick(int index);
     void cmdOkEndClick(int index);
     void addMarked();
@@ -41,7 +35,7 @@ class frmSave : public Form {
     void removeMarked();
     void markStart();
     void showChosen();
-    void enterPressed();
+    void enterPressed() override;
     bool isOrdinary() const { return mode_.isEmpty(); }
 
     Handover print_;

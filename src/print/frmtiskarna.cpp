@@ -2,25 +2,20 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QKeyEvent>
 #include <QListView>
 
-#include "core/texts.h"
 #include "core/value.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/messagebox.h"
-#include "forms/panel.h"
 #include "forms/resources.h"
 #include "print/formparts.h"
 
 namespace sarne {
 namespace {
 
-constexpr QRect kDialog(750, 900, 10500, 7200);
 constexpr QRect kPrinterList(360, 720, 4740, 2400);
 constexpr QRect kPaperList(5400, 720, 4740, 2400);
-constexpr int kTitleHeight = 360;
 constexpr QRect kCopiesTitle(360, 3420, 1500, 450);
 constexpr QRect kCopies(1920, 3420, 900, 450);
 constexpr QRect kBothSides(3300, 3420, 3600, 450);
@@ -29,7 +24,6 @@ constexpr QRect kFolderTitle(360, 4200, 9780, 330);
 constexpr QRect kFolder(360, 4530, 9780, 480);
 constexpr QRect kFileTitle(360, 5160, 9780, 330);
 constexpr QRect kFile(360, 5490, 9780, 480);
-constexpr QRect kButtons[] = {{3540, 6435, 1620, 540}, {5340, 6435, 1620, 540}};
 constexpr int kMostCopies = 99;
 constexpr int kLongestPath = 1000;
 
@@ -44,7 +38,7 @@ QString existingFolder(const QString& path) {
 
 frmTiskarna::frmTiskarna(basSarne& sarne, const QStringList& printers, const PrinterChoice& choice,
                          const QString& usualFile)
-    : Form(sarne, QStringLiteral("frmTiskarna")),
+    : PrintDialog(sarne, QStringLiteral("frmTiskarna")),
       usualFile_(usualFile),
       lblTiskarny(*this, QStringLiteral("lblTiskarny")),
       lblPapir(*this, QStringLiteral("lblPapir")),
@@ -58,10 +52,13 @@ frmTiskarna::frmTiskarna(basSarne& sarne, const QStringList& printers, const Pri
       txtSoubor(*this, QStringLiteral("txtSoubor")),
       chkOboustranne(*this, QStringLiteral("chkOboustranne")),
       chkBarevne(*this, QStringLiteral("chkBarevne")) {
-    place(kDialog);
     makeLists(printers);
     makeOptions();
-    makeButtons();
+    static constexpr TextFace kFoot[] = {
+        {QT_TRANSLATE_NOOP("Texts", "OK"), QT_TRANSLATE_NOOP("Texts", "Tisknout takto"), kFootLeft},
+        {QT_TRANSLATE_NOOP("Texts", "Storno"), QT_TRANSLATE_NOOP("Texts", "Nechat, jak to bylo"),
+         kFootRight}};
+    makeButtons(*this, QStringLiteral("cmdOkStorno"), kFoot, cmdOkStorno, [this](int i) { close(i == 0); });
     ring().setStops({&lstTiskarny, &lstPapir, &txtKopie, &chkOboustranne, &chkBarevne, &txtSlozka, &txtSoubor,
                      cmdOkStorno[0], cmdOkStorno[1]});
     show(choice);
@@ -70,9 +67,8 @@ frmTiskarna::frmTiskarna(basSarne& sarne, const QStringList& printers, const Pri
 void frmTiskarna::makeLists(const QStringList& printers) {
     const auto make = [this](ListBox& list, Label& title, const QRect& place, const QString& caption,
                              const QStringList& texts) {
-        title.place({place.left(), place.top() - kTitleHeight, place.width(), kTitleHeight});
         dressLabel(title, printforms::kButtonFont, colors::kTitle, caption);
-        list.place(place);
+        placeList(list, title, place);
         list.setFont(printforms::kTextFont);
         list.setTip(caption);
         list.setItems(texts, std::vector<std::int32_t>(static_cast<size_t>(texts.size())));
@@ -110,17 +106,6 @@ void frmTiskarna::makeOptions() {
     dressCheckBox(chkOboustranne, app().resources(), Texts::tr("Tisknout po obou stranách"));
     dressCheckBox(chkBarevne, app().resources(), Texts::tr("Barevně"));
     for (CheckBox* box : {&chkOboustranne, &chkBarevne}) box->setColor(colors::kPaper);
-}
-
-void frmTiskarna::makeButtons() {
-    const QString captions[] = {Texts::tr("OK"), Texts::tr("Storno")};
-    const QString tips[] = {Texts::tr("Tisknout takto"), Texts::tr("Nechat, jak to bylo")};
-    for (int i = 0; i < 2; ++i) {
-        auto* button = cmdOkStorno[size_t(i)] = new Button(*this, QStringLiteral("cmdOkStorno(%1)").arg(i));
-        button->dressAsText(captions[i], tips[i]);
-        button->place(kButtons[i]);
-        connect(button, &Button::clicked, this, [this, i] { close(i == 0); });
-    }
 }
 
 void frmTiskarna::show(const PrinterChoice& choice) {
@@ -176,26 +161,8 @@ void frmTiskarna::close(bool accepted) {
     hideForm();
 }
 
-bool frmTiskarna::keyDown(QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (!ring().press()) close(true);
-            break;
-        case Qt::Key_Escape:
-            close(false);
-            break;
-        case Qt::Key_F1:
-            help();
-            break;
-        default:
-            ring().keyDown(event);
-    }
-    return true;  // a dialog: its keys mean nothing else
-}
-
-void frmTiskarna::paint(QPainter& painter) {
-    paintPanel(painter, {{0, 0}, twips().size()}, app().resources().picture(QStringLiteral("zprava")));
+void frmTiskarna::enterPressed() {
+    if (!ring().press()) close(true);
 }
 
 }  // namespace sarne

@@ -1,20 +1,16 @@
 #pragma once
 
-#include <array>
 #include <optional>
 
-#include "forms/button.h"
 #include "forms/checkbox.h"
 #include "forms/edit.h"
-#include "forms/form.h"
-#include "forms/label.h"
-#include "forms/listbox.h"
 #include "platform/printer.h"
+#include "print/printdialog.h"
 
 namespace sarne {
 
 /// The dialog in which the user chooses the printer, the paper and how to print on it; or a file.
-class frmTiskarna : public Form {
+class frmTiskarna : public PrintDialog {
     Q_OBJECT
   public:
     /// Offers \a printers beside the file and begins with \a choice. \a usualFile is what a file is called
@@ -28,14 +24,10 @@ class frmTiskarna : public Form {
     void goBack() override { close(false); }
     void closeRequested() override { close(false); }
 
-  protected:
-    void paint(QPainter& painter) override;
-    bool keyDown(QKeyEvent& event) override;
-
   private:
+    void enterPressed() override;
     void makeLists(const QStringList& printers);
     void makeOptions();
-    void makeButtons();
     void show(const PrinterChoice& choice);
     PrinterChoice shown() const;
     void printerChanged();

@@ -6,8 +6,16 @@
 namespace sarne {
 
 PagePreview::PagePreview(const PrintSource& source, const PageScale& scale, PrintMaterial material,
-                         const PrintOptions& options)
-    : scale_(scale), material_(std::move(material)), options_(options), composer_(source, scale, metrics_) {}
+                         const PrintOptions& options, const PagesOnSheet& onSheet)
+    : scale_(scale),
+      onSheet_(onSheet),
+      material_(std::move(material)),
+      options_(options),
+      composer_(source, scale, metrics_) {}
+
+QSize PagePreview::sheetSize() const {
+    return {onSheet_.across * scale_.sheet.width(), onSheet_.down * scale_.sheet.height()};
+}
 
 bool PagePreview::layOutMore() {
     if (isComplete()) return false;

@@ -12,6 +12,19 @@ namespace {
 constexpr int kShadow = 60;
 constexpr int kWheelStep = 900;
 
+QStringList linesOf(const PrintedPage& page) {
+    QStringList lines;
+    int baseline = -1;
+    for (const PageText& text : page.texts) {
+        if (text.baseline != baseline)
+            lines << text.text;
+        else
+            lines.last() += u' ' + text.text;
+        baseline = text.baseline;
+    }
+    return lines;
+}
+
 }  // namespace
 
 PageSheet::PageSheet(Form& form, const QString& name) : Control(form, name) {
@@ -20,21 +33,15 @@ PageSheet::PageSheet(Form& form, const QString& name) : Control(form, name) {
 
 QString PageSheet::accessibleValue() const {
     QStringList lines;
-    if (!preview_ || page_ >= preview_->pageCount()) return {};
-    int baseline = -1;
-    for (const PageText& text : preview_->page(page_).texts) {
-        if (text.baseline != baseline)
-            lines << text.text;
-        else
-            lines.last() += u' ' + text.text;
-        baseline = text.baseline;
-    }
+    for (int page = preview_ ? preview_->firstPageOf(sheet_) : 0;
+         preview_ && page < preview_->endOfPages(sheet_); ++page)
+        lines += linesOf(preview_->page(page));
     return lines.join(u'\n');
 }
 
-void PageSheet::showPage(const PagePreview& preview, int page) {
+void PageSheet::showSheet(const PagePreview& preview, int sheet) {
     preview_ = &preview;
-    page_ = page;
+    sheet_ = sheet;
     scrolled_ = 0;
     update();
     QAccessibleValueChangeEvent event(this, accessibleValue());
@@ -48,7 +55,7 @@ void PageSheet::setZoomed(bool zoomed) {
 }
 
 double PageSheet::sheetScale() const {
-    const QRect sheet = preview_->scale().sheet;
+    const QSize sheet = preview_->sheetSize();
     if (sheet.isEmpty()) return 1;
     const double across = double(twips().width() - kShadow) / sheet.width();
     const double down = double(twips().height() - kShadow) / sheet.height();
@@ -56,7 +63,7 @@ double PageSheet::sheetScale() const {
 }
 
 int PageSheet::sheetHeight() const {
-    return static_cast<int>(preview_->scale().sheet.height() * sheetScale());
+    return static_cast<int>(preview_->sheetSize().height() * sheetScale());
 }
 
 bool PageSheet::scrollBy(int distance) {
@@ -76,20 +83,30 @@ void PageSheet::wheelEvent(QWheelEvent* event) {
 
 void PageSheet::paint(QPainter& painter) {
     if (!preview_) return;
-    const QRect sheet = preview_->scale().sheet;
     const double scale = sheetScale();
+    const QSizeF sheet = QSizeF(preview_->sheetSize()) * scale;
     painter.setClipRect(QRect({0, 0}, twips().size()));
-    painter.translate((twips().width() - kShadow - sheet.width() * scale) / 2,
-                      zoomed_ ? -scrolled_ : (twips().height() - kShadow - sheet.height() * scale) / 2);
-    const QRectF paper(0, 0, sheet.width() * scale, sheet.height() * scale);
+    painter.translate((twips().width() - kShadow - sheet.width()) / 2,
+                      zoomed_ ? -scrolled_ : (twips().height() - kShadow - sheet.height()) / 2);
+    const QRectF paper({0, 0}, sheet);
     painter.fillRect(paper.translated(kShadow, kShadow), colors::kNight);
     painter.fillRect(paper, Qt::white);
-    if (page_ >= preview_->pageCount()) return;
     painter.scale(scale, scale);
-    painter.translate(-sheet.topLeft());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    paintPages(painter);
+}
+
+void PageSheet::paintPages(QPainter& painter) const {
+    const QRect page = preview_->scale().sheet;
+    const PagesOnSheet& onSheet = preview_->onSheet();
+    for (const QRect& cut : onSheet.cuts()) painter.fillRect(cut, Qt::lightGray);
     SilentProgress silent;
-    paintPage(painter, preview_->page(page_), silent);
+    for (int i = preview_->firstPageOf(sheet_); i < preview_->endOfPages(sheet_); ++i) {
+        painter.save();
+        painter.translate(onSheet.corner(i % onSheet.count()) - page.topLeft());
+        paintPage(painter, preview_->page(i), silent);
+        painter.restore();
+    }
 }
 
 }  // namespace sarne

@@ -5,39 +5,40 @@
 
 namespace sarne {
 
-/// Shows one page of a preview as it lies on its sheet of paper: the whole sheet, or as wide as the control
-/// and scrolled.
+/// Shows one sheet of a preview with the pages that lie on it: the whole sheet, or as wide as the control and
+/// scrolled.
 class PageSheet : public Control {
     Q_OBJECT
   public:
     PageSheet(Form& form, const QString& name);
 
     QAccessible::Role role() const override { return QAccessible::Document; }
-    /// The texts of the page, line by line.
+    /// The texts of the sheet's pages, line by line.
     QString accessibleValue() const override;
 
     /// The preview must outlive the control. Without a page an empty sheet shows.
-    void showPage(const PagePreview& preview, int page);
+    void showSheet(const PagePreview& preview, int sheet);
     void setZoomed(bool zoomed);
     bool isZoomed() const { return zoomed_; }
-    /// Scrolls a zoomed page, \a twips of the control; false when it moved no more.
+    /// Scrolls a zoomed sheet, \a twips of the control; false when it moved no more.
     bool scrollBy(int twips);
     int scrolled() const { return scrolled_; }
 
   Q_SIGNALS:
     /// The wheel was turned where there is nothing to scroll.
-    void turned(int pages);
+    void turned(int sheets);
 
   protected:
     void paint(QPainter& painter) override;
     void wheelEvent(QWheelEvent* event) override;
 
   private:
+    void paintPages(QPainter& painter) const;
     double sheetScale() const;
     int sheetHeight() const;
 
     const PagePreview* preview_ = nullptr;
-    int page_ = 0;
+    int sheet_ = 0;
     bool zoomed_ = false;
     int scrolled_ = 0;
 };

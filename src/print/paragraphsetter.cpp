@@ -182,7 +182,7 @@ void ParagraphSetter::end() {
 void ParagraphSetter::release(bool ends) {
     if (!holding_) return;
     holding_ = false;
-    put(held_, style_.justified, ends);
+    put(held_, style_.justified && !style_.ragged, ends);
     held_ = {};
 }
 

@@ -24,6 +24,7 @@ struct ParagraphStyle {
     int left = 0;
     int width = 0;
     bool justified = true;
+    bool ragged = false;  ///< the lines are filled like justified ones, but their gaps stay as they are
     int indent = 0;       ///< of all lines
     bool starts = true;   ///< false: it goes on with the paragraph before it
     bool hanging = true;  ///< lines below a number or a dash begin where its text begins

@@ -154,6 +154,7 @@ void RecipeFlow::addLaidOutLine(const RtfLayout& layout, const TextLine& line) {
     if (!inParagraph_) {
         ParagraphStyle style = plainStyle(line.isHeading ? FlowLine::Kind::Heading : FlowLine::Kind::Text);
         style.justified = !line.isHeading;
+        style.ragged = scale_ < 1;  // the short lines of a card would get holes
         if (line.isHeading && listHeadings_) nameNext({0, {}, textOf(layout, line), 1});
         setter_.begin(style);
     }

@@ -314,16 +314,16 @@ TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
                   str("Strana %1 z %2").arg(page + 1).arg(printed.size()));
         EXPECT_EQ(sheet->accessibleValue().simplified(), printed[page].simplified());
     }
-    EXPECT_EQ(preview->currentPage() + 1, printed.size()) << "the last page stays";
+    EXPECT_EQ(preview->currentSheet() + 1, printed.size()) << "the last page stays";
     EXPECT_FALSE(child<Button>(*preview, "cmdStrana(1)")->isEnabled());
     key(Qt::Key_Home);
     key(Qt::Key_Up);
-    EXPECT_EQ(preview->currentPage(), 0);
+    EXPECT_EQ(preview->currentSheet(), 0);
     key(Qt::Key_Return);
     EXPECT_TRUE(sheet->isZoomed());
     key(Qt::Key_Down);
     EXPECT_GT(sheet->scrolled(), 0);
-    EXPECT_EQ(preview->currentPage(), 0);
+    EXPECT_EQ(preview->currentSheet(), 0);
     key(Qt::Key_F1);
     EXPECT_TRUE(run.recorded.calls.contains(str("showHelpFor frmNahled")));
     key(Qt::Key_Escape);
@@ -355,8 +355,39 @@ TEST_F(FrmPrintTest, EveryChangeShowsInThePreviewAtOnce) {
     control("picStrana")->click();
     auto* large = dynamic_cast<frmNahled*>(loaded("frmNahled"));
     ASSERT_TRUE(large);
-    EXPECT_GT(large->currentPage(), 0) << "the page that was clicked";
+    EXPECT_GT(large->currentSheet(), 0) << "the page that was clicked";
     EXPECT_EQ(child<PageSheet>(*large, "picStrana")->accessibleValue(), sheet->accessibleValue());
+}
+
+/// Which quarters of \a sheet have ink on them, line by line.
+QString inkedQuarters(PageSheet& sheet) {
+    const QImage image = sheet.grab().toImage();
+    const QRect paper = image.rect().adjusted(image.width() / 30, image.height() / 30, -image.width() / 30,
+                                              -image.height() / 30);
+    QString quarters(4, u'-');
+    for (int y = paper.top(); y <= paper.bottom(); ++y) {
+        for (int x = paper.left(); x <= paper.right(); ++x) {
+            const int quarter = 2 * (y > paper.center().y()) + (x > paper.center().x());
+            if (qGray(image.pixel(x, y)) < 150) quarters[quarter] = u'x';
+        }
+    }
+    return quarters;
+}
+
+TEST_F(FrmPrintTest, ThePreviewShowsAllPagesOfASheet) {
+    PrinterChoice cards;
+    cards.paper = Paper::FourCards;
+    printer.use(cards);
+    open({1, 3, 1, 3, 1});
+    QTest::qWait(50);
+    auto* sheet = control<PageSheet>("picStrana");
+    EXPECT_EQ(control<Label>("lblStrana")->text(), str("List 1 z 2"));
+    EXPECT_EQ(sheet->accessibleValue().count(str("CD Tobrela")), 4);
+    EXPECT_EQ(inkedQuarters(*sheet), str("xxxx"));
+    QTest::keyClick(form(), Qt::Key_PageDown);
+    EXPECT_EQ(sheet->accessibleValue().count(str("CD Tobrela")), 1);
+    EXPECT_EQ(inkedQuarters(*sheet), str("x---"));
+    EXPECT_FALSE(control("cmdStrana(1)")->isEnabled());
 }
 
 TEST_F(FrmPrintTest, AsksBeforeItReplacesAFile) {
@@ -411,10 +442,12 @@ TEST_F(FrmPrintTest, ChoosesPrinterAndPaperAndRemembersThem) {
 
     SystemPrinter another(book.folder.path());
     frmPrint next(run, another, memory);
+    next.Zobraz({3}, {});
     EXPECT_EQ(another.choice().paper, Paper::Card);
     EXPECT_FALSE(another.choice().colour);
     kept = PrinterChoice{str("Zmizelá")}.toText();
     frmPrint gone(run, another, memory);
+    gone.Zobraz({3}, {});
     EXPECT_EQ(child<Label>(gone, "lblVysledek")->text(),
               str("Tiskárna Zmizelá teď není k dispozici, tisk půjde do souboru."));
 }
