@@ -18,6 +18,8 @@ function(sarne_add_languages target)
         list(APPEND compiled "${qm}")
     endforeach()
     qt_add_resources(${target} languages PREFIX / BASE "${CMAKE_BINARY_DIR}" FILES ${compiled})
-    add_custom_target(texts COMMAND "${SARNE_LUPDATE}" -locations none -no-obsolete "${CMAKE_SOURCE_DIR}/src"
+    # A new language begins as an empty file, which the tool itself makes but does not read.
+    add_custom_target(texts COMMAND find ${SARNE_LANGUAGES} -empty -delete
+                      COMMAND "${SARNE_LUPDATE}" -locations none -no-obsolete "${CMAKE_SOURCE_DIR}/src"
                       -ts ${SARNE_LANGUAGES})
 endfunction()
