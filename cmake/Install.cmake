@@ -61,7 +61,7 @@ foreach(line IN LISTS changes)
         endif()
         string(APPEND SARNE_RELEASE_NOTES
                "    <release version=\"${CMAKE_MATCH_1}\" date=\"${CMAKE_MATCH_2}\" type=\"stable\"><description><ul>\n")
-    elseif(line MATCHES "^- (.*)")
+    elseif(SARNE_RELEASE_NOTES AND line MATCHES "^- (.*)")  # what is not released yet stands before the first
         string(APPEND SARNE_RELEASE_NOTES "      <li>${CMAKE_MATCH_1}</li>\n")
     endif()
 endforeach()
