@@ -26,11 +26,13 @@ void Label::setText(const QString& text) {
 }
 
 void Label::setFont(const TextFont& font) {
+    if (font_ == font) return;
     font_ = font;
     update();
 }
 
 void Label::setColor(const QColor& color) {
+    if (color_ == color) return;
     color_ = color;
     update();
 }

@@ -10,6 +10,7 @@ namespace sarne {
 namespace {
 
 constexpr int kBlurred = 24;       // pixels across that are left of blurred surroundings
+constexpr int kSampled = 240;      // pixels across that they are taken from
 constexpr int kShade = 110;        // of the surroundings, of 255
 constexpr double kHair = 1. / 64;  // less than this is no rest of the display
 
@@ -25,8 +26,10 @@ void drawWhole(QPainter& painter, const QRectF& place, const Picture& picture) {
 }  // namespace
 
 void paintSurroundings(QPainter& painter, const QRectF& covered, const QImage& picture) {
+    // Some of the pixels of a large picture tell enough of it, and are found at once.
+    const QImage some = picture.width() > kSampled ? picture.scaled(kSampled, kSampled * 3 / 4) : picture;
     const QImage few =
-        picture.scaled(kBlurred, kBlurred * 3 / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        some.scaled(kBlurred, kBlurred * 3 / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     painter.save();
     painter.setClipRect(covered, Qt::IntersectClip);
     painter.drawImage(Picture::fitted(picture.size(), covered, Fit::Cover), few);

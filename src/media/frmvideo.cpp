@@ -67,6 +67,7 @@ frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
       imgBtn(*this, QStringLiteral("imgBtn"), kBack, {}),
       tmrStart(this),
       progress_(this) {
+    setAttribute(Qt::WA_OpaquePaintEvent);  // what lies below need not be painted
     area_.place(kArea);
     Label1.setFont(kStatusFont);
     Label1.setColor(colors::kTitle);

@@ -7,6 +7,7 @@
 #include <QTextStream>
 
 #include "app/program.h"
+#include "figures.h"
 #include "platform/mpvcontrol.h"
 #include "platform/systemprinter.h"
 #include "tour.h"
@@ -126,7 +127,9 @@ int main(int argc, char** argv) {
         QStringLiteral("only"),
         QStringLiteral("visit only these parts of the tour: ") + tourParts().join(QStringLiteral(", ")),
         QStringLiteral("PART,…"));
-    options.addOptions({only, size, program, disc, expect, look, accept, steps, seed});
+    const QCommandLineOption measured(QStringLiteral("figures"),
+                                      QStringLiteral("instead of the tour, measure what a user waits for"));
+    options.addOptions({measured, only, size, program, disc, expect, look, accept, steps, seed});
     options.process(application);
     const QStringList wide = options.value(size).split(u'x');
     if (options.positionalArguments().size() != 1 || wide.size() != 2) options.showHelp(2);
@@ -161,6 +164,7 @@ int main(int argc, char** argv) {
     run.Main({});
     if (options.isSet(steps))
         return wander(run, options.value(steps).toInt(), options.value(seed).toUInt(), out) ? 0 : 1;
+    if (options.isSet(measured)) return figures(tour, out) ? 0 : 1;
     walk(tour, options.value(only).split(u',', Qt::SkipEmptyParts));
     tour.writeSheets();
     return report(out, tour, pictures, folder.path(), options.value(expect), looks, options.isSet(accept));

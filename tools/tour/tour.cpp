@@ -78,7 +78,9 @@ void Tour::skipIntro() {
 QImage Tour::picture(const QString& name, As how) {
     const QString file = pictures_.filePath(name + QLatin1String(how == As::Exact ? ".png" : ".jpg"));
     const QImage seen = program_.stage().grab().toImage();
-    if (!seen.save(file)) fault(QStringLiteral("%1: the picture cannot be written").arg(name));
+    constexpr int kQuick = 80;  // of a picture without loss: larger, and sooner written
+    if (!seen.save(file, nullptr, kQuick))
+        fault(QStringLiteral("%1: the picture cannot be written").arg(name));
     return seen;
 }
 
@@ -107,14 +109,18 @@ std::pair<QWidget*, QPoint> Tour::hitBy(const QWidget& aimedAt) const {
     return {hit, hit->mapFrom(&stage, at)};
 }
 
-void Tour::clickWidget(QWidget& widget) {
+void Tour::clickWidget(QWidget& widget) const {
     const auto [hit, at] = hitBy(widget);
     QTest::mouseClick(hit, Qt::LeftButton, {}, at);
-    wait();
+}
+
+void Tour::press(const QString& control) {
+    if (QWidget* widget = find(control)) clickWidget(*widget);
 }
 
 void Tour::click(const QString& control) {
-    if (QWidget* widget = find(control)) clickWidget(*widget);
+    press(control);
+    wait();
 }
 
 void Tour::doubleClick(const QString& control) {
@@ -129,15 +135,22 @@ void Tour::clickItem(const QString& label) {
     for (Form* form : program_.stage().forms()) {
         if (form->name() != u"frmMenu" || !form->isVisible()) continue;
         for (auto* item : form->findChildren<Label*>()) {
-            if (item->isVisible() && item->text().trimmed() == label) return clickWidget(*item);
+            if (item->isVisible() && item->text().trimmed() == label) {
+                clickWidget(*item);
+                return wait();
+            }
         }
     }
     fault(QStringLiteral("no menu item \"%1\"").arg(label));
 }
 
-void Tour::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+void Tour::send(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QWidget* target = QApplication::focusWidget();
     QTest::keyClick(target ? target : &program_.stage(), key, modifiers);
+}
+
+void Tour::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    send(key, modifiers);
     wait();
 }
 

@@ -53,6 +53,9 @@ class Tour {
     /// Clicks the menu item that reads \a label on any open menu level.
     void clickItem(const QString& label);
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+    /// The same two without waiting.
+    void send(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+    void press(const QString& control);
     void type(const QString& text);
     /// Does \a what as soon as the program takes events again: for what has to be done while a modal form is
     /// open.
@@ -72,7 +75,7 @@ class Tour {
 
   private:
     QWidget* find(const QString& control);
-    void clickWidget(QWidget& widget);
+    void clickWidget(QWidget& widget) const;
     /// The widget that the mouse meets in the middle of \a aimedAt, and where within it.
     std::pair<QWidget*, QPoint> hitBy(const QWidget& aimedAt) const;
     void checkContrast(const QString& name, const std::vector<TextContrast>& painted);

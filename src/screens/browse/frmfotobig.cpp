@@ -29,6 +29,7 @@ frmFotoBig::frmFotoBig(basSarne& sarne)
       tmrPosun(this) {
     setAccessibleName(Texts::tr("Velké foto"));
     setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);  // what lies below need not be painted
     lblNazev.setFont(kTitleFont);
     lblNazev.setColor(colors::kTitle);
     lblMoment.setFont(kMomentFont);
@@ -99,18 +100,43 @@ void frmFotoBig::rescale() {
     loadCursor();
 }
 
+/// The photo's own surroundings, where it leaves something of the display: no more of them than is seen.
+void frmFotoBig::paintBeside(QPainter& painter, const QRectF& photo) const {
+    const QRectF all = covered();
+    const bool isBeyondDesign = all != QRectF(QPointF(), QSizeF(twips().size()));
+    const QRectF sides[] = {QRectF(all.topLeft(), QPointF(photo.left(), all.bottom())),
+                            QRectF(QPointF(photo.right(), all.top()), all.bottomRight()),
+                            QRectF(QPointF(photo.left(), all.top()), photo.topRight()),
+                            QRectF(photo.bottomLeft(), QPointF(photo.right(), all.bottom()))};
+    for (const QRectF& side : sides) {
+        if (side.width() < 1 || side.height() < 1) continue;
+        painter.save();
+        painter.setClipRect(side, Qt::IntersectClip);
+        if (isBeyondDesign)
+            paintSurroundings(painter, all, photo_);
+        else
+            painter.fillRect(side, colors::kNight);
+        painter.restore();
+    }
+}
+
 void frmFotoBig::paint(QPainter& painter) {
     const QRectF screen(QPointF(), QSizeF(twips().size()));
-    painter.fillRect(covered(), colors::kNight);
-    if (!photo_.isNull()) {
-        if (covered() != screen) paintSurroundings(painter, covered(), photo_);
+    if (photo_.isNull()) {
+        painter.fillRect(covered(), colors::kNight);
+    } else {
         const double units = 1 / (scale() * devicePixelRatio());
         QRectF place(QPointF(), QSizeF(photo_.size()) * units);
         place.moveCenter(screen.center());
-        // On whole pixels the photo is copied as it is.
+        // On whole pixels, and untransformed, the photo is copied as it is.
         const QTransform pixels = painter.combinedTransform();
-        place.moveTopLeft(pixels.inverted().map(QPointF(pixels.map(place.topLeft()).toPoint())));
-        painter.drawImage(place, photo_);
+        const QRectF target(pixels.map(place.topLeft()).toPoint(), QSizeF(photo_.size()));
+        place = pixels.inverted().mapRect(target);
+        painter.save();
+        painter.setWorldTransform(QTransform());
+        painter.drawImage(painter.combinedTransform().inverted().mapRect(target), photo_);
+        painter.restore();
+        paintBeside(painter, place);
     }
     if (lblNazev.text().isEmpty()) return;
     paintPlate(painter, QRectF(lblNazev.twips())

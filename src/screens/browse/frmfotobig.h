@@ -50,6 +50,7 @@ class frmFotoBig : public Form {
     void loadPhoto();
     void decode();
     void placeTitle();
+    void paintBeside(QPainter& painter, const QRectF& photo) const;
     void tick();
     void setSlideShow(bool runs);
     void setZone(Zone zone);

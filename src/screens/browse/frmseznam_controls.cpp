@@ -49,6 +49,7 @@ frmSeznam::frmSeznam(basSarne& sarne, Panel* panel)
       lblVino(*this, QStringLiteral("lblVino")),
       imgBtn(*this, QStringLiteral("imgBtn"), kActions, [this](int index) { action(index); }),
       imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int) { printEntries(); }) {
+    setAttribute(Qt::WA_OpaquePaintEvent);  // what lies below need not be painted
     buildList();
     buildPanel();
     imgBtnHlavni.placeRow(seznam::kBar);

@@ -24,6 +24,7 @@ BarForm::BarForm(basSarne& sarne, const QString& name)
     : Form(sarne, name),
       title_(*this, QStringLiteral("lblTitul")),
       imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int i) { barClicked(i); }) {
+    setAttribute(Qt::WA_OpaquePaintEvent);  // what lies below need not be painted
     title_.place(kTitle);
     title_.setFont(kTitleFont);
     title_.setColor(colors::kTitle);

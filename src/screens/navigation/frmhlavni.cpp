@@ -40,6 +40,7 @@ frmHlavni::frmHlavni(basSarne& sarne)
       tmrSvetlo(this),
       tmrOzdoby(this) {
     setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);  // what lies below need not be painted
     TmrPohyby.setInterval(kFrameInterval);
     TmrPohyby.setTag(QStringLiteral("0"));
     connect(&TmrPohyby, &Timer::tick, this, &frmHlavni::tick);

@@ -51,6 +51,7 @@ frmRecept::frmRecept(basSarne& sarne, Serving& lookedAt, AskNumber ask)
       view_(new TextView(*this, QStringLiteral("picRecept"))),
       picture_(new PictureBox(*this, QStringLiteral("picVedle"))) {
     if (!ask) ask = [&sarne](const QString& prompt) { return askNumber(sarne, prompt); };
+    setAttribute(Qt::WA_OpaquePaintEvent);  // what lies below need not be painted
     recipe_.units = lookedAt.units;
     title_->place(recipelayout::kTitle);
     title_->setAlignment(Qt::AlignCenter);
