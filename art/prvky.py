@@ -591,7 +591,8 @@ def ZPET():
 CURSORS = ("ZPET", "SIPKANAHORU", "SIPKADOLU", "SIPKAVLEVO", "SIPKAVPRAVO")
 ICONS = ("Tisk Help Zpet Konec Hudba ZvukOn ZvukOff Foto Vino Recept Uvod Odkazy Suroviny Pomucky Vlastni Hrat Stop Pauza NaZacatek NaKonec Lupa lzice zavazi "
          "Pribor2 Pribor4 Pribor6 Pribor8 Pribor10 Jablko SipkaNahoru SipkaDolu SipkaNahoruRychle SipkaDoluRychle Zaskrtnuto Nezaskrtnuto VolbaAno VolbaNe "
-         "Skupina0 Skupina1 Skupina2 Skupina3 Ikona1 Ikona2 Ikona3 Ikona4 Varime Nakup Doma Kucharka Casovac").split()
+         "Skupina0 Skupina1 Skupina2 Skupina3 Ikona1 Ikona2 Ikona3 Ikona4 Varime Nakup Doma Kucharka Casovac "
+         "Oddeleni0 Oddeleni1 Oddeleni2 Oddeleni3 Oddeleni4 Oddeleni5 Oddeleni6 Hostina").split()
 STANDING = {"Konec": (10, 1.75, 6.2), "Vino": (10, 2.1, 6.4), "Suroviny": (14, 1.7, 6.4), "Jablko": (20, 1.55, 5.6), "Foto": (22, 1.0, 6.0), "Tisk": (34, .8, 6.6), "zavazi": (24, 1.05, 5.6)}
 
 
@@ -609,12 +610,14 @@ def studio(name):
 
 
 def thing(name):
-    """The function that builds a thing; those of the home's screens have a file of their own."""
+    """The function that builds a thing; those of the home's screens and of the shop have files of their own."""
     if name in globals():
         return globals()[name]
     import prvky_domov
-    STANDING.update(prvky_domov.STANDING)
-    return getattr(prvky_domov, name)
+    import prvky_obchod
+    for module in (prvky_domov, prvky_obchod):
+        STANDING.update(module.STANDING)
+    return getattr(prvky_obchod if name in prvky_obchod.THINGS else prvky_domov, name)
 
 
 def make(name):
