@@ -122,7 +122,9 @@ QList<QStringList> userSchema() {
              QStringLiteral("CREATE TABLE Kucharka (ID INTEGER PRIMARY KEY, Nazev TEXT, Hvezdy INTEGER, "
                             "Otevreno TEXT)"),
              QStringLiteral("CREATE TABLE Uvareno (ID INTEGER PRIMARY KEY, Recept INTEGER, Nazev TEXT, "
-                            "Den TEXT, Porce REAL)")}};
+                            "Den TEXT, Porce REAL)")},
+            // The kitchen timers that run: when each ends, in milliseconds since 1970.
+            {QStringLiteral("CREATE TABLE Casovace (ID INTEGER PRIMARY KEY, Nazev TEXT, Konec INTEGER)")}};
 }
 
 }  // namespace sarne

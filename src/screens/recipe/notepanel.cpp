@@ -58,11 +58,22 @@ void NotePanel::close(OwnNote::Close how) {
 
 void NotePanel::closeByButton(OwnNote::Close how) {
     close(how);
-    // What the note says now that it is closed.
+    showStored();
+    room_.giveKeyboardBack();
+}
+
+void NotePanel::showStored() {
     room_.view.setVisible(true);
     room_.view.Cls();
     room_.view.drawPlainText(note_.stored());
-    room_.giveKeyboardBack();
+}
+
+void NotePanel::shownAgain() {
+    if (note_.isDirty()) return;
+    if (note_.isOpen())
+        editor_->setText(note_.open());
+    else
+        showStored();
 }
 
 int NotePanel::ask() {

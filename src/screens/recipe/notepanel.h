@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "db/ownnote.h"
 #include "forms/button.h"
 #include "forms/noteedit.h"
-#include "screens/recipe/ownnote.h"
 #include "screens/recipe/recipesection.h"
 
 namespace sarne {
@@ -19,6 +19,8 @@ class NotePanel : public RecipeSection {
     /// Opens the note and gives the editor the keyboard.
     void draw() override;
     std::vector<FocusGroup> stops() const override;
+    /// Shows what the note says now, unless there is something in the editor that is not stored.
+    void shownAgain() override;
     bool leave() override;
     /// The screen cannot wait for an answer: a note about which there is none is stored.
     void abandon() override;
@@ -29,6 +31,7 @@ class NotePanel : public RecipeSection {
 
   private:
     void close(OwnNote::Close how);
+    void showStored();
     void closeByButton(OwnNote::Close how);
     /// The code of the answer: 6 to store the note, 7 not to, 0 when there is none.
     int ask();

@@ -68,6 +68,8 @@ class RecipeSection {
     virtual bool opensView() const { return false; }
     virtual void viewClicked() {}
 
+    /// The screen is on top again; another one may have changed the recipe's record.
+    virtual void shownAgain() {}
     /// The user goes elsewhere. False when the section has to stay.
     virtual bool leave() { return true; }
     /// As leave(), where the screen is closed in any case.

@@ -49,6 +49,10 @@ class OwnNote {
     bool open_ = false;
 };
 
+/// Writes \a line below what the note to \a recipe says, words that could not be stored before included.
+/// False when only a draft could be kept, or when there is no such recipe.
+bool appendToNote(Database& book, NoteStore& kept, int recipe, const QString& line);
+
 }  // namespace sarne
 
 // SPDX-License-Identifier: GPL-3.0-or-later

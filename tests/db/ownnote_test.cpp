@@ -1,4 +1,4 @@
-#include "screens/recipe/ownnote.h"
+#include "db/ownnote.h"
 
 #include <gtest/gtest.h>
 
@@ -74,6 +74,18 @@ TEST_F(OwnNoteTest, ADraftIsKeptAtASuddenEndAndForgottenWhenDeclined) {
     EXPECT_EQ(later.open(), QStringLiteral("rozepsaná"));
     later.close(OwnNote::Close::Discard, {});
     EXPECT_EQ(later.open(), QStringLiteral("stará"));
+}
+
+TEST_F(OwnNoteTest, ALineIsAddedBelowAlsoToWordsThatCouldNotBeStored) {
+    EXPECT_TRUE(appendToNote(db, kept, 5, QStringLiteral("první")));
+    recipe.Seek(QStringLiteral("="), 5);
+    EXPECT_EQ(note.stored(), QStringLiteral("stará\nprvní"));
+    kept.keepDraft(5, QStringLiteral("rozepsaná \n"));
+    EXPECT_TRUE(appendToNote(db, kept, 5, QStringLiteral("druhá")));
+    recipe.Seek(QStringLiteral("="), 5);
+    EXPECT_EQ(note.stored(), QStringLiteral("rozepsaná\ndruhá"));
+    EXPECT_EQ(kept.draft(5), std::nullopt);
+    EXPECT_FALSE(appendToNote(db, kept, 99, QStringLiteral("nikam")));
 }
 
 }  // namespace

@@ -1,4 +1,6 @@
-#include "screens/recipe/ownnote.h"
+#include "db/ownnote.h"
+
+#include "db/database.h"
 
 namespace sarne {
 namespace {
@@ -57,6 +59,17 @@ bool OwnNote::store(const QString& content) {
     kept_.dropDraft(recipe());
     kept_.keep({recipe(), recipe_.field(QStringLiteral("Nazev")).toString(), text});
     return true;
+}
+
+bool appendToNote(Database& book, NoteStore& kept, int recipe, const QString& line) {
+    Recordset row = book.OpenTable(QStringLiteral("Recepty"));
+    if (!RecordExists(row, recipe)) return false;
+    OwnNote note(row, kept);
+    QString text = note.open();
+    while (!text.isEmpty() && text.back().isSpace()) text.chop(1);
+    note.changed();
+    note.save(text.isEmpty() ? line : text + u'\n' + line);
+    return !note.isDirty();
 }
 
 }  // namespace sarne
