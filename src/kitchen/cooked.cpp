@@ -23,11 +23,21 @@ bool keepCooked(UserFile& file, int recipe, const QString& name, QDate day, doub
                        {QStringLiteral("Porce"), portions}});
 }
 
+std::vector<CookedDay> allCookedDays(UserFile& file) {
+    std::vector<CookedDay> days;
+    for (Recordset rows = file.forReading().OpenTable(kTable); !rows.AtEnd(); rows.MoveNext()) {
+        const QDate day = QDate::fromString(rows.field(QStringLiteral("Den")).toString(), Qt::ISODate);
+        if (day.isValid())
+            days.push_back({rows.field(QStringLiteral("Recept")).toInt(),
+                            rows.field(QStringLiteral("Nazev")).toString(), day});
+    }
+    return days;
+}
+
 std::vector<QDate> cookedDays(UserFile& file, int recipe) {
     std::vector<QDate> days;
-    for (Recordset rows = file.forReading().OpenTable(kTable); !rows.AtEnd(); rows.MoveNext())
-        if (rows.field(QStringLiteral("Recept")).toInt() == recipe)
-            days.push_back(QDate::fromString(rows.field(QStringLiteral("Den")).toString(), Qt::ISODate));
+    for (const CookedDay& one : allCookedDays(file))
+        if (one.recipe == recipe) days.push_back(one.day);
     std::sort(days.begin(), days.end(), std::greater<>());
     return days;
 }

@@ -13,6 +13,15 @@ bool keepCooked(UserFile& file, int recipe, const QString& name, QDate day, doub
 /// The days on which it was, the last one first.
 std::vector<QDate> cookedDays(UserFile& file, int recipe);
 
+/// A recipe, by the name it had, and a day on which it was cooked.
+struct CookedDay {
+    int recipe = 0;
+    QString name;
+    QDate day;
+};
+/// All of them.
+std::vector<CookedDay> allCookedDays(UserFile& file);
+
 }  // namespace sarne
 
 // SPDX-License-Identifier: GPL-3.0-or-later

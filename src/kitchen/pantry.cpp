@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "core/czech.h"
+#include "core/texts.h"
 #include "db/database.h"
 #include "db/queries.h"
 
@@ -13,6 +14,21 @@ namespace sarne {
 namespace {
 
 enum Mark : std::uint8_t { kUnknown, kHave, kWithout };
+
+const char* const kAllergens[] = {QT_TRANSLATE_NOOP("Texts", "lepek"),
+                                  QT_TRANSLATE_NOOP("Texts", "korýši"),
+                                  QT_TRANSLATE_NOOP("Texts", "vejce"),
+                                  QT_TRANSLATE_NOOP("Texts", "ryby"),
+                                  QT_TRANSLATE_NOOP("Texts", "arašídy"),
+                                  QT_TRANSLATE_NOOP("Texts", "sója"),
+                                  QT_TRANSLATE_NOOP("Texts", "mléko"),
+                                  QT_TRANSLATE_NOOP("Texts", "skořápkové plody"),
+                                  QT_TRANSLATE_NOOP("Texts", "celer"),
+                                  QT_TRANSLATE_NOOP("Texts", "hořčice"),
+                                  QT_TRANSLATE_NOOP("Texts", "sezam"),
+                                  QT_TRANSLATE_NOOP("Texts", "oxid siřičitý a siřičitany"),
+                                  QT_TRANSLATE_NOOP("Texts", "vlčí bob (lupina)"),
+                                  QT_TRANSLATE_NOOP("Texts", "měkkýši")};
 
 bool byRank(const PantryMatch& a, const PantryMatch& b) {
     if (a.missing != b.missing) return a.missing < b.missing;
@@ -92,6 +108,15 @@ std::vector<PantryMatch> PantryIndex::find(const PantryQuery& query, size_t most
     return found;
 }
 
+int PantryIndex::tellingAllergens() const {
+    int any = 0, all = ~0;
+    for (const PantryRecipe& recipe : recipes_) {
+        any |= recipe.allergens;
+        all &= recipe.allergens;
+    }
+    return any & ~all;
+}
+
 std::vector<int> PantryIndex::missing(size_t place, const PantryQuery& query) const {
     std::vector<int> all;
     for (const int id : recipes_[place].ingredients)
@@ -127,6 +152,11 @@ std::vector<PantryIngredient> readPantryIngredients(Database& db) {
         return collator.compare(a.name, b.name) < 0;
     });
     return all;
+}
+
+QString allergenName(int number) {
+    constexpr int kCount = static_cast<int>(std::size(kAllergens));
+    return number >= 1 && number <= kCount ? Texts::tr(kAllergens[number - 1]) : QString();
 }
 
 std::vector<int> namesWithWord(const std::vector<PantryIngredient>& all, const QString& typed) {

@@ -40,6 +40,8 @@ class PantryIndex {
 
     bool isEmpty() const { return recipes_.empty(); }
     const PantryRecipe& recipe(size_t place) const { return recipes_[place]; }
+    /// The allergens that some of the recipes have and others do not, as bits: those worth leaving out.
+    int tellingAllergens() const;
     /// The best \a most recipes that use something of what is at home and nothing of what must not be in
     /// them: the fewest things missing first, then the most used, then by name.
     std::vector<PantryMatch> find(const PantryQuery& query, size_t most) const;
@@ -63,6 +65,9 @@ struct PantryIngredient {
 /// not know them.
 std::vector<PantryRecipe> readPantryRecipes(Database& db);
 std::vector<PantryIngredient> readPantryIngredients(Database& db);
+
+/// What number \a number, 1 to 14, of the European list of allergens is called: "celer".
+QString allergenName(int number);
 
 /// The places of the names that have a word beginning with \a typed, whatever its case and accents: the name
 /// itself first, then those that begin so; all for an empty text.

@@ -10,7 +10,11 @@ constexpr qint64 kSecond = 1000;
 }  // namespace
 
 int KitchenTimers::start(const QString& name, int seconds, qint64 now) {
-    timers_.push_back({++last_, name, now + seconds * kSecond, false});
+    return resume(name, now + seconds * kSecond);
+}
+
+int KitchenTimers::resume(const QString& name, qint64 end) {
+    timers_.push_back({++last_, name, end, false});
     sort();
     return last_;
 }

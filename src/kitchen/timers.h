@@ -20,6 +20,8 @@ class KitchenTimers {
   public:
     /// Starts a timer of \a seconds and returns its number.
     int start(const QString& name, int seconds, qint64 now);
+    /// Starts one that ends at \a end, which may be over.
+    int resume(const QString& name, qint64 end);
     /// Ends a timer, whether it rings or not.
     void stop(int id);
     /// Lets a timer go on for \a seconds more; one that rings from now on.

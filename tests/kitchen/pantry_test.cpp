@@ -67,6 +67,16 @@ TEST(Pantry, AnyWordOfANameIsFoundByItsBeginning) {
     EXPECT_EQ(namesWithWord(all, QStringLiteral("  ")).size(), 5u);
 }
 
+TEST(Pantry, OnlyAllergensThatTellRecipesApartAreWorthAsking) {
+    EXPECT_EQ(PantryIndex(
+                  {{1, QStringLiteral("a"), {1}, 0b1001, 0, 0}, {2, QStringLiteral("b"), {1}, 0b1100, 0, 0}})
+                  .tellingAllergens(),
+              0b0101);
+    EXPECT_EQ(PantryIndex(std::vector<PantryRecipe>{}).tellingAllergens(), 0);
+    EXPECT_EQ(allergenName(9), QStringLiteral("celer"));
+    EXPECT_EQ(allergenName(15), QString());
+}
+
 }  // namespace
 }  // namespace sarne
 

@@ -43,6 +43,14 @@ QString feasts(const Recipe& recipe) {
     return all.join(u',');
 }
 
+/// The courses of the photo grid, and what a menu wants to know beyond them.
+QString coursesOf(const Recipe& recipe) {
+    QStringList all = recipe.courses;
+    for (const QString& tag : {QStringLiteral("předkrm"), QStringLiteral("hlavní za studena")})
+        if (recipe.tags.contains(tag)) all << tag;
+    return all.join(u',');
+}
+
 void writeFacts(const Cookbook& book, const Recipe& recipe, const AddRow& add, Problems& problems) {
     const std::optional<int> months = monthsOf(recipe.season);
     if (!months && !recipe.season.isEmpty())
@@ -54,7 +62,7 @@ void writeFacts(const Cookbook& book, const Recipe& recipe, const AddRow& add, P
             allergens |= allergensOf(book, one->name);
     add(QStringLiteral("Fakta"),
         {recipe.id, recipe.preparation, recipe.cooking, recipe.minutes, recipe.ahead, months.value_or(0),
-         allergens, mainFish(book, recipe), recipe.courses.join(u','), feasts(recipe)});
+         allergens, mainFish(book, recipe), coursesOf(recipe), feasts(recipe)});
 }
 
 void writeGoods(const Cookbook& book, const AddRow& add) {
