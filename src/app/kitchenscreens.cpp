@@ -5,6 +5,7 @@
 #include "core/texts.h"
 #include "db/ingredients.h"
 #include "db/queries.h"
+#include "db/recipemarks.h"
 #include "dialogs/frmdialog.h"
 #include "kitchen/shoppingstore.h"
 #include "screens/kitchen/frmvarime.h"
@@ -17,7 +18,7 @@ const Goods& KitchenScreens::goods() {
 }
 
 KitchenPlates& KitchenScreens::plates() {
-    if (!plates_) plates_ = std::make_unique<KitchenPlates>(program_, timers_);
+    if (!plates_) plates_ = std::make_unique<KitchenPlates>(program_, timers_, program_.userFile());
     return *plates_;
 }
 
@@ -59,19 +60,70 @@ void KitchenScreens::addToShoppingList(const std::vector<std::int16_t>& ids, con
                  [this] { showShoppingList(); });
 }
 
+bool KitchenScreens::isBack(Form* screen) {
+    if (!screen || !program_.FormStack.contains(*screen)) return false;
+    const auto isNeighbour = [this](Form* form) {
+        return form && (form == shopping_ || form == pantry_ || form == ownBook_ || form == feast_);
+    };
+    for (Form* top = program_.FormStack.top(); top != screen; top = program_.FormStack.top()) {
+        if (!isNeighbour(top)) return false;
+        program_.PopScreen(*top);
+    }
+    return true;
+}
+
 void KitchenScreens::showShoppingList() {
-    if (!program_.FormStack.top() || (shopping_ && program_.FormStack.contains(*shopping_))) return;
-    if (goods().isEmpty()) return;
-    const auto ask = [this](const QString& prompt) { return askNumber(program_, prompt); };
+    if (!program_.FormStack.top() || goods().isEmpty()) return;
     if (plates_) plates_->hush();
+    if (isBack(shopping_)) return;
+    const auto ask = [this](const QString& prompt) { return askNumber(program_, prompt); };
     shopping_ = new frmNakup(program_, program_.userFile(), ask);
     shopping_->Zobraz();
 }
 
 void KitchenScreens::showPantry() {
-    if (!program_.FormStack.top() || (pantry_ && program_.FormStack.contains(*pantry_))) return;
+    if (!program_.FormStack.top() || isBack(pantry_)) return;
     pantry_ = new frmDoma(program_, program_.userFile());
     pantry_->Zobraz();
+}
+
+void KitchenScreens::showOwnCookbook() {
+    if (!program_.FormStack.top() || isBack(ownBook_)) return;
+    ownBook_ = new frmKucharka(program_, program_.userFile(), QDate::currentDate());
+    ownBook_->Zobraz();
+}
+
+void KitchenScreens::showFeast() {
+    if (!program_.FormStack.top() || isBack(feast_)) return;
+    feast_ = new frmHostina(program_, program_.userFile(),
+                            {[this](const QString& prompt) { return askNumber(program_, prompt); },
+                             [this](const QString& prompt) { return askText(program_, prompt); }},
+                            QDate::currentDate().month());
+    feast_->Zobraz();
+}
+
+QString KitchenScreens::nameOf(std::int16_t id) const {
+    Recordset rows = program_.Db().OpenTable(QStringLiteral("Recepty"));
+    return RecordExists(rows, id) ? rows.field(QStringLiteral("Nazev")).toString() : QString();
+}
+
+int KitchenScreens::starsOf(std::int16_t id) {
+    const QString name = nameOf(id);
+    return name.isEmpty() ? -1 : RecipeMarks(program_.userFile()).stars(id, name);
+}
+
+void KitchenScreens::giveStars(std::int16_t id, int stars) {
+    const QString name = nameOf(id);
+    if (name.isEmpty() || !RecipeMarks(program_.userFile()).setStars(id, name, stars)) program_.Beep();
+}
+
+void KitchenScreens::opened(std::int16_t id) {
+    const QString name = nameOf(id);
+    if (!name.isEmpty()) RecipeMarks(program_.userFile()).keepOpened(id, name, QDateTime::currentDateTime());
+}
+
+void KitchenScreens::ended() {
+    if (plates_) plates_->giveUp();
 }
 
 void KitchenScreens::stopRinging() {

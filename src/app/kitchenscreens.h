@@ -6,6 +6,8 @@
 
 #include "kitchen/goods.h"
 #include "screens/kitchen/frmdoma.h"
+#include "screens/kitchen/frmhostina.h"
+#include "screens/kitchen/frmkucharka.h"
 #include "screens/kitchen/frmnakup.h"
 #include "screens/kitchen/kitchenplates.h"
 
@@ -25,6 +27,19 @@ class KitchenScreens {
     void showShoppingList();
     /// Recipes by what is at home.
     void showPantry();
+    void showOwnCookbook();
+    void showFeast();
+    /// Whether the book knows what the shopping list needs.
+    bool knowsGoods() { return !goods().isEmpty(); }
+    /// The stars of a recipe; negative where there is no such recipe.
+    int starsOf(std::int16_t id);
+    void giveStars(std::int16_t id, int stars);
+    /// A recipe is being looked at.
+    void opened(std::int16_t id);
+    /// Goes on with the timers of a run that was cut off.
+    void resumeTimers() { plates().resume(); }
+    /// The program ends: what runs is given up.
+    void ended();
     void stopRinging();
     /// Asks about timers that run.
     bool readyToEnd();
@@ -32,6 +47,9 @@ class KitchenScreens {
   private:
     const Goods& goods();
     KitchenPlates& plates();
+    QString nameOf(std::int16_t id) const;
+    /// Goes back to \a screen where nothing but the kitchen's other screens lies above it. False otherwise.
+    bool isBack(Form* screen);
     std::optional<ShoppingRecipe> recipe(std::int16_t id, double portions, int& base) const;
 
     Program& program_;
@@ -40,6 +58,8 @@ class KitchenScreens {
     std::unique_ptr<KitchenPlates> plates_;
     QPointer<frmNakup> shopping_;
     QPointer<frmDoma> pantry_;
+    QPointer<frmKucharka> ownBook_;
+    QPointer<frmHostina> feast_;
 };
 
 }  // namespace sarne

@@ -62,6 +62,7 @@ bool Program::Main(const QString& commandLine) {
     }
     mainScreen()->showForm();
     greet();
+    screens_.resume();
     return true;
 }
 
@@ -164,6 +165,7 @@ void Program::unloadForms(const QStringList& names) {
 
 void Program::endProgram() {
     Ending = true;
+    screens_.ended();
     music().setNotify(MediaNotify::Off);
     music().command(u"stop");
     music().command(u"close");

@@ -55,6 +55,7 @@ void ProgramScreens::returnToHelpList() {
 
 void ProgramScreens::showRecipe(std::int16_t id) {
     const auto askPortions = [this](const QString& prompt) { return askNumber(program_, prompt); };
+    kitchen_.opened(id);
     (new frmRecept(program_, lookedAt_, askPortions))->Zobraz(id);
 }
 

@@ -39,11 +39,19 @@ class ProgramScreens final : public Screens {
     void addToShoppingList(const std::vector<std::int16_t>& ids, const Serving& serving) override;
     void showShoppingList() override;
     void showPantry() override;
+    bool knowsGoods() override { return kitchen_.knowsGoods(); }
+    void showOwnCookbook() override { kitchen_.showOwnCookbook(); }
+    void showFeast() override { kitchen_.showFeast(); }
+    int starsOf(std::int16_t id) override { return kitchen_.starsOf(id); }
+    void giveStars(std::int16_t id, int stars) override { kitchen_.giveStars(id, stars); }
     void stopRinging() override;
     void returnToMain() override;
 
     /// Asks about what would be lost that belongs to no screen: running timers.
     bool readyToEnd() { return kitchen_.readyToEnd(); }
+    /// What a run that was cut off has left goes on; what is running is given up at the end.
+    void resume() { kitchen_.resumeTimers(); }
+    void ended() { kitchen_.ended(); }
 
   private:
     void returnToHelpList();

@@ -163,6 +163,9 @@ bool Form::sharedKey(const QKeyEvent& event) {
         case Qt::Key_F5:
             app_.screens().showPantry();
             return true;
+        case Qt::Key_F6:
+            app_.screens().showOwnCookbook();
+            return true;
         case Qt::Key_F7:
             app_.screens().stopRinging();
             return true;

@@ -60,6 +60,15 @@ class Screens {
     virtual void showShoppingList() {}
     /// Recipes by what is at home.
     virtual void showPantry() {}
+    /// Whether the book knows what the shopping list and the search by what is at home need.
+    virtual bool knowsGoods() { return false; }
+    /// What the user has made of the book: stars, what was cooked, notes.
+    virtual void showOwnCookbook() {}
+    /// A menu of several courses with its time plan.
+    virtual void showFeast() {}
+    /// The stars that the user has given to a recipe, 0 to 5; negative where they cannot be kept.
+    virtual int starsOf(std::int16_t /*id*/) { return -1; }
+    virtual void giveStars(std::int16_t /*id*/, int /*stars*/) {}
     /// Stops the kitchen timers that ring.
     virtual void stopRinging() {}
     /// Hides the menu tree and returns the main screen to idle.

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QDir>
 #include <QGuiApplication>
+#include <QStandardPaths>
 
 #include "kitchen/goods.h"
 #include "kitchen/shoppingstore.h"
@@ -79,6 +81,38 @@ TEST_F(NakupTest, TakesOwnLinesAmountsAndRemovals) {
     EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(QStringLiteral("☐ houska")));
     QTest::mouseClick(child(screen, "imgBtnHlavni(0)"), Qt::LeftButton);
     EXPECT_TRUE(run_.recorded.printedText.contains(QStringLiteral("houska")));
+}
+
+TEST_F(NakupTest, IsSavedAmongTheDocumentsAndWritesOverNoOlderList) {
+    const QTemporaryDir home;
+    const QByteArray before = qgetenv("HOME");
+    qputenv("HOME", home.path().toUtf8());
+    frmNakup& screen = open();
+    child<Button>(screen, "cmdAkce(6)")->click();
+    child<Button>(screen, "cmdAkce(6)")->click();
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    qputenv("HOME", before);
+    ASSERT_TRUE(documents.path().startsWith(home.path())) << documents.path().toStdString();
+    ASSERT_EQ(documents.entryList(QDir::Files).size(), 2);
+    for (const QString& name : documents.entryList(QDir::Files)) {
+        QFile file(documents.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_TRUE(QString::fromUtf8(file.readAll()).contains(QStringLiteral("☐ kapr – 1,2\u00a0kg")));
+    }
+    EXPECT_EQ(run_.messages.size(), 2);
+}
+
+TEST_F(NakupTest, TakesWhatAnotherScreenHasPutOnTheListMeanwhile) {
+    frmNakup& screen = open();
+    auto* above = new Form(run_, QStringLiteral("frmNad"));
+    run_.PushScreen(*above);
+    ShoppingList more = readShoppingList(run_.file());
+    more.addOwn(QStringLiteral("houska"));
+    storeShoppingList(run_.file(), more);
+    run_.PopScreen(*above);
+    EXPECT_TRUE(rows(screen).contains(QStringLiteral("houska")));
+    press(screen, Qt::Key_Delete);
+    EXPECT_TRUE(rows(screen).contains(QStringLiteral("houska")));
 }
 
 TEST_F(NakupTest, SaysOnceThatNothingCanBeKept) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "kitchen/timerstore.h"
 #include "kitchenbook.h"
 #include "screens/kitchen/kitchenplates.h"
 
@@ -12,9 +13,9 @@ class PlatesTest : public testing::Test {
         QTest::mouseClick(run_.window.findChild<QWidget*>(QStringLiteral("casovac(0)")), Qt::LeftButton);
     }
 
-    FakeSarne run_;
+    KitchenRun run_;
     KitchenTimers timers_;
-    KitchenPlates plates_{run_, timers_};
+    KitchenPlates plates_{run_, timers_, run_.file()};
 };
 
 TEST_F(PlatesTest, ShowWhatIsLeftAndRingUntilStopped) {
@@ -57,6 +58,29 @@ TEST_F(PlatesTest, AClickAsksBeforeItStopsARunningTimer) {
     clickFirst();  // one that rings is stopped at once
     EXPECT_TRUE(plates_.texts().isEmpty());
     EXPECT_EQ(run_.messages.size(), 2);
+}
+
+TEST_F(PlatesTest, TimersOutliveAProgramThatIsCutOff) {
+    plates_.start(QStringLiteral("Ryba"), 600);
+    plates_.start(QStringLiteral("Brambory"), 1200);
+    KitchenTimers others;
+    KitchenPlates next(run_, others, run_.file());
+    next.resume();
+    ASSERT_EQ(next.texts().size(), 2);
+    EXPECT_TRUE(next.texts().first().endsWith(QStringLiteral(" Ryba")));
+    // Hours later the first ones ring, however long ago they came to their end; a day later nobody wants
+    // them.
+    const qint64 now = QDateTime::currentMSecsSinceEpoch(), hour = 3'600'000;
+    KitchenTimers late;
+    restoreTimers(run_.file(), late, 0, now + 2 * hour);
+    EXPECT_EQ(late.over(0).size(), 2u);
+    KitchenTimers forgotten;
+    restoreTimers(run_.file(), forgotten, 0, now + 24 * hour);
+    EXPECT_TRUE(forgotten.all().empty());
+    plates_.giveUp();  // the user ended the program and was asked
+    KitchenTimers none;
+    restoreTimers(run_.file(), none, 0, now);
+    EXPECT_TRUE(none.all().empty());
 }
 
 TEST_F(PlatesTest, TheEndIsAskedAboutWhileATimerRuns) {

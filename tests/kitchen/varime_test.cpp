@@ -80,6 +80,52 @@ TEST_F(VarimeTest, KeepsTheDisplayAwakeAndWhatWasCooked) {
     EXPECT_FALSE(run_.FormStack.contains(screen));
 }
 
+TEST_F(VarimeTest, AtTheEndALineGoesBelowTheNoteAndStarsAreGiven) {
+    ASSERT_TRUE(
+        run_.database.Execute(QStringLiteral("UPDATE Recepty SET Vlastni = 'méně soli ' WHERE ID = 5")));
+    frmVarime& screen = open({4, UnitSystem::Weights});
+    while (screen.shown().kind != CookingPage::Kind::Done) press(screen, Qt::Key_PageDown);
+    child<Edit>(screen, "txtPoznamka")->focusAll();
+    QTest::keyClicks(run_.window.focusWidget(), QStringLiteral("1 lahev piva"));
+    press(screen, Qt::Key_Return);
+    const QDate today = QDate::currentDate();
+    const QString line = QStringLiteral("Uvařeno %1. %2. %3: 1 lahev piva")
+                             .arg(today.day())
+                             .arg(today.month())
+                             .arg(today.year());
+    const auto note = [this] {
+        Recordset row = run_.database.OpenTable(QStringLiteral("Recepty"));
+        return RecordExists(row, 5) ? row.field(QStringLiteral("Vlastni")).toString() : QString();
+    };
+    EXPECT_EQ(note(), QStringLiteral("méně soli\n") + line);
+    EXPECT_EQ(cookedDays(run_.file(), 5).size(), 1u);
+    // What was typed and not confirmed is not lost either.
+    child<Edit>(screen, "txtPoznamka")->setText(QStringLiteral("a máslo"));
+    child<StarRow>(screen, "picHvezdy")->setFocus();
+    press(screen, Qt::Key_4);
+    press(screen, Qt::Key_Escape);
+    EXPECT_TRUE(note().endsWith(QStringLiteral(": a máslo")));
+    EXPECT_EQ(run_.recorded.calls.last(), QStringLiteral("giveStars 5 4"));
+}
+
+TEST_F(VarimeTest, ReadsOnFromStepToStepWhereThereIsAVoice) {
+    frmVarime& screen = open({4, UnitSystem::Weights});
+    EXPECT_FALSE(child(screen, "imgCist")->isVisible());
+    press(screen, Qt::Key_F9);
+    EXPECT_TRUE(run_.speech.said.isEmpty());
+    run_.speech.find();
+    EXPECT_TRUE(child(screen, "imgCist")->isVisible());
+    press(screen, Qt::Key_Return);
+    press(screen, Qt::Key_F9);
+    press(screen, Qt::Key_Space);
+    ASSERT_EQ(run_.speech.said.size(), 2);
+    EXPECT_TRUE(run_.speech.said[0].contains(QStringLiteral("Kapra osolíme")));
+    EXPECT_TRUE(run_.speech.said[1].contains(QStringLiteral("Polovinu másla")));
+    press(screen, Qt::Key_F9);
+    press(screen, Qt::Key_Left);
+    EXPECT_EQ(run_.speech.said.size(), 2);
+}
+
 TEST_F(VarimeTest, ARecipeWithoutStepsIsNotShown) {
     for (const std::int16_t id : {std::int16_t{6}, std::int16_t{99}}) {
         auto* screen = new frmVarime(run_, run_.file(), {});

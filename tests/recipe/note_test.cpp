@@ -2,6 +2,7 @@
 #include <QElapsedTimer>
 #include <QPlainTextEdit>
 
+#include "db/ownnote.h"
 #include "forms/noteedit.h"
 #include "recipe/recipefixture.h"
 
@@ -46,6 +47,20 @@ TEST_F(NoteTest, AChangedNoteAsksBeforeAnotherSectionIsDrawn) {
     run.messages.clear();
     click("imgBtn(2)");
     EXPECT_TRUE(run.messages.isEmpty());
+}
+
+TEST_F(NoteTest, ALineThatAScreenAboveHasAddedIsThereAndNotWrittenOver) {
+    type(QStringLiteral("jedna"));
+    click("imgBtnHlavni(0)");
+    auto* above = new Form(run, QStringLiteral("frmNad"));
+    run.PushScreen(*above);
+    EXPECT_TRUE(appendToNote(run.database, run.keptNotes, 5, QStringLiteral("Uvařeno: dvě")));
+    run.PopScreen(*above);
+    EXPECT_EQ(note().text(), QStringLiteral("jedna\nUvařeno: dvě"));
+    note().focusAtEnd();
+    type(QStringLiteral("!"));
+    click("cmdUloz(0)");
+    EXPECT_EQ(storedNote().toString(), QStringLiteral("jedna\nUvařeno: dvě!"));
 }
 
 TEST_F(NoteTest, ItsButtonsSaveOrDiscardWithoutAsking) {

@@ -63,7 +63,19 @@ class RecordedScreens : public Screens {
         printedText = text;
         calls << QStringLiteral("printText %1").arg(title);
     }
+    bool knowsGoods() override { return goods; }
+    int starsOf(std::int16_t) override { return stars; }
+    void giveStars(std::int16_t id, int given) override {
+        stars = given;
+        calls << QStringLiteral("giveStars %1 %2").arg(id).arg(given);
+    }
+    void addToShoppingList(const std::vector<std::int16_t>& ids, const Serving& serving) override {
+        calls << QStringLiteral("addToShoppingList %1 for %2").arg(ids.size()).arg(serving.portions);
+    }
     void returnToMain() override { calls << QStringLiteral("returnToMain"); }
+
+    bool goods = true;  ///< what the book knows
+    int stars = 0;
 };
 
 class ManualClock final : public Clock {

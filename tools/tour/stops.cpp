@@ -139,6 +139,35 @@ void keywords(Tour& tour) {
     }
 }
 
+/// The user's own cookbook, with what the tour has done by now. What was opened and when is not for the
+/// pictures: it is another day each time.
+void ownBook(Tour& tour) {
+    tour.key(Qt::Key_F6);
+    for (const int shelf : {0, 2}) {
+        tour.click(QStringLiteral("cmdPolice(%1)").arg(shelf));
+        tour.stop(QStringLiteral("frmKucharka"), QString::number(shelf));
+    }
+    tour.click(QStringLiteral("cmdPolice(3)"));
+    tour.key(Qt::Key_5);
+    tour.click(QStringLiteral("cmdPolice(0)"));
+    tour.stop(QStringLiteral("frmKucharka"), QStringLiteral("hvezdy"));
+    tour.visitHelp();
+}
+
+/// A menu of three courses and its plan.
+void feast(Tour& tour) {
+    tour.click(QStringLiteral("imgVedle(3)"));
+    tour.stop(QStringLiteral("frmHostina"));
+    for (int occasion = 0; occasion < 6; ++occasion) tour.click(QStringLiteral("cmdAkce(0)"));
+    tour.key(Qt::Key_Space);
+    tour.key(Qt::Key_End);
+    tour.key(Qt::Key_Space);
+    tour.stop(QStringLiteral("frmHostina"), QStringLiteral("plan"));
+    tour.visitHelp();
+    tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_Escape);
+}
+
 /// From a recipe to the stove and to the shop.
 void kitchen(Tour& tour) {
     tour.click(button(6));
@@ -188,6 +217,8 @@ void kitchen(Tour& tour) {
     tour.stop(QStringLiteral("frmDoma"), QStringLiteral("nalezeno"));
     tour.visitHelp();
     tour.key(Qt::Key_Escape);
+    ownBook(tour);
+    feast(tour);
 }
 
 /// Quick recipes, whose photo stands in a window of its own: from the second item of a topic.

@@ -78,6 +78,8 @@ constexpr Door kDoors[] = {
          program.screens().showShoppingList();
      }},
     {"frmDoma", [](Program& program, std::int16_t) { program.screens().showPantry(); }},
+    {"frmKucharka", [](Program& program, std::int16_t) { program.screens().showOwnCookbook(); }},
+    {"frmHostina", [](Program& program, std::int16_t) { program.screens().showFeast(); }},
 };
 
 /// What the process takes of the machine.

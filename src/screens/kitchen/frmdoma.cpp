@@ -2,7 +2,6 @@
 
 #include <QDate>
 #include <QKeyEvent>
-#include <QPainter>
 #include <algorithm>
 
 #include "core/czech.h"
@@ -10,39 +9,35 @@
 #include "core/value.h"
 #include "db/userfile.h"
 #include "forms/bassarne.h"
-#include "forms/colors.h"
 #include "forms/panel.h"
-#include "forms/resources.h"
 #include "forms/screens.h"
 
 namespace sarne {
 namespace {
 
-constexpr QRect kPicture{240, 60, 840, 840};
-constexpr QRect kTitle{1140, 90, 4500, 780};
-constexpr QRect kState{5700, 90, 6060, 780};
 constexpr QRect kTyped{240, 1110, 3900, 510};
 constexpr QRect kHavePaper{240, 1710, 3900, 6180};
 constexpr QRect kRecipePaper{4290, 1110, 5280, 6780};
 constexpr QRect kSide{9720, 1110, 2040, 6780};
-constexpr QRect kAside{300, 7965, 1500, 930};
-constexpr QRect kBar{5220, 7965, 6540, 930};
-constexpr int kInside = 90, kActionHeight = 570, kActionStep = 735;
+constexpr QRect kFirstAction{9810, 1200, 1860, 570};
+constexpr int kInside = 90, kActionStep = 735;
 constexpr size_t kMostFound = 100;
 constexpr int kQuick = 30;  // minutes
 constexpr int kGluten = 1 << 0, kEggs = 1 << 2, kMilk = 1 << 6;
 const QString kKept = QStringLiteral("Doma");
 
-constexpr BarFace kAsideFaces[] = {{"Nakup", QT_TRANSLATE_NOOP("Texts", "Nákupní seznam"),
-                                    QT_TRANSLATE_NOOP("Texts", "Nákupní seznam (Shift+F3)")}};
-constexpr BarFace kFaces[] = {barface::kHelp, barface::kBack, barface::kEnd, barface::kMusic};
-
-const char* const kActionTexts[] = {
-    QT_TRANSLATE_NOOP("Texts", "Bez této"),  QT_TRANSLATE_NOOP("Texts", "V sezoně"),
-    QT_TRANSLATE_NOOP("Texts", "Do 30 min"), QT_TRANSLATE_NOOP("Texts", "Bez lepku"),
-    QT_TRANSLATE_NOOP("Texts", "Bez mléka"), QT_TRANSLATE_NOOP("Texts", "Bez vajec"),
-    QT_TRANSLATE_NOOP("Texts", "Znovu"),     QT_TRANSLATE_NOOP("Texts", "Recept"),
-    QT_TRANSLATE_NOOP("Texts", "Na seznam")};
+constexpr KitchenAction kActions[] = {
+    {QT_TRANSLATE_NOOP("Texts", "Bez této"), QT_TRANSLATE_NOOP("Texts", "Recepty bez vybrané suroviny")},
+    {QT_TRANSLATE_NOOP("Texts", "V sezoně"),
+     QT_TRANSLATE_NOOP("Texts", "Jen ryby, které jsou tento měsíc v sezoně")},
+    {QT_TRANSLATE_NOOP("Texts", "Do 30 min"), QT_TRANSLATE_NOOP("Texts", "Jen jídla do 30 minut")},
+    {QT_TRANSLATE_NOOP("Texts", "Bez lepku")},
+    {QT_TRANSLATE_NOOP("Texts", "Bez mléka")},
+    {QT_TRANSLATE_NOOP("Texts", "Bez vajec")},
+    {QT_TRANSLATE_NOOP("Texts", "Znovu"), QT_TRANSLATE_NOOP("Texts", "Zapomenout výběr a začít znovu")},
+    {QT_TRANSLATE_NOOP("Texts", "Recept"), QT_TRANSLATE_NOOP("Texts", "Otevřít vybraný recept")},
+    {QT_TRANSLATE_NOOP("Texts", "Na seznam"),
+     QT_TRANSLATE_NOOP("Texts", "Dát vybraný recept na nákupní seznam (F3)")}};
 
 bool contains(const std::vector<int>& ids, int id) {
     return std::find(ids.begin(), ids.end(), id) != ids.end();
@@ -56,26 +51,11 @@ void toggle(std::vector<int>& ids, int id) {
 }  // namespace
 
 frmDoma::frmDoma(basSarne& sarne, UserFile& file)
-    : Form(sarne, QStringLiteral("frmDoma")),
+    : KitchenForm(sarne, QStringLiteral("frmDoma"), Place::Pantry, Texts::tr("Co mám doma"), Bar::Plain),
       file_(file),
-      title_(*this, QStringLiteral("lblTitul")),
-      state_(*this, QStringLiteral("lblStav")),
       typed_(*this, QStringLiteral("txtHledat")),
       have_(*this, QStringLiteral("picSuroviny")),
-      recipes_(*this, QStringLiteral("picRecepty")),
-      bar_(*this, QStringLiteral("imgBtnHlavni"), kFaces, {}),
-      aside_(*this, QStringLiteral("imgVedle"), kAsideFaces,
-             [this](int) { app().screens().showShoppingList(); }) {
-    title_.place(kTitle);
-    title_.setFont({QStringLiteral("Arial"), 20, true});
-    title_.setText(Texts::tr("Co mám doma"));
-    title_.setColor(colors::kTitle);
-    title_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    setAccessibleName(title_.text());
-    state_.place(kState);
-    state_.setFont({QStringLiteral("Arial"), 13});
-    state_.setColor(colors::kTitle);
-    state_.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      recipes_(*this, QStringLiteral("picRecepty")) {
     typed_.place(kTyped);
     typed_.setFont({QStringLiteral("Arial"), 13});
     typed_.setMaxLength(40);
@@ -86,35 +66,12 @@ frmDoma::frmDoma(basSarne& sarne, UserFile& file)
     recipes_.place(kRecipePaper.adjusted(kInside, kInside, -kInside, -kInside));
     recipes_.setPoints(13);
     recipes_.setAccessibleName(Texts::tr("Recepty"));
-    makeActions();
-    bar_.placeRow(kBar);
-    aside_.placeRow(kAside);
-    std::vector<FocusGroup> groups{FocusGroup(std::array<TwipWidget*, 1>{&typed_}),
-                                   FocusGroup(std::array<TwipWidget*, 1>{&have_}),
-                                   FocusGroup(std::array<TwipWidget*, 1>{&recipes_})};
-    groups.emplace_back(actions_);
-    groups.emplace_back(aside_.stops());
-    groups.emplace_back(bar_.stops());
-    ring().setGroups(std::move(groups));
-    ring().setArrows(FocusRing::Arrows::All);
+    makeActions(kActions, kFirstAction, kActionStep);
+    setStops({FocusGroup(std::array<TwipWidget*, 1>{&typed_}), FocusGroup(std::array<TwipWidget*, 1>{&have_}),
+              FocusGroup(std::array<TwipWidget*, 1>{&recipes_})});
     connect(&typed_, &Edit::textChanged, this, &frmDoma::showIngredients);
     connect(&have_, &TickList::used, this, &frmDoma::tick);
     connect(&recipes_, &Control::doubleClicked, this, &frmDoma::openRecipe);
-}
-
-void frmDoma::makeActions() {
-    for (int i = 0; i < kActions; ++i) {
-        auto* button = new Button(*this, QStringLiteral("cmdAkce(%1)").arg(i));
-        button->dressAsText(Texts::tr(kActionTexts[i]));
-        button->place({kSide.x() + kInside, kSide.y() + kInside + i * kActionStep,
-                       kSide.width() - 2 * kInside, kActionHeight});
-        connect(button, &Button::clicked, this, [this, i] { act(Action(i)); });
-        actions_.push_back(button);
-    }
-    actions_[size_t(Action::Without)]->setTip(Texts::tr("Recepty bez vybrané suroviny"));
-    actions_[size_t(Action::Again)]->setTip(Texts::tr("Zapomenout výběr a začít znovu"));
-    actions_[size_t(Action::Open)]->setTip(Texts::tr("Otevřít vybraný recept"));
-    actions_[size_t(Action::Buy)]->setTip(Texts::tr("Dát vybraný recept na nákupní seznam (F3)"));
 }
 
 bool frmDoma::Zobraz() {
@@ -133,10 +90,6 @@ bool frmDoma::Zobraz() {
     ring().focus(typed_);
     app().HookMessage(title_.text());
     return true;
-}
-
-void frmDoma::goBack() {
-    app().PopScreen(*this);
 }
 
 void frmDoma::keep() {
@@ -162,10 +115,34 @@ void frmDoma::showIngredients() {
                         {},
                         contains(query_.have, one.id)});
     }
+    addAllergens(rows);
     have_.setRows(std::move(rows), TickList::Done::Kept);
 }
 
+/// Below the ingredients: what may be left out because somebody must not eat it.
+void frmDoma::addAllergens(std::vector<TickRow>& rows) {
+    allergens_.clear();
+    std::vector<PantryIngredient> named;
+    for (int number = 1; !allergenName(number).isEmpty(); ++number)
+        if (index_.tellingAllergens() >> (number - 1) & 1) named.push_back({number, allergenName(number)});
+    for (const int place : namesWithWord(named, typed_.text()))
+        allergens_.push_back(named[static_cast<size_t>(place)].id);
+    if (allergens_.empty()) return;
+    rows.push_back({TickRow::Kind::Heading, Texts::tr("Bez alergenu"), {}, {}, false});
+    for (const int number : allergens_)
+        rows.push_back({TickRow::Kind::Item,
+                        allergenName(number),
+                        query_.withoutAllergens >> (number - 1) & 1 ? Texts::tr("bez") : QString(),
+                        {},
+                        bool(query_.withoutAllergens >> (number - 1) & 1)});
+}
+
 void frmDoma::tick(int row) {
+    const int allergen = row - static_cast<int>(shown_.size()) - 1;
+    if (allergen >= 0) {
+        query_.withoutAllergens ^= 1 << (allergens_[static_cast<size_t>(allergen)] - 1);
+        return search();
+    }
     const int id = ingredients_[static_cast<size_t>(shown_[static_cast<size_t>(row)])].id;
     std::erase(query_.without, id);
     toggle(query_.have, id);
@@ -180,6 +157,7 @@ void frmDoma::addFirst() {
 
 void frmDoma::exclude() {
     const int row = have_.selected();
+    if (row > static_cast<int>(shown_.size())) return tick(row);
     if (row < 0 || row >= static_cast<int>(shown_.size())) return app().Beep();
     const int id = ingredients_[static_cast<size_t>(shown_[static_cast<size_t>(row)])].id;
     std::erase(query_.have, id);
@@ -219,8 +197,8 @@ void frmDoma::showRecipes() {
     latch(Action::NoEggs, query_.withoutAllergens & kEggs);
 }
 
-void frmDoma::act(Action action) {
-    switch (action) {
+void frmDoma::act(int action) {
+    switch (Action(action)) {
         case Action::Without:
             return exclude();
         case Action::Season:
@@ -263,7 +241,7 @@ void frmDoma::openRecipe() {
 bool frmDoma::keyDown(QKeyEvent& event) {
     const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     if (event.key() == Qt::Key_F3 && event.modifiers() == Qt::NoModifier && selectedRecipe() != 0) {
-        act(Action::Buy);
+        act(int(Action::Buy));
         return true;
     }
     if (enter && ring().isAt(&typed_)) {
@@ -290,15 +268,10 @@ bool frmDoma::keyDown(QKeyEvent& event) {
 }
 
 void frmDoma::paint(QPainter& painter) {
-    paintRoom(painter, app().Pictures.stranka);
-    const QRectF all = covered();
-    painter.fillRect(QRectF(all.left(), all.top(), all.width(), 960 - all.top()), colors::kTeal);
-    painter.fillRect(QRectF(all.left(), 960, all.width(), 30), colors::kCopper);
-    app().resources().picture(QStringLiteral("Doma")).draw(painter, kPicture, Fit::Inside);
+    paintGround(painter);
     paintPaper(painter, kHavePaper);
     paintPaper(painter, kRecipePaper);
     paintPlate(painter, kSide);
-    for (const QRect& plate : {kBar, kAside}) paintPlate(painter, plate.adjusted(-60, -30, 60, 0));
 }
 
 }  // namespace sarne

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "forms/buttonbar.h"
 #include "forms/edit.h"
-#include "forms/form.h"
-#include "forms/label.h"
 #include "kitchen/pantry.h"
+#include "screens/kitchen/kitchenform.h"
 #include "screens/kitchen/ticklist.h"
 
 namespace sarne {
@@ -13,7 +11,7 @@ class UserFile;
 
 /// Recipes by what is at home: on the left the ingredients, to be ticked, in the middle the recipes, those
 /// that lack the least first, with what they lack, on the right what they must not hold.
-class frmDoma : public Form {
+class frmDoma : public KitchenForm {
     Q_OBJECT
   public:
     /// Keeps in \a file, which outlives the screen, what is at home.
@@ -23,23 +21,20 @@ class frmDoma : public Form {
     bool Zobraz();
     const PantryQuery& query() const { return query_; }
 
-    void goBack() override;
-
   protected:
+    void act(int action) override;
     bool keyDown(QKeyEvent& event) override;
     void paint(QPainter& painter) override;
 
   private:
     enum class Action { Without, Season, Quick, NoGluten, NoMilk, NoEggs, Again, Open, Buy };
-    static constexpr int kActions = 9;
 
-    void makeActions();
-    void act(Action action);
     void tick(int row);
     void addFirst();
     void exclude();
     void search();
     void showIngredients();
+    void addAllergens(std::vector<TickRow>& rows);
     void showRecipes();
     void keep();
     /// The number of the recipe that is selected, 0 without one.
@@ -50,14 +45,12 @@ class frmDoma : public Form {
     PantryIndex index_;
     PantryQuery query_;
     std::vector<PantryIngredient> ingredients_;
-    std::vector<int> shown_;  ///< the ingredients in the rows, by their places
+    std::vector<int> shown_;      ///< the ingredients in the rows, by their places
+    std::vector<int> allergens_;  ///< the allergens in the rows behind them, by their numbers
     std::vector<PantryMatch> found_;
 
-    Label title_, state_;
     Edit typed_;
     TickList have_, recipes_;
-    std::vector<Button*> actions_;
-    ButtonBar bar_, aside_;
 };
 
 }  // namespace sarne

@@ -1,9 +1,13 @@
 #include "screens/kitchen/frmnakup.h"
 
 #include <QClipboard>
+#include <QDate>
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStandardPaths>
 
 #include "core/czech.h"
 #include "core/texts.h"
@@ -15,33 +19,25 @@
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "kitchen/shoppingstore.h"
+#include "platform/wholefile.h"
 #include "richtext/rtfdocument.h"
+#include "richtext/wordwrap.h"
 
 namespace sarne {
 namespace {
 
-constexpr QRect kTitle{1140, 90, 8400, 780};
-constexpr QRect kPicture{240, 60, 840, 840};
-constexpr QRect kState{7200, 90, 4560, 780};
 constexpr QRect kPaper{240, 1110, 7620, 6780};
 constexpr QRect kRows{360, 1230, 7380, 6540};
 constexpr QRect kSide{8040, 1110, 3720, 6780};
-constexpr QRect kRecipes{8190, 1200, 3420, 1560};
-constexpr QRect kOwn{8190, 3180, 3420, 480};
-constexpr QRect kHint{8190, 2830, 3420, 330};
-constexpr QRect kAside{300, 7965, 1500, 930};
-constexpr QRect kBar{5220, 7965, 6540, 930};
-constexpr int kActionTop = 3780, kActionHeight = 540, kActionStep = 576;
+constexpr QRect kRecipes{8190, 1200, 3420, 1350};
+constexpr QRect kHint{8190, 2560, 3420, 330};
+constexpr QRect kOwn{8190, 2910, 3420, 480};
+constexpr QRect kFirstAction{8190, 3480, 3420, 510};
+constexpr int kActionStep = 546;
 constexpr double kRowPoints = 14;
+constexpr int kSlipLetters = 34;
 
-constexpr BarFace kAsideFaces[] = {{"Doma", QT_TRANSLATE_NOOP("Texts", "Co mám doma"),
-                                    QT_TRANSLATE_NOOP("Texts", "Recepty podle toho, co je doma (F5)")}};
-constexpr BarFace kFaces[] = {barface::kPrint, barface::kHelp, barface::kBack, barface::kEnd,
-                              barface::kMusic};
-
-constexpr struct {
-    const char *caption, *tip;
-} kActionTexts[] = {
+constexpr KitchenAction kActions[] = {
     {QT_TRANSLATE_NOOP("Texts", "Připsat"),
      QT_TRANSLATE_NOOP("Texts", "Připsat, co je napsáno nad tlačítkem")},
     {QT_TRANSLATE_NOOP("Texts", "Množství"), QT_TRANSLATE_NOOP("Texts", "Změnit množství vybrané věci")},
@@ -50,36 +46,55 @@ constexpr struct {
     {QT_TRANSLATE_NOOP("Texts", "Smazat koupené"),
      QT_TRANSLATE_NOOP("Texts", "Smazat ze seznamu, co je koupeno")},
     {QT_TRANSLATE_NOOP("Texts", "Kopírovat"), QT_TRANSLATE_NOOP("Texts", "Zkopírovat seznam jako text")},
+    {QT_TRANSLATE_NOOP("Texts", "Uložit jako text"),
+     QT_TRANSLATE_NOOP("Texts", "Uložit seznam jako textový soubor mezi dokumenty")},
     {QT_TRANSLATE_NOOP("Texts", "Mám doma"), QT_TRANSLATE_NOOP("Texts", "Vybraná věc je doma, nebo není")}};
+
+/// The native path of a text file called \a name in \a folder, numbered where there is one already.
+QString freeTextFile(const QString& folder, const QString& name) {
+    QString file = folder + u'/' + name + QStringLiteral(".txt");
+    for (int number = 2; QFile::exists(file); ++number)
+        file = folder + QStringLiteral("/%1 (%2).txt").arg(name).arg(number);
+    return file;
+}
+
+bool writeTextFile(const QString& file, const QString& text) {
+    QDir().mkpath(QFileInfo(file).absolutePath());
+    WholeFile out(file);
+    const QByteArray bytes = text.toUtf8();
+    return out.isOpen() && out.write(bytes) == bytes.size() && out.commit();
+}
+
+/// The list as a slip to take along: short lines, so that the printed sheet can be folded to a third.
+QString slipOf(const QString& title, const QString& list) {
+    RtfDocument slip;
+    slip.heading(title);
+    for (const QString& line : list.split(u'\n', Qt::SkipEmptyParts)) {
+        if (!line.startsWith(u'☐')) {
+            slip.paragraph(line, {});
+            continue;
+        }
+        const QStringList parts = wrapAtBlanks(
+            line.mid(2), kSlipLetters, [](QStringView text) { return static_cast<int>(text.size()); });
+        slip.paragraph(QStringLiteral("[  ] ") + parts.join(QStringLiteral("\n      ")));
+    }
+    return slip.text();
+}
 
 }  // namespace
 
 frmNakup::frmNakup(basSarne& sarne, UserFile& file, AskNumber askNumber)
-    : Form(sarne, QStringLiteral("frmNakup")),
+    : KitchenForm(sarne, QStringLiteral("frmNakup"), Place::Shopping, Texts::tr("Nákupní seznam"),
+                  Bar::WithPrint),
       file_(file),
       askNumber_(std::move(askNumber)),
-      title_(*this, QStringLiteral("lblTitul")),
-      state_(*this, QStringLiteral("lblStav")),
       recipes_(*this, QStringLiteral("lblRecepty")),
       hint_(*this, QStringLiteral("lblPripsat")),
       rows_(*this, QStringLiteral("picSeznam")),
-      own_(*this, QStringLiteral("txtVlastni")),
-      bar_(*this, QStringLiteral("imgBtnHlavni"), kFaces, [this](int) { print(); }),
-      aside_(*this, QStringLiteral("imgVedle"), kAsideFaces, [this](int) { app().screens().showPantry(); }) {
-    const auto dress = [](Label& label, const QRect& place, double points, bool bold,
-                          Qt::Alignment alignment) {
-        label.place(place);
-        label.setFont({QStringLiteral("Arial"), points, bold});
-        label.setColor(colors::kTitle);
-        label.setAlignment(alignment);
-    };
-    dress(title_, kTitle, 20, true, Qt::AlignLeft | Qt::AlignVCenter);
-    title_.setText(Texts::tr("Nákupní seznam"));
-    setAccessibleName(title_.text());
-    dress(state_, kState, 13, false, Qt::AlignRight | Qt::AlignVCenter);
+      own_(*this, QStringLiteral("txtVlastni")) {
     dress(recipes_, kRecipes, 11, false, Qt::AlignLeft | Qt::AlignTop);
     recipes_.setWordWrap(true);
-    dress(hint_, kHint, 11, true, Qt::AlignLeft | Qt::AlignVCenter);
+    dress(hint_, kHint, 11, true);
     hint_.setText(Texts::tr("Koupit ještě:"));
     rows_.place(kRows);
     rows_.setPoints(kRowPoints);
@@ -88,28 +103,10 @@ frmNakup::frmNakup(basSarne& sarne, UserFile& file, AskNumber askNumber)
     own_.setFont({QStringLiteral("Arial"), 13});
     own_.setMaxLength(80);
     own_.setAccessibleName(hint_.text());
-    makeActions();
-    bar_.placeRow(kBar);
-    aside_.placeRow(kAside);
-    std::vector<FocusGroup> groups{FocusGroup(std::array<TwipWidget*, 1>{&rows_}),
-                                   FocusGroup(std::array<TwipWidget*, 1>{&own_})};
-    groups.emplace_back(actions_);
-    groups.emplace_back(aside_.stops());
-    groups.emplace_back(bar_.stops());
-    ring().setGroups(std::move(groups));
-    ring().setArrows(FocusRing::Arrows::All);
+    makeActions(kActions, kFirstAction, kActionStep);
+    setStops({FocusGroup(std::array<TwipWidget*, 1>{&rows_}), FocusGroup(std::array<TwipWidget*, 1>{&own_})});
     connect(&rows_, &TickList::used, this, &frmNakup::use);
     connect(&rows_, &TickList::moved, this, &frmNakup::showState);
-}
-
-void frmNakup::makeActions() {
-    for (int i = 0; i < kActions; ++i) {
-        auto* button = new Button(*this, QStringLiteral("cmdAkce(%1)").arg(i));
-        button->dressAsText(Texts::tr(kActionTexts[i].caption), Texts::tr(kActionTexts[i].tip));
-        button->place({kOwn.x(), kActionTop + i * kActionStep, kOwn.width(), kActionHeight});
-        connect(button, &Button::clicked, this, [this, i] { act(Action(i)); });
-        actions_.push_back(button);
-    }
 }
 
 void frmNakup::Zobraz() {
@@ -122,12 +119,16 @@ void frmNakup::Zobraz() {
     app().HookMessage(title_.text());
 }
 
-void frmNakup::goBack() {
-    app().PopScreen(*this);
+/// Another screen may have put something on the list meanwhile.
+void frmNakup::restored() {
+    ShoppingList kept = readShoppingList(file_);
+    if (!storeFailed_ && kept.items() != list_.items()) list_ = std::move(kept);
+    showList();
+    Form::restored();
 }
 
-void frmNakup::act(Action action) {
-    switch (action) {
+void frmNakup::act(int action) {
+    switch (Action(action)) {
         case Action::Add:
             return addOwn();
         case Action::Amount:
@@ -143,6 +144,8 @@ void frmNakup::act(Action action) {
             return changed();
         case Action::Copy:
             return copy();
+        case Action::Save:
+            return save();
         case Action::Home:
             return toggleHome();
     }
@@ -209,15 +212,19 @@ void frmNakup::copy() {
     state_.setText(Texts::tr("Zkopírováno"));
 }
 
+/// The file is new each time: an older list stays what it was.
+void frmNakup::save() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString name = Texts::tr("Nákupní seznam %1").arg(QDate::currentDate().toString(Qt::ISODate));
+    const QString file = freeTextFile(folder, name);
+    const bool saved = writeTextFile(file, list_.text(app().Locale));
+    app().ZobrazZpravu(saved ? Texts::tr("Nákupní seznam je uložen jako\r\n%1").arg(file)
+                             : Texts::tr("Nákupní seznam se nepodařilo uložit jako\r\n%1").arg(file),
+                       kInformationBox);
+}
+
 void frmNakup::print() {
-    RtfDocument document;
-    document.heading(title_.text());
-    for (const QString& line : list_.text(app().Locale).split(u'\n')) {
-        if (line.isEmpty()) continue;
-        line.startsWith(u'☐') ? document.paragraph(QStringLiteral("[  ] ") + line.mid(2))
-                              : document.paragraph(line, {});
-    }
-    app().screens().printText(title_.text(), document.text());
+    app().screens().printText(title_.text(), slipOf(title_.text(), list_.text(app().Locale)));
 }
 
 void frmNakup::showList() {
@@ -240,7 +247,13 @@ void frmNakup::showList() {
                 add({TickRow::Kind::Fold, Texts::tr("Nejspíš už doma (%1)").arg(atHome), {}, {}, showsHome_},
                     -1);
             else
-                add({TickRow::Kind::Heading, departmentName(item.department), {}, {}, false}, -1);
+                add({TickRow::Kind::Heading,
+                     departmentName(item.department),
+                     {},
+                     {},
+                     false,
+                     app().resources().picture(QStringLiteral("Oddeleni%1").arg(department))},
+                    -1);
         }
         if (item.atHome && !showsHome_) continue;
         QStringList below;
@@ -291,7 +304,7 @@ bool frmNakup::keyDown(QKeyEvent& event) {
         return true;
     }
     if (event.matches(QKeySequence::Undo)) {
-        act(Action::Undo);
+        act(int(Action::Undo));
         return true;
     }
     const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -300,7 +313,7 @@ bool frmNakup::keyDown(QKeyEvent& event) {
         return true;
     }
     if (event.key() == Qt::Key_Delete) {
-        act(Action::Remove);
+        act(int(Action::Remove));
         return true;
     }
     if (ring().isAt(&rows_)) {
@@ -318,14 +331,9 @@ bool frmNakup::keyDown(QKeyEvent& event) {
 }
 
 void frmNakup::paint(QPainter& painter) {
-    paintRoom(painter, app().Pictures.stranka);
-    const QRectF all = covered();
-    painter.fillRect(QRectF(all.left(), all.top(), all.width(), 960 - all.top()), colors::kTeal);
-    painter.fillRect(QRectF(all.left(), 960, all.width(), 30), colors::kCopper);
-    app().resources().picture(QStringLiteral("Nakup")).draw(painter, kPicture, Fit::Inside);
+    paintGround(painter);
     paintPaper(painter, kPaper);
     paintPlate(painter, kSide);
-    for (const QRect& plate : {kBar, kAside}) paintPlate(painter, plate.adjusted(-60, -30, 60, 0));
     if (!list_.isEmpty()) return;
     painter.setFont(TextFont{QStringLiteral("Times New Roman"), 18}.toQFont());
     painter.setPen(colors::kInk);

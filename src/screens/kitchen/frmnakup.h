@@ -1,10 +1,8 @@
 #pragma once
 
-#include "forms/buttonbar.h"
 #include "forms/edit.h"
-#include "forms/form.h"
-#include "forms/label.h"
 #include "kitchen/shoppinglist.h"
+#include "screens/kitchen/kitchenform.h"
 #include "screens/kitchen/ticklist.h"
 
 namespace sarne {
@@ -13,7 +11,7 @@ class UserFile;
 
 /// The shopping list: on its left the things to buy, department by department, on its right what can be done
 /// with them. Every change is stored at once.
-class frmNakup : public Form {
+class frmNakup : public KitchenForm {
     Q_OBJECT
   public:
     /// Keeps the list in \a file, which outlives the screen. \a askNumber asks for an amount; 0 when
@@ -24,18 +22,17 @@ class frmNakup : public Form {
     void Zobraz();
     const ShoppingList& list() const { return list_; }
 
-    void goBack() override;
+    void restored() override;
 
   protected:
+    void act(int action) override;
+    void print() override;
     bool keyDown(QKeyEvent& event) override;
     void paint(QPainter& painter) override;
 
   private:
-    enum class Action { Add, Amount, Remove, Undo, DropBought, Copy, Home };
-    static constexpr int kActions = 7;
+    enum class Action { Add, Amount, Remove, Undo, DropBought, Copy, Save, Home };
 
-    void makeActions();
-    void act(Action action);
     void use(int row);
     void showList();
     void showRecipes();
@@ -45,7 +42,7 @@ class frmNakup : public Form {
     void changeAmount();
     void toggleHome();
     void copy();
-    void print();
+    void save();
     /// The item that is selected, by its place on the list; -1 when none is.
     int selectedItem() const;
 
@@ -56,11 +53,9 @@ class frmNakup : public Form {
     bool showsHome_ = false;
     bool storeFailed_ = false;
 
-    Label title_, state_, recipes_, hint_;
+    Label recipes_, hint_;
     TickList rows_;
     Edit own_;
-    std::vector<Button*> actions_;
-    ButtonBar bar_, aside_;
 };
 
 }  // namespace sarne

@@ -1,15 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <functional>
 
-#include "core/quantities.h"
-#include "forms/buttonbar.h"
-#include "forms/form.h"
-#include "forms/label.h"
-#include "forms/picturebox.h"
-#include "kitchen/cookingpages.h"
-#include "kitchen/foundtimes.h"
-#include "screens/kitchen/ticklist.h"
+#include "screens/kitchen/cookingboard.h"
+#include "screens/kitchen/kitchenform.h"
 
 namespace sarne {
 
@@ -18,8 +13,8 @@ class UserFile;
 /// A recipe as it is followed at the stove: first what to get ready, then one step at a time, in letters that
 /// are read from across the kitchen, with what the step needs for the portions and in the units that the
 /// recipe was looked at. Space, Enter, Right, Page down or a click on the text go on; Left and Page up go
-/// back. The display stays awake.
-class frmVarime : public Form {
+/// back. At the end the day, stars and a line of one's own note are kept. The display stays awake.
+class frmVarime : public KitchenForm {
     Q_OBJECT
   public:
     using StartTimer = std::function<void(const QString& name, int seconds)>;
@@ -36,54 +31,40 @@ class frmVarime : public Form {
     void goBack() override;
     void restored() override;
     void unload() override;
+    bool readyToEnd() override;
+    void keepUnsaved() override;
+    /// The step and what it needs; on the first page what to get ready.
+    QString textToRead() const override;
 
   protected:
     bool keyDown(QKeyEvent& event) override;
     void paint(QPainter& painter) override;
 
   private:
-    static constexpr int kTimes = 4;
-
-    void dress();
     void makeButtons();
     void readRecipe(std::int16_t id, const Serving& serving);
     void go(int pages);
     void forward();
     void showPage();
-    void showReady();
-    void showStep();
     void showDone();
-    void showTimes(const QString& text);
+    void offerReading();
     void startTime(int index);
     void cooked();
+    /// Puts the line that was typed below the recipe's note; nothing for none. False where only a draft could
+    /// be kept.
+    bool keepLine();
     void tick(int row);
-    QString needsOf(const CookingStep& step) const;
-    QString portionsText() const;
     bool turnKey(int key);
 
     UserFile& file_;
     StartTimer startTimer_;
-    std::int16_t recipe_ = 0;
-    QString name_, tools_;
-    Serving serving_;
-    Quantities quantities_{0, 0, QLocale()};
-    std::vector<Ingredient> ingredients_;
-    std::vector<CookingStep> steps_;
+    CookingRecipe recipe_;
     std::vector<CookingPage> pages_;
     std::vector<bool> ready_;
-    std::vector<FoundTime> times_;
     int page_ = 0;
 
-    Label title_, counter_, text_;
-    Button paper_;  ///< over the text: a click on it goes on
-    Label side_, needs_;
-    TickList list_;
-    PictureBox photo_;
-    std::vector<Button*> time_;
-    Button next_, previous_, cooked_;
-    ButtonBar bar_;
+    CookingBoard board_;
+    Button next_, previous_, read_;
 };
 
 }  // namespace sarne
-
-// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,6 +1,7 @@
 #include "screens/kitchen/kitchenplates.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -12,10 +13,12 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/messagebox.h"
+#include "forms/readaloud.h"
 #include "forms/resources.h"
 #include "forms/stage.h"
 #include "kitchen/foundtimes.h"
 #include "kitchen/ringwave.h"
+#include "kitchen/timerstore.h"
 #include "platform/effectplayer.h"
 
 namespace sarne {
@@ -108,8 +111,8 @@ class KitchenPlates::Plate : public TwipWidget {
     bool rings_ = false;
 };
 
-KitchenPlates::KitchenPlates(basSarne& sarne, KitchenTimers& timers)
-    : app_(sarne), timers_(timers), clock_(this), sayingTime_(this) {
+KitchenPlates::KitchenPlates(basSarne& sarne, KitchenTimers& timers, UserFile& file)
+    : app_(sarne), timers_(timers), file_(file), clock_(this), sayingTime_(this) {
     clock_.setInterval(kLook);
     connect(&clock_, &Timer::tick, this, &KitchenPlates::look);
     sayingTime_.setInterval(kSayingTime);
@@ -131,15 +134,35 @@ void KitchenPlates::raisePlates() {
     if (saying_) saying_->raise();
 }
 
+void KitchenPlates::resume() {
+    restoreTimers(file_, timers_, app_.clock().now(), QDateTime::currentMSecsSinceEpoch());
+    look();
+}
+
+void KitchenPlates::giveUp() {
+    const bool any = !timers_.all().empty();
+    while (!timers_.all().empty()) timers_.stop(timers_.all().front().id);
+    if (any) keep();
+}
+
+void KitchenPlates::keep() {
+    storeTimers(file_, timers_.all(), app_.clock().now(), QDateTime::currentMSecsSinceEpoch());
+}
+
 void KitchenPlates::start(const QString& name, int seconds) {
     timers_.start(name, seconds, app_.clock().now());
+    keep();
     app_.HookMessage(Texts::tr("Časovač běží: %1").arg(durationText(seconds)));
     look();
 }
 
 void KitchenPlates::look() {
     const std::vector<KitchenTimer> over = timers_.over(app_.clock().now());
-    for (const KitchenTimer& timer : over) app_.HookMessage(Texts::tr("Čas vypršel: %1").arg(timer.name));
+    for (const KitchenTimer& timer : over) {
+        const QString words = Texts::tr("Čas vypršel: %1").arg(timer.name);
+        app_.HookMessage(words);
+        app_.readAloud().read(words);
+    }
     if (!over.empty()) lastRing_ = app_.clock().now() - kRingAgain;
     if (timers_.ringing()) ring();
     show();
@@ -189,6 +212,7 @@ void KitchenPlates::timerClicked(int id) {
                                      .arg(clockText(timer.left(app_.clock().now())), timer.name);
         if (!timer.rings && app_.ZobrazZpravu(question, kQuestionBox) != kAnswerYes) return;
         timers_.stop(id);
+        keep();
         if (!timers_.ringing()) app_.StopEffect();
         return look();
     }
@@ -199,6 +223,7 @@ bool KitchenPlates::stopRinging() {
     const std::vector<KitchenTimer> all = timers_.all();
     for (const KitchenTimer& timer : all)
         if (timer.rings) timers_.stop(timer.id);
+    keep();
     app_.StopEffect();
     look();
     return true;

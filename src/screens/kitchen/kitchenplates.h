@@ -11,16 +11,22 @@
 namespace sarne {
 
 class basSarne;
+class UserFile;
 
 /// The small plates that lie over every screen: one for each kitchen timer, with the time that is left, and
 /// for a moment one that says what has just been done. A click on a timer stops it.
 class KitchenPlates : public QObject {
     Q_OBJECT
   public:
-    /// Shows \a timers, which outlive it, on the stage of \a sarne.
-    KitchenPlates(basSarne& sarne, KitchenTimers& timers);
+    /// Shows \a timers on the stage of \a sarne and keeps them in \a file, so that they outlive a program
+    /// that is cut off. Both outlive it.
+    KitchenPlates(basSarne& sarne, KitchenTimers& timers, UserFile& file);
     ~KitchenPlates() override;
 
+    /// Goes on with the timers of a run that was cut off.
+    void resume();
+    /// The program ends: the timers are given up.
+    void giveUp();
     /// Starts a timer and shows it.
     void start(const QString& name, int seconds);
     /// Stops what rings; false where nothing does.
@@ -44,6 +50,7 @@ class KitchenPlates : public QObject {
   private:
     class Plate;
 
+    void keep();
     void show();
     void ring();
     void timerClicked(int id);
@@ -51,6 +58,7 @@ class KitchenPlates : public QObject {
 
     basSarne& app_;
     KitchenTimers& timers_;
+    UserFile& file_;
     std::vector<QPointer<Plate>> plates_;
     QPointer<Plate> saying_;
     Timer clock_, sayingTime_;

@@ -15,8 +15,9 @@ namespace sarne {
 namespace {
 
 const QString kFamily = QStringLiteral("Arial");
-constexpr double kSmall = .72;  // the smaller text, of the row's
-constexpr double kLead = 1.75;  // a row's height, of its text's size
+constexpr double kSmall = .72;     // the smaller text, of the row's
+constexpr double kLead = 1.75;     // a row's height, of its text's size
+constexpr double kPictured = 2.6;  // the height of a heading with a picture
 constexpr int kTwipsOfPoint = 20;
 constexpr int kEdge = 120;  // twips left and right of a row
 constexpr int kBoxGap = 150;
@@ -84,6 +85,7 @@ TextFont TickList::font(double share, bool bold) const {
 }
 
 int TickList::heightOf(const TickRow& row) const {
+    if (!row.picture.isNull()) return twipsOf(points_ * kPictured);
     const int line = twipsOf(points_ * kLead);
     const int text = twips().width() - 2 * kEdge - line - Label::measure(row.right, font(1, true)).width();
     const int lines = std::max(1, Label::measure(row.text, font(1, false), std::max(line, text)).height() /
@@ -217,6 +219,12 @@ void TickList::paintRow(QPainter& painter, int row) const {
         painter.setFont(font(1, true).toQFont());
         paintBox(painter, {text.left(), place.top() + (line - side) / 2, side, side}, content);
         text.setLeft(text.left() + side + kBoxGap);
+    }
+    if (!content.picture.isNull()) {
+        content.picture.draw(painter,
+                             QRect(text.left(), place.top() + 45, place.height() - 75, place.height() - 75),
+                             Fit::Inside);
+        text.setLeft(text.left() + place.height());
     }
     painter.setFont(font(1, true).toQFont());
     const QRect first(text.left(), text.top(), text.width(), line);

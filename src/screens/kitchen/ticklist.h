@@ -22,6 +22,7 @@ struct TickRow {
     QString right;  ///< at the right edge: an amount
     QString below;  ///< smaller, on a line of its own
     bool ticked = false;
+    Picture picture = {};  ///< of a heading: at its left
 };
 
 /// Rows that are ticked off, on paper: by a click anywhere in the row, or by Space on the selected one.

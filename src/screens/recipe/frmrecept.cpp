@@ -45,6 +45,7 @@ std::vector<BarFace> sectionFaces() {
 frmRecept::frmRecept(basSarne& sarne, Serving& lookedAt, AskNumber ask)
     : Form(sarne, QStringLiteral("frmRecept")),
       title_(new Label(*this, QStringLiteral("lblNazev"))),
+      stars_(new StarRow(*this, QStringLiteral("picHvezdy"))),
       imgBtn(*this, QStringLiteral("imgBtn"), sectionFaces(), [this](int index) { openSection(index); }),
       imgBtnHlavni(*this, QStringLiteral("imgBtnHlavni"), kBar, [this](int) { print(); }),
       imgKuchyne(*this, QStringLiteral("imgKuchyne"), kKitchen, [this](int index) { kitchenClick(index); }),
@@ -56,6 +57,11 @@ frmRecept::frmRecept(basSarne& sarne, Serving& lookedAt, AskNumber ask)
     title_->place(recipelayout::kTitle);
     title_->setAlignment(Qt::AlignCenter);
     title_->setColor(colors::kTitle);
+    stars_->place(recipelayout::kStars);
+    connect(stars_, &StarRow::given, this, [this](int stars) {
+        app().screens().giveStars(recipe_.id, stars);
+        app().HookMessage(stars_->accessibleValue());
+    });
     makeView();
     makeSections(lookedAt, std::move(ask));
     imgBtnHlavni.placeRow(recipelayout::kBar);
@@ -124,7 +130,14 @@ void frmRecept::loadRecipe(std::int16_t id) {
     for (const auto& section : sections_) section->recipeChanged();
     const bool canCook = app().screens().canCook(id);
     for (int button = 0; button < imgKuchyne.count(); ++button) imgKuchyne[button].setVisible(canCook);
+    showStars();
     showTitle();
+}
+
+void frmRecept::showStars() {
+    const int stars = app().screens().starsOf(recipe_.id);
+    stars_->setVisible(stars >= 0);
+    stars_->setStars(stars);
 }
 
 void frmRecept::showTitle() {
@@ -194,6 +207,9 @@ void frmRecept::unload() {
 
 void frmRecept::restored() {
     app().keepAwake(QStringLiteral("Na obrazovce je recept"));
+    recipe_.row.Seek(QStringLiteral("="), recipe_.id);  // a screen above may have changed it
+    current().shownAgain();
+    showStars();
     Form::restored();
 }
 
@@ -242,6 +258,7 @@ std::vector<FocusGroup> frmRecept::stops() const {
     if (toRead || current().opensView()) stops.emplace_back(std::array{view_});
     stops.emplace_back(imgKuchyne.stops());
     stops.emplace_back(imgBtnHlavni.stops());
+    stops.emplace_back(std::array{stars_});
     return stops;
 }
 
@@ -251,6 +268,7 @@ bool frmRecept::keyDown(QKeyEvent& event) {
         return true;
     }
     if (kitchenKey(event) || viewKey(event)) return true;
+    if (ring().isAt(stars_) && stars_->keyDown(event)) return true;
     ring().setGroups(stops());
     const auto direction = arrowDirection(event.key());
     if (direction) arrow(*direction);

@@ -6,6 +6,7 @@
 #include "forms/buttonbar.h"
 #include "forms/form.h"
 #include "forms/label.h"
+#include "forms/starrow.h"
 #include "screens/recipe/recipesection.h"
 
 namespace sarne {
@@ -55,6 +56,7 @@ class frmRecept : public Form {
     void openSection(int section);
     void showSection();
     void print();
+    void showStars();
     void kitchenClick(int button);
     bool kitchenKey(const QKeyEvent& event);
 
@@ -71,6 +73,7 @@ class frmRecept : public Form {
     Room ground_;
 
     Label* title_;
+    StarRow* stars_;
     ButtonBar imgBtn, imgBtnHlavni, imgKuchyne;
     TextView* view_;
     PictureBox* picture_;

@@ -6,7 +6,8 @@
 namespace sarne::recipelayout {
 
 inline constexpr QRect kHeader{0, 0, 12000, 1230};
-inline constexpr QRect kTitle{420, 75, 11160, 1080};
+inline constexpr QRect kTitle{1770, 75, 8460, 1080};
+inline constexpr QRect kStars{10320, 390, 1560, 450};     ///< the user's own, at the header's right
 inline constexpr QRect kSections{120, 1350, 2340, 7500};  ///< the ground of the section buttons
 inline constexpr QRect kPaper{2580, 1350, 9300, 6510};    ///< the ground of the section that is shown
 
