@@ -159,6 +159,8 @@ void feast(Tour& tour) {
     tour.click(QStringLiteral("imgVedle(3)"));
     tour.stop(QStringLiteral("frmHostina"));
     for (int occasion = 0; occasion < 6; ++occasion) tour.click(QStringLiteral("cmdAkce(0)"));
+    tour.key(Qt::Key_Backtab);
+    tour.key(Qt::Key_Home);
     tour.key(Qt::Key_Space);
     tour.key(Qt::Key_End);
     tour.key(Qt::Key_Space);

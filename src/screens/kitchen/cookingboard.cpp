@@ -85,7 +85,7 @@ CookingBoard::CookingBoard(Form& form)
     photo.place(kPhoto);
     photo.setAttribute(Qt::WA_TransparentForMouseEvents);
     dress(noteHint, kNoteHint, {QStringLiteral("Arial"), 13, true}, colors::kInk);
-    noteHint.setText(Texts::tr("Co si příště pamatovat (zapíše se do vlastní poznámky):"));
+    noteHint.setText(Texts::tr("Co si příště pamatovat (do vlastní poznámky):"));
     note.place(kNote);
     note.setFont({QStringLiteral("Arial"), 14});
     note.setMaxLength(kLongestNote);

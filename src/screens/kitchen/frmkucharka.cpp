@@ -32,7 +32,7 @@ constexpr int kDaysShown = 4, kNoteLetters = 90;
 
 const char* const kShelfNames[kShelves] = {
     QT_TRANSLATE_NOOP("Texts", "S hvězdičkami"), QT_TRANSLATE_NOOP("Texts", "Uvařeno"),
-    QT_TRANSLATE_NOOP("Texts", "S poznámkou"), QT_TRANSLATE_NOOP("Texts", "Naposledy otevřené"),
+    QT_TRANSLATE_NOOP("Texts", "S poznámkou"), QT_TRANSLATE_NOOP("Texts", "Naposledy"),
     QT_TRANSLATE_NOOP("Texts", "Na tento měsíc")};
 /// What an empty shelf says of how something comes onto it.
 const char* const kNothing[kShelves] = {
