@@ -9,6 +9,7 @@
 #include "core/texts.h"
 #include "db/database.h"
 #include "db/userfile.h"
+#include "kitchen/bookwords.h"
 
 namespace sarne {
 namespace {
@@ -16,11 +17,6 @@ namespace {
 const char* const kNames[kCourses] = {QT_TRANSLATE_NOOP("Texts", "Předkrm"),
                                       QT_TRANSLATE_NOOP("Texts", "Polévka"),
                                       QT_TRANSLATE_NOOP("Texts", "Hlavní chod")};
-// Words of the recipes' heads.
-const QString kStarter = QStringLiteral("předkrm"), kCold = QStringLiteral("studené"),
-              kSoup = QStringLiteral("polévka"), kWarm = QStringLiteral("teplé"),
-              kFestive = QStringLiteral("slavnostní"), kColdMain = QStringLiteral("hlavní za studena");
-const char* const kOccasions[] = {"jaro", "Velikonoce", "léto", "podzim", "zima", "Vánoce", "Silvestr"};
 const QString kKept = QStringLiteral("Hostina");
 constexpr double kMostPortions = 100;
 constexpr int kHour = 60, kDay = 24 * kHour;
@@ -34,8 +30,11 @@ DinnerRecipe recipeOf(const Recordset& row, const Recordset& facts) {
     one.occasions = facts.field(QStringLiteral("Obdobi")).toString().split(u',', Qt::SkipEmptyParts);
     const QStringList courses = facts.field(QStringLiteral("Chod")).toString().split(u',');
     const auto is = [&courses](const QString& course) { return courses.contains(course); };
-    one.suits = {is(kStarter), is(kSoup), is(kWarm) || is(kFestive) || is(kColdMain)};
-    if (!is(kStarter) && is(kCold) && !is(kWarm) && !is(kFestive) && !is(kColdMain)) one.suits[0] = true;
+    one.suits = {is(book::kStarter), is(book::kSoup),
+                 is(book::kWarm) || is(book::kFestive) || is(book::kColdMain)};
+    if (!is(book::kStarter) && is(book::kCold) && !is(book::kWarm) && !is(book::kFestive) &&
+        !is(book::kColdMain))
+        one.suits[0] = true;
     return one;
 }
 
@@ -81,8 +80,7 @@ std::vector<DinnerRecipe> candidates(const std::vector<DinnerRecipe>& all, Cours
 
 QStringList dinnerOccasions(const std::vector<DinnerRecipe>& all) {
     QStringList occasions;
-    for (const char* name : kOccasions) {
-        const QString occasion = QString::fromUtf8(name);
+    for (const QString& occasion : book::occasions()) {
         if (std::any_of(all.begin(), all.end(),
                         [&](const DinnerRecipe& one) { return one.occasions.contains(occasion); }))
             occasions << occasion;

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kitchen/feasts.h"
 
+#include "kitchen/bookwords.h"
+
 namespace sarne {
 namespace {
 
 constexpr int kDecember = 12;
-
-/// The words of the recipes' heads; they are looked up, not shown.
-const char* const kSeasons[] = {"zima", "jaro", "léto", "podzim"};
-const QString kChristmas = QStringLiteral("Vánoce");
-const QString kNewYearsEve = QStringLiteral("Silvestr");
-const QString kEaster = QStringLiteral("Velikonoce");
 
 }  // namespace
 
@@ -28,13 +24,13 @@ QStringList feastsOf(QDate day) {
     QStringList feasts;
     const QDate easter = easterSunday(day.year());
     // Good Friday may fall into the month before: one cooks for it, too.
-    if (easter.month() == day.month() || easter.addDays(-2).month() == day.month()) feasts << kEaster;
-    if (day.month() == kDecember) feasts << kChristmas << kNewYearsEve;
+    if (easter.month() == day.month() || easter.addDays(-2).month() == day.month()) feasts << book::kEaster;
+    if (day.month() == kDecember) feasts << book::kChristmas << book::kNewYearsEve;
     return feasts;
 }
 
 QStringList occasionsOf(QDate day) {
-    return feastsOf(day) << QString::fromUtf8(kSeasons[day.month() % 12 / 3]);
+    return feastsOf(day) << book::seasons()[day.month() % 12 / 3];
 }
 
 }  // namespace sarne

@@ -1,21 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kitchen/timeplan.h"
 
-#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
 
 #include "core/czech.h"
 #include "core/texts.h"
-#include "kitchen/foundtimes.h"
+#include "kitchen/bookwords.h"
 
 namespace sarne {
 namespace {
 
-constexpr int kMinute = 60;  // seconds
-constexpr int kHour = 60;    // minutes, as all below
+constexpr int kHour = 60;  // minutes, as all below
 constexpr int kDay = 24 * kHour;
-constexpr int kNight = 10 * kHour;    // what "overnight" means
+constexpr int kNight = book::kNight;  // what "overnight" means
 constexpr int kLongWait = 3 * kHour;  // waits from here on are not among a recipe's minutes
 constexpr int kEvening = 20 * kHour, kMorning = 6 * kHour, kNoon = 12 * kHour, kLate = 22 * kHour;
 constexpr int kOven = 15;  // until it is hot
@@ -42,54 +40,17 @@ QStringList sentencesOf(QString text) {
     return all;
 }
 
-/// Whether a sentence says how long something keeps, not how long one waits.
-bool tellsKeeping(const QString& sentence) {
-    static const QRegularExpression keeping(
-        QStringLiteral("vydrží|nejvýše|spotřebujeme do|dvakrát denně|klidně"),
-        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
-    return keeping.match(sentence).hasMatch();
-}
-
-/// Minutes that a sentence makes one wait.
-int waitOf(const QString& sentence) {
-    if (tellsKeeping(sentence)) return sentence.contains(QStringLiteral("přes noc")) ? kNight : 0;
-    int minutes = sentence.contains(QStringLiteral("přes noc")) ? kNight : 0;
-    for (const FoundTime& time : findTimes(sentence))
-        minutes = std::max(minutes, (time.longest + kMinute - 1) / kMinute);
-    return minutes;
-}
-
-bool lightsOven(const QString& sentence) {
-    static const QRegularExpression oven(QStringLiteral("[Tt]roubu .*?(předeh|rozeh|zapn)"),
-                                         QRegularExpression::UseUnicodePropertiesOption);
-    return oven.match(sentence).hasMatch();
-}
-
-bool bakes(const QString& text) {
-    static const QRegularExpression bake(
-        QStringLiteral("(^|\\W)(pečeme|zapékáme|zapečeme|upečeme|péct)(\\W|$)"),
-        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
-    return bake.match(text).hasMatch();
-}
-
-QString degreesIn(const QString& sentence) {
-    static const QRegularExpression degrees(QStringLiteral("\\d+ °C"));
-    return degrees.match(sentence).captured();
-}
-
 Stretch stretchOf(const QString& text) {
     Stretch one;
     one.text = text;
     for (const QString& sentence : sentencesOf(text)) {
-        const int wait = waitOf(sentence);
+        const int wait = book::waitOf(sentence);
         if (wait < kLongWait) {
             one.waits += wait;
             continue;
         }
         one.longWait += wait;
-        static const QRegularExpression past(QStringLiteral("kter\\p{L}* byl|předem zmrazen|povolil|povolen"),
-                                             QRegularExpression::UseUnicodePropertiesOption);
-        one.before = one.before || past.match(sentence).hasMatch();
+        one.before = one.before || book::tellsPast(sentence);
     }
     return one;
 }
@@ -110,7 +71,7 @@ int onGrid(double at) {
 /// What a step is about: its first sentence that is not about the oven; nothing where there is none.
 QString gistOf(const QString& text) {
     for (const QString& sentence : sentencesOf(text))
-        if (!lightsOven(sentence)) return sentence;
+        if (!book::lightsOven(sentence)) return sentence;
     return {};
 }
 
@@ -130,7 +91,7 @@ class DishPlan {
 
     void write() {
         ahead_ = plain(dish_.ahead);
-        if (!waitsInSteps() && ripens()) ready_ = notAtNight(dish_.served - waitOf(ahead_), kNight);
+        if (!waitsInSteps() && ripens()) ready_ = notAtNight(dish_.served - book::waitOf(ahead_), kNight);
         add(dish_.served, Texts::tr("Na stůl: %1").arg(dish_.name), true);
         reckonBack();
         for (size_t i = 0; i < stretches_.size(); ++i) writeStep(i);
@@ -167,8 +128,8 @@ class DishPlan {
     void writeStep(size_t place) {
         const QString& text = stretches_[place].text;
         for (const QString& sentence : sentencesOf(text)) {
-            if (!lightsOven(sentence)) continue;
-            const QString degrees = degreesIn(sentence);
+            if (!book::lightsOven(sentence)) continue;
+            const QString degrees = book::degreesIn(sentence);
             add(ovenTime(place), degrees.isEmpty() ? Texts::tr("Předehřát troubu")
                                                    : Texts::tr("Předehřát troubu na %1").arg(degrees));
         }
@@ -178,7 +139,7 @@ class DishPlan {
     /// The oven is lit so that it is hot for the next step that bakes.
     int ovenTime(size_t place) const {
         for (size_t next = place; next < stretches_.size(); ++next)
-            if (bakes(stretches_[next].text)) return std::max(begins_[place], begins_[next] - kOven);
+            if (book::bakes(stretches_[next].text)) return std::max(begins_[place], begins_[next] - kOven);
         return begins_[place];
     }
 
@@ -188,20 +149,16 @@ class DishPlan {
     }
 
     /// Whether what the dish wants beforehand is time to ripen when it is made.
-    bool ripens() const {
-        static const QRegularExpression after(QStringLiteral("nálev|odlež|zrán|tuhnut|chladnut"),
-                                              QRegularExpression::UseUnicodePropertiesOption);
-        return after.match(ahead_).hasMatch() && waitOf(ahead_) >= kLongWait;
-    }
+    bool ripens() const { return book::ripens(ahead_) && book::waitOf(ahead_) >= kLongWait; }
 
     /// What the recipe says is to be done before, as far as no step says when.
     void writeAhead() {
-        const bool dayBefore = ahead_.contains(QStringLiteral("o den dřív"));
+        const bool dayBefore = book::isForDayBefore(ahead_);
         const bool isBefore = !stretches_.empty() && stretches_.front().before;
-        const bool said = (waitsInSteps() && !isBefore) || ready_ != dish_.served ||
-                          ahead_.contains(QStringLiteral("jen na"));
+        const bool said =
+            (waitsInSteps() && !isBefore) || ready_ != dish_.served || book::isForOneWay(ahead_);
         if (ahead_.isEmpty() || (said && !dayBefore)) return;
-        const int wait = waitOf(ahead_);
+        const int wait = book::waitOf(ahead_);
         const int begins = onGrid((isBefore ? begins_.front() : first_) - wait);
         const int at = dayBefore           ? std::min(begins, kEvening - kDay)
                        : wait >= kLongWait ? notAtNight(begins, wait)

@@ -10,7 +10,7 @@ TOKEN = re.compile(r'//[^\n]*|/\*.*?\*/|u?"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.
 CZECH = re.compile('[áčďéěíňóřšťúůýžÁČĎÉĚÍŇÓŘŠŤÚŮÝŽ]')
 TRANSLATED = re.compile(r'(tr|QT_TRANSLATE_NOOP)\($|QT_TRANSLATE_NOOP\("Texts",$')
 # What the book itself says: units and times as its recipes write them, names of its menus.
-OF_THE_BOOK = {'units.cpp', 'foundtimes.cpp', 'menutargets.cpp'}
+OF_THE_BOOK = {'units.cpp', 'bookwords.cpp', 'foundtimes.cpp', 'menutargets.cpp'}
 NO_TEXTS = {'"zvuky\\\\č%1.wav"', '"ÁÄĎÉĚÍŇÓÖŤÚŮÜÝ"'}
 
 
