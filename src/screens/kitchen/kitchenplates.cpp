@@ -27,7 +27,7 @@ namespace {
 constexpr int kLook = 250, kSayingTime = 4000, kRingAgain = 3500;  // milliseconds
 constexpr int kWidth = 1920, kHeight = 630, kGap = 60;
 // Without room beside the screens: what shows the time alone, above their titles.
-constexpr QSize kSmall(1080, 330);
+constexpr QSize kSmall(1260, 330);
 constexpr int kSmallTop = 15, kColumns = 8;
 constexpr int kSayingBottom = 7800;
 const TextFont kTime{QStringLiteral("Arial"), 15, true}, kSmallTime{QStringLiteral("Arial"), 11, true},
