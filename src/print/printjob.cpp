@@ -9,7 +9,10 @@ PrintOutcome PrintJob::print(const PrintMaterial& material, const PrintOptions& 
     documentName_ = documentName;
     for (int index = 0; index < material.count(); ++index) {
         stopped_ = !progress_.goOn();
-        if (stopped_ || !put(composer_.item(material, index, options, progress_))) break;
+        if (stopped_) break;
+        const std::vector<PrintedPage> pages = composer_.item(material, index, options, progress_);
+        stopped_ = pages.empty() && !progress_.goOn();  // while they were laid out
+        if (stopped_ || !put(pages)) break;
         progress_.recipeDone();
     }
     return end();

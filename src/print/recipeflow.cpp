@@ -59,6 +59,7 @@ void RecipeFlow::ask() {
 void RecipeFlow::setPart(double from, double to) {
     partFrom_ = from;
     partTo_ = to;
+    reached_ = from;
 }
 
 void RecipeFlow::append(FlowLine line) {
@@ -69,6 +70,7 @@ void RecipeFlow::append(FlowLine line) {
         nextPlace_.reset();
     }
     lines_.push_back(std::move(line));
+    if (reached_ > 0) progress_.progressed(reached_);
     ask();
 }
 
@@ -141,10 +143,8 @@ LayoutArea RecipeFlow::wideArea() const {
 
 void RecipeFlow::addLayout(const RtfLayout& layout, size_t firstLine) {
     const size_t count = layout.lines().size();
-    for (size_t line = firstLine; line < count && !stop_; ++line) {
+    for (size_t line = firstLine; line < count && !stop_; ++line)
         addLaidOutLine(layout, layout.lines()[line]);
-        progress_.progressed(partFrom_ + (partTo_ - partFrom_) * double(line + 1) / double(count));
-    }
     if (inParagraph_ && !stop_) setter_.end();
     inParagraph_ = false;
 }
@@ -159,8 +159,10 @@ void RecipeFlow::addLaidOutLine(const RtfLayout& layout, const TextLine& line) {
         setter_.begin(style);
     }
     inParagraph_ = !line.endsParagraph;
-    for (qsizetype i = 0; i < line.boxCount && !stop_; ++i)
-        setter_.add(laidOutWord(layout, line, layout.boxes()[static_cast<size_t>(line.firstBox + i)]));
+    for (qsizetype i = line.firstBox; i < line.firstBox + line.boxCount && !stop_; ++i) {
+        reached_ = partFrom_ + (partTo_ - partFrom_) * double(i + 1) / double(layout.boxes().size());
+        setter_.add(laidOutWord(layout, line, layout.boxes()[static_cast<size_t>(i)]));
+    }
     if (!inParagraph_ && !stop_) setter_.end();
 }
 

@@ -85,6 +85,7 @@ class RecipeFlow {
     bool listHeadings_ = true;
     bool inParagraph_ = false;
     double partFrom_ = 0, partTo_ = 0;
+    double reached_ = 0;  // of the recipe
     int height_ = 0;
     int pictureBottom_ = 0;
     int pictureWidth_ = 0;  // with the gap beside it

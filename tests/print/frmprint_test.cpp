@@ -174,6 +174,9 @@ TEST_F(FrmPrintTest, AsksForPortionsFrom1To99) {
             << typed;
     }
     EXPECT_TRUE(run.messages.filter(str("48:")).isEmpty());
+    control<Edit>("Text1")->focusAll();
+    QTest::keyClicks(form()->focusWidget(), str("2,5"));
+    EXPECT_EQ(control<Edit>("Text1")->text(), str("2.5"));
 }
 
 TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
@@ -211,6 +214,15 @@ TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
     EXPECT_FALSE(control("cmdPrerus")->isVisible());
     EXPECT_EQ(run.awake, (QStringList{str("Tisk"), QString()}));
     EXPECT_TRUE(outcome().endsWith(file("Rybí recepty (2).pdf"))) << outcome().toStdString();
+}
+
+TEST_F(FrmPrintTest, TheDisplayStaysAwakeAboveARecipe) {
+    auto* recipe = new Form(run, str("frmRecept"));
+    recipe->showForm();
+    run.PushScreen(*recipe);
+    open({3});
+    control("Command1")->click();
+    EXPECT_EQ(run.awake, QStringList{str("Tisk")}) << "not ended: the recipe is below";
 }
 
 TEST_F(FrmPrintTest, PrintsASecondSelectionAtOnceUntilItIsClosed) {

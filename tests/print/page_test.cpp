@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QRegularExpression>
+#include <algorithm>
+#include <climits>
+#include <set>
 
 #include "platform/pagesonsheet.h"
 #include "platform/pdfnotes.h"
@@ -8,6 +11,7 @@
 #include "print/shortsteps.h"
 #include "printcookbook.h"
 #include "richtext/layoutdump.h"
+#include "support/fakeprinter.h"
 
 namespace sarne {
 namespace {
@@ -209,8 +213,9 @@ TEST(PrintedPage, LeadsFromAMentionToTheLinkedTextAndBack) {
                                                              "nelitujeme.\\par ") +
                                                          test::longText(9000))}),
          PrintCookbook::recipe(2, str("Lín")),
-         str("INSERT INTO Odkazy VALUES (5,'Rybí vývar',") + test::sqlText(test::rtf(str("Hlavy."))) +
-             str("),(6,'Aspik',") + test::sqlText(test::rtf(str("Rybí vývar ztuhne."))) + u')',
+         str("INSERT INTO Odkazy VALUES (5,'Rybí vývar',") +
+             test::sqlText(test::rtf(str("\\b Ryb\\'ed v\\'fdvar\\b0\\par Hlavy."))) + str("),(6,'Aspik',") +
+             test::sqlText(test::rtf(str("Rybí vývar ztuhne."))) + u')',
          str("INSERT INTO SpojOdkazy VALUES (1,5),(1,6)")});
     for (const Paper paper : {Paper::A4, Paper::TwoA5}) {
         const PrintOutcome outcome = book.print({1, 2}, {}, paper);
@@ -225,6 +230,8 @@ TEST(PrintedPage, LeadsFromAMentionToTheLinkedTextAndBack) {
         EXPECT_EQ(links, (QStringList{str("3 rybím vývaru,"), str("1 Odkaz: Aspik"), str("3 Rybí vývar"),
                                       str("1 Odkaz: Rybí vývar")}))
             << xml.right(3000).toStdString();
+        EXPECT_TRUE(textOf(outcome).contains(str("Odkaz: Rybí vývar Rybí vývar Hlavy.")))
+            << "as the data have it";
         static const QRegularExpression item(str("<item page=\"(\\d+)\">(.*?)</item>"));
         QStringList contents;
         for (const auto& match : item.globalMatch(xml)) contents << match.captured(2);
@@ -335,6 +342,78 @@ TEST(RecipeFlow, AsksAtEveryLineAndStopsAtOnce) {
         EXPECT_EQ(progress.left, 0) << "who has said no is not asked again";
         EXPECT_LT(metrics.measured, 20 * 10);
     }
+}
+
+/// Notes what it is told, and says no when it was asked \a patience times.
+class NotedProgress final : public PrintProgress {
+  public:
+    explicit NotedProgress(int patience = INT_MAX) : patience_(patience) {}
+    void recipeStarted(const QString&) override {}
+    void status(const QString&) override {}
+    void progressed(double part) override { parts.push_back(part); }
+    void recipeDone() override { ++recipes; }
+    bool goOn() override { return ++asked < patience_; }
+
+    std::vector<double> parts;
+    int asked = 0, recipes = 0;
+
+  private:
+    int patience_;
+};
+
+class PrintJobTest : public testing::Test {
+  protected:
+    PrintOutcome print(NotedProgress& progress) {
+        test::FixedMetrics metrics;
+        PageComposer composer(book.source(), printer.scale(), metrics);
+        return PrintJob(printer, composer, progress).print({{1, 2}, {}}, {}, str("Recepty"));
+    }
+
+    PrintCookbook book{
+        {PrintCookbook::recipe(1, str("Candát"), {str("Recept"), test::rtf(test::longText(20000))}),
+         PrintCookbook::recipe(2, str("Lín"))}};
+    FakePrinter printer;
+};
+
+TEST_F(PrintJobTest, TellsOfEveryLineAndPageAndIsFullAtTheEnd) {
+    NotedProgress progress;
+    const PrintOutcome outcome = print(progress);
+    ASSERT_GT(outcome.pages, 3);
+    const auto second = std::ranges::find(progress.parts, 1.);
+    ASSERT_NE(second, progress.parts.end());
+    const std::vector<double> first(progress.parts.begin(), second + 1);
+    EXPECT_TRUE(std::ranges::is_sorted(first));
+    const auto isPage = [](double part) { return part > kSetPart; };
+    EXPECT_EQ(std::ranges::count_if(first, isPage), outcome.pages - 1) << "the second recipe has one page";
+    const std::set<double> steps(first.begin(), first.end());
+    EXPECT_GT(steps.size(), 100u) << "lines";
+    EXPECT_EQ(progress.parts.back(), 1);
+    EXPECT_EQ(progress.recipes, 2);
+}
+
+TEST_F(PrintJobTest, StopsAtTheLineWhereItIsToldTo) {
+    NotedProgress patient;
+    const int pages = print(patient).pages;
+    EXPECT_GT(patient.asked, 400) << "once for each line that is set and each that is painted";
+    for (int patience = 1; patience < patient.asked; patience += 13) {
+        printer.pages = 0;
+        NotedProgress progress(patience);
+        const PrintOutcome outcome = print(progress);
+        EXPECT_EQ(outcome.kind, Kind::Stopped);
+        EXPECT_LE(progress.asked, patience + 1) << "nothing is done between two questions";
+        EXPECT_LE(outcome.pages, pages);
+        EXPECT_EQ(outcome.pages, printer.pages);
+        EXPECT_LT(progress.recipes, 2);
+    }
+}
+
+TEST(PrintedPage, AnAmountWithoutAUnitStandsOffTheOther) {
+    PrintCookbook book({PrintCookbook::recipe(1, str("Lín")), str("INSERT INTO Suroviny VALUES (4,'citron')"),
+                        str("INSERT INTO Jednotky VALUES (1,'g')"),
+                        str("INSERT INTO SpojSur VALUES (1,4,0,1,250,0,2,0)")});
+    for (const Paper paper : {Paper::A4, Paper::Card})
+        EXPECT_TRUE(textOf(book.print({1}, {}, paper)).endsWith(str("Porce: 4 citron (g): 250 2")))
+            << textOf(book.print({1}, {}, paper)).toStdString();
 }
 
 }  // namespace
