@@ -289,6 +289,9 @@ void media(Tour& tour) {
     tour.click(QStringLiteral("ImgTlacitko(4)"));
     tour.wait(kSlowScreen);
     tour.stop(QStringLiteral("frmVideo"), QStringLiteral("na-zacatku"));
+    tour.doubleClick(QStringLiteral("picVideo"));
+    tour.picture(QStringLiteral("frmVideo-cely-displej"));
+    tour.key(Qt::Key_Escape);
     tour.visitHelp();
     tour.key(Qt::Key_Escape);
 }

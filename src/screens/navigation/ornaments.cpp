@@ -40,14 +40,14 @@ void paintGlow(QPainter& painter, QPointF middle, double radius, QColor color, d
 
 /// A few puffs, one behind another, that rise, widen and vanish.
 void paintSteam(QPainter& painter, double phase) {
-    constexpr int kPuffs = 5;
+    constexpr int kPuffs = 9;
     constexpr double kLife = .45, kRise = 1350, kDrift = 260;  // a puff's share of the time; twips
     constexpr QColor kVapour(228, 226, 214);
     for (int puff = 0; puff < kPuffs; ++puff) {
         const double age = (phase - puff * (1 - kLife) / (kPuffs - 1)) / kLife;
         if (age <= 0 || age >= 1) continue;
         const double sway = kDrift * age + 60 * std::sin(7 * age + puff);
-        paintGlow(painter, kSpout + QPointF(sway, -kRise * age), 90 + 260 * age, kVapour, .2 * wave(age));
+        paintGlow(painter, kSpout + QPointF(sway, -kRise * age), 110 + 290 * age, kVapour, .15 * wave(age));
     }
 }
 
