@@ -132,8 +132,38 @@ def fillet(skin=False, **more):
     line = outline("carp", .26, .97)
     line[:, 1] = np.maximum(line[:, 1], -.11 * CARP * np.clip((line[:, 0] / CARP + .32) / .25, .35, 1))
     if skin:
-        return bare(cut(whole("carpscaled"), .26, .97))
+        return food.slab(line * (1, -1), .4, scaledskin(), 3.0, .05, .8, 20, .06, .01, 6, 3, side=food.fishskin("carp", "raw"))
     return food.slab(line, .4, fleshside(ribs=False, **more), 3.0, .05, .8, 20, .06, .01, 6, 3, side=food.fishskin("carp", "raw"))
+
+
+def scaledskin():
+    """The outer side of a fillet that lies with its back towards the eye: the bare pattern of scales, pale at the belly."""
+    h, w = 420, 900
+    v, u = np.mgrid[-1:1:h * 1j, 0:1:w * 1j]
+    row = np.floor((v + 1) * 11)
+    a, b = np.mod(u * 34 + .5 * np.mod(row, 2), 1) - .5, np.mod((v + 1) * 11, 1) - .5
+    edge = np.clip((np.hypot(a + .12, b * .95) - .4) / .1, 0, 1)
+    n = fbm(np.stack([u * 9, v * 4, u * 0], -1), 4, 5)
+    t = np.clip(.5 - .55 * v + .2 * (n - .5), 0, 1)[..., None]
+    img = np.array([.30, .27, .13]) * (1 - t) + np.array([.80, .72, .48]) * t
+    img = img * (1 - .3 * edge[..., None]) * (.9 + .2 * n[..., None])
+    line = np.exp(-((v - .02) / .012) ** 2) * (np.mod(u * 34, 1) < .6)
+    img = img * (1 - .45 * line[..., None])
+    return mat("scaledskin", "9a8a50", .24, .6, coat=.8, image=core.picture("scaledskin", img.clip(0, 1)), height=core.picture("scaledskinh", np.repeat((1 - edge)[..., None], 3, -1), True), heightscale=.3)
+
+
+def finebones():
+    """The forked fine bones of a fillet's back in a row, as if the flesh were glass."""
+    m = mat("finebone", ((.4, "f6efdc"), (.6, "fffaf0")), .35, coat=.4)
+    parts = []
+    for i in range(19):
+        x = -1.72 + i * .22
+        y = .42 - .012 * i
+        stem = [(x, y - .16, .1), (x + .1, y, .12)]
+        parts.append(tube(stem, [.022, .02], m, 6))
+        for dx, dy in ((.03, .2), (.2, .14)):
+            parts.append(tube([stem[1], (stem[1][0] + dx, stem[1][1] + dy, .12)], [.02, .009], m, 6))
+    return group(parts)
 
 
 def friedfillet():
@@ -207,6 +237,40 @@ def opened(gutted=True, washed=False):
     return group(parts)
 
 
+def gillcover(gills_in=True):
+    """The gutted carp with its gill cover lifted: red gills in the opening, or nothing but the hollow."""
+    g = opened(True)
+    core.bpy.context.view_layer.update()
+    nu, nv, v = 40, 12, []
+    for i in range(nu):
+        t = 2 * i / (nu - 1) - 1
+        y = (.004 + t * .088) * CARP
+        right = .252 - .03 * t * t
+        wide = .062 * math.sqrt(max(0, 1 - t * t)) + .002
+        for j in range(nv):
+            x = (right - .012 - wide * (1 - j / (nv - 1)) - .55) * CARP
+            v.append((x, y, core._cast(x, y)[0] + .03))
+    h, w = 260, 120
+    b, a = np.mgrid[0:1:h * 1j, 0:1:w * 1j]
+    n = fbm(np.stack([a * 3, b * 8, a * 0], -1), 4, 7)
+    if gills_in:
+        arch = np.mod(a * 3 + .12 * n, 1)
+        img = np.array([.48, .03, .03]) + np.array([.34, .06, .05]) * (.5 + .5 * np.cos(b * 2 * np.pi * 46 + 9 * n))[..., None] * .7
+        img = img * (1 - .65 * np.exp(-((arch - .02) / .1) ** 2))[..., None]
+        bow = np.exp(-((arch - .16) / .05) ** 2) * .7
+        img = img + (np.array([.90, .72, .62]) - img) * bow[..., None]
+    else:
+        img = np.array([.16, .05, .05]) + np.array([.30, .13, .11]) * (a * .8 + .4 * (n - .5))[..., None]
+    m = mat("gillhole%d" % gills_in, "6a1412", .2, .6, coat=.9, image=core.picture("gillhole%d" % gills_in, img.clip(0, 1)))
+    uv = [(j / (nv - 1), i / (nu - 1)) for i in range(nu) for j in range(nv)]
+    lid = mat("gilllid", ((.4, "6a5a30"), (.6, "b59c5a")), .25, .6, coat=.8, noise=3)
+    left = [v[i * nv] for i in range(nu)]
+    rim = [v[i * nv + nv - 1] for i in range(nu)]
+    parts = [g, mesh(v, core.grid_faces(nu, nv), m, uv=uv), tube(rim, [.035] * nu, inside(), 8)]
+    parts.append(tube([(x - .05, y, z + .12) for x, y, z in left], [.02 + .11 * math.sin(math.pi * i / (nu - 1)) for i in range(nu)], lid, 12))   # the lid, folded towards the eye
+    return group(parts)
+
+
 def entrails():
     """Liver, roe, swim bladder and the green gall bladder."""
     parts = []
@@ -236,10 +300,11 @@ def gills():
         r = .7 + .16 * k
         arc = [(r * math.cos(t) * .7, r * math.sin(t), .12 + .1 * k) for t in np.linspace(-1.2, 1.2, 20)]
         parts.append(tube(arc, .05, mat("gillbow", "e0b8a4", .4, coat=.5), 8))
-        for p in arc[1:-1]:
-            for s in np.linspace(0, 1, 3):
-                q = Vector((p[0], p[1], 0)).normalized()
-                parts.append(tube([p, (p[0] + .3 * q.x, p[1] + .3 * q.y + .04 * s, p[2] - .04 + .05 * s)], [.03, .008], m, 5))
+        fine = [(r * math.cos(t) * .7, r * math.sin(t), .12 + .1 * k) for t in np.linspace(-1.15, 1.15, 64)]
+        for i, p in enumerate(fine):
+            q = Vector((p[0], p[1], 0)).normalized()
+            reach = .34 + .05 * math.sin(i * 2.4)
+            parts.append(tube([p, (p[0] + reach * q.x, p[1] + reach * q.y, p[2] + .02 * math.sin(i * 1.7))], [.032, .02], m, 5))
     return group(parts)
 
 
@@ -298,7 +363,8 @@ def filled(kind):
     return group(parts)
 
 
-def potted(water=True):
+def potted(water=True, fish=None):
+    """A pot with broth; fish: two steaks in it, raw or poached, that the broth covers."""
     g = group([table.pot(2.9, 2.4, "steel")])
     if water:
         put(food.liquid("broth", 2.78, 1.75, wave=.03, clear=mat("potwater", "b59a58", .04, .6, trans=.5, ior=1.2, coat=.9, bump=.12, bumpscale=2)), 0, 0, 0).parent = g
@@ -307,6 +373,10 @@ def potted(water=True):
                 a = random.random() * 6.28
                 o = food.carrot_slice(.4) if kind == "carrot" else food.onion_ring(.5)
                 put(o, 1.9 * math.cos(a) * random.random(), 1.9 * math.sin(a) * random.random(), 1.72, tilt=random.uniform(-9, 9)).parent = g
+    for x, turn in ((-1.15, 8), (1.15, -6)) if fish else ():
+        put(food.horseshoe("raw" if fish == "raw" else "poached", .75, 4, "carp", "raw" if fish == "raw" else "white"), x, -.25, 1.3, turn=turn).parent = g
+    if fish:   # a thin veil of broth over them
+        put(food.liquid("broth", 2.74, 1.87, wave=.05, clear=mat("brothveil", "b59a58", .04, .6, coat=.9, alpha=.4, bump=.12, bumpscale=2)), 0, 0, 0).parent = g
     return g
 
 
@@ -366,6 +436,28 @@ def turnedout():
     return group(parts)
 
 
+def mouldover():
+    """The mould upside down: its foot and its outer side up."""
+    return put(table.bowl(2.4, 1.7, "dfe9e6", rim="teal"), 0, 0, 1.86, scale=(1, 1, -1))
+
+
+def rolledskin():
+    """A fried fish's skin, rolled up across the fish."""
+    outer, inner = food.fishskin("trout", "roasted"), mat("skininside", ((.4, "cdbb93"), (.6, "eee2c6")), .4, coat=.3, noise=3)
+    v = []
+    turns, n, k = 2.2, 60, 14
+    for i in range(n):
+        a = i / (n - 1) * turns * 2 * math.pi
+        r = .05 + .3 * i / (n - 1)
+        for j in range(k):
+            y = -.62 + 1.24 * j / (k - 1)
+            q = 1 - .18 * (y / .62) ** 2 + .05 * math.sin(y * 9 + a)
+            v.append((r * q * math.cos(a), y + .03 * math.sin(a * 3), .36 + r * q * math.sin(a)))
+    roll = mesh(v, core.grid_faces(n, k), outer)
+    v2 = [(x * .97, y, .36 + (z - .36) * .97) for x, y, z in v]
+    return group([roll, mesh(v2, core.grid_faces(n, k), inner)])
+
+
 def ladle():
     """A ladle, its bowl at the anchor."""
     m = table.steel()
@@ -373,11 +465,11 @@ def ladle():
     return group([cup, tube(curve_points([(.9, 0, .75), (1.6, 0, 1.1), (3.0, 0, 1.4), (5.0, 0, 1.5)], 8), .1, m, 12)])
 
 
-def thermometer():
-    """A probe thermometer: a steel needle, a round dial."""
+def thermometer(dipped=False):
+    """A probe thermometer: a steel needle, a round dial; dipped: what of it is seen above the broth."""
     m = table.steel()
     face = mat("dialface", "f4efe2", .4, coat=.5)
-    parts = [tube([(-3.2, 0, .3), (0, 0, .3)], [.03, .07], m, 12), put(lathe([(.01, 0), (.85, 0), (.9, .12), (.85, .26), (.76, .26)], m, 64), 1.0, 0, .15), put(lathe([(.01, .24), (.76, .24)], face, 64), 1.0, 0, .15)]
+    parts = [tube([(-1.7 if dipped else -3.2, 0, .3), (.2, 0, .3)], [.048 if dipped else .03, .07], m, 12), put(lathe([(.01, 0), (.85, 0), (.9, .12), (.85, .26), (.76, .26)], m, 64), 1.0, 0, .15), put(lathe([(.01, .24), (.76, .24)], face, 64), 1.0, 0, .15)]
     for i in range(9):
         a = math.radians(-220 + i * 32.5)
         parts.append(put(box(.14, .035, .02, table.iron()), 1.0 + .6 * math.cos(a), .6 * math.sin(a), .41, turn=math.degrees(a)))
@@ -442,12 +534,14 @@ THINGS = {
     "prkno": lambda: table.board(11, 6.6, "pale", False, .5, .5), "panev": lambda: fried(False), "panev-tuk": fried, "hrnec": lambda: potted(False), "hrnec-voda": potted, "poklice": lambda: table.potlid(2.9, "steel"),
     "talir": lambda: table.plate(4.0, "ece6da", "blue"), "misa": lambda: table.bowl(2.4, 1.6, "ece6da", rim="teal"), "talir-mouka": lambda: filled("flour"), "talir-vejce": lambda: filled("egg"),
     "talir-strouhanka": lambda: filled("crumbs"), "forma": lambda: aspic(False), "forma-aspik": aspic, "citron": lambda: food.lemon_half(.9), "sul": lambda: table.bowl(1.0, .7, "e9e0cc", inside="f7f4ec", rim="copper"),
-    "kapr-vymyty": lambda: opened(True, True), "kapr-filet-smazeny": lambda: friedfillet(), "prorez": sliced, "naberacka": ladle, "teplomer": thermometer,
+    "kapr-vymyty": lambda: opened(True, True), "kapr-filet-smazeny": lambda: friedfillet(), "prorez": sliced, "naberacka": ladle, "teplomer": thermometer, "teplomer-ponoreny": lambda: thermometer(True),
+    "kapr-zabry": lambda: gillcover(True), "kapr-bez-zaber": lambda: gillcover(False), "kustky": finebones, "hrnec-ryba": lambda: potted(fish="raw"), "hrnec-ryba-varena": lambda: potted(fish="done"),
+    "forma-dnem": mouldover, "svitek": rolledskin,
     "uterka": lambda: table.cloth("check", 5.2, 3.8, folds=.3), "forma-dno": lambda: aspicstage("dno"), "forma-kousky": lambda: aspicstage("kousky"), "aspik": turnedout,
     "ubrus": lambda: ground("ubrus"), "sporak": lambda: ground("sporak"),
 }
 GROUNDS = {"ubrus": 70, "sporak": 70}   # of these the middle, 18 x 14 units, is rendered at so many pixels a unit
-SMALLER = {"prkno": .66} | dict.fromkeys("panev panev-tuk hrnec hrnec-voda poklice talir talir-mouka talir-vejce talir-strouhanka misa forma forma-aspik forma-dno forma-kousky aspik uterka".split(), .5)   # share of the usual scale at which a large thing is rendered
+SMALLER = {"prkno": .66} | dict.fromkeys("panev panev-tuk hrnec hrnec-voda hrnec-ryba hrnec-ryba-varena forma-dnem poklice talir talir-mouka talir-vejce talir-strouhanka misa forma forma-aspik forma-dno forma-kousky aspik uterka".split(), .5)   # share of the usual scale at which a large thing is rendered
 
 
 def seen(o):

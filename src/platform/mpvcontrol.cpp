@@ -169,6 +169,8 @@ void MpvControl::Private::changed(const mpv_event_property& property) {
         filmPosition_ = qRound64(*static_cast<double*>(property.data) * 1000);
     else if (property.format == MPV_FORMAT_FLAG && *static_cast<int*>(property.data) != 0 && !target_)
         finish();
+    else
+        core_->followOutput(property);
 }
 
 void MpvControl::Private::finish() {
@@ -254,6 +256,11 @@ void MpvControl::setSilent(MediaSound sound) {
 void MpvControl::setVolume(double decibels) {
     d_->decibels_ = decibels;
     if (d_->core_) d_->core_->setDecibels(decibels);
+}
+
+void MpvControl::setSpeed(double factor) {
+    d_->speed_ = factor;
+    if (d_->core_) d_->core_->setSpeed(factor);
 }
 
 void MpvControl::setPosition(qint64 milliseconds) {

@@ -23,6 +23,7 @@ class MpvControl final : public MultimediaControl {
     MediaError lastError() const override;
     void setSilent(MediaSound sound) override;
     void setVolume(double decibels) override;
+    void setSpeed(double factor) override;
     void setNotify(MediaNotify notify) override;
     void setLoop(MediaLoop loop) override;
     void setWait(MediaWait wait) override;

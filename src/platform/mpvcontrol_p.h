@@ -39,6 +39,7 @@ class MpvControl::Private {
     MediaError error_ = MediaError::None;
     MediaSound sound_ = MediaSound::On;
     double decibels_ = 0;
+    double speed_ = 1;
     MediaNotify notify_ = MediaNotify::Off;
     MediaLoop loop_ = MediaLoop::Off;
     MediaWait wait_ = MediaWait::Wait;

@@ -50,6 +50,28 @@ constexpr std::pair<const char*, const char*> playerOptions[] = {
     {"demuxer-max-back-bytes", "0"},
 };
 
+constexpr char kOutput[] = "current-ao";
+constexpr char kDevices[] = "audio-device-list";
+constexpr quint64 kPositionTag = 1, kDevicesTag = 2;
+
+/// The text that a node of a player's answer holds under \a key.
+QString textUnder(const mpv_node& node, const char* key) {
+    if (node.format != MPV_FORMAT_NODE_MAP) return {};
+    for (int i = 0; i < node.u.list->num; ++i) {
+        const mpv_node& value = node.u.list->values[i];
+        if (qstrcmp(node.u.list->keys[i], key) == 0 && value.format == MPV_FORMAT_STRING)
+            return QString::fromUtf8(value.u.string);
+    }
+    return {};
+}
+
+QStringList deviceNames(const mpv_node& list) {
+    QStringList names;
+    for (int i = 0; list.format == MPV_FORMAT_NODE_ARRAY && i < list.u.list->num; ++i)
+        names.append(textUnder(list.u.list->values[i], "name"));
+    return names;
+}
+
 }  // namespace
 
 std::unique_ptr<MpvCore> MpvCore::start(const MpvLibrary& mpv, const std::function<void()>& wakeup) {
@@ -60,6 +82,7 @@ std::unique_ptr<MpvCore> MpvCore::start(const MpvLibrary& mpv, const std::functi
     std::unique_ptr<MpvCore> core(new MpvCore(mpv, handle, wakeup));
     if (mpv.initialize(handle) < 0) return {};
     mpv.observeProperty(handle, 0, "eof-reached", MPV_FORMAT_FLAG);
+    mpv.observeProperty(handle, 0, kOutput, MPV_FORMAT_STRING);
     return core;
 }
 
@@ -109,6 +132,10 @@ void MpvCore::setDecibels(double decibels) {
     mpv_.setPropertyAsync(handle_, 0, "volume", MPV_FORMAT_DOUBLE, &volume);
 }
 
+void MpvCore::setSpeed(double factor) {
+    mpv_.setPropertyAsync(handle_, 0, "speed", MPV_FORMAT_DOUBLE, &factor);
+}
+
 void MpvCore::seek(qint64 milliseconds, quint64 tag) {
     const QByteArray target = QByteArray::number(static_cast<double>(milliseconds) / 1000, 'f', 3);
     const char* command[] = {"seek", target.constData(), "absolute+exact", nullptr};
@@ -124,10 +151,33 @@ void MpvCore::askForEnd() {
     mpv_.getPropertyAsync(handle_, 0, "eof-reached", MPV_FORMAT_FLAG);
 }
 
+void MpvCore::followOutput(const mpv_event_property& property) {
+    if (property.format == MPV_FORMAT_STRING && qstrcmp(property.name, kOutput) == 0)
+        carryOut(output_.output(QString::fromUtf8(*static_cast<char**>(property.data))));
+    else if (property.format == MPV_FORMAT_NODE && qstrcmp(property.name, kDevices) == 0)
+        carryOut(output_.devices(deviceNames(*static_cast<mpv_node*>(property.data))));
+}
+
+void MpvCore::carryOut(OutputWatch::Act act) {
+    const char* reload[] = {"ao-reload", nullptr};
+    switch (act) {
+        case OutputWatch::Act::None:
+            return;
+        case OutputWatch::Act::Follow:
+            mpv_.observeProperty(handle_, kDevicesTag, kDevices, MPV_FORMAT_NODE);
+            return;
+        case OutputWatch::Act::Leave:
+            mpv_.unobserveProperty(handle_, kDevicesTag);
+            return;
+        case OutputWatch::Act::Reopen:
+            mpv_.commandAsync(handle_, 0, reload);
+            return;
+    }
+}
+
 void MpvCore::followPosition(bool follow) {
-    constexpr quint64 positionTag = 1;
-    mpv_.unobserveProperty(handle_, positionTag);
-    if (follow) mpv_.observeProperty(handle_, positionTag, "time-pos", MPV_FORMAT_DOUBLE);
+    mpv_.unobserveProperty(handle_, kPositionTag);
+    if (follow) mpv_.observeProperty(handle_, kPositionTag, "time-pos", MPV_FORMAT_DOUBLE);
 }
 
 bool MpvCore::flag(const char* property) const {

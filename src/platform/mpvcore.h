@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "platform/mpvlibrary.h"
+#include "platform/outputwatch.h"
 
 namespace sarne {
 
@@ -29,6 +30,8 @@ class MpvCore {
     void setText(const char* property, const char* value);
     /// How loud it plays against the file.
     void setDecibels(double decibels);
+    /// How fast it plays; voices keep their pitch.
+    void setSpeed(double factor);
     /// Asks to go to \a milliseconds, or to the end. Answered by a command reply with \a tag and, when it
     /// succeeds, a restart.
     void seek(qint64 milliseconds, quint64 tag);
@@ -36,6 +39,8 @@ class MpvCore {
 
     /// Has the end of the file reported once more, whether or not it changed; it is an event on every change.
     void askForEnd();
+    /// Lets a player without sound be heard when a device appears. Gets every property that has changed.
+    void followOutput(const mpv_event_property& property);
     /// From now on, or no longer, every change of the position is an event.
     void followPosition(bool follow);
 
@@ -55,11 +60,13 @@ class MpvCore {
     const MpvLibrary& library() const { return mpv_; }
 
   private:
+    void carryOut(OutputWatch::Act act);
     MpvCore(const MpvLibrary& mpv, mpv_handle* handle, const std::function<void()>& wakeup);
 
     MpvLibrary mpv_;
     mpv_handle* handle_;
     std::function<void()> wakeup_;
+    OutputWatch output_;
 };
 
 }  // namespace sarne

@@ -71,6 +71,7 @@ bool MpvControl::Private::startPlayer() {
     });
     core_->setFlag("mute", sound_ == MediaSound::Silent);
     core_->setDecibels(decibels_);
+    core_->setSpeed(speed_);
     return true;
 }
 

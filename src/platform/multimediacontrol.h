@@ -71,6 +71,9 @@ class MultimediaControl : public QObject {
     /// How loud it plays, in \a decibels against the file: 0 as it is, less below 0. Takes effect at once,
     /// lasts over files.
     virtual void setVolume(double decibels) = 0;
+    /// How fast it plays: 1 as it is, 0.5 half as fast; voices keep their pitch. Takes effect at once, lasts
+    /// over files.
+    virtual void setSpeed(double factor) = 0;
     /// Whether done() is emitted.
     virtual void setNotify(MediaNotify notify) = 0;
     /// Looping: at its end the file starts again with no gap that can be heard, and done() does not come.

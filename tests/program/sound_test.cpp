@@ -87,6 +87,7 @@ TEST_F(ProgramSoundTest, ADevicePulledOutSilencesAndEndsNothing) {
     press(Qt::Key_Escape);
 
     ASSERT_TRUE(server.plugDevice());
+    EXPECT_TRUE(server.waitForTone(kWineTone)) << "the music goes on by itself";
     set({"opthudba(0)"});
     EXPECT_TRUE(server.waitForTone(kMusicTone));
     set({"chkNastav(1)"});

@@ -18,6 +18,7 @@ class FakeMultimedia final : public MultimediaControl {
     QHash<QString, MediaError> failing;
     MediaSound sound = MediaSound::On;
     double decibels = 0;
+    double speed = 1;
     MediaNotify notify = MediaNotify::Off;
     MediaLoop loop = MediaLoop::Off;
     MediaWait wait = MediaWait::Wait;
@@ -59,6 +60,7 @@ class FakeMultimedia final : public MultimediaControl {
     MediaError lastError() const override { return lastCode; }
     void setSilent(MediaSound value) override { sound = value; }
     void setVolume(double value) override { decibels = value; }
+    void setSpeed(double value) override { speed = value; }
     void setNotify(MediaNotify value) override { notify = value; }
     void setLoop(MediaLoop value) override { loop = value; }
     void setWait(MediaWait value) override { wait = value; }

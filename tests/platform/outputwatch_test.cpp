@@ -1,0 +1,129 @@
+#include "platform/outputwatch.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/mpvcore.h"
+
+namespace sarne {
+namespace {
+
+using Act = OutputWatch::Act;
+
+const QString kPulse = QStringLiteral("pulse"), kNull = QStringLiteral("null");
+const QStringList kNone{QStringLiteral("auto"), QStringLiteral("alsa")};
+const QStringList kOne = kNone + QStringList{QStringLiteral("pulse/usb")};
+const QStringList kOther = kNone + QStringList{QStringLiteral("pulse/hdmi")};
+
+TEST(OutputWatchTest, ADeviceThatComesBackIsTriedOnce) {
+    OutputWatch watch;
+    EXPECT_EQ(watch.output({}), Act::None);
+    EXPECT_EQ(watch.output(kPulse), Act::None);
+    EXPECT_EQ(watch.devices(kOne), Act::None) << "while there is sound nobody asks";
+    EXPECT_EQ(watch.output(kNull), Act::Follow);
+    EXPECT_EQ(watch.devices(kNone), Act::None) << "what there was at first is nothing new";
+    EXPECT_EQ(watch.devices(kNone), Act::None);
+    EXPECT_EQ(watch.devices(kOne), Act::Reopen);
+    EXPECT_EQ(watch.devices(kOne), Act::None) << "told twice, tried once";
+    EXPECT_EQ(watch.output({}), Act::None);
+    EXPECT_EQ(watch.output(kPulse), Act::Leave);
+    EXPECT_EQ(watch.output(kNull), Act::Follow);
+    EXPECT_EQ(watch.devices(kOne), Act::None) << "what is there at first was tried by the player itself";
+    EXPECT_EQ(watch.devices(kOther), Act::Reopen);
+    EXPECT_EQ(watch.devices(kNone), Act::None);
+    EXPECT_EQ(watch.devices(kOther), Act::Reopen) << "pulled and put back";
+}
+
+TEST(OutputWatchTest, WhereNothingWillSoundItGivesUp) {
+    OutputWatch watch;
+    watch.output(kNull);
+    int tries = 0;
+    for (int i = 0; i < 1000; ++i) {  // each opening in vain makes a device come and go
+        tries += watch.devices(i % 2 ? kOne : kNone) == Act::Reopen ? 1 : 0;
+        EXPECT_EQ(watch.output(kNull), Act::None);
+    }
+    EXPECT_GT(tries, 1);
+    EXPECT_LT(tries, 20);
+    watch.output(kPulse);
+    watch.output(kNull);
+    watch.devices(kNone);
+    EXPECT_EQ(watch.devices(kOne), Act::Reopen) << "sound in between gives new hope";
+}
+
+// What a player is asked to do; only the calls that a core without a file makes.
+struct Asked {
+    QStringList lines;
+};
+Asked asked;
+
+MpvLibrary fakeLibrary() {
+    asked = {};
+    MpvLibrary mpv;
+    mpv.create = [] { return reinterpret_cast<mpv_handle*>(&asked); };
+    mpv.initialize = [](mpv_handle*) { return 0; };
+    mpv.terminateDestroy = [](mpv_handle*) {};
+    mpv.setOptionString = [](mpv_handle*, const char*, const char*) { return 0; };
+    mpv.setWakeupCallback = [](mpv_handle*, void (*)(void*), void*) {};
+    mpv.observeProperty = [](mpv_handle*, uint64_t, const char* name, mpv_format) {
+        asked.lines += QStringLiteral("observe ") + QString::fromUtf8(name);
+        return 0;
+    };
+    mpv.unobserveProperty = [](mpv_handle*, uint64_t tag) {
+        asked.lines += QStringLiteral("unobserve %1").arg(tag);
+        return 1;
+    };
+    mpv.commandAsync = [](mpv_handle*, uint64_t, const char** words) {
+        asked.lines += QString::fromUtf8(words[0]);
+        return 0;
+    };
+    return mpv;
+}
+
+void tellOutput(MpvCore& core, const char* driver) {
+    mpv_event_property property{"current-ao", MPV_FORMAT_STRING, &driver};
+    core.followOutput(property);
+}
+
+void tellDevices(MpvCore& core, const QStringList& names) {
+    std::vector<QByteArray> bytes;
+    for (const QString& name : names) bytes.push_back(name.toUtf8());
+    char key[] = "name";
+    char* keys[] = {key};
+    std::vector<mpv_node> values(bytes.size()), devices(bytes.size());
+    std::vector<mpv_node_list> maps(bytes.size());
+    for (size_t i = 0; i < bytes.size(); ++i) {
+        values[i].format = MPV_FORMAT_STRING;
+        values[i].u.string = bytes[i].data();
+        maps[i] = {1, &values[i], keys};
+        devices[i].format = MPV_FORMAT_NODE_MAP;
+        devices[i].u.list = &maps[i];
+    }
+    mpv_node_list list{int(devices.size()), devices.data(), nullptr};
+    mpv_node all;
+    all.format = MPV_FORMAT_NODE_ARRAY;
+    all.u.list = &list;
+    core.followOutput({"audio-device-list", MPV_FORMAT_NODE, &all});
+}
+
+TEST(OutputWatchTest, ThePlayerIsAskedAccordingly) {
+    const auto core = MpvCore::start(fakeLibrary(), [] {});
+    ASSERT_TRUE(core);
+    EXPECT_TRUE(asked.lines.contains(QStringLiteral("observe current-ao")));
+    asked.lines.clear();
+    tellOutput(*core, "pulse");
+    tellDevices(*core, kOne);
+    EXPECT_EQ(asked.lines, QStringList()) << "with sound, devices are not even looked for";
+    tellOutput(*core, "null");
+    tellDevices(*core, kNone);
+    for (int i = 0; i < 3; ++i) tellDevices(*core, kOne);
+    core->followOutput({"audio-device-list", MPV_FORMAT_NONE, nullptr});
+    core->followOutput({"current-ao", MPV_FORMAT_NONE, nullptr});
+    EXPECT_EQ(asked.lines,
+              (QStringList{QStringLiteral("observe audio-device-list"), QStringLiteral("ao-reload")}));
+    tellOutput(*core, "pulse");
+    EXPECT_EQ(asked.lines.last(), QStringLiteral("unobserve 2"));
+}
+
+}  // namespace
+}  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later
