@@ -374,9 +374,9 @@ def potted(water=True, fish=None):
                 o = food.carrot_slice(.4) if kind == "carrot" else food.onion_ring(.5)
                 put(o, 1.9 * math.cos(a) * random.random(), 1.9 * math.sin(a) * random.random(), 1.72, tilt=random.uniform(-9, 9)).parent = g
     for x, turn in ((-1.15, 8), (1.15, -6)) if fish else ():
-        put(food.horseshoe("raw" if fish == "raw" else "poached", .75, 4, "carp", "raw" if fish == "raw" else "white"), x, -.25, 1.3, turn=turn).parent = g
+        put(food.horseshoe("raw" if fish == "raw" else "poached", .75, 4, "carp", "raw" if fish == "raw" else "white"), x, -.7, 1.3, turn=turn).parent = g
     if fish:   # a thin veil of broth over them
-        put(food.liquid("broth", 2.74, 1.87, wave=.05, clear=mat("brothveil", "b59a58", .04, .6, coat=.9, alpha=.4, bump=.12, bumpscale=2)), 0, 0, 0).parent = g
+        put(food.liquid("broth", 2.74, 1.87, wave=.05, clear=mat("brothveil", "b59a58", .04, .6, coat=.9, alpha=.28, bump=.12, bumpscale=2)), 0, 0, 0).parent = g
     return g
 
 
