@@ -12,7 +12,7 @@ import sys
 
 ART = os.path.dirname(os.path.abspath(__file__))
 RENDERED = os.path.join(ART, "rendered")
-ICONS = ("Tisk Help Zpet Konec Hudba ZvukOn ZvukOff Foto Vino Recept Uvod Odkazy Suroviny Pomucky Vlastni Hrat Stop Pauza NaZacatek NaKonec Lupa "
+ICONS = ("Tisk Help Zpet Konec Hudba ZvukOn ZvukOff Foto Vino Recept Uvod Odkazy Suroviny Pomucky Vlastni Hrat Stop Pauza NaZacatek NaKonec KapZpet KapDal Znovu Pomalu Lupa "
          "lzice zavazi Pribor2 Pribor4 Pribor6 Pribor8 Pribor10 Jablko SipkaNahoru SipkaDolu SipkaNahoruRychle SipkaDoluRychle Zaskrtnuto Nezaskrtnuto "
          "VolbaAno VolbaNe Skupina0 Skupina1 Skupina2 Skupina3 Ikona1 Ikona2 Ikona3 Ikona4 Varime Nakup Doma Kucharka Casovac "
          "Oddeleni0 Oddeleni1 Oddeleni2 Oddeleni3 Oddeleni4 Oddeleni5 Oddeleni6 Hostina").split()

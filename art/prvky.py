@@ -264,6 +264,35 @@ def NaKonec():
     return key("16555c", bar(.95, .36), pointer(-.25))
 
 
+def small(points, x, y=0, s=.62):
+    return [(x + s * px, y + s * py) for px, py in points]
+
+
+def KapZpet():
+    """Two pointers to the left: to the chapter before."""
+    return key("7a4a1c", small(pointer(0, -1), -.55, s=.78), small(pointer(0, -1), .6, s=.78))
+
+
+def KapDal():
+    return key("7a4a1c", small(pointer(0), -.6, s=.78), small(pointer(0), .55, s=.78))
+
+
+def Znovu():
+    """An arrow that turns round to its beginning: the chapter once more."""
+    def bow(r, a0, a1):
+        return [(r * math.cos(a), r * math.sin(a)) for a in [math.radians(a0 + (a1 - a0) * i / 24) for i in range(25)]]
+    return key("7a4a1c", bow(1.12, -200, 70) + bow(.7, 70, -200), [(-1.5, .1), (-.34, .1), (-.92, 1.05)])
+
+
+def Pomalu():
+    """One half: at half the speed."""
+    one = [(-.95, .1), (-.65, .1), (-.65, 1.15), (-.88, 1.15), (-1.2, .92), (-1.1, .72), (-.95, .8)]
+    stroke = [(-.95, -1.1), (-.68, -1.1), (.95, 1.1), (.68, 1.1)]
+    two = [(.25, -1.15), (1.2, -1.15), (1.2, -.92), (.66, -.92), (1.14, -.48), (1.18, -.25), (1.08, -.06), (.92, .05), (.7, .08), (.48, .02), (.34, -.12), (.26, -.32), (.5, -.36), (.56, -.22), (.7, -.15), (.86, -.2),
+           (.92, -.32), (.84, -.46), (.25, -.95)]
+    return key("16555c", one, stroke, two)
+
+
 def Lupa():
     ring = put(table.torus(1.25, .2, cop()), -.4, .4, .5)
     gl = put(sphere(1.22, lens_glass(), scale=(1, 1, .16), n=40), -.4, .4, .5)
@@ -589,7 +618,7 @@ def ZPET():
 
 
 CURSORS = ("ZPET", "SIPKANAHORU", "SIPKADOLU", "SIPKAVLEVO", "SIPKAVPRAVO")
-ICONS = ("Tisk Help Zpet Konec Hudba ZvukOn ZvukOff Foto Vino Recept Uvod Odkazy Suroviny Pomucky Vlastni Hrat Stop Pauza NaZacatek NaKonec Lupa lzice zavazi "
+ICONS = ("Tisk Help Zpet Konec Hudba ZvukOn ZvukOff Foto Vino Recept Uvod Odkazy Suroviny Pomucky Vlastni Hrat Stop Pauza NaZacatek NaKonec KapZpet KapDal Znovu Pomalu Lupa lzice zavazi "
          "Pribor2 Pribor4 Pribor6 Pribor8 Pribor10 Jablko SipkaNahoru SipkaDolu SipkaNahoruRychle SipkaDoluRychle Zaskrtnuto Nezaskrtnuto VolbaAno VolbaNe "
          "Skupina0 Skupina1 Skupina2 Skupina3 Ikona1 Ikona2 Ikona3 Ikona4 Varime Nakup Doma Kucharka Casovac "
          "Oddeleni0 Oddeleni1 Oddeleni2 Oddeleni3 Oddeleni4 Oddeleni5 Oddeleni6 Hostina").split()

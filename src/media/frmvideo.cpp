@@ -16,25 +16,28 @@
 namespace sarne {
 namespace {
 
-const TextFont kStatusFont{QStringLiteral("Arial"), 10};
+const TextFont kChapterFont{QStringLiteral("Arial"), 10}, kStatusFont{QStringLiteral("Arial"), 9};
 const TextFont kTimeFont{QStringLiteral("Arial"), 12};
-const TextFont kTitleFont{QStringLiteral("Arial"), 14, true};
+const TextFont kTitleFont{QStringLiteral("Arial"), 12, true};
 
-// The film, and below it, as wide, a plate: title and time, the bar, the state and the buttons.
+// The film, and below it, as wide, a plate: title, chapter, state and time, the bar, the buttons.
 constexpr QRect kArea(1400, 105, 9200, 6900);
 constexpr QRect kWholeScreen(0, 0, 12000, 9000);
 constexpr QRect kBarPlate(1400, 7065, 9200, 1860);
-constexpr QRect kTitle(1600, 7125, 7300, 390);
-constexpr QRect kTime(9000, 7125, 1400, 390);
+constexpr QRect kTitle(1600, 7125, 3550, 390);
+constexpr QRect kChapter(5200, 7125, 2700, 390);
+constexpr QRect kStatus(7900, 7125, 1350, 390);
+constexpr QRect kOpening(5200, 7125, 5200, 390);  // of the longer state before a film plays
+constexpr QRect kTime(9300, 7125, 1100, 390);
 constexpr QRect kBar(1600, 7530, 8800, 330);
-constexpr QRect kStatus(1600, 7905, 1560, 960);
-constexpr QRect kFirstButton(3180, 7905, 940, 975);
+constexpr QRect kButtons(1600, 7905, 7780, 975);
 constexpr QRect kBackButton(9500, 7905, 900, 975);
 constexpr int kLightsOut = 215;  // how dark the room is around a film on the whole screen, of 255
 
 constexpr int kStartDelay = 10;     // milliseconds: the form is on the screen before the file is opened
 constexpr int kProgressStep = 200;  // milliseconds
-constexpr qint64 kJump = 5000;      // milliseconds
+constexpr double kSlowSpeed = .5;
+constexpr qint64 kJump = 5000;  // milliseconds
 
 // The sound button's face and tip follow its switch.
 constexpr BarFace kFaces[] = {
@@ -46,6 +49,13 @@ constexpr BarFace kFaces[] = {
     {"NaKonec", QT_TRANSLATE_NOOP("Texts", "Na konec"), QT_TRANSLATE_NOOP("Texts", "Skok na konec")}};
 constexpr BarFace kSoundIsOff{"ZvukOff", QT_TRANSLATE_NOOP("Texts", "Zvuk"),
                               QT_TRANSLATE_NOOP("Texts", "Zapnout zvuk")};
+constexpr BarFace kChapterFaces[] = {
+    {"KapZpet", QT_TRANSLATE_NOOP("Texts", "Předchozí"), QT_TRANSLATE_NOOP("Texts", "Předchozí kapitola")},
+    {"Znovu", QT_TRANSLATE_NOOP("Texts", "Ještě jednou"),
+     QT_TRANSLATE_NOOP("Texts", "Kapitolu ještě jednou")},
+    {"KapDal", QT_TRANSLATE_NOOP("Texts", "Další"), QT_TRANSLATE_NOOP("Texts", "Další kapitola")},
+    {"Pomalu", QT_TRANSLATE_NOOP("Texts", "Pomalu"),
+     QT_TRANSLATE_NOOP("Texts", "Přehrávat poloviční rychlostí")}};
 constexpr BarFace kBack[] = {barface::kBack};
 
 QString clockText(qint64 milliseconds) {
@@ -62,8 +72,11 @@ frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
       title_(*this, QStringLiteral("lblNazev")),
       Label1(*this, QStringLiteral("Label1")),
       time_(*this, QStringLiteral("lblCas")),
+      chapter_(*this, QStringLiteral("lblKapitola")),
       bar_(*this, QStringLiteral("prgPozice")),
       ImgTlacitko(*this, QStringLiteral("ImgTlacitko"), kFaces, [this](int index) { press(index); }),
+      imgKapitola(*this, QStringLiteral("imgKapitola"), kChapterFaces,
+                  [this](int index) { pressChapter(index); }),
       imgBtn(*this, QStringLiteral("imgBtn"), kBack, {}),
       tmrStart(this),
       progress_(this) {
@@ -73,7 +86,7 @@ frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
     Label1.setColor(colors::kTitle);
     Label1.setWordWrap(true);
     Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    Label1.place(kStatus);
+    Label1.place(kOpening);
     title_.setFont(kTitleFont);
     title_.setColor(colors::kTitle);
     title_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -82,29 +95,38 @@ frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
     time_.setColor(colors::kTitle);
     time_.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     time_.place(kTime);
+    chapter_.setFont(kChapterFont);
+    chapter_.setColor(colors::kTitle);
+    chapter_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    chapter_.place(kChapter);
     bar_.place(kBar);
     placeButtons();
     connect(&area_, &VideoArea::doubleClicked, this, &frmVideo::toggleFullScreen);
     connect(&bar_, &SeekBar::sought, this, &frmVideo::seek);
     connect(&tmrStart, &Timer::tick, this, &frmVideo::start);
     progress_.setInterval(kProgressStep);
-    connect(&progress_, &Timer::tick, this, [this] {
-        bar_.show(MMControlVideo->position(), MMControlVideo->length());
-        time_.setText(clockText(MMControlVideo->position()) + QStringLiteral(" / ") +
-                      clockText(MMControlVideo->length()));
-    });
+    connect(&progress_, &Timer::tick, this, &frmVideo::showProgress);
     if (MMControlVideo) connect(MMControlVideo.get(), &MultimediaControl::done, this, &frmVideo::ended);
 }
 
 frmVideo::~frmVideo() = default;
 
-/// Left to right as they are used: play, pause, stop, to the beginning, to the end, sound.
+/// Left to right as they are used: the film, its places from the beginning to the end, how it plays. Each as
+/// wide as its name asks.
 void frmVideo::placeButtons() {
-    constexpr int kOrder[] = {kPlay, kPause, kStop, kPrev, kNext, kSound};
-    for (int at = 0; at < ImgTlacitko.count(); ++at)
-        ImgTlacitko[kOrder[at]].place(kFirstButton.translated(at * kFirstButton.width(), 0));
+    const std::pair<Button*, int> order[] = {{&ImgTlacitko[kPlay], 720},        {&ImgTlacitko[kPause], 720},
+                                             {&ImgTlacitko[kStop], 680},        {&ImgTlacitko[kPrev], 860},
+                                             {&imgKapitola[kChapterBack], 880}, {&imgKapitola[kAgain], 960},
+                                             {&imgKapitola[kChapterOn], 720},   {&ImgTlacitko[kNext], 800},
+                                             {&imgKapitola[kSlow], 740},        {&ImgTlacitko[kSound], 700}};
+    std::vector<TwipWidget*> stops;
+    int left = kButtons.left();
+    for (const auto& [button, width] : order) {
+        button->place({left, kButtons.top(), width, kButtons.height()});
+        left += width;
+        stops.push_back(button);
+    }
     imgBtn[0].place(kBackButton);
-    std::vector<TwipWidget*> stops = ImgTlacitko.stops();
     stops.push_back(&imgBtn[0]);
     ring().setStops(stops);
 }
@@ -116,6 +138,7 @@ void frmVideo::Zobraz(std::int16_t number) {
     Label1.setText(Texts::tr("Chvilku prosím počkejte, otevírám soubor s videem...."));
     applySound();
     app().PushScreen(*this);
+    number_ = number;
     if (MMControlVideo)
         MMControlVideo->setFileName(fileForPlayer(app(), QStringLiteral("VIDEO\\%1.AVI").arg(number)));
     tmrStart.setInterval(kStartDelay);
@@ -141,6 +164,7 @@ void frmVideo::start() {
     tmrStart.setEnabled(false);
     if (!MMControlVideo) return Skryj();
     stopMusic();
+    readChapters();
     MMControlVideo->setWait(MediaWait::DontWait);
     MMControlVideo->setNotify(MediaNotify::On);
     MMControlVideo->command(u"open");
@@ -160,7 +184,10 @@ void frmVideo::showError() {
 }
 
 void frmVideo::setPlaying(bool playing) {
-    if (playing) Label1.setText(Texts::tr("Přehrávám"));
+    if (playing) {
+        Label1.setText(Texts::tr("Přehrávám"));
+        Label1.place(kStatus);
+    }
     ImgTlacitko[kPlay].setLatched(playing);
     ImgTlacitko[kPause].setLatched(false);
 }
@@ -198,6 +225,50 @@ void frmVideo::press(int index) {
     }
 }
 
+void frmVideo::readChapters() {
+    chapters_ = Chapters::read(app().mediaFile(QStringLiteral("VIDEO\\%1.KAP").arg(number_)));
+    bar_.setChapters(chapters_);
+    for (const int step : {kChapterBack, kChapterOn}) imgKapitola[step].setEnabled(!chapters_.isEmpty());
+}
+
+void frmVideo::showProgress() {
+    const qint64 position = MMControlVideo->position();
+    bar_.show(position, MMControlVideo->length());
+    time_.setText(clockText(position) + QStringLiteral(" / ") + clockText(MMControlVideo->length()));
+    chapter_.setText(chapters_.titleAt(position));
+}
+
+void frmVideo::pressChapter(int index) {
+    if (!MMControlVideo) return;
+    const qint64 position = MMControlVideo->position();
+    switch (index) {
+        case kChapterBack:
+            return seek(chapters_.previous(position));
+        case kAgain:
+            return seeAgain();
+        case kChapterOn:
+            return seek(chapters_.next(position, MMControlVideo->length()));
+        case kSlow:
+            return toggleSpeed();
+        default:
+            return;
+    }
+}
+
+/// The chapter once more, whatever the film was doing; without chapters the whole film.
+void frmVideo::seeAgain() {
+    if (MMControlVideo->mode() == MediaMode::NotOpen) return;
+    seek(chapters_.again(MMControlVideo->position()));
+    if (MMControlVideo->mode() != MediaMode::Playing) MMControlVideo->command(u"play");
+    setPlaying(true);
+}
+
+void frmVideo::toggleSpeed() {
+    slow_ = !slow_;
+    MMControlVideo->setSpeed(slow_ ? kSlowSpeed : 1);
+    imgKapitola[kSlow].setLatched(slow_);
+}
+
 void frmVideo::pause() {
     const MediaMode before = MMControlVideo->mode();
     MMControlVideo->command(u"pause");
@@ -222,6 +293,7 @@ void frmVideo::applySound() {
 void frmVideo::seek(qint64 milliseconds) {
     if (MMControlVideo && MMControlVideo->mode() != MediaMode::NotOpen)
         MMControlVideo->setPosition(milliseconds);
+    if (progress_.isEnabled()) showProgress();
 }
 
 void frmVideo::jump(qint64 milliseconds) {
@@ -254,6 +326,29 @@ void frmVideo::unload() {
     Form::unload();
 }
 
+/// The keys that steer the film.
+bool frmVideo::mediaKey(int key) {
+    if (!MMControlVideo) return false;
+    switch (key) {
+        case Qt::Key_Space:
+            return pause(), true;
+        case Qt::Key_Left:
+            return jump(-kJump), true;
+        case Qt::Key_Right:
+            return jump(kJump), true;
+        case Qt::Key_PageUp:
+            return pressChapter(kChapterBack), true;
+        case Qt::Key_PageDown:
+            return pressChapter(kChapterOn), true;
+        case Qt::Key_J:
+            return pressChapter(kAgain), true;
+        case Qt::Key_P:
+            return pressChapter(kSlow), true;
+        default:
+            return false;
+    }
+}
+
 bool frmVideo::keyDown(QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Escape:
@@ -261,15 +356,6 @@ bool frmVideo::keyDown(QKeyEvent& event) {
                 toggleFullScreen();
             else
                 Skryj();
-            return true;
-        case Qt::Key_Space:
-            if (MMControlVideo) pause();
-            return true;
-        case Qt::Key_Left:
-            jump(-kJump);
-            return true;
-        case Qt::Key_Right:
-            jump(kJump);
             return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -279,6 +365,7 @@ bool frmVideo::keyDown(QKeyEvent& event) {
             toggleFullScreen();
             return true;
         default:
+            if (mediaKey(event.key())) return true;
             focusMoved_ |= event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
             return ring().keyDown(event);
     }

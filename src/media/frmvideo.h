@@ -7,6 +7,7 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/timer.h"
+#include "media/chapters.h"
 #include "media/seekbar.h"
 #include "media/videoarea.h"
 
@@ -14,8 +15,9 @@ namespace sarne {
 
 class MultimediaControl;
 
-/// Plays one of the program's clips, with a bar of transport buttons. The background music stops meanwhile.
-/// Made anew for each clip.
+/// Plays one of the program's clips, with a bar of transport buttons and steps by its chapters, which a file
+/// beside the clip tells ("VIDEO\" + number + ".KAP"; without one it is one part). The background music stops
+/// meanwhile. Made anew for each clip.
 class frmVideo : public Form {
     Q_OBJECT
   public:
@@ -39,8 +41,16 @@ class frmVideo : public Form {
   private:
     enum Transport { kSound, kPlay, kStop, kPause, kPrev, kNext };
 
+    enum ChapterStep { kChapterBack, kAgain, kChapterOn, kSlow };
+
     void placeButtons();
     void press(int index);
+    void pressChapter(int index);
+    void readChapters();
+    void showProgress();
+    void seeAgain();
+    void toggleSpeed();
+    bool mediaKey(int key);
     void start();
     void showError();
     void ended(int code);
@@ -58,10 +68,14 @@ class frmVideo : public Form {
     Label title_;  // of the clip, as its menu item reads
     Label Label1;
     Label time_;
+    Label chapter_;  // the title of the chapter that is on
     SeekBar bar_;
-    ButtonBar ImgTlacitko, imgBtn;
+    ButtonBar ImgTlacitko, imgKapitola, imgBtn;
     Timer tmrStart;
     Timer progress_;
+    Chapters chapters_;
+    std::int16_t number_ = 0;
+    bool slow_ = false;
     bool wholeScreen_ = false;
     bool focusMoved_ = false;  // the user has gone to a button with Tab
     bool closed_ = false;

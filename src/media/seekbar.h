@@ -1,10 +1,14 @@
 #pragma once
 
+#include <vector>
+
 #include "forms/control.h"
+#include "media/chapters.h"
 
 namespace sarne {
 
-/// A thin bar that shows how far something has played and takes clicks to go elsewhere.
+/// A thin bar that shows how far something has played and takes clicks to go elsewhere. Chapters are marks on
+/// it, which name themselves to the mouse; a click on a mark goes to the chapter's beginning.
 class SeekBar : public Control {
     Q_OBJECT
   public:
@@ -13,6 +17,8 @@ class SeekBar : public Control {
     QAccessible::Role role() const override { return QAccessible::Slider; }
     /// Both in milliseconds; a \a length of 0 means that nothing is known.
     void show(qint64 position, qint64 length);
+
+    void setChapters(const Chapters& chapters);
 
     /// The position that a click \a x twips from the left end asks for.
     qint64 positionAt(int x) const;
@@ -23,8 +29,13 @@ class SeekBar : public Control {
   protected:
     void paint(QPainter& painter) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
 
   private:
+    int middleOf(qint64 position) const;
+    void paintMarks(QPainter& painter, const QRectF& track) const;
+
+    Chapters chapters_;
     qint64 position_ = 0, length_ = 0;
 };
 

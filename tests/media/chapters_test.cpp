@@ -47,10 +47,9 @@ TEST(ChaptersTest, WithoutThemAFilmIsOnePart) {
 }
 
 TEST(ChaptersTest, DamagedOnesAreNone) {
-    for (const char* text :
-         {"9.17 První\n", "9,17\tPrvní\n", "\tPrvní\n", "-1\tPrvní\n", "nan\tPrvní\n", "inf\tPrvní\n",
-          "1e308\tPrvní\n", "1\t \n", "5\tDruhý\n4\tPrvní\n", "5\tPrvní\n5\tDruhý\n", "5\tPrvn\xED\n",
-          "1\tPrvní\n\x01\x02\n"})
+    for (const char* text : {"9.17 První\n", "9,17\tPrvní\n", "\tPrvní\n", "-1\tPrvní\n", "nan\tPrvní\n",
+                             "inf\tPrvní\n", "1e308\tPrvní\n", "1\t \n", "5\tDruhý\n4\tPrvní\n",
+                             "5\tPrvní\n5\tDruhý\n", "5\tPrvn\xED\n", "1\tPrvní\n\x01\x02\n"})
         EXPECT_TRUE(Chapters::parse(text).isEmpty()) << text;
     EXPECT_TRUE(Chapters::parse({}).isEmpty());
 }

@@ -119,6 +119,75 @@ TEST_F(VideoTest, TransportButtons) {
     EXPECT_NEAR(double(player->position()), 30000, 200) << "the right button is no seek";
 }
 
+TEST_F(VideoTest, StepsByChapter) {
+    QFile chapters(path("VIDEO/3.kap"));
+    ASSERT_TRUE(chapters.open(QIODevice::WriteOnly));
+    chapters.write("0\tPříprava\n10.5\tŘez\n40\tKonec díla\n");
+    chapters.close();
+    open();
+    start();
+    const auto title = [&] { return child<Label>(*form, "lblKapitola")->text(); };
+    const auto chapter = [&](int i) {
+        return child<Button>(*form, qPrintable(QStringLiteral("imgKapitola(%1)").arg(i)));
+    };
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(player->position(), 10500);
+    EXPECT_EQ(title(), QStringLiteral("Řez"));
+    QTest::mouseClick(chapter(2), Qt::LeftButton);
+    EXPECT_EQ(player->position(), 40000);
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(player->position(), 10500);
+    QTest::mouseClick(chapter(0), Qt::LeftButton);
+    EXPECT_EQ(player->position(), 0);
+    EXPECT_EQ(title(), QStringLiteral("Příprava"));
+    EXPECT_TRUE(player->playing());
+
+    player->setPosition(30000);
+    QTest::mouseClick(chapter(1), Qt::LeftButton);
+    EXPECT_EQ(player->position(), 10500) << "the chapter that is on";
+    player->end();
+    press(Qt::Key_J);
+    EXPECT_EQ(player->position(), 40000) << "at the end, the last one";
+    EXPECT_TRUE(player->playing());
+    EXPECT_EQ(status(), QStringLiteral("Přehrávám"));
+
+    auto* bar = form->findChild<SeekBar*>();
+    const auto markAt = [&](qint64 position) {
+        for (int x = 0; x < bar->twips().width(); ++x)
+            if (bar->positionAt(x) == position) return bar->toPixels(QPoint(x, bar->twips().height() / 2));
+        return QPoint(-1, -1);
+    };
+    QTest::mouseMove(bar, markAt(40000) + QPoint(1, 0));
+    EXPECT_EQ(bar->toolTip(), QStringLiteral("Konec díla"));
+    QTest::mouseClick(bar, Qt::LeftButton, {}, markAt(10500) + QPoint(1, 0));
+    EXPECT_EQ(player->position(), 10500) << "a mark leads to its chapter's beginning";
+}
+
+TEST_F(VideoTest, WithoutChaptersTheFilmIsOnePart) {
+    open();
+    start();
+    EXPECT_FALSE(child<Button>(*form, "imgKapitola(0)")->isEnabled());
+    EXPECT_FALSE(child<Button>(*form, "imgKapitola(2)")->isEnabled());
+    player->setPosition(30000);
+    press(Qt::Key_J);
+    EXPECT_EQ(player->position(), 0);
+    EXPECT_EQ(child<Label>(*form, "lblKapitola")->text(), QString());
+}
+
+TEST_F(VideoTest, PlaysSlowlyAndAsBefore) {
+    open();
+    press(Qt::Key_J);  // before anything is open
+    EXPECT_TRUE(player->commands.isEmpty());
+    start();
+    auto* slow = child<Button>(*form, "imgKapitola(3)");
+    QTest::mouseClick(slow, Qt::LeftButton);
+    EXPECT_EQ(player->speed, .5);
+    EXPECT_EQ(slow->frame(), Button::Frame::Pressed);
+    press(Qt::Key_P);
+    EXPECT_EQ(player->speed, 1);
+    EXPECT_EQ(slow->frame(), Button::Frame::Raised);
+}
+
 TEST_F(VideoTest, SoundIsKeptForTheNextClip) {
     open();
     EXPECT_EQ(button(0)->toolTip(), QStringLiteral("Vypnout zvuk"));
