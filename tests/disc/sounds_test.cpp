@@ -145,6 +145,36 @@ TEST(Scores, PartsBecomeNotes) {
     EXPECT_EQ(score.notes.size(), 18);
 }
 
+TEST(Scores, PartsMayHaveAPaceOfTheirOwn) {
+    Problems problems;
+    const Score score = readScore(
+        linesOf("tempo: 120\ntakt: 2\nprůběh: A A B A\nnástroj: kytara program=24\n== A\nakordy: C\nkytara: "
+                "c4:2\n== B\ntempo: 60\ntakt: 3\nakordy: C | C\nkytara: c4:3 | c4"),
+        problems);
+    EXPECT_EQ(problems.errors(), QStringList());
+    QStringList paces;
+    for (const Pace& pace : score.paces)
+        paces << QStringLiteral("%1:%2/%3").arg(pace.from).arg(pace.tempo).arg(pace.beats);
+    EXPECT_EQ(paces.join(u' ').toStdString(), "0:120/2 4:60/3 10:120/2");
+    EXPECT_EQ(score.length, 12);
+    EXPECT_NEAR(passFrames(score) / 32000.0, 3 + 6, 0.05);
+    EXPECT_EQ(passFrames(Score()), 0);
+}
+
+/// The music that ships: long enough not to be noticed as the same again, in more than one mood.
+TEST(Scores, ThoseThatShipAreLongAndFaultless) {
+    Problems problems;
+    const ContentFolder folder(QStringLiteral(SARNE_CONTENT), problems);
+    const auto seconds = [](const Score& score) { return passFrames(score) / 32000.0; };
+    const Score music = readScore(folder.read(QStringLiteral("zvuky/hudba.txt")), problems);
+    const Score wine = readScore(folder.read(QStringLiteral("zvuky/vina.txt")), problems);
+    EXPECT_EQ(problems.errors(), QStringList());
+    EXPECT_GE(seconds(music), 360);
+    EXPECT_GE(music.paces.size(), 3);
+    EXPECT_GE(seconds(wine), 180);
+    for (const Event& event : wine.events) EXPECT_LT(event.seconds, seconds(wine));
+}
+
 TEST(Scores, FaultsNameTheirLine) {
     const auto error = [](const char* part) { return firstError(readScore, (kHead + part).c_str()); };
     EXPECT_EQ(error("akordy: C\nkytara: c4:2"), "");

@@ -44,9 +44,24 @@ int channelOf(int instrument) {
     return instrument < 9 ? instrument : instrument + 1;
 }
 
-QList<Message> settings(const Score& score, int beatMicroseconds) {
-    QList<Message> all{{0, bytesOf({0xFF, 0x51, 3, beatMicroseconds >> 16 & 0xFF,
-                                    beatMicroseconds >> 8 & 0xFF, beatMicroseconds & 0xFF})}};
+int ticksOf(double beats) {
+    return static_cast<int>(std::lround(beats * kTicks));
+}
+
+Message tempo(double beat, int microseconds) {
+    return {ticksOf(beat), bytesOf({0xFF, 0x51, 3, microseconds >> 16 & 0xFF, microseconds >> 8 & 0xFF,
+                                    microseconds & 0xFF})};
+}
+
+QList<Message> tempos(const Score& score, const Surroundings& around, const QList<int>& microseconds) {
+    QList<Message> all{tempo(0, microseconds.last())};
+    for (int i = 0; i < microseconds.size(); ++i)
+        all << tempo(around.before + score.paces[i].from, microseconds[i]);
+    return all << tempo(around.before + score.length, microseconds.first());
+}
+
+QList<Message> settings(const Score& score) {
+    QList<Message> all;
     for (int i = 0; i < std::min<qsizetype>(15, score.instruments.size()); ++i) {
         const Instrument& player = score.instruments[i];
         const int channel = channelOf(i);
@@ -58,14 +73,22 @@ QList<Message> settings(const Score& score, int beatMicroseconds) {
     return all;
 }
 
-void addPass(const Score& score, int startTick, QList<Message>& all) {
+bool isDownbeatOf(const Score& score, double beat) {
+    const auto later = std::find_if(score.paces.cbegin(), score.paces.cend(),
+                                    [&](const Pace& pace) { return pace.from > beat + 1e-6; });
+    const Pace& pace = *(later - 1);
+    return std::fmod(beat - pace.from, pace.beats) < 1e-6;
+}
+
+/// Adds what begins from one beat of the piece to another, as if the piece began at \a start.
+void addNotes(const Score& score, double start, double first, double end, QList<Message>& all) {
     std::mt19937 dice(1);
     for (const Note& note : score.notes) {
-        const bool isDownbeat = std::fmod(note.from, score.beats) < 1e-6;
+        const bool isDownbeat = isDownbeatOf(score, note.from);
         const int strength = static_cast<int>(80 * note.strength) + (isDownbeat ? kDownbeat : 0) +
                              static_cast<int>(dice() % (2 * kUnevenLoudness + 1)) - kUnevenLoudness;
-        const int from = startTick + static_cast<int>(std::lround(note.from * kTicks)) +
-                         static_cast<int>(dice() % (kUnevenTicks + 1));
+        const int from = ticksOf(start + note.from) + static_cast<int>(dice() % (kUnevenTicks + 1));
+        if (note.from < first - 1e-6 || note.from >= end - 1e-6) continue;
         const int to = from + std::max(10, static_cast<int>(note.length * kTicks * kSounding) - kUnevenTicks);
         const int channel = channelOf(std::min(note.instrument, 14));
         all << Message{from, bytesOf({0x90 | channel, note.pitch, std::clamp(strength, 1, 127)})}
@@ -75,10 +98,12 @@ void addPass(const Score& score, int startTick, QList<Message>& all) {
 
 }  // namespace
 
-QByteArray midiFile(const Score& score, int passes, int beatMicroseconds) {
-    QList<Message> all = settings(score, beatMicroseconds);
-    const int passTicks = static_cast<int>(std::lround(score.length * kTicks));
-    for (int pass = 0; pass < passes; ++pass) addPass(score, pass * passTicks, all);
+QByteArray midiFile(const Score& score, const Surroundings& around, const QList<int>& beatMicroseconds) {
+    QList<Message> all = tempos(score, around, beatMicroseconds) + settings(score);
+    const double pass = around.before, next = pass + score.length;
+    addNotes(score, pass - score.length, score.length - around.before, score.length, all);
+    addNotes(score, pass, 0, score.length, all);
+    addNotes(score, next, 0, around.behind, all);
     std::stable_sort(all.begin(), all.end(),
                      [](const Message& a, const Message& b) { return a.tick < b.tick; });
     QByteArray track;
@@ -87,7 +112,7 @@ QByteArray midiFile(const Score& score, int passes, int beatMicroseconds) {
         track += variableLength(message.tick - tick) + message.bytes;
         tick = message.tick;
     }
-    track += variableLength(std::max(0, passes * passTicks - tick)) + bytesOf({0xFF, 0x2F, 0});
+    track += variableLength(std::max(0, ticksOf(next + around.behind) - tick)) + bytesOf({0xFF, 0x2F, 0});
     return "MThd" + big<quint32>(6) + big<quint16>(0) + big<quint16>(1) + big<quint16>(kTicks) + "MTrk" +
            big<quint32>(static_cast<quint32>(track.size())) + track;
 }

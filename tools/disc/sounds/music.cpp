@@ -16,18 +16,33 @@ namespace {
 constexpr int kRate = 32000;
 /// The synthesiser counts in blocks.
 constexpr int kBlock = 64;
-constexpr int kPasses = 3;
+/// What rings over from the end of a pass has died away within this time.
+constexpr double kRinging = 8;
 /// The beginning is blended out of what really follows the end.
 constexpr int kBlendFrames = kRate / 50;
 constexpr int kTimeout = 170'000;
 
-int beatFrames(const Score& score) {
-    return std::max(1, static_cast<int>(std::lround(60.0 / score.tempo * kRate / kBlock))) * kBlock;
+int beatFrames(const Pace& pace) {
+    return std::max(1, static_cast<int>(std::lround(60.0 / pace.tempo * kRate / kBlock))) * kBlock;
+}
+
+/// How many beats the pace \a index of the score holds.
+double beatsOf(const Score& score, int index) {
+    const double end = index + 1 < score.paces.size() ? score.paces[index + 1].from : score.length;
+    return end - score.paces[index].from;
+}
+
+/// The end of the pass before, long enough to ring over, and a beat of the next.
+Surroundings surroundings(const Score& score) {
+    const int last = static_cast<int>(score.paces.size()) - 1;
+    const double ringing = std::ceil(kRinging * score.paces[last].tempo / 60);
+    return {std::min(ringing, std::floor(beatsOf(score, last))), std::min(1.0, beatsOf(score, 0))};
 }
 
 QString soundFont() {
-    for (const char* name : {"FluidR3_GM.sf2", "default-GM.sf2", "TimGM6mb.sf2"}) {
-        QString file = QStringLiteral("/usr/share/sounds/sf2/") + QLatin1String(name);
+    for (const char* name : {"sf3/MuseScore_General_Full.sf3", "sf3/MuseScore_General.sf3",
+                             "sf2/FluidR3_GM.sf2", "sf2/default-GM.sf2", "sf2/TimGM6mb.sf2"}) {
+        QString file = QStringLiteral("/usr/share/sounds/") + QLatin1String(name);
         if (QFile::exists(file)) return file;
     }
     return {};
@@ -38,36 +53,53 @@ bool writeFile(const QString& name, const QByteArray& bytes) {
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
-/// All passes as the synthesiser plays them.
-Sound played(const Score& score, const QString& scratch) {
+/// A pass and its surroundings as the synthesiser plays them.
+Sound played(const Score& score, const Surroundings& around, const QString& scratch) {
     QDir().mkpath(scratch);
     const QTemporaryDir folder(scratch + QStringLiteral("/hudba"));
     const QString midi = folder.filePath(QStringLiteral("hudba.mid"));
     const QString wave = folder.filePath(QStringLiteral("hudba.wav"));
-    const int microseconds = static_cast<int>(std::lround(beatFrames(score) * 1e6 / kRate));
-    if (!writeFile(midi, midiFile(score, kPasses, microseconds))) return {};
+    QList<int> microseconds;
+    for (const Pace& pace : score.paces)
+        microseconds << static_cast<int>(std::lround(beatFrames(pace) * 1e6 / kRate));
+    if (!writeFile(midi, midiFile(score, around, microseconds))) return {};
     QProcess synthesiser;
     synthesiser.setStandardOutputFile(QProcess::nullDevice());
     synthesiser.setStandardErrorFile(QProcess::nullDevice());
-    synthesiser.start(QStringLiteral("fluidsynth"),
-                      {QStringLiteral("-n"), QStringLiteral("-i"), QStringLiteral("-q"), QStringLiteral("-C"),
-                       QStringLiteral("0"), QStringLiteral("-R"), QStringLiteral("1"), QStringLiteral("-g"),
-                       QStringLiteral("0.7"), QStringLiteral("-r"), QString::number(kRate),
-                       QStringLiteral("-O"), QStringLiteral("s16"), QStringLiteral("-T"),
-                       QStringLiteral("wav"), QStringLiteral("-F"), wave, soundFont(), midi});
+    synthesiser.start(QStringLiteral("fluidsynth"), {QStringLiteral("-n"),
+                                                     QStringLiteral("-i"),
+                                                     QStringLiteral("-q"),
+                                                     QStringLiteral("-C"),
+                                                     QStringLiteral("0"),
+                                                     QStringLiteral("-R"),
+                                                     QStringLiteral("1"),
+                                                     QStringLiteral("-g"),
+                                                     QStringLiteral("0.7"),
+                                                     QStringLiteral("-r"),
+                                                     QString::number(kRate),
+                                                     QStringLiteral("-o"),
+                                                     QStringLiteral("synth.dynamic-sample-loading=1"),
+                                                     QStringLiteral("-O"),
+                                                     QStringLiteral("s16"),
+                                                     QStringLiteral("-T"),
+                                                     QStringLiteral("wav"),
+                                                     QStringLiteral("-F"),
+                                                     wave,
+                                                     soundFont(),
+                                                     midi});
     if (!synthesiser.waitForFinished(kTimeout) || synthesiser.exitCode() != 0) return {};
     return readWav(wave);
 }
 
-/// The second pass, its beginning blended out of the third.
-Sound secondPass(const Sound& all, int length) {
+/// The pass that begins at frame \a from, its beginning blended out of the next.
+Sound wholePass(const Sound& all, int from, int length) {
     Sound pass{all.rate, all.channels, {}};
     pass.samples.resize(static_cast<size_t>(length) * static_cast<size_t>(all.channels));
     for (int i = 0; i < length; ++i) {
         const float own = std::min(1.0F, static_cast<float>(i) / kBlendFrames);
         for (int c = 0; c < all.channels; ++c) {
-            const float next = own < 1 ? all.at(2 * length + i, c) : 0;
-            pass.at(i, c) = own * all.at(length + i, c) + (1 - own) * next;
+            const float next = own < 1 ? all.at(from + length + i, c) : 0;
+            pass.at(i, c) = own * all.at(from + i, c) + (1 - own) * next;
         }
     }
     return pass;
@@ -106,18 +138,22 @@ void mixEvents(Sound& music, const Score& score, const QList<Effect>& effects, P
 }  // namespace
 
 int passFrames(const Score& score) {
-    return static_cast<int>(std::lround(score.length * beatFrames(score)));
+    double frames = 0;
+    for (int i = 0; i < score.paces.size(); ++i) frames += beatsOf(score, i) * beatFrames(score.paces[i]);
+    return static_cast<int>(std::lround(frames));
 }
 
 Sound renderMusic(const Score& score, const QList<Effect>& effects, double peak, const QString& scratch,
                   const Place& place, Problems& problems) {
-    const Sound all = played(score, scratch);
     const int length = passFrames(score);
-    if (length <= 0 || all.frames() < 2 * length + kBlendFrames) {
+    const Surroundings around = length > 0 ? surroundings(score) : Surroundings();
+    const Sound all = length > 0 ? played(score, around, scratch) : Sound();
+    const int from = length > 0 ? static_cast<int>(around.before * beatFrames(score.paces.last())) : 0;
+    if (length <= 0 || all.frames() < from + length + kBlendFrames) {
         problems.error(place, QStringLiteral("fluidsynth to se svou sadou zvuků nezahrál"));
         return {};
     }
-    Sound music = secondPass(all, length);
+    Sound music = wholePass(all, from, length);
     setPeak(music, peak);
     mixEvents(music, score, effects, problems);
     setPeak(music, peak);

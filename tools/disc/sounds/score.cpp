@@ -20,6 +20,7 @@ struct Voice {
 };
 
 struct Part {
+    Pace pace;
     QString chords;
     Place chordPlace;
     QMap<int, QList<Voice>> voices;
@@ -38,11 +39,8 @@ class Reader {
 
     void head(const Line& line) {
         const KeyValue entry = keyValue(line);
-        if (entry.key == QStringLiteral("tempo"))
-            positive(entry, score_.tempo);
-        else if (entry.key == QStringLiteral("takt"))
-            beats(entry);
-        else if (entry.key == QStringLiteral("průběh"))
+        if (readPace(entry, usual_)) return;
+        if (entry.key == QStringLiteral("průběh"))
             order_ = entry;
         else if (entry.key == QStringLiteral("nástroj"))
             instrument(entry);
@@ -54,6 +52,7 @@ class Reader {
 
     void part(const Section& section) {
         Part& part = parts_[section.title];
+        part.pace = usual_;
         for (const Line& line : section.lines)
             if (!line.isBlank()) partLine(part, line);
     }
@@ -74,10 +73,18 @@ class Reader {
             problems_.error(entry.place, QStringLiteral("%1 není číslo nad 0").arg(entry.key));
     }
 
-    void beats(const KeyValue& entry) {
-        double value = score_.beats;
-        positive(entry, value);
-        score_.beats = std::max(1, static_cast<int>(value));
+    /// Whether the line tells tempo or beats.
+    bool readPace(const KeyValue& entry, Pace& pace) {
+        if (entry.key == QStringLiteral("tempo")) {
+            positive(entry, pace.tempo);
+        } else if (entry.key == QStringLiteral("takt")) {
+            double value = pace.beats;
+            positive(entry, value);
+            pace.beats = std::max(1, static_cast<int>(value));
+        } else {
+            return false;
+        }
+        return true;
     }
 
     void instrument(const KeyValue& entry) {
@@ -116,6 +123,7 @@ class Reader {
 
     void partLine(Part& part, const Line& line) {
         KeyValue entry = keyValue(line);
+        if (readPace(entry, part.pace)) return;
         if (entry.key == QStringLiteral("akordy")) {
             part.chords = entry.value;
             part.chordPlace = entry.place;
@@ -133,13 +141,22 @@ class Reader {
 
     void playPart(const Part& part) {
         const QStringList chords = barsOf(part.chords);
+        setPace(part.pace);
         for (const QString& chord :
              part.chords.split(QRegularExpression(QStringLiteral("[\\s|]+")), Qt::SkipEmptyParts))
             if (chordTones(chord).isEmpty())
                 problems_.error(part.chordPlace, QStringLiteral("tohle není akord: %1").arg(chord));
         for (auto voice = part.voices.cbegin(); voice != part.voices.cend(); ++voice)
             for (const Voice& line : voice.value()) playVoice(voice.key(), line, chords);
-        score_.length += static_cast<double>(chords.size()) * score_.beats;
+        score_.length += static_cast<double>(chords.size()) * beats_;
+    }
+
+    void setPace(Pace pace) {
+        pace.from = score_.length;
+        beats_ = pace.beats;
+        if (score_.paces.isEmpty() || score_.paces.last().tempo != pace.tempo ||
+            score_.paces.last().beats != pace.beats)
+            score_.paces << pace;
     }
 
     void playVoice(int player, const Voice& voice, const QStringList& chords) {
@@ -150,8 +167,7 @@ class Reader {
                 QStringLiteral("taktů je %1, část jich má %2").arg(bars.size()).arg(chords.size()));
         length_ = 1;
         for (int bar = 0; bar < chords.size(); ++bar)
-            playBar(player, voice, bars.value(bar % bars.size()), chords[bar],
-                    score_.length + bar * score_.beats);
+            playBar(player, voice, bars.value(bar % bars.size()), chords[bar], score_.length + bar * beats_);
     }
 
     void playBar(int player, const Voice& voice, const QString& bar, const QString& chords, double from) {
@@ -161,12 +177,12 @@ class Reader {
             if (word.contains(u':') && (!readNumber(word.section(u':', 1), length_) || length_ <= 0))
                 problems_.error(voice.place, QStringLiteral("tohle není délka: %1").arg(word));
             const QStringList here = chords.split(u' ', Qt::SkipEmptyParts);
-            const int slot = std::min(static_cast<int>(at / score_.beats * static_cast<double>(here.size())),
+            const int slot = std::min(static_cast<int>(at / beats_ * static_cast<double>(here.size())),
                                       static_cast<int>(here.size()) - 1);
             playWord(player, voice, note, here.value(slot), from + at);
             at += length_;
         }
-        if (std::abs(at - score_.beats) > 1e-6)
+        if (std::abs(at - beats_) > 1e-6)
             problems_.error(voice.place, QStringLiteral("takt má %1 dob: %2").arg(at).arg(bar.trimmed()));
     }
 
@@ -213,6 +229,8 @@ class Reader {
     Problems& problems_;
     KeyValue order_;
     QMap<QString, Part> parts_;
+    Pace usual_;
+    int beats_ = 4;
     double length_ = 1;
 };
 

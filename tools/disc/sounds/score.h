@@ -39,10 +39,16 @@ struct Event {
     double side = 0;
 };
 
-struct Score {
-    /// Beats a minute and beats a bar.
+/// How fast a stretch of a piece goes: beats a minute and beats a bar, from a beat of the piece on.
+struct Pace {
+    double from = 0;
     double tempo = 90;
     int beats = 4;
+};
+
+struct Score {
+    /// In the order of time, the first at 0; a piece without parts has none.
+    QList<Pace> paces;
     double length = 0;  ///< in beats
     QList<Instrument> instruments;
     QList<Note> notes;
@@ -57,6 +63,7 @@ struct Score {
 ///   akordy: F | C7 Gm
 ///   klarinet: c5:1,5 a4:0,5 c5:1 | f5:2 -:1
 ///   kytara vzor: z:1 1+2+3 1+2+3
+/// A part may have a "tempo" and a "takt" of its own; those of the head hold for the others.
 /// Notes are c d e f g a h (b is the flat one) with "is" and "es", an octave and, behind a colon, a length in
 /// beats that holds until the next; "-" rests, "~" goes on, "+" joins a chord, a "*" behind the note is a
 /// tremolo. A pattern ("vzor") plays the tones of the bar's chord from the instrument's lowest note up, "z"
