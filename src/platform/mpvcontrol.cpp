@@ -192,10 +192,13 @@ void MpvControl::Private::pictureChanged() {
 
 MpvControl::MpvControl() : d_(std::make_unique<Private>(this)) {}
 
-MpvControl::~MpvControl() {
-    d_->picture_.reset();
-    d_->core_.reset();
+MpvControl::Private::~Private() {
+    if (loading_.valid()) loading_.get();
+    picture_.reset();
+    core_.reset();
 }
+
+MpvControl::~MpvControl() = default;
 
 void MpvControl::command(QStringView name) {
     using Act = void (Private::*)();

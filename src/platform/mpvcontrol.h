@@ -6,9 +6,9 @@
 
 namespace sarne {
 
-/// The multimedia control over libmpv. The library is loaded at the first "open", in a thread of its own when
-/// the control does not wait, so that a program that plays nothing does not pay for it. Without a sound
-/// device it is silent and time passes as usual.
+/// The multimedia control over libmpv. The library is loaded and its player started at the first "open", in a
+/// thread of its own, so that a program that plays nothing does not pay for it, and nobody waits who need
+/// not. Without a sound device it is silent and time passes as usual.
 class MpvControl final : public MultimediaControl {
     Q_OBJECT
 

@@ -20,6 +20,10 @@ class MpvControl::Private {
         QObject::connect(&timeout_, &QTimer::timeout, q, [this] { openFailed(MediaError::Internal); });
     }
 
+    ~Private();
+    Private(const Private&) = delete;
+    Private& operator=(const Private&) = delete;
+
     void open();
     void play();
     void pause();
@@ -52,9 +56,9 @@ class MpvControl::Private {
   private:
     static constexpr quint64 seekTag = 1;
 
-    void loadLibrary();
-    void libraryLoaded();
-    bool startPlayer();
+    void startPlayer();
+    void playerStarted();
+    void takePlayer(std::unique_ptr<MpvCore> core);
     void loadFile();
     void waitUntilOpen();
     MediaError fileError() const;
@@ -75,8 +79,7 @@ class MpvControl::Private {
 
     MpvControl* q_;
     QTimer timeout_;
-    std::optional<MpvLibrary> library_;
-    std::future<std::optional<MpvLibrary>> loading_;
+    std::future<std::unique_ptr<MpvCore>> loading_;  // the player starts in a thread of its own
     std::atomic<bool> wakeupPosted_ = false;
     std::atomic<bool> picturePosted_ = false;
     quint64 loadTag_ = seekTag;    // the number of the last "open"

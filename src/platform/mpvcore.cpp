@@ -74,8 +74,11 @@ QStringList deviceNames(const mpv_node& list) {
 
 }  // namespace
 
+void MpvCore::prepare() {
+    std::setlocale(LC_NUMERIC, "C");
+}
+
 std::unique_ptr<MpvCore> MpvCore::start(const MpvLibrary& mpv, const std::function<void()>& wakeup) {
-    std::setlocale(LC_NUMERIC, "C");  // libmpv starts under no other
     mpv_handle* handle = mpv.create();
     if (!handle) return {};
     for (const auto& [name, value] : playerOptions) mpv.setOptionString(handle, name, value);

@@ -14,8 +14,10 @@ namespace sarne {
 /// to comes as events.
 class MpvCore {
   public:
-    /// Starts a player that opens WAV and AVI files, paused, and stays at a file's end. Null when that fails.
-    /// \a wakeup is called from another thread whenever nextEvent() has something.
+    /// Gives numbers the locale without which no player starts. On the user thread, before start().
+    static void prepare();
+    /// Starts a player, in any thread. It opens WAV and AVI files, paused, and stays at a file's end. Null
+    /// when that fails. \a wakeup is called from another thread whenever nextEvent() has something.
     static std::unique_ptr<MpvCore> start(const MpvLibrary& mpv, const std::function<void()>& wakeup);
     ~MpvCore();
     MpvCore(const MpvCore&) = delete;

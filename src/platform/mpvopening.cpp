@@ -20,7 +20,7 @@ void MpvControl::Private::open() {
     opening_ = true;
     playWhenOpen_ = false;
     timeout_.start(openTimeoutMs);
-    loadLibrary();
+    startPlayer();
     if (wait_ == MediaWait::Wait) waitUntilOpen();
 }
 
@@ -32,37 +32,38 @@ MediaError MpvControl::Private::fileError() const {
     return MediaError::None;
 }
 
-void MpvControl::Private::loadLibrary() {
+void MpvControl::Private::startPlayer() {
     if (core_) return loadFile();
     if (loading_.valid()) return;
+    MpvCore::prepare();
     loading_ = std::async(std::launch::async, [q = q_, this] {
-        auto library = MpvLibrary::load();
+        const auto library = MpvLibrary::load();
+        std::unique_ptr<MpvCore> core;
+        if (library)
+            core = MpvCore::start(*library, [this] {
+                if (wakeupPosted_.exchange(true)) return;
+                QMetaObject::invokeMethod(
+                    q_, [this] { drainEvents(); }, Qt::QueuedConnection);
+            });
         QMetaObject::invokeMethod(
-            q, [this] { libraryLoaded(); }, Qt::QueuedConnection);
-        return library;
+            q, [this] { playerStarted(); }, Qt::QueuedConnection);
+        return core;
     });
 }
 
-/// Takes what the loading thread brought; nothing when a waiting "open" has taken it already.
-void MpvControl::Private::libraryLoaded() {
+/// Takes what the starting thread brought; nothing when a waiting "open" has taken it already.
+void MpvControl::Private::playerStarted() {
     if (!loading_.valid()) return;
-    library_ = loading_.get();
+    if (auto core = loading_.get()) takePlayer(std::move(core));
     if (!opening_) return;
-    if (startPlayer())
+    if (core_)
         loadFile();
     else
         openFailed(MediaError::NoPlayer);
 }
 
-bool MpvControl::Private::startPlayer() {
-    if (core_) return true;
-    if (!library_) return false;
-    core_ = MpvCore::start(*library_, [this] {
-        if (wakeupPosted_.exchange(true)) return;
-        QMetaObject::invokeMethod(
-            q_, [this] { drainEvents(); }, Qt::QueuedConnection);
-    });
-    if (!core_) return false;
+void MpvControl::Private::takePlayer(std::unique_ptr<MpvCore> core) {
+    core_ = std::move(core);
     picture_ = std::make_unique<MpvPicture>(*core_, [this, core = core_.get()] {
         core->wakeUp();
         if (picturePosted_.exchange(true)) return;
@@ -72,7 +73,7 @@ bool MpvControl::Private::startPlayer() {
     core_->setFlag("mute", sound_ == MediaSound::Silent);
     core_->setDecibels(decibels_);
     core_->setSpeed(speed_);
-    return true;
+    drainEvents();  // a wake-up while there was no player was heard by nobody
 }
 
 void MpvControl::Private::loadFile() {
@@ -83,7 +84,7 @@ void MpvControl::Private::loadFile() {
 }
 
 void MpvControl::Private::waitUntilOpen() {
-    if (loading_.valid()) libraryLoaded();
+    if (loading_.valid()) playerStarted();
     const QDeadlineTimer deadline(openTimeoutMs);
     while (opening_ && !deadline.hasExpired()) {
         drainEvents(deadline.remainingTime());
