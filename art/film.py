@@ -479,16 +479,19 @@ def thermometer(dipped=False):
 
 
 def sliced():
-    """The cut side of a scored fillet, bent open: thin leaves of flesh that hang together by the skin below."""
+    """A scored fillet from its side, bent open: leaves of flesh, in each the bits of a cut bone, on the skin that is whole."""
     m = mat("sliceleaf", ((.38, "dba794"), (.5, "ecc7b4"), (.62, "f6e0d4")), .28, .5, coat=.6, noise=2.5, bump=.25, cells=3)
-    parts, n = [], 15
+    bone = mat("cutbone", "fff8ea", .3, coat=.5)
+    parts, n, r = [], 17, 5.2
     for i in range(n):
-        q = (i - (n - 1) / 2) / ((n - 1) / 2)
-        leaf = food.slab([(-.15, -.9), (.15, -.9), (.16, 0), (.15, .95), (-.15, .95), (-.16, 0)], 1.9, m, 6, .03, 2, 10, 0, .01, 6, i)
-        parts.append(put(leaf, q * 2.9, 0, .32 - .22 * q * q, roll=q * 24))
-    skin_ = food.fishskin("carp", "raw")
-    strip = curve_points([(-3.1, 0, .02), (-1.5, 0, .22), (0, 0, .3), (1.5, 0, .22), (3.1, 0, .02)], 8)
-    parts.append(mesh([(x, y, z + .03) for x, _, z in strip for y in (-.95, 1.0)], core.grid_faces(len(strip), 2), skin_, uv=[(i / len(strip), j) for i in range(len(strip)) for j in (0, 1)]))
+        deg = -31 + 62 * i / (n - 1)
+        a = math.radians(deg)
+        leaf = [food.slab([(-.12, -.05), (.12, -.05), (.14, .9), (.13, 1.75), (-.13, 1.75), (-.14, .9)], .5, m, 6, .03, 2, 10, 0, .01, 6, i)]
+        leaf += [put(sphere(.055, bone, scale=(1.5, .8, .5), n=16), 0, y, .5, turn=30) for y in (.95 + .05 * math.sin(i * 2.1), 1.2 + .05 * math.sin(i * 1.3))]
+        parts.append(put(group(leaf), r * math.sin(a), r * math.cos(a) - r, 0, turn=-deg))
+    arc = [math.radians(-33 + 66 * i / 60) for i in range(61)]
+    band = [((r - .2) * math.sin(a), (r - .2) * math.cos(a) - r) for a in arc] + [((r + .02) * math.sin(a), (r + .02) * math.cos(a) - r) for a in reversed(arc)]
+    parts.append(food.slab(np.array(band), .54, food.fishskin("carp", "raw"), 4, .03, 1, 30, 0, .01, 6, 3, side=food.fishskin("carp", "raw")))
     return group(parts)
 
 

@@ -24,14 +24,14 @@ const TextFont kTitleFont{QStringLiteral("Arial"), 12, true};
 constexpr QRect kArea(1400, 105, 9200, 6900);
 constexpr QRect kWholeScreen(0, 0, 12000, 9000);
 constexpr QRect kBarPlate(1400, 7065, 9200, 1860);
-constexpr QRect kTitle(1600, 7125, 3550, 390);
-constexpr QRect kChapter(5200, 7125, 2700, 390);
-constexpr QRect kStatus(7900, 7125, 1350, 390);
+constexpr QRect kTitle(1600, 7125, 3500, 390);
+constexpr QRect kChapter(5150, 7125, 2700, 390);
+constexpr QRect kStatus(7850, 7110, 1280, 420);
 constexpr QRect kOpening(5200, 7125, 5200, 390);  // of the longer state before a film plays
-constexpr QRect kTime(9300, 7125, 1100, 390);
+constexpr QRect kTime(9130, 7125, 1300, 390);
 constexpr QRect kBar(1600, 7530, 8800, 330);
-constexpr QRect kButtons(1600, 7905, 7780, 975);
-constexpr QRect kBackButton(9500, 7905, 900, 975);
+constexpr QRect kButtons(1470, 7905, 8200, 975);
+constexpr QRect kBackButton(9740, 7905, 760, 975);
 constexpr int kLightsOut = 215;  // how dark the room is around a film on the whole screen, of 255
 
 constexpr int kStartDelay = 10;     // milliseconds: the form is on the screen before the file is opened
@@ -114,11 +114,11 @@ frmVideo::~frmVideo() = default;
 /// Left to right as they are used: the film, its places from the beginning to the end, how it plays. Each as
 /// wide as its name asks.
 void frmVideo::placeButtons() {
-    const std::pair<Button*, int> order[] = {{&ImgTlacitko[kPlay], 720},        {&ImgTlacitko[kPause], 720},
-                                             {&ImgTlacitko[kStop], 680},        {&ImgTlacitko[kPrev], 860},
-                                             {&imgKapitola[kChapterBack], 880}, {&imgKapitola[kAgain], 960},
-                                             {&imgKapitola[kChapterOn], 720},   {&ImgTlacitko[kNext], 800},
-                                             {&imgKapitola[kSlow], 740},        {&ImgTlacitko[kSound], 700}};
+    const std::pair<Button*, int> order[] = {{&ImgTlacitko[kPlay], 745},        {&ImgTlacitko[kPause], 740},
+                                             {&ImgTlacitko[kStop], 740},        {&ImgTlacitko[kPrev], 940},
+                                             {&imgKapitola[kChapterBack], 860}, {&imgKapitola[kAgain], 1060},
+                                             {&imgKapitola[kChapterOn], 740},   {&ImgTlacitko[kNext], 850},
+                                             {&imgKapitola[kSlow], 760},        {&ImgTlacitko[kSound], 740}};
     std::vector<TwipWidget*> stops;
     int left = kButtons.left();
     for (const auto& [button, width] : order) {

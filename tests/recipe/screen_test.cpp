@@ -160,6 +160,14 @@ TEST_F(ScreenTest, LinkPhrasesOpenKeywordsAndVideosOrBeep) {
     };
     clickLink(0);
     clickLink(1);
+    auto* video = new Form(run, QStringLiteral("frmVideo"));
+    run.PushScreen(*video);
+    video->showForm();
+    const int scrolled = view().scrolled();
+    run.PopScreen(*video);
+    EXPECT_EQ(focused(), QStringLiteral("picRecept")) << "back at the word that led to the film";
+    EXPECT_EQ(view().pieces().focused(), 1);
+    EXPECT_EQ(view().scrolled(), scrolled);
     clickLink(2);
     EXPECT_EQ(run.recorded.calls,
               (QStringList{QStringLiteral("showIndex 12"), QStringLiteral("showVideo 7")}));
@@ -259,6 +267,7 @@ TEST_F(ScreenTest, TabGoesFromTheSectionsThroughTheTextToTheBar) {
     run.awake.clear();
     run.PopScreen(*video);
     EXPECT_EQ(focused(), QStringLiteral("picRecept")) << "back where the link was";
+    EXPECT_EQ(view().pieces().focused(), 1);
     EXPECT_EQ(run.awake.size(), 1) << "and awake again";
 }
 

@@ -1,6 +1,7 @@
 #include "soundtrack.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "../nearword.h"
 #include "direct.h"
@@ -9,7 +10,9 @@ namespace sarne::disc {
 namespace {
 
 constexpr int kRate = 32000;
-constexpr double kHighestPeak = -3.3;
+/// Above the knee peaks are bent so that none passes the ceiling; what is coded for the disc may overshoot it
+/// by a decibel and a half.
+constexpr double kKnee = -7.5, kCeiling = -4.8;
 constexpr double kMusicLoudness = -5;
 constexpr double kEffectLoudness = -12;
 /// An effect at least so long goes on for as long as what sounds; a shorter one sounds once.
@@ -67,6 +70,16 @@ void addEffects(const Film& film, const QList<Effect>& effects, Sound& sound, Pr
     }
 }
 
+/// Where voice and work sound at once.
+void softenPeaks(Sound& sound) {
+    const auto knee = static_cast<float>(fromDecibels(kKnee));
+    const auto room = static_cast<float>(fromDecibels(kCeiling)) - knee;
+    for (float& sample : sound.samples) {
+        const float over = std::abs(sample) - knee;
+        if (over > 0) sample = std::copysign(knee + room * std::tanh(over / room), sample);
+    }
+}
+
 }  // namespace
 
 QList<Sound> speakScenes(const Script& script, const Voices& voices, Problems& problems) {
@@ -90,7 +103,7 @@ Sound makeSoundtrack(const Film& film, const QList<Sound>& speech, const QList<E
     for (int i = 0; i < speech.size(); ++i)
         add(sound, {speech[i]}, film.captions[i].begin + kBeforeSpeech, 1);
     addEffects(film, effects, sound, problems);
-    if (peakOf(sound) > fromDecibels(kHighestPeak)) setPeak(sound, kHighestPeak);
+    softenPeaks(sound);
     return sound;
 }
 
