@@ -22,6 +22,7 @@ constexpr int kGrid = 5;   // one does not look at the clock closer
 /// A step as it takes time.
 struct Stretch {
     QString text;
+    QString shown;        ///< the same with its hard blanks
     double waits = 0;     ///< short waits
     int longWait = 0;     ///< overnight and the like
     bool before = false;  ///< the long wait is over when the step begins
@@ -42,8 +43,9 @@ QStringList sentencesOf(QString text) {
 
 Stretch stretchOf(const QString& text) {
     Stretch one;
-    one.text = text;
-    for (const QString& sentence : sentencesOf(text)) {
+    one.shown = text;
+    one.text = plain(text);
+    for (const QString& sentence : sentencesOf(one.text)) {
         const int wait = book::waitOf(sentence);
         if (wait < kLongWait) {
             one.waits += wait;
@@ -71,7 +73,7 @@ int onGrid(double at) {
 /// What a step is about: its first sentence that is not about the oven; nothing where there is none.
 QString gistOf(const QString& text) {
     for (const QString& sentence : sentencesOf(text))
-        if (!book::lightsOven(sentence)) return sentence;
+        if (!book::lightsOven(plain(sentence))) return sentence;
     return {};
 }
 
@@ -84,7 +86,7 @@ class DishPlan {
   public:
     DishPlan(const PlannedDish& dish, std::vector<PlanLine>& lines) : dish_(dish), lines_(lines) {
         for (const CookingStep& step : dish.steps)
-            if (step.title.isEmpty()) stretches_.push_back(stretchOf(plain(step.text)));
+            if (step.title.isEmpty()) stretches_.push_back(stretchOf(step.text));
         begins_.resize(stretches_.size());
         ready_ = dish.served;
     }
@@ -133,7 +135,7 @@ class DishPlan {
             add(ovenTime(place), degrees.isEmpty() ? Texts::tr("Předehřát troubu")
                                                    : Texts::tr("Předehřát troubu na %1").arg(degrees));
         }
-        if (const QString gist = gistOf(text); !gist.isEmpty()) add(begins_[place], gist);
+        if (const QString gist = gistOf(stretches_[place].shown); !gist.isEmpty()) add(begins_[place], gist);
     }
 
     /// The oven is lit so that it is hot for the next step that bakes.
