@@ -77,6 +77,8 @@ TEST_F(KucharkaTest, ABookWithoutTheKitchensTablesOffersWhatItCan) {
     for (const char* table : {"Fakta", "Zbozi", "Kroky", "KrokySur", "Uprava", "Vyteznost"})
         ASSERT_TRUE(run_.database.Execute(QStringLiteral("DROP TABLE ") + QString::fromUtf8(table)));
     run_.recorded.goods = false;
+    press(open(), Qt::Key_Escape);
+    EXPECT_EQ(open().shelf(), Shelf::Starred);  // nothing of one's own yet, and no months
     RecipeMarks(run_.file()).setStars(5, QStringLiteral("Kapr na kmíně"), 2);
     frmKucharka& screen = open();
     EXPECT_EQ(rows(screen), QStringLiteral("Kapr na kmíně/★★☆☆☆/"));

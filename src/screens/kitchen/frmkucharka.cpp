@@ -103,8 +103,8 @@ void frmKucharka::makeShelves() {
 }
 
 void frmKucharka::Zobraz() {
-    read();
     shelf_ = Shelf::ThisMonth;
+    read();
     for (int i = kShelves; i-- > 0;)
         if (!onShelf(all_, Shelf(i), today_).empty()) shelf_ = Shelf(i);
     open();
