@@ -42,13 +42,29 @@ QStringList LinkMentions::stemsOf(const QString& text) {
 
 void LinkMentions::add(const QString& title, const QString& place) {
     linked_.push_back({stemsOf(title), place});
+    for (const QString& stem : linked_.back().stems) initials_ += stem.front();
 }
 
-std::vector<LinkMentions::Word> LinkMentions::wordsOf(std::vector<FlowLine>& lines) {
+/// False for a single word that begins with another letter than all that are looked for: it need not be
+/// folded.
+bool LinkMentions::mayBeNamed(const QString& text) const {
+    const auto letter = std::ranges::find_if(text, [](QChar c) { return c.isLetterOrNumber(); });
+    if (letter == text.end()) return false;
+    const QString parts = letter->decomposition();
+    const QChar initial = (parts.isEmpty() ? *letter : parts.front()).toLower();
+    const auto endsWord = [](QChar c) { return !c.isLetterOrNumber(); };
+    return initials_.contains(initial) || std::find_if(letter, text.end(), endsWord) != text.end();
+}
+
+std::vector<LinkMentions::Word> LinkMentions::wordsOf(std::vector<FlowLine>& lines) const {
     std::vector<Word> words;
     for (FlowLine& line : lines) {
         if (words.size() > kMostWords) break;
         for (const PageText& text : line.texts) {
+            if (!mayBeNamed(text.text)) {
+                words.push_back({{}, &line, &text});
+                continue;
+            }
             for (const QString& word : foldedWords(text.text).split(u' ', Qt::SkipEmptyParts))
                 words.push_back({word, &line, &text});
         }

@@ -29,10 +29,12 @@ class LinkMentions {
     QStringList markMentions(std::vector<FlowLine>& lines) const;
     static QStringList stemsOf(const QString& text);
     static bool isMention(const std::vector<Word>& words, size_t first, const QStringList& stems);
-    static std::vector<Word> wordsOf(std::vector<FlowLine>& lines);
+    std::vector<Word> wordsOf(std::vector<FlowLine>& lines) const;
+    bool mayBeNamed(const QString& text) const;
     static void link(const std::vector<Word>& words, size_t first, size_t count, const QString& target);
 
     std::vector<Linked> linked_;
+    QString initials_;  // of all stems
 };
 
 }  // namespace sarne
