@@ -299,12 +299,12 @@ void checkReachable(const QList<MenuRow>& rows, const Cookbook& book, Problems& 
     }
     for (const Recipe& recipe : book.recipes)
         if (!recipes.contains(recipe.id))
-            problems.error(recipe.place,
-                           QStringLiteral("k receptu „%1“ nevede žádná nabídka").arg(recipe.name));
+            problems.finding(recipe.place,
+                             QStringLiteral("k receptu „%1“ nevede žádná nabídka").arg(recipe.name));
     for (const QuickRecipe& entry : book.quick)
         if (!quick.contains(entry.id))
-            problems.error(entry.place,
-                           QStringLiteral("k rychlému receptu „%1“ nevede žádná nabídka").arg(entry.name));
+            problems.finding(entry.place,
+                             QStringLiteral("k rychlému receptu „%1“ nevede žádná nabídka").arg(entry.name));
 }
 
 }  // namespace sarne::disc

@@ -39,6 +39,21 @@ Workshop workshop(const Project& project, const Cookbook& book, Ledger& ledger, 
     return shop;
 }
 
+/// Reports the places of imported recipes where a person has yet to look.
+void checkMarks(const QString& content, const ContentFolder& folder, Problems& problems) {
+    for (const QString& name : folder.files(QStringLiteral("recepty"))) {
+        QFile file(content + u'/' + name);
+        if (!file.open(QIODevice::ReadOnly)) continue;
+        int number = 0;
+        for (const QByteArray& line : file.readAll().split('\n')) {
+            ++number;
+            if (line.startsWith("; ???"))
+                problems.finding({name, number}, QStringLiteral("tady se má podívat člověk: %1")
+                                                     .arg(QString::fromUtf8(line.mid(5)).trimmed()));
+        }
+    }
+}
+
 }  // namespace
 
 qint64 sizeOf(const QString& folder) {
@@ -92,6 +107,7 @@ void checkDisc(const Project& project, Problems& problems) {
     writeRecipeDatabase(book, scratch.filePath(QStringLiteral("Sarne.drc")), problems);
     Ledger ledger(scratch.filePath(QStringLiteral("made")));
     Workshop shop = workshop(project, book, ledger, problems);
+    checkMarks(project.content, folder, problems);
     checkPhotos(shop);
     checkSounds(shop);
     checkVideos(shop);

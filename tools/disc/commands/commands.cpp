@@ -18,7 +18,9 @@ constexpr Command kCommands[] = {
     {"novy", "založí malou kuchařku, která se hned dá sestavit", createDisc},
     {"recept", "přidá recept: zeptá se a napíše soubor s vysvětlivkami", createRecipe},
     {"zkontroluj", "řekne všechny chyby najednou", checkCommand},
-    {"sestav", "sestaví disk; vyrábí jen to, co se změnilo", buildCommand}};
+    {"sestav", "sestaví disk; vyrábí jen to, co se změnilo", buildCommand},
+    {"dovez", "recept z uložené webové stránky, z Cooklangu nebo z prostého textu", importRecipe},
+    {"vyvez", "recepty jako JSON-LD, Cooklang nebo Markdown", exportDisc}};
 
 void usage(std::FILE* to) {
     std::fputs("Použití: sarne-disc PŘÍKAZ [volby] [SLOŽKA]\n\n", to);
@@ -74,8 +76,8 @@ bool parseLine(QCommandLineParser& parser, const char* command, const QStringLis
     return false;
 }
 
-Project projectOf(const QCommandLineParser& parser) {
-    Project project = projectIn(parser.positionalArguments().value(0, QStringLiteral(".")));
+Project projectOf(const QCommandLineParser& parser, int word) {
+    Project project = projectIn(parser.positionalArguments().value(word, QStringLiteral(".")));
     const auto take = [&](const char* option, QString& folder) {
         const QString value = parser.value(QLatin1String(option));
         if (!value.isEmpty()) folder = QFileInfo(value).absoluteFilePath();

@@ -18,6 +18,8 @@ int createDisc(const QStringList& arguments);    // novy
 int createRecipe(const QStringList& arguments);  // recept
 int checkCommand(const QStringList& arguments);  // zkontroluj
 int buildCommand(const QStringList& arguments);  // sestav
+int importRecipe(const QStringList& arguments);  // dovez
+int exportDisc(const QStringList& arguments);    // vyvez
 
 /// The options that every command about a disc has: where its parts lie, which kind it is.
 void addProjectOptions(QCommandLineParser& parser);
@@ -26,8 +28,8 @@ void addProjectOptions(QCommandLineParser& parser);
 /// ended.
 bool parseLine(QCommandLineParser& parser, const char* command, const QStringList& arguments, int& code);
 
-/// The disc that a line asks for: in the first folder named behind the options, else here.
-Project projectOf(const QCommandLineParser& parser);
+/// The disc that a line asks for: in the folder that stands at \a word of the line, else here.
+Project projectOf(const QCommandLineParser& parser, int word = 0);
 
 /// Writes a line for the user, or for the user to heed.
 void say(const QString& line);

@@ -1,0 +1,133 @@
+#include <gtest/gtest.h>
+
+#include "disc/exchange/cooklang.h"
+#include "disc/exchange/ingredientline.h"
+#include "disc/exchange/jsonld.h"
+#include "disc/exchange/pastedtext.h"
+#include "disc/loadcookbook.h"
+
+namespace sarne::disc {
+namespace {
+
+const QStringList kUnits{QStringLiteral("g"),       QStringLiteral("ml"),     QStringLiteral("ks"),
+                         QStringLiteral("lžíce"),   QStringLiteral("lžičky"), QStringLiteral("hrnky"),
+                         QStringLiteral("stroužky")};
+
+QStringList lines(const SharedRecipe& recipe) {
+    QStringList all;
+    for (const SharedIngredient& one : recipe.ingredients)
+        all << one.name + QStringLiteral(": ") + one.amount;
+    return all;
+}
+
+/// Every recipe of the shipped book, out and in again: through the format, and through its own file.
+TEST(ExchangeTest, FiftyRecipesComeBackAsTheyWent) {
+    Problems problems;
+    const ContentFolder folder(QStringLiteral(SARNE_CONTENT), problems);
+    const QStringList units = loadCookbook(folder, problems).unitForms.keys();
+    const QStringList files = folder.files(QStringLiteral("recepty"));
+    ASSERT_EQ(files.size(), 50);
+    for (const QString& file : files) {
+        const SharedRecipe recipe = sharedRecipe(folder.read(file));
+        ASSERT_GE(recipe.ingredients.size(), 6);
+        ASSERT_GE(recipe.steps.size(), 2);
+        const auto fromJson = fromJsonLd(QString::fromUtf8(toJsonLd(recipe)), units);
+        ASSERT_TRUE(fromJson);
+        for (const SharedRecipe& back : {*fromJson, fromCooklang(toCooklang(recipe), units)}) {
+            EXPECT_EQ(lines(back).join(u'\n').toStdString(), lines(recipe).join(u'\n').toStdString())
+                << file.toStdString();
+            EXPECT_EQ(back.steps.join(u'\n').toStdString(), recipe.steps.join(u'\n').toStdString())
+                << file.toStdString();
+            EXPECT_EQ(back, recipe) << file.toStdString();
+        }
+        Lines written;
+        for (const QString& line : recipeFile(recipe).split(u'\n'))
+            if (!line.startsWith(u';')) written << Line{{file, 1}, line};
+        SharedRecipe again = sharedRecipe(written);
+        const auto byTitle = [](const SharedText& a, const SharedText& b) { return a.title < b.title; };
+        SharedRecipe sorted = recipe;
+        std::sort(again.texts.begin(), again.texts.end(), byTitle);
+        std::sort(sorted.texts.begin(), sorted.texts.end(), byTitle);
+        EXPECT_EQ(again, sorted) << file.toStdString();
+    }
+}
+
+TEST(ExchangeTest, IngredientsAreReadAsPeopleWriteThem) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"250 g hladké mouky", "hladké mouky: 250 g"},
+        {"½ lžičky soli", "soli: 0,5 lžičky"},
+        {"1 ½ hrnky mléka", "mléka: 1,5 hrnky"},
+        {"20 dkg másla", "másla: 200 g"},
+        {"2 PL oleje", "oleje: 2 lžíce"},
+        {"2–3 stroužky česneku", "česneku: 2 stroužky"},
+        {"mouka (hladká)", "mouka, hladká: "},
+        {"3 vejce", "vejce: 3 ks"},
+        {"sůl podle chuti", "sůl: podle chuti"},
+        {"1/2 l vývaru", "vývaru: 500 ml"},
+        {"2 cups flour", "flour: 2 hrnky"},
+        {"1,5 kg brambor - varný typ B", "brambor, varný typ B: 1500 g"}};
+    for (const auto& [text, wanted] : cases) {
+        const SharedIngredient read = readIngredientText(QString::fromUtf8(text), kUnits);
+        EXPECT_EQ((read.name + QStringLiteral(": ") + read.amount).toStdString(), wanted);
+    }
+}
+
+TEST(ExchangeTest, ARecipeIsFoundOnASavedPage) {
+    const QString page = QStringLiteral(
+        "<html><script "
+        "type=\"application/ld+json\">{\"@graph\":[{\"@type\":\"WebPage\"},{\"@type\":[\"Recipe\"],"
+        "\"name\":\"Vajíčka &amp; spol\",\"recipeYield\":\"2 porce\",\"totalTime\":\"PT1H5M\","
+        "\"recipeIngredient\":[\"4 vejce\",\"20 g "
+        "másla\"],\"recipeInstructions\":[{\"@type\":\"HowToSection\","
+        "\"itemListElement\":[{\"@type\":\"HowToStep\",\"text\":\"<p>Rozehřejeme máslo.</p>\"}]},"
+        "{\"@type\":\"HowToStep\",\"text\":\"Vlijeme vejce.\"}]}]}</script></html>");
+    const auto recipe = fromJsonLd(page, kUnits);
+    ASSERT_TRUE(recipe);
+    EXPECT_EQ(recipe->name, QStringLiteral("Vajíčka & spol"));
+    EXPECT_EQ(recipe->portions, 2);
+    EXPECT_EQ(recipe->minutes, 65);
+    EXPECT_EQ(lines(*recipe), (QStringList{QStringLiteral("vejce: 4 ks"), QStringLiteral("másla: 20 g")}));
+    EXPECT_EQ(recipe->steps,
+              (QStringList{QStringLiteral("Rozehřejeme máslo."), QStringLiteral("Vlijeme vejce.")}));
+    EXPECT_FALSE(fromJsonLd(QStringLiteral("<html>nic</html>"), kUnits));
+}
+
+TEST(ExchangeTest, CooklangOfOthersIsRead) {
+    const SharedRecipe recipe =
+        fromCooklang(QStringLiteral("---\ntitle: Lívance\nservings: 4\n---\n-- poznámka\nSmícháme "
+                                    "@mouku{250%g}(hladkou) a @mléko{1/2%l} v #velké míse{}.\n"
+                                    "\nSmažíme na @olej{} ~{5%minut}, osolíme @sůl.\n"),
+                     kUnits);
+    EXPECT_EQ(recipe.name, QStringLiteral("Lívance"));
+    EXPECT_EQ(recipe.portions, 4);
+    EXPECT_EQ(lines(recipe),
+              (QStringList{QStringLiteral("mouku, hladkou: 250 g"), QStringLiteral("mléko: 500 ml"),
+                           QStringLiteral("olej: "), QStringLiteral("sůl: ")}));
+    EXPECT_EQ(recipe.steps, (QStringList{QStringLiteral("Smícháme mouku a mléko v velké míse."),
+                                         QStringLiteral("Smažíme na olej 5 minut, osolíme sůl.")}));
+}
+
+TEST(ExchangeTest, APastedTextBecomesAFileWithMarks) {
+    const SharedRecipe recipe = fromPastedText(
+        QStringLiteral(
+            "Bramboračka\n4 porce\n\nSuroviny:\n- 500 g brambor\n- 2 mrkve\n- majoránka\n\nPostup\n"
+            "1. Brambory nakrájíme\na uvaříme.\n2. Okoříme.\n"),
+        kUnits);
+    EXPECT_EQ(recipe.portions, 4);
+    EXPECT_EQ(lines(recipe), (QStringList{QStringLiteral("brambor: 500 g"), QStringLiteral("mrkve: 2 ks"),
+                                          QStringLiteral("majoránka: ")}));
+    EXPECT_EQ(recipe.steps,
+              (QStringList{QStringLiteral("Brambory nakrájíme a uvaříme."), QStringLiteral("Okoříme.")}));
+    const QString file = recipeFile(recipe);
+    EXPECT_TRUE(file.contains(QStringLiteral("; ??? kolik?\nmajoránka: podle chuti\n")))
+        << file.toStdString();
+    EXPECT_TRUE(file.contains(QStringLiteral("; ??? minut: celkem od začátku ke stolu\n")));
+    const SharedRecipe bare = fromPastedText(QStringLiteral("Čaj\n1 lžíce čaje\nZalijeme vodou.\n"), kUnits);
+    EXPECT_EQ(bare.ingredients.size(), 1);
+    EXPECT_EQ(bare.steps.size(), 1);
+}
+
+}  // namespace
+}  // namespace sarne::disc
+
+// SPDX-License-Identifier: GPL-3.0-or-later
