@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "app/editionwatch.h"
 #include "app/language.h"
 #include "app/program.h"
 #include "app/systemplatform.h"
@@ -81,6 +82,8 @@ int main(int argc, char** argv) {
     int code = 0;
     if (program.Main(commandLine(application)) && !program.hasEnded()) {
         platform.prepare();
+        const EditionWatch watch(readAppPathValue(platform.settings, QStringLiteral("Rozepsano")),
+                                 [&](std::int16_t recipe) { return program.showEdition(recipe); });
         code = QApplication::exec();
     }
     running = nullptr;

@@ -108,6 +108,17 @@ void Program::openDatabase() {
     db_.keepInMemory(QStringLiteral("Menu"));
 }
 
+bool Program::showEdition(std::int16_t recipe) {
+    if (Ending || !mainScreen() || FormStack.count() == 0 || stage_->modalForm()) return false;
+    keepUnsaved();
+    while (FormStack.count() > 1) PopScreen(*FormStack.top());
+    screens_.returnToMain();
+    db_.Close();
+    openDatabase();
+    if (recipe > 0) screens_.showRecipe(recipe);
+    return true;
+}
+
 Condition Program::condition() {
     Condition found;
     if (!db_.OpenTable(QStringLiteral("Recepty")).isOpen()) found.unreadableBook = book_;

@@ -3,8 +3,10 @@
 #include "commands/commands.h"
 
 int main(int argc, char** argv) {
+    const QByteArray display = qgetenv("QT_QPA_PLATFORM");
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication app(argc, argv);
+    QGuiApplication app(argc, argv);
+    app.setProperty(sarne::disc::kUserDisplay, display);
     QGuiApplication::setApplicationName(QStringLiteral("sarne-disc"));
     return sarne::disc::runCommand(QGuiApplication::arguments().mid(1));
 }

@@ -85,17 +85,20 @@ void buildDisc(const Project& project, const QString& only, Problems& problems, 
         shop.stage = stage.name;
         stage.make();
     }
+    if (const QString beyond = beyondGrid(book); !beyond.isEmpty()) problems.note(beyond);
     if (only.isEmpty() && !problems.hasErrors()) ledger.sweep();
     ledger.save();
     if (sizeOf(shop.disc) > kDiscLimit) problems.error({shop.disc, 0}, QStringLiteral("disk má přes 650 MB"));
 }
 
-void buildTexts(const Project& project, Problems& problems) {
+void buildQuickly(const Project& project, Part part, Problems& problems) {
     const ContentFolder folder(project.content, problems);
     const Cookbook book = loadCookbook(folder, problems);
     Ledger ledger(project.out + QStringLiteral("/.made"));
     Workshop shop = workshop(project, book, ledger, problems);
+    drawArtIfNeeded(shop);
     if (!problems.hasErrors()) makeDatabase(shop, folder);
+    if (!problems.hasErrors() && part == Part::pictures) makePhotos(shop);
     ledger.save();
 }
 

@@ -15,8 +15,11 @@ qint64 sizeOf(const QString& folder);
 /// null.
 void buildDisc(const Project& project, const QString& only, Problems& problems, Progress* progress);
 
-/// The recipe database alone, proofread; it takes no longer than reading the texts.
-void buildTexts(const Project& project, Problems& problems);
+/// What of a disc is made anew while its author writes.
+enum class Part { texts, pictures };
+
+/// The recipe database, proofread, and with \a part the pictures; what sounds or moves stays as it is.
+void buildQuickly(const Project& project, Part part, Problems& problems);
 
 /// Reports everything that is wrong in the texts, and what pictures and recordings lack, at once.
 void checkDisc(const Project& project, Problems& problems);

@@ -19,6 +19,8 @@ constexpr Command kCommands[] = {
     {"recept", "přidá recept: zeptá se a napíše soubor s vysvětlivkami", createRecipe},
     {"zkontroluj", "řekne všechny chyby najednou", checkCommand},
     {"sestav", "sestaví disk; vyrábí jen to, co se změnilo", buildCommand},
+    {"ukaz", "otevře program na rozepsaném disku a ukazuje každou uloženou změnu", showDisc},
+    {"vydej", "hotový disk: všechny kontroly, seznam souborů, složka nebo obraz ISO", releaseDisc},
     {"dovez", "recept z uložené webové stránky, z Cooklangu nebo z prostého textu", importRecipe},
     {"vyvez", "recepty jako JSON-LD, Cooklang nebo Markdown", exportDisc}};
 

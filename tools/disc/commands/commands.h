@@ -8,6 +8,10 @@ class QCommandLineParser;
 
 namespace sarne::disc {
 
+/// The application's property that holds the kind of display the user's programs open on, since this one
+/// opens on none.
+inline constexpr const char* kUserDisplay = "display";
+
 /// Does what the user typed behind "sarne-disc": a command of the table below, else, for a line that begins
 /// with an option, "sestav". Returns the process's code: 0 when all went well, 1 when something is wrong with
 /// the disc, 2 when the line was not understood.
@@ -19,6 +23,8 @@ int createRecipe(const QStringList& arguments);  // recept
 int checkCommand(const QStringList& arguments);  // zkontroluj
 int buildCommand(const QStringList& arguments);  // sestav
 int importRecipe(const QStringList& arguments);  // dovez
+int showDisc(const QStringList& arguments);      // ukaz
+int releaseDisc(const QStringList& arguments);   // vydej
 int exportDisc(const QStringList& arguments);    // vyvez
 
 /// The options that every command about a disc has: where its parts lie, which kind it is.

@@ -28,6 +28,19 @@ QString finishedDisc() {
     return {};
 }
 
+QString programFile() {
+    const QDir here(QCoreApplication::applicationDirPath());
+    QStringList ways{QStringLiteral("../lib/velisa-sarn"), QStringLiteral("../../disc-out/program")};
+    for (const QFileInfo& arch : QDir(here.filePath(QStringLiteral("../lib")))
+                                     .entryInfoList({QStringLiteral("*-linux-gnu*")}, QDir::Dirs))
+        ways << arch.filePath() + QStringLiteral("/velisa-sarn");
+    for (const QString& way : ways) {
+        const QString file = QDir::cleanPath(here.absoluteFilePath(way)) + QStringLiteral("/sarne");
+        if (QFileInfo(file).isExecutable()) return file;
+    }
+    return {};
+}
+
 ReadBook::ReadBook(const Project& project)
     : problems(project.edition), folder(project.content, problems), book(loadCookbook(folder, problems)) {}
 

@@ -28,6 +28,10 @@ Project projectIn(const QString& folder);
 /// A finished disc beside this program: installed with it, or built with it. Empty when there is none.
 QString finishedDisc();
 
+/// The program that shows a disc, beside this one: installed with it, or built with it. Empty when there is
+/// none.
+QString programFile();
+
 /// A disc on which only its texts are looked at.
 struct ReadBook {
     explicit ReadBook(const Project& project);

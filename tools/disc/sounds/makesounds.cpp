@@ -129,6 +129,10 @@ Task nameTask(Workshop& shop, const Voices& voices, const Recipe& recipe) {
     return {{file}, originOf(sources, stamp::sounds() + recipe.name), [=, &shop, &voices, &recipe] {
                 const Spoken name =
                     isRecorded ? voices.recording(recording) : voices.speak(recipe.name, Speaker::names);
+                if (!name.fault.isEmpty() && shop.isOwnDisc()) {
+                    shop.problems.finding(recipe.place, name.fault);
+                    return true;  // the name stays silent, and is tried again
+                }
                 if (!name.fault.isEmpty()) shop.problems.error(recipe.place, name.fault);
                 return name.fault.isEmpty() && writeWav(file, name.sound);
             }};
@@ -183,7 +187,8 @@ void compress(Workshop& shop, const QList<int>& heard) {
         if (QFileInfo::exists(shop.waves() + u'/' + track.output))
             tasks << compressed(shop, track.output, QStringLiteral("opus"), music);
     for (const int id : heard)
-        tasks << compressed(shop, nameFile(shop.book.recipes[id]), QStringLiteral("ogg"), speech);
+        if (const QString name = nameFile(shop.book.recipes[id]); QFileInfo::exists(shop.waves() + u'/' + name))
+            tasks << compressed(shop, name, QStringLiteral("ogg"), speech);
     shop.makeAll(tasks);
 }
 
