@@ -118,7 +118,7 @@ const Fault kFaults[] = {
     {"actionToNowhere", "menu.txt", "=> nikam", "",
      "menu.txt:6: řádek nabídky 121 (Napište název): nevede nikam"},
     {"unreachableRecipe", kRecipe, "ryba: pstruh\n", "",
-     "řádek nabídky 211 (Recepty): podnabídka bez položek"},
+     "řádek nabídky 21 (Pstruh): nevede k žádnému receptu"},
     {"unreachableQuick", "menu.txt", "téma 2: Ryby\n  Pstruh => pstruh\n", "",
      "rychle.txt:1: k rychlému receptu „Pstruh za chvíli“ nevede žádná nabídka"},
     {"outside", "sponzor.txt", "20 300 300 180", "20 300 300 780", "sponzor.txt:4: plocha musí ležet"},

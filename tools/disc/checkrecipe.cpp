@@ -140,7 +140,7 @@ void checkHead(const Cookbook& book, const Recipe& recipe, Problems& problems) {
         required(key, recipe.headPlaces.contains(QString::fromUtf8(key)) ||
                           !book.facts.required.contains(QString::fromUtf8(key)));
     for (const char* key : {"příprava", "vaření", "obtížnost", "kosti", "mrazit", "vydrží", "sezona"})
-        if (!recipe.headPlaces.contains(QString::fromUtf8(key)))
+        if (!recipe.headPlaces.contains(QString::fromUtf8(key)) && book.facts.needs(key))
             problems.finding(recipe.place,
                              QStringLiteral("v hlavičce chybí „%1“").arg(QString::fromUtf8(key)));
     checkNames(recipe, "pomůcky", recipe.tools, book.tools.names, problems);

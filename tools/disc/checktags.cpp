@@ -42,8 +42,8 @@ void checkTags(const Cookbook& book, Problems& problems) {
                                      didYouMean(tag.key(), askedNames));
     for (auto tag = asked.cbegin(); tag != asked.cend(); ++tag)
         if (!given.contains(tag.key()))
-            problems.error(*tag, QStringLiteral("štítek „%1“ nemá žádný recept").arg(tag.key()) +
-                                     didYouMean(tag.key(), givenNames));
+            problems.finding(*tag, QStringLiteral("štítek „%1“ nemá žádný recept").arg(tag.key()) +
+                                       didYouMean(tag.key(), givenNames));
 }
 
 void checkSearch(const Cookbook& book, Problems& problems) {

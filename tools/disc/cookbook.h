@@ -286,10 +286,14 @@ struct BookFacts {
     /// The keys of a recipe's head whose words the menu picks by.
     QStringList tagKeys{QStringLiteral("ryba"), QStringLiteral("úprava"), QStringLiteral("období"),
                         QStringLiteral("zařazení")};
-    /// Keys and sections that no recipe may lack.
-    QStringList required{QStringLiteral("pomůcky"), QStringLiteral("vína"),        QStringLiteral("Postup"),
-                         QStringLiteral("Úvod"),    QStringLiteral("Jak podávat"), QStringLiteral("Poznámka"),
-                         QStringLiteral("Víno")};
+    /// Keys and sections that no recipe may lack; "lžíce": each weight has its measure in spoons beside it.
+    QStringList required{
+        QStringLiteral("pomůcky"),   QStringLiteral("vína"),        QStringLiteral("Postup"),
+        QStringLiteral("Úvod"),      QStringLiteral("Jak podávat"), QStringLiteral("Poznámka"),
+        QStringLiteral("Víno"),      QStringLiteral("příprava"),    QStringLiteral("vaření"),
+        QStringLiteral("obtížnost"), QStringLiteral("kosti"),       QStringLiteral("mrazit"),
+        QStringLiteral("vydrží"),    QStringLiteral("sezona"),      QStringLiteral("lžíce")};
+    bool needs(const char* what) const { return required.contains(QString::fromUtf8(what)); }
     int fewestIngredients = 6;
     int mostIngredients = 18;
     int fewestKeywordWords = 60;

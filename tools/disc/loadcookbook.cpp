@@ -110,7 +110,7 @@ Cookbook loadCookbook(const ContentFolder& folder, Problems& problems) {
 
 void proofread(const ContentFolder& folder, const Cookbook& book, Problems& problems) {
     QStringList known;
-    for (const Row& row : tableRows(folder.read(QStringLiteral("slovnik.txt")))) known << row.at(0);
+    for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("slovnik.txt")))) known << row.at(0);
     Proofreader reader(known, problems);
     readRecipeTexts(book, reader);
     readNames(book, reader);

@@ -63,10 +63,45 @@ class RowMaker {
   private:
     void level(const QString& code, const QString& heading, const QList<MenuNode>& nodes,
                const Place& place) {
+        reportEmpty(code, nodes);
+        if (isEmpty(nodes)) return;
         if (!heading.isEmpty()) rows_ << MenuRow{place, code + u'0', u'@' + heading, {}};
         if (nodes.size() > 9) problems_.error(place, QStringLiteral("v jedné úrovni je přes devět položek"));
         int position = 0;
-        for (const MenuNode& item : nodes) add(code + QString::number(++position), item);
+        for (const MenuNode& item : nodes)
+            if (!isEmpty(item)) add(code + QString::number(++position), item);
+    }
+
+    /// A level's items that lead to recipes not written yet are left out.
+    void reportEmpty(const QString& code, const QList<MenuNode>& nodes) {
+        int position = 0;
+        for (const MenuNode& item : nodes) {
+            ++position;
+            if (isEmpty(item))
+                problems_.finding(
+                    item.place, QStringLiteral("řádek nabídky %1%2 (%3): nevede k žádnému receptu, nebude tu")
+                                    .arg(code)
+                                    .arg(position)
+                                    .arg(item.label));
+        }
+    }
+
+    /// Whether an item would lead to recipes that are not written yet.
+    bool isEmpty(const MenuNode& item) const {
+        if (!item.children.isEmpty()) return isEmpty(item.children);
+        return picksRecipes(item) && recipesWith(item).isEmpty();
+    }
+    bool isEmpty(const QList<MenuNode>& items) const {
+        return !items.isEmpty() && std::all_of(items.cbegin(), items.cend(),
+                                               [this](const MenuNode& one) { return isEmpty(one); });
+    }
+
+    bool picksRecipes(const MenuNode& item) const {
+        static const QStringList others{QStringLiteral("přímo "), QStringLiteral("video "),
+                                        QStringLiteral("heslo ")};
+        return !hasActions(kind_) && !item.target.isEmpty() && item.target != QStringLiteral("nikam") &&
+               std::none_of(others.cbegin(), others.cend(),
+                            [&](const QString& word) { return item.target.startsWith(word); });
     }
 
     void add(const QString& code, const MenuNode& item) {
@@ -104,7 +139,7 @@ class RowMaker {
         return {};
     }
 
-    QSet<int> recipesWith(const MenuNode& item) {
+    QSet<int> recipesWith(const MenuNode& item) const {
         QSet<int> found;
         for (const QString& choice : trimmedParts(item.target, u','))
             for (const Recipe& recipe : book_.recipes)

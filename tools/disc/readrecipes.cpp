@@ -65,7 +65,8 @@ void readAmounts(const QString& text, const Line& line, const Cookbook& book, Pr
     read.spoonAmount = second.number;
     read.spoonUnit = second.unit;
     const Unit* unit = book.unit(first.unit);
-    if (both.size() == 1 && unit && (unit->kind == UnitKind::weight || unit->kind == UnitKind::volume))
+    if (both.size() == 1 && unit && book.facts.needs("lžíce") &&
+        (unit->kind == UnitKind::weight || unit->kind == UnitKind::volume))
         problems.finding(line.place, QStringLiteral("chybí množství na lžíce"));
 }
 

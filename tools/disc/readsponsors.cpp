@@ -62,7 +62,7 @@ void checkArea(const Cookbook& book, const GalleryPicture& from, const GalleryAr
 }  // namespace
 
 void readSponsors(const ContentFolder& folder, Cookbook& book, Problems& problems) {
-    for (const Section& section : sections(folder.read(kFile)).mid(1)) {
+    for (const Section& section : sections(folder.readIfThere(kFile)).mid(1)) {
         book.gallery << picture(section);
         const GalleryPicture& last = book.gallery.last();
         if (last.id < 1 || last.topic < 1 || last.name.isEmpty())

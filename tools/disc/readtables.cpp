@@ -54,7 +54,7 @@ void readIngredients(const ContentFolder& folder, Cookbook& book, Problems& prob
 
 NamedList readNames(const ContentFolder& folder, const QString& file, Problems& problems) {
     NamedList list;
-    for (const Row& row : tableRows(folder.read(file))) {
+    for (const Row& row : tableRows(folder.readIfThere(file))) {
         if (list.id(row.at(0)))
             problems.error(row.place, QStringLiteral("„%1“ tu stojí podruhé").arg(row.at(0)));
         list.names << row.at(0);
@@ -64,7 +64,7 @@ NamedList readNames(const ContentFolder& folder, const QString& file, Problems& 
 }
 
 void readWines(const ContentFolder& folder, Cookbook& book, Problems& problems) {
-    for (const Row& row : tableRows(folder.read(QStringLiteral("vina.txt")))) {
+    for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("vina.txt")))) {
         if (row.at(1).isEmpty()) problems.error(row.place, QStringLiteral("víno nemá druh"));
         book.wines << Wine{row.at(0), row.at(1), row.place};
     }
@@ -79,7 +79,7 @@ std::pair<int, double> unitWeight(const QString& text, const Cookbook& book) {
 }
 
 void readWeights(const ContentFolder& folder, Cookbook& book, Problems& problems) {
-    for (const Line& line : folder.read(QStringLiteral("lzice.txt"))) {
+    for (const Line& line : folder.readIfThere(QStringLiteral("lzice.txt"))) {
         if (line.isBlank()) continue;
         const KeyValue entry = keyValue(line);
         const QString name = entry.key.section(u',', 0, 0).trimmed();
@@ -100,12 +100,12 @@ void readSettings(const ContentFolder& folder, Cookbook& book) {
 }
 
 void readVideos(const ContentFolder& folder, Cookbook& book) {
-    for (const Row& row : tableRows(folder.read(QStringLiteral("videa.txt"))))
+    for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("videa.txt"))))
         book.videos << Video{row.at(0).toInt(), row.at(1)};
 }
 
 void readQuick(const ContentFolder& folder, Cookbook& book) {
-    for (const Row& row : tableRows(folder.read(QStringLiteral("rychle.txt"))))
+    for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("rychle.txt"))))
         book.quick << QuickRecipe{row.at(0).toInt(), row.place, row.at(1), row.at(2).toInt()};
 }
 
@@ -149,7 +149,7 @@ void readPages(const ContentFolder& folder, Cookbook& book, Problems& problems) 
             book.pages << Page{head.at(0).toInt(), section.place, head.at(1), head.at(2), section.lines};
         }
     }
-    for (const Row& row : tableRows(folder.read(QStringLiteral("help.txt"))))
+    for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("help.txt"))))
         book.help << HelpTopic{row.at(0).toInt(), row.place, row.at(1), row.at(2).toInt()};
 }
 

@@ -50,8 +50,10 @@ std::optional<Nutrition> nutrition(const Cookbook& book, const Recipe& recipe, P
         const Food* food = foodOf(book, line);
         const double grams = inGrams(book, line, line.amount, line.unit);
         if (!food) {
-            problems.finding(line.place,
-                             QStringLiteral("potraviny.txt neříká, co obsahuje „%1“").arg(ingredient->name));
+            if (!book.foods.isEmpty())
+                problems.finding(
+                    line.place,
+                    QStringLiteral("potraviny.txt neříká, co obsahuje „%1“").arg(ingredient->name));
             isWhole = false;
             continue;
         }

@@ -29,7 +29,7 @@ struct NewRecipe {
 };
 
 QString recipeText(const NewRecipe& recipe, const BookFacts& facts) {
-    const QString tag = facts.mainMark.isEmpty() ? facts.tagKeys.value(0) : facts.mainMark;
+    const QString& tag = facts.mainMark;
     QString text = QStringLiteral(
                        "; Řádky za středníkem jsou poznámky a na disk nejdou. Fotografie leží vedle tohoto "
                        "souboru a jmenuje se stejně.\n"
@@ -50,9 +50,9 @@ QString recipeText(const NewRecipe& recipe, const BookFacts& facts) {
                        .arg(recipe.name)
                        .arg(recipe.portions)
                        .arg(recipe.course);
-    if (facts.tagKeys.contains(tag))
-        text += QStringLiteral("; Štítky, podle kterých vybírá menu.txt; další klíče: %1.\n%2: %3\n")
-                    .arg(facts.tagKeys.join(QStringLiteral(", ")), tag, recipe.main);
+    text += QStringLiteral("; Štítky, podle kterých vybírá menu.txt, mají klíče: %1.\n")
+                .arg(facts.tagKeys.join(QStringLiteral(", ")));
+    if (facts.tagKeys.contains(tag)) text += QStringLiteral("%1: %2\n").arg(tag, recipe.main);
     text += QStringLiteral(
                 "; Volitelně: předem, pomůcky, vína, odkazy (jména ze seznamů), výřez (bod fotografie v "
                 "procentech: 30 60).\n"

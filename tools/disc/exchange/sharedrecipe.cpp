@@ -99,6 +99,12 @@ QString headText(const SharedRecipe& recipe) {
 
 QString ingredientText(const SharedIngredient& one) {
     const QString tail = one.alternative.isEmpty() ? QString() : kOr + one.alternative;
+    if (one.isNew) {
+        SharedIngredient known = one;
+        known.isNew = false;
+        return kLook + QStringLiteral("nová surovina: jméno patří v prvním pádě sem i do suroviny.txt\n") +
+               ingredientText(known);
+    }
     if (!one.amount.isEmpty()) return one.name + QStringLiteral(": ") + one.amount + tail + u'\n';
     return kLook + QStringLiteral("kolik?\n") + one.name + QStringLiteral(": podle chuti") + tail + u'\n';
 }

@@ -16,6 +16,8 @@ struct SharedIngredient {
     QString amount;
     /// What may be taken instead; may be empty.
     QString alternative;
+    /// Whether the book that takes it in does not know it, so that its name may be in any case.
+    bool isNew = false;
 
     /// "60 g = 4 lžíce máslo, rozpuštěné, nebo sádlo".
     QString line() const;

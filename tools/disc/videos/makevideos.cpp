@@ -107,7 +107,7 @@ QString originOfFilm(const Workshop& shop, const Source& source, const QStringLi
 
 void proofread(const ContentFolder& folder, const QList<Job>& jobs, Problems& problems) {
     QStringList known;
-    for (const Row& row : tableRows(folder.read(QStringLiteral("slovnik.txt")))) known << row.at(0);
+    for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("slovnik.txt")))) known << row.at(0);
     SpellCheck spelling(known);
     for (const Job& job : jobs)
         for (const Scene& scene : job.script.scenes)
