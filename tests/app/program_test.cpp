@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "app/editionwatch.h"
 #include "dialogs/frmdialog.h"
 #include "forms/textview.h"
 #include "screens/navigation/frmhlavni.h"
@@ -62,6 +63,23 @@ TEST_F(ProgramTest, StartsWithItsFoldersAndSettings) {
     EXPECT_TRUE(program->mainScreen()->isVisible());
     EXPECT_EQ(program->stage().forms().size(), 2u) << "main screen and menu; the splash is unloaded";
     EXPECT_TRUE(platform.music.commands.isEmpty()) << "music is switched off";
+}
+
+TEST_F(ProgramTest, FollowsABookThatIsWrittenWhileItRuns) {
+    ASSERT_TRUE(program->Main({}));
+    const EditionWatch watch(path("data/znacka"), [&](std::int16_t id) { return program->showEdition(id); });
+    program->screens().showMusicSettings();
+    EXPECT_NE(program->FormStack.top(), program->mainScreen());
+    test::writeRecipeDatabase(path("data/nova.drc"),
+                              {QStringLiteral("INSERT INTO Suroviny VALUES (1,'kapr'),(2,'lín')")});
+    QFile::remove(path("program/Sarne.drc"));
+    ASSERT_TRUE(QFile::rename(path("data/nova.drc"), path("program/Sarne.drc")));
+    QFile mark(path("data/znacka"));
+    ASSERT_TRUE(mark.open(QIODevice::WriteOnly) && mark.write("1 0\n") > 0);
+    mark.close();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return program->Db().OpenTable(QStringLiteral("Suroviny")).RecordCount() == 2; }, 5000));
+    EXPECT_EQ(program->FormStack.top(), program->mainScreen());
 }
 
 TEST_F(ProgramTest, TheShowSwitchIsTheWholeCommandLine) {

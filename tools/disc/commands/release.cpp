@@ -49,6 +49,14 @@ bool copyTree(const QString& from, const QString& to) {
     return !failed;
 }
 
+/// Where the program, wherever the folder is put, finds its disc: beside its own folder.
+bool writeSettings(const QString& program) {
+    const QString folder = program + QStringLiteral("/nastaveni/App Paths");
+    QDir().mkpath(folder);
+    QFile settings(folder + QStringLiteral("/Dunvik.exe.conf"));
+    return settings.open(QIODevice::WriteOnly) && settings.write("[General]\nCDPath=..\n") > 0;
+}
+
 /// The disc's files with the program's beside them, and the list of all.
 bool fillFolder(const Project& project, const QString& target) {
     if (!copyTree(project.out + QStringLiteral("/disc"), target) ||
@@ -57,6 +65,7 @@ bool fillFolder(const Project& project, const QString& target) {
     const QString program = target + QStringLiteral("/program/sarne");
     if (!QFileInfo::exists(program) && !programFile().isEmpty() && !QFile::copy(programFile(), program))
         return false;
+    if (!writeSettings(target + QStringLiteral("/program"))) return false;
     QFile list(target + u'/' + kList);
     const QByteArray text = listOf(QDir(target), filesIn(QDir(target)));
     return list.open(QIODevice::WriteOnly) && list.write(text) == text.size();
