@@ -99,6 +99,9 @@ const Sign kSigns[] = {{"Tisk", "Tisk"},
 void write(QPainter& painter, const QRectF& where, const QString& text, double size) {
     QFont font(QStringLiteral("Liberation Serif"));
     font.setPixelSize(std::max(1, static_cast<int>(size)));
+    const auto needed = [&] { return QFontMetricsF(font).boundingRect(where, Qt::TextWordWrap, text).size(); };
+    while (font.pixelSize() > 1 && (needed().width() > where.width() || needed().height() > where.height()))
+        font.setPixelSize(font.pixelSize() * 9 / 10);
     painter.setFont(font);
     painter.setPen(kInk);
     painter.drawText(where, Qt::AlignCenter | Qt::TextWordWrap, text);
@@ -170,6 +173,7 @@ QImage mainScreen(const Cookbook& book, const QSize& size) {
     painter.translate((size.width() - 12000 * scale) / 2, 0);
     painter.scale(scale, scale);
     for (const Field& field : fields()) {
+        if (headingOf(book, field.number).isEmpty()) continue;
         painter.setPen(QPen(kRim, 40));
         painter.setBrush(kPaper.lighter(104));
         painter.drawRoundedRect(field.area, 150, 150);
