@@ -8,7 +8,7 @@
 namespace sarne {
 namespace {
 
-constexpr qint64 kLargest = 64 * 1024;  // bytes; a film's chapters take some hundred
+constexpr qint64 kLargest = 65536;      // bytes; a film's chapters take some hundred
 constexpr double kLongest = 24 * 3600;  // seconds
 constexpr qint64 kJustBegun = 2000;     // milliseconds
 
@@ -64,8 +64,8 @@ qint64 Chapters::previous(qint64 position) const {
 }
 
 qint64 Chapters::next(qint64 position, qint64 length) const {
-    const size_t index = size_t(at(position) + 1);
-    return index < chapters_.size() ? std::min(chapters_[index].start, length) : length;
+    const int index = at(position) + 1;
+    return index < int(chapters_.size()) ? std::min(startOf(index), length) : length;
 }
 
 qint64 Chapters::again(qint64 position) const {
