@@ -6,6 +6,7 @@
 #include "core/clock.h"
 #include "platform/announcer.h"
 #include "platform/beeper.h"
+#include "platform/desktopwishes.h"
 #include "platform/displaymodes.h"
 #include "platform/effectplayer.h"
 #include "platform/multimediacontrol.h"
@@ -32,6 +33,8 @@ struct PlatformParts {
     std::function<std::unique_ptr<MultimediaControl>()> makePlayer;
     /// Makes the announcer of the program's window.
     std::function<std::unique_ptr<Announcer>(QObject&)> makeAnnouncer;
+    /// Hands over what the desktop knows of the user's eyes, now and whenever it changes. May be empty.
+    std::function<void(QObject&, const std::function<void(DesktopWishes)>&)> askDesktop = {};
 };
 
 /// Where a run finds what belongs to it, as native paths.

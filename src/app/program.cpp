@@ -30,8 +30,11 @@ Program::Program(const PlatformParts& platform, Folders folders)
       folders_(std::move(folders)),
       userFile_(folders_.userData + QStringLiteral("/vlastni.db")),
       stage_(std::make_unique<Stage>()),
+      keptEyes_(stage_->eyes(), userFile_),
       screens_(*this) {
     if (platform_.makeAnnouncer) announcer_ = platform_.makeAnnouncer(*stage_);
+    if (platform_.askDesktop)
+        platform_.askDesktop(keptEyes_, [this](DesktopWishes wishes) { keptEyes_.follow(wishes); });
     connect(stage_.get(), &Stage::closeRequested, this, &Program::closeWindow);
 }
 

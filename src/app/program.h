@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "app/condition.h"
+#include "app/kepteyes.h"
 #include "app/platformparts.h"
 #include "app/programscreens.h"
 #include "db/database.h"
@@ -91,6 +92,7 @@ class Program final : public QObject, public basSarne {
     std::vector<KeptNote> homeless_;
     ReadAloud readAloud_{platform_.speech, platform_.music};
     std::unique_ptr<Stage> stage_;
+    KeptEyes keptEyes_;
     ProgramScreens screens_;
     std::unique_ptr<Announcer> announcer_;
 };

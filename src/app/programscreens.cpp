@@ -1,7 +1,10 @@
 #include "app/programscreens.h"
 
+#include <algorithm>
+
 #include "app/program.h"
 #include "dialogs/frmdialog.h"
+#include "dialogs/frmzobrazeni.h"
 #include "media/frmnastavhudbu.h"
 #include "media/frmvideo.h"
 #include "screens/browse/frmfotobig.h"
@@ -74,6 +77,14 @@ void ProgramScreens::showVideo(std::int16_t number) {
 
 void ProgramScreens::showMusicSettings() {
     (new frmNastavHudbu(program_))->Zobraz();
+}
+
+void ProgramScreens::showEyes() {
+    const auto isOpen = [](const QPointer<Form>& form) {
+        return form && form->name() == QLatin1String("frmZobrazeni");
+    };
+    if (!program_.FormStack.top() || std::ranges::any_of(program_.FormStack.screens(), isOpen)) return;
+    (new frmZobrazeni(program_))->Zobraz();
 }
 
 void ProgramScreens::showPage(const QString& id) {

@@ -26,6 +26,7 @@ class ProgramScreens final : public Screens {
     void showPhotos(const PhotoRequest& request) override;
     void showVideo(std::int16_t number) override;
     void showMusicSettings() override;
+    void showEyes() override;
     void showPage(const QString& id) override;
     void showHelpFor(const QString& formName) override;
     void showTables(std::int16_t item) override;

@@ -18,7 +18,8 @@ PlatformParts SystemPlatform::parts() {
             printer,
             speech,
             [] { return std::make_unique<MpvControl>(); },
-            [](QObject& window) { return std::make_unique<AccessibleAnnouncer>(&window); }};
+            [](QObject& window) { return std::make_unique<AccessibleAnnouncer>(&window); },
+            &askDesktop};
 }
 
 void SystemPlatform::prepare() {

@@ -4,7 +4,17 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "forms/colors.h"
+
 namespace sarne {
+
+QColor Eyes::selected() const {
+    return contrast_ ? colors::kSelected.darker(170) : colors::kSelected;
+}
+
+QColor Eyes::linkInk() const {
+    return colors::kSelected.darker(contrast_ ? 170 : 125);
+}
 
 void Eyes::setTextPercent(int percent) {
     const int nearest =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QObject>
 
 namespace sarne {
@@ -18,6 +19,10 @@ class Eyes : public QObject {
     bool isCalm() const { return calm_; }
     /// Plain dark grounds, and texts that keep 7 : 1 to them.
     bool hasContrast() const { return contrast_; }
+
+    /// The ground of a light text that is selected, and the ink of a link on paper.
+    QColor selected() const;
+    QColor linkInk() const;
 
     /// The nearest of kSizes is taken.
     void setTextPercent(int percent);

@@ -4,12 +4,14 @@
 
 #include "forms/colors.h"
 #include "forms/control.h"
+#include "forms/eyes.h"
 #include "forms/form.h"
 
 namespace sarne {
 namespace {
 
 constexpr int kDistance = 30, kThickness = 60, kLight = 26;  // twips
+constexpr int kStrong = 45;                                  // 3 pixels of the design
 constexpr int kRounding = 60;
 
 }  // namespace
@@ -38,7 +40,8 @@ void FocusFrame::paint(QPainter& painter) {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(colors::kNight, kThickness));
     painter.drawRoundedRect(ring, kRounding, kRounding);
-    painter.setPen(QPen(colors::kTitle, kLight));
+    const bool contrast = static_cast<Form*>(parentWidget())->eyes().hasContrast();
+    painter.setPen(QPen(contrast ? QColor(Qt::white) : colors::kTitle, contrast ? kStrong : kLight));
     painter.drawRoundedRect(ring, kRounding, kRounding);
 }
 

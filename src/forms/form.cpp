@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/control.h"
 #include "forms/focusframe.h"
@@ -129,6 +130,10 @@ void Form::musicSettings() {
     app_.screens().showMusicSettings();
 }
 
+void Form::eyeSettings() {
+    app_.screens().showEyes();
+}
+
 QString Form::textToRead() const {
     return shownTexts(*this).join(u'\n');
 }
@@ -143,12 +148,23 @@ void Form::gotFocus() {
     if (app_.FormStack.contains(*this)) app_.BringTopToFront(name());
 }
 
+/// Ctrl with plus, minus and 0: as everywhere.
+bool Form::textSizeKey(const QKeyEvent& event) {
+    Eyes& eyes = app_.stage().eyes();
+    const bool larger = event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal;
+    if (!larger && event.key() != Qt::Key_Minus && event.key() != Qt::Key_0) return false;
+    event.key() == Qt::Key_0 ? eyes.setTextPercent(Eyes::kSizes[0]) : void(eyes.stepText(larger ? 1 : -1));
+    app_.HookMessage(Texts::tr("Velikost textů %1 %").arg(eyes.textPercent()));
+    return true;
+}
+
 bool Form::sharedKey(const QKeyEvent& event) {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
     if (modifiers == Qt::AltModifier && (event.key() == Qt::Key_X || event.key() == Qt::Key_F4)) {
         closeRequested();
         return true;
     }
+    if (modifiers & Qt::ControlModifier) return textSizeKey(event);
     if (modifiers & ~Qt::ShiftModifier) return false;
     switch (event.key()) {
         case Qt::Key_F1:
@@ -171,6 +187,9 @@ bool Form::sharedKey(const QKeyEvent& event) {
             return true;
         case Qt::Key_F9:
             app_.readAloud().toggle(textToRead());
+            return true;
+        case Qt::Key_F10:
+            eyeSettings();
             return true;
         case Qt::Key_C:
             goBack();

@@ -64,6 +64,7 @@ class Form : public TwipWidget {
     virtual void endProgram();
     virtual void help();
     virtual void musicSettings();
+    virtual void eyeSettings();
     /// What the eyes that look at the form need.
     const Eyes& eyes() const;
     /// The eyes need other things than before: lays texts out anew, in the new size.
@@ -101,6 +102,7 @@ class Form : public TwipWidget {
 
   private:
     bool sharedKey(const QKeyEvent& event);
+    bool textSizeKey(const QKeyEvent& event);
 
     basSarne& app_;
     FocusRing ring_;

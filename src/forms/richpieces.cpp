@@ -87,12 +87,12 @@ QString RichPieces::text() const {
     return lines.text();
 }
 
-void RichPieces::paint(QPainter& painter, const QRect& visible, int text) const {
+void RichPieces::paint(QPainter& painter, const QRect& visible, int text, bool strong) const {
     const Piece& piece = pieces_[size_t(text)];
     const auto own = [&](std::optional<int> link) -> std::optional<int> {
         return link ? std::optional(*link - piece.firstLink) : std::nullopt;
     };
-    paintLayout(painter, piece.layout, visible, {own(hovered_), own(focused_)});
+    paintLayout(painter, piece.layout, visible, {own(hovered_), own(focused_), strong});
 }
 
 }  // namespace sarne

@@ -41,8 +41,8 @@ class RichPieces {
     void addTo(ReadableText& text) const;
     /// The texts, each line a line of the result.
     QString text() const;
-    /// Paints one text.
-    void paint(QPainter& painter, const QRect& visible, int text) const;
+    /// Paints one text, \a strong: in darkened colours.
+    void paint(QPainter& painter, const QRect& visible, int text, bool strong = false) const;
 
   private:
     struct Piece {

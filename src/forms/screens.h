@@ -36,6 +36,8 @@ class Screens {
     virtual void showPhotos(const PhotoRequest& request) = 0;
     virtual void showVideo(std::int16_t number) = 0;
     virtual void showMusicSettings() = 0;
+    /// The size of texts, calm, contrast.
+    virtual void showEyes() {}
     /// A text page with its own button bar, by its id ("10", "300").
     virtual void showPage(const QString& id) = 0;
     /// The help for the form called \a formName.

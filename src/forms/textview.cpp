@@ -78,7 +78,9 @@ void TextView::drawPlainText(const QString& text) {
 bool TextView::keepRichText(const RtfLayout& layout) {
     const int added = pieces_.add(layout);
     addPainted(
-        [this, added](QPainter& painter, const QRect& visible) { pieces_.paint(painter, visible, added); },
+        [this, added](QPainter& painter, const QRect& visible) {
+            pieces_.paint(painter, visible, added, form().eyes().hasContrast());
+        },
         layout.bottom());
     return true;
 }

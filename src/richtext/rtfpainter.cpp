@@ -9,6 +9,8 @@
 namespace sarne {
 namespace {
 
+constexpr int kStrongInk = 180;  // of 100
+
 /// Paints words: gathers those of one font and colour, wherever they stand, and paints their glyphs together.
 class BoxPainter {
   public:
@@ -49,7 +51,8 @@ class BoxPainter {
 
     void paint(const WordBox& box) {
         const QPointF origin(box.x, box.baseline);
-        const QRgb color = layout_.color(box).rgb();
+        const QRgb color =
+            (highlight_.strong ? layout_.color(box).darker(kStrongInk) : layout_.color(box)).rgb();
         const FontFace& face = this->face(box.font);
         if (face.place(layout_.text(box), origin, batch(box.font, color).glyphs)) return;
         QFont font = face.font();

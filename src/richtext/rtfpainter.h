@@ -11,6 +11,7 @@ namespace sarne {
 struct LinkHighlight {
     std::optional<int> hovered;
     std::optional<int> focused;
+    bool strong = false;  ///< colours are darkened, for eyes that need more contrast to paper
 
     bool contains(int link) const { return link >= 0 && (hovered == link || focused == link); }
 };

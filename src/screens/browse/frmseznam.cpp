@@ -37,7 +37,7 @@ void frmSeznam::hearEntries() {
         part.name = entries_[size_t(index)].Nazev;
         const int row = index - pages_.entryAt(1) + 1;
         if (row >= 1 && row <= pages_.rows())
-            part.place = seznam::rowBar(row).translated(-seznam::kSheet.topLeft());
+            part.place = seznam::rowBar(row, pitch_).translated(-seznam::kSheet.topLeft());
         return part;
     };
     list_.setEntries(pages_.count(), entry, [this](int index) {
@@ -54,13 +54,30 @@ void frmSeznam::fill(const QString& ids, const QString& source) {
                                         : Source::QuickRecipes;
     ring().startAt(nullptr);
     entries_ = readEntries(app().Db(), sourceText_, ids);
-    pages_.fill(static_cast<int>(entries_.size()), seznam::kRows);
+    pages_.fill(static_cast<int>(entries_.size()), shownRows());
     letters_.clear();
     placeRows();
     for (Button* arrow : imgSipky) arrow->setVisible(pages_.scrolls());
     showButtonsOfSource();
     lblPozice.setText({});
     hearEntries();
+    ground_.forget();
+    drawPage();
+    update();
+}
+
+int frmSeznam::shownRows() const {
+    return static_cast<int>(seznam::kRows / eyes().textScale());
+}
+
+/// As many rows as the size of the texts leaves room for; who was at an entry stays there.
+void frmSeznam::eyesChanged() {
+    const int entry = pages_.selectedEntry();
+    for (Label* row : lblSeznam) row->setText({});
+    pages_.fill(static_cast<int>(entries_.size()), shownRows());
+    if (entry >= 0) pages_.selectEntry(entry);
+    placeRows();
+    for (Button* arrow : imgSipky) arrow->setVisible(pages_.scrolls());
     ground_.forget();
     drawPage();
     update();

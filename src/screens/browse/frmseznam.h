@@ -35,6 +35,7 @@ class frmSeznam : public Form {
 
     const ListPages& pages() const { return pages_; }
 
+    void eyesChanged() override;
     void goBack() override;
     void restored() override;
     void unload() override;
@@ -73,6 +74,7 @@ class frmSeznam : public Form {
     void paintGround(QPainter& painter) const;
     QRectF thumb() const;
     void hearEntries();
+    int shownRows() const;
     QString countText() const;
     void drawPage();
     void selectionChanged();

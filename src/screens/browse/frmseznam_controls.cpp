@@ -6,6 +6,7 @@
 #include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/eyes.h"
 #include "forms/holdrepeat.h"
 #include "forms/ninepatch.h"
 #include "forms/resources.h"
@@ -95,14 +96,17 @@ void frmSeznam::connectRow(int row) {
 
 void frmSeznam::placeRows() {
     const bool large = pages_.count() <= seznam::kRows / 2;
-    pitch_ = large ? seznam::kLargePitch : seznam::kPitch;
+    pitch_ = large ? seznam::kLargePitch : seznam::kRows * seznam::kPitch / shownRows();
+    TextFont font = kRowFont;
+    font.size *= eyes().textScale();
+    if (large) font.size = std::max(font.size, kLargeRowFont.size);
     for (int number = 1; number <= seznam::kRows; ++number) {
         Label& label = *lblSeznam[size_t(number - 1)];
         const QRect bar = seznam::rowBar(number, pitch_);
         label.place(bar);
         label.setMargins(seznam::row(number, pitch_).x() - bar.x(), 0);
-        label.setFont(large ? kLargeRowFont : kRowFont);
-        label.setVisible(seznam::kSheet.contains(bar));
+        label.setFont(font);
+        label.setVisible(number <= shownRows() && seznam::kSheet.contains(bar));
     }
 }
 
@@ -184,15 +188,18 @@ void frmSeznam::showButtonsOfSource() {
 void frmSeznam::paint(QPainter& painter) {
     ground_.draw(painter, covered(), [this](QPainter& ground) { paintGround(ground); });
     painter.setPen(Qt::NoPen);
-    painter.setBrush(colors::kSelected);
+    painter.setBrush(eyes().selected());
     if (markedRow_ > 0) painter.drawRoundedRect(seznam::rowBar(markedRow_, pitch_), 90, 90);
     painter.setBrush(colors::kCopper);
     if (pages_.scrolls()) painter.drawRoundedRect(thumb(), 55, 55);
 }
 
 void frmSeznam::paintGround(QPainter& painter) const {
-    app().Pictures.seznam.compose(painter, covered());
-    if (app().Pictures.seznam.isNull()) {
+    if (eyes().hasContrast())
+        painter.fillRect(covered(), Qt::black);
+    else
+        app().Pictures.seznam.compose(painter, covered());
+    if (app().Pictures.seznam.isNull() || eyes().hasContrast()) {
         for (const QRect& plate : {seznam::kHeader, seznam::kSide, seznam::kFoot}) paintPlate(painter, plate);
     }
     paintSheet(painter, seznam::kSheet);

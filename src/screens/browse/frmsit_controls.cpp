@@ -4,6 +4,7 @@
 #include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/eyes.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "screens/browse/frmsit.h"
@@ -109,7 +110,10 @@ QRect frmSit::frameOf(int cell) {
 void frmSit::paintGround(QPainter& painter) const {
     const QRect screen({0, 0}, twips().size());
     const Picture& composite = composites_[grid_.isWhole() ? size_t(kGridGroups) : size_t(grid_.group())];
-    app().Pictures.Sit.compose(painter, covered());
+    if (eyes().hasContrast())
+        painter.fillRect(covered(), Qt::black);
+    else
+        app().Pictures.Sit.compose(painter, covered());
     composite.draw(painter, screen, Fit::Stretch);
     for (const QRect& plate : {sit::kGroupPlate, sit::kBarPlate}) paintPlate(painter, plate);
 }

@@ -3,6 +3,8 @@
 #include <QPainter>
 
 #include "forms/colors.h"
+#include "forms/eyes.h"
+#include "forms/form.h"
 #include "forms/label.h"
 
 namespace sarne {
@@ -57,7 +59,7 @@ void AreaButton::paint(QPainter& painter) {
     const bool marked = isPointedAt() || showsFocus();
     if (marked) paintLight(painter);
     const QRect place = plate();
-    QColor ground = marked ? colors::kSelected : colors::kNight;
+    QColor ground = marked ? form().eyes().selected() : colors::kNight;
     ground.setAlpha(marked ? 255 : 225);
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground);

@@ -18,6 +18,7 @@ class FrmTabulky : public BarForm {
   protected:
     void print() override;
     bool keyDown(QKeyEvent& event) override;
+    void eyesChanged() override { table_.layOutAgain(); }
     void paint(QPainter& painter) override;
 
   private:

@@ -5,6 +5,8 @@
 #include <QPainter>
 
 #include "forms/colors.h"
+#include "forms/eyes.h"
+#include "forms/form.h"
 
 namespace sarne {
 namespace {
@@ -21,9 +23,20 @@ TableView::TableView(Form& form, const QString& name) : Control(form, name) {
     setFocusPolicy(Qt::ClickFocus);
 }
 
+TextFont TableView::scaled(TextFont font) const {
+    font.size *= form().eyes().textScale();
+    return font;
+}
+
+void TableView::layOutAgain() {
+    const int row = rows_.selected();
+    setTable(std::move(table_));
+    if (row != RowPaging::kNone) select(row);
+}
+
 void TableView::setTable(LookupTable table) {
     table_ = std::move(table);
-    layout_ = TableLayout::of(table_, twips().width(), kFont, kHeadFont);
+    layout_ = TableLayout::of(table_, twips().width(), scaled(kFont), scaled(kHeadFont));
     rows_.reset(layout_.heights, twips().height() - layout_.headHeight);
     hovered_ = pressed_ = RowPaging::kNone;
     setAccessibleName(table_.title);
@@ -163,7 +176,7 @@ void TableView::paintCell(QPainter& painter, const QRect& cell, const QString& t
 
 void TableView::paintHead(QPainter& painter) const {
     painter.fillRect(QRect(0, 0, twips().width(), layout_.headHeight), colors::kTeal);
-    painter.setFont(kHeadFont.toQFont());
+    painter.setFont(scaled(kHeadFont).toQFont());
     painter.setPen(colors::kTitle);
     for (size_t column = 0; column < layout_.lefts.size(); ++column) {
         const QRect cell(layout_.lefts[column], 0, layout_.widths[column], layout_.headHeight);
@@ -177,16 +190,16 @@ void TableView::paintRow(QPainter& painter, int row) const {
     const LookupRow& content = table_.rows[static_cast<size_t>(row)];
     const bool selected = row == rows_.selected();
     if (selected)
-        painter.fillRect(rowRect(row), colors::kSelected);
+        painter.fillRect(rowRect(row), form().eyes().selected());
     else if (row % 2 == 1)
         painter.fillRect(rowRect(row), kOtherRow);
     for (int column = 0; column < static_cast<int>(layout_.lefts.size()); ++column) {
         const bool link = column == 0 && content.keyword != 0;
-        QFont font = kFont.toQFont();
+        QFont font = scaled(kFont).toQFont();
         font.setBold(link);
         font.setUnderline(link && row == hovered_);
         painter.setFont(font);
-        painter.setPen(selected ? colors::kPaper : link ? colors::kSelected.darker(125) : colors::kInk);
+        painter.setPen(selected ? colors::kPaper : link ? form().eyes().linkInk() : colors::kInk);
         paintCell(painter, cellRect(row, column), content.cells[column]);
     }
 }

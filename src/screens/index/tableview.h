@@ -26,6 +26,8 @@ class TableView : public Control {
     /// Shows \a table from its first row. The control must have its place by now.
     void setTable(LookupTable table);
     const LookupTable& table() const { return table_; }
+    /// After the eyes need another size; the selected row stays.
+    void layOutAgain();
     const RowPaging& rows() const { return rows_; }
 
     void scrollBy(int rows);
@@ -61,6 +63,7 @@ class TableView : public Control {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
+    TextFont scaled(TextFont font) const;
     void changed(bool something);
     int rowAt(QPoint twips) const;
     /// The row that a click at \a twips opens, or none.

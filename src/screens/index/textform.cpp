@@ -40,6 +40,7 @@ QRect TextForm::wholePaper() {
 }
 
 void TextForm::showText(const QString& name, const QString& text, const QString& kind) {
+    kind_ = kind;
     name_ = name;
     text_ = text;
     const QString body = withoutHeading(text, name);
@@ -50,6 +51,10 @@ void TextForm::showText(const QString& name, const QString& text, const QString&
     view_.drawRichText(body);
     view_.scrollTo(0);
     view_.setAccessibleName(name);
+}
+
+void TextForm::eyesChanged() {
+    if (!name_.isEmpty()) showText(QString(name_), QString(text_), QString(kind_));
 }
 
 void TextForm::linkActivated(const LinkKey& key) {

@@ -28,11 +28,13 @@ class TextForm : public BarForm {
 
     bool keyDown(QKeyEvent& event) override;
     void paint(QPainter& painter) override;
+    void eyesChanged() override;
 
   private:
     TextView view_;
     QString name_;
     QString text_;
+    QString kind_;
 };
 
 }  // namespace sarne

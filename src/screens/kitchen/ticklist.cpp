@@ -7,6 +7,7 @@
 
 #include "core/texts.h"
 #include "forms/colors.h"
+#include "forms/eyes.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/resources.h"
@@ -77,11 +78,11 @@ void TickList::setPoints(double points) {
 }
 
 int TickList::twipsOf(double points) const {
-    return static_cast<int>(points * kTwipsOfPoint);
+    return static_cast<int>(points * form().eyes().textScale() * kTwipsOfPoint);
 }
 
 TextFont TickList::font(double share, bool bold) const {
-    return {kFamily, points_ * share, bold};
+    return {kFamily, points_ * form().eyes().textScale() * share, bold};
 }
 
 int TickList::heightOf(const TickRow& row) const {
@@ -208,7 +209,7 @@ void TickList::paintRow(QPainter& painter, int row) const {
     const QRect place = rowRect(row);
     const bool isSelected = row == selected() && showsFocus();
     const bool isHeading = content.kind == TickRow::Kind::Heading;
-    if (isSelected) painter.fillRect(place, colors::kSelected);
+    if (isSelected) painter.fillRect(place, form().eyes().selected());
     if (isHeading) painter.fillRect(place.adjusted(0, 30, 0, -15), colors::kTeal);
     const QColor ink = isHeading ? colors::kTitle : isSelected ? colors::kPaper : colors::kInk;
     painter.setPen(ink);

@@ -8,6 +8,7 @@
 #include "forms/backgroundmusic.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/eyes.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
 #include "forms/stage.h"
@@ -100,6 +101,7 @@ void frmHlavni::hover(int i) {
     if (current_ >= 0) endHover();
     current_ = i;
     if (app().SoundFlags[kEffects]) app().PlayEffect(i + kFirstEffect);
+    if (current_ == i && eyes().isCalm()) return tick();  // its first picture, at rest
     TmrPohyby.setEnabled(current_ == i);  // the effect lets events run: the mouse may be gone already
 }
 
@@ -138,6 +140,7 @@ void frmHlavni::tick() {
 }
 
 void frmHlavni::showThings() {
+    if (eyes().isCalm()) return;
     sweep_.start(readingOrder(table_));
     tmrSvetlo.setEnabled(true);
 }
@@ -156,7 +159,7 @@ void frmHlavni::endSweep() {
 
 /// Whether what belongs to no button may move: somebody looks at the kitchen.
 bool frmHlavni::mayMoveByItself() const {
-    return isVisible() && app().FormStack.top() == this && app().stage().isActiveWindow();
+    return !eyes().isCalm() && isVisible() && app().FormStack.top() == this && app().stage().isActiveWindow();
 }
 
 void frmHlavni::liveOn() {
@@ -205,7 +208,7 @@ void frmHlavni::unfoldMenu(int i) {
     menuOpen_ = true;
     setPointer(Pointer::Back);
     enableControls(false);
-    TmrPohyby.setEnabled(true);
+    TmrPohyby.setEnabled(!eyes().isCalm());
     shownFrame_ = frames(i).empty() ? 0 : std::max(1, TmrPohyby.tag().toInt());
     update();
     menu_->unfold(QString::number(i), QRect(table_[size_t(i)].position, QSize(1, 1)));
@@ -299,7 +302,20 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
     }
 }
 
+/// For eyes that need contrast: in the place of the picture the names of its things.
+void frmHlavni::paintNames(QPainter& painter) const {
+    painter.fillRect(covered(), Qt::black);
+    painter.setFont(TextFont{QStringLiteral("Arial"), 12, true}.toQFont());
+    for (const Button* thing : imgClick) {
+        if (!thing || !thing->isVisible()) continue;
+        painter.setPen(QPen(Qt::white, 30));
+        painter.drawRect(thing->twips());
+        painter.drawText(thing->twips(), Qt::AlignCenter | Qt::TextWordWrap, thing->accessibleName());
+    }
+}
+
 void frmHlavni::paint(QPainter& painter) {
+    if (eyes().hasContrast()) return paintNames(painter);
     paintRoom(painter, app().Pictures.hlavni);
     ornaments_.paint(painter, [this](QPainter& part) { paintRoom(part, app().Pictures.hlavni); });
     for (const int thing : sweep_.lit()) paintGlow(painter, thing);

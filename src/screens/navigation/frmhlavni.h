@@ -43,6 +43,7 @@ class frmHlavni : public Form {
     void restored() override;
 
   protected:
+    void paintNames(QPainter& painter) const;
     void paint(QPainter& painter) override;
     bool keyDown(QKeyEvent& event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

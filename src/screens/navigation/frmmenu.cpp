@@ -5,6 +5,7 @@
 #include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/eyes.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
 #include "forms/stage.h"
@@ -250,7 +251,7 @@ bool frmMenu::isSelectable(int k) const {
 void frmMenu::mark(int k, bool marked) {
     MenuLabel& label = *lblOdkaz[size_t(k - 1)];
     const bool leadsOn = isSelectable(k) && label.note() != u"0";
-    label.setGround(marked ? colors::kSelected : QColor(Qt::transparent));
+    label.setGround(marked ? eyes().selected() : QColor(Qt::transparent));
     label.setColor(marked ? colors::kPaper : leadsOn ? colors::kTitle : kDimmed);
 }
 

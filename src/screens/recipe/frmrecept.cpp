@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "core/texts.h"
 #include "db/database.h"
 #include "dialogs/frmdialog.h"
 #include "forms/bassarne.h"
@@ -103,6 +104,7 @@ void frmRecept::placeSection(int index) {
     name->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     name->setWordWrap(true);
     name->setClickable(true);
+    name->setUnheard(true);
     name->setCursor(Qt::PointingHandCursor);
     connect(name, &Label::clicked, &button, &Button::click);
 }
@@ -111,7 +113,7 @@ void frmRecept::Zobraz(std::int16_t id) {
     loadRecipe(id);
     if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
-    app().HookMessage(QString(title_->text()).replace(u'\n', u' '));
+    app().HookMessage(accessibleName());
     openSection(0);
     app().keepAwake(QStringLiteral("Na obrazovce je recept"));
     playName();
@@ -152,6 +154,8 @@ void frmRecept::showTitle() {
     }
     title_->setFont(font);
     title_->setText(lines.join(u'\n'));
+    title_->setAccessibleName(title);
+    setAccessibleName(title);
 }
 
 void frmRecept::playName() {
@@ -182,11 +186,20 @@ void frmRecept::showSection() {
     picture_->hide();
     view_->Cls();
     view_->setVisible(true);
-    view_->setAccessibleName(sectionKinds()[size_t(section_)].title());
+    const QString section = sectionKinds()[size_t(section_)].title();
+    view_->setAccessibleName(section_ == 0 ? Texts::tr("Fotografie: %1").arg(accessibleName()) : section);
     view_->place(current().viewPlace());
     imgBtn[section_].setFocus();
     current().draw();
     update();
+}
+
+/// The section is drawn anew; the note's editor follows by itself and keeps what is typed.
+void frmRecept::eyesChanged() {
+    if (!isVisible() || !view_->isVisible()) return;
+    const QPointer<TwipWidget> at = ring().current();
+    showSection();
+    if (at) ring().focus(*at);
 }
 
 void frmRecept::Skryj() {

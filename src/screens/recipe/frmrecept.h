@@ -33,6 +33,7 @@ class frmRecept : public Form {
     /// ingredients as it is recalculated now, the texts, the own note, tools and links.
     QString collectedText();
 
+    void eyesChanged() override;
     void goBack() override { Skryj(); }
     bool readyToEnd() override;
     void help() override;

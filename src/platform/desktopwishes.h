@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QMap>
+#include <QObject>
+#include <QVariantMap>
+#include <functional>
+
+namespace sarne {
+
+/// What the user has told the desktop about their eyes, for all programs.
+struct DesktopWishes {
+    bool calm = false;      ///< less movement
+    bool contrast = false;  ///< higher contrast
+
+    bool operator==(const DesktopWishes&) const = default;
+};
+
+/// What the desktop's \a settings, by group and name, say.
+DesktopWishes desktopWishes(const QMap<QString, QVariantMap>& settings);
+
+/// Asks the desktop, in the background, and hands the answer to \a told while \a receiver lives; again
+/// whenever the user changes something there. Silent where there is no desktop to ask.
+void askDesktop(QObject& receiver, const std::function<void(DesktopWishes)>& told);
+
+}  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later
