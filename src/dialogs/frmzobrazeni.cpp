@@ -45,7 +45,7 @@ frmZobrazeni::frmZobrazeni(basSarne& sarne)
     label(title_, Texts::tr("Zobrazení"), kTitleFont, kTitle);
     title_.setColor(colors::kTitle);
     title_.setAlignment(Qt::AlignCenter);
-    label(size_, Texts::tr("Velikost textů v seznamech, receptech a na stránkách"), kFont, kSize);
+    label(size_, Texts::tr("Velikost textů v seznamech a receptech"), kFont, kSize);
     label(hint_, Texts::tr("Velikost mění i Ctrl a plus nebo minus, toto okno otevře F10."), kSmallFont,
           kHint);
     const auto dress = [this](CheckBox& box, const QString& caption, const QRect& place, const char* on,

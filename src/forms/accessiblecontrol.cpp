@@ -7,6 +7,7 @@
 #include "forms/accessiblepartinterface.h"
 #include "forms/form.h"
 #include "forms/label.h"
+#include "forms/progressbar.h"
 #include "forms/showntexts.h"
 #include "forms/stage.h"
 #include "forms/textview.h"
@@ -41,7 +42,9 @@ class AccessibleControl : public QAccessibleWidget {
         return control_->isPressable() ? QStringList{pressAction()} : QStringList();
     }
     void doAction(const QString& action) override {
-        if (action == pressAction()) control_->click();
+        // Queued: a click may open a dialog, and the reader would wait for its end.
+        if (action == pressAction())
+            QMetaObject::invokeMethod(control_, &Control::click, Qt::QueuedConnection);
     }
 
     int childCount() const override {
@@ -129,6 +132,25 @@ class AccessibleText final : public AccessibleControl, public QAccessibleTextInt
     TextView* view_;
 };
 
+/// How far a bar is.
+class AccessibleProgress final : public AccessibleControl, public QAccessibleValueInterface {
+  public:
+    explicit AccessibleProgress(ProgressBar* bar) : AccessibleControl(bar), bar_(bar) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+        return AccessibleControl::interface_cast(type);
+    }
+    QVariant currentValue() const override { return bar_->value(); }
+    void setCurrentValue(const QVariant&) override {}
+    QVariant maximumValue() const override { return bar_->maximum(); }
+    QVariant minimumValue() const override { return 0; }
+    QVariant minimumStepSize() const override { return 1; }
+
+  private:
+    ProgressBar* bar_;
+};
+
 /// Rows and columns; the first row of parts are the headings.
 class AccessibleTable final : public AccessibleControl, public QAccessibleTableInterface {
   public:
@@ -211,13 +233,15 @@ class AccessibleForm final : public AccessibleRoom {
     explicit AccessibleForm(Form* form) : AccessibleRoom(form, QAccessible::Client), form_(form) {}
 
     QAccessible::Role role() const override { return form_->role(); }
+    /// A dialog without a name of its own is called by its title; the rest of what it says describes it.
     QString text(QAccessible::Text kind) const override {
         const QString said = QAccessibleWidget::text(kind);
-        const bool describes =
-            kind == QAccessible::Description && said.isEmpty() && role() == QAccessible::Dialog;
-        if (!describes) return said;
+        if (!said.isEmpty() || role() != QAccessible::Dialog) return said;
         QStringList texts = shownTexts(*form_);
-        texts.removeAll(form_->accessibleName());
+        const QString named = form_->accessibleName();
+        if (kind == QAccessible::Name) return texts.value(0);
+        if (kind != QAccessible::Description) return {};
+        texts.removeAll(named.isEmpty() ? texts.value(0) : named);
         return texts.join(u'\n');
     }
 
@@ -265,6 +289,7 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     if (auto* form = qobject_cast<Form*>(object)) return new AccessibleForm(form);
     if (auto* stage = qobject_cast<Stage*>(object)) return new AccessibleStage(stage);
     if (auto* view = qobject_cast<TextView*>(object)) return new AccessibleText(view);
+    if (auto* bar = qobject_cast<ProgressBar*>(object)) return new AccessibleProgress(bar);
     auto* control = qobject_cast<Control*>(object);
     if (!control) return nullptr;
     if (control->role() == QAccessible::Table) return new AccessibleTable(control);

@@ -8,6 +8,14 @@ QString placeAmong(int index, int count) {
     return Texts::tr("%1 z %2").arg(index + 1).arg(count);
 }
 
+namespace {
+
+void usePart(Control& control, int index) {
+    if (control.isEnabled() && index < control.partCount()) control.usePart(index);
+}
+
+}  // namespace
+
 QAccessibleInterface* AccessiblePartInterface::parent() const {
     return control_ ? QAccessible::queryAccessibleInterface(control_) : nullptr;
 }
@@ -50,7 +58,11 @@ QStringList AccessiblePartInterface::actionNames() const {
 }
 
 void AccessiblePartInterface::doAction(const QString& action) {
-    if (action == pressAction() && isValid() && control_->isEnabled()) control_->usePart(index_);
+    if (action != pressAction() || !isValid()) return;
+    // Queued: it may open a dialog, and the reader would wait for its end.
+    QMetaObject::invokeMethod(
+        control_, [control = control_.data(), index = index_] { usePart(*control, index); },
+        Qt::QueuedConnection);
 }
 
 QList<QAccessibleInterface*> AccessiblePartInterface::columnHeaderCells() const {

@@ -57,6 +57,7 @@ bool Edit::hasInput() const {
 
 void Edit::rescale() {
     Control::rescale();
+    line_->setAccessibleName(accessibleName());
     line_->setGeometry(rect());
     // The line lays its text out in pixels, so its font is scaled by hand.
     QFont font = font_.toQFont();
@@ -79,6 +80,7 @@ void Edit::showMenu(QPoint global) {
 }
 
 bool Edit::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == line_ && event->type() == QEvent::FocusIn) line_->setAccessibleName(accessibleName());
     if (watched == line_ && event->type() == QEvent::ContextMenu) {
         showMenu(static_cast<QContextMenuEvent*>(event)->globalPos());
         return true;

@@ -144,6 +144,8 @@ void frmVideo::Zobraz(std::int16_t number) {
     tmrStart.setInterval(kStartDelay);
     tmrStart.setEnabled(true);
     showForm();
+    setAccessibleName(title_.text());
+    app().HookMessage(Texts::tr("Film: %1").arg(title_.text()));
     ring().focus(ImgTlacitko[kPlay]);
     app().keepAwake(Texts::tr("Přehrává se video"));
 }

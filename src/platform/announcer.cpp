@@ -39,21 +39,30 @@ class AlertInterface final : public QAccessibleObject {
 
 }  // namespace
 
-AccessibleAnnouncer::AccessibleAnnouncer(QObject* window) : window_(window), alert_(new Alert(window_)) {
-    QAccessible::registerAccessibleInterface(new AlertInterface(static_cast<Alert*>(alert_.get())));
+AccessibleAnnouncer::AccessibleAnnouncer(QObject* window) : window_(window) {
+    for (auto& alert : alerts_) {
+        alert = std::make_unique<Alert>(window_);
+        QAccessible::registerAccessibleInterface(new AlertInterface(static_cast<Alert*>(alert.get())));
+    }
 }
 
 AccessibleAnnouncer::~AccessibleAnnouncer() = default;
 
 void AccessibleAnnouncer::announce(const QString& text) {
     if (text.isEmpty() || !window_) return;
-    static_cast<Alert*>(alert_.get())->text = text;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent event(window_, text);
+    QAccessible::updateAccessibility(&event);
+#else
+    QObject* alert = alerts_[next_++ % kKept].get();
+    static_cast<Alert*>(alert)->text = text;
     // Screen readers differ in what they listen to: an alert, or a notification that is new on the screen.
     for (const QAccessible::Event type :
          {QAccessible::NameChanged, QAccessible::ObjectShow, QAccessible::Alert}) {
-        QAccessibleEvent event(alert_.get(), type);
+        QAccessibleEvent event(alert, type);
         QAccessible::updateAccessibility(&event);
     }
+#endif
 }
 
 }  // namespace sarne

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <array>
 #include <memory>
 
 namespace sarne {
@@ -15,7 +16,9 @@ class Announcer {
     virtual void announce(const QString& text) = 0;
 };
 
-/// Announces through Qt's accessibility, as an alert of the window it is given.
+/// Announces through Qt's accessibility: by its event for that where there is one, else as an alert of the
+/// window it is given. A reader asks for an alert's words when it comes to it, so each of the last ones keeps
+/// its own.
 class AccessibleAnnouncer final : public Announcer {
   public:
     /// \a window is the widget or window that the alerts belong to; it may be destroyed earlier, then nothing
@@ -26,7 +29,10 @@ class AccessibleAnnouncer final : public Announcer {
 
   private:
     QPointer<QObject> window_;
-    std::unique_ptr<QObject> alert_;
+    static constexpr size_t kKept = 8;
+
+    std::array<std::unique_ptr<QObject>, kKept> alerts_;
+    size_t next_ = 0;
 };
 
 }  // namespace sarne

@@ -85,6 +85,8 @@ void frmPrint::open() {
     if (isVisible()) return;
     app().PushScreen(*this);
     showForm();
+    setAccessibleName(lblNadpis.text() + QStringLiteral(": ") + lblCo.text());
+    app().HookMessage(accessibleName());
 }
 
 void frmPrint::prepareOptions(const Serving& serving) {

@@ -79,7 +79,7 @@ void frmSave::makeLists() {
 void frmSave::Zobraz(const QString& mode) {
     mode_ = mode.toLower();
     Label2.setText(Texts::tr("Vyberte ze seznamu položky, které chcete tisknout"));
-    app().HookMessage(Label2.text());
+    ring().sayWithoutReader(Label2.text());
     cmdOkEnd[0]->setEnabled(false);
     const QPointer<frmSave> self(this);
     // Printing hides the dialog, and with that its turn ends; it has another one until it is closed.

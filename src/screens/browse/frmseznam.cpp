@@ -6,6 +6,7 @@
 #include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/eyes.h"
 #include "forms/messagebox.h"
 #include "forms/resources.h"
 #include "forms/screens.h"

@@ -202,7 +202,7 @@ void frmSeznam::paintGround(QPainter& painter) const {
     if (app().Pictures.seznam.isNull() || eyes().hasContrast()) {
         for (const QRect& plate : {seznam::kHeader, seznam::kSide, seznam::kFoot}) paintPlate(painter, plate);
     }
-    paintSheet(painter, seznam::kSheet);
+    eyes().hasContrast() ? paintPaper(painter, seznam::kSheet) : paintSheet(painter, seznam::kSheet);
     paintPlate(painter, seznam::kPanel);
     if (!pages_.scrolls()) return;
     paintPlate(painter, seznam::kArrowPlate);

@@ -42,6 +42,7 @@ frmHlavni::frmHlavni(basSarne& sarne)
       tmrOzdoby(this) {
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);  // what lies below need not be painted
+    setAccessibleName(Texts::tr("Kuchyně"));
     TmrPohyby.setInterval(kFrameInterval);
     TmrPohyby.setTag(QStringLiteral("0"));
     connect(&TmrPohyby, &Timer::tick, this, &frmHlavni::tick);

@@ -114,7 +114,8 @@ void frmRecept::Zobraz(std::int16_t id) {
     if (!app().FormStack.contains(*this)) app().PushScreen(*this);
     showForm();
     app().HookMessage(accessibleName());
-    openSection(0);
+    if (current().leave()) section_ = 0;
+    showSection();
     app().keepAwake(QStringLiteral("Na obrazovce je recept"));
     playName();
 }
@@ -172,9 +173,9 @@ void frmRecept::openSection(int section) {
     section_ = section;
     showSection();
     if (!QAccessible::isActive()) return;
-    // Who hears the recipe reads on at once: the section's name, then its text by the reader's keys.
-    app().HookMessage(view_->accessibleName());
-    if (current().stops().empty()) ring().focus(*view_);
+    // Who hears the recipe reads on at once, by the reader's keys; the view says which section it is.
+    if (current().stops().empty()) return ring().focus(*view_);
+    if (view_->isVisible()) app().HookMessage(view_->accessibleName());
 }
 
 void frmRecept::showSection() {
