@@ -6,6 +6,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QFile>
+#include <utility>
 
 namespace sarne {
 namespace {
@@ -23,35 +24,6 @@ bool busRuns() {
            QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
 }
 
-/// One question to the desktop after the other, as long as the receiver lives.
-class Asking : public QObject {
-    Q_OBJECT
-  public:
-    Asking(QObject& receiver, std::function<void(DesktopWishes)> told)
-        : QObject(&receiver), told_(std::move(told)) {
-        QDBusConnection::sessionBus().connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"),
-                                              this, SLOT(ask()));
-        ask();
-    }
-
-  public Q_SLOTS:
-    void ask() {
-        QDBusMessage question =
-            QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("ReadAll"));
-        question << QStringList{kAppearance, kGnome, kGnomeAccess};
-        auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
-        connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-            const QDBusMessage reply = answer->reply();
-            answer->deleteLater();
-            if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty()) return;
-            told_(desktopWishes(qdbus_cast<QMap<QString, QVariantMap>>(reply.arguments().constFirst())));
-        });
-    }
-
-  private:
-    std::function<void(DesktopWishes)> told_;
-};
-
 }  // namespace
 
 DesktopWishes desktopWishes(const QMap<QString, QVariantMap>& settings) {
@@ -66,11 +38,29 @@ DesktopWishes desktopWishes(const QMap<QString, QVariantMap>& settings) {
 }
 
 void askDesktop(QObject& receiver, const std::function<void(DesktopWishes)>& told) {
-    if (busRuns() && QDBusConnection::sessionBus().isConnected()) new Asking(receiver, told);
+    if (busRuns() && QDBusConnection::sessionBus().isConnected()) new DesktopQuestions(receiver, told);
+}
+
+DesktopQuestions::DesktopQuestions(QObject& receiver, std::function<void(DesktopWishes)> told)
+    : QObject(&receiver), told_(std::move(told)) {
+    QDBusConnection::sessionBus().connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+                                          SLOT(ask()));
+    ask();
+}
+
+void DesktopQuestions::ask() {
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("ReadAll"));
+    question << QStringList{kAppearance, kGnome, kGnomeAccess};
+    auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        const QDBusMessage reply = answer->reply();
+        answer->deleteLater();
+        if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty()) return;
+        told_(desktopWishes(qdbus_cast<QMap<QString, QVariantMap>>(reply.arguments().constFirst())));
+    });
 }
 
 }  // namespace sarne
-
-#include "desktopwishes.moc"
 
 // SPDX-License-Identifier: GPL-3.0-or-later

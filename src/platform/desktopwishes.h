@@ -22,6 +22,19 @@ DesktopWishes desktopWishes(const QMap<QString, QVariantMap>& settings);
 /// whenever the user changes something there. Silent where there is no desktop to ask.
 void askDesktop(QObject& receiver, const std::function<void(DesktopWishes)>& told);
 
+/// One question to the desktop after the other, as long as the receiver lives; what askDesktop() makes.
+class DesktopQuestions : public QObject {
+    Q_OBJECT
+  public:
+    DesktopQuestions(QObject& receiver, std::function<void(DesktopWishes)> told);
+
+  public Q_SLOTS:
+    void ask();
+
+  private:
+    std::function<void(DesktopWishes)> told_;
+};
+
 }  // namespace sarne
 
 // SPDX-License-Identifier: GPL-3.0-or-later
