@@ -2,38 +2,17 @@
 
 #include <QFile>
 #include <QTest>
-#include <QTimer>
 #include <set>
 
-#include "app/program.h"
 #include "screens/navigation/frmhlavni.h"
 #include "screens/navigation/frmmenu.h"
-#include "support/fakeplatform.h"
-#include "support/fakesarne.h"
+#include "shippedprogram.h"
 
 namespace sarne {
 namespace {
 
-/// The whole program over the disc that was built with it, in a folder of its own.
-class ShippedMenu : public testing::Test {
+class ShippedMenu : public ShippedProgram, public testing::Test {
   protected:
-    void SetUp() override {
-        for (const char* name : {"Sarne.drc", "KOp.bj", "Sarne.rcc"}) {
-            const QString shipped = QStringLiteral(SARNE_DISC "/program/") + QLatin1String(name);
-            ASSERT_TRUE(QFile::copy(shipped, folder.filePath(QLatin1String(name)))) << shipped.toStdString();
-            QFile::setPermissions(folder.filePath(QLatin1String(name)), QFile::ReadOwner | QFile::WriteOwner);
-        }
-        platform.settings.set(QStringLiteral("CDPath"), QStringLiteral(SARNE_DISC "/disc"));
-        program = std::make_unique<Program>(platform.parts(), Folders{folder.path(), folder.path()});
-        program->stage().resize(800, 600);
-        program->stage().show();
-        program->stage().activateWindow();
-        QApplication::processEvents();
-        QTimer::singleShot(0,
-                           [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space); });  // no intro
-        ASSERT_TRUE(program->Main({}));
-        main = program->mainScreen();
-    }
     QWidget* button(int i) { return main->findChild<QWidget*>(QStringLiteral("imgClick(%1)").arg(i)); }
     frmMenu* levelOf(const QString& code) {
         for (frmMenu* level = main->menu(); level; level = level->child()) {
@@ -60,10 +39,7 @@ class ShippedMenu : public testing::Test {
     void expectScreen(int topic, const MenuLevel& level, int k);
     void expectIdle();
 
-    QTemporaryDir folder;
-    FakePlatform platform;
-    std::unique_ptr<Program> program;
-    frmHlavni* main = nullptr;
+    frmHlavni* main = program->mainScreen();
     int actions = 0;
 };
 

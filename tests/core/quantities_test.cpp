@@ -15,64 +15,17 @@ QString shown(double stored, const QLocale& locale = kCzech) {
     return Quantities(4, 4, locale).text(stored);
 }
 
+// Hundredths first, halves to the even neighbour of the decimal text; tenths below ten; whole numbers below a
+// hundred; whole tens from there on; nothing for what is too small, negative, or beyond all bounds.
 TEST(QuantitiesTest, ShowsNoMorePrecisionThanAKitchenHas) {
-    const struct {
-        double stored;
-        const char* text;
-    } cases[] = {
-        // Hundredths first, halves to the even neighbour of the decimal text.
-        {0.125, "0,1"},
-        {0.135, "0,1"},
-        {0.165, "0,2"},
-        {0.05, "0,05"},
-        {0.045, "0,04"},
-        {0.055, "0,06"},
-        {0.005, ""},
-        {0.0051, "0,01"},
-        {0.015, "0,02"},
-        {0.094, "0,09"},
-        {0.095, "0,1"},
-        {0.1, "0,1"},
-        // Tenths below ten.
-        {0.25, "0,2"},
-        {0.35, "0,4"},
-        {1, "1"},
-        {3.33, "3,3"},
-        {9.94, "9,9"},
-        {9.95, "10"},
-        {9.994, "10"},
-        // Whole numbers below a hundred.
-        {10, "10"},
-        {10.5, "10"},
-        {11.5, "12"},
-        {12.5, "12"},
-        {12.505, "12"},
-        {12.51, "13"},
-        {95, "95"},
-        {99.4, "99"},
-        {99.5, "100"},
-        {99.99, "100"},
-        // Whole tens from there on.
-        {100, "100"},
-        {105, "100"},
-        {105.01, "110"},
-        {115, "120"},
-        {150, "150"},
-        {154, "150"},
-        {155, "160"},
-        {375, "380"},
-        {385, "380"},
-        {999.9, "1000"},
-        {1e6, "1000000"},
-        {16777216, "16777220"},
-        // Nothing to show.
-        {0, ""},
-        {-1, ""},
-        {-250, ""},
-        {0.004, ""},
-        {1e300, ""},
-    };
-    for (const auto& c : cases) EXPECT_EQ(shown(c.stored), QString::fromUtf8(c.text)) << "for " << c.stored;
+    const QString cases = QStringLiteral(
+        "0.125:0,1 0.135:0,1 0.165:0,2 0.05:0,05 0.045:0,04 0.055:0,06 0.005: 0.0051:0,01 0.015:0,02 "
+        "0.094:0,09 0.095:0,1 0.1:0,1 0.25:0,2 0.35:0,4 1:1 3.33:3,3 9.94:9,9 9.95:10 9.994:10 10:10 "
+        "10.5:10 11.5:12 12.5:12 12.505:12 12.51:13 95:95 99.4:99 99.5:100 99.99:100 100:100 105:100 "
+        "105.01:110 115:120 150:150 154:150 155:160 375:380 385:380 999.9:1000 1e6:1000000 "
+        "16777216:16777220 0: -1: -250: 0.004: 1e300:");
+    for (const QString& c : cases.split(u' '))
+        EXPECT_EQ(shown(c.section(u':', 0, 0).toDouble()), c.section(u':', 1)) << c;
 }
 
 TEST(QuantitiesTest, RoundsTheProductOnItsShortestDecimalText) {

@@ -46,13 +46,6 @@ TEST_F(DialogTest, TakesWhatBeginsWithAPositiveNumber) {
     EXPECT_TRUE(run.messages.isEmpty());
 }
 
-TEST_F(DialogTest, F1OpensHelpAndTheEntryGoesOn) {
-    auto* below = new Form(run, QStringLiteral("frmHlavni"));
-    run.PushScreen(*below);
-    EXPECT_EQ(number("12", {Qt::Key_F1, Qt::Key_Return}), 12);
-    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("showHelpFor frmDialog")});
-}
-
 TEST_F(DialogTest, AnythingElseIsRefusedAndAskedAgain) {
     for (const char* text : {"0", "-3", "", "abc", "1e999"}) {
         stayedOpen = false;

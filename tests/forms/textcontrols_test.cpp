@@ -206,15 +206,6 @@ TEST_F(NoteEditing, LeavesTheKeysOfTheFormToTheForm) {
     EXPECT_EQ(note.text(), QString());
 }
 
-TEST_F(NoteEditing, HoldsATextOfAnyLength) {
-    const QString line = QStringLiteral("Příliš žluťoučký kůň úpěl ďábelské ódy.\n");
-    const QString all = line.repeated(20000);
-    note.setText(all);
-    EXPECT_EQ(note.text(), all);
-    note.setText(QString());
-    EXPECT_EQ(note.text(), QString());
-}
-
 TEST_F(NoteEditing, OffersItsCommandsInCzech) {
     note.setText(QStringLiteral("ryba"));
     QStringList captions;

@@ -74,16 +74,6 @@ TEST_F(KeywordTest, AMissingKeywordLeavesTheText) {
     EXPECT_TRUE(book.callerIsOnTop()) << "it was no visit";
 }
 
-TEST_F(KeywordTest, OtherPhrasesBeepOrOpenTheVideo) {
-    show(3);
-    clickLink(1);
-    EXPECT_EQ(run.beeps, 1);
-    EXPECT_EQ(run.recorded.calls, QStringList());
-    clickLink(2);
-    EXPECT_EQ(run.recorded.calls, QStringList{u("showVideo 7")});
-    EXPECT_EQ(run.beeps, 1);
-}
-
 TEST_F(KeywordTest, TabGoesThroughThePhrasesAndTheBarInACircle) {
     show(3);
     QStringList stops;

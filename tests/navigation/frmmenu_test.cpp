@@ -216,12 +216,6 @@ TEST_F(MenuFormTest, TrianglesPointWhereTheSubmenuOpens) {
     EXPECT_EQ(label(main->menu(), 2)->text(), QStringLiteral("Štika   ")) << "nothing but three blanks more";
 }
 
-TEST_F(MenuFormTest, LettersFindNamesWithAccents) {
-    main->menu()->unfold(QStringLiteral("17"), {100, 100, 1, 1});
-    type("st");
-    EXPECT_EQ(main->menu()->selected(), 2);
-}
-
 TEST_F(MenuFormTest, ResultsNeverCoverTheSearchAndSayWhatTheyHold) {
     clickButton(12);
     auto* entry = child<Edit>(*main->menu(), "Text1");

@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <cmath>
 
 #include "richtext/basZobrazRtfSarne.h"
 #include "richtext/fontface.h"
@@ -191,19 +190,6 @@ TEST(FontFace, IsAsWideAsQtSays) {
     }
     EXPECT_EQ(FontFace({QStringLiteral("Arial CE")}).rawFont().familyName(),
               FontFace({QStringLiteral("Arial")}).rawFont().familyName());
-}
-
-TEST(LinkColors, AreReadableOnPaper) {
-    const auto luminance = [](const QColor& color) {
-        const auto linear = [](double v) {
-            return v <= .03928 ? v / 12.92 : std::pow((v + .055) / 1.055, 2.4);
-        };
-        return .2126 * linear(color.redF()) + .7152 * linear(color.greenF()) + .0722 * linear(color.blueF());
-    };
-    const double paper = luminance(QColor(244, 234, 210));
-    for (const LinkKind kind : {LinkKind::Keyword, LinkKind::Beep, LinkKind::Video}) {
-        EXPECT_GE((paper + .05) / (luminance(linkColor(kind)) + .05), 4.5) << static_cast<int>(kind);
-    }
 }
 
 }  // namespace

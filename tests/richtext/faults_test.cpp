@@ -2,11 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QImage>
 
 #include "richtext/layoutdump.h"
-#include "richtext/qttextmetrics.h"
-#include "richtext/rtfpainter.h"
 
 namespace sarne {
 namespace {
@@ -88,33 +85,6 @@ TEST(Faults, MuchOfOneThing) {
     EXPECT_EQ(boxes(head + many(u"{\\fonttbl", 100000) + u'a'), 0u);
     EXPECT_EQ(boxes(head + many(u" ", 500000) + u'a'), 1u);
     EXPECT_EQ(boxes(head + u'\\' + many(u"a", 500000) + QStringLiteral(" b")), 1u);
-}
-
-TEST(Faults, TenThousandFonts) {
-    QString rtf = QStringLiteral("{\\rtf1{\\fonttbl"), body = QStringLiteral("}\\plain");
-    for (int i = 0; i < 10000; ++i) {
-        rtf += QStringLiteral("{\\f%1 Font%1;}").arg(i);
-        body += QStringLiteral("\\f%1 a ").arg(i);
-    }
-    const RtfLayout layout = layOutSoundly(rtf + body);
-    EXPECT_EQ(layout.boxes().size(), 10000u);
-    EXPECT_EQ(layout.fonts()[layout.boxes()[100].font].name, QStringLiteral("Font100"));
-    EXPECT_EQ(layout.fonts()[layout.boxes()[9999].font], TextFont());
-}
-
-TEST(Faults, CanBePainted) {
-    QtTextMetrics metrics;
-    QImage picture(50, 50, QImage::Format_RGB32);
-    for (const QString& body : {QStringLiteral("\\fs99999 Aa\\b\\i\\ul Bb"),
-                                QString(QChar(0xd800)) + QChar(0xfffe) + u' ' + QChar(0xdc00),
-                                QStringLiteral("*") + QStringLiteral("dlouhá ").repeated(15000),
-                                QStringLiteral("\\fs1 a\\'00\\'01\\'ad")}) {
-        const RtfLayout layout =
-            RtfLayout::of(QStringLiteral("{\\rtf1\\plain") + body, {0, 3000, 0}, metrics);
-        QPainter painter(&picture);
-        paintLayout(painter, layout, {0, 0, 3000, 100000}, {0, 0});
-        EXPECT_FALSE(layout.boxes().empty());
-    }
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "wander.h"
 
+#include <malloc.h>
 #include <unistd.h>
 
 #include <QApplication>
@@ -10,84 +11,19 @@
 #include <random>
 
 #include "app/program.h"
+#include "doors.h"
 
 namespace sarne {
 namespace {
 
-/// Leads to a screen that chance alone would hardly find, about the recipe \a id where it is about one.
-struct Door {
-    const char* form;
-    void (*open)(Program& program, std::int16_t id);
-};
-
-void clickOnTop(Program& program, const QString& control) {
-    const Form* top = program.FormStack.top();
-    if (auto* found = top ? top->findChild<QWidget*>(control) : nullptr)
-        QTest::mouseClick(found, Qt::LeftButton);
-}
-
-void choosePrint(Program& program, std::int16_t id) {
-    program.screens().showPrintSelection(
-        {{QStringLiteral("kapr"), id, true}, {QStringLiteral("losos"), 2, false}}, {});
-}
-
-void print(Program& program, std::int16_t id) {
-    program.screens().printRecipes({id}, {});
-}
-
-constexpr Door kDoors[] = {
-    {"frmMenu", [](Program& program, std::int16_t) { clickOnTop(program, QStringLiteral("imgClick(5)")); }},
-    {"frmSeznam",
-     [](Program& program, std::int16_t) { program.screens().showList({}, QStringLiteral("Recepty")); }},
-    {"frmRychlyRecept",
-     [](Program& program, std::int16_t) {
-         program.screens().showList({}, QStringLiteral("RychleRecepty"));
-         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-     }},
-    {"frmRecept", [](Program& program, std::int16_t id) { program.screens().showRecipe(id); }},
-    {"frmSit", [](Program& program, std::int16_t) { program.screens().showGrid(); }},
-    {"frmFotoBig",
-     [](Program& program, std::int16_t id) {
-         program.screens().showPhotos({{id, 1, 2}, 0, true, 20});
-     }},
-    {"frmVideo",
-     [](Program& program, std::int16_t id) { program.screens().showVideo(std::int16_t(1 + id % 9)); }},
-    {"frmNastavHudbu", [](Program& program, std::int16_t) { program.screens().showMusicSettings(); }},
-    {"frmStranka", [](Program& program, std::int16_t) { program.screens().showPage(QStringLiteral("10")); }},
-    {"FrmTabulky",
-     [](Program& program, std::int16_t id) { program.screens().showTables(std::int16_t(2 + id % 7)); }},
-    {"frmIndex", [](Program& program, std::int16_t id) { program.screens().showIndex(id); }},
-    {"frmSponzor",
-     [](Program& program, std::int16_t id) { program.screens().showSponsor(id % 2 ? 9 : 13, QString()); }},
-    {"frmSave", choosePrint},
-    {"frmPrint", print},
-    {"frmTiskarna",
-     [](Program& program, std::int16_t id) {
-         print(program, id);
-         clickOnTop(program, QStringLiteral("cmdTiskarna"));
-     }},
-    {"frmNahled",
-     [](Program& program, std::int16_t id) {
-         print(program, id);
-         clickOnTop(program, QStringLiteral("cmdNahled"));
-     }},
-    {"frmVarime", [](Program& program, std::int16_t id) { program.screens().cookRecipe(id, {}); }},
-    {"frmNakup",
-     [](Program& program, std::int16_t id) {
-         program.screens().addToShoppingList({id}, {});
-         program.screens().showShoppingList();
-     }},
-    {"frmDoma", [](Program& program, std::int16_t) { program.screens().showPantry(); }},
-    {"frmKucharka", [](Program& program, std::int16_t) { program.screens().showOwnCookbook(); }},
-    {"frmHostina", [](Program& program, std::int16_t) { program.screens().showFeast(); }},
-};
-
 /// What the process takes of the machine.
 struct Use {
-    double megabytes = 0;
+    double megabytes = 0, held = 0;  ///< of memory; of what was asked for and not given back
     qsizetype files = 0, threads = 0;
 
     static Use now() {
+        malloc_trim(0);  // what is free is not counted
+        const struct mallinfo2 heap = mallinfo2();
         QFile pages(QStringLiteral("/proc/self/statm"));
         if (!pages.open(QIODevice::ReadOnly)) return {};
         const auto entries = [](const char* folder) {
@@ -96,7 +32,8 @@ struct Use {
                 .size();
         };
         const double page = double(sysconf(_SC_PAGESIZE)) / 1e6;
-        return {pages.readAll().split(' ').value(1).toDouble() * page, entries("/proc/self/fd"),
+        return {pages.readAll().split(' ').value(1).toDouble() * page,
+                double(heap.uordblks + heap.hblkhd) / 1e6, entries("/proc/self/fd"),
                 entries("/proc/self/task")};
     }
 };
@@ -118,9 +55,8 @@ class Wanderer {
 
     /// Goes back to the main screen and from there through the next door.
     void goThroughADoor() {
-        for (int tries = 0; program_.FormStack.count() > 1 && tries < kTries; ++tries)
-            QTest::keyClick(program_.FormStack.top(), Qt::Key_Escape);
-        const Door& door = kDoors[door_++ % std::size(kDoors)];
+        goBackToMain(program_);
+        const Door& door = doors()[door_++ % doors().size()];
         door.open(program_, std::int16_t(1 + below(kRecipes)));
         note();
     }
@@ -132,13 +68,13 @@ class Wanderer {
     const QSet<QString>& seen() const { return seen_; }
     QStringList notSeen() const {
         QStringList missed;
-        for (const Door& door : kDoors)
+        for (const Door& door : doors())
             if (!seen_.contains(QLatin1String(door.form))) missed << QLatin1String(door.form);
         return missed;
     }
 
   private:
-    static constexpr int kRecipes = 50, kTries = 20;
+    static constexpr int kRecipes = 50;
 
     int below(int limit) { return std::uniform_int_distribution<>(0, limit - 1)(random_); }
 
@@ -185,8 +121,8 @@ bool wander(Program& program, int steps, unsigned seed, QTextStream& out) {
         if (done % kEvery != 0) continue;
         now = Use::now();
         if (done == kWarm) warm = now;
-        out << done << " steps: " << now.megabytes << " MB, " << now.files << " files, " << now.threads
-            << " threads, " << user.seen().size() << " screens seen" << Qt::endl;
+        out << done << " steps: " << now.megabytes << " MB, " << now.held << " MB held, " << now.files
+            << " files, " << now.threads << " threads, " << user.seen().size() << " screens seen" << Qt::endl;
     }
     if (steps < kWarm) return !program.hasEnded();
     out << "Grown since step " << kWarm << ": " << 100 * (now.megabytes / warm.megabytes - 1) << " %"

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "core/texts.h"
 #include "forms/backgroundmusic.h"
@@ -120,9 +121,9 @@ void frmHlavni::mouseMoveEvent(QMouseEvent*) {
 }
 
 const std::vector<Picture>& frmHlavni::frames(int i) {
-    auto known = frames_.find(i);
-    if (known == frames_.end()) known = frames_.emplace(i, app().resources().animation(i)).first;
-    return known->second;
+    // Only those of the thing that moves: decoded, all together take more than the rest of the program.
+    if (std::exchange(framesOf_, i) != i) frames_ = app().resources().animation(i);
+    return frames_;
 }
 
 QRect frmHlavni::frameRect(int i) const {

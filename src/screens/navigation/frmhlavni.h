@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <unordered_map>
 #include <vector>
 
 #include "forms/button.h"
@@ -77,7 +76,8 @@ class frmHlavni : public Form {
     bool menuOpen_ = false;
     int shownFrame_ = 0;  // 1.., 0: the picture at rest
     std::array<Button*, kButtonCount> imgClick{};
-    std::unordered_map<int, std::vector<Picture>> frames_;
+    std::vector<Picture> frames_;
+    int framesOf_ = -1;  ///< the thing whose frames they are
     Timer TmrPohyby;
     Label Label2;
     frmMenu* menu_ = nullptr;

@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QTimer>
+
+#include "forms/button.h"
+#include "forms/checkbox.h"
+#include "forms/label.h"
+#include "forms/picturebox.h"
+#include "screens/navigation/frmhlavni.h"
+#include "shippedprogram.h"
+#include "tour/doors.h"
+
+namespace sarne {
+namespace {
+
+enum class Way { Mouse, Key };
+
+/// What can be told of a control from outside.
+QString stateOf(const Control& control) {
+    QString state = control.accessibleName() + u'/' + control.accessibleValue();
+    if (const auto* button = qobject_cast<const Button*>(&control))
+        state += button->caption() + QString::number(int(button->frame()));
+    if (const auto* box = qobject_cast<const CheckBox*>(&control)) state += QString::number(box->isChecked());
+    if (const auto* picture = qobject_cast<const PictureBox*>(&control)) state += picture->drawnText();
+    return state + QString::number(control.isEnabled());
+}
+
+QStringList stateOf(const Form& form) {
+    QStringList all{form.name()};
+    for (const Control* control : form.findChildren<Control*>())
+        if (control->isVisibleTo(&form)) all << control->objectName() + u'=' + stateOf(*control);
+    return all;
+}
+
+/// A user who opens a screen of the program by its door, uses one control of it and looks at what that did.
+class Visitor : public ShippedProgram {
+  public:
+    explicit Visitor(const Door* door) : door_(door) {
+        QObject::connect(&patience_, &QTimer::timeout, [this] { leaveBox(); });
+    }
+
+    /// The names of the controls of the screen that say that they can be pressed.
+    QStringList controls() {
+        QStringList names;
+        visit([&] {
+            for (const Control* control : front()->findChildren<Control*>())
+                if (canBePressed(*control)) names << control->objectName();
+        });
+        return names;
+    }
+    /// What using the control called \a name did: the form that is in front, what was asked, what changed.
+    QStringList use(const QString& name, Way way) {
+        QStringList outcome;
+        visit([&] {
+            auto* control = front()->findChild<Control*>(name);
+            if (!control || !canBePressed(*control)) return void(outcome = {QStringLiteral("not there")});
+            const QPointer<Form> screen = front();
+            const QStringList before = stateOf(*screen);
+            asked_.clear();
+            patience_.start(20);
+            press(*control, way);
+            QTest::qWait(kSettle);
+            patience_.stop();
+            outcome = asked_;
+            if (front() != screen) outcome << (front() ? front()->name() : QStringLiteral("nothing"));
+            if (!screen || front() != screen) return;
+            for (const QString& line : stateOf(*screen))
+                if (!before.contains(line)) outcome << line;
+        });
+        return outcome;
+    }
+
+  private:
+    static constexpr int kSettle = 5;  // milliseconds, in which what was begun is done
+
+    Form* front() const {
+        Stage& stage = program->stage();
+        return stage.modalForm() ? stage.modalForm() : stage.focusForm();
+    }
+    static bool canBePressed(const Control& control) {
+        return control.isPressable() && control.isVisible() && control.isEnabled() &&
+               control.focusPolicy() != Qt::NoFocus;
+    }
+    void press(Control& control, Way way) {
+        if (way == Way::Key) {
+            control.setFocus();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            return;
+        }
+        const QPoint middle = control.mapTo(&program->stage(), control.rect().center());
+        QWidget* hit = program->stage().childAt(middle);
+        QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&program->stage(), middle));
+    }
+    void leaveBox() {
+        if (QWidget* dialog = QApplication::activeModalWidget()) dialog->close();
+        Form* box = program->stage().modalForm();
+        if (!box || box->name() == QLatin1String(door_ ? door_->form : "")) return;
+        asked_ << box->name() + u' ' + box->accessibleName();
+        QTest::keyClick(box, Qt::Key_Escape);
+    }
+    /// Opens the screen, does \a something there and goes back to the main screen.
+    template <typename Something>
+    void visit(Something something) {
+        bool done = false;
+        QTimer::singleShot(kSettle, &program->stage(), [&] {  // within the dialog, where it is one
+            something();
+            done = true;
+            for (int tries = 0; program->stage().modalForm() && tries < 5; ++tries)
+                QTest::keyClick(program->stage().modalForm(), Qt::Key_Escape);
+        });
+        if (door_) door_->open(*program, kRecipe);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return done; })) << "the screen was not left";
+        patience_.start(20);
+        goBackToMain(*program);
+        program->screens().returnToMain();
+        patience_.stop();
+    }
+    static constexpr std::int16_t kRecipe = 5;
+
+    const Door* door_;
+    QTimer patience_;
+    QStringList asked_;
+};
+
+/// What every control of a screen does on a first and a second visit: "control: outcome".
+QStringList outcomes(const Door* door, Way first, Way second) {
+    Visitor visitor(door);
+    QStringList all;
+    for (const QString& control : visitor.controls())
+        for (const Way way : {first, second})
+            all << control + QStringLiteral(": ") + visitor.use(control, way).join(QStringLiteral(", "));
+    return all;
+}
+
+class BothWays : public testing::TestWithParam<const Door*> {};
+
+TEST_P(BothWays, EveryControlDoesTheSameByMouseAndByKeyOnAFirstVisitAndOnASecond) {
+    const QStringList byMouse = outcomes(GetParam(), Way::Mouse, Way::Key);
+    EXPECT_EQ(byMouse, outcomes(GetParam(), Way::Key, Way::Mouse));
+    for (const QString& outcome : byMouse)
+        EXPECT_FALSE(outcome.endsWith(QStringLiteral(": "))) << outcome.toStdString() << "nothing";
+}
+
+std::vector<const Door*> screens() {
+    std::vector<const Door*> all{nullptr};
+    for (const Door& door : doors()) all.push_back(&door);
+    return all;
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, BothWays, testing::ValuesIn(screens()), [](const auto& door) {
+    return std::string(door.param ? door.param->form : "frmHlavni");
+});
+
+}  // namespace
+}  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later
