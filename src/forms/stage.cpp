@@ -121,7 +121,10 @@ void Stage::watchInput(const QEvent& event) {
 void Stage::followFocus(QObject* watched, QEvent::Type type) {
     auto* widget = qobject_cast<QWidget*>(watched);
     while (widget && !qobject_cast<Control*>(widget)) widget = widget->parentWidget();
-    auto* form = widget ? qobject_cast<Form*>(widget->parentWidget()) : nullptr;  // not while it is destroyed
+    if (!widget) return;
+    QWidget* parent = widget->parentWidget();  // a form, or a frame on one
+    while (qobject_cast<Control*>(parent)) parent = parent->parentWidget();
+    auto* form = qobject_cast<Form*>(parent);  // not while it is destroyed
     if (!form) return;
     auto& control = static_cast<Control&>(*widget);
     if (type == QEvent::FocusIn) form->ring().arrived(control);

@@ -2,6 +2,7 @@
 
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 #include "forms/button.h"
 #include "forms/checkbox.h"
@@ -18,7 +19,7 @@ enum class Way { Mouse, Key };
 
 /// What can be told of a control from outside.
 QString stateOf(const Control& control) {
-    QString state = control.accessibleName() + u'/' + control.accessibleValue();
+    QString state = control.accessibleName();
     if (const auto* button = qobject_cast<const Button*>(&control))
         state += button->caption() + QString::number(int(button->frame()));
     if (const auto* box = qobject_cast<const CheckBox*>(&control)) state += QString::number(box->isChecked());
@@ -58,13 +59,16 @@ class Visitor : public ShippedProgram {
             const QPointer<Form> screen = front();
             const QStringList before = stateOf(*screen);
             asked_.clear();
+            const int beeps = platform.beeper.beeps;
             patience_.start(20);
             press(*control, way);
             QTest::qWait(kSettle);
             patience_.stop();
             outcome = asked_;
+            if (platform.beeper.beeps != beeps) outcome << QStringLiteral("beeps");
+            if (!screen || !screen->isVisible()) return void(outcome << QStringLiteral("closes"));
             if (front() != screen) outcome << (front() ? front()->name() : QStringLiteral("nothing"));
-            if (!screen || front() != screen) return;
+            if (front() != screen) return;
             for (const QString& line : stateOf(*screen))
                 if (!before.contains(line)) outcome << line;
         });
@@ -72,7 +76,7 @@ class Visitor : public ShippedProgram {
     }
 
   private:
-    static constexpr int kSettle = 5;  // milliseconds, in which what was begun is done
+    static constexpr int kOpen = 40, kSettle = 5;  // milliseconds, in which what was begun is done
 
     Form* front() const {
         Stage& stage = program->stage();
@@ -84,6 +88,7 @@ class Visitor : public ShippedProgram {
     }
     void press(Control& control, Way way) {
         if (way == Way::Key) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);  // the keyboard is in use, and shown
             control.setFocus();
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
             return;
@@ -103,7 +108,7 @@ class Visitor : public ShippedProgram {
     template <typename Something>
     void visit(Something something) {
         bool done = false;
-        QTimer::singleShot(kSettle, &program->stage(), [&] {  // within the dialog, where it is one
+        QTimer::singleShot(kOpen, &program->stage(), [&] {  // within the dialog, where it is one
             something();
             done = true;
             for (int tries = 0; program->stage().modalForm() && tries < 5; ++tries)
@@ -133,13 +138,33 @@ QStringList outcomes(const Door* door, Way first, Way second) {
     return all;
 }
 
+/// Controls that do nothing in a screen just opened, or nothing that a user could see on it.
+bool isIdle(const Door* door, const QString& outcome) {
+    static constexpr std::pair<const char*, const char*> kIdle[] = {
+        {"frmRecept", "imgBtn(0)"},         // the section that shows
+        {"frmRecept", "imgKuchyne(1)"},     // puts things on a list that is elsewhere
+        {"frmSit", "imgCela"},              // the whole grid shows
+        {"frmVideo", "ImgTlacitko(1)"},     // it plays
+        {"frmNastavHudbu", "opthudba(0)"},  // the track that is chosen
+        {"FrmTabulky", "imgSipky"},         // scroll what is drawn
+        {"frmSave", "cmdRuka(2)"},          // nothing was chosen that could be taken away
+        {"frmNakup", "cmdAkce(0)"},         // nothing was typed
+        {"frmDoma", "cmdAkce"},             // nothing was typed or chosen
+    };
+    return std::ranges::any_of(kIdle, [&](const auto& idle) {
+        return door && QLatin1String(door->form) == QLatin1String(idle.first) &&
+               outcome.startsWith(QLatin1String(idle.second));
+    });
+}
+
 class BothWays : public testing::TestWithParam<const Door*> {};
 
 TEST_P(BothWays, EveryControlDoesTheSameByMouseAndByKeyOnAFirstVisitAndOnASecond) {
     const QStringList byMouse = outcomes(GetParam(), Way::Mouse, Way::Key);
     EXPECT_EQ(byMouse, outcomes(GetParam(), Way::Key, Way::Mouse));
     for (const QString& outcome : byMouse)
-        EXPECT_FALSE(outcome.endsWith(QStringLiteral(": "))) << outcome.toStdString() << "nothing";
+        EXPECT_TRUE(!outcome.endsWith(QStringLiteral(": ")) || isIdle(GetParam(), outcome))
+            << outcome.toStdString() << "nothing";
 }
 
 std::vector<const Door*> screens() {

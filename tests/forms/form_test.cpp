@@ -195,6 +195,30 @@ TEST_F(FormTest, ALabelWrapsAtItsWidth) {
     EXPECT_GE(label.twips().height(), line * 2);
 }
 
+TEST_F(FormTest, ALabelShowsItsNewTextAndAHandWhileItCanBeClicked) {
+    auto& label = *new Label(*screen, QStringLiteral("Label1"));
+    label.place({600, 600, 3000, 600});
+    label.setClickable(true);
+    screen->showForm();
+    QApplication::processEvents();
+    struct : QObject {
+        int count = 0;
+        bool eventFilter(QObject*, QEvent* event) override {
+            count += event->type() == QEvent::Paint;
+            return false;
+        }
+    } paintings;
+    label.installEventFilter(&paintings);
+    label.setText(QStringLiteral("Kapr"));
+    QApplication::processEvents();
+    EXPECT_GT(paintings.count, 0);
+    EXPECT_EQ(label.cursor().shape(), Qt::PointingHandCursor);
+    label.setEnabled(false);
+    EXPECT_NE(label.cursor().shape(), Qt::PointingHandCursor);
+    label.setEnabled(true);
+    EXPECT_EQ(label.cursor().shape(), Qt::PointingHandCursor);
+}
+
 }  // namespace
 }  // namespace sarne
 

@@ -62,6 +62,7 @@ class NamePlateTest : public testing::Test {
 TEST_F(NamePlateTest, ComesWhenThePointerRestsAndGoesWhenItLeaves) {
     moveTo(first);
     EXPECT_EQ(plate().text(), QString()) << "not at once";
+    EXPECT_GT(plate().findChild<Timer*>()->interval(), 200);
     rest();
     EXPECT_EQ(plate().text(), QStringLiteral("Pánev"));
     EXPECT_NEAR(plate().twips().center().x(), first.twips().center().x(), 1);

@@ -83,6 +83,7 @@ TEST_F(ScreenTest, EverySectionShowsItsOwn) {
         EXPECT_EQ(at<Button>(qPrintable(nth("imgBtn", index))).frame(), Button::Frame::Pressed);
         EXPECT_EQ(at<Button>(qPrintable(nth("imgBtn", index - 1))).frame(), Button::Frame::Raised);
     }
+    EXPECT_EQ(form->childAt(at("lblIkona(4)").geometry().center()), &at("lblIkona(4)"));
     QTest::mouseClick(&at("lblIkona(4)"), Qt::LeftButton);
     EXPECT_EQ(form->section(), 4);
 }
