@@ -77,16 +77,6 @@ TEST_F(MainScreenTest, HoverPlaysTheAnimationAndItsEffectOnce) {
     EXPECT_NE(redAt(4), 80);
 }
 
-TEST_F(MainScreenTest, WithoutEffectsOrPicturesItIsSilentAndStill) {
-    start();
-    moveOver(3);
-    timer->fire();
-    EXPECT_TRUE(run.sounds.played.isEmpty());
-    EXPECT_EQ(main->currentButton(), 3);
-    EXPECT_FALSE(button(19)->isVisible());
-    EXPECT_FALSE(button(20)->isVisible());
-}
-
 TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
     start();
     EXPECT_TRUE(run.player.commands.isEmpty());
