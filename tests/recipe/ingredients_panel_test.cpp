@@ -13,15 +13,6 @@ class IngredientPanelTest : public RecipeTest {
     QString state() { return at<Label>("lblPorce").text(); }
 };
 
-TEST_F(IngredientPanelTest, ShowsTheRecipesOwnPortionsByWeight) {
-    EXPECT_EQ(frame(4), Button::Frame::Pressed);
-    EXPECT_EQ(frame(10), Button::Frame::Raised);
-    EXPECT_EQ(state(), QStringLiteral("4 porce\nv gramech"));
-    EXPECT_TRUE(at("imgKgLzice").isVisible());
-    click("imgBtn(6)");
-    EXPECT_FALSE(at("imgKgLzice").isVisible());
-}
-
 TEST_F(IngredientPanelTest, CutleryForSixRecalculates) {
     click("imgPrepocet(6)");
     EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 380"));

@@ -17,17 +17,6 @@ class NoteTest : public RecipeTest {
     NoteEdit& note() { return at<NoteEdit>("RtfPozn"); }
 };
 
-TEST_F(NoteTest, LeavingWithoutTypingAsksNothing) {
-    EXPECT_TRUE(note().hasInput());
-    EXPECT_EQ(note().text(), QString());
-    EXPECT_TRUE(at("cmdUloz(1)").isVisible());
-    click("imgBtn(1)");
-    EXPECT_FALSE(note().isVisible());
-    EXPECT_FALSE(at("cmdUloz(0)").isVisible());
-    EXPECT_TRUE(run.messages.isEmpty());
-    EXPECT_TRUE(storedNote().isNull());
-}
-
 TEST_F(NoteTest, AChangedNoteAsksBeforeAnotherSectionIsDrawn) {
     type(QStringLiteral("x"));
     run.answers = {7};

@@ -292,21 +292,6 @@ TEST_F(ScreenTest, CtrlCPutsTheRecipeOnTheClipboard) {
     EXPECT_EQ(QApplication::clipboard()->text().remove(u'\r'), form->collectedText().remove(u'\r'));
 }
 
-TEST_F(ScreenTest, TakesAnyKeyOnAnyControlWithoutHarm) {
-    const int keys[] = {Qt::Key_Tab,      Qt::Key_Down,    Qt::Key_Left,  Qt::Key_Return,
-                        Qt::Key_PageDown, Qt::Key_End,     Qt::Key_Space, Qt::Key_Up,
-                        Qt::Key_Right,    Qt::Key_Backtab, Qt::Key_Home,  Qt::Key_A};
-    unsigned random = 7;
-    run.recorded.calls.clear();
-    for (int step = 0; step < 600; ++step) {
-        random = random * 1664525 + 1013904223;
-        press(keys[(random >> 16) % std::size(keys)]);
-        ASSERT_EQ(run.FormStack.top(), run.FormStack.count() == 2 ? form : below);
-        if (run.FormStack.count() == 1) open(5 + int(random >> 20) % 3);
-        ASSERT_FALSE(focused().isEmpty()) << "the keyboard is never lost";
-    }
-}
-
 }  // namespace
 }  // namespace sarne
 
