@@ -25,7 +25,7 @@ TEST(QuantitiesTest, ShowsNoMorePrecisionThanAKitchenHas) {
         "105.01:110 115:120 150:150 154:150 155:160 375:380 385:380 999.9:1000 1e6:1000000 "
         "16777216:16777220 0: -1: -250: 0.004: 1e300:");
     for (const QString& c : cases.split(u' '))
-        EXPECT_EQ(shown(c.section(u':', 0, 0).toDouble()), c.section(u':', 1)) << c;
+        EXPECT_EQ(shown(c.section(u':', 0, 0).toDouble()), c.section(u':', 1)) << c.toStdString();
 }
 
 TEST(QuantitiesTest, RoundsTheProductOnItsShortestDecimalText) {
