@@ -88,7 +88,8 @@ class Visitor : public ShippedProgram {
     }
     void press(Control& control, Way way) {
         if (way == Way::Key) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);  // the keyboard is in use, and shown
+            // The keyboard is in use, and shown; on the main screen it always is.
+            if (door_) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             control.setFocus();
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
             return;
