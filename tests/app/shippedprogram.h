@@ -23,6 +23,7 @@ class ShippedProgram {
                 throw std::runtime_error("no " + shipped.toStdString());
             QFile::setPermissions(folder.filePath(QLatin1String(name)), QFile::ReadOwner | QFile::WriteOwner);
         }
+        qputenv("HOME", QFile::encodeName(folder.path()));  // where documents are kept
         platform.settings.set(QStringLiteral("CDPath"), QStringLiteral(SARNE_DISC "/disc"));
         program = std::make_unique<Program>(platform.parts(), Folders{folder.path(), folder.path()});
         program->stage().resize(800, 600);
