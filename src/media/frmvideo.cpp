@@ -238,6 +238,7 @@ void frmVideo::showProgress() {
     bar_.show(position, MMControlVideo->length());
     time_.setText(clockText(position) + QStringLiteral(" / ") + clockText(MMControlVideo->length()));
     chapter_.setText(chapters_.titleAt(position));
+    bar_.setAccessibleDescription(time_.text());
 }
 
 void frmVideo::pressChapter(int index) {

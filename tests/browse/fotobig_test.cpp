@@ -106,6 +106,22 @@ TEST_F(FotoBigTest, TwoClicksOrKeysWithinHalfASecondStepOnce) {
     EXPECT_FALSE(isClosed()) << "the guard holds for the click that closes, too";
 }
 
+TEST_F(FotoBigTest, AFingerThatGoesSidewaysStepsWhereverItBegins) {
+    open({1, 2, 3});
+    const auto swipe = [this](QPoint from, QPoint to) {
+        run.time.time += 500;
+        QTest::mouseMove(viewer, from);
+        QTest::mousePress(viewer, Qt::LeftButton, {}, from);
+        QTest::mouseRelease(viewer, Qt::LeftButton, {}, to);
+    };
+    swipe({500, 300}, {300, 310});
+    EXPECT_EQ(title(), QStringLiteral("Recept 002"));
+    swipe({300, 300}, {500, 280});
+    EXPECT_EQ(title(), QStringLiteral("Recept 001"));
+    swipe({400, 200}, {480, 400});
+    EXPECT_TRUE(isClosed()) << "downwards it is a click in the middle";
+}
+
 TEST_F(FotoBigTest, TheDoubleClickThatOpenedItIsNoClickOnIt) {
     open({1, 2, 3});
     QTest::mouseDClick(viewer, Qt::LeftButton, {}, {400, 300});

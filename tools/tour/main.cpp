@@ -129,7 +129,9 @@ int main(int argc, char** argv) {
         QStringLiteral("PART,…"));
     const QCommandLineOption measured(QStringLiteral("figures"),
                                       QStringLiteral("instead of the tour, measure what a user waits for"));
-    options.addOptions({measured, only, size, program, disc, expect, look, accept, steps, seed});
+    const QCommandLineOption contrast(QStringLiteral("contrast"),
+                                      QStringLiteral("in high contrast, where texts keep 7 : 1"));
+    options.addOptions({contrast, measured, only, size, program, disc, expect, look, accept, steps, seed});
     options.process(application);
     const QStringList wide = options.value(size).split(u'x');
     if (options.positionalArguments().size() != 1 || wide.size() != 2) options.showHelp(2);
@@ -160,6 +162,8 @@ int main(int argc, char** argv) {
     QApplication::processEvents();
     Looks looks(options.value(look), options.value(size));
     Tour tour(run, pictures, looks);
+    run.stage().eyes().setContrast(options.isSet(contrast));
+    if (options.isSet(contrast)) tour.askContrast(7);
     tour.skipIntro();
     run.Main({});
     if (options.isSet(steps))

@@ -32,15 +32,25 @@ void Tour::stop(const QString& form, const QString& what) {
     for (const QString& cut : shown.cut)
         fault(QStringLiteral("%1: not all can be read of %2").arg(name, cut));
     checkContrast(name, painted);
+    checkNames(name);
     if (form == u"frmSplash") return;  // a film plays there: it looks as the moment has it
     if (const QString wrong = looks_.fault(name, seen); !wrong.isEmpty()) fault(wrong);
 }
 
+/// Whoever hears the screen is told of everything that can be used or looked at by words.
+void Tour::checkNames(const QString& name) {
+    if (!front()) return;
+    for (const Control* control : front()->findChildren<Control*>(Qt::FindDirectChildrenOnly)) {
+        if (!control->isVisible() || control->isUnheard() || !control->accessibleName().isEmpty()) continue;
+        const bool isText = control->role() == QAccessible::StaticText;
+        if (!isText) fault(QStringLiteral("%1: %2 has no name to hear").arg(name, control->objectName()));
+    }
+}
+
 void Tour::checkContrast(const QString& name, const std::vector<TextContrast>& painted) {
-    constexpr double kReadable = 4.5;  // as web pages are asked to keep
     for (const TextContrast& text : painted) {
         leastContrast_ = std::min(leastContrast_, text.contrast);
-        if (text.contrast >= kReadable) continue;
+        if (text.contrast >= readable_) continue;
         fault(QStringLiteral("%1: \"%2\" at %3, %4 has a contrast of %5 (%6 on %7)")
                   .arg(name, text.text)
                   .arg(text.place.x())

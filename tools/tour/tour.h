@@ -71,6 +71,8 @@ class Tour {
     /// The contrast of the text that was hardest to tell from its ground.
     double leastContrast() const { return leastContrast_; }
     const QStringList& faults() const { return faults_; }
+    /// From now on texts are asked to have \a ratio to 1 to their grounds.
+    void askContrast(double ratio) { readable_ = ratio; }
     void fault(const QString& text) { faults_ << text; }
 
   private:
@@ -78,6 +80,7 @@ class Tour {
     void clickWidget(QWidget& widget) const;
     /// The widget that the mouse meets in the middle of \a aimedAt, and where within it.
     std::pair<QWidget*, QPoint> hitBy(const QWidget& aimedAt) const;
+    void checkNames(const QString& name);
     void checkContrast(const QString& name, const std::vector<TextContrast>& painted);
 
     Program& program_;
@@ -86,6 +89,7 @@ class Tour {
     ContactSheets sheets_;
     QStringList texts_, faults_;
     double leastContrast_ = 21;
+    double readable_ = 4.5;  // as web pages are asked to keep
 };
 
 /// The parts of a tour, each of which begins and ends on the main screen.

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <cstdlib>
 
 #include "core/texts.h"
 #include "db/database.h"
@@ -201,8 +202,19 @@ bool frmFotoBig::keyDown(QKeyEvent& event) {
 
 // --- the mouse
 
+/// A finger that goes sideways over the photo pulls the next or the previous one in.
+bool frmFotoBig::swipe(QPoint twips) {
+    constexpr int kSwipe = 900;
+    const QPoint way = twips - pressedAt_;
+    if (std::abs(way.x()) < kSwipe || std::abs(way.x()) < 2 * std::abs(way.y())) return false;
+    clickIn(way.x() < 0 ? Zone::Right : Zone::Left);
+    return true;
+}
+
 void frmFotoBig::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) pressed_ = wasPressed_ = true;
+    if (event->button() != Qt::LeftButton) return;
+    pressed_ = wasPressed_ = true;
+    pressedAt_ = toTwips(event->position());
 }
 
 void frmFotoBig::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -213,6 +225,7 @@ void frmFotoBig::mouseDoubleClickEvent(QMouseEvent* event) {
 void frmFotoBig::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !pressed_) return;
     pressed_ = false;
+    if (swipe(toTwips(event->position()))) return;
     if (rect().contains(event->position().toPoint())) clickIn(zone_);
 }
 

@@ -47,6 +47,7 @@ class frmFotoBig : public Form {
 
   private:
     void clickIn(Zone zone);
+    bool swipe(QPoint twips);
     void loadPhoto();
     void decode();
     void placeTitle();
@@ -64,6 +65,7 @@ class frmFotoBig : public Form {
     QImage photo_;
     Zone zone_ = Zone::None;
     bool pressed_ = false, wasPressed_ = false;
+    QPoint pressedAt_;  // twips
     Label lblNazev, lblMoment;
     Timer tmrPosun;
 };
