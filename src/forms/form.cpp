@@ -40,18 +40,19 @@ void Form::hideForm() {
     hide();
 }
 
-void Form::showModal() {
+bool Form::showModal() {
     QEventLoop loop;
     QPointer<QWidget> previous = app_.stage().focusWidget();
     modalLoop_ = &loop;
     show();
     app_.stage().enterModal(*this);
     QPointer<Form> self(this);
-    loop.exec();
-    if (!self) return;
+    const bool ended = loop.exec() == 0;
+    if (!self) return ended;
     modalLoop_ = nullptr;
     app_.stage().leaveModal(*this);
     if (previous && previous->isVisible() && !app_.stage().modalForm()) previous->setFocus();
+    return ended;
 }
 
 void Form::unload() {

@@ -83,8 +83,9 @@ void frmSave::Zobraz(const QString& mode) {
     cmdOkEnd[0]->setEnabled(false);
     const QPointer<frmSave> self(this);
     // Printing hides the dialog, and with that its turn ends; it has another one until it is closed.
-    do showModal();
-    while (self && isLoaded() && !closed_);
+    bool ended = true;
+    do ended = showModal();
+    while (ended && self && isLoaded() && !closed_);
     if (!self || !isLoaded()) return;
     if (accepted_) print_(choice_.ids());
     if (self) unload();

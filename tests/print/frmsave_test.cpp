@@ -188,6 +188,16 @@ TEST_F(FrmSaveTest, OkHandsOverAndClosesInTheOrdinaryModeOnly) {
     EXPECT_EQ(run.window.modalForm(), nullptr);
 }
 
+TEST_F(FrmSaveTest, EndsWithTheProgram) {
+    QTimer::singleShot(0, save, [this] {
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+        save->Zobraz({});
+    });
+    QCoreApplication::exec();
+    EXPECT_TRUE(printed.empty());
+    EXPECT_EQ(run.window.modalForm(), nullptr);
+}
+
 TEST_F(FrmSaveTest, WorksFromTheKeyboardAlone) {
     show([&] {
         key(list, Qt::Key_Down);
