@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "forms/colors.h"
+#include "forms/eyes.h"
 #include "forms/form.h"
 #include "forms/ninepatch.h"
 #include "forms/resources.h"
@@ -111,6 +112,11 @@ Button::Frame Button::shownFrame() const {
 }
 
 void Button::paintFrame(QPainter& painter, const QRect& place) const {
+    if (form().eyes().hasContrast() && face_.isNull() && !caption_.isEmpty()) {
+        painter.setPen(QPen(Qt::white, shownFrame() == Frame::Pressed ? 75 : 30));
+        painter.setBrush(Qt::black);
+        return painter.drawRoundedRect(place, 90, 90);
+    }
     const bool pressed = shownFrame() == Frame::Pressed;
     const Picture& picture = pressed ? pressed_ : raised_;
     if (!picture.isNull()) return drawNinePatch(painter, picture, place, kFrameTwips);

@@ -4,10 +4,13 @@
 #include <QPainter>
 
 #include "forms/colors.h"
+#include "forms/eyes.h"
 #include "forms/form.h"
 
 namespace sarne {
 namespace {
+
+constexpr double kStrongDisabled = .9;  // opacity, for eyes that need contrast
 
 constexpr int kMark = 270;  // side of the box
 constexpr int kGap = 120;   // from the box to the caption
@@ -65,7 +68,8 @@ void CheckBox::keyPressEvent(QKeyEvent* event) {
 
 void CheckBox::paint(QPainter& painter) {
     const QRect place({0, 0}, twips().size());
-    if (!isEnabled()) painter.setOpacity(colors::kDisabledText);
+    if (!isEnabled())
+        painter.setOpacity(form().eyes().hasContrast() ? kStrongDisabled : colors::kDisabledText);
     const QRect box(kGap / 2, (place.height() - kMark) / 2, kMark, kMark);
     if (markPicture().isNull())
         paintMark(painter, box);

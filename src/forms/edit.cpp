@@ -9,6 +9,7 @@
 
 #include "forms/colors.h"
 #include "forms/editmenu.h"
+#include "forms/eyes.h"
 #include "forms/form.h"
 
 namespace sarne {
@@ -67,7 +68,8 @@ void Edit::rescale() {
     line_->setStyleSheet(
         QStringLiteral("QLineEdit{background:%1;color:%2;border:%5px solid %3;border-radius:%6px;"
                        "padding:0 %6px;selection-background-color:%4;selection-color:%1}")
-            .arg(colors::kPaper.name(), colors::kInk.name(), colors::kCopper.name(), colors::kSelected.name())
+            .arg(colors::kPaper.name(), colors::kInk.name(), colors::kCopper.name(),
+                 form().eyes().selected().name())
             .arg(border)
             .arg(border * 2));
 }

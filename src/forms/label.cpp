@@ -6,9 +6,13 @@
 #include <cmath>
 
 #include "forms/colors.h"
+#include "forms/eyes.h"
+#include "forms/form.h"
 
 namespace sarne {
 namespace {
+
+constexpr double kStrongDisabled = .9;  // opacity, for eyes that need contrast
 
 constexpr QColor kLit(208, 143, 80, 70);  // under the mouse: a breath of copper
 
@@ -98,7 +102,8 @@ void Label::paint(QPainter& painter) {
         painter.fillRect(place, kLit);
     painter.setFont(font_.toQFont());
     painter.setPen(color_);
-    if (!isEnabled()) painter.setOpacity(colors::kDisabledText);
+    if (!isEnabled())
+        painter.setOpacity(form().eyes().hasContrast() ? kStrongDisabled : colors::kDisabledText);
     painter.drawText(place.adjusted(left_, 0, -right_, 0), int(alignment_) | (wraps_ ? Qt::TextWordWrap : 0),
                      text_);
 }

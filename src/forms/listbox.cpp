@@ -93,8 +93,9 @@ class View final : public QListView {
     ListBox& list_;
 };
 
-/// The dress of the view where a pixel of the design is \a pixel wide.
-QString dress(double pixel) {
+/// The dress of the view where a pixel of the design is \a pixel wide, with \a selected as the ground of a
+/// marked entry.
+QString dress(double pixel, const QColor& selected) {
     const auto pixels = [pixel](int design) { return QString::number(qMax(1, qRound(design * pixel))); };
     return QStringLiteral(
                "QListView{background:transparent;color:%1;border:none;outline:none}"
@@ -103,7 +104,7 @@ QString dress(double pixel) {
                "QListView::item:selected{background:%3;color:%4}"
                "QListView::item:focus{border:%7px dotted %1}"
                "QListView::item:selected:focus{border:%7px dotted %4}")
-               .arg(colors::kInk.name(), colors::kInk.lighter(200).name(), colors::kSelected.name(),
+               .arg(colors::kInk.name(), colors::kInk.lighter(200).name(), selected.name(),
                     colors::kPaper.name(), pixels(1), pixels(4), pixels(1)) +
            QStringLiteral(
                "QScrollBar:vertical{background:%1;width:%3px;margin:0;border:none}"
@@ -180,7 +181,7 @@ void ListBox::rescale() {
     QFont font = font_.toQFont();
     font.setPixelSize(qMax(8, qRound(font_.size * form().eyes().textScale() * 20 * scale())));
     view_->setFont(font);
-    view_->setStyleSheet(dress(15 * scale()));
+    view_->setStyleSheet(dress(15 * scale(), form().eyes().selected()));
     view_->setAccessibleName(accessibleName());
     // Whole rows only.
     const int inset = qRound(kPadding * scale()), row = qMax(1, view_->sizeHintForRow(0));

@@ -212,6 +212,7 @@ void frmSponzor::openCard(const QString& text) {
     card_.setCurrentX(kTextStart.x());
     card_.setCurrentY(kTextStart.y());
     card_.drawRichText(text);
+    card_.setAccessibleName(card_.readable().text().trimmed().section(u'\n', 0, 0));
     placeCard();
     card_.setVisible(true);
     card_.raise();

@@ -62,6 +62,7 @@ int KeywordAside::showPicture(const QString& file, const QString& caption, int t
     picture_.place({kLeft, top, kWidth, kPictureHeight});
     picture_.setPicture(picture);
     picture_.setAccessibleName(caption);
+    picture_.setUnheard(caption.isEmpty());  // it shows what the text beside it tells of
     top += kPictureHeight + kGap;
     if (caption.isEmpty()) return top;
     caption_.setText(caption);

@@ -188,6 +188,8 @@ void frmKucharka::showChosen() {
     photo_.setPicture(recipe ? app().mediaPicture(QStringLiteral("foto\\Male\\r%1.bmp").arg(recipe->id))
                              : Picture());
     name_.setText(recipe ? recipe->name : QString());
+    photo_.setAccessibleName(recipe ? Texts::tr("Fotografie: %1").arg(recipe->name) : QString());
+    photo_.setUnheard(!recipe);
     details_.setText({});
     if (!recipe) return;
     stars_.setStars(recipe->stars);

@@ -119,6 +119,7 @@ void frmVarime::readRecipe(std::int16_t id, const Serving& serving) {
     recipe_ = readCookingRecipe(app().Db(), id, serving, app().Locale);
     ready_.assign(recipe_.ingredients.size(), false);
     pages_ = cookingPages(recipe_.steps, &CookingBoard::fits);
+    board_.photo.setAccessibleName(Texts::tr("Fotografie: %1").arg(recipe_.name));
     board_.photo.setPicture(app().mediaPicture(QStringLiteral("foto\\Velke\\r%1.bmp").arg(id)));
     title_.setText(recipe_.name);
     setAccessibleName(Texts::tr("Vaříme: %1").arg(recipe_.name));

@@ -308,11 +308,18 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
 void frmHlavni::paintNames(QPainter& painter) const {
     painter.fillRect(covered(), Qt::black);
     painter.setFont(TextFont{QStringLiteral("Arial"), 12, true}.toQFont());
-    for (const Button* thing : imgClick) {
-        if (!thing || !thing->isVisible()) continue;
-        painter.setPen(QPen(Qt::white, 30));
-        painter.drawRect(thing->twips());
-        painter.drawText(thing->twips(), Qt::AlignCenter | Qt::TextWordWrap, thing->accessibleName());
+    painter.setPen(QPen(Qt::white, 30));
+    std::vector<const Button*> things;
+    std::ranges::copy_if(imgClick, std::back_inserter(things),
+                         [](const Button* b) { return b && b->isVisible(); });
+    for (const Button* thing : things) painter.drawRect(thing->twips());
+    for (const Button* thing : things) {
+        constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
+        const QRect room = thing->twips().adjusted(60, 30, -60, -30);
+        const QString name = thing->accessibleName();
+        painter.fillRect(painter.boundingRect(room, kFlags, name),
+                         Qt::black);  // a long one reaches over lines
+        painter.drawText(room, kFlags, name);
     }
 }
 

@@ -252,7 +252,10 @@ void frmMenu::mark(int k, bool marked) {
     MenuLabel& label = *lblOdkaz[size_t(k - 1)];
     const bool leadsOn = isSelectable(k) && label.note() != u"0";
     label.setGround(marked ? eyes().selected() : QColor(Qt::transparent));
-    label.setColor(marked ? colors::kPaper : leadsOn ? colors::kTitle : kDimmed);
+    label.setColor(marked                 ? colors::kPaper
+                   : leadsOn              ? colors::kTitle
+                   : eyes().hasContrast() ? colors::kPaper
+                                          : kDimmed);
 }
 
 void frmMenu::select(int k) {
