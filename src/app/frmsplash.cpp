@@ -25,7 +25,8 @@ Picture pictureOf(const Recordset& records) {
 
 /// The picture that goes on around the ground \a name; empty where there is none.
 Picture widePicture(const basSarne& sarne, QStringView name) {
-    return Picture::fromFile(sarne.paths().resolve(sarne.AppDir + QStringLiteral("siroke\\%1.jpg").arg(name)));
+    return Picture::fromFile(
+        sarne.paths().resolve(sarne.AppDir + QStringLiteral("siroke\\%1.jpg").arg(name)));
 }
 
 }  // namespace

@@ -33,8 +33,9 @@ QString commandLine(const QApplication& application) {
 /// What the toolkit says while it looks for a display: the one fatal message is that there is none.
 void withoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
     if (type != QtFatalMsg) return;
-    std::fputs(qUtf8Printable(sarne::Texts::tr("Velisa sarn: není tu obrazovka, na které by se program ukázal.\n")),
-               stderr);
+    std::fputs(
+        qUtf8Printable(sarne::Texts::tr("Velisa sarn: není tu obrazovka, na které by se program ukázal.\n")),
+        stderr);
     std::_Exit(1);
 }
 

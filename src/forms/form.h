@@ -38,8 +38,8 @@ class Form : public TwipWidget {
     /// Shows the form in front of the others and gives it the keyboard.
     void showForm();
     void hideForm();
-    /// Shows the form and returns when it is hidden; nothing else takes input meanwhile. False when the program
-    /// ends, however often it is asked for then.
+    /// Shows the form and returns when it is hidden; nothing else takes input meanwhile. False when the
+    /// program ends, however often it is asked for then.
     bool showModal();
     /// Hides the form and takes it out of the loaded ones.
     virtual void unload();

@@ -99,7 +99,9 @@ const Sign kSigns[] = {{"Tisk", "Tisk"},
 void write(QPainter& painter, const QRectF& where, const QString& text, double size) {
     QFont font(QStringLiteral("Liberation Serif"));
     font.setPixelSize(std::max(1, static_cast<int>(size)));
-    const auto needed = [&] { return QFontMetricsF(font).boundingRect(where, Qt::TextWordWrap, text).size(); };
+    const auto needed = [&] {
+        return QFontMetricsF(font).boundingRect(where, Qt::TextWordWrap, text).size();
+    };
     while (font.pixelSize() > 1 && (needed().width() > where.width() || needed().height() > where.height()))
         font.setPixelSize(font.pixelSize() * 9 / 10);
     painter.setFont(font);

@@ -187,7 +187,8 @@ void compress(Workshop& shop, const QList<int>& heard) {
         if (QFileInfo::exists(shop.waves() + u'/' + track.output))
             tasks << compressed(shop, track.output, QStringLiteral("opus"), music);
     for (const int id : heard)
-        if (const QString name = nameFile(shop.book.recipes[id]); QFileInfo::exists(shop.waves() + u'/' + name))
+        if (const QString name = nameFile(shop.book.recipes[id]);
+            QFileInfo::exists(shop.waves() + u'/' + name))
             tasks << compressed(shop, name, QStringLiteral("ogg"), speech);
     shop.makeAll(tasks);
 }
