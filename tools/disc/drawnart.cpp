@@ -9,7 +9,6 @@
 namespace sarne::disc {
 namespace {
 
-const QColor kNight(11, 34, 38);
 const QColor kPaper(244, 234, 210);
 const QColor kRim(208, 143, 80);
 const QColor kInk(43, 29, 18);
