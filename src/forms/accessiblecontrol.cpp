@@ -200,6 +200,7 @@ class AccessibleTable final : public AccessibleControl, public QAccessibleTableI
 /// Those of \a widgets that can be heard, in the order in which they are read.
 std::vector<QWidget*> inReadingOrder(const std::vector<QWidget*>& widgets) {
     std::vector<QRect> places;
+    places.reserve(widgets.size());
     for (const QWidget* widget : widgets) places.push_back(widget->geometry());
     std::vector<QWidget*> ordered;
     for (const int index : readingOrder(places)) ordered.push_back(widgets[size_t(index)]);
@@ -235,7 +236,7 @@ class AccessibleForm final : public AccessibleRoom {
     QAccessible::Role role() const override { return form_->role(); }
     /// A dialog without a name of its own is called by its title; the rest of what it says describes it.
     QString text(QAccessible::Text kind) const override {
-        const QString said = QAccessibleWidget::text(kind);
+        QString said = QAccessibleWidget::text(kind);
         if (!said.isEmpty() || role() != QAccessible::Dialog) return said;
         QStringList texts = shownTexts(*form_);
         const QString named = form_->accessibleName();

@@ -2,6 +2,7 @@
 
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QPainter>
 
 #include "core/texts.h"
 #include "forms/bassarne.h"

@@ -89,7 +89,7 @@ void Tour::skipIntro() {
 
 QImage Tour::picture(const QString& name, As how) {
     const QString file = pictures_.filePath(name + QLatin1String(how == As::Exact ? ".png" : ".jpg"));
-    const QImage seen = program_.stage().grab().toImage();
+    QImage seen = program_.stage().grab().toImage();
     constexpr int kQuick = 80;  // of a picture without loss: larger, and sooner written
     if (!seen.save(file, nullptr, kQuick))
         fault(QStringLiteral("%1: the picture cannot be written").arg(name));

@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 #include <QFile>
+#include <QRegularExpression>
 
 #include "../exchange/jsonld.h"
 #include "../exchange/markdown.h"
