@@ -1,4 +1,5 @@
 #include <QCommandLineParser>
+#include <QRegularExpression>
 
 #include "build.h"
 #include "commands.h"
