@@ -87,6 +87,18 @@ endforeach()
 install(DIRECTORY "${made}/program/" DESTINATION "${data}/program" COMPONENT data
         PATTERN sarne EXCLUDE PATTERN sarne-obnov EXCLUDE)
 install(DIRECTORY "${made}/disc/" DESTINATION "${data}/disc" COMPONENT data)
+# The disc has a photo once under two names; so has what is installed.
+install(CODE "
+    set(photos \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${data}/disc/foto\")
+    file(GLOB finest RELATIVE \"\${photos}/Recepty\" \"\${photos}/Recepty/*\")
+    foreach(name IN LISTS finest)
+        execute_process(COMMAND \"${CMAKE_COMMAND}\" -E compare_files \"\${photos}/Recepty/\${name}\"
+                                \"\${photos}/Velke/\${name}\" RESULT_VARIABLE differ OUTPUT_QUIET ERROR_QUIET)
+        if(NOT differ)
+            file(REMOVE \"\${photos}/Velke/\${name}\")
+            file(CREATE_LINK \"../Recepty/\${name}\" \"\${photos}/Velke/\${name}\" SYMBOLIC)
+        endif()
+    endforeach()" COMPONENT data)
 
 # --- tools
 install(TARGETS sarne-disc RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tools)
