@@ -29,7 +29,8 @@ constexpr int kWidth = 1920, kHeight = 630, kGap = 60;
 // Without room beside the screens: what shows the time alone, above their titles.
 constexpr QSize kSmall(1260, 330);
 constexpr int kSmallTop = 15, kColumns = 8;
-constexpr int kSayingBottom = 7800;
+/// Of what is said: between the buttons that the screens have at their sides, above those below.
+constexpr int kSayingLeft = 2640, kSayingWidth = 5880, kSayingBottom = 7800;
 const TextFont kTime{QStringLiteral("Arial"), 15, true}, kSmallTime{QStringLiteral("Arial"), 11, true},
     kName{QStringLiteral("Arial"), 9}, kSaying{QStringLiteral("Arial"), 14, true};
 
@@ -243,10 +244,12 @@ bool KitchenPlates::readyToEnd() {
 
 void KitchenPlates::say(const QString& text, std::function<void()> use) {
     if (!saying_) saying_ = new Plate(app_.stage(), app_.resources().picture(QStringLiteral("Nakup")));
-    constexpr int kMostWidth = 8400, kPicture = 900;
-    const QSize size = Label::measure(text, kSaying, kMostWidth - kPicture);
-    const QSize plate(std::min(kMostWidth, size.width() + kPicture + 60), std::max(720, size.height() + 240));
-    saying_->place({{(Stage::kWidth - plate.width()) / 2, kSayingBottom - plate.height()}, plate});
+    constexpr int kPicture = 900;
+    const QSize size = Label::measure(text, kSaying, kSayingWidth - kPicture);
+    const QSize plate(std::min(kSayingWidth, size.width() + kPicture + 60),
+                      std::max(720, size.height() + 240));
+    saying_->place(
+        {{kSayingLeft + (kSayingWidth - plate.width()) / 2, kSayingBottom - plate.height()}, plate});
     saying_->set(text, {}, false);
     saying_->use = [this, use = std::move(use)] {
         if (saying_) saying_->hide();
