@@ -9,15 +9,7 @@
 namespace sarne {
 namespace {
 
-/// A unit of measure as it is written, and its noun: behind 1, 2, 5 and 2,5.
-struct Unit {
-    const char* written;
-    const char* one;
-    const char* few;
-    const char* many;
-    const char* part;
-};
-constexpr Unit kUnits[] = {
+constexpr UnitNoun kUnits[] = {
     {"kg", QT_TRANSLATE_NOOP("Texts", "kilogram"), QT_TRANSLATE_NOOP("Texts", "kilogramy"),
      QT_TRANSLATE_NOOP("Texts", "kilogramů"), QT_TRANSLATE_NOOP("Texts", "kilogramu")},
     {"g", QT_TRANSLATE_NOOP("Texts", "gram"), QT_TRANSLATE_NOOP("Texts", "gramy"),
@@ -32,14 +24,7 @@ constexpr Unit kUnits[] = {
      QT_TRANSLATE_NOOP("Texts", "stupňů Celsia"), QT_TRANSLATE_NOOP("Texts", "stupně Celsia")},
 };
 
-const Unit* unitWritten(QStringView written) {
-    for (const Unit& unit : kUnits) {
-        if (written == QString::fromUtf8(unit.written)) return &unit;
-    }
-    return nullptr;
-}
-
-QString unitBehind(double number, const Unit& unit) {
+QString unitBehind(double number, const UnitNoun& unit) {
     return Noun{Texts::tr(unit.one), Texts::tr(unit.few), Texts::tr(unit.many), Texts::tr(unit.part)}.behind(
         number);
 }
@@ -54,7 +39,7 @@ QString withUnitsInWords(const QString& text) {
     for (auto found = measure.globalMatch(text); found.hasNext();) {
         const QRegularExpressionMatch match = found.next();
         words += text.mid(done, match.capturedStart(2) - done) +
-                 unitBehind(czech.toDouble(match.captured(1)), *unitWritten(match.capturedView(2)));
+                 unitBehind(czech.toDouble(match.captured(1)), *unitWritten(kUnits, match.capturedView(2)));
         done = match.capturedEnd();
     }
     return words + text.mid(done);

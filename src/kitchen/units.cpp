@@ -14,10 +14,7 @@ namespace {
 constexpr double kThousand = 1000;
 
 /// The units that change behind a number, as they are called in the cookbook.
-struct UnitWord {
-    const char *name, *one, *few, *many, *part;
-};
-constexpr UnitWord kWords[] = {
+constexpr UnitNoun kWords[] = {
     {QT_TRANSLATE_NOOP("Texts", "lžíce"), "lžíce", "lžíce", "lžic", "lžíce"},
     {QT_TRANSLATE_NOOP("Texts", "lžičky"), "lžička", "lžičky", "lžiček", "lžičky"},
     {QT_TRANSLATE_NOOP("Texts", "hrnky"), "hrnek", "hrnky", "hrnků", "hrnku"},
@@ -32,13 +29,11 @@ constexpr UnitWord kWords[] = {
 };
 
 QString unitBehind(double number, const QString& unit) {
-    for (const UnitWord& word : kWords) {
-        if (unit != QString::fromUtf8(word.name)) continue;
-        return Noun{QString::fromUtf8(word.one), QString::fromUtf8(word.few), QString::fromUtf8(word.many),
-                    QString::fromUtf8(word.part)}
-            .behind(number);
-    }
-    return unit;
+    const UnitNoun* word = unitWritten(kWords, unit);
+    if (!word) return unit;
+    return Noun{QString::fromUtf8(word->one), QString::fromUtf8(word->few), QString::fromUtf8(word->many),
+                QString::fromUtf8(word->part)}
+        .behind(number);
 }
 
 bool isMetric(const QString& unit) {

@@ -63,6 +63,13 @@ QString clockText(qint64 milliseconds) {
     return QStringLiteral("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0'));
 }
 
+void dress(Label& label, const QRect& place, const TextFont& font, Qt::Alignment side = Qt::AlignLeft) {
+    label.setFont(font);
+    label.setColor(colors::kTitle);
+    label.setAlignment(side | Qt::AlignVCenter);
+    label.place(place);
+}
+
 }  // namespace
 
 frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
@@ -82,23 +89,11 @@ frmVideo::frmVideo(basSarne& sarne, std::unique_ptr<MultimediaControl> player)
       progress_(this) {
     setAttribute(Qt::WA_OpaquePaintEvent);  // what lies below need not be painted
     area_.place(kArea);
-    Label1.setFont(kStatusFont);
-    Label1.setColor(colors::kTitle);
     Label1.setWordWrap(true);
-    Label1.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    Label1.place(kOpening);
-    title_.setFont(kTitleFont);
-    title_.setColor(colors::kTitle);
-    title_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    title_.place(kTitle);
-    time_.setFont(kTimeFont);
-    time_.setColor(colors::kTitle);
-    time_.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    time_.place(kTime);
-    chapter_.setFont(kChapterFont);
-    chapter_.setColor(colors::kTitle);
-    chapter_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    chapter_.place(kChapter);
+    dress(Label1, kOpening, kStatusFont);
+    dress(title_, kTitle, kTitleFont);
+    dress(time_, kTime, kTimeFont, Qt::AlignRight);
+    dress(chapter_, kChapter, kChapterFont);
     bar_.place(kBar);
     placeButtons();
     connect(&area_, &VideoArea::doubleClicked, this, &frmVideo::toggleFullScreen);

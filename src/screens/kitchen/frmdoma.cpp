@@ -70,7 +70,10 @@ frmDoma::frmDoma(basSarne& sarne, UserFile& file)
     setStops({FocusGroup(std::array<TwipWidget*, 1>{&typed_}), FocusGroup(std::array<TwipWidget*, 1>{&have_}),
               FocusGroup(std::array<TwipWidget*, 1>{&recipes_})});
     connect(&typed_, &Edit::textChanged, this, &frmDoma::showIngredients);
-    connect(&have_, &TickList::used, this, &frmDoma::tick);
+    connect(&have_, &TickList::used, this, [this](int row) {
+        tick(row);
+        ring().sayPart(have_);
+    });
     connect(&recipes_, &Control::doubleClicked, this, &frmDoma::openRecipe);
 }
 
@@ -239,12 +242,11 @@ void frmDoma::openRecipe() {
 }
 
 bool frmDoma::keyDown(QKeyEvent& event) {
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     if (event.key() == Qt::Key_F3 && event.modifiers() == Qt::NoModifier && selectedRecipe() != 0) {
         act(int(Action::Buy));
         return true;
     }
-    if (enter && ring().isAt(&typed_)) {
+    if (isEnter(event) && ring().isAt(&typed_)) {
         addFirst();
         typed_.focusAll();
         return true;
@@ -254,17 +256,8 @@ bool frmDoma::keyDown(QKeyEvent& event) {
         have_.select(0);
         return true;
     }
-    TickList* list = ring().isAt(&have_) ? &have_ : ring().isAt(&recipes_) ? &recipes_ : nullptr;
-    if (list && enter) {
-        list == &recipes_ ? openRecipe()
-                          : void(have_.selected() >= 0 ? tick(have_.selected()) : app().Beep());
-        return true;
-    }
-    if (list && list->keyDown(event)) {
-        ring().sayPart(*list);
-        return true;
-    }
-    return Form::keyDown(event);
+    return listKey(have_, event) || listKey(recipes_, event, [this] { openRecipe(); }) ||
+           Form::keyDown(event);
 }
 
 void frmDoma::paint(QPainter& painter) {

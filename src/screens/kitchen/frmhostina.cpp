@@ -237,17 +237,7 @@ bool frmHostina::keyDown(QKeyEvent& event) {
         buy();
         return true;
     }
-    TickList* list = ring().isAt(&courses_) ? &courses_ : ring().isAt(&plan_) ? &plan_ : nullptr;
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (list == &courses_ && enter && courses_.selected() >= 0) {
-        if (!event.isAutoRepeat()) tick(courses_.selected());
-        return true;
-    }
-    if (list && list->keyDown(event)) {
-        ring().sayPart(*list);
-        return true;
-    }
-    return Form::keyDown(event);
+    return listKey(courses_, event) || listKey(plan_, event) || Form::keyDown(event);
 }
 
 void frmHostina::paint(QPainter& painter) {

@@ -253,21 +253,14 @@ bool frmKucharka::keyDown(QKeyEvent& event) {
         return true;
     }
     if (ring().isAt(&stars_) && stars_.keyDown(event)) return true;
-    if (ring().isAt(&rows_)) {
-        const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-        if (enter || event.key() == Qt::Key_Space) {
-            if (!event.isAutoRepeat()) openRecipe();
-            return true;
-        }
-        // The digits give stars where the recipe is selected, too.
-        if (event.key() >= Qt::Key_0 && event.key() <= Qt::Key_5 && chosen() && stars_.keyDown(event))
-            return true;
-        if (rows_.keyDown(event)) {
-            ring().sayPart(rows_);
-            return true;
-        }
+    // The digits give stars where the recipe is selected, too.
+    const bool digit = event.key() >= Qt::Key_0 && event.key() <= Qt::Key_5;
+    if (digit && ring().isAt(&rows_) && chosen() && stars_.keyDown(event)) return true;
+    if (event.key() == Qt::Key_Space && ring().isAt(&rows_)) {
+        if (!event.isAutoRepeat()) openRecipe();
+        return true;
     }
-    return Form::keyDown(event);
+    return listKey(rows_, event, [this] { openRecipe(); }) || Form::keyDown(event);
 }
 
 void frmKucharka::paint(QPainter& painter) {

@@ -307,8 +307,7 @@ bool frmNakup::keyDown(QKeyEvent& event) {
         act(int(Action::Undo));
         return true;
     }
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (enter && ring().isAt(&own_)) {
+    if (isEnter(event) && ring().isAt(&own_)) {
         addOwn();
         return true;
     }
@@ -316,18 +315,7 @@ bool frmNakup::keyDown(QKeyEvent& event) {
         act(int(Action::Remove));
         return true;
     }
-    if (ring().isAt(&rows_)) {
-        if (enter && rows_.selected() != RowPaging::kNone) {
-            use(rows_.selected());
-            return true;
-        }
-        const int before = rows_.selected();
-        if (rows_.keyDown(event)) {
-            if (before != rows_.selected()) ring().sayPart(rows_);
-            return true;
-        }
-    }
-    return Form::keyDown(event);
+    return listKey(rows_, event) || Form::keyDown(event);
 }
 
 void frmNakup::paint(QPainter& painter) {

@@ -168,6 +168,7 @@ void frmVarime::tick(int row) {
     if (index >= ready_.size()) return;
     ready_[index] = !ready_[index];
     board_.showReady(recipe_, ready_);
+    ring().sayPart(board_.list);
 }
 
 void frmVarime::showDone() {
@@ -257,21 +258,13 @@ bool frmVarime::turnKey(int key) {
 bool frmVarime::keyDown(QKeyEvent& event) {
     if (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) return false;
     TickList& list = board_.list;
-    const bool inList = list.isVisible() && ring().isAt(&list);
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (ring().isAt(&board_.note) && enter) {
+    if (ring().isAt(&board_.note) && isEnter(event)) {
         cooked();
         return true;
     }
     if (ring().isAt(&board_.stars) && board_.stars.keyDown(event)) return true;
-    if (inList && enter) {
-        if (!event.isAutoRepeat()) go(1);
-        return true;
-    }
-    if (inList && event.key() != Qt::Key_PageUp && event.key() != Qt::Key_PageDown && list.keyDown(event)) {
-        ring().sayPart(list);
-        return true;
-    }
+    const bool turns = event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
+    if (list.isVisible() && !turns && listKey(list, event, [this] { go(1); })) return true;
     if (event.key() >= Qt::Key_1 && event.key() < Qt::Key_1 + CookingBoard::kTimes) {
         startTime(event.key() - Qt::Key_1);
         return true;

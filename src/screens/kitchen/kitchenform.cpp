@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/kitchen/kitchenform.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "core/texts.h"
@@ -9,6 +10,7 @@
 #include "forms/panel.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
+#include "screens/kitchen/ticklist.h"
 
 namespace sarne {
 namespace {
@@ -100,6 +102,28 @@ void KitchenForm::makeActions(std::span<const KitchenAction> texts, const QRect&
 void KitchenForm::open() {
     app().PushScreen(*this);
     showForm();
+}
+
+bool KitchenForm::isEnter(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool KitchenForm::listKey(TickList& list, const QKeyEvent& event, const std::function<void()>& enter) {
+    if (!ring().isAt(&list)) return false;
+    const int before = list.selected();
+    if (isEnter(event)) {
+        if (event.isAutoRepeat()) return true;
+        if (enter)
+            enter();
+        else if (before == RowPaging::kNone)
+            app().Beep();
+        else
+            Q_EMIT list.used(before);
+        return true;
+    }
+    if (!list.keyDown(event)) return false;
+    if (before != list.selected()) ring().sayPart(list);
+    return true;
 }
 
 void KitchenForm::setStops(std::vector<FocusGroup> groups) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <span>
 
 #include "forms/buttonbar.h"
@@ -8,6 +9,8 @@
 #include "forms/label.h"
 
 namespace sarne {
+
+class TickList;
 
 /// A button with words that does something with what a kitchen screen shows.
 struct KitchenAction {
@@ -38,6 +41,10 @@ class KitchenForm : public Form {
     virtual void print() {}
     /// Shows \a screen unless the form, which is taken away then, has nothing to show.
     void open();
+    static bool isEnter(const QKeyEvent& event);
+    /// Does what a key does in \a list where that has the keyboard: Enter does \a enter, by default what
+    /// Space does, once however long it is held; the others move, and the new row is said.
+    bool listKey(TickList& list, const QKeyEvent& event, const std::function<void()>& enter = {});
     /// \a groups, then the actions, the way to the other screens, the bar.
     void setStops(std::vector<FocusGroup> groups);
     /// The ground with its header, and plates below what lies at the bottom.
