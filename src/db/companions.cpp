@@ -1,12 +1,12 @@
 #include "db/companions.h"
 
+#include "db/fieldnames.h"
 #include "db/queries.h"
 
 namespace sarne {
 namespace {
 
 const QString kItem = QStringLiteral("Polozka");
-const QString kText = QStringLiteral("Text");
 
 }  // namespace
 
@@ -28,13 +28,13 @@ std::vector<RecipeLink> recipeLinks(Database& db, int recipe) {
 std::optional<QString> linkText(Database& db, int link) {
     const Recordset row = queries::linkText(db, link);
     if (row.AtEnd()) return std::nullopt;
-    return row.field(kText).toString();
+    return row.field(fields::kText).toString();
 }
 
 std::optional<LinkDocument> linkDocument(Database& db, int link) {
     const Recordset row = queries::linkDocument(db, link);
     if (row.AtEnd()) return std::nullopt;
-    return LinkDocument{row.field(kItem).toString(), row.field(kText).toString()};
+    return LinkDocument{row.field(kItem).toString(), row.field(fields::kText).toString()};
 }
 
 }  // namespace sarne

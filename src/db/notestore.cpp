@@ -1,6 +1,7 @@
 #include "db/notestore.h"
 
 #include "db/database.h"
+#include "db/fieldnames.h"
 #include "db/userfile.h"
 
 namespace sarne {
@@ -8,23 +9,19 @@ namespace {
 
 const QString kNotes = QStringLiteral("Poznamky");
 const QString kDrafts = QStringLiteral("Rozepsane");
-const QString kId = QStringLiteral("ID");
-const QString kName = QStringLiteral("Nazev");
-const QString kText = QStringLiteral("Text");
-const QString kOwn = QStringLiteral("Vlastni");
 
 /// The numbers of all recipes by their names.
 QHash<QString, int> recipesByName(Database& book) {
     QHash<QString, int> ids;
     for (Recordset rows = book.OpenTable(QStringLiteral("Recepty")); !rows.AtEnd(); rows.MoveNext())
-        ids.insert(rows.field(kName).toString(), rows.field(kId).toInt());
+        ids.insert(rows.field(fields::kName).toString(), rows.field(fields::kId).toInt());
     return ids;
 }
 
 /// Makes the recipe that \a note belongs to the current row of \a recipes; \a byName is filled when first
 /// needed.
 bool findRecipe(Database& book, Recordset& recipes, const KeptNote& note, QHash<QString, int>& byName) {
-    if (RecordExists(recipes, note.recipe) && recipes.field(kName) == note.name) return true;
+    if (RecordExists(recipes, note.recipe) && recipes.field(fields::kName) == note.name) return true;
     if (byName.isEmpty()) byName = recipesByName(book);
     return byName.contains(note.name) && RecordExists(recipes, byName.value(note.name));
 }
@@ -32,19 +29,20 @@ bool findRecipe(Database& book, Recordset& recipes, const KeptNote& note, QHash<
 }  // namespace
 
 bool NoteStore::keep(const KeptNote& note) {
-    return file_.store(kNotes, kId, {{kId, note.recipe}, {kName, note.name}, {kText, note.text}});
+    return file_.store(kNotes, fields::kId,
+                       {{fields::kId, note.recipe}, {fields::kName, note.name}, {fields::kText, note.text}});
 }
 
 std::vector<KeptNote> NoteStore::all() {
     std::vector<KeptNote> notes;
     for (Recordset rows = file_.forReading().OpenTable(kNotes); !rows.AtEnd(); rows.MoveNext())
-        notes.push_back(
-            {rows.field(kId).toInt(), rows.field(kName).toString(), rows.field(kText).toString()});
+        notes.push_back({rows.field(fields::kId).toInt(), rows.field(fields::kName).toString(),
+                         rows.field(fields::kText).toString()});
     return notes;
 }
 
 bool NoteStore::keepDraft(int recipe, const QString& text) {
-    const bool written = file_.store(kDrafts, kId, {{kId, recipe}, {kText, text}});
+    const bool written = file_.store(kDrafts, fields::kId, {{fields::kId, recipe}, {fields::kText, text}});
     unwritten_.remove(recipe);
     if (!written) unwritten_.insert(recipe, text);
     return written;
@@ -54,7 +52,7 @@ std::optional<QString> NoteStore::draft(int recipe) {
     if (const auto kept = unwritten_.constFind(recipe); kept != unwritten_.cend()) return *kept;
     Recordset rows = file_.forReading().OpenTable(kDrafts);
     if (!RecordExists(rows, recipe)) return std::nullopt;
-    return rows.field(kText).toString();
+    return rows.field(fields::kText).toString();
 }
 
 void NoteStore::dropDraft(int recipe) {
@@ -71,9 +69,9 @@ std::vector<KeptNote> restoreNotes(Database& book, const std::vector<KeptNote>& 
         if (note.text.isEmpty()) continue;
         if (!findRecipe(book, recipes, note, byName)) {
             homeless.push_back(note);
-        } else if (recipes.field(kOwn).isNull()) {
+        } else if (recipes.field(fields::kOwn).isNull()) {
             recipes.Edit();
-            recipes.setField(kOwn, note.text);
+            recipes.setField(fields::kOwn, note.text);
             recipes.Update();
         }
     }

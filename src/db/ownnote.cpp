@@ -1,20 +1,16 @@
 #include "db/ownnote.h"
 
 #include "db/database.h"
+#include "db/fieldnames.h"
 
 namespace sarne {
-namespace {
-
-const QString kField = QStringLiteral("Vlastni");
-
-}  // namespace
 
 QString OwnNote::stored() const {
-    return recipe_.field(kField).toString();
+    return recipe_.field(fields::kOwn).toString();
 }
 
 int OwnNote::recipe() const {
-    return recipe_.field(QStringLiteral("ID")).toInt();
+    return recipe_.field(fields::kId).toInt();
 }
 
 QString OwnNote::open() {
@@ -51,7 +47,7 @@ bool OwnNote::store(const QString& content) {
     // Never null: an emptied note is an empty text.
     const QString text = content.isNull() ? QStringLiteral("") : content;
     recipe_.Edit();
-    recipe_.setField(kField, text);
+    recipe_.setField(fields::kOwn, text);
     if (!recipe_.Update()) {
         kept_.keepDraft(recipe(), text);
         return false;

@@ -3,19 +3,18 @@
 
 #include <algorithm>
 
+#include "db/fieldnames.h"
 #include "db/userfile.h"
 
 namespace sarne {
 namespace {
 
 const QString kTable = QStringLiteral("Kucharka");
-const QString kId = QStringLiteral("ID");
-const QString kName = QStringLiteral("Nazev");
 const QString kStars = QStringLiteral("Hvezdy");
 const QString kOpened = QStringLiteral("Otevreno");
 
 RecipeMark markOf(const Recordset& row) {
-    return {row.field(kId).toInt(), row.field(kName).toString(),
+    return {row.field(fields::kId).toInt(), row.field(fields::kName).toString(),
             std::clamp(row.field(kStars).toInt(), 0, RecipeMarks::kMostStars),
             QDateTime::fromString(row.field(kOpened).toString(), Qt::ISODate)};
 }
@@ -24,16 +23,18 @@ RecipeMark markOf(const Recordset& row) {
 
 int RecipeMarks::stars(int recipe, const QString& name) {
     Recordset rows = file_.forReading().OpenTable(kTable);
-    return RecordExists(rows, recipe) && rows.field(kName) == name ? markOf(rows).stars : 0;
+    return RecordExists(rows, recipe) && rows.field(fields::kName) == name ? markOf(rows).stars : 0;
 }
 
 bool RecipeMarks::setStars(int recipe, const QString& name, int stars) {
-    return file_.store(kTable, kId,
-                       {{kId, recipe}, {kName, name}, {kStars, std::clamp(stars, 0, kMostStars)}});
+    return file_.store(
+        kTable, fields::kId,
+        {{fields::kId, recipe}, {fields::kName, name}, {kStars, std::clamp(stars, 0, kMostStars)}});
 }
 
 bool RecipeMarks::keepOpened(int recipe, const QString& name, const QDateTime& when) {
-    return file_.store(kTable, kId, {{kId, recipe}, {kName, name}, {kOpened, when.toString(Qt::ISODate)}});
+    return file_.store(kTable, fields::kId,
+                       {{fields::kId, recipe}, {fields::kName, name}, {kOpened, when.toString(Qt::ISODate)}});
 }
 
 std::vector<RecipeMark> RecipeMarks::all() {

@@ -4,14 +4,14 @@ namespace sarne {
 namespace {
 
 /// A text column: Czech order, case aside.
-const QString kText = QStringLiteral(" TEXT COLLATE CESTINA");
+const QString kTextType = QStringLiteral(" TEXT COLLATE CESTINA");
 
 QString named(const QString& table, const QStringList& columns) {
     return QStringLiteral("CREATE TABLE %1 (ID INTEGER PRIMARY KEY, %2)").arg(table, columns.join(u", "));
 }
 
 QString itemTable(const QString& table) {
-    return named(table, {QStringLiteral("Polozka") + kText + QStringLiteral(" NOT NULL")});
+    return named(table, {QStringLiteral("Polozka") + kTextType + QStringLiteral(" NOT NULL")});
 }
 
 QStringList joinTable(const QString& table, const QString& moreColumns = {}) {
@@ -21,12 +21,12 @@ QStringList joinTable(const QString& table, const QString& moreColumns = {}) {
 }
 
 QString recipes() {
-    return named(
-        QStringLiteral("Recepty"),
-        {QStringLiteral("Nazev") + kText, QStringLiteral("DlouhyNazev") + kText,
-         QStringLiteral("Porce INTEGER"), QStringLiteral("Recept") + kText, QStringLiteral("Uvod") + kText,
-         QStringLiteral("Prezentace") + kText, QStringLiteral("Poznamka") + kText,
-         QStringLiteral("vino") + kText, QStringLiteral("Vlastni") + kText});
+    return named(QStringLiteral("Recepty"),
+                 {QStringLiteral("Nazev") + kTextType, QStringLiteral("DlouhyNazev") + kTextType,
+                  QStringLiteral("Porce INTEGER"), QStringLiteral("Recept") + kTextType,
+                  QStringLiteral("Uvod") + kTextType, QStringLiteral("Prezentace") + kTextType,
+                  QStringLiteral("Poznamka") + kTextType, QStringLiteral("vino") + kTextType,
+                  QStringLiteral("Vlastni") + kTextType});
 }
 
 QStringList ingredientRows() {
@@ -37,22 +37,22 @@ QStringList ingredientRows() {
 
 /// The picture galleries: pictures by their file's number, and areas in thousandths of their picture.
 QStringList galleries() {
-    const QString name = QStringLiteral("Nazev") + kText;
-    const QString text = QStringLiteral("Text") + kText;
+    const QString name = QStringLiteral("Nazev") + kTextType;
+    const QString text = QStringLiteral("Text") + kTextType;
     return {named(QStringLiteral("Sponzor"), {QStringLiteral("Tema INTEGER NOT NULL"), name, text}),
             named(QStringLiteral("PlochySponzoru"),
                   {QStringLiteral("ID_Sponzoru INTEGER NOT NULL"),
                    QStringLiteral("X INTEGER, Y INTEGER, Sirka INTEGER, Vyska INTEGER"), name, text,
-                   QStringLiteral("Odkaz") + kText})};
+                   QStringLiteral("Odkaz") + kTextType})};
 }
 
 /// What the kitchen needs beyond the recipes themselves. A book without these tables is a good book, too.
 QStringList kitchen() {
-    const QString name = QStringLiteral("Nazev") + kText;
+    const QString name = QStringLiteral("Nazev") + kTextType;
     return {
         // A recipe's steps, and which share of which line of its ingredients each takes; lines from 0.
         named(QStringLiteral("Kroky"),
-              {QStringLiteral("ID_Receptu INTEGER NOT NULL"), name, QStringLiteral("Text") + kText}),
+              {QStringLiteral("ID_Receptu INTEGER NOT NULL"), name, QStringLiteral("Text") + kTextType}),
         QStringLiteral("CREATE INDEX Kroky_ID_Receptu ON Kroky (ID_Receptu)"),
         QStringLiteral(
             "CREATE TABLE KrokySur (ID_Kroku INTEGER NOT NULL, Radek INTEGER NOT NULL, Podil REAL)"),
@@ -66,42 +66,42 @@ QStringList kitchen() {
         named(QStringLiteral("Vyteznost"), {QStringLiteral("Podil INTEGER NOT NULL")}),
         // A recipe in numbers: minutes; months and allergens by bits; the line of its main fish.
         named(QStringLiteral("Fakta"),
-              {QStringLiteral("Priprava INTEGER, Vareni INTEGER, Minut INTEGER, Predem") + kText,
-               QStringLiteral("Mesice INTEGER, Alergeny INTEGER, Ryba INTEGER, Chod") + kText,
-               QStringLiteral("Obdobi") + kText})};
+              {QStringLiteral("Priprava INTEGER, Vareni INTEGER, Minut INTEGER, Predem") + kTextType,
+               QStringLiteral("Mesice INTEGER, Alergeny INTEGER, Ryba INTEGER, Chod") + kTextType,
+               QStringLiteral("Obdobi") + kTextType})};
 }
 
 }  // namespace
 
 QStringList recipeSchema() {
-    const QString name = QStringLiteral("Nazev") + kText;
-    const QString text = QStringLiteral("Text") + kText;
+    const QString name = QStringLiteral("Nazev") + kTextType;
+    const QString text = QStringLiteral("Text") + kTextType;
     QStringList all{recipes()};
     for (const char* table : {"Suroviny", "Upresneni", "Jednotky", "Pomucky", "Vino"})
         all << itemTable(QLatin1String(table));
-    all << named(QStringLiteral("Odkazy"), {QStringLiteral("Polozka") + kText, text});
+    all << named(QStringLiteral("Odkazy"), {QStringLiteral("Polozka") + kTextType, text});
     all << ingredientRows();
     for (const char* table : {"SpojPomucky", "SpojOdkazy", "SpojVino"})
         all << joinTable(QLatin1String(table));
     all << QStringLiteral("CREATE INDEX SpojSur_ID_Polozky ON SpojSur (ID_Polozky)");
-    all << QStringLiteral("CREATE TABLE Menu (Id%1 PRIMARY KEY, Label%1, Odkazy%1)").arg(kText);
+    all << QStringLiteral("CREATE TABLE Menu (Id%1 PRIMARY KEY, Label%1, Odkazy%1)").arg(kTextType);
     for (const char* table : {"RychleRecepty", "Help"})
         all << named(QLatin1String(table), {name, QStringLiteral("Recept INTEGER")});
-    all << named(QStringLiteral("IndexHesla"), {QStringLiteral("nazvy") + kText, text});
+    all << named(QStringLiteral("IndexHesla"), {QStringLiteral("nazvy") + kTextType, text});
     // What stands beside a keyword's text: the path of a picture and what it shows, the number of a film, the
     // recipes that use the word ("7,12,"). A keyword without any of them has no row.
     all << named(QStringLiteral("UkazkyHesel"),
-                 {QStringLiteral("Obraz") + kText, QStringLiteral("Popis") + kText,
-                  QStringLiteral("Film INTEGER"), QStringLiteral("Recepty") + kText});
+                 {QStringLiteral("Obraz") + kTextType, QStringLiteral("Popis") + kTextType,
+                  QStringLiteral("Film INTEGER"), QStringLiteral("Recepty") + kTextType});
     all << named(QStringLiteral("Nastav"), {name, QStringLiteral("hodnota INTEGER NOT NULL DEFAULT 0")});
     // Pages of text; Obrazovka is the form whose help a page is, empty for the others.
-    all << named(QStringLiteral("Stranky"), {name, text, QStringLiteral("Obrazovka") + kText});
+    all << named(QStringLiteral("Stranky"), {name, text, QStringLiteral("Obrazovka") + kTextType});
     // Tables to look things up in: headings and cells are parted by tabs. A row may open a keyword, 0 = none.
     all << named(QStringLiteral("Tabulky"),
-                 {name, QStringLiteral("Sloupce") + kText, QStringLiteral("Poznamka") + kText});
+                 {name, QStringLiteral("Sloupce") + kTextType, QStringLiteral("Poznamka") + kTextType});
     all << named(QStringLiteral("RadkyTabulek"),
                  {QStringLiteral("ID_Tabulky INTEGER NOT NULL"), QStringLiteral("ID_Hesla INTEGER"),
-                  QStringLiteral("Bunky") + kText});
+                  QStringLiteral("Bunky") + kTextType});
     all << galleries() << kitchen();
     return all;
 }

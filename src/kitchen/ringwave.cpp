@@ -1,6 +1,7 @@
 #include "kitchen/ringwave.h"
 
 #include <QDataStream>
+#include <QIODevice>
 #include <array>
 #include <cmath>
 

@@ -10,7 +10,7 @@ namespace sarne {
 
 namespace {
 
-constexpr int rate = 22050;
+constexpr int kSamplesPerSecond = 22050;
 
 template <class Number>
 void append(QByteArray& bytes, Number value) {
@@ -21,11 +21,12 @@ void append(QByteArray& bytes, Number value) {
 /// A tone that dies away.
 QByteArray toneSamples() {
     constexpr double hertz = 740;
-    constexpr int count = rate / 8;
+    constexpr int count = kSamplesPerSecond / 8;
     QByteArray samples;
     for (int i = 0; i < count; ++i) {
         const double loudness = 9000.0 * (count - i) / count;
-        append(samples, static_cast<qint16>(loudness * std::sin(2 * std::numbers::pi * hertz * i / rate)));
+        append(samples, static_cast<qint16>(loudness *
+                                            std::sin(2 * std::numbers::pi * hertz * i / kSamplesPerSecond)));
     }
     return samples;
 }
@@ -38,8 +39,8 @@ QByteArray wavImage(const QByteArray& samples) {
     append(image, quint32{16});
     append(image, quint16{1});
     append(image, quint16{1});
-    append(image, quint32{rate});
-    append(image, quint32{rate * 2});
+    append(image, quint32{kSamplesPerSecond});
+    append(image, quint32{kSamplesPerSecond * 2});
     append(image, quint16{2});
     append(image, quint16{16});
     image += "data";

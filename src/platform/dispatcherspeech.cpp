@@ -10,12 +10,9 @@
 #include "platform/librarycalls.h"
 
 namespace sarne {
-namespace {
-
-constexpr int kRate = -10;  // of -100 to 100: somewhat slower than the synthesizers' own
 
 /// The calls of the dispatcher's library that are used here.
-struct Calls {
+struct SpeechCalls {
     decltype(&spd_get_default_address) address = nullptr;
     decltype(&spd_open2) open = nullptr;
     decltype(&spd_close) close = nullptr;
@@ -44,6 +41,10 @@ struct Calls {
     }
 };
 
+namespace {
+
+constexpr int kRate = -10;  // of -100 to 100: somewhat slower than the synthesizers' own
+
 /// The dispatcher calls back in a thread of its own without telling whom: there is one speech a process.
 std::mutex listenerGuard;
 DispatcherSpeech* listener = nullptr;
@@ -52,7 +53,8 @@ DispatcherSpeech* listener = nullptr;
 
 /// An open connection to the dispatcher, set to a Czech voice.
 struct SpeechConnection {
-    SpeechConnection(const Calls& library, SPDConnection* opened) : calls(library), connection(opened) {}
+    SpeechConnection(const SpeechCalls& library, SPDConnection* opened)
+        : calls(library), connection(opened) {}
     ~SpeechConnection() { calls.close(connection); }
     SpeechConnection(const SpeechConnection&) = delete;
     SpeechConnection& operator=(const SpeechConnection&) = delete;
@@ -66,12 +68,12 @@ struct SpeechConnection {
     bool hasCzechVoice() const;
     bool findCzechModule() const;
 
-    Calls calls;
+    SpeechCalls calls;
     SPDConnection* connection;
 };
 
 std::shared_ptr<SpeechConnection> SpeechConnection::open() {
-    Calls calls;
+    SpeechCalls calls;
     if (!calls.load()) return nullptr;
     char* error = nullptr;
     SPDConnectionAddress* address = calls.address(&error);

@@ -3,7 +3,6 @@
 namespace sarne {
 namespace {
 
-constexpr int kTwipsPerInch = 1440;
 constexpr int kCutLine = 8;
 constexpr int kMargin = 567, kCardMargin = 340;  // 10 and 6 mm
 

@@ -7,6 +7,8 @@
 
 namespace sarne {
 
+inline constexpr int kTwipsPerInch = 1440;
+
 /// How the pages of one kind of paper lie on its sheets.
 struct PagesOnSheet {
     QPageSize::PageSizeId sheet = QPageSize::A4;

@@ -17,7 +17,6 @@
 namespace sarne {
 namespace {
 
-constexpr int kTwipsPerInch = 1440;
 constexpr int kLongestFileName = 100;
 
 /// Whether the print system took the last job of this thread: Qt sends it but keeps the answer to itself.

@@ -10,9 +10,6 @@ namespace {
 constexpr bool isLetter(char16_t c) {
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
 }
-constexpr bool isDigit(char16_t c) {
-    return c >= u'0' && c <= u'9';
-}
 
 int hexValue(char16_t c) {
     if (isDigit(c)) return c - u'0';

@@ -5,6 +5,11 @@
 
 namespace sarne {
 
+/// Only these ten; digits of other scripts are text.
+constexpr bool isDigit(char16_t c) {
+    return c >= u'0' && c <= u'9';
+}
+
 /// Control words up to twelve small letters as one number, so that they can stand in a switch.
 /// 0 for anything longer or with other letters in it.
 constexpr std::uint64_t controlName(std::u16string_view word) {

@@ -27,10 +27,6 @@ void setComponent(ColorEntry& entry, const ControlWord& control) {
     }
 }
 
-bool isDigit(char16_t c) {
-    return c >= u'0' && c <= u'9';
-}
-
 /// Looks through what stands before the text: tables are read, the other groups passed over.
 class HeaderReader {
   public:
