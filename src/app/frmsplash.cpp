@@ -112,7 +112,7 @@ std::unique_ptr<Label> frmSplash::skipHint() {
     hint->setColor(colors::kTitle);
     hint->setGround(colors::kNight);
     hint->setAlignment(Qt::AlignCenter);
-    hint->place({9450, 8430, 2400, 420});
+    hint->place({9450, 150, 2400, 420});
     return hint;
 }
 

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "core/unbreakable.h"
 #include "forms/colors.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
@@ -147,7 +148,7 @@ void Button::paintCaption(QPainter& painter) const {
                                                               : Qt::AlignCenter | Qt::TextShowMnemonic;
     painter.setFont(font_.toQFont());
     painter.setPen(below ? colors::kTitle : QColor(Qt::white));
-    painter.drawText(captionRoom(), flags, caption_);
+    painter.drawText(captionRoom(), flags, withUnbreakableBlanks(caption_));
 }
 
 void Button::paint(QPainter& painter) {

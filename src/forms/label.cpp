@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "core/unbreakable.h"
 #include "forms/colors.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
@@ -12,6 +13,7 @@
 namespace sarne {
 namespace {
 
+constexpr double kCorner = 60;          // twips, of a ground
 constexpr double kStrongDisabled = .9;  // opacity, for eyes that need contrast
 
 constexpr QColor kLit(208, 143, 80, 70);  // under the mouse: a breath of copper
@@ -83,7 +85,8 @@ QSize Label::measure(const QString& text, const TextFont& font, int width) {
     constexpr double kEndless = 1e6;
     const int flags = width > 0 ? Qt::TextWordWrap : 0;
     const QRectF room(0, 0, width > 0 ? width : kEndless, kEndless);
-    const QRectF box = metrics.boundingRect(room, flags | Qt::TextIncludeTrailingSpaces, text);
+    const QRectF box = metrics.boundingRect(room, flags | Qt::TextIncludeTrailingSpaces,
+                                            width > 0 ? withUnbreakableBlanks(text) : text);
     const int natural = static_cast<int>(std::ceil(box.width()));
     return {width > 0 ? width : natural,
             static_cast<int>(std::ceil(std::max(box.height(), metrics.height())))};
@@ -96,16 +99,18 @@ void Label::autoSize(int width) {
 
 void Label::paint(QPainter& painter) {
     const QRect place({0, 0}, twips().size());
-    if (ground_.alpha() > 0)
-        painter.fillRect(place, ground_);
-    else if (clickable_ && isPointedAt() && isEnabled())
+    if (ground_.alpha() > 0) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ground_);
+        painter.drawRoundedRect(place, kCorner, kCorner);
+    } else if (clickable_ && isPointedAt() && isEnabled())
         painter.fillRect(place, kLit);
     painter.setFont(font_.toQFont());
     painter.setPen(color_);
     if (!isEnabled())
         painter.setOpacity(form().eyes().hasContrast() ? kStrongDisabled : colors::kDisabledText);
     painter.drawText(place.adjusted(left_, 0, -right_, 0), int(alignment_) | (wraps_ ? Qt::TextWordWrap : 0),
-                     text_);
+                     wraps_ ? withUnbreakableBlanks(text_) : text_);
 }
 
 }  // namespace sarne

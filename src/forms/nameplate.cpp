@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "core/unbreakable.h"
 #include "forms/button.h"
 #include "forms/colors.h"
 #include "forms/form.h"
@@ -199,7 +200,7 @@ void NamePlate::paint(QPainter& painter) {
     painter.setFont(kFont.toQFont());
     painter.setPen(colors::kInk);
     painter.drawText(plate.adjusted(kMarginX - 15, 0, 15 - kMarginX, 0), Qt::AlignCenter | Qt::TextWordWrap,
-                     tipOf(thing_));
+                     withUnbreakableBlanks(tipOf(thing_)));
 }
 
 }  // namespace sarne

@@ -1,10 +1,21 @@
 #pragma once
 
 #include <QPainter>
+#include <cmath>
 
 #include "forms/picture.h"
 
 namespace sarne {
+
+/// \a place with its edges, as \a painter shows them, between pixels of the display: what is drawn up to such
+/// an edge leaves no light line beside what is drawn from it on.
+inline QRectF onPixels(const QPainter& painter, const QRectF& place) {
+    const QTransform shown = painter.deviceTransform();
+    const QRectF pixels = shown.mapRect(place);
+    const QPointF from(std::round(pixels.left()), std::round(pixels.top()));
+    const QPointF to(std::round(pixels.right()), std::round(pixels.bottom()));
+    return shown.inverted().mapRect(QRectF(from, to));
+}
 
 /// Draws \a picture into \a place so that its border, an eighth of its side, becomes \a border units thick on
 /// every side and only the middle parts stretch.
@@ -19,7 +30,8 @@ inline void drawNinePatch(QPainter& painter, const Picture& picture, const QRect
     for (int row = 0; row < 3; ++row) {
         for (int column = 0; column < 3; ++column)
             painter.drawPixmap(
-                QRectF(QPointF(toX[column], toY[row]), QPointF(toX[column + 1], toY[row + 1])), source,
+                onPixels(painter, {QPointF(toX[column], toY[row]), QPointF(toX[column + 1], toY[row + 1])}),
+                source,
                 QRectF(QPointF(fromX[column], fromY[row]), QPointF(fromX[column + 1], fromY[row + 1])));
     }
 }

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <algorithm>
+#include <cmath>
 
 #include "core/texts.h"
 #include "forms/colors.h"
@@ -75,6 +76,25 @@ void TextView::drawPlainText(const QString& text) {
     basZobrazRtfSarne().drawPlainText(*this, text);
 }
 
+void TextView::drawFilling(const std::function<void()>& draw) {
+    constexpr double kMost = 1.4, kStep = .1;
+    constexpr double kFilled = .8, kFull = .94;  // of the height: wanted, and the most
+    const auto drawAt = [&](double scale) {
+        larger_ = scale;
+        Cls();
+        draw();
+    };
+    drawAt(1);
+    const double height = twips().height(), used = contentHeight();
+    // Letters twice as large take four times the room.
+    double scale = used > 0 ? std::min(kMost, std::sqrt(kFilled * height / used)) : 1;
+    for (; scale >= 1 + kStep; scale -= kStep) {
+        drawAt(scale);
+        if (contentHeight() <= kFull * height) return;
+    }
+    if (larger_ > 1) drawAt(1);
+}
+
 bool TextView::keepRichText(const RtfLayout& layout) {
     const int added = pieces_.add(layout);
     addPainted(
@@ -107,7 +127,7 @@ TextMetrics* TextView::textMetrics() {
 }
 
 double TextView::textScale() const {
-    return form().eyes().textScale();
+    return form().eyes().textScale() * larger_;
 }
 
 void TextView::setCaret(qsizetype offset) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointer>
+#include <functional>
 
 #include "forms/button.h"
 #include "forms/picturebox.h"
@@ -35,6 +36,9 @@ class TextView : public PictureBox {
     void drawRichText(const QString& text);
     /// The same for a text in which every character stands for itself.
     void drawPlainText(const QString& text);
+    /// Clears the view and has \a draw draw all there is on it, in letters as much larger than designed as a
+    /// short text leaves room for.
+    void drawFilling(const std::function<void()>& draw);
     TextMetrics* textMetrics() override;
     bool keepRichText(const RtfLayout& layout) override;
     /// Also what the rich texts say, a line for each of theirs.
@@ -96,6 +100,7 @@ class TextView : public PictureBox {
     QPointer<Button> up_, down_;  // the form's, and gone with this view
     std::optional<int> pressed_;
     QRect sheet_;
+    double larger_ = 1;  ///< than designed, where the text leaves room
 };
 
 }  // namespace sarne

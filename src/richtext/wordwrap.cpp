@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/unbreakable.h"
+
 namespace sarne {
 namespace {
 
@@ -32,7 +34,10 @@ qsizetype firstLine(QStringView text, int width, const MeasureText& measure, Lon
     // Blanks in front belong to the first word: an indented line is not broken before it begins.
     const qsizetype word =
         std::find_if(text.begin(), text.end(), [](QChar c) { return c != u' '; }) - text.begin();
-    const qsizetype blank = text.left(fits + 1).lastIndexOf(u' ');
+    const qsizetype last = text.left(fits + 1).lastIndexOf(u' ');
+    qsizetype blank = last;
+    while (blank > word && holdsTogether(text, blank)) blank = text.left(blank).lastIndexOf(u' ');
+    if (blank <= word) blank = last;  // nothing else is left
     if (blank > word) return blank == fits ? fits : blank + 1;
     if (longWords == LongWords::Break) return fits;
     const qsizetype end = text.indexOf(u' ', word);

@@ -100,6 +100,24 @@ TEST_F(TextControls, LongTextsScrollByArrowsWheelAndKeys) {
     EXPECT_EQ(view.drawnText(), QString());
 }
 
+TEST_F(TextControls, AShortTextIsSetLargerAndAlwaysWhole) {
+    TextView view(*screen, QStringLiteral("picText"));
+    view.place({1500, 1500, 6000, 3000});
+    const auto heightOf = [&](int lines) {
+        view.drawFilling([&] {
+            for (int line = 0; line < lines; ++line) view.drawRichText(QStringLiteral("řádek"));
+        });
+        return view.contentHeight();
+    };
+    const int large = heightOf(1), some = heightOf(7), many = heightOf(10);
+    EXPECT_GT(large, some / 7);
+    EXPECT_GT(some / 7, many / 10);
+    for (int lines = 1; lines <= 10; ++lines) EXPECT_LE(heightOf(lines), 3000) << lines;
+    EXPECT_GT(heightOf(40), 3000) << "scrolls";
+    EXPECT_EQ(view.contentHeight() / 40, many / 10) << "in the designed size";
+    EXPECT_EQ(view.drawnText().count(u'\n'), 39) << "drawn once";
+}
+
 TEST_F(TextControls, LinkPhrasesArePointedAtClickedAndSteppedThrough) {
     TextView view(*screen, QStringLiteral("picRecept"));
     view.place({1500, 1500, 6000, 900});

@@ -26,6 +26,12 @@ TEST(WordWrapTest, WrapsAtBlanksAndNeverInsideAWord) {
     EXPECT_EQ(wrap("jedna   dvě ", 8), (QStringList{QStringLiteral("jedna"), QStringLiteral("dvě ")}));
     EXPECT_EQ(wrap("      - nebo olej olivový", 17, "         "),
               (QStringList{QStringLiteral("      - nebo olej"), QStringLiteral("         olivový")}));
+    EXPECT_EQ(wrap("Polévka s bramborem a majoránkou", 21),
+              (QStringList{QStringLiteral("Polévka s bramborem"), QStringLiteral("a majoránkou")}));
+    EXPECT_EQ(wrap("vaříme 20 minut", 10),
+              (QStringList{QStringLiteral("vaříme"), QStringLiteral("20 minut")}));
+    EXPECT_EQ(wrap("a v o", 3), (QStringList{QStringLiteral("a v"), QStringLiteral("o")}))
+        << "nothing else is left";
     EXPECT_EQ(wrap("   olej", 2, "    "), (QStringList{QStringLiteral("   olej")})) << "an indent of no room";
     const QString longText = QStringLiteral("slovo ").repeated(2000);
     EXPECT_EQ(wrapAtBlanks(longText, 1100, fixedWidth).size(), 1000);

@@ -4,8 +4,8 @@
 #include <QStringList>
 
 #include "charset.h"
+#include "core/unbreakable.h"
 #include "nearword.h"
-#include "typography.h"
 
 namespace sarne::disc {
 namespace {

@@ -5,10 +5,10 @@
 #include <cmath>
 
 #include "checkmethod.h"
+#include "core/unbreakable.h"
 #include "markup.h"
 #include "nearword.h"
 #include "readtables.h"
-#include "typography.h"
 #include "weights.h"
 
 namespace sarne::disc {

@@ -52,16 +52,6 @@ void checkTypography(const QString& text, const Place& place, Problems& problems
         problems.error(place, QStringLiteral("uvozovky, které k sobě nepatří"));
 }
 
-QString withUnbreakableBlanks(QString text) {
-    // A link phrase or another font takes the whole word in which it begins, so nothing is joined to its
-    // front.
-    static const QRegularExpression preposition(
-        QStringLiteral("(?<![\\p{L}\\p{N}])([ksvzouaiKSVZOUAI]) (?=[^\\s\\[*_])"));
-    static const QRegularExpression number(QStringLiteral("(\\d[.]?) (?=[\\p{L}°%])"));
-    const QString unbreakable = QStringLiteral("\\1\u00a0");
-    return text.replace(preposition, unbreakable).replace(number, unbreakable);
-}
-
 }  // namespace sarne::disc
 
 // SPDX-License-Identifier: GPL-3.0-or-later

@@ -11,10 +11,6 @@ namespace sarne::disc {
 /// fraction written with a slash, doubled blanks and blanks in front of punctuation.
 void checkTypography(const QString& text, const Place& place, Problems& problems);
 
-/// \a text with non-breaking blanks behind one-letter prepositions and conjunctions, and between a number
-/// and the word or sign that belongs to it.
-QString withUnbreakableBlanks(QString text);
-
 }  // namespace sarne::disc
 
 // SPDX-License-Identifier: GPL-3.0-or-later

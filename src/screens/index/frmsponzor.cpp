@@ -85,7 +85,7 @@ void frmSponzor::makeCard() {
     card_.setRightMargin(kTextStart.x());
     card_.setArrowPictures(resources.picture(QStringLiteral("SipkaNahoru")),
                            resources.picture(QStringLiteral("SipkaDolu")));
-    dress(close_, {}, Texts::tr("Zavřít"), Texts::tr("Zavřít text"));
+    close_.dressAsText(Texts::tr("Zavřít"), Texts::tr("Zavřít text"));
     connect(&close_, &Button::clicked, this, &frmSponzor::closeCard);
     connect(&card_, &TextView::linkActivated, this, [this](LinkKey key) { followLink(this->app(), key); });
     connect(&card_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });
@@ -97,8 +97,9 @@ void frmSponzor::placeCard() {
     const int height = text + 2 * kCardMargin + kCardFoot;
     cardPlace_ = QRect(kCardLeft, kCardMiddle - height / 2, kCardWidth, height);
     card_.setSheet(cardPlace_.adjusted(0, 0, 0, -kCardFoot));
-    card_.place({cardPlace_.left() + kCardMargin, cardPlace_.top() + kCardMargin,
-                 kCardWidth - 2 * kCardMargin - TextView::kArrowRoom, text});
+    // The arrows' room at both sides, so that the text stands in the middle.
+    card_.place({cardPlace_.left() + TextView::kArrowRoom, cardPlace_.top() + kCardMargin,
+                 kCardWidth - 2 * TextView::kArrowRoom - kCardMargin, text});
     QRect close({}, kClose);
     close.moveCenter({cardPlace_.center().x(), cardPlace_.bottom() - kCardFoot / 2});
     close_.place(close);
@@ -287,7 +288,8 @@ void frmSponzor::paint(QPainter& painter) {
     BarForm::paint(painter);
     if (!cardIsOpen()) return;
     paintPaper(painter, cardPlace_);
-    painter.fillRect(cardPlace_.adjusted(45, cardPlace_.height() - kCardFoot, -45, -45), colors::kTeal);
+    painter.setClipRect(cardPlace_.adjusted(0, cardPlace_.height() - kCardFoot, 0, 0));
+    paintPlate(painter, cardPlace_);
 }
 
 }  // namespace sarne

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numeric>
 
+#include "core/unbreakable.h"
 #include "forms/label.h"
 
 namespace sarne {
@@ -16,7 +17,8 @@ int width(const QString& text, const QFontMetricsF& metrics) {
 
 int widestWord(const QString& text, const QFontMetricsF& metrics) {
     int widest = 0;
-    for (const QString& word : text.split(u' ')) widest = std::max(widest, width(word, metrics));
+    for (const QString& word : withUnbreakableBlanks(text).split(u' '))
+        widest = std::max(widest, width(word, metrics));
     return widest;
 }
 

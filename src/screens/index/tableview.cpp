@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "core/unbreakable.h"
 #include "forms/colors.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
@@ -171,7 +172,7 @@ void TableView::wheelEvent(QWheelEvent* event) {
 void TableView::paintCell(QPainter& painter, const QRect& cell, const QString& text) const {
     const QRect room = cell.adjusted(TableLayout::kPadding, TableLayout::kLeading, -TableLayout::kPadding,
                                      -TableLayout::kLeading);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, withUnbreakableBlanks(text));
 }
 
 void TableView::paintHead(QPainter& painter) const {

@@ -45,10 +45,11 @@ void TextForm::showText(const QString& name, const QString& text, const QString&
     text_ = text;
     const QString body = withoutHeading(text, name);
     setTitle(beginsWithHeading(body, name) ? kind : name);
-    view_.Cls();
-    view_.setCurrentX(kTextStart.x());
-    view_.setCurrentY(kTextStart.y());
-    view_.drawRichText(body);
+    view_.drawFilling([&] {
+        view_.setCurrentX(kTextStart.x());
+        view_.setCurrentY(kTextStart.y());
+        view_.drawRichText(body);
+    });
     view_.scrollTo(0);
     view_.setAccessibleName(name);
 }

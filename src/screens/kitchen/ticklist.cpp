@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "core/texts.h"
+#include "core/unbreakable.h"
 #include "forms/colors.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
@@ -237,7 +238,8 @@ void TickList::paintRow(QPainter& painter, int row) const {
     painter.setFont(named);
     const int below = content.below.isEmpty() ? 0 : twipsOf(points_ * kSmall * 1.1);
     painter.drawText(text.adjusted(0, 0, -amount, -below),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, content.text);
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap,
+                     withUnbreakableBlanks(content.text));
     painter.setFont(font(kSmall, false).toQFont());
     painter.setPen(isSelected ? colors::kPaper : kSoftInk);
     painter.drawText(QRect(text.left(), place.bottom() - below - 30, text.width(), below + 30),

@@ -99,10 +99,9 @@ void IngredientPanel::draw() {
     for (const PlacedLine& line : placed) view.textOut(line.x, line.y + view.textAscent(), line.text);
     const int half = recipelayout::kHalfView.width();
     room_.picture.setVisible(false);
-    if (!placed.empty() && std::ranges::all_of(placed, [&](const PlacedLine& line) {
-            return line.x == 0 && lineWidth(line.text) <= half;
-        }))
-        showBeside(recipe.photo);
+    int widest = 0;
+    for (const PlacedLine& line : placed) widest = std::max(widest, line.x + lineWidth(line.text));
+    if (widest > 0 && widest <= half) showBeside(recipe.photo, widest);
 }
 
 void IngredientPanel::redraw() {

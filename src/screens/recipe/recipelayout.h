@@ -32,11 +32,20 @@ inline constexpr QRect kKitchen{2640, 7950, 2280, 885};
 inline constexpr QRect kView{2880, 1590, 8400, 6060};  ///< the drawing surface
 inline constexpr QRect kPhotoView{2820, 1590, 8820, 6060};
 inline constexpr QRect kHalfView{2880, 1590, 4200, 6060};  ///< the drawing surface with a picture beside it
-/// A picture of \a size's proportions beside a text that begins at \a top.
-constexpr QRect beside(int top, QSize size) {
-    constexpr int kWidth = 4200, kHeight = 5400;  // at most
-    const int height = size.isEmpty() ? kWidth * 3 / 4 : kWidth * size.height() / size.width();
-    return {7380, top + 75, kWidth, height < kHeight ? height : kHeight};
+inline constexpr int kSheetRight = 11580,
+                     kSheetBottom = kView.y() + kView.height();  ///< of what stands on it
+/// The largest place of \a size's proportions in \a room, in its upper right corner.
+constexpr QRect fitted(const QRect& room, QSize size) {
+    const int w = size.isEmpty() ? 4 : size.width(), h = size.isEmpty() ? 3 : size.height();
+    const int height = room.width() * h / w < room.height() ? room.width() * h / w : room.height();
+    const int width = height * w / h;
+    return {room.x() + room.width() - width, room.y(), width, height};
+}
+/// A picture of \a size's proportions beside a text that begins at \a top and is \a textWidth wide.
+constexpr QRect beside(int top, QSize size, int textWidth) {
+    constexpr int kGap = 300, kLeast = 2400;
+    const int left = kView.x() + (textWidth > kLeast ? textWidth : kLeast) + kGap;
+    return fitted({left, top + 75, kSheetRight - left, kSheetBottom - top - 75}, size);
 }
 inline constexpr QRect kListView{2880, 2520, 8400, 5130};  ///< below the cutlery
 constexpr QRect cutlery(int position) {

@@ -81,12 +81,10 @@ class RecipeSection {
     virtual void keepUnsaved() {}
 
   protected:
-    /// Shows \a picture in the right half of the sheet until another section is opened, its upper edge where
+    /// Shows \a picture beside a text of \a textWidth until another section is opened, its upper edge where
     /// the text's is.
-    void showBeside(const Picture& picture) const;
-    /// Draws the section's text by \a text in the left half of the sheet, \a picture beside it; a text that
-    /// needs more, or without a picture, has the whole width.
-    void drawBeside(const Picture& picture, const std::function<void()>& text) const;
+    void showBeside(const Picture& picture, int textWidth = recipelayout::kHalfView.width()) const;
+    void showPicture(const Picture& picture, const QRect& place) const;
 
     SectionRoom room_;
 };

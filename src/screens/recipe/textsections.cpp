@@ -1,6 +1,7 @@
 #include "screens/recipe/textsections.h"
 
 #include <QTimer>
+#include <algorithm>
 
 #include "core/texts.h"
 #include "db/companions.h"
@@ -10,26 +11,21 @@
 namespace sarne {
 namespace {
 
-constexpr int kBetweenTexts = 200;  // twips between the texts of one section
+constexpr int kBetweenTexts = 200;   // twips between the texts of one section
+constexpr int kLeastPicture = 2400;  // a lower one is not shown
+constexpr double kToolSize = 16;     // points
 
 }  // namespace
 
-void RecipeSection::showBeside(const Picture& picture) const {
-    if (picture.isNull()) return;
-    room_.picture.place(recipelayout::beside(room_.view.twips().top(), picture.size()));
-    room_.picture.setPicture(picture, Fit::Inside);
-    room_.picture.show();
+void RecipeSection::showBeside(const Picture& picture, int textWidth) const {
+    showPicture(picture, recipelayout::beside(room_.view.twips().top(), picture.size(), textWidth));
 }
 
-void RecipeSection::drawBeside(const Picture& picture, const std::function<void()>& text) const {
-    if (picture.isNull()) return text();
-    room_.view.place(recipelayout::kHalfView);
-    text();
-    if (room_.view.drawnText().isEmpty()) return;
-    if (room_.view.scrollRange() == 0) return showBeside(picture);
-    room_.view.Cls();
-    room_.view.place(viewPlace());
-    text();
+void RecipeSection::showPicture(const Picture& picture, const QRect& place) const {
+    if (picture.isNull()) return;
+    room_.picture.place(place);
+    room_.picture.setPicture(picture, Fit::Inside);
+    room_.picture.show();
 }
 
 void PhotoSection::draw() {
@@ -72,18 +68,28 @@ void TextSection::draw() {
 }
 
 void WineSection::draw() {
-    drawBeside(room_.sarne.mediaPicture(QStringLiteral("foto\\vino256.bmp")),
-               [this] { TextSection::draw(); });
+    TextSection::draw();
+    TextView& view = room_.view;
+    const Picture wine = room_.sarne.mediaPicture(QStringLiteral("foto\\vino256.bmp"));
+    const QRect below = view.twips().adjusted(0, view.contentHeight() + 2 * kBetweenTexts, 0, 0);
+    if (view.drawnText().isEmpty() || below.height() < kLeastPicture) return;
+    QRect place = recipelayout::fitted(below, wine.size());
+    place.moveCenter(QPoint(recipelayout::kPaper.center().x(), place.center().y()));
+    showPicture(wine, place);
 }
 
 void ToolSection::draw() {
     const QStringList tools = recipeTools(room_.sarne.Db(), room_.recipe.id);
     if (tools.isEmpty()) return;
-    drawBeside(room_.recipe.photo, [this, &tools] {
-        TextView& view = room_.view;
-        view.setFont({QStringLiteral("Arial"), 12});
-        for (const QString& tool : tools) view.print(tool);
-    });
+    TextView& view = room_.view;
+    view.setFont({QStringLiteral("Arial"), kToolSize});
+    int widest = 0;
+    for (const QString& tool : tools) {
+        view.print(tool);
+        widest = std::max(widest, view.textWidth(tool));
+    }
+    if (view.scrollRange() == 0 && widest <= recipelayout::kHalfView.width())
+        showBeside(room_.recipe.photo, widest);
 }
 
 }  // namespace sarne

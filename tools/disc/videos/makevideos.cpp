@@ -8,6 +8,7 @@
 #include "../spelling.h"
 #include "../stamps.h"
 #include "../typography.h"
+#include "core/unbreakable.h"
 #include "direct.h"
 #include "encode.h"
 #include "projector.h"

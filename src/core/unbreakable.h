@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace sarne {
+
+/// Whether the blank at \a blank of \a text holds together what stands around it: a one-letter preposition or
+/// conjunction and the next word, a number and the word or sign that belongs to it. No line ends there.
+bool holdsTogether(QStringView text, qsizetype blank);
+
+/// \a text with non-breaking blanks where a blank holds together.
+QString withUnbreakableBlanks(QString text);
+
+}  // namespace sarne
