@@ -1,6 +1,8 @@
 #include "platform/pdfnotes.h"
 
 #include <QHash>
+#include <QtEndian>
+#include <optional>
 
 #ifdef SARNE_QPDF
 #include <memory>
@@ -9,6 +11,8 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
+#include <set>
+#include <stdexcept>
 #endif
 
 namespace sarne {
@@ -18,6 +22,35 @@ namespace sarne {
 namespace {
 
 constexpr double kTwipsPerPoint = 20;
+
+/// How wide a stand-in is, in pixels of one bit: a word that tells it from other pictures, and its number.
+constexpr int kStandInWidth = 128;
+constexpr quint64 kStandInWord = 0xd1a5c0f71e5ba11d;
+
+/// What a PDF file has to know of a JPEG file.
+struct Jpeg {
+    QSize size;
+    int colours = 0;
+
+    /// None where \a file is no whole JPEG file in grey or in red, green and blue.
+    static std::optional<Jpeg> of(const QByteArray& file) {
+        if (!file.startsWith("\xff\xd8") || !file.endsWith("\xff\xd9")) return {};
+        const auto* bytes = reinterpret_cast<const uchar*>(file.constData());
+        constexpr qsizetype kFrameLength = 10;
+        for (qsizetype at = 2; at + kFrameLength <= file.size() && bytes[at] == 0xff;
+             at += 2 + qFromBigEndian<quint16>(bytes + at + 2)) {
+            if (bytes[at + 1] >= 0xc0 && bytes[at + 1] <= 0xc2) return ofFrame(bytes + at);
+        }
+        return {};
+    }
+
+  private:
+    static std::optional<Jpeg> ofFrame(const uchar* frame) {
+        const Jpeg jpeg{{qFromBigEndian<quint16>(frame + 7), qFromBigEndian<quint16>(frame + 5)}, frame[9]};
+        const bool known = frame[4] == 8 && (jpeg.colours == 1 || jpeg.colours == 3);
+        return known && !jpeg.size.isEmpty() ? std::optional(jpeg) : std::nullopt;
+    }
+};
 
 QPDFObjectHandle number(double value) {
     return QPDFObjectHandle::newReal(value, 2);
@@ -49,6 +82,7 @@ class PdfNoteWriter {
         root.replaceKey("/ViewerPreferences", view);
         for (const PdfNotes::Link& link : notes_.links_) writeLink(link);
         writeContents(root);
+        if (!notes_.pictures_.empty()) writePictures();
     }
 
   private:
@@ -84,6 +118,43 @@ class PdfNoteWriter {
         QPDFObjectHandle holder = page(link.sheet);
         if (!holder.getKey("/Annots").isArray()) holder.replaceKey("/Annots", QPDFObjectHandle::newArray());
         holder.getKey("/Annots").appendItem(pdf_.makeIndirectObject(note));
+    }
+
+    void writePictures() {
+        std::set<quint64> written;
+        for (QPDFPageObjectHelper& page : pages_) {
+            for (auto& [key, image] : page.getImages()) {
+                const std::optional<quint64> number = standInNumber(image);
+                if (!number) continue;
+                writePicture(image, notes_.pictures_[*number]);
+                written.insert(*number);
+            }
+        }
+        if (written.size() < notes_.pictures_.size()) throw std::runtime_error("a picture is missing");
+    }
+
+    /// Which picture \a image stands for; none when it is a picture itself.
+    std::optional<quint64> standInNumber(QPDFObjectHandle image) const {
+        const auto is = [&](const char* key, int value) {
+            QPDFObjectHandle held = image.getDict().getKey(key);
+            return held.isInteger() && held.getIntValue() == value;
+        };
+        if (!is("/Width", kStandInWidth) || !is("/BitsPerComponent", 1)) return {};
+        const std::shared_ptr<Buffer> bits = image.getStreamData();
+        if (bits->getSize() != kStandInWidth / 8) return {};
+        const auto number = qFromBigEndian<quint64>(bits->getBuffer() + sizeof(kStandInWord));
+        const bool known = qFromBigEndian<quint64>(bits->getBuffer()) == kStandInWord;
+        return known && number < notes_.pictures_.size() ? std::optional(number) : std::nullopt;
+    }
+
+    static void writePicture(QPDFObjectHandle image, const QByteArray& file) {
+        const std::optional<Jpeg> jpeg = Jpeg::of(file);
+        image.replaceStreamData(file.toStdString(), name("/DCTDecode"), QPDFObjectHandle::newNull());
+        QPDFObjectHandle about = image.getDict();
+        about.replaceKey("/Width", QPDFObjectHandle::newInteger(jpeg->size.width()));
+        about.replaceKey("/Height", QPDFObjectHandle::newInteger(jpeg->size.height()));
+        about.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(8));
+        about.replaceKey("/ColorSpace", name(jpeg->colours == 1 ? "/DeviceGray" : "/DeviceRGB"));
     }
 
     /// The table of contents: a list of titles, each with a list of those below it.
@@ -131,6 +202,16 @@ bool PdfNotes::arePossible() {
     return true;
 }
 
+QImage PdfNotes::addPicture(const QByteArray& jpeg) {
+    if (!Jpeg::of(jpeg)) return {};
+    QImage standIn(kStandInWidth, 1, QImage::Format_Mono);
+    standIn.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});  // or it would be coded like a photo
+    qToBigEndian(kStandInWord, standIn.bits());
+    qToBigEndian(quint64(pictures_.size()), standIn.bits() + sizeof(kStandInWord));
+    pictures_.push_back(jpeg);
+    return standIn;
+}
+
 QByteArray PdfNotes::writtenInto(const QByteArray& pdf) const {
     try {
         QPDF document;
@@ -146,7 +227,7 @@ QByteArray PdfNotes::writtenInto(const QByteArray& pdf) const {
         return QByteArray(reinterpret_cast<const char*>(written->getBuffer()),
                           static_cast<qsizetype>(written->getSize()));
     } catch (const std::exception&) {
-        return pdf;
+        return pictures_.empty() ? pdf : QByteArray();
     }
 }
 
@@ -154,6 +235,10 @@ QByteArray PdfNotes::writtenInto(const QByteArray& pdf) const {
 
 bool PdfNotes::arePossible() {
     return false;
+}
+
+QImage PdfNotes::addPicture(const QByteArray&) {
+    return {};
 }
 
 QByteArray PdfNotes::writtenInto(const QByteArray& pdf) const {

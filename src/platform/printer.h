@@ -3,6 +3,7 @@
 #include <QRect>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <vector>
 
 class QPainter;
@@ -85,9 +86,13 @@ class Printer {
     virtual QPainter* begin(const QString& documentName) = 0;
     /// Notes the places and links of the page that is being painted; paper has no use for them.
     virtual void addNotes(const std::vector<DocumentPlace>&, const std::vector<DocumentLink>&) {}
+    /// Puts the picture in \a file, a native path, as it is stored into \a place of the page that is being
+    /// painted. False where that is not possible: then it has to be painted.
+    virtual bool putPicture(const QRect& /*place*/, const QString& /*file*/) { return false; }
     /// False when the printer takes no more pages.
     virtual bool newPage() = 0;
-    virtual PrintedDocument end() = 0;
+    /// Ends the document. \a waiting is called again and again while it is being written.
+    virtual PrintedDocument end(const std::function<void()>& waiting) = 0;
 };
 
 }  // namespace sarne

@@ -9,6 +9,8 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QStandardPaths>
+#include <chrono>
+#include <future>
 
 #include "platform/pagesonsheet.h"
 #include "platform/pdfnotes.h"
@@ -18,6 +20,7 @@ namespace sarne {
 namespace {
 
 constexpr int kLongestFileName = 100;
+constexpr std::chrono::milliseconds kWait(5);  // between two looks whether a file is written
 
 /// Whether the print system took the last job of this thread: Qt sends it but keeps the answer to itself.
 bool printSystemTookIt() {
@@ -67,8 +70,9 @@ class SystemPrinter::State {
     bool beginFile(const QString& path, const QString& title);
     bool beginPrinter(const QString& title);
     void addNotes(const std::vector<DocumentPlace>& places, const std::vector<DocumentLink>& links);
+    bool putPicture(const QRect& place, const QString& path);
     bool nextPage();
-    PrintedDocument endFile();
+    PrintedDocument endFile(const std::function<void()>& waiting);
     PrintedDocument endPrinter();
 
     QPrinter printer{QPrinter::HighResolution};
@@ -79,6 +83,7 @@ class SystemPrinter::State {
     QBuffer written;  // what becomes of the file
     std::unique_ptr<QPdfWriter> pdf;
     PdfNotes notes;
+    QHash<QString, QImage> standIns;  // of the pictures that are in the file, by their paths
 
   private:
     QPageLayout fileLayout() const;
@@ -128,6 +133,7 @@ bool SystemPrinter::State::beginFile(const QString& path, const QString& title) 
     written.setData({});
     written.open(QIODevice::WriteOnly);
     notes = {};
+    standIns.clear();
     pdf = std::make_unique<QPdfWriter>(&written);
     pdf->setPageLayout(fileLayout());
     pdf->setResolution(kTwipsPerInch);
@@ -172,6 +178,19 @@ void SystemPrinter::State::addNotes(const std::vector<DocumentPlace>& places,
         notes.addLink(sheet_, toSheet.mapRect(QRectF(link.place)), link.target);
 }
 
+bool SystemPrinter::State::putPicture(const QRect& place, const QString& path) {
+    if (!pdf) return false;
+    auto standIn = standIns.find(path);
+    if (standIn == standIns.end()) {
+        QFile picture(path);
+        const QByteArray stored = picture.open(QIODevice::ReadOnly) ? picture.readAll() : QByteArray();
+        standIn = standIns.insert(path, notes.addPicture(stored));
+    }
+    if (standIn->isNull()) return false;
+    painter.drawImage(QRectF(place), *standIn);
+    return true;
+}
+
 bool SystemPrinter::State::nextPage() {
     page_ = (page_ + 1) % pages.count();
     sheet_ += page_ == 0 ? 1 : 0;
@@ -180,13 +199,17 @@ bool SystemPrinter::State::nextPage() {
     return true;
 }
 
-PrintedDocument SystemPrinter::State::endFile() {
+PrintedDocument SystemPrinter::State::endFile(const std::function<void()>& waiting) {
     painter.end();
     pdf.reset();
     written.close();
-    file->write(notes.writtenInto(written.data()));
+    std::future<bool> complete = std::async(std::launch::async, [this] {
+        file->write(notes.writtenInto(written.data()));
+        return file->commit();
+    });
+    while (complete.wait_for(kWait) != std::future_status::ready) waiting();
     PrintedDocument document;
-    document.complete = file->commit();
+    document.complete = complete.get();
     if (document.complete) document.file = file->fileName();
     file.reset();
     return document;
@@ -250,13 +273,17 @@ void SystemPrinter::addNotes(const std::vector<DocumentPlace>& places,
     state().addNotes(places, links);
 }
 
+bool SystemPrinter::putPicture(const QRect& place, const QString& file) {
+    return state().putPicture(place, file);
+}
+
 bool SystemPrinter::newPage() {
     return state().nextPage();
 }
 
-PrintedDocument SystemPrinter::end() {
+PrintedDocument SystemPrinter::end(const std::function<void()>& waiting) {
     if (!state().painter.isActive()) return {};
-    return state().pdf ? state().endFile() : state().endPrinter();
+    return state().pdf ? state().endFile(waiting) : state().endPrinter();
 }
 
 }  // namespace sarne

@@ -23,8 +23,9 @@ class SystemPrinter final : public Printer {
     QString fileFor(const QString& documentName) const override;
     QPainter* begin(const QString& documentName) override;
     void addNotes(const std::vector<DocumentPlace>& places, const std::vector<DocumentLink>& links) override;
+    bool putPicture(const QRect& place, const QString& file) override;
     bool newPage() override;
-    PrintedDocument end() override;
+    PrintedDocument end(const std::function<void()>& waiting) override;
 
   private:
     class State;

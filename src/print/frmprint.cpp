@@ -106,7 +106,7 @@ PrintOptions frmPrint::options() const {
 
 PrintSource frmPrint::source() {
     return {app().Db(),
-            [this](const QString& path) { return app().mediaPicture(path); },
+            [this](const QString& path) { return app().mediaFile(path); },
             app().Locale,
             printLogo(app().resources()),
             !printer_.choice().colour,

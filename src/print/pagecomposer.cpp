@@ -147,8 +147,8 @@ void PageComposer::loseColours(PrintedPage& page) const {
         text.color = qRgb(grey, grey, grey);
     }
     for (PagePicture& picture : page.pictures)
-        picture.picture =
-            Picture::fromImage(picture.picture.image().convertToFormat(QImage::Format_Grayscale8));
+        picture = {picture.place,
+                   Picture::fromImage(picture.picture.image().convertToFormat(QImage::Format_Grayscale8))};
 }
 
 /// The header: the logo, and the title at the right margin.

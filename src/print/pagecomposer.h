@@ -19,8 +19,8 @@ class Recordset;
 /// Where the composer takes its material from.
 struct PrintSource {
     Database& db;
-    /// A picture by its path below the media root.
-    std::function<Picture(const QString&)> media;
+    /// The native path of a picture by its path below the media root; empty where there is none.
+    std::function<QString(const QString&)> media;
     QLocale locale;
     Picture logo;
     bool grey = false;  ///< without colours

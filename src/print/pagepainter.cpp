@@ -101,10 +101,12 @@ class TextPainter {
 
 }  // namespace
 
-bool paintPage(QPainter& painter, const PrintedPage& page, PrintProgress& progress) {
+bool paintPage(QPainter& painter, const PrintedPage& page, PrintProgress& progress, Printer* printer) {
     for (const PagePicture& picture : page.pictures) {
+        const bool taken =
+            printer && !picture.file.isEmpty() && printer->putPicture(picture.place, picture.file);
         // At its own resolution: what shows it scales it.
-        painter.drawImage(QRectF(picture.place), picture.picture.image());
+        if (!taken) painter.drawImage(QRectF(picture.place), picture.picture.image());
         if (!progress.goOn()) return false;
     }
     TextPainter painting(painter);

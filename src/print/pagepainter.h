@@ -8,8 +8,10 @@
 namespace sarne {
 
 /// Paints \a page, asking between lines whether to go on; false when it was stopped. \a painter maps one unit
-/// to one twip, its origin is that of the printer's scale; its font and pen change.
-bool paintPage(QPainter& painter, const PrintedPage& page, PrintProgress& progress);
+/// to one twip, its origin is that of the printer's scale; its font and pen change. Pictures that \a printer,
+/// where there is one, takes as they are stored are left to it.
+bool paintPage(QPainter& painter, const PrintedPage& page, PrintProgress& progress,
+               Printer* printer = nullptr);
 
 }  // namespace sarne
 

@@ -24,6 +24,7 @@ struct PageText {
 struct PagePicture {
     QRect place;
     Picture picture;
+    QString file = {};  ///< its native path; empty for one that is painted only
 };
 
 /// One page: everything on it, at its place, in reading order. What the preview shows, the file holds and

@@ -37,7 +37,7 @@ bool PrintJob::put(const PrintedPage& page) {
     if (failed_) return false;
     ++pages_;
     printer_.addNotes(page.places, page.links);
-    stopped_ = !paintPage(*painter_, page, progress_);
+    stopped_ = !paintPage(*painter_, page, progress_, &printer_);
     return !stopped_;
 }
 
@@ -45,7 +45,7 @@ PrintOutcome PrintJob::end() {
     PrintOutcome outcome;
     outcome.pages = pages_;
     if (painter_) {
-        const PrintedDocument document = printer_.end();
+        const PrintedDocument document = printer_.end([this] { progress_.goOn(); });
         failed_ = failed_ || !document.complete;
         outcome.file = document.file;
         painter_ = nullptr;

@@ -248,7 +248,7 @@ void RecipeFlow::addJoinedRow(const QuantityRow& row) {
 
 /// Where quantities in columns have room beside the picture, they stand there; else it takes the middle of
 /// the line, larger.
-void RecipeFlow::addPicture(const Picture& picture, int room) {
+void RecipeFlow::addPicture(const Picture& picture, const QString& file, int room) {
     if (picture.isNull() || room <= 0) return;
     const auto besideWidth = static_cast<int>(page_.lineWidth * (scale_ < 1 ? kCardShare : kPictureShare));
     const bool beside = page_.lineWidth - besideWidth - kPictureGap >= kNarrowestText * scale_;
@@ -258,7 +258,8 @@ void RecipeFlow::addPicture(const Picture& picture, int room) {
         QSizeF(picture.size()).scaled(QSizeF(width, std::min(width, room)), Qt::KeepAspectRatio).toSize();
     const int free = page_.lineWidth - placed.width();
     FlowLine line;
-    line.pictures.push_back({QRect({page_.leftMargin + (beside ? free : free / 2), 0}, placed), picture});
+    const QRect place({page_.leftMargin + (beside ? free : free / 2), 0}, placed);
+    line.pictures.push_back({place, picture, file});
     if (!beside) line.height = placed.height() + kPictureGap;
     append(std::move(line));
     if (!beside) return;

@@ -41,10 +41,10 @@ class RecipeFlow {
     /// Adds the rows with their quantities in columns; where the line is too short for columns, one behind
     /// the other.
     void addQuantities(const std::vector<QuantityRow>& rows);
-    /// Places \a picture at the right margin, in its proportions; the plain texts that follow stand to the
-    /// left of it as long as it lasts. Where the line is too short for both it stands alone. \a room is what
-    /// is left of the page.
-    void addPicture(const Picture& picture, int room);
+    /// Places \a picture, which comes from \a file, at the right margin, in its proportions; the plain texts
+    /// that follow stand to the left of it as long as it lasts. Where the line is too short for both it
+    /// stands alone. \a room is what is left of the page.
+    void addPicture(const Picture& picture, const QString& file, int room);
     bool besidePicture() const { return height_ < pictureBottom_; }
     /// What follows stands below the picture.
     void endPicture();

@@ -103,10 +103,11 @@ void RecipeSections::gap() {
 
 void RecipeSections::photo() {
     status(Texts::tr(" Tisknu foto ... "));
-    const Picture photo = context_.source.media(QStringLiteral("foto\\male\\r%1.bmp").arg(id()));
+    const QString file = context_.source.media(QStringLiteral("foto\\male\\r%1.bmp").arg(id()));
+    const Picture photo = Picture::fromFile(file);
     if (photo.isNull()) return;
     gap();
-    flow_.addPicture(photo, context_.pageRoom - flow_.height());
+    flow_.addPicture(photo, file, context_.pageRoom - flow_.height());
 }
 
 void RecipeSections::ingredients() {

@@ -14,6 +14,7 @@ class WordWidths {
     /// the buffer in which \a word stands at \a start.
     template <typename Measure>
     int width(QStringView words, qsizetype start, qsizetype length, int font, Measure measure) {
+        if (used_ >= kMostWords) return measure();
         if (2 * used_ >= slots_.size()) grow();
         const size_t hash = qHash(words.mid(start, length), static_cast<size_t>(font));
         size_t at = hash & (slots_.size() - 1);
@@ -30,6 +31,9 @@ class WordWidths {
     }
 
   private:
+    /// More different words than any text of people has: growing takes longer than measuring.
+    static constexpr size_t kMostWords = 16384;
+
     struct Slot {
         size_t hash = 0;
         qsizetype start = 0;

@@ -57,7 +57,7 @@ class FailingPrinter final : public Printer {
         return &painter_;
     }
     bool newPage() override { return fails_ != Fails::NewPage; }
-    PrintedDocument end() override {
+    PrintedDocument end(const std::function<void()>&) override {
         ++ended;
         painter_.end();
         return {fails_ != Fails::End, {}};

@@ -184,6 +184,27 @@ TEST(PrintedPage, ShowsThePhotoInItsProportionsBelowTheName) {
     EXPECT_EQ(book.print({7}).kind, Kind::Printed);
 }
 
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST(PrintedPage, HoldsAPhotoAsItIsStored) {
+    if (!PdfNotes::arePossible()) GTEST_SKIP() << "built without the library that puts it there";
+    PrintCookbook book(kCookbook);
+    book.addPhoto(7, {400, 300}, Qt::red, "JPG");
+    book.addPhoto(8, {90, 90}, Qt::blue, "JPG");
+    const QByteArray stored = bytesOf(book.photo(7));
+    const PrintOutcome outcome = book.print({8, 7, 7});
+    EXPECT_EQ(bytesOf(outcome.file).count(stored), 1) << "once, however often it shows";
+    for (int page = 1; page <= 3; ++page)
+        EXPECT_EQ(redPart(test::pdfImage(outcome.file, page)).height() > 100, page > 1) << page;
+    QFile::resize(book.photo(7), stored.size() - 2);
+    const PrintOutcome damaged = book.print({7});
+    EXPECT_FALSE(bytesOf(damaged.file).contains(stored.chopped(2))) << "what a reader would stumble over";
+    EXPECT_GT(redPart(test::pdfImage(damaged.file, 1)).height(), 100);
+}
+
 TEST(PrintedPage, TakesLargeMaterial) {
     const QString note = test::longText(1 << 20);
     QStringList cookbook{PrintCookbook::recipe(1, str("Úhoř"), {str("Vlastni"), note})};

@@ -109,17 +109,16 @@ class PrintCookbook {
         return QStringLiteral("INSERT INTO Recepty (") + names + QStringLiteral(") VALUES (") + values + u')';
     }
 
-    void addPhoto(int id, QSize size, const QColor& color) {
+    /// In the form \a format, whatever its name ends in.
+    void addPhoto(int id, QSize size, const QColor& color, const char* format = "BMP") {
         QImage image(size, QImage::Format_RGB32);
         image.fill(color);
-        image.save(photo(id));
+        image.save(photo(id), format);
     }
     QString photo(int id) const { return folder.filePath(QStringLiteral("r%1.bmp").arg(id)); }
 
     PrintSource source() {
-        const auto media = [this](const QString& path) {
-            return Picture::fromFile(folder.filePath(path.section(u'\\', -1)));
-        };
+        const auto media = [this](const QString& path) { return folder.filePath(path.section(u'\\', -1)); };
         return {db, media, QLocale(QLocale::Czech, QLocale::CzechRepublic),
                 printLogo(Resources(QStringLiteral(":/none/")))};
     }

@@ -33,7 +33,7 @@ class FakePrinter final : public Printer {
         ++pages;
         return true;
     }
-    PrintedDocument end() override {
+    PrintedDocument end(const std::function<void()>&) override {
         painter_.reset();
         return {true, {}};
     }
