@@ -123,10 +123,17 @@ std::optional<QByteArray> MixerEffectPlayer::Private::nextWish() {
 }
 
 void MixerEffectPlayer::Private::run() {
+    // The mixer is one for the process, and does not expect two threads at once.
+    static std::mutex mixerGuard;
+    std::unique_lock guard(mixerGuard);
     const auto mixer = MixerLibrary::load();
     if (!mixer) return;
     Device device(*mixer);
-    while (const auto wavImage = nextWish()) {
+    for (;;) {
+        guard.unlock();
+        const auto wavImage = nextWish();
+        guard.lock();
+        if (!wavImage) return;  // the device is closed before the guard goes
         if (!device.open()) continue;
         if (wavImage->isEmpty())
             device.stop();

@@ -69,6 +69,8 @@ class Question {
     Question& operator=(const Question&) = delete;
 
     bool connect();
+    /// Whether connect() found no server; otherwise there is one that may not have answered.
+    bool isRefused() const { return !context_ || !PA_CONTEXT_IS_GOOD(pulse_.contextState(context_.get())); }
     /// Whether there is a device; nothing when the server does not say.
     std::optional<bool> hasDevice();
 
@@ -122,7 +124,8 @@ bool pulseServerHasDevice() {
     const auto pulse = PulseLibrary::load();
     if (!pulse) return true;
     Question question(*pulse);
-    return !question.connect() || question.hasDevice().value_or(true);
+    // One that does not answer in time may have none: an effect is left out rather than dared.
+    return question.connect() ? question.hasDevice().value_or(false) : question.isRefused();
 }
 
 const char* effectDrivers() {

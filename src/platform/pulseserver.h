@@ -3,7 +3,7 @@
 namespace sarne {
 
 /// Whether the desktop's sound server has a device to play on. True also where no such server is found: then
-/// sound goes other ways. Waits for the server's answer, half a second at most.
+/// sound goes other ways; not where there is one that does not answer. Waits half a second at most.
 bool pulseServerHasDevice();
 
 /// The ways to a device that SDL may try, separated by commas; nullptr for all, in its own order. Those that

@@ -1,5 +1,7 @@
 #include "soundserver.h"
 
+#include <signal.h>
+
 #include <QFile>
 #include <algorithm>
 #include <cmath>
@@ -140,6 +142,14 @@ void SoundServer::kill() {
         process->kill();
         process->waitForFinished();
     }
+}
+
+void SoundServer::freeze() {
+    ::kill(static_cast<pid_t>(server_.processId()), SIGSTOP);
+}
+
+void SoundServer::wake() {
+    ::kill(static_cast<pid_t>(server_.processId()), SIGCONT);
 }
 
 bool SoundServer::pullDevice() {

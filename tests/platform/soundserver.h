@@ -46,6 +46,9 @@ class SoundServer {
     bool start();
     /// Ends the server at once, as when the device is pulled out.
     void kill();
+    /// Lets the server run but answer nobody, until it is woken.
+    void freeze();
+    void wake();
     /// Takes the one device away while the server runs on, and puts it back.
     bool pullDevice();
     bool plugDevice();
