@@ -9,6 +9,7 @@ namespace sarne {
 bool sealFile(const QString& file);
 
 /// Whether \a file ends in the digest that sealFile() wrote and holds what it held then.
+/// The digests of earlier discs are known, too.
 bool isSealed(const QString& file);
 
 }  // namespace sarne
