@@ -1,9 +1,11 @@
 // Starts a program on an X display and tells how long it takes until its window has been drawn, or until a
-// click at a given place changes a given pixel, and how much memory is resident then.
+// click at a given place changes a given pixel, how much memory is resident then and three seconds later, and
+// how much of a processor was used until then, which a busy machine does not change as much.
 //
 //   start_probe [--click X Y --watch X Y] COMMAND...
 //
-// Prints "milliseconds kilobytes". Needs an X display of its own (Xvfb): it looks at the whole screen.
+// Prints "milliseconds kilobytes kilobytes-later processor-milliseconds". Needs an X display of its own
+// (Xvfb): it looks at the whole screen.
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -18,6 +20,7 @@
 #include <cstring>
 #include <fstream>
 #include <set>
+#include <sstream>
 #include <string>
 #include <thread>
 
@@ -92,6 +95,19 @@ long residentKilobytes(pid_t process) {
     return 0;
 }
 
+/// What the threads of \a process have used of a processor, in milliseconds.
+long processorTime(pid_t process) {
+    std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+    std::string stat;
+    std::getline(file, stat);
+    std::istringstream fields(stat.substr(stat.rfind(')') + 2));
+    std::string skipped;
+    for (int field = 3; field < 14; ++field) fields >> skipped;
+    long user = 0, system = 0;
+    fields >> user >> system;
+    return (user + system) * 1000 / sysconf(_SC_CLK_TCK);
+}
+
 bool ready(Display* display, Place clicked, Place watched, unsigned long before) {
     constexpr size_t kDrawn = 12;
     if (clicked.x < 0) return colours(display) >= kDrawn;
@@ -132,7 +148,10 @@ int main(int argc, char** argv) {
     }
     while (!ready(display, clicked, watched, before) && elapsed() < 20000)
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    std::printf("%.0f %ld\n", elapsed(), residentKilobytes(process));
+    const double time = elapsed();
+    const long kilobytes = residentKilobytes(process), used = processorTime(process);
+    std::this_thread::sleep_for(std::chrono::seconds(3));
+    std::printf("%.0f %ld %ld %ld\n", time, kilobytes, residentKilobytes(process), used);
     kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
     return 0;

@@ -1,6 +1,8 @@
+#include <malloc.h>
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
+#include <QPixmap>
 #include <QStandardPaths>
 #include <cstdio>
 #include <cstdlib>
@@ -56,16 +58,29 @@ void keepWordsAtTheEnd(sarne::Program& program) {
     });
 }
 
+/// Pictures go back to the system when they are freed, however large they are. Left to itself the allocator
+/// would, after the first large one, keep the room of the next ones.
+void giveMemoryBack() {
+#ifdef __GLIBC__
+    constexpr int kPicture = 256 * 1024, kThreads = 2;
+    mallopt(M_MMAP_THRESHOLD, kPicture);
+    mallopt(M_TRIM_THRESHOLD, 2 * kPicture);
+    mallopt(M_ARENA_MAX, kThreads);
+#endif
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     using namespace sarne;
+    giveMemoryBack();
     qInstallMessageHandler(withoutDisplay);
     QApplication application(argc, argv);
     qInstallMessageHandler(kMessages);
     QApplication::setApplicationName(QStringLiteral("Velisa sarn"));
     QGuiApplication::setDesktopFileName(QStringLiteral(SARNE_ID));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/" SARNE_ID ".png")));
+    // Its format is told, or every decoder there is would be loaded to find it out.
+    QApplication::setWindowIcon(QPixmap(QStringLiteral(":/" SARNE_ID ".png"), "PNG"));
     QApplication::setQuitOnLastWindowClosed(false);
     installLanguage(QLocale::system().uiLanguages());
 
@@ -82,7 +97,7 @@ int main(int argc, char** argv) {
     place.show();
     int code = 0;
     if (program.Main(commandLine(application)) && !program.hasEnded()) {
-        platform.prepare();
+        platform.prepareLater();
         const EditionWatch watch(readAppPathValue(platform.settings, QStringLiteral("Rozepsano")),
                                  [&](std::int16_t recipe) { return program.showEdition(recipe); });
         code = QApplication::exec();

@@ -1,10 +1,14 @@
 #include "app/systemplatform.h"
 
+#include <QTimer>
+#include <chrono>
+
 namespace sarne {
 
 SystemPlatform::SystemPlatform() {
     music.setWait(MediaWait::DontWait);
     music.setLoop(MediaLoop::On);
+    music.hold();
 }
 
 PlatformParts SystemPlatform::parts() {
@@ -22,10 +26,19 @@ PlatformParts SystemPlatform::parts() {
             &askDesktop};
 }
 
-void SystemPlatform::prepare() {
-    effects.prepare();
+void SystemPlatform::prepareLater() {
+    using namespace std::chrono_literals;
+    // What the user sees and first does comes before what is heard: the first turn with nothing else to do is
+    // behind the first picture.
+    QTimer::singleShot(0, &music, [this] {
+        QTimer::singleShot(1s, &music, [this] {
+            effects.prepare();
+            music.release();
+        });
+    });
 #ifdef SARNE_SPEECH
-    speech.lookForVoice();
+    // This may start a server with its synthesizers.
+    QTimer::singleShot(3s, &speech, [this] { speech.lookForVoice(); });
 #endif
 }
 

@@ -16,8 +16,9 @@ class SystemPlatform {
     SystemPlatform();
     /// For a Program, which this object outlives.
     PlatformParts parts();
-    /// Makes ready, in the background, what takes a while: sound effects, the voice.
-    void prepare();
+    /// Once the first picture is there, makes ready in the background what takes a while: sound effects, the
+    /// music, which is held until then, and later the voice.
+    void prepareLater();
 
     SystemSettingsStore settings;
     SteadyClock clock;

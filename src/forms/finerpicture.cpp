@@ -1,7 +1,8 @@
 #include "forms/finerpicture.h"
 
 #include <QFile>
-#include <QImageReader>
+
+#include "forms/picturereader.h"
 
 namespace sarne {
 namespace {
@@ -12,23 +13,15 @@ bool isLarger(QSize one, QSize other) {
 
 }  // namespace
 
-QImage readFor(QImageReader& reader, QSize pixels) {
-    // The JPEG decoder makes a smaller picture much faster than a full one; it is asked for twice the size so
-    // that the last step is a smooth one.
-    const QSize twice = pixels * 2;
-    if (pixels.isValid() && isLarger(reader.size(), twice)) reader.setScaledSize(twice);
-    return reader.read();
-}
-
 QImage readFiner(const QString& bmp, QSize pixels) {
     if (!bmp.endsWith(QLatin1String(".bmp"), Qt::CaseInsensitive) || pixels.isEmpty()) return {};
     const QString stem = bmp.chopped(3);
     for (const char* ending : {"webp", "jpg"}) {
         const QString file = stem + QLatin1String(ending);
         if (!QFile::exists(file)) continue;
-        const QSize own = QImageReader(bmp).size();
-        QImageReader reader(file);
-        if (isLarger(pixels, own) && isLarger(reader.size(), own)) return readFor(reader, pixels);
+        const QSize own = PictureReader(bmp).size();
+        PictureReader reader(file);
+        if (isLarger(pixels, own) && isLarger(reader.size(), own)) return reader.read(pixels);
     }
     return {};
 }

@@ -3,13 +3,7 @@
 #include <QImage>
 #include <QSize>
 
-class QImageReader;
-
 namespace sarne {
-
-/// What \a reader holds, decoded for being shown in \a pixels: as it is, or somewhat smaller where that is
-/// quicker. Null when it is broken.
-QImage readFor(QImageReader& reader, QSize pixels);
 
 /// The finer version of the picture in the file \a bmp (a native path), decoded for being shown in \a pixels:
 /// a WebP or JPEG file that lies beside it under the same name and has more pixels. Null when there is none,

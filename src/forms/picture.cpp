@@ -1,13 +1,11 @@
 #include "forms/picture.h"
 
-#include <QBuffer>
-#include <QFile>
-#include <QImageReader>
 #include <QPainter>
 #include <QPixmap>
 #include <list>
 
 #include "forms/finerpicture.h"
+#include "forms/picturereader.h"
 
 namespace sarne {
 
@@ -23,6 +21,7 @@ struct Picture::Source {
 
     QImage decode(QSize pixels) const;
     QImage exactly(QSize pixels) const;
+    QImage partOf(QSize whole, const QRect& part) const;
     const QPixmap* at(QSize pixels);
 
   private:
@@ -32,18 +31,13 @@ struct Picture::Source {
 QImage Picture::Source::readFile(QSize pixels) const {
     QImage finer = readFiner(file, pixels);
     if (!finer.isNull()) return finer;
-    QImageReader reader(file);
-    return readFor(reader, pixels);
+    return PictureReader(file).read(pixels);
 }
 
 QImage Picture::Source::decode(QSize pixels) const {
     if (!decoded.isNull()) return decoded;
     if (encoded.isEmpty()) return readFile(pixels);
-    QBuffer buffer;
-    buffer.setData(encoded);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    return readFor(reader, pixels);
+    return PictureReader(encoded).read(pixels);
 }
 
 const QPixmap* Picture::Source::at(QSize pixels) {
@@ -66,13 +60,16 @@ QImage Picture::Source::exactly(QSize pixels) const {
                : image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+QImage Picture::Source::partOf(QSize whole, const QRect& part) const {
+    if (!decoded.isNull()) return exactly(whole).copy(part);
+    return encoded.isEmpty() ? PictureReader(file).readPart(whole, part)
+                             : PictureReader(encoded).readPart(whole, part);
+}
+
 Picture Picture::fromData(const QByteArray& encoded) {
     Picture picture;
     if (encoded.isEmpty()) return picture;
-    QBuffer buffer;
-    buffer.setData(encoded);
-    buffer.open(QIODevice::ReadOnly);
-    const QSize size = QImageReader(&buffer).size();
+    const QSize size = PictureReader(encoded).size();
     if (size.isEmpty()) return picture;
     picture.source_ = std::make_shared<Source>();
     picture.source_->encoded = encoded;
@@ -83,7 +80,7 @@ Picture Picture::fromData(const QByteArray& encoded) {
 Picture Picture::fromFile(const QString& file) {
     Picture picture;
     if (file.isEmpty()) return picture;
-    const QSize size = QImageReader(file).size();
+    const QSize size = PictureReader(file).size();
     if (size.isEmpty()) return picture;
     picture.source_ = std::make_shared<Source>();
     picture.source_->file = file;
@@ -141,6 +138,10 @@ QImage Picture::image() const {
 
 QImage Picture::scaled(QSize pixels) const {
     return source_ && !pixels.isEmpty() ? source_->exactly(pixels) : QImage();
+}
+
+QImage Picture::scaledPart(QSize whole, const QRect& part) const {
+    return source_ && !whole.isEmpty() ? source_->partOf(whole, part) : QImage();
 }
 
 QPixmap Picture::pixmap(QSize pixels) const {

@@ -42,6 +42,8 @@ class Picture {
     QImage image() const;
     /// The picture in exactly \a pixels, decoded for this once and not kept. Null when it is broken.
     QImage scaled(QSize pixels) const;
+    /// The \a part of what scaled() would give for \a whole.
+    QImage scaledPart(QSize whole, const QRect& part) const;
     QPixmap pixmap(QSize pixels) const;
 
     /// Where a picture of \a picture's proportions lies in \a place.

@@ -34,10 +34,14 @@ QString Resources::find(const QString& folder, const QString& name) const {
     auto known = files_.find(folder);
     if (known == files_.end()) {
         QHash<QString, QString> names;
-        const auto entries = QDir(root_ + folder).entryInfoList(QDir::Files);
-        for (const QFileInfo& entry : entries) names[entry.completeBaseName().toLower()] = entry.filePath();
+        const QString path = root_ + folder + u'/';
+        // By their names alone: whoever asks for more of a file reads it.
+        const QStringList files = QDir(path).entryList(
+            QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System, QDir::Unsorted);
+        const auto stem = [](const QString& file) { return file.left(file.lastIndexOf(u'.')); };
+        for (const QString& file : files) names[stem(file).toLower()] = path + file;
         // A cursor and a button face may differ in the case of their names alone.
-        for (const QFileInfo& entry : entries) names[entry.completeBaseName()] = entry.filePath();
+        for (const QString& file : files) names[stem(file)] = path + file;
         known = files_.insert(folder, names);
     }
     return known->value(name, known->value(name.toLower()));

@@ -41,11 +41,32 @@ void paintSurroundings(QPainter& painter, const QRectF& covered, const QImage& p
 
 /// The pictures, and the room as it was last drawn.
 struct Room::Parts {
+    bool usesWide(const QRectF& part) const {
+        return design.isNull() || (!wide.isNull() && part != designArea());
+    }
+    QImage cut(QSize pixels, const QRectF& part) const;
+
     Picture design, wide;
     bool covers = false;  // the design's picture lies over all of the display
     QPixmap composed;
     QRectF covered;
 };
+
+/// The room in \a pixels, which show \a part of it, where the wide picture has them without being painted.
+/// Null where it has not.
+QImage Room::Parts::cut(QSize pixels, const QRectF& part) const {
+    if (covers || !usesWide(part)) return {};
+    const double scale = pixels.height() / part.height();
+    const QRectF place = widePlace(wide.size());
+    const QRectF whole((place.topLeft() - part.topLeft()) * scale, place.size() * scale);
+    const QRect exact = whole.toRect();
+    const auto isHair = [](double far) { return qAbs(far) < kHair; };
+    if (!isHair(whole.left() - exact.left()) || !isHair(whole.top() - exact.top()) ||
+        !isHair(whole.width() - exact.width()) || !isHair(whole.height() - exact.height()) ||
+        !exact.contains(QRect({}, pixels)))
+        return {};
+    return wide.scaledPart(exact.size(), QRect(-exact.topLeft(), pixels));
+}
 
 Room::Room(Picture design, Picture wide) {
     if (design.isNull() && wide.isNull()) return;
@@ -77,7 +98,7 @@ void Room::compose(QPainter& painter, const QRectF& covered) const {
         drawWhole(painter, Picture::fitted(parts_->design.size(), covered, Fit::Cover), parts_->design);
         return painter.restore();
     }
-    const bool useWide = parts_->design.isNull() || (!parts_->wide.isNull() && covered != designArea());
+    const bool useWide = parts_->usesWide(covered);
     const Picture& picture = useWide ? parts_->wide : parts_->design;
     const QRectF place = useWide ? widePlace(picture.size()) : designArea();
     if (!place.adjusted(-kHair, -kHair, kHair, kHair).contains(covered))
@@ -85,20 +106,25 @@ void Room::compose(QPainter& painter, const QRectF& covered) const {
     drawWhole(painter, place, picture);
 }
 
+QImage Room::composed(QSize pixels, const QRectF& covered) const {
+    QImage image = parts_->cut(pixels, covered);
+    if (!image.isNull()) return image;
+    image = QImage(pixels, QImage::Format_RGB32);
+    image.fill(colors::kNight);
+    QPainter inside(&image);
+    inside.setRenderHints(QPainter::SmoothPixmapTransform);
+    inside.scale(pixels.width() / covered.width(), pixels.height() / covered.height());
+    inside.translate(-covered.topLeft());
+    compose(inside, covered);
+    return image;
+}
+
 void Room::draw(QPainter& painter, const QRectF& covered) const {
     const QRect pixels = painter.combinedTransform().mapRect(covered).toAlignedRect();
     if (!parts_ || pixels.isEmpty()) return painter.fillRect(covered, colors::kNight);
     if (parts_->composed.size() != pixels.size() || parts_->covered != covered) {
-        QImage image(pixels.size(), QImage::Format_RGB32);
-        image.fill(colors::kNight);
-        QPainter inside(&image);
-        inside.setRenderHints(QPainter::SmoothPixmapTransform);
-        inside.scale(pixels.width() / covered.width(), pixels.height() / covered.height());
-        inside.translate(-covered.topLeft());
-        compose(inside, covered);
-        inside.end();
         parts_->covered = covered;
-        parts_->composed = QPixmap::fromImage(std::move(image));
+        parts_->composed = QPixmap::fromImage(composed(pixels.size(), covered));
     }
     painter.save();
     painter.setWorldTransform(QTransform());

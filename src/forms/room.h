@@ -32,6 +32,8 @@ class Room {
     static QRectF widePlace(QSizeF picture);
 
   private:
+    QImage composed(QSize pixels, const QRectF& covered) const;
+
     struct Parts;
     std::shared_ptr<Parts> parts_;
 };

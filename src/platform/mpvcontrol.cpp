@@ -200,6 +200,14 @@ MpvControl::Private::~Private() {
 
 MpvControl::~MpvControl() = default;
 
+void MpvControl::hold() {
+    d_->held_ = true;
+}
+
+void MpvControl::release() {
+    d_->release();
+}
+
 void MpvControl::command(QStringView name) {
     using Act = void (Private::*)();
     struct Command {

@@ -16,6 +16,11 @@ class MpvControl final : public MultimediaControl {
     MpvControl();
     ~MpvControl() override;
 
+    /// From now until release() an "open" that does not wait loads nothing yet: for the time in which the
+    /// program has something more urgent to do.
+    void hold();
+    void release();
+
     void setFileName(const QString& file) override;
     QString fileName() const override;
     void command(QStringView name) override;

@@ -25,6 +25,7 @@ class MpvControl::Private {
     Private& operator=(const Private&) = delete;
 
     void open();
+    void release();
     void play();
     void pause();
     void stop();
@@ -50,12 +51,14 @@ class MpvControl::Private {
     qint64 length_ = 0;
     QSize videoSize_;
     bool opening_ = false;
+    bool held_ = false;
     std::unique_ptr<MpvCore> core_;
     std::unique_ptr<MpvPicture> picture_;  // before core_ is gone
 
   private:
     static constexpr quint64 seekTag = 1;
 
+    void begin();
     void startPlayer();
     void playerStarted();
     void takePlayer(std::unique_ptr<MpvCore> core);

@@ -1,6 +1,7 @@
 #include <QDeadlineTimer>
 #include <QFileInfo>
 #include <chrono>
+#include <utility>
 
 #include "core/checked.h"
 #include "platform/mpvcontrol_p.h"
@@ -19,9 +20,18 @@ void MpvControl::Private::open() {
     if (error_ != MediaError::None) return;
     opening_ = true;
     playWhenOpen_ = false;
+    if (held_ && wait_ == MediaWait::DontWait) return;
+    begin();
+    if (wait_ == MediaWait::Wait) waitUntilOpen();
+}
+
+void MpvControl::Private::release() {
+    if (std::exchange(held_, false) && opening_) begin();
+}
+
+void MpvControl::Private::begin() {
     timeout_.start(openTimeoutMs);
     startPlayer();
-    if (wait_ == MediaWait::Wait) waitUntilOpen();
 }
 
 MediaError MpvControl::Private::fileError() const {

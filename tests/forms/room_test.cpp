@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "forms/control.h"
@@ -20,12 +21,12 @@ QImage plain(QSize size, QColor color) {
 }
 
 /// A wide ground whose design area is red and whose sides are green.
-Picture wideGround() {
+QImage wideGround() {
     QImage image = plain({336, 144}, Qt::green);
     for (int y = 0; y < 144; ++y) {
         for (int x = 72; x < 264; ++x) image.setPixelColor(x, y, Qt::red);
     }
-    return Picture::fromImage(image);
+    return image;
 }
 
 /// A full-screen form that paints a room and remembers where it was clicked.
@@ -62,12 +63,21 @@ class RoomTest : public testing::Test {
 };
 
 TEST_F(RoomTest, AWideGroundFillsTheDisplayAndItsMiddleIsTheDesignArea) {
-    const QImage image =
-        shot(Room(Picture::fromImage(plain({160, 120}, Qt::blue)), wideGround()), {1920, 1080});
-    EXPECT_EQ(at(image, 3, 500), QColor(Qt::green));
-    EXPECT_EQ(at(image, 1917, 500), QColor(Qt::green));
-    EXPECT_EQ(at(image, 246, 5), QColor(Qt::red));
-    EXPECT_EQ(at(image, 1673, 1074), QColor(Qt::red));
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("siroke.jpg"));
+    ASSERT_TRUE(wideGround().scaled(3360, 1440).save(file, "JPEG", 95));
+    const Picture design = Picture::fromImage(plain({160, 120}, Qt::blue));
+    for (const Picture& wide : {Picture::fromImage(wideGround()), Picture::fromFile(file)}) {
+        // The second width cannot be cut out of the picture's pixels, and is painted.
+        for (const QSize window : {QSize(1920, 1080), QSize(1921, 1080)}) {
+            const QImage image = shot(Room(design, wide), window);
+            for (const int green : {3, 234, 1685, 1917})
+                EXPECT_GT(at(image, green, 500).green(), 240) << green;
+            for (const int red : {246, 1673})
+                EXPECT_GT(at(image, red, 5 + 1069 * (red > 960)).red(), 240) << red;
+        }
+    }
+    shot(Room(design, Picture::fromFile(file)), {1920, 1080});
     EXPECT_EQ(control->mapTo(&run.window, QPoint()), QPoint(960, 540)) << "the design stays in the middle";
 
     QTest::mouseClick(form, Qt::LeftButton, {}, {10, 540});
@@ -77,8 +87,8 @@ TEST_F(RoomTest, AWideGroundFillsTheDisplayAndItsMiddleIsTheDesignArea) {
 }
 
 TEST_F(RoomTest, AtTheDesignsOwnShapeTheDesignPictureIsDrawn) {
-    const QImage image =
-        shot(Room(Picture::fromImage(plain({160, 120}, Qt::blue)), wideGround()), {800, 600});
+    const QImage image = shot(
+        Room(Picture::fromImage(plain({160, 120}, Qt::blue)), Picture::fromImage(wideGround())), {800, 600});
     EXPECT_EQ(at(image, 0, 0), QColor(Qt::blue));
     EXPECT_EQ(at(image, 799, 599), QColor(Qt::blue));
 }

@@ -148,6 +148,14 @@ TEST_F(MpvControlTest, OpensWithoutWaiting) {
     player.command(u"play");
     EXPECT_TRUE(waitForCode(MediaDone::Successful));
 
+    player.hold();
+    codes.clear();
+    open(media.path(QStringLiteral("a.wav")));
+    player.command(u"play");
+    EXPECT_FALSE(waitFor([&] { return player.mode() != MediaMode::NotOpen; }, 600)) << "it is to wait";
+    player.release();
+    EXPECT_TRUE(waitForCode(MediaDone::Successful));
+
     codes.clear();
     open(media.write(QStringLiteral("b.wav"), "no sound at all"));
     player.command(u"play");

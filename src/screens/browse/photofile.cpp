@@ -1,12 +1,11 @@
 #include "screens/browse/photofile.h"
 
 #include <QFile>
-#include <QImageReader>
 #include <QtEndian>
 
 #include "core/checked.h"
-
 #include "forms/finerpicture.h"
+#include "forms/picturereader.h"
 
 namespace sarne {
 namespace {
@@ -37,7 +36,7 @@ QImage readPhoto(const QString& name) {
     allowLargePhotos();
     QFile file(name);
     if (name.isEmpty() || !file.open(QIODevice::ReadOnly) || isCutShort(file)) return {};
-    return QImageReader(&file).read();
+    return PictureReader(name).read();
 }
 
 QImage readPhoto(const QString& file, QSize room) {
