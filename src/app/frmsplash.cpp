@@ -2,6 +2,8 @@
 
 #include <QEventLoop>
 #include <QPainter>
+#include <QPixmap>
+#include <vector>
 
 #include "app/displayquestions.h"
 #include "app/program.h"
@@ -28,6 +30,46 @@ Picture widePicture(const basSarne& sarne, QStringView name) {
     return Picture::fromFile(
         sarne.paths().resolve(sarne.AppDir + QStringLiteral("siroke\\%1.jpg").arg(name)));
 }
+
+/// An edge of the film that fades into the picture around it.
+class SoftEdge final : public Control {
+  public:
+    static constexpr int kWidth = 300;  ///< twips
+
+    /// \a room is what \a covered shows; the edge is the left or the right one.
+    SoftEdge(Form& form, const Room& room, const QRectF& covered, bool left)
+        : Control(form, QStringLiteral("okraj")), room_(room), covered_(covered), left_(left) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setUnheard(true);
+        place({left ? 0 : basSarne::ScreenWidthTw - kWidth, 0, kWidth, basSarne::ScreenHeightTw});
+    }
+
+  protected:
+    void paint(QPainter& painter) override {
+        if (strip_.size() != size() * devicePixelRatioF()) compose();
+        painter.drawPixmap(QRectF({0, 0}, QSizeF(twips().size())), strip_, strip_.rect());
+    }
+
+  private:
+    void compose() {
+        strip_ = QPixmap(size() * devicePixelRatioF());
+        strip_.fill(Qt::transparent);
+        QPainter inside(&strip_);
+        inside.scale(strip_.width() / double(kWidth), strip_.height() / double(twips().height()));
+        inside.translate(-twips().topLeft());
+        room_.compose(inside, covered_);
+        QLinearGradient fade(QPointF(twips().left(), 0), QPointF(twips().left() + kWidth, 0));
+        fade.setColorAt(left_ ? 0 : 1, Qt::black);
+        fade.setColorAt(left_ ? 1 : 0, Qt::transparent);
+        inside.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        inside.fillRect(twips(), fade);
+    }
+
+    const Room& room_;
+    QRectF covered_;
+    bool left_;
+    QPixmap strip_;
+};
 
 }  // namespace
 
@@ -92,6 +134,10 @@ void frmSplash::playIntro() {
     auto* Picture1 = new VideoArea(*this, QStringLiteral("Picture1"), MMControl1.get());
     Picture1->setAttribute(Qt::WA_TransparentForMouseEvents);
     Picture1->place({0, 0, basSarne::ScreenWidthTw, basSarne::ScreenHeightTw});
+    std::vector<std::unique_ptr<SoftEdge>> edges;
+    for (const bool left : {true, false})
+        if (covered().width() > basSarne::ScreenWidthTw)
+            edges.push_back(std::make_unique<SoftEdge>(*this, app().Pictures.uvod, covered(), left));
     const std::unique_ptr<Label> hint = skipHint();
     QEventLoop untilEnd;
     intro_ = &untilEnd;

@@ -18,9 +18,22 @@ QRectF designArea() {
     return {0, 0, Stage::kWidth, Stage::kHeight};
 }
 
+QImage scaledFor(const QPainter& painter, const QRectF& place, const Picture& picture) {
+    return picture.scaled(painter.transform().mapRect(place).toAlignedRect().size());
+}
+
 void drawWhole(QPainter& painter, const QRectF& place, const Picture& picture) {
-    const QSize pixels = painter.transform().mapRect(place).toAlignedRect().size();
-    painter.drawImage(place, picture.scaled(pixels));
+    painter.drawImage(place, scaledFor(painter, place, picture));
+}
+
+/// The same, and beyond its left and right edge as it looks in a mirror: a display wider than the picture
+/// shows no edge.
+void drawMirrored(QPainter& painter, const QRectF& place, const Picture& picture) {
+    const QImage image = scaledFor(painter, place, picture);
+    const QImage mirrored = image.mirrored(true, false);
+    painter.drawImage(place.translated(-place.width(), 0), mirrored);
+    painter.drawImage(place.translated(place.width(), 0), mirrored);
+    painter.drawImage(place, image);
 }
 
 }  // namespace
@@ -101,7 +114,10 @@ void Room::compose(QPainter& painter, const QRectF& covered) const {
     const bool useWide = parts_->usesWide(covered);
     const Picture& picture = useWide ? parts_->wide : parts_->design;
     const QRectF place = useWide ? widePlace(picture.size()) : designArea();
-    if (!place.adjusted(-kHair, -kHair, kHair, kHair).contains(covered))
+    const QRectF most = place.adjusted(-kHair, -kHair, kHair, kHair);
+    if (useWide && most.top() <= covered.top() && covered.width() > most.width())
+        return drawMirrored(painter, place, picture);
+    if (!most.contains(covered))
         paintSurroundings(painter, covered, picture.scaled({kBlurred * 4, kBlurred * 3}));
     drawWhole(painter, place, picture);
 }
