@@ -16,7 +16,7 @@ namespace {
 
 constexpr QRect kCounter{1140, 540, 6300, 390};
 constexpr QRect kPaper{240, 1110, 7860, 6780};
-constexpr QRect kText{420, 1200, 7530, 6600};
+constexpr QRect kText{600, 1200, 7200, 6600};
 constexpr QRect kDoneText{420, 1500, 7530, 3600};
 constexpr QRect kNoteHint{900, 5250, 6540, 420};
 constexpr QRect kNote{900, 5700, 6540, 600};
