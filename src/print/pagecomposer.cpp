@@ -21,8 +21,12 @@ const QString kNameFromNumber = QStringLiteral(" · ");
 const QString kHeaderText = QStringLiteral("CD Tobrela - ");
 const QString kPrintTitle = QStringLiteral("Velisa sarn");
 
-/// The letters of a card, the largest first: a recipe that is short takes it all.
-constexpr double kCardScales[] = {.88, .8, .74, .68, .62, .56};
+/// How much of each step a card holds, and the size of its letters: the first that fits is taken.
+constexpr struct {
+    int sentences;
+    double scale;
+} kCards[] = {{9, .88}, {9, .8},  {9, .74}, {2, .8},  {2, .74},
+              {1, .8},  {1, .74}, {1, .68}, {1, .62}, {1, .56}};
 constexpr double kCardHeaderScale = .75;
 
 QRect placeLogo(const Picture& logo, const PageGeometry& page, int height) {
@@ -31,23 +35,20 @@ QRect placeLogo(const Picture& logo, const PageGeometry& page, int height) {
     return QRect(QPoint(page.left, page.top), size.toSize());
 }
 
+/// Adds \a parts to \a all, each moved to its place by \a move.
+template <typename Part, typename Move>
+void addMoved(std::vector<Part>& all, const std::vector<Part>& parts, Move move) {
+    for (Part part : parts) {
+        move(part);
+        all.push_back(std::move(part));
+    }
+}
+
 void addTo(PrintedPage& page, const FlowLine& line, int top) {
-    for (PageText text : line.texts) {
-        text.baseline += top;
-        page.texts.push_back(std::move(text));
-    }
-    for (PagePicture picture : line.pictures) {
-        picture.place.translate(0, top);
-        page.pictures.push_back(std::move(picture));
-    }
-    for (DocumentPlace place : line.places) {
-        place.top += top;
-        page.places.push_back(std::move(place));
-    }
-    for (DocumentLink link : line.links) {
-        link.place.translate(0, top);
-        page.links.push_back(std::move(link));
-    }
+    addMoved(page.texts, line.texts, [top](PageText& text) { text.baseline += top; });
+    addMoved(page.pictures, line.pictures, [top](PagePicture& at) { at.place.translate(0, top); });
+    addMoved(page.places, line.places, [top](DocumentPlace& place) { place.top += top; });
+    addMoved(page.links, line.links, [top](DocumentLink& link) { link.place.translate(0, top); });
 }
 
 }  // namespace
@@ -102,9 +103,9 @@ std::vector<FlowLine> PageComposer::setRecipe(const Recordset& recipe, const Pri
 std::vector<FlowLine> PageComposer::setCard(const Recordset& recipe, const PrintOptions& options,
                                             PrintProgress& progress) {
     std::vector<FlowLine> lines;
-    for (const double scale : kCardScales) {
+    for (const auto& [sentences, scale] : kCards) {
         RecipeFlow flow(page_, metrics_, progress, scale);
-        RecipeSections(recipe, flow, {source_, options, progress, room()}).setCard();
+        RecipeSections(recipe, flow, {source_, options, progress, room()}).setCard(sentences);
         if (!flow.wentOn()) return {};
         const bool fits = flow.height() <= room();
         lines = flow.take();

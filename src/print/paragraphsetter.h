@@ -38,9 +38,10 @@ bool isTied(QStringView word);
 qsizetype stepMark(QStringView word);
 
 /// Sets one paragraph after the other into lines: one-letter words stay with the next word, the lines of a
-/// numbered step hang below its text, and a word is not left alone on the last line where its neighbours can
-/// make room or give it company. Lines go out one behind, so that the last but one may still change. A word
-/// that is longer than a line is broken.
+/// numbered step hang below its text, and the breaks are chosen for the whole paragraph, so that gaps are as
+/// even as they can be and no word is left alone on the last line where the others can make room or give it
+/// company. A line that could be filled only with holes stays short. A word that is longer than a line is
+/// broken. A very long paragraph is set piece by piece.
 class ParagraphSetter {
   public:
     using Emit = std::function<void(FlowLine)>;
@@ -53,31 +54,29 @@ class ParagraphSetter {
     void end();
 
   private:
-    struct Line {
-        std::vector<SetWord> words;
-        int indent = 0;
-    };
-
-    int room(const Line& line) const { return style_.width - line.indent; }
-    static int used(const Line& line);
-    static int tightest(const Line& line);
+    bool stretches() const { return style_.justified && !style_.ragged; }
+    bool beginsParagraph(size_t word) const { return fresh_ && word == 0; }
+    bool isBehindMark(size_t word) const { return fresh_ && marked_ && word == 1; }
+    int indentOf(size_t firstWord) const { return beginsParagraph(firstWord) ? style_.indent : hang_; }
     void addMark(SetWord& word);
-    void place(SetWord word);
-    void placeInPieces(const SetWord& word);
-    void wrap();
-    void mendLonelyWord();
-    void release(bool ends);
-    void put(const Line& line, bool justify, bool ends);
-    void spread(const Line& line, std::vector<int>& places) const;
+    void addInPieces(const SetWord& word);
+    template <typename LineFill>
+    double badness(const LineFill& fill, size_t end, size_t count, int free) const;
+    std::vector<size_t> lineEnds() const;
+    void setLines(bool all);
+    std::vector<int> places(size_t begin, size_t end) const;
+    void spread(size_t begin, size_t end, bool ends, std::vector<int>& places) const;
+    void put(size_t begin, size_t end, bool ends);
 
     TextMetrics& metrics_;
     Emit emit_;
     ParagraphStyle style_;
-    Line line_, held_;
+    std::vector<SetWord> words_;  // that are not yet set
     int hang_ = 0;
-    bool first_ = true;     // the next word is the paragraph's first
-    bool starts_ = true;    // the next line is the paragraph's first
-    bool holding_ = false;  // held_ is complete and waits
+    bool first_ = true;    // the next word is the paragraph's first
+    bool fresh_ = true;    // the first of the words is the paragraph's first
+    bool marked_ = false;  // it is a step's number
+    bool starts_ = true;   // the next line is the paragraph's first
 };
 
 }  // namespace sarne

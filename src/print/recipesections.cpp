@@ -46,21 +46,21 @@ void RecipeSections::set() {
     flow_.endPicture();
 }
 
-void RecipeSections::setCard() {
+void RecipeSections::setCard(int sentences) {
     const QString name = field(QStringLiteral("Nazev"));
     flow_.nameNext({0, placeName(), name});
     flow_.addText(name, printfonts::name(), FlowLine::Kind::Heading);
     const PrintOptions& options = context_.options;
     if (options.wants(PrintSection::Photo)) photo();
     if (options.wants(PrintSection::Ingredients)) ingredients();
-    if (options.wants(PrintSection::Texts) && flow_.wentOn()) shortSteps();
+    if (options.wants(PrintSection::Texts) && flow_.wentOn()) shortSteps(sentences);
     context_.progress.progressed(kSetPart);
     flow_.endPicture();
 }
 
-void RecipeSections::shortSteps() {
+void RecipeSections::shortSteps(int sentences) {
     status(Texts::tr(" Tisknu recept ... "));
-    const QStringList steps = stepsInShort(plainText(field(QStringLiteral("Recept"))));
+    const QStringList steps = stepsInShort(plainText(field(QStringLiteral("Recept"))), sentences);
     if (steps.isEmpty()) return;
     flow_.endPicture();
     flow_.addSpace(kCardGap);

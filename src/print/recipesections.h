@@ -22,14 +22,14 @@ class RecipeSections {
         : recipe_(recipe), flow_(flow), context_(context) {}
 
     void set();
-    /// The essence for a card: name, photo, ingredients, and the steps in a sentence each.
-    void setCard();
+    /// The essence for a card: name, photo, ingredients, and the steps in so many \a sentences each.
+    void setCard(int sentences);
     /// Links the texts of \a lines, the recipe's, with its linked texts and back.
     void linkTexts(std::vector<FlowLine>& lines) const { mentions_.mark(lines, placeName()); }
 
   private:
     void setName();
-    void shortSteps();
+    void shortSteps(int sentences);
     void setSection(PrintSection section);
     void photo();
     void ingredients();

@@ -4,9 +4,9 @@
 
 namespace sarne {
 
-/// The steps of a recipe, each by its first sentence: the numbered paragraphs of its plain \a text; where
+/// The steps of a recipe, each by its first \a sentences: the numbered paragraphs of its plain \a text; where
 /// none is numbered, all but the short ones that are headings.
-QStringList stepsInShort(const QString& text);
+QStringList stepsInShort(const QString& text, int sentences);
 
 }  // namespace sarne
 

@@ -11,11 +11,8 @@ namespace sarne {
 namespace {
 
 using test::PrintCookbook;
+using test::str;
 using Kind = PrintOutcome::Kind;
-
-QString str(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 constexpr int kPatience = 20000;  // milliseconds
 

@@ -1,120 +1,20 @@
 #include "print/frmprint.h"
 
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 
 #include <QDateTime>
 #include <QFileInfo>
-#include <QPainter>
-#include <QTest>
-#include <QTimer>
 #include <csignal>
 
 #include "forms/listbox.h"
-#include "print/frmnahled.h"
-#include "print/printing.h"
-#include "printcookbook.h"
-#include "support/fakesarne.h"
+#include "printform.h"
+#include "support/fakeprinter.h"
 
 namespace sarne {
 namespace {
 
-using test::PrintCookbook;
-
-QString str(const char* text) {
-    return QString::fromUtf8(text);
-}
-
-QStringList cookbook() {
-    QStringList all{PrintCookbook::recipe(
-                        1, str("Candát"),
-                        {str("Uvod"), test::rtf(str("úvod")), str("Recept"), test::rtf(test::longText(9000)),
-                         str("Poznamka"), test::rtf(str("poznámka")), str("Prezentace"),
-                         test::rtf(str("servis")), str("vino"), test::rtf(str("víno"))}),
-                    PrintCookbook::recipe(2, str("Okoun"), {str("Vlastni"), test::longText(300000)}),
-                    PrintCookbook::recipe(3, str("Štika")),
-                    str("INSERT INTO Odkazy VALUES (5,'Vývar','x')"),
-                    str("INSERT INTO SpojOdkazy VALUES (1,5)"),
-                    str("INSERT INTO Stranky (ID,Nazev,Text) VALUES (10,'O tisku',") +
-                        test::sqlText(test::rtf(str("{\\b O tisku}\\par Text stránky."))) + u')'};
-    return all;
-}
-
-/// A printer that fails where it is told to, and draws on a picture otherwise.
-class FailingPrinter final : public Printer {
-  public:
-    enum class Fails { Begin, NewPage, End };
-    explicit FailingPrinter(Fails fails) : fails_(fails), sheet_(100, 100, QImage::Format_RGB32) {}
-
-    QStringList printers() const override { return {str("Tiskárna v chodbě")}; }
-    PrinterChoice choice() const override { return {str("Tiskárna v chodbě"), Paper::A5, 2}; }
-    bool use(const PrinterChoice&) override { return true; }
-    PageScale scale() const override { return {0, 0, 8000, 12000, {-100, -100, 8200, 12200}}; }
-    QString fileFor(const QString&) const override { return {}; }
-    QPainter* begin(const QString&) override {
-        if (fails_ == Fails::Begin) return nullptr;
-        painter_.begin(&sheet_);
-        return &painter_;
-    }
-    bool newPage() override { return fails_ != Fails::NewPage; }
-    PrintedDocument end(const std::function<void()>&) override {
-        ++ended;
-        painter_.end();
-        return {fails_ != Fails::End, {}};
-    }
-    int ended = 0;
-
-  private:
-    Fails fails_;
-    QImage sheet_;
-    QPainter painter_;
-};
-
-class FrmPrintTest : public testing::Test {
-  protected:
-    FrmPrintTest() : book(cookbook()), printer(book.folder.filePath(str("Dokumenty"))) {
-        EXPECT_TRUE(run.database.Open(book.folder.filePath(str("Sarne.drc"))));
-        printer.use({});
-        below->showForm();
-        run.PushScreen(*below);
-    }
-    frmPrint* open(const std::vector<std::int16_t>& ids, const Serving& serving = {}) {
-        printing.printRecipes(ids, serving);
-        return form();
-    }
-    frmPrint* form() const { return dynamic_cast<frmPrint*>(loaded("frmPrint")); }
-    Form* loaded(const char* name) const {
-        for (Form* candidate : run.window.forms()) {
-            if (candidate->name() == QLatin1String(name)) return candidate;
-        }
-        return nullptr;
-    }
-    template <typename Widget = Control>
-    Widget* control(const char* name) const {
-        return child<Widget>(*form(), name);
-    }
-    QString outcome() const { return control<Label>("lblVysledek")->text(); }
-    QString file(const char* name) const { return book.folder.filePath(str("Dokumenty/") + str(name)); }
-    void setSections(bool wanted) {
-        for (int i = 0; i < kPrintSections; ++i)
-            control<CheckBox>(qPrintable(str("Chco(%1)").arg(i)))->setChecked(wanted);
-    }
-    /// Calls \a look whenever events run during printing.
-    template <typename Look>
-    void whilePrinting(Look look) {
-        auto* timer = new QTimer(form());
-        QObject::connect(timer, &QTimer::timeout, form(), [this, look] {
-            if (form()->isPrinting()) look();
-        });
-        timer->start(0);
-    }
-
-    PrintCookbook book;
-    FakeSarne run;
-    SystemPrinter printer;
-    Printing printing{run, printer};
-    Form* below = new Form(run, str("frmSeznam"));
-};
+using test::FrmPrintTest;
+using test::str;
 
 TEST_F(FrmPrintTest, OpensWithWhatTheUserLastLookedAt) {
     open({1, 2}, {2.5, UnitSystem::Spoons});
@@ -122,8 +22,8 @@ TEST_F(FrmPrintTest, OpensWithWhatTheUserLastLookedAt) {
     EXPECT_FALSE(control<CheckBox>("chkZobrKg")->isChecked());
     QStringList names;
     for (int i = 0; i < kPrintSections; ++i) {
-        EXPECT_TRUE(control<CheckBox>(qPrintable(str("Chco(%1)").arg(i)))->isChecked());
-        names << control<CheckBox>(qPrintable(str("Chco(%1)").arg(i)))->caption();
+        EXPECT_TRUE(section(i)->isChecked());
+        names << section(i)->caption();
     }
     EXPECT_EQ(names.removeDuplicates(), 0);
     EXPECT_TRUE(control<Label>("lblTiskarna")->text().contains(str("A4")));
@@ -145,11 +45,14 @@ struct NoteScreen : Form {
     FakeSarne& kept;
 };
 
-TEST_F(FrmPrintTest, PrintsANoteAsItStandsInItsEditor) {
-    NoteScreen screen(run);
+TEST_F(FrmPrintTest, PrintsANoteAsItStandsInItsEditorAndStaysAwakeAboveARecipe) {
+    auto* recipe = new NoteScreen(run);
+    recipe->showForm();
+    run.PushScreen(*recipe);
     open({3});
     control("Command1")->click();
     EXPECT_TRUE(test::pdfText(file("Štika.pdf")).contains(str("rozepsaná poznámka")));
+    EXPECT_EQ(run.awake, QStringList{str("Tisk")}) << "not ended: the recipe is below";
 }
 
 TEST_F(FrmPrintTest, AsksForPortionsFrom1To99) {
@@ -216,18 +119,9 @@ TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
     EXPECT_TRUE(outcome().endsWith(file("Rybí recepty (2).pdf"))) << outcome().toStdString();
 }
 
-TEST_F(FrmPrintTest, TheDisplayStaysAwakeAboveARecipe) {
-    auto* recipe = new Form(run, str("frmRecept"));
-    recipe->showForm();
-    run.PushScreen(*recipe);
-    open({3});
-    control("Command1")->click();
-    EXPECT_EQ(run.awake, QStringList{str("Tisk")}) << "not ended: the recipe is below";
-}
-
 TEST_F(FrmPrintTest, PrintsASecondSelectionAtOnceUntilItIsClosed) {
     open({1});
-    setSections(false);
+    for (int i = 0; i < kPrintSections; ++i) section(i)->setChecked(false);
     EXPECT_TRUE(outcome().isEmpty()) << "the first one waits";
     control("Command1")->click();
     open({3});
@@ -277,19 +171,20 @@ TEST_F(FrmPrintTest, StopsWhenTheUserSaysSo) {
 }
 
 TEST_F(FrmPrintTest, SaysWhenThePrinterFails) {
-    using Fails = FailingPrinter::Fails;
+    using Fails = FakePrinter::Fails;
     for (const Fails fails : {Fails::Begin, Fails::NewPage, Fails::End}) {
-        FailingPrinter failing(fails);
-        auto* print = new frmPrint(run, failing);
-        print->Zobraz({1, 3}, {});
-        EXPECT_EQ(child<Label>(*print, "lblTiskarna")->text(),
+        FakePrinter failing;
+        failing.fails = fails;
+        failing.use({str("Tiskárna v chodbě"), Paper::A5, 2});
+        frmPrint print(run, failing);
+        print.Zobraz({1, 3}, {});
+        EXPECT_EQ(child<Label>(print, "lblTiskarna")->text(),
                   str("Tiskárna: Tiskárna v chodbě\nPapír: A5, počet kopií: 2"));
-        child<Button>(*print, "Command1")->click();
-        EXPECT_TRUE(child<Label>(*print, "lblVysledek")->text().startsWith(str("Tisk se nezdařil")));
-        EXPECT_EQ(failing.ended, fails == Fails::Begin ? 0 : 1) << "what was begun is ended";
-        EXPECT_TRUE(child<Button>(*print, "Command1")->isEnabled() && below->isVisible());
-        child<Button>(*print, "Command2")->click();
-        delete print;
+        child<Button>(print, "Command1")->click();
+        EXPECT_TRUE(child<Label>(print, "lblVysledek")->text().startsWith(str("Tisk se nezdařil")));
+        EXPECT_FALSE(failing.begun) << "what was begun is ended";
+        EXPECT_TRUE(child<Button>(print, "Command1")->isEnabled() && below->isVisible());
+        child<Button>(print, "Command2")->click();
     }
 }
 
@@ -309,97 +204,6 @@ TEST_F(FrmPrintTest, AFullDiskLeavesNoHalfAFile) {
     control("Command1")->click();
     EXPECT_TRUE(outcome().endsWith(file("Rybí recepty (2).pdf"))) << "and then there is room again";
     std::signal(SIGXFSZ, handler);
-}
-
-TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
-    open({1, 3});
-    control("Command1")->click();
-    const QStringList printed = test::pdfPages(file("Rybí recepty (2).pdf"));
-    control("cmdNahled")->click();
-    auto* preview = dynamic_cast<frmNahled*>(loaded("frmNahled"));
-    ASSERT_TRUE(preview);
-    QTest::qWait(20);
-    const auto* sheet = child<PageSheet>(*preview, "picStrana");
-    const auto key = [&](int code) { QTest::keyClick(preview, Qt::Key(code)); };
-    for (qsizetype page = 0; page < printed.size(); ++page, key(Qt::Key_Right)) {
-        EXPECT_EQ(child<Label>(*preview, "lblStrana")->text(),
-                  str("Strana %1 z %2").arg(page + 1).arg(printed.size()));
-        EXPECT_EQ(sheet->accessibleValue().simplified(), printed[page].simplified());
-    }
-    EXPECT_EQ(preview->currentSheet() + 1, printed.size()) << "the last page stays";
-    EXPECT_FALSE(child<Button>(*preview, "cmdStrana(1)")->isEnabled());
-    key(Qt::Key_Home);
-    key(Qt::Key_Up);
-    EXPECT_EQ(preview->currentSheet(), 0);
-    key(Qt::Key_Return);
-    EXPECT_TRUE(sheet->isZoomed());
-    key(Qt::Key_Down);
-    EXPECT_GT(sheet->scrolled(), 0);
-    EXPECT_EQ(preview->currentSheet(), 0);
-    key(Qt::Key_F1);
-    EXPECT_TRUE(run.recorded.calls.contains(str("showHelpFor frmNahled")));
-    key(Qt::Key_Escape);
-    EXPECT_FALSE(preview->isLoaded());
-    EXPECT_EQ(run.FormStack.top(), form());
-    EXPECT_TRUE(control("cmdNahled")->hasFocus());
-}
-
-TEST_F(FrmPrintTest, EveryChangeShowsInThePreviewAtOnce) {
-    open({1, 3});
-    const auto* sheet = control<PageSheet>("picStrana");
-    const auto shows = [&](const char* text) { return sheet->accessibleValue().contains(str(text)); };
-    EXPECT_TRUE(shows("Candát") && shows("Porce: 4"));
-    control<CheckBox>("Chco(1)")->setChecked(false);
-    EXPECT_FALSE(shows("Porce"));
-    control<CheckBox>("Chco(1)")->setChecked(true);
-    control<Edit>("Text1")->setText(str("6,5"));
-    EXPECT_TRUE(shows("Porce: 6,5"));
-    control<Edit>("Text1")->setText({});
-    EXPECT_TRUE(shows("Porce: 6,5")) << "what cannot be printed shows nothing new";
-    control<Edit>("Text1")->setText(str("6"));
-    QTest::keyClick(form(), Qt::Key_PageDown);
-    EXPECT_TRUE(shows("2 z "));
-    for (int i = 0; i < 20; ++i) control("cmdStrana(1)")->click();
-    QTest::qWait(20);
-    for (int i = 0; i < 20; ++i) control("cmdStrana(1)")->click();
-    EXPECT_TRUE(shows("Štika"));
-    EXPECT_FALSE(control("cmdStrana(1)")->isEnabled());
-    control("picStrana")->click();
-    auto* large = dynamic_cast<frmNahled*>(loaded("frmNahled"));
-    ASSERT_TRUE(large);
-    EXPECT_GT(large->currentSheet(), 0) << "the page that was clicked";
-    EXPECT_EQ(child<PageSheet>(*large, "picStrana")->accessibleValue(), sheet->accessibleValue());
-}
-
-/// Which quarters of \a sheet have ink on them, line by line.
-QString inkedQuarters(PageSheet& sheet) {
-    const QImage image = sheet.grab().toImage();
-    const QRect paper = image.rect().adjusted(image.width() / 30, image.height() / 30, -image.width() / 30,
-                                              -image.height() / 30);
-    QString quarters(4, u'-');
-    for (int y = paper.top(); y <= paper.bottom(); ++y) {
-        for (int x = paper.left(); x <= paper.right(); ++x) {
-            const int quarter = 2 * (y > paper.center().y()) + (x > paper.center().x());
-            if (qGray(image.pixel(x, y)) < 150) quarters[quarter] = u'x';
-        }
-    }
-    return quarters;
-}
-
-TEST_F(FrmPrintTest, ThePreviewShowsAllPagesOfASheet) {
-    PrinterChoice cards;
-    cards.paper = Paper::FourCards;
-    printer.use(cards);
-    open({1, 3, 1, 3, 1});
-    QTest::qWait(50);
-    auto* sheet = control<PageSheet>("picStrana");
-    EXPECT_EQ(control<Label>("lblStrana")->text(), str("List 1 z 2"));
-    EXPECT_EQ(sheet->accessibleValue().count(str("CD Tobrela")), 4);
-    EXPECT_EQ(inkedQuarters(*sheet), str("xxxx"));
-    QTest::keyClick(form(), Qt::Key_PageDown);
-    EXPECT_EQ(sheet->accessibleValue().count(str("CD Tobrela")), 1);
-    EXPECT_EQ(inkedQuarters(*sheet), str("x---"));
-    EXPECT_FALSE(control("cmdStrana(1)")->isEnabled());
 }
 
 TEST_F(FrmPrintTest, AsksBeforeItReplacesAFile) {
@@ -464,45 +268,34 @@ TEST_F(FrmPrintTest, ChoosesPrinterAndPaperAndRemembersThem) {
               str("Tiskárna Zmizelá teď není k dispozici, tisk půjde do souboru."));
 }
 
-TEST_F(FrmPrintTest, QuickRecipesPrintTheRecipesTheyShowAboveTheirDialog) {
-    QTimer::singleShot(0, below, [&] {
-        auto* save = loaded("frmSave");
-        child<Button>(*save, "cmdRuka(3)")->click();
-        QTimer::singleShot(0, below, [&, save] {
-            EXPECT_EQ(run.window.modalForm(), form()) << "the dialog waits below";
-            control("Command1")->click();
-            EXPECT_EQ(test::pdfPages(file("Štika.pdf")).size(), 1);
-            control("Command2")->click();
-            QTimer::singleShot(0, below, [save] { QTest::keyClick(save, Qt::Key_Escape); });
+TEST_F(FrmPrintTest, QuickRecipesAndHelpPagesPrintAboveTheirDialog) {
+    const auto select = [&](const PrintEntry& entry, const char* mode) {
+        QTimer::singleShot(0, below, [&] {
+            auto* save = loaded("frmSave");
+            child<Button>(*save, "cmdRuka(3)")->click();
+            QTimer::singleShot(0, below, [&, save] {
+                EXPECT_EQ(run.window.modalForm(), form()) << "the dialog waits below";
+                control("Command1")->click();
+                control("Command2")->click();
+                QTimer::singleShot(0, below, [save] { QTest::keyClick(save, Qt::Key_Escape); });
+            });
+            child<Button>(*save, "cmdOkEnd(0)")->click();
         });
-        child<Button>(*save, "cmdOkEnd(0)")->click();
-    });
-    printing.showSelection({{str("Pět minut"), 3}}, str("RychleRecepty"), {});
-    EXPECT_EQ(run.window.modalForm(), nullptr);
-    EXPECT_EQ(run.FormStack.top(), below);
-}
-
-TEST_F(FrmPrintTest, HelpPagesAndOtherTextsPrintWithoutOptions) {
-    printing.printText(str("Tabulka"), test::rtf(str("Řádek.")));
-    EXPECT_FALSE(control("Frame1")->isEnabled());
-    control("Command1")->click();
-    EXPECT_EQ(test::pdfText(file("Tabulka.pdf")).simplified(),
-              str("CD Tobrela - Velisa sarn Tabulka Řádek."));
-    control("Command2")->click();
-    QTimer::singleShot(0, below, [&] {
-        auto* save = loaded("frmSave");
-        child<Button>(*save, "cmdRuka(3)")->click();
-        QTimer::singleShot(0, below, [&, save] {
-            control("Command1")->click();
-            control("Command2")->click();
-            QTimer::singleShot(0, below, [save] { QTest::keyClick(save, Qt::Key_Escape); });
-        });
-        child<Button>(*save, "cmdOkEnd(0)")->click();
-    });
-    printing.showSelection({{str("O tisku"), 10}}, str("Help"), {});
+        printing.showSelection({entry}, str(mode), {});
+        EXPECT_EQ(run.window.modalForm(), nullptr);
+        EXPECT_EQ(run.FormStack.top(), below);
+    };
+    select({str("Pět minut"), 3}, "RychleRecepty");
+    EXPECT_EQ(test::pdfPages(file("Štika.pdf")).size(), 1);
+    select({str("O tisku"), 10}, "Help");
     EXPECT_EQ(test::pdfText(file("O tisku.pdf")).simplified(),
               str("CD Tobrela - Velisa sarn O tisku Text stránky."))
         << "a title that the text repeats is printed once";
+    printing.printText(str("Tabulka"), test::rtf(str("Řádek.")));
+    EXPECT_FALSE(control("Frame1")->isEnabled()) << "there is nothing to choose";
+    control("Command1")->click();
+    EXPECT_EQ(test::pdfText(file("Tabulka.pdf")).simplified(),
+              str("CD Tobrela - Velisa sarn Tabulka Řádek."));
 }
 
 }  // namespace

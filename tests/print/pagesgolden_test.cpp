@@ -8,10 +8,7 @@ namespace sarne {
 namespace {
 
 using test::PrintCookbook;
-
-QString str(const char* text) {
-    return QString::fromUtf8(text);
-}
+using test::str;
 
 /// Five recipes: one with everything, one of steps, one whose name is long, one with a long note, an empty
 /// one.

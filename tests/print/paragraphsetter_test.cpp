@@ -2,14 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "printcookbook.h"
 #include "richtext/layoutdump.h"
 
 namespace sarne {
 namespace {
 
-QString str(const char* text) {
-    return QString::fromUtf8(text);
-}
+using test::str;
 
 /// \a text set in lines of \a characters, a "|" between them; the metrics' characters are all equally wide.
 class Setting {
@@ -61,8 +60,11 @@ TEST(ParagraphSetter, LeavesNoWordAloneAtTheEnd) {
     Setting tight(20, true);
     EXPECT_EQ(tight.set(str("ab ab ab ab ab ab abc")), str("ab ab ab ab ab ab abc")) << "drawn together";
     EXPECT_EQ(tight.right(0), 20);
+    EXPECT_EQ(Setting(30, true).set(str("aa bbb cc ddd ee fff gg hhhh ii jjj kk ll mm nnn oo ppp qq rrrrrr")),
+              str("aa bbb cc ddd ee fff gg hhhh|ii jjj kk ll mm nnn oo ppp|qq rrrrrr"))
+        << "the word before it goes along";
     EXPECT_EQ(Setting(10).set(str("dlouhatánské slovo")), str("dlouhatáns|ké slovo"));
-    EXPECT_EQ(Setting(12).set(str("kapr candát sumec")), str("kapr candát|sumec")) << "no room for more";
+    EXPECT_EQ(Setting(12).set(str("kapr candát sumec")), str("kapr candát|sumec")) << "nor at the beginning";
 }
 
 TEST(ParagraphSetter, HangsTheLinesOfAStepBelowItsText) {
@@ -83,12 +85,19 @@ TEST(ParagraphSetter, HangsTheLinesOfAStepBelowItsText) {
     EXPECT_EQ(stepMark(str("ryba")), 0);
 }
 
-TEST(ParagraphSetter, FillsTheLinesButTheLast) {
+TEST(ParagraphSetter, FillsTheLinesButTheLastAndThoseThatWouldTear) {
     Setting lines(20, true);
-    lines.set(str("Rybu osolíme a necháme stát na chladném místě půl dne"));
-    for (size_t line = 0; line + 1 < lines.lines.size(); ++line) EXPECT_EQ(lines.right(line), 20);
+    lines.set(str("Rybu dnes osolíme, pak necháme stát na chladném místě skoro půl dne, do večera"));
+    ASSERT_GT(lines.lines.size(), 3u);
+    for (size_t line = 0; line + 1 < lines.lines.size(); ++line) EXPECT_EQ(lines.right(line), 20) << line;
     EXPECT_LT(lines.right(lines.lines.size() - 1), 20);
     EXPECT_TRUE(lines.lines.front().startsParagraph && lines.lines.back().endsParagraph);
+    EXPECT_EQ(lines.set(str("ryba nejneobyčejnějšího vzhledu")), str("ryba|nejneobyčejnějšího|vzhledu"));
+    EXPECT_EQ(lines.set(str("ryba má nejneobyčejnějšího vzhled")), str("ryba má|nejneobyčejnějšího|vzhled"));
+    EXPECT_EQ(lines.right(0), 7);
+    const QString note = test::longText(9000);
+    EXPECT_EQ(lines.set(note.trimmed()).replace(u'|', u' '), note.trimmed())
+        << "nothing is lost between pieces";
 }
 
 }  // namespace

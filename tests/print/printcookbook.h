@@ -15,21 +15,23 @@
 
 namespace sarne::test {
 
+inline QString str(const char* text) {
+    return QString::fromUtf8(text);
+}
+
 inline QString sqlText(const QString& text) {
-    return u'\'' + QString(text).replace(u'\'', QStringLiteral("''")) + u'\'';
+    return u'\'' + QString(text).replace(u'\'', str("''")) + u'\'';
 }
 
 /// An RTF document with \a body.
 inline QString rtf(const QString& body) {
-    return QStringLiteral(
-               "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Times New Roman;}"
+    return str("{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Times New Roman;}"
                "{\\f1\\fswiss\\fcharset238 Arial;}}\\plain\\pard ") +
-           body + QStringLiteral("\\par }");
+           body + str("\\par }");
 }
 
 /// A sentence again and again, about \a length characters.
-inline QString longText(int length,
-                        const QString& sentence = QStringLiteral("Rybu osolíme a necháme stát. ")) {
+inline QString longText(int length, const QString& sentence = str("Rybu osolíme a necháme stát. ")) {
     return sentence.repeated(length / int(sentence.size()) + 1);
 }
 
@@ -38,17 +40,22 @@ inline QString pdfTool(const QString& tool, const QStringList& arguments) {
     QProcess process;
     process.start(tool, arguments);
     if (!process.waitForFinished(60000) || process.exitCode() != 0)
-        return tool + QStringLiteral(" failed: ") + QString::fromUtf8(process.readAllStandardError());
+        return tool + str(" failed: ") + QString::fromUtf8(process.readAllStandardError());
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
 /// The texts of a PDF file, its pages parted by form feeds.
 inline QString pdfText(const QString& file) {
-    return pdfTool(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), file, QStringLiteral("-")});
+    return pdfTool(str("pdftotext"), {str("-layout"), file, str("-")});
 }
 
 inline QStringList pdfPages(const QString& file) {
     return pdfText(file).split(u'\f', Qt::SkipEmptyParts);
+}
+
+inline QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// One word of a page and where it stands, in twips from the paper's corner.
@@ -60,11 +67,10 @@ struct PdfWord {
 inline std::vector<PdfWord> pdfWords(const QString& file, int page) {
     const QString number = QString::number(page);
     const QString html =
-        pdfTool(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-f"), number,
-                                              QStringLiteral("-l"), number, file, QStringLiteral("-")});
+        pdfTool(str("pdftotext"), {str("-bbox"), str("-f"), number, str("-l"), number, file, str("-")});
     static const QRegularExpression word(
-        QStringLiteral("<word xMin=\"([-0-9.]+)\" yMin=\"([-0-9.]+)\" xMax=\"([-0-9.]+)\" "
-                       "yMax=\"([-0-9.]+)\">(.*?)</word>"));
+        str("<word xMin=\"([-0-9.]+)\" yMin=\"([-0-9.]+)\" xMax=\"([-0-9.]+)\" "
+            "yMax=\"([-0-9.]+)\">(.*?)</word>"));
     std::vector<PdfWord> words;
     for (const auto& match : word.globalMatch(html)) {
         const QPointF from(match.captured(1).toDouble() * 20, match.captured(2).toDouble() * 20);
@@ -77,12 +83,11 @@ inline std::vector<PdfWord> pdfWords(const QString& file, int page) {
 /// A page as a viewer paints it, 20 twips a pixel.
 inline QImage pdfImage(const QString& file, int page) {
     QTemporaryDir folder;
-    const QString to = folder.filePath(QStringLiteral("page"));
+    const QString to = folder.filePath(str("page"));
     const QString number = QString::number(page);
-    pdfTool(QStringLiteral("pdftoppm"),
-            {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-f"), number, QStringLiteral("-l"),
-             number, QStringLiteral("-singlefile"), QStringLiteral("-png"), file, to});
-    return QImage(to + QStringLiteral(".png"));
+    pdfTool(str("pdftoppm"), {str("-r"), str("72"), str("-f"), number, str("-l"), number, str("-singlefile"),
+                              str("-png"), file, to});
+    return QImage(to + str(".png"));
 }
 
 /// A small cookbook to print from, with a folder for photos and one for printed files.
@@ -92,21 +97,20 @@ class PrintCookbook {
     Database db;
 
     explicit PrintCookbook(const QStringList& statements) {
-        const QString file = folder.filePath(QStringLiteral("Sarne.drc"));
+        const QString file = folder.filePath(str("Sarne.drc"));
         writeRecipeDatabase(file, statements);
         db.Open(file);
     }
 
     /// The statement of a recipe with \a fields ("Uvod", text, ...).
     static QString recipe(int id, const QString& name, const QStringList& fields = {}, int portions = 4) {
-        QString names = QStringLiteral("ID,Nazev,Porce");
-        QString values =
-            QStringLiteral("%1,%2,%3").arg(QString::number(id), sqlText(name), QString::number(portions));
+        QString names = str("ID,Nazev,Porce");
+        QString values = str("%1,%2,%3").arg(QString::number(id), sqlText(name), QString::number(portions));
         for (qsizetype i = 0; i + 1 < fields.size(); i += 2) {
             names += u',' + fields[i];
             values += u',' + sqlText(fields[i + 1]);
         }
-        return QStringLiteral("INSERT INTO Recepty (") + names + QStringLiteral(") VALUES (") + values + u')';
+        return str("INSERT INTO Recepty (") + names + str(") VALUES (") + values + u')';
     }
 
     /// In the form \a format, whatever its name ends in.
@@ -115,18 +119,18 @@ class PrintCookbook {
         image.fill(color);
         image.save(photo(id), format);
     }
-    QString photo(int id) const { return folder.filePath(QStringLiteral("r%1.bmp").arg(id)); }
+    QString photo(int id) const { return folder.filePath(str("r%1.bmp").arg(id)); }
 
     PrintSource source() {
         const auto media = [this](const QString& path) { return folder.filePath(path.section(u'\\', -1)); };
         return {db, media, QLocale(QLocale::Czech, QLocale::CzechRepublic),
-                printLogo(Resources(QStringLiteral(":/none/")))};
+                printLogo(Resources(str(":/none/")))};
     }
 
     /// Prints to a file on \a paper and says how that went.
     PrintOutcome print(const std::vector<std::int16_t>& ids, const PrintOptions& options = {},
                        Paper paper = Paper::A4) {
-        SystemPrinter printer(folder.filePath(QStringLiteral("Dokumenty")));
+        SystemPrinter printer(folder.filePath(str("Dokumenty")));
         PrinterChoice choice;
         choice.paper = paper;
         printer.use(choice);
@@ -138,7 +142,7 @@ class PrintCookbook {
         SilentProgress silent;
         QtTextMetrics metrics;
         PageComposer composer(source(), printer.scale(), metrics);
-        return PrintJob(printer, composer, silent).print({ids, {}}, options, QStringLiteral("Recept"));
+        return PrintJob(printer, composer, silent).print({ids, {}}, options, str("Recept"));
     }
 };
 

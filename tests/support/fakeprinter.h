@@ -8,10 +8,13 @@
 
 namespace sarne {
 
-/// A printer whose pages go nowhere; it counts them.
+/// A printer whose pages go nowhere; it counts them, and fails where it is told to.
 class FakePrinter final : public Printer {
   public:
+    enum class Fails { Never, Begin, NewPage, End };
+    Fails fails = Fails::Never;
     int pages = 0;
+    bool begun = false;
     QString document;
 
     QStringList printers() const override { return {QStringLiteral("Zkušební")}; }
@@ -24,6 +27,8 @@ class FakePrinter final : public Printer {
     QString fileFor(const QString&) const override { return {}; }
     QPainter* begin(const QString& documentName) override {
         document = documentName;
+        begun = fails != Fails::Begin;
+        if (!begun) return nullptr;
         pages = 1;
         painter_ = std::make_unique<QPainter>(&sheet_);
         painter_->scale(.05, .05);
@@ -31,11 +36,12 @@ class FakePrinter final : public Printer {
     }
     bool newPage() override {
         ++pages;
-        return true;
+        return fails != Fails::NewPage;
     }
     PrintedDocument end(const std::function<void()>&) override {
         painter_.reset();
-        return {true, {}};
+        begun = false;
+        return {fails != Fails::End, {}};
     }
 
   private:

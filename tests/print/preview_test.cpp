@@ -1,0 +1,104 @@
+#include "print/frmnahled.h"
+#include "printform.h"
+
+namespace sarne {
+namespace {
+
+using test::FrmPrintTest;
+using test::str;
+
+TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
+    open({1, 3});
+    control("Command1")->click();
+    const QStringList printed = test::pdfPages(file("Rybí recepty (2).pdf"));
+    control("cmdNahled")->click();
+    auto* preview = dynamic_cast<frmNahled*>(loaded("frmNahled"));
+    ASSERT_TRUE(preview);
+    QTest::qWait(20);
+    const auto* sheet = child<PageSheet>(*preview, "picStrana");
+    const auto key = [&](int code) { QTest::keyClick(preview, Qt::Key(code)); };
+    for (qsizetype page = 0; page < printed.size(); ++page, key(Qt::Key_Right)) {
+        EXPECT_EQ(child<Label>(*preview, "lblStrana")->text(),
+                  str("Strana %1 z %2").arg(page + 1).arg(printed.size()));
+        EXPECT_EQ(sheet->accessibleValue().simplified(), printed[page].simplified());
+    }
+    EXPECT_EQ(preview->currentSheet() + 1, printed.size()) << "the last page stays";
+    EXPECT_FALSE(child<Button>(*preview, "cmdStrana(1)")->isEnabled());
+    key(Qt::Key_Home);
+    key(Qt::Key_Up);
+    EXPECT_EQ(preview->currentSheet(), 0);
+    key(Qt::Key_Return);
+    EXPECT_TRUE(sheet->isZoomed());
+    key(Qt::Key_Down);
+    EXPECT_GT(sheet->scrolled(), 0);
+    EXPECT_EQ(preview->currentSheet(), 0);
+    key(Qt::Key_F1);
+    EXPECT_TRUE(run.recorded.calls.contains(str("showHelpFor frmNahled")));
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(preview->isLoaded());
+    EXPECT_EQ(run.FormStack.top(), form());
+    EXPECT_TRUE(control("cmdNahled")->hasFocus());
+}
+
+TEST_F(FrmPrintTest, EveryChangeShowsInThePreviewAtOnce) {
+    open({1, 3});
+    const auto* sheet = control<PageSheet>("picStrana");
+    const auto shows = [&](const char* text) { return sheet->accessibleValue().contains(str(text)); };
+    EXPECT_TRUE(shows("Candát") && shows("Porce: 4"));
+    control<CheckBox>("Chco(1)")->setChecked(false);
+    EXPECT_FALSE(shows("Porce"));
+    control<CheckBox>("Chco(1)")->setChecked(true);
+    control<Edit>("Text1")->setText(str("6,5"));
+    EXPECT_TRUE(shows("Porce: 6,5"));
+    control<Edit>("Text1")->setText({});
+    EXPECT_TRUE(shows("Porce: 6,5")) << "what cannot be printed shows nothing new";
+    control<Edit>("Text1")->setText(str("6"));
+    QTest::keyClick(form(), Qt::Key_PageDown);
+    EXPECT_TRUE(shows("2 z "));
+    for (int i = 0; i < 20; ++i) control("cmdStrana(1)")->click();
+    QTest::qWait(20);
+    for (int i = 0; i < 20; ++i) control("cmdStrana(1)")->click();
+    EXPECT_TRUE(shows("Štika"));
+    EXPECT_FALSE(control("cmdStrana(1)")->isEnabled());
+    control("picStrana")->click();
+    auto* large = dynamic_cast<frmNahled*>(loaded("frmNahled"));
+    ASSERT_TRUE(large);
+    EXPECT_GT(large->currentSheet(), 0) << "the page that was clicked";
+    EXPECT_EQ(child<PageSheet>(*large, "picStrana")->accessibleValue(), sheet->accessibleValue());
+}
+
+/// Which quarters of \a sheet have ink on them, line by line.
+QString inkedQuarters(PageSheet& sheet) {
+    const QImage image = sheet.grab().toImage();
+    const QRect paper = image.rect().adjusted(image.width() / 30, image.height() / 30, -image.width() / 30,
+                                              -image.height() / 30);
+    QString quarters(4, u'-');
+    for (int y = paper.top(); y <= paper.bottom(); ++y) {
+        for (int x = paper.left(); x <= paper.right(); ++x) {
+            const int quarter = 2 * (y > paper.center().y()) + (x > paper.center().x());
+            if (qGray(image.pixel(x, y)) < 150) quarters[quarter] = u'x';
+        }
+    }
+    return quarters;
+}
+
+TEST_F(FrmPrintTest, ThePreviewShowsAllPagesOfASheet) {
+    PrinterChoice cards;
+    cards.paper = Paper::FourCards;
+    printer.use(cards);
+    open({1, 3, 1, 3, 1});
+    QTest::qWait(50);
+    auto* sheet = control<PageSheet>("picStrana");
+    EXPECT_EQ(control<Label>("lblStrana")->text(), str("List 1 z 2"));
+    EXPECT_EQ(sheet->accessibleValue().count(str("CD Tobrela")), 4);
+    EXPECT_EQ(inkedQuarters(*sheet), str("xxxx"));
+    QTest::keyClick(form(), Qt::Key_PageDown);
+    EXPECT_EQ(sheet->accessibleValue().count(str("CD Tobrela")), 1);
+    EXPECT_EQ(inkedQuarters(*sheet), str("x---"));
+    EXPECT_FALSE(control("cmdStrana(1)")->isEnabled());
+}
+
+}  // namespace
+}  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later
