@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include "db/bookfact.h"
 #include "db/database.h"
 #include "db/userfile.h"
 
@@ -27,6 +28,15 @@ QString digest(const QString& file) {
     QCryptographicHash hash(QCryptographicHash::Sha256);
     if (!source.open(QIODevice::ReadOnly) || !hash.addData(&source)) return {};
     return QString::fromLatin1(hash.result().toHex());
+}
+
+/// Tells one edition of a book from another: the number and the digest that its builder wrote into it. A book
+/// without them is known by what its file holds.
+QString identity(const QString& file) {
+    Database book;
+    book.Open(file);
+    const QString made = bookFact(book, QStringLiteral("Otisk"));
+    return made.isEmpty() ? digest(file) : bookFact(book, QStringLiteral("Vydani")) + u' ' + made;
 }
 
 QString readMark(const QString& file) {
@@ -135,7 +145,7 @@ RecipeDatabase usableRecipeDatabase(const QString& shipped, const QString& ownCo
     if (!QFile::exists(shipped)) return {QFile::exists(ownCopy) ? ownCopy : shipped, {}};
     RecipeDatabase result{ownCopy, {}};
     const QString markFile = ownCopy + QStringLiteral(".origin");
-    const QString mark = digest(shipped);
+    const QString mark = identity(shipped);
     const bool sound = isSoundBook(ownCopy);
     if (sound && readMark(markFile) == mark) return result;
     if (isSoundBook(shipped) && makeCopy(shipped, result, sound || !QFile::exists(ownCopy))) {

@@ -15,9 +15,9 @@ struct RecipeDatabase {
 
 /// Which recipe database a run works on: \a shipped, the file beside the program, where that can be written;
 /// otherwise \a ownCopy, made from it on first use and made anew, with the user's notes and switches carried
-/// over, when the shipped file has other contents than it had, or when the copy is damaged. An own copy that
-/// is not wholly readable is kept beside the new one under a dated name. Where no sound copy can be had, \a
-/// shipped.
+/// over, when the shipped file is another edition (by the number and the digest stored in it, see bookFact())
+/// or when the copy is damaged. An own copy that is not wholly readable is kept beside the new one under a
+/// dated name. Where no sound copy can be had, \a shipped.
 RecipeDatabase usableRecipeDatabase(const QString& shipped, const QString& ownCopy);
 
 /// What was carried from one recipe database to another.

@@ -102,6 +102,8 @@ QStringList recipeSchema() {
     all << named(QStringLiteral("RadkyTabulek"),
                  {QStringLiteral("ID_Tabulky INTEGER NOT NULL"), QStringLiteral("ID_Hesla INTEGER"),
                   QStringLiteral("Bunky") + kTextType});
+    // What the book says of itself; see bookFact().
+    all << named(QStringLiteral("Kniha"), {name, QStringLiteral("Hodnota") + kTextType});
     all << galleries() << kitchen();
     return all;
 }

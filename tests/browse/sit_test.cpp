@@ -96,6 +96,15 @@ TEST_F(SitTest, TheMouseNamesTheRecipeUnderIt) {
     EXPECT_NE(framed.copy(place), grid->grab().toImage().copy(place)) << "the cell under the mouse is framed";
 }
 
+TEST_F(SitTest, GroupsAreCalledAsTheBookSays) {
+    EXPECT_EQ(button("imgSkupina(3)")->caption(), QStringLiteral("Slavnostní mísy"));
+    run.database.Execute(
+        QStringLiteral("INSERT INTO Kniha (Nazev, Hodnota) VALUES ('Skupina3', 'Na oslavu')"));
+    grid->Zobraz();
+    EXPECT_EQ(button("imgSkupina(3)")->caption(), QStringLiteral("Na oslavu"));
+    EXPECT_EQ(button("imgSkupina(0)")->caption(), QStringLiteral("Polévky"));
+}
+
 TEST_F(SitTest, AClickLocksTheChoiceUntilTheNext) {
     hover(3);
     click(cell(3));

@@ -24,12 +24,13 @@ class InstallationTest : public testing::Test {
         own = folder.filePath(QStringLiteral("data/Sarne.drc"));
         ship("'Kapr'");
     }
-    void ship(const char* name) {
+    /// \a facts are rows of what the book says of itself.
+    void ship(const char* name, const char* facts = "") {
         QFile::remove(shipped);
         test::writeRecipeDatabase(
             shipped,
             {QStringLiteral("INSERT INTO Recepty (ID,Nazev) VALUES (1,%1)").arg(QString::fromUtf8(name)),
-             QStringLiteral("INSERT INTO Nastav VALUES (1,'Hudba',1)")});
+             QStringLiteral("INSERT INTO Nastav VALUES (1,'Hudba',1)"), QLatin1String(facts)});
         setTime(0);  // as package formats do with all files
     }
     void setTime(time_t seconds) {
@@ -109,6 +110,26 @@ TEST_F(InstallationTest, AReadOnlyProgramFolderLeadsToAnOwnCopyThatKeepsNotes) {
     setTime(1000000000);
     ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
     EXPECT_EQ(inode(own), copy) << "the same book is not copied again, whatever its time";
+}
+
+TEST_F(InstallationTest, AnotherEditionIsOneOfAnotherNumberOrDigest) {
+    const struct {
+        const char* name;
+        const char* facts;
+        const char* shown;
+    } editions[] = {
+        {"'Kapr'", "INSERT INTO Kniha VALUES (1,'Vydani','1'),(2,'Otisk','a')", "Kapr"},
+        {"'Lín'", "INSERT INTO Kniha VALUES (1,'Vydani','2'),(2,'Otisk','a')", "Lín"},
+        {"'Sum'", "INSERT INTO Kniha VALUES (1,'Vydani','2'),(2,'Otisk','b')", "Sum"},
+        {"'Úhoř'", "INSERT INTO Kniha VALUES (1,'Vydani','2'),(2,'Otisk','b')", "Sum"},
+    };
+    for (const auto& edition : editions) {
+        chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0755);
+        ship(edition.name, edition.facts);
+        protectProgramFolder();
+        ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
+        EXPECT_EQ(read(own, "Recepty", "Nazev"), QString::fromUtf8(edition.shown));
+    }
 }
 
 TEST_F(InstallationTest, WhereNothingCanBeWrittenTheShippedFileIsRead) {

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "db/bookfact.h"
 #include "db/database.h"
 #include "disc/loadcookbook.h"
 #include "disc/writedatabase.h"
@@ -19,7 +20,8 @@ class ShippedTest : public testing::Test {
         const ContentFolder content(QStringLiteral(SARNE_CONTENT), problems);
         const Cookbook book = loadCookbook(content, problems);
         proofread(content, book, problems);
-        writeRecipeDatabase(book, folder_->filePath(QStringLiteral("Sarne.drc")), problems);
+        writeRecipeDatabase(book, folder_->filePath(QStringLiteral("Sarne.drc")), problems,
+                            QStringLiteral("abc"));
         errors_ = problems.errors().join(u'\n').toStdString();
     }
     static void TearDownTestSuite() { delete folder_; }
@@ -48,6 +50,9 @@ TEST_F(ShippedTest, HasWhatTheProgramCountsOn) {
     EXPECT_GE(count(QStringLiteral("SELECT * FROM Help")), 15);
     EXPECT_GE(count(QStringLiteral("SELECT * FROM Suroviny WHERE Polozka LIKE 'kap*'")), 3);
     EXPECT_EQ(count(QStringLiteral("SELECT * FROM Menu WHERE ID LIKE '0*'")), 0);
+    for (const auto& [fact, value] :
+         {std::pair{"Vydani", "1"}, {"Otisk", "abc"}, {"Skupina3", "Slavnostní mísy"}})
+        EXPECT_EQ(bookFact(db_, QLatin1String(fact)), QString::fromUtf8(value)) << fact;
 }
 
 TEST_F(ShippedTest, EveryTextIsADocumentThatTheRendererReads) {

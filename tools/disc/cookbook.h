@@ -278,11 +278,16 @@ struct SearchWord {
 /// What kind of book it is, as kniha.txt says; where it says nothing, as the fish book was written.
 struct BookFacts {
     QString title = QStringLiteral("Velisa sarn");
+    /// Which edition it is; an author raises it with what is given to others.
+    int edition = 1;
     /// The mark that the ingredients have which the book is about; empty when every dish may be in it.
     QString mainMark = QStringLiteral("ryba");
     /// What the four groups of the photo grid are called in the recipes' heads.
     QStringList courses{QStringLiteral("polévka"), QStringLiteral("teplé"), QStringLiteral("studené"),
                         QStringLiteral("slavnostní")};
+    /// The captions of these groups' buttons.
+    QStringList groups{QStringLiteral("Polévky"), QStringLiteral("Teplá jídla"),
+                       QStringLiteral("Studená jídla"), QStringLiteral("Slavnostní mísy")};
     /// The keys of a recipe's head whose words the menu picks by.
     QStringList tagKeys{QStringLiteral("ryba"), QStringLiteral("úprava"), QStringLiteral("období"),
                         QStringLiteral("zařazení")};

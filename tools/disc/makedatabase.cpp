@@ -8,9 +8,10 @@ namespace sarne::disc {
 
 void makeDatabase(Workshop& shop, const ContentFolder& folder) {
     const QString file = shop.program + QStringLiteral("/Sarne.drc");
-    shop.make(file, originOf(folder.allFiles(), stamp::database()), [&] {
+    const QString origin = originOf(folder.allFiles(), stamp::database());
+    shop.make(file, origin, [&] {
         proofread(folder, shop.book, shop.problems);
-        if (!shop.problems.hasErrors()) writeRecipeDatabase(shop.book, file, shop.problems);
+        if (!shop.problems.hasErrors()) writeRecipeDatabase(shop.book, file, shop.problems, origin);
         return !shop.problems.hasErrors();
     });
 }

@@ -1,11 +1,18 @@
 #pragma once
 
+#include <QtGlobal>
+#include <algorithm>
 #include <atomic>
 #include <future>
 #include <thread>
 #include <vector>
 
 namespace sarne::disc {
+
+/// How many things the machine does at a time.
+inline qsizetype coreCount() {
+    return std::max(1U, std::thread::hardware_concurrency());
+}
 
 /// Calls \a work with 0 to \a count - 1, as many at a time as the machine has cores, and waits for all.
 template <typename Work>
@@ -15,8 +22,7 @@ void inParallel(qsizetype count, const Work& work) {
         for (qsizetype i = next++; i < count; i = next++) work(i);
     };
     std::vector<std::future<void>> workers;
-    for (unsigned i = 0; i < std::max(1U, std::thread::hardware_concurrency()); ++i)
-        workers.push_back(std::async(std::launch::async, run));
+    for (qsizetype i = 0; i < coreCount(); ++i) workers.push_back(std::async(std::launch::async, run));
     for (auto& worker : workers) worker.get();
 }
 

@@ -26,6 +26,14 @@ Fact names(QStringList BookFacts::*member, qsizetype count) {
     };
 }
 
+Fact number(int BookFacts::*member, int least) {
+    return [member, least](BookFacts& facts, const QString& value) {
+        bool isNumber = false;
+        facts.*member = value.toInt(&isNumber);
+        return isNumber && facts.*member >= least;
+    };
+}
+
 /// "6–18"; one number is the fewest, with no limit above.
 Fact range(int BookFacts::*fewest, int BookFacts::*most) {
     return [fewest, most](BookFacts& facts, const QString& value) {
@@ -42,15 +50,13 @@ const QHash<QString, Fact>& allFacts() {
         {QStringLiteral("název"), text(&BookFacts::title)},
         {QStringLiteral("hlavní surovina"), text(&BookFacts::mainMark)},
         {QStringLiteral("chody"), names(&BookFacts::courses, kGridGroups)},
+        {QStringLiteral("skupiny"), names(&BookFacts::groups, kGridGroups)},
+        {QStringLiteral("vydání"), number(&BookFacts::edition, 1)},
         {QStringLiteral("štítky"), names(&BookFacts::tagKeys, 0)},
         {QStringLiteral("povinné"), names(&BookFacts::required, 0)},
         {QStringLiteral("surovin"), range(&BookFacts::fewestIngredients, &BookFacts::mostIngredients)},
         {QStringLiteral("slov hesla"), range(&BookFacts::fewestKeywordWords, &BookFacts::mostKeywordWords)},
-        {QStringLiteral("slov k hledání"), [](BookFacts& facts, const QString& value) {
-             bool isNumber = false;
-             facts.searchWords = value.toInt(&isNumber);
-             return isNumber;
-         }}};
+        {QStringLiteral("slov k hledání"), number(&BookFacts::searchWords, 0)}};
     return all;
 }
 

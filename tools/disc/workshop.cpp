@@ -88,12 +88,16 @@ bool Workshop::make(const QString& output, const QString& origin, const std::fun
     return makeAll({{{output}, origin, make}});
 }
 
+bool Workshop::isCurrent(const Task& task) {
+    qsizetype current = 0;
+    for (const QString& output : task.outputs) current += ledger.isCurrent(output, task.origin);
+    return current == task.outputs.size();
+}
+
 bool Workshop::makeAll(const QList<Task>& tasks) {
     QList<Task> stale;
     for (const Task& task : tasks) {
-        qsizetype current = 0;
-        for (const QString& output : task.outputs) current += ledger.isCurrent(output, task.origin);
-        if (current == task.outputs.size()) continue;
+        if (isCurrent(task)) continue;
         for (const QString& output : task.outputs) QDir().mkpath(QFileInfo(output).path());
         stale << task;
     }

@@ -108,6 +108,8 @@ struct Workshop {
     /// Copies a file of the base, "program/KOp.bj", to the same place of this disc where the base has it.
     void takeFromBase(const QString& file);
 
+    /// Whether all outputs of a task are there and made from the same origin.
+    bool isCurrent(const Task& task);
     /// Makes \a output unless it was made from the same \a origin before. See makeAll().
     bool make(const QString& output, const QString& origin, const std::function<bool()>& make);
     /// Runs those of the tasks whose outputs are not there or were made from something else, several at a

@@ -179,6 +179,16 @@ class CookbookWriter {
     LinkBook links_;
 };
 
+/// What the book says of itself.
+void writeFacts(const BookFacts& facts, const QString& digest, Writer writer) {
+    QStringList names{QStringLiteral("Nazev"), QStringLiteral("Vydani"), QStringLiteral("Otisk")};
+    for (int group = 0; group < facts.groups.size(); ++group) names << QStringLiteral("Skupina%1").arg(group);
+    const QStringList values =
+        QStringList{facts.title, QString::number(facts.edition), digest} + facts.groups;
+    for (qsizetype i = 0; i < names.size(); ++i)
+        writer.add(QStringLiteral("Kniha"), {i + 1, names[i], values[i]});
+}
+
 void makeEmpty(const QString& file) {
     QFile::remove(file);
     QFile empty(file);
@@ -216,9 +226,12 @@ void replaceDatabase(const QString& file, const QStringList& schema, Keep keep, 
 
 }  // namespace
 
-void writeRecipeDatabase(const Cookbook& book, const QString& file, Problems& problems) {
-    replaceDatabase(file, recipeSchema(), Keep::userData, problems,
-                    [&](Connection& connection) { CookbookWriter(book, connection, problems).write(); });
+void writeRecipeDatabase(const Cookbook& book, const QString& file, Problems& problems,
+                         const QString& digest) {
+    replaceDatabase(file, recipeSchema(), Keep::userData, problems, [&](Connection& connection) {
+        CookbookWriter(book, connection, problems).write();
+        writeFacts(book.facts, digest, Writer(connection));
+    });
 }
 
 void writePictureDatabase(const QList<QByteArray>& pictures, const QString& file, Problems& problems) {

@@ -4,6 +4,7 @@
 
 #include "core/texts.h"
 #include "core/value.h"
+#include "db/bookfact.h"
 #include "db/database.h"
 #include "forms/bassarne.h"
 #include "forms/messagebox.h"
@@ -12,10 +13,10 @@
 #include "screens/browse/frmsit_layout.h"
 
 namespace sarne {
-namespace {}  // namespace
 
 void frmSit::Zobraz() {
     readNames();
+    nameGroups();
     grid_ = PhotoGrid();
     applyGroup();
     if (!app().FormStack.contains(*this)) app().PushScreen(*this);
@@ -35,6 +36,18 @@ void frmSit::readNames() {
 }
 
 // --- groups
+
+/// As the book calls them; a book that does not is one of fish.
+void frmSit::nameGroups() {
+    const QString usual[] = {Texts::tr("Polévky"), Texts::tr("Teplá jídla"), Texts::tr("Studená jídla"),
+                             Texts::tr("Slavnostní mísy")};
+    for (int group = 0; group < kGridGroups; ++group) {
+        const QString own = bookFact(app().Db(), QStringLiteral("Skupina%1").arg(group));
+        const QString& caption = own.isEmpty() ? usual[group] : own;
+        imgSkupina[size_t(group)]->setCaption(caption);
+        imgSkupina[size_t(group)]->setTip(caption);
+    }
+}
 
 void frmSit::setGroup(int group) {
     if (!grid_.setGroup(group)) return;

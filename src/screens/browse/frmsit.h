@@ -36,6 +36,7 @@ class frmSit : public Form {
     void buildGroups();
     void setFocusOrder();
     void readNames();
+    void nameGroups();
 
     void setGroup(int group);
     void applyGroup();

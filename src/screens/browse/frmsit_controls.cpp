@@ -63,15 +63,11 @@ void frmSit::buildCells() {
 }
 
 void frmSit::buildGroups() {
-    static const QString kNames[] = {Texts::tr("Polévky"), Texts::tr("Teplá jídla"),
-                                     Texts::tr("Studená jídla"), Texts::tr("Slavnostní mísy")};
     for (int group = 0; group < kGridGroups; ++group) {
         auto* button = new Button(*this, QStringLiteral("imgSkupina(%1)").arg(group));
         button->place(sit::group(group));
         button->setFace(resources().picture(QStringLiteral("Skupina%1").arg(group)));
-        button->setCaption(kNames[group]);
         button->setCaptionPlace(Button::CaptionPlace::Beside);
-        button->setTip(kNames[group]);
         button->setFocusPolicy(Qt::TabFocus);
         connect(button, &Control::clicked, this, [this, group] { setGroup(group); });
         imgSkupina.push_back(button);

@@ -217,9 +217,15 @@ void makeSounds(Workshop& shop) {
     for (const Track& track : kTracks) addMusic(shop, effects, track, tasks);
     const QList<int> heard = heardRecipes(shop);
     Problems silent;  // without the spellings nobody speaks
-    const Voices voices(shop.content, shop.scratch, canSpeak(shop) ? shop.problems : silent);
+    Voices voices(shop.content, shop.scratch, canSpeak(shop) ? shop.problems : silent);
     if (shop.problems.hasErrors()) return;
-    for (const int id : heard) tasks << nameTask(shop, voices, *shop.book.recipes.constFind(id));
+    QStringList spoken;
+    for (const int id : heard) {
+        const Recipe& recipe = *shop.book.recipes.constFind(id);
+        tasks << nameTask(shop, voices, recipe);
+        if (recordingOf(shop, recipe).isEmpty() && !shop.isCurrent(tasks.last())) spoken << recipe.name;
+    }
+    voices.prepare(spoken, Speaker::names);
     shop.makeAll(tasks);
     takeMusicFromBase(shop);
     if (shop.kind == DiscKind::Compact && !shop.problems.hasErrors()) compress(shop, heard);

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -125,13 +126,16 @@ void mix(Sound& music, const Sound& effect, const Event& event) {
 }
 
 void mixEvents(Sound& music, const Score& score, const QList<Effect>& effects, Problems& problems) {
+    QHash<QString, Sound> rendered;
     for (const Event& event : score.events) {
         const auto found = std::find_if(effects.cbegin(), effects.cend(),
                                         [&](const Effect& one) { return one.name == event.effect; });
-        if (found == effects.cend())
+        if (found == effects.cend()) {
             problems.error(event.place, QStringLiteral("efekt %1 neexistuje").arg(event.effect));
-        else
-            mix(music, renderEffect(*found), event);
+            continue;
+        }
+        if (!rendered.contains(event.effect)) rendered.insert(event.effect, renderEffect(*found));
+        mix(music, rendered[event.effect], event);
     }
 }
 

@@ -67,7 +67,7 @@ std::vector<Mode> modes(Material material) {
 class LayerPainter {
   public:
     LayerPainter(const Layer& layer, std::vector<float>& samples, unsigned seed)
-        : layer_(layer), samples_(samples), dice_(seed) {}
+        : layer_(layer), samples_(samples), gain_(fromDecibels(layer.loudness)), dice_(seed) {}
 
     void paint() {
         switch (layer_.voice) {
@@ -106,7 +106,7 @@ class LayerPainter {
 
     void add(double seconds, int frame, double value) {
         const auto at = static_cast<size_t>(seconds * kRate) + static_cast<size_t>(frame);
-        if (at < samples_.size()) samples_[at] += static_cast<float>(value * fromDecibels(layer_.loudness));
+        if (at < samples_.size()) samples_[at] += static_cast<float>(value * gain_);
     }
 
     void tone() {
@@ -205,6 +205,7 @@ class LayerPainter {
 
     const Layer& layer_;
     std::vector<float>& samples_;
+    double gain_;
     Dice dice_;
 };
 

@@ -6,6 +6,9 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cmath>
+#include <mutex>
+
+#include "../parallel.h"
 
 namespace sarne::disc {
 namespace {
@@ -66,11 +69,15 @@ QByteArray run(const QString& program, const QStringList& arguments, const QByte
     return process.readAllStandardError();
 }
 
+/// What the voice's program is told to write behind its warnings about a text.
+const QByteArray kEndOfText = "== end of text ==";
+
 QByteArray order(Speaker speaker, const QByteArray& text, const QString& file, double pace) {
     const QByteArray who = speaker == Speaker::names ? "(hlas-jmen)" : "(hlas-filmu)";
     QByteArray quoted = text;
     quoted.replace('\\', "").replace('"', "");
-    return who + "(rekni \"" + quoted + "\" \"" + file.toLocal8Bit() + "\" " + QByteArray::number(pace) + ')';
+    return who + "(rekni \"" + quoted + "\" \"" + file.toLocal8Bit() + "\" " + QByteArray::number(pace) +
+           ")(format stderr \"\\n" + kEndOfText + "\\n\")\n";
 }
 
 /// Pairs of sounds that the voice lacks are played as silence, and warned about.
@@ -124,9 +131,23 @@ QStringList Voices::sources(const QString& content) {
     return {content + u'/' + kMelody, content + u'/' + kSpellings};
 }
 
+void Voices::prepare(const QStringList& texts, Speaker speaker) {
+    std::mutex finished;
+    const qsizetype share = texts.size() / coreCount() + 1;
+    inParallel(coreCount(), [&](qsizetype i) {
+        const QStringList own = texts.mid(i * share, share);
+        const QList<Spoken> spoken = own.isEmpty() ? QList<Spoken>() : said(own, speaker, kPaces[0]);
+        const std::lock_guard lock(finished);
+        for (qsizetype k = 0; k < spoken.size(); ++k) prepared_[{speaker, own[k]}] = spoken[k];
+    });
+}
+
 Spoken Voices::speak(const QString& text, Speaker speaker) const {
     for (const double pace : kPaces) {
-        Spoken spoken = said(text, speaker, pace);
+        const auto prepared = prepared_.find({speaker, text});
+        const Spoken spoken = pace == kPaces[0] && prepared != prepared_.cend()
+                                  ? prepared->second
+                                  : said({text}, speaker, pace).constFirst();
         if (!spoken.fault.isEmpty()) return spoken;
         if (!hasClick(spoken.sound)) return finished(spoken.sound, kSpeech);
     }
@@ -134,19 +155,30 @@ Spoken Voices::speak(const QString& text, Speaker speaker) const {
             QStringLiteral("hlas v „%1“ lupne; do %2 napište, jak jinak to přečíst").arg(text, kSpellings)};
 }
 
-Spoken Voices::said(const QString& text, Speaker speaker, double pace) const {
+QList<Spoken> Voices::said(const QStringList& texts, Speaker speaker, double pace) const {
     const QTemporaryDir folder(scratch_ + QStringLiteral("/hlas"));
-    const QString file = folder.filePath(QStringLiteral("hlas.wav"));
-    QString fault;
-    const QByteArray read = inLatin2(pronunciation_.spoken(text), fault);
-    if (!fault.isEmpty()) return {{}, fault};
-    const QByteArray warnings =
-        run(QStringLiteral("festival"), {QStringLiteral("--pipe"), content_ + u'/' + kMelody},
-            order(speaker, read, file, pace), fault);
-    if (const QString missing = missingSounds(warnings); !missing.isEmpty())
-        fault = QStringLiteral("hlas neumí %1 v „%2“; do %3 napište, jak jinak to přečíst")
-                    .arg(missing, text, kSpellings);
-    return {readWav(file), fault};
+    const auto file = [&](qsizetype i) { return folder.filePath(QStringLiteral("%1.wav").arg(i)); };
+    QStringList faults(texts.size());
+    QByteArray orders;
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const QByteArray read = inLatin2(pronunciation_.spoken(texts[i]), faults[i]);
+        orders += order(speaker, faults[i].isEmpty() ? read : QByteArray(), file(i), pace);
+    }
+    QString broken;
+    const QByteArray warnings = run(QStringLiteral("festival"),
+                                    {QStringLiteral("--pipe"), content_ + u'/' + kMelody}, orders, broken);
+    QList<Spoken> all;
+    qsizetype from = 0;
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const qsizetype end = warnings.indexOf(kEndOfText, from);
+        const QString missing = missingSounds(warnings.mid(from, end - from));
+        if (!missing.isEmpty())
+            faults[i] = QStringLiteral("hlas neumí %1 v „%2“; do %3 napište, jak jinak to přečíst")
+                            .arg(missing, texts[i], kSpellings);
+        all << Spoken{readWav(file(i)), faults[i].isEmpty() ? broken : faults[i]};
+        from = end < 0 ? warnings.size() : end + kEndOfText.size();
+    }
+    return all;
 }
 
 Spoken Voices::recording(const QString& file) const {

@@ -7,20 +7,21 @@
 #include <QSaveFile>
 #include <QTemporaryDir>
 
-#include "projector.h"
+#include "planarframe.h"
 
 namespace sarne::disc {
 namespace {
 
 constexpr int kTimeout = 120'000;
 /// Bytes that wait for ffmpeg before the next frame is drawn.
-constexpr qint64 kAhead = 8 * qint64{kFilmWidth} * kFilmHeight * 4;
+constexpr qint64 kAhead = 8 * qint64{kFilmWidth} * kFilmHeight * 3 / 2;
 
 /// How a film is stored, by the ending of its name.
 QString codecs(const QString& ending) {
     if (ending == u"mkv")
         return QStringLiteral(
-            "-c:v libx264 -preset veryfast -crf 20 -pix_fmt yuv420p -g 100 -c:a libopus -b:a 96k -f "
+            "-c:v libx264 -preset veryfast -x264-params subme=1:me=dia:weightp=0 -crf 20.7 -pix_fmt yuv420p "
+            "-g 100 -c:a libopus -b:a 96k -f "
             "matroska");
     return QStringLiteral(
         "-c:v mpeg4 -vtag XVID -q:v 5 -g 150 -bf 0 -sc_threshold 1000000000 -c:a libmp3lame -b:a 80k -ac 1 "
@@ -35,7 +36,7 @@ QString keyFrames(const Film& film) {
 }
 
 QStringList arguments(const Film& film, const QString& sound, const QString& output) {
-    const QString input = QStringLiteral("-v error -y -f rawvideo -pix_fmt bgr0 -s %1x%2 -r %3 -i - -i")
+    const QString input = QStringLiteral("-v error -y -f rawvideo -pix_fmt yuv420p -s %1x%2 -r %3 -i - -i")
                               .arg(kFilmWidth)
                               .arg(kFilmHeight)
                               .arg(kFramesPerSecond);
@@ -46,11 +47,13 @@ QStringList arguments(const Film& film, const QString& sound, const QString& out
            QStringList{output};
 }
 
-bool sendFrames(QProcess& encoder, const Film& film, const std::function<const QImage&(double)>& frame) {
+bool sendFrames(QProcess& encoder, const Film& film, Projector& projector) {
     const int count = static_cast<int>(film.seconds * kFramesPerSecond);
+    PlanarFrame planar(QSize(kFilmWidth, kFilmHeight));
     for (int i = 0; i < count; ++i) {
-        const QImage& picture = frame(static_cast<double>(i) / kFramesPerSecond);
-        encoder.write(reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes());
+        const QImage& picture = projector.frame(static_cast<double>(i) / kFramesPerSecond);
+        planar.update(picture, projector.changed());
+        encoder.write(planar.bytes());
         while (encoder.bytesToWrite() > kAhead)
             if (!encoder.waitForBytesWritten(kTimeout)) return false;
     }
@@ -87,8 +90,8 @@ bool convertFilm(const QString& source, const QString& file, const QString& scra
     return QProcess::execute(QStringLiteral("ffmpeg"), arguments) == 0 && moveTo(made, file);
 }
 
-bool encodeFilm(const Film& film, const std::function<const QImage&(double)>& frame, const Sound& sound,
-                const QString& file, const QString& scratch) {
+bool encodeFilm(const Film& film, Projector& projector, const Sound& sound, const QString& file,
+                const QString& scratch) {
     const QTemporaryDir folder(scratch + QStringLiteral("/film"));
     const QString wave = folder.filePath(QStringLiteral("zvuk.wav"));
     const QString made = folder.filePath(QStringLiteral("film.") + QFileInfo(file).suffix().toLower());
@@ -96,7 +99,7 @@ bool encodeFilm(const Film& film, const std::function<const QImage&(double)>& fr
     QProcess encoder;
     encoder.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     encoder.start(QStringLiteral("ffmpeg"), arguments(film, wave, made));
-    if (!encoder.waitForStarted() || !sendFrames(encoder, film, frame)) return false;
+    if (!encoder.waitForStarted() || !sendFrames(encoder, film, projector)) return false;
     encoder.closeWriteChannel();
     if (!encoder.waitForFinished(kTimeout) || encoder.exitCode() != 0) return false;
     return moveTo(made, file);

@@ -1,20 +1,17 @@
 #pragma once
 
-#include <QImage>
-#include <functional>
-
 #include "../sounds/sound.h"
 #include "film.h"
+#include "projector.h"
 
 namespace sarne::disc {
 
 constexpr int kFramesPerSecond = 25;
 
 /// Writes a film with its sound, through ffmpeg, as an AVI or, where \a file ends so, a Matroska file (.mkv).
-/// \a frame gives the picture of a moment; the film can be entered at its chapters. False when that fails;
-/// \a file is then as it was.
-bool encodeFilm(const Film& film, const std::function<const QImage&(double)>& frame, const Sound& sound,
-                const QString& file, const QString& scratch);
+/// It can be entered at its chapters. False when that fails; \a file is then as it was.
+bool encodeFilm(const Film& film, Projector& projector, const Sound& sound, const QString& file,
+                const QString& scratch);
 
 /// Converts any film that ffmpeg reads, \a source, to the size and the form that \a file ends in. False when
 /// that fails; \a file is then as it was.

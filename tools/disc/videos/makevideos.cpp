@@ -2,7 +2,10 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
+#include <functional>
 #include <mutex>
+#include <numeric>
 
 #include "../ownfiles.h"
 #include "../spelling.h"
@@ -134,6 +137,12 @@ QList<Job> staleJobs(Workshop& shop, const ContentFolder& folder, const Cast& ca
         if (shop.ledger.isCurrent(film, origin) && isCurrent) continue;
         jobs << Job{script, film, chapters, origin};
     }
+    // The longest first, so that no core waits for the last.
+    const auto length = [](const Job& job) {
+        return std::accumulate(job.script.scenes.cbegin(), job.script.scenes.cend(), qsizetype{0},
+                               [](qsizetype sum, const Scene& one) { return sum + one.speech.size(); });
+    };
+    std::ranges::stable_sort(jobs, std::ranges::greater(), length);
     if (!jobs.isEmpty()) proofread(folder, jobs, shop.problems);
     for (Job& job : jobs)
         for (Scene& scene : job.script.scenes) scene.caption = withUnbreakableBlanks(scene.caption);
@@ -191,8 +200,8 @@ bool make(const Job& job, const Studio& studio) {
     if (problems.errors().size() > before) return false;
     Projector projector(film, studio.cast, studio.shop.art,
                         [&](const QString& name) { return studio.grounds(name); });
-    const auto frame = [&](double at) -> const QImage& { return projector.frame(at); };
-    if (encodeFilm(film, frame, sound, job.film, studio.shop.scratch) && writeChapters(film, job.chapters))
+    if (encodeFilm(film, projector, sound, job.film, studio.shop.scratch) &&
+        writeChapters(film, job.chapters))
         return true;
     problems.error(job.script.place, QStringLiteral("ffmpeg z něj neudělal video"));
     return false;
@@ -222,9 +231,13 @@ void makeVideos(Workshop& shop, const QString& only) {
     const Cast cast = readFilmCast(folder, shop.art, shop.problems);
     const QList<Job> jobs = staleJobs(shop, folder, cast, only);
     const QList<Effect> effects = readEffects(folder.read(kEffects), shop.problems);
-    const Voices voices(shop.content, shop.scratch, shop.problems);
+    Voices voices(shop.content, shop.scratch, shop.problems);
     if (jobs.isEmpty() || shop.problems.hasErrors()) return;
     QDir().mkpath(shop.scratch);
+    QStringList speech;
+    for (const Job& job : jobs)
+        for (const Scene& scene : job.script.scenes) speech << scene.speech;
+    voices.prepare(speech, Speaker::films);
     GroundStore grounds(shop);
     const Studio studio{shop, cast, effects, voices, grounds};
     QList<Task> tasks;

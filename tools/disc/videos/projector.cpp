@@ -101,6 +101,7 @@ const QImage& Projector::frame(double seconds) {
         renewBackdrop(set, view, seconds);
     else
         backdropSet_ = -1;
+    changed_ = image_.rect();
     const double cut = set > 0 ? (seconds - film_.sets[set].begin) / kCut : 1;
     if (cut < 1) {
         drawCut(seconds, cut);
@@ -110,10 +111,10 @@ const QImage& Projector::frame(double seconds) {
         changes(set, seconds);
         drawWhole(seconds);
         set_ = set;
-    } else if (const QRegion where = changes(set, seconds); !where.isEmpty()) {
+    } else if (changed_ = changes(set, seconds); !changed_.isEmpty()) {
         QPainter painter(&image_);
-        painter.setClipRegion(where);
-        drawSet(painter, set, seconds, where);
+        painter.setClipRegion(changed_);
+        drawSet(painter, set, seconds, changed_);
     }
     view_ = view;
     seconds_ = seconds;

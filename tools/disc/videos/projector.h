@@ -24,6 +24,8 @@ class Projector {
 
     /// The picture at a moment of the film; valid until the next call.
     const QImage& frame(double seconds);
+    /// Where that picture may differ from the one before.
+    const QRegion& changed() const { return changed_; }
 
   private:
     /// What an actor looked like in the frame before.
@@ -58,6 +60,7 @@ class Projector {
     std::vector<std::vector<int>> orders_;
     std::vector<Shown> shown_;
     QImage image_;
+    QRegion changed_;
     QImage ground_;
     View groundView_;
     int groundSet_ = -1;

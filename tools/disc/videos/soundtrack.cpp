@@ -1,5 +1,6 @@
 #include "soundtrack.h"
 
+#include <QHash>
 #include <algorithm>
 #include <cmath>
 
@@ -60,13 +61,16 @@ void addCue(Sound& sound, const Cue& cue, const Sound& effect) {
 void addEffects(const Film& film, const QList<Effect>& effects, Sound& sound, Problems& problems) {
     QStringList names;
     for (const Effect& effect : effects) names << effect.name;
+    QHash<QString, Sound> rendered;
     for (const Cue& cue : film.cues) {
         const qsizetype found = names.indexOf(cue.effect);
-        if (found < 0)
+        if (found < 0) {
             problems.error(cue.place, QStringLiteral("zvuk „%1“ neexistuje").arg(cue.effect) +
                                           didYouMean(cue.effect, names));
-        else
-            addCue(sound, cue, renderEffect(effects[found]));
+            continue;
+        }
+        if (!rendered.contains(cue.effect)) rendered.insert(cue.effect, renderEffect(effects[found]));
+        addCue(sound, cue, rendered[cue.effect]);
     }
 }
 
