@@ -44,6 +44,10 @@ void addMoved(std::vector<Part>& all, const std::vector<Part>& parts, Move move)
     }
 }
 
+Picture inGrey(const Picture& picture) {
+    return Picture::fromImage(picture.image().convertToFormat(QImage::Format_Grayscale8));
+}
+
 void addTo(PrintedPage& page, const FlowLine& line, int top) {
     addMoved(page.texts, line.texts, [top](PageText& text) { text.baseline += top; });
     addMoved(page.pictures, line.pictures, [top](PagePicture& at) { at.place.translate(0, top); });
@@ -55,6 +59,7 @@ void addTo(PrintedPage& page, const FlowLine& line, int top) {
 
 PageComposer::PageComposer(PrintSource source, const PageScale& scale, TextMetrics& metrics)
     : source_(std::move(source)), page_(PageGeometry::of(scale)), metrics_(metrics), card_(scale.card) {
+    if (source_.grey) source_.logo = inGrey(source_.logo);
     logoPlace_ = placeLogo(source_.logo, page_, card_ ? kLogoHeight / 2 : kLogoHeight);
     const int headerHeight = metrics_.textHeight(headerFont());
     const int below = page_.top + logoPlace_.height() / 2 + (headerHeight + 1) / 2;
@@ -147,9 +152,7 @@ void PageComposer::loseColours(PrintedPage& page) const {
         const int grey = qGray(text.color);
         text.color = qRgb(grey, grey, grey);
     }
-    for (PagePicture& picture : page.pictures)
-        picture = {picture.place,
-                   Picture::fromImage(picture.picture.image().convertToFormat(QImage::Format_Grayscale8))};
+    for (PagePicture& picture : page.pictures) picture = {picture.place, inGrey(picture.picture)};
 }
 
 /// The header: the logo, and the title at the right margin.

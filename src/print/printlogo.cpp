@@ -42,7 +42,8 @@ QImage drawnLogo() {
 
 Picture printLogo(const Resources& resources) {
     const Picture logo = resources.picture(QStringLiteral("LogoTisk"));
-    return logo.isNull() ? Picture::fromImage(drawnLogo()) : logo;
+    // Decoded once, so that a file holds it once.
+    return Picture::fromImage(logo.isNull() ? drawnLogo() : logo.image());
 }
 
 }  // namespace sarne
