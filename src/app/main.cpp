@@ -1,4 +1,3 @@
-#include <malloc.h>
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
@@ -14,6 +13,7 @@
 #include "app/windowplace.h"
 #include "core/texts.h"
 #include "platform/endsignals.h"
+#include "platform/memory.h"
 #include "platform/singleinstance.h"
 
 namespace {
@@ -56,17 +56,6 @@ void keepWordsAtTheEnd(sarne::Program& program) {
     std::atexit([] {
         if (running) running->keepUnsaved();
     });
-}
-
-/// Pictures go back to the system when they are freed, however large they are. Left to itself the allocator
-/// would, after the first large one, keep the room of the next ones.
-void giveMemoryBack() {
-#ifdef __GLIBC__
-    constexpr int kPicture = 256 * 1024, kThreads = 2;
-    mallopt(M_MMAP_THRESHOLD, kPicture);
-    mallopt(M_TRIM_THRESHOLD, 2 * kPicture);
-    mallopt(M_ARENA_MAX, kThreads);
-#endif
 }
 
 }  // namespace

@@ -90,7 +90,7 @@ void Form::setPointer(Pointer pointer) {
             setCursor(Qt::WaitCursor);
             break;
         case Pointer::Back:
-            setCursor(app_.resources().cursor(QStringLiteral("ZPET"), scale()));
+            setCursor(app_.resources().cursor(QStringLiteral("ZPET"), scale(), devicePixelRatioF()));
             break;
     }
 }

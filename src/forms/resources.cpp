@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPixmap>
 #include <QResource>
@@ -66,16 +67,20 @@ std::vector<Picture> Resources::animation(int button) const {
     }
 }
 
-QCursor Resources::cursor(const QString& name, double scale) const {
+QCursor Resources::cursor(const QString& name, double scale, double ratio) const {
     constexpr int kCursorTwips = 480;
     const int side = qBound(16, qRound(kCursorTwips * scale), 128);
-    const QPixmap pixmap = picture(name).pixmap({side, side});
+    QPixmap pixmap = picture(name).pixmap(QSize(side, side) * ratio);
     if (pixmap.isNull()) return QCursor(Qt::ArrowCursor);
+    pixmap.setDevicePixelRatio(ratio);
+    // Of the picture's ratio X knows nothing, and counts its pixels to the place that points.
+    const double hundredth = (QGuiApplication::platformName() == u"xcb" ? ratio : 1) * side / 100;
     // The layout table holds "NAME x y", in hundredths of the picture's side.
     for (const QString& line : layout(QStringLiteral("kurzory")).split(u'\n')) {
         const QStringList parts = line.simplified().split(u' ');
         if (parts.size() >= 3 && parts[0].compare(name, Qt::CaseInsensitive) == 0)
-            return QCursor(pixmap, parts[1].toInt() * side / 100, parts[2].toInt() * side / 100);
+            return QCursor(pixmap, qRound(parts[1].toInt() * hundredth),
+                           qRound(parts[2].toInt() * hundredth));
     }
     return QCursor(pixmap);
 }

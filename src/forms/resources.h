@@ -23,8 +23,8 @@ class Resources {
     Picture picture(const QString& name) const;
     /// The frames of a main-screen button's animation, in order.
     std::vector<Picture> animation(int button) const;
-    /// A cursor for a display with \a scale pixels a twip.
-    QCursor cursor(const QString& name, double scale) const;
+    /// A cursor for a display with \a scale units a twip and \a ratio pixels a unit.
+    QCursor cursor(const QString& name, double scale, double ratio) const;
     /// A WAV image by its resource number.
     QByteArray effect(int number) const;
     /// A layout table of the art ("hlavni"), as text.

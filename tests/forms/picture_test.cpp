@@ -3,9 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QCursor>
+#include <QDir>
 #include <QFile>
 #include <QPainter>
+#include <QPixmap>
 #include <QTemporaryDir>
+
+#include "forms/resources.h"
 
 namespace sarne {
 namespace {
@@ -58,6 +63,24 @@ TEST(Picture, DrawnExactlyKeepsItsPlaceWithinThePixels) {
     EXPECT_NEAR(canvas.pixelColor(14, 10).red(), 128, 16);
     EXPECT_NEAR(canvas.pixelColor(14, 10).blue(), 128, 16);
     EXPECT_EQ(canvas.pixelColor(15, 10), QColor(Qt::blue));
+}
+
+TEST(Cursor, IsAsLargeOnAScaledDesktopAndPointsWhereItDid) {
+    QTemporaryDir folder;
+    for (const char* name : {"/obr", "/layout"}) QDir().mkpath(folder.path() + QLatin1String(name));
+    QImage image(64, 64, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    ASSERT_TRUE(image.save(folder.filePath(QStringLiteral("obr/ZPET.png"))));
+    QFile places(folder.filePath(QStringLiteral("layout/kurzory.txt")));
+    ASSERT_TRUE(places.open(QIODevice::WriteOnly) && places.write("zpet 25 50\n") > 0);
+    places.close();
+    const Resources resources(folder.path() + u'/');
+    for (const double ratio : {1., 1.25, 1.5, 2.}) {
+        const QCursor cursor = resources.cursor(QStringLiteral("ZPET"), 1. / 15, ratio);
+        EXPECT_EQ(cursor.pixmap().deviceIndependentSize(), QSizeF(32, 32)) << ratio;
+        EXPECT_EQ(cursor.pixmap().width(), 32 * ratio);
+        EXPECT_EQ(cursor.hotSpot(), QPoint(8, 16));
+    }
 }
 
 TEST(Picture, BrokenOnesDrawNothing) {

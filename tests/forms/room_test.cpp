@@ -55,7 +55,9 @@ class RoomTest : public testing::Test {
         QApplication::processEvents();
         return run.window.grab().toImage();
     }
-    static QColor at(const QImage& image, int x, int y) { return image.pixelColor(x, y); }
+    static QColor at(const QImage& image, int x, int y) {
+        return image.pixelColor((QPointF(x, y) * image.devicePixelRatio()).toPoint());
+    }
 
     FakeSarne run;
     RoomForm* form = nullptr;
@@ -97,8 +99,8 @@ TEST_F(RoomTest, WithoutAWidePictureTheRestIsNeverBlack) {
     for (const QSize& window : {QSize(1920, 1080), QSize(1280, 1024), QSize(3440, 1440), QSize(600, 900)}) {
         const QImage image = shot(Room(Picture::fromImage(plain({160, 120}, QColor(200, 100, 50)))), window);
         for (const QPoint& corner : {QPoint(0, 0), QPoint(window.width() - 1, window.height() - 1)})
-            EXPECT_GT(image.pixelColor(corner).red(), 60) << window.width();
-        EXPECT_EQ(image.pixelColor(window.width() / 2, window.height() / 2).red(), 200);
+            EXPECT_GT(at(image, corner.x(), corner.y()).red(), 60) << window.width();
+        EXPECT_EQ(at(image, window.width() / 2, window.height() / 2).red(), 200);
         form->unload();
         QApplication::sendPostedEvents(form, QEvent::DeferredDelete);
     }

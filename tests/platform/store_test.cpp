@@ -3,11 +3,14 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <csignal>
 
 #include "platform/drives.h"
+#include "platform/endsignals.h"
 #include "platform/settingsstore.h"
 #include "platform/singleinstance.h"
 #include "support/fakesettings.h"
+#include "testmedia.h"
 
 namespace sarne {
 namespace {
@@ -115,6 +118,18 @@ TEST(DrivesTest, TheStoreNamesLettersAndVolumesTakeTheRest) {
                                                                    {u'F', QStringLiteral("/media/b")},
                                                                    {u'Z', QStringLiteral("/z")}}));
     EXPECT_LE(driveLetters(store, QStringList(100, QStringLiteral("/m"))).size(), 26);
+}
+
+TEST(EndSignalsTest, EachIsToldOnceInTheEventLoop) {
+    int told = 0;
+    EndSignals signals;
+    QObject::connect(&signals, &EndSignals::received, [&] { ++told; });
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        const int before = told;
+        std::raise(signal);
+        EXPECT_EQ(told, before) << "not within what the signal has interrupted";
+        EXPECT_TRUE(waitFor([&] { return told == before + 1; })) << signal;
+    }
 }
 
 TEST(SingleInstanceTest, TheSecondIsRefusedUntilTheFirstEnds) {

@@ -8,6 +8,7 @@
 
 #include "app/program.h"
 #include "figures.h"
+#include "platform/memory.h"
 #include "platform/mpvcontrol.h"
 #include "platform/systemprinter.h"
 #include "tour.h"
@@ -94,6 +95,7 @@ int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QStri
 int main(int argc, char** argv) {
     using namespace sarne;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    giveMemoryBack();
     QApplication application(argc, argv);
     qInstallMessageHandler(keepLacking);
     QLoggingCategory::setFilterRules(QStringLiteral("sarne.*=true"));

@@ -12,13 +12,15 @@
 
 #include "app/program.h"
 #include "doors.h"
+#include "platform/memory.h"
 
 namespace sarne {
 namespace {
 
 /// What the process takes of the machine.
 struct Use {
-    double megabytes = 0, held = 0;  ///< of memory; of what was asked for and not given back
+    double megabytes = 0, held = 0;  ///< of memory of its own; of what was asked for and not given back
+    double resident = 0;             ///< of memory, with what is mapped of files
     qsizetype files = 0, threads = 0;
 
     static Use now() {
@@ -32,8 +34,8 @@ struct Use {
                 .size();
         };
         const double page = double(sysconf(_SC_PAGESIZE)) / 1e6;
-        return {pages.readAll().split(' ').value(1).toDouble() * page,
-                double(heap.uordblks + heap.hblkhd) / 1e6, entries("/proc/self/fd"),
+        return {ownMemory() / 1e6, double(heap.uordblks + heap.hblkhd) / 1e6,
+                pages.readAll().split(' ').value(1).toDouble() * page, entries("/proc/self/fd"),
                 entries("/proc/self/task")};
     }
 };
@@ -121,8 +123,9 @@ bool wander(Program& program, int steps, unsigned seed, QTextStream& out) {
         if (done % kEvery != 0) continue;
         now = Use::now();
         if (done == kWarm) warm = now;
-        out << done << " steps: " << now.megabytes << " MB, " << now.held << " MB held, " << now.files
-            << " files, " << now.threads << " threads, " << user.seen().size() << " screens seen" << Qt::endl;
+        out << done << " steps: " << now.megabytes << " MB, " << now.held << " MB held, " << now.resident
+            << " MB with files mapped, " << now.files << " files, " << now.threads << " threads, "
+            << user.seen().size() << " screens seen" << Qt::endl;
     }
     if (steps < kWarm) return !program.hasEnded();
     out << "Grown since step " << kWarm << ": " << 100 * (now.megabytes / warm.megabytes - 1) << " %"

@@ -49,7 +49,7 @@ void frmFotoBig::Zobraz(const PhotoRequest& request) {
     repaint();  // the words that ask for patience, while the photo loads
     steps_.start(request.photoIds, request.startPosition);
     zone_ = Zone::Right;  // what a click does; the pointer tells it from the first change of zone on
-    setCursor(app().resources().cursor(QStringLiteral("ZPET"), scale()));
+    setCursor(app().resources().cursor(QStringLiteral("ZPET"), scale(), devicePixelRatioF()));
     loadPhoto();
     tmrPosun.setInterval(request.slideInterval > 0 ? request.slideInterval : kDefaultInterval);
     if (request.slideShow) setSlideShow(true);
@@ -241,7 +241,7 @@ void frmFotoBig::setZone(Zone zone) {
 }
 
 void frmFotoBig::loadCursor() {
-    setCursor(app().resources().cursor(zoneCursor(zone_), scale()));
+    setCursor(app().resources().cursor(zoneCursor(zone_), scale(), devicePixelRatioF()));
 }
 
 // --- coming and going
