@@ -33,6 +33,7 @@ frmDialog::frmDialog(basSarne& sarne, const QString& prompt, Asks asks)
       asks_(asks),
       Label1(*this, QStringLiteral("Label1")),
       Text1(*this, QStringLiteral("Text1")) {
+    place({});
     Label1.setFont(kFont);
     Label1.setColor(colors::kPaper);
     Label1.setText(prompt);

@@ -53,6 +53,7 @@ void frmMessage::setUp(const QString& text, int style, int silent) {
     result_ = closeCode_;
     escape_ = escapeButton(parts.buttons);
     Label1.setText(text);
+    place({});  // however large the box was that was asked last
     Label1.autoSize();
     if (Label1.twips().width() > kMessageTextLimit) Label1.autoSize(kMessageTextLimit);
 
@@ -125,7 +126,7 @@ void frmMessage::mouseMoveEvent(QMouseEvent* event) {
     if (!(event->buttons() & Qt::LeftButton)) return;
     const QPoint at = toTwips(event->position());
     if (dragFrom_.isNull()) dragFrom_ = at;
-    const QPoint wanted = twips().topLeft() + at - dragFrom_;
+    const QPoint wanted = twips().topLeft() + (at - dragFrom_) * enlargement();
     moveTo({qBound(0, wanted.x(), Stage::kWidth - twips().width()),
             qBound(0, wanted.y(), Stage::kHeight - twips().height())});
 }

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cstdlib>
 
 #include "core/unbreakable.h"
 #include "forms/colors.h"
@@ -75,7 +76,7 @@ void Button::setCaptionPlace(CaptionPlace place) {
 QRect Button::framePlace() const {
     QRect room({0, 0}, twips().size());
     if (captionPlace_ == CaptionPlace::Below) {
-        const int lines = room.height() < kLow ? kOneLine : kTwoLines;
+        const int lines = int((room.height() < kLow ? kOneLine : kTwoLines) * form().textScale());
         const int side = std::min(room.width(), room.height() - lines);
         room = QRect((room.width() - side) / 2, 0, side, side);
     }
@@ -141,14 +142,43 @@ void Button::changeEvent(QEvent* event) {
         unsetCursor();
 }
 
+int Button::captionFlags() const {
+    switch (captionPlace_) {
+        case CaptionPlace::Below:
+            return Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+        case CaptionPlace::Beside:
+            return Qt::AlignCenter | Qt::TextWordWrap;
+        default:
+            return Qt::AlignCenter | Qt::TextShowMnemonic;
+    }
+}
+
+/// Buttons of one row or column; their sizes may differ by what a division leaves over.
+bool Button::isAlike(const Button& other) const {
+    constexpr int kNearly = 15;
+    const QSize apart = other.twips().size() - twips().size();
+    return other.captionPlace_ == captionPlace_ && other.font_ == font_ &&
+           std::abs(apart.width()) < kNearly && std::abs(apart.height()) < kNearly &&
+           !other.caption_.isEmpty() && other.isVisibleTo(&form()) == isVisibleTo(&form());
+}
+
+double Button::roomToGrow() const {
+    return room_.of(font_, form().textScale(), withUnbreakableBlanks(caption_), captionRoom().size(), captionFlags());
+}
+
+/// Captions of buttons of one kind are of one size.
+double Button::growth() const {
+    if (form().textScale() <= 1) return 1;
+    double growth = roomToGrow();
+    for (const Button* other : form().findChildren<Button*>(Qt::FindDirectChildrenOnly))
+        if (isAlike(*other)) growth = std::min(growth, other->roomToGrow());
+    return growth;
+}
+
 void Button::paintCaption(QPainter& painter) const {
-    const bool below = captionPlace_ == CaptionPlace::Below;
-    const int flags = below ? Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap
-                      : captionPlace_ == CaptionPlace::Beside ? Qt::AlignCenter | Qt::TextWordWrap
-                                                              : Qt::AlignCenter | Qt::TextShowMnemonic;
-    painter.setFont(font_.toQFont());
-    painter.setPen(below ? colors::kTitle : QColor(Qt::white));
-    painter.drawText(captionRoom(), flags, withUnbreakableBlanks(caption_));
+    painter.setFont(larger(font_, growth()).toQFont());
+    painter.setPen(captionPlace_ == CaptionPlace::Below ? colors::kTitle : QColor(Qt::white));
+    painter.drawText(captionRoom(), captionFlags(), withUnbreakableBlanks(caption_));
 }
 
 void Button::paint(QPainter& painter) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/control.h"
+#include "forms/largertext.h"
 #include "forms/picture.h"
 #include "richtext/surface.h"
 
@@ -53,6 +54,10 @@ class Button : public Control {
     QRect captionRoom() const;
     void paintFrame(QPainter& painter, const QRect& place) const;
     void paintCaption(QPainter& painter) const;
+    int captionFlags() const;
+    bool isAlike(const Button& other) const;
+    double roomToGrow() const;
+    double growth() const;
 
     Picture face_, raised_, pressed_;
     Frame frame_ = Frame::None;
@@ -60,6 +65,7 @@ class Button : public Control {
     CaptionPlace captionPlace_ = CaptionPlace::Over;
     TextFont font_;
     QColor ground_ = Qt::transparent;
+    RoomToGrow room_;
 };
 
 }  // namespace sarne

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "forms/colors.h"
 #include "forms/eyes.h"
@@ -14,6 +15,7 @@ constexpr double kStrongDisabled = .9;  // opacity, for eyes that need contrast
 
 constexpr int kMark = 270;  // side of the box
 constexpr int kGap = 120;   // from the box to the caption
+constexpr int kCaptionFlags = Qt::AlignLeft | Qt::AlignVCenter;
 
 }  // namespace
 
@@ -66,6 +68,24 @@ void CheckBox::keyPressEvent(QKeyEvent* event) {
     Control::keyPressEvent(event);
 }
 
+QRect CheckBox::captionRoom() const {
+    return QRect({0, 0}, twips().size()).adjusted(kGap / 2 + kMark + kGap, 0, 0, 0);
+}
+
+double CheckBox::roomToGrow() const {
+    return room_.of(font_, form().textScale(), caption_, captionRoom().size(), kCaptionFlags);
+}
+
+/// Captions of boxes of one kind are of one size.
+double CheckBox::growth() const {
+    if (form().textScale() <= 1) return 1;
+    double growth = roomToGrow();
+    for (const CheckBox* other : form().findChildren<CheckBox*>())
+        if (other->font_ == font_ && other->isVisibleTo(&form()))
+            growth = std::min(growth, other->roomToGrow());
+    return growth;
+}
+
 void CheckBox::paint(QPainter& painter) {
     const QRect place({0, 0}, twips().size());
     if (!isEnabled())
@@ -75,9 +95,9 @@ void CheckBox::paint(QPainter& painter) {
         paintMark(painter, box);
     else
         markPicture().draw(painter, box, Fit::Inside);
-    painter.setFont(font_.toQFont());
+    painter.setFont(larger(font_, growth()).toQFont());
     painter.setPen(color_);
-    painter.drawText(place.adjusted(box.right() + kGap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, caption_);
+    painter.drawText(captionRoom(), kCaptionFlags, caption_);
 }
 
 void CheckBox::paintMark(QPainter& painter, const QRect& place) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/control.h"
+#include "forms/largertext.h"
 #include "forms/picture.h"
 #include "richtext/surface.h"
 
@@ -37,11 +38,16 @@ class CheckBox : public Control {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    QRect captionRoom() const;
+    double roomToGrow() const;
+    double growth() const;
+
     QString caption_;
     TextFont font_;
     QColor color_;
     Picture on_, off_;
     bool checked_ = false;
+    RoomToGrow room_;
 };
 
 /// One of several choices of a form: choosing one gives up the others of the same group. Its pictures are

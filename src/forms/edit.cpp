@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
+#include <algorithm>
 
 #include "forms/colors.h"
 #include "forms/editmenu.h"
@@ -13,6 +14,11 @@
 #include "forms/form.h"
 
 namespace sarne {
+namespace {
+
+constexpr int kBorder = 30;  // twips
+
+}  // namespace
 
 Edit::Edit(Form& form, const QString& name) : Control(form, name), line_(new QLineEdit(this)) {
     line_->setObjectName(name + QStringLiteral(".line"));
@@ -62,9 +68,12 @@ void Edit::rescale() {
     line_->setGeometry(rect());
     // The line lays its text out in pixels, so its font is scaled by hand.
     QFont font = font_.toQFont();
-    font.setPixelSize(qMax(8, qRound(font_.size * 20 * scale())));
+    constexpr double kLineHeight = 1.2;  // of the letters' size
+    const double size = std::min(font_.size * 20 * form().textScale(),
+                                 std::max(font_.size * 20, (twips().height() - 2 * kBorder) / kLineHeight));
+    font.setPixelSize(qMax(8, qRound(size * scale())));
     line_->setFont(font);
-    const int border = qMax(1, qRound(30 * scale()));
+    const int border = qMax(1, qRound(kBorder * scale()));
     line_->setStyleSheet(
         QStringLiteral("QLineEdit{background:%1;color:%2;border:%5px solid %3;border-radius:%6px;"
                        "padding:0 %6px;selection-background-color:%4;selection-color:%1}")

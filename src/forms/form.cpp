@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "core/texts.h"
 #include "forms/bassarne.h"
@@ -118,6 +119,17 @@ QAccessible::Role Form::role() const {
 
 const Eyes& Form::eyes() const {
     return app_.stage().eyes();
+}
+
+double Form::enlargement() const {
+    if (!growsWithTexts()) return 1;
+    const QSizeF size = twips().size().expandedTo({1, 1});
+    return std::max(
+        1., std::min({eyes().textScale(), Stage::kWidth / size.width(), Stage::kHeight / size.height()}));
+}
+
+double Form::textScale() const {
+    return eyes().textScale() / enlargement();
 }
 
 void Form::endProgram() {

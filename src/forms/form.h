@@ -68,6 +68,9 @@ class Form : public TwipWidget {
     virtual void eyeSettings();
     /// What the eyes that look at the form need.
     const Eyes& eyes() const;
+    /// How much larger than designed the form draws its texts. A form that is itself drawn larger has done
+    /// part of that already, or all.
+    double textScale() const;
     /// The eyes need other things than before: lays texts out anew, in the new size.
     virtual void eyesChanged() {}
     /// What F9 reads aloud: by default all texts that show, from the top left to the bottom right.
@@ -90,6 +93,11 @@ class Form : public TwipWidget {
     virtual bool keyDown(QKeyEvent& event);
     /// The form has got the keyboard, as by a click on what shows of it: the screen on top takes it.
     virtual void gotFocus();
+
+    /// Whether the form is drawn larger for eyes that want larger texts: what does not fill the display has
+    /// room for that, up to its edges.
+    virtual bool growsWithTexts() const { return !fillsWindow(); }
+    double enlargement() const override;
 
     /// A form with the design's own place fills the display: the room around the design area is its own, too.
     bool fillsWindow() const override;

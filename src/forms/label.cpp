@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 #include "core/unbreakable.h"
@@ -64,6 +65,11 @@ void Label::setClickable(bool clickable) {
     showPointer();
 }
 
+void Label::setGrows(bool grows) {
+    grows_ = grows;
+    update();
+}
+
 void Label::setMargins(int left, int right) {
     left_ = left;
     right_ = right;
@@ -94,7 +100,32 @@ QSize Label::measure(const QString& text, const TextFont& font, int width) {
 
 void Label::autoSize(int width) {
     wraps_ = width > 0;
-    place({twips().topLeft(), measure(text_, font_, width)});
+    place({twips().topLeft(), measure(text_, grows_ ? larger(font_, form().textScale()) : font_, width)});
+}
+
+int Label::flags() const {
+    return int(alignment_) | (wraps_ ? Qt::TextWordWrap : 0);
+}
+
+QRect Label::textRoom() const {
+    return QRect({0, 0}, twips().size()).adjusted(left_, 0, -right_, 0);
+}
+
+bool Label::isAlike(const Label& other) const {
+    return other.font_ == font_ && other.twips().size() == twips().size() && other.wraps_ == wraps_ &&
+           other.isVisibleTo(&form()) == isVisibleTo(&form());
+}
+
+double Label::roomToGrow() const {
+    return room_.of(font_, form().textScale(), wraps_ ? withUnbreakableBlanks(text_) : text_, textRoom().size(), flags());
+}
+
+double Label::growth() const {
+    if (!grows_ || form().textScale() <= 1) return 1;
+    double growth = roomToGrow();
+    for (const Label* other : form().findChildren<Label*>(Qt::FindDirectChildrenOnly))
+        if (isAlike(*other)) growth = std::min(growth, other->roomToGrow());
+    return growth;
 }
 
 void Label::paint(QPainter& painter) {
@@ -105,12 +136,11 @@ void Label::paint(QPainter& painter) {
         painter.drawRoundedRect(place, kCorner, kCorner);
     } else if (clickable_ && isPointedAt() && isEnabled())
         painter.fillRect(place, kLit);
-    painter.setFont(font_.toQFont());
+    painter.setFont(larger(font_, growth()).toQFont());
     painter.setPen(color_);
     if (!isEnabled())
         painter.setOpacity(form().eyes().hasContrast() ? kStrongDisabled : colors::kDisabledText);
-    painter.drawText(place.adjusted(left_, 0, -right_, 0), int(alignment_) | (wraps_ ? Qt::TextWordWrap : 0),
-                     wraps_ ? withUnbreakableBlanks(text_) : text_);
+    painter.drawText(textRoom(), flags(), wraps_ ? withUnbreakableBlanks(text_) : text_);
 }
 
 }  // namespace sarne

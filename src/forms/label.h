@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/control.h"
+#include "forms/largertext.h"
 #include "richtext/surface.h"
 
 namespace sarne {
@@ -21,6 +22,9 @@ class Label : public Control {
     void setWordWrap(bool wraps);
     /// A clickable label takes the mouse, shows a hand and lights up under it.
     void setClickable(bool clickable);
+    /// By default a text is drawn larger for eyes that want that, as far as its place has room, and labels of
+    /// one kind alike. Not so where the form has seen to the font's size.
+    void setGrows(bool grows);
     /// Empty room at the text's ends.
     void setMargins(int left, int right);
 
@@ -38,6 +42,11 @@ class Label : public Control {
 
   private:
     void showPointer();
+    int flags() const;
+    QRect textRoom() const;
+    bool isAlike(const Label& other) const;
+    double roomToGrow() const;
+    double growth() const;
 
     QString text_;
     TextFont font_;
@@ -45,7 +54,8 @@ class Label : public Control {
     QColor ground_ = Qt::transparent;
     Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignTop;
     int left_ = 0, right_ = 0;
-    bool wraps_ = false, clickable_ = false;
+    bool wraps_ = false, clickable_ = false, grows_ = true;
+    RoomToGrow room_;
 };
 
 }  // namespace sarne

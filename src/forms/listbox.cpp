@@ -179,7 +179,7 @@ void ListBox::rescale() {
     Control::rescale();
     // The view lays its rows out in pixels, so its font is scaled by hand.
     QFont font = font_.toQFont();
-    font.setPixelSize(qMax(8, qRound(font_.size * form().eyes().textScale() * 20 * scale())));
+    font.setPixelSize(qMax(8, qRound(font_.size * form().textScale() * 20 * scale())));
     view_->setFont(font);
     view_->setStyleSheet(dress(15 * scale(), form().eyes().selected()));
     view_->setAccessibleName(accessibleName());

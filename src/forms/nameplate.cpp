@@ -170,9 +170,14 @@ void NamePlate::dismiss() {
     hide();
 }
 
+TextFont NamePlate::font() const {
+    return larger(kFont, stage_.eyes().textScale());
+}
+
 QSize NamePlate::sizeFor(const QString& text) const {
-    QSize size = Label::measure(text, kFont);
-    if (size.width() > kWidest) size = Label::measure(text, kFont, kWidest);
+    const int widest = int(kWidest * stage_.eyes().textScale());
+    QSize size = Label::measure(text, font());
+    if (size.width() > widest) size = Label::measure(text, font(), widest);
     return size + QSize(2 * kMarginX, 2 * kMarginY);
 }
 
@@ -185,7 +190,7 @@ QRect NamePlate::pointerPlace() const {
 void NamePlate::settle() {
     const QPointF corner =
         (QPointF(thing_->mapTo(&stage_, QPoint())) - stage_.designOrigin()) / stage_.scale();
-    const QRect thing = QRectF(corner, QSizeF(thing_->twips().size())).toAlignedRect();
+    const QRect thing = QRectF(corner, QSizeF(thing_->size()) / stage_.scale()).toAlignedRect();
     place(namePlatePlace(sizeFor(tipOf(thing_)), thing, pointerPlace()));
 }
 
@@ -197,7 +202,7 @@ void NamePlate::paint(QPainter& painter) {
     painter.setPen(QPen(colors::kCopper, 30));
     painter.setBrush(colors::kPaper);
     painter.drawRoundedRect(plate.adjusted(30, 30, -30, -30), 82, 82);
-    painter.setFont(kFont.toQFont());
+    painter.setFont(font().toQFont());
     painter.setPen(colors::kInk);
     painter.drawText(plate.adjusted(kMarginX - 15, 0, 15 - kMarginX, 0), Qt::AlignCenter | Qt::TextWordWrap,
                      withUnbreakableBlanks(tipOf(thing_)));

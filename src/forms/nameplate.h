@@ -4,6 +4,7 @@
 
 #include "forms/timer.h"
 #include "forms/twipwidget.h"
+#include "richtext/surface.h"
 
 namespace sarne {
 
@@ -42,6 +43,7 @@ class NamePlate : public TwipWidget {
     void settle();
     Control* thingAt(QPoint pixels) const;
     QRect pointerPlace() const;
+    TextFont font() const;
     QSize sizeFor(const QString& text) const;
 
     Stage& stage_;

@@ -118,7 +118,7 @@ void NoteEdit::rescale() {
     editor_->setGeometry(rect());
     // The editor lays its text out in pixels, so its font is scaled by hand.
     QFont font = font_.toQFont();
-    font.setPixelSize(qMax(8, qRound(font_.size * form().eyes().textScale() * 20 * scale())));
+    font.setPixelSize(qMax(8, qRound(font_.size * form().textScale() * 20 * scale())));
     editor_->setStyleSheet(editorStyle(scale()));
     editor_->setFont(font);
     editor_->setCursorWidth(qMax(1, qRound(20 * scale())));

@@ -127,7 +127,7 @@ TextMetrics* TextView::textMetrics() {
 }
 
 double TextView::textScale() const {
-    return form().eyes().textScale() * larger_;
+    return form().textScale() * larger_;
 }
 
 void TextView::setCaret(qsizetype offset) {

@@ -1,6 +1,7 @@
 #include "forms/twipwidget.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 #include "forms/stage.h"
@@ -14,19 +15,34 @@ void TwipWidget::place(const QRect& twips) {
     rescale();
 }
 
+QRectF TwipWidget::enlargedPlace() const {
+    QRectF place(twips_);
+    if (const double larger = enlargement(); larger != 1) {
+        place.setSize(place.size() * larger);
+        place.moveCenter(QRectF(twips_).center());
+        place.moveLeft(std::clamp(place.left(), 0., std::max(0., Stage::kWidth - place.width())));
+        place.moveTop(std::clamp(place.top(), 0., std::max(0., Stage::kHeight - place.height())));
+    }
+    return place;
+}
+
 void TwipWidget::rescale() {
     const auto* stage = qobject_cast<Stage*>(parentWidget());
     QPointF parentExact;
     QPoint parentPixel;
+    QPointF corner = twips_.topLeft();
+    double unit = 0;  // of the corner: pixels a twip
     if (stage) {
-        scale_ = stage->scale();
+        unit = stage->scale();
+        scale_ = unit * enlargement();
         parentExact = stage->designOrigin();
+        corner = enlargedPlace().topLeft();
     } else if (const auto* parent = qobject_cast<TwipWidget*>(parentWidget())) {
-        scale_ = parent->scale_;
+        unit = scale_ = parent->scale_;
         parentExact = parent->exactOrigin_;
         parentPixel = parent->pixelOrigin_;
     }
-    exactOrigin_ = parentExact + QPointF(twips_.topLeft()) * scale_;
+    exactOrigin_ = parentExact + corner * unit;
     const QPoint first = exactOrigin_.toPoint();
     const QPoint end = (exactOrigin_ + QPointF(twips_.width(), twips_.height()) * scale_).toPoint();
     const QRect pixels = stage && fillsWindow()

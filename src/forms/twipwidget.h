@@ -39,12 +39,18 @@ class TwipWidget : public QWidget {
     /// Whether the widget covers the whole window, beyond its place to all sides. Its twips stay where they
     /// are.
     virtual bool fillsWindow() const { return false; }
+    /// How much larger than its place the widget is drawn, with all within it; around the middle of its
+    /// place, and whole on the stage. Only what lies on the stage itself is.
+    virtual double enlargement() const { return 1; }
     /// What this widget covers, in its twips: its place, or more where it fills the window.
     QRectF covered() const;
     void paintEvent(QPaintEvent* event) override;
 
   private:
     friend class Stage;
+
+    /// The place on the stage, in its twips, zoomed.
+    QRectF enlargedPlace() const;
 
     QRect twips_;
     double scale_ = 1. / 15;

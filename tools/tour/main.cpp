@@ -133,7 +133,10 @@ int main(int argc, char** argv) {
                                       QStringLiteral("instead of the tour, measure what a user waits for"));
     const QCommandLineOption contrast(QStringLiteral("contrast"),
                                       QStringLiteral("in high contrast, where texts keep 7 : 1"));
-    options.addOptions({contrast, measured, only, size, program, disc, expect, look, accept, steps, seed});
+    const QCommandLineOption textSize(QStringLiteral("text"), QStringLiteral("size of texts in percent"),
+                                      QStringLiteral("100|125|150"), QStringLiteral("100"));
+    options.addOptions(
+        {contrast, textSize, measured, only, size, program, disc, expect, look, accept, steps, seed});
     options.process(application);
     const QStringList wide = options.value(size).split(u'x');
     if (options.positionalArguments().size() != 1 || wide.size() != 2) options.showHelp(2);
@@ -165,6 +168,7 @@ int main(int argc, char** argv) {
     Looks looks(options.value(look), options.value(size));
     Tour tour(run, pictures, looks);
     run.stage().eyes().setContrast(options.isSet(contrast));
+    run.stage().eyes().setTextPercent(options.value(textSize).toInt());
     if (options.isSet(contrast)) tour.askContrast(7);
     tour.skipIntro();
     run.Main({});

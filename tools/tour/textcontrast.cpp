@@ -128,7 +128,8 @@ class WatchingEngine final : public QPaintEngine {
         // A letter's box is larger than the letter.
         const bool whole = 4 * place.width() * place.height() >= 3 * all.width() * all.height() &&
                            place.width() + all.height() / 2 >= all.width();
-        return {item.text(), place, painter_.pen().color(), QColor(worst->second), worst->first, whole};
+        const double size = item.font().pixelSize() * painter_.transform().m22();
+        return {item.text(), place, painter_.pen().color(), QColor(worst->second), worst->first, whole, size};
     }
 
     static bool isShadow(const TextContrast& earlier, const TextContrast& text) {

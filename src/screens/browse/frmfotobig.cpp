@@ -89,7 +89,7 @@ void frmFotoBig::decode() {
 }
 
 void frmFotoBig::placeTitle() {
-    const QSize size = Label::measure(lblNazev.text(), kTitleFont);
+    const QSize size = Label::measure(lblNazev.text(), larger(kTitleFont, textScale()));
     lblNazev.place({(basSarne::ScreenWidthTw - size.width()) / 2, kTitleBottom - size.height(), size.width(),
                     size.height()});
 }

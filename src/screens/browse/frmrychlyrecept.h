@@ -21,6 +21,7 @@ class frmRychlyRecept : public Form {
     void setPicture(const QImage& picture, const QString& words);
 
   protected:
+    bool growsWithTexts() const override { return false; }  // a photo in the room that there is
     void gotFocus() override;
     void mousePressEvent(QMouseEvent* event) override;
     void paint(QPainter& painter) override;

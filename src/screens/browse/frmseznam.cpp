@@ -81,6 +81,7 @@ void frmSeznam::eyesChanged() {
     for (Button* arrow : imgSipky) arrow->setVisible(pages_.scrolls());
     ground_.forget();
     drawPage();
+    if (lblVino.isVisible()) showWine();
     update();
 }
 
@@ -251,10 +252,11 @@ void frmSeznam::showWine() {
     picFoto.setAccessibleName(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     lblVino.setText(text);
     // A long list of wines is set smaller, down to what can still be read.
-    TextFont font{QStringLiteral("Times New Roman"), 15};
+    TextFont font{QStringLiteral("Times New Roman"), 15 * textScale()};
     const QRect place = seznam::kWineText;
     while (font.size > 11 && Label::measure(text, font, place.width()).height() > place.height())
         font.size -= 1;
+    lblVino.setGrows(false);  // it has just done so
     lblVino.setFont(font);
     const int height = Label::measure(text, font, place.width()).height();
     // At the bottom, below what the picture is about.

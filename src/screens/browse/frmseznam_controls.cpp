@@ -85,6 +85,7 @@ void frmSeznam::buildList() {
 void frmSeznam::connectRow(int row) {
     auto* label = new Label(*this, QStringLiteral("lblSeznam(%1)").arg(row));
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    label->setWordWrap(true);
     label->setClickable(true);
     label->setUnheard(true);
     connect(label, &Control::clicked, this, [this, row] { selectRow(row); });
@@ -97,9 +98,7 @@ void frmSeznam::connectRow(int row) {
 void frmSeznam::placeRows() {
     const bool large = pages_.count() <= seznam::kRows / 2;
     pitch_ = large ? seznam::kLargePitch : seznam::kRows * seznam::kPitch / shownRows();
-    TextFont font = kRowFont;
-    font.size *= eyes().textScale();
-    if (large) font.size = std::max(font.size, kLargeRowFont.size);
+    const TextFont& font = large ? kLargeRowFont : kRowFont;
     for (int number = 1; number <= seznam::kRows; ++number) {
         Label& label = *lblSeznam[size_t(number - 1)];
         const QRect bar = seznam::rowBar(number, pitch_);

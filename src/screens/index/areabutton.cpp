@@ -23,12 +23,19 @@ AreaButton::AreaButton(Form& form, const QString& name, const QString& caption)
     setAccessibleName(caption);
 }
 
+/// As large as the eyes want, where the name then covers no more than half of the thing.
+TextFont AreaButton::font() const {
+    const QSize room(twips().width() - 2 * (kPlateMargin + kAreaEdge), twips().height() / 2);
+    return larger(kFont,
+                  room_.of(kFont, form().textScale(), caption_, room, Qt::AlignCenter | Qt::TextWordWrap));
+}
+
 /// As wide as the name, on as many lines as it needs, in the middle of the area's lower edge.
 QRect AreaButton::plate() const {
     const QSize area = twips().size();
     const int room = area.width() - 2 * (kPlateMargin + kAreaEdge);
-    QSize text = Label::measure(caption_, kFont);
-    if (text.width() > room) text = Label::measure(caption_, kFont, std::max(1, room));
+    QSize text = Label::measure(caption_, font());
+    if (text.width() > room) text = Label::measure(caption_, font(), std::max(1, room));
     QRect place({0, 0}, text + QSize(2 * kPlateMargin, kPlateMargin));
     place.moveCenter({area.width() / 2, 0});
     place.moveBottom(area.height() - kAreaEdge);
@@ -64,7 +71,7 @@ void AreaButton::paint(QPainter& painter) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground);
     painter.drawRoundedRect(place, 60, 60);
-    painter.setFont(kFont.toQFont());
+    painter.setFont(font().toQFont());
     painter.setPen(marked ? Qt::white : colors::kTitle);
     painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, caption_);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/control.h"
+#include "forms/largertext.h"
 
 namespace sarne {
 
@@ -19,10 +20,12 @@ class AreaButton : public Control {
     void paint(QPainter& painter) override;
 
   private:
+    TextFont font() const;
     QRect plate() const;
     void paintLight(QPainter& painter) const;
 
     QString caption_;
+    RoomToGrow room_;
 };
 
 }  // namespace sarne

@@ -47,7 +47,7 @@ void BarForm::setTitle(const QString& title) {
 }
 
 int BarForm::titleEnd() const {
-    return kTitle.left() + Label::measure(title(), kTitleFont).width();
+    return kTitle.left() + Label::measure(title(), larger(kTitleFont, textScale())).width();
 }
 
 void BarForm::open(Control& first) {

@@ -31,6 +31,11 @@ bool frmIndex::showKeyword(int keyword) {
     return true;
 }
 
+/// The caption below the picture has another height now.
+void frmIndex::eyesChanged() {
+    if (visited_.current().keyword > 0) showKeyword(visited_.current().keyword);
+}
+
 void frmIndex::linkActivated(const LinkKey& key) {
     if (key.kind != LinkKind::Keyword) return TextForm::linkActivated(key);
     const int offset = view().scrolled();

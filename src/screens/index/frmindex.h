@@ -18,6 +18,7 @@ class frmIndex : public TextForm {
     bool Zobraz(std::int16_t keyword);
 
     void goBack() override;
+    void eyesChanged() override;
 
   protected:
     void linkActivated(const LinkKey& key) override;

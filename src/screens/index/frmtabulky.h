@@ -18,7 +18,7 @@ class FrmTabulky : public BarForm {
   protected:
     void print() override;
     bool keyDown(QKeyEvent& event) override;
-    void eyesChanged() override { table_.layOutAgain(); }
+    void eyesChanged() override { layOut(); }
     void paint(QPainter& painter) override;
 
   private:

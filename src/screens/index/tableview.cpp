@@ -25,7 +25,7 @@ TableView::TableView(Form& form, const QString& name) : Control(form, name) {
 }
 
 TextFont TableView::scaled(TextFont font) const {
-    font.size *= form().eyes().textScale();
+    font.size *= form().textScale();
     return font;
 }
 

@@ -33,18 +33,7 @@ constexpr int kLongestNote = 200;         // characters
 /// Points: read from two metres.
 const TextFont kStepFont{QStringLiteral("Arial"), 28};
 const TextFont kNeedFont{QStringLiteral("Arial"), 17};
-constexpr double kNeedSizes[] = {17, 15, 13, 11};
-
-/// Sets \a text in the largest of the sizes in which it fits the label's place.
-void fit(Label& label, const QString& text, const QRect& place) {
-    label.place(place);
-    for (const double size : kNeedSizes) {
-        const TextFont font{QStringLiteral("Arial"), size};
-        label.setFont(font);
-        if (Label::measure(text, font, place.width()).height() <= place.height()) break;
-    }
-    label.setText(QString(text).replace(QStringLiteral("–\u00a0"), QStringLiteral("–\u2060\u00a0")));
-}
+constexpr double kLeastNeed = 11, kNeedStep = 2;
 
 /// A range stays on one line: "8–10" is not to be broken behind its dash.
 QString unbroken(QString text) {
@@ -79,6 +68,8 @@ CookingBoard::CookingBoard(Form& form)
     paper.setAccessibleName(Texts::tr("Dál"));
     dress(side, kSideTitle, {QStringLiteral("Arial"), 13, true}, colors::kTitle);
     dress(needs, kNeeds, kNeedFont, colors::kPaper);
+    for (Label* sized : {&text, &needs}) sized->setGrows(false);  // the pages are cut to their sizes
+    takeTextSize();
     list.place(kText);
     list.setPoints(17);
     list.setAccessibleName(Texts::tr("Suroviny"));
@@ -104,8 +95,26 @@ CookingBoard::CookingBoard(Form& form)
     }
 }
 
-bool CookingBoard::fits(const QString& words) {
-    return Label::measure(words, kStepFont, kText.width()).height() <= kText.height();
+TextFont CookingBoard::sized(const TextFont& font) const {
+    return larger(font, text.form().textScale());
+}
+
+bool CookingBoard::fits(const QString& words) const {
+    return Label::measure(words, sized(kStepFont), kText.width()).height() <= kText.height();
+}
+
+void CookingBoard::takeTextSize() {
+    text.setFont(sized(kStepFont));
+}
+
+/// What is needed in the largest size in which \a place holds it.
+void CookingBoard::fit(const QString& needed, const QRect& place) {
+    TextFont font = sized(kNeedFont);
+    while (font.size > kLeastNeed && Label::measure(needed, font, place.width()).height() > place.height())
+        font.size = std::max(kLeastNeed, font.size - kNeedStep);
+    needs.place(place);
+    needs.setFont(font);
+    needs.setText(QString(needed).replace(QStringLiteral("–\u00a0"), QStringLiteral("–\u2060\u00a0")));
 }
 
 std::vector<TwipWidget*> CookingBoard::stops() {
@@ -143,7 +152,7 @@ void CookingBoard::showReady(const CookingRecipe& recipe, const std::vector<bool
     if (list.selected() == RowPaging::kNone) list.select(1);
     showTimes({});
     side.setText(Texts::tr("Nádobí a nářadí"));
-    fit(needs, recipe.tools.join(u'\n'), kNeeds);
+    fit(recipe.tools.join(u'\n'), kNeeds);
 }
 
 void CookingBoard::showStep(const CookingRecipe& recipe, const CookingPage& page) {
@@ -159,11 +168,11 @@ void CookingBoard::showNeeds(const QString& lines) {
     side.setText(lines.isEmpty() ? QString() : Texts::tr("Je potřeba"));
     QRect room = kNeeds;
     room.setBottom(times_.empty() ? kSide.bottom() - 90 : timeButtons[0]->twips().top() - 90);
-    const int used = lines.isEmpty() ? 0 : Label::measure(lines, kNeedFont, room.width()).height();
+    const int used = lines.isEmpty() ? 0 : Label::measure(lines, sized(kNeedFont), room.width()).height();
     const bool showsPhoto = room.height() - used > kPhoto.height() + 150 && times_.empty();
     photo.setVisible(showsPhoto);
     if (showsPhoto) room.setBottom(kPhoto.top() - 90);
-    fit(needs, lines, room);
+    fit(lines, room);
 }
 
 void CookingBoard::showDone(const QString& words, int given) {

@@ -22,7 +22,9 @@ class CookingBoard {
     explicit CookingBoard(Form& form);
 
     /// Whether \a text fits a page.
-    static bool fits(const QString& text);
+    bool fits(const QString& text) const;
+    /// Takes on the size of texts that the eyes want; before a page is shown.
+    void takeTextSize();
 
     /// Shows what to get ready, \a ready telling what is.
     void showReady(const CookingRecipe& recipe, const std::vector<bool>& ready);
@@ -53,6 +55,8 @@ class CookingBoard {
     void showTimes(const QString& text);
     void placeTime(int index, int count, const QString& words);
     void showNeeds(const QString& lines);
+    TextFont sized(const TextFont& font) const;
+    void fit(const QString& needed, const QRect& place);
 
     std::vector<FoundTime> times_;
 };

@@ -323,7 +323,7 @@ void frmNakup::paint(QPainter& painter) {
     paintPaper(painter, kPaper);
     paintPlate(painter, kSide);
     if (!list_.isEmpty()) return;
-    painter.setFont(TextFont{QStringLiteral("Times New Roman"), 18}.toQFont());
+    painter.setFont(larger({QStringLiteral("Times New Roman"), 18}, textScale()).toQFont());
     painter.setPen(colors::kInk);
     painter.drawText(
         kRows.adjusted(600, 600, -600, -600), Qt::AlignCenter | Qt::TextWordWrap,

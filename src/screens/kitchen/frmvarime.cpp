@@ -118,11 +118,28 @@ bool frmVarime::Zobraz(std::int16_t id, const Serving& serving) {
 void frmVarime::readRecipe(std::int16_t id, const Serving& serving) {
     recipe_ = readCookingRecipe(app().Db(), id, serving, app().Locale);
     ready_.assign(recipe_.ingredients.size(), false);
-    pages_ = cookingPages(recipe_.steps, &CookingBoard::fits);
+    layOutPages();
     board_.photo.setAccessibleName(Texts::tr("Fotografie: %1").arg(recipe_.name));
     board_.photo.setPicture(app().mediaPicture(QStringLiteral("foto\\Velke\\r%1.bmp").arg(id)));
     title_.setText(recipe_.name);
     setAccessibleName(Texts::tr("Vaříme: %1").arg(recipe_.name));
+}
+
+void frmVarime::layOutPages() {
+    board_.takeTextSize();
+    pages_ = cookingPages(recipe_.steps, [this](const QString& text) { return board_.fits(text); });
+}
+
+/// Larger texts take more pages: the one is shown on which the step begins.
+void frmVarime::eyesChanged() {
+    if (pages_.empty()) return;
+    const CookingPage before = shown();
+    layOutPages();
+    const auto same = [&before](const CookingPage& page) {
+        return page.kind == before.kind && page.step == before.step;
+    };
+    page_ = static_cast<int>(std::ranges::find_if(pages_, same) - pages_.begin());
+    drawPage();
 }
 
 void frmVarime::go(int pages) {
@@ -136,31 +153,35 @@ void frmVarime::forward() {
     page_ + 1 < pageCount() ? go(1) : goBack();
 }
 
-void frmVarime::showPage() {
+void frmVarime::drawPage() {
     const CookingPage::Kind kind = shown().kind;
-    const bool wasReading = app().readAloud().isReading();
     previous_.setEnabled(page_ > 0);
     next_.setCaption(kind == CookingPage::Kind::Ready  ? Texts::tr("Začít vařit")
                      : kind == CookingPage::Kind::Done ? Texts::tr("Zpět k receptu")
                                                        : Texts::tr("Dál"));
     next_.setTip(next_.caption());
-    switch (kind) {
+    if (kind == CookingPage::Kind::Ready) board_.showReady(recipe_, ready_);
+    if (kind == CookingPage::Kind::Step) board_.showStep(recipe_, shown());
+    if (kind == CookingPage::Kind::Done) showDone();
+    update();
+}
+
+void frmVarime::showPage() {
+    const bool wasReading = app().readAloud().isReading();
+    drawPage();
+    switch (shown().kind) {
         case CookingPage::Kind::Ready:
-            board_.showReady(recipe_, ready_);
             app().HookMessage(board_.counter.text());
             ring().focus(board_.list);
             break;
         case CookingPage::Kind::Step:
-            board_.showStep(recipe_, shown());
             app().HookMessage(board_.counter.text() + QStringLiteral(". ") + shown().text);
             ring().focus(next_);
             break;
         case CookingPage::Kind::Done:
-            showDone();
             ring().focus(board_.cooked);
     }
     if (wasReading) app().readAloud().read(textToRead());  // who listens goes on listening
-    update();
 }
 
 void frmVarime::tick(int row) {

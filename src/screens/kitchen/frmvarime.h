@@ -29,6 +29,7 @@ class frmVarime : public KitchenForm {
     const CookingPage& shown() const { return pages_[static_cast<size_t>(page_)]; }
 
     void goBack() override;
+    void eyesChanged() override;
     void restored() override;
     void unload() override;
     bool readyToEnd() override;
@@ -45,6 +46,8 @@ class frmVarime : public KitchenForm {
     void readRecipe(std::int16_t id, const Serving& serving);
     void go(int pages);
     void forward();
+    void layOutPages();
+    void drawPage();
     void showPage();
     void showDone();
     void offerReading();

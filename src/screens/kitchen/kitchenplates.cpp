@@ -5,11 +5,13 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "core/czech.h"
 #include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/eyes.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/messagebox.h"
@@ -36,9 +38,10 @@ const TextFont kTime{QStringLiteral("Arial"), 15, true}, kSmallTime{QStringLiter
 
 /// Where the plate of timer \a index lies: beside the design area where the display is wide enough, else
 /// along the upper edge from the right, small, so that no title is covered.
-QRect timerPlace(int index, double roomBeside) {
-    if (roomBeside >= kWidth + kGap)
-        return {Stage::kWidth + kGap / 2, 90 + index * (kHeight + kGap), kWidth, kHeight};
+QRect timerPlace(int index, double roomBeside, double textScale) {
+    const double scale = std::min(textScale, (roomBeside - kGap) / kWidth);
+    const QSize size(int(kWidth * scale), int(kHeight * scale));
+    if (scale >= 1) return {QPoint(Stage::kWidth + kGap / 2, 90 + index * (size.height() + kGap)), size};
     const int column = index % kColumns, row = index / kColumns;
     return {
         {Stage::kWidth - (column + 1) * (kSmall.width() + kGap), kSmallTop + row * (kSmall.height() + kGap)},
@@ -54,8 +57,10 @@ class KitchenPlates::Plate : public TwipWidget {
         setCursor(Qt::PointingHandCursor);
     }
 
-    void set(const QString& text, const QString& name, bool rings) {
-        if (text == text_ && name == name_ && rings == rings_) return;
+    /// \a scale is of what is said; a timer's plate has its texts as large as itself.
+    void set(const QString& text, const QString& name, bool rings, double scale = 1) {
+        if (text == text_ && name == name_ && rings == rings_ && scale == scale_) return;
+        scale_ = scale;
         text_ = text;
         name_ = name;
         rings_ = rings;
@@ -95,12 +100,13 @@ class KitchenPlates::Plate : public TwipWidget {
             return painter.drawText(text, Qt::AlignCenter, text_);
         }
         if (name_.isEmpty()) {
-            painter.setFont(kSaying.toQFont());
+            painter.setFont(larger(kSaying, scale_).toQFont());
             return painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap, text_);
         }
-        painter.setFont(kTime.toQFont());
+        const double grown = double(twips().height()) / kHeight;
+        painter.setFont(larger(kTime, grown).toQFont());
         painter.drawText(text, Qt::AlignTop | Qt::AlignLeft, text_);
-        painter.setFont(kName.toQFont());
+        painter.setFont(larger(kName, grown).toQFont());
         painter.setPen(colors::kPaper);
         painter.drawText(text, Qt::AlignBottom | Qt::AlignLeft,
                          QFontMetricsF(painter.font()).elidedText(name_, Qt::ElideRight, text.width()));
@@ -110,6 +116,7 @@ class KitchenPlates::Plate : public TwipWidget {
     Picture picture_;
     QString text_, name_;
     bool rings_ = false;
+    double scale_ = 1;
 };
 
 KitchenPlates::KitchenPlates(basSarne& sarne, KitchenTimers& timers, UserFile& file)
@@ -198,7 +205,7 @@ void KitchenPlates::show() {
         if (!plates_[i]) continue;
         const KitchenTimer& timer = timers[i];
         const double beside = app_.stage().designOrigin().x() / app_.stage().scale();
-        const QRect place = timerPlace(static_cast<int>(i), beside);
+        const QRect place = timerPlace(static_cast<int>(i), beside, app_.stage().eyes().textScale());
         if (plates_[i]->twips() != place) plates_[i]->place(place);
         plates_[i]->set(timer.rings ? Texts::tr("Hotovo!") : clockText(timer.left(app_.clock().now())),
                         timer.name, timer.rings);
@@ -245,12 +252,13 @@ bool KitchenPlates::readyToEnd() {
 void KitchenPlates::say(const QString& text, std::function<void()> use) {
     if (!saying_) saying_ = new Plate(app_.stage(), app_.resources().picture(QStringLiteral("Nakup")));
     constexpr int kPicture = 900;
-    const QSize size = Label::measure(text, kSaying, kSayingWidth - kPicture);
+    const double scale = app_.stage().eyes().textScale();
+    const QSize size = Label::measure(text, larger(kSaying, scale), kSayingWidth - kPicture);
     const QSize plate(std::min(kSayingWidth, size.width() + kPicture + 60),
                       std::max(720, size.height() + 240));
     saying_->place(
         {{kSayingLeft + (kSayingWidth - plate.width()) / 2, kSayingBottom - plate.height()}, plate});
-    saying_->set(text, {}, false);
+    saying_->set(text, {}, false, scale);
     saying_->use = [this, use = std::move(use)] {
         if (saying_) saying_->hide();
         if (use) use();

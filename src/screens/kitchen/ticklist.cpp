@@ -79,25 +79,48 @@ void TickList::setPoints(double points) {
 }
 
 int TickList::twipsOf(double points) const {
-    return static_cast<int>(points * form().eyes().textScale() * kTwipsOfPoint);
+    return static_cast<int>(points * form().textScale() * kTwipsOfPoint);
 }
 
 TextFont TickList::font(double share, bool bold) const {
-    return {kFamily, points_ * form().eyes().textScale() * share, bold};
+    return {kFamily, points_ * form().textScale() * share, bold};
+}
+
+/// What a row's box and amount leave for its text.
+int TickList::textWidth(const TickRow& row) const {
+    const bool hasBox = row.kind == TickRow::Kind::Item || row.kind == TickRow::Kind::Fold;
+    const int box = hasBox ? twipsOf(points_ * 1.25) + kBoxGap : 0;
+    const int right = row.right.isEmpty() ? 0 : Label::measure(row.right, font(1, true)).width() + kBoxGap;
+    return std::max(twipsOf(points_), twips().width() - 2 * kEdge - kBar - box - right);
+}
+
+/// One line; more of them where the texts are larger than designed, so that no less of it is read.
+int TickList::belowHeight(const TickRow& row) const {
+    const int line = twipsOf(points_ * kSmall * 1.1);
+    if (row.below.isEmpty()) return 0;
+    if (form().textScale() <= 1) return line;
+    TickRow alone = row;
+    alone.right.clear();
+    return std::max(line, Label::measure(row.below, font(kSmall, false), textWidth(alone)).height());
 }
 
 int TickList::heightOf(const TickRow& row) const {
     if (!row.picture.isNull()) return twipsOf(points_ * kPictured);
     const int line = twipsOf(points_ * kLead);
-    const int text = twips().width() - 2 * kEdge - line - Label::measure(row.right, font(1, true)).width();
-    const int lines = std::max(1, Label::measure(row.text, font(1, false), std::max(line, text)).height() /
-                                      std::max(1, twipsOf(points_)));
-    const int wrapped = line + (lines - 1) * twipsOf(points_ * 1.15);
-    return row.below.isEmpty() ? wrapped : wrapped + twipsOf(points_ * kSmall * 1.1);
+    const bool bold = row.kind == TickRow::Kind::Heading || row.kind == TickRow::Kind::Fold;
+    const int lines = std::max(
+        1, Label::measure(row.text, font(1, bold), textWidth(row)).height() / std::max(1, twipsOf(points_)));
+    return line + (lines - 1) * twipsOf(points_ * 1.15) + belowHeight(row);
+}
+
+void TickList::rescale() {
+    Control::rescale();
+    if (laidOutFor_ != form().textScale()) setRows(std::vector(rows_), done_);
 }
 
 void TickList::setRows(std::vector<TickRow> rows, Done done) {
     done_ = done;
+    laidOutFor_ = form().textScale();
     const int top = paging_.top(), wanted = selected();
     rows_ = std::move(rows);
     std::vector<int> heights;
@@ -236,14 +259,16 @@ void TickList::paintRow(QPainter& painter, int row) const {
     QFont named = font(1, isHeading || content.kind == TickRow::Kind::Fold).toQFont();
     named.setStrikeOut(content.ticked && content.kind == TickRow::Kind::Item && done_ == Done::StruckOut);
     painter.setFont(named);
-    const int below = content.below.isEmpty() ? 0 : twipsOf(points_ * kSmall * 1.1);
+    const int below = belowHeight(content);
     painter.drawText(text.adjusted(0, 0, -amount, -below),
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap,
                      withUnbreakableBlanks(content.text));
     painter.setFont(font(kSmall, false).toQFont());
     painter.setPen(isSelected ? colors::kPaper : kSoftInk);
-    painter.drawText(QRect(text.left(), place.bottom() - below - 30, text.width(), below + 30),
-                     Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
+    const QRect small(text.left(), place.bottom() - below - 30, text.width(), below + 30);
+    if (form().textScale() > 1)
+        return painter.drawText(small, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, content.below);
+    painter.drawText(small, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
                      QFontMetricsF(painter.font()).elidedText(content.below, Qt::ElideRight, text.width()));
 }
 

@@ -54,6 +54,8 @@ class TickList : public Control {
 
     /// The arrows, Page keys, Home, End and Space. False for any other key.
     bool keyDown(const QKeyEvent& event);
+    /// Lays the rows out anew where the texts have another size now.
+    void rescale() override;
     /// Where row \a row is seen, in twips of the control; empty when it is not.
     QRect rowRect(int row) const;
 
@@ -70,6 +72,8 @@ class TickList : public Control {
 
   private:
     int heightOf(const TickRow& row) const;
+    int belowHeight(const TickRow& row) const;
+    int textWidth(const TickRow& row) const;
     int twipsOf(double points) const;
     bool canBeSelected(int row) const;
     void moveBy(int rows);
@@ -82,7 +86,7 @@ class TickList : public Control {
 
     std::vector<TickRow> rows_;
     RowPaging paging_;
-    double points_ = 14;
+    double points_ = 14, laidOutFor_ = 0;
     Done done_ = Done::StruckOut;
     Picture on_, off_;
 };

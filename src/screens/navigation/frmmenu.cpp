@@ -23,12 +23,6 @@ constexpr QColor kDimmed(150, 170, 165);
 const TextFont kHintFont{QStringLiteral("Arial"), 10, false, true};
 constexpr QRect kScreen(0, 0, Stage::kWidth, Stage::kHeight);
 
-/// Room for what is drawn beside the texts of \a level.
-int besideTexts(const MenuLevel& level) {
-    const bool arrows = std::ranges::any_of(level.items, &MenuItem::opensSubmenu);
-    return arrows || level.isSearchResult() ? MenuLabel::kArrowRoom : 0;
-}
-
 }  // namespace
 
 frmMenu::frmMenu(basSarne& sarne, std::function<void()> closed)
@@ -131,19 +125,41 @@ void frmMenu::hearItems() {
         [this](int index) { choose(index + 1); });
 }
 
+/// Room for what is drawn beside the texts of \a level.
+int frmMenu::besideTexts(const MenuLevel& level) const {
+    if (level.isSearchResult()) return static_cast<int>(MenuLabel::kArrowRoom * textScale());
+    return std::ranges::any_of(level.items, &MenuItem::opensSubmenu) ? MenuLabel::kArrowRoom : 0;
+}
+
 MenuContent frmMenu::contentOf(const MenuLevel& level) const {
     MenuContent content;
+    content.scale = textScale();
+    const TextFont itemFont = larger(kItemFont, content.scale);
     const int room = besideTexts(level);
     for (const MenuItem& item : level.items)
-        content.itemWidths.push_back(Label::measure(item.label + kSpacing, kItemFont).width() + room);
-    if (!level.heading.isEmpty()) content.headingWidth = Label::measure(level.heading, kHeadingFont).width();
+        content.itemWidths.push_back(Label::measure(item.label + kSpacing, itemFont).width() + room);
+    if (!level.heading.isEmpty())
+        content.headingWidth = Label::measure(level.heading, larger(kHeadingFont, content.scale)).width();
     if (const QString hint = searchHint(level); !hint.isEmpty())
-        content.hintWidth = Label::measure(hint, kHintFont).width();
+        content.hintWidth = Label::measure(hint, larger(kHintFont, content.scale)).width();
     content.hasEntry = level.code == u"12";
     return content;
 }
 
+/// The levels are laid out anew, each beside the item that opened it.
+void frmMenu::eyesChanged() {
+    if (parent_ || level_.items.empty()) return;
+    for (frmMenu* level = this; level; level = level->child_) {
+        frmMenu* above = level->parent_;
+        level->applyGeometry(above ? above->besideChild() : level->beside_);
+        if (above && above->hasEntry()) above->makeRoomForResults();
+        level->hearItems();
+        for (int k = 1; k <= int(level->level_.items.size()); ++k) level->mark(k, k == level->selected_);
+    }
+}
+
 void frmMenu::applyGeometry(const QRect& beside) {
+    beside_ = beside;
     geometry_ = layOutMenu(contentOf(level_), beside, maxHeight_);
     place(geometry_.level);
     placeLabels();
@@ -228,6 +244,10 @@ void frmMenu::musicSettings() {
     openAbove([this] { Form::musicSettings(); });
 }
 
+void frmMenu::eyeSettings() {
+    openAbove([this] { Form::eyeSettings(); });
+}
+
 void frmMenu::goBack() {
     if (!parent_) return closeTree();
     frmMenu* parent = parent_;
@@ -309,8 +329,15 @@ void frmMenu::openChild(const QString& code, const QRect& beside, int maxHeight)
 /// entry moves up for them.
 void frmMenu::openResults() {
     place(geometry_.level);
-    openChild(QStringLiteral("0"), QRect(twips().left() - 1, twips().bottom() + 1, 1, 1),
-              kScreen.height() - twips().height());
+    openChild(QStringLiteral("0"), besideChild(), kScreen.height() - twips().height());
+    makeRoomForResults();
+}
+
+QRect frmMenu::besideChild() const {
+    return hasEntry() ? QRect(twips().left() - 1, twips().bottom() + 1, 1, 1) : labelOnScreen(selected_);
+}
+
+void frmMenu::makeRoomForResults() {
     const int above = child_->twips().top() - twips().height();
     if (above < twips().top()) moveTo({twips().left(), above});
 }
@@ -384,7 +411,7 @@ bool frmMenu::keyDown(QKeyEvent& event) {
 void frmMenu::paint(QPainter& painter) {
     paintPanel(painter, {{0, 0}, twips().size()}, app().resources().picture(QStringLiteral("menu")));
     if (hint_.isEmpty()) return;
-    painter.setFont(kHintFont.toQFont());
+    painter.setFont(larger(kHintFont, textScale()).toQFont());
     painter.setPen(colors::kPaper);
     painter.drawText(geometry_.hint.adjusted(kMenuItemMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
                      hint_);

@@ -47,11 +47,14 @@ class frmMenu : public Form {
     void goBack() override;
     void help() override;
     void musicSettings() override;
+    void eyeSettings() override;
+    void eyesChanged() override;
     void closeRequested() override {}  // as the main screen below it
 
   protected:
     void paint(QPainter& painter) override;
     bool keyDown(QKeyEvent& event) override;
+    bool growsWithTexts() const override { return false; }  // it lays itself out for them
     void mouseMoveEvent(QMouseEvent* event) override;
 
   private:
@@ -63,6 +66,7 @@ class frmMenu : public Form {
     void buildLabels();
     void dressLabel(int k);
     MenuLabel* newLabel();
+    int besideTexts(const MenuLevel& level) const;
     MenuContent contentOf(const MenuLevel& level) const;
     void applyGeometry(const QRect& beside);
     void placeLabels();
@@ -77,6 +81,8 @@ class frmMenu : public Form {
     void enterSelected();
     void search();
     void openResults();
+    void makeRoomForResults();
+    QRect besideChild() const;
     void openAbove(const std::function<void()>& open);
     void closeTree();
     frmMenu& root();
@@ -93,6 +99,7 @@ class frmMenu : public Form {
     QString childCode_;
     MenuLevel level_;
     MenuGeometry geometry_;
+    QRect beside_;
     int maxHeight_ = kMenuHeight;
     QString hint_;
     LetterSearch letters_;

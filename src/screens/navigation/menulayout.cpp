@@ -23,9 +23,18 @@ Columns columnsFor(int items, int linesThatFit) {
     return {count, std::max(1, (items + count - 1) / count)};
 }
 
+int scaled(const MenuContent& content, int twips) {
+    return static_cast<int>(twips * content.scale);
+}
+
+int lineHeight(const MenuContent& content) {
+    return scaled(content, kMenuLine);
+}
+
 /// What a level needs across beside its items.
 int roomBeside(const MenuContent& content, int columns) {
-    return 2 * kMargin + (columns - 1) * kColumnGap + (content.hasEntry ? kMenuItemMargin + kEntryWidth : 0);
+    return 2 * kMargin + (columns - 1) * kColumnGap +
+           (content.hasEntry ? kMenuItemMargin + scaled(content, kEntryWidth) : 0);
 }
 
 int levelWidth(const MenuContent& content, int columns) {
@@ -37,12 +46,13 @@ int levelWidth(const MenuContent& content, int columns) {
     return std::min(width, kScreen.width());
 }
 
-std::vector<QRect> itemPlaces(int items, const Columns& columns, int top, int width) {
+std::vector<QRect> itemPlaces(int items, const Columns& columns, int top, QSize item) {
     std::vector<QRect> places;
     places.reserve(static_cast<size_t>(items));
     for (int i = 0; i < items; ++i)
-        places.emplace_back(kMargin + i / columns.rows * (width + kColumnGap),
-                            top + i % columns.rows * kMenuLine, width, kMenuLine);
+        places.emplace_back(QPoint(kMargin + i / columns.rows * (item.width() + kColumnGap),
+                                   top + i % columns.rows * item.height()),
+                            item);
     return places;
 }
 
@@ -56,23 +66,25 @@ QPoint onScreen(QSize level, const QRect& beside) {
 }  // namespace
 
 MenuGeometry layOutMenu(const MenuContent& content, const QRect& beside, int maxHeight) {
-    const int top = kMargin + (content.headingWidth > 0 ? kHeadingHeight : 0);
-    const int below = kMargin + (content.hintWidth > 0 ? kMenuLine : 0);
+    const int line = lineHeight(content), heading = scaled(content, kHeadingHeight);
+    const int top = kMargin + (content.headingWidth > 0 ? heading : 0);
+    const int below = kMargin + (content.hintWidth > 0 ? line : 0);
     const int count = int(content.itemWidths.size());
-    const Columns columns = columnsFor(count, (maxHeight - top - below) / kMenuLine);
+    const Columns columns = columnsFor(count, (maxHeight - top - below) / line);
     const int width = levelWidth(content, columns.count);
     const int item = (width - roomBeside(content, columns.count)) / columns.count;
-    const int bottom = top + columns.rows * kMenuLine;
+    const int bottom = top + columns.rows * line;
 
     MenuGeometry geometry;
-    geometry.items = itemPlaces(count, columns, top, item);
+    geometry.items = itemPlaces(count, columns, top, {item, line});
     if (content.headingWidth > 0)
-        geometry.heading = QRect(kMargin, kMargin / 2, width - 2 * kMargin, kHeadingHeight);
-    if (content.hintWidth > 0) geometry.hint = QRect(kMargin, bottom, width - 2 * kMargin, kMenuLine);
+        geometry.heading = QRect(kMargin, kMargin / 2, width - 2 * kMargin, heading);
+    if (content.hintWidth > 0) geometry.hint = QRect(kMargin, bottom, width - 2 * kMargin, line);
     int height = bottom + below;
     if (content.hasEntry) {
-        geometry.entry = QRect(kMargin + item + kMenuItemMargin, top - (kEntryHeight - kMenuLine) / 2,
-                               kEntryWidth, kEntryHeight);
+        const QSize entry(scaled(content, kEntryWidth), scaled(content, kEntryHeight));
+        geometry.entry =
+            QRect(QPoint(kMargin + item + kMenuItemMargin, top - (entry.height() - line) / 2), entry);
         height = std::max(height, geometry.entry.bottom() + 1 + kMargin);
     }
     geometry.level = QRect(onScreen({width, height}, beside), QSize(width, height));

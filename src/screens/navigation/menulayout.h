@@ -21,6 +21,7 @@ struct MenuContent {
     int headingWidth = 0;         ///< 0: no heading
     int hintWidth = 0;            ///< 0: no hint
     bool hasEntry = false;        ///< a text entry beside the first item
+    double scale = 1;             ///< of the texts: lines are that much higher
 };
 
 /// How high one item's line is, and the empty room at both ends of its text.

@@ -7,6 +7,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/form.h"
+#include "forms/largertext.h"
 #include "forms/messagebox.h"
 #include "forms/resources.h"
 #include "kitchen/fishamount.h"
@@ -112,9 +113,10 @@ void IngredientPanel::redraw() {
 /// The width of \a line in twips, by its words: between one number of portions and the next most of them stay
 /// the same, and the metrics remember those.
 int IngredientPanel::lineWidth(QStringView line) {
-    const int blank = metrics_.textWidth(kListFont, u" ");
+    const TextFont font = larger(kListFont, room_.form.textScale());
+    const int blank = metrics_.textWidth(font, u" ");
     int width = 0;
-    for (QStringView word : line.split(u' ')) width += metrics_.textWidth(kListFont, word) + blank;
+    for (QStringView word : line.split(u' ')) width += metrics_.textWidth(font, word) + blank;
     return width - blank;
 }
 
