@@ -20,7 +20,7 @@ constexpr QRect kSize(420, 840, 5760, 390);
 constexpr int kLeft = 420, kChoices = 1275, kChoiceWidth = 1860, kRow = 660;
 constexpr QRect kCalm(kLeft, 1980, 5760, kRow);
 constexpr QRect kContrast(kLeft, 2580, 5760, kRow);
-constexpr QRect kHint(kLeft, 3240, 3900, 900);
+constexpr QRect kHint(kLeft, 3420, 3900, 750);
 constexpr QRect kDone(4440, 3420, 1740, 660);
 
 }  // namespace
@@ -45,7 +45,7 @@ frmZobrazeni::frmZobrazeni(basSarne& sarne)
     label(title_, Texts::tr("Zobrazení"), kTitleFont, kTitle);
     title_.setColor(colors::kTitle);
     title_.setAlignment(Qt::AlignCenter);
-    label(size_, Texts::tr("Velikost textů v seznamech a receptech"), kFont, kSize);
+    label(size_, Texts::tr("Velikost textů"), kFont, kSize);
     label(hint_, Texts::tr("Velikost mění i Ctrl a plus nebo minus, toto okno otevře F10."), kSmallFont,
           kHint);
     const auto dress = [this](CheckBox& box, const QString& caption, const QRect& place, const char* on,

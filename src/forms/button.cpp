@@ -76,7 +76,8 @@ void Button::setCaptionPlace(CaptionPlace place) {
 QRect Button::framePlace() const {
     QRect room({0, 0}, twips().size());
     if (captionPlace_ == CaptionPlace::Below) {
-        const int lines = int((room.height() < kLow ? kOneLine : kTwoLines) * form().textScale());
+        // One line takes from the picture what a larger text needs; on two lines a short name has room.
+        const int lines = room.height() < kLow ? int(kOneLine * form().textScale()) : kTwoLines;
         const int side = std::min(room.width(), room.height() - lines);
         room = QRect((room.width() - side) / 2, 0, side, side);
     }
@@ -163,16 +164,25 @@ bool Button::isAlike(const Button& other) const {
 }
 
 double Button::roomToGrow() const {
-    return room_.of(font_, form().textScale(), withUnbreakableBlanks(caption_), captionRoom().size(), captionFlags());
+    constexpr int kInside = 2 * (kRingRoom + kFrameTwips);
+    const QSize room = captionRoom().size(),
+                edge = captionPlace_ == CaptionPlace::Over ? QSize(kInside, 0) : QSize(kRingRoom, 0);
+    return room_.of(font_, form().textScale(), withUnbreakableBlanks(caption_), room - edge, captionFlags());
 }
 
-/// Captions of buttons of one kind are of one size.
+/// Captions of buttons of one kind are of one size; names below pictures are as large as each can be, for
+/// they are the smallest texts that there are.
 double Button::growth() const {
     if (form().textScale() <= 1) return 1;
+    if (captionPlace_ == CaptionPlace::Below) return roomToGrow();
     double growth = roomToGrow();
     for (const Button* other : form().findChildren<Button*>(Qt::FindDirectChildrenOnly))
         if (isAlike(*other)) growth = std::min(growth, other->roomToGrow());
     return growth;
+}
+
+bool Button::captionIsLarge() const {
+    return growth() >= form().textScale();
 }
 
 void Button::paintCaption(QPainter& painter) const {

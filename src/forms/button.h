@@ -33,6 +33,8 @@ class Button : public Control {
     void setLatched(bool pressed) { setFrame(pressed ? Frame::Pressed : Frame::Raised); }
     void setCaption(const QString& caption);
     QString caption() const { return caption_; }
+    /// Whether the caption is as large as the eyes want texts.
+    bool captionIsLarge() const;
     void setCaptionPlace(CaptionPlace place);
     void setFont(const TextFont& font);
     /// A ground behind face and caption; by default there is none.

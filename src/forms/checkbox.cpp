@@ -2,7 +2,6 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <algorithm>
 
 #include "forms/colors.h"
 #include "forms/eyes.h"
@@ -76,16 +75,6 @@ double CheckBox::roomToGrow() const {
     return room_.of(font_, form().textScale(), caption_, captionRoom().size(), kCaptionFlags);
 }
 
-/// Captions of boxes of one kind are of one size.
-double CheckBox::growth() const {
-    if (form().textScale() <= 1) return 1;
-    double growth = roomToGrow();
-    for (const CheckBox* other : form().findChildren<CheckBox*>())
-        if (other->font_ == font_ && other->isVisibleTo(&form()))
-            growth = std::min(growth, other->roomToGrow());
-    return growth;
-}
-
 void CheckBox::paint(QPainter& painter) {
     const QRect place({0, 0}, twips().size());
     if (!isEnabled())
@@ -95,7 +84,7 @@ void CheckBox::paint(QPainter& painter) {
         paintMark(painter, box);
     else
         markPicture().draw(painter, box, Fit::Inside);
-    painter.setFont(larger(font_, growth()).toQFont());
+    painter.setFont(larger(font_, roomToGrow()).toQFont());
     painter.setPen(color_);
     painter.drawText(captionRoom(), kCaptionFlags, caption_);
 }

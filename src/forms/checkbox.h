@@ -40,7 +40,6 @@ class CheckBox : public Control {
   private:
     QRect captionRoom() const;
     double roomToGrow() const;
-    double growth() const;
 
     QString caption_;
     TextFont font_;

@@ -87,7 +87,7 @@ void Edit::showMenu(QPoint global) {
     const QMimeData* clipboard = QGuiApplication::clipboard()->mimeData();
     const EditState state{line_->isUndoAvailable(), line_->isRedoAvailable(), line_->hasSelectedText(),
                           clipboard && clipboard->hasText(), !line_->text().isEmpty()};
-    showEditMenu(*line_, state, scale(), global);
+    showEditMenu(*line_, state, scale() * form().textScale(), global);
 }
 
 bool Edit::eventFilter(QObject* watched, QEvent* event) {

@@ -1,6 +1,7 @@
 #include "forms/focusframe.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "forms/colors.h"
 #include "forms/control.h"
@@ -12,6 +13,7 @@ namespace {
 
 constexpr int kDistance = 30, kThickness = 60, kLight = 26;  // twips
 constexpr int kStrong = 45;                                  // 3 pixels of the design
+constexpr int kStrongPixels = 3;                             // of the display, at least
 constexpr int kRounding = 60;
 
 }  // namespace
@@ -41,7 +43,8 @@ void FocusFrame::paint(QPainter& painter) {
     painter.setPen(QPen(colors::kNight, kThickness));
     painter.drawRoundedRect(ring, kRounding, kRounding);
     const bool contrast = static_cast<Form*>(parentWidget())->eyes().hasContrast();
-    painter.setPen(QPen(contrast ? QColor(Qt::white) : colors::kTitle, contrast ? kStrong : kLight));
+    const double strong = std::max<double>(kStrong, kStrongPixels / scale());
+    painter.setPen(QPen(contrast ? QColor(Qt::white) : colors::kTitle, contrast ? strong : kLight));
     painter.drawRoundedRect(ring, kRounding, kRounding);
 }
 

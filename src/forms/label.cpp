@@ -117,7 +117,9 @@ bool Label::isAlike(const Label& other) const {
 }
 
 double Label::roomToGrow() const {
-    return room_.of(font_, form().textScale(), wraps_ ? withUnbreakableBlanks(text_) : text_, textRoom().size(), flags());
+    constexpr int kAir = 60;  // beside the text, so that it does not touch the next one
+    const QString shown = wraps_ ? withUnbreakableBlanks(text_) : text_;
+    return room_.of(font_, form().textScale(), shown, textRoom().size() - QSize(kAir, 0), flags());
 }
 
 double Label::growth() const {

@@ -101,7 +101,7 @@ QString dress(double pixel, const QColor& selected) {
                "QListView{background:transparent;color:%1;border:none;outline:none}"
                "QListView:disabled{color:%2}"
                "QListView::item{padding:%5px %6px;border:%7px solid transparent}"
-               "QListView::item:selected{background:%3;color:%4}"
+               "QListView::item:selected{background:%3;color:%4;border:%7px solid %1}"
                "QListView::item:focus{border:%7px dotted %1}"
                "QListView::item:selected:focus{border:%7px dotted %4}")
                .arg(colors::kInk.name(), colors::kInk.lighter(200).name(), selected.name(),

@@ -22,11 +22,12 @@ constexpr int kWidest = 5400;
 constexpr QRect kPointer(-14, -6, 42, 42);
 constexpr QRect kStage(0, 0, Stage::kWidth, Stage::kHeight);
 
-/// Nothing where the thing's own caption says the same.
+/// Nothing where the thing's own caption says the same, as large as texts are wanted.
 QString tipOf(const Control* thing) {
     const QString tip = thing ? thing->toolTip().trimmed() : QString();
     const auto* button = qobject_cast<const Button*>(thing);
-    return button && button->caption() == tip ? QString() : tip;
+    const bool saysIt = button && button->caption() == tip && button->captionIsLarge();
+    return saysIt ? QString() : tip;
 }
 
 }  // namespace

@@ -162,7 +162,7 @@ void NoteEdit::showMenu(QPoint global) {
     const QTextDocument& document = *editor_->document();
     const EditState state{document.isUndoAvailable(), document.isRedoAvailable(),
                           editor_->textCursor().hasSelection(), editor_->canPaste(), !document.isEmpty()};
-    showEditMenu(*editor_, state, scale(), global);
+    showEditMenu(*editor_, state, scale() * form().textScale(), global);
 }
 
 void NoteEdit::focusInEvent(QFocusEvent*) {

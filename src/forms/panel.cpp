@@ -44,6 +44,12 @@ void paintPaper(QPainter& painter, const QRectF& place) {
     paintRounded(painter, place, QPen(colors::kCopper, kEdge), colors::kPaper, 255);
 }
 
+void paintRowFrame(QPainter& painter, const QRect& place) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(colors::kInk, kFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(QRectF(place).adjusted(kFrame / 2., kFrame / 2., -kFrame / 2., -kFrame / 2.));
+}
+
 void paintSheet(QPainter& painter, const QRectF& place) {
     paintRounded(painter, place, Qt::NoPen, colors::kPaper, 150);
 }

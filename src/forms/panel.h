@@ -13,6 +13,9 @@ void paintPanel(QPainter& painter, const QRect& place, const Picture& ground = {
 void paintPlate(QPainter& painter, const QRectF& place);
 /// Paper with a copper edge, for dark texts to stand on.
 void paintPaper(QPainter& painter, const QRectF& place);
+/// A frame around the row \a place of a list on paper that is the selected one: its colour alone would not be
+/// seen by everybody.
+void paintRowFrame(QPainter& painter, const QRect& place);
 /// A thin sheet of paper that lets the picture below show through, yet keeps dark texts readable on any.
 void paintSheet(QPainter& painter, const QRectF& place);
 

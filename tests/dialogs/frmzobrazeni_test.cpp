@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 #include <QKeyEvent>
 
+#include "forms/button.h"
+#include "forms/label.h"
+#include "forms/largertext.h"
 #include "forms/textview.h"
 #include "support/fakesarne.h"
 
@@ -63,6 +66,46 @@ TEST_F(ZobrazeniTest, KeysChangeTheSizeAndTextsAreLaidOutLarger) {
     EXPECT_EQ(eyes.textPercent(), 125);
     press(screen, Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(height(), before);
+}
+
+TEST_F(ZobrazeniTest, ADialogGrowsWithItsTextsAsFarAsTheDisplayGoes) {
+    const struct {
+        QRect place;
+        QSize pixels;
+    } cases[] = {{{3000, 3000, 6000, 3000}, {600, 300}},   // half as large again
+                 {{6000, 6000, 6000, 3000}, {600, 300}},   // whole, also from a corner
+                 {{1500, 1500, 10000, 6000}, {800, 480}},  // as wide as the display
+                 {{0, 0, 12000, 9000}, {800, 600}}};
+    for (const auto& c : cases) {
+        Form dialog(sarne, QStringLiteral("frmMessage"));
+        dialog.place(c.place);
+        Button button(dialog, QStringLiteral("cmdBtn(0)"));
+        button.place({300, 300, 1500, 600});
+        eyes.setTextPercent(150);
+        EXPECT_EQ(dialog.size(), c.pixels);
+        EXPECT_TRUE(sarne.window.rect().contains(dialog.geometry()));
+        const double twip = double(c.pixels.width()) / c.place.width();
+        EXPECT_NEAR(button.width(), 1500 * twip, 1) << "all within it is as much larger";
+        EXPECT_EQ(button.toTwips(button.rect().center()).x() / 30, 750 / 30);
+        eyes.setTextPercent(100);
+        EXPECT_EQ(dialog.size(), c.place.size() / 15);
+    }
+}
+
+TEST_F(ZobrazeniTest, ATextGrowsAsFarAsItsRoomAndNeverShrinks) {
+    const TextFont font{QStringLiteral("Arial"), 12};
+    const QString text = QStringLiteral("Nákupní seznam");
+    const QSize designed = Label::measure(text, font), larger = Label::measure(text, {font.name, 18});
+    const auto grown = [&](QSize room, int flags = 0) {
+        return RoomToGrow().of(font, 1.5, text, room, flags);
+    };
+    EXPECT_EQ(grown(larger), 1.5);
+    EXPECT_EQ(grown(designed), 1);
+    EXPECT_EQ(grown({100, 100}), 1);
+    const double some = grown({larger.width() * 9 / 10, larger.height()});
+    EXPECT_GT(some, 1.2);
+    EXPECT_LT(some, 1.5);
+    EXPECT_EQ(grown({larger.width() * 3 / 4, 2 * larger.height()}, Qt::TextWordWrap), 1.5);
 }
 
 }  // namespace

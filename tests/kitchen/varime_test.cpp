@@ -44,6 +44,21 @@ TEST_F(VarimeTest, GoesThroughTheStepsByTheKeysOfTheStove) {
     EXPECT_EQ(screen.page(), 3);
 }
 
+TEST_F(VarimeTest, LargerTextsTakeMorePagesAndTheStepStays) {
+    frmVarime& screen = open({4, UnitSystem::Weights});
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Right}) press(screen, key);
+    const CookingPage before = screen.shown();
+    const int pages = screen.pageCount();
+    const QPointer<QWidget> at = run_.window.focusWidget();
+    run_.window.eyes().setTextPercent(150);
+    EXPECT_GE(screen.pageCount(), pages);
+    EXPECT_EQ(screen.shown().step, before.step);
+    EXPECT_EQ(screen.shown().part, 0);
+    EXPECT_EQ(run_.window.focusWidget(), at) << "whoever changes the size elsewhere keeps the keyboard";
+    run_.window.eyes().setTextPercent(100);
+    EXPECT_EQ(screen.pageCount(), pages);
+}
+
 TEST_F(VarimeTest, EachStepNamesItsShareForThePortionsAndUnits) {
     frmVarime& screen = open({6, UnitSystem::Spoons});
     EXPECT_EQ(text(screen, "lblSuroviny"), QStringLiteral("pekáč"));

@@ -8,13 +8,18 @@ namespace {
 constexpr QRect kScreen(0, 0, 12000, 9000);
 
 TEST(MenuLayout, EveryLevelIsWholeOnTheScreenAndNothingOverlaps) {
-    for (const int count : {0, 1, 9, 27, 28, 84}) {
+    for (const auto [count, scale] :
+         {std::pair(0, 1.), {1, 1.}, {9, 1.}, {27, 1.}, {28, 1.}, {84, 1.}, {9, 1.5}, {84, 1.5}}) {
         for (const QPoint corner :
              {QPoint(0, 0), QPoint(9335, 370), QPoint(267, 8186), QPoint(8736, 6721), QPoint(11990, 8990)}) {
-            const MenuContent content{std::vector<int>(size_t(count), 2500), 1800, 0, count == 1};
+            const MenuContent content{std::vector<int>(size_t(count), int(2500 * scale)), 1800, 0, count == 1,
+                                      scale};
             const auto geometry = layOutMenu(content, {corner, QSize(1, 1)});
             ASSERT_TRUE(kScreen.contains(geometry.level)) << count;
             ASSERT_EQ(geometry.items.size(), size_t(count));
+            if (count == 9) {
+                EXPECT_GE(geometry.items[0].height(), int(kMenuLine * scale)) << "texts are that much higher";
+            }
             const QRect inside({0, 0}, geometry.level.size());
             for (size_t i = 0; i < geometry.items.size(); ++i) {
                 EXPECT_TRUE(inside.contains(geometry.items[i]));

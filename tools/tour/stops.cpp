@@ -280,6 +280,10 @@ void media(Tour& tour) {
     tour.stop(QStringLiteral("frmNastavHudbu"));
     tour.visitHelp();
     tour.key(Qt::Key_Escape);
+    tour.key(Qt::Key_F10);
+    tour.stop(QStringLiteral("frmZobrazeni"));
+    tour.visitHelp();
+    tour.key(Qt::Key_Escape);
     tour.click(button(18));
     tour.key(Qt::Key_Down);
     tour.key(Qt::Key_Return);

@@ -14,6 +14,7 @@
 namespace sarne {
 namespace {
 
+constexpr int kLocked = 105;    // from the edge to the second line
 constexpr int kCellFrame = 48;  // thickness of the frame of the chosen cell, twips
 
 constexpr BarFace kBar[] = {
@@ -124,6 +125,10 @@ void frmSit::paint(QPainter& painter) {
     painter.drawRoundedRect(cell, 60, 60);
     painter.setPen(QPen(grid_.isLocked() ? colors::kTitle : colors::kCopper, kCellFrame));
     painter.drawRoundedRect(cell, 60, 60);
+    if (!grid_.isLocked()) return;
+    // What is chosen for good has a second line within the first.
+    painter.setPen(QPen(colors::kTitle, kCellFrame / 2.));
+    painter.drawRoundedRect(cell.adjusted(kLocked, kLocked, -kLocked, -kLocked), 60, 60);
 }
 
 }  // namespace sarne

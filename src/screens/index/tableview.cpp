@@ -8,6 +8,7 @@
 #include "forms/colors.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
+#include "forms/panel.h"
 
 namespace sarne {
 namespace {
@@ -190,9 +191,10 @@ void TableView::paintHead(QPainter& painter) const {
 void TableView::paintRow(QPainter& painter, int row) const {
     const LookupRow& content = table_.rows[static_cast<size_t>(row)];
     const bool selected = row == rows_.selected();
-    if (selected)
+    if (selected) {
         painter.fillRect(rowRect(row), form().eyes().selected());
-    else if (row % 2 == 1)
+        paintRowFrame(painter, rowRect(row));
+    } else if (row % 2 == 1)
         painter.fillRect(rowRect(row), kOtherRow);
     for (int column = 0; column < static_cast<int>(layout_.lefts.size()); ++column) {
         const bool link = column == 0 && content.keyword != 0;

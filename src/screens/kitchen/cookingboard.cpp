@@ -109,12 +109,15 @@ void CookingBoard::takeTextSize() {
 
 /// What is needed in the largest size in which \a place holds it.
 void CookingBoard::fit(const QString& needed, const QRect& place) {
-    TextFont font = sized(kNeedFont);
-    while (font.size > kLeastNeed && Label::measure(needed, font, place.width()).height() > place.height())
+    const QString lines = QString(needed).replace(QStringLiteral("–\u00a0"), QStringLiteral("–\u2060\u00a0"));
+    const double scale = text.form().textScale();
+    TextFont font =
+        larger(kNeedFont, RoomToGrow().of(kNeedFont, scale, lines, place.size(), Qt::TextWordWrap));
+    while (font.size > kLeastNeed && Label::measure(lines, font, place.width()).height() > place.height())
         font.size = std::max(kLeastNeed, font.size - kNeedStep);
     needs.place(place);
     needs.setFont(font);
-    needs.setText(QString(needed).replace(QStringLiteral("–\u00a0"), QStringLiteral("–\u2060\u00a0")));
+    needs.setText(lines);
 }
 
 std::vector<TwipWidget*> CookingBoard::stops() {

@@ -11,6 +11,7 @@
 #include "forms/eyes.h"
 #include "forms/form.h"
 #include "forms/label.h"
+#include "forms/panel.h"
 #include "forms/resources.h"
 
 namespace sarne {
@@ -233,7 +234,10 @@ void TickList::paintRow(QPainter& painter, int row) const {
     const QRect place = rowRect(row);
     const bool isSelected = row == selected() && showsFocus();
     const bool isHeading = content.kind == TickRow::Kind::Heading;
-    if (isSelected) painter.fillRect(place, form().eyes().selected());
+    if (isSelected) {
+        painter.fillRect(place, form().eyes().selected());
+        paintRowFrame(painter, place);
+    }
     if (isHeading) painter.fillRect(place.adjusted(0, 30, 0, -15), colors::kTeal);
     const QColor ink = isHeading ? colors::kTitle : isSelected ? colors::kPaper : colors::kInk;
     painter.setPen(ink);

@@ -21,9 +21,10 @@ namespace sarne {
 namespace {
 
 constexpr int kNone = -5;
-constexpr int kFrameInterval = 100;  // milliseconds
-constexpr int kLookAgain = 2000;     // milliseconds until it is seen that somebody is there again
-constexpr int kFirstEffect = 100;    // button i sounds effect i + 100
+constexpr int kFrameInterval = 100;           // milliseconds
+constexpr int kLookAgain = 2000;              // milliseconds until it is seen that somebody is there again
+constexpr double kName = 12, kLeastName = 9;  // points, where the things' names stand in their places
+constexpr int kFirstEffect = 100;             // button i sounds effect i + 100
 
 /// What button \a i is called: as the menu that it opens.
 QString nameOf(Database& db, int i) {
@@ -139,6 +140,13 @@ void frmHlavni::tick() {
     TmrPohyby.setTag(QString::number(frame));
     const QRect place = frameRect(current_);
     update(QRect(toPixels(place.topLeft()), toPixels(place.bottomRight())).adjusted(-2, -2, 2, 2));
+}
+
+/// What moves comes to rest.
+void frmHlavni::eyesChanged() {
+    if (!eyes().isCalm()) return;
+    TmrPohyby.setEnabled(false);
+    endSweep();
 }
 
 void frmHlavni::showThings() {
@@ -304,19 +312,36 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
     }
 }
 
+/// The place of \a thing, wider and higher where its name has no room in \a font.
+QRect frmHlavni::roomForName(const Button& thing, const TextFont& font) const {
+    QRect room = thing.twips().adjusted(60, 30, -60, -30);
+    int longest = 0;
+    for (const QString& word : thing.accessibleName().split(u' '))
+        longest = std::max(longest, Label::measure(word, font).width());
+    const int missing = longest - room.width();
+    if (missing > 0) room.adjust(-missing / 2 - 15, 0, missing / 2 + 15, 0);
+    const int low = Label::measure(thing.accessibleName(), font, room.width()).height() - room.height();
+    if (low > 0) room.adjust(0, -low / 2 - 15, 0, low / 2 + 15);
+    const int right = std::max(0, room.right() + 1 - Stage::kWidth);
+    return room.translated(std::max(0, -room.left()) - right, 0);
+}
+
 /// For eyes that need contrast: in the place of the picture the names of its things.
 void frmHlavni::paintNames(QPainter& painter) const {
     painter.fillRect(covered(), Qt::black);
-    painter.setFont(TextFont{QStringLiteral("Arial"), 12, true}.toQFont());
     painter.setPen(QPen(Qt::white, 30));
     std::vector<const Button*> things;
     std::ranges::copy_if(imgClick, std::back_inserter(things),
                          [](const Button* b) { return b && b->isVisible(); });
     for (const Button* thing : things) painter.drawRect(thing->twips());
+    const TextFont least{QStringLiteral("Arial"), kLeastName, true};
     for (const Button* thing : things) {
         constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
-        const QRect room = thing->twips().adjusted(60, 30, -60, -30);
         const QString name = thing->accessibleName();
+        const QRect room = roomForName(*thing, least);
+        const double growth =
+            RoomToGrow().of(least, kName / kLeastName * textScale(), name, room.size(), kFlags);
+        painter.setFont(larger(least, growth).toQFont());
         painter.fillRect(painter.boundingRect(room, kFlags, name),
                          Qt::black);  // a long one reaches over lines
         painter.drawText(room, kFlags, name);

@@ -40,9 +40,11 @@ class frmHlavni : public Form {
 
     void closeRequested() override {}  // this screen is left by its door only
     void restored() override;
+    void eyesChanged() override;
 
   protected:
     void paintNames(QPainter& painter) const;
+    QRect roomForName(const Button& thing, const TextFont& font) const;
     void paint(QPainter& painter) override;
     bool keyDown(QKeyEvent& event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -271,6 +271,7 @@ bool frmMenu::isSelectable(int k) const {
 void frmMenu::mark(int k, bool marked) {
     MenuLabel& label = *lblOdkaz[size_t(k - 1)];
     const bool leadsOn = isSelectable(k) && label.note() != u"0";
+    label.setMarked(marked);
     label.setGround(marked ? eyes().selected() : QColor(Qt::transparent));
     label.setColor(marked                 ? colors::kPaper
                    : leadsOn              ? colors::kTitle

@@ -22,16 +22,31 @@ class MenuLabel : public Label {
     Arrow arrow() const { return arrow_; }
     void setNote(const QString& note) { note_ = note; }
     const QString& note() const { return note_; }
+    /// The line that one is at has a frame, beside its ground.
+    void setMarked(bool marked) {
+        marked_ = marked;
+        update();
+    }
 
   protected:
     void paint(QPainter& painter) override {
         Label::paint(painter);
+        if (marked_) paintMark(painter);
         const QRect place = QRect({0, 0}, twips().size()).adjusted(kMenuItemMargin, 0, -kMenuItemMargin, 0);
         if (arrow_ != Arrow::None) paintArrow(painter, place);
         painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, note_);
     }
 
   private:
+    void paintMark(QPainter& painter) const {
+        constexpr int kLine = 30;  // twips
+        painter.save();
+        painter.setPen(QPen(colors::kPaper, kLine, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(
+            QRect({0, 0}, twips().size()).adjusted(kLine / 2, kLine / 2, -kLine / 2, -kLine / 2));
+        painter.restore();
+    }
     void paintArrow(QPainter& painter, const QRect& place) const {
         const bool left = arrow_ == Arrow::Left;
         const QPointF tip(left ? place.left() : place.right(), place.center().y());
@@ -45,6 +60,7 @@ class MenuLabel : public Label {
 
     Arrow arrow_ = Arrow::None;
     QString note_;
+    bool marked_ = false;
 };
 
 }  // namespace sarne

@@ -1,6 +1,7 @@
 #include "screens/navigation/menulayout.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace sarne {
 namespace {
@@ -43,7 +44,18 @@ int levelWidth(const MenuContent& content, int columns) {
     const int words = std::max(content.headingWidth, content.hintWidth);
     const int width = std::max(columns * item + roomBeside(content, columns),
                                words > 0 ? words + 2 * (kMargin + kMenuItemMargin) : 0);
-    return std::min(width, kScreen.width());
+    return width;
+}
+
+/// The same content in texts a little smaller, but not smaller than designed.
+MenuContent smaller(MenuContent content) {
+    constexpr double kStep = .05;
+    const double scale = std::max(1., content.scale - kStep), shrink = scale / content.scale;
+    content.scale = scale;
+    for (int& width : content.itemWidths) width = static_cast<int>(std::ceil(width * shrink));
+    for (int* width : {&content.headingWidth, &content.hintWidth})
+        *width = static_cast<int>(std::ceil(*width * shrink));
+    return content;
 }
 
 std::vector<QRect> itemPlaces(int items, const Columns& columns, int top, QSize item) {
@@ -71,7 +83,8 @@ MenuGeometry layOutMenu(const MenuContent& content, const QRect& beside, int max
     const int below = kMargin + (content.hintWidth > 0 ? line : 0);
     const int count = int(content.itemWidths.size());
     const Columns columns = columnsFor(count, (maxHeight - top - below) / line);
-    const int width = levelWidth(content, columns.count);
+    const int natural = levelWidth(content, columns.count), width = std::min(natural, kScreen.width());
+    if (natural > width && content.scale > 1) return layOutMenu(smaller(content), beside, maxHeight);
     const int item = (width - roomBeside(content, columns.count)) / columns.count;
     const int bottom = top + columns.rows * line;
 

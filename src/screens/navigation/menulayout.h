@@ -32,7 +32,8 @@ inline constexpr int kMenuHeight = 8700;
 
 /// Lays a level out in as many columns as \a maxHeight needs, and places it on the screen: to the right of \a
 /// beside, its top at \a beside's, or to the left of it where the right has no room; always whole on the
-/// screen. The columns fill the level, however wide its heading makes it.
+/// screen. The columns fill the level, however wide its heading makes it. Enlarged texts that the screen has
+/// no room for are laid out as large as it has.
 MenuGeometry layOutMenu(const MenuContent& content, const QRect& beside, int maxHeight = kMenuHeight);
 
 }  // namespace sarne
