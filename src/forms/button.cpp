@@ -165,8 +165,9 @@ bool Button::isAlike(const Button& other) const {
 
 double Button::roomToGrow() const {
     constexpr int kInside = 2 * (kRingRoom + kFrameTwips);
-    const QSize room = captionRoom().size(),
-                edge = captionPlace_ == CaptionPlace::Over ? QSize(kInside, 0) : QSize(kRingRoom, 0);
+    const QSize room = captionRoom().size(), edge = captionPlace_ == CaptionPlace::Over
+                                                        ? QSize(kInside, 2 * kRingRoom)
+                                                        : QSize(kRingRoom, 0);
     return room_.of(font_, form().textScale(), withUnbreakableBlanks(caption_), room - edge, captionFlags());
 }
 

@@ -8,8 +8,11 @@ namespace {
 constexpr QRect kScreen(0, 0, 12000, 9000);
 
 TEST(MenuLayout, EveryLevelIsWholeOnTheScreenAndNothingOverlaps) {
-    for (const auto [count, scale] :
-         {std::pair(0, 1.), {1, 1.}, {9, 1.}, {27, 1.}, {28, 1.}, {84, 1.}, {9, 1.5}, {84, 1.5}}) {
+    const struct {
+        int count;
+        double scale;
+    } cases[] = {{0, 1}, {1, 1}, {9, 1}, {27, 1}, {28, 1}, {84, 1}, {9, 1.5}, {84, 1.5}};
+    for (const auto& [count, scale] : cases) {
         for (const QPoint corner :
              {QPoint(0, 0), QPoint(9335, 370), QPoint(267, 8186), QPoint(8736, 6721), QPoint(11990, 8990)}) {
             const MenuContent content{std::vector<int>(size_t(count), int(2500 * scale)), 1800, 0, count == 1,
