@@ -15,7 +15,7 @@ QStringList printedLines(basSarne& run, int id, const PrintOptions& options) {
     PageScale a4;
     a4.width = 11400;
     a4.height = 16400;
-    PageComposer composer({run.Db(), [](const QString&) { return Picture(); }, run.Locale, {}}, a4, metrics);
+    PageComposer composer({run.Db(), [](const QString&) { return QString(); }, run.Locale, {}}, a4, metrics);
     QStringList lines;
     int baseline = -1;
     for (const PrintedPage& page : composer.recipe(id, options, silent)) {
