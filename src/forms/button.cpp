@@ -164,11 +164,13 @@ bool Button::isAlike(const Button& other) const {
 }
 
 double Button::roomToGrow() const {
-    constexpr int kInside = 2 * (kRingRoom + kFrameTwips);
-    const QSize room = captionRoom().size(), edge = captionPlace_ == CaptionPlace::Over
-                                                        ? QSize(kInside, 2 * kRingRoom)
-                                                        : QSize(kRingRoom, 0);
-    return room_.of(font_, form().textScale(), withUnbreakableBlanks(caption_), room - edge, captionFlags());
+    // Nothing of the text touches the frame.
+    constexpr QSize kOver(2 * (kRingRoom + kFrameTwips), 2 * kRingRoom + 30), kBeside(kRingRoom, kRingRoom);
+    const QSize edge = captionPlace_ == CaptionPlace::Over     ? kOver
+                       : captionPlace_ == CaptionPlace::Beside ? kBeside
+                                                               : QSize(kRingRoom, 0);
+    return room_.of(font_, form().textScale(), withUnbreakableBlanks(caption_), captionRoom().size() - edge,
+                    captionFlags());
 }
 
 /// Captions of buttons of one kind are of one size; names below pictures are as large as each can be, for
@@ -183,7 +185,8 @@ double Button::growth() const {
 }
 
 bool Button::captionIsLarge() const {
-    return growth() >= form().textScale();
+    constexpr double kNearly = .9;  // of it: what is a little smaller needs no second name
+    return growth() >= kNearly * form().textScale();
 }
 
 void Button::paintCaption(QPainter& painter) const {

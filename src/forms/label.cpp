@@ -117,9 +117,10 @@ bool Label::isAlike(const Label& other) const {
 }
 
 double Label::roomToGrow() const {
-    constexpr int kAir = 60;  // beside the text, so that it does not touch the next one
+    constexpr int kAir = 60;  // around the text, so that it touches nothing
     const QString shown = wraps_ ? withUnbreakableBlanks(text_) : text_;
-    return room_.of(font_, form().textScale(), shown, textRoom().size() - QSize(kAir, 0), flags());
+    const QSize room = textRoom().size() - QSize(kAir, wraps_ ? 0 : kAir);
+    return room_.of(font_, form().textScale(), shown, room, flags());
 }
 
 double Label::growth() const {
