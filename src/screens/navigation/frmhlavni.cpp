@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/texts.h"
+#include "core/unbreakable.h"
 #include "forms/backgroundmusic.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -316,7 +317,7 @@ bool frmHlavni::keyDown(QKeyEvent& event) {
 QRect frmHlavni::roomForName(const Button& thing, const TextFont& font) const {
     QRect room = thing.twips().adjusted(60, 30, -60, -30);
     int longest = 0;
-    for (const QString& word : thing.accessibleName().split(u' '))
+    for (const QString& word : withUnbreakableBlanks(thing.accessibleName()).split(u' '))
         longest = std::max(longest, Label::measure(word, font).width());
     const int missing = longest - room.width();
     if (missing > 0) room.adjust(-missing / 2 - 15, 0, missing / 2 + 15, 0);
@@ -337,7 +338,7 @@ void frmHlavni::paintNames(QPainter& painter) const {
     const TextFont least{QStringLiteral("Arial"), kLeastName, true};
     for (const Button* thing : things) {
         constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
-        const QString name = thing->accessibleName();
+        const QString name = withUnbreakableBlanks(thing->accessibleName());
         const QRect room = roomForName(*thing, least);
         const double growth =
             RoomToGrow().of(least, kName / kLeastName * textScale(), name, room.size(), kFlags);
