@@ -1,5 +1,6 @@
 #include "app/program.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QFileInfo>
 
@@ -157,7 +158,9 @@ void Program::Beep() {
 }
 
 void Program::HookMessage(const QString& text) {
-    if (announcer_) announcer_->announce(text);
+    // A screen reader says by itself what has got the keyboard.
+    const QWidget* at = QAccessible::isActive() ? stage_->focusWidget() : nullptr;
+    if (announcer_ && !(at && at->accessibleName() == text)) announcer_->announce(text);
 }
 
 void Program::keepAwake(const QString& reason) {

@@ -58,7 +58,12 @@ frmDialog::frmDialog(basSarne& sarne, const QString& prompt, Asks asks)
     }
     const QSize size(kPromptWidth + 2 * kMargin, buttonTop + kButton.height() + kMargin);
     place({QPoint((Stage::kWidth - size.width()) / 2, (Stage::kHeight - size.height()) / 2), size});
-    ring().setStops({&Text1, Command1[0], Command1[1]});
+    std::vector<FocusGroup> groups;
+    for (TwipWidget* stop : {static_cast<TwipWidget*>(&Text1), static_cast<TwipWidget*>(Command1[0]),
+                             static_cast<TwipWidget*>(Command1[1])})
+        groups.emplace_back(std::array{stop});
+    if (!keys_.empty()) groups.emplace_back(keys_);
+    ring().setGroups(std::move(groups));
     ring().setArrows(FocusRing::Arrows::All);
 }
 
@@ -82,7 +87,8 @@ void frmDialog::addKey(const QString& name, const QRect& place, const QString& c
     auto* button = new Button(*this, name);
     button->place(place);
     button->dressAsText(caption, tip);
-    button->setFocusPolicy(Qt::NoFocus);
+    button->setFocusPolicy(Qt::TabFocus);  // a click leaves the keyboard in the entry
+    keys_.push_back(button);
     connect(button, &Button::clicked, this, std::move(use));
 }
 

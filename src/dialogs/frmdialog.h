@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <vector>
 
 #include "forms/button.h"
 #include "forms/edit.h"
@@ -37,6 +38,7 @@ class frmDialog : public Form {
     Label Label1;
     Edit Text1;
     std::array<Button*, 2> Command1{};
+    std::vector<Button*> keys_;  ///< of digits
 };
 
 /// Asks for a positive number under \a prompt; 0 when the user cancels. The number is what stands at the

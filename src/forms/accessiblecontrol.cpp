@@ -7,7 +7,6 @@
 #include "forms/accessiblepartinterface.h"
 #include "forms/form.h"
 #include "forms/label.h"
-#include "forms/progressbar.h"
 #include "forms/showntexts.h"
 #include "forms/stage.h"
 #include "forms/textview.h"
@@ -132,23 +131,25 @@ class AccessibleText final : public AccessibleControl, public QAccessibleTextInt
     TextView* view_;
 };
 
-/// How far a bar is.
-class AccessibleProgress final : public AccessibleControl, public QAccessibleValueInterface {
+/// How far a bar is, or a slider.
+class AccessibleMeasure final : public AccessibleControl, public QAccessibleValueInterface {
   public:
-    explicit AccessibleProgress(ProgressBar* bar) : AccessibleControl(bar), bar_(bar) {}
+    using AccessibleControl::AccessibleControl;
 
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
         return AccessibleControl::interface_cast(type);
     }
-    QVariant currentValue() const override { return bar_->value(); }
-    void setCurrentValue(const QVariant&) override {}
-    QVariant maximumValue() const override { return bar_->maximum(); }
-    QVariant minimumValue() const override { return 0; }
-    QVariant minimumStepSize() const override { return 1; }
+    QVariant currentValue() const override { return range().value; }
+    void setCurrentValue(const QVariant& value) override {
+        if (control()->isEnabled()) control()->setAccessibleValue(qBound(0., value.toDouble(), range().most));
+    }
+    QVariant maximumValue() const override { return range().most; }
+    QVariant minimumValue() const override { return 0.; }
+    QVariant minimumStepSize() const override { return range().step; }
 
   private:
-    ProgressBar* bar_;
+    AccessibleRange range() const { return control()->accessibleRange().value_or(AccessibleRange()); }
 };
 
 /// Rows and columns; the first row of parts are the headings.
@@ -290,9 +291,9 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     if (auto* form = qobject_cast<Form*>(object)) return new AccessibleForm(form);
     if (auto* stage = qobject_cast<Stage*>(object)) return new AccessibleStage(stage);
     if (auto* view = qobject_cast<TextView*>(object)) return new AccessibleText(view);
-    if (auto* bar = qobject_cast<ProgressBar*>(object)) return new AccessibleProgress(bar);
     auto* control = qobject_cast<Control*>(object);
     if (!control) return nullptr;
+    if (control->accessibleRange()) return new AccessibleMeasure(control);
     if (control->role() == QAccessible::Table) return new AccessibleTable(control);
     return new AccessibleControl(control);
 }

@@ -18,6 +18,12 @@ struct AccessiblePart {
     bool isCheckable = false, isChecked = false;
 };
 
+/// What can be more or less: how far a film is, how many stars.
+struct AccessibleRange {
+    double value = 0, most = 0;  ///< from 0 on
+    double step = 1;             ///< the smallest that makes a difference
+};
+
 /// "3 z 17", for the thing number \a index, counted from 0, of \a count.
 QString placeAmong(int index, int count);
 

@@ -24,6 +24,13 @@ void Control::click() {
     Q_EMIT clicked();
 }
 
+void Control::letGo() {
+    if (!down_) return;
+    down_ = false;
+    update();
+    Q_EMIT released();
+}
+
 bool Control::isPressable() const {
     return role() == QAccessible::Button || role() == QAccessible::CheckBox ||
            role() == QAccessible::RadioButton;

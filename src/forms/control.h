@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAccessible>
+#include <optional>
 
 #include "forms/accessiblepart.h"
 #include "forms/twipwidget.h"
@@ -21,6 +22,10 @@ class Control : public TwipWidget {
     virtual QAccessible::Role role() const { return QAccessible::StaticText; }
     /// What a screen reader says beside the name: the current entry, how far a bar is.
     virtual QString accessibleValue() const { return {}; }
+    /// How much of what the control is; nothing where it is no matter of more or less.
+    virtual std::optional<AccessibleRange> accessibleRange() const { return {}; }
+    /// Does what the user does to make it \a value.
+    virtual void setAccessibleValue(double /*value*/) {}
     virtual void addAccessibleState(QAccessible::State&) const {}
     /// The things within the control that a screen reader comes to one by one, whether in sight or not. Of a
     /// table they go row by row, headings first, in partColumns() columns.
@@ -41,6 +46,8 @@ class Control : public TwipWidget {
     void setTip(const QString& tip);
     /// Does what a click does. Nothing while the control is disabled.
     void click();
+    /// Forgets that it is being pressed: the release will not click.
+    void letGo();
 
     /// Whether the control should show that it has the keyboard.
     bool showsFocus() const;

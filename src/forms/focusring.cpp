@@ -112,7 +112,25 @@ bool FocusRing::stepTowards(Direction direction, const std::vector<TwipWidget*>&
     for (const TwipWidget* stop : among) places.push_back(isUsable(stop) ? stop->twips() : QRect());
     const auto next = nearest(places, static_cast<int>(at - among.begin()), direction);
     if (next) goTo(*among[static_cast<size_t>(*next)]);
-    return true;
+    return next || direction == Direction::Left || direction == Direction::Right;
+}
+
+void FocusRing::walk(int direction) {
+    std::vector<TwipWidget*> all;
+    for (const FocusGroup& group : groups_)
+        for (TwipWidget* member : group.members)
+            if (isUsable(member)) all.push_back(member);
+    const auto at = std::ranges::find(all, last_.data());
+    const std::optional<int> from =
+        at == all.end() ? std::optional<int>() : static_cast<int>(at - all.begin());
+    const auto next = nextPlace(std::vector<bool>(all.size(), true), from, direction);
+    if (next) goTo(*all[static_cast<size_t>(*next)]);
+}
+
+void FocusRing::walk(const QKeyEvent& event) {
+    const auto direction = arrowDirection(event.key());
+    if (!direction || event.modifiers() & ~Qt::KeypadModifier) return;
+    walk(*direction == Direction::Left || *direction == Direction::Up ? -1 : 1);
 }
 
 bool FocusRing::press() {
@@ -125,7 +143,7 @@ bool FocusRing::press() {
 bool FocusRing::arrow(Direction direction) {
     const bool upright = direction == Direction::Up || direction == Direction::Down;
     if (arrows_ == Arrows::None || (upright && arrows_ == Arrows::Sideways)) return false;
-    step(direction == Direction::Left || direction == Direction::Up ? -1 : 1);
+    walk(direction == Direction::Left || direction == Direction::Up ? -1 : 1);
     return true;
 }
 

@@ -64,9 +64,14 @@ class FocusRing {
     void step(int direction);
     /// To the next member of the group that has the keyboard. False when no group has it.
     bool stepWithin(int direction);
-    /// To the nearest that way of \a among; at the outermost it stays. False when the keyboard is at none of
-    /// them.
+    /// To the nearest that way of \a among; sideways it stays at the outermost. False when the keyboard is at
+    /// none of them, or nothing lies above or below.
     bool stepTowards(Direction direction, const std::vector<TwipWidget*>& among);
+    /// To the next stop, or back to the one before, whichever group they belong to; round at the ends.
+    void walk(int direction);
+    /// The same for an arrow that nothing else has a use for: with arrows and Enter alone everything is
+    /// reached.
+    void walk(const QKeyEvent& event);
     /// Clicks what has the keyboard where that is a button or a check box, else returns false.
     bool press();
 

@@ -225,7 +225,7 @@ void Form::keyPressEvent(QKeyEvent* event) {
                        event->isAutoRepeat());
         return keyPressEvent(&back);
     }
-    if (!keyDown(*event)) sharedKey(*event);
+    if (!keyDown(*event) && !sharedKey(*event)) ring_.walk(*event);
 }
 
 void Form::focusInEvent(QFocusEvent* event) {

@@ -80,6 +80,9 @@ class Form : public TwipWidget {
     virtual bool readyToEnd() { return true; }
     /// The program is about to end without asking: words that were typed and not stored are to be kept.
     virtual void keepUnsaved() {}
+    /// A finger has gone over the form sideways: \a direction is 1 for what comes next, -1 for what was
+    /// before. True when the form has turned to that.
+    virtual bool swiped(int /*direction*/) { return false; }
     /// The window's close button or Alt+F4.
     virtual void closeRequested() { endProgram(); }
 

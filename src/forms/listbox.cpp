@@ -33,6 +33,11 @@ class Texts final : public QStringListModel {
   public:
     using QStringListModel::QStringListModel;
 
+    QVariant data(const QModelIndex& at, int role) const override {
+        if (role == Qt::AccessibleDescriptionRole) return placeAmong(at.row(), rowCount());
+        return QStringListModel::data(at, role);
+    }
+
     QModelIndexList match(const QModelIndex& start, int, const QVariant& typed, int,
                           Qt::MatchFlags) const override {
         QString letters = plainLetters(typed.toString());

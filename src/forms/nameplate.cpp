@@ -159,7 +159,7 @@ void NamePlate::setThing(Control* thing) {
 void NamePlate::nameIt(Control& thing) {
     delay_.setEnabled(false);
     setThing(&thing);
-    if (!thing.isVisible()) return dismiss();
+    if (!thing.isVisible() || tipOf(&thing).isEmpty()) return dismiss();
     settle();
     setVisible(true);
     raise();

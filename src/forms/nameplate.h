@@ -27,6 +27,8 @@ class NamePlate : public TwipWidget {
     /// Takes note of \a event, which \a watched is about to get.
     void see(const QObject* watched, const QEvent& event);
     void dismiss();
+    /// Names \a thing at once.
+    void nameIt(Control& thing);
     /// What the plate says; empty while it is not shown.
     QString text() const;
 
@@ -39,7 +41,6 @@ class NamePlate : public TwipWidget {
     void seeThing(const QEvent& event);
     void seeInFront(const QObject* watched);
     void setThing(Control* thing);
-    void nameIt(Control& thing);
     void settle();
     Control* thingAt(QPoint pixels) const;
     QRect pointerPlace() const;

@@ -13,6 +13,9 @@ class ProgressBar : public Control {
     QAccessible::Role role() const override { return QAccessible::ProgressBar; }
     /// The part done, as "40 %".
     QString accessibleValue() const override;
+    std::optional<AccessibleRange> accessibleRange() const override {
+        return AccessibleRange{double(value_), double(maximum_)};
+    }
 
     /// At least 1.
     void setMaximum(int maximum);

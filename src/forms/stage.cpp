@@ -8,13 +8,17 @@
 
 #include "forms/accessiblecontrol.h"
 #include "forms/control.h"
+#include "forms/fingers.h"
 #include "forms/focusframe.h"
 #include "forms/form.h"
 #include "forms/nameplate.h"
 
 namespace sarne {
 
-Stage::Stage() : shield_(new QWidget(this)), namePlate_(new NamePlate(*this)) {
+Stage::Stage()
+    : shield_(new QWidget(this)),
+      namePlate_(new NamePlate(*this)),
+      fingers_(new Fingers(*this, *namePlate_)) {
     registerAccessibleControls();
     setAttribute(Qt::WA_OpaquePaintEvent);
     shield_->setObjectName(QStringLiteral("shield"));
@@ -148,6 +152,7 @@ bool Stage::eventFilter(QObject* watched, QEvent* event) {
         }
         if (event->type() == QEvent::ToolTip) return true;  // the name plate says it
         if (watched != namePlate_) namePlate_->see(watched, *event);
+        if (fingers_->see(watched, *event)) return true;
     }
     return QWidget::eventFilter(watched, event);
 }

@@ -9,6 +9,7 @@
 
 namespace sarne {
 
+class Fingers;
 class Form;
 class NamePlate;
 
@@ -73,6 +74,7 @@ class Stage : public QWidget {
     QPointF origin_;
     QWidget* shield_;  // lies below the modal form and takes the mouse meant for the others
     NamePlate* namePlate_;
+    Fingers* fingers_;
     std::vector<QPointer<Form>> modal_;
     bool keyboardInUse_ = false;
 };

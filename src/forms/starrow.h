@@ -17,6 +17,10 @@ class StarRow : public Control {
 
     QAccessible::Role role() const override { return QAccessible::Slider; }
     QString accessibleValue() const override;
+    std::optional<AccessibleRange> accessibleRange() const override {
+        return AccessibleRange{double(stars_), double(kStars)};
+    }
+    void setAccessibleValue(double stars) override { give(static_cast<int>(stars)); }
     QRect focusPlace() const override { return {{0, 0}, twips().size()}; }
 
     int stars() const { return stars_; }

@@ -195,6 +195,7 @@ void frmVideo::ended(int code) {
     if (closed_ || MMControlVideo->mode() == MediaMode::Playing) return;
     Label1.setText(Texts::tr("Přehrávání skončeno"));
     setPlaying(false);
+    sayState();
 }
 
 void frmVideo::press(int index) {
@@ -209,14 +210,16 @@ void frmVideo::press(int index) {
         case kStop:
             MMControlVideo->command(u"stop");
             Label1.setText(Texts::tr("Zastaveno"));
-            return setPlaying(false);
+            setPlaying(false);
+            return sayState();
         case kPause:
             return pause();
         case kPrev:
         case kNext:
             MMControlVideo->command(index == kPrev ? u"prev" : u"next");
             Label1.setText(index == kPrev ? Texts::tr("Na začátku") : Texts::tr("Na konci"));
-            return setPlaying(false);
+            setPlaying(false);
+            return sayState();
         default:
             return;
     }
@@ -272,9 +275,20 @@ void frmVideo::pause() {
     MMControlVideo->command(u"pause");
     if (before != MediaMode::Paused && before != MediaMode::Playing) return;
     setPlaying(before == MediaMode::Paused);
-    if (before == MediaMode::Paused) return;
+    if (before == MediaMode::Paused) return sayState();
     ImgTlacitko[kPause].setLatched(true);
     Label1.setText(Texts::tr("Pozastaveno"));
+    sayState();
+}
+
+/// What the film does now, and where in it.
+void frmVideo::sayState() {
+    app().HookMessage(Label1.text());
+}
+
+void frmVideo::sayPlace() {
+    const QStringList words{chapter_.text(), time_.text()};
+    app().HookMessage(chapter_.text().isEmpty() ? time_.text() : words.join(QStringLiteral(", ")));
 }
 
 void frmVideo::toggleSound() {
@@ -291,7 +305,9 @@ void frmVideo::applySound() {
 void frmVideo::seek(qint64 milliseconds) {
     if (MMControlVideo && MMControlVideo->mode() != MediaMode::NotOpen)
         MMControlVideo->setPosition(milliseconds);
-    if (progress_.isEnabled()) showProgress();
+    if (!progress_.isEnabled()) return;
+    showProgress();
+    sayPlace();
 }
 
 void frmVideo::jump(qint64 milliseconds) {
@@ -364,7 +380,8 @@ bool frmVideo::keyDown(QKeyEvent& event) {
             return true;
         default:
             if (mediaKey(event.key())) return true;
-            focusMoved_ |= event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+            focusMoved_ |= event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab ||
+                           event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
             return ring().keyDown(event);
     }
 }

@@ -55,6 +55,8 @@ class frmVideo : public Form {
     void showError();
     void ended(int code);
     void pause();
+    void sayState();
+    void sayPlace();
     void toggleSound();
     void applySound();
     void stopMusic();

@@ -15,6 +15,13 @@ class SeekBar : public Control {
     SeekBar(Form& form, const QString& name);
 
     QAccessible::Role role() const override { return QAccessible::Slider; }
+    /// In seconds.
+    std::optional<AccessibleRange> accessibleRange() const override {
+        return AccessibleRange{double(position_ / 1000), double(length_ / 1000)};
+    }
+    void setAccessibleValue(double seconds) override { Q_EMIT sought(static_cast<qint64>(seconds * 1000)); }
+    /// "0:12 / 1:40"
+    QString accessibleValue() const override { return accessibleDescription(); }
     /// Both in milliseconds; a \a length of 0 means that nothing is known.
     void show(qint64 position, qint64 length);
 

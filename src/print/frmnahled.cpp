@@ -57,7 +57,8 @@ void frmNahled::command(int button) {
     switch (button) {
         case kPrevious:
         case kNext:
-            return go(current_ + (button == kNext ? 1 : -1));
+            go(current_ + (button == kNext ? 1 : -1));
+            return;
         case kZoom:
             return zoom();
         case kClose:
@@ -85,10 +86,16 @@ void frmNahled::layOutMore() {
     showPosition();
 }
 
-void frmNahled::go(int sheet) {
+bool frmNahled::go(int sheet) {
+    const int before = current_;
     current_ = qBound(0, sheet, qMax(0, preview_->sheetCount() - 1));
     picStrana.showSheet(*preview_, current_);
     showPosition();
+    return current_ != before;
+}
+
+bool frmNahled::swiped(int direction) {
+    return go(current_ + direction);
 }
 
 void frmNahled::showPosition() {
@@ -121,13 +128,11 @@ bool frmNahled::keyDown(QKeyEvent& event) {
         case Qt::Key_PageUp:
         case Qt::Key_Left:
         case Qt::Key_Up:
-            go(current_ - 1);
-            return true;
+            return go(current_ - 1);
         case Qt::Key_PageDown:
         case Qt::Key_Right:
         case Qt::Key_Down:
-            go(current_ + 1);
-            return true;
+            return go(current_ + 1);
         case Qt::Key_Home:
             go(0);
             return true;

@@ -25,10 +25,11 @@ class frmNahled : public Form {
   protected:
     void paint(QPainter& painter) override;
     bool keyDown(QKeyEvent& event) override;
+    bool swiped(int direction) override;
 
   private:
     void command(int button);
-    void go(int sheet);
+    bool go(int sheet);
     void zoom();
     void layOutMore();
     void showPosition();

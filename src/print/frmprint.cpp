@@ -175,6 +175,8 @@ void frmPrint::start() {
     prgSeznam.setMaximum(material_.count());
     prgSeznam.setValue(0);
     setPrinting(true);
+    spoken_ = SpokenProgress(app().clock().now());
+    app().HookMessage(Texts::tr("Tisknu: %1").arg(lblCo.text()));
     const QPointer<frmPrint> self(this);
     run();
     if (self) setPrinting(false);
@@ -351,6 +353,8 @@ void frmPrint::status(const QString& text) {
 
 void frmPrint::progressed(double part) {
     prgRecept.setValue(qRound(part * prgRecept.maximum()));
+    const auto said = spoken_.at((prgSeznam.value() + part) / prgSeznam.maximum(), app().clock().now());
+    if (said) app().HookMessage(Texts::tr("Vytištěno %1 %").arg(*said));
 }
 
 void frmPrint::recipeDone() {

@@ -13,6 +13,7 @@
 #include "platform/printer.h"
 #include "print/pagesheet.h"
 #include "print/printjob.h"
+#include "print/spokenprogress.h"
 
 namespace sarne {
 
@@ -102,6 +103,7 @@ class frmPrint : public Form, private PrintProgress {
     PrintMaterial material_;
     bool printedBefore_ = false;  // further selections are printed at once
     bool printing_ = false;
+    SpokenProgress spoken_;
     bool stopped_ = false;
     QElapsedTimer sinceYield_;
     std::vector<QPointer<Form>> others_;

@@ -108,6 +108,7 @@ void frmSave::addMarked() {
     const std::vector<int> marked = lstSeznam.marked();
     if (!choice_.add(marked)) return app().Beep();
     showChosen();
+    app().HookMessage(lblVybrano.text());
     lstVybrano.scrollTo(lstVybrano.listCount());
 }
 
@@ -123,6 +124,7 @@ void frmSave::removeMarked() {
     if (!choice_.remove(marked)) return app().Beep();
     const int top = lstVybrano.topIndex();
     showChosen();
+    app().HookMessage(lblVybrano.text());
     lstVybrano.scrollTo(top);
     // The entry that took the place is the next to go.
     if (!choice_.isEmpty()) lstVybrano.setListIndex(std::min(marked.front(), lstVybrano.listCount() - 1));

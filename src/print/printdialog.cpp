@@ -20,6 +20,7 @@ bool asksToClose(const QKeyEvent& event) {
 
 PrintDialog::PrintDialog(basSarne& sarne, const QString& name) : Form(sarne, name) {
     place(kDialog);
+    ring().setArrows(FocusRing::Arrows::All);
 }
 
 void PrintDialog::placeList(ListBox& list, Label& title, const QRect& place) {

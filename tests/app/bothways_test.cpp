@@ -77,6 +77,22 @@ class Visitor : public ShippedProgram {
         return outcome;
     }
 
+    /// The controls that can be pressed, but to which the arrows do not lead from where the keyboard is when
+    /// the screen has opened.
+    QStringList outOfReach() {
+        QStringList names;
+        visit([&] {
+            std::vector<QPointer<Control>> wanted;
+            for (Control* control : front()->findChildren<Control*>())
+                if (canBePressed(*control)) wanted.emplace_back(control);
+            const auto reached = reachedByArrows(wanted);
+            for (const auto& control : wanted)
+                if (control && canBePressed(*control) && std::ranges::count(reached, control.data()) == 0)
+                    names << control->objectName();
+        });
+        return names;
+    }
+
   private:
     static constexpr int kOpen = 40, kSettle = 5;  // milliseconds, in which what was begun is done
 
@@ -97,6 +113,25 @@ class Visitor : public ShippedProgram {
         const QPoint middle = control.mapTo(&program->stage(), control.rect().center());
         QWidget* hit = program->stage().childAt(middle);
         QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&program->stage(), middle));
+    }
+    std::vector<QWidget*> reachedByArrows(const std::vector<QPointer<Control>>& wanted) {
+        constexpr int kLongest = 60;  // steps within a list or a text until the keyboard goes on
+        const QPointer<Form> screen = front();
+        std::vector<QWidget*> reached{QApplication::focusWidget()};
+        const auto isReached = [&](const QPointer<Control>& one) {
+            return !one || !canBePressed(*one) || std::ranges::count(reached, one.data()) > 0;
+        };
+        for (size_t at = 0; at < reached.size() && !std::ranges::all_of(wanted, isReached); ++at) {
+            for (const Qt::Key arrow : {Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Up}) {
+                reached[at]->setFocus(Qt::TabFocusReason);
+                for (int step = 0; step < kLongest && QApplication::focusWidget() == reached[at]; ++step)
+                    QTest::keyClick(reached[at], arrow);
+                if (front() != screen) return reached;
+                QWidget* now = QApplication::focusWidget();
+                if (std::ranges::count(reached, now) == 0) reached.push_back(now);
+            }
+        }
+        return reached;
     }
     void leaveBox() {
         if (QWidget* dialog = QApplication::activeModalWidget()) dialog->close();
@@ -168,6 +203,11 @@ TEST_P(BothWays, EveryControlDoesTheSameByMouseAndByKeyOnAFirstVisitAndOnASecond
     for (const QString& outcome : byMouse)
         EXPECT_TRUE(!outcome.endsWith(QStringLiteral(": ")) || isIdle(GetParam(), outcome))
             << outcome.toStdString() << "nothing";
+}
+
+TEST_P(BothWays, ArrowsAloneLeadToEveryButton) {
+    if (!GetParam()) GTEST_SKIP() << "what is pointed at goes before the focus there";
+    EXPECT_EQ(Visitor(GetParam()).outOfReach().join(u' ').toStdString(), "");
 }
 
 std::vector<const Door*> screens() {

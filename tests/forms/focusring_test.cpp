@@ -88,9 +88,11 @@ TEST_F(FocusRingTest, TabPassesOverWhatIsDisabledOrHiddenAndSaysTheStop) {
     press(Qt::Key_Tab);
     EXPECT_EQ(focused(), 0);
     press(Qt::Key_Tab, Qt::ShiftModifier);
-    press(Qt::Key_Right);
-    EXPECT_EQ(focused(), 2) << "arrows are not asked for";
+    EXPECT_EQ(focused(), 2);
     EXPECT_EQ(run.announced, (QStringList{QStringLiteral("c"), QStringLiteral("a"), QStringLiteral("c")}));
+    press(Qt::Key_Right);
+    EXPECT_EQ(focused(), 0) << "an arrow that the form has no use for walks on";
+    press(Qt::Key_Up);
     delete screen->buttons[0];
     press(Qt::Key_Tab);
     EXPECT_EQ(run.window.focusWidget(), screen->buttons[2]);
@@ -103,7 +105,7 @@ TEST_F(FocusRingTest, ArrowsGoAsFarAsTheFormWants) {
         for (int key : keys) press(key);
         return focused();
     };
-    EXPECT_EQ(after(FocusRing::Arrows::Sideways, {Qt::Key_Right, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up}), 2);
+    EXPECT_EQ(after(FocusRing::Arrows::Sideways, {Qt::Key_Right, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up}), 1);
     EXPECT_EQ(after(FocusRing::Arrows::All, {Qt::Key_Up, Qt::Key_Left}), 3);
     EXPECT_EQ(after(FocusRing::Arrows::All, {}), 1);
     press(Qt::Key_Right, Qt::ControlModifier);

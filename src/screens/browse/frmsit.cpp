@@ -55,6 +55,14 @@ void frmSit::setGroup(int group) {
     showChoice();
 }
 
+/// Through all photos and their groups, round at the ends.
+bool frmSit::swiped(int direction) {
+    const int from = grid_.isWhole() ? 0 : grid_.group() + 1;
+    const int to = (from + direction + kGridGroups + 1) % (kGridGroups + 1);
+    setGroup(to == 0 ? PhotoGrid::kNoGroup : to - 1);
+    return true;
+}
+
 void frmSit::applyGroup() {
     const size_t shown = grid_.isWhole() ? kGridGroups : size_t(grid_.group());
     if (composites_[shown].isNull()) {
@@ -138,8 +146,10 @@ bool frmSit::moveByKey(int key) {
     const int right = key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : 0;
     const int down = key == Qt::Key_Down ? 1 : key == Qt::Key_Up ? -1 : 0;
     if (right == 0 && down == 0) return false;
-    ring().focus(*this);  // away from a button: Enter means the cell again
-    if (!grid_.move(right, down)) return true;
+    if (down == 0 && !ring().isAt(this)) return false;  // along the buttons
+    const bool wasAtButton = !ring().isAt(this);
+    if (wasAtButton) ring().focus(*this);  // Enter means the cell again
+    if (!grid_.move(right, down)) return wasAtButton || right != 0;
     showChoice();
     ring().say(*imgFoto[size_t(grid_.cell() - 1)]);
     return true;

@@ -28,6 +28,7 @@ class frmSit : public Form {
 
   protected:
     bool keyDown(QKeyEvent& event) override;
+    bool swiped(int direction) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paint(QPainter& painter) override;
 

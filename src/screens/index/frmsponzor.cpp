@@ -222,7 +222,7 @@ void frmSponzor::openCard(const QString& text) {
     for (AreaButton* area : areas_) area->setVisible(!area->twips().intersects(cardPlace_));
     setKeyboardOrder();
     ring().focus(card_);
-    app().HookMessage(plainText(text, 2000));
+    ring().sayWithoutReader(plainText(text, 2000));  // a reader goes through it by caret
     update();
 }
 
@@ -272,6 +272,12 @@ bool frmSponzor::keyDown(QKeyEvent& event) {
         return true;
     }
     return BarForm::keyDown(event);
+}
+
+bool frmSponzor::swiped(int direction) {
+    if (pictures_.size() < 2) return false;
+    showPicture(at_ + direction);
+    return true;
 }
 
 void frmSponzor::mousePressEvent(QMouseEvent* event) {

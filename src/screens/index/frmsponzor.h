@@ -25,6 +25,7 @@ class frmSponzor : public BarForm {
   protected:
     void print() override;
     bool keyDown(QKeyEvent& event) override;
+    bool swiped(int direction) override;
     void paint(QPainter& painter) override;
     void paintGround(QPainter& painter) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -93,6 +93,7 @@ void FrmTabulky::makeArrows() {
         arrow->setFont({QStringLiteral("Arial"), 16, true});
         if (face.isNull()) arrow->setCaption(QString::fromUtf8(kArrows[i].caption));
         arrow->setTip(Texts::tr(kArrows[i].tip));
+        arrow->setFocusPolicy(Qt::NoFocus);  // the keys scroll
         new HoldRepeat(*arrow, [this, i] {
             const int half = table_.halfPage();
             const int steps[] = {1, -1, -half, half};

@@ -39,6 +39,8 @@ constexpr KitchenAction kActions[] = {
     {QT_TRANSLATE_NOOP("Texts", "Na seznam"),
      QT_TRANSLATE_NOOP("Texts", "Dát vybraný recept na nákupní seznam (F3)")}};
 
+constexpr int kRest = 800;  // milliseconds
+
 bool contains(const std::vector<int>& ids, int id) {
     return std::find(ids.begin(), ids.end(), id) != ids.end();
 }
@@ -55,7 +57,8 @@ frmDoma::frmDoma(basSarne& sarne, UserFile& file)
       file_(file),
       typed_(*this, QStringLiteral("txtHledat")),
       have_(*this, QStringLiteral("picSuroviny")),
-      recipes_(*this, QStringLiteral("picRecepty")) {
+      recipes_(*this, QStringLiteral("picRecepty")),
+      tmrPocet(this) {
     typed_.place(kTyped);
     typed_.setFont({QStringLiteral("Arial"), 13});
     typed_.setMaxLength(40);
@@ -69,7 +72,17 @@ frmDoma::frmDoma(basSarne& sarne, UserFile& file)
     makeActions(kActions, kFirstAction, kActionStep);
     setStops({FocusGroup(std::array<TwipWidget*, 1>{&typed_}), FocusGroup(std::array<TwipWidget*, 1>{&have_}),
               FocusGroup(std::array<TwipWidget*, 1>{&recipes_})});
-    connect(&typed_, &Edit::textChanged, this, &frmDoma::showIngredients);
+    connect(&typed_, &Edit::textChanged, this, [this] {
+        showIngredients();
+        // Who types hears how many there are when the letters rest.
+        tmrPocet.setEnabled(false);
+        tmrPocet.setEnabled(true);
+    });
+    tmrPocet.setInterval(kRest);
+    connect(&tmrPocet, &Timer::tick, this, [this] {
+        tmrPocet.setEnabled(false);
+        this->app().HookMessage(Texts::tr("Nalezeno surovin: %1").arg(shown_.size()));
+    });
     connect(&have_, &TickList::used, this, [this](int row) {
         tick(row);
         ring().sayPart(have_);
@@ -91,7 +104,7 @@ bool frmDoma::Zobraz() {
     showRecipes();
     showForm();
     ring().focus(typed_);
-    app().HookMessage(title_.text());
+    app().HookMessage(title_.text() + QStringLiteral(". ") + state_.text());
     return true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/edit.h"
+#include "forms/timer.h"
 #include "kitchen/pantry.h"
 #include "screens/kitchen/kitchenform.h"
 #include "screens/kitchen/ticklist.h"
@@ -51,6 +52,7 @@ class frmDoma : public KitchenForm {
 
     Edit typed_;
     TickList have_, recipes_;
+    Timer tmrPocet;
 };
 
 }  // namespace sarne

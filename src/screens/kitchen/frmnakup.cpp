@@ -116,7 +116,7 @@ void frmNakup::Zobraz() {
     showForm();
     rows_.select(0);
     ring().focus(list_.isEmpty() ? static_cast<TwipWidget&>(own_) : rows_);
-    app().HookMessage(title_.text());
+    app().HookMessage(title_.text() + QStringLiteral(". ") + state_.text());
 }
 
 /// Another screen may have put something on the list meanwhile.

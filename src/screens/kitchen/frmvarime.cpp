@@ -142,15 +142,16 @@ void frmVarime::eyesChanged() {
     drawPage();
 }
 
-void frmVarime::go(int pages) {
+bool frmVarime::go(int pages) {
     const int wanted = std::clamp(page_ + pages, 0, pageCount() - 1);
-    if (wanted == page_) return;
+    if (wanted == page_) return false;
     page_ = wanted;
     showPage();
+    return true;
 }
 
 void frmVarime::forward() {
-    page_ + 1 < pageCount() ? go(1) : goBack();
+    if (!go(1)) goBack();
 }
 
 void frmVarime::drawPage() {
@@ -260,14 +261,12 @@ bool frmVarime::turnKey(int key) {
         case Qt::Key_Right:
         case Qt::Key_Down:
         case Qt::Key_PageDown:
-            go(1);
-            return true;
+            return go(1);
         case Qt::Key_Left:
         case Qt::Key_Up:
         case Qt::Key_PageUp:
         case Qt::Key_Backspace:
-            go(-1);
-            return true;
+            return go(-1);
         case Qt::Key_Home:
             go(-pageCount());
             return true;

@@ -39,12 +39,13 @@ class frmVarime : public KitchenForm {
 
   protected:
     bool keyDown(QKeyEvent& event) override;
+    bool swiped(int direction) override { return go(direction); }
     void paint(QPainter& painter) override;
 
   private:
     void makeButtons();
     void readRecipe(std::int16_t id, const Serving& serving);
-    void go(int pages);
+    bool go(int pages);
     void forward();
     void layOutPages();
     void drawPage();

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "core/czech.h"
 #include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
@@ -118,7 +119,10 @@ AccessiblePart frmMenu::heard(int k) const {
 }
 
 void frmMenu::hearItems() {
-    items_.setAccessibleName(level_.heading.isEmpty() ? Texts::tr("Nabídka") : level_.heading);
+    const Noun items{Texts::tr("položka"), Texts::tr("položky"), Texts::tr("položek"), Texts::tr("položky")};
+    const QString name = level_.heading.isEmpty() ? Texts::tr("Nabídka") : level_.heading;
+    setAccessibleName(name + QStringLiteral(", ") + counted(int(level_.items.size()), items, app().Locale));
+    items_.setAccessibleName(name);
     items_.place({{0, 0}, twips().size()});
     items_.setEntries(
         int(level_.items.size()), [this](int index) { return heard(index + 1); },
@@ -346,7 +350,10 @@ void frmMenu::makeRoomForResults() {
 void frmMenu::search() {
     if (!searchIngredients(app().Db(), Text1.text())) return;
     openResults();
-    if (child_->hint_.isEmpty()) return child_->moveSelection(1);
+    if (child_->hint_.isEmpty()) {
+        app().HookMessage(Texts::tr("Nalezeno surovin: %1").arg(child_->level_.items.size()));
+        return child_->moveSelection(1);
+    }
     app().HookMessage(child_->level_.items[0].label + QStringLiteral(". ") + child_->hint_);
     Text1.focusAll();  // nothing to choose there: the next try is typed at once
 }

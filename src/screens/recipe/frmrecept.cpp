@@ -285,8 +285,7 @@ bool frmRecept::keyDown(QKeyEvent& event) {
     if (ring().isAt(stars_) && stars_->keyDown(event)) return true;
     ring().setGroups(stops());
     const auto direction = arrowDirection(event.key());
-    if (direction) arrow(*direction);
-    const bool used = direction || Form::keyDown(event);
+    const bool used = direction ? arrow(*direction) : Form::keyDown(event);
     if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) sayNothingHere();
     return used;
 }
@@ -301,15 +300,17 @@ bool frmRecept::viewKey(const QKeyEvent& event) {
     return press;
 }
 
-void frmRecept::arrow(Direction direction) {
+bool frmRecept::arrow(Direction direction) {
     const bool sideways = direction == Direction::Left || direction == Direction::Right;
     const int way = direction == Direction::Right || direction == Direction::Down ? 1 : -1;
-    if (!sideways && ring().isAt(view_)) return;  // the text is at its end
     const TwipWidget* at = ring().current();
+    const bool leavesSections = way > 0 && !sideways && at == &imgBtn[imgBtn.count() - 1];
+    if (leavesSections || (!sideways && ring().isAt(view_))) return false;  // on to what comes next
     if (sideways && (imgBtnHlavni.indexOf(at) || imgKuchyne.indexOf(at)))
         ring().stepWithin(way);
     else if (!current().step(sideways, way))
         stepSections(way);
+    return true;
 }
 
 void frmRecept::stepSections(int direction) {

@@ -64,7 +64,7 @@ class frmRecept : public Form {
     // Keyboard
     std::vector<FocusGroup> stops() const;
     bool viewKey(const QKeyEvent& event);
-    void arrow(Direction direction);
+    bool arrow(Direction direction);
     void stepSections(int direction);
     void sayNothingHere();
 
