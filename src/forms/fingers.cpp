@@ -174,11 +174,12 @@ void Fingers::rest() {
 /// The press or release that was kept back, at the control.
 void Fingers::send(QEvent::Type type) {
     if (!control_) return;
-    const QPointF at =
-        under_ == control_ ? control_->mapFromGlobal(QPointF(from_)) : control_->rect().center();
-    QMouseEvent event(type, at, control_->mapToGlobal(at), Qt::LeftButton,
+    const bool isWithin = under_ && (under_ == control_ || control_->isAncestorOf(under_));
+    QWidget& target = isWithin ? *under_ : *control_;
+    const QPointF at = isWithin ? target.mapFromGlobal(QPointF(from_)) : QPointF(target.rect().center());
+    QMouseEvent event(type, at, target.mapToGlobal(at), Qt::LeftButton,
                       type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(control_, &event);
+    QCoreApplication::sendEvent(&target, &event);
 }
 
 void Fingers::turnWheel(QPoint global) {

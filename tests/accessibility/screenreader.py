@@ -4,6 +4,7 @@
 Listens to the same events as a screen reader does and writes down, a line each, what it would speak: what got
 the focus (name, role, states, value, description), what was announced, the line that the caret came to.
 """
+import re
 import subprocess
 import time
 
@@ -20,6 +21,8 @@ ROLES = {
     'frame': 'okno', 'window': 'okno', 'image': 'obrázek', 'label': '', 'filler': '', 'panel': '', 'spin button': 'číslo',
     'animation': 'film', 'column header': 'záhlaví sloupce', 'table column header': 'záhlaví sloupce', 'entry': 'pole pro text',
 }
+# What controls are called in the program's own words, and nobody should hear.
+RAW = re.compile(r'(frm|img|lbl|cmd|pic|chk|opt|txt|lst|prg|tmr)[A-Z]|(Image|Label|Text|Command|Frame)\d')
 QUIET = .35   # seconds without an event after which everything has been said
 PATIENCE = 20
 
@@ -184,6 +187,33 @@ class Reader:
 
     def step(self, words):
         self.said += ['', f'--- {words}']
+        raw = [thing.get_name() for _, thing in self.all() if RAW.match(thing.get_name())]
+        if raw:
+            raise Gone(f'nothing but names of controls to be heard: {raw}')
+
+    def go(self, key, name):
+        """Presses an arrow until what is called name has been said."""
+        for _ in range(15):
+            self.key(key)
+            if self.said[-1].startswith(name):
+                return
+        raise Gone(f'{key} does not lead to "{name}"')
+
+    def slide(self, role, name, value):
+        thing = self.find(role, name)
+        Atspi.Value.set_current_value(thing, value)
+        self.rest()
+        self.say(f'{Atspi.Value.get_current_value(thing):g} z {Atspi.Value.get_maximum_value(thing):g}')
+
+    def cells(self, name, rows):
+        """The headings of a table and its first cells, each as it is told of by the table."""
+        table = self.find('table', name).get_table_iface()
+        columns = range(Atspi.Table.get_n_columns(table))
+        self.say('záhlaví: ' + ', '.join(Atspi.Table.get_column_description(table, column) for column in columns))
+        for row in range(rows):
+            cells = [Atspi.Table.get_accessible_at(table, row, column) for column in columns]
+            self.say(' | '.join(f'{cell.get_name()} [{ROLES[cell.get_role_name()]}]' for cell in cells))
+        self.say(f'řádků: {Atspi.Table.get_n_rows(table)}')
 
     def press(self, role, name):
         thing = self.find(role, name)

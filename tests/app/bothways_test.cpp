@@ -6,6 +6,7 @@
 
 #include "forms/button.h"
 #include "forms/checkbox.h"
+#include "forms/fingers.h"
 #include "forms/label.h"
 #include "forms/picturebox.h"
 #include "screens/navigation/frmhlavni.h"
@@ -89,6 +90,22 @@ class Visitor : public ShippedProgram {
             for (const auto& control : wanted)
                 if (control && canBePressed(*control) && std::ranges::count(reached, control.data()) == 0)
                     names << control->objectName();
+        });
+        return names;
+    }
+
+    /// The controls that take no finger as wide and high as it is.
+    QStringList tooSmall() {
+        QStringList names;
+        visit([&] {
+            for (const Control* control : front()->findChildren<Control*>()) {
+                const QSize place = fingerPlace(*control).size();
+                if (canBePressed(*control) && std::min(place.width(), place.height()) < kFingerTwips / 15)
+                    names << QStringLiteral("%1 %2x%3")
+                                 .arg(control->objectName())
+                                 .arg(place.width())
+                                 .arg(place.height());
+            }
         });
         return names;
     }
@@ -208,6 +225,20 @@ TEST_P(BothWays, EveryControlDoesTheSameByMouseAndByKeyOnAFirstVisitAndOnASecond
 TEST_P(BothWays, ArrowsAloneLeadToEveryButton) {
     if (!GetParam()) GTEST_SKIP() << "what is pointed at goes before the focus there";
     EXPECT_EQ(Visitor(GetParam()).outOfReach().join(u' ').toStdString(), "");
+}
+
+/// What neighbours leave too little room, and what else does the same.
+bool isKnownToBeSmall(const QString& control) {
+    static constexpr const char* kSmall[] = {
+        "cmdCislice",  // eleven digits in a row: 33 wide, 38 high
+    };
+    return std::ranges::any_of(kSmall,
+                               [&](const char* name) { return control.startsWith(QLatin1String(name)); });
+}
+
+TEST_P(BothWays, AFingerFindsEveryButton) {
+    for (const QString& control : Visitor(GetParam()).tooSmall())
+        EXPECT_TRUE(isKnownToBeSmall(control)) << control.toStdString();
 }
 
 std::vector<const Door*> screens() {
