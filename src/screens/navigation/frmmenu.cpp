@@ -122,7 +122,7 @@ void frmMenu::hearItems() {
     const Noun items{Texts::tr("položka"), Texts::tr("položky"), Texts::tr("položek"), Texts::tr("položky")};
     const QString name = level_.heading.isEmpty() ? Texts::tr("Nabídka") : level_.heading;
     setAccessibleName(name + QStringLiteral(", ") + counted(int(level_.items.size()), items, app().Locale));
-    items_.setAccessibleName(name);
+    items_.setAccessibleName(Texts::tr("Položky"));  // the level says what they are of
     items_.place({{0, 0}, twips().size()});
     items_.setEntries(
         int(level_.items.size()), [this](int index) { return heard(index + 1); },

@@ -304,12 +304,27 @@ bool frmRecept::arrow(Direction direction) {
     const bool sideways = direction == Direction::Left || direction == Direction::Right;
     const int way = direction == Direction::Right || direction == Direction::Down ? 1 : -1;
     const TwipWidget* at = ring().current();
-    const bool leavesSections = way > 0 && !sideways && at == &imgBtn[imgBtn.count() - 1];
-    if (leavesSections || (!sideways && ring().isAt(view_))) return false;  // on to what comes next
+    if (!sideways && ring().isAt(view_)) return false;  // the text is at its end: on to what comes next
+    if (!sideways && leavesSections(at, way)) return true;
     if (sideways && (imgBtnHlavni.indexOf(at) || imgKuchyne.indexOf(at)))
         ring().stepWithin(way);
     else if (!current().step(sideways, way))
         stepSections(way);
+    return true;
+}
+
+/// Below the last section are the stove and the shop, and below those the bar; up leads back.
+bool frmRecept::leavesSections(const TwipWidget* at, int way) {
+    const bool inKitchen = imgKuchyne.indexOf(at).has_value(), inBar = imgBtnHlavni.indexOf(at).has_value();
+    const bool atLast = at == &imgBtn[imgBtn.count() - 1], hasKitchen = !imgKuchyne[kCook].isHidden();
+    if (way > 0 && atLast)
+        ring().goTo(hasKitchen ? imgKuchyne[kCook] : imgBtnHlavni[0]);
+    else if (way > 0 && inKitchen)
+        ring().goTo(imgBtnHlavni[0]);
+    else if (way < 0 && inBar && hasKitchen)
+        ring().goTo(imgKuchyne[kCook]);
+    else
+        return false;
     return true;
 }
 

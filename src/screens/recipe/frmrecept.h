@@ -65,6 +65,7 @@ class frmRecept : public Form {
     std::vector<FocusGroup> stops() const;
     bool viewKey(const QKeyEvent& event);
     bool arrow(Direction direction);
+    bool leavesSections(const TwipWidget* at, int way);
     void stepSections(int direction);
     void sayNothingHere();
 
