@@ -258,15 +258,19 @@ void frmVarime::unload() {
 
 bool frmVarime::turnKey(int key) {
     switch (key) {
-        case Qt::Key_Right:
         case Qt::Key_Down:
-        case Qt::Key_PageDown:
             return go(1);
-        case Qt::Key_Left:
         case Qt::Key_Up:
+            return go(-1);
+        case Qt::Key_Right:
+        case Qt::Key_PageDown:
+            go(1);
+            return true;
+        case Qt::Key_Left:
         case Qt::Key_PageUp:
         case Qt::Key_Backspace:
-            return go(-1);
+            go(-1);
+            return true;
         case Qt::Key_Home:
             go(-pageCount());
             return true;
