@@ -125,14 +125,17 @@ bool frmNahled::keyDown(QKeyEvent& event) {
         case Qt::Key_Escape:
             goBack();
             return true;
+        case Qt::Key_Down:
+            return go(current_ + 1);  // behind the last page come the buttons
         case Qt::Key_PageUp:
         case Qt::Key_Left:
         case Qt::Key_Up:
-            return go(current_ - 1);
+            go(current_ - 1);
+            return true;
         case Qt::Key_PageDown:
         case Qt::Key_Right:
-        case Qt::Key_Down:
-            return go(current_ + 1);
+            go(current_ + 1);
+            return true;
         case Qt::Key_Home:
             go(0);
             return true;

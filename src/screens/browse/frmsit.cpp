@@ -146,7 +146,7 @@ bool frmSit::moveByKey(int key) {
     const int right = key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : 0;
     const int down = key == Qt::Key_Down ? 1 : key == Qt::Key_Up ? -1 : 0;
     if (right == 0 && down == 0) return false;
-    if (down == 0 && !ring().isAt(this)) return false;  // along the buttons
+    if (right > 0 && !ring().isAt(this)) return false;  // along the buttons
     const bool wasAtButton = !ring().isAt(this);
     if (wasAtButton) ring().focus(*this);  // Enter means the cell again
     if (!grid_.move(right, down)) return wasAtButton || right != 0;
