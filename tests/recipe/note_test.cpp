@@ -165,10 +165,10 @@ TEST_F(NoteTest, WhoLeavesTheQuestionStaysWithTheNote) {
 
 TEST_F(NoteTest, AnotherSectionTakesTheKeyboardAlong) {
     press(Qt::Key_Backtab);
-    press(Qt::Key_Down);
+    press(Qt::Key_Up);
     press(Qt::Key_Return);
-    EXPECT_EQ(form->section(), 0);
-    EXPECT_EQ(focused(), QStringLiteral("imgBtn(0)"));
+    EXPECT_EQ(form->section(), 6);
+    EXPECT_EQ(focused(), QStringLiteral("imgBtn(6)"));
     click("imgBtn(7)");
     click("lblIkona(2)");
     EXPECT_EQ(focused(), QStringLiteral("imgBtn(2)"));
