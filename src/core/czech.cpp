@@ -31,12 +31,6 @@ const QString& Noun::behind(double number) const {
     return number > 0 && number < kMany ? few : many;
 }
 
-const UnitNoun* unitWritten(std::span<const UnitNoun> units, QStringView written) {
-    for (const UnitNoun& unit : units)
-        if (written == QString::fromUtf8(unit.written)) return &unit;
-    return nullptr;
-}
-
 QString counted(double number, const Noun& noun, const QLocale& locale) {
     return numberText(number, locale) + QChar(QChar::Nbsp) + noun.behind(number);
 }

@@ -2,7 +2,6 @@
 
 #include <QLocale>
 #include <QString>
-#include <span>
 
 namespace sarne {
 
@@ -20,13 +19,6 @@ struct Noun {
 
     const QString& behind(double number) const;
 };
-
-/// A unit of measure as a recipe writes it, and its noun: behind 1, 2, 5 and 2,5.
-struct UnitNoun {
-    const char *written, *one, *few, *many, *part;
-};
-/// The one of \a units that is written so; null when it is none of them.
-const UnitNoun* unitWritten(std::span<const UnitNoun> units, QStringView written);
 
 /// \a number with the noun behind it.
 QString counted(double number, const Noun& noun, const QLocale& locale);

@@ -5,6 +5,7 @@
 
 #include "core/czech.h"
 #include "core/texts.h"
+#include "core/unitnoun.h"
 
 namespace sarne {
 namespace {

@@ -7,6 +7,7 @@
 #include "core/numbertext.h"
 #include "core/quantities.h"
 #include "core/texts.h"
+#include "core/unitnoun.h"
 
 namespace sarne {
 namespace {
