@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Fails when a folder of src/ includes a folder that it may not use, goes round that by an odd path, or queries the
-# database in a text of its own.
+# database in a text of its own; and when a source is longer than one reads at a sitting.
 cmake_minimum_required(VERSION 3.25)
 set(may_core core)
 set(may_platform platform core)
@@ -62,6 +62,16 @@ foreach(file IN LISTS files)
         if(queries)
             list(APPEND faults "${path} holds a query: their texts stand in db/queries.cpp")
         endif()
+    endif()
+endforeach()
+set(most_lines 400)
+file(GLOB_RECURSE sources "${SOURCE}/src/*.h" "${SOURCE}/src/*.cpp" "${SOURCE}/tools/*.h" "${SOURCE}/tools/*.cpp")
+foreach(file IN LISTS sources)
+    file(READ "${file}" text)
+    string(REGEX REPLACE "[^\n]" "" text "${text}")
+    string(LENGTH "${text}" lines)
+    if(lines GREATER most_lines)
+        list(APPEND faults "${file} has ${lines} lines, more than ${most_lines}")
     endif()
 endforeach()
 list(LENGTH files count)

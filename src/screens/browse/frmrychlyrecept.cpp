@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 
@@ -16,8 +17,8 @@ frmRychlyRecept::frmRychlyRecept(basSarne& sarne, Form& owner)
     : Form(sarne, QStringLiteral("frmRychlyRecept")),
       owner_(owner),
       Picture1(*this, QStringLiteral("Picture1")) {
-    setAccessibleName(QStringLiteral("Seznam s recepty"));
-    setWindowTitle(QStringLiteral("Seznam s recepty"));
+    setAccessibleName(Texts::tr("Seznam s recepty"));
+    setWindowTitle(Texts::tr("Seznam s recepty"));
     connect(&Picture1, &Control::clicked, this, &frmRychlyRecept::giveBack);
     connect(&Picture1, &Control::hovered, this, &frmRychlyRecept::giveBack);
 }

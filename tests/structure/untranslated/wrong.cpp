@@ -5,6 +5,7 @@ const char* const kTable[] = {QT_TRANSLATE_NOOP("Texts", "Zpět"), QT_TRANSLATE_
 void show() {
     setText(Texts::tr("Není vybrán recept"));
     setText(QStringLiteral("Není přeloženo"));
+    setTip(QStringLiteral("Konec"));
 }
 
 // SPDX-License-Identifier: GPL-3.0-or-later
