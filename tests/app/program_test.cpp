@@ -26,10 +26,10 @@ class ProgramTest : public testing::Test {
         for (const char* name : {"program", "disc", "data"}) QDir(folder.path()).mkpath(QLatin1String(name));
         test::writeRecipeDatabase(
             path("program/Sarne.drc"),
-            {QStringLiteral("INSERT INTO Nastav VALUES (1,'a',1),(2,'b',0),(3,'c',1),(4,'d',0)"),
-             QStringLiteral("INSERT INTO Menu VALUES ('120','@Hledání',''),('121','Napište název','F')"),
-             QStringLiteral("INSERT INTO Suroviny VALUES (1,'kapie')")});
-        platform.settings.set(QStringLiteral("CDPath"), path("disc"));
+            {u"INSERT INTO Nastav VALUES (1,'a',1),(2,'b',0),(3,'c',1),(4,'d',0)"_s,
+             u"INSERT INTO Menu VALUES ('120','@Hledání',''),('121','Napište název','F')"_s,
+             u"INSERT INTO Suroviny VALUES (1,'kapie')"_s});
+        platform.settings.set(u"CDPath"_s, path("disc"));
         make();
     }
     void make() {
@@ -70,15 +70,14 @@ TEST_F(ProgramTest, FollowsABookThatIsWrittenWhileItRuns) {
     const EditionWatch watch(path("data/znacka"), [&](std::int16_t id) { return program->showEdition(id); });
     program->screens().showMusicSettings();
     EXPECT_NE(program->FormStack.top(), program->mainScreen());
-    test::writeRecipeDatabase(path("data/nova.drc"),
-                              {QStringLiteral("INSERT INTO Suroviny VALUES (1,'kapr'),(2,'lín')")});
+    test::writeRecipeDatabase(path("data/nova.drc"), {u"INSERT INTO Suroviny VALUES (1,'kapr'),(2,'lín')"_s});
     QFile::remove(path("program/Sarne.drc"));
     ASSERT_TRUE(QFile::rename(path("data/nova.drc"), path("program/Sarne.drc")));
     QFile mark(path("data/znacka"));
     ASSERT_TRUE(mark.open(QIODevice::WriteOnly) && mark.write("1 0\n") > 0);
     mark.close();
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return program->Db().OpenTable(QStringLiteral("Suroviny")).RecordCount() == 2; }, 5000));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return program->Db().OpenTable(u"Suroviny"_s).RecordCount() == 2; }, 5000));
     EXPECT_EQ(program->FormStack.top(), program->mainScreen());
 }
 
@@ -86,7 +85,7 @@ TEST_F(ProgramTest, TheShowSwitchIsTheWholeCommandLine) {
     for (const char* line : {"s", "/s", "-s"}) EXPECT_TRUE(isShowSwitch(QLatin1String(line))) << line;
     for (const char* line : {"", "S", "/S", "/s x", "--s", " s"})
         EXPECT_FALSE(isShowSwitch(QLatin1String(line))) << line;
-    ASSERT_TRUE(program->Main(QStringLiteral("-s")));
+    ASSERT_TRUE(program->Main(u"-s"_s));
     EXPECT_TRUE(program->ShowMode);
 }
 
@@ -95,43 +94,43 @@ TEST_F(ProgramTest, AsksForTheDriveWhenTheStoreNamesNone) {
         const char *stored, *typed, *root;
     } cases[] = {{"", "e", "e:\\"}, {"/neni/tu", "Disk", "D:\\"}, {"Q:\\", "", ":\\"}};
     for (const auto& c : cases) {
-        platform.settings.set(QStringLiteral("CDPath"), QLatin1String(c.stored));
+        platform.settings.set(u"CDPath"_s, QLatin1String(c.stored));
         make();
         QTimer::singleShot(0, [&] {
             const auto* prompt =
-                QApplication::focusWidget()->parentWidget()->parentWidget()->findChild<Label*>(
-                    QStringLiteral("Label1"));
-            EXPECT_EQ(prompt->text(), QStringLiteral("Nepodařilo se jednoznačně identifikovat Vaší CD-ROM "
-                                                     "mechaniku\r\nZadejte pismeno, které ji označuje:"));
+                QApplication::focusWidget()->parentWidget()->parentWidget()->findChild<Label*>(u"Label1"_s);
+            EXPECT_EQ(prompt->text(),
+                      u"Nepodařilo se jednoznačně identifikovat Vaší CD-ROM "
+                      "mechaniku\r\nZadejte pismeno, které ji označuje:"_s);
             QTest::keyClicks(QApplication::focusWidget(), QLatin1String(c.typed));
             press(Qt::Key_Return);
         });
         ASSERT_TRUE(program->Main({}));
         EXPECT_EQ(program->MediaRoot, QLatin1String(c.root));
-        EXPECT_EQ(program->mediaFile(QStringLiteral("HUDBA.WAV")), QString());
+        EXPECT_EQ(program->mediaFile(u"HUDBA.WAV"_s), QString());
     }
 }
 
 TEST_F(ProgramTest, TheStoreMayNameALetterOrAPathFromTheProgramsFolder) {
-    platform.settings.set(QStringLiteral("Drives/F"), path("disc"));
+    platform.settings.set(u"Drives/F"_s, path("disc"));
     QFile(path("disc/hudba.wav")).open(QIODevice::WriteOnly);
     for (const char* stored : {"F:\\", "../disc"}) {
-        platform.settings.set(QStringLiteral("CDPath"), QLatin1String(stored));
+        platform.settings.set(u"CDPath"_s, QLatin1String(stored));
         make();
         ASSERT_TRUE(program->Main({}));
-        EXPECT_EQ(program->mediaFile(QStringLiteral("HUDBA.WAV")), path("disc/hudba.wav")) << stored;
+        EXPECT_EQ(program->mediaFile(u"HUDBA.WAV"_s), path("disc/hudba.wav")) << stored;
     }
 }
 
 TEST_F(ProgramTest, YesEndsWhateverIsOpen) {
     ASSERT_TRUE(program->Main({}));
-    auto* screen = new Form(*program, QStringLiteral("frmSeznam"));
+    auto* screen = new Form(*program, u"frmSeznam"_s);
     program->PushScreen(*screen);
     screen->showForm();
-    program->SavedDisplayMode = QStringLiteral("1024,768");
+    program->SavedDisplayMode = u"1024,768"_s;
     exitAnswering(Qt::Key_Return);
     EXPECT_TRUE(program->hasEnded());
-    EXPECT_EQ(platform.music.commands, (QStringList{QStringLiteral("stop"), QStringLiteral("close")}));
+    EXPECT_EQ(platform.music.commands, (QStringList{u"stop"_s, u"close"_s}));
     EXPECT_EQ(platform.music.notify, MediaNotify::Off);
     EXPECT_TRUE(program->stage().forms().empty());
     EXPECT_FALSE(program->Db().isOpen());
@@ -151,7 +150,7 @@ TEST_F(ProgramTest, StartsAndEndsWithoutAnything) {
                 if (*kind == 'g') file.write(garbage);
             }
         }
-        platform.settings.set(QStringLiteral("CDPath"), path("disc"));
+        platform.settings.set(u"CDPath"_s, path("disc"));
         make();
         ASSERT_TRUE(program->Main({})) << kind;
         press(Qt::Key_PageDown);
@@ -163,13 +162,13 @@ TEST_F(ProgramTest, StartsAndEndsWithoutAnything) {
 }
 
 TEST_F(ProgramTest, TheMainScreensHelpSaysWhatIsMissingAndWhatWasKept) {
-    const QString note = QStringLiteral("se *1 víc\nsoli");
-    ASSERT_TRUE(program->notes().keep({77, QStringLiteral("Úhoř"), note}));
+    const QString note = u"se *1 víc\nsoli"_s;
+    ASSERT_TRUE(program->notes().keep({77, u"Úhoř"_s, note}));
     QFile(path("data/Sarne.drc.2026-11-21-2")).open(QIODevice::WriteOnly);
     QFile(path("data/Sarne.drc.origin")).open(QIODevice::WriteOnly);
     const auto help = [&](const char* form) {
         program->screens().showHelpFor(QLatin1String(form));
-        auto* view = program->FormStack.top()->findChild<TextView*>(QStringLiteral("picText"));
+        auto* view = program->FormStack.top()->findChild<TextView*>(u"picText"_s);
         const QString text = view ? view->drawnText().simplified() : QString();
         press(Qt::Key_Escape);
         return text;
@@ -178,22 +177,21 @@ TEST_F(ProgramTest, TheMainScreensHelpSaysWhatIsMissingAndWhatWasKept) {
     ASSERT_TRUE(program->Main({}));
     const QString found = help("frmHlavni");
     EXPECT_TRUE(found.contains(path("data/Sarne.drc.2026-11-21-2"))) << qPrintable(found);
-    EXPECT_FALSE(found.contains(QStringLiteral("origin")));
-    EXPECT_TRUE(found.contains(QStringLiteral("Úhoř se *1 víc soli"))) << "words, not links";
-    EXPECT_FALSE(found.contains(QStringLiteral("chybí"), Qt::CaseInsensitive));
+    EXPECT_FALSE(found.contains(u"origin"_s));
+    EXPECT_TRUE(found.contains(u"Úhoř se *1 víc soli"_s)) << "words, not links";
+    EXPECT_FALSE(found.contains(u"chybí"_s, Qt::CaseInsensitive));
     EXPECT_EQ(help("frmSit"), QString()) << "no page: the list of help topics";
 
     QFile::resize(path("program/Sarne.drc"), 0);
     QDir(path("disc")).removeRecursively();
     for (const char* form : {"frmHlavni", "frmNastavHudbu"}) {
-        EXPECT_TRUE(help(form).contains(QStringLiteral("Složku ") + program->MediaRoot)) << form;
+        EXPECT_TRUE(help(form).contains(u"Složku "_s + program->MediaRoot)) << form;
     }
     make();
     QTimer::singleShot(0, [] { press(Qt::Key_Return); });
     ASSERT_TRUE(program->Main({}));
     EXPECT_TRUE(help("frmHlavni").contains(path("program/Sarne.drc")));
-    EXPECT_TRUE(help("frmHlavni").contains(QStringLiteral("víc soli")))
-        << "notes can be read without the book";
+    EXPECT_TRUE(help("frmHlavni").contains(u"víc soli"_s)) << "notes can be read without the book";
 }
 
 TEST_F(ProgramTest, TheWindowsCloseButtonAsksOnEveryScreen) {
@@ -222,7 +220,7 @@ TEST_F(ProgramTest, AnIngredientWithoutRecipesLeavesTheKeyboardUsable) {
     frmHlavni& main = *program->mainScreen();
     const auto chooseIt = [&](bool byMouse) {
         QTest::mouseClick(child<QWidget>(main, "imgClick(12)"), Qt::LeftButton);
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("kapie"));
+        QTest::keyClicks(QApplication::focusWidget(), u"kapie"_s);
         press(Qt::Key_Return);
         frmMenu* results = main.menu()->child();
         if (byMouse)

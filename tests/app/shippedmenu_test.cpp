@@ -13,7 +13,7 @@ namespace {
 
 class ShippedMenu : public ShippedProgram, public testing::Test {
   protected:
-    QWidget* button(int i) { return main->findChild<QWidget*>(QStringLiteral("imgClick(%1)").arg(i)); }
+    QWidget* button(int i) { return main->findChild<QWidget*>(u"imgClick(%1)"_s.arg(i)); }
     frmMenu* levelOf(const QString& code) {
         for (frmMenu* level = main->menu(); level; level = level->child()) {
             if (level->level().code == code) return level;
@@ -21,7 +21,7 @@ class ShippedMenu : public ShippedProgram, public testing::Test {
         return nullptr;
     }
     void clickItem(frmMenu* level, int k) {
-        QTest::mouseClick(level->findChild<QWidget*>(QStringLiteral("lblOdkaz(%1)").arg(k)), Qt::LeftButton);
+        QTest::mouseClick(level->findChild<QWidget*>(u"lblOdkaz(%1)"_s.arg(k)), Qt::LeftButton);
     }
     /// Opens the level of \a code again by mouse, from the main screen on. Topics have one digit or two.
     frmMenu* reach(int topic, const QString& code) {
@@ -53,17 +53,17 @@ void ShippedMenu::expectIdle() {
 
 void ShippedMenu::expectScreen(int topic, const MenuLevel& level, int k) {
     const QString target = level.items[size_t(k - 1)].target;
-    QString form = QStringLiteral("frmSeznam");
-    if (topic == 1 || topic == 9 || topic == 13) form = QStringLiteral("frmSponzor");
-    if (topic == 4) form = k == 1 ? QStringLiteral("frmStranka") : QStringLiteral("FrmTabulky");
-    if (topic == 4 && k == 9) form = QStringLiteral("frmNakup");
-    if (topic == 10) form = k == 1 ? QStringLiteral("frmFotoBig") : QStringLiteral("frmSit");
-    if (topic == 18) form = QStringLiteral("frmVideo");
-    if (target.startsWith(u'H')) form = QStringLiteral("frmIndex");
+    QString form = u"frmSeznam"_s;
+    if (topic == 1 || topic == 9 || topic == 13) form = u"frmSponzor"_s;
+    if (topic == 4) form = k == 1 ? u"frmStranka"_s : u"FrmTabulky"_s;
+    if (topic == 4 && k == 9) form = u"frmNakup"_s;
+    if (topic == 10) form = k == 1 ? u"frmFotoBig"_s : u"frmSit"_s;
+    if (topic == 18) form = u"frmVideo"_s;
+    if (target.startsWith(u'H')) form = u"frmIndex"_s;
     ASSERT_EQ(program->FormStack.top()->name(), form) << level.code.toStdString() << ' ' << k;
     if (form != u"frmSeznam") return;
     const bool flat = topic == 3 || topic == 6 || topic == 15;
-    const QString table = flat || k % 10 == 1 ? QStringLiteral("Recepty") : QStringLiteral("RychleRecepty");
+    const QString table = flat || k % 10 == 1 ? u"Recepty"_s : u"RychleRecepty"_s;
     ASSERT_TRUE(target.endsWith(u','));
     Recordset records = program->Db().OpenTable(table);
     for (const QString& id : target.split(u',', Qt::SkipEmptyParts))
@@ -88,8 +88,8 @@ void ShippedMenu::walk(int topic, const QString& code) {
     for (int k = 1; k <= int(level.items.size()); ++k) {
         const MenuItem& item = level.items[size_t(k - 1)];
         Recordset row = program->Db().OpenQuery(
-            QStringLiteral("SELECT * FROM menu WHERE ID LIKE '%1' ORDER BY Id").arg(level.childCode(k)));
-        EXPECT_EQ(row.field(QStringLiteral("Label")).toString(), item.label) << "no level shows its own row";
+            u"SELECT * FROM menu WHERE ID LIKE '%1' ORDER BY Id"_s.arg(level.childCode(k)));
+        EXPECT_EQ(row.field(u"Label"_s).toString(), item.label) << "no level shows its own row";
         if (!item.isSelectable()) continue;
         if (item.opensSubmenu())
             walk(topic, level.childCode(k));
@@ -115,8 +115,8 @@ TEST_F(ShippedMenu, EveryScreenHasItsGroundAndTheMenuGivesThePointerBack) {
 }
 
 TEST_F(ShippedMenu, ADamagedResourceFileIsNotTaken) {
-    const QString name = folder.filePath(QStringLiteral("Sarne.rcc"));
-    Resources resources(QStringLiteral(":/"));
+    const QString name = folder.filePath(u"Sarne.rcc"_s);
+    Resources resources(u":/"_s);
     EXPECT_TRUE(resources.load(name));
     QFile file(name);
     ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(8) && file.write("damage") == 6);

@@ -24,7 +24,7 @@ class ShippedProgram {
             QFile::setPermissions(folder.filePath(QLatin1String(name)), QFile::ReadOwner | QFile::WriteOwner);
         }
         qputenv("HOME", QFile::encodeName(folder.path()));  // where documents are kept
-        platform.settings.set(QStringLiteral("CDPath"), QStringLiteral(SARNE_DISC "/disc"));
+        platform.settings.set(u"CDPath"_s, QStringLiteral(SARNE_DISC "/disc"));
         program = std::make_unique<Program>(platform.parts(), Folders{folder.path(), folder.path()});
         program->stage().resize(800, 600);
         program->stage().show();

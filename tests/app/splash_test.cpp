@@ -40,15 +40,26 @@ namespace {
 class SplashTest : public testing::Test {
   protected:
     void SetUp() override {
-        QDir(folder.path()).mkpath(QStringLiteral("video"));
-        platform.settings.set(QStringLiteral("CDPath"), folder.path());
+        QDir(folder.path()).mkpath(u"video"_s);
+        platform.settings.set(u"CDPath"_s, folder.path());
         make(platform.parts());
     }
+    void addIntro() { ASSERT_TRUE(QFile(intro).open(QIODevice::WriteOnly)); }
     void make(const PlatformParts& parts) {
         program = std::make_unique<Program>(parts, Folders{folder.path(), folder.path()});
         program->stage().show();
         program->stage().activateWindow();
         QApplication::processEvents();
+    }
+    /// A program whose player is handed to \a prepare.
+    void makeWithPlayer(const std::function<void(FakeMultimedia&)>& prepare) {
+        PlatformParts parts = platform.parts();
+        parts.makePlayer = [prepare] {
+            auto made = std::make_unique<FakeMultimedia>();
+            prepare(*made);
+            return made;
+        };
+        make(parts);
     }
     /// Answers the questions that come up with \a keys, one each, and keeps what they said. Key_F4 closes the
     /// box.
@@ -70,31 +81,32 @@ class SplashTest : public testing::Test {
     }
 
     QTemporaryDir folder;
+    const QString intro = folder.filePath(u"video/UVOD.AVI"_s);
     FakePlatform platform;
     std::unique_ptr<Program> program;
     QStringList asked;
 };
 
-const QString kQuestion = QStringLiteral(
-    "Program je koncipován pro spouštění v rozlišení 800 x 600, Váš počítač má nastaveno rozlišení "
-    "1024 x 768\r\nChcete dočasně změnit rozlišení na 800 x 600?");
-const QString kWarning = QStringLiteral(
-    "Pokud program spustíte pod současným rozlišením, mohou být obrazovky deformovány. \r\n\r\n"
-    "Chcete přesto pokračovat?\r\n\r\n");
+const QString kQuestion =
+    u"Program je koncipován pro spouštění v rozlišení 800 x 600, Váš počítač má nastaveno rozlišení "
+    "1024 x 768\r\nChcete dočasně změnit rozlišení na 800 x 600?"_s;
+const QString kWarning =
+    u"Pokud program spustíte pod současným rozlišením, mohou být obrazovky deformovány. \r\n\r\n"
+    "Chcete přesto pokračovat?\r\n\r\n"_s;
 
 TEST_F(SplashTest, AResolutionInTheStoreCountsInsteadOfTheDisplays) {
     platform.display.size = {1024, 768};
-    platform.settings.set(kStoredResolution, QStringLiteral("800,600"));
+    platform.settings.set(kStoredResolution, u"800,600"_s);
     EXPECT_TRUE(start({}));
     EXPECT_TRUE(asked.isEmpty());
-    platform.settings.set(kStoredResolution, QStringLiteral("kdovíco"));
+    platform.settings.set(kStoredResolution, u"kdovíco"_s);
     make(platform.parts());
     EXPECT_TRUE(start({Qt::Key_N, Qt::Key_A}));
     EXPECT_EQ(asked, (QStringList{kQuestion, kWarning}));
 
     platform.display.size = {};  // a display whose modes nobody can change
     make(platform.parts());
-    platform.settings.set(kStoredResolution, QStringLiteral("640,480"));
+    platform.settings.set(kStoredResolution, u"640,480"_s);
     EXPECT_TRUE(start({}));
 }
 
@@ -103,7 +115,7 @@ TEST_F(SplashTest, YesSwitchesTheDisplayAndTheExitRestoresIt) {
     EXPECT_TRUE(start({Qt::Key_A}));
     EXPECT_EQ(asked, QStringList{kQuestion});
     EXPECT_EQ(platform.display.current(), QSize(800, 600));
-    EXPECT_EQ(program->SavedDisplayMode, QStringLiteral("1024,768"));
+    EXPECT_EQ(program->SavedDisplayMode, u"1024,768"_s);
     QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
     program->ConfirmExit();
     EXPECT_EQ(platform.display.current(), QSize(1024, 768));
@@ -132,38 +144,29 @@ TEST_F(SplashTest, LargeFontsAreAskedAbout) {
     platform.display.twips = {12, 12};
     EXPECT_TRUE(start({Qt::Key_A}));
     EXPECT_TRUE(asked.first().startsWith(
-        QStringLiteral("Pro správnou funkci programu je třeba, aby byl spuštěn s nastavením malá písma.")));
+        u"Pro správnou funkci programu je třeba, aby byl spuštěn s nastavením malá písma."_s));
     make(platform.parts());
     EXPECT_FALSE(start({Qt::Key_N}));
 }
 
 TEST_F(SplashTest, TheIntroPlaysUntilItEndsOrSomebodyHasSeenEnough) {
-    QFile intro(folder.filePath(QStringLiteral("video/UVOD.AVI")));
-    ASSERT_TRUE(intro.open(QIODevice::WriteOnly));
+    addIntro();
     for (const bool byKey : {true, false}) {
         FakeMultimedia* player = nullptr;
         QStringList commands;
-        PlatformParts parts = platform.parts();
-        parts.makePlayer = [&] {
-            auto made = std::make_unique<FakeMultimedia>();
-            player = made.get();
-            return made;
-        };
-        make(parts);
+        makeWithPlayer([&](FakeMultimedia& made) { player = &made; });
         QTimer::singleShot(0, [&] {
             commands = player->commands;
             byKey ? QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q) : player->end();
         });
         ASSERT_TRUE(start({}));
-        EXPECT_EQ(commands,
-                  (QStringList{QStringLiteral("open ") + intro.fileName(), QStringLiteral("play")}));
+        EXPECT_EQ(commands, (QStringList{u"open "_s + intro, u"play"_s}));
         EXPECT_TRUE(program->mainScreen()->isVisible());
     }
 }
 
 TEST_F(SplashTest, WhenTheSystemEndsTheProgramTheStartEndsToo) {
-    QFile intro(folder.filePath(QStringLiteral("video/UVOD.AVI")));
-    ASSERT_TRUE(intro.open(QIODevice::WriteOnly));
+    addIntro();
     QTimer::singleShot(0, [&] { program->endAtOnce(); });
     EXPECT_FALSE(start({})) << "the film no longer holds it";
     EXPECT_EQ(program->mainScreen(), nullptr);
@@ -172,22 +175,15 @@ TEST_F(SplashTest, WhenTheSystemEndsTheProgramTheStartEndsToo) {
 }
 
 TEST_F(SplashTest, AnIntroThatCannotBePlayedIsSkipped) {
-    QFile intro(folder.filePath(QStringLiteral("video/UVOD.AVI")));
-    ASSERT_TRUE(intro.open(QIODevice::WriteOnly));
-    PlatformParts parts = platform.parts();
-    parts.makePlayer = [] {
-        auto made = std::make_unique<FakeMultimedia>();
-        made->failing[QStringLiteral("open")] = MediaError::InvalidFile;
-        return made;
-    };
-    make(parts);
+    addIntro();
+    makeWithPlayer([](FakeMultimedia& made) { made.failing[u"open"_s] = MediaError::InvalidFile; });
     EXPECT_TRUE(start({}));
 }
 
 TEST_F(SplashTest, ThePicturesAreToldApartByTheirOrder) {
     const QColor colours[] = {Qt::red, Qt::green, Qt::blue, Qt::cyan, Qt::magenta, Qt::yellow};
     {
-        SQLite::Database file(folder.filePath(QStringLiteral("KOp.bj")).toStdString(),
+        SQLite::Database file(folder.filePath(u"KOp.bj"_s).toStdString(),
                               SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
         for (const QString& statement : pictureSchema()) file.exec(statement.toStdString());
         for (const QColor& colour : colours) {
@@ -220,24 +216,20 @@ TEST_F(SplashTest, ItSaysTheTitleAtTheStartAndTheEndAtTheEnd) {
     ASSERT_TRUE(start({}));
     QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
     program->ConfirmExit();
-    EXPECT_EQ(said,
-              (QStringList{QStringLiteral("Velisa sarn - Lumora"), QStringLiteral("Ukončení progamu")}));
+    EXPECT_EQ(said, (QStringList{u"Velisa sarn - Lumora"_s, u"Ukončení progamu"_s}));
 }
 
 TEST_F(SplashTest, TheWindowsCloseButtonEndsTheStart) {
-    QFile intro(folder.filePath(QStringLiteral("video/UVOD.AVI")));
-    ASSERT_TRUE(intro.open(QIODevice::WriteOnly));
+    addIntro();
     platform.display.size = {1024, 768};
-    PlatformParts parts = platform.parts();
-    parts.makePlayer = [] { return std::make_unique<FakeMultimedia>(); };
-    make(parts);
+    make(platform.parts());
     QString hint;
     QTimer::singleShot(300, [&] {
         hint = child<Label>(program->stage(), "lblPreskocit")->text();
         program->stage().close();
     });
     EXPECT_FALSE(start({Qt::Key_A}));
-    EXPECT_EQ(hint, QStringLiteral("Esc přeskočí film"));
+    EXPECT_EQ(hint, u"Esc přeskočí film"_s);
     EXPECT_EQ(platform.display.current(), QSize(1024, 768)) << "the display is as it was";
 }
 

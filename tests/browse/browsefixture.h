@@ -21,29 +21,26 @@ class BrowseTest : public testing::Test {
     static constexpr int kRecipes = 50;
 
     BrowseTest() {
-        const QString file = folder.filePath(QStringLiteral("Sarne.drc"));
+        const QString file = folder.filePath(u"Sarne.drc"_s);
         test::writeRecipeDatabase(file, cookbook());
         run.database.Open(file);
         run.MediaRoot = LogicalPaths::fromNativeFolder(folder.path());
-        QDir().mkpath(folder.filePath(QStringLiteral("foto/Male")));
-        QDir().mkpath(folder.filePath(QStringLiteral("foto/Recepty")));
+        QDir().mkpath(folder.filePath(u"foto/Male"_s));
+        QDir().mkpath(folder.filePath(u"foto/Recepty"_s));
     }
 
     static QStringList cookbook() {
         QStringList rows;
         for (int id = 1; id <= kRecipes; ++id)
-            rows << QStringLiteral("INSERT INTO Recepty (ID, Nazev) VALUES (%1, 'Recept %2')")
-                        .arg(id)
-                        .arg(id, 3, 10, QLatin1Char('0'));
-        rows << QStringLiteral("INSERT INTO Vino (ID, Polozka) VALUES (1, 'Ryzlink rýnský'), (2, 'Pálava')")
-             << QStringLiteral("INSERT INTO SpojVino SELECT ID, 1 FROM Recepty WHERE ID % 2 = 1")
-             << QStringLiteral("INSERT INTO SpojVino SELECT ID, 2 FROM Recepty WHERE ID % 2 = 1")
-             << QStringLiteral(
-                    "INSERT INTO RychleRecepty (ID, Nazev, Recept) VALUES (1, 'Za deset minut', 29), "
-                    "(2, 'Ze skříně', 32), (3, 'Nikam', NULL)")
-             << QStringLiteral(
-                    "INSERT INTO Help (ID, Nazev, Recept) VALUES (1, 'Seznam receptů', 310), "
-                    "(2, 'Fotografie', 5)");
+            rows << u"INSERT INTO Recepty (ID, Nazev) VALUES (%1, 'Recept %2')"_s.arg(id).arg(
+                id, 3, 10, QLatin1Char('0'));
+        rows << u"INSERT INTO Vino (ID, Polozka) VALUES (1, 'Ryzlink rýnský'), (2, 'Pálava')"_s
+             << u"INSERT INTO SpojVino SELECT ID, 1 FROM Recepty WHERE ID % 2 = 1"_s
+             << u"INSERT INTO SpojVino SELECT ID, 2 FROM Recepty WHERE ID % 2 = 1"_s
+             << u"INSERT INTO RychleRecepty (ID, Nazev, Recept) VALUES (1, 'Za deset minut', 29), "
+                "(2, 'Ze skříně', 32), (3, 'Nikam', NULL)"_s
+             << u"INSERT INTO Help (ID, Nazev, Recept) VALUES (1, 'Seznam receptů', 310), "
+                "(2, 'Fotografie', 5)"_s;
         return rows;
     }
 

@@ -65,13 +65,13 @@ class FotoBigTest : public BrowseTest {
     Timer& timer() const { return *viewer->findChild<Timer*>(); }
     bool isClosed() const { return run.FormStack.top() == below; }
 
-    Form* below = new Form(run, QStringLiteral("frmSeznam"));
+    Form* below = new Form(run, u"frmSeznam"_s);
     frmFotoBig* viewer = nullptr;
 };
 
 TEST_F(FotoBigTest, ClicksInTheZonesStepAndElsewhereClose) {
     open({1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
-    EXPECT_EQ(title(), QStringLiteral("Recept 001"));
+    EXPECT_EQ(title(), u"Recept 001"_s);
     EXPECT_EQ(run.announced.back(), title());
     clickAt({750, 300});
     clickAt({400, 550});
@@ -115,9 +115,9 @@ TEST_F(FotoBigTest, AFingerThatGoesSidewaysStepsWhereverItBegins) {
         QTest::mouseRelease(viewer, Qt::LeftButton, {}, to);
     };
     swipe({500, 300}, {300, 310});
-    EXPECT_EQ(title(), QStringLiteral("Recept 002"));
+    EXPECT_EQ(title(), u"Recept 002"_s);
     swipe({300, 300}, {500, 280});
-    EXPECT_EQ(title(), QStringLiteral("Recept 001"));
+    EXPECT_EQ(title(), u"Recept 001"_s);
     swipe({400, 200}, {480, 400});
     EXPECT_TRUE(isClosed()) << "downwards it is a click in the middle";
 }
@@ -156,7 +156,7 @@ TEST_F(FotoBigTest, TheSlideShowGoesRoundAndKeepsTheDisplayAwake) {
     EXPECT_EQ(run.awake.size(), 1);
     EXPECT_FALSE(run.awake.back().isEmpty());
     timer().fire();
-    EXPECT_EQ(title(), QStringLiteral("Recept 001"));
+    EXPECT_EQ(title(), u"Recept 001"_s);
     EXPECT_TRUE(timer().isEnabled());
     press(Qt::Key_Right);
     EXPECT_EQ(viewer->position(), 1);
@@ -177,7 +177,7 @@ TEST_F(FotoBigTest, TheSlideShowGoesRoundAndKeepsTheDisplayAwake) {
 
 TEST_F(FotoBigTest, TheSlideShowWaitsBelowAnotherScreen) {
     open({1, 2, 3}, 0, true);
-    auto* help = new Form(run, QStringLiteral("frmStranka"));
+    auto* help = new Form(run, u"frmStranka"_s);
     run.PushScreen(*help);
     help->showForm();
     timer().fire();
@@ -197,16 +197,16 @@ TEST_F(FotoBigTest, TheCursorShowsWhatAClickDoes) {
                    {"SIPKADOLU", Qt::blue, {300, 590}},
                    {"SIPKAVPRAVO", Qt::yellow, {790, 590}},
                    {"ZPET", Qt::cyan, {400, 300}}};
-    QDir().mkpath(folder.filePath(QStringLiteral("obr")));
+    QDir().mkpath(folder.filePath(u"obr"_s));
     for (const auto& cursor : cursors) {
         QImage image(32, 32, QImage::Format_RGB32);
         image.fill(cursor.color);
-        image.save(folder.filePath(QStringLiteral("obr/%1.png").arg(QLatin1String(cursor.name))));
+        image.save(folder.filePath(u"obr/%1.png"_s.arg(QLatin1String(cursor.name))));
     }
     for (const char* face : {"SipkaDolu", "Zpet"})  // button faces that differ in case alone
-        writePhoto(qPrintable(QStringLiteral("obr/%1.bmp").arg(QLatin1String(face))), {8, 8}, Qt::black);
+        writePhoto(qPrintable(u"obr/%1.bmp"_s.arg(QLatin1String(face))), {8, 8}, Qt::black);
     run.pictures = Resources(folder.path() + u'/');
-    EXPECT_EQ(run.pictures.picture(QStringLiteral("SipkaDolu")).size(), QSize(8, 8));
+    EXPECT_EQ(run.pictures.picture(u"SipkaDolu"_s).size(), QSize(8, 8));
     open({1, 2});
     const auto shown = [&] { return viewer->cursor().pixmap().toImage().pixelColor(3, 3); };
     EXPECT_EQ(shown(), QColor(Qt::cyan)) << "until the zone changes";
@@ -214,7 +214,7 @@ TEST_F(FotoBigTest, TheCursorShowsWhatAClickDoes) {
         QTest::mouseMove(viewer, cursor.at);
         EXPECT_EQ(shown(), cursor.color) << cursor.name;
     }
-    auto* help = new Form(run, QStringLiteral("frmStranka"));
+    auto* help = new Form(run, u"frmStranka"_s);
     run.PushScreen(*help);
     run.PopScreen(*help);
     EXPECT_EQ(shown(), QColor(Qt::cyan)) << "as it was below another screen";
@@ -249,7 +249,7 @@ TEST_F(FotoBigTest, AnyPhotoFitsItsPlaceUndistorted) {
 TEST_F(FotoBigTest, AMissingOrBrokenPhotoLeavesItsName) {
     writePhoto("foto/Recepty/r1.bmp");
     writePhoto("foto/Recepty/r3.bmp", {300, 200});
-    QFile cut(folder.filePath(QStringLiteral("foto/Recepty/r3.bmp")));
+    QFile cut(folder.filePath(u"foto/Recepty/r3.bmp"_s));
     ASSERT_TRUE(cut.resize(5000));
     open({1, 2, 3, 999});
     EXPECT_FALSE(viewer->photo().isNull());
@@ -271,15 +271,14 @@ TEST_F(FotoBigTest, AnEmptyListOpensNothing) {
 
 TEST_F(FotoBigTest, TheNextPhotoIsDecodedAheadAndTheSameAsWhenItIsNot) {
     for (int id = 1; id <= 4; ++id)
-        writePhoto(qPrintable(QStringLiteral("foto/Recepty/r%1.bmp").arg(id)), {640 + id, 480}, Qt::gray);
+        writePhoto(qPrintable(u"foto/Recepty/r%1.bmp"_s.arg(id)), {640 + id, 480}, Qt::gray);
     open({1, 2, 3, 4});
     EXPECT_TRUE(QTest::qWaitFor([&] { return viewer->isNextReady(); }));
     press(Qt::Key_Right);
-    EXPECT_EQ(viewer->photo(),
-              readPhoto(folder.filePath(QStringLiteral("foto/Recepty/r2.bmp")), viewer->size()));
+    EXPECT_EQ(viewer->photo(), readPhoto(folder.filePath(u"foto/Recepty/r2.bmp"_s), viewer->size()));
     for (const Qt::Key pressed : {Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Up}) {
         press(pressed);  // faster than anything can be decoded ahead
-        const QString file = QStringLiteral("foto/Recepty/r%1.bmp").arg(viewer->position() + 1);
+        const QString file = u"foto/Recepty/r%1.bmp"_s.arg(viewer->position() + 1);
         EXPECT_EQ(viewer->photo(), readPhoto(folder.filePath(file), viewer->size()));
     }
 }

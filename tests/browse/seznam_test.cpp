@@ -21,9 +21,7 @@ class SeznamTest : public BrowseTest {
     }
     QWidget* control(const char* name) const { return child(*list, name); }
     Button* button(const char* name) const { return list->findChild<Button*>(QString::fromLatin1(name)); }
-    Label* row(int number) const {
-        return list->findChild<Label*>(QStringLiteral("lblSeznam(%1)").arg(number));
-    }
+    Label* row(int number) const { return list->findChild<Label*>(u"lblSeznam(%1)"_s.arg(number)); }
     QString position() const { return child<Label>(*list, "lblPozice")->text(); }
     QString wine() const { return child<Label>(*list, "lblVino")->text(); }
     bool wineShows() const { return child<Label>(*list, "lblVino")->isVisible(); }
@@ -35,7 +33,7 @@ class SeznamTest : public BrowseTest {
     QString quickText() const { return child<PictureBox>(*quick(), "Picture1")->drawnText(); }
 
     static constexpr int kRows = seznam::kRows;
-    Form* below = new Form(run, QStringLiteral("frmHlavni"));
+    Form* below = new Form(run, u"frmHlavni"_s);
     frmSeznam* list = nullptr;
 };
 
@@ -44,29 +42,27 @@ TEST_F(SeznamTest, AShortListFillsItsSheetWithLargerRows) {
     EXPECT_EQ(row(2)->twips(), seznam::rowBar(2, seznam::kLargePitch));
     for (int number = 1; number <= kRows; ++number)
         EXPECT_EQ(row(number)->isVisible(), number <= kRows / 2) << number;
-    list->Zobraz(QStringLiteral("1,2,3,4,5,6,7,8,"), QStringLiteral("Recepty"));
+    list->Zobraz(u"1,2,3,4,5,6,7,8,"_s, u"Recepty"_s);
     EXPECT_EQ(row(8)->twips(), seznam::rowBar(8)) << "the same list filled anew";
     EXPECT_TRUE(row(kRows)->isVisible());
 }
 
 TEST_F(SeznamTest, ShowsAPageAndSelectsByMouse) {
     open("3,1,2,", "Recepty");
-    EXPECT_EQ(row(1)->text(), QStringLiteral("Recept 003"));
-    EXPECT_EQ(row(3)->text(), QStringLiteral("Recept 002"));
+    EXPECT_EQ(row(1)->text(), u"Recept 003"_s);
+    EXPECT_EQ(row(3)->text(), u"Recept 002"_s);
     EXPECT_EQ(row(4)->text(), QString());
     EXPECT_FALSE(button("imgSipky(0)")->isVisible());
     EXPECT_FALSE(control("imgJablko")->isVisible());
     click(row(4));
     EXPECT_EQ(selected(), -1);
     click(row(2));
-    EXPECT_EQ(position(), QStringLiteral("2 z 3"));
+    EXPECT_EQ(position(), u"2 z 3"_s);
     EXPECT_TRUE(control("imgJablko")->isVisible());
-    EXPECT_EQ(run.announced,
-              (QStringList{QStringLiteral("Recepty, 3\u00a0recepty"), QStringLiteral("Recept 001")}));
+    EXPECT_EQ(run.announced, (QStringList{u"Recepty, 3\u00a0recepty"_s, u"Recept 001"_s}));
     click(button("imgBtn(2)"));
     doubleClick(row(1));
-    EXPECT_EQ(run.recorded.calls,
-              (QStringList{QStringLiteral("showRecipe 1"), QStringLiteral("showRecipe 3")}));
+    EXPECT_EQ(run.recorded.calls, (QStringList{u"showRecipe 1"_s, u"showRecipe 3"_s}));
     click(button("imgBtnHlavni(2)"));
     EXPECT_EQ(run.FormStack.top(), below);
 }
@@ -81,6 +77,7 @@ TEST_F(SeznamTest, ArrowsScrollOnceOrWhileHeld) {
     for (const auto& [arrow, top] : clicks) {
         click(button(arrow));
         EXPECT_EQ(list->pages().top(), top) << arrow;
+        EXPECT_FALSE(button(arrow)->hasFocus()) << "the keyboard stays with the list";
     }
     QTest::mousePress(button("imgSipky(0)"), Qt::LeftButton);
     Timer& timer = held("imgSipky(0)");
@@ -88,11 +85,11 @@ TEST_F(SeznamTest, ArrowsScrollOnceOrWhileHeld) {
     for (int tick = 0; tick < 100; ++tick) timer.fire();
     EXPECT_EQ(timer.interval(), 50);
     EXPECT_EQ(list->pages().top(), kRecipes - kRows);
-    EXPECT_EQ(row(kRows)->text(), QStringLiteral("Recept 050"));
+    EXPECT_EQ(row(kRows)->text(), u"Recept 050"_s);
     QTest::mouseRelease(button("imgSipky(0)"), Qt::LeftButton);
     EXPECT_FALSE(timer.isEnabled());
     QTest::mousePress(button("imgSipky(2)"), Qt::LeftButton);
-    auto* over = new Form(run, QStringLiteral("frmRecept"));
+    auto* over = new Form(run, u"frmRecept"_s);
     run.PushScreen(*over);
     EXPECT_FALSE(held("imgSipky(2)").isEnabled()) << "a screen over the list ends it, too";
     run.PopScreen(*over);
@@ -108,9 +105,9 @@ TEST_F(SeznamTest, ThePanelShowsPhotoOrWines) {
     EXPECT_FALSE(wineShows());
     click(button("imgBtn(1)"));
     EXPECT_TRUE(wineShows());
-    EXPECT_EQ(wine(), QStringLiteral("Recept 001 Víno \r\nRyzlink rýnský\r\nPálava"));
+    EXPECT_EQ(wine(), u"Recept 001 Víno \r\nRyzlink rýnský\r\nPálava"_s);
     click(row(2));
-    EXPECT_EQ(wine(), QStringLiteral("Recept 002 Víno ")) << "the panel stays what it is";
+    EXPECT_EQ(wine(), u"Recept 002 Víno "_s) << "the panel stays what it is";
     click(button("imgBtn(1)"));
     EXPECT_FALSE(wineShows());
     click(button("imgBtn(1)"));
@@ -121,12 +118,12 @@ TEST_F(SeznamTest, ThePanelShowsPhotoOrWines) {
 TEST_F(SeznamTest, TheNextListShowsThePanelThatTheLastOneLeft) {
     frmSeznam::Panel panel = frmSeznam::Panel::Photo;
     list = new frmSeznam(run, &panel);
-    list->Zobraz({}, QStringLiteral("recepty"));
+    list->Zobraz({}, u"recepty"_s);
     click(row(1));
     click(button("imgBtn(1)"));
     list->goBack();
     list = new frmSeznam(run, &panel);
-    list->Zobraz({}, QStringLiteral("recepty"));
+    list->Zobraz({}, u"recepty"_s);
     EXPECT_FALSE(wineShows()) << "nothing is chosen";
     click(row(2));
     EXPECT_TRUE(wineShows());
@@ -135,40 +132,39 @@ TEST_F(SeznamTest, TheNextListShowsThePanelThatTheLastOneLeft) {
 TEST_F(SeznamTest, ItSaysWhatItLists) {
     const auto title = [&] { return child<Label>(*list, "lblNadpis")->text(); };
     list = new frmSeznam(run);
-    list->setSubject(QStringLiteral("losos"));
-    list->Zobraz({}, QStringLiteral("recepty"));
-    EXPECT_EQ(title(), QStringLiteral("Recepty – losos"));
+    list->setSubject(u"losos"_s);
+    list->Zobraz({}, u"recepty"_s);
+    EXPECT_EQ(title(), u"Recepty – losos"_s);
     open("", "RychleRecepty");
-    EXPECT_EQ(title(), QStringLiteral("Rychlé recepty"));
+    EXPECT_EQ(title(), u"Rychlé recepty"_s);
 }
 
 TEST_F(SeznamTest, TheWinesFitIntoThePanel) {
     open("1,", "recepty");
-    for (int more = 0; more < 5; ++more)
-        run.database.Execute(QStringLiteral("INSERT INTO SpojVino VALUES (1, 1)"));
+    for (int more = 0; more < 5; ++more) run.database.Execute(u"INSERT INTO SpojVino VALUES (1, 1)"_s);
     click(row(1));
     click(button("imgBtn(1)"));
     EXPECT_EQ(wine().count(u'\n'), 7);
     const QRect panel = child<PictureBox>(*list, "picFoto")->twips();
     const auto* label = child<Label>(*list, "lblVino");
     EXPECT_TRUE(panel.contains(label->twips()));
-    const TextFont smallest{QStringLiteral("Times New Roman"), 11};
+    const TextFont smallest{u"Times New Roman"_s, 11};
     EXPECT_GE(label->twips().height(), Label::measure(wine(), smallest, label->twips().width()).height());
 }
 
 TEST_F(SeznamTest, AMissingOrBrokenPhotoLeavesItsNameInThePlace) {
-    QFile broken(folder.filePath(QStringLiteral("foto/Male/r2.bmp")));
+    QFile broken(folder.filePath(u"foto/Male/r2.bmp"_s));
     ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
     broken.write(QByteArray("BM").append(QByteArray(60, '\x7f')));
     broken.close();
     writePhoto("foto/Male/r3.bmp", {300, 200});
-    QFile cut(folder.filePath(QStringLiteral("foto/Male/r3.bmp")));
+    QFile cut(folder.filePath(u"foto/Male/r3.bmp"_s));
     ASSERT_TRUE(cut.resize(1000));
     open("", "recepty");
     for (int number = 1; number <= 3; ++number) {
         click(row(number));
-        EXPECT_EQ(panelText(), QStringLiteral("Recept 00%1").arg(number));
-        EXPECT_EQ(position(), QStringLiteral("%1 z 50").arg(number));
+        EXPECT_EQ(panelText(), u"Recept 00%1"_s.arg(number));
+        EXPECT_EQ(position(), u"%1 z 50"_s.arg(number));
     }
     EXPECT_EQ(run.messages, QStringList());
 }
@@ -177,7 +173,7 @@ TEST_F(SeznamTest, AnActionNeedsASelection) {
     open("", "recepty");
     for (const char* name : {"imgBtn(0)", "imgBtn(1)", "imgBtn(2)"}) click(button(name));
     key(Qt::Key_Return);
-    EXPECT_EQ(run.messages, QStringList(4, QStringLiteral("48: Není vybrán recept")));
+    EXPECT_EQ(run.messages, QStringList(4, u"48: Není vybrán recept"_s));
     click(control("picFoto"));
     EXPECT_EQ(run.recorded.calls, QStringList());
     click(row(1));
@@ -193,7 +189,7 @@ TEST_F(SeznamTest, TheKeyboardReachesEverything) {
     EXPECT_EQ(selected(), kRows);
     EXPECT_EQ(list->pages().top(), kRows);
     key(Qt::Key_End);
-    EXPECT_EQ(position(), QStringLiteral("50 z 50"));
+    EXPECT_EQ(position(), u"50 z 50"_s);
     key(Qt::Key_PageUp);
     key(Qt::Key_Up);
     EXPECT_EQ(selected(), 50 - kRows - 2);
@@ -212,8 +208,7 @@ TEST_F(SeznamTest, TheKeyboardReachesEverything) {
     key(Qt::Key_Return);
     key(Qt::Key_F1);
     EXPECT_EQ(run.recorded.calls,
-              (QStringList{QStringLiteral("showRecipe 1"), QStringLiteral("showMusicSettings"),
-                           QStringLiteral("showHelpFor frmSeznam")}));
+              (QStringList{u"showRecipe 1"_s, u"showMusicSettings"_s, u"showHelpFor frmSeznam"_s}));
     type('x');
     EXPECT_EQ(run.exits, 1);
     key(Qt::Key_Escape);
@@ -221,8 +216,8 @@ TEST_F(SeznamTest, TheKeyboardReachesEverything) {
 }
 
 TEST_F(SeznamTest, LettersJumpAndCGoesBack) {
-    run.database.Execute(QStringLiteral("UPDATE Recepty SET Nazev = 'Štika' WHERE ID IN (30, 40)"));
-    run.database.Execute(QStringLiteral("UPDATE Recepty SET Nazev = 'Arašídy' WHERE ID = 1"));
+    run.database.Execute(u"UPDATE Recepty SET Nazev = 'Štika' WHERE ID IN (30, 40)"_s);
+    run.database.Execute(u"UPDATE Recepty SET Nazev = 'Arašídy' WHERE ID = 1"_s);
     open("", "recepty");
     type('s');
     EXPECT_EQ(selected(), 29);
@@ -261,17 +256,16 @@ TEST_F(SeznamTest, AHelpTopicOpensItsPageAndNoPhoto) {
         EXPECT_FALSE(control(hidden)->isVisible()) << hidden;
     const QImage before = control("picFoto")->grab().toImage();
     click(row(2));
-    EXPECT_EQ(position(), QStringLiteral("2 z 2"));
+    EXPECT_EQ(position(), u"2 z 2"_s);
     EXPECT_EQ(control("picFoto")->grab().toImage(), before) << "page 5 is not recipe 5";
     click(control("picFoto"));
     key(Qt::Key_Space);
     EXPECT_EQ(run.recorded.calls, QStringList());
     key(Qt::Key_Return);
     doubleClick(row(1));
-    EXPECT_EQ(run.recorded.calls,
-              (QStringList{QStringLiteral("showPage 5"), QStringLiteral("showPage 310")}));
+    EXPECT_EQ(run.recorded.calls, (QStringList{u"showPage 5"_s, u"showPage 310"_s}));
     click(button("imgBtnHlavni(0)"));
-    EXPECT_EQ(run.recorded.calls.last(), QStringLiteral("showPrintSelection 2 'help'"));
+    EXPECT_EQ(run.recorded.calls.last(), u"showPrintSelection 2 'help'"_s);
 }
 
 TEST_F(SeznamTest, QuickRecipesStandForTheRecipesTheyShow) {
@@ -279,21 +273,21 @@ TEST_F(SeznamTest, QuickRecipesStandForTheRecipesTheyShow) {
     open("", "RychleRecepty");
     EXPECT_FALSE(control("imgBtn(0)")->isVisible());
     click(row(2));
-    EXPECT_EQ(quickText(), QStringLiteral("Ze skříně")) << "no photo of recipe 32";
+    EXPECT_EQ(quickText(), u"Ze skříně"_s) << "no photo of recipe 32";
     click(row(1));
     EXPECT_EQ(quickText(), QString());
     click(button("imgBtn(1)"));
-    EXPECT_EQ(wine(), QStringLiteral("Za deset minut Víno \r\nRyzlink rýnský\r\nPálava"));
+    EXPECT_EQ(wine(), u"Za deset minut Víno \r\nRyzlink rýnský\r\nPálava"_s);
     EXPECT_FALSE(quick()->isVisible());
     click(button("imgBtn(1)"));
     EXPECT_TRUE(quick()->isVisible());
     click(button("imgBtn(2)"));
     doubleClick(row(3));
-    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("showRecipe 29")}) << "the third leads nowhere";
+    EXPECT_EQ(run.recorded.calls, QStringList{u"showRecipe 29"_s}) << "the third leads nowhere";
     click(button("imgBtnHlavni(0)"));
     ASSERT_EQ(run.recorded.printEntries.size(), 2u);
     EXPECT_EQ(run.recorded.printEntries[1].item, 32);
-    EXPECT_EQ(run.recorded.printEntries[1].text, QStringLiteral("Ze skříně"));
+    EXPECT_EQ(run.recorded.printEntries[1].text, u"Ze skříně"_s);
 }
 
 TEST_F(SeznamTest, TheQuickRecipesWindowGivesTheKeyboardBack) {
@@ -310,7 +304,7 @@ TEST_F(SeznamTest, TheQuickRecipesWindowGivesTheKeyboardBack) {
     EXPECT_EQ(selected(), 1);
     key(Qt::Key_Down);
     EXPECT_EQ(selected(), 2);
-    auto* over = new Form(run, QStringLiteral("frmNastavHudbu"));
+    auto* over = new Form(run, u"frmNastavHudbu"_s);
     over->place({3000, 2100, 4000, 4800});
     run.PushScreen(*over);
     over->showForm();
@@ -335,7 +329,7 @@ TEST_F(SeznamTest, PhotosAndPrintGetTheEntries) {
     click(button("imgBtnHlavni(0)"));
     ASSERT_EQ(run.recorded.printEntries.size(), 3u);
     EXPECT_EQ(run.recorded.printEntries[2].item, 11);
-    EXPECT_EQ(run.recorded.printEntries[2].text, QStringLiteral("Recept 011"));
+    EXPECT_EQ(run.recorded.printEntries[2].text, u"Recept 011"_s);
 }
 
 TEST_F(SeznamTest, GoingBackLandsWhereTheUserWas) {
@@ -346,7 +340,7 @@ TEST_F(SeznamTest, GoingBackLandsWhereTheUserWas) {
     key(Qt::Key_Return);
     frmSeznam* first = list;
     const int top = first->pages().top(), place = first->pages().selectedRow();
-    auto* recipe = new Form(run, QStringLiteral("frmRecept"));
+    auto* recipe = new Form(run, u"frmRecept"_s);
     run.PushScreen(*recipe);
     recipe->showForm();
     open("", "Help");

@@ -12,10 +12,10 @@ namespace {
 class LogicalPathTest : public testing::Test {
   protected:
     void SetUp() override {
-        ASSERT_TRUE(QDir(disc.path()).mkpath(QStringLiteral("Foto/Velke")));
-        touch(QStringLiteral("hudba.wav"));
-        touch(QStringLiteral("Foto/Velke/R1.bmp"));
-        touch(QStringLiteral("Foto/c\u030C5.wav"));  // č as a letter and a mark
+        ASSERT_TRUE(QDir(disc.path()).mkpath(u"Foto/Velke"_s));
+        touch(u"hudba.wav"_s);
+        touch(u"Foto/Velke/R1.bmp"_s);
+        touch(u"Foto/c\u030C5.wav"_s);  // č as a letter and a mark
     }
     void touch(const QString& name) {
         QFile file(disc.filePath(name));
@@ -28,12 +28,10 @@ class LogicalPathTest : public testing::Test {
 
 TEST_F(LogicalPathTest, FindsFilesWhateverTheirLettersAndAccents) {
     const QString media = LogicalPaths::fromNativeFolder(disc.path());
-    EXPECT_EQ(paths.resolve(media + QStringLiteral("HUDBA.WAV")), disc.filePath(QStringLiteral("hudba.wav")));
-    EXPECT_EQ(paths.resolve(media + QStringLiteral("foto\\velke\\r1.BMP")),
-              disc.filePath(QStringLiteral("Foto/Velke/R1.bmp")));
-    EXPECT_EQ(paths.resolve(media + QStringLiteral("foto\\č5.wav")),
-              disc.filePath(QStringLiteral("Foto/c\u030C5.wav")));
-    EXPECT_EQ(paths.resolve(QStringLiteral("e:\\hudba.wav")), disc.filePath(QStringLiteral("hudba.wav")));
+    EXPECT_EQ(paths.resolve(media + u"HUDBA.WAV"_s), disc.filePath(u"hudba.wav"_s));
+    EXPECT_EQ(paths.resolve(media + u"foto\\velke\\r1.BMP"_s), disc.filePath(u"Foto/Velke/R1.bmp"_s));
+    EXPECT_EQ(paths.resolve(media + u"foto\\č5.wav"_s), disc.filePath(u"Foto/c\u030C5.wav"_s));
+    EXPECT_EQ(paths.resolve(u"e:\\hudba.wav"_s), disc.filePath(u"hudba.wav"_s));
 }
 
 TEST_F(LogicalPathTest, AMediumMayStandUnderAnotherEndingOfItsKind) {
@@ -42,7 +40,7 @@ TEST_F(LogicalPathTest, AMediumMayStandUnderAnotherEndingOfItsKind) {
         {"Vina.WAV", {"vina.flac", "Vina.opus", "VINA.ogg"}},
         {"UVOD.AVI", {"uvod.mp4", "Uvod.webm", "uvod.mkv"}}};
     for (const auto& [wanted, standing] : kinds) {
-        const QString logical = QStringLiteral("E:\\") + QLatin1String(wanted);
+        const QString logical = u"E:\\"_s + QLatin1String(wanted);
         // Each is found, and before those that stood there already.
         for (const char* file : standing) {
             const QString name = QString::fromLatin1(file);
@@ -53,10 +51,10 @@ TEST_F(LogicalPathTest, AMediumMayStandUnderAnotherEndingOfItsKind) {
         EXPECT_EQ(paths.resolve(logical), disc.filePath(QLatin1String(wanted)))
             << "what is named comes first";
     }
-    touch(QStringLiteral("r3.ogg"));
-    touch(QStringLiteral("Sarne.bak"));
+    touch(u"r3.ogg"_s);
+    touch(u"Sarne.bak"_s);
     for (const char* other : {"r3.bmp", "r3.avi", "Sarne.drc"})
-        EXPECT_EQ(paths.resolve(QStringLiteral("E:\\") + QLatin1String(other)), QString()) << other;
+        EXPECT_EQ(paths.resolve(u"E:\\"_s + QLatin1String(other)), QString()) << other;
 }
 
 TEST_F(LogicalPathTest, WhatIsNotThereIsEmpty) {
@@ -65,22 +63,21 @@ TEST_F(LogicalPathTest, WhatIsNotThereIsEmpty) {
 }
 
 TEST(Folder, EndsInOneBackslash) {
-    EXPECT_EQ(withTrailingBackslash(QStringLiteral("C:\\")), QStringLiteral("C:\\"));
-    EXPECT_EQ(withTrailingBackslash(QStringLiteral("C:\\Prog")), QStringLiteral("C:\\Prog\\"));
-    EXPECT_EQ(LogicalPaths::fromNativeFolder(QStringLiteral("/opt/kuchyne/")),
-              QStringLiteral("\\opt\\kuchyne\\"));
+    EXPECT_EQ(withTrailingBackslash(u"C:\\"_s), u"C:\\"_s);
+    EXPECT_EQ(withTrailingBackslash(u"C:\\Prog"_s), u"C:\\Prog\\"_s);
+    EXPECT_EQ(LogicalPaths::fromNativeFolder(u"/opt/kuchyne/"_s), u"\\opt\\kuchyne\\"_s);
 }
 
 TEST(LogicalPathDrivesTest, DrivesAreAskedForAgainWhenALetterLeadsNowhere) {
     const QTemporaryDir disc;
-    QFile(disc.filePath(QStringLiteral("hudba.wav"))).open(QIODevice::WriteOnly);
+    QFile(disc.filePath(u"hudba.wav"_s)).open(QIODevice::WriteOnly);
     LogicalPaths::Drives drives;
     LogicalPaths paths([&drives] { return drives; });
-    EXPECT_EQ(paths.resolve(QStringLiteral("E:\\HUDBA.WAV")), QString());
+    EXPECT_EQ(paths.resolve(u"E:\\HUDBA.WAV"_s), QString());
     drives.insert(u'E', disc.path());
-    EXPECT_EQ(paths.resolve(QStringLiteral("E:\\HUDBA.WAV")), disc.filePath(QStringLiteral("hudba.wav")));
+    EXPECT_EQ(paths.resolve(u"E:\\HUDBA.WAV"_s), disc.filePath(u"hudba.wav"_s));
     // A folder that a logical path cannot name gets a letter of its own.
-    const QString odd = disc.filePath(QStringLiteral("a\\b"));
+    const QString odd = disc.filePath(u"a\\b"_s);
     ASSERT_TRUE(QDir().mkdir(odd));
     EXPECT_EQ(paths.resolve(paths.mapFolder(odd)), odd);
 }

@@ -24,18 +24,16 @@ class DatabaseFaults : public testing::Test {
     }
     QString recipes() const {
         const QString file = path("Sarne.drc");
-        test::writeRecipeDatabase(file, {QStringLiteral("INSERT INTO Recepty (ID,Nazev) VALUES (1,'Kapr')")});
+        test::writeRecipeDatabase(file, {u"INSERT INTO Recepty (ID,Nazev) VALUES (1,'Kapr')"_s});
         return file;
     }
     static bool storeNote(Database& db, const QString& note) {
-        Recordset rows = db.OpenTable(QStringLiteral("Recepty"));
+        Recordset rows = db.OpenTable(u"Recepty"_s);
         rows.Edit();
-        rows.setField(QStringLiteral("Vlastni"), note);
+        rows.setField(u"Vlastni"_s, note);
         return rows.Update();
     }
-    static QString note(Database& db) {
-        return db.OpenTable(QStringLiteral("Recepty")).field(QStringLiteral("Vlastni")).toString();
-    }
+    static QString note(Database& db) { return db.OpenTable(u"Recepty"_s).field(u"Vlastni"_s).toString(); }
 
     QTemporaryDir folder;
 };
@@ -49,12 +47,12 @@ TEST_F(DatabaseFaults, WhatIsNoDatabaseStaysEmpty) {
           folder.path(), fileOf("half", "SQLite format 3\0abc")}) {
         Database db;
         db.Open(file);
-        Recordset rows = db.OpenTable(QStringLiteral("Recepty"));
-        rows.Seek(QStringLiteral("="), 1);
+        Recordset rows = db.OpenTable(u"Recepty"_s);
+        rows.Seek(u"="_s, 1);
         EXPECT_TRUE(rows.NoMatch());
-        EXPECT_TRUE(rows.field(QStringLiteral("Nazev")).isNull());
-        EXPECT_FALSE(storeNote(db, QStringLiteral("x"))) << file.toStdString();
-        EXPECT_EQ(db.OpenQuery(QStringLiteral("SELECT * FROM Suroviny")).RecordCount(), 0);
+        EXPECT_TRUE(rows.field(u"Nazev"_s).isNull());
+        EXPECT_FALSE(storeNote(db, u"x"_s)) << file.toStdString();
+        EXPECT_EQ(db.OpenQuery(u"SELECT * FROM Suroviny"_s).RecordCount(), 0);
     }
     EXPECT_FALSE(Database().Open(path("garbage")));
 }
@@ -64,17 +62,14 @@ TEST_F(DatabaseFaults, AFullDiskLosesNeitherTheOldNoteNorTheSearch) {
     const pid_t child = fork();
     if (child == 0) {
         Database db;
-        bool asExpected = db.Open(file) && storeNote(db, QStringLiteral("stará")) &&
-                          db.keepInMemory(QStringLiteral("Menu"));
+        bool asExpected = db.Open(file) && storeNote(db, u"stará"_s) && db.keepInMemory(u"Menu"_s);
         // From here on no file may grow: the disk is full.
         signal(SIGXFSZ, SIG_IGN);
         const rlimit none{512, 512};
         setrlimit(RLIMIT_FSIZE, &none);
         asExpected = asExpected && !storeNote(db, QString(100000, u'n')) && note(db) == u"stará";
-        asExpected =
-            asExpected && db.Execute(QStringLiteral("INSERT INTO Menu VALUES ('001','kapr','1')")) &&
-            db.OpenQuery(QStringLiteral("SELECT * FROM menu WHERE ID LIKE '0*' ORDER BY Id")).RecordCount() ==
-                1;
+        asExpected = asExpected && db.Execute(u"INSERT INTO Menu VALUES ('001','kapr','1')"_s) &&
+                     db.OpenQuery(u"SELECT * FROM menu WHERE ID LIKE '0*' ORDER BY Id"_s).RecordCount() == 1;
         _exit(asExpected ? 0 : 1);
     }
     int status = 0;
@@ -82,7 +77,7 @@ TEST_F(DatabaseFaults, AFullDiskLosesNeitherTheOldNoteNorTheSearch) {
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
     Database db;
     ASSERT_TRUE(db.Open(file));
-    EXPECT_EQ(note(db), QStringLiteral("stará"));
+    EXPECT_EQ(note(db), u"stará"_s);
 }
 
 /// Stores notes with rising numbers until it is killed, telling each number once it is stored.
@@ -90,9 +85,9 @@ TEST_F(DatabaseFaults, AFullDiskLosesNeitherTheOldNoteNorTheSearch) {
     Database db;
     if (!db.Open(file)) _exit(1);
     for (int number = 1;; ++number) {
-        Recordset rows = db.OpenTable(QStringLiteral("Recepty"));
+        Recordset rows = db.OpenTable(u"Recepty"_s);
         rows.Edit();
-        rows.setField(QStringLiteral("Vlastni"), QString::number(number).rightJustified(5000, u'0'));
+        rows.setField(u"Vlastni"_s, QString::number(number).rightJustified(5000, u'0'));
         if (!rows.Update() || write(pipe, &number, sizeof number) != sizeof number) _exit(1);
     }
 }
@@ -122,10 +117,7 @@ TEST_F(DatabaseFaults, NoStoredNoteIsLostToAKill) {
     }
     Database db;
     ASSERT_TRUE(db.Open(file));
-    EXPECT_EQ(db.OpenQuery(QStringLiteral("PRAGMA integrity_check"))
-                  .field(QStringLiteral("integrity_check"))
-                  .toString(),
-              QStringLiteral("ok"));
+    EXPECT_EQ(db.OpenQuery(u"PRAGMA integrity_check"_s).field(u"integrity_check"_s).toString(), u"ok"_s);
 }
 
 }  // namespace

@@ -13,13 +13,12 @@ class IngredientsTest : public testing::Test {
   protected:
     /// The database holds \a rows as the ingredients of recipe 5, each the columns behind the recipe's id.
     void store(const QStringList& rows, const QStringList& more = {}) {
-        QStringList all{
-            QStringLiteral("INSERT INTO Suroviny (ID, Polozka) VALUES (1,'kapr'),(2,'máslo'),(3,' olej ')"),
-            QStringLiteral("INSERT INTO Upresneni (ID, Polozka) VALUES (1,'filety'),(2,'čerstvé')"),
-            QStringLiteral("INSERT INTO Jednotky (ID, Polozka) VALUES (1,'g'),(2,'  lžíce '),(3,'')")};
-        for (const QString& row : rows) all << QStringLiteral("INSERT INTO SpojSur VALUES (5,%1)").arg(row);
-        test::writeRecipeDatabase(folder.filePath(QStringLiteral("t.drc")), all + more);
-        ASSERT_TRUE(db.Open(folder.filePath(QStringLiteral("t.drc"))));
+        QStringList all{u"INSERT INTO Suroviny (ID, Polozka) VALUES (1,'kapr'),(2,'máslo'),(3,' olej ')"_s,
+                        u"INSERT INTO Upresneni (ID, Polozka) VALUES (1,'filety'),(2,'čerstvé')"_s,
+                        u"INSERT INTO Jednotky (ID, Polozka) VALUES (1,'g'),(2,'  lžíce '),(3,'')"_s};
+        for (const QString& row : rows) all << u"INSERT INTO SpojSur VALUES (5,%1)"_s.arg(row);
+        test::writeRecipeDatabase(folder.filePath(u"t.drc"_s), all + more);
+        ASSERT_TRUE(db.Open(folder.filePath(u"t.drc"_s)));
     }
     QStringList lines(UnitSystem units = UnitSystem::Weights, double portions = 4) {
         const Quantities quantities(portions, 4, QLocale(QLocale::Czech, QLocale::CzechRepublic));
@@ -32,45 +31,36 @@ class IngredientsTest : public testing::Test {
 
 TEST_F(IngredientsTest, ALineHasItsPartsOnlyWhereTheRowHasThem) {
     // item, refinement, unit and amount by weight, unit and amount by spoons, alternative
-    store({QStringLiteral("1,1,1,250,2,0.5,2"), QStringLiteral("2,0,1,0,2,-1,0"),
-           QStringLiteral("2,0,0,3,NULL,NULL,NULL"), QStringLiteral("3,2,3,12.5,2,'2',3")});
-    EXPECT_EQ(lines(),
-              (QStringList{QStringLiteral("kapr - filety (g): 250"), QStringLiteral("      - nebo máslo"),
-                           QStringLiteral("máslo (g)"), QStringLiteral("máslo: 3"),
-                           QStringLiteral("olej  - čerstvé (): 12"), QStringLiteral("      - nebo  olej ")}));
-    EXPECT_EQ(
-        lines(UnitSystem::Spoons, 8),
-        (QStringList{QStringLiteral("kapr - filety (lžíce): 1"), QStringLiteral("      - nebo máslo"),
-                     QStringLiteral("máslo (lžíce)"), QStringLiteral("máslo"),
-                     QStringLiteral("olej  - čerstvé (lžíce): 4"), QStringLiteral("      - nebo  olej ")}));
-    EXPECT_EQ(lines(UnitSystem::Weights, 0).first(), QStringLiteral("kapr - filety (g)"));
+    store(
+        {u"1,1,1,250,2,0.5,2"_s, u"2,0,1,0,2,-1,0"_s, u"2,0,0,3,NULL,NULL,NULL"_s, u"3,2,3,12.5,2,'2',3"_s});
+    EXPECT_EQ(lines(), (QStringList{u"kapr - filety (g): 250"_s, u"      - nebo máslo"_s, u"máslo (g)"_s,
+                                    u"máslo: 3"_s, u"olej  - čerstvé (): 12"_s, u"      - nebo  olej "_s}));
+    EXPECT_EQ(lines(UnitSystem::Spoons, 8),
+              (QStringList{u"kapr - filety (lžíce): 1"_s, u"      - nebo máslo"_s, u"máslo (lžíce)"_s,
+                           u"máslo"_s, u"olej  - čerstvé (lžíce): 4"_s, u"      - nebo  olej "_s}));
+    EXPECT_EQ(lines(UnitSystem::Weights, 0).first(), u"kapr - filety (g)"_s);
 }
 
 TEST_F(IngredientsTest, WhatIsNotInItsTableStaysAsInTheRowBefore) {
-    store({QStringLiteral("99,99,99,5,99,5,99"), QStringLiteral("1,1,1,250,2,1,2"),
-           QStringLiteral("99,99,99,5,99,5,99"), QStringLiteral("2,0,0,5,0,5,0"),
-           QStringLiteral("0,99,99,6,99,6,99")});
-    EXPECT_EQ(lines(),
-              (QStringList{QStringLiteral(": 5"), QStringLiteral("kapr - filety (g): 250"),
-                           QStringLiteral("      - nebo máslo"), QStringLiteral("kapr - filety (g): 5"),
-                           QStringLiteral("      - nebo máslo"), QStringLiteral("máslo: 5"),
-                           QStringLiteral("máslo: 6")}));
-    EXPECT_EQ(lines(UnitSystem::Spoons)[3], QStringLiteral("kapr - filety (lžíce): 5"))
+    store({u"99,99,99,5,99,5,99"_s, u"1,1,1,250,2,1,2"_s, u"99,99,99,5,99,5,99"_s, u"2,0,0,5,0,5,0"_s,
+           u"0,99,99,6,99,6,99"_s});
+    EXPECT_EQ(lines(), (QStringList{u": 5"_s, u"kapr - filety (g): 250"_s, u"      - nebo máslo"_s,
+                                    u"kapr - filety (g): 5"_s, u"      - nebo máslo"_s, u"máslo: 5"_s,
+                                    u"máslo: 6"_s}));
+    EXPECT_EQ(lines(UnitSystem::Spoons)[3], u"kapr - filety (lžíce): 5"_s)
         << "each unit system has its own row before";
 }
 
 TEST_F(IngredientsTest, RowsComeAsStoredAndMayRepeat) {
-    store(
-        {QStringLiteral("2,0,0,1,0,0,0"), QStringLiteral("1,0,0,2,0,0,0"), QStringLiteral("2,0,0,3,0,0,0")});
-    EXPECT_EQ(lines(), (QStringList{QStringLiteral("máslo: 1"), QStringLiteral("kapr: 2"),
-                                    QStringLiteral("máslo: 3")}));
+    store({u"2,0,0,1,0,0,0"_s, u"1,0,0,2,0,0,0"_s, u"2,0,0,3,0,0,0"_s});
+    EXPECT_EQ(lines(), (QStringList{u"máslo: 1"_s, u"kapr: 2"_s, u"máslo: 3"_s}));
 }
 
 TEST_F(IngredientsTest, TheTextBeginsWithThePortions) {
-    store({QStringLiteral("1,0,1,250,0,0,2")});
+    store({u"1,0,1,250,0,0,2"_s});
     const QLocale czech(QLocale::Czech, QLocale::CzechRepublic);
     EXPECT_EQ(ingredientsText(readIngredients(db, 5), UnitSystem::Weights, {2.5, 4, czech}),
-              QStringLiteral("Porce: 2,5\r\nkapr (g): 160\r\n      - nebo máslo\r\n"));
+              u"Porce: 2,5\r\nkapr (g): 160\r\n      - nebo máslo\r\n"_s);
     EXPECT_EQ(ingredientsText(readIngredients(db, 6), UnitSystem::Weights, {4, 4, czech}), QString());
     Database closed;
     EXPECT_TRUE(readIngredients(closed, 5).empty());
@@ -78,22 +68,20 @@ TEST_F(IngredientsTest, TheTextBeginsWithThePortions) {
 
 TEST_F(IngredientsTest, ToolsAndLinksAreAlphabetical) {
     store({},
-          {QStringLiteral(
-               "INSERT INTO Pomucky (ID, Polozka) VALUES (1,'hrnec'),(2,'číše'),(3,'chňapka'),(4,'cedník')"),
-           QStringLiteral("INSERT INTO SpojPomucky VALUES (5,1),(5,3),(5,2),(5,4),(6,1)"),
-           QStringLiteral("INSERT INTO Odkazy (ID, Polozka, Text) VALUES (7,'Vývar','text'),(8,'Dip',NULL)"),
-           QStringLiteral("INSERT INTO SpojOdkazy VALUES (5,7),(5,8),(5,9)")});
-    EXPECT_EQ(recipeTools(db, 5), (QStringList{QStringLiteral("cedník"), QStringLiteral("číše"),
-                                               QStringLiteral("hrnec"), QStringLiteral("chňapka")}));
+          {u"INSERT INTO Pomucky (ID, Polozka) VALUES (1,'hrnec'),(2,'číše'),(3,'chňapka'),(4,'cedník')"_s,
+           u"INSERT INTO SpojPomucky VALUES (5,1),(5,3),(5,2),(5,4),(6,1)"_s,
+           u"INSERT INTO Odkazy (ID, Polozka, Text) VALUES (7,'Vývar','text'),(8,'Dip',NULL)"_s,
+           u"INSERT INTO SpojOdkazy VALUES (5,7),(5,8),(5,9)"_s});
+    EXPECT_EQ(recipeTools(db, 5), (QStringList{u"cedník"_s, u"číše"_s, u"hrnec"_s, u"chňapka"_s}));
     EXPECT_TRUE(recipeTools(db, 7).isEmpty());
     const auto links = recipeLinks(db, 5);
     ASSERT_EQ(links.size(), 2U);
-    EXPECT_EQ(links[0].title, QStringLiteral("Dip"));
+    EXPECT_EQ(links[0].title, u"Dip"_s);
     EXPECT_EQ(links[1].id, 7);
-    EXPECT_EQ(linkText(db, 7), QStringLiteral("text"));
+    EXPECT_EQ(linkText(db, 7), u"text"_s);
     EXPECT_EQ(linkText(db, 8), QString()) << "a link without a text is still a link";
     EXPECT_FALSE(linkText(db, 9));
-    EXPECT_EQ(linkDocument(db, 7)->title, QStringLiteral("Vývar"));
+    EXPECT_EQ(linkDocument(db, 7)->title, u"Vývar"_s);
     EXPECT_FALSE(linkDocument(db, 9));
 }
 

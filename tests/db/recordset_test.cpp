@@ -12,18 +12,16 @@ namespace {
 class RecordsetTest : public testing::Test {
   protected:
     void SetUp() override {
-        file = folder.filePath(QStringLiteral("Sarne.drc"));
+        file = folder.filePath(u"Sarne.drc"_s);
         test::writeRecipeDatabase(
-            file,
-            {QStringLiteral("INSERT INTO Suroviny VALUES (1,'Kapr'),(2,'česnek'),(3,'chléb'),(4,'cibule'),"
-                            "(5,'hrách'),(6,'KAPARY'),(7,'50% ocet'),(8,'Ústřice'),(9,'úhoř')"),
-             QStringLiteral(
-                 "INSERT INTO Recepty (ID,Nazev,Porce) VALUES (1,'Kapr na kmíně',4),(7,'Candát',2),"
-                 "(40,'Čočka',6)"),
-             QStringLiteral("INSERT INTO SpojSur VALUES (1,6,0,1,5,1,1,0),(1,1,0,1,250,1,2,0),"
-                            "(1,6,0,1,2,1,1,0),(7,1,0,1,3,1,1,0)"),
-             QStringLiteral("INSERT INTO Menu VALUES ('1','a','D'),('11','b','1,'),('12','c','2,'),"
-                            "('121','d','F')")});
+            file, {u"INSERT INTO Suroviny VALUES (1,'Kapr'),(2,'česnek'),(3,'chléb'),(4,'cibule'),"
+                   "(5,'hrách'),(6,'KAPARY'),(7,'50% ocet'),(8,'Ústřice'),(9,'úhoř')"_s,
+                   u"INSERT INTO Recepty (ID,Nazev,Porce) VALUES (1,'Kapr na kmíně',4),(7,'Candát',2),"
+                   "(40,'Čočka',6)"_s,
+                   u"INSERT INTO SpojSur VALUES (1,6,0,1,5,1,1,0),(1,1,0,1,250,1,2,0),"
+                   "(1,6,0,1,2,1,1,0),(7,1,0,1,3,1,1,0)"_s,
+                   u"INSERT INTO Menu VALUES ('1','a','D'),('11','b','1,'),('12','c','2,'),"
+                   "('121','d','F')"_s});
         ASSERT_TRUE(db.Open(file));
     }
     QStringList column(const char* query, const char* name) {
@@ -66,103 +64,103 @@ TEST_F(RecordsetTest, WhateverIsTypedIsOnePattern) {
                               "x' UNION SELECT 1,sql FROM sqlite_master WHERE name LIKE 'Recepty"})
         EXPECT_EQ(found(typed), 0) << typed;
     EXPECT_EQ(found("kap"), 2);
-    Recordset ingredients = db.OpenTable(QStringLiteral("Suroviny"));
+    Recordset ingredients = db.OpenTable(u"Suroviny"_s);
     ASSERT_TRUE(RecordExists(ingredients, 8));
     ingredients.Edit();
-    ingredients.setField(QStringLiteral("Polozka"), QStringLiteral("O'Neilova omáčka"));
+    ingredients.setField(u"Polozka"_s, u"O'Neilova omáčka"_s);
     ASSERT_TRUE(ingredients.Update());
     EXPECT_EQ(found("o'ne"), 1);
-    EXPECT_EQ(db.OpenTable(QStringLiteral("Suroviny")).RecordCount(), 9);
-    EXPECT_FALSE(db.OpenTable(QStringLiteral("Neni")).isOpen());
+    EXPECT_EQ(db.OpenTable(u"Suroviny"_s).RecordCount(), 9);
+    EXPECT_FALSE(db.OpenTable(u"Neni"_s).isOpen());
 }
 
 TEST_F(RecordsetTest, ATableIsWalkedAndSoughtByItsKey) {
-    Recordset recipes = db.OpenTable(QStringLiteral("recepty"));
-    recipes.setIndex(QStringLiteral("primarykey"));
-    recipes.Seek(QStringLiteral("="), 7);
+    Recordset recipes = db.OpenTable(u"recepty"_s);
+    recipes.setIndex(u"primarykey"_s);
+    recipes.Seek(u"="_s, 7);
     EXPECT_FALSE(recipes.NoMatch());
-    EXPECT_EQ(recipes.field(QStringLiteral("nAzEv")).toString(), QStringLiteral("Candát"));
+    EXPECT_EQ(recipes.field(u"nAzEv"_s).toString(), u"Candát"_s);
     recipes.MoveNext();
-    EXPECT_EQ(recipes.field(QStringLiteral("ID")).toInt(), 40);
-    recipes.Seek(QStringLiteral("="), 8);
+    EXPECT_EQ(recipes.field(u"ID"_s).toInt(), 40);
+    recipes.Seek(u"="_s, 8);
     EXPECT_TRUE(recipes.NoMatch());
     recipes.MoveNext();
     EXPECT_TRUE(recipes.AtEnd());
-    EXPECT_TRUE(recipes.field(QStringLiteral("Nazev")).isNull());
+    EXPECT_TRUE(recipes.field(u"Nazev"_s).isNull());
     recipes.MoveLast();
     recipes.MovePrevious();
-    EXPECT_EQ(recipes.field(QStringLiteral("ID")).toInt(), 7);
+    EXPECT_EQ(recipes.field(u"ID"_s).toInt(), 7);
 
-    Recordset menu = db.OpenTable(QStringLiteral("Menu"));
-    EXPECT_TRUE(RecordExists(menu, QStringLiteral("121")));
-    EXPECT_FALSE(RecordExists(menu, QStringLiteral("999")));
+    Recordset menu = db.OpenTable(u"Menu"_s);
+    EXPECT_TRUE(RecordExists(menu, u"121"_s));
+    EXPECT_FALSE(RecordExists(menu, u"999"_s));
 }
 
 TEST_F(RecordsetTest, AQueryCountsAndStepsBack) {
-    Recordset all = db.OpenQuery(QStringLiteral("SELECT * FROM SpojSur WHERE ID_Receptu = 1"));
+    Recordset all = db.OpenQuery(u"SELECT * FROM SpojSur WHERE ID_Receptu = 1"_s);
     all.MoveLast();
     EXPECT_EQ(all.RecordCount(), 3);
     all.MovePrevious();
-    EXPECT_EQ(all.field(QStringLiteral("MnozstviKg")).toDouble(), 250);
-    Recordset none = db.OpenQuery(QStringLiteral("SELECT * FROM SpojSur WHERE ID_Receptu = 99"));
+    EXPECT_EQ(all.field(u"MnozstviKg"_s).toDouble(), 250);
+    Recordset none = db.OpenQuery(u"SELECT * FROM SpojSur WHERE ID_Receptu = 99"_s);
     none.MoveLast();
     EXPECT_EQ(none.RecordCount(), 0);
     EXPECT_TRUE(none.AtEnd());
 }
 
 TEST_F(RecordsetTest, ChangesAreStoredAndOnlyThere) {
-    Recordset recipes = db.OpenTable(QStringLiteral("Recepty"));
-    recipes.setField(QStringLiteral("Vlastni"), QStringLiteral("nikam"));
+    Recordset recipes = db.OpenTable(u"Recepty"_s);
+    recipes.setField(u"Vlastni"_s, u"nikam"_s);
     EXPECT_FALSE(recipes.Update());
     recipes.Edit();
-    recipes.setField(QStringLiteral("vlastni"), QStringLiteral("Víc kmínu"));
-    recipes.setField(QStringLiteral("neni"), 1);
+    recipes.setField(u"vlastni"_s, u"Víc kmínu"_s);
+    recipes.setField(u"neni"_s, 1);
     EXPECT_TRUE(recipes.Update());
-    EXPECT_EQ(recipes.field(QStringLiteral("Vlastni")).toString(), QStringLiteral("Víc kmínu"));
+    EXPECT_EQ(recipes.field(u"Vlastni"_s).toString(), u"Víc kmínu"_s);
 
-    Recordset menu = db.OpenTable(QStringLiteral("Menu"));
+    Recordset menu = db.OpenTable(u"Menu"_s);
     menu.AddNew();
-    menu.setField(QStringLiteral("Id"), QStringLiteral("11"));
+    menu.setField(u"Id"_s, u"11"_s);
     EXPECT_FALSE(menu.Update()) << "a key stands once only";
 
     db.Close();
     recipes.MoveNext();  // a closed database leaves what was open as it was
     EXPECT_FALSE(recipes.Update());
     ASSERT_TRUE(db.Open(file));
-    Recordset again = db.OpenTable(QStringLiteral("Recepty"));
-    EXPECT_EQ(again.field(QStringLiteral("Vlastni")).toString(), QStringLiteral("Víc kmínu"));
+    Recordset again = db.OpenTable(u"Recepty"_s);
+    EXPECT_EQ(again.field(u"Vlastni"_s).toString(), u"Víc kmínu"_s);
 }
 
 TEST_F(RecordsetTest, AnOpenRecordsetSurvivesADelete) {
-    Recordset rows = db.OpenQuery(QStringLiteral("SELECT * FROM menu WHERE ID LIKE '1*' ORDER BY Id"));
-    Recordset table = db.OpenTable(QStringLiteral("Menu"));
-    ASSERT_TRUE(db.Execute(QStringLiteral("DELETE * FROM Menu WHERE ID LIKE '1*'")));
+    Recordset rows = db.OpenQuery(u"SELECT * FROM menu WHERE ID LIKE '1*' ORDER BY Id"_s);
+    Recordset table = db.OpenTable(u"Menu"_s);
+    ASSERT_TRUE(db.Execute(u"DELETE * FROM Menu WHERE ID LIKE '1*'"_s));
     rows.MoveNext();
-    EXPECT_EQ(rows.field(QStringLiteral("Id")).toString(), QStringLiteral("11"));
+    EXPECT_EQ(rows.field(u"Id"_s).toString(), u"11"_s);
     table.MoveNext();
     EXPECT_TRUE(table.AtEnd());
     EXPECT_EQ(rows.RecordCount(), 4);
 }
 
 TEST_F(RecordsetTest, ATableKeptInMemoryLeavesTheFileAlone) {
-    ASSERT_TRUE(db.keepInMemory(QStringLiteral("menu")));
-    EXPECT_TRUE(db.Execute(QStringLiteral("DELETE * FROM Menu WHERE ID LIKE '1?'")));
-    Recordset menu = db.OpenTable(QStringLiteral("Menu"));
+    ASSERT_TRUE(db.keepInMemory(u"menu"_s));
+    EXPECT_TRUE(db.Execute(u"DELETE * FROM Menu WHERE ID LIKE '1?'"_s));
+    Recordset menu = db.OpenTable(u"Menu"_s);
     menu.AddNew();
-    menu.setField(QStringLiteral("Id"), QStringLiteral("001"));
+    menu.setField(u"Id"_s, u"001"_s);
     EXPECT_TRUE(menu.Update());
     EXPECT_EQ(column("SELECT * FROM menu ORDER BY Id", "Id"), list("001|1|121"));
     ASSERT_TRUE(db.Open(file));
     EXPECT_EQ(column("SELECT * FROM menu ORDER BY Id", "Id"), list("1|11|12|121"));
-    EXPECT_FALSE(db.keepInMemory(QStringLiteral("Neni")));
+    EXPECT_FALSE(db.keepInMemory(u"Neni"_s));
 }
 
 TEST_F(RecordsetTest, ATransactionIsAllOrNothing) {
     EXPECT_FALSE(db.transaction([&] {
-        db.Execute(QStringLiteral("DELETE * FROM Menu"));
+        db.Execute(u"DELETE * FROM Menu"_s);
         return false;
     }));
-    EXPECT_EQ(db.OpenTable(QStringLiteral("Menu")).RecordCount(), 4);
+    EXPECT_EQ(db.OpenTable(u"Menu"_s).RecordCount(), 4);
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ class DialogTest : public testing::Test {
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
             }
         });
-        return askNumber(run, QStringLiteral("Počet porcí:"));
+        return askNumber(run, u"Počet porcí:"_s);
     }
 
     FakeSarne run;
@@ -51,7 +51,7 @@ TEST_F(DialogTest, AnythingElseIsRefusedAndAskedAgain) {
         stayedOpen = false;
         run.messages.clear();
         EXPECT_EQ(number(text, {Qt::Key_Return}), 0);
-        EXPECT_EQ(run.messages, QStringList{QStringLiteral("48: Toto není číslo!")}) << text;
+        EXPECT_EQ(run.messages, QStringList{u"48: Toto není číslo!"_s}) << text;
         EXPECT_TRUE(stayedOpen) << text;
     }
 }
@@ -61,7 +61,7 @@ TEST_F(DialogTest, ANumberCanBeEnteredByMouseAlone) {
         QTimer::singleShot(0, [this, names] {
             for (const char* name : names) QTest::mouseClick(child<Control>(*open(), name), Qt::LeftButton);
         });
-        return askNumber(run, QStringLiteral("Počet porcí:"));
+        return askNumber(run, u"Počet porcí:"_s);
     };
     EXPECT_EQ(clicked({"cmdCislice(1)", "cmdCislice(0)", "Command1(0)"}), 10);
     EXPECT_EQ(clicked({"cmdCislice(7)", "cmdCislice(9)", "cmdSmazat", "Command1(0)"}), 7);
@@ -80,10 +80,10 @@ TEST_F(DialogTest, CancellingIsZero) {
 
 TEST_F(DialogTest, ATextIsTakenAsItIs) {
     QTimer::singleShot(0, [] {
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("e"));
+        QTest::keyClicks(QApplication::focusWidget(), u"e"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     });
-    EXPECT_EQ(askText(run, QStringLiteral("Zadejte pismeno")), QStringLiteral("e"));
+    EXPECT_EQ(askText(run, u"Zadejte pismeno"_s), u"e"_s);
 }
 
 }  // namespace

@@ -3,11 +3,13 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include "disc/commands/build.h"
 #include "disc/commands/commands.h"
 #include "disc/commands/tellproblems.h"
+#include "disc/ownfiles.h"
 
 namespace sarne::disc {
 namespace {
@@ -17,7 +19,7 @@ class AuthorTest : public testing::Test {
   protected:
     void SetUp() override { ASSERT_EQ(createDisc({folder()}), 0); }
 
-    QString folder() const { return folder_.filePath(QStringLiteral("kniha")); }
+    QString folder() const { return folder_.filePath(u"kniha"_s); }
     QString path(const char* name) const { return folder() + u'/' + QString::fromUtf8(name); }
 
     void replace(const char* file, const char* from, const char* to) const {
@@ -38,8 +40,7 @@ class AuthorTest : public testing::Test {
         for (const Problem& problem : problems.all()) {
             const Spot spot = spotOf(project().content, problem);
             if (problem.isError)
-                all << QStringLiteral("%1:%2:%3 %4")
-                           .arg(spot.place.file)
+                all << u"%1:%2:%3 %4"_s.arg(spot.place.file)
                            .arg(spot.place.line)
                            .arg(spot.column)
                            .arg(problem.text);
@@ -73,12 +74,80 @@ TEST_F(AuthorTest, AllMistakesAreToldAtOnceWhereTheyStand) {
 }
 
 TEST_F(AuthorTest, ANewRecipeHasNoFaults) {
-    ASSERT_EQ(createRecipe({folder(), QStringLiteral("--nazev"), QStringLiteral("Bedla jako řízek"),
-                            QStringLiteral("--hlavni"), QStringLiteral("bedly"), QStringLiteral("--porce"),
-                            QStringLiteral("2"), QStringLiteral("--chod"), QStringLiteral("teplé")}),
+    ASSERT_EQ(createRecipe({folder(), u"--nazev"_s, u"Bedla jako řízek"_s, u"--hlavni"_s, u"bedly"_s,
+                            u"--porce"_s, u"2"_s, u"--chod"_s, u"teplé"_s}),
               0);
     EXPECT_TRUE(QFile::exists(path("content/recepty/03-bedla-jako-rizek.txt")));
     EXPECT_EQ(check(), "");
+}
+
+QString run(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+/// A new disc without a finished one to take from: photo, recording and film are the author's own.
+TEST(OwnFilesTest, ADiscIsBuiltOfThem) {
+    const QTemporaryDir folder;
+    const QString disc = folder.filePath(u"kniha"_s);
+    ASSERT_EQ(createDisc({disc}), 0);
+    const QString content = disc + u"/content/"_s;
+    // Red at the left, green elsewhere, upright and very wide: the point named in the head is kept.
+    QImage photo(1200, 300, QImage::Format_RGB32);
+    photo.fill(Qt::green);
+    for (int x = 0; x < 400; ++x)
+        for (int y = 0; y < 300; ++y) photo.setPixelColor(x, y, Qt::red);
+    ASSERT_TRUE(photo.save(content + u"recepty/01-smazenice.PNG"_s));
+    QFile recipe(content + u"recepty/01-smazenice.txt"_s);
+    ASSERT_TRUE(recipe.open(QIODevice::ReadWrite));
+    const QByteArray text = recipe.readAll();
+    recipe.seek(0);
+    recipe.write(QByteArray(text).replace("porce: 4\n", "porce: 4\nvýřez: 5 50\n"));
+    recipe.close();
+    const QString tone = u"sine=frequency=300:duration=1"_s;
+    run(u"ffmpeg"_s,
+        {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, tone, content + u"recepty/01-smazenice.mp3"_s});
+    run(u"ffmpeg"_s,
+        {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, tone, content + u"zvuky/hudba.ogg"_s});
+    QDir().mkpath(content + u"videa"_s);
+    run(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
+                      u"testsrc=size=320x180:rate=10:duration=1"_s, content + u"videa/1.mp4"_s});
+    QFile films(content + u"videa.txt"_s);
+    ASSERT_TRUE(films.open(QIODevice::WriteOnly) && films.write("1 | Jak na houby\n") > 0);
+    films.close();
+
+    Project project = projectIn(disc);
+    project.base.clear();
+    project.rcc = QStringLiteral(SARNE_RCC);
+    Problems problems;
+    buildDisc(project, {}, problems, nullptr);
+    ASSERT_EQ(problems.errors().join(u'\n').toStdString(), "");
+    const QImage shown(disc + u"/hotovo/disc/foto/Male/r1.jpg"_s);
+    EXPECT_EQ(shown.size(), QSize(640, 480));
+    EXPECT_GT(shown.pixelColor(600, 240).red(), 240) << "the photo is cut around its left end";
+    EXPECT_TRUE(QFile::exists(disc + u"/hotovo/disc/zvuky/č1.ogg"_s));
+    EXPECT_TRUE(QFile::exists(disc + u"/hotovo/disc/HUDBA.opus"_s));
+    EXPECT_TRUE(QFile::exists(disc + u"/hotovo/program/Sarne.rcc"_s));
+    EXPECT_EQ(run(u"ffprobe"_s, {u"-v"_s, u"error"_s, u"-select_streams"_s, u"v"_s, u"-show_entries"_s,
+                                 u"stream=width,height,codec_name"_s, u"-of"_s, u"csv=p=0"_s,
+                                 disc + u"/hotovo/disc/VIDEO/1.mkv"_s}),
+              u"h264,800,600"_s);
+    // Unchanged, nothing is made again, wherever the disc is moved to.
+    const QString moved = folder.filePath(u"jinde"_s);
+    ASSERT_TRUE(QDir().rename(disc, moved));
+    struct Count final : Progress {
+        void made(const QString&, qsizetype, qsizetype, const QString&) override { ++files; }
+        int files = 0;
+    } count;
+    Project again = projectIn(moved);
+    again.base.clear();
+    again.rcc = project.rcc;
+    Problems none;
+    buildDisc(again, {}, none, &count);
+    EXPECT_EQ(none.errors().join(u'\n').toStdString(), "");
+    EXPECT_LE(count.files, 5) << "but for the names that no voice could say";
 }
 
 }  // namespace

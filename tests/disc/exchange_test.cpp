@@ -9,14 +9,11 @@
 namespace sarne::disc {
 namespace {
 
-const QStringList kUnits{QStringLiteral("g"),       QStringLiteral("ml"),     QStringLiteral("ks"),
-                         QStringLiteral("lžíce"),   QStringLiteral("lžičky"), QStringLiteral("hrnky"),
-                         QStringLiteral("stroužky")};
+const QStringList kUnits{u"g"_s, u"ml"_s, u"ks"_s, u"lžíce"_s, u"lžičky"_s, u"hrnky"_s, u"stroužky"_s};
 
 QStringList lines(const SharedRecipe& recipe) {
     QStringList all;
-    for (const SharedIngredient& one : recipe.ingredients)
-        all << one.name + QStringLiteral(": ") + one.amount;
+    for (const SharedIngredient& one : recipe.ingredients) all << one.name + u": "_s + one.amount;
     return all;
 }
 
@@ -25,7 +22,7 @@ TEST(ExchangeTest, FiftyRecipesComeBackAsTheyWent) {
     Problems problems;
     const ContentFolder folder(QStringLiteral(SARNE_CONTENT), problems);
     const QStringList units = loadCookbook(folder, problems).unitForms.keys();
-    const QStringList files = folder.files(QStringLiteral("recepty"));
+    const QStringList files = folder.files(u"recepty"_s);
     ASSERT_EQ(files.size(), 50);
     for (const QString& file : files) {
         const SharedRecipe recipe = sharedRecipe(folder.read(file));
@@ -68,61 +65,55 @@ TEST(ExchangeTest, IngredientsAreReadAsPeopleWriteThem) {
         {"1,5 kg brambor - varný typ B", "brambor, varný typ B: 1500 g"}};
     for (const auto& [text, wanted] : cases) {
         const SharedIngredient read = readIngredientText(QString::fromUtf8(text), kUnits);
-        EXPECT_EQ((read.name + QStringLiteral(": ") + read.amount).toStdString(), wanted);
+        EXPECT_EQ((read.name + u": "_s + read.amount).toStdString(), wanted);
     }
 }
 
 TEST(ExchangeTest, ARecipeIsFoundOnASavedPage) {
-    const QString page = QStringLiteral(
-        "<html><script "
+    const QString page =
+        u"<html><script "
         "type=\"application/ld+json\">{\"@graph\":[{\"@type\":\"WebPage\"},{\"@type\":[\"Recipe\"],"
         "\"name\":\"Vajíčka &amp; spol\",\"recipeYield\":\"2 porce\",\"totalTime\":\"PT1H5M\","
         "\"recipeIngredient\":[\"4 vejce\",\"20 g "
         "másla\"],\"recipeInstructions\":[{\"@type\":\"HowToSection\","
         "\"itemListElement\":[{\"@type\":\"HowToStep\",\"text\":\"<p>Rozehřejeme máslo.</p>\"}]},"
-        "{\"@type\":\"HowToStep\",\"text\":\"Vlijeme vejce.\"}]}]}</script></html>");
+        "{\"@type\":\"HowToStep\",\"text\":\"Vlijeme vejce.\"}]}]}</script></html>"_s;
     const auto recipe = fromJsonLd(page, kUnits);
     ASSERT_TRUE(recipe);
-    EXPECT_EQ(recipe->name, QStringLiteral("Vajíčka & spol"));
+    EXPECT_EQ(recipe->name, u"Vajíčka & spol"_s);
     EXPECT_EQ(recipe->portions, 2);
     EXPECT_EQ(recipe->minutes, 65);
-    EXPECT_EQ(lines(*recipe), (QStringList{QStringLiteral("vejce: 4 ks"), QStringLiteral("másla: 20 g")}));
-    EXPECT_EQ(recipe->steps,
-              (QStringList{QStringLiteral("Rozehřejeme máslo."), QStringLiteral("Vlijeme vejce.")}));
-    EXPECT_FALSE(fromJsonLd(QStringLiteral("<html>nic</html>"), kUnits));
+    EXPECT_EQ(lines(*recipe), (QStringList{u"vejce: 4 ks"_s, u"másla: 20 g"_s}));
+    EXPECT_EQ(recipe->steps, (QStringList{u"Rozehřejeme máslo."_s, u"Vlijeme vejce."_s}));
+    EXPECT_FALSE(fromJsonLd(u"<html>nic</html>"_s, kUnits));
 }
 
 TEST(ExchangeTest, CooklangOfOthersIsRead) {
-    const SharedRecipe recipe =
-        fromCooklang(QStringLiteral("---\ntitle: Lívance\nservings: 4\n---\n-- poznámka\nSmícháme "
-                                    "@mouku{250%g}(hladkou) a @mléko{1/2%l} v #velké míse{}.\n"
-                                    "\nSmažíme na @olej{} ~{5%minut}, osolíme @sůl.\n"),
-                     kUnits);
-    EXPECT_EQ(recipe.name, QStringLiteral("Lívance"));
+    const SharedRecipe recipe = fromCooklang(
+        u"---\ntitle: Lívance\nservings: 4\n---\n-- poznámka\nSmícháme "
+        "@mouku{250%g}(hladkou) a @mléko{1/2%l} v #velké míse{}.\n"
+        "\nSmažíme na @olej{} ~{5%minut}, osolíme @sůl.\n"_s,
+        kUnits);
+    EXPECT_EQ(recipe.name, u"Lívance"_s);
     EXPECT_EQ(recipe.portions, 4);
     EXPECT_EQ(lines(recipe),
-              (QStringList{QStringLiteral("mouku, hladkou: 250 g"), QStringLiteral("mléko: 500 ml"),
-                           QStringLiteral("olej: "), QStringLiteral("sůl: ")}));
-    EXPECT_EQ(recipe.steps, (QStringList{QStringLiteral("Smícháme mouku a mléko v velké míse."),
-                                         QStringLiteral("Smažíme na olej 5 minut, osolíme sůl.")}));
+              (QStringList{u"mouku, hladkou: 250 g"_s, u"mléko: 500 ml"_s, u"olej: "_s, u"sůl: "_s}));
+    EXPECT_EQ(recipe.steps, (QStringList{u"Smícháme mouku a mléko v velké míse."_s,
+                                         u"Smažíme na olej 5 minut, osolíme sůl."_s}));
 }
 
 TEST(ExchangeTest, APastedTextBecomesAFileWithMarks) {
     const SharedRecipe recipe = fromPastedText(
-        QStringLiteral(
-            "Bramboračka\n4 porce\n\nSuroviny:\n- 500 g brambor\n- 2 mrkve\n- majoránka\n\nPostup\n"
-            "1. Brambory nakrájíme\na uvaříme.\n2. Okoříme.\n"),
+        u"Bramboračka\n4 porce\n\nSuroviny:\n- 500 g brambor\n- 2 mrkve\n- majoránka\n\nPostup\n"
+        "1. Brambory nakrájíme\na uvaříme.\n2. Okoříme.\n"_s,
         kUnits);
     EXPECT_EQ(recipe.portions, 4);
-    EXPECT_EQ(lines(recipe), (QStringList{QStringLiteral("brambor: 500 g"), QStringLiteral("mrkve: 2 ks"),
-                                          QStringLiteral("majoránka: ")}));
-    EXPECT_EQ(recipe.steps,
-              (QStringList{QStringLiteral("Brambory nakrájíme a uvaříme."), QStringLiteral("Okoříme.")}));
+    EXPECT_EQ(lines(recipe), (QStringList{u"brambor: 500 g"_s, u"mrkve: 2 ks"_s, u"majoránka: "_s}));
+    EXPECT_EQ(recipe.steps, (QStringList{u"Brambory nakrájíme a uvaříme."_s, u"Okoříme."_s}));
     const QString file = recipeFile(recipe);
-    EXPECT_TRUE(file.contains(QStringLiteral("; ??? kolik?\nmajoránka: podle chuti\n")))
-        << file.toStdString();
-    EXPECT_TRUE(file.contains(QStringLiteral("; ??? minut: celkem od začátku ke stolu\n")));
-    const SharedRecipe bare = fromPastedText(QStringLiteral("Čaj\n1 lžíce čaje\nZalijeme vodou.\n"), kUnits);
+    EXPECT_TRUE(file.contains(u"; ??? kolik?\nmajoránka: podle chuti\n"_s)) << file.toStdString();
+    EXPECT_TRUE(file.contains(u"; ??? minut: celkem od začátku ke stolu\n"_s));
+    const SharedRecipe bare = fromPastedText(u"Čaj\n1 lžíce čaje\nZalijeme vodou.\n"_s, kUnits);
     EXPECT_EQ(bare.ingredients.size(), 1);
     EXPECT_EQ(bare.steps.size(), 1);
 }

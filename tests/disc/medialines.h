@@ -9,7 +9,7 @@ inline Lines linesOf(const char* text) {
     Lines lines;
     int number = 0;
     for (const QString& line : QString::fromUtf8(text).split(u'\n'))
-        lines << Line{{QStringLiteral("soubor.txt"), ++number}, line};
+        lines << Line{{u"soubor.txt"_s, ++number}, line};
     return lines;
 }
 

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "disc/markup.h"
 #include "disc/menu.h"
 #include "disc/readrecipes.h"
 #include "disc/readtables.h"
+#include "disc/recipefacts.h"
 #include "disc/typography.h"
 #include "smallcookbook.h"
 
@@ -39,7 +41,7 @@ class IngredientLineTest : public ReadingTest, public testing::WithParamInterfac
 TEST_P(IngredientLineTest, GivesBothUnitSystems) {
     const LineCase& wanted = GetParam();
     const Cookbook book = load();
-    const Line line{{QStringLiteral("f"), 1}, QString::fromUtf8(wanted.text)};
+    const Line line{{u"f"_s, 1}, QString::fromUtf8(wanted.text)};
     const IngredientLine read = readIngredientLine(line, book, problems_);
     ASSERT_FALSE(problems_.hasErrors()) << problems_.errors().join(u'\n').toStdString();
     EXPECT_EQ(book.ingredient(read.ingredient)->name, QString::fromUtf8(wanted.ingredient));
@@ -60,10 +62,9 @@ INSTANTIATE_TEST_SUITE_P(
                     LineCase{"sůl: podle chuti", "sůl", 0, "podle chuti", 0, "podle chuti", ""}));
 
 TEST_F(ReadingTest, CommentsAndBlankLinesKeepTheLineNumbers) {
-    ASSERT_TRUE(small_.replace(QStringLiteral("suroviny.txt"), QStringLiteral("máslo"),
-                               QStringLiteral("; poznámka\n\nmáslo")));
+    ASSERT_TRUE(small_.replace(u"suroviny.txt"_s, u"máslo"_s, u"; poznámka\n\nmáslo"_s));
     const Cookbook book = load();
-    EXPECT_EQ(book.ingredients[1].name, QStringLiteral("máslo"));
+    EXPECT_EQ(book.ingredients[1].name, u"máslo"_s);
     EXPECT_EQ(book.ingredients[1].place.line, 4);
     EXPECT_FALSE(problems_.hasErrors());
 }
@@ -81,14 +82,14 @@ TEST_F(ReadingTest, MenuListsFollowTheirTags) {
         recipe.id = id;
         book.recipes.insert(id, recipe);
     }
-    book.recipes[7].name = QStringLiteral("Čirá polévka");
-    book.recipes[10].name = QStringLiteral("Chlebíčky");
-    book.recipes[14].name = QStringLiteral("Candát");
-    book.recipes[7].tags = {QStringLiteral("kapr"), QStringLiteral("pečené")};
-    book.recipes[14].tags = {QStringLiteral("kapr")};
-    MenuTopic topic{{}, 6, QStringLiteral("Výběr"), {}};
+    book.recipes[7].name = u"Čirá polévka"_s;
+    book.recipes[10].name = u"Chlebíčky"_s;
+    book.recipes[14].name = u"Candát"_s;
+    book.recipes[7].tags = {u"kapr"_s, u"pečené"_s};
+    book.recipes[14].tags = {u"kapr"_s};
+    MenuTopic topic{{}, 6, u"Výběr"_s, {}};
     const auto item = [&](const char* target) {
-        topic.items << MenuNode{{}, QStringLiteral("Položka"), QString::fromUtf8(target), {}};
+        topic.items << MenuNode{{}, u"Položka"_s, QString::fromUtf8(target), {}};
     };
     item("kapr, pstruh");
     item("kapr + pečené");
@@ -96,34 +97,137 @@ TEST_F(ReadingTest, MenuListsFollowTheirTags) {
     const QList<MenuRow> rows = menuRows(book, problems_);
     ASSERT_EQ(rows.size(), 3);
     // Czech order: c, č, ch, p.
-    EXPECT_EQ(rows[1].target, QStringLiteral("14,7,10,6,"));
-    EXPECT_EQ(rows[2].target, QStringLiteral("7,"));
-    EXPECT_EQ(rows[2].code, QStringLiteral("62"));
+    EXPECT_EQ(rows[1].target, u"14,7,10,6,"_s);
+    EXPECT_EQ(rows[2].target, u"7,"_s);
+    EXPECT_EQ(rows[2].code, u"62"_s);
 }
 
 TEST_F(ReadingTest, SpoonTableComesFromTheWeights) {
-    QDir().mkpath(small_.path(QStringLiteral("tabulky")));
-    QFile table(small_.path(QStringLiteral("tabulky/5.txt")));
+    QDir().mkpath(small_.path(u"tabulky"_s));
+    QFile table(small_.path(u"tabulky/5.txt"_s));
     ASSERT_TRUE(table.open(QIODevice::WriteOnly));
     table.write("5 | Lžíce\nSurovina | Lžička | Lžíce | Hrnek\nVoda | 5 g | 15 g | 250 g\n");
     table.close();
     const Cookbook book = load();
     const LookupTable& spoons = book.tables.last();
     ASSERT_EQ(spoons.rows.size(), 3);
-    EXPECT_EQ(spoons.rows[1].join(u'|'), QStringLiteral("Máslo|5 g|15 g|–"));
-    EXPECT_EQ(spoons.rows[2].join(u'|'), QStringLiteral("Mouka|3,5 g|10 g|–"));
+    EXPECT_EQ(spoons.rows[1].join(u'|'), u"Máslo|5 g|15 g|–"_s);
+    EXPECT_EQ(spoons.rows[2].join(u'|'), u"Mouka|3,5 g|10 g|–"_s);
 }
 
 TEST(NumberTest, ReadsTheDecimalComma) {
-    EXPECT_DOUBLE_EQ(czechNumber(QStringLiteral("1 200,5")), 1200.5);
-    EXPECT_DOUBLE_EQ(czechNumber(QStringLiteral("půl")), -1);
+    EXPECT_DOUBLE_EQ(czechNumber(u"1 200,5"_s), 1200.5);
+    EXPECT_DOUBLE_EQ(czechNumber(u"půl"_s), -1);
 }
 
 TEST(TypographyTest, GoodCzechPasses) {
     Problems problems;
-    checkTypography(QStringLiteral("„Voda“ má 80–85 °C, 1,5 litru; 33 % tuku – tak, a dost… 1. 9. – 15. 4."),
-                    {}, problems);
+    checkTypography(u"„Voda“ má 80–85 °C, 1,5 litru; 33 % tuku – tak, a dost… 1. 9. – 15. 4."_s, {},
+                    problems);
     EXPECT_EQ(problems.errors().join(u'\n').toStdString(), "");
+}
+
+/// What is wrong with a menu of the rows "code|label|target", parted by blanks, where recipe 6 and quick
+/// recipe 1 exist.
+std::string complaints(const char* menu) {
+    Cookbook book;
+    book.recipes.insert(6, Recipe{});
+    book.quick << QuickRecipe{1, {}, u"Rychle"_s, 6};
+    QList<MenuRow> rows;
+    int line = 0;
+    for (const QString& row : QString::fromUtf8(menu).split(u' ')) {
+        const QStringList parts = row.split(u'|');
+        rows << MenuRow{{u"menu.txt"_s, ++line}, parts.value(0), parts.value(1), parts.value(2)};
+    }
+    Problems problems;
+    checkMenu(rows, book, problems);
+    return problems.errors().join(u'\n').toStdString();
+}
+
+TEST(MenuScheme, IsAccepted) {
+    EXPECT_EQ(
+        complaints("11|O|1 20|@Ryby 21|Kapr 210|@Kapr 211|Recepty|6, 212|Rychlé|1, 60|@Rychle 31|Omáčky "
+                   "311|Majonéza|H805 61|Teplá|6, 120|@Hledání 121|Napište|F 141|Svátky|D 1411|Vánoce "
+                   "14111|Recepty|6, 14112|Rychlé|1, 1412|Silvestr 14121|Recepty|6,"),
+        "");
+}
+
+TEST(MenuScheme, BreachesAreReported) {
+    const struct {
+        const char *menu, *message;
+    } breaches[] = {
+        {"12|Hledání|F", "nabídky 12: je to kód samotného tématu"},
+        {"001|Kapr|1", "nabídky 001: jeho téma nemá nabídku"},
+        {"61|A|6, 63|B|6,", "nabídky 63: v úrovni je mezera"},
+        {"60|A|6,", "nabídky 60: nulou končí nadpis"},
+        {"61|@A", "nabídky 61: nulou končí nadpis"},
+        {"61||6,", "nabídky 61: chybí text"},
+        {"60|@A", "úroveň nabídky 6 nemá položky"},
+        {"21|Kapr", "nabídky 21 (Kapr): podnabídka bez položek"},
+        {"21|K 211|R|6, 212|S", "úroveň nabídky 21: v poslední úrovni jsou recepty"},
+        {"21|K 211|R|6, 212|Q|1, 213|R|6,", "úroveň nabídky 21: v poslední úrovni jsou recepty"},
+        {"61|A|6", "seznam čísel nekončí čárkou"},
+        {"61|A|6,7,", "číslo 7 neexistuje"},
+        {"21|K 211|R|6, 212|Q|6,", "212 (Q): číslo 6 neexistuje"},
+        {"41|A|10 411|B|10", "411 (B): toto téma nemá podnabídky"},
+        {"1411111|A|6,", "1411111: úroveň je příliš hluboko"},
+        {"411111|A|6,", "411111: úroveň je příliš hluboko"},
+    };
+    for (const auto& [menu, message] : breaches)
+        EXPECT_NE(complaints(menu).find(message), std::string::npos) << menu << "\n" << complaints(menu);
+}
+
+class FactsTest : public testing::Test {
+  protected:
+    FactsTest() {
+        const ContentFolder folder(small_.path(), problems_);
+        book_ = loadCookbook(folder, problems_);
+    }
+
+    static std::string text(const Lines& lines) {
+        QStringList all;
+        for (const Line& line : lines)
+            if (!line.isBlank()) all << plainText(line.text).replace(QChar(QChar::Nbsp), u' ');
+        return all.join(u'\n').toStdString();
+    }
+
+    SmallCookbook small_;
+    Problems problems_;
+    Cookbook book_;
+};
+
+TEST_F(FactsTest, SayWhatTheHeadKnows) {
+    Recipe& recipe = book_.recipes[6];
+    EXPECT_EQ(text(factLine(recipe)), "Příprava 10 min · vaření 15 min · 2 porce · snadné");
+    recipe.ahead = u"12 hodin v chladu"_s;
+    recipe.portions = 6;
+    recipe.cooking = 0;
+    EXPECT_EQ(text(factLine(recipe)), "Příprava 10 min · předem: 12 hodin v chladu · 6 porcí · snadné");
+    recipe.preparation = 0;
+    EXPECT_EQ(text(factLine(recipe)), "");
+}
+
+TEST_F(FactsTest, TheMethodSaysForHowMany) {
+    Recipe recipe;
+    for (const auto& [count, heading] :
+         {std::pair(1, "Postup pro 1 porci"), std::pair(4, "Postup pro 4 porce"),
+          std::pair(5, "Postup pro 5 porcí"), std::pair(12, "Postup pro 12 porcí")}) {
+        recipe.portions = count;
+        EXPECT_EQ(methodHeading(recipe).toStdString(), heading);
+    }
+}
+
+TEST_F(FactsTest, APortionIsReckonedFromTheWeights) {
+    // pstruh 600 g, máslo 60 g, mouka 20 g, citron 100 g, víno 30 ml, for two
+    const std::optional<Nutrition> portion = nutrition(book_, book_.recipes[6], problems_);
+    ASSERT_TRUE(portion);
+    EXPECT_NEAR(portion->energy, (660 + 444 + 70 + 20 + 24) / 2.0, 0.01);
+    EXPECT_NEAR(portion->protein, (120 + 0.6 + 2 + 0.6) / 2.0, 0.01);
+    EXPECT_EQ(
+        text(factFoot(book_.recipes[6], portion)),
+        "Jedna porce: asi 610 kcal (2 550 kJ), 62 g bílkovin. Alergeny: 1 lepek, 4 ryby, 7 mléko, 12 oxid "
+        "siřičitý.\nSezona: celoročně. Kosti: ano. Mrazit: ne. Vydrží: 1 den v chladu.");
+    EXPECT_EQ(text(factFoot(Recipe{}, {})), "");
 }
 
 }  // namespace

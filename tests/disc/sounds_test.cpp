@@ -52,7 +52,7 @@ void expectSeamless(const Sound& loop) {
 
 QList<Effect> shippedEffects(Problems& problems) {
     const ContentFolder folder(QStringLiteral(SARNE_CONTENT), problems);
-    return readEffects(folder.read(QStringLiteral("zvuky/efekty.txt")), problems);
+    return readEffects(folder.read(u"zvuky/efekty.txt"_s), problems);
 }
 
 /// How loud the loudest eighth of a second is, in decibels.
@@ -109,19 +109,19 @@ TEST(Effects, FaultsNameTheirLine) {
 }
 
 TEST(Notes, CzechNamesGivePitchesAndChords) {
-    EXPECT_EQ(pitchOf(QStringLiteral("c4")), 60);
-    EXPECT_EQ(pitchOf(QStringLiteral("h4")), 71);
-    EXPECT_EQ(pitchOf(QStringLiteral("b4")), 70);
-    EXPECT_EQ(pitchOf(QStringLiteral("fis5")), 78);
-    EXPECT_EQ(pitchOf(QStringLiteral("es3")), 51);
-    EXPECT_EQ(pitchOf(QStringLiteral("des3")), 49);
+    EXPECT_EQ(pitchOf(u"c4"_s), 60);
+    EXPECT_EQ(pitchOf(u"h4"_s), 71);
+    EXPECT_EQ(pitchOf(u"b4"_s), 70);
+    EXPECT_EQ(pitchOf(u"fis5"_s), 78);
+    EXPECT_EQ(pitchOf(u"es3"_s), 51);
+    EXPECT_EQ(pitchOf(u"des3"_s), 49);
     for (const char* wrong : {"", "x4", "c", "c9", "c44", "fisis4"})
         EXPECT_EQ(pitchOf(QLatin1String(wrong)), -1) << wrong;
-    EXPECT_EQ(chordTones(QStringLiteral("F")), (QList<int>{5, 9, 0}));
-    EXPECT_EQ(chordTones(QStringLiteral("Fism")), (QList<int>{6, 9, 1}));
-    EXPECT_EQ(chordTones(QStringLiteral("B")), (QList<int>{10, 2, 5}));
-    EXPECT_EQ(chordTones(QStringLiteral("C7")), (QList<int>{0, 4, 7, 10}));
-    EXPECT_TRUE(chordTones(QStringLiteral("Cx")).isEmpty());
+    EXPECT_EQ(chordTones(u"F"_s), (QList<int>{5, 9, 0}));
+    EXPECT_EQ(chordTones(u"Fism"_s), (QList<int>{6, 9, 1}));
+    EXPECT_EQ(chordTones(u"B"_s), (QList<int>{10, 2, 5}));
+    EXPECT_EQ(chordTones(u"C7"_s), (QList<int>{0, 4, 7, 10}));
+    EXPECT_TRUE(chordTones(u"Cx"_s).isEmpty());
 }
 
 const std::string kHead = "tempo: 120\ntakt: 2\nprůběh: A A\nnástroj: kytara program=24 od=c3\n== A\n";
@@ -136,8 +136,7 @@ TEST(Scores, PartsBecomeNotes) {
     EXPECT_EQ(score.length, 8);
     QStringList notes;
     for (const Note& note : score.notes)
-        if (note.from < 4)
-            notes << QStringLiteral("%1@%2+%3").arg(note.pitch).arg(note.from).arg(note.length);
+        if (note.from < 4) notes << u"%1@%2+%3"_s.arg(note.pitch).arg(note.from).arg(note.length);
     // The melody with its held note, then the pattern over C, over G and over F in the second half of the
     // bar.
     EXPECT_EQ(notes.join(u' ').toStdString(),
@@ -154,7 +153,7 @@ TEST(Scores, PartsMayHaveAPaceOfTheirOwn) {
     EXPECT_EQ(problems.errors(), QStringList());
     QStringList paces;
     for (const Pace& pace : score.paces)
-        paces << QStringLiteral("%1:%2/%3").arg(pace.from).arg(pace.tempo).arg(pace.beats);
+        paces << u"%1:%2/%3"_s.arg(pace.from).arg(pace.tempo).arg(pace.beats);
     EXPECT_EQ(paces.join(u' ').toStdString(), "0:120/2 4:60/3 10:120/2");
     EXPECT_EQ(score.length, 12);
     EXPECT_NEAR(passFrames(score) / 32000.0, 3 + 6, 0.05);
@@ -166,8 +165,8 @@ TEST(Scores, ThoseThatShipAreFaultless) {
     Problems problems;
     const ContentFolder folder(QStringLiteral(SARNE_CONTENT), problems);
     const auto seconds = [](const Score& score) { return passFrames(score) / 32000.0; };
-    const Score music = readScore(folder.read(QStringLiteral("zvuky/hudba.txt")), problems);
-    const Score wine = readScore(folder.read(QStringLiteral("zvuky/vina.txt")), problems);
+    const Score music = readScore(folder.read(u"zvuky/hudba.txt"_s), problems);
+    const Score wine = readScore(folder.read(u"zvuky/vina.txt"_s), problems);
     EXPECT_EQ(problems.errors(), QStringList());
     EXPECT_GE(music.paces.size(), 3);
     for (const Event& event : wine.events) EXPECT_LT(event.seconds, seconds(wine));
@@ -208,15 +207,15 @@ TEST(Music, WhatRingsOverTheEndSoundsAtTheBeginning) {
     expectSeamless(loop);
 
     Score unknown = score;
-    unknown.events.first().effect = QStringLiteral("hrom");
+    unknown.events.first().effect = u"hrom"_s;
     renderMusic(unknown, effects, -6, folder.path(), {}, problems);
-    EXPECT_EQ(problems.errors(), QStringList(QStringLiteral("soubor.txt:4: efekt hrom neexistuje")));
+    EXPECT_EQ(problems.errors(), QStringList(u"soubor.txt:4: efekt hrom neexistuje"_s));
 }
 
 TEST(Sounds, FilesKeepTheSoundAndOthersAreNone) {
     const QTemporaryDir folder;
     Sound sound{8000, 2, {0, 0, 0.5F, -0.5F, 0.001F, 0, 0, 0}};
-    const QString file = folder.filePath(QStringLiteral("zvuk.wav"));
+    const QString file = folder.filePath(u"zvuk.wav"_s);
     ASSERT_TRUE(writeWav(file, sound));
     const Sound read = readWav(file);
     EXPECT_EQ(read.rate, 8000);
@@ -224,12 +223,12 @@ TEST(Sounds, FilesKeepTheSoundAndOthersAreNone) {
     EXPECT_NEAR(read.at(1, 1), -0.5, 0.001);
     trimSilence(sound, -40, 0);
     EXPECT_EQ(sound.samples, (std::vector<float>{0.5F, -0.5F}));
-    EXPECT_FALSE(writeWav(folder.filePath(QStringLiteral("neni/zvuk.wav")), sound));
+    EXPECT_FALSE(writeWav(folder.filePath(u"neni/zvuk.wav"_s), sound));
     QFile text(file);
     ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("RIFFxxxxWAVEfmt ") > 0);
     text.close();
     EXPECT_TRUE(readWav(file).samples.empty());
-    EXPECT_TRUE(readWav(folder.filePath(QStringLiteral("neni.wav"))).samples.empty());
+    EXPECT_TRUE(readWav(folder.filePath(u"neni.wav"_s)).samples.empty());
 }
 
 void expectLevelled(const Sound& sound) {
@@ -262,7 +261,7 @@ class SpeakingVoices : public testing::Test {
 };
 
 TEST_F(SpeakingVoices, SayTheSameAlikeAtOneLoudness) {
-    const QString text = QStringLiteral("Siven v papilotě");
+    const QString text = u"Siven v papilotě"_s;
     const Spoken name = voices_.speak(text, Speaker::names);
     EXPECT_EQ(name.fault, QString());
     expectLevelled(name.sound);
@@ -274,17 +273,16 @@ TEST_F(SpeakingVoices, SayTheSameAlikeAtOneLoudness) {
 
     Sound quiet = name.sound;
     for (float& sample : quiet.samples) sample *= 0.1F;
-    const QString file = folder_.filePath(QStringLiteral("nahravka.wav"));
+    const QString file = folder_.filePath(u"nahravka.wav"_s);
     ASSERT_TRUE(writeWav(file, quiet));
     expectLevelled(voices_.recording(file).sound);
 }
 
 TEST_F(SpeakingVoices, TellWhatTheyCannotSay) {
-    EXPECT_EQ(voices_.speak(QStringLiteral("Siven fpapilotě"), Speaker::names).fault.toStdString(),
+    EXPECT_EQ(voices_.speak(u"Siven fpapilotě"_s, Speaker::names).fault.toStdString(),
               "hlas neumí n-f v „Siven fpapilotě“; do zvuky/vyslovnost.txt napište, jak jinak to přečíst");
-    EXPECT_EQ(voices_.speak(QStringLiteral("寿司"), Speaker::names).fault.toStdString(),
-              "hlas přečte jen češtinu: 寿司.");
-    EXPECT_FALSE(voices_.recording(folder_.filePath(QStringLiteral("neni.wav"))).fault.isEmpty());
+    EXPECT_EQ(voices_.speak(u"寿司"_s, Speaker::names).fault.toStdString(), "hlas přečte jen češtinu: 寿司.");
+    EXPECT_FALSE(voices_.recording(folder_.filePath(u"neni.wav"_s)).fault.isEmpty());
 }
 
 /// The whole stage on the content that ships, with the names of two recipes.
@@ -293,16 +291,16 @@ TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
     Problems problems;
     Cookbook book;
     for (const int id : {1, 16}) book.recipes[id].id = id;
-    book.recipes[1].name = QStringLiteral("Kapr na kmíně");
-    book.recipes[16].name = QStringLiteral("Vánoční rybí polévka");
+    book.recipes[1].name = u"Kapr na kmíně"_s;
+    book.recipes[16].name = u"Vánoční rybí polévka"_s;
     const auto run = [&] {
-        Ledger ledger(folder.filePath(QStringLiteral("ledger")));
+        Ledger ledger(folder.filePath(u"ledger"_s));
         Workshop shop{book,
                       QStringLiteral(SARNE_CONTENT),
                       {},
                       {},
-                      folder.filePath(QStringLiteral("disc")),
-                      folder.filePath(QStringLiteral("scratch")),
+                      folder.filePath(u"disc"_s),
+                      folder.filePath(u"scratch"_s),
                       ledger,
                       problems,
                       DiscKind::Compact};
@@ -310,8 +308,8 @@ TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
     };
     run();
     ASSERT_EQ(problems.errors(), QStringList());
-    const QString music = folder.filePath(QStringLiteral("scratch/disk/HUDBA.WAV"));
-    const QString wine = folder.filePath(QStringLiteral("scratch/disk/zvuky/Vina.WAV"));
+    const QString music = folder.filePath(u"scratch/disk/HUDBA.WAV"_s);
+    const QString wine = folder.filePath(u"scratch/disk/zvuky/Vina.WAV"_s);
     for (const auto& [file, shortest, longest] : {std::tuple{music, 360, 480}, std::tuple{wine, 180, 240}}) {
         const Sound sound = readWav(file);
         EXPECT_GE(sound.seconds(), shortest);
@@ -320,9 +318,9 @@ TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
         EXPECT_LT(peakOf(sound), fromDecibels(-3));
         expectSeamless(sound);
     }
-    EXPECT_EQ(readWav(folder.filePath(QStringLiteral("scratch/zvuky/121.wav"))).channels, 1);
-    const Sound one = readWav(folder.filePath(QStringLiteral("scratch/disk/zvuky/č1.wav")));
-    const Sound other = readWav(folder.filePath(QStringLiteral("scratch/disk/zvuky/č16.wav")));
+    EXPECT_EQ(readWav(folder.filePath(u"scratch/zvuky/121.wav"_s)).channels, 1);
+    const Sound one = readWav(folder.filePath(u"scratch/disk/zvuky/č1.wav"_s));
+    const Sound other = readWav(folder.filePath(u"scratch/disk/zvuky/č16.wav"_s));
     EXPECT_GT(one.seconds(), 0.7);
     EXPECT_GT(other.seconds(), one.seconds());
 
@@ -332,11 +330,10 @@ TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
                                                      {"zvuky/č1.ogg", one.seconds()},
                                                      {"zvuky/č16.ogg", other.seconds()}};
     for (const auto& [name, seconds] : packed) {
-        const QString wave = folder.filePath(QStringLiteral("zpět.wav"));
+        const QString wave = folder.filePath(u"zpět.wav"_s);
         QFile::remove(wave);
-        QProcess::execute(QStringLiteral("ffmpeg"),
-                          {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"),
-                           folder.filePath(QStringLiteral("disc/") + QString::fromUtf8(name)), wave});
+        QProcess::execute(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-i"_s,
+                                        folder.filePath(u"disc/"_s + QString::fromUtf8(name)), wave});
         EXPECT_NEAR(readWav(wave).seconds(), seconds, 0.001) << name;
         EXPECT_GT(peakOf(readWav(wave)), 0.1) << name;
     }

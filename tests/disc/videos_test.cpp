@@ -124,7 +124,7 @@ TEST(Scripts, PartsOfAThingLieWhereTheWholeLay) {
                          3);
     ASSERT_EQ(slices.error(), "");
     const Actor& second = slices.film.actors.last();
-    EXPECT_EQ(second.name, QStringLiteral("tělo 2"));
+    EXPECT_EQ(second.name, u"tělo 2"_s);
     EXPECT_NEAR(second.left, 0, 0.01);
     EXPECT_NEAR(second.right, kUnit, 0.01);
     // The cut-off piece is pushed aside, the rest stays.
@@ -138,43 +138,40 @@ TEST(Scripts, ThoseThatShipAreFaultless) {
     Problems problems;
     const ContentFolder folder(QStringLiteral(SARNE_CONTENT), problems);
     const Cookbook book = loadCookbook(folder, problems);
-    const Cast cast =
-        readFilmCast(folder, QStringLiteral(SARNE_CONTENT) + QStringLiteral("/../art"), problems);
+    const Cast cast = readFilmCast(folder, QStringLiteral(SARNE_CONTENT) + u"/../art"_s, problems);
     EXPECT_EQ(book.videos.size(), 9);
-    QStringList scripts{QStringLiteral("videa/uvod.txt")};
-    for (const Video& video : book.videos) scripts << QStringLiteral("videa/%1.txt").arg(video.number);
+    QStringList scripts{u"videa/uvod.txt"_s};
+    for (const Video& video : book.videos) scripts << u"videa/%1.txt"_s.arg(video.number);
     Problems lengths;
     for (const QString& script : scripts) {
         const Script read = readScript(folder.read(script), {}, cast, problems);
         QList<double> speech;
         for (const Scene& scene : read.scenes) speech << static_cast<double>(scene.speech.size()) / 13;
         const Film film = directFilm(read, cast, speech, lengths);
-        EXPECT_GE(film.chapters.size(), script.contains(QStringLiteral("uvod")) ? 1 : 4)
-            << script.toStdString();
+        EXPECT_GE(film.chapters.size(), script.contains(u"uvod"_s) ? 1 : 4) << script.toStdString();
     }
     EXPECT_EQ(problems.errors(), QStringList());
-    EXPECT_EQ(lengths.errors().filter(QStringLiteral("scéně")), QStringList());
-    EXPECT_EQ(lengths.errors().filter(QStringLiteral("skočil")), QStringList());
+    EXPECT_EQ(lengths.errors().filter(u"scéně"_s), QStringList());
+    EXPECT_EQ(lengths.errors().filter(u"skočil"_s), QStringList());
 }
 
 /// What is redrawn only where something changed looks like what is drawn anew.
 TEST(Projection, FramesAreTheSameInWhateverOrderTheyAreDrawn) {
     Problems problems;
     QTemporaryDir art;
-    QDir(art.path()).mkpath(QStringLiteral("rendered/film"));
+    QDir(art.path()).mkpath(u"rendered/film"_s);
     QImage fish(400, 200, QImage::Format_ARGB32);
     fish.fill(QColor(200, 40, 40));
     for (const char* name : {"ryba.png", "nuz.png"})
-        ASSERT_TRUE(fish.save(art.filePath(QStringLiteral("rendered/film/") + QLatin1String(name))));
-    const std::string layers =
-        QString::fromUtf8(kLayers).replace(QStringLiteral("webp"), QStringLiteral("png")).toStdString();
+        ASSERT_TRUE(fish.save(art.filePath(u"rendered/film/"_s + QLatin1String(name))));
+    const std::string layers = QString::fromUtf8(kLayers).replace(u"webp"_s, u"png"_s).toStdString();
     const Cast cast = readCast(linesOf(kRoles), readLayers(linesOf(layers.c_str()), problems), problems);
     const Script script =
         readScript(linesOf("scéna: stůl\n== Kapitola\n-- Titulek.\nřeč: Věta.\nryba leží uprostřed\n"
                            "nůž přijde zprava k hlavě, 1 s\nnůž jede k ocasu, řeže, 2 s\nzároveň ryba je od "
                            "hlavy k ocasu čistá, 2 s\n"
                            "nůž odjede doprava, 1 s\n"),
-                   QStringLiteral("Název"), cast, problems);
+                   u"Název"_s, cast, problems);
     const Film film = directFilm(script, cast, {4.0}, problems);
     ASSERT_EQ(problems.errors(), QStringList());
     const auto ground = [](const QString&) { return QImage(); };
@@ -213,11 +210,11 @@ class MakeVideos : public testing::Test {
         write("art/rendered/film/veci.txt", "ryba ryba.png 400 200 200 100 380 100\n");
         QImage fish(400, 200, QImage::Format_RGB32);
         fish.fill(QColor(220, 160, 60));
-        ASSERT_TRUE(fish.save(folder_.filePath(QStringLiteral("art/rendered/film/ryba.png"))));
-        ASSERT_TRUE(fish.save(folder_.filePath(QStringLiteral("art/rendered/pozadi/stranka.jpg"))));
+        ASSERT_TRUE(fish.save(folder_.filePath(u"art/rendered/film/ryba.png"_s)));
+        ASSERT_TRUE(fish.save(folder_.filePath(u"art/rendered/pozadi/stranka.jpg"_s)));
         for (const QString& source : Voices::sources({}))
-            ASSERT_TRUE(QFile::copy(QStringLiteral(SARNE_CONTENT) + source,
-                                    folder_.filePath(QStringLiteral("content")) + source));
+            ASSERT_TRUE(
+                QFile::copy(QStringLiteral(SARNE_CONTENT) + source, folder_.filePath(u"content"_s) + source));
     }
 
     void write(const char* file, const std::string& text) {
@@ -227,13 +224,13 @@ class MakeVideos : public testing::Test {
 
     QStringList run(DiscKind kind = DiscKind::Full) {
         Problems problems(Edition::release);
-        Ledger ledger(folder_.filePath(QStringLiteral("ledger")));
+        Ledger ledger(folder_.filePath(u"ledger"_s));
         Workshop shop{book_,
-                      folder_.filePath(QStringLiteral("content")),
-                      folder_.filePath(QStringLiteral("art")),
+                      folder_.filePath(u"content"_s),
+                      folder_.filePath(u"art"_s),
                       {},
-                      folder_.filePath(QStringLiteral("disc")),
-                      folder_.filePath(QStringLiteral("scratch")),
+                      folder_.filePath(u"disc"_s),
+                      folder_.filePath(u"scratch"_s),
                       ledger,
                       problems,
                       kind};
@@ -241,14 +238,15 @@ class MakeVideos : public testing::Test {
         return problems.errors();
     }
 
-    static QString output(const QString& program, const QStringList& arguments) {
+    /// What \a program says of \a files with the \a options.
+    static QString output(const QString& program, const char* options, const QStringList& files) {
         QProcess process;
-        process.start(program, arguments);
+        process.start(program, QString::fromLatin1(options).split(u' ') + files);
         process.waitForFinished();
         return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
     }
 
-    QString film() const { return folder_.filePath(QStringLiteral("disc/VIDEO/UVOD.AVI")); }
+    QString film() const { return folder_.filePath(u"disc/VIDEO/UVOD.AVI"_s); }
 
     QTemporaryDir folder_;
     Cookbook book_;
@@ -256,19 +254,14 @@ class MakeVideos : public testing::Test {
 
 TEST_F(MakeVideos, HavePictureSoundAndChaptersAndAreMadeOnce) {
     ASSERT_EQ(run(), QStringList());
-    const QString streams =
-        output(QStringLiteral("ffprobe"),
-               {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-show_entries"),
-                QStringLiteral("stream=codec_name,width,height,channels"), QStringLiteral("-of"),
-                QStringLiteral("csv=p=0"), film()});
+    const QString streams = output(
+        u"ffprobe"_s, "-v error -show_entries stream=codec_name,width,height,channels -of csv=p=0", {film()});
     EXPECT_EQ(streams.section(u'\n', 0, 0).toStdString(), "mpeg4,800,600");
-    EXPECT_TRUE(streams.section(u'\n', 1).startsWith(QStringLiteral("mp3,1"))) << streams.toStdString();
+    EXPECT_TRUE(streams.section(u'\n', 1).startsWith(u"mp3,1"_s)) << streams.toStdString();
 
-    const QString wave = folder_.filePath(QStringLiteral("zvuk.wav"));
-    const QString picture = folder_.filePath(QStringLiteral("obraz.png"));
-    output(QStringLiteral("ffmpeg"),
-           {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-ss"), QStringLiteral("2"),
-            QStringLiteral("-i"), film(), QStringLiteral("-frames:v"), QStringLiteral("1"), picture, wave});
+    const QString wave = folder_.filePath(u"zvuk.wav"_s);
+    const QString picture = folder_.filePath(u"obraz.png"_s);
+    output(u"ffmpeg"_s, "-v error -ss 2 -i", {film(), u"-frames:v"_s, u"1"_s, picture, wave});
     const Sound sound = readWav(wave);
     EXPECT_GT(peakOf(sound), 0.2);
     EXPECT_LT(peakOf(sound), fromDecibels(-2.5));
@@ -278,7 +271,7 @@ TEST_F(MakeVideos, HavePictureSoundAndChaptersAndAreMadeOnce) {
     EXPECT_GT(qRed(frame.pixel(400, 230)), qBlue(frame.pixel(400, 230)) + 60);
     EXPECT_GT(qBlue(frame.pixel(60, 540)), 170);
 
-    QFile chapters(folder_.filePath(QStringLiteral("disc/VIDEO/UVOD.KAP")));
+    QFile chapters(folder_.filePath(u"disc/VIDEO/UVOD.KAP"_s));
     ASSERT_TRUE(chapters.open(QIODevice::ReadOnly));
     EXPECT_EQ(QString::fromUtf8(chapters.readAll()).toStdString(),
               "0.00\tPrvní kapitola\n4.70\tDruhá kapitola\n");
@@ -290,26 +283,22 @@ TEST_F(MakeVideos, HavePictureSoundAndChaptersAndAreMadeOnce) {
 
 TEST_F(MakeVideos, OfTheCompactDiscAreThere) {
     ASSERT_EQ(run(DiscKind::Compact), QStringList());
-    const QString streams =
-        output(QStringLiteral("ffprobe"),
-               {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-count_frames"),
-                QStringLiteral("-show_entries"), QStringLiteral("stream=codec_name,nb_read_frames"),
-                QStringLiteral("-of"), QStringLiteral("csv=p=0"),
-                folder_.filePath(QStringLiteral("disc/VIDEO/UVOD.mkv"))});
-    EXPECT_TRUE(streams.startsWith(QStringLiteral("h264,219\nopus,"))) << streams.toStdString();
-    EXPECT_TRUE(QFileInfo::exists(folder_.filePath(QStringLiteral("disc/VIDEO/UVOD.KAP"))));
+    const QString streams = output(
+        u"ffprobe"_s, "-v error -count_frames -show_entries stream=codec_name,nb_read_frames -of csv=p=0",
+        {folder_.filePath(u"disc/VIDEO/UVOD.mkv"_s)});
+    EXPECT_TRUE(streams.startsWith(u"h264,219\nopus,"_s)) << streams.toStdString();
+    EXPECT_TRUE(QFileInfo::exists(folder_.filePath(u"disc/VIDEO/UVOD.KAP"_s)));
     EXPECT_FALSE(QFileInfo::exists(film()));
 }
 
 TEST_F(MakeVideos, WhatIsWrongWithAScriptIsReportedAndMakesNothing) {
     const std::string script = kFilm;
     write("content/videa/uvod.txt", script + "ryba jde nahoru o 1 cm, zní hrom\n");
-    EXPECT_EQ(run(), QStringList(QStringLiteral("videa/uvod.txt:11: zvuk „hrom“ neexistuje")));
+    EXPECT_EQ(run(), QStringList(u"videa/uvod.txt:11: zvuk „hrom“ neexistuje"_s));
     write("content/videa/uvod.txt", script + "ryba jde nahoru o 1 cm, 6 s\n");
-    EXPECT_TRUE(run().join(u' ').contains(QStringLiteral("videa/uvod.txt:1: film trvá 14")));
+    EXPECT_TRUE(run().join(u' ').contains(u"videa/uvod.txt:1: film trvá 14"_s));
     write("content/videa/uvod.txt", script + "-- Titulek s přřeklepem.\nřeč: Věta.\n");
-    EXPECT_EQ(run(),
-              QStringList(QStringLiteral("videa/uvod.txt:11: slovo, které slovník nezná: přřeklepem")));
+    EXPECT_EQ(run(), QStringList(u"videa/uvod.txt:11: slovo, které slovník nezná: přřeklepem"_s));
     EXPECT_FALSE(QFileInfo::exists(film()));
 }
 

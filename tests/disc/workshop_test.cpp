@@ -1,15 +1,20 @@
-#include "disc/workshop.h"
-
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QResource>
 #include <QTemporaryDir>
 
 #include "core/gridtable.h"
+#include "core/sealedfile.h"
+#include "db/database.h"
 #include "disc/photos.h"
+#include "disc/resources.h"
+#include "disc/screenpictures.h"
+#include "disc/sounds/makesounds.h"
+#include "disc/workshop.h"
 
 namespace sarne::disc {
 namespace {
@@ -29,7 +34,7 @@ class WorkshopTest : public testing::Test {
         Workshop shop{book_, {}, {}, {}, {}, {}, ledger, problems_};
         int made = 0;
         const QString output = path("sub/made");
-        shop.make(output, originOf({path("source")}, QStringLiteral("1")), [&] {
+        shop.make(output, originOf({path("source")}, u"1"_s), [&] {
             ++made;
             return write(output, "made");
         });
@@ -67,10 +72,9 @@ TEST_F(WorkshopTest, WhatFailedIsTriedAgain) {
     Workshop shop{book_, {}, {}, {}, {}, {}, ledger, problems_};
     ASSERT_TRUE(write(path("made"), "left over"));
     int tries = 0;
-    for (int i = 0; i < 2; ++i)
-        EXPECT_FALSE(shop.make(path("made"), QStringLiteral("1"), [&] { return ++tries < 0; }));
+    for (int i = 0; i < 2; ++i) EXPECT_FALSE(shop.make(path("made"), u"1"_s, [&] { return ++tries < 0; }));
     EXPECT_EQ(tries, 2);
-    EXPECT_EQ(problems_.errors(), QStringList{path("made") + QStringLiteral(":0: nelze vyrobit")});
+    EXPECT_EQ(problems_.errors(), QStringList{path("made") + u":0: nelze vyrobit"_s});
 }
 
 /// Three recipes: one the art has a photo of, one whose photo there shows another dish, one with its own.
@@ -80,8 +84,8 @@ class PhotosTest : public WorkshopTest {
         for (const int id : {6, 7, 8}) {
             Recipe& recipe = book_.recipes[id];
             recipe.id = id;
-            recipe.name = QStringLiteral("Jídlo %1").arg(id);
-            recipe.place = {QStringLiteral("recepty/%1.txt").arg(id), 1};
+            recipe.name = u"Jídlo %1"_s.arg(id);
+            recipe.place = {u"recepty/%1.txt"_s.arg(id), 1};
         }
         QDir().mkpath(path("art/dishes"));
         write(path("art/dishes/06.dish"), "name Jídlo 6\n");
@@ -114,14 +118,13 @@ class PhotosTest : public WorkshopTest {
 
 TEST_F(PhotosTest, ThingsOfTheFilmsStandBesideKeywordsAsTheyAre) {
     draw("art/rendered/film/kapr.webp", Qt::red);
-    book_.keywordPictures << KeywordPicture{{}, {}, QStringLiteral("kapr"), {}, 0};
+    book_.keywordPictures << KeywordPicture{{}, {}, u"kapr"_s, {}, 0};
     makePhotos(shop_);
     EXPECT_EQ(QImage(path("disc/foto/hesla/kapr.webp")).size(), QSize(1600, 1200));
-    book_.keywordPictures << KeywordPicture{
-        {QStringLiteral("obrazky.txt"), 3}, {}, QStringLiteral("kaprik"), {}, 0};
+    book_.keywordPictures << KeywordPicture{{u"obrazky.txt"_s, 3}, {}, u"kaprik"_s, {}, 0};
     makePhotos(shop_);
     EXPECT_TRUE(problems_.errors().contains(
-        QStringLiteral("obrazky.txt:3: obraz „kaprik“ v art/rendered/film není – mysleli jste „kapr“?")));
+        u"obrazky.txt:3: obraz „kaprik“ v art/rendered/film není – mysleli jste „kapr“?"_s));
 }
 
 TEST_F(PhotosTest, AreOfTheRecipesOwnDish) {
@@ -131,7 +134,7 @@ TEST_F(PhotosTest, AreOfTheRecipesOwnDish) {
     makePhotos(shipped);
     ASSERT_EQ(release.errors().size(), 1);
     EXPECT_TRUE(release.errors().first().startsWith(
-        QStringLiteral("recepty/7.txt:1: fotografie 07.jpg ukazuje „Jídlo 5“, ne „Jídlo 7“")));
+        u"recepty/7.txt:1: fotografie 07.jpg ukazuje „Jídlo 5“, ne „Jídlo 7“"_s));
 
     makePhotos(shop_);
     ASSERT_EQ(problems_.errors().join(u'\n').toStdString(), "");
@@ -161,8 +164,91 @@ TEST_F(PhotosTest, OfTheCompactDiscAreAsFineAsTheirSource) {
     EXPECT_EQ(QImage(path("disc/foto/Male/r6.jpg")).size(), QSize(640, 480));
     EXPECT_GT(colour("disc/foto/sitCela.jpg", 6).red(), 230);
     EXPECT_LT(colour("disc/foto/sit0.jpg", 6).red(), 120);
-    const QStringList bitmaps = QDir(path("disc/foto/Male")).entryList({QStringLiteral("*.bmp")});
+    const QStringList bitmaps = QDir(path("disc/foto/Male")).entryList({u"*.bmp"_s});
     EXPECT_TRUE(bitmaps.isEmpty());
+}
+
+/// Builds into a folder of its own from art that the test draws.
+class PackingTest : public testing::Test {
+  protected:
+    QString path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
+
+    void draw(const char* file, const QColor& colour) {
+        QDir().mkpath(QFileInfo(path(file)).path());
+        QImage picture(160, 120, QImage::Format_RGB32);
+        picture.fill(colour);
+        ASSERT_TRUE(picture.save(path(file)));
+    }
+
+    void write(const char* file, const char* text) {
+        QDir().mkpath(QFileInfo(path(file)).path());
+        QFile out(path(file));
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly) && out.write(text) >= 0);
+    }
+
+    std::string errors() const { return problems_.errors().join(u'\n').toStdString(); }
+
+    QTemporaryDir folder_;
+    Cookbook book_;
+    Problems problems_;
+    Ledger ledger_{folder_.filePath(u"ledger"_s)};
+    Workshop shop_{book_,        QStringLiteral(SARNE_CONTENT),
+                   path("art"),  path("program"),
+                   path("disc"), path("scratch"),
+                   ledger_,      problems_};
+};
+
+TEST_F(PackingTest, ResourcesAreFoundUnderTheirNames) {
+    draw("art/rendered/prvky/RamVen.png", Qt::red);
+    draw("art/rendered/hlavni/pohyby/05-01.png", Qt::green);
+    write("art/layout/hlavni.txt", "0 1 2 3 4\n");
+    makeEffects(shop_);
+    makeResources(shop_, QStringLiteral(SARNE_RCC));
+    ASSERT_FALSE(problems_.hasErrors()) << problems_.errors().join(u'\n').toStdString();
+
+    const QString file = path("program/Sarne.rcc");
+    ASSERT_TRUE(QResource::registerResource(file, u"/packed"_s));
+    EXPECT_EQ(QImage(u":/packed/obr/RamVen.png"_s).pixelColor(9, 9), QColor(Qt::red));
+    EXPECT_EQ(QImage(u":/packed/pohyby/05-01.png"_s).pixelColor(9, 9), QColor(Qt::green));
+    EXPECT_TRUE(QFile::exists(u":/packed/layout/hlavni.txt"_s));
+    for (const int effect : {1, 101, 121}) {
+        QFile sound(u":/packed/zvuky/%1.wav"_s.arg(effect));
+        ASSERT_TRUE(sound.open(QIODevice::ReadOnly)) << effect;
+        EXPECT_EQ(sound.read(4), "RIFF");
+    }
+    QResource::unregisterResource(file, u"/packed"_s);
+    EXPECT_TRUE(isSealed(file)) << "the program takes no other";
+}
+
+TEST_F(PackingTest, APackerThatFailsIsAnError) {
+    makeResources(shop_, path("no-such-rcc"));
+    EXPECT_NE(errors().find("Sarne.rcc:0: nelze vyrobit"), std::string::npos) << errors();
+}
+
+TEST_F(PackingTest, AMissingPictureIsAnErrorThatNamesItsFile) {
+    makeScreenPictures(shop_);
+    EXPECT_NE(errors().find("rendered/pozadi/konec.jpg:0: obrázek chybí"), std::string::npos) << errors();
+}
+
+TEST_F(PackingTest, ScreenPicturesKeepTheirOrder) {
+    draw("art/rendered/hlavni/pozadi.jpg", Qt::red);
+    for (const char* screen : {"konec", "video", "seznam", "recept"})
+        draw(("art/rendered/pozadi/" + std::string(screen) + ".jpg").c_str(), Qt::green);
+    draw("art/rendered/pozadi/Sit.jpg", Qt::blue);
+    draw("art/rendered/pozadi/Sit-siroke.jpg", Qt::blue);
+    makeScreenPictures(shop_);
+    EXPECT_EQ(errors(), "");
+    EXPECT_EQ(QImage(path("program/siroke/Sit.jpg")).width(), 160);
+    Database pictures;
+    ASSERT_TRUE(pictures.Open(path("program/KOp.bj")));
+    Recordset records = pictures.OpenQuery(u"SELECT obr FROM TabObr"_s);
+    ASSERT_EQ(records.RecordCount(), 6);
+    const auto current = [&] { return QImage::fromData(records.field(u"obr"_s).toByteArray()); };
+    EXPECT_GT(current().pixelColor(9, 9).red(), 250);
+    records.MoveNext();
+    EXPECT_FALSE(current().isNull());
+    records.MoveLast();
+    EXPECT_GT(current().pixelColor(9, 9).blue(), 250);
 }
 
 }  // namespace

@@ -189,6 +189,14 @@ TEST_F(NoteEditing, TypesUndoesAndRedoes) {
     EXPECT_TRUE(screen->keys.isEmpty());
 }
 
+TEST_F(NoteEditing, GrowsWithTheScreen) {
+    const int before = note.editor().font().pixelSize();
+    run.window.resize(1600, 1200);
+    QApplication::processEvents();
+    EXPECT_EQ(note.editor().geometry(), note.rect());
+    EXPECT_NEAR(note.editor().font().pixelSize(), 2 * before, 1);
+}
+
 TEST_F(NoteEditing, TakesCzechLettersThatAreComposed) {
     QInputMethodEvent composing(QStringLiteral("ˇ"), {});
     QApplication::sendEvent(QApplication::focusWidget(), &composing);

@@ -11,16 +11,12 @@
 namespace sarne {
 namespace {
 
-QString u(const char* text) {
-    return QString::fromUtf8(text);
-}
-
 /// Keywords 1 and 2 lead to each other, 3 to a keyword that is not there, and on.
 QStringList keywords() {
-    const QString filler = u("slovo ").repeated(700);
-    return {Cookbook::keyword(1, u("Kapr"), u("Kapr se *2 vaří* s kmínem.")),
-            Cookbook::keyword(2, u("Vaření"), filler + u("Vaří se *1 kapr* i jiné ryby.")),
-            Cookbook::keyword(3, u("Lín"), u("Ten *999 nikam* nevede, #5 pípne# a @7 video@ hraje."))};
+    const QString filler = u"slovo "_s.repeated(700);
+    return {Cookbook::keyword(1, u"Kapr"_s, u"Kapr se *2 vaří* s kmínem."_s),
+            Cookbook::keyword(2, u"Vaření"_s, filler + u"Vaří se *1 kapr* i jiné ryby."_s),
+            Cookbook::keyword(3, u"Lín"_s, u"Ten *999 nikam* nevede, #5 pípne# a @7 video@ hraje."_s)};
 }
 
 class KeywordTest : public testing::Test {
@@ -38,7 +34,9 @@ class KeywordTest : public testing::Test {
         const QRect place = view().pieces().linkRect(link).translated(0, -view().scrolled());
         QTest::mouseClick(&view(), Qt::LeftButton, {}, view().toPixels(place.center()));
     }
-    bool shows(const char* words) { return view().drawnText().simplified().startsWith(u(words)); }
+    bool shows(const char* words) {
+        return view().drawnText().simplified().startsWith(QString::fromUtf8(words));
+    }
 };
 
 TEST_F(KeywordTest, KeywordsThatLeadToEachOtherAreRetraced) {
@@ -82,27 +80,27 @@ TEST_F(KeywordTest, TabGoesThroughThePhrasesAndTheBarInACircle) {
         const auto link = view().pieces().focused();
         stops << (link ? QString::number(*link) : run.window.focusWidget()->objectName().right(2).left(1));
     }
-    EXPECT_EQ(stops.join(u' '), u("0 1 2 0 1 2 3 4 0")) << "phrases, the five buttons, the phrases again";
+    EXPECT_EQ(stops.join(u' '), u"0 1 2 0 1 2 3 4 0"_s) << "phrases, the five buttons, the phrases again";
     QTest::keyClick(run.window.focusWidget(), Qt::Key_Backtab);
     EXPECT_EQ(run.window.focusWidget(), child(*form, "imgBtnHlavni(4)"));
 }
 
 TEST_F(KeywordTest, BesideTheTextStandWhatIsKnownOfRecipesAndFilm) {
-    run.database.Execute(u("INSERT INTO UkazkyHesel VALUES (1, '', '', 6, '7,12,')"));
-    run.database.Execute(u("INSERT INTO UkazkyHesel VALUES (2, '', '', 0, '7,')"));
+    run.database.Execute(u"INSERT INTO UkazkyHesel VALUES (1, '', '', 6, '7,12,')"_s);
+    run.database.Execute(u"INSERT INTO UkazkyHesel VALUES (2, '', '', 0, '7,')"_s);
     show(3);
     const int whole = view().twips().width();
     form->goBack();
     show(1);
     EXPECT_LT(view().twips().right() + TextView::kArrowRoom,
               child<Button>(*form, "cmdRecepty")->twips().left());
-    EXPECT_EQ(child<Button>(*form, "cmdRecepty")->caption(), u("Recepty: 2"));
+    EXPECT_EQ(child<Button>(*form, "cmdRecepty")->caption(), u"Recepty: 2"_s);
     child<Button>(*form, "cmdRecepty")->click();
     child<Button>(*form, "cmdFilm")->click();
-    EXPECT_EQ(run.recorded.calls, (QStringList{u("showList 7,12, recepty"), u("showVideo 6")}));
+    EXPECT_EQ(run.recorded.calls, (QStringList{u"showList 7,12, recepty"_s, u"showVideo 6"_s}));
 
     clickLink(0);
-    EXPECT_EQ(child<Button>(*form, "cmdRecepty")->caption(), u("Recepty: 1")) << "the next keyword's own";
+    EXPECT_EQ(child<Button>(*form, "cmdRecepty")->caption(), u"Recepty: 1"_s) << "the next keyword's own";
     EXPECT_FALSE(child<Button>(*form, "cmdFilm")->isVisible());
     EXPECT_LT(view().twips().width(), whole);
     form->goBack();
@@ -110,19 +108,19 @@ TEST_F(KeywordTest, BesideTheTextStandWhatIsKnownOfRecipesAndFilm) {
 }
 
 TEST_F(KeywordTest, APictureOfTheDiscStandsAboveItsCaption) {
-    run.database.Execute(u("INSERT INTO UkazkyHesel VALUES (1, 'foto\\hesla\\kapr.png', 'Kapr', 0, '')"));
-    QDir(book.folder.path()).mkpath(u("foto/hesla"));
-    QImage(8, 6, QImage::Format_RGB32).save(book.folder.filePath(u("foto/hesla/kapr.png")));
+    run.database.Execute(u"INSERT INTO UkazkyHesel VALUES (1, 'foto\\hesla\\kapr.png', 'Kapr', 0, '')"_s);
+    QDir(book.folder.path()).mkpath(u"foto/hesla"_s);
+    QImage(8, 6, QImage::Format_RGB32).save(book.folder.filePath(u"foto/hesla/kapr.png"_s));
     run.MediaRoot = book.folder.path() + u'/';
     show(1);
     const auto* picture = child<PictureBox>(*form, "picHeslo");
     const auto* caption = child<Label>(*form, "lblHeslo");
     EXPECT_TRUE(picture->isVisible());
-    EXPECT_EQ(caption->text(), u("Kapr"));
+    EXPECT_EQ(caption->text(), u"Kapr"_s);
     EXPECT_GT(caption->twips().top(), picture->twips().bottom());
     EXPECT_FALSE(child<Button>(*form, "cmdRecepty")->isVisible()) << "no recipe uses the word";
     form->goBack();
-    QFile::remove(book.folder.filePath(u("foto/hesla/kapr.png")));
+    QFile::remove(book.folder.filePath(u"foto/hesla/kapr.png"_s));
     show(1);
     EXPECT_FALSE(child<PictureBox>(*form, "picHeslo")->isVisible());
     EXPECT_FALSE(child<Label>(*form, "lblHeslo")->isVisible()) << "no caption of nothing";
@@ -130,36 +128,34 @@ TEST_F(KeywordTest, APictureOfTheDiscStandsAboveItsCaption) {
 
 class PageTest : public testing::Test {
   protected:
-    Cookbook book{{Cookbook::page(10, u("Jak na to"), u("slovo ").repeated(2000), {}),
-                   Cookbook::page(300, u("Recept"), u("\\b Recept\\b0\\par Text."), u("frmRecept")),
-                   Cookbook::page(30, u("Stránky"), u("Text."), u("frmStranka")),
-                   u("INSERT INTO Nastav VALUES (1, 'Zvuky', 1)"),
-                   u("INSERT INTO Nastav VALUES (2, 'Hudba', 1)"),
-                   u("INSERT INTO Nastav VALUES (3, 'Hlas', 1)")}};
+    Cookbook book{{Cookbook::page(10, u"Jak na to"_s, u"slovo "_s.repeated(2000), {}),
+                   Cookbook::page(300, u"Recept"_s, u"\\b Recept\\b0\\par Text."_s, u"frmRecept"_s),
+                   Cookbook::page(30, u"Stránky"_s, u"Text."_s, u"frmStranka"_s),
+                   u"INSERT INTO Nastav VALUES (1, 'Zvuky', 1)"_s,
+                   u"INSERT INTO Nastav VALUES (2, 'Hudba', 1)"_s,
+                   u"INSERT INTO Nastav VALUES (3, 'Hlas', 1)"_s}};
     FakeSarne& run = book.run;
     frmStranka* form = nullptr;
 
     void show(const char* id) {
         form = new frmStranka(run);
-        ASSERT_TRUE(form->Zobraz(u(id)));
+        ASSERT_TRUE(form->Zobraz(QString::fromUtf8(id)));
     }
-    Button& bar(int button) {
-        return *form->findChild<Button*>(QStringLiteral("imgBtnHlavni(%1)").arg(button));
-    }
+    Button& bar(int button) { return *form->findChild<Button*>(u"imgBtnHlavni(%1)"_s.arg(button)); }
     void click(int button) { QTest::mouseClick(&bar(button), Qt::LeftButton); }
     int stored(int id) {
-        Recordset rows = run.database.OpenTable(u("Nastav"));
-        rows.Seek(u("="), id);
-        return rows.field(u("hodnota")).toInt();
+        Recordset rows = run.database.OpenTable(u"Nastav"_s);
+        rows.Seek(u"="_s, id);
+        return rows.field(u"hodnota"_s).toInt();
     }
 };
 
 TEST_F(PageTest, TheTitleIsNotSaidTwice) {
     show("10");
-    EXPECT_EQ(child<Label>(*form, "lblTitul")->text(), u("Jak na to"));
+    EXPECT_EQ(child<Label>(*form, "lblTitul")->text(), u"Jak na to"_s);
     show("300");
-    EXPECT_EQ(child<Label>(*form, "lblTitul")->text(), u("Nápověda"));
-    EXPECT_FALSE((new frmStranka(run))->Zobraz(u("11")));
+    EXPECT_EQ(child<Label>(*form, "lblTitul")->text(), u"Nápověda"_s);
+    EXPECT_FALSE((new frmStranka(run))->Zobraz(u"11"_s));
     EXPECT_EQ(book.top(), form) << "a page that is not there changes nothing";
 }
 
@@ -167,8 +163,8 @@ TEST_F(PageTest, TheBarDoesWhatItSays) {
     show("300");
     click(0);
     click(1);
-    EXPECT_EQ(run.recorded.calls, (QStringList{u("printText Recept"), u("showList  Help")}));
-    EXPECT_TRUE(run.recorded.printedText.contains(u("Text.")));
+    EXPECT_EQ(run.recorded.calls, (QStringList{u"printText Recept"_s, u"showList  Help"_s}));
+    EXPECT_TRUE(run.recorded.printedText.contains(u"Text."_s));
     click(3);
     EXPECT_EQ(run.exits, 1);
     click(2);
@@ -179,37 +175,37 @@ TEST_F(PageTest, TheBarDoesWhatItSays) {
 TEST_F(PageTest, TheSoundButtonSwitchesTheMusicAndTheStoredSwitch) {
     run.SoundFlags = {true, true, true, false, false};
     run.MediaRoot = LogicalPaths::fromNativeFolder(book.folder.path());
-    const QString track = book.folder.filePath(u("HUDBA.WAV"));
+    const QString track = book.folder.filePath(u"HUDBA.WAV"_s);
     ASSERT_TRUE(QFile(track).open(QIODevice::WriteOnly));
     run.player.setFileName(track);
     run.player.command(u"open");
     run.player.command(u"play");
     show("10");
-    EXPECT_EQ(bar(4).toolTip(), u("Vypnout hudbu"));
+    EXPECT_EQ(bar(4).toolTip(), u"Vypnout hudbu"_s);
     click(4);
     EXPECT_FALSE(run.player.playing());
     EXPECT_EQ(run.SoundFlags, (std::array<bool, 5>{true, false, true, false, false}));
     EXPECT_EQ(stored(2), 0);
     EXPECT_EQ(stored(1) + stored(3), 2);
-    EXPECT_EQ(bar(4).toolTip(), u("Zapnout hudbu"));
+    EXPECT_EQ(bar(4).toolTip(), u"Zapnout hudbu"_s);
     EXPECT_EQ(bar(4).frame(), Button::Frame::Pressed);
     click(4);
     EXPECT_TRUE(run.player.playing());
     EXPECT_EQ(stored(2), 1);
-    EXPECT_FALSE(run.player.commands.contains(u("close"))) << "it goes on where it was";
+    EXPECT_FALSE(run.player.commands.contains(u"close"_s)) << "it goes on where it was";
 }
 
 TEST_F(PageTest, MusicThatWasNeverOpenIsOpenedOrTellsWhyNot) {
     run.SoundFlags = {true, false, true, false, true};
     run.MediaRoot = LogicalPaths::fromNativeFolder(book.folder.path());
-    QDir(book.folder.path()).mkdir(u("ZVUKY"));
-    const QString file = book.folder.filePath(u("ZVUKY/Vina.WAV"));
+    QDir(book.folder.path()).mkdir(u"ZVUKY"_s);
+    const QString file = book.folder.filePath(u"ZVUKY/Vina.WAV"_s);
     ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
     show("10");
-    run.player.failing[u("open")] = MediaError::InvalidFile;
+    run.player.failing[u"open"_s] = MediaError::InvalidFile;
     click(4);
     EXPECT_FALSE(run.player.playing());
-    EXPECT_EQ(run.messages, QStringList{u("16: ") + mediaErrorText(MediaError::InvalidFile)});
+    EXPECT_EQ(run.messages, QStringList{u"16: "_s + mediaErrorText(MediaError::InvalidFile)});
     click(4);
     run.player.failing.clear();
     click(4);
@@ -220,7 +216,7 @@ TEST_F(PageTest, MusicThatWasNeverOpenIsOpenedOrTellsWhyNot) {
 TEST_F(PageTest, TheHelpOfThePageDoesNotOpenItselfAgain) {
     show("10");
     QTest::keyClick(&bar(0), Qt::Key_F1);
-    EXPECT_EQ(run.recorded.calls, QStringList{u("showHelpFor frmStranka")});
+    EXPECT_EQ(run.recorded.calls, QStringList{u"showHelpFor frmStranka"_s});
     show("30");
     QTest::keyClick(&bar(0), Qt::Key_F1);
     EXPECT_EQ(run.recorded.calls.size(), 1);

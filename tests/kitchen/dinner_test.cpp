@@ -12,79 +12,73 @@ namespace sarne {
 namespace {
 
 PlannedDish dish(int minutes, const QStringList& steps, const char* ahead = "", int served = 18 * 60) {
-    PlannedDish one{QStringLiteral("Kapr"), minutes, QString::fromUtf8(ahead), {}, served};
+    PlannedDish one{u"Kapr"_s, minutes, QString::fromUtf8(ahead), {}, served};
     for (const QString& step : steps) one.steps.push_back({{}, step, {}});
-    one.steps.push_back({QStringLiteral("Na stůl"), QStringLiteral("Vydrží dva dny."), {}});
+    one.steps.push_back({u"Na stůl"_s, u"Vydrží dva dny."_s, {}});
     return one;
 }
 
 QStringList planOf(const std::vector<PlannedDish>& dishes) {
     QStringList lines;
     for (const PlanLine& line : timePlan(dishes)) lines << planTimeText(line.at) + u' ' + line.what;
-    return lines.replaceInStrings(QString(QChar(QChar::Nbsp)), QStringLiteral(" "));
+    return lines.replaceInStrings(QString(QChar(QChar::Nbsp)), u" "_s);
 }
 
 TEST(TimePlan, GoesBackwardsFromTheTable) {
-    EXPECT_EQ(planOf({dish(60, {QStringLiteral("Rybu nasolíme a osušíme. A hned."),
-                                QStringLiteral("Troubu předehřejeme na 200 °C. Rybu potřeme."),
-                                QStringLiteral("Pečeme 30 až 40 minut.")})}),
-              (QStringList{
-                  QStringLiteral("17.00 Rybu nasolíme a osušíme."),
-                  QStringLiteral("17.05 Předehřát troubu na 200 °C"), QStringLiteral("17.05 Rybu potřeme."),
-                  QStringLiteral("17.15 Pečeme 30 až 40 minut."), QStringLiteral("18.00 Na stůl: Kapr")}));
+    EXPECT_EQ(
+        planOf({dish(60, {u"Rybu nasolíme a osušíme. A hned."_s,
+                          u"Troubu předehřejeme na 200 °C. Rybu potřeme."_s, u"Pečeme 30 až 40 minut."_s})}),
+        (QStringList{u"17.00 Rybu nasolíme a osušíme."_s, u"17.05 Předehřát troubu na 200 °C"_s,
+                     u"17.05 Rybu potřeme."_s, u"17.15 Pečeme 30 až 40 minut."_s, u"18.00 Na stůl: Kapr"_s}));
 }
 
 TEST(TimePlan, LightsTheOvenWhenItIsNeeded) {
-    const QStringList plan = planOf({dish(
-        120, {QStringLiteral("Troubu předehřejeme na 180 °C."),
-              QStringLiteral("Těsto necháme 60 minut odpočívat."), QStringLiteral("Pečeme 30 minut.")})});
-    EXPECT_EQ(plan,
-              QStringList({QStringLiteral("16.10 Těsto necháme 60 minut odpočívat."),
-                           QStringLiteral("17.05 Předehřát troubu na 180 °C"),
-                           QStringLiteral("17.20 Pečeme 30 minut."), QStringLiteral("18.00 Na stůl: Kapr")}));
+    const QStringList plan =
+        planOf({dish(120, {u"Troubu předehřejeme na 180 °C."_s, u"Těsto necháme 60 minut odpočívat."_s,
+                           u"Pečeme 30 minut."_s})});
+    EXPECT_EQ(plan, QStringList({u"16.10 Těsto necháme 60 minut odpočívat."_s,
+                                 u"17.05 Předehřát troubu na 180 °C"_s, u"17.20 Pečeme 30 minut."_s,
+                                 u"18.00 Na stůl: Kapr"_s}));
 }
 
 TEST(TimePlan, TimesThatRunBesideEachOtherStayWithinTheDish) {
-    const QStringList plan = planOf({dish(
-        40, {QStringLiteral("Brambory vaříme 30 minut."), QStringLiteral("Rybu mezitím pečeme 30 minut.")})});
-    EXPECT_EQ(plan.first(), QStringLiteral("17.20 Brambory vaříme 30 minut."));
+    const QStringList plan =
+        planOf({dish(40, {u"Brambory vaříme 30 minut."_s, u"Rybu mezitím pečeme 30 minut."_s})});
+    EXPECT_EQ(plan.first(), u"17.20 Brambory vaříme 30 minut."_s);
 }
 
 TEST(TimePlan, WaitsOfHoursBeginInTheEveningBefore) {
     const QStringList plan =
-        planOf({dish(40, {QStringLiteral("Rybu uvaříme."), QStringLiteral("Dáme ji přes noc do chladničky."),
-                          QStringLiteral("Ozdobíme ji.")})});
+        planOf({dish(40, {u"Rybu uvaříme."_s, u"Dáme ji přes noc do chladničky."_s, u"Ozdobíme ji."_s})});
     ASSERT_EQ(plan.size(), 4);
-    EXPECT_TRUE(plan[0].startsWith(QStringLiteral("den předem v 19."))) << plan[0].toStdString();
-    EXPECT_EQ(plan[1], QStringLiteral("den předem v 20.00 Dáme ji přes noc do chladničky."));
-    EXPECT_TRUE(plan[2].startsWith(QStringLiteral("17.")));
+    EXPECT_TRUE(plan[0].startsWith(u"den předem v 19."_s)) << plan[0].toStdString();
+    EXPECT_EQ(plan[1], u"den předem v 20.00 Dáme ji přes noc do chladničky."_s);
+    EXPECT_TRUE(plan[2].startsWith(u"17."_s));
     // Four hours are no night: they begin on the day.
-    EXPECT_EQ(planOf({dish(20, {QStringLiteral("Necháme tuhnout 4 hodiny.")})}).first(),
-              QStringLiteral("13.40 Necháme tuhnout 4 hodiny."));
+    EXPECT_EQ(planOf({dish(20, {u"Necháme tuhnout 4 hodiny."_s})}).first(),
+              u"13.40 Necháme tuhnout 4 hodiny."_s);
 }
 
 TEST(TimePlan, WhatTheRecipeWantsBeforehandHasItsPlace) {
-    const QStringList steps{QStringLiteral("Rybu opečeme.")};
+    const QStringList steps{u"Rybu opečeme."_s};
     EXPECT_EQ(planOf({dish(30, steps, "bramborový salát o den dřív")}).first(),
-              QStringLiteral("den předem v 20.00 Předem: bramborový salát o den dřív"));
+              u"den předem v 20.00 Předem: bramborový salát o den dřív"_s);
     EXPECT_EQ(planOf({dish(30, steps, "oheň o 40 minut dřív")}).first(),
-              QStringLiteral("16.50 Předem: oheň o 40 minut dřív"));
-    EXPECT_EQ(planOf({dish(30, steps, "houskový knedlík")}).first(),
-              QStringLiteral("17.30 Předem: houskový knedlík"));
+              u"16.50 Předem: oheň o 40 minut dřív"_s);
+    EXPECT_EQ(planOf({dish(30, steps, "houskový knedlík")}).first(), u"17.30 Předem: houskový knedlík"_s);
     // What ripens is made that much earlier.
     EXPECT_EQ(planOf({dish(30, steps, "1 až 3 dny v nálevu")}).first(),
-              QStringLiteral("3 dny předem v 17.30 Rybu opečeme."));
+              u"3 dny předem v 17.30 Rybu opečeme."_s);
     // Fish that has been frozen is frozen before its first step.
-    const QStringList plan =
-        planOf({dish(30, {QStringLiteral("Lososa, který byl 24 hodin zmrazený, osušíme.")},
-                     "7 dní v mrazáku, přes noc povolit")});
-    EXPECT_EQ(plan[0], QStringLiteral("7 dní předem v 17.30 Předem: 7 dní v mrazáku, přes noc povolit"));
-    EXPECT_EQ(plan[1].left(6), QStringLiteral("17.30 "));
+    const QStringList plan = planOf({dish(30, {u"Lososa, který byl 24 hodin zmrazený, osušíme."_s},
+                                          "7 dní v mrazáku, přes noc povolit")});
+    EXPECT_EQ(plan[0], u"7 dní předem v 17.30 Předem: 7 dní v mrazáku, přes noc povolit"_s);
+    EXPECT_EQ(plan[1].left(6), u"17.30 "_s);
 }
 
 TEST(TimePlan, ADishWithoutStepsOrMinutesIsOnTheTableAllTheSame) {
-    EXPECT_EQ(planOf({dish(0, {})}), QStringList{QStringLiteral("18.00 Na stůl: Kapr")});
-    EXPECT_EQ(planOf({dish(0, {QString(), QStringLiteral("Vaříme 10 minut.")})}).size(), 2);
+    EXPECT_EQ(planOf({dish(0, {})}), QStringList{u"18.00 Na stůl: Kapr"_s});
+    EXPECT_EQ(planOf({dish(0, {QString(), u"Vaříme 10 minut."_s})}).size(), 2);
     EXPECT_TRUE(planOf({}).isEmpty());
 }
 
@@ -101,7 +95,7 @@ class DinnerBook : public testing::Test {
   protected:
     DinnerBook() {
         const auto row = [](const char* text) { return QString::fromUtf8(text); };
-        const QString file = folder_.filePath(QStringLiteral("Sarne.drc"));
+        const QString file = folder_.filePath(u"Sarne.drc"_s);
         test::writeRecipeDatabase(
             file,
             {row("INSERT INTO Recepty (ID, Nazev) VALUES (1,'Rolky'),(2,'Vývar'),(3,'Kapr'),(4,'Amur'),"
@@ -128,15 +122,15 @@ class DinnerBook : public testing::Test {
 
 TEST_F(DinnerBook, OffersEachCourseWhatSuitsTheOccasionFirst) {
     Dinner dinner;
-    EXPECT_EQ(names(Course::Starter, dinner, 12), QStringLiteral("Rolky"));
-    EXPECT_EQ(names(Course::Soup, dinner, 12), QStringLiteral("Vývar"));
-    EXPECT_EQ(names(Course::Main, dinner, 12), QStringLiteral("Kapr Salát Amur"));
-    EXPECT_EQ(names(Course::Main, dinner, 7), QStringLiteral("Amur Salát Kapr"));
-    dinner.occasion = QStringLiteral("jaro");
-    EXPECT_EQ(names(Course::Main, dinner, 12), QStringLiteral("Salát Kapr Amur"));
+    EXPECT_EQ(names(Course::Starter, dinner, 12), u"Rolky"_s);
+    EXPECT_EQ(names(Course::Soup, dinner, 12), u"Vývar"_s);
+    EXPECT_EQ(names(Course::Main, dinner, 12), u"Kapr Salát Amur"_s);
+    EXPECT_EQ(names(Course::Main, dinner, 7), u"Amur Salát Kapr"_s);
+    dinner.occasion = u"jaro"_s;
+    EXPECT_EQ(names(Course::Main, dinner, 12), u"Salát Kapr Amur"_s);
     dinner.recipes[2] = 4;
-    EXPECT_EQ(names(Course::Main, dinner, 12), QStringLiteral("Amur Salát Kapr"));
-    EXPECT_EQ(dinnerOccasions(all_).join(u' '), QStringLiteral("jaro léto zima Vánoce Silvestr"));
+    EXPECT_EQ(names(Course::Main, dinner, 12), u"Amur Salát Kapr"_s);
+    EXPECT_EQ(dinnerOccasions(all_).join(u' '), u"jaro léto zima Vánoce Silvestr"_s);
 }
 
 TEST_F(DinnerBook, PlansItsCoursesOneAfterTheOther) {
@@ -145,23 +139,20 @@ TEST_F(DinnerBook, PlansItsCoursesOneAfterTheOther) {
     dinner.served = 12 * 60;
     QStringList lines;
     for (const PlanLine& line : dinnerPlan(book_, dinner)) lines << planTimeText(line.at) + u' ' + line.what;
-    EXPECT_EQ(
-        lines,
-        (QStringList{QStringLiteral("11.00 Vaříme 50 minut."), QStringLiteral("11.30 Rybu smažíme 10 minut."),
-                     QStringLiteral("12.00 Na stůl: Vývar"), QStringLiteral("12.20 Na stůl: Kapr")}));
+    EXPECT_EQ(lines, (QStringList{u"11.00 Vaříme 50 minut."_s, u"11.30 Rybu smažíme 10 minut."_s,
+                                  u"12.00 Na stůl: Vývar"_s, u"12.20 Na stůl: Kapr"_s}));
     const QString text = dinnerText(book_, dinner, QLocale(QLocale::Czech));
-    EXPECT_TRUE(text.startsWith(QStringLiteral("4\u00a0porce, na stole v 12.00\nPolévka: Vývar\n")))
-        << text.toStdString();
+    EXPECT_TRUE(text.startsWith(u"4\u00a0porce, na stole v 12.00\nPolévka: Vývar\n"_s)) << text.toStdString();
 }
 
 TEST_F(DinnerBook, IsKeptAndOutlivesWhatIsNoMenu) {
-    UserFile file(folder_.filePath(QStringLiteral("vlastni.db")));
+    UserFile file(folder_.filePath(u"vlastni.db"_s));
     EXPECT_EQ(readDinner(file), Dinner{});
-    const Dinner dinner{QStringLiteral("Vánoce"), {1, 0, 3}, 6.5, 750};
+    const Dinner dinner{u"Vánoce"_s, {1, 0, 3}, 6.5, 750};
     EXPECT_TRUE(storeDinner(file, dinner));
     EXPECT_EQ(readDinner(file), dinner);
     for (const char* broken : {"", "x", "|||||", "a|-4|99999|x|-1|2"}) {
-        file.setValue(QStringLiteral("Hostina"), QString::fromUtf8(broken));
+        file.setValue(u"Hostina"_s, QString::fromUtf8(broken));
         const Dinner read = readDinner(file);
         EXPECT_GT(read.portions, 0) << broken;
         EXPECT_GE(read.served, 0) << broken;

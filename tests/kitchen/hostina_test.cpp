@@ -22,12 +22,6 @@ class HostinaTest : public testing::Test {
         EXPECT_TRUE(screen->Zobraz());
         return *screen;
     }
-    static QString rows(const frmHostina& screen, const char* list) {
-        QStringList all;
-        for (const TickRow& row : child<TickList>(screen, list)->rows())
-            all << (row.ticked ? QStringLiteral("x ") : QString()) + row.text;
-        return all.join(QStringLiteral(" | "));
-    }
 
     KitchenRun run_;
     double number_ = 0;
@@ -37,32 +31,32 @@ class HostinaTest : public testing::Test {
 TEST_F(HostinaTest, MakesAMenuWithItsPlanAndKeepsIt) {
     frmHostina& screen = open();
     EXPECT_EQ(rows(screen, "picChody"),
-              QStringLiteral("Předkrm | Polévka | Bez kroků | Hlavní chod | Kapr na kmíně"));
+              u"Předkrm | Polévka | Bez kroků/30 min | Hlavní chod | Kapr na kmíně/40 min/zima"_s);
     EXPECT_FALSE(child(screen, "picPlan")->isVisible());
     press(screen, Qt::Key_Space);
     press(screen, Qt::Key_Down);
     press(screen, Qt::Key_Return);
     EXPECT_EQ(rows(screen, "picChody"),
-              QStringLiteral("Předkrm | Polévka | x Bez kroků | Hlavní chod | x Kapr na kmíně"));
-    EXPECT_TRUE(rows(screen, "picPlan").contains(QStringLiteral(" | 18.00  Na stůl: Bez kroků | ")));
-    EXPECT_TRUE(rows(screen, "picPlan").endsWith(QStringLiteral(" | 18.20  Na stůl: Kapr na kmíně")));
+              u"Předkrm | Polévka | x Bez kroků/30 min | Hlavní chod | x Kapr na kmíně/40 min/zima"_s);
+    EXPECT_TRUE(rows(screen, "picPlan").contains(u" | 18.00  Na stůl: Bez kroků | "_s));
+    EXPECT_TRUE(rows(screen, "picPlan").endsWith(u" | 18.20  Na stůl: Kapr na kmíně"_s));
     number_ = 8;
     child<Button>(screen, "cmdAkce(1)")->click();
-    text_ = QStringLiteral("12.30");
+    text_ = u"12.30"_s;
     child<Button>(screen, "cmdAkce(2)")->click();
-    EXPECT_EQ(child<Label>(screen, "lblStav")->text(), QStringLiteral("8\u00a0porcí · na stole v 12.30"));
-    text_ = QStringLiteral("brzy");  // no hour
+    EXPECT_EQ(child<Label>(screen, "lblStav")->text(), u"8\u00a0porcí · na stole v 12.30"_s);
+    text_ = u"brzy"_s;  // no hour
     child<Button>(screen, "cmdAkce(2)")->click();
     EXPECT_EQ(run_.beeps, 1);
     child<Button>(screen, "cmdAkce(0)")->click();
-    EXPECT_EQ(child<Button>(screen, "cmdAkce(0)")->caption(), QStringLiteral("Zima"));
+    EXPECT_EQ(child<Button>(screen, "cmdAkce(0)")->caption(), u"Zima"_s);
     press(screen, Qt::Key_F3);
-    EXPECT_EQ(run_.recorded.calls, QStringList{QStringLiteral("addToShoppingList 2 for 8")});
+    EXPECT_EQ(run_.recorded.calls, QStringList{u"addToShoppingList 2 for 8"_s});
     child<Button>(screen, "imgBtnHlavni(0)")->click();
-    EXPECT_TRUE(run_.recorded.printedText.contains(QStringLiteral("12.50")));
+    EXPECT_TRUE(run_.recorded.printedText.contains(u"12.50"_s));
     press(screen, Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(open().dinner(), (Dinner{QStringLiteral("zima"), {0, 6, 5}, 8, 750}));
+    EXPECT_EQ(open().dinner(), (Dinner{u"zima"_s, {0, 6, 5}, 8, 750}));
 }
 
 TEST_F(HostinaTest, TakesOneRecipeACourseAndForgetsOneThatIsGone) {
@@ -78,7 +72,7 @@ TEST_F(HostinaTest, TakesOneRecipeACourseAndForgetsOneThatIsGone) {
 }
 
 TEST_F(HostinaTest, ABookThatDoesNotKnowItsCoursesOffersNoMenu) {
-    ASSERT_TRUE(run_.database.Execute(QStringLiteral("DROP TABLE Fakta")));
+    ASSERT_TRUE(run_.database.Execute(u"DROP TABLE Fakta"_s));
     auto* screen = new frmHostina(run_, run_.file(), {}, 11);
     EXPECT_FALSE(screen->Zobraz());
     EXPECT_EQ(run_.FormStack.top(), nullptr);

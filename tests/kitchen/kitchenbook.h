@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "screens/kitchen/ticklist.h"
 #include "support/fakesarne.h"
 #include "support/recipedatabase.h"
 
@@ -13,7 +14,7 @@ class KitchenRun : public FakeSarne {
   public:
     KitchenRun() {
         const auto row = [](const char* text) { return QString::fromUtf8(text); };
-        const QString file = folder_.filePath(QStringLiteral("Sarne.drc"));
+        const QString file = folder_.filePath(u"Sarne.drc"_s);
         test::writeRecipeDatabase(
             file,
             {row("INSERT INTO Suroviny VALUES (1,'kapr'),(2,'máslo'),(3,'sůl')"),
@@ -28,7 +29,7 @@ class KitchenRun : public FakeSarne {
              row("INSERT INTO Zbozi VALUES (1,0,0,8),(2,2,0,64),(3,4,1,0)"),
              row("INSERT INTO Fakta (ID, Minut, Mesice, Alergeny, Ryba) VALUES (5,40,4095,72,0)")});
         database.Open(file);
-        file_ = UserFile(folder_.filePath(QStringLiteral("vlastni.db")));
+        file_ = UserFile(folder_.filePath(u"vlastni.db"_s));
     }
 
     UserFile& file() { return file_; }
@@ -41,6 +42,17 @@ class KitchenRun : public FakeSarne {
 inline void press(Form& form, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QWidget* focus = form.window()->focusWidget();
     QTest::keyClick(focus ? focus : &form, key, modifiers);
+}
+
+/// What the rows of a list say, "x" in front of what is ticked: "kapr/1,2 kg | x máslo/80 g".
+inline QString rows(const Form& form, const char* list) {
+    QStringList all;
+    for (const TickRow& row : child<TickList>(form, list)->rows()) {
+        QStringList said{row.text, row.right, row.below};
+        said.removeAll(QString());
+        all << (row.ticked ? u"x "_s : QString()) + said.join(u'/');
+    }
+    return all.join(u" | "_s).replace(QChar(QChar::Nbsp), u' ');
 }
 
 }  // namespace sarne

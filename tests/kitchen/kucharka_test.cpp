@@ -16,26 +16,19 @@ class KucharkaTest : public testing::Test {
         screen->Zobraz();
         return *screen;
     }
-    static QString rows(const frmKucharka& screen) {
-        QStringList all;
-        for (const TickRow& row : child<TickList>(screen, "picRecepty")->rows())
-            all << QStringList{row.text, row.right, row.below}.join(u'/');
-        return all.join(QStringLiteral(" | "));
-    }
 
     KitchenRun run_;
 };
 
 TEST_F(KucharkaTest, OpensOnTheFirstShelfThatHoldsSomething) {
-    keepCooked(run_.file(), 6, QStringLiteral("Bez kroků"), {2026, 11, 1}, 4);
-    keepCooked(run_.file(), 6, QStringLiteral("Bez kroků"), {2026, 10, 1}, 4);
+    keepCooked(run_.file(), 6, u"Bez kroků"_s, {2026, 11, 1}, 4);
+    keepCooked(run_.file(), 6, u"Bez kroků"_s, {2026, 10, 1}, 4);
     frmKucharka& screen = open();
     EXPECT_EQ(screen.shelf(), Shelf::Cooked);
-    EXPECT_EQ(rows(screen), QStringLiteral("Bez kroků/1. 11. 2026/uvařeno 2×"));
-    EXPECT_EQ(child<Label>(screen, "lblPodrobnosti")->text(),
-              QStringLiteral("Uvařeno: 1. 11. 2026, 1. 10. 2026"));
+    EXPECT_EQ(rows(screen, "picRecepty"), u"Bez kroků/1. 11. 2026/uvařeno 2×"_s);
+    EXPECT_EQ(child<Label>(screen, "lblPodrobnosti")->text(), u"Uvařeno: 1. 11. 2026, 1. 10. 2026"_s);
     child<Button>(screen, "cmdPolice(0)")->click();
-    EXPECT_EQ(rows(screen), QString());
+    EXPECT_EQ(rows(screen, "picRecepty"), QString());
     EXPECT_FALSE(child<Label>(screen, "lblNic")->text().isEmpty());
     EXPECT_FALSE(child(screen, "picHvezdy")->isVisible());
     press(screen, Qt::Key_Return);  // nothing to open
@@ -43,45 +36,44 @@ TEST_F(KucharkaTest, OpensOnTheFirstShelfThatHoldsSomething) {
 }
 
 TEST_F(KucharkaTest, GivesStarsByMouseAndKeyboardWithoutLosingTheRow) {
-    RecipeMarks(run_.file()).setStars(5, QStringLiteral("Kapr na kmíně"), 2);
-    RecipeMarks(run_.file()).setStars(6, QStringLiteral("Bez kroků"), 1);
+    RecipeMarks(run_.file()).setStars(5, u"Kapr na kmíně"_s, 2);
+    RecipeMarks(run_.file()).setStars(6, u"Bez kroků"_s, 1);
     frmKucharka& screen = open();
-    EXPECT_EQ(rows(screen), QStringLiteral("Kapr na kmíně/★★☆☆☆/ | Bez kroků/★☆☆☆☆/"));
+    EXPECT_EQ(rows(screen, "picRecepty"), u"Kapr na kmíně/★★☆☆☆ | Bez kroků/★☆☆☆☆"_s);
     press(screen, Qt::Key_Down);
     press(screen, Qt::Key_5);
-    EXPECT_EQ(rows(screen), QStringLiteral("Kapr na kmíně/★★☆☆☆/ | Bez kroků/★★★★★/"));
+    EXPECT_EQ(rows(screen, "picRecepty"), u"Kapr na kmíně/★★☆☆☆ | Bez kroků/★★★★★"_s);
     auto* stars = child<StarRow>(screen, "picHvezdy");
     const auto click = [&](int star) {
         QTest::mouseClick(stars, Qt::LeftButton, {},
                           stars->toPixels({(2 * star - 1) * stars->twips().width() / 10, 200}));
     };
     click(3);
-    EXPECT_EQ(RecipeMarks(run_.file()).stars(6, QStringLiteral("Bez kroků")), 3);
+    EXPECT_EQ(RecipeMarks(run_.file()).stars(6, u"Bez kroků"_s), 3);
     click(3);  // the same star takes them back
-    EXPECT_EQ(RecipeMarks(run_.file()).stars(6, QStringLiteral("Bez kroků")), 0);
-    EXPECT_EQ(run_.announced.last(), QStringLiteral("bez hodnocení"));
+    EXPECT_EQ(RecipeMarks(run_.file()).stars(6, u"Bez kroků"_s), 0);
+    EXPECT_EQ(run_.announced.last(), u"bez hodnocení"_s);
 }
 
 TEST_F(KucharkaTest, LeadsToTheRecipeTheStoveAndTheShop) {
-    RecipeMarks(run_.file()).setStars(5, QStringLiteral("Kapr na kmíně"), 2);
+    RecipeMarks(run_.file()).setStars(5, u"Kapr na kmíně"_s, 2);
     frmKucharka& screen = open();
     press(screen, Qt::Key_Return);
     press(screen, Qt::Key_F3);
-    EXPECT_EQ(run_.recorded.calls,
-              (QStringList{QStringLiteral("showRecipe 5"), QStringLiteral("addToShoppingList 1 for 0")}));
+    EXPECT_EQ(run_.recorded.calls, (QStringList{u"showRecipe 5"_s, u"addToShoppingList 1 for 0"_s}));
     EXPECT_TRUE(child(screen, "imgVedle(0)")->isVisible());
     EXPECT_FALSE(child(screen, "imgVedle(2)")->isVisible());  // it is this one
 }
 
 TEST_F(KucharkaTest, ABookWithoutTheKitchensTablesOffersWhatItCan) {
     for (const char* table : {"Fakta", "Zbozi", "Kroky", "KrokySur", "Uprava", "Vyteznost"})
-        ASSERT_TRUE(run_.database.Execute(QStringLiteral("DROP TABLE ") + QString::fromUtf8(table)));
+        ASSERT_TRUE(run_.database.Execute(u"DROP TABLE "_s + QString::fromUtf8(table)));
     run_.recorded.goods = false;
     press(open(), Qt::Key_Escape);
     EXPECT_EQ(open().shelf(), Shelf::Starred);  // nothing of one's own yet, and no months
-    RecipeMarks(run_.file()).setStars(5, QStringLiteral("Kapr na kmíně"), 2);
+    RecipeMarks(run_.file()).setStars(5, u"Kapr na kmíně"_s, 2);
     frmKucharka& screen = open();
-    EXPECT_EQ(rows(screen), QStringLiteral("Kapr na kmíně/★★☆☆☆/"));
+    EXPECT_EQ(rows(screen, "picRecepty"), u"Kapr na kmíně/★★☆☆☆"_s);
     EXPECT_FALSE(child(screen, "cmdPolice(4)")->isVisible());
     EXPECT_FALSE(child(screen, "cmdAkce(1)")->isVisible());
     EXPECT_FALSE(child(screen, "cmdAkce(2)")->isVisible());

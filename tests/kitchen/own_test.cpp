@@ -1,4 +1,3 @@
-// SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
@@ -9,6 +8,7 @@
 #include "kitchen/cooked.h"
 #include "kitchen/feasts.h"
 #include "kitchen/owncookery.h"
+#include "kitchen/pantry.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -20,19 +20,19 @@ TEST(Feasts, FallIntoTheirMonths) {
     } easters[] = {{2024, 3, 31}, {2025, 4, 20}, {2026, 4, 5}, {2027, 3, 28}, {2038, 4, 25}, {2285, 3, 22}};
     for (const auto& [year, month, day] : easters) EXPECT_EQ(easterSunday(year), QDate(year, month, day));
     const auto of = [](QDate day) { return occasionsOf(day).join(u' '); };
-    EXPECT_EQ(of({2026, 12, 1}), QStringLiteral("Vánoce Silvestr zima"));
-    EXPECT_EQ(of({2026, 4, 30}), QStringLiteral("Velikonoce jaro"));
-    EXPECT_EQ(of({2029, 3, 1}), QStringLiteral("Velikonoce jaro"));  // Sunday is the first of April
-    EXPECT_EQ(of({2026, 3, 1}), QStringLiteral("jaro"));
-    EXPECT_EQ(of({2026, 8, 1}), QStringLiteral("léto"));
-    EXPECT_EQ(of({2026, 1, 1}), QStringLiteral("zima"));
+    EXPECT_EQ(of({2026, 12, 1}), u"Vánoce Silvestr zima"_s);
+    EXPECT_EQ(of({2026, 4, 30}), u"Velikonoce jaro"_s);
+    EXPECT_EQ(of({2029, 3, 1}), u"Velikonoce jaro"_s);  // Sunday is the first of April
+    EXPECT_EQ(of({2026, 3, 1}), u"jaro"_s);
+    EXPECT_EQ(of({2026, 8, 1}), u"léto"_s);
+    EXPECT_EQ(of({2026, 1, 1}), u"zima"_s);
 }
 
 class OwnCookery : public testing::Test {
   protected:
     OwnCookery() {
         const auto row = [](const char* text) { return QString::fromUtf8(text); };
-        const QString file = folder_.filePath(QStringLiteral("Sarne.drc"));
+        const QString file = folder_.filePath(u"Sarne.drc"_s);
         test::writeRecipeDatabase(
             file, {row("INSERT INTO Recepty (ID, Nazev, Vlastni) VALUES (1,'Smažený kapr',NULL),"
                        "(2,'Amur na grilu','více kopru'),(3,'Candát',''),(4,'Treska',NULL)"),
@@ -44,56 +44,127 @@ class OwnCookery : public testing::Test {
     QString shelf(Shelf which, QDate today) {
         QStringList names;
         for (const OwnRecipe& one : onShelf(readOwnRecipes(book_, file_), which, today)) names << one.name;
-        return names.join(QStringLiteral(", "));
+        return names.join(u", "_s);
     }
 
     QTemporaryDir folder_;
     Database book_;
-    UserFile file_{folder_.filePath(QStringLiteral("vlastni.db"))};
+    UserFile file_{folder_.filePath(u"vlastni.db"_s)};
     const QDate december_{2026, 12, 10};
 };
 
 TEST_F(OwnCookery, HasAShelfForEverythingTheUserHasMade) {
     RecipeMarks marks(file_);
-    EXPECT_TRUE(marks.setStars(3, QStringLiteral("Candát"), 3));
-    EXPECT_TRUE(marks.setStars(4, QStringLiteral("Treska"), 9));  // no more than five
-    EXPECT_TRUE(marks.keepOpened(3, QStringLiteral("Candát"), QDateTime({2026, 12, 1}, {18, 0})));
-    EXPECT_TRUE(marks.keepOpened(1, QStringLiteral("Smažený kapr"), QDateTime({2026, 12, 2}, {9, 0})));
-    keepCooked(file_, 2, QStringLiteral("Amur na grilu"), {2026, 7, 1}, 4);
-    keepCooked(file_, 2, QStringLiteral("Amur na grilu"), {2026, 7, 8}, 4);
-    keepCooked(file_, 4, QStringLiteral("Treska"), {2026, 7, 5}, 4);
-    EXPECT_EQ(marks.stars(3, QStringLiteral("Candát")), 3);  // looking at it took none away
-    EXPECT_EQ(shelf(Shelf::Starred, december_), QStringLiteral("Treska, Candát"));
-    EXPECT_EQ(shelf(Shelf::Opened, december_), QStringLiteral("Smažený kapr, Candát"));
-    EXPECT_EQ(shelf(Shelf::Cooked, december_), QStringLiteral("Amur na grilu, Treska"));
-    EXPECT_EQ(shelf(Shelf::Noted, december_), QStringLiteral("Amur na grilu"));
-    marks.setStars(3, QStringLiteral("Candát"), 0);
-    EXPECT_EQ(shelf(Shelf::Starred, december_), QStringLiteral("Treska"));
+    EXPECT_TRUE(marks.setStars(3, u"Candát"_s, 3));
+    EXPECT_TRUE(marks.setStars(4, u"Treska"_s, 9));  // no more than five
+    EXPECT_TRUE(marks.keepOpened(3, u"Candát"_s, QDateTime({2026, 12, 1}, {18, 0})));
+    EXPECT_TRUE(marks.keepOpened(1, u"Smažený kapr"_s, QDateTime({2026, 12, 2}, {9, 0})));
+    keepCooked(file_, 2, u"Amur na grilu"_s, {2026, 7, 1}, 4);
+    keepCooked(file_, 2, u"Amur na grilu"_s, {2026, 7, 8}, 4);
+    keepCooked(file_, 4, u"Treska"_s, {2026, 7, 5}, 4);
+    EXPECT_EQ(marks.stars(3, u"Candát"_s), 3);  // looking at it took none away
+    EXPECT_EQ(shelf(Shelf::Starred, december_), u"Treska, Candát"_s);
+    EXPECT_EQ(shelf(Shelf::Opened, december_), u"Smažený kapr, Candát"_s);
+    EXPECT_EQ(shelf(Shelf::Cooked, december_), u"Amur na grilu, Treska"_s);
+    EXPECT_EQ(shelf(Shelf::Noted, december_), u"Amur na grilu"_s);
+    marks.setStars(3, u"Candát"_s, 0);
+    EXPECT_EQ(shelf(Shelf::Starred, december_), u"Treska"_s);
 }
 
 TEST_F(OwnCookery, ThisMonthBeginsWithItsFeasts) {
-    EXPECT_EQ(shelf(Shelf::ThisMonth, december_), QStringLiteral("Smažený kapr, Candát"));
-    EXPECT_EQ(shelf(Shelf::ThisMonth, {2026, 7, 1}), QStringLiteral("Amur na grilu"));
-    EXPECT_EQ(shelf(Shelf::ThisMonth, {2026, 10, 1}), QStringLiteral("Candát"));
+    EXPECT_EQ(shelf(Shelf::ThisMonth, december_), u"Smažený kapr, Candát"_s);
+    EXPECT_EQ(shelf(Shelf::ThisMonth, {2026, 7, 1}), u"Amur na grilu"_s);
+    EXPECT_EQ(shelf(Shelf::ThisMonth, {2026, 10, 1}), u"Candát"_s);
     const auto all = readOwnRecipes(book_, file_);
-    EXPECT_EQ(reasonThisMonth(all[0], december_), QStringLiteral("Vánoce"));
-    EXPECT_EQ(reasonThisMonth(all[1], {2026, 7, 1}), QStringLiteral("v sezoně"));
+    EXPECT_EQ(reasonThisMonth(all[0], december_), u"Vánoce"_s);
+    EXPECT_EQ(reasonThisMonth(all[1], {2026, 7, 1}), u"v sezoně"_s);
     EXPECT_EQ(reasonThisMonth(all[1], december_), QString());
 }
 
 TEST_F(OwnCookery, FindsItsRecipesInAnEditionThatNumbersOtherwise) {
-    RecipeMarks(file_).setStars(40, QStringLiteral("Candát"), 4);
-    RecipeMarks(file_).setStars(1, QStringLiteral("Losos, který tu není"), 5);
-    EXPECT_EQ(shelf(Shelf::Starred, december_), QStringLiteral("Candát"));
-    EXPECT_EQ(RecipeMarks(file_).stars(1, QStringLiteral("Smažený kapr")), 0);
+    RecipeMarks(file_).setStars(40, u"Candát"_s, 4);
+    RecipeMarks(file_).setStars(1, u"Losos, který tu není"_s, 5);
+    EXPECT_EQ(shelf(Shelf::Starred, december_), u"Candát"_s);
+    EXPECT_EQ(RecipeMarks(file_).stars(1, u"Smažený kapr"_s), 0);
 }
 
 TEST_F(OwnCookery, ABookWithoutFactsHasTheOtherShelves) {
-    ASSERT_TRUE(book_.Execute(QStringLiteral("DROP TABLE Fakta")));
-    RecipeMarks(file_).setStars(1, QStringLiteral("Smažený kapr"), 1);
-    EXPECT_EQ(shelf(Shelf::Starred, december_), QStringLiteral("Smažený kapr"));
+    ASSERT_TRUE(book_.Execute(u"DROP TABLE Fakta"_s));
+    RecipeMarks(file_).setStars(1, u"Smažený kapr"_s, 1);
+    EXPECT_EQ(shelf(Shelf::Starred, december_), u"Smažený kapr"_s);
     EXPECT_EQ(shelf(Shelf::ThisMonth, december_), QString());
+}
+
+constexpr int kMilk = 1 << 6;
+
+/// kapr 1, máslo 2, losos 3, smetana 4, losos uzený 5.
+PantryIndex book() {
+    return PantryIndex({{1, u"Kapr na másle"_s, {1, 2}, kMilk, 0b111000000111, 40},
+                        {2, u"Losos se smetanou"_s, {3, 4, 2}, kMilk, 0xfff, 25},
+                        {3, u"Čistý kapr"_s, {1}, 0, 0, 90},
+                        {4, u"Chlebíčky"_s, {5, 2}, kMilk, 0xfff, 0}});
+}
+
+QString found(const PantryQuery& query) {
+    const PantryIndex index = book();
+    QStringList all;
+    for (const PantryMatch& match : index.find(query, 10))
+        all << u"%1:%2"_s.arg(index.recipe(match.recipe).id).arg(match.missing);
+    return all.join(u' ');
+}
+
+TEST(Pantry, TheLeastMissingComesFirstThenTheMostUsedThenTheName) {
+    EXPECT_EQ(found({{1, 2}, {}, 0, 0, 0}), u"1:0 3:0 4:1 2:2"_s);
+    EXPECT_EQ(found({{2}, {}, 0, 0, 0}), u"4:1 1:1 2:2"_s);  // Ch stands behind H, before K
+    EXPECT_EQ(found({{77, -1}, {}, 0, 0, 0}), QString());
+    EXPECT_EQ(found({}), u"3:1 4:2 1:2 2:3"_s);  // with nothing chosen all are there
+}
+
+TEST(Pantry, WhatMustNotBeInARecipeKeepsItOut) {
+    EXPECT_EQ(found({{1, 2}, {4}, 0, 0, 0}), u"1:0 3:0 4:1"_s);
+    EXPECT_EQ(found({{1, 2}, {2}, 0, 0, 0}), u"3:0"_s);
+    EXPECT_EQ(found({{1, 2}, {}, kMilk, 0, 0}), u"3:0"_s);
+    EXPECT_EQ(found({{1, 2}, {}, 0, 7, 0}), u"3:0 4:1 2:2"_s);  // carp is out of season in July
+    EXPECT_EQ(found({{1, 2}, {}, 0, 1, 0}), u"1:0 3:0 4:1 2:2"_s);
+    EXPECT_EQ(found({{1, 2}, {}, 0, 0, 30}), u"2:2"_s);  // an unknown time is no short one
+}
+
+TEST(Pantry, NamesWhatIsMissing) {
+    const PantryIndex index = book();
+    const PantryQuery query{{2, 3}, {}, 0, 0, 0};
+    const auto matches = index.find(query, 1);
+    ASSERT_EQ(matches.size(), 1u);
+    EXPECT_EQ(index.missing(matches[0].recipe, query), std::vector<int>{4});
+    EXPECT_TRUE(PantryIndex().find(query, 5).empty());
+}
+
+TEST(Pantry, AnyWordOfANameIsFoundByItsBeginning) {
+    const std::vector<PantryIngredient> all{{3, u"losos"_s},
+                                            {5, u"losos uzený"_s},
+                                            {6, u"Řepa červená"_s},
+                                            {7, u"olej"_s},
+                                            {8, u"řízek z oleje"_s}};
+    EXPECT_EQ(namesWithWord(all, u"olej"_s), (std::vector<int>{3, 4}));
+    EXPECT_EQ(namesWithWord(all, u"z"_s), (std::vector<int>{4}));
+    EXPECT_EQ(namesWithWord({{1, u"hlava kapří"_s}, {2, u"kapr"_s}}, u"kapr"_s), (std::vector<int>{1, 0}));
+    EXPECT_EQ(namesWithWord(all, u"los"_s), (std::vector<int>{0, 1}));
+    EXPECT_EQ(namesWithWord(all, u"UZE"_s), (std::vector<int>{1}));
+    EXPECT_EQ(namesWithWord(all, u"cerv"_s), (std::vector<int>{2}));
+    EXPECT_EQ(namesWithWord(all, u"ř"_s), (std::vector<int>{2, 4}));
+    EXPECT_EQ(namesWithWord(all, u"sos"_s), std::vector<int>{});
+    EXPECT_EQ(namesWithWord(all, u"  "_s).size(), 5u);
+}
+
+TEST(Pantry, OnlyAllergensThatTellRecipesApartAreWorthAsking) {
+    EXPECT_EQ(
+        PantryIndex({{1, u"a"_s, {1}, 0b1001, 0, 0}, {2, u"b"_s, {1}, 0b1100, 0, 0}}).tellingAllergens(),
+        0b0101);
+    EXPECT_EQ(PantryIndex(std::vector<PantryRecipe>{}).tellingAllergens(), 0);
+    EXPECT_EQ(allergenName(9), u"celer"_s);
+    EXPECT_EQ(allergenName(15), QString());
 }
 
 }  // namespace
 }  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

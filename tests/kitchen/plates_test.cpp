@@ -9,9 +9,7 @@ namespace {
 
 class PlatesTest : public testing::Test {
   protected:
-    void clickFirst() {
-        QTest::mouseClick(run_.window.findChild<QWidget*>(QStringLiteral("casovac(0)")), Qt::LeftButton);
-    }
+    void clickFirst() { QTest::mouseClick(run_.window.findChild<QWidget*>(u"casovac(0)"_s), Qt::LeftButton); }
 
     KitchenRun run_;
     KitchenTimers timers_;
@@ -19,40 +17,41 @@ class PlatesTest : public testing::Test {
 };
 
 TEST_F(PlatesTest, ShowWhatIsLeftAndRingUntilStopped) {
-    plates_.start(QStringLiteral("Brambory"), 1200);
-    plates_.start(QStringLiteral("Ryba"), 600);
-    EXPECT_EQ(plates_.texts(), (QStringList{QStringLiteral("10:00 Ryba"), QStringLiteral("20:00 Brambory")}));
+    plates_.start(u"Brambory"_s, 1200);
+    plates_.start(u"Ryba"_s, 600);
+    EXPECT_EQ(plates_.texts(), (QStringList{u"10:00 Ryba"_s, u"20:00 Brambory"_s}));
+    EXPECT_EQ(run_.window.findChild<QWidget*>(u"casovac(0)"_s)->accessibleName(), u"Ryba, 10:00"_s);
     run_.time.time = 600'000;
     plates_.look();
-    EXPECT_EQ(plates_.texts().first(), QStringLiteral("Hotovo! Ryba"));
+    EXPECT_EQ(plates_.texts().first(), u"Hotovo! Ryba"_s);
     EXPECT_EQ(run_.sounds.played.size(), 1);
-    EXPECT_EQ(run_.announced.last(), QStringLiteral("Čas vypršel: Ryba"));
+    EXPECT_EQ(run_.announced.last(), u"Čas vypršel: Ryba"_s);
     run_.time.time += 4'000;
     plates_.look();
     EXPECT_EQ(run_.sounds.played.size(), 2);
     EXPECT_TRUE(plates_.stopRinging());
     EXPECT_FALSE(plates_.stopRinging());
-    EXPECT_EQ(plates_.texts(), QStringList{QStringLiteral("9:56 Brambory")});
+    EXPECT_EQ(plates_.texts(), QStringList{u"9:56 Brambory"_s});
 }
 
 TEST_F(PlatesTest, LieOverEveryScreenThatIsShown) {
-    plates_.start(QStringLiteral("Ryba"), 600);
-    auto* screen = new Form(run_, QStringLiteral("frmJina"));
+    plates_.start(u"Ryba"_s, 600);
+    auto* screen = new Form(run_, u"frmJina"_s);
     run_.PushScreen(*screen);
     screen->showForm();
-    const QWidget* plate = run_.window.findChild<QWidget*>(QStringLiteral("casovac(0)"));
+    const QWidget* plate = run_.window.findChild<QWidget*>(u"casovac(0)"_s);
     EXPECT_EQ(run_.window.childAt(plate->geometry().center()), plate);
 }
 
 TEST_F(PlatesTest, AClickAsksBeforeItStopsARunningTimer) {
-    plates_.start(QStringLiteral("Ryba"), 600);
+    plates_.start(u"Ryba"_s, 600);
     run_.answers = {7, 6};
     clickFirst();
     EXPECT_EQ(plates_.texts().size(), 1);
     clickFirst();
     EXPECT_TRUE(plates_.texts().isEmpty());
     EXPECT_EQ(run_.messages.size(), 2);
-    plates_.start(QStringLiteral("Ryba"), 1);
+    plates_.start(u"Ryba"_s, 1);
     run_.time.time = 2'000;
     plates_.look();
     clickFirst();  // one that rings is stopped at once
@@ -61,13 +60,13 @@ TEST_F(PlatesTest, AClickAsksBeforeItStopsARunningTimer) {
 }
 
 TEST_F(PlatesTest, TimersOutliveAProgramThatIsCutOff) {
-    plates_.start(QStringLiteral("Ryba"), 600);
-    plates_.start(QStringLiteral("Brambory"), 1200);
+    plates_.start(u"Ryba"_s, 600);
+    plates_.start(u"Brambory"_s, 1200);
     KitchenTimers others;
     KitchenPlates next(run_, others, run_.file());
     next.resume();
     ASSERT_EQ(next.texts().size(), 2);
-    EXPECT_TRUE(next.texts().first().endsWith(QStringLiteral(" Ryba")));
+    EXPECT_TRUE(next.texts().first().endsWith(u" Ryba"_s));
     // Hours later the first ones ring, however long ago they came to their end; a day later nobody wants
     // them.
     const qint64 now = QDateTime::currentMSecsSinceEpoch(), hour = 3'600'000;
@@ -86,7 +85,7 @@ TEST_F(PlatesTest, TimersOutliveAProgramThatIsCutOff) {
 TEST_F(PlatesTest, TheEndIsAskedAboutWhileATimerRuns) {
     EXPECT_TRUE(plates_.readyToEnd());
     EXPECT_TRUE(run_.messages.isEmpty());
-    plates_.start(QStringLiteral("Ryba"), 600);
+    plates_.start(u"Ryba"_s, 600);
     run_.answers = {7};
     EXPECT_FALSE(plates_.readyToEnd());
     EXPECT_TRUE(plates_.readyToEnd());

@@ -19,7 +19,7 @@ ShoppingItem need(const char* name, double amount, const char* unit, int recipe,
             false,
             false,
             {},
-            {{recipe, QStringLiteral("Recept %1").arg(recipe), portions, QString::fromUtf8(unit), amount}}};
+            {{recipe, u"Recept %1"_s.arg(recipe), portions, QString::fromUtf8(unit), amount}}};
 }
 
 const ShoppingItem* itemOf(const ShoppingList& list, const char* name) {
@@ -34,7 +34,7 @@ int indexOf(const ShoppingList& list, const char* name) {
 
 QString amounts(const ShoppingList& list, const char* name) {
     const ShoppingItem* item = itemOf(list, name);
-    return item ? item->amounts(kCzech).replace(QChar(0xa0), u' ') : QStringLiteral("není");
+    return item ? item->amounts(kCzech).replace(QChar(0xa0), u' ') : u"není"_s;
 }
 
 TEST(ShoppingList, MergesWhatAddsUpAndSaysTheRestApart) {
@@ -42,8 +42,8 @@ TEST(ShoppingList, MergesWhatAddsUpAndSaysTheRestApart) {
     list.addRecipe({need("máslo", 80, "g", 1), need("cibule", 2, "ks", 1)});
     list.addRecipe({need("Máslo", 1, "kg", 2), need("cibule", 200, "g", 2)});
     list.addRecipe({need("cibule", 1, "ks", 3)});
-    EXPECT_EQ(amounts(list, "máslo"), QStringLiteral("1,08 kg"));
-    EXPECT_EQ(amounts(list, "cibule"), QStringLiteral("3 ks + 200 g"));
+    EXPECT_EQ(amounts(list, "máslo"), u"1,08 kg"_s);
+    EXPECT_EQ(amounts(list, "cibule"), u"3 ks + 200 g"_s);
     EXPECT_EQ(itemOf(list, "cibule")->recipes().size(), 3);
     EXPECT_EQ(list.recipes().size(), 3u);
 }
@@ -53,11 +53,11 @@ TEST(ShoppingList, ARecipeAddedAgainTakesItsOwnPlace) {
     list.addRecipe({need("máslo", 80, "g", 1), need("kapr", 1200, "g", 1, 4, Department::Fish)});
     list.addRecipe({need("máslo", 40, "g", 2)});
     list.addRecipe({need("máslo", 120, "g", 1, 6), need("kapr", 1800, "g", 1, 6, Department::Fish)});
-    EXPECT_EQ(amounts(list, "máslo"), QStringLiteral("160 g"));
-    EXPECT_EQ(amounts(list, "kapr"), QStringLiteral("1,8 kg"));
+    EXPECT_EQ(amounts(list, "máslo"), u"160 g"_s);
+    EXPECT_EQ(amounts(list, "kapr"), u"1,8 kg"_s);
     list.removeRecipe(1);
-    EXPECT_EQ(amounts(list, "máslo"), QStringLiteral("40 g"));
-    EXPECT_EQ(amounts(list, "kapr"), QStringLiteral("není"));
+    EXPECT_EQ(amounts(list, "máslo"), u"40 g"_s);
+    EXPECT_EQ(amounts(list, "kapr"), u"není"_s);
 }
 
 TEST(ShoppingList, IsSortedAsOneWalksThroughTheShop) {
@@ -68,14 +68,14 @@ TEST(ShoppingList, IsSortedAsOneWalksThroughTheShop) {
                     need("cuketa", 1, "ks", 1, 4, Department::Vegetables),
                     need("chřest", 1, "ks", 1, 4, Department::Vegetables),
                     need("losos", 400, "g", 1, 4, Department::Fish)});
-    list.addOwn(QStringLiteral("  papírové   utěrky "));
+    list.addOwn(u"  papírové   utěrky "_s);
     QStringList names;
     for (const ShoppingItem& item : list.items()) names << item.name;
-    EXPECT_EQ(names.join(u','), QStringLiteral("losos,cuketa,chřest,řepa,papírové utěrky,sůl"));
+    EXPECT_EQ(names.join(u','), u"losos,cuketa,chřest,řepa,papírové utěrky,sůl"_s);
     list.setBought(indexOf(list, "cuketa"), true);
     EXPECT_EQ(list.text(kCzech).replace(QChar(0xa0), u' '),
-              QStringLiteral("RYBY\n☐ losos – 400 g\n\nZELENINA A OVOCE\n☐ chřest – 1 ks\n☐ řepa – 1 ks\n\n"
-                             "OSTATNÍ\n☐ papírové utěrky\n"));
+              u"RYBY\n☐ losos – 400 g\n\nZELENINA A OVOCE\n☐ chřest – 1 ks\n☐ řepa – 1 ks\n\n"
+              "OSTATNÍ\n☐ papírové utěrky\n"_s);
 }
 
 TEST(ShoppingList, EveryChangeCanBeTakenBack) {
@@ -84,7 +84,7 @@ TEST(ShoppingList, EveryChangeCanBeTakenBack) {
     list.addRecipe({need("máslo", 80, "g", 1), need("mouka", 1, "kg", 1)});
     const auto first = list.items();
     list.setAmount(indexOf(list, "mouka"), 500);
-    EXPECT_EQ(amounts(list, "mouka"), QStringLiteral("500 g"));
+    EXPECT_EQ(amounts(list, "mouka"), u"500 g"_s);
     list.setBought(0, true);
     list.removeBought();
     list.remove(0);
@@ -99,12 +99,12 @@ TEST(ShoppingList, EveryChangeCanBeTakenBack) {
 TEST(ShoppingList, NothingThatIsNotThereIsChanged) {
     ShoppingList list;
     list.addRecipe({});
-    list.addOwn(QStringLiteral("   "));
+    list.addOwn(u"   "_s);
     list.setBought(3, true);
     list.setAmount(-1, 5);
     list.remove(0);
     EXPECT_FALSE(list.canUndo());
-    list.addOwn(QStringLiteral("sůl"));
+    list.addOwn(u"sůl"_s);
     list.setAmount(0, 5);  // it has no number
     EXPECT_EQ(amounts(list, "sůl"), QString());
 }
@@ -113,27 +113,27 @@ TEST(ShoppingNeeds, AreWhatTheShopSells) {
     Database none;
     const Goods goods(none);
     Ingredient butter;
-    butter.name = QStringLiteral("máslo");
-    butter.weights = {QStringLiteral("g"), 80};
-    butter.spoons = {QStringLiteral("lžíce"), 5};
-    butter.alternative = QStringLiteral("sádlo");
+    butter.name = u"máslo"_s;
+    butter.weights = {u"g"_s, 80};
+    butter.spoons = {u"lžíce"_s, 5};
+    butter.alternative = u"sádlo"_s;
     Ingredient salt;
-    salt.name = QStringLiteral("sůl");
-    salt.weights = {QStringLiteral("podle chuti"), 0};
+    salt.name = u"sůl"_s;
+    salt.weights = {u"podle chuti"_s, 0};
     ShoppingList list;
-    list.addRecipe(shoppingNeeds({butter, salt}, goods, {7, QStringLiteral("Kapr"), 6}, 4));
-    EXPECT_EQ(amounts(list, "máslo"), QStringLiteral("120 g"));
-    EXPECT_EQ(itemOf(list, "máslo")->alternative, QStringLiteral("sádlo"));
+    list.addRecipe(shoppingNeeds({butter, salt}, goods, {7, u"Kapr"_s, 6}, 4));
+    EXPECT_EQ(amounts(list, "máslo"), u"120 g"_s);
+    EXPECT_EQ(itemOf(list, "máslo")->alternative, u"sádlo"_s);
     EXPECT_EQ(amounts(list, "sůl"), QString());
 }
 
 TEST(ShoppingStore, KeepsTheListAsItWas) {
     QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("vlastni.db"));
+    const QString path = folder.filePath(u"vlastni.db"_s);
     ShoppingList list;
     list.addRecipe({need("máslo", 80, "g", 1), need("cibule", 2, "ks", 1)});
     list.addRecipe({need("cibule", 200, "g", 2)});
-    list.addOwn(QStringLiteral("houska"));
+    list.addOwn(u"houska"_s);
     list.setBought(1, true);
     {
         UserFile file(path);
@@ -144,7 +144,7 @@ TEST(ShoppingStore, KeepsTheListAsItWas) {
     UserFile again(path);
     EXPECT_EQ(readShoppingList(again).items(), list.items());
     // Where nothing can be written nothing is claimed.
-    UserFile nowhere(folder.path() + QStringLiteral("/vlastni.db/x/y.db"));
+    UserFile nowhere(folder.path() + u"/vlastni.db/x/y.db"_s);
     EXPECT_FALSE(storeShoppingList(nowhere, list));
     EXPECT_TRUE(readShoppingList(nowhere).isEmpty());
 }

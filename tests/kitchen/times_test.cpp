@@ -47,54 +47,47 @@ TEST(FindTimes, WhatRecipesSay) {
 }
 
 TEST(FindTimes, SaysWhereTheWordsStandAlsoBehindHardBlanks) {
-    const QString text = QStringLiteral("Vaříme 10–12\u00a0minut doměkka.");
+    const QString text = u"Vaříme 10–12\u00a0minut doměkka."_s;
     const auto found = findTimes(text);
     ASSERT_EQ(found.size(), 1u);
-    EXPECT_EQ(text.mid(found[0].at, found[0].length), QStringLiteral("10–12\u00a0minut"));
+    EXPECT_EQ(text.mid(found[0].at, found[0].length), u"10–12\u00a0minut"_s);
 }
 
 TEST(Times, AreWrittenAsOneReadsThem) {
-    EXPECT_EQ(clockText(25 * 60 * 1000), QStringLiteral("25:00"));
-    EXPECT_EQ(clockText(59001), QStringLiteral("1:00"));
-    EXPECT_EQ(clockText(3900 * 1000), QStringLiteral("1:05:00"));
-    EXPECT_EQ(clockText(-5), QStringLiteral("0:00"));
-    EXPECT_EQ(durationText(5400), QStringLiteral("1\u00a0hodina 30\u00a0minut"));
-    EXPECT_EQ(durationText(121), QStringLiteral("2\u00a0minuty 1\u00a0vteřina"));
+    EXPECT_EQ(clockText(25 * 60 * 1000), u"25:00"_s);
+    EXPECT_EQ(clockText(59001), u"1:00"_s);
+    EXPECT_EQ(clockText(3900 * 1000), u"1:05:00"_s);
+    EXPECT_EQ(clockText(-5), u"0:00"_s);
+    EXPECT_EQ(durationText(5400), u"1\u00a0hodina 30\u00a0minut"_s);
+    EXPECT_EQ(durationText(121), u"2\u00a0minuty 1\u00a0vteřina"_s);
 }
 
 TEST(Counted, FollowsTheCzechPlural) {
-    const Noun portion{QStringLiteral("porce"), QStringLiteral("porce"), QStringLiteral("porcí"),
-                       QStringLiteral("porce")};
-    const Noun clove{QStringLiteral("stroužek"), QStringLiteral("stroužky"), QStringLiteral("stroužků"),
-                     QStringLiteral("stroužku")};
-    const auto text = [](double n, const Noun& noun) {
-        return counted(n, noun, kCzech).replace(QChar(0xa0), u' ');
-    };
-    EXPECT_EQ(text(1, portion), QStringLiteral("1 porce"));
-    EXPECT_EQ(text(4, portion), QStringLiteral("4 porce"));
-    EXPECT_EQ(text(5, portion), QStringLiteral("5 porcí"));
-    EXPECT_EQ(text(0, portion), QStringLiteral("0 porcí"));
-    EXPECT_EQ(text(1, clove), QStringLiteral("1 stroužek"));
-    EXPECT_EQ(text(22, clove), QStringLiteral("22 stroužků"));
-    EXPECT_EQ(text(1.5, clove), QStringLiteral("1,5 stroužku"));
+    const Noun portion{u"porce"_s, u"porce"_s, u"porcí"_s, u"porce"_s};
+    const Noun clove{u"stroužek"_s, u"stroužky"_s, u"stroužků"_s, u"stroužku"_s};
+    const std::tuple<double, Noun, const char*> cases[] = {
+        {1, portion, "1 porce"},     {4, portion, "4 porce"},  {5, portion, "5 porcí"},
+        {0, portion, "0 porcí"},     {1, clove, "1 stroužek"}, {22, clove, "22 stroužků"},
+        {1.5, clove, "1,5 stroužku"}};
+    for (const auto& [number, noun, text] : cases)
+        EXPECT_EQ(counted(number, noun, kCzech).replace(QChar(0xa0), u' ').toStdString(), text);
 }
 
 TEST(BoughtAmount, IsWhatAShopSells) {
-    const auto text = [](double n, const char* unit) {
-        return boughtAmountText(n, QString::fromUtf8(unit), kCzech).replace(QChar(0xa0), u' ');
-    };
-    EXPECT_EQ(text(1234, "g"), QStringLiteral("1,23 kg"));
-    EXPECT_EQ(text(375, "g"), QStringLiteral("380 g"));
-    EXPECT_EQ(text(997, "ml"), QStringLiteral("1 l"));
-    EXPECT_EQ(text(2.1, "stroužky"), QStringLiteral("2,5 stroužku"));
-    EXPECT_EQ(text(5, "ks"), QStringLiteral("5 ks"));
-    EXPECT_EQ(text(0, "g"), QString());
+    const std::tuple<double, const char*, const char*> cases[] = {
+        {1234, "g", "1,23 kg"}, {375, "g", "380 g"}, {997, "ml", "1 l"}, {2.1, "stroužky", "2,5 stroužku"},
+        {5, "ks", "5 ks"},      {0, "g", ""}};
+    for (const auto& [amount, unit, text] : cases)
+        EXPECT_EQ(boughtAmountText(amount, QString::fromUtf8(unit), kCzech)
+                      .replace(QChar(0xa0), u' ')
+                      .toStdString(),
+                  text);
 }
 
 TEST(KitchenTimers, RingOnceInTheOrderInWhichTheyEnd) {
     KitchenTimers timers;
-    const int potatoes = timers.start(QStringLiteral("brambory"), 1200, 0);
-    const int fish = timers.start(QStringLiteral("ryba"), 600, 0);
+    const int potatoes = timers.start(u"brambory"_s, 1200, 0);
+    const int fish = timers.start(u"ryba"_s, 600, 0);
     EXPECT_EQ(timers.all().front().id, fish);
     EXPECT_TRUE(timers.over(599999).empty());
     ASSERT_EQ(timers.over(600000).size(), 1u);

@@ -12,9 +12,8 @@ const QByteArray kThree = "0.00\tCo budete potřebovat\n9.17\tPrvní bok\r\n32.5
 
 TEST(ChaptersTest, StepsLeadFromOneToTheNext) {
     const Chapters film = Chapters::parse(kThree);
-    const std::vector<Chapter> expected{{0, QStringLiteral("Co budete potřebovat")},
-                                        {9170, QStringLiteral("První bok")},
-                                        {32500, QStringLiteral("Druhý bok")}};
+    const std::vector<Chapter> expected{
+        {0, u"Co budete potřebovat"_s}, {9170, u"První bok"_s}, {32500, u"Druhý bok"_s}};
     ASSERT_EQ(film.all(), expected);
     EXPECT_EQ(film.titleAt(9169), expected[0].title);
     EXPECT_EQ(film.titleAt(9170), expected[1].title) << "a chapter begins where it says";
@@ -63,7 +62,7 @@ TEST(ChaptersTest, AFileThatIsNoneIsNoChapters) {
     };
     EXPECT_EQ(Chapters::read(write("1.KAP", kThree)).all().size(), 3U);
     EXPECT_TRUE(Chapters::read(write("2.KAP", kThree + QByteArray(100000, '\n'))).isEmpty());
-    EXPECT_TRUE(Chapters::read(folder.filePath(QStringLiteral("3.KAP"))).isEmpty());
+    EXPECT_TRUE(Chapters::read(folder.filePath(u"3.KAP"_s)).isEmpty());
     EXPECT_TRUE(Chapters::read(folder.path()).isEmpty());
     EXPECT_TRUE(Chapters::read({}).isEmpty());
 }

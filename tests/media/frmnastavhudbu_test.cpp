@@ -17,12 +17,10 @@ class SettingsTest : public MediaFixture {
         form = new frmNastavHudbu(run);
         form->Zobraz();
     }
-    CheckBox* box(int i) { return form->findChild<CheckBox*>(QStringLiteral("chkNastav(%1)").arg(i)); }
-    OptionButton* track(int i) {
-        return form->findChild<OptionButton*>(QStringLiteral("opthudba(%1)").arg(i));
-    }
+    CheckBox* box(int i) { return form->findChild<CheckBox*>(u"chkNastav(%1)"_s.arg(i)); }
+    OptionButton* track(int i) { return form->findChild<OptionButton*>(u"opthudba(%1)"_s.arg(i)); }
     void click(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton); }
-    void confirm(int i = 0) { click(form->findChild<QWidget*>(QStringLiteral("cmdOkEnd(%1)").arg(i))); }
+    void confirm(int i = 0) { click(form->findChild<QWidget*>(u"cmdOkEnd(%1)"_s.arg(i))); }
     QString stored() {
         QString bits;
         for (const SoundSetting& setting : readSoundSettings(run.database)) bits += setting.on ? u'1' : u'0';
@@ -38,15 +36,15 @@ class SettingsTest : public MediaFixture {
 };
 
 TEST_F(SettingsTest, CaptionsTellTheState) {
-    EXPECT_EQ(box(0)->caption(), QStringLiteral("Efekty - Zapnuto"));
-    EXPECT_EQ(box(2)->caption(), QStringLiteral("Názvy - Vypnuto"));
+    EXPECT_EQ(box(0)->caption(), u"Efekty - Zapnuto"_s);
+    EXPECT_EQ(box(2)->caption(), u"Názvy - Vypnuto"_s);
     click(box(2));
     click(box(0));
-    EXPECT_EQ(box(2)->caption(), QStringLiteral("Názvy - Zapnuto"));
-    EXPECT_EQ(box(0)->caption(), QStringLiteral("Efekty - Vypnuto"));
+    EXPECT_EQ(box(2)->caption(), u"Názvy - Zapnuto"_s);
+    EXPECT_EQ(box(0)->caption(), u"Efekty - Vypnuto"_s);
     EXPECT_TRUE(track(0)->isChecked());
     confirm(1);
-    EXPECT_EQ(stored(), QStringLiteral("11010")) << "Storno stores nothing";
+    EXPECT_EQ(stored(), u"11010"_s) << "Storno stores nothing";
     EXPECT_TRUE(run.SoundFlags[kEffects]);
     EXPECT_EQ(run.FormStack.top(), below);
 }
@@ -70,7 +68,7 @@ TEST_F(SettingsTest, MusicStopsAndStartsAtOnce) {
     EXPECT_FALSE(box(4)->isEnabled());
     confirm();
     EXPECT_EQ(run.player.commands, commands({"stop"}));
-    EXPECT_EQ(stored(), QStringLiteral("10010"));
+    EXPECT_EQ(stored(), u"10010"_s);
     open();
     click(box(1));
     EXPECT_TRUE(track(1)->isEnabled());
@@ -82,9 +80,8 @@ TEST_F(SettingsTest, MusicStopsAndStartsAtOnce) {
     EXPECT_TRUE(box(4)->isChecked()) << "the switch mirrors the choice";
     confirm();
     EXPECT_EQ(run.player.commands,
-              (QStringList{QStringLiteral("stop"), QStringLiteral("close"),
-                           QStringLiteral("open ") + path("zvuky/Vina.WAV"), QStringLiteral("play")}));
-    EXPECT_EQ(stored(), QStringLiteral("11011"));
+              (QStringList{u"stop"_s, u"close"_s, u"open "_s + path("zvuky/Vina.WAV"), u"play"_s}));
+    EXPECT_EQ(stored(), u"11011"_s);
     EXPECT_TRUE(run.SoundFlags[kWineSounds]);
     open();
     click(box(4));
@@ -92,17 +89,17 @@ TEST_F(SettingsTest, MusicStopsAndStartsAtOnce) {
 }
 
 TEST_F(SettingsTest, ATrackThatCannotBeOpenedIsReportedAndTheSwitchesAreKept) {
-    run.player.failing[QStringLiteral("open")] = MediaError::InvalidFile;
+    run.player.failing[u"open"_s] = MediaError::InvalidFile;
     click(track(1));
     click(box(2));
     confirm();
-    EXPECT_EQ(run.messages, QStringList{QStringLiteral("16: ") + mediaErrorText(MediaError::InvalidFile)});
-    EXPECT_FALSE(run.player.commands.contains(QStringLiteral("play")));
-    EXPECT_EQ(stored(), QStringLiteral("11111"));
+    EXPECT_EQ(run.messages, QStringList{u"16: "_s + mediaErrorText(MediaError::InvalidFile)});
+    EXPECT_FALSE(run.player.commands.contains(u"play"_s));
+    EXPECT_EQ(stored(), u"11111"_s);
 }
 
 TEST_F(SettingsTest, ATrackFoundBrokenLaterIsReportedThenAndOnlyOnce) {
-    const auto told = QStringLiteral("16: ") + mediaErrorText(MediaError::InvalidFile);
+    const auto told = u"16: "_s + mediaErrorText(MediaError::InvalidFile);
     run.player.opensLater = true;
     click(track(1));
     confirm();
@@ -129,18 +126,18 @@ TEST_F(SettingsTest, AMissingTrackIsReportedByThePlayerThatLooksForIt) {
     QFile::remove(path("zvuky/Vina.WAV"));
     click(track(1));
     confirm();
-    EXPECT_TRUE(run.player.fileName().endsWith(QStringLiteral("zvuky\\vina.wav")));
+    EXPECT_TRUE(run.player.fileName().endsWith(u"zvuky\\vina.wav"_s));
 }
 
 TEST_F(SettingsTest, AShortTableIsReadAsFarAsItGoes) {
     confirm(1);
-    run.database.Execute(QStringLiteral("DELETE * FROM Nastav WHERE ID > 2"));
+    run.database.Execute(u"DELETE * FROM Nastav WHERE ID > 2"_s);
     open();
     EXPECT_TRUE(box(1)->isVisible());
     EXPECT_FALSE(box(2)->isVisible());
     click(box(0));
     confirm();
-    EXPECT_EQ(stored(), QStringLiteral("01"));
+    EXPECT_EQ(stored(), u"01"_s);
 }
 
 TEST_F(SettingsTest, OpensWithTheTrackThatIsChosen) {
@@ -155,13 +152,13 @@ TEST_F(SettingsTest, SaysWhatIsMissing) {
     const auto said = [&] { return child<Label>(*form, "lblChybi")->text(); };
     EXPECT_EQ(said(), QString());
     confirm(1);
-    run.MediaRoot = QStringLiteral("Q:\\");
+    run.MediaRoot = u"Q:\\"_s;
     open();
-    EXPECT_TRUE(said().contains(QStringLiteral("Složka s hudbou")));
+    EXPECT_TRUE(said().contains(u"Složka s hudbou"_s));
     confirm(1);
     run.database.Close();
     open();
-    EXPECT_TRUE(said().contains(QStringLiteral("Kuchařku se nepodařilo otevřít")));
+    EXPECT_TRUE(said().contains(u"Kuchařku se nepodařilo otevřít"_s));
 }
 
 TEST_F(SettingsTest, ByKeyboardAlone) {
@@ -173,7 +170,7 @@ TEST_F(SettingsTest, ByKeyboardAlone) {
     press(Qt::Key_Return);
     EXPECT_TRUE(form->isLoaded()) << "Enter on a check box does what a click does";
     press(Qt::Key_N);
-    EXPECT_EQ(stored(), QStringLiteral("01110"));
+    EXPECT_EQ(stored(), u"01110"_s);
     open();
     press(Qt::Key_F4);  // does not open itself again
     press(Qt::Key_Escape);

@@ -16,7 +16,7 @@ class VideoTest : public MediaFixture {
         form->Zobraz(std::int16_t(number));
     }
     void start() { form->findChild<Timer*>()->fire(); }
-    Button* button(int i) { return form->findChild<Button*>(QStringLiteral("ImgTlacitko(%1)").arg(i)); }
+    Button* button(int i) { return form->findChild<Button*>(u"ImgTlacitko(%1)"_s.arg(i)); }
     void click(int i) { QTest::mouseClick(button(i), Qt::LeftButton); }
     QString status() { return child<Label>(*form, "Label1")->text(); }
 
@@ -28,23 +28,21 @@ class VideoTest : public MediaFixture {
 TEST_F(VideoTest, PlaysAndGivesTheMusicBack) {
     playMusic();
     open();
-    EXPECT_EQ(status(), QStringLiteral("Chvilku prosím počkejte, otevírám soubor s videem...."));
+    EXPECT_EQ(status(), u"Chvilku prosím počkejte, otevírám soubor s videem...."_s);
     EXPECT_FALSE(run.player.playing());
     EXPECT_TRUE(player->commands.isEmpty()) << "the form shows before the file is opened";
     start();
-    EXPECT_EQ(player->commands,
-              (QStringList{QStringLiteral("open ") + path("VIDEO/3.AVI"), QStringLiteral("play")}));
-    EXPECT_EQ(status(), QStringLiteral("Přehrávám"));
+    EXPECT_EQ(player->commands, (QStringList{u"open "_s + path("VIDEO/3.AVI"), u"play"_s}));
+    EXPECT_EQ(status(), u"Přehrávám"_s);
     EXPECT_EQ(button(1)->frame(), Button::Frame::Pressed);
     EXPECT_EQ(run.awake.size(), 1);
     player->end();
-    EXPECT_EQ(status(), QStringLiteral("Přehrávání skončeno"));
+    EXPECT_EQ(status(), u"Přehrávání skončeno"_s);
     EXPECT_EQ(button(1)->frame(), Button::Frame::Raised);
     click(1);
     EXPECT_TRUE(player->playing()) << "a clip that has ended plays again";
     press(Qt::Key_Escape);
-    EXPECT_EQ(player->commands.mid(player->commands.size() - 2),
-              (QStringList{QStringLiteral("stop"), QStringLiteral("close")}));
+    EXPECT_EQ(player->commands.mid(player->commands.size() - 2), (QStringList{u"stop"_s, u"close"_s}));
     EXPECT_TRUE(run.player.playing());
     EXPECT_EQ(run.awake.last(), QString());
     EXPECT_EQ(run.FormStack.top(), below);
@@ -53,9 +51,9 @@ TEST_F(VideoTest, PlaysAndGivesTheMusicBack) {
 TEST_F(VideoTest, TheTitleStandsThereAsTheMenuHasIt) {
     for (const char* row :
          {"('181', 'Jak rybu obalit', '13')", "('182', 'Jak vykrojit filety', '3')", "('53', 'Pečeně', '3')"})
-        run.database.Execute(QStringLiteral("INSERT INTO Menu VALUES ") + QLatin1String(row));
+        run.database.Execute(u"INSERT INTO Menu VALUES "_s + QLatin1String(row));
     open(3);
-    EXPECT_EQ(child<Label>(*form, "lblNazev")->text(), QStringLiteral("Jak vykrojit filety"));
+    EXPECT_EQ(child<Label>(*form, "lblNazev")->text(), u"Jak vykrojit filety"_s);
     press(Qt::Key_Escape);
     open(4);
     EXPECT_EQ(child<Label>(*form, "lblNazev")->text(), QString()) << "a film that no menu knows";
@@ -99,12 +97,11 @@ TEST_F(VideoTest, TransportButtons) {
     EXPECT_EQ(player->mode(), MediaMode::Stopped);
     player->commands.clear();
     click(3);
-    EXPECT_EQ(player->commands, QStringList{QStringLiteral("pause")}) << "a stopped clip stays so";
+    EXPECT_EQ(player->commands, QStringList{u"pause"_s}) << "a stopped clip stays so";
     EXPECT_EQ(player->mode(), MediaMode::Stopped);
     player->commands.clear();
     for (const int i : {4, 5, 1}) click(i);
-    EXPECT_EQ(player->commands, (QStringList{QStringLiteral("prev"), QStringLiteral("next"),
-                                             QStringLiteral("prev"), QStringLiteral("play")}));
+    EXPECT_EQ(player->commands, (QStringList{u"prev"_s, u"next"_s, u"prev"_s, u"play"_s}));
     player->setPosition(20000);
     press(Qt::Key_Left);
     EXPECT_EQ(player->position(), 15000);
@@ -127,19 +124,17 @@ TEST_F(VideoTest, StepsByChapter) {
     open();
     start();
     const auto title = [&] { return child<Label>(*form, "lblKapitola")->text(); };
-    const auto chapter = [&](int i) {
-        return child<Button>(*form, qPrintable(QStringLiteral("imgKapitola(%1)").arg(i)));
-    };
+    const auto chapter = [&](int i) { return child<Button>(*form, qPrintable(u"imgKapitola(%1)"_s.arg(i))); };
     press(Qt::Key_PageDown);
     EXPECT_EQ(player->position(), 10500);
-    EXPECT_EQ(title(), QStringLiteral("Řez"));
+    EXPECT_EQ(title(), u"Řez"_s);
     QTest::mouseClick(chapter(2), Qt::LeftButton);
     EXPECT_EQ(player->position(), 40000);
     press(Qt::Key_PageUp);
     EXPECT_EQ(player->position(), 10500);
     QTest::mouseClick(chapter(0), Qt::LeftButton);
     EXPECT_EQ(player->position(), 0);
-    EXPECT_EQ(title(), QStringLiteral("Příprava"));
+    EXPECT_EQ(title(), u"Příprava"_s);
     EXPECT_TRUE(player->playing());
 
     player->setPosition(30000);
@@ -149,7 +144,7 @@ TEST_F(VideoTest, StepsByChapter) {
     press(Qt::Key_J);
     EXPECT_EQ(player->position(), 40000) << "at the end, the last one";
     EXPECT_TRUE(player->playing());
-    EXPECT_EQ(status(), QStringLiteral("Přehrávám"));
+    EXPECT_EQ(status(), u"Přehrávám"_s);
 
     auto* bar = form->findChild<SeekBar*>();
     const auto markAt = [&](qint64 position) {
@@ -158,7 +153,7 @@ TEST_F(VideoTest, StepsByChapter) {
         return QPoint(-1, -1);
     };
     QTest::mouseMove(bar, markAt(40000) + QPoint(1, 0));
-    EXPECT_EQ(bar->toolTip(), QStringLiteral("Konec díla"));
+    EXPECT_EQ(bar->toolTip(), u"Konec díla"_s);
     QTest::mouseClick(bar, Qt::LeftButton, {}, markAt(10500) + QPoint(1, 0));
     EXPECT_EQ(player->position(), 10500) << "a mark leads to its chapter's beginning";
 }
@@ -190,12 +185,12 @@ TEST_F(VideoTest, PlaysSlowlyAndAsBefore) {
 
 TEST_F(VideoTest, SoundIsKeptForTheNextClip) {
     open();
-    EXPECT_EQ(button(0)->toolTip(), QStringLiteral("Vypnout zvuk"));
+    EXPECT_EQ(button(0)->toolTip(), u"Vypnout zvuk"_s);
     start();
     EXPECT_EQ(player->sound, MediaSound::On);
     click(0);
     EXPECT_EQ(player->sound, MediaSound::Silent);
-    EXPECT_EQ(button(0)->toolTip(), QStringLiteral("Zapnout zvuk"));
+    EXPECT_EQ(button(0)->toolTip(), u"Zapnout zvuk"_s);
     press(Qt::Key_Escape);
     open();
     start();
@@ -213,16 +208,14 @@ TEST_F(VideoTest, WhatCannotBePlayedIsReportedAndTheScreenCloses) {
         run.messages.clear();
         open();
         start();
-        EXPECT_EQ(run.messages,
-                  QStringList{QStringLiteral("16: ") + mediaErrorText(MediaError::InvalidFile)});
+        EXPECT_EQ(run.messages, QStringList{u"16: "_s + mediaErrorText(MediaError::InvalidFile)});
         EXPECT_EQ(run.FormStack.top(), below);
     }
     failing.clear();
     run.messages.clear();
     open(99);
     start();
-    EXPECT_EQ(player->commands.value(0),
-              QStringLiteral("open ") + run.MediaRoot + QStringLiteral("VIDEO\\99.AVI"))
+    EXPECT_EQ(player->commands.value(0), u"open "_s + run.MediaRoot + u"VIDEO\\99.AVI"_s)
         << "the player says that there is no such file";
     EXPECT_EQ(player->wait, MediaWait::DontWait);
     player->lastCode = MediaError::InvalidFile;
@@ -263,7 +256,7 @@ TEST_F(VideoTest, LeavingBeforeTheFileIsOpenOpensNothing) {
 TEST_F(VideoTest, SettingsOverAVideoKeepTheKeyboard) {
     open();
     start();
-    auto* settings = new Form(run, QStringLiteral("frmNastavHudbu"));
+    auto* settings = new Form(run, u"frmNastavHudbu"_s);
     settings->place({3000, 2100, 6000, 4800});
     run.PushScreen(*settings);
     settings->showForm();

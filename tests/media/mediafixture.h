@@ -21,9 +21,8 @@ class MediaFixture : public testing::Test {
             ASSERT_TRUE(made.open(QIODevice::WriteOnly));
         }
         const QString database = path("Sarne.drc");
-        test::writeRecipeDatabase(database,
-                                  {QStringLiteral("INSERT INTO Nastav VALUES (1,'Efekty',1),(2,'Hudba',1),"
-                                                  "(3,'Názvy',0),(4,'Videa',1),(5,'Vína',0)")});
+        test::writeRecipeDatabase(database, {u"INSERT INTO Nastav VALUES (1,'Efekty',1),(2,'Hudba',1),"
+                                             "(3,'Názvy',0),(4,'Videa',1),(5,'Vína',0)"_s});
         ASSERT_TRUE(run.database.Open(database));
         run.MediaRoot = LogicalPaths::fromNativeFolder(disc.path());
         run.SoundFlags = {true, true, false, true, false};
@@ -41,7 +40,7 @@ class MediaFixture : public testing::Test {
 
     QTemporaryDir disc;
     FakeSarne run;
-    Form* below = new Form(run, QStringLiteral("frmHlavni"));
+    Form* below = new Form(run, u"frmHlavni"_s);
 };
 
 }  // namespace sarne

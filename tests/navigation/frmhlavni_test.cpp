@@ -14,19 +14,18 @@ class MainScreenTest : public MenuFixture {
   protected:
     /// Animations of three frames for the buttons 3 and 4, one colour each, and an effect for each button.
     void writeResources() {
-        QDir(folder.path()).mkpath(QStringLiteral("pohyby"));
-        QDir(folder.path()).mkpath(QStringLiteral("zvuky"));
+        QDir(folder.path()).mkpath(u"pohyby"_s);
+        QDir(folder.path()).mkpath(u"zvuky"_s);
         for (int button : {3, 4}) {
             for (int frame = 1; frame <= 3; ++frame) {
                 QImage image(40, 40, QImage::Format_RGB32);
                 image.fill(QColor(80 * frame, 0, 10 * button));
-                image.save(folder.filePath(QStringLiteral("pohyby/%1-%2.png")
-                                               .arg(button, 2, 10, QLatin1Char('0'))
+                image.save(folder.filePath(u"pohyby/%1-%2.png"_s.arg(button, 2, 10, QLatin1Char('0'))
                                                .arg(frame, 2, 10, QLatin1Char('0'))));
             }
         }
         for (int i = 0; i < 19; ++i) {
-            QFile effect(folder.filePath(QStringLiteral("zvuky/%1.wav").arg(i + 101)));
+            QFile effect(folder.filePath(u"zvuky/%1.wav"_s.arg(i + 101)));
             ASSERT_TRUE(effect.open(QIODevice::WriteOnly));
             effect.write(QByteArray("effect ") + QByteArray::number(i));
         }
@@ -37,7 +36,7 @@ class MainScreenTest : public MenuFixture {
         main->Zobraz();
         timer = main->findChild<Timer*>();
     }
-    QWidget* button(int i) { return main->findChild<QWidget*>(QStringLiteral("imgClick(%1)").arg(i)); }
+    QWidget* button(int i) { return main->findChild<QWidget*>(u"imgClick(%1)"_s.arg(i)); }
     void moveOver(int i) { QTest::mouseMove(button(i), button(i)->rect().center()); }
     int redAt(int i) {
         const QPoint at = button(i)->geometry().topLeft() + QPoint(5, 5);
@@ -66,7 +65,7 @@ TEST_F(MainScreenTest, HoverPlaysTheAnimationAndItsEffectOnce) {
     const int stops = run.sounds.stops;
     moveOver(4);
     EXPECT_EQ(run.sounds.stops, stops + 1) << "the first button ends before the second begins";
-    EXPECT_EQ(timer->tag(), QStringLiteral("0"));
+    EXPECT_EQ(timer->tag(), u"0"_s);
     EXPECT_EQ(run.sounds.played.last(), QByteArray("effect 4"));
     timer->fire();
     EXPECT_NE(redAt(3), 80);
@@ -81,7 +80,7 @@ TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
     start();
     EXPECT_TRUE(run.player.commands.isEmpty());
     for (const char* track : {"HUDBA.WAV", "zvuky/vina.wav"}) {
-        QDir(folder.path()).mkpath(QStringLiteral("zvuky"));
+        QDir(folder.path()).mkpath(u"zvuky"_s);
         QFile file(folder.filePath(QLatin1String(track)));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
@@ -90,9 +89,7 @@ TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
     FakeSarne& other = run;
     other.player.commands.clear();
     start();
-    EXPECT_EQ(run.player.commands,
-              (QStringList{QStringLiteral("open ") + folder.filePath(QStringLiteral("HUDBA.WAV")),
-                           QStringLiteral("play")}));
+    EXPECT_EQ(run.player.commands, (QStringList{u"open "_s + folder.filePath(u"HUDBA.WAV"_s), u"play"_s}));
     run.player.end();
     EXPECT_TRUE(run.player.playing());
     EXPECT_EQ(run.player.position(), 0);
@@ -100,11 +97,11 @@ TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
     EXPECT_FALSE(run.player.playing()) << "only a track that ended starts again";
     run.SoundFlags[kWineSounds] = true;
     start();
-    EXPECT_EQ(run.player.fileName(), folder.filePath(QStringLiteral("zvuky/vina.wav")));
+    EXPECT_EQ(run.player.fileName(), folder.filePath(u"zvuky/vina.wav"_s));
     QFile::remove(run.player.fileName());
-    run.player.failing[QStringLiteral("open")] = MediaError::FileNotFound;
+    run.player.failing[u"open"_s] = MediaError::FileNotFound;
     start();
-    EXPECT_EQ(run.player.fileName(), run.MediaRoot + QStringLiteral("zvuky\\vina.wav"))
+    EXPECT_EQ(run.player.fileName(), run.MediaRoot + u"zvuky\\vina.wav"_s)
         << "the player is told what it does not find";
     run.player.failing.clear();
     run.player.opensLater = true;
@@ -116,8 +113,8 @@ TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
 
 TEST_F(MainScreenTest, ThingsAreNamedAsTheMenusTheyOpen) {
     start();
-    EXPECT_EQ(button(2)->accessibleName(), QStringLiteral("Sladkovodní ryby"));
-    EXPECT_EQ(button(18)->accessibleName(), QStringLiteral("Kuchání")) << "without a heading: the first item";
+    EXPECT_EQ(button(2)->accessibleName(), u"Sladkovodní ryby"_s);
+    EXPECT_EQ(button(18)->accessibleName(), u"Kuchání"_s) << "without a heading: the first item";
     for (int step = 0; step < 19; ++step) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(run.window.namePlate().text(), QApplication::focusWidget()->accessibleName());
@@ -166,13 +163,13 @@ TEST_F(MainScreenTest, ButtonsByKeyboard) {
     EXPECT_EQ(run.exits, 2);
     moveOver(7);
     press(Qt::Key_Space);
-    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("showMusicSettings")});
+    EXPECT_EQ(run.recorded.calls, QStringList{u"showMusicSettings"_s});
     moveOver(3);
     press(Qt::Key_Return);
     EXPECT_TRUE(main->isMenuOpen());
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    EXPECT_TRUE(run.recorded.calls.contains(QStringLiteral("showList 7,9, recepty")));
+    EXPECT_TRUE(run.recorded.calls.contains(u"showList 7,9, recepty"_s));
 }
 
 TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
@@ -190,7 +187,7 @@ TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
         return moved;
     };
     EXPECT_TRUE(moves());
-    auto* above = new Form(run, QStringLiteral("frmSeznam"));
+    auto* above = new Form(run, u"frmSeznam"_s);
     run.PushScreen(*above);
     life->fire();
     EXPECT_FALSE(moves()) << "another screen is on top";
@@ -205,7 +202,7 @@ TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
 
 TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
     start();
-    auto* top = new Form(run, QStringLiteral("frmSeznam"));
+    auto* top = new Form(run, u"frmSeznam"_s);
     moveOver(2);
     QTest::mouseClick(button(2), Qt::LeftButton);
     run.PushScreen(*top);
@@ -220,7 +217,7 @@ TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
 
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    auto* other = new Form(run, QStringLiteral("frmSponzor"));
+    auto* other = new Form(run, u"frmSponzor"_s);
     run.PushScreen(*other);
     other->showForm();
     main->SkryjMenu();

@@ -21,11 +21,9 @@ class MenuFormTest : public MenuFixture {
         while (level->child()) level = level->child();
         return level;
     }
-    Label* label(frmMenu* level, int k) {
-        return level->findChild<Label*>(QStringLiteral("lblOdkaz(%1)").arg(k));
-    }
+    Label* label(frmMenu* level, int k) { return level->findChild<Label*>(u"lblOdkaz(%1)"_s.arg(k)); }
     void clickButton(int i) {
-        QTest::mouseClick(main->findChild<QWidget*>(QStringLiteral("imgClick(%1)").arg(i)), Qt::LeftButton);
+        QTest::mouseClick(main->findChild<QWidget*>(u"imgClick(%1)"_s.arg(i)), Qt::LeftButton);
     }
     void key(Qt::Key k) { QTest::keyClick(QApplication::focusWidget(), k); }
     void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text)); }
@@ -41,19 +39,18 @@ class MenuFormTest : public MenuFixture {
 TEST_F(MenuFormTest, CascadesByMouseAndClosesByTheBackground) {
     clickButton(2);
     EXPECT_TRUE(main->isMenuOpen());
-    EXPECT_FALSE(main->findChild<QWidget*>(QStringLiteral("imgClick(3)"))->isEnabled());
+    EXPECT_FALSE(main->findChild<QWidget*>(u"imgClick(3)"_s)->isEnabled());
     QTest::mouseClick(label(main->menu(), 1), Qt::LeftButton);
     QTest::mouseClick(label(deepest(), 2), Qt::LeftButton);
-    EXPECT_EQ(codes(), (QStringList{QStringLiteral("2"), QStringLiteral("21"), QStringLiteral("212")}));
+    EXPECT_EQ(codes(), (QStringList{u"2"_s, u"21"_s, u"212"_s}));
     EXPECT_EQ(deepest()->depth(), 2);
     QTest::mouseClick(label(main->menu(), 2), Qt::LeftButton);
-    EXPECT_EQ(codes(), (QStringList{QStringLiteral("2"), QStringLiteral("22")}))
-        << "the other submenu replaced it";
+    EXPECT_EQ(codes(), (QStringList{u"2"_s, u"22"_s})) << "the other submenu replaced it";
     const QPoint background(10, 500);
     QTest::mouseClick(main, Qt::LeftButton, {}, background);
     EXPECT_FALSE(main->isMenuOpen());
     EXPECT_FALSE(main->menu()->isVisible());
-    EXPECT_TRUE(main->findChild<QWidget*>(QStringLiteral("imgClick(3)"))->isEnabled());
+    EXPECT_TRUE(main->findChild<QWidget*>(u"imgClick(3)"_s)->isEnabled());
 }
 
 TEST_F(MenuFormTest, RestingOpensSubmenusAndNeverActs) {
@@ -62,7 +59,7 @@ TEST_F(MenuFormTest, RestingOpensSubmenusAndNeverActs) {
     QTest::mouseMove(label(main->menu(), 1), {5, 5});
     EXPECT_EQ(timer->interval(), 400);
     timer->fire();
-    EXPECT_EQ(codes(), (QStringList{QStringLiteral("2"), QStringLiteral("21")}));
+    EXPECT_EQ(codes(), (QStringList{u"2"_s, u"21"_s}));
     QTest::mouseMove(main->menu(), {3, 3});
     EXPECT_FALSE(timer->isEnabled()) << "off the labels nothing opens";
     QTest::mouseClick(label(main->menu(), 2), Qt::LeftButton);
@@ -71,29 +68,28 @@ TEST_F(MenuFormTest, RestingOpensSubmenusAndNeverActs) {
     leaf->findChild<Timer*>()->fire();
     EXPECT_TRUE(run.recorded.calls.isEmpty());
     QTest::mouseClick(label(leaf, 1), Qt::LeftButton);
-    EXPECT_EQ(run.recorded.calls,
-              (QStringList{QStringLiteral("showList 6, recepty"), QStringLiteral("returnToMain")}));
+    EXPECT_EQ(run.recorded.calls, (QStringList{u"showList 6, recepty"_s, u"returnToMain"_s}));
 }
 
 TEST_F(MenuFormTest, ThreeLevelsDeepAndBackByKeyboard) {
     clickButton(2);
     for (const Qt::Key k : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right}) key(k);
-    EXPECT_EQ(codes(), (QStringList{QStringLiteral("2"), QStringLiteral("21"), QStringLiteral("211")}));
+    EXPECT_EQ(codes(), (QStringList{u"2"_s, u"21"_s, u"211"_s}));
     EXPECT_EQ(deepest()->selected(), 1);
     key(Qt::Key_Down);
     key(Qt::Key_Down);
     EXPECT_EQ(deepest()->selected(), 1) << "round the end";
     key(Qt::Key_Left);
     key(Qt::Key_Escape);
-    EXPECT_EQ(codes(), QStringList{QStringLiteral("2")});
+    EXPECT_EQ(codes(), QStringList{u"2"_s});
     EXPECT_EQ(main->menu()->selected(), 1);
     type("p");
     EXPECT_EQ(main->menu()->selected(), 2);
     key(Qt::Key_Return);
     key(Qt::Key_Down);
     key(Qt::Key_Return);
-    EXPECT_EQ(run.recorded.calls.first(), QStringLiteral("showList 3, RychleRecepty"));
-    main->menu()->unfold(QStringLiteral("2"), {});
+    EXPECT_EQ(run.recorded.calls.first(), u"showList 3, RychleRecepty"_s);
+    main->menu()->unfold(u"2"_s, {});
     key(Qt::Key_Escape);
     EXPECT_FALSE(main->isMenuOpen());
 }
@@ -109,7 +105,7 @@ TEST_F(MenuFormTest, TypingFindsIngredients) {
     entry->focusAll();
     type("kap");
     key(Qt::Key_Return);
-    ASSERT_EQ(codes(), (QStringList{QStringLiteral("12"), QStringLiteral("0")}));
+    ASSERT_EQ(codes(), (QStringList{u"12"_s, u"0"_s}));
     EXPECT_EQ(deepest()->level().items.size(), 3u);
     key(Qt::Key_Left);
     entry->focusAll();
@@ -126,14 +122,14 @@ TEST_F(MenuFormTest, TypingFindsIngredients) {
     entry->focusAll();
     type("c'x");  // letters that are commands elsewhere
     key(Qt::Key_Return);
-    EXPECT_EQ(deepest()->level().items[0].label, QStringLiteral("Nenalezena žádná surovina"));
+    EXPECT_EQ(deepest()->level().items[0].label, u"Nenalezena žádná surovina"_s);
     QTest::mouseClick(label(deepest(), 1), Qt::LeftButton);
     EXPECT_TRUE(run.recorded.calls.isEmpty());
     entry->focusAll();
     type("kapr");
     key(Qt::Key_Return);
     key(Qt::Key_Return);
-    EXPECT_EQ(run.recorded.calls.first(), QStringLiteral("showList 3,2,1, recepty"));
+    EXPECT_EQ(run.recorded.calls.first(), u"showList 3,2,1, recepty"_s);
 }
 
 TEST_F(MenuFormTest, SharedLettersStayCommands) {
@@ -146,7 +142,7 @@ TEST_F(MenuFormTest, SharedLettersStayCommands) {
 
 TEST_F(MenuFormTest, RestingOpensTheSubmenuOfAnItemThatIsMarkedAlready) {
     clickButton(2);
-    const QStringList open{QStringLiteral("2"), QStringLiteral("21")};
+    const QStringList open{u"2"_s, u"21"_s};
     const auto rest = [&](QPoint at) {
         QTest::mouseMove(label(main->menu(), 1), at);
         main->menu()->findChild<Timer*>()->fire();
@@ -185,9 +181,9 @@ TEST_F(MenuFormTest, AScreenOpenedByAFunctionKeyGivesTheMenuBack) {
     clickButton(2);
     for (const Qt::Key k : {Qt::Key_Down, Qt::Key_Right}) key(k);
     key(Qt::Key_F1);
-    EXPECT_EQ(run.recorded.calls.last(), QStringLiteral("showHelpFor frmMenu"));
+    EXPECT_EQ(run.recorded.calls.last(), u"showHelpFor frmMenu"_s);
     EXPECT_TRUE(deepest()->isVisible()) << "no help came: the menu stays";
-    auto* page = new Form(run, QStringLiteral("frmStranka"));
+    auto* page = new Form(run, u"frmStranka"_s);
     run.PushScreen(*page);
     page->showForm();
     run.PopScreen(*page);
@@ -195,17 +191,17 @@ TEST_F(MenuFormTest, AScreenOpenedByAFunctionKeyGivesTheMenuBack) {
     EXPECT_EQ(codes().size(), 2);
     EXPECT_EQ(QApplication::focusWidget(), deepest());
     EXPECT_EQ(deepest()->selected(), 1);
-    EXPECT_FALSE(main->findChild<QWidget*>(QStringLiteral("imgClick(3)"))->isEnabled());
+    EXPECT_FALSE(main->findChild<QWidget*>(u"imgClick(3)"_s)->isEnabled());
     key(Qt::Key_Escape);
     key(Qt::Key_Escape);
-    EXPECT_TRUE(main->findChild<QWidget*>(QStringLiteral("imgClick(3)"))->isEnabled());
+    EXPECT_TRUE(main->findChild<QWidget*>(u"imgClick(3)"_s)->isEnabled());
 }
 
 TEST_F(MenuFormTest, TrianglesPointWhereTheSubmenuOpens) {
     const auto arrow = [&](int k) { return static_cast<MenuLabel*>(label(main->menu(), k))->arrow(); };
     clickButton(17);
     for (const int x : {100, 7900, 8519}) {
-        main->menu()->unfold(QStringLiteral("17"), {x, 1542, 1, 1});
+        main->menu()->unfold(u"17"_s, {x, 1542, 1, 1});
         for (const int k : {1, 2}) {
             main->menu()->choose(k);
             const bool left = deepest()->twips().left() < main->menu()->twips().left();
@@ -213,7 +209,7 @@ TEST_F(MenuFormTest, TrianglesPointWhereTheSubmenuOpens) {
             EXPECT_EQ(arrow(k), left ? MenuLabel::Arrow::Left : MenuLabel::Arrow::Right) << x;
         }
     }
-    EXPECT_EQ(label(main->menu(), 2)->text(), QStringLiteral("Štika   ")) << "nothing but three blanks more";
+    EXPECT_EQ(label(main->menu(), 2)->text(), u"Štika   "_s) << "nothing but three blanks more";
 }
 
 TEST_F(MenuFormTest, ResultsNeverCoverTheSearchAndSayWhatTheyHold) {
@@ -228,16 +224,15 @@ TEST_F(MenuFormTest, ResultsNeverCoverTheSearchAndSayWhatTheyHold) {
         EXPECT_FALSE(deepest()->twips().intersects(main->menu()->twips())) << text;
         EXPECT_TRUE(main->twips().contains(deepest()->twips() | main->menu()->twips())) << text;
     }
-    EXPECT_TRUE(run.announced.last().contains(QStringLiteral("háčky"))) << "what may help";
+    EXPECT_TRUE(run.announced.last().contains(u"háčky"_s)) << "what may help";
     EXPECT_GT(deepest()->twips().height(), 2 * kMenuLine);
     entry->focusAll();
     type("kap");
     key(Qt::Key_Return);
     const auto note = [&](int k) { return static_cast<MenuLabel*>(label(deepest(), k))->note(); };
-    EXPECT_EQ((QStringList{note(1), note(2), note(3)}),
-              (QStringList{QStringLiteral("3"), QStringLiteral("1"), QStringLiteral("0")}));
-    EXPECT_EQ(label(deepest(), 2)->text(), QStringLiteral("kapary   "));
-    EXPECT_EQ(label(deepest(), 2)->accessibleDescription(), QStringLiteral("1 recept"));
+    EXPECT_EQ((QStringList{note(1), note(2), note(3)}), (QStringList{u"3"_s, u"1"_s, u"0"_s}));
+    EXPECT_EQ(label(deepest(), 2)->text(), u"kapary   "_s);
+    EXPECT_EQ(label(deepest(), 2)->accessibleDescription(), u"1 recept"_s);
     key(Qt::Key_Escape);
     EXPECT_EQ(main->menu()->twips(), home);
 }

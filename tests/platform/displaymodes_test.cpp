@@ -23,8 +23,7 @@ class DisplayModesTest : public testing::Test {
         ASSERT_EQ(current(), full);
     }
     static std::unique_ptr<SystemDisplayModes> modes() {
-        return std::make_unique<SystemDisplayModes>(QStringLiteral(SARNE_DISPLAY_HELPER),
-                                                    QStringLiteral("xcb"));
+        return std::make_unique<SystemDisplayModes>(QStringLiteral(SARNE_DISPLAY_HELPER), u"xcb"_s);
     }
     static QSize current() { return modes()->current(); }
 
@@ -54,10 +53,10 @@ TEST_F(DisplayModesTest, SwitchesAndRestores) {
 
 TEST_F(DisplayModesTest, AKilledHelperIsReplaced) {
     const auto killHelper = [] {
-        QFile children(QStringLiteral("/proc/self/task/%1/children").arg(getpid()));
+        QFile children(u"/proc/self/task/%1/children"_s.arg(getpid()));
         ASSERT_TRUE(children.open(QIODevice::ReadOnly));
         for (const QByteArray& child : children.readAll().split(' ')) {
-            QFile name(QStringLiteral("/proc/%1/comm").arg(QString::fromLatin1(child)));
+            QFile name(u"/proc/%1/comm"_s.arg(QString::fromLatin1(child)));
             if (name.open(QIODevice::ReadOnly) && name.readAll().startsWith("sarne-obnov"))
                 kill(child.toInt(), SIGKILL);
         }
@@ -84,13 +83,13 @@ TEST_F(DisplayModesTest, LeavesWhatTheUserChoseInTheMeantime) {
 
 TEST(DisplayModesElsewhereTest, AHelperThatHangsDoesNotKeepTheProgram) {
     const QTemporaryDir folder;
-    const QString helper = folder.filePath(QStringLiteral("sarne-obnov"));
+    const QString helper = folder.filePath(u"sarne-obnov"_s);
     QFile script(helper);
     ASSERT_TRUE(script.open(QIODevice::WriteOnly));
     script.write("#!/bin/sh\nexec sleep 60\n");
     script.close();
     script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-    auto display = std::make_unique<SystemDisplayModes>(helper, QStringLiteral("xcb"));
+    auto display = std::make_unique<SystemDisplayModes>(helper, u"xcb"_s);
     EXPECT_FALSE(display->setMode(design));
     EXPECT_FALSE(display->canSwitch(design));
     display.reset();  // the test's time limit is the assertion: sixty seconds a helper would be too many
@@ -99,10 +98,9 @@ TEST(DisplayModesElsewhereTest, AHelperThatHangsDoesNotKeepTheProgram) {
 TEST(DisplayModesElsewhereTest, WhereModesCannotBeSwitchedNothingHappens) {
     const QString helper = QStringLiteral(SARNE_DISPLAY_HELPER);
     qputenv("DISPLAY", ":987");
-    SystemDisplayModes cases[] = {SystemDisplayModes(helper, QStringLiteral("wayland")),
-                                  SystemDisplayModes(helper),
-                                  SystemDisplayModes(helper, QStringLiteral("xcb")),
-                                  SystemDisplayModes(QStringLiteral("/nonexistent"), QStringLiteral("xcb"))};
+    SystemDisplayModes cases[] = {SystemDisplayModes(helper, u"wayland"_s), SystemDisplayModes(helper),
+                                  SystemDisplayModes(helper, u"xcb"_s),
+                                  SystemDisplayModes(u"/nonexistent"_s, u"xcb"_s)};
     for (SystemDisplayModes& display : cases) {
         EXPECT_FALSE(display.canSwitch(design));
         EXPECT_FALSE(display.setMode(design));

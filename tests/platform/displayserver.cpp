@@ -10,35 +10,9 @@ namespace sarne {
 
 namespace {
 
-constexpr char serverConfig[] = R"(
-Section "ServerFlags"
-    Option "AutoAddDevices" "false"
-    Option "AutoAddGPU" "false"
-EndSection
-Section "Device"
-    Identifier "card"
-    Driver "dummy"
-    VideoRam 65536
-EndSection
-Section "Monitor"
-    Identifier "monitor"
-    HorizSync 5-1000
-    VertRefresh 5-200
-    Modeline "1920x1080" 148.5 1920 2008 2052 2200 1080 1084 1089 1125
-    Modeline "1024x768" 65 1024 1048 1184 1344 768 771 777 806
-EndSection
-Section "Screen"
-    Identifier "screen"
-    Device "card"
-    Monitor "monitor"
-    DefaultDepth 24
-    SubSection "Display"
-        Depth 24
-        Modes "1920x1080"
-        Virtual 1920 1080
-    EndSubSection
-EndSection
-)";
+bool xrandr(const char* arguments) {
+    return QProcess::execute(QStringLiteral("xrandr"), QString::fromLatin1(arguments).split(u' ')) == 0;
+}
 
 }  // namespace
 
@@ -50,16 +24,13 @@ DisplayServer::~DisplayServer() {
 }
 
 bool DisplayServer::start() {
-    QFile config(folder_.filePath(QStringLiteral("xorg.conf")));
-    if (!config.open(QIODevice::WriteOnly)) return false;
-    config.write(serverConfig);
-    config.close();
+    const QString config = folder_.filePath(QStringLiteral("xorg.conf"));
+    if (!QFile::copy(QStringLiteral(SARNE_XORG_CONF), config)) return false;
     server_.setStandardErrorFile(QProcess::nullDevice());
-    server_.start(
-        QStringLiteral("Xorg"),
-        {QStringLiteral("-noreset"), QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-         QStringLiteral("-config"), config.fileName(), QStringLiteral("-logfile"),
-         folder_.filePath(QStringLiteral("log")), QStringLiteral("-displayfd"), QStringLiteral("1")});
+    server_.start(QStringLiteral("Xorg"),
+                  QStringLiteral("-noreset -nolisten tcp -displayfd 1 -config %1 -logfile %2")
+                      .arg(config, folder_.filePath(QStringLiteral("log")))
+                      .split(u' '));
     QByteArray number;
     const auto answered = [&] {
         number += server_.readAllStandardOutput();
@@ -71,15 +42,11 @@ bool DisplayServer::start() {
 }
 
 bool DisplayServer::addDisplay() {
-    const auto xrandr = [](const char* arguments) {
-        return QProcess::execute(QStringLiteral("xrandr"), QString::fromLatin1(arguments).split(u' ')) == 0;
-    };
     return xrandr("--addmode DUMMY1 1024x768") && xrandr("--output DUMMY1 --mode 1024x768 --pos 1920x0");
 }
 
 bool DisplayServer::removeDisplay() {
-    return QProcess::execute(QStringLiteral("xrandr"), {QStringLiteral("--output"), QStringLiteral("DUMMY1"),
-                                                        QStringLiteral("--off")}) == 0;
+    return xrandr("--output DUMMY1 --off");
 }
 
 QSize DisplayServer::screenSize() {

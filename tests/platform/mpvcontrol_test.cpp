@@ -37,7 +37,7 @@ class MpvControlTest : public testing::Test {
 };
 
 TEST_F(MpvControlTest, PlaysToItsEndAndAgain) {
-    open(media.write(QStringLiteral("a.wav"), sineWav(440, 700)));
+    open(media.write(u"a.wav"_s, sineWav(440, 700)));
     ASSERT_EQ(player.error(), 0) << qPrintable(player.errorMessage());
     EXPECT_EQ(player.mode(), MediaMode::Stopped);
     EXPECT_NEAR(player.length(), 700, 20);
@@ -63,7 +63,7 @@ TEST_F(MpvControlTest, PlaysToItsEndAndAgain) {
 }
 
 TEST_F(MpvControlTest, PausesStopsAndMoves) {
-    open(media.write(QStringLiteral("a.wav"), sineWav(440, 20000)));
+    open(media.write(u"a.wav"_s, sineWav(440, 20000)));
     player.command(u"pause");
     EXPECT_EQ(player.mode(), MediaMode::Stopped);
 
@@ -120,7 +120,7 @@ TEST_F(MpvControlTest, PausesStopsAndMoves) {
 
 TEST_F(MpvControlTest, LoopsWithoutEnding) {
     player.setLoop(MediaLoop::On);
-    open(media.write(QStringLiteral("a.wav"), sineWav(440, 400)));
+    open(media.write(u"a.wav"_s, sineWav(440, 400)));
     player.command(u"play");
     runFor(1500);
     EXPECT_EQ(player.mode(), MediaMode::Playing);
@@ -132,7 +132,7 @@ TEST_F(MpvControlTest, LoopsWithoutEnding) {
 }
 
 TEST_F(MpvControlTest, ALoopWhoseFileIsTakenAwayEnds) {
-    const QString file = media.write(QStringLiteral("a.wav"), sineWav(440, 6000));
+    const QString file = media.write(u"a.wav"_s, sineWav(440, 6000));
     player.setLoop(MediaLoop::On);
     open(file);
     player.command(u"play");
@@ -143,7 +143,7 @@ TEST_F(MpvControlTest, ALoopWhoseFileIsTakenAwayEnds) {
 
 TEST_F(MpvControlTest, OpensWithoutWaiting) {
     player.setWait(MediaWait::DontWait);
-    open(media.write(QStringLiteral("a.wav"), sineWav(440, 300)));
+    open(media.write(u"a.wav"_s, sineWav(440, 300)));
     EXPECT_EQ(player.error(), 0);
     player.command(u"play");
     EXPECT_TRUE(waitForCode(MediaDone::Successful));
@@ -157,17 +157,17 @@ TEST_F(MpvControlTest, OpensWithoutWaiting) {
     EXPECT_TRUE(waitForCode(MediaDone::Successful));
 
     codes.clear();
-    open(media.write(QStringLiteral("b.wav"), "no sound at all"));
+    open(media.write(u"b.wav"_s, "no sound at all"));
     player.command(u"play");
     EXPECT_TRUE(waitForCode(MediaDone::Failed));
     EXPECT_EQ(player.lastError(), MediaError::InvalidFile);
     EXPECT_EQ(player.mode(), MediaMode::NotOpen);
 
-    open(media.path(QStringLiteral("a.wav")));
+    open(media.path(u"a.wav"_s));
     player.command(u"play");
     player.command(u"stop");
     EXPECT_TRUE(waitFor([&] { return player.mode() == MediaMode::Stopped; }));
-    open(media.path(QStringLiteral("a.wav")));  // and leaves while it opens
+    open(media.path(u"a.wav"_s));  // and leaves while it opens
 }
 
 TEST_F(MpvControlTest, CommandsWithoutAFileAreErrors) {
@@ -181,10 +181,10 @@ TEST_F(MpvControlTest, CommandsWithoutAFileAreErrors) {
     EXPECT_EQ(player.error(), 0);
     player.command(u"open");
     EXPECT_EQ(player.lastError(), MediaError::FileNameMissing);
-    open(media.path(QStringLiteral("chybi.wav")));
+    open(media.path(u"chybi.wav"_s));
     EXPECT_EQ(player.lastError(), MediaError::FileNotFound);
-    EXPECT_TRUE(player.errorMessage().contains(QStringLiteral("nenalezen")) ||
-                player.errorMessage().contains(QStringLiteral("nebyl nalezen")));
+    EXPECT_TRUE(player.errorMessage().contains(u"nenalezen"_s) ||
+                player.errorMessage().contains(u"nebyl nalezen"_s));
     player.setPosition(5);
     EXPECT_EQ(player.position(), 0);
 }
@@ -198,8 +198,8 @@ TEST_F(MpvControlTest, ShowsFilmsOfTheDiscsCodecs) {
         {"webm", "-c:v libvpx -c:a libopus -ar 48000"},
         {"mp4", "-c:v libx264 -preset ultrafast -pix_fmt yuv420p -c:a aac"}};
     for (const auto& [ending, codec] : codecs) {
-        const QString name = QStringLiteral("a.%1").arg(QLatin1String(ending));
-        const QString file = media.film(name, 1000, QLatin1String(codec), QStringLiteral("160x120"));
+        const QString name = u"a.%1"_s.arg(QLatin1String(ending));
+        const QString file = media.film(name, 1000, QLatin1String(codec), u"160x120"_s);
         ASSERT_FALSE(file.isEmpty()) << codec;
         frames = 0;
         codes.clear();
@@ -215,7 +215,7 @@ TEST_F(MpvControlTest, ShowsFilmsOfTheDiscsCodecs) {
 }
 
 TEST_F(MpvControlTest, KeepsAFilmsProportions) {
-    open(media.film(QStringLiteral("a.avi"), 400, QStringLiteral("-vf lutrgb=r=255:g=0:b=0 -c:v mjpeg")));
+    open(media.film(u"a.avi"_s, 400, u"-vf lutrgb=r=255:g=0:b=0 -c:v mjpeg"_s));
     ASSERT_EQ(player.error(), 0);
     ASSERT_TRUE(waitFor([&] { return frames > 0; }));
     const QImage wide = player.renderFrame({800, 300});
@@ -236,7 +236,7 @@ TEST_F(MpvControlTest, BrokenFilesAreErrorsAndNothingWorse) {
     const auto films = brokenFilms(media);
     ASSERT_FALSE(films.empty());
     for (const BrokenFilm& broken : films) {
-        open(media.write(QStringLiteral("b.avi"), broken.content));
+        open(media.write(u"b.avi"_s, broken.content));
         EXPECT_EQ(player.lastError(), MediaError::InvalidFile) << broken.what;
         EXPECT_EQ(player.mode(), MediaMode::NotOpen) << broken.what;
         EXPECT_FALSE(player.errorMessage().isEmpty()) << broken.what;
@@ -244,27 +244,26 @@ TEST_F(MpvControlTest, BrokenFilesAreErrorsAndNothingWorse) {
     open(media.path({}));
     EXPECT_EQ(player.lastError(), MediaError::InvalidFile) << "a folder";
 
-    QFile whole(media.film(QStringLiteral("celý.avi"), 1000, QStringLiteral("-c:v mjpeg -c:a pcm_s16le")));
+    QFile whole(media.film(u"celý.avi"_s, 1000, u"-c:v mjpeg -c:a pcm_s16le"_s));
     ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
-    open(media.write(QStringLiteral("b.avi"), whole.read(whole.size() / 2)));  // what is there plays
+    open(media.write(u"b.avi"_s, whole.read(whole.size() / 2)));  // what is there plays
     ASSERT_EQ(player.error(), 0);
     player.command(u"play");
     EXPECT_TRUE(waitFor([&] { return codes.contains(1) || codes.contains(8); }));
 
-    open(media.path(QStringLiteral("celý.avi")));
+    open(media.path(u"celý.avi"_s));
     EXPECT_EQ(player.error(), 0) << "the player still works";
 }
 
 TEST_F(MpvControlTest, AnotherNumberFormatOfTheUserDoesNotMatter) {
     ASSERT_TRUE(std::setlocale(LC_NUMERIC, "cs_CZ.UTF-8") || std::setlocale(LC_NUMERIC, "C.UTF-8"));
-    open(media.write(QStringLiteral("a.wav"), sineWav(440, 300)));
+    open(media.write(u"a.wav"_s, sineWav(440, 300)));
     EXPECT_EQ(player.error(), 0);
 }
 
 TEST(MpvControlUseTest, OpeningAHundredTimesKeepsNothing) {
     const TestMedia media;
-    const QString film =
-        media.film(QStringLiteral("a.avi"), 500, QStringLiteral("-c:v mjpeg -c:a pcm_s16le"));
+    const QString film = media.film(u"a.avi"_s, 500, u"-c:v mjpeg -c:a pcm_s16le"_s);
     const auto round = [&](MpvControl& player) {
         player.setFileName(film);
         player.command(u"open");

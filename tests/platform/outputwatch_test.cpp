@@ -9,10 +9,10 @@ namespace {
 
 using Act = OutputWatch::Act;
 
-const QString kPulse = QStringLiteral("pulse"), kNull = QStringLiteral("null");
-const QStringList kNone{QStringLiteral("auto"), QStringLiteral("alsa")};
-const QStringList kOne = kNone + QStringList{QStringLiteral("pulse/usb")};
-const QStringList kOther = kNone + QStringList{QStringLiteral("pulse/hdmi")};
+const QString kPulse = u"pulse"_s, kNull = u"null"_s;
+const QStringList kNone{u"auto"_s, u"alsa"_s};
+const QStringList kOne = kNone + QStringList{u"pulse/usb"_s};
+const QStringList kOther = kNone + QStringList{u"pulse/hdmi"_s};
 
 TEST(OutputWatchTest, ADeviceThatComesBackIsTriedOnce) {
     OutputWatch watch;
@@ -64,11 +64,11 @@ MpvLibrary fakeLibrary() {
     mpv.setOptionString = [](mpv_handle*, const char*, const char*) { return 0; };
     mpv.setWakeupCallback = [](mpv_handle*, void (*)(void*), void*) {};
     mpv.observeProperty = [](mpv_handle*, uint64_t, const char* name, mpv_format) {
-        asked.lines += QStringLiteral("observe ") + QString::fromUtf8(name);
+        asked.lines += u"observe "_s + QString::fromUtf8(name);
         return 0;
     };
     mpv.unobserveProperty = [](mpv_handle*, uint64_t tag) {
-        asked.lines += QStringLiteral("unobserve %1").arg(tag);
+        asked.lines += u"unobserve %1"_s.arg(tag);
         return 1;
     };
     mpv.commandAsync = [](mpv_handle*, uint64_t, const char** words) {
@@ -107,7 +107,7 @@ void tellDevices(MpvCore& core, const QStringList& names) {
 TEST(OutputWatchTest, ThePlayerIsAskedAccordingly) {
     const auto core = MpvCore::start(fakeLibrary(), [] {});
     ASSERT_TRUE(core);
-    EXPECT_TRUE(asked.lines.contains(QStringLiteral("observe current-ao")));
+    EXPECT_TRUE(asked.lines.contains(u"observe current-ao"_s));
     asked.lines.clear();
     tellOutput(*core, "pulse");
     tellDevices(*core, kOne);
@@ -117,10 +117,9 @@ TEST(OutputWatchTest, ThePlayerIsAskedAccordingly) {
     for (int i = 0; i < 3; ++i) tellDevices(*core, kOne);
     core->followOutput({"audio-device-list", MPV_FORMAT_NONE, nullptr});
     core->followOutput({"current-ao", MPV_FORMAT_NONE, nullptr});
-    EXPECT_EQ(asked.lines,
-              (QStringList{QStringLiteral("observe audio-device-list"), QStringLiteral("ao-reload")}));
+    EXPECT_EQ(asked.lines, (QStringList{u"observe audio-device-list"_s, u"ao-reload"_s}));
     tellOutput(*core, "pulse");
-    EXPECT_EQ(asked.lines.last(), QStringLiteral("unobserve 2"));
+    EXPECT_EQ(asked.lines.last(), u"unobserve 2"_s);
 }
 
 }  // namespace

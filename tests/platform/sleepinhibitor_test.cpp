@@ -23,10 +23,10 @@ class Desktop final : public QObject {
 
   public Q_SLOTS:
     Q_SCRIPTABLE uint Inhibit(const QString&, const QString& reason) {
-        calls.append(QStringLiteral("inhibit ") + reason);
+        calls.append(u"inhibit "_s + reason);
         return 42;
     }
-    Q_SCRIPTABLE void UnInhibit(uint cookie) { calls.append(QStringLiteral("release %1").arg(cookie)); }
+    Q_SCRIPTABLE void UnInhibit(uint cookie) { calls.append(u"release %1"_s.arg(cookie)); }
 };
 
 /// A session bus of the test's own.
@@ -34,8 +34,7 @@ class SleepInhibitorTest : public testing::Test {
   protected:
     static void SetUpTestSuite() {
         bus = new QProcess;
-        bus->start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                                                   QStringLiteral("--print-address=1")});
+        bus->start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
         QByteArray address;
         waitFor([&] {
             address += bus->readAllStandardOutput();
@@ -54,13 +53,12 @@ class SleepInhibitorTest : public testing::Test {
     }
     /// A desktop on a connection of its own, as another program would be.
     void startDesktop() {
-        QDBusConnection own =
-            QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("desktop"));
-        ASSERT_TRUE(own.registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), &desktop,
+        QDBusConnection own = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"desktop"_s);
+        ASSERT_TRUE(own.registerObject(u"/org/freedesktop/ScreenSaver"_s, &desktop,
                                        QDBusConnection::ExportScriptableSlots));
-        ASSERT_TRUE(own.registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
+        ASSERT_TRUE(own.registerService(u"org.freedesktop.ScreenSaver"_s));
     }
-    void TearDown() override { QDBusConnection::disconnectFromBus(QStringLiteral("desktop")); }
+    void TearDown() override { QDBusConnection::disconnectFromBus(u"desktop"_s); }
     bool waitForCalls(const QStringList& calls) {
         return waitFor([&] { return desktop.calls == calls; });
     }
@@ -72,11 +70,11 @@ QProcess* SleepInhibitorTest::bus = nullptr;
 
 TEST_F(SleepInhibitorTest, TheDisplayStaysAwakeFromInhibitToRelease) {
     startDesktop();
-    const QString inhibited = QStringLiteral("inhibit Přehrává se video");
-    const QString released = QStringLiteral("release 42");
+    const QString inhibited = u"inhibit Přehrává se video"_s;
+    const QString released = u"release 42"_s;
     DesktopSleepInhibitor inhibitor;
-    inhibitor.inhibit(QStringLiteral("Přehrává se video"));
-    inhibitor.inhibit(QStringLiteral("Přehrává se video"));
+    inhibitor.inhibit(u"Přehrává se video"_s);
+    inhibitor.inhibit(u"Přehrává se video"_s);
     EXPECT_TRUE(waitForCalls({inhibited}));
     runFor(50);
     inhibitor.release();
@@ -84,14 +82,14 @@ TEST_F(SleepInhibitorTest, TheDisplayStaysAwakeFromInhibitToRelease) {
     EXPECT_TRUE(waitForCalls({inhibited, released}));
 
     desktop.calls.clear();
-    inhibitor.inhibit(QStringLiteral("Přehrává se video"));
+    inhibitor.inhibit(u"Přehrává se video"_s);
     inhibitor.release();  // before the answer
     EXPECT_TRUE(waitForCalls({inhibited, released}));
 
     desktop.calls.clear();
     {
         DesktopSleepInhibitor shortLived;
-        shortLived.inhibit(QStringLiteral("Přehrává se video"));
+        shortLived.inhibit(u"Přehrává se video"_s);
     }
     EXPECT_TRUE(waitForCalls({inhibited, released}));
 }
@@ -100,7 +98,7 @@ TEST_F(SleepInhibitorTest, WithoutADesktopNothingHappens) {
     QElapsedTimer time;
     time.start();
     DesktopSleepInhibitor inhibitor;
-    inhibitor.inhibit(QStringLiteral("video"));
+    inhibitor.inhibit(u"video"_s);
     EXPECT_LT(time.elapsed(), 1000) << "it does not wait for an answer";
     runFor(100);
     inhibitor.release();

@@ -23,7 +23,7 @@ class SoundTest : public testing::Test {
         if (!server.start()) GTEST_SKIP() << "no PulseAudio server could be started";
     }
     void playMusic(int milliseconds, MediaLoop loop) {
-        playMusic(media.write(QStringLiteral("hudba.wav"), sineWav(500, milliseconds)), loop);
+        playMusic(media.write(u"hudba.wav"_s, sineWav(500, milliseconds)), loop);
     }
     void playMusic(const QString& file, MediaLoop loop) {
         music.setFileName(file);
@@ -63,7 +63,7 @@ TEST_F(SoundTest, MusicLoopsWithoutAGapAndStops) {
 // by some milliseconds, which is why the music of a disc is not made so.
 TEST_F(SoundTest, CompressedMusicLoopsWithoutASeam) {
     constexpr double kTone = 100;  // a shift of up to 5 ms can be told
-    const QString whole = media.write(QStringLiteral("cela.wav"), sineWav(kTone, 610));
+    const QString whole = media.write(u"cela.wav"_s, sineWav(kTone, 610));
     for (const auto& [name, exact] :
          {std::pair("hudba.opus", true), {"hudba.flac", true}, {"hudba.ogg", false}}) {
         const QString file = media.path(QLatin1String(name));
@@ -142,7 +142,7 @@ TEST_F(SoundTest, EffectsCutEachOtherOff) {
 }
 
 TEST_F(SoundTest, CompressedEffectsSoundAndTellTheirLength) {
-    const QString whole = media.write(QStringLiteral("cely.wav"), sineWav(1000, 1600));
+    const QString whole = media.write(u"cely.wav"_s, sineWav(1000, 1600));
     MixerEffectPlayer effects;
     for (const char* name : {"cely.wav", "efekt.ogg", "efekt.opus", "efekt.flac"}) {
         const QString file = media.path(QLatin1String(name));

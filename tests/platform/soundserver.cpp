@@ -18,6 +18,10 @@ namespace {
 constexpr int threshold = 100;
 constexpr double perMs = 44.1;
 
+QStringList words(const char* arguments) {
+    return QString::fromLatin1(arguments).split(u' ');
+}
+
 bool sounds(qint16 sample) {
     return std::abs(sample) > threshold;
 }
@@ -110,10 +114,9 @@ bool SoundServer::start() {
     server_.setStandardErrorFile(QProcess::nullDevice());
     server_.start(
         QStringLiteral("pulseaudio"),
-        {QStringLiteral("-n"), QStringLiteral("--daemonize=no"), QStringLiteral("--use-pid-file=no"),
-         QStringLiteral("--exit-idle-time=-1"), QStringLiteral("-L"),
-         QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") + socket,
-         QStringLiteral("-L"), QStringLiteral("module-null-sink sink_name=nahravka")});
+        words("-n --daemonize=no --use-pid-file=no --exit-idle-time=-1 -L") +
+            QStringList{QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") + socket,
+                        QStringLiteral("-L"), QStringLiteral("module-null-sink sink_name=nahravka")});
     if (!server_.waitForStarted() || !waitFor([&] { return QFile::exists(socket); })) return false;
     qputenv("PULSE_SERVER", "unix:" + socket.toUtf8());
     offerByAlsa();
@@ -130,10 +133,9 @@ void SoundServer::offerByAlsa() {
 }
 
 bool SoundServer::startRecording() {
-    recorder_.start(QStringLiteral("parec"),
-                    {QStringLiteral("-d"), QStringLiteral("nahravka.monitor"), QStringLiteral("--raw"),
-                     QStringLiteral("--format=s16le"), QStringLiteral("--rate=44100"),
-                     QStringLiteral("--channels=1"), QStringLiteral("--latency-msec=10")});
+    recorder_.start(
+        QStringLiteral("parec"),
+        words("-d nahravka.monitor --raw --format=s16le --rate=44100 --channels=1 --latency-msec=10"));
     return recorder_.waitForStarted() && waitFor([this] { return recorder_.bytesAvailable() > 0; });
 }
 
@@ -153,15 +155,13 @@ void SoundServer::wake() {
 }
 
 bool SoundServer::pullDevice() {
-    return QProcess::execute(QStringLiteral("pactl"),
-                             {QStringLiteral("unload-module"), QStringLiteral("module-null-sink")}) == 0;
+    return QProcess::execute(QStringLiteral("pactl"), words("unload-module module-null-sink")) == 0;
 }
 
 bool SoundServer::plugDevice() {
     QProcess command;
     command.setStandardOutputFile(QProcess::nullDevice());
-    command.start(QStringLiteral("pactl"), {QStringLiteral("load-module"), QStringLiteral("module-null-sink"),
-                                            QStringLiteral("sink_name=nahravka")});
+    command.start(QStringLiteral("pactl"), words("load-module module-null-sink sink_name=nahravka"));
     if (!command.waitForFinished() || command.exitCode() != 0) return false;
     recorder_.kill();
     recorder_.waitForFinished();

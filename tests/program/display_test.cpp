@@ -21,9 +21,8 @@ class ProgramDisplayTest : public testing::Test {
   protected:
     void SetUp() override {
         if (!server.start()) GTEST_SKIP() << "no X server with the dummy driver could be started";
-        QDir(home.path({})).mkpath(QStringLiteral("App Paths"));
-        home.write(QStringLiteral("App Paths/Dunvik.exe.conf"),
-                   "[General]\nCDPath=" + home.path({}).toUtf8());
+        QDir(home.path({})).mkpath(u"App Paths"_s);
+        home.write(u"App Paths/Dunvik.exe.conf"_s, "[General]\nCDPath=" + home.path({}).toUtf8());
     }
     void TearDown() override {
         program.kill();
@@ -34,20 +33,20 @@ class ProgramDisplayTest : public testing::Test {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
             environment.insert(QLatin1String(name), home.path({}));
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-        environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+        environment.remove(u"WAYLAND_DISPLAY"_s);
         // A sanitizer would make an orderly end of a crash.
-        environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0:handle_segv=0"));
+        environment.insert(u"ASAN_OPTIONS"_s, u"detect_leaks=0:handle_segv=0"_s);
         program.setProcessEnvironment(environment);
         program.start(QStringLiteral(SARNE_PROGRAM), QStringList());
         return program.waitForStarted() && waitFor([&] { return window() == display; }, 20000);
     }
     static QSize mode() {
-        return SystemDisplayModes(QStringLiteral(SARNE_DISPLAY_HELPER), QStringLiteral("xcb")).current();
+        return SystemDisplayModes(QStringLiteral(SARNE_DISPLAY_HELPER), u"xcb"_s).current();
     }
     static QByteArray xdotool(const char* arguments) {
         QProcess tool;
-        tool.start(QStringLiteral("xdotool"), QString::fromLatin1(arguments).split(u' '));
+        tool.start(u"xdotool"_s, QString::fromLatin1(arguments).split(u' '));
         tool.waitForFinished();
         return tool.readAllStandardOutput();
     }

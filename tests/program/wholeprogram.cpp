@@ -17,15 +17,13 @@ namespace {
 void writeResources(const TestMedia& media) {
     QByteArray list = "<RCC><qresource prefix='/'><file alias='layout/hlavni.txt'>" SARNE_LAYOUT "</file>";
     for (const int button : {2, 3, 5}) {
-        const QString effect =
-            media.write(QStringLiteral("%1.wav").arg(button + 101), sineWav(effectTone(button), 2000));
+        const QString effect = media.write(u"%1.wav"_s.arg(button + 101), sineWav(effectTone(button), 2000));
         list +=
             "<file alias='zvuky/" + QByteArray::number(button + 101) + ".wav'>" + effect.toUtf8() + "</file>";
     }
-    const QString file = media.write(QStringLiteral("a.qrc"), list + "</qresource></RCC>");
-    QProcess::execute(QStringLiteral(SARNE_RCC), {QStringLiteral("--binary"), QStringLiteral("-o"),
-                                                  media.path(QStringLiteral("Sarne.rcc")), file});
-    sealFile(media.path(QStringLiteral("Sarne.rcc")));
+    const QString file = media.write(u"a.qrc"_s, list + "</qresource></RCC>");
+    QProcess::execute(QStringLiteral(SARNE_RCC), {u"--binary"_s, u"-o"_s, media.path(u"Sarne.rcc"_s), file});
+    sealFile(media.path(u"Sarne.rcc"_s));
 }
 
 }  // namespace
@@ -34,7 +32,7 @@ WholeProgram::WholeProgram() {
     qputenv("PULSE_SERVER", "unix:/nonexistent/pulse");
     qputenv("ALSA_CONFIG_PATH", "/dev/null");
     writeDisc();
-    settings_.set(QStringLiteral("CDPath"), media.path({}));
+    settings_.set(u"CDPath"_s, media.path({}));
     display_.size = {800, 600};
     QObject::connect(&reader_, &QTimer::timeout, [this] {
         const auto* box = qobject_cast<frmMessage*>(program ? program->stage().modalForm() : nullptr);
@@ -51,22 +49,21 @@ WholeProgram::~WholeProgram() {
 
 void WholeProgram::writeDisc() {
     for (const char* folder : {"zvuky", "VIDEO"}) QDir(media.path({})).mkpath(QLatin1String(folder));
-    media.write(QStringLiteral("HUDBA.WAV"), sineWav(kMusicTone, 1000));
-    media.write(QStringLiteral("zvuky/Vina.WAV"), sineWav(kWineTone, 1000));
-    media.film(QStringLiteral("VIDEO/1.AVI"), 2000, QStringLiteral("-c:v mjpeg -c:a pcm_s16le"));
+    media.write(u"HUDBA.WAV"_s, sineWav(kMusicTone, 1000));
+    media.write(u"zvuky/Vina.WAV"_s, sineWav(kWineTone, 1000));
+    media.film(u"VIDEO/1.AVI"_s, 2000, u"-c:v mjpeg -c:a pcm_s16le"_s);
     writeResources(media);
     test::writeRecipeDatabase(
-        media.path(QStringLiteral("Sarne.drc")),
-        {QStringLiteral("INSERT INTO Nastav VALUES (1,'a',1),(2,'b',1),(3,'c',1),(4,'d',1),(5,'e',0)")});
+        media.path(u"Sarne.drc"_s),
+        {u"INSERT INTO Nastav VALUES (1,'a',1),(2,'b',1),(3,'c',1),(4,'d',1),(5,'e',0)"_s});
 }
 
 void WholeProgram::start(const char* switches) {
     for (int i = 0; switches && i < 5; ++i) {
         Database database;
-        database.Open(media.path(QStringLiteral("Sarne.drc")));
-        database.Execute(QStringLiteral("UPDATE Nastav SET hodnota=%1 WHERE ID=%2")
-                             .arg(QLatin1Char(switches[i]))
-                             .arg(i + 1));
+        database.Open(media.path(u"Sarne.drc"_s));
+        database.Execute(
+            u"UPDATE Nastav SET hodnota=%1 WHERE ID=%2"_s.arg(QLatin1Char(switches[i])).arg(i + 1));
     }
     platform = std::make_unique<SystemPlatform>();
     const PlatformParts system = platform->parts();
@@ -98,7 +95,7 @@ void WholeProgram::click(const char* name) {
 }
 
 void WholeProgram::pointAt(int button) {
-    QWidget* place = control(qPrintable(QStringLiteral("imgClick(%1)").arg(button)));
+    QWidget* place = control(qPrintable(u"imgClick(%1)"_s.arg(button)));
     QTest::mouseMove(place, place->rect().center());
 }
 
@@ -110,7 +107,7 @@ void WholeProgram::set(std::initializer_list<const char*> controls) {
 
 QString WholeProgram::status() {
     const auto* form = top<frmVideo>();
-    return form ? form->findChild<Label*>(QStringLiteral("Label1"))->text() : QString();
+    return form ? form->findChild<Label*>(u"Label1"_s)->text() : QString();
 }
 
 void WholeProgram::showFilm(int number, const QString& expected) {

@@ -45,7 +45,7 @@ class WholeProgram : public testing::Test {
     /// Opens the settings, clicks on \a controls and confirms.
     void set(std::initializer_list<const char*> controls);
     /// Opens the video screen with a film of the disc, and waits for its status to read \a status.
-    void showFilm(int number, const QString& status = QStringLiteral("Přehrávám"));
+    void showFilm(int number, const QString& status = u"Přehrávám"_s);
     QString status();
 
     TestMedia media;

@@ -1,4 +1,8 @@
+#include <gtest/gtest.h>
+
 #include "recipe/recipefixture.h"
+#include "screens/recipe/ingredientcolumns.h"
+#include "screens/recipe/portions.h"
 
 namespace sarne {
 namespace {
@@ -7,36 +11,33 @@ class IngredientPanelTest : public RecipeTest {
   protected:
     IngredientPanelTest() { click("imgBtn(5)"); }
     QString firstLine() { return shown().section(u'\n', 0, 0); }
-    Button::Frame frame(int index) {
-        return at<Button>(qPrintable(QStringLiteral("imgPrepocet(%1)").arg(index))).frame();
-    }
+    Button::Frame frame(int index) { return at<Button>(qPrintable(u"imgPrepocet(%1)"_s.arg(index))).frame(); }
     QString state() { return at<Label>("lblPorce").text(); }
 };
 
 TEST_F(IngredientPanelTest, CutleryForSixRecalculates) {
     click("imgPrepocet(6)");
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 380"));
+    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g): 380"_s);
     EXPECT_EQ(frame(6), Button::Frame::Pressed);
     EXPECT_EQ(frame(4), Button::Frame::Raised);
-    EXPECT_EQ(state(), QStringLiteral("6 porcí\nv gramech"));
-    run.database.Execute(QStringLiteral("UPDATE SpojSur SET MnozstviKg = 500 WHERE ID_Receptu = 5"));
+    EXPECT_EQ(state(), u"6 porcí\nv gramech"_s);
+    run.database.Execute(u"UPDATE SpojSur SET MnozstviKg = 500 WHERE ID_Receptu = 5"_s);
     click("imgPrepocet(6)");
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 380"))
-        << "the same again draws nothing";
+    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g): 380"_s) << "the same again draws nothing";
     click("imgPrepocet(2)");
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 250")) << "always from the database";
+    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g): 250"_s) << "always from the database";
 }
 
 TEST_F(IngredientPanelTest, AnyNumberAlwaysAsks) {
     customPortions = 2.5;
     click("imgPrepocet(10)");
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 160"));
-    EXPECT_EQ(state(), QStringLiteral("2,5 porce\nv gramech"));
+    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g): 160"_s);
+    EXPECT_EQ(state(), u"2,5 porce\nv gramech"_s);
     customPortions = 100;
     click("imgPrepocet(10)");
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 6250"));
+    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g): 6250"_s);
     click("imgKgLzice");
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (kus): 12"));
+    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (kus): 12"_s);
     EXPECT_EQ(prompts.size(), 2) << "the toggle keeps the number";
     EXPECT_EQ(form->cursor().shape(), Qt::ArrowCursor) << "the hourglass is gone";
 }
@@ -48,14 +49,14 @@ TEST_F(IngredientPanelTest, WhoGivesNoNumberKeepsWhatThereIs) {
     EXPECT_EQ(prompts.size(), 1);
     EXPECT_EQ(frame(6), Button::Frame::Pressed);
     EXPECT_EQ(frame(10), Button::Frame::Raised);
-    EXPECT_EQ(state(), QStringLiteral("6 porcí\nv gramech"));
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 380"));
+    EXPECT_EQ(state(), u"6 porcí\nv gramech"_s);
+    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g): 380"_s);
     EXPECT_EQ(form->cursor().shape(), Qt::ArrowCursor);
     customPortions = 3;
     click("imgPrepocet(10)");
     customPortions = 0;
     click("imgPrepocet(10)");
-    EXPECT_EQ(state(), QStringLiteral("3 porce\nv gramech"));
+    EXPECT_EQ(state(), u"3 porce\nv gramech"_s);
 }
 
 TEST_F(IngredientPanelTest, BothUnitsAreFramedAndTheOneInUseIsPressed) {
@@ -65,21 +66,21 @@ TEST_F(IngredientPanelTest, BothUnitsAreFramedAndTheOneInUseIsPressed) {
     EXPECT_EQ(other.frame(), Button::Frame::Raised);
     const QRect weights = current.twips(), spoons = other.twips();
     QTest::mouseClick(&current, Qt::LeftButton);
-    EXPECT_EQ(state(), QStringLiteral("4 porce\nv gramech")) << "the one in use is no switch";
+    EXPECT_EQ(state(), u"4 porce\nv gramech"_s) << "the one in use is no switch";
     click("imgKgLzice");
     EXPECT_EQ(current.twips(), spoons) << "each unit keeps its place";
     EXPECT_EQ(other.twips(), weights);
 }
 
 TEST_F(IngredientPanelTest, ARecipeWithoutPortionsHasNoAmounts) {
-    run.database.Execute(QStringLiteral("UPDATE Recepty SET Porce = -3 WHERE ID = 5"));
+    run.database.Execute(u"UPDATE Recepty SET Porce = -3 WHERE ID = 5"_s);
     form->Skryj();
     open(5);
     click("imgBtn(5)");
     EXPECT_EQ(frame(10), Button::Frame::Pressed);
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g)"));
+    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g)"_s);
     click("imgPrepocet(6)");
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g)"));
+    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g)"_s);
     form->Skryj();
     open(6);
     click("imgBtn(5)");
@@ -89,25 +90,24 @@ TEST_F(IngredientPanelTest, ARecipeWithoutPortionsHasNoAmounts) {
 TEST_F(IngredientPanelTest, TheKeyboardStepsOverThePicturesWithHints) {
     run.announced.clear();
     for (int step = 0; step < 3; ++step) press(Qt::Key_Right);
-    EXPECT_EQ(run.announced,
-              (QStringList{QStringLiteral("2 porce"), QStringLiteral("4 porce"), QStringLiteral("6 porcí")}));
-    EXPECT_EQ(focused(), QStringLiteral("imgPrepocet(6)"));
+    EXPECT_EQ(run.announced, (QStringList{u"2 porce"_s, u"4 porce"_s, u"6 porcí"_s}));
+    EXPECT_EQ(focused(), u"imgPrepocet(6)"_s);
     press(Qt::Key_Return);
-    EXPECT_EQ(firstLine(), QStringLiteral("kapr - filety bez kůže (g): 380"));
+    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g): 380"_s);
     for (int step = 0; step < 4; ++step) press(Qt::Key_Left);
-    EXPECT_EQ(run.announced.last(), QStringLiteral("Přepočet na libovolný počet porcí"));
+    EXPECT_EQ(run.announced.last(), u"Přepočet na libovolný počet porcí"_s);
     press(Qt::Key_Right);
     press(Qt::Key_Return);
-    EXPECT_EQ(run.announced.last(), QStringLiteral("Přepočteno na lžíce"));
+    EXPECT_EQ(run.announced.last(), u"Přepočteno na lžíce"_s);
     press(Qt::Key_Left);
     press(Qt::Key_Right);
-    EXPECT_EQ(run.announced.last(), QStringLiteral("Přepočti na gramy"));
+    EXPECT_EQ(run.announced.last(), u"Přepočti na gramy"_s);
     press(Qt::Key_Down);
-    EXPECT_EQ(run.announced.last(), QStringLiteral("Suroviny")) << "up and down lead back to the sections";
+    EXPECT_EQ(run.announced.last(), u"Suroviny"_s) << "up and down lead back to the sections";
     press(Qt::Key_Tab);
-    EXPECT_EQ(focused(), QStringLiteral("imgPrepocet(2)"));
+    EXPECT_EQ(focused(), u"imgPrepocet(2)"_s);
     press(Qt::Key_Right);
-    EXPECT_EQ(focused(), QStringLiteral("imgPrepocet(4)")) << "on from where Tab has led";
+    EXPECT_EQ(focused(), u"imgPrepocet(4)"_s) << "on from where Tab has led";
 }
 
 TEST_F(IngredientPanelTest, TheUnitsLastLookedAtOutliveTheRecipe) {
@@ -121,7 +121,83 @@ TEST_F(IngredientPanelTest, TheUnitsLastLookedAtOutliveTheRecipe) {
     EXPECT_EQ(run.recorded.printServing.portions, 3) << "the printed recipe's own";
     EXPECT_EQ(run.recorded.printServing.units, UnitSystem::Spoons);
     click("imgBtn(5)");
-    EXPECT_EQ(state(), QStringLiteral("3 porce\nna lžíce"));
+    EXPECT_EQ(state(), u"3 porce\nna lžíce"_s);
+}
+
+/// Every character is 100 twips wide.
+int fixedWidth(QStringView text) {
+    return static_cast<int>(text.size()) * 100;
+}
+
+TEST(PortionsTest, StartWithTheRecipesOwnNumber) {
+    const struct {
+        int base, choice;
+        double number;
+    } cases[] = {{4, 4, 4},    {2, 2, 2},  {8, 8, 8},   {10, 10, 10}, {3, 10, 3},    {1, 10, 1},
+                 {12, 10, 12}, {0, 10, 0}, {-4, 10, 0}, {256, 10, 0}, {255, 10, 255}};
+    for (const auto& c : cases) {
+        const Portions portions(c.base);
+        EXPECT_EQ(portions.choice(), c.choice) << c.base;
+        EXPECT_EQ(portions.number(), c.number) << c.base;
+    }
+}
+
+TEST(PortionsTest, KeepTheAnyNumberAsText) {
+    Portions portions(4);
+    EXPECT_FALSE(portions.changes(4));
+    EXPECT_TRUE(portions.changes(6));
+    EXPECT_TRUE(portions.changes(Portions::kAnyNumber));
+    portions.setCustom(2.5);
+    EXPECT_EQ(portions.number(), 4);
+    portions.choose(Portions::kAnyNumber);
+    EXPECT_EQ(portions.customText(), u"2.5"_s);
+    EXPECT_EQ(portions.number(), 2.5);
+    EXPECT_TRUE(portions.changes(Portions::kAnyNumber)) << "it always asks again";
+    portions.choose(6);
+    EXPECT_EQ(portions.quantities(QLocale::c()).factor(), 1.5F);
+}
+
+TEST(PortionsTest, AreCountedInCzech) {
+    const struct {
+        double number;
+        const char* word;
+    } cases[] = {{1, "porce"}, {2, "porce"}, {4, "porce"},  {4.5, "porce"}, {5, "porcí"},
+                 {6, "porcí"}, {8, "porcí"}, {99, "porcí"}, {0, "porcí"}};
+    for (const auto& c : cases) EXPECT_EQ(portionWord(c.number), QString::fromUtf8(c.word)) << c.number;
+}
+
+class ColumnsTest : public testing::Test {
+  protected:
+    static std::vector<PlacedLine> place(int count, const QString& text, int height = 2000) {
+        return placeInColumns(std::vector<QString>(size_t(count), text), {4000, height, 250}, fixedWidth);
+    }
+};
+
+TEST_F(ColumnsTest, ALineThatComesTooNearTheBottomOpensTheSecondColumn) {
+    // Lines begin at 0, 250 ... 1500; the next would begin at 1750 and 1750 + 400 is beyond 2000.
+    const auto seven = place(7, u"sůl"_s);
+    EXPECT_EQ(seven.back(), (PlacedLine{0, 1500, u"sůl"_s}));
+    const auto eight = place(8, u"sůl"_s);
+    EXPECT_EQ(eight.back(), (PlacedLine{2000, 0, u"sůl"_s}));
+    // A line that would begin exactly 400 above the bottom is too near.
+    EXPECT_EQ(place(3, u"sůl"_s, 900).back().x, 2000);
+    EXPECT_EQ(place(3, u"sůl"_s, 901).back().x, 0);
+}
+
+TEST_F(ColumnsTest, MoreThanTwoColumnsHoldMakesBothLonger) {
+    const auto many = place(21, u"sůl"_s);
+    ASSERT_EQ(many.size(), 21U);
+    EXPECT_EQ(many[10].y, 2500);
+    EXPECT_EQ(many[11], (PlacedLine{2000, 0, u"sůl"_s}));
+    EXPECT_EQ(many.back().y, 2250);
+    EXPECT_TRUE(place(0, QString()).empty());
+    EXPECT_EQ(place(4, u"sůl"_s, 10).back().y, 250) << "no height at all still takes lines";
+}
+
+TEST_F(ColumnsTest, WideLinesStayInTheirColumn) {
+    const QString wide = u"listy celeru nebo petržele"_s;
+    EXPECT_EQ(place(2, wide).size(), 2U) << "one column is as wide as the area";
+    for (const PlacedLine& line : place(8, wide)) EXPECT_LE(fixedWidth(line.text), 2000);
 }
 
 }  // namespace

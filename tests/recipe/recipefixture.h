@@ -14,15 +14,14 @@ namespace sarne {
 
 /// \a body as a document of the cookbook.
 inline QString rtf(const QString& body) {
-    return QStringLiteral(
-               "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Times New Roman;}}"
-               "{\\colortbl\\red0\\green0\\blue0;}\\deftab720\\pard\\plain\\f0\\fs24 ") +
+    return u"{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Times New Roman;}}"
+           "{\\colortbl\\red0\\green0\\blue0;}\\deftab720\\pard\\plain\\f0\\fs24 "_s +
            body + u'}';
 }
 
 /// The same as a literal of SQL.
 inline QString rtfValue(const char* body) {
-    return u'\'' + rtf(QString::fromUtf8(body)).replace(u'\'', QStringLiteral("''")) + u'\'';
+    return u'\'' + rtf(QString::fromUtf8(body)).replace(u'\'', u"''"_s) + u'\'';
 }
 
 /// Recipe 5 has everything once: an alternative, missing names, both units, links, tools. Recipe 6 is bare.
@@ -45,25 +44,19 @@ inline QStringList testRecipes() {
         row("INSERT INTO SpojPomucky VALUES (5,1),(5,2),(5,3),(5,4)"),
         row("INSERT INTO SpojOdkazy VALUES (5,1),(5,2),(7,3)"),
     };
-    all << QStringLiteral(
-               "INSERT INTO Odkazy (ID, Polozka, Text) VALUES (1,'Rybí vývar',%1),(2,'Chlebové "
-               "kostky',%2),(3,'Jen jeden',%3)")
-               .arg(rtfValue("Vývar va\\'f8\\'edme *12pomalu*."), rtfValue("Chléb nakrájíme."),
-                    rtfValue("Text odkazu"));
-    all << QStringLiteral(
-               "INSERT INTO Recepty (ID, Nazev, DlouhyNazev, Porce, Recept, Uvod, Prezentace, Poznamka, "
-               "vino, Vlastni) VALUES "
-               "(5,'Kapr','Kapr na kmíně s máslem, jak se dělá v neděli u rybníka, když přijede celá rodina "
-               "a nikdo nespěchá domů',4,"
-               "%1,%2,%3,%4,%5,NULL)")
-               .arg(rtfValue(
-                        "Kapra *12osol\\'edme* a pe\\'e8eme @7podle videa@.\\par Pod\\'e1v\\'e1me #ihned#."),
-                    rtfValue("\\'davod k receptu."), rtfValue("Na tal\\'ed\\'f8i."),
-                    rtfValue("Pozn\\'e1mka kucha\\'f8e."), rtfValue("Ryzlink"));
+    all << u"INSERT INTO Odkazy (ID, Polozka, Text) VALUES (1,'Rybí vývar',%1),(2,'Chlebové "
+           "kostky',%2),(3,'Jen jeden',%3)"_s.arg(rtfValue("Vývar va\\'f8\\'edme *12pomalu*."),
+                                                  rtfValue("Chléb nakrájíme."), rtfValue("Text odkazu"));
+    all << u"INSERT INTO Recepty (ID, Nazev, DlouhyNazev, Porce, Recept, Uvod, Prezentace, Poznamka, "
+           "vino, Vlastni) VALUES "
+           "(5,'Kapr','Kapr na kmíně s máslem, jak se dělá v neděli u rybníka, když přijede celá rodina "
+           "a nikdo nespěchá domů',4,"
+           "%1,%2,%3,%4,%5,NULL)"_s.arg(
+               rtfValue("Kapra *12osol\\'edme* a pe\\'e8eme @7podle videa@.\\par Pod\\'e1v\\'e1me #ihned#."),
+               rtfValue("\\'davod k receptu."), rtfValue("Na tal\\'ed\\'f8i."),
+               rtfValue("Pozn\\'e1mka kucha\\'f8e."), rtfValue("Ryzlink"));
     for (int line = 0; line < 60; ++line)
-        all << QStringLiteral("INSERT INTO SpojSur VALUES (7,%1,2,1,%2,2,1,0)")
-                   .arg(line % 5 + 1)
-                   .arg(30 * line + 30);
+        all << u"INSERT INTO SpojSur VALUES (7,%1,2,1,%2,2,1,0)"_s.arg(line % 5 + 1).arg(30 * line + 30);
     return all;
 }
 
@@ -87,7 +80,7 @@ class RecipeTest : public testing::Test {
         form->Zobraz(id);
         QApplication::processEvents();
     }
-    QString file() const { return folder.filePath(QStringLiteral("Sarne.drc")); }
+    QString file() const { return folder.filePath(u"Sarne.drc"_s); }
     template <typename Widget = Control>
     Widget& at(const char* name) {
         return *child<Widget>(*form, name);
@@ -105,16 +98,16 @@ class RecipeTest : public testing::Test {
     void type(const QString& text) {
         for (QChar letter : text) {
             QKeyEvent key(QEvent::KeyPress, letter == u'\n' ? Qt::Key_Return : Qt::Key_unknown, {},
-                          letter == u'\n' ? QStringLiteral("\r") : QString(letter));
+                          letter == u'\n' ? u"\r"_s : QString(letter));
             QApplication::sendEvent(QApplication::focusWidget(), &key);
         }
     }
     TextView& view() { return at<TextView>("picRecept"); }
     QString shown() { return view().drawnText(); }
     QVariant storedNote(int id = 5) {
-        Recordset row = run.database.OpenTable(QStringLiteral("Recepty"));
-        row.Seek(QStringLiteral("="), id);
-        return row.field(QStringLiteral("Vlastni"));
+        Recordset row = run.database.OpenTable(u"Recepty"_s);
+        row.Seek(u"="_s, id);
+        return row.field(u"Vlastni"_s);
     }
     QString focused() {
         for (QWidget* widget = QApplication::focusWidget(); widget; widget = widget->parentWidget()) {
@@ -128,7 +121,7 @@ class RecipeTest : public testing::Test {
     double customPortions = 0;
     QStringList prompts;
     Serving lookedAt;
-    Form* below = new Form(run, QStringLiteral("frmSeznam"));
+    Form* below = new Form(run, u"frmSeznam"_s);
     frmRecept* form = nullptr;
 };
 

@@ -9,7 +9,7 @@ namespace sarne {
 namespace {
 
 QString nth(const char* name, int index) {
-    return QStringLiteral("%1(%2)").arg(QString::fromLatin1(name)).arg(index);
+    return u"%1(%2)"_s.arg(QString::fromLatin1(name)).arg(index);
 }
 
 class ScreenTest : public RecipeTest {
@@ -37,28 +37,27 @@ class ScreenTest : public RecipeTest {
 TEST_F(ScreenTest, OpensOnThePhotoUnderItsWrappedTitle) {
     const QString title = at<Label>("lblNazev").text();
     EXPECT_EQ(title.count(u'\n'), 1);
-    EXPECT_TRUE(
-        QString(title).replace(u'\n', u' ').startsWith(QStringLiteral("Kapr na kmíně s máslem, jak")));
+    EXPECT_TRUE(QString(title).replace(u'\n', u' ').startsWith(u"Kapr na kmíně s máslem, jak"_s));
     EXPECT_EQ(form->section(), 0);
     EXPECT_EQ(at<Button>("imgBtn(0)").frame(), Button::Frame::Pressed);
     EXPECT_EQ(run.FormStack.top(), form);
-    EXPECT_EQ(run.awake, QStringList{QStringLiteral("Na obrazovce je recept")});
+    EXPECT_EQ(run.awake, QStringList{u"Na obrazovce je recept"_s});
     EXPECT_EQ(shown(), QString()) << "a missing photo leaves the paper empty";
 }
 
 TEST_F(ScreenTest, SaysThatThePhotoIsBeingReadUntilItIsThere) {
-    makePicture(QStringLiteral("foto/velke/R6.BMP"), qRgb(200, 30, 40));
-    makePicture(QStringLiteral("foto/Podklad/r6.bmp"), qRgb(20, 230, 40));
+    makePicture(u"foto/velke/R6.BMP"_s, qRgb(200, 30, 40));
+    makePicture(u"foto/Podklad/r6.bmp"_s, qRgb(20, 230, 40));
     form->Skryj();
     form = new frmRecept(run, lookedAt);
     form->Zobraz(6);
-    EXPECT_EQ(shown(), QStringLiteral("Moment prosím, načítám foto ..."));
+    EXPECT_EQ(shown(), u"Moment prosím, načítám foto ..."_s);
     QApplication::processEvents();
     EXPECT_EQ(shown(), QString());
     EXPECT_EQ(pixelOf(view()), QColor(200, 30, 40));
     EXPECT_EQ(form->grab().toImage().pixelColor(300, 570), QColor(20, 230, 40)) << "the recipe's own ground";
     click("picRecept");
-    EXPECT_EQ(run.recorded.calls.last(), QStringLiteral("showPhotos 0"));
+    EXPECT_EQ(run.recorded.calls.last(), u"showPhotos 0"_s);
     EXPECT_EQ(run.recorded.photos.photoIds, std::vector<std::int16_t>{6});
     section(1);
     click("picRecept");
@@ -97,15 +96,15 @@ TEST_F(ScreenTest, ARecipeThatDoesNotExistHasNoTexts) {
         EXPECT_EQ(shown(), QString()) << index;
     }
     section(7);
-    type(QStringLiteral("x"));
+    type(u"x"_s);
     run.answers = {6};
     section(3);
-    EXPECT_EQ(shown(), QStringLiteral("K tomuto receptu není přiřazen žádný odkaz"));
+    EXPECT_EQ(shown(), u"K tomuto receptu není přiřazen žádný odkaz"_s);
     EXPECT_EQ(form->collectedText(), QString());
 }
 
 TEST_F(ScreenTest, TheNameIsSpokenWhenItsSwitchIsOnOrForShow) {
-    makeFile(QStringLiteral("zvuky/č5.wav"), "RIFF...");
+    makeFile(u"zvuky/č5.wav"_s, "RIFF...");
     const auto playedBy = [&](bool on, bool show) {
         run.SoundFlags[kSpokenNames] = on;
         run.ShowMode = show;
@@ -121,7 +120,7 @@ TEST_F(ScreenTest, TheNameIsSpokenWhenItsSwitchIsOnOrForShow) {
     EXPECT_EQ(run.EffectWave, QByteArray("RIFF...")) << "kept while it sounds";
     QByteArray second(16044, '\0');
     second.replace(28, 2, "\x80\x3e");  // bytes a second
-    makeFile(QStringLiteral("zvuky/č5.wav"), second);
+    makeFile(u"zvuky/č5.wav"_s, second);
     playedBy(true, false);
     const QDeadlineTimer deadline(5000);
     while (run.player.decibels > -10 && !deadline.hasExpired()) QApplication::processEvents();
@@ -135,10 +134,8 @@ TEST_F(ScreenTest, TheBarLeadsWhereItsButtonsSay) {
     press(Qt::Key_F1);
     click("imgBtnHlavni(4)");
     press(Qt::Key_F4);
-    EXPECT_EQ(run.recorded.calls,
-              (QStringList{QStringLiteral("printRecipes 1"), QStringLiteral("showPage 300"),
-                           QStringLiteral("showPage 300"), QStringLiteral("showMusicSettings"),
-                           QStringLiteral("showMusicSettings")}));
+    EXPECT_EQ(run.recorded.calls, (QStringList{u"printRecipes 1"_s, u"showPage 300"_s, u"showPage 300"_s,
+                                               u"showMusicSettings"_s, u"showMusicSettings"_s}));
     click("imgBtnHlavni(3)");
     press(Qt::Key_X);
     press(Qt::Key_X, Qt::AltModifier);
@@ -161,17 +158,16 @@ TEST_F(ScreenTest, LinkPhrasesOpenKeywordsAndVideosOrBeep) {
     };
     clickLink(0);
     clickLink(1);
-    auto* video = new Form(run, QStringLiteral("frmVideo"));
+    auto* video = new Form(run, u"frmVideo"_s);
     run.PushScreen(*video);
     video->showForm();
     const int scrolled = view().scrolled();
     run.PopScreen(*video);
-    EXPECT_EQ(focused(), QStringLiteral("picRecept")) << "back at the word that led to the film";
+    EXPECT_EQ(focused(), u"picRecept"_s) << "back at the word that led to the film";
     EXPECT_EQ(view().pieces().focused(), 1);
     EXPECT_EQ(view().scrolled(), scrolled);
     clickLink(2);
-    EXPECT_EQ(run.recorded.calls,
-              (QStringList{QStringLiteral("showIndex 12"), QStringLiteral("showVideo 7")}));
+    EXPECT_EQ(run.recorded.calls, (QStringList{u"showIndex 12"_s, u"showVideo 7"_s}));
     EXPECT_EQ(run.beeps, 1);
 }
 
@@ -179,45 +175,45 @@ TEST_F(ScreenTest, LinksAreChosenByOptions) {
     section(3);
     auto& first = at<OptionButton>("optOdkaz(0)");
     auto& second = at<OptionButton>("optOdkaz(1)");
-    EXPECT_EQ(first.caption() + u'|' + second.caption(), QStringLiteral("Chlebové kostky|Rybí vývar"));
+    EXPECT_EQ(first.caption() + u'|' + second.caption(), u"Chlebové kostky|Rybí vývar"_s);
     EXPECT_TRUE(first.isChecked());
     click("optOdkaz(1)");
     EXPECT_TRUE(second.isChecked());
     EXPECT_FALSE(first.isChecked());
-    EXPECT_EQ(shown(), QStringLiteral("Vývar vaříme pomalu."));
+    EXPECT_EQ(shown(), u"Vývar vaříme pomalu."_s);
     section(4);
     EXPECT_FALSE(second.isVisible());
     form->Skryj();
     open(7);
     section(3);
-    EXPECT_EQ(shown(), QStringLiteral("Text odkazu"));
+    EXPECT_EQ(shown(), u"Text odkazu"_s);
     EXPECT_EQ(child(*form, "optOdkaz(1)"), nullptr);
     form->Skryj();
     open(6);
     section(3);
-    EXPECT_EQ(shown(), QStringLiteral("K tomuto receptu není přiřazen žádný odkaz"));
+    EXPECT_EQ(shown(), u"K tomuto receptu není přiřazen žádný odkaz"_s);
 }
 
 TEST_F(ScreenTest, ManyLinksScroll) {
     for (int link = 10; link < 30; ++link) {
         run.database.Execute(
-            QStringLiteral("INSERT INTO Odkazy (ID, Polozka, Text) VALUES (%1,'Odkaz %1','t%1')").arg(link));
-        run.database.Execute(QStringLiteral("INSERT INTO SpojOdkazy VALUES (6,%1)").arg(link));
+            u"INSERT INTO Odkazy (ID, Polozka, Text) VALUES (%1,'Odkaz %1','t%1')"_s.arg(link));
+        run.database.Execute(u"INSERT INTO SpojOdkazy VALUES (6,%1)"_s.arg(link));
     }
     form->Skryj();
     open(6);
     section(3);
     EXPECT_FALSE(at("optOdkaz(19)").isVisible());
-    EXPECT_EQ(shown(), QStringLiteral("t10"));
+    EXPECT_EQ(shown(), u"t10"_s);
     press(Qt::Key_Tab);
-    EXPECT_EQ(focused(), QStringLiteral("optOdkaz(0)"));
+    EXPECT_EQ(focused(), u"optOdkaz(0)"_s);
     press(Qt::Key_Up);
-    EXPECT_EQ(focused(), QStringLiteral("optOdkaz(19)"));
+    EXPECT_EQ(focused(), u"optOdkaz(19)"_s);
     EXPECT_TRUE(at("optOdkaz(19)").isVisible());
     EXPECT_FALSE(at("optOdkaz(0)").isVisible());
     press(Qt::Key_Return);
-    EXPECT_EQ(shown(), QStringLiteral("t29"));
-    EXPECT_EQ(run.announced.last(), QStringLiteral("Odkaz 29"));
+    EXPECT_EQ(shown(), u"t29"_s);
+    EXPECT_EQ(run.announced.last(), u"Odkaz 29"_s);
     for (int click = 0; click < 30; ++click) QTest::mouseClick(&at("imgOdkazy(0)"), Qt::LeftButton);
     EXPECT_TRUE(at("optOdkaz(0)").isVisible());
 }
@@ -228,8 +224,7 @@ TEST_F(ScreenTest, ArrowsMoveOverTheSectionsAndSayTheirNames) {
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     press(Qt::Key_Right);
-    EXPECT_EQ(run.announced,
-              (QStringList{QStringLiteral("Recept"), QStringLiteral("Úvod"), QStringLiteral("Odkazy")}));
+    EXPECT_EQ(run.announced, (QStringList{u"Recept"_s, u"Úvod"_s, u"Odkazy"_s}));
     EXPECT_EQ(form->section(), 0) << "moving opens nothing";
     press(Qt::Key_Return);
     EXPECT_EQ(form->section(), 3);
@@ -237,9 +232,9 @@ TEST_F(ScreenTest, ArrowsMoveOverTheSectionsAndSayTheirNames) {
     open(6);
     run.announced.clear();
     press(Qt::Key_Up);
-    EXPECT_EQ(focused(), QStringLiteral("imgBtn(7)"));
+    EXPECT_EQ(focused(), u"imgBtn(7)"_s);
     for (int step = 0; step < 4; ++step) press(Qt::Key_Left);
-    EXPECT_EQ(run.announced.last(), QStringLiteral("K tomuto receptu není přiřazen žádný odkaz"));
+    EXPECT_EQ(run.announced.last(), u"K tomuto receptu není přiřazen žádný odkaz"_s);
 }
 
 TEST_F(ScreenTest, TabGoesFromTheSectionsThroughTheTextToTheBar) {
@@ -249,25 +244,24 @@ TEST_F(ScreenTest, TabGoesFromTheSectionsThroughTheTextToTheBar) {
         press(Qt::Key_Tab);
         path << focused() + QString::number(view().pieces().focused().value_or(-1));
     }
-    EXPECT_EQ(path, (QStringList{QStringLiteral("picRecept0"), QStringLiteral("picRecept1"),
-                                 QStringLiteral("picRecept2"), QStringLiteral("imgBtnHlavni(0)-1"),
-                                 QStringLiteral("picHvezdy-1"), QStringLiteral("imgBtn(1)-1")}));
+    EXPECT_EQ(path, (QStringList{u"picRecept0"_s, u"picRecept1"_s, u"picRecept2"_s, u"imgBtnHlavni(0)-1"_s,
+                                 u"picHvezdy-1"_s, u"imgBtn(1)-1"_s}));
     press(Qt::Key_Backtab);
     press(Qt::Key_Backtab);
     press(Qt::Key_Left);
-    EXPECT_EQ(focused(), QStringLiteral("imgBtnHlavni(4)"));
+    EXPECT_EQ(focused(), u"imgBtnHlavni(4)"_s);
     press(Qt::Key_Backtab);
     EXPECT_EQ(view().pieces().focused(), 2);
-    EXPECT_EQ(run.announced.last(), QStringLiteral("ihned."));
+    EXPECT_EQ(run.announced.last(), u"ihned."_s);
     press(Qt::Key_Backtab);
     press(Qt::Key_Return);
-    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("showVideo 7")});
-    auto* video = new Form(run, QStringLiteral("frmVideo"));
+    EXPECT_EQ(run.recorded.calls, QStringList{u"showVideo 7"_s});
+    auto* video = new Form(run, u"frmVideo"_s);
     run.PushScreen(*video);
     video->showForm();
     run.awake.clear();
     run.PopScreen(*video);
-    EXPECT_EQ(focused(), QStringLiteral("picRecept")) << "back where the link was";
+    EXPECT_EQ(focused(), u"picRecept"_s) << "back where the link was";
     EXPECT_EQ(view().pieces().focused(), 1);
     EXPECT_EQ(run.awake.size(), 1) << "and awake again";
 }
@@ -280,7 +274,7 @@ TEST_F(ScreenTest, ALongTextScrollsByKeyboardFromAnywhere) {
     ASSERT_GT(view().scrollRange(), 0);
     press(Qt::Key_PageDown);
     EXPECT_GT(view().scrolled(), 0);
-    EXPECT_EQ(focused(), QStringLiteral("imgBtn(5)"));
+    EXPECT_EQ(focused(), u"imgBtn(5)"_s);
     press(Qt::Key_PageUp);
     EXPECT_EQ(view().scrolled(), 0);
 }

@@ -28,7 +28,7 @@ class PaperSurface : public Surface {
     int textHeight(const QString&) const override { return test::FixedMetrics().textHeight(font_); }
     void print(const QString&) override {}
     void textOut(int x, int baseline, const QString& text) override {
-        drawn += QStringLiteral("%1,%2 %3 %4").arg(x).arg(baseline).arg(text, color_.name());
+        drawn += u"%1,%2 %3 %4"_s.arg(x).arg(baseline).arg(text, color_.name());
         if (bas && text == QLatin1String("stop")) bas->stop();
     }
 
@@ -44,13 +44,11 @@ class PaperSurface : public Surface {
 TEST(ZobrazRtf, DrawsFromTheCurrentPositionOn) {
     PaperSurface surface;
     basZobrazRtfSarne bas;
-    bas.ZobrazRtf(surface,
-                  QStringLiteral("{\\rtf1{\\colortbl;\\red9;}\\plain\\cf1 Kapr s *7jalovcem* i pivem\\par}"));
+    bas.ZobrazRtf(surface, u"{\\rtf1{\\colortbl;\\red9;}\\plain\\cf1 Kapr s *7jalovcem* i pivem\\par}"_s);
     const QString red = QColor(9, 0, 0).name(), link = linkColor(LinkKind::Keyword).name();
     EXPECT_EQ(surface.drawn,
-              (QStringList{QStringLiteral("100,1240 Kapr ") + red, QStringLiteral("786,1240 s ") + red,
-                           QStringLiteral("1113,1240 jalovcem ") + link, QStringLiteral("2280,1240 i ") + red,
-                           QStringLiteral("100,1540 pivem ") + red}));
+              (QStringList{u"100,1240 Kapr "_s + red, u"786,1240 s "_s + red, u"1113,1240 jalovcem "_s + link,
+                           u"2280,1240 i "_s + red, u"100,1540 pivem "_s + red}));
     EXPECT_EQ(QPoint(surface.currentX(), surface.currentY()), QPoint(100, 1600));
     EXPECT_EQ(bas.layout().linkAt({1500, 1100}), 0);
 }
@@ -76,9 +74,9 @@ TEST(ZobrazRtf, LeavesPaintingToASurfaceThatKeepsTexts) {
         test::FixedMetrics metrics;
         QStringList kept;
     } surface;
-    ZobrazRtf(surface, QStringLiteral("a\nb"));
-    ZobrazRtf(surface, QStringLiteral("  "));
-    EXPECT_EQ(surface.kept, QStringList{QStringLiteral("a|b")});
+    ZobrazRtf(surface, u"a\nb"_s);
+    ZobrazRtf(surface, u"  "_s);
+    EXPECT_EQ(surface.kept, QStringList{u"a|b"_s});
     EXPECT_GT(surface.metrics.measured, 0);
     EXPECT_TRUE(surface.drawn.isEmpty());
     EXPECT_EQ(surface.currentY(), 1600);
@@ -88,10 +86,10 @@ TEST(ZobrazRtf, CanBeAbandoned) {
     PaperSurface surface;
     basZobrazRtfSarne bas;
     surface.bas = &bas;
-    bas.ZobrazRtf(surface, QStringLiteral("a stop b\nc"));
+    bas.ZobrazRtf(surface, u"a stop b\nc"_s);
     EXPECT_EQ(surface.drawn.size(), 2);
     surface.drawn.clear();
-    bas.ZobrazRtf(surface, QStringLiteral("d e"));  // the next one starts afresh
+    bas.ZobrazRtf(surface, u"d e"_s);  // the next one starts afresh
     EXPECT_EQ(surface.drawn.size(), 2);
 }
 
@@ -101,7 +99,7 @@ TEST(DrawLine, PlacesOneLineAnywhere) {
     const RtfLayout layout = RtfLayout::of(u"a\nb\nc", {0, 1000, 0}, metrics);
     drawLine(surface, layout, 1, {500, -300});
     drawLine(surface, layout, 3);
-    EXPECT_EQ(surface.drawn, QStringList{QStringLiteral("500,240 b #000000")});
+    EXPECT_EQ(surface.drawn, QStringList{u"500,240 b #000000"_s});
 }
 
 /// A picture of a layout at the scale of the design, fifteen twips to the pixel.
@@ -181,15 +179,13 @@ TEST(FontFace, IsAsWideAsQtSays) {
         for (int style = 0; style < 4; ++style) {
             const TextFont font{QString::fromUtf16(name), 12, (style & 1) != 0, (style & 2) != 0, false, 238};
             const QFontMetricsF qt(font.toQFont());
-            for (const QString& word :
-                 {QStringLiteral("Večeře"), QStringLiteral("AVATAR"), QStringLiteral("½ l"),
-                  QStringLiteral("„Type“"), QStringLiteral("日本"), QStringLiteral("")}) {
+            for (const QString& word : {u"Večeře"_s, u"AVATAR"_s, u"½ l"_s, u"„Type“"_s, u"日本"_s, u""_s}) {
                 EXPECT_NEAR(FontFace(font).width(word), qt.horizontalAdvance(word), 1) << word.toStdString();
             }
         }
     }
-    EXPECT_EQ(FontFace({QStringLiteral("Arial CE")}).rawFont().familyName(),
-              FontFace({QStringLiteral("Arial")}).rawFont().familyName());
+    EXPECT_EQ(FontFace({u"Arial CE"_s}).rawFont().familyName(),
+              FontFace({u"Arial"_s}).rawFont().familyName());
 }
 
 }  // namespace

@@ -38,31 +38,27 @@ TEST(Faults, WhatCanBeReadIsRead) {
         QString text;
         QString words;
     } cases[] = {
-        {QStringLiteral("{\\rtf1\\plain a}}}} b {{{{ c"), QStringLiteral("a b c")},
-        {QStringLiteral("{\\rtf1{\\fonttbl{\\f0 Arial;}\\pard\\plain a b"), QStringLiteral("a b")},
-        {QStringLiteral("{\\rtf1{\\colortbl;\\red1;{\\stylesheet{x}}\\plain a b"), QStringLiteral("a b")},
-        {QStringLiteral("{\\rtf1{\\fonttbl{{{\\f0 Arial;}}}}\\plain a b"), QStringLiteral("a b")},
-        {QStringLiteral("{\\rtf1\\plain\\fs") + digits + QStringLiteral(" \\tx") + digits +
-             QStringLiteral(" \\f-") + digits + QStringLiteral(" \\cf") + digits +
-             QStringLiteral(" a\\tab b"),
-         QStringLiteral("a|b")},
-        {QStringLiteral("{\\rtf1\\deftab") + digits + QStringLiteral("\\plain a\\tab b"),
-         QStringLiteral("a|b")},
-        {QStringLiteral("{\\rtf1\\deftab-5{\\colortbl\\red") + digits + QStringLiteral(";}\\plain a\\tab b"),
-         QStringLiteral("a b")},
-        {QStringLiteral("{\\rtf1\\plain a\rb\nc\r\rd\r\ne}"), QStringLiteral("abcde")},
-        {QStringLiteral("{\\rtf1\\plain a\\'eg b\\'zz\\'} \\'e8\\'4"), QStringLiteral("ag bzz č")},
-        {QStringLiteral("{\\rtf1\\plain a ") + QChar(0) + QStringLiteral("b") + QChar(0),
-         QStringLiteral("a b")},
-        {QStringLiteral("{\\rtf1\\plain a *"), QStringLiteral("a *")},
-        {QStringLiteral("{\\rtf1\\plain a @12"), QStringLiteral("a @12")},
-        {QStringLiteral("{\\rtf1\\plain a \\"), QStringLiteral("a")},
-        {QStringLiteral("{\\rtf1{\\pict\\bin99999999 }\\plain a"), QString()},
-        {QStringLiteral("{"), QStringLiteral("{")},
-        {QStringLiteral("{\\"), QStringLiteral("{\\")},
-        {QStringLiteral("sůl {\\rtf1 a"), QStringLiteral("sůl {\\rtf1 a")},
-        {QChar(QChar::ByteOrderMark) + QStringLiteral(" {\\rtf1\\plain a}"), QStringLiteral("a")},
-        {QStringLiteral("\\par x"), QStringLiteral("\\par x")},
+        {u"{\\rtf1\\plain a}}}} b {{{{ c"_s, u"a b c"_s},
+        {u"{\\rtf1{\\fonttbl{\\f0 Arial;}\\pard\\plain a b"_s, u"a b"_s},
+        {u"{\\rtf1{\\colortbl;\\red1;{\\stylesheet{x}}\\plain a b"_s, u"a b"_s},
+        {u"{\\rtf1{\\fonttbl{{{\\f0 Arial;}}}}\\plain a b"_s, u"a b"_s},
+        {u"{\\rtf1\\plain\\fs"_s + digits + u" \\tx"_s + digits + u" \\f-"_s + digits + u" \\cf"_s + digits +
+             u" a\\tab b"_s,
+         u"a|b"_s},
+        {u"{\\rtf1\\deftab"_s + digits + u"\\plain a\\tab b"_s, u"a|b"_s},
+        {u"{\\rtf1\\deftab-5{\\colortbl\\red"_s + digits + u";}\\plain a\\tab b"_s, u"a b"_s},
+        {u"{\\rtf1\\plain a\rb\nc\r\rd\r\ne}"_s, u"abcde"_s},
+        {u"{\\rtf1\\plain a\\'eg b\\'zz\\'} \\'e8\\'4"_s, u"ag bzz č"_s},
+        {u"{\\rtf1\\plain a "_s + QChar(0) + u"b"_s + QChar(0), u"a b"_s},
+        {u"{\\rtf1\\plain a *"_s, u"a *"_s},
+        {u"{\\rtf1\\plain a @12"_s, u"a @12"_s},
+        {u"{\\rtf1\\plain a \\"_s, u"a"_s},
+        {u"{\\rtf1{\\pict\\bin99999999 }\\plain a"_s, QString()},
+        {u"{"_s, u"{"_s},
+        {u"{\\"_s, u"{\\"_s},
+        {u"sůl {\\rtf1 a"_s, u"sůl {\\rtf1 a"_s},
+        {QChar(QChar::ByteOrderMark) + u" {\\rtf1\\plain a}"_s, u"a"_s},
+        {u"\\par x"_s, u"\\par x"_s},
     };
     for (const auto& c : cases) EXPECT_EQ(wordsOf(c.text), c.words) << c.text.toStdString();
 }
@@ -72,7 +68,7 @@ TEST(Faults, MuchOfOneThing) {
     const auto many = [](const char16_t* piece, int count) {
         return QString::fromUtf16(piece).repeated(count);
     };
-    const QString head = QStringLiteral("{\\rtf1\\plain ");
+    const QString head = u"{\\rtf1\\plain "_s;
     const auto boxes = [](const QString& text) { return layOutSoundly(text).boxes().size(); };
     EXPECT_EQ(boxes(head + u'*' + many(u"dlouhá ", 15000)), 15000u);
     EXPECT_EQ(boxes(head + u'*' + many(u"dlouhá ", 15000) + u'*'), 1u);
@@ -84,7 +80,7 @@ TEST(Faults, MuchOfOneThing) {
     EXPECT_EQ(boxes(head + many(u"\\", 500001)), 1u);
     EXPECT_EQ(boxes(head + many(u"{\\fonttbl", 100000) + u'a'), 0u);
     EXPECT_EQ(boxes(head + many(u" ", 500000) + u'a'), 1u);
-    EXPECT_EQ(boxes(head + u'\\' + many(u"a", 500000) + QStringLiteral(" b")), 1u);
+    EXPECT_EQ(boxes(head + u'\\' + many(u"a", 500000) + u" b"_s), 1u);
 }
 
 }  // namespace

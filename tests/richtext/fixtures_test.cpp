@@ -24,13 +24,13 @@ class Fixtures : public testing::TestWithParam<const char*> {};
 
 TEST_P(Fixtures, LookAsReviewed) {
     const QString name = QLatin1String(GetParam());
-    const QString rtf = QString::fromUtf8(contents(name + QStringLiteral(".rtf")));
+    const QString rtf = QString::fromUtf8(contents(name + u".rtf"_s));
     test::FixedMetrics metrics;
     const RtfLayout screen = RtfLayout::of(rtf, {0, 6000, 0}, metrics);
     const RtfLayout paper = RtfLayout::of(rtf, {0, 6000, 0}, metrics, LinkMarkers::Remove);
-    const QString dump = QStringLiteral("screen\n") + test::dumped(screen) + QStringLiteral("paper\n") +
+    const QString dump = u"screen\n"_s + test::dumped(screen) + u"paper\n"_s +
                          test::wordsOf(paper).replace(u'|', u'\n') + u'\n';
-    const QString dumpName = name + QStringLiteral(".dump");
+    const QString dumpName = name + u".dump"_s;
     if (qEnvironmentVariableIsSet("SARNE_WRITE_DUMPS")) replace(dumpName, dump);
     EXPECT_EQ(dump.toStdString(), contents(dumpName).toStdString());
 }

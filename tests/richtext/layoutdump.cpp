@@ -16,17 +16,17 @@ QString dumped(const TextFont& font) {
 namespace {
 
 QString dumped(const RtfLayout& layout, const WordBox& box) {
-    QString row = QStringLiteral("  %1+%2 \"%3\"").arg(box.x).arg(box.width).arg(layout.text(box));
-    row += QStringLiteral("  %1 %2").arg(test::dumped(layout.fonts()[box.font]), QColor(box.color).name());
-    if (box.link >= 0) row += QStringLiteral(" ->") + layout.links()[box.link].key.text();
+    QString row = u"  %1+%2 \"%3\""_s.arg(box.x).arg(box.width).arg(layout.text(box));
+    row += u"  %1 %2"_s.arg(test::dumped(layout.fonts()[box.font]), QColor(box.color).name());
+    if (box.link >= 0) row += u" ->"_s + layout.links()[box.link].key.text();
     return row + u'\n';
 }
 
 QString dumped(const TextLine& line) {
-    QString row = QStringLiteral("line %1+%2 on %3").arg(line.top).arg(line.height).arg(line.baseline);
-    if (line.isHeading) row += QStringLiteral(" heading");
-    if (line.startsParagraph) row += QStringLiteral(" starts");
-    if (line.endsParagraph) row += QStringLiteral(" ends");
+    QString row = u"line %1+%2 on %3"_s.arg(line.top).arg(line.height).arg(line.baseline);
+    if (line.isHeading) row += u" heading"_s;
+    if (line.startsParagraph) row += u" starts"_s;
+    if (line.endsParagraph) row += u" ends"_s;
     return row + u'\n';
 }
 
@@ -47,13 +47,12 @@ QString faultOf(const RtfLayout& layout, const TextLine& line) {
     const WordBox* previous = nullptr;
     for (qsizetype i = 0; i < line.boxCount; ++i) {
         const WordBox& box = layout.boxes()[line.firstBox + i];
-        if (box.textLength <= 0) return QStringLiteral("box without text");
-        if (box.baseline != line.baseline) return QStringLiteral("word off the baseline");
-        if (box.x < layout.area().left || box.width < 0) return QStringLiteral("box outside");
-        if (previous && box.x < previous->x + previous->width) return QStringLiteral("words overlap");
-        if (previous && box.x + box.width > layout.area().right)
-            return QStringLiteral("past the right limit");
-        if (box.link >= static_cast<int>(layout.links().size())) return QStringLiteral("link of nothing");
+        if (box.textLength <= 0) return u"box without text"_s;
+        if (box.baseline != line.baseline) return u"word off the baseline"_s;
+        if (box.x < layout.area().left || box.width < 0) return u"box outside"_s;
+        if (previous && box.x < previous->x + previous->width) return u"words overlap"_s;
+        if (previous && box.x + box.width > layout.area().right) return u"past the right limit"_s;
+        if (box.link >= static_cast<int>(layout.links().size())) return u"link of nothing"_s;
         previous = &box;
     }
     return {};
@@ -62,10 +61,10 @@ QString faultOf(const RtfLayout& layout, const TextLine& line) {
 QString faultOfLinks(const RtfLayout& layout) {
     for (size_t link = 0; link < layout.links().size(); ++link) {
         const LinkPhrase& phrase = layout.links()[link];
-        if (phrase.boxCount < 1) return QStringLiteral("link without boxes");
+        if (phrase.boxCount < 1) return u"link without boxes"_s;
         for (qsizetype i = 0; i < phrase.boxCount; ++i) {
             if (layout.boxes().at(phrase.firstBox + i).link != static_cast<int>(link))
-                return QStringLiteral("foreign box");
+                return u"foreign box"_s;
         }
     }
     return {};
@@ -101,13 +100,13 @@ QString faultOf(const RtfLayout& layout) {
     qsizetype boxes = 0;
     int bottom = layout.area().top;
     for (const TextLine& line : layout.lines()) {
-        if (line.firstBox != boxes) return QStringLiteral("boxes missing");
-        if (line.top != qMin(bottom, kLowest) || line.height < 1) return QStringLiteral("lines overlap");
+        if (line.firstBox != boxes) return u"boxes missing"_s;
+        if (line.top != qMin(bottom, kLowest) || line.height < 1) return u"lines overlap"_s;
         if (const QString fault = faultOf(layout, line); !fault.isEmpty()) return fault;
         boxes += line.boxCount;
         bottom = line.bottom();
     }
-    if (boxes != static_cast<qsizetype>(layout.boxes().size())) return QStringLiteral("box without a line");
+    if (boxes != static_cast<qsizetype>(layout.boxes().size())) return u"box without a line"_s;
     return faultOfLinks(layout);
 }
 
@@ -116,7 +115,7 @@ QString lossOf(QStringView text, const RtfLayout& layout, LinkMarkers markers) {
     readRichText(text, read, markers);
     for (const WordBox& box : layout.boxes()) shown.text(layout.text(box));
     if (read.characters == shown.characters) return {};
-    return QStringLiteral("read %1, shown %2").arg(read.characters, shown.characters);
+    return u"read %1, shown %2"_s.arg(read.characters, shown.characters);
 }
 
 }  // namespace sarne::test

@@ -1,8 +1,9 @@
-#include "richtext/rtfreader.h"
-
 #include <gtest/gtest.h>
 
 #include "richtext/layoutdump.h"
+#include "richtext/plaintext.h"
+#include "richtext/rtfreader.h"
+#include "richtext/wordwrap.h"
 
 namespace sarne {
 namespace {
@@ -14,7 +15,7 @@ class DumpSink final : public RtfSink {
     void text(QStringView run) override { dump += run.toString(); }
     void character(QChar c) override { dump += c; }
     void font(const TextFont& font) override {
-        if (!(font == font_)) add(QStringLiteral("%1 %2").arg(test::dumped(font)).arg(font.charset));
+        if (!(font == font_)) add(u"%1 %2"_s.arg(test::dumped(font)).arg(font.charset));
         font_ = font;
     }
     void color(QRgb rgb) override {
@@ -22,15 +23,15 @@ class DumpSink final : public RtfSink {
         color_ = rgb;
     }
     void openLink(const LinkKey& key) override { add(key.text()); }
-    void closeLink() override { add(QStringLiteral("/")); }
+    void closeLink() override { add(u"/"_s); }
     void endPara() override {
-        add(QStringLiteral("endPara"));
+        add(u"endPara"_s);
         if (stopAtPara) *stopAtPara = true;
     }
-    void tab() override { add(QStringLiteral("tab")); }
-    void tabStop(int twips) override { add(QStringLiteral("stop %1").arg(twips)); }
+    void tab() override { add(u"tab"_s); }
+    void tabStop(int twips) override { add(u"stop %1"_s.arg(twips)); }
     void defaultTabWidth(int twips) override {
-        if (twips != 100) add(QStringLiteral("tabs %1").arg(twips));
+        if (twips != 100) add(u"tabs %1"_s.arg(twips));
     }
 
     QString dump;
@@ -146,7 +147,44 @@ TEST(RtfReader, StopsBetweenCharacters) {
     StopFlag stop = false;
     sink.stopAtPara = &stop;
     readRichText(u"{\\rtf1\\plain a\\par b\\par c}", sink, LinkMarkers::Honour, &stop);
-    EXPECT_EQ(sink.dump, QStringLiteral("a<endPara>"));
+    EXPECT_EQ(sink.dump, u"a<endPara>"_s);
+}
+
+/// Every character is 100 twips wide.
+int fixedWidth(QStringView text) {
+    return static_cast<int>(text.size()) * 100;
+}
+
+QStringList wrap(const char* text, int characters, const char* indent = "") {
+    return wrapAtBlanks(QString::fromUtf8(text), characters * 100, fixedWidth, QString::fromUtf8(indent));
+}
+
+TEST(WordWrapTest, WrapsAtBlanksAndNeverInsideAWord) {
+    EXPECT_EQ(wrap("Kapr na kmíně", 13), QStringList{u"Kapr na kmíně"_s});
+    EXPECT_EQ(wrap("Kapr na kmíně", 12), (QStringList{u"Kapr na"_s, u"kmíně"_s}));
+    EXPECT_EQ(wrap("Kapr nejnejnejkmínovitější je", 10),
+              (QStringList{u"Kapr"_s, u"nejnejnejkmínovitější"_s, u"je"_s}));
+    EXPECT_EQ(wrap("", 5), QStringList{QString()});
+    EXPECT_EQ(wrap("          ", 5), QStringList{u"          "_s});
+    EXPECT_EQ(wrap("jedna   dvě ", 8), (QStringList{u"jedna"_s, u"dvě "_s}));
+    EXPECT_EQ(wrap("      - nebo olej olivový", 17, "         "),
+              (QStringList{u"      - nebo olej"_s, u"         olivový"_s}));
+    EXPECT_EQ(wrap("Polévka s bramborem a majoránkou", 21),
+              (QStringList{u"Polévka s bramborem"_s, u"a majoránkou"_s}));
+    EXPECT_EQ(wrap("vaříme 20 minut", 10), (QStringList{u"vaříme"_s, u"20 minut"_s}));
+    EXPECT_EQ(wrap("a v o", 3), (QStringList{u"a v"_s, u"o"_s})) << "nothing else is left";
+    EXPECT_EQ(wrap("   olej", 2, "    "), (QStringList{u"   olej"_s})) << "an indent of no room";
+    const QString longText = u"slovo "_s.repeated(2000);
+    EXPECT_EQ(wrapAtBlanks(longText, 1100, fixedWidth).size(), 1000);
+}
+
+TEST(PlainTextTest, KeepsWordsAndParagraphsOnly) {
+    EXPECT_EQ(plainText(u"{\\rtf1{\\fonttbl{\\f0\\fcharset238 Arial;}}\\pard\\plain\\b Var\\b0  "
+                        "*12v\\'edno* a @7video@\\par\\tab x\\~y\\par\\par}"_s),
+              u"Var víno a video\n\tx\u00a0y"_s);
+    EXPECT_EQ(plainText(u"5*2 a #1"_s), u"5*2 a #1"_s) << "no rich text, no links";
+    EXPECT_EQ(plainText(QString()), QString());
+    EXPECT_EQ(plainText(u"   "_s), QString());
 }
 
 }  // namespace

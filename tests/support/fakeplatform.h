@@ -1,17 +1,46 @@
 #pragma once
 
+#include <QStringList>
+
 #include "app/platformparts.h"
-#include "support/fakeannouncer.h"
-#include "support/fakebeeper.h"
+#include "platform/announcer.h"
+#include "platform/beeper.h"
+#include "platform/sleepinhibitor.h"
 #include "support/fakedisplaymodes.h"
 #include "support/fakeeffects.h"
 #include "support/fakemultimedia.h"
 #include "support/fakeprinter.h"
 #include "support/fakesettings.h"
-#include "support/fakesleepinhibitor.h"
 #include "support/fakespeech.h"
 
 namespace sarne {
+
+/// Keeps what was announced.
+class FakeAnnouncer final : public Announcer {
+  public:
+    QStringList texts;
+    void announce(const QString& text) override { texts.append(text); }
+};
+
+/// Counts the beeps.
+class FakeBeeper final : public Beeper {
+  public:
+    int beeps = 0;
+    void beep() override { ++beeps; }
+};
+
+/// Keeps the reasons it was given and whether the display is kept awake now.
+class FakeSleepInhibitor final : public SleepInhibitor {
+  public:
+    QStringList reasons;
+    bool inhibited = false;
+
+    void inhibit(const QString& reason) override {
+        reasons.append(reason);
+        inhibited = true;
+    }
+    void release() override { inhibited = false; }
+};
 
 /// A platform without devices, for runs of the whole program.
 class FakePlatform {

@@ -16,6 +16,7 @@
 #include "support/fakeeffects.h"
 #include "support/fakemultimedia.h"
 #include "support/fakespeech.h"
+#include "support/print.h"
 
 namespace sarne {
 
@@ -31,48 +32,46 @@ class RecordedScreens : public Screens {
 
     void showList(const QString& ids, const QString& source, const QString& subject) override {
         listSubject = subject;
-        calls << QStringLiteral("showList %1 %2").arg(ids, source);
+        calls << u"showList %1 %2"_s.arg(ids, source);
     }
-    void showRecipe(std::int16_t id) override { calls << QStringLiteral("showRecipe %1").arg(id); }
-    void showGrid() override { calls << QStringLiteral("showGrid"); }
+    void showRecipe(std::int16_t id) override { calls << u"showRecipe %1"_s.arg(id); }
+    void showGrid() override { calls << u"showGrid"_s; }
     void showPhotos(const PhotoRequest& request) override {
         photos = request;
-        calls << QStringLiteral("showPhotos %1").arg(request.startPosition);
+        calls << u"showPhotos %1"_s.arg(request.startPosition);
     }
-    void showVideo(std::int16_t number) override { calls << QStringLiteral("showVideo %1").arg(number); }
-    void showMusicSettings() override { calls << QStringLiteral("showMusicSettings"); }
-    void showPage(const QString& id) override { calls << QStringLiteral("showPage %1").arg(id); }
-    void showHelpFor(const QString& formName) override {
-        calls << QStringLiteral("showHelpFor %1").arg(formName);
-    }
-    void showTables(std::int16_t item) override { calls << QStringLiteral("showTables %1").arg(item); }
-    void showIndex(std::int16_t keyword) override { calls << QStringLiteral("showIndex %1").arg(keyword); }
+    void showVideo(std::int16_t number) override { calls << u"showVideo %1"_s.arg(number); }
+    void showMusicSettings() override { calls << u"showMusicSettings"_s; }
+    void showPage(const QString& id) override { calls << u"showPage %1"_s.arg(id); }
+    void showHelpFor(const QString& formName) override { calls << u"showHelpFor %1"_s.arg(formName); }
+    void showTables(std::int16_t item) override { calls << u"showTables %1"_s.arg(item); }
+    void showIndex(std::int16_t keyword) override { calls << u"showIndex %1"_s.arg(keyword); }
     void showSponsor(std::int16_t topic, const QString& text) override {
-        calls << QStringLiteral("showSponsor %1 '%2'").arg(topic).arg(text);
+        calls << u"showSponsor %1 '%2'"_s.arg(topic).arg(text);
     }
     void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) override {
         printEntries = entries;
-        calls << QStringLiteral("showPrintSelection %1 '%2'").arg(entries.size()).arg(mode);
+        calls << u"showPrintSelection %1 '%2'"_s.arg(entries.size()).arg(mode);
     }
     void printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving) override {
         printServing = serving;
         printed = ids;
-        calls << QStringLiteral("printRecipes %1").arg(ids.size());
+        calls << u"printRecipes %1"_s.arg(ids.size());
     }
     void printText(const QString& title, const QString& text) override {
         printedText = text;
-        calls << QStringLiteral("printText %1").arg(title);
+        calls << u"printText %1"_s.arg(title);
     }
     bool knowsGoods() override { return goods; }
     int starsOf(std::int16_t) override { return stars; }
     void giveStars(std::int16_t id, int given) override {
         stars = given;
-        calls << QStringLiteral("giveStars %1 %2").arg(id).arg(given);
+        calls << u"giveStars %1 %2"_s.arg(id).arg(given);
     }
     void addToShoppingList(const std::vector<std::int16_t>& ids, const Serving& serving) override {
-        calls << QStringLiteral("addToShoppingList %1 for %2").arg(ids.size()).arg(serving.portions);
+        calls << u"addToShoppingList %1 for %2"_s.arg(ids.size()).arg(serving.portions);
     }
-    void returnToMain() override { calls << QStringLiteral("returnToMain"); }
+    void returnToMain() override { calls << u"returnToMain"_s; }
 
     bool goods = true;  ///< what the book knows
     int stars = 0;
@@ -95,7 +94,7 @@ class FakeSarne : public basSarne {
     QStringList announced, awake;
     int beeps = 0, exits = 0;
     Stage window;
-    Resources pictures{QStringLiteral(":/none/")};
+    Resources pictures{u":/none/"_s};
     Database database;
     UserFile userFile;  // in memory only
     NoteStore keptNotes{userFile};
@@ -129,7 +128,7 @@ class FakeSarne : public basSarne {
         if (ReadyToEnd()) ++exits;
     }
     int ZobrazZpravu(const QString& text, int style, int) override {
-        messages << QStringLiteral("%1: %2").arg(style).arg(text);
+        messages << u"%1: %2"_s.arg(style).arg(text);
         if (whileAsking) whileAsking();
         if (answers.empty()) return 6;
         const int answer = answers.front();

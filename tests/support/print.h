@@ -4,7 +4,8 @@
 #include <QStringList>
 #include <ostream>
 
-// Lets failed expectations show texts as people read them. Included into every test source by the build.
+// Included into every test source by the build: texts are written u"Kapr"_s, and failed expectations show
+// them as people read them.
 
 inline void PrintTo(const QString& text, std::ostream* out) {
     *out << '"' << text.toStdString() << '"';
@@ -12,4 +13,8 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 
 inline void PrintTo(const QStringList& list, std::ostream* out) {
     *out << '[' << list.join(u'|').toStdString() << ']';
+}
+
+namespace sarne {
+using namespace Qt::StringLiterals;
 }

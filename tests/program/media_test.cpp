@@ -1,5 +1,8 @@
+#include <QRegularExpression>
 #include <algorithm>
 
+#include "media/frmvideo.h"
+#include "media/videoarea.h"
 #include "wholeprogram.h"
 
 namespace sarne {
@@ -25,7 +28,7 @@ TEST_F(ProgramSoundTest, TheChosenTrackPlaysAtOnceAfterItsEndAndAfterARestart) {
     playsOn(kWineTone);
     set({"chkNastav(4)"});
     playsOn(kMusicTone);
-    EXPECT_EQ(messages, QStringList{QStringLiteral("Chcete ukončit program?")});
+    EXPECT_EQ(messages, QStringList{u"Chcete ukončit program?"_s});
 }
 
 TEST_F(ProgramSoundTest, ButtonsSoundAtOnceAndCutEachOtherOff) {
@@ -52,10 +55,7 @@ TEST_F(ProgramSoundTest, ButtonsSoundAtOnceAndCutEachOtherOff) {
 }
 
 TEST_F(ProgramSoundTest, AVideoTakesTheMusicsPlaceAndGivesItBack) {
-    ASSERT_FALSE(media
-                     .film(QStringLiteral("VIDEO/2.AVI"), 60000, QStringLiteral("-c:v mjpeg"),
-                           QStringLiteral("64x48"), 5)
-                     .isEmpty());
+    ASSERT_FALSE(media.film(u"VIDEO/2.AVI"_s, 60000, u"-c:v mjpeg"_s, u"64x48"_s, 5).isEmpty());
     start("11010");
     EXPECT_TRUE(server.waitForTone(kMusicTone));
     showFilm(2);
@@ -66,7 +66,7 @@ TEST_F(ProgramSoundTest, AVideoTakesTheMusicsPlaceAndGivesItBack) {
     EXPECT_GT(server.recorded().share(kFilmTone), 0.95) << "a track chosen meanwhile waits";
     set({"chkNastav(3)"});
     EXPECT_TRUE(server.waitForSilence()) << "the videos' sound is off at once";
-    EXPECT_EQ(status(), QStringLiteral("Přehrávám"));
+    EXPECT_EQ(status(), u"Přehrávám"_s);
     press(Qt::Key_Escape);
     EXPECT_TRUE(server.waitForTone(kWineTone));
     showFilm(2);
@@ -83,7 +83,7 @@ TEST_F(ProgramSoundTest, ADevicePulledOutSilencesAndEndsNothing) {
     set({"opthudba(1)"});
     EXPECT_TRUE(waitFor([&] { return platform->music.mode() == MediaMode::Playing; }));
     showFilm(1);
-    EXPECT_TRUE(waitFor([&] { return status() == QStringLiteral("Přehrávání skončeno"); }, 15000));
+    EXPECT_TRUE(waitFor([&] { return status() == u"Přehrávání skončeno"_s; }, 15000));
     press(Qt::Key_Escape);
 
     ASSERT_TRUE(server.plugDevice());
@@ -95,7 +95,55 @@ TEST_F(ProgramSoundTest, ADevicePulledOutSilencesAndEndsNothing) {
     pointAt(3);
     EXPECT_TRUE(server.waitForTone(effectTone(3)));
     end();
-    EXPECT_EQ(messages, QStringList{QStringLiteral("Chcete ukončit program?")}) << "nobody was told";
+    EXPECT_EQ(messages, QStringList{u"Chcete ukončit program?"_s}) << "nobody was told";
+}
+
+const QString kEnded = u"Přehrávání skončeno"_s;
+
+using ProgramVideoTest = WholeProgram;
+
+TEST_F(ProgramVideoTest, WithoutASoundDeviceEverythingElseIsTheSame) {
+    start("11010");
+    EXPECT_TRUE(waitFor([&] { return platform->music.position() > 300; })) << "time passes";
+    pointAt(2);
+    set({"opthudba(1)"});
+    EXPECT_TRUE(waitFor([&] { return platform->music.mode() == MediaMode::Playing; }));
+    showFilm(1);
+    EXPECT_TRUE(waitFor([&] { return status() == kEnded; }, 15000));
+    press(Qt::Key_Escape);
+    end();
+    EXPECT_EQ(messages.size(), 1) << messages.join(u'|').toStdString();
+}
+
+TEST_F(ProgramVideoTest, AFilmOfAnHourIsSoughtAtOnce) {
+    start("10010");
+    ASSERT_FALSE(media
+                     .film(u"VIDEO/3.AVI"_s, 3600000,
+                           u"-vf drawbox=x=0:y=0:w=iw:h=ih:color=red:t=fill:enable='gte(t,2700)' "
+                           "-c:v mjpeg -c:a pcm_u8 -ar 8000"_s,
+                           u"64x48"_s, 2)
+                     .isEmpty());
+    showFilm(3);
+    auto* area = top<frmVideo>()->findChild<VideoArea*>();
+    const auto red = [&] {
+        const QColor colour = area->grab().toImage().pixelColor(area->rect().center());
+        return colour.red() > 200 && colour.green() < 60;
+    };
+    const auto* time = top<frmVideo>()->findChild<Label*>(u"lblCas"_s);
+    EXPECT_TRUE(waitFor([&] { return time->text().endsWith(u" / 60:00"_s); }));
+    EXPECT_FALSE(red());
+    auto* bar = top<frmVideo>()->findChild<SeekBar*>();
+    QElapsedTimer clock;
+    clock.start();
+    int fiftieth = 0;
+    while (bar->positionAt(fiftieth) < 50 * 60000) ++fiftieth;
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->toPixels({fiftieth, bar->twips().height() / 2}));
+    EXPECT_TRUE(waitFor(red));
+    RecordProperty("seek_ms", static_cast<int>(clock.elapsed()));
+    // A pixel of the bar is some seconds.
+    const QRegularExpression there(u"^(49:5|50:0). / 60:00$"_s);
+    EXPECT_TRUE(waitFor([&] { return there.match(time->text()).hasMatch(); })) << time->text().toStdString();
+    EXPECT_EQ(status(), u"Přehrávám"_s);
 }
 
 }  // namespace

@@ -1,10 +1,13 @@
-#include "tour/textcontrast.h"
-
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
 #include <QPainter>
+#include <QTemporaryDir>
 #include <QWidget>
+
+#include "tour/blackline.h"
+#include "tour/looks.h"
+#include "tour/textcontrast.h"
 
 namespace sarne {
 namespace {
@@ -81,6 +84,53 @@ TEST(TextContrast, CountsWhatShowsThroughTheText) {
     const auto found = textContrasts(window);
     ASSERT_EQ(found.size(), 1U);
     EXPECT_NEAR(found[0].contrast, contrastRatio(QColor(153, 153, 153), Qt::white), 0.01);
+}
+
+/// A screen with a lively ground, a sheet of paper and a dish of \a dish on it.
+QImage screen(const QColor& dish) {
+    QImage image(800, 600, QImage::Format_RGB32);
+    QPainter painter(&image);
+    QLinearGradient ground(0, 0, 800, 600);
+    ground.setColorAt(0, QColor(30, 60, 70));
+    ground.setColorAt(1, QColor(150, 120, 80));
+    painter.fillRect(image.rect(), ground);
+    painter.fillRect(300, 100, 450, 400, QColor(245, 238, 220));
+    painter.fillRect(60, 150, 200, 150, dish);
+    return image;
+}
+
+TEST(Looks, AnotherDishPassesAMissingGroundDoesNot) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("looks.txt")), name = QStringLiteral("frmRecept-0");
+    const auto fault = [&](const QImage& image) {
+        return Looks(file, QStringLiteral("800x600")).fault(name, image);
+    };
+    EXPECT_NE(fault(screen(Qt::darkRed)), QString()) << "nothing is kept yet";
+    for (const char* size : {"800x600", "1920x1080"}) {
+        Looks looks(file, QLatin1String(size));
+        looks.fault(name, screen(Qt::darkRed));
+        ASSERT_TRUE(looks.accept());
+    }
+    EXPECT_EQ(fault(screen(Qt::darkRed)), QString());
+    EXPECT_EQ(fault(screen(Qt::darkYellow)), QString());
+    QImage flat = screen(Qt::darkRed);
+    flat.fill(QColor(11, 23, 32));
+    EXPECT_NE(fault(flat), QString());
+    QPainter(&flat).drawImage(300, 100, screen(Qt::darkRed).copy(300, 100, 450, 400));
+    EXPECT_NE(fault(flat), QString()) << "the paper is there, the ground is not";
+    EXPECT_EQ(Looks(file, QStringLiteral("1920x1080")).fault(name, screen(Qt::darkRed)), QString());
+}
+
+TEST(BlackLine, OneBrightPixelIsEnoughForARowAndAColumn) {
+    QImage screen(40, 30, QImage::Format_RGB32);
+    screen.fill(QColor(11, 34, 38));
+    EXPECT_EQ(blackLine(screen), QString());
+    for (int y = 0; y < 30; ++y) screen.setPixelColor(39, y, QColor(2, 2, 2));
+    EXPECT_EQ(blackLine(screen), QStringLiteral("column 39 is plain black"));
+    screen.setPixelColor(39, 17, QColor(20, 0, 0));
+    EXPECT_EQ(blackLine(screen), QString());
+    for (int x = 0; x < 40; ++x) screen.setPixelColor(x, 0, Qt::black);
+    EXPECT_EQ(blackLine(screen), QStringLiteral("row 0 is plain black"));
 }
 
 }  // namespace

@@ -1,0 +1,172 @@
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "db/database.h"
+#include "db/schema.h"
+#include "db/userfile.h"
+#include "kitchen/cooked.h"
+#include "kitchen/cookingpages.h"
+#include "kitchen/fishamount.h"
+#include "kitchen/ringwave.h"
+#include "kitchen/steps.h"
+
+namespace sarne {
+namespace {
+
+/// The parts of \a text that are at most \a most characters long.
+std::vector<QString> parts(const char* text, int most) {
+    return partsThatFit(QString::fromUtf8(text), [most](const QString& part) { return part.size() <= most; });
+}
+
+TEST(PartsThatFit, AreCutBetweenSentencesAndElseBetweenWords) {
+    using Parts = std::vector<QString>;
+    const auto s = [](const char* text) { return QString::fromUtf8(text); };
+    EXPECT_EQ(parts("Jedna. Dvě. Tři.", 100), (Parts{s("Jedna. Dvě. Tři.")}));
+    EXPECT_EQ(parts("Jedna. Dvě. Tři.", 11), (Parts{s("Jedna. Dvě."), s("Tři.")}));
+    EXPECT_EQ(parts("Krátká. Tahle věta je moc dlouhá. Konec.", 15),
+              (Parts{s("Krátká."), s("Tahle věta je"), s("moc dlouhá."), s("Konec.")}));
+    EXPECT_EQ(parts("Nejnezpracovatelnější", 5), (Parts{s("Nejnezpracovatelnější")}));
+    EXPECT_EQ(parts("", 5), (Parts{QString()}));
+}
+
+TEST(CookingPages, BeginWithGettingReadyAndEndWithTheMeal) {
+    const auto all = [](const QString&) { return true; };
+    EXPECT_TRUE(cookingPages({}, all).empty());
+    const std::vector<CookingStep> steps{{{}, u"A. B."_s, {}}, {{}, u"C."_s, {}}};
+    EXPECT_EQ(cookingPages(steps, all).size(), 4u);
+    const auto pages = cookingPages(steps, [](const QString& text) { return text.size() < 4; });
+    ASSERT_EQ(pages.size(), 5u);
+    EXPECT_EQ(pages.front().kind, CookingPage::Kind::Ready);
+    EXPECT_EQ(pages[2].step, 0);
+    EXPECT_EQ(pages[2].part, 1);
+    EXPECT_EQ(pages[2].parts, 2);
+    EXPECT_EQ(pages[3].step, 1);
+    EXPECT_EQ(pages.back().kind, CookingPage::Kind::Done);
+}
+
+TEST(Cooked, IsKeptOnceADayAndByRecipe) {
+    QTemporaryDir folder;
+    UserFile file(folder.filePath(u"vlastni.db"_s));
+    const QDate first(2026, 11, 20), second(2026, 11, 21);
+    EXPECT_TRUE(keepCooked(file, 1, u"Kapr"_s, first, 4));
+    EXPECT_TRUE(keepCooked(file, 1, u"Kapr"_s, second, 4));
+    EXPECT_TRUE(keepCooked(file, 1, u"Kapr"_s, second, 6));
+    EXPECT_TRUE(keepCooked(file, 2, u"Štika"_s, first, 2));
+    EXPECT_EQ(cookedDays(file, 1), (std::vector<QDate>{second, first}));
+    EXPECT_TRUE(cookedDays(file, 3).empty());
+    UserFile nowhere;
+    EXPECT_FALSE(keepCooked(nowhere, 1, u"Kapr"_s, first, 4));
+}
+
+TEST(RingWave, IsAWholeSoundThatIsHeardAndNotClipped) {
+    const QByteArray wave = ringWave();
+    ASSERT_GT(wave.size(), 44);
+    EXPECT_TRUE(wave.startsWith("RIFF"));
+    const auto* samples = reinterpret_cast<const qint16*>(wave.constData() + 44);
+    int loudest = 0;
+    for (qsizetype i = 0; i < (wave.size() - 44) / 2; ++i)
+        loudest = std::max(loudest, std::abs(int(samples[i])));
+    EXPECT_GT(loudest, 8000);
+    EXPECT_LT(loudest, 32000);
+}
+
+TEST(MainFish, SaysForHowManyItIsEnough) {
+    using Bought = MainFish::Bought;
+    const MainFish steaks{u"kapr, podkovy"_s, 1200, 4, 0.7};
+    EXPECT_DOUBLE_EQ(steaks.portionsFor(1200, Bought::AsInTheList), 4);
+    EXPECT_DOUBLE_EQ(steaks.portionsFor(1340, Bought::AsInTheList), 4.5);
+    EXPECT_DOUBLE_EQ(steaks.portionsFor(1340, Bought::Whole), 3.1);
+    EXPECT_DOUBLE_EQ(steaks.portionsFor(0, Bought::Whole), 0);
+    EXPECT_DOUBLE_EQ(steaks.portionsFor(-5, Bought::AsInTheList), 0);
+    EXPECT_TRUE(steaks.isCut());
+    EXPECT_FALSE((MainFish{{}, 600, 2, 1}.isCut()));
+    EXPECT_DOUBLE_EQ((MainFish{{}, 0, 2, 1}.portionsFor(500, Bought::Whole)), 0);
+}
+
+TEST(MainFish, IsTheLineThatTheBookNames) {
+    QTemporaryDir folder;
+    Database db;
+    EXPECT_FALSE(mainFish(db, 1));
+    ASSERT_TRUE(db.Create(folder.filePath(u"Sarne.drc"_s)));
+    ASSERT_TRUE(db.makeTables({recipeSchema()}));
+    for (const char* row :
+         {"INSERT INTO Suroviny VALUES (1, 'kapr')", "INSERT INTO Suroviny VALUES (2, 'cibule')",
+          "INSERT INTO Upresneni VALUES (1, 'filety')", "INSERT INTO Upresneni VALUES (2, 'podkovy')",
+          "INSERT INTO Jednotky VALUES (1, 'g')", "INSERT INTO Vyteznost VALUES (1, 45)",
+          "INSERT INTO Recepty (ID, Porce) VALUES (1, 4)", "INSERT INTO Recepty (ID, Porce) VALUES (2, 4)",
+          "INSERT INTO SpojSur VALUES (1, 2, 0, 1, 80, 1, 80, 0)",
+          "INSERT INTO SpojSur VALUES (1, 1, 1, 1, 800, 1, 800, 0)",
+          "INSERT INTO Fakta (ID, Ryba) VALUES (1, 1)", "INSERT INTO Fakta (ID, Ryba) VALUES (2, -1)"})
+        ASSERT_TRUE(db.Execute(QString::fromUtf8(row))) << row;
+    const auto fish = mainFish(db, 1);
+    ASSERT_TRUE(fish);
+    EXPECT_EQ(fish->name, u"kapr, filety"_s);
+    EXPECT_EQ(fish->portions, 4);
+    EXPECT_DOUBLE_EQ(fish->wholeShare, 0.45);
+    EXPECT_FALSE(mainFish(db, 2));
+    EXPECT_FALSE(mainFish(db, 3));
+}
+
+const QLocale kCzech(QLocale::Czech, QLocale::CzechRepublic);
+
+Ingredient butter() {
+    Ingredient one;
+    one.name = u"máslo"_s;
+    one.refinement = u"změklé"_s;
+    one.weights = {u"g"_s, 80};
+    one.spoons = {u"lžíce"_s, 5};
+    return one;
+}
+
+QString need(const Ingredient& one, double share, UnitSystem units, double portions) {
+    return needText(one, share, units, Quantities(portions, 4, kCzech), kCzech).replace(QChar(0xa0), u' ');
+}
+
+TEST(NeedText, GivesTheShareForThePortionsAndUnits) {
+    EXPECT_EQ(need(butter(), 1, UnitSystem::Weights, 4), u"máslo, změklé – 80 g"_s);
+    EXPECT_EQ(need(butter(), 0.5, UnitSystem::Weights, 4), u"máslo, změklé – 40 g"_s);
+    EXPECT_EQ(need(butter(), 0.5, UnitSystem::Weights, 6), u"máslo, změklé – 60 g"_s);
+    EXPECT_EQ(need(butter(), 0.5, UnitSystem::Spoons, 4), u"máslo, změklé – 2,5 lžíce"_s);
+    EXPECT_EQ(need(butter(), 1, UnitSystem::Spoons, 4), u"máslo, změklé – 5 lžic"_s);
+    // Three thirds are all of it, not 79.99 g.
+    EXPECT_EQ(need(butter(), 3 * (1. / 3), UnitSystem::Weights, 4), u"máslo, změklé – 80 g"_s);
+    Ingredient salt;
+    salt.name = u"sůl"_s;
+    EXPECT_EQ(need(salt, 1, UnitSystem::Weights, 4), u"sůl"_s);
+    salt.weights.unit = u"podle chuti"_s;
+    EXPECT_EQ(need(salt, 1, UnitSystem::Weights, 4), u"sůl – podle chuti"_s);
+}
+
+TEST(FirstSentence, EndsWhereTheNextOneBegins) {
+    EXPECT_EQ(firstSentence(u"Vaříme asi 1 l vody. Potom přidáme rybu."_s), u"Vaříme asi 1 l vody."_s);
+    EXPECT_EQ(firstSentence(u"Pečeme při 200 °C. 10 minut čekáme"_s),
+              u"Pečeme při 200 °C. 10 minut čekáme"_s);
+    EXPECT_EQ(firstSentence(QString()), QString());
+}
+
+TEST(ReadSteps, ABookWithoutThemHasNone) {
+    QTemporaryDir folder;
+    Database db;
+    EXPECT_TRUE(readSteps(db, 1).empty());
+    ASSERT_TRUE(db.Create(folder.filePath(u"Sarne.drc"_s)));
+    EXPECT_TRUE(readSteps(db, 1).empty());
+    ASSERT_TRUE(db.makeTables({recipeSchema()}));
+    EXPECT_TRUE(readSteps(db, 1).empty());
+    ASSERT_TRUE(db.Execute(u"INSERT INTO Kroky VALUES (7, 1, '', 'Osolíme.')"_s));
+    ASSERT_TRUE(db.Execute(u"INSERT INTO Kroky VALUES (8, 2, '', 'Jiný recept.')"_s));
+    ASSERT_TRUE(db.Execute(u"INSERT INTO Kroky VALUES (9, 1, 'Na stůl', 'Podáváme.')"_s));
+    ASSERT_TRUE(db.Execute(u"INSERT INTO KrokySur VALUES (9, 0, 0.5)"_s));
+    ASSERT_TRUE(db.Execute(u"INSERT INTO KrokySur VALUES (7, 3, 1)"_s));
+    ASSERT_TRUE(db.Execute(u"INSERT INTO KrokySur VALUES (7, 0, 0.5)"_s));
+    const auto steps = readSteps(db, 1);
+    ASSERT_EQ(steps.size(), 2u);
+    EXPECT_EQ(steps[0].needs, (std::vector<StepNeed>{{0, 0.5}, {3, 1}}));
+    EXPECT_EQ(steps[1].title, u"Na stůl"_s);
+    EXPECT_EQ(steps[1].needs, (std::vector<StepNeed>{{0, 0.5}}));
+}
+
+}  // namespace
+}  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

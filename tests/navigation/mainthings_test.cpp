@@ -1,0 +1,92 @@
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "screens/navigation/buttontable.h"
+#include "screens/navigation/ornaments.h"
+#include "screens/navigation/sweep.h"
+
+namespace sarne {
+namespace {
+
+TEST(ButtonTable, PositionsAreFixedAndAreasComeFromTheArt) {
+    const auto table = buttonTable(
+        u"# tlačítko vlevo nahoře šířka výška snímek\n0 9000 300 900 2000 1200 2100\n"
+        "5 4000 5000 x 600 700 800\n6 1 2 0 4 5 6\n19 0 0 600 600 600 600\n99 1 1 1 1 1 1\nnic"_s);
+    EXPECT_EQ(table[0].position, QPoint(9335, 370));
+    EXPECT_EQ(table[0].hotArea, QRect(9000, 300, 900, 2000));
+    EXPECT_EQ(table[0].frame, QSize(1200, 2100));
+    EXPECT_EQ(table[5].hotArea.topLeft(), QPoint(4288, 5003)) << "a bad line leaves the button its own place";
+    EXPECT_EQ(table[6].hotArea.topLeft(), QPoint(4874, 1320));
+    EXPECT_EQ(table[18].position, QPoint(8736, 6721));
+    EXPECT_FALSE(table[19].isShown());
+    EXPECT_FALSE(table[20].isShown());
+}
+
+TEST(ButtonTable, ArrowsGoToTheNearestAndEveryButtonCanBeReached) {
+    const auto table = buttonTable({});
+    EXPECT_EQ(nearestButton(table, 5, Direction::Right), 8);
+    EXPECT_EQ(nearestButton(table, 0, Direction::Up), 0) << "nothing further up";
+    EXPECT_EQ(nearestButton(table, -5, Direction::Down), firstButton(table));
+    std::set<int> reached{firstButton(table)}, before;
+    while (before != reached) {
+        before = reached;
+        for (const int from : before) {
+            for (const auto direction : {Direction::Left, Direction::Right, Direction::Up, Direction::Down})
+                reached.insert(nearestButton(table, from, direction));
+        }
+    }
+    EXPECT_EQ(reached.size(), 19u);
+}
+
+TEST(Ornaments, MoveRarelyAndRestBetween) {
+    Ornaments ornaments;
+    int resting = 0, moves[Ornaments::kThings] = {};
+    constexpr int kMinute = 60'000 / Ornaments::kInterval;
+    for (int step = 0; step < kMinute; ++step) {
+        bool any = false;
+        for (int thing = 0; thing < Ornaments::kThings; ++thing) {
+            const bool moving = ornaments.phase(Ornaments::Thing(thing)) >= 0;
+            any |= moving;
+            moves[thing] += moving;
+        }
+        EXPECT_EQ(ornaments.stepsUntilMove() == 0, any) << step;
+        resting += !any;
+        ornaments.step();
+    }
+    for (const int moved : moves) {
+        EXPECT_GT(moved, 0);
+        EXPECT_LT(moved, kMinute / 3) << "rests most of the time";
+    }
+    EXPECT_GT(resting, kMinute / 4) << "often nothing moves at all";
+    ornaments.rest();
+    ornaments.skip(ornaments.stepsUntilMove());
+    EXPECT_GE(ornaments.phase(Ornaments::kCandle), 0) << "what was skipped was rest only";
+}
+
+TEST(Sweep, EachThingGlowsUpOnceAndGoesOutAgain) {
+    Sweep sweep;
+    EXPECT_FALSE(sweep.isRunning());
+    sweep.start({4, 6, 0});
+    std::map<int, double> brightest;
+    int steps = 0;
+    for (; sweep.isRunning() && steps < 1000; ++steps) {
+        EXPECT_LE(sweep.lit().size(), 3u);
+        for (const int thing : {0, 4, 6}) brightest[thing] = std::max(brightest[thing], sweep.glow(thing));
+        sweep.step();
+    }
+    EXPECT_EQ(steps, 3 * Sweep::kRise + Sweep::kFade);
+    for (const int thing : {0, 4, 6}) {
+        EXPECT_EQ(brightest[thing], 1) << thing;
+        EXPECT_EQ(sweep.glow(thing), 0) << thing;
+    }
+    sweep.start({4, 6});
+    EXPECT_EQ(sweep.lit(), std::vector<int>{4}) << "in their order";
+    EXPECT_EQ(sweep.glow(9), 0);
+}
+
+}  // namespace
+}  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later
