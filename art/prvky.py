@@ -313,8 +313,8 @@ def _cutlery(n, s):
     m = mat("isilver", ((.3, "c2c2bc"), (.7, "efece2")), .18, metal=1)
     for i in range(n):
         x = (i - (n - 1) / 2) * (4.0 / n if n > 1 else 1)
-        f = put(table.fork(2.9, m), x - .30 * (1 if n < 3 else .62), -.1, .1, turn=90, scale=(1, .86 if n < 3 else .7, 1))
-        k = put(table.tableknife(2.9, m), x + .38 * (1 if n < 3 else .62), -.1, .1, turn=90, scale=(1, .95 if n < 3 else .8, 1))
+        f = put(table.fork(2.5, m), x - .30 * (1 if n < 3 else .62), -.3, .1, turn=90, scale=(1, .86 if n < 3 else .7, 1))
+        k = put(table.tableknife(2.5, m), x + .38 * (1 if n < 3 else .62), -.3, .1, turn=90, scale=(1, .95 if n < 3 else .8, 1))
         gr += [f, k]
     gr.append(put(text(s, 3.1, mat("digit", "f0b878", .25, metal=.7, coat=.5), .5, .07), 0, -1.6, .1))
     return facing(group(gr), 30)
