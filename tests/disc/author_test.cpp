@@ -150,6 +150,21 @@ TEST(OwnFilesTest, ADiscIsBuiltOfThem) {
     EXPECT_LE(count.files, 5) << "but for the names that no voice could say";
 }
 
+TEST(OwnFilesTest, APictureThatNothingReadsIsTold) {
+    const QTemporaryDir folder;
+    const QString png = folder.filePath(u"foto.png"_s);
+    const QString heic = folder.filePath(u"foto.heic"_s);
+    EXPECT_EQ(whyUnreadable(png), u"obrázek nejde přečíst"_s);
+    QImage photo(64, 48, QImage::Format_RGB32);
+    photo.fill(Qt::red);
+    ASSERT_TRUE(photo.save(png));
+    EXPECT_EQ(whyUnreadable(png), QString());
+    run(u"heif-enc"_s, {png, u"-o"_s, heic});
+    if (!QFile::exists(heic)) GTEST_SKIP() << "nothing here writes HEIC";
+    EXPECT_EQ(whyUnreadable(heic), QString());
+    EXPECT_EQ(readPicture(heic).size(), photo.size());
+}
+
 }  // namespace
 }  // namespace sarne::disc
 

@@ -55,6 +55,15 @@ bool isLeftToConverter(const QString& file) {
     return endings.contains(QFileInfo(file).suffix().toLower());
 }
 
+/// ImageMagick reads the pictures of telephones only where it was built so.
+bool hasConverter() {
+    for (const char* name : {"heif-convert", "heif-dec"})
+        if (!QStandardPaths::findExecutable(QLatin1String(name)).isEmpty()) return true;
+    QProcess process;
+    process.start(QStringLiteral("convert"), {QStringLiteral("-list"), QStringLiteral("format")});
+    return process.waitForFinished(kTimeout) && process.readAllStandardOutput().contains("HEIC");
+}
+
 /// By the first converter that the system has.
 QImage converted(const QString& file) {
     const QTemporaryDir folder;
@@ -91,8 +100,14 @@ bool isOwnFile(const QString& name) {
     return pictures().contains(ending) || recordings().contains(ending) || films().contains(ending);
 }
 
-bool isReadable(const QString& file) {
-    return isLeftToConverter(file) || QImageReader(file).canRead();
+QString whyUnreadable(const QString& file) {
+    if (QImageReader(file).canRead()) return {};
+    if (!isLeftToConverter(file)) return QStringLiteral("obrázek nejde přečíst");
+    static const bool canConvert = hasConverter();
+    return canConvert ? QString()
+                      : QStringLiteral(
+                            "obrázky HEIC a AVIF tu nemá co přečíst: doinstalujte heif-convert (balík "
+                            "libheif-examples), nebo fotografii uložte jako JPEG");
 }
 
 QImage readPicture(const QString& file) {

@@ -15,8 +15,9 @@ QString ownFilm(const QString& stem);
 /// Whether a file of that name is one of these.
 bool isOwnFile(const QString& name);
 
-/// Whether readPicture() can be expected to read the picture; only its head is looked at.
-bool isReadable(const QString& file);
+/// Why readPicture() will not read the picture, and what helps; empty when it can be expected to. Only the
+/// head of the file is looked at.
+QString whyUnreadable(const QString& file);
 
 /// The picture in \a file, turned as its camera says. HEIC and AVIF, which the toolkit may not read, are read
 /// by a converter where the system has one. Null when nothing reads it.

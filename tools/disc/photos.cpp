@@ -283,18 +283,23 @@ QList<Dish> allDishes(Workshop& shop) {
     return dishes;
 }
 
+void checkReadable(Workshop& shop, const QList<Dish>& dishes) {
+    for (const Dish& dish : dishes)
+        if (const QString why = dish.source.isEmpty() ? QString() : whyUnreadable(dish.source);
+            !why.isEmpty())
+            shop.problems.error({QDir(shop.content).relativeFilePath(dish.source), 0}, why);
+}
+
 }  // namespace
 
 void checkPhotos(Workshop& shop) {
-    for (const Dish& dish : allDishes(shop))
-        if (!dish.source.isEmpty() && !isReadable(dish.source))
-            shop.problems.error({QDir(shop.content).relativeFilePath(dish.source), 0},
-                                QStringLiteral("obrázek nejde přečíst"));
+    checkReadable(shop, allDishes(shop));
     thingTasks(shop);
 }
 
 void makePhotos(Workshop& shop) {
     const QList<Dish> dishes = allDishes(shop);
+    checkReadable(shop, dishes);
     QList<Task> tasks;
     for (const Dish& dish : dishes) tasks << dish.task();
     tasks << pictureTask(shop,

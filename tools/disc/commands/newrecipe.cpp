@@ -1,6 +1,8 @@
 #include <QCommandLineParser>
 #include <QFile>
+#include <QTextStream>
 #include <cstdio>
+#include <functional>
 
 #include "../recipefile.h"
 #include "commands.h"
@@ -8,17 +10,58 @@
 namespace sarne::disc {
 namespace {
 
-/// The value of an option, or what the user types when asked.
-QString answer(const QCommandLineParser& parser, const char* option, const QString& question,
-               const QString& usual) {
-    if (parser.isSet(QLatin1String(option))) return parser.value(QLatin1String(option)).trimmed();
-    std::printf("%s%s ", qUtf8Printable(question),
-                usual.isEmpty() ? "" : qUtf8Printable(QStringLiteral(" [%1]").arg(usual)));
-    std::fflush(stdout);
-    char typed[512] = {};
-    if (!std::fgets(typed, sizeof typed, stdin)) return usual;
-    const QString line = QString::fromLocal8Bit(typed).trimmed();
-    return line.isEmpty() ? usual : line;
+/// Something to be known of a recipe.
+struct Question {
+    const char* option;
+    QString text;
+    /// What an empty line means; empty when there must be an answer.
+    QString usual;
+    /// Brings an answer to the form that it is used in; empty when it is none.
+    std::function<QString(const QString&)> read;
+    /// Said to an answer that is none.
+    QString hint;
+};
+
+/// The value of an option, or what the user types when asked, again until it is an answer. Empty when there
+/// is none.
+QString answer(const QCommandLineParser& parser, const Question& question, QTextStream& typed) {
+    const QString option = QLatin1String(question.option);
+    if (parser.isSet(option)) {
+        QString given = question.read(parser.value(option).simplified());
+        if (given.isEmpty()) complain(QStringLiteral("--%1: %2").arg(option, question.hint));
+        return given;
+    }
+    for (;;) {
+        const QString usual =
+            question.usual.isEmpty() ? QString() : QStringLiteral(" [%1]").arg(question.usual);
+        std::printf("%s%s ", qUtf8Printable(question.text), qUtf8Printable(usual));
+        std::fflush(stdout);
+        QString line;
+        if (!typed.readLineInto(&line)) {
+            std::printf("\n");
+            return {};
+        }
+        line = line.simplified();
+        if (QString read = question.read(line.isEmpty() ? question.usual : line); !read.isEmpty())
+            return read;
+        complain(question.hint);
+    }
+}
+
+QString portionsText(const QString& typed) {
+    constexpr int kMost = 255;
+    const int portions = typed.section(u' ', 0, 0).toInt();
+    return portions >= 1 && portions <= kMost ? QString::number(portions) : QString();
+}
+
+/// The course that \a typed begins; "pol" is "polévka".
+QString courseOf(const QString& typed, const QStringList& courses) {
+    QStringList begun;
+    for (const QString& course : courses) {
+        if (course.compare(typed, Qt::CaseInsensitive) == 0) return course;
+        if (course.startsWith(typed, Qt::CaseInsensitive)) begun << course;
+    }
+    return begun.size() == 1 ? begun.first() : QString();
 }
 
 struct NewRecipe {
@@ -94,19 +137,34 @@ int createRecipe(const QStringList& arguments) {
     const Project project = projectOf(parser);
     const ReadBook read(project);
     const BookFacts& facts = read.book.facts;
-    NewRecipe recipe;
-    recipe.name = answer(parser, "nazev", QStringLiteral("Jak se jídlo jmenuje?"), {});
-    recipe.main = answer(parser, "hlavni", QStringLiteral("Hlavní surovina?"), {});
-    recipe.portions = answer(parser, "porce", QStringLiteral("Pro kolik lidí?"), QStringLiteral("4")).toInt();
-    recipe.course =
-        answer(parser, "chod", QStringLiteral("Chod (%1)?").arg(facts.courses.join(QStringLiteral(", "))),
-               facts.courses.value(1));
-    if (recipe.name.isEmpty() || recipe.main.isEmpty() || recipe.portions < 1 ||
-        !facts.courses.contains(recipe.course)) {
-        complain(QStringLiteral("Recept potřebuje název, hlavní surovinu, počet porcí a jeden z chodů: %1")
-                     .arg(facts.courses.join(QStringLiteral(", "))));
-        return 2;
+    const QString courses = facts.courses.join(QStringLiteral(", "));
+    const auto asItIs = [](const QString& typed) { return typed; };
+    QStringList answers;
+    QTextStream typed(stdin);
+    for (const Question& question :
+         {Question{"nazev",
+                   QStringLiteral("Jak se jídlo jmenuje?"),
+                   {},
+                   asItIs,
+                   QStringLiteral("Bez názvu to nejde; třeba „Bramboračka“.")},
+          Question{"hlavni",
+                   QStringLiteral("Hlavní surovina?"),
+                   {},
+                   asItIs,
+                   QStringLiteral("Napište surovinu, která v jídle nesmí chybět; třeba „brambory“.")},
+          Question{"porce", QStringLiteral("Pro kolik lidí?"), QStringLiteral("4"), portionsText,
+                   QStringLiteral("Napište číslo od 1 do 255.")},
+          Question{"chod", QStringLiteral("Chod (%1)?").arg(courses), facts.courses.value(1),
+                   [&](const QString& text) { return courseOf(text, facts.courses); },
+                   QStringLiteral("Chod je jeden z těchto: %1.").arg(courses)}}) {
+        answers << answer(parser, question, typed);
+        if (answers.last().isEmpty()) {
+            complain(
+                QStringLiteral("Recept nevznikl: potřebuje název, hlavní surovinu, počet porcí a chod."));
+            return 2;
+        }
     }
+    const NewRecipe recipe{answers[0], answers[1], answers[2].toInt(), answers[3]};
     const QString file =
         QStringLiteral("recepty/%1.txt").arg(recipeStem(read.book, recipe.course, recipe.name));
     if (!writeNew(project.content + u'/' + file, recipeText(recipe, facts))) {

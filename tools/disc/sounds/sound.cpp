@@ -1,57 +1,20 @@
 #include "sound.h"
 
-#include <QByteArray>
+#include <sndfile.h>
+
 #include <QFile>
 #include <QSaveFile>
-#include <QtEndian>
 #include <algorithm>
 #include <cmath>
-#include <cstring>
+#include <memory>
 
 namespace sarne::disc {
 namespace {
 
-constexpr int kHeaderSize = 44;
-
-template <typename Number>
-void put(QByteArray& bytes, Number value) {
-    const Number little = qToLittleEndian(value);
-    bytes.append(reinterpret_cast<const char*>(&little), sizeof(little));
-}
-
-QByteArray header(const Sound& sound, quint32 dataSize) {
-    const auto frameSize = static_cast<quint16>(sound.channels * 2);
-    QByteArray bytes = "RIFF";
-    put<quint32>(bytes, kHeaderSize - 8 + dataSize);
-    bytes += "WAVEfmt ";
-    put<quint32>(bytes, 16);
-    put<quint16>(bytes, 1);
-    put<quint16>(bytes, static_cast<quint16>(sound.channels));
-    put<quint32>(bytes, static_cast<quint32>(sound.rate));
-    put<quint32>(bytes, static_cast<quint32>(sound.rate) * frameSize);
-    put<quint16>(bytes, frameSize);
-    put<quint16>(bytes, 16);
-    bytes += "data";
-    put<quint32>(bytes, dataSize);
-    return bytes;
-}
-
-template <typename Number>
-Number get(const QByteArray& bytes, qsizetype at) {
-    return at + qsizetype(sizeof(Number)) <= bytes.size() ? qFromLittleEndian<Number>(bytes.constData() + at)
-                                                          : Number{};
-}
-
-bool isSupported(const QByteArray& bytes, const Sound& sound) {
-    return bytes.startsWith("RIFF") && bytes.mid(8, 4) == "WAVE" && sound.channels > 0 && sound.rate > 0;
-}
-
-void readSamples(const QByteArray& bytes, qsizetype from, qsizetype size, Sound& sound) {
-    const qsizetype end = std::min(bytes.size(), from + size);
-    for (qsizetype at = from; at + 1 < end; at += 2)
-        sound.samples.push_back(static_cast<float>(get<qint16>(bytes, at)) / 32768.0F);
-    sound.samples.resize(sound.samples.size() - sound.samples.size() % static_cast<size_t>(sound.channels));
-}
+struct Closer {
+    void operator()(SNDFILE* file) const { sf_close(file); }
+};
+using SoundFile = std::unique_ptr<SNDFILE, Closer>;
 
 }  // namespace
 
@@ -97,24 +60,27 @@ void trimSilence(Sound& sound, double decibels, double kept) {
 }
 
 bool writeWav(const QString& file, const Sound& sound) {
-    QByteArray bytes = header(sound, static_cast<quint32>(sound.samples.size() * 2));
-    for (const float sample : sound.samples)
-        put<qint16>(bytes, static_cast<qint16>(std::lround(std::clamp(sample, -1.0F, 1.0F) * 32767)));
     QSaveFile out(file);
-    return out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size() && out.commit();
+    if (!out.open(QIODevice::WriteOnly)) return false;
+    SF_INFO info{0, sound.rate, sound.channels, SF_FORMAT_WAV | SF_FORMAT_PCM_16, 0, 0};
+    SoundFile made(sf_open_fd(out.handle(), SFM_WRITE, &info, SF_FALSE));
+    if (!made) return false;
+    sf_command(made.get(), SFC_SET_CLIPPING, nullptr, SF_TRUE);
+    const sf_count_t frames = sound.frames();
+    const bool isWhole = sf_writef_float(made.get(), sound.samples.data(), frames) == frames;
+    made.reset();
+    return isWhole && out.commit();
 }
 
 Sound readWav(const QString& file) {
-    QFile in(file);
-    if (!in.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = in.readAll();
-    Sound sound{static_cast<int>(get<quint32>(bytes, 24)), get<quint16>(bytes, 22), {}};
-    if (!isSupported(bytes, sound)) return {};
-    for (qsizetype at = 12; at + 8 <= bytes.size();) {
-        const qsizetype size = get<quint32>(bytes, at + 4);
-        if (bytes.mid(at, 4) == "data") readSamples(bytes, at + 8, size, sound);
-        at += 8 + size + size % 2;
-    }
+    SF_INFO info{};
+    const SoundFile in(sf_open(QFile::encodeName(file).constData(), SFM_READ, &info));
+    if (!in || info.channels < 1 || info.samplerate < 1) return {};
+    Sound sound{info.samplerate, info.channels, {}};
+    sound.samples.resize(static_cast<size_t>(info.frames) * static_cast<size_t>(info.channels));
+    const sf_count_t frames =
+        std::max<sf_count_t>(0, sf_readf_float(in.get(), sound.samples.data(), info.frames));
+    sound.samples.resize(static_cast<size_t>(frames) * static_cast<size_t>(info.channels));
     return sound;
 }
 

@@ -35,7 +35,7 @@ void trimSilence(Sound& sound, double decibels, double kept);
 
 /// A 16-bit WAV file. False when it cannot be written whole.
 bool writeWav(const QString& file, const Sound& sound);
-/// Reads a 16-bit WAV file; a sound without samples when it is none.
+/// Reads a WAV file; a sound without samples when it is none.
 Sound readWav(const QString& file);
 
 }  // namespace sarne::disc
