@@ -21,7 +21,8 @@ constexpr int kBlock = 64;
 constexpr double kRinging = 8;
 /// The beginning is blended out of what really follows the end.
 constexpr int kBlendFrames = kRate / 50;
-constexpr int kTimeout = 170'000;
+/// Ten seconds' work, on a busy machine.
+constexpr int kTimeout = 900'000;
 
 int beatFrames(const Pace& pace) {
     return std::max(1, static_cast<int>(std::lround(60.0 / pace.tempo * kRate / kBlock))) * kBlock;

@@ -16,7 +16,8 @@ namespace {
 const QString kMelody = QStringLiteral("zvuky/melodie.scm");
 const QString kSpellings = QStringLiteral("zvuky/vyslovnost.txt");
 
-constexpr int kTimeout = 60'000;
+/// Long enough for all names on a busy machine.
+constexpr int kTimeout = 900'000;
 /// Integrated loudness in LUFS, and the peak that it may cost.
 constexpr double kLoudness = -20;
 constexpr double kHighestPeak = -3.3;
@@ -138,7 +139,8 @@ void Voices::prepare(const QStringList& texts, Speaker speaker) {
         const QStringList own = texts.mid(i * share, share);
         const QList<Spoken> spoken = own.isEmpty() ? QList<Spoken>() : said(own, speaker, kPaces[0]);
         const std::lock_guard lock(finished);
-        for (qsizetype k = 0; k < spoken.size(); ++k) prepared_[{speaker, own[k]}] = spoken[k];
+        for (qsizetype k = 0; k < spoken.size(); ++k)
+            if (spoken[k].fault.isEmpty()) prepared_[{speaker, own[k]}] = spoken[k];
     });
 }
 
