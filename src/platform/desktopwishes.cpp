@@ -1,64 +1,16 @@
 #include "platform/desktopwishes.h"
 
-#include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QFile>
-#include <utility>
-
 namespace sarne {
-namespace {
-
-const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
-const QString kAppearance = QStringLiteral("org.freedesktop.appearance");
-const QString kGnome = QStringLiteral("org.gnome.desktop.interface");
-const QString kGnomeAccess = QStringLiteral("org.gnome.desktop.a11y.interface");
-
-/// Asking for a bus that does not run would start programs, and wait for them.
-bool busRuns() {
-    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
-           QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
-}
-
-}  // namespace
 
 DesktopWishes desktopWishes(const QMap<QString, QVariantMap>& settings) {
-    const QVariantMap all = settings.value(kAppearance), gnome = settings.value(kGnome);
+    const QVariantMap all = settings.value(kAppearanceGroup), gnome = settings.value(kGnomeGroup);
     const QVariant moves = gnome.value(QStringLiteral("enable-animations"));
     DesktopWishes wishes;
     wishes.calm = all.value(QStringLiteral("reduced-motion")).toUInt() == 1 ||
                   (moves.typeId() == QMetaType::Bool && !moves.toBool());
     wishes.contrast = all.value(QStringLiteral("contrast")).toUInt() == 1 ||
-                      settings.value(kGnomeAccess).value(QStringLiteral("high-contrast")).toBool();
+                      settings.value(kGnomeAccessGroup).value(QStringLiteral("high-contrast")).toBool();
     return wishes;
-}
-
-void askDesktop(QObject& receiver, const std::function<void(DesktopWishes)>& told) {
-    if (busRuns() && QDBusConnection::sessionBus().isConnected()) new DesktopQuestions(receiver, told);
-}
-
-DesktopQuestions::DesktopQuestions(QObject& receiver, std::function<void(DesktopWishes)> told)
-    : QObject(&receiver), told_(std::move(told)) {
-    QDBusConnection::sessionBus().connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
-                                          SLOT(ask()));
-    ask();
-}
-
-void DesktopQuestions::ask() {
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("ReadAll"));
-    question << QStringList{kAppearance, kGnome, kGnomeAccess};
-    auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        const QDBusMessage reply = answer->reply();
-        answer->deleteLater();
-        if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty()) return;
-        told_(desktopWishes(qdbus_cast<QMap<QString, QVariantMap>>(reply.arguments().constFirst())));
-    });
 }
 
 }  // namespace sarne

@@ -15,6 +15,11 @@ struct DesktopWishes {
     bool operator==(const DesktopWishes&) const = default;
 };
 
+/// The groups of settings that say it.
+inline const QString kAppearanceGroup = QStringLiteral("org.freedesktop.appearance");
+inline const QString kGnomeGroup = QStringLiteral("org.gnome.desktop.interface");
+inline const QString kGnomeAccessGroup = QStringLiteral("org.gnome.desktop.a11y.interface");
+
 /// What the desktop's \a settings, by group and name, say.
 DesktopWishes desktopWishes(const QMap<QString, QVariantMap>& settings);
 

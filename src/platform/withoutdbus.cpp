@@ -1,4 +1,6 @@
-// Stands in for sleepinhibitor.cpp in a build without D-Bus: there is nobody who could be asked.
+// Stands in for sleepinhibitor.cpp and desktopquestions.cpp in a build without D-Bus: there is nobody who
+// could be asked.
+#include "platform/desktopwishes.h"
 #include "platform/sleepinhibitor.h"
 
 namespace sarne {
@@ -12,6 +14,13 @@ DesktopSleepInhibitor::~DesktopSleepInhibitor() = default;
 void DesktopSleepInhibitor::inhibit(const QString&) {}
 
 void DesktopSleepInhibitor::release() {}
+
+void askDesktop(QObject&, const std::function<void(DesktopWishes)>&) {}
+
+DesktopQuestions::DesktopQuestions(QObject& receiver, std::function<void(DesktopWishes)> told)
+    : QObject(&receiver), told_(std::move(told)) {}
+
+void DesktopQuestions::ask() {}
 
 }  // namespace sarne
 
