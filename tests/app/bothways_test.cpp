@@ -87,10 +87,14 @@ class Visitor : public ShippedProgram {
             std::vector<QPointer<Control>> wanted;
             for (Control* control : front()->findChildren<Control*>())
                 if (canBePressed(*control)) wanted.emplace_back(control);
-            std::vector<QWidget*> reached = reachedByArrows(wanted, kSideways);
-            // Where sideways turns pages the buttons lie behind the last one.
-            const auto below = reachedByArrows(wanted, kDownwards);
-            reached.insert(reached.end(), below.begin(), below.end());
+            std::vector<QWidget*> reached = reachedByArrows(wanted);
+            // Where sideways turns pages, what there is lies below the last one.
+            for (int step = 0; step < kLongest && front()->isVisible(); ++step) {
+                if (std::ranges::all_of(wanted, [&](const auto& one) { return isReached(one, reached); }))
+                    break;
+                QTest::keyClick(QApplication::focusWidget(), step % 2 == 0 ? Qt::Key_Right : Qt::Key_Down);
+                reached.push_back(QApplication::focusWidget());
+            }
             for (const auto& control : wanted)
                 if (control && canBePressed(*control) && std::ranges::count(reached, control.data()) == 0)
                     names << control->objectName();
@@ -135,20 +139,19 @@ class Visitor : public ShippedProgram {
         QWidget* hit = program->stage().childAt(middle);
         QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&program->stage(), middle));
     }
-    using Arrows = std::array<Qt::Key, 4>;
-    static constexpr Arrows kSideways{Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Up};
-    static constexpr Arrows kDownwards{Qt::Key_Down, Qt::Key_Right, Qt::Key_Up, Qt::Key_Left};
+    static constexpr int kLongest = 60;  // steps within a list or a text until the keyboard goes on
 
-    std::vector<QWidget*> reachedByArrows(const std::vector<QPointer<Control>>& wanted,
-                                          const Arrows& arrows) {
-        constexpr int kLongest = 60;  // steps within a list or a text until the keyboard goes on
+    static bool isReached(const QPointer<Control>& one, const std::vector<QWidget*>& reached) {
+        return !one || !canBePressed(*one) || std::ranges::count(reached, one.data()) > 0;
+    }
+    std::vector<QWidget*> reachedByArrows(const std::vector<QPointer<Control>>& wanted) {
         const QPointer<Form> screen = front();
         std::vector<QWidget*> reached{QApplication::focusWidget()};
-        const auto isReached = [&](const QPointer<Control>& one) {
-            return !one || !canBePressed(*one) || std::ranges::count(reached, one.data()) > 0;
-        };
-        for (size_t at = 0; at < reached.size() && !std::ranges::all_of(wanted, isReached); ++at) {
-            for (const Qt::Key arrow : arrows) {
+        for (size_t at = 0;
+             at < reached.size() &&
+             !std::ranges::all_of(wanted, [&](const auto& one) { return isReached(one, reached); });
+             ++at) {
+            for (const Qt::Key arrow : {Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Up}) {
                 reached[at]->setFocus(Qt::TabFocusReason);
                 for (int step = 0; step < kLongest && QApplication::focusWidget() == reached[at]; ++step)
                     QTest::keyClick(reached[at], arrow);
