@@ -62,6 +62,12 @@ class Wanderer {
         door.open(program_, std::int16_t(1 + below(kRecipes)));
         note();
     }
+    /// To where the memory of one time can be compared with that of another: nothing else is open there.
+    void goHome() {
+        goBackToMain(program_);
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QTest::qWait(kTurn);
+    }
     void step() {
         below(3) == 0 ? click() : press();
         QTest::qWait(1);
@@ -76,7 +82,7 @@ class Wanderer {
     }
 
   private:
-    static constexpr int kRecipes = 50;
+    static constexpr int kRecipes = 50, kTurn = 200;  // milliseconds
 
     int below(int limit) { return std::uniform_int_distribution<>(0, limit - 1)(random_); }
 
@@ -121,6 +127,7 @@ bool wander(Program& program, int steps, unsigned seed, QTextStream& out) {
         if (done % kOnAScreen == 1) user.goThroughADoor();
         user.step();
         if (done % kEvery != 0) continue;
+        user.goHome();
         now = Use::now();
         if (done == kWarm) warm = now;
         out << done << " steps: " << now.megabytes << " MB, " << now.held << " MB held, " << now.resident
