@@ -43,7 +43,7 @@ class SmallCookbook {
         const ContentFolder folder(path(), problems);
         const Cookbook book = loadCookbook(folder, problems);
         proofread(folder, book, problems);
-        writeRecipeDatabase(book, path(u"Sarne.drc"_s), problems);
+        writeRecipeDatabase(book, path(QStringLiteral("Sarne.drc")), problems);
         return problems.errors() + problems.notes();
     }
 

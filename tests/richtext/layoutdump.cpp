@@ -4,6 +4,8 @@
 
 namespace sarne::test {
 
+using namespace Qt::StringLiterals;  // fuzz targets are compiled without what tests have
+
 QString dumped(const TextFont& font) {
     QString text = font.name + u' ' + QString::number(font.size);
     if (font.bold || font.italic || font.underline) text += u' ';
