@@ -1,5 +1,6 @@
 #include "textcontrast.h"
 
+#include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -119,9 +120,13 @@ class WatchingEngine final : public QPaintEngine {
         const auto contrastOn = [&](QRgb ground) {
             return contrastRatio(mixed(painter_.pen().color(), ground, painter_.opacity()), ground);
         };
+        // The frame of a row may come close to what is above and below the letters themselves.
+        const QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(at);
+        const QRect inked = place & painter_.transform().mapRect(ink).toAlignedRect();
+        const QRect behind = inked.isEmpty() ? place : inked;
         std::vector<std::pair<double, QRgb>> grounds;
-        for (int y = place.top(); y <= place.bottom(); ++y)
-            for (int x = place.left(); x <= place.right(); ++x)
+        for (int y = behind.top(); y <= behind.bottom(); ++y)
+            for (int x = behind.left(); x <= behind.right(); ++x)
                 grounds.emplace_back(contrastOn(image_.pixel(x, y)), image_.pixel(x, y));
         const auto worst = grounds.begin() + std::ptrdiff_t(grounds.size() / 20);
         std::nth_element(grounds.begin(), worst, grounds.end());
