@@ -80,7 +80,9 @@ frmSplash::frmSplash(Program& program) : Form(program, QStringLiteral("frmSplash
         room = Room(app().resources().picture(QStringLiteral("uvod")), widePicture(app(), u"uvod"));
 }
 
-frmSplash::~frmSplash() = default;
+frmSplash::~frmSplash() {
+    app().Pictures.uvod.forget();  // a screenful of pixels
+}
 
 void frmSplash::setCaption(const QString& caption) {
     caption_ = caption;

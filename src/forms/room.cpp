@@ -122,6 +122,10 @@ void Room::compose(QPainter& painter, const QRectF& covered) const {
     drawWhole(painter, place, picture);
 }
 
+void Room::forget() {
+    if (parts_) parts_->composed = {};
+}
+
 QImage Room::composed(QSize pixels, const QRectF& covered) const {
     QImage image = parts_->cut(pixels, covered);
     if (!image.isNull()) return image;

@@ -28,6 +28,8 @@ class Room {
     void draw(QPainter& painter, const QRectF& covered) const;
     /// The same without keeping anything: for those who keep what they paint.
     void compose(QPainter& painter, const QRectF& covered) const;
+    /// Lets go of what was composed: of a room that is not drawn again soon.
+    void forget();
     /// Where a wide picture of this size lies, in twips.
     static QRectF widePlace(QSizeF picture);
 
