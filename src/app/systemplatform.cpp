@@ -9,6 +9,7 @@ SystemPlatform::SystemPlatform() {
     music.setWait(MediaWait::DontWait);
     music.setLoop(MediaLoop::On);
     music.hold();
+    display.prepare();
 }
 
 PlatformParts SystemPlatform::parts() {

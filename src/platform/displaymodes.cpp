@@ -40,11 +40,11 @@ class SystemDisplayModes::Helper {
 
     /// The helper's answer to one line; empty when there is none. A helper that is gone is started anew.
     QByteArray ask(const QByteArray& line);
+    bool start();
     /// How often the helper was started: a later one does not know what an earlier one has changed.
     int starts() const { return starts_; }
 
   private:
-    bool start();
     void end();
     QByteArray exchange(const QByteArray& line);
     QByteArray readLine();
@@ -138,6 +138,10 @@ SystemDisplayModes::SystemDisplayModes(const QString& helper, const QString& pla
 
 SystemDisplayModes::~SystemDisplayModes() {
     restore();
+}
+
+void SystemDisplayModes::prepare() {
+    if (helper_) helper_->start();
 }
 
 QSize SystemDisplayModes::current() const {

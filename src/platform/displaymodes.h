@@ -31,6 +31,10 @@ class SystemDisplayModes final : public DisplayModes {
     /// is switched. \a platform is Qt's name for the window system, empty for the one in use.
     explicit SystemDisplayModes(const QString& helper = {}, const QString& platform = {});
     ~SystemDisplayModes() override;
+
+    /// Starts the helper, so that it has reached the display when it is asked.
+    void prepare();
+
     QSize current() const override;
     bool canSwitch(QSize size) const override;
     bool setMode(QSize size) override;
