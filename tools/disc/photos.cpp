@@ -99,9 +99,9 @@ QString renderedName(const QString& description) {
 /// The photo of \a recipe; empty when there is none of this dish.
 QString photoOf(Workshop& shop, const Recipe& recipe) {
     const QString beside = shop.content + u'/' + recipe.place.file.chopped(4);
-    if (const QString own = ownPicture(beside); !own.isEmpty()) return own;
+    if (QString own = ownPicture(beside); !own.isEmpty()) return own;
     const QString number = QStringLiteral("%1").arg(recipe.id, 2, 10, QLatin1Char('0'));
-    const QString file = shop.artPicture(QStringLiteral("rendered/dishes/") + number);
+    QString file = shop.artPicture(QStringLiteral("rendered/dishes/") + number);
     const QString shown = renderedName(shop.art + QStringLiteral("/dishes/%1.dish").arg(number));
     if (!QFileInfo::exists(file)) {
         shop.problems.finding({shop.isOwnDisc() ? recipe.place.file : file, 0},

@@ -6,6 +6,7 @@
 #include <QSaveFile>
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <memory>
 
 namespace sarne::disc {
@@ -54,8 +55,8 @@ void trimSilence(Sound& sound, double decibels, double kept) {
     const int margin = static_cast<int>(kept * sound.rate);
     const int from = static_cast<int>(first - sound.samples.begin()) / sound.channels - margin;
     const int to = static_cast<int>(last - sound.samples.begin()) / sound.channels + margin;
-    const auto begin = sound.samples.begin() + std::max(0, from) * sound.channels;
-    const auto end = sound.samples.begin() + std::min(sound.frames(), to) * sound.channels;
+    const auto begin = sound.samples.begin() + std::ptrdiff_t{std::max(0, from)} * sound.channels;
+    const auto end = sound.samples.begin() + std::ptrdiff_t{std::min(sound.frames(), to)} * sound.channels;
     sound.samples = std::vector<float>(begin, end);
 }
 

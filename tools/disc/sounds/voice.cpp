@@ -147,9 +147,9 @@ void Voices::prepare(const QStringList& texts, Speaker speaker) {
 Spoken Voices::speak(const QString& text, Speaker speaker) const {
     for (const double pace : kPaces) {
         const auto prepared = prepared_.find({speaker, text});
-        const Spoken spoken = pace == kPaces[0] && prepared != prepared_.cend()
-                                  ? prepared->second
-                                  : said({text}, speaker, pace).constFirst();
+        Spoken spoken = pace == kPaces[0] && prepared != prepared_.cend()
+                            ? prepared->second
+                            : said({text}, speaker, pace).constFirst();
         if (!spoken.fault.isEmpty()) return spoken;
         if (!hasClick(spoken.sound)) return finished(spoken.sound, kSpeech);
     }
