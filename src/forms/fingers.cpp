@@ -67,7 +67,8 @@ QRect fingerPlace(const Control& control) {
     return all;
 }
 
-Fingers::Fingers(Stage& stage, NamePlate& plate) : stage_(stage), plate_(plate), hold_(this) {
+Fingers::Fingers(Stage& stage, NamePlate& plate)
+    : QObject(&stage), stage_(stage), plate_(plate), hold_(this) {
     hold_.setInterval(kHold);
     connect(&hold_, &Timer::tick, this, &Fingers::rest);
 }

@@ -98,6 +98,7 @@ bool FocusRing::stepWithin(int direction) {
     if (!at) return false;
     const auto& members = groups_[static_cast<size_t>(*at)].members;
     std::vector<bool> usable;
+    usable.reserve(members.size());
     for (TwipWidget* member : members) usable.push_back(isUsable(member));
     const int from = static_cast<int>(std::ranges::find(members, last_) - members.begin());
     const auto next = nextPlace(usable, from, direction);
@@ -109,6 +110,7 @@ bool FocusRing::stepTowards(Direction direction, const std::vector<TwipWidget*>&
     const auto at = std::ranges::find(among, last_.data());
     if (at == among.end()) return false;
     std::vector<QRect> places;
+    places.reserve(among.size());
     for (const TwipWidget* stop : among) places.push_back(isUsable(stop) ? stop->twips() : QRect());
     const auto next = nearest(places, static_cast<int>(at - among.begin()), direction);
     if (next) goTo(*among[static_cast<size_t>(*next)]);

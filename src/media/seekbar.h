@@ -17,7 +17,8 @@ class SeekBar : public Control {
     QAccessible::Role role() const override { return QAccessible::Slider; }
     /// In seconds.
     std::optional<AccessibleRange> accessibleRange() const override {
-        return AccessibleRange{double(position_ / 1000), double(length_ / 1000)};
+        const qint64 at = position_ / 1000, whole = length_ / 1000;
+        return AccessibleRange{double(at), double(whole)};
     }
     void setAccessibleValue(double seconds) override { Q_EMIT sought(static_cast<qint64>(seconds * 1000)); }
     /// "0:12 / 1:40"

@@ -45,6 +45,12 @@ void dress(Button& button, const Picture& face, const QString& caption, const QS
     button.setTip(tip);
 }
 
+/// What a card says below its own heading, which mostly is the \a name of its thing.
+QString textBelow(const QString& name, const QString& text) {
+    const QString first = text.section(u'\n', 0, 0);
+    return first.trimmed() == name ? text.mid(first.size()).trimmed() : text;
+}
+
 }  // namespace
 
 frmSponzor::frmSponzor(basSarne& sarne)
@@ -254,7 +260,10 @@ void frmSponzor::print() {
     document.heading(current().title);
     constexpr int kAll = 1'000'000;
     document.paragraph(plainText(current().text, kAll));
-    for (const GalleryArea& area : current().areas) document.paragraph(area.name, plainText(area.text, kAll));
+    for (const GalleryArea& area : current().areas) {
+        document.paragraph({});
+        document.paragraph(area.name, textBelow(area.name, plainText(area.text, kAll)));
+    }
     app().screens().printText(current().title, document.text());
 }
 

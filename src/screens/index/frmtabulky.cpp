@@ -65,7 +65,7 @@ bool FrmTabulky::Zobraz(std::int16_t item) {
     layOut();
     std::vector<TwipWidget*> order{&table_};
     order.insert(order.end(), letters_.begin(), letters_.end());
-    setContent(std::move(order));
+    setContent(order);
     open(table_);
     return true;
 }
