@@ -68,7 +68,7 @@ QString Workshop::artPicture(const QString& stem) const {
 }
 
 QString Workshop::neededPicture(const QString& stem) {
-    const QString file = artPicture(stem);
+    QString file = artPicture(stem);
     if (!QFileInfo::exists(file)) problems.error({file, 0}, QStringLiteral("obrázek chybí"));
     return file;
 }

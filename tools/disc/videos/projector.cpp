@@ -73,7 +73,7 @@ QImage preparedGround(const QString& name, const QString& file) {
 }
 
 Projector::Projector(const Film& film, const Cast& cast, const QString& art,
-                     std::function<QImage(const QString&)> ground)
+                     const std::function<QImage(const QString&)>& ground)
     : film_(film),
       store_(cast, art),
       orders_(static_cast<size_t>(film.sets.size())),

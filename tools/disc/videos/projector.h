@@ -20,7 +20,7 @@ class Projector {
   public:
     /// \a ground gives the picture of a ground by its name.
     Projector(const Film& film, const Cast& cast, const QString& art,
-              std::function<QImage(const QString&)> ground);
+              const std::function<QImage(const QString&)>& ground);
 
     /// The picture at a moment of the film; valid until the next call.
     const QImage& frame(double seconds);
