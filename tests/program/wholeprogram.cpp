@@ -77,6 +77,7 @@ void WholeProgram::start(const char* switches) {
     QApplication::processEvents();
     ASSERT_TRUE(program->Main({}));
     platform->effects.prepare();
+    platform->music.release();
 }
 
 void WholeProgram::end() {
