@@ -133,8 +133,7 @@ class WatchingEngine final : public QPaintEngine {
         // A letter's box is larger than the letter.
         const bool whole = 4 * place.width() * place.height() >= 3 * all.width() * all.height() &&
                            place.width() + all.height() / 2 >= all.width();
-        const double size = item.font().pixelSize() * painter_.transform().m22();
-        return {item.text(), place, painter_.pen().color(), QColor(worst->second), worst->first, whole, size};
+        return {item.text(), place, painter_.pen().color(), QColor(worst->second), worst->first, whole};
     }
 
     static bool isShadow(const TextContrast& earlier, const TextContrast& text) {

@@ -19,7 +19,6 @@ struct TextContrast {
     QColor ink, ground;  ///< the ground where the contrast is taken
     double contrast;     ///< 1 (none) to 21 (black on white)
     bool isWhole;        ///< all of it lies where its widget can be seen
-    double size;         ///< of its letters, in pixels
 };
 
 /// The contrast of two colours by their relative luminances, as web pages are judged by.
