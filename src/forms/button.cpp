@@ -178,10 +178,7 @@ double Button::roomToGrow() const {
 double Button::growth() const {
     if (form().textScale() <= 1) return 1;
     if (captionPlace_ == CaptionPlace::Below) return roomToGrow();
-    double growth = roomToGrow();
-    for (const Button* other : form().findChildren<Button*>(Qt::FindDirectChildrenOnly))
-        if (isAlike(*other)) growth = std::min(growth, other->roomToGrow());
-    return growth;
+    return growthOfAlike(*this, &Button::isAlike, &Button::roomToGrow);
 }
 
 bool Button::captionIsLarge() const {

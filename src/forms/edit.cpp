@@ -6,17 +6,18 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
-#include <algorithm>
 
 #include "forms/colors.h"
 #include "forms/editmenu.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
+#include "forms/largertext.h"
 
 namespace sarne {
 namespace {
 
-constexpr int kBorder = 30;  // twips
+constexpr int kBorder = 30;        // twips
+constexpr int kEndless = 1000000;  // twips: what does not fit is scrolled to
 
 }  // namespace
 
@@ -67,11 +68,11 @@ void Edit::rescale() {
     line_->setAccessibleName(accessibleName());
     line_->setGeometry(rect());
     // The line lays its text out in pixels, so its font is scaled by hand.
-    QFont font = font_.toQFont();
-    constexpr double kLineHeight = 1.2;  // of the letters' size
-    const double size = std::min(font_.size * 20 * form().textScale(),
-                                 std::max(font_.size * 20, (twips().height() - 2 * kBorder) / kLineHeight));
-    font.setPixelSize(qMax(8, qRound(size * scale())));
+    const QSize room(kEndless, twips().height() - 2 * kBorder);
+    const double growth =
+        RoomToGrow().of(font_, form().textScale(), QStringLiteral("0"), room, Qt::TextSingleLine);
+    QFont font = larger(font_, growth).toQFont();
+    font.setPixelSize(qMax(8, qRound(font.pixelSize() * scale())));
     line_->setFont(font);
     const int border = qMax(1, qRound(kBorder * scale()));
     line_->setStyleSheet(

@@ -125,10 +125,7 @@ double Label::roomToGrow() const {
 
 double Label::growth() const {
     if (!grows_ || form().textScale() <= 1) return 1;
-    double growth = roomToGrow();
-    for (const Label* other : form().findChildren<Label*>(Qt::FindDirectChildrenOnly))
-        if (isAlike(*other)) growth = std::min(growth, other->roomToGrow());
-    return growth;
+    return growthOfAlike(*this, &Label::isAlike, &Label::roomToGrow);
 }
 
 void Label::paint(QPainter& painter) {

@@ -2,6 +2,7 @@
 
 #include <QSize>
 #include <QString>
+#include <algorithm>
 
 #include "richtext/surface.h"
 
@@ -32,6 +33,16 @@ class RoomToGrow {
     mutable Asked asked_;
     mutable double answer_ = 1;
 };
+
+/// How much larger \a one and all that are alike in its form are drawn: as much as each of them has room for.
+template <typename Text>
+double growthOfAlike(const Text& one, bool (Text::*isAlike)(const Text&) const,
+                     double (Text::*roomToGrow)() const) {
+    double growth = (one.*roomToGrow)();
+    for (const Text* other : one.form().template findChildren<Text*>(Qt::FindDirectChildrenOnly))
+        if ((one.*isAlike)(*other)) growth = std::min(growth, (other->*roomToGrow)());
+    return growth;
+}
 
 }  // namespace sarne
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "forms/colors.h"
+#include "forms/largertext.h"
 
 namespace sarne {
 namespace {
@@ -77,8 +78,7 @@ void PictureBox::grow(int bottom) {
 }
 
 void PictureBox::setFont(const TextFont& font) {
-    TextFont wanted = font;
-    wanted.size *= textScale();
+    const TextFont wanted = larger(font, textScale());
     if (font_ == wanted) return;
     font_ = wanted;
     metrics_.reset();

@@ -8,6 +8,7 @@
 #include "forms/colors.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
+#include "forms/largertext.h"
 #include "forms/panel.h"
 
 namespace sarne {
@@ -25,9 +26,8 @@ TableView::TableView(Form& form, const QString& name) : Control(form, name) {
     setFocusPolicy(Qt::ClickFocus);
 }
 
-TextFont TableView::scaled(TextFont font) const {
-    font.size *= form().textScale();
-    return font;
+TextFont TableView::scaled(const TextFont& font) const {
+    return larger(font, form().textScale());
 }
 
 void TableView::layOutAgain() {

@@ -63,7 +63,7 @@ class TableView : public Control {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
-    TextFont scaled(TextFont font) const;
+    TextFont scaled(const TextFont& font) const;
     void changed(bool something);
     int rowAt(QPoint twips) const;
     /// The row that a click at \a twips opens, or none.
