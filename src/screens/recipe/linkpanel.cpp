@@ -48,19 +48,21 @@ void LinkPanel::recipeChanged() {
     options_.clear();
     links_ = recipeLinks(room_.sarne.Db(), room_.recipe.id);
     chosen_ = firstRow_ = 0;
-    for (size_t at = 0; at < links_.size(); ++at) {
-        auto* option = new OptionButton(room_.form, QStringLiteral("optOdkaz(%1)").arg(at));
-        option->setCaption(links_[at].title);
-        option->setToolTip(links_[at].title);
-        option->setFont({QStringLiteral("Times New Roman"), 12});
-        option->setMarkPictures(room_.sarne.resources().picture(QStringLiteral("VolbaAno")),
-                                room_.sarne.resources().picture(QStringLiteral("VolbaNe")));
-        QObject::connect(option, &Control::clicked, &room_.form,
-                         [this, at] { optionClick(static_cast<int>(at)); });
-        options_.push_back(option);
-    }
-    if (!options_.empty()) options_.front()->setChecked(true);
+    options_.resize(links_.size());
     placeOptions();
+}
+
+void LinkPanel::makeOption(size_t at) {
+    auto* option = new OptionButton(room_.form, QStringLiteral("optOdkaz(%1)").arg(at));
+    option->setCaption(links_[at].title);
+    option->setToolTip(links_[at].title);
+    option->setFont({QStringLiteral("Times New Roman"), 12});
+    option->setMarkPictures(room_.sarne.resources().picture(QStringLiteral("VolbaAno")),
+                            room_.sarne.resources().picture(QStringLiteral("VolbaNe")));
+    option->setChecked(static_cast<int>(at) == chosen_);
+    QObject::connect(option, &Control::clicked, &room_.form,
+                     [this, at] { optionClick(static_cast<int>(at)); });
+    options_[at] = option;
 }
 
 int LinkPanel::rowCount() const {
@@ -74,8 +76,11 @@ QRect LinkPanel::viewPlace() const {
 void LinkPanel::placeOptions() {
     for (size_t at = 0; at < options_.size(); ++at) {
         const int row = static_cast<int>(at) / kOptionColumns - firstRow_;
+        const bool shown = visible_ && row >= 0 && row < kOptionRows;
+        if (shown && !options_[at]) makeOption(at);
+        if (!options_[at]) continue;
         options_[at]->place(option(row, static_cast<int>(at) % kOptionColumns));
-        options_[at]->setVisible(visible_ && row >= 0 && row < kOptionRows);
+        options_[at]->setVisible(shown);
     }
     const bool scrolls = visible_ && rowCount() > kOptionRows;
     up_->setVisible(scrolls);
@@ -121,7 +126,7 @@ void LinkPanel::optionClick(int index) {
 bool LinkPanel::step(bool /*sideways*/, int direction) {
     FocusRing& ring = room_.form.ring();
     const auto from = std::ranges::find(options_, ring.current());
-    if (from == options_.end()) return false;
+    if (!ring.current() || from == options_.end()) return false;
     const auto count = static_cast<int>(options_.size());
     const int at = (static_cast<int>(from - options_.begin()) + direction + count) % count;
     showRow(at / kOptionColumns);

@@ -15,7 +15,7 @@ class LinkPanel : public RecipeSection {
   public:
     explicit LinkPanel(const SectionRoom& room);
 
-    /// Makes the options of the recipe, the first one chosen.
+    /// Takes the links of the recipe, the first one chosen.
     void recipeChanged() override;
     void setVisible(bool visible) override;
     /// The place beside the options.
@@ -28,6 +28,7 @@ class LinkPanel : public RecipeSection {
 
   private:
     void optionClick(int index);
+    void makeOption(size_t at);
     void placeOptions();
     void scrollRows(int rows);
     void showRow(int row);
@@ -35,7 +36,8 @@ class LinkPanel : public RecipeSection {
     void setArrow(Button& arrow, int rows);
 
     std::vector<RecipeLink> links_;
-    std::vector<OptionButton*> options_;
+    std::vector<OptionButton*>
+        options_;  ///< of the links; null until they come into sight: there may be thousands
     Button *up_, *down_;
     int chosen_ = 0;
     int firstRow_ = 0;

@@ -83,13 +83,11 @@ void ToolSection::draw() {
     if (tools.isEmpty()) return;
     TextView& view = room_.view;
     view.setFont({QStringLiteral("Arial"), kToolSize});
+    for (const QString& tool : tools) view.print(tool);
+    if (view.scrollRange() > 0) return;
     int widest = 0;
-    for (const QString& tool : tools) {
-        view.print(tool);
-        widest = std::max(widest, view.textWidth(tool));
-    }
-    if (view.scrollRange() == 0 && widest <= recipelayout::kHalfView.width())
-        showBeside(room_.recipe.photo, widest);
+    for (const QString& tool : tools) widest = std::max(widest, view.textWidth(tool));
+    if (widest <= recipelayout::kHalfView.width()) showBeside(room_.recipe.photo, widest);
 }
 
 }  // namespace sarne
