@@ -1,20 +1,46 @@
 // Any bytes as a recipe of the content: no crash, no endless loop; what is wrong is told.
+#include <cstdlib>
+
+#include "disc/checks.h"
+#include "disc/readrecipes.h"
 #include "disc/smallcookbook.h"
+#include "disc/steps.h"
 
 using namespace sarne::disc;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 
-int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static const SmallCookbook book;
-    static const QString name =
-        QDir(book.path(QStringLiteral("recepty"))).entryInfoList(QDir::Files).first().filePath();
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly)) return 0;
-    file.write(reinterpret_cast<const char*>(data), static_cast<qint64>(size));
-    file.close();
+namespace {
+
+/// The small cookbook, whose only recipe is replaced by others; what stands beside it is read once.
+struct Kitchen {
+    SmallCookbook files;
     Problems problems;
-    loadCookbook(ContentFolder(book.path(), problems), problems);
+    ContentFolder folder{files.path(), problems};
+    Cookbook rest = loadCookbook(folder, problems);
+    Stems stems = readStems(folder, problems);
+    QString recipe =
+        QDir(files.path(QStringLiteral("recepty"))).entryInfoList(QDir::Files).first().filePath();
+
+    Kitchen() { rest.recipes.clear(); }
+};
+
+bool write(const QString& name, const uint8_t* data, size_t size) {
+    QFile file(name);
+    return file.open(QIODevice::WriteOnly) &&
+           file.write(reinterpret_cast<const char*>(data), static_cast<qint64>(size)) >= 0;
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    static const Kitchen kitchen;
+    if (!write(kitchen.recipe, data, size)) std::abort();
+    Problems problems;
+    Cookbook book = kitchen.rest;
+    readRecipes(ContentFolder(kitchen.files.path(), problems), book, problems);
+    for (Recipe& recipe : book.recipes) recipe.steps = cookingSteps(book, kitchen.stems, recipe, problems);
+    checkCookbook(book, kitchen.stems, problems);
     return 0;
 }
 
