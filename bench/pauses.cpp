@@ -123,8 +123,8 @@ void watch(const char* what, Do act) {
                                     longest > 100 ? QStringLiteral("   <<<") : QString());
 }
 
-void key(Qt::Key code) {
-    QTest::keyClick(QApplication::focusWidget(), code);
+void key(Qt::Key code, Qt::KeyboardModifiers with = {}) {
+    QTest::keyClick(QApplication::focusWidget(), code, with);
 }
 
 void recipe(Book& book, int id, const char* what) {
@@ -140,6 +140,10 @@ void recipe(Book& book, int id, const char* what) {
     form->findChild<Button*>(QStringLiteral("imgBtn(1)"))->click();
     for (const Qt::Key code : {Qt::Key_Tab, Qt::Key_End, Qt::Key_PageUp, Qt::Key_Home})
         watch(qPrintable(QStringLiteral("key %1").arg(code)), [&] { key(code); });
+    watch("copied as text", [&] { key(Qt::Key_C, Qt::ControlModifier); });
+    form->findChild<Button*>(QStringLiteral("imgBtn(7)"))->click();
+    watch("typed into the note", [&] { key(Qt::Key_A); });
+    watch("note stored", [&] { form->findChild<Button*>(QStringLiteral("cmdUloz(0)"))->click(); });
     watch("closes", [&] { form->Skryj(); });
 }
 

@@ -8,8 +8,9 @@ class Program;
 
 /// Presses keys and clicks at chance, \a steps times, through whatever screens that leads to, and tells on
 /// the way what the process takes; now and then it goes through the next of all doors of the program, so that
-/// it comes to every screen. False when it did not, when memory grew by a hundredth or more after the first
-/// thousand steps, files or threads grew at all, or the program ended.
+/// it comes to every screen. False when it did not, when the least memory taken in the last two thousand
+/// steps is a hundredth more than in the two thousand after the first thousand, files or threads grew at all,
+/// or the program ended.
 bool wander(Program& program, int steps, unsigned seed, QTextStream& out);
 
 }  // namespace sarne
