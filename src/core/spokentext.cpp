@@ -21,6 +21,14 @@ constexpr UnitNoun kUnits[] = {
      QT_TRANSLATE_NOOP("Texts", "litrů"), QT_TRANSLATE_NOOP("Texts", "litru")},
     {"cm", QT_TRANSLATE_NOOP("Texts", "centimetr"), QT_TRANSLATE_NOOP("Texts", "centimetry"),
      QT_TRANSLATE_NOOP("Texts", "centimetrů"), QT_TRANSLATE_NOOP("Texts", "centimetru")},
+    {"min", QT_TRANSLATE_NOOP("Texts", "minuta"), QT_TRANSLATE_NOOP("Texts", "minuty"),
+     QT_TRANSLATE_NOOP("Texts", "minut"), QT_TRANSLATE_NOOP("Texts", "minuty")},
+    {"ks", QT_TRANSLATE_NOOP("Texts", "kus"), QT_TRANSLATE_NOOP("Texts", "kusy"),
+     QT_TRANSLATE_NOOP("Texts", "kusů"), QT_TRANSLATE_NOOP("Texts", "kusu")},
+    {"kcal", QT_TRANSLATE_NOOP("Texts", "kilokalorie"), QT_TRANSLATE_NOOP("Texts", "kilokalorie"),
+     QT_TRANSLATE_NOOP("Texts", "kilokalorií"), QT_TRANSLATE_NOOP("Texts", "kilokalorie")},
+    {"kJ", QT_TRANSLATE_NOOP("Texts", "kilojoule"), QT_TRANSLATE_NOOP("Texts", "kilojouly"),
+     QT_TRANSLATE_NOOP("Texts", "kilojoulů"), QT_TRANSLATE_NOOP("Texts", "kilojoulu")},
     {"\u00b0C", QT_TRANSLATE_NOOP("Texts", "stupeň Celsia"), QT_TRANSLATE_NOOP("Texts", "stupně Celsia"),
      QT_TRANSLATE_NOOP("Texts", "stupňů Celsia"), QT_TRANSLATE_NOOP("Texts", "stupně Celsia")},
 };
@@ -32,7 +40,7 @@ QString unitBehind(double number, const UnitNoun& unit) {
 
 QString withUnitsInWords(const QString& text) {
     static const QRegularExpression measure(
-        QStringLiteral("(\\d+(?:,\\d+)?)[ \u00a0](kg|g|ml|l|cm|\u00b0C)(?!\\w)"),
+        QStringLiteral("(\\d+(?:,\\d+)?)[ \u00a0](kg|g|ml|l|cm|min|ks|kcal|kJ|\u00b0C)(?!\\w)"),
         QRegularExpression::UseUnicodePropertiesOption);
     const QLocale czech(QLocale::Czech);
     QString words;
@@ -53,6 +61,23 @@ QString withLinesEnded(const QString& text) {
     return QString(text).replace(end, QStringLiteral("\\1.\n"));
 }
 
+/// "sůl (g): 12" as "sůl: 12 g".
+QString withUnitsBehind(QString text) {
+    static const QRegularExpression before(QStringLiteral(" \\((kg|g|ml|l|ks)\\): ?([\\d,]+)"));
+    return text.replace(before, QStringLiteral(": \\2 \\1"));
+}
+
+QString withStarsCounted(const QString& text) {
+    static const QRegularExpression row(QStringLiteral("(★+)☆*"));
+    const Noun stars{Texts::tr("hvězdička"), Texts::tr("hvězdičky"), Texts::tr("hvězdiček"),
+                     Texts::tr("hvězdičky")};
+    QString words = text;
+    for (auto found = row.match(words); found.hasMatch(); found = row.match(words))
+        words.replace(found.capturedStart(), found.capturedLength(),
+                      counted(double(found.capturedLength(1)), stars, QLocale(QLocale::Czech)));
+    return words;
+}
+
 }  // namespace
 
 QString spokenText(const QString& text) {
@@ -61,6 +86,8 @@ QString spokenText(const QString& text) {
     static const QRegularExpression word(QStringLiteral("\\w"),
                                          QRegularExpression::UseUnicodePropertiesOption);
     QString words = QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    words.replace(QStringLiteral(" · "), QStringLiteral(", "));
+    words = withStarsCounted(withUnitsBehind(words));
     words.replace(range, QStringLiteral("\\1 ") + Texts::tr("až") + QStringLiteral(" \\2"));
     words.remove(onlyForTheEye);
     if (!words.contains(word)) return {};

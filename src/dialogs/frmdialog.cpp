@@ -115,6 +115,8 @@ bool frmDialog::keyDown(QKeyEvent& event) {
         case Qt::Key_F1:
             if (app().FormStack.top()) help();  // not before there is a screen
             break;
+        case Qt::Key_F9:
+            return false;  // read aloud
         default:
             ring().keyDown(event);
     }

@@ -112,6 +112,8 @@ bool frmMessage::keyDown(QKeyEvent& event) {
         case Qt::Key_F1:
             if (app().FormStack.top()) help();  // not before there is a screen
             break;
+        case Qt::Key_F9:
+            return false;  // read aloud
         default:
             if (!ring().keyDown(event)) pressByLetter(event.text());
     }

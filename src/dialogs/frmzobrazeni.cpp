@@ -102,10 +102,6 @@ void frmZobrazeni::goBack() {
     app().PopScreen(*this);
 }
 
-QString frmZobrazeni::textToRead() const {
-    return title_.text() + u'\n' + size_.text() + u'\n' + hint_.text();
-}
-
 void frmZobrazeni::paint(QPainter& painter) {
     paintPanel(painter, {{0, 0}, twips().size()}, app().resources().picture(QStringLiteral("menu")));
 }

@@ -18,7 +18,6 @@ class frmZobrazeni : public Form {
 
     void Zobraz();
     void goBack() override;
-    QString textToRead() const override;
 
   protected:
     void paint(QPainter& painter) override;

@@ -49,9 +49,11 @@ bool Form::showModal() {
     show();
     app_.stage().enterModal(*this);
     QPointer<Form> self(this);
+    const bool wasReading = app_.readAloud().isReading();
     const bool ended = loop.exec() == 0;
     if (!self) return ended;
     modalLoop_ = nullptr;
+    if (!wasReading) app_.readAloud().stop();
     app_.stage().leaveModal(*this);
     if (previous && previous->isVisible() && !app_.stage().modalForm()) previous->setFocus();
     return ended;
@@ -149,7 +151,7 @@ void Form::eyeSettings() {
 }
 
 QString Form::textToRead() const {
-    return shownTexts(*this).join(u'\n');
+    return textsToRead(*this).join(u'\n');
 }
 
 bool Form::keyDown(QKeyEvent& event) {

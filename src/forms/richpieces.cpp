@@ -66,17 +66,21 @@ bool RichPieces::focusNext(int direction) {
     return focused_.has_value();
 }
 
+QString RichPieces::wordsOf(const RtfLayout& layout, const TextLine& line) {
+    QString words;
+    for (qsizetype i = 0; i < line.boxCount; ++i) {
+        const WordBox& box = layout.boxes()[size_t(line.firstBox + i)];
+        words += layout.text(box).toString() + QString(box.blanks, u' ');
+    }
+    return words.trimmed();
+}
+
 void RichPieces::addTo(ReadableText& text) const {
     for (const Piece& piece : pieces_) {
         const LayoutArea& area = piece.layout.area();
         for (const TextLine& line : piece.layout.lines()) {
-            QString words;
-            for (qsizetype i = 0; i < line.boxCount; ++i) {
-                const WordBox& box = piece.layout.boxes()[size_t(line.firstBox + i)];
-                words += piece.layout.text(box).toString() + QString(box.blanks, u' ');
-            }
-            text.addLine(words.trimmed(), {area.left, line.top, area.right - area.left, line.height},
-                         line.isHeading);
+            text.addLine(wordsOf(piece.layout, line),
+                         {area.left, line.top, area.right - area.left, line.height}, line.isHeading);
         }
     }
 }
@@ -85,6 +89,17 @@ QString RichPieces::text() const {
     ReadableText lines;
     addTo(lines);
     return lines.text();
+}
+
+QString RichPieces::paragraphs() const {
+    QString all;
+    for (const Piece& piece : pieces_) {
+        for (const TextLine& line : piece.layout.lines()) {
+            if (!all.isEmpty()) all += line.startsParagraph ? u'\n' : u' ';
+            all += wordsOf(piece.layout, line);
+        }
+    }
+    return all;
 }
 
 void RichPieces::paint(QPainter& painter, const QRect& visible, int text, bool strong) const {

@@ -41,6 +41,8 @@ class RichPieces {
     void addTo(ReadableText& text) const;
     /// The texts, each line a line of the result.
     QString text() const;
+    /// The texts, each paragraph a line of the result.
+    QString paragraphs() const;
     /// Paints one text, \a strong: in darkened colours.
     void paint(QPainter& painter, const QRect& visible, int text, bool strong = false) const;
 
@@ -49,6 +51,7 @@ class RichPieces {
         RtfLayout layout;
         int firstLink;
     };
+    static QString wordsOf(const RtfLayout& layout, const TextLine& line);
     /// The text that a phrase stands in; null when there is none.
     const Piece* piece(std::optional<int> link) const;
 

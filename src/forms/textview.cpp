@@ -106,7 +106,15 @@ bool TextView::keepRichText(const RtfLayout& layout) {
 }
 
 QString TextView::drawnText() const {
-    const QString printed = PictureBox::drawnText(), rich = pieces_.text();
+    return withPrinted(pieces_.text());
+}
+
+QString TextView::flowingText() const {
+    return withPrinted(pieces_.paragraphs());
+}
+
+QString TextView::withPrinted(const QString& rich) const {
+    const QString printed = PictureBox::drawnText();
     return printed.isEmpty() || rich.isEmpty() ? printed + rich : printed + u'\n' + rich;
 }
 

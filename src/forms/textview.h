@@ -43,6 +43,8 @@ class TextView : public PictureBox {
     bool keepRichText(const RtfLayout& layout) override;
     /// Also what the rich texts say, a line for each of theirs.
     QString drawnText() const override;
+    /// The same for who hears it: the lines of a paragraph run on.
+    QString flowingText() const;
     ReadableText readableText() const override;
     /// The same, kept until the content changes.
     const ReadableText& readable() const;
@@ -85,6 +87,7 @@ class TextView : public PictureBox {
     double textScale() const override;
 
   private:
+    QString withPrinted(const QString& rich) const;
     void updateArrows();
     void paintFade(QPainter& painter, int edge, int inside) const;
     std::optional<int> linkAt(QPointF pixels) const;

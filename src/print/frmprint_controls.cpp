@@ -90,9 +90,12 @@ void frmPrint::makeOptions() {
         box->show();
     }
     title->place(at::kFrameTitle);
-    for (int i = 0; i < kPrintSections; ++i)
-        Chco[size_t(i)]->place(at::kFirstSection.translated(at::kSectionColumn * (i / at::kSectionRows),
-                                                            at::kSectionRow * (i % at::kSectionRows)));
+    for (int i = 0; i < kPrintSections; ++i) {
+        QRect place = at::kFirstSection.translated(at::kSectionColumn * (i / at::kSectionRows),
+                                                   at::kSectionRow * (i % at::kSectionRows));
+        place.setRight(std::min(place.right(), at::kFrame.width() - at::kFirstSection.left() / 2));
+        Chco[size_t(i)]->place(place);
+    }
     lblPorce.place(at::kPortionsTitle);
     Text1.place(at::kPortions);
     chkZobrKg.place(at::kWeights);

@@ -9,6 +9,7 @@
 namespace sarne {
 namespace {
 
+constexpr qreal kDot = 30;       // twips, and as much room to the next
 constexpr int kStrongInk = 180;  // of 100
 
 /// Paints words: gathers those of one font and colour, wherever they stand, and paints their glyphs together.
@@ -25,7 +26,7 @@ class BoxPainter {
         for (qsizetype i = 0; i < line.boxCount; ++i) {
             const WordBox& box = layout_.boxes()[line.firstBox + i];
             paint(box);
-            if (isUnderlined(box)) underline(box, previous);
+            if (strokeOf(box) != Stroke::None) underline(box, previous);
             previous = &box;
         }
     }
@@ -81,19 +82,29 @@ class BoxPainter {
         painter_.drawGlyphRun({}, run);
     }
 
-    bool isUnderlined(const WordBox& box) const {
-        return highlight_.contains(box.link) || layout_.fonts()[box.font].underline;
+    enum class Stroke { None, Dots, Line, Heavy };
+
+    /// A phrase that leads on has dots below it, beside its colour; a line where that is to be stronger, and
+    /// a heavier one where the user is at it.
+    Stroke strokeOf(const WordBox& box) const {
+        if (highlight_.contains(box.link)) return highlight_.strong ? Stroke::Heavy : Stroke::Line;
+        if (box.link >= 0) return highlight_.strong ? Stroke::Line : Stroke::Dots;
+        return layout_.fonts()[box.font].underline ? Stroke::Line : Stroke::None;
     }
 
     /// The stroke below a word; between words that belong together it runs on over the gap.
     void underline(const WordBox& box, const WordBox* previous) {
-        const bool joined = previous && isUnderlined(*previous) && previous->link == box.link;
+        const bool joined = previous && strokeOf(*previous) != Stroke::None && previous->link == box.link;
         const int left = joined ? previous->x + previous->width : box.x;
         const QRawFont& font = face(box.font).rawFont();
-        const qreal thickness = qMax(font.lineThickness(), onePixel_);
-        const QRectF stroke(left, box.baseline + font.underlinePosition() - thickness / 2,
+        const qreal thin = qMax(font.lineThickness(), onePixel_);
+        const qreal thickness = strokeOf(box) == Stroke::Heavy ? 2 * thin : thin;
+        const QRectF stroke(left, box.baseline + font.underlinePosition() - thin / 2,
                             box.x + box.width - left, thickness);
-        painter_.fillRect(stroke, layout_.color(box));
+        if (strokeOf(box) != Stroke::Dots) return painter_.fillRect(stroke, layout_.color(box));
+        const qreal dot = qMax(kDot, onePixel_);
+        for (qreal x = stroke.left(); x < stroke.right(); x += 2 * dot)
+            painter_.fillRect(QRectF(x, stroke.top(), dot, thickness), layout_.color(box));
     }
 
     QPainter& painter_;

@@ -17,8 +17,8 @@ struct LinkHighlight {
 };
 
 /// Paints the lines of \a layout that touch \a visible (both in the layout's twips). \a painter maps one unit
-/// to one twip, its origin is the layout's; its font and pen change. The highlighted link phrases are
-/// underlined.
+/// to one twip, its origin is the layout's; its font and pen change. Link phrases have dots
+/// below them, the highlighted ones a line.
 void paintLayout(QPainter& painter, const RtfLayout& layout, const QRect& visible,
                  const LinkHighlight& highlight = {});
 

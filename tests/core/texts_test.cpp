@@ -47,7 +47,9 @@ TEST(SpokenText, UnitsRangesAndLineEndsAreReadAsWords) {
         {"2 lžíce", "2 lžíce"},
         {"pečeme 8–\u206010 minut", "pečeme 8 až 10 minut"},
         {"sůl\r\npepř\n", "sůl.\npepř"},
-        {"Krok 1 · 4 porce", "Krok 1  4 porce"},
+        {"vaření 30 min · 4 porce", "vaření 30 minut, 4 porce"},
+        {"kapr - podkovy (g): 1200\ncitron (ks): 1", "kapr - podkovy: 1200 gramů.\ncitron: 1 kus"},
+        {"Kapr, ★★★☆☆", "Kapr, 3\u00a0hvězdičky"},
         {" – \n ▲", ""},
         {"", ""},
     };

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/checkbox.h"
+#include "forms/entrylist.h"
 #include "forms/form.h"
 #include "forms/label.h"
+#include "forms/textview.h"
 #include "support/fakesarne.h"
 
 namespace sarne {
@@ -54,6 +57,26 @@ TEST_F(ReadAloudTest, OneKeyReadsWhatShowsInReadingOrderAndStops) {
     press(Qt::Key_F9);
     EXPECT_EQ(sarne.speech.stops, 1);
     EXPECT_FALSE(sarne.reader.isReading());
+}
+
+TEST_F(ReadAloudTest, WrappedLinesRunOnAndListsAreReadAsFarAsTheyShow) {
+    TextView text(form, QStringLiteral("picText"));
+    text.place({100, 100, 1500, 4000});
+    text.drawRichText(QStringLiteral("{\\rtf1\\plain Podkovy osolíme a necháme stát.\\par Pečeme.}"));
+    EntryList list(form, QStringLiteral("lstSeznam"), QAccessible::List);
+    list.place({100, 5000, 5000, 1000});
+    list.setEntries(
+        2,
+        [](int row) {
+            return AccessiblePart{row == 0 ? u"Kapr"_s : u"Lín"_s, {}, QRect(0, 0, 9, row == 0 ? 9 : 0)};
+        },
+        {});
+    OptionButton choice(form, QStringLiteral("opt"));
+    choice.place({100, 7000, 5000, 400});
+    choice.setCaption(QStringLiteral("150 %"));
+    form.showForm();
+    ASSERT_GT(text.readable().lines().size(), 2U);
+    EXPECT_EQ(form.textToRead(), QStringLiteral("Podkovy osolíme a necháme stát.\nPečeme.\nKapr\n150 %"));
 }
 
 TEST_F(ReadAloudTest, TheMusicStepsBackUntilTheTextHasEnded) {

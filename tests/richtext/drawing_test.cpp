@@ -156,15 +156,19 @@ TEST_F(Painting, GivesEveryWordItsColor) {
     }
 }
 
-TEST_F(Painting, UnderlinesTheLinkThatStandsOut) {
+TEST_F(Painting, DotsLinksAndUnderlinesTheOneThatStandsOut) {
     const QRect all(0, 0, 4000, 2000);
     for (int top = 0; top < 2 * kPixel; ++top) {  // wherever the line falls between the pixels
         const RtfLayout layout = layOut(u"{\\rtf1\\plain aa *1bb bb* *2cc* \\ul dd dd}", top);
         const QImage plain = paint(layout, all);
         const QRect stroke = inked(paint(layout, all, {1, {}}), plain);
         const WordBox& link = layout.boxes()[2];
-        EXPECT_NEAR(stroke.left(), link.x / kPixel, 1) << top;
-        EXPECT_NEAR(stroke.width(), link.width / kPixel, 2) << top;
+        EXPECT_NEAR(stroke.left(), link.x / kPixel, 3) << top;  // the first dot is there already
+        EXPECT_NEAR(stroke.width(), link.width / kPixel, 5) << top;
+        int dotted = 0;
+        for (int x = stroke.left(); x <= stroke.right(); ++x)
+            dotted += plain.pixel(x, stroke.center().y()) != qRgb(255, 255, 255);
+        EXPECT_NEAR(dotted, stroke.width() / 2., stroke.width() / 4.) << top;
         EXPECT_GE(stroke.top(), link.baseline / kPixel);
         EXPECT_LE(stroke.height(), 2);
         EXPECT_EQ(inked(paint(layout, all, {{}, 1}), plain), stroke);

@@ -69,18 +69,20 @@ void keepLacking(QtMsgType type, const QMessageLogContext& context, const QStrin
     if (!ours) QTextStream(stderr) << text << '\n';
 }
 
+bool writeText(const QString& file, const QByteArray& text) {
+    QFile out(file);
+    return out.open(QIODevice::WriteOnly) && out.write(text) == text.size();
+}
+
 int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QString& run,
            const QString& expectedFile, const Looks& looks, bool accept) {
-    QFile texts(pictures.filePath(QStringLiteral("tour.txt")));
     // The folder that the tour runs in has another name every time.
     const QByteArray shown = tour.texts().replace(run, QStringLiteral("…")).toUtf8();
-    if (!texts.open(QIODevice::WriteOnly) || texts.write(shown) != shown.size())
-        out << "tour.txt cannot be written\n";
+    if (!writeText(pictures.filePath(QStringLiteral("tour.txt")), shown) ||
+        !writeText(pictures.filePath(QStringLiteral("read.txt")), tour.readTexts().toUtf8()))
+        out << "The texts cannot be written\n";
     QFile expected(expectedFile);
-    if (accept)
-        return expected.open(QIODevice::WriteOnly) && expected.write(shown) == shown.size() && looks.accept()
-                   ? 0
-                   : 1;
+    if (accept) return writeText(expectedFile, shown) && looks.accept() ? 0 : 1;
     const bool same =
         expectedFile.isEmpty() || (expected.open(QIODevice::ReadOnly) && expected.readAll() == shown);
     if (!same) out << "The texts of tour.txt differ from those expected in " << expectedFile << '\n';

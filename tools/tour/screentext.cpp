@@ -75,6 +75,8 @@ void addTexts(const Stage& stage, const Form& form, const std::vector<TextContra
             addLabel(placeOn(stage, *control), text, line, painted, shown);
         else if (meetsMouse(stage, *control))
             shown.lines << line;
+        const bool isCaption = qobject_cast<const CheckBox*>(control) || qobject_cast<const Button*>(control);
+        if (isCaption && !paintedWithin(placeOn(stage, *control), painted).whole) shown.cut << line;
     }
 }
 

@@ -35,6 +35,7 @@ void Tour::stop(const QString& form, const QString& what) {
         fault(QStringLiteral("%1: not all can be read of %2").arg(name, cut));
     checkContrast(name, painted);
     checkNames(name);
+    checkReading(name, painted);
     if (form == u"frmSplash") return;  // a film plays there: it looks as the moment has it
     if (const QString wrong = looks_.fault(name, seen); !wrong.isEmpty()) fault(wrong);
 }
@@ -47,6 +48,13 @@ void Tour::checkNames(const QString& name) {
         const bool isText = control->role() == QAccessible::StaticText;
         if (!isText) fault(QStringLiteral("%1: %2 has no name to hear").arg(name, control->objectName()));
     }
+}
+
+/// Whoever has the screen read aloud hears what is written there.
+void Tour::checkReading(const QString& name, const std::vector<TextContrast>& painted) {
+    const QString read = front() ? front()->textToRead() : QString();
+    read_ << QStringLiteral("== ") + name + u'\n' + read;
+    if (read.isEmpty() && !painted.empty()) fault(name + QStringLiteral(": nothing of it is read aloud"));
 }
 
 void Tour::checkContrast(const QString& name, const std::vector<TextContrast>& painted) {

@@ -68,6 +68,8 @@ class Tour {
 
     /// All texts kept, stop by stop.
     QString texts() const { return texts_.join(QStringLiteral("\n\n")) + u'\n'; }
+    /// What would be read aloud, stop by stop.
+    QString readTexts() const { return read_.join(QStringLiteral("\n\n")) + u'\n'; }
     /// The contrast of the text that was hardest to tell from its ground.
     double leastContrast() const { return leastContrast_; }
     const QStringList& faults() const { return faults_; }
@@ -81,13 +83,14 @@ class Tour {
     /// The widget that the mouse meets in the middle of \a aimedAt, and where within it.
     std::pair<QWidget*, QPoint> hitBy(const QWidget& aimedAt) const;
     void checkNames(const QString& name);
+    void checkReading(const QString& name, const std::vector<TextContrast>& painted);
     void checkContrast(const QString& name, const std::vector<TextContrast>& painted);
 
     Program& program_;
     QDir pictures_;
     Looks& looks_;
     ContactSheets sheets_;
-    QStringList texts_, faults_;
+    QStringList texts_, read_, faults_;
     double leastContrast_ = 21;
     double readable_ = 4.5;  // as web pages are asked to keep
 };

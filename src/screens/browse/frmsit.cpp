@@ -49,6 +49,15 @@ void frmSit::nameGroups() {
     }
 }
 
+/// The name of the chosen photo; before one is chosen, of all there are.
+QString frmSit::textToRead() const {
+    if (grid_.cell() != 0) return names_[size_t(grid_.cell())];
+    QStringList names;
+    for (int cell = 1; cell <= kGridCells; ++cell)
+        if (grid_.isAlive(cell)) names << names_[size_t(cell)];
+    return names.join(u'\n');
+}
+
 void frmSit::setGroup(int group) {
     if (!grid_.setGroup(group)) return;
     applyGroup();

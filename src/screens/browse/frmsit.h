@@ -25,6 +25,7 @@ class frmSit : public Form {
 
     void goBack() override;
     void restored() override;
+    QString textToRead() const override;
 
   protected:
     bool keyDown(QKeyEvent& event) override;

@@ -66,7 +66,11 @@ std::vector<int> columnWidths(const std::vector<Wish>& wishes, int width, Lookup
     if (naturalSum <= width) {
         widths = shareOut(natural, natural, width - naturalSum);
     } else if (rows == LookupTable::Rows::Names) {
-        widths = natural;  // only the last column gives way
+        // The last column gives way, as long as it keeps the larger part.
+        const int others = naturalSum - natural.back(), leastOthers = leastSum - least.back();
+        const int room = std::max(leastOthers, width * 2 / 5);
+        least.back() = missing.back() = 0;
+        widths = others <= room ? natural : shareOut(least, missing, room - leastOthers);
     } else if (leastSum <= width) {
         widths = shareOut(least, missing, width - leastSum);
     } else {
@@ -77,11 +81,13 @@ std::vector<int> columnWidths(const std::vector<Wish>& wishes, int width, Lookup
     return widths;
 }
 
-int rowHeight(const QStringList& cells, const std::vector<int>& widths, const TextFont& font) {
+int rowHeight(const QStringList& cells, const std::vector<int>& widths, const TextFont& font,
+              const TextFont& firstFont) {
     int height = 0;
     for (size_t column = 0; column < widths.size(); ++column) {
         const int room = std::max(1, widths[column] - 2 * TableLayout::kPadding);
-        height = std::max(height, Label::measure(cells[static_cast<qsizetype>(column)], font, room).height());
+        const TextFont& own = column == 0 ? firstFont : font;
+        height = std::max(height, Label::measure(cells[static_cast<qsizetype>(column)], own, room).height());
     }
     return height + 2 * TableLayout::kLeading;
 }
@@ -97,9 +103,9 @@ TableLayout TableLayout::of(const LookupTable& table, int width, const TextFont&
         layout.lefts.push_back(left);
         left += column;
     }
-    layout.headHeight = rowHeight(table.columns, layout.widths, headFont);
+    layout.headHeight = rowHeight(table.columns, layout.widths, headFont, headFont);
     for (const LookupRow& row : table.rows)
-        layout.heights.push_back(rowHeight(row.cells, layout.widths, font));
+        layout.heights.push_back(rowHeight(row.cells, layout.widths, font, headFont));
     return layout;
 }
 

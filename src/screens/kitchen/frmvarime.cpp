@@ -92,7 +92,7 @@ QString frmVarime::textToRead() const {
     switch (shown().kind) {
         case CookingPage::Kind::Ready: {
             QStringList lines;
-            for (const TickRow& row : board_.list.rows()) lines << row.text + u' ' + row.right;
+            for (const TickRow& row : board_.list.rows()) lines << (row.text + u' ' + row.right).trimmed();
             return heading + lines.join(QStringLiteral(".\n"));
         }
         case CookingPage::Kind::Step:

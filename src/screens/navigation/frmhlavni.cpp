@@ -53,6 +53,7 @@ frmHlavni::frmHlavni(basSarne& sarne)
     connect(&tmrSvetlo, &Timer::tick, this, &frmHlavni::stepSweep);
     connect(&tmrOzdoby, &Timer::tick, this, &frmHlavni::liveOn);
     Label2.setText(QStringLiteral("Velisa sarn"));
+    Label2.setUnheard(true);  // the window is called so
     Label2.setFont({QStringLiteral("Times New Roman"), 15, true, true});
     Label2.setColor(colors::kTitle);
     Label2.setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
@@ -145,6 +146,9 @@ void frmHlavni::tick() {
 
 /// What moves comes to rest.
 void frmHlavni::eyesChanged() {
+    // Where the things' names are written no plate is to cover them.
+    for (Button* thing : imgClick)
+        if (thing) thing->setToolTip(eyes().hasContrast() ? QString() : thing->accessibleName());
     if (!eyes().isCalm()) return;
     TmrPohyby.setEnabled(false);
     endSweep();
@@ -334,8 +338,9 @@ void frmHlavni::paintNames(QPainter& painter) const {
     std::vector<const Button*> things;
     std::ranges::copy_if(imgClick, std::back_inserter(things),
                          [](const Button* b) { return b && b->isVisible(); });
-    for (const Button* thing : things) painter.drawRect(thing->twips());
     const TextFont least{QStringLiteral("Arial"), kLeastName, true};
+    for (const Button* thing : things)
+        painter.drawRect(thing->twips().united(roomForName(*thing, least).adjusted(-60, -30, 60, 30)));
     for (const Button* thing : things) {
         constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
         const QString name = withUnbreakableBlanks(thing->accessibleName());
@@ -343,8 +348,7 @@ void frmHlavni::paintNames(QPainter& painter) const {
         const double growth =
             RoomToGrow().of(least, kName / kLeastName * textScale(), name, room.size(), kFlags);
         painter.setFont(larger(least, growth).toQFont());
-        painter.fillRect(painter.boundingRect(room, kFlags, name),
-                         Qt::black);  // a long one reaches over lines
+        painter.fillRect(painter.boundingRect(room, kFlags, name), Qt::black);  // over a neighbour's frame
         painter.drawText(room, kFlags, name);
     }
 }

@@ -22,6 +22,13 @@ constexpr QColor kDimmed(150, 170, 165);
 const TextFont kHintFont{QStringLiteral("Arial"), 10, false, true};
 constexpr QRect kScreen(0, 0, Stage::kWidth, Stage::kHeight);
 
+/// A line that leads nowhere is told by its slant, beside its colour.
+TextFont fontOf(const MenuItem& item) {
+    TextFont font = kItemFont;
+    font.italic = !item.isSelectable();
+    return font;
+}
+
 }  // namespace
 
 frmMenu::frmMenu(basSarne& sarne, std::function<void()> closed)
@@ -77,7 +84,6 @@ MenuLabel* frmMenu::newLabel() {
     const int k = int(lblOdkaz.size()) + 1;
     auto* label = new MenuLabel(*this, QStringLiteral("lblOdkaz(%1)").arg(k));
     label->setUnheard(true);
-    label->setFont(kItemFont);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(label, &Label::hovered, this, [this, k] { hoverItem(k); });
     connect(label, &Label::clicked, this, [this, k] { choose(k); });
@@ -88,6 +94,7 @@ void frmMenu::dressLabel(int k) {
     MenuLabel& label = *lblOdkaz[size_t(k - 1)];
     label.setText(item(k).label + kSpacing);
     label.setClickable(isSelectable(k));
+    label.setFont(fontOf(item(k)));
     const bool found = level_.isSearchResult() && isSelectable(k);
     const int recipes = found ? int(recipesWithIngredient(app().Db(), item(k).target).size()) : 0;
     label.setNote(found ? QString::number(recipes) : QString());
@@ -136,10 +143,10 @@ int frmMenu::besideTexts(const MenuLevel& level) const {
 MenuContent frmMenu::contentOf(const MenuLevel& level) const {
     MenuContent content;
     content.scale = textScale();
-    const TextFont itemFont = larger(kItemFont, content.scale);
     const int room = besideTexts(level);
     for (const MenuItem& item : level.items)
-        content.itemWidths.push_back(Label::measure(item.label + kSpacing, itemFont).width() + room);
+        content.itemWidths.push_back(
+            Label::measure(item.label + kSpacing, larger(fontOf(item), content.scale)).width() + room);
     if (!level.heading.isEmpty())
         content.headingWidth = Label::measure(level.heading, larger(kHeadingFont, content.scale)).width();
     if (const QString hint = searchHint(level); !hint.isEmpty())
