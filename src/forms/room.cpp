@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <algorithm>
 
 #include "forms/colors.h"
 #include "forms/stage.h"
@@ -13,6 +14,9 @@ constexpr int kBlurred = 24;       // pixels across that are left of blurred sur
 constexpr int kSampled = 240;      // pixels across that they are taken from
 constexpr int kShade = 110;        // of the surroundings, of 255
 constexpr double kHair = 1. / 64;  // less than this is no rest of the display
+// Beyond its edge a picture goes on as in a mirror, soon only in the colours of its edge.
+constexpr int kMirrored = 150, kTinted = 3600;  // twips until the one and the other have gone
+constexpr int kEdge = 48, kEdgeTones = 40;      // parts of its width that are its edge; tones along that
 
 QRectF designArea() {
     return {0, 0, Stage::kWidth, Stage::kHeight};
@@ -34,6 +38,53 @@ void drawMirrored(QPainter& painter, const QRectF& place, const Picture& picture
     painter.drawImage(place.translated(-place.width(), 0), mirrored);
     painter.drawImage(place.translated(place.width(), 0), mirrored);
     painter.drawImage(place, image);
+}
+
+/// \a strip as a mirror at the left of a picture shows it, less and less of it further out.
+QImage fadedMirror(const QImage& strip) {
+    QImage mirror = strip.mirrored(true, false).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QLinearGradient fade(0, 0, mirror.width(), 0);
+    for (const double far : {0., .25, .5, .75, 1.})
+        fade.setColorAt(far, QColor(0, 0, 0, int(255 * far * far * (3 - 2 * far))));
+    QPainter inside(&mirror);
+    inside.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    inside.fillRect(mirror.rect(), fade);
+    return mirror;
+}
+
+/// The colours along the left edge of \a image, over \a size.
+QImage edgeTones(const QImage& image, QSize size) {
+    return image.copy(0, 0, std::max(1, image.width() / kEdge), image.height())
+        .scaled(1, kEdgeTones, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// What \a image, which lies in \a place, goes on into beyond its left edge.
+void continueLeft(QPainter& painter, const QRectF& place, const QImage& image) {
+    const auto drawOut = [&](int far, const QImage& strip) {
+        painter.drawImage(QRectF(place.left() - far, place.top(), far, place.height()), fadedMirror(strip));
+    };
+    const auto pixels = [&](int far) {
+        return QSize(std::max(1, qRound(image.width() * far / place.width())), image.height());
+    };
+    drawOut(kTinted, edgeTones(image, pixels(kTinted)));
+    drawOut(kMirrored, image.copy(QRect({}, pixels(kMirrored))));
+}
+
+/// Its right edge is the left one of the picture turned round, its upper and lower edge of the picture laid
+/// on its side.
+void paintContinued(QPainter& painter, const QRectF& covered, const QRectF& place, const QImage& image) {
+    const bool upright = covered.height() - place.height() > covered.width() - place.width();
+    const QImage lying = upright ? image.transformed(QTransform().rotate(-90)) : image;
+    const QSizeF size = upright ? place.size().transposed() : place.size();
+    for (const int turn : {0, 180}) {
+        painter.save();
+        painter.translate(place.center());
+        painter.rotate(turn + (upright ? 90 : 0));
+        continueLeft(painter, {{-size.width() / 2, -size.height() / 2}, size},
+                     turn ? lying.mirrored(true, true) : lying);
+        painter.restore();
+    }
 }
 
 }  // namespace
@@ -117,9 +168,11 @@ void Room::compose(QPainter& painter, const QRectF& covered) const {
     const QRectF most = place.adjusted(-kHair, -kHair, kHair, kHair);
     if (useWide && most.top() <= covered.top() && covered.width() > most.width())
         return drawMirrored(painter, place, picture);
-    if (!most.contains(covered))
-        paintSurroundings(painter, covered, picture.scaled({kBlurred * 4, kBlurred * 3}));
-    drawWhole(painter, place, picture);
+    if (most.contains(covered)) return drawWhole(painter, place, picture);
+    const QImage image = scaledFor(painter, place, picture);
+    paintSurroundings(painter, covered, image);
+    paintContinued(painter, covered, place, image);
+    painter.drawImage(place, image);
 }
 
 void Room::forget() {

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 
 #include "forms/control.h"
 #include "support/fakesarne.h"
@@ -101,6 +102,9 @@ TEST_F(RoomTest, WithoutAWidePictureTheRestIsNeverBlack) {
         for (const QPoint& corner : {QPoint(0, 0), QPoint(window.width() - 1, window.height() - 1)})
             EXPECT_GT(at(image, corner.x(), corner.y()).red(), 60) << window.width();
         EXPECT_EQ(at(image, window.width() / 2, window.height() / 2).red(), 200);
+        const int side = (window.width() - window.height() * 4 / 3) / 2;
+        const int above = (window.height() - window.width() * 3 / 4) / 2;
+        EXPECT_GT(at(image, std::max(side - 3, 5), std::max(above - 3, 5)).red(), 190) << "no seam";
         form->unload();
         QApplication::sendPostedEvents(form, QEvent::DeferredDelete);
     }
