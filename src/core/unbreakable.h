@@ -6,7 +6,8 @@
 namespace sarne {
 
 /// Whether the blank at \a blank of \a text holds together what stands around it: a one-letter preposition or
-/// conjunction and the next word, a number and the word or sign that belongs to it. No line ends there.
+/// conjunction and the next word, a number and the word or sign that belongs to it, a day and its month. No
+/// line ends there.
 bool holdsTogether(QStringView text, qsizetype blank);
 
 /// \a text with non-breaking blanks where a blank holds together.

@@ -172,6 +172,9 @@ TEST(WordWrapTest, WrapsAtBlanksAndNeverInsideAWord) {
     EXPECT_EQ(wrap("Polévka s bramborem a majoránkou", 21),
               (QStringList{u"Polévka s bramborem"_s, u"a majoránkou"_s}));
     EXPECT_EQ(wrap("vaříme 20 minut", 10), (QStringList{u"vaříme"_s, u"20 minut"_s}));
+    EXPECT_EQ(wrap("do 15. / 4., od 16. 9., dnes", 11),
+              (QStringList{u"do"_s, u"15. / 4.,"_s, u"od 16. 9.,"_s, u"dnes"_s}));
+    EXPECT_EQ(wrap("v roce 2010. 15. 4.", 12), (QStringList{u"v roce 2010."_s, u"15. 4."_s}));
     EXPECT_EQ(wrap("a v o", 3), (QStringList{u"a v"_s, u"o"_s})) << "nothing else is left";
     EXPECT_EQ(wrap("   olej", 2, "    "), (QStringList{u"   olej"_s})) << "an indent of no room";
     const QString longText = u"slovo "_s.repeated(2000);
