@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "disc/commands/ask.h"
 #include "disc/commands/build.h"
 #include "disc/commands/commands.h"
 #include "disc/commands/tellproblems.h"
@@ -79,6 +80,23 @@ TEST_F(AuthorTest, ANewRecipeHasNoFaults) {
               0);
     EXPECT_TRUE(QFile::exists(path("content/recepty/03-bedla-jako-rizek.txt")));
     EXPECT_EQ(check(), "");
+}
+
+TEST(AskTest, UntilThereIsAnAnswerOrTheInputEnds) {
+    const Question portions{{},
+                            u"Kolik?"_s,
+                            u"4"_s,
+                            [](const QString& line) { return line.toInt() > 0 ? line : QString(); },
+                            u"Číslo."_s};
+    const auto asked = [&](QString typed) {
+        QString said;
+        QTextStream in(&typed), out(&said);
+        const QString answer = ask(portions, in, out);
+        return answer + u"/%1"_s.arg(said.count(u"Číslo."_s));
+    };
+    EXPECT_EQ(asked(u"šest\n-1\n 6 \n7\n"_s), u"6/2"_s);
+    EXPECT_EQ(asked(u"\n"_s), u"4/0"_s) << "the usual answer";
+    EXPECT_EQ(asked(u"šest"_s), u"/1"_s) << "the input ends";
 }
 
 QString run(const QString& program, const QStringList& arguments) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "disc/exchange/booknames.h"
 #include "disc/exchange/cooklang.h"
 #include "disc/exchange/ingredientline.h"
 #include "disc/exchange/jsonld.h"
@@ -69,37 +70,67 @@ TEST(ExchangeTest, IngredientsAreReadAsPeopleWriteThem) {
     }
 }
 
+/// A page as they are met: the recipe deep in a graph, sections, texts in the place of lists, entities, a
+/// line broken within a text.
 TEST(ExchangeTest, ARecipeIsFoundOnASavedPage) {
     const QString page =
-        u"<html><script "
-        "type=\"application/ld+json\">{\"@graph\":[{\"@type\":\"WebPage\"},{\"@type\":[\"Recipe\"],"
-        "\"name\":\"Vajíčka &amp; spol\",\"recipeYield\":\"2 porce\",\"totalTime\":\"PT1H5M\","
-        "\"recipeIngredient\":[\"4 vejce\",\"20 g "
-        "másla\"],\"recipeInstructions\":[{\"@type\":\"HowToSection\","
-        "\"itemListElement\":[{\"@type\":\"HowToStep\",\"text\":\"<p>Rozehřejeme máslo.</p>\"}]},"
-        "{\"@type\":\"HowToStep\",\"text\":\"Vlijeme vejce.\"}]}]}</script></html>"_s;
+        uR"(<html><script type="application/ld+json">{"@type":"Organization"}</script>
+<script type='application/ld+json' class="seo"><!--
+{"@context":"https://schema.org","@graph":[{"@type":"WebPage","mainEntity":{"@graph":[{"@type":["Thing",
+"http://schema.org/Recipe"],"name":"Vajíčka &amp; spol","recipeYield":{"@type":"QuantitativeValue","value":2},
+"prepTime":"PT0H20M","cookTime":"PT2700S","totalTime":"P0DT1.5H",
+"recipeIngredient":"<p>4 vejce</p><p>&frac12; l mléka</p>","recipeInstructions":[{"@type":"HowToSection",
+"name":"Základ","itemListElement":{"@type":"HowToStep","text":"<p>Rozehřejeme
+máslo&nbsp;na pánvi.</p>"}},"1. Vlijeme vejce.<br>2. Mícháme.",{"@type":"HowToStep","name":"Podáváme."}],
+"image":[],"author":[{"@type":"Person","name":"Jana"}]}]}}]} --></script></html>)"_s;
     const auto recipe = fromJsonLd(page, kUnits);
     ASSERT_TRUE(recipe);
     EXPECT_EQ(recipe->name, u"Vajíčka & spol"_s);
     EXPECT_EQ(recipe->portions, 2);
-    EXPECT_EQ(recipe->minutes, 65);
-    EXPECT_EQ(lines(*recipe), (QStringList{u"vejce: 4 ks"_s, u"másla: 20 g"_s}));
-    EXPECT_EQ(recipe->steps, (QStringList{u"Rozehřejeme máslo."_s, u"Vlijeme vejce."_s}));
-    EXPECT_FALSE(fromJsonLd(u"<html>nic</html>"_s, kUnits));
+    EXPECT_EQ((QList{recipe->preparation, recipe->cooking, recipe->minutes}), (QList{20, 45, 90}));
+    EXPECT_EQ(lines(*recipe), (QStringList{u"vejce: 4 ks"_s, u"mléka: 500 ml"_s}));
+    EXPECT_EQ(recipe->steps, (QStringList{u"Základ: Rozehřejeme máslo na pánvi."_s, u"Vlijeme vejce."_s,
+                                          u"Mícháme."_s, u"Podáváme."_s}));
+    for (const char* none : {"<html>nic</html>", "{", R"({"@type":"Recipe)", "[[]]"})
+        EXPECT_FALSE(fromJsonLd(QString::fromUtf8(none), kUnits)) << none;
+}
+
+TEST(ExchangeTest, IngredientsAreNamedAsTheBookDoes) {
+    Cookbook book;
+    book.ingredients << Ingredient{1, u"mléko"_s, false, {}};
+    SharedRecipe recipe = fromPastedText(
+        u"Kaše\nSuroviny\n1 l Mléka\n2 Cibule (Nakrájené)\n100 G RÝŽE\n3 lžíce Tabasca\nMáslo, nebo Sádlo\n"_s,
+        kUnits);
+    useBookNames(book, recipe);
+    EXPECT_EQ(lines(recipe), (QStringList{u"mléko: 1000 ml"_s, u"cibule, nakrájené: 2 ks"_s, u"rýže: 100 g"_s,
+                                          u"Tabasca: 3 lžíce"_s, u"máslo: "_s}));
+    EXPECT_EQ(recipe.ingredients.last().alternative, u"sádlo"_s);
 }
 
 TEST(ExchangeTest, CooklangOfOthersIsRead) {
     const SharedRecipe recipe = fromCooklang(
-        u"---\ntitle: Lívance\nservings: 4\n---\n-- poznámka\nSmícháme "
-        "@mouku{250%g}(hladkou) a @mléko{1/2%l} v #velké míse{}.\n"
-        "\nSmažíme na @olej{} ~{5%minut}, osolíme @sůl.\n"_s,
+        uR"(---
+title: "Lívance: zlaté"
+servings: 4|8
+tags: [snídaně, sladké]
+time:
+  prep: 1 h 10 min
+---
+-- poznámka
+Smícháme @mouku{=250%g}(hladkou) a @mléko{1/2%l} v #velké míse{}.
+
+Smažíme na @olej{} ~{5%minut} [- nebo déle -], osolíme @sůl. Necháme ~odpočinek{1%hodinu}.
+
+Podáváme s @./omáčky/vanilkový krém{200%ml}.
+)"_s,
         kUnits);
-    EXPECT_EQ(recipe.name, u"Lívance"_s);
-    EXPECT_EQ(recipe.portions, 4);
-    EXPECT_EQ(lines(recipe),
-              (QStringList{u"mouku, hladkou: 250 g"_s, u"mléko: 500 ml"_s, u"olej: "_s, u"sůl: "_s}));
+    EXPECT_EQ(recipe.name, u"Lívance: zlaté"_s);
+    EXPECT_EQ((QList{recipe.portions, recipe.preparation}), (QList{4, 70}));
+    EXPECT_EQ(lines(recipe), (QStringList{u"mouku, hladkou: 250 g"_s, u"mléko: 500 ml"_s, u"olej: "_s,
+                                          u"sůl: "_s, u"vanilkový krém: 200 ml"_s}));
     EXPECT_EQ(recipe.steps, (QStringList{u"Smícháme mouku a mléko v velké míse."_s,
-                                         u"Smažíme na olej 5 minut, osolíme sůl."_s}));
+                                         u"Smažíme na olej 5 minut, osolíme sůl. Necháme 1 hodinu."_s,
+                                         u"Podáváme s vanilkový krém."_s}));
 }
 
 TEST(ExchangeTest, APastedTextBecomesAFileWithMarks) {

@@ -7,6 +7,17 @@
 
 namespace sarne::disc {
 
+std::optional<QStringList> unknownWords(const QStringList& words) {
+    QProcess hunspell;
+    hunspell.start(QStringLiteral("hunspell"),
+                   {QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("utf-8"), QStringLiteral("-d"),
+                    QStringLiteral("cs_CZ")});
+    hunspell.write(words.join(u'\n').toUtf8() + '\n');
+    hunspell.closeWriteChannel();
+    if (!hunspell.waitForFinished() || hunspell.exitCode() != 0) return std::nullopt;
+    return QString::fromUtf8(hunspell.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+}
+
 SpellCheck::SpellCheck(const QStringList& known) {
     for (const QString& word : known) known_.insert(word.toLower());
 }
@@ -26,22 +37,15 @@ void SpellCheck::report(Problems& problems) const {
     for (auto word = words_.cbegin(); word != words_.cend(); ++word)
         if (!correct.contains(word.key())) asked << word.key();
     if (asked.isEmpty()) return;
-    QProcess hunspell;
-    hunspell.start(QStringLiteral("hunspell"),
-                   {QStringLiteral("-l"), QStringLiteral("-i"), QStringLiteral("utf-8"), QStringLiteral("-d"),
-                    QStringLiteral("cs_CZ")});
-    hunspell.write(asked.join(u'\n').toUtf8() + '\n');
-    hunspell.closeWriteChannel();
-    if (!hunspell.waitForFinished() || hunspell.exitCode() != 0) {
+    std::optional<QStringList> unknown = unknownWords(asked);
+    if (!unknown) {
         problems.finding({QStringLiteral("slovnik.txt"), 0},
                          QStringLiteral("hunspell s cs_CZ nelze spustit"));
         return;
     }
-    QStringList unknown =
-        QString::fromUtf8(hunspell.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
-    unknown.sort();
+    unknown->sort();
     correct.unite(QSet<QString>(asked.cbegin(), asked.cend()));
-    for (const QString& word : unknown) {
+    for (const QString& word : *unknown) {
         correct.remove(word);
         problems.finding(words_.value(word), QStringLiteral("slovo, které slovník nezná: %1").arg(word));
     }

@@ -3,10 +3,14 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 #include "problems.h"
 
 namespace sarne::disc {
+
+/// Those of \a words that hunspell's Czech dictionary does not have; nothing where it cannot be asked.
+std::optional<QStringList> unknownWords(const QStringList& words);
 
 /// Words of the content that a Czech dictionary does not know, with the place where each stands first.
 class SpellCheck {

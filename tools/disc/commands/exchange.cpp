@@ -1,14 +1,14 @@
-#include "../exchange/cooklang.h"
+#include "../exchange/booknames.h"
 
 #include <QCommandLineParser>
 #include <QFile>
 #include <QRegularExpression>
 
+#include "../exchange/cooklang.h"
 #include "../exchange/jsonld.h"
 #include "../exchange/markdown.h"
 #include "../exchange/pastedtext.h"
 #include "../recipefile.h"
-#include "../stems.h"
 #include "commands.h"
 
 namespace sarne::disc {
@@ -33,28 +33,6 @@ SharedRecipe readShared(const QString& text, const QString& name, const QStringL
         return recipe;
     }
     return fromPastedText(text, units);
-}
-
-/// The book's ingredient that \a name is another case of, "mléka" of "mléko"; \a name itself where there is
-/// none.
-QString inBook(const Cookbook& book, const QString& name) {
-    if (book.ingredientId(name) > 0) return name;
-    const QStringList stems = stemsOf(name);
-    for (const Ingredient& one : book.ingredients)
-        if (!stems.isEmpty() && stemsOf(one.name) == stems) return one.name;
-    return name;
-}
-
-/// Names the ingredients as the book does; one that it does not have begins with a mark for a person.
-void useBookNames(const Cookbook& book, SharedRecipe& recipe) {
-    for (SharedIngredient& one : recipe.ingredients) {
-        const QString name = one.name.section(u',', 0, 0).trimmed();
-        const QString refinement = one.name.section(u',', 1).trimmed();
-        one.name =
-            inBook(book, name) + (refinement.isEmpty() ? QString() : QStringLiteral(", ") + refinement);
-        one.isNew = book.ingredientId(inBook(book, name)) == 0;
-        if (!one.alternative.isEmpty()) one.alternative = inBook(book, one.alternative);
-    }
 }
 
 /// What the ingredients name and the book's lists lack is added to them.

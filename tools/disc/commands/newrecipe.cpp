@@ -1,51 +1,21 @@
 #include <QCommandLineParser>
 #include <QFile>
 #include <QTextStream>
-#include <cstdio>
-#include <functional>
 
 #include "../recipefile.h"
+#include "ask.h"
 #include "commands.h"
 
 namespace sarne::disc {
 namespace {
 
-/// Something to be known of a recipe.
-struct Question {
-    const char* option;
-    QString text;
-    /// What an empty line means; empty when there must be an answer.
-    QString usual;
-    /// Brings an answer to the form that it is used in; empty when it is none.
-    std::function<QString(const QString&)> read;
-    /// Said to an answer that is none.
-    QString hint;
-};
-
-/// The value of an option, or what the user types when asked, again until it is an answer. Empty when there
-/// is none.
-QString answer(const QCommandLineParser& parser, const Question& question, QTextStream& typed) {
-    const QString option = QLatin1String(question.option);
-    if (parser.isSet(option)) {
-        QString given = question.read(parser.value(option).simplified());
-        if (given.isEmpty()) complain(QStringLiteral("--%1: %2").arg(option, question.hint));
-        return given;
-    }
-    for (;;) {
-        const QString usual =
-            question.usual.isEmpty() ? QString() : QStringLiteral(" [%1]").arg(question.usual);
-        std::printf("%s%s ", qUtf8Printable(question.text), qUtf8Printable(usual));
-        std::fflush(stdout);
-        QString line;
-        if (!typed.readLineInto(&line)) {
-            std::printf("\n");
-            return {};
-        }
-        line = line.simplified();
-        if (QString read = question.read(line.isEmpty() ? question.usual : line); !read.isEmpty())
-            return read;
-        complain(question.hint);
-    }
+/// The value of an option, or what the user types when asked. Empty when there is none.
+QString answer(const QCommandLineParser& parser, const Question& question, QTextStream& typed,
+               QTextStream& said) {
+    if (!parser.isSet(question.option)) return ask(question, typed, said);
+    QString given = question.read(parser.value(question.option).simplified());
+    if (given.isEmpty()) complain(QStringLiteral("--%1: %2").arg(question.option, question.hint));
+    return given;
 }
 
 QString portionsText(const QString& typed) {
@@ -140,24 +110,24 @@ int createRecipe(const QStringList& arguments) {
     const QString courses = facts.courses.join(QStringLiteral(", "));
     const auto asItIs = [](const QString& typed) { return typed; };
     QStringList answers;
-    QTextStream typed(stdin);
+    QTextStream typed(stdin), said(stdout);
     for (const Question& question :
-         {Question{"nazev",
+         {Question{QStringLiteral("nazev"),
                    QStringLiteral("Jak se jídlo jmenuje?"),
                    {},
                    asItIs,
                    QStringLiteral("Bez názvu to nejde; třeba „Bramboračka“.")},
-          Question{"hlavni",
+          Question{QStringLiteral("hlavni"),
                    QStringLiteral("Hlavní surovina?"),
                    {},
                    asItIs,
                    QStringLiteral("Napište surovinu, která v jídle nesmí chybět; třeba „brambory“.")},
-          Question{"porce", QStringLiteral("Pro kolik lidí?"), QStringLiteral("4"), portionsText,
-                   QStringLiteral("Napište číslo od 1 do 255.")},
-          Question{"chod", QStringLiteral("Chod (%1)?").arg(courses), facts.courses.value(1),
+          Question{QStringLiteral("porce"), QStringLiteral("Pro kolik lidí?"), QStringLiteral("4"),
+                   portionsText, QStringLiteral("Napište číslo od 1 do 255.")},
+          Question{QStringLiteral("chod"), QStringLiteral("Chod (%1)?").arg(courses), facts.courses.value(1),
                    [&](const QString& text) { return courseOf(text, facts.courses); },
                    QStringLiteral("Chod je jeden z těchto: %1.").arg(courses)}}) {
-        answers << answer(parser, question, typed);
+        answers << answer(parser, question, typed, said);
         if (answers.last().isEmpty()) {
             complain(
                 QStringLiteral("Recept nevznikl: potřebuje název, hlavní surovinu, počet porcí a chod."));

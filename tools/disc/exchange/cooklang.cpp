@@ -26,8 +26,12 @@ QString ingredientMark(const SharedIngredient& one) {
 }
 
 SharedIngredient ingredientOf(const QRegularExpressionMatch& match, const QStringList& units) {
-    const QString name = (match.captured(1).isEmpty() ? match.captured(4) : match.captured(1)).trimmed();
-    const QString quantity = match.captured(2).trimmed();
+    // Another recipe is taken by its path, and an amount that does not grow with the portions begins with
+    // "=".
+    const QString name =
+        (match.captured(1).isEmpty() ? match.captured(4) : match.captured(1)).section(u'/', -1).trimmed();
+    QString quantity = match.captured(2).trimmed();
+    if (quantity.startsWith(u'=')) quantity = quantity.mid(1).trimmed();
     SharedIngredient read = readIngredientText(QString(quantity).replace(u'%', u' ') + u' ' + name, units);
     read.name = name;
     if (!quantity.isEmpty() && read.amount.isEmpty()) read.amount = quantity;
@@ -64,7 +68,7 @@ class Reader {
 
     SharedRecipe read(QString text) {
         static const QRegularExpression comments(
-            QStringLiteral("\\[-.*?-\\]|(?<=[ \\t])--(?!-).*?$|^--(?!-).*?$"),
+            QStringLiteral("[ \\t]*\\[-.*?-\\]|(?<=[ \\t])--(?!-).*?$|^--(?!-).*?$"),
             QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption);
         text.remove(comments);
         bool isFront = false;
@@ -86,7 +90,10 @@ class Reader {
   private:
     void metadata(const QString& line) {
         const QString key = line.section(u':', 0, 0).trimmed();
-        const QString value = line.section(u':', 1).trimmed();
+        QString value = line.section(u':', 1).trimmed();
+        if (value.size() > 1 && value.front() == value.back() &&
+            QStringLiteral("\"'").contains(value.front()))
+            value = value.mid(1, value.size() - 2);
         const QString low = key.toLower();
         if (low == u"title" || low == u"název")
             recipe_.name = value;
@@ -94,9 +101,9 @@ class Reader {
             recipe_.longName = value;
         else if (low == u"servings" || low == u"serves" || low == u"yield")
             recipe_.portions = numberIn(value);
-        else if (low == u"prep time")
+        else if (low == u"prep time" || low == u"prep")
             recipe_.preparation = minutesIn(value);
-        else if (low == u"cook time")
+        else if (low == u"cook time" || low == u"cook")
             recipe_.cooking = minutesIn(value);
         else if (low == u"time" || low == u"total time" || low == u"time required" || low == u"duration")
             recipe_.minutes = minutesIn(value);

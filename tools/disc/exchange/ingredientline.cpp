@@ -84,7 +84,7 @@ QString czech(double number) {
 QString unitAt(const QString& text, const QStringList& units) {
     QString best;
     for (const QString& unit : units)
-        if (unit.size() > best.size() && text.startsWith(unit) &&
+        if (unit.size() > best.size() && text.startsWith(unit, Qt::CaseInsensitive) &&
             (text.size() == unit.size() || text[unit.size()] == u' ' || text[unit.size()] == u'.'))
             best = unit;
     return best;

@@ -19,10 +19,16 @@ QJsonValue duration(int minutes) {
     return minutes > 0 ? QJsonValue(QStringLiteral("PT%1M").arg(minutes)) : QJsonValue(QJsonValue::Undefined);
 }
 
+/// Of "PT1H30M", "P0DT5400S", and of a number of minutes in words.
 int minutesOf(const QJsonValue& value) {
-    static const QRegularExpression pattern(QStringLiteral("^P(?:(\\d+)D)?(?:T(?:(\\d+)H)?(?:(\\d+)M)?)?"));
-    const auto match = pattern.match(value.toString());
-    return match.captured(1).toInt() * 24 * 60 + match.captured(2).toInt() * 60 + match.captured(3).toInt();
+    static const QRegularExpression pattern(
+        QStringLiteral("^P(?:(\\d+)D)?(?:T(?:([\\d.]+)H)?(?:([\\d.]+)M)?(?:(\\d+)(?:\\.\\d+)?S)?)?"));
+    static const QRegularExpression number(QStringLiteral("^\\s*(\\d+)"));
+    const QString text = value.isDouble() ? QString::number(value.toInt()) : value.toString();
+    const auto match = pattern.match(text);
+    if (!match.hasMatch()) return number.match(text).captured(1).toInt();
+    return match.captured(1).toInt() * 24 * 60 + qRound(match.captured(2).toDouble() * 60) +
+           qRound(match.captured(3).toDouble()) + match.captured(4).toInt() / 60;
 }
 
 QJsonObject stepObject(const QString& text) {
@@ -39,27 +45,29 @@ QString plain(const QString& text) {
                : text.simplified();
 }
 
-/// A value that may be a text, a number or the first of several.
+/// A value that may be a text, a number, an object with either, or the first of several.
 QString textOf(const QJsonValue& value) {
-    if (value.isArray()) return textOf(value.toArray().first());
+    if (value.isArray()) return textOf(value.toArray().at(0));
     if (value.isDouble()) return QString::number(value.toDouble());
-    if (value.isObject()) return textOf(value.toObject().value(QStringLiteral("text")));
+    for (const char* key : {"text", "name", "value"})
+        if (const QJsonValue inner = value[QLatin1String(key)]; !inner.isUndefined()) return textOf(inner);
     return plain(value.toString());
 }
 
 bool isRecipe(const QJsonObject& object) {
     const QJsonValue type = object.value(QStringLiteral("@type"));
-    return type.toString() == u"Recipe" || type.toArray().contains(QStringLiteral("Recipe"));
+    const QJsonArray types = type.isArray() ? type.toArray() : QJsonArray{type};
+    return std::any_of(types.begin(), types.end(), [](const QJsonValue& one) {
+        return one.toString().section(u'/', -1).section(u':', -1) == u"Recipe";
+    });
 }
 
+/// The first recipe within \a value, however deep: in a graph, as what a page is about …
 QJsonObject findRecipe(const QJsonValue& value) {
-    if (value.isObject()) {
-        const QJsonObject object = value.toObject();
-        if (isRecipe(object)) return object;
-        for (const char* key : {"@graph", "mainEntity", "mainEntityOfPage"})
-            if (const QJsonObject found = findRecipe(object.value(QLatin1String(key))); !found.isEmpty())
-                return found;
-    }
+    const QJsonObject object = value.toObject();
+    if (isRecipe(object)) return object;
+    for (const QJsonValue& one : object)
+        if (const QJsonObject found = findRecipe(one); !found.isEmpty()) return found;
     for (const QJsonValue& one : value.toArray())
         if (const QJsonObject found = findRecipe(one); !found.isEmpty()) return found;
     return {};
@@ -71,7 +79,12 @@ QJsonObject recipeOn(const QString& page) {
         QRegularExpression::DotMatchesEverythingOption | QRegularExpression::CaseInsensitiveOption);
     QStringList texts{page};
     for (auto all = script.globalMatch(page); all.hasNext();) texts << all.next().captured(1);
-    for (const QString& text : texts) {
+    // Pages are not strict about what stands around the text and about line breaks within it.
+    static const QRegularExpression around(
+        QStringLiteral("^\\s*(<!--|//<!\\[CDATA\\[)|(//\\]\\]>|-->)\\s*$"));
+    static const QRegularExpression breaks(QStringLiteral("[\\x00-\\x1f]"));
+    for (QString& text : texts) {
+        text.remove(around).replace(breaks, QStringLiteral(" "));
         const QJsonDocument document = QJsonDocument::fromJson(text.trimmed().toUtf8());
         const QJsonValue value =
             document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
@@ -80,23 +93,50 @@ QJsonObject recipeOn(const QString& page) {
     return {};
 }
 
+/// The lines of a text that may be HTML, without numbers or bullets in front.
+QStringList linesOf(const QString& text) {
+    static const QRegularExpression ends(QStringLiteral("\\s*(?:\\r?\\n|</p>|<br\\s*/?>|</li>)\\s*"));
+    static const QRegularExpression number(QStringLiteral("^(\\d+[.)]|[-•*])\\s+"));
+    QStringList lines;
+    for (const QString& part : text.split(ends))
+        if (QString line = plain(part); !line.isEmpty()) lines << line.remove(number);
+    return lines;
+}
+
+void addSteps(const QJsonValue& value, QStringList& steps);
+
+/// A step, or a section or list of steps, whose name, if it has one, begins its first step.
+void addStepsOf(const QJsonObject& object, QStringList& steps) {
+    const QJsonValue inner = object.value(QStringLiteral("itemListElement"));
+    const QString own = object.value(kMarkup).toString();
+    if (inner.isUndefined()) {
+        own.isEmpty() ? steps << linesOf(textOf(object)) : steps << own;
+        return;
+    }
+    const qsizetype first = steps.size();
+    addSteps(inner, steps);
+    const QString name = plain(object.value(QStringLiteral("name")).toString());
+    if (!name.isEmpty() && first < steps.size())
+        steps[first] =
+            name + (name.endsWith(u':') ? QStringLiteral(" ") : QStringLiteral(": ")) + steps[first];
+}
+
 /// Steps as one text, as texts, as steps, or as sections of steps.
 void addSteps(const QJsonValue& value, QStringList& steps) {
-    static const QRegularExpression number(QStringLiteral("^\\d+[.)]\\s+"));
-    if (value.isArray()) {
-        for (const QJsonValue& one : value.toArray()) addSteps(one, steps);
-    } else if (value.isObject()) {
-        const QJsonObject object = value.toObject();
-        const QJsonValue inner = object.value(QStringLiteral("itemListElement"));
-        if (inner.isArray()) return addSteps(inner, steps);
-        const QString own = object.value(kMarkup).toString();
-        const QString text = textOf(object.value(QStringLiteral("text")));
-        steps << (own.isEmpty() ? text : own);
-    } else {
-        static const QRegularExpression ends(QStringLiteral("\\s*(?:\\r?\\n|</p>|<br\\s*/?>|</li>)\\s*"));
-        for (const QString& part : value.toString().split(ends))
-            if (QString text = plain(part); !text.isEmpty()) steps << text.remove(number);
-    }
+    if (value.isObject()) return addStepsOf(value.toObject(), steps);
+    if (value.isString()) steps << linesOf(value.toString());
+    for (const QJsonValue& one : value.toArray()) addSteps(one, steps);
+}
+
+/// Ingredients as texts, or as one text of several lines.
+QStringList ingredientsOf(const QJsonObject& recipe) {
+    QJsonValue value = recipe.value(QStringLiteral("recipeIngredient"));
+    if (value.isUndefined()) value = recipe.value(QStringLiteral("ingredients"));
+    if (value.isString()) return linesOf(value.toString());
+    QStringList texts;
+    for (const QJsonValue& one : value.toArray()) texts << textOf(one);
+    texts.removeAll(QString());
+    return texts;
 }
 
 int firstNumber(const QString& text) {
@@ -144,8 +184,7 @@ std::optional<SharedRecipe> fromJsonLd(const QString& page, const QStringList& u
     recipe.cooking = minutesOf(object.value(QStringLiteral("cookTime")));
     recipe.minutes = minutesOf(object.value(QStringLiteral("totalTime")));
     recipe.source = text("url");
-    for (const QJsonValue& one : object.value(QStringLiteral("recipeIngredient")).toArray())
-        recipe.ingredients << readIngredientText(textOf(one), units);
+    for (const QString& one : ingredientsOf(object)) recipe.ingredients << readIngredientText(one, units);
     addSteps(object.value(QStringLiteral("recipeInstructions")), recipe.steps);
     for (const QJsonValue& line : object.value(kHead).toArray()) recipe.head << line.toString();
     for (const QJsonValue& one : object.value(kSections).toArray())
