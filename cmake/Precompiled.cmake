@@ -5,9 +5,10 @@
 
 option(SARNE_PRECOMPILED "Precompile the headers of the libraries" ON)
 
-# Tests run once for each time they are compiled.
+# What waits for a user or for files is compiled sooner, and is none the slower; so are tests, which run once for each
+# time they are compiled.
 if(CMAKE_BUILD_TYPE STREQUAL Release)
-    set(SARNE_TEST_OPTIONS -O1)
+    set(SARNE_LIGHT_OPTIONS -O1)
 endif()
 
 # sarne_precompiled_kind(kind targets...): the headers in precompiled/kind.h, compiled against the given libraries.
@@ -19,10 +20,9 @@ function(sarne_precompiled_kind kind)
     set(header "${CMAKE_SOURCE_DIR}/cmake/precompiled/${kind}.h")
     file(CONFIGURE OUTPUT "${source}" CONTENT "")
     add_library(sarne_precompiled_${kind} OBJECT "${source}")
-    set_target_properties(sarne_precompiled_${kind} PROPERTIES AUTOMOC OFF)
     target_link_libraries(sarne_precompiled_${kind} PRIVATE sarne_options ${ARGN})
     if(kind MATCHES "test$")
-        target_compile_options(sarne_precompiled_${kind} PRIVATE ${SARNE_TEST_OPTIONS})
+        target_compile_options(sarne_precompiled_${kind} PRIVATE ${SARNE_LIGHT_OPTIONS})
     endif()
     target_precompile_headers(sarne_precompiled_${kind} PRIVATE "${header}")
     # What ccache knows the compiled headers by: the same in every checkout, though the compiled file is not.

@@ -25,13 +25,16 @@ if(SARNE_FUZZ)
     target_compile_options(sarne_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# sarne_library(name SOURCES ... [PUBLIC targets...] [PRIVATE targets...] [PRECOMPILED kind]): one static library per
-# folder of src/. Most draw, so the kind of precompiled headers is "widgets" where none is told.
+# sarne_library(name [LIGHT] SOURCES ... [PUBLIC targets...] [PRIVATE targets...] [PRECOMPILED kind]): one static library
+# per folder of src/. Most draw, so the kind of precompiled headers is "widgets" where none is told.
 function(sarne_library name)
-    cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    cmake_parse_arguments(ARG "LIGHT" "PRECOMPILED" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC ${ARG_PUBLIC} PRIVATE sarne_options ${ARG_PRIVATE})
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
+    if(ARG_LIGHT)
+        target_compile_options(${name} PRIVATE ${SARNE_LIGHT_OPTIONS})
+    endif()
     if(NOT ARG_PRECOMPILED)
         set(ARG_PRECOMPILED widgets)
     endif()
@@ -60,7 +63,7 @@ function(sarne_test name)
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE sarne_options GTest::gtest Qt6::Core ${ARG_LIBS})
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
-    target_compile_options(${name} PRIVATE ${SARNE_TEST_OPTIONS})
+    target_compile_options(${name} PRIVATE ${SARNE_LIGHT_OPTIONS})
     if(NOT ARG_PRECOMPILED)
         set(ARG_PRECOMPILED test)
     endif()

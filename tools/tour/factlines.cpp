@@ -20,6 +20,11 @@ constexpr int kMostSteps = 80;  // of the scroll key, from the top of a text to 
 constexpr double kReadable =
     3;  // of the darkest point of a word with the lightest around it, letters being thin
 
+int lightness(QRgb pixel) {
+    const auto [least, most] = std::minmax({qRed(pixel), qGreen(pixel), qBlue(pixel)});
+    return least + most;
+}
+
 QRegularExpression pattern(const char16_t* text) {
     return QRegularExpression(QString::fromUtf16(text), QRegularExpression::UseUnicodePropertiesOption);
 }
@@ -95,6 +100,7 @@ class Inspector {
   private:
     void fault(const FactLine& fact, const QString& why) {
         tour_.fault(QStringLiteral("%1: the line of %2 %3").arg(name_, QLatin1String(fact.what), why));
+        if (!picture_.isNull()) tour_.save(pictureName(), picture_, Tour::As::Photo);
     }
 
     /// As a reader does: down, until all of the paragraph shows.
@@ -110,8 +116,10 @@ class Inspector {
     void keepPicture() {
         if (shown_ == view_.scrolled()) return;
         shown_ = view_.scrolled();
-        picture_ = tour_.picture(shown_ == 0 ? name_ : name_ + QStringLiteral("-dole"), Tour::As::Photo);
+        picture_ = tour_.picture(pictureName(), Tour::As::Photo);
     }
+
+    QString pictureName() const { return shown_ == 0 ? name_ : name_ + QStringLiteral("-dole"); }
 
     void lookAtWords(const FactLine& fact, const TextLine& line) {
         for (qsizetype i = line.firstBox; i < line.firstBox + line.boxCount; ++i) {
@@ -139,13 +147,13 @@ class Inspector {
     }
 
     bool isPainted(const QRect& place) const {
-        QColor dark = Qt::white;
-        QColor light = Qt::black;
+        QRgb dark = qRgb(255, 255, 255);
+        QRgb light = qRgb(0, 0, 0);
         for (int y = place.top(); y <= place.bottom(); ++y)
             for (int x = place.left(); x <= place.right(); ++x) {
-                const QColor here = picture_.pixelColor(x, y);
-                if (here.lightness() < dark.lightness()) dark = here;
-                if (here.lightness() > light.lightness()) light = here;
+                const QRgb here = picture_.pixel(x, y);
+                if (lightness(here) < lightness(dark)) dark = here;
+                if (lightness(here) > lightness(light)) light = here;
             }
         return contrastRatio(light, dark) >= kReadable;
     }

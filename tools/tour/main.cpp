@@ -121,6 +121,10 @@ int main(int argc, char** argv) {
     const QCommandLineOption accept(
         QStringLiteral("accept"),
         QStringLiteral("take the texts shown as the expected ones, and this size's looks as the kept ones"));
+    const QCommandLineOption keep(
+        QStringLiteral("keep"),
+        QStringLiteral("save only pictures of places whose names match, and of those with a fault"),
+        QStringLiteral("PATTERN"));
     const QCommandLineOption steps(
         QStringLiteral("steps"),
         QStringLiteral("instead of the tour, do so many things at chance, and tell what they cost"),
@@ -138,7 +142,7 @@ int main(int argc, char** argv) {
     const QCommandLineOption textSize(QStringLiteral("text"), QStringLiteral("size of texts in percent"),
                                       QStringLiteral("100|125|150"), QStringLiteral("100"));
     options.addOptions(
-        {contrast, textSize, measured, only, size, program, disc, expect, look, accept, steps, seed});
+        {contrast, textSize, measured, only, size, keep, program, disc, expect, look, accept, steps, seed});
     options.process(application);
     const QStringList wide = options.value(size).split(u'x');
     if (options.positionalArguments().size() != 1 || wide.size() != 2) options.showHelp(2);
@@ -169,6 +173,7 @@ int main(int argc, char** argv) {
     QApplication::processEvents();
     Looks looks(options.value(look), options.value(size));
     Tour tour(run, pictures, looks);
+    tour.keepOnly(QRegularExpression(options.value(keep)));
     run.stage().eyes().setContrast(options.isSet(contrast));
     run.stage().eyes().setTextPercent(options.value(textSize).toInt());
     if (options.isSet(contrast)) tour.askContrast(7);

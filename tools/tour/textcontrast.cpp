@@ -6,25 +6,57 @@
 #include <QPainterPath>
 #include <QWidget>
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace sarne {
 namespace {
 
-double luminance(const QColor& color) {
-    const auto linear = [](double c) {
-        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+double linear(double channel) {
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
 }
 
-/// What \a ink looks like, painted as opaque as \a opacity says on \a ground.
-QColor mixed(const QColor& ink, const QColor& ground, double opacity) {
-    const double part = opacity * ink.alphaF();
-    const auto mix = [part](double over, double under) { return float(part * over + (1 - part) * under); };
-    return QColor::fromRgbF(mix(ink.redF(), ground.redF()), mix(ink.greenF(), ground.greenF()),
-                            mix(ink.blueF(), ground.blueF()));
+/// What red, green and blue add to the luminance.
+constexpr std::array kShare = {0.2126, 0.7152, 0.0722};
+
+double luminance(const QColor& color) {
+    return kShare[0] * linear(color.redF()) + kShare[1] * linear(color.greenF()) +
+           kShare[2] * linear(color.blueF());
 }
+
+double ratioOf(double one, double other) {
+    constexpr double kFlare = 0.05;
+    const auto [dark, light] = std::minmax(one, other);
+    return (light + kFlare) / (dark + kFlare);
+}
+
+/// The contrasts of one ink, painted as opaque as it is told, with whatever ground: what a channel adds is
+/// computed once for each of its values, a text's ground having a hundred thousand pixels.
+class InkContrast {
+  public:
+    InkContrast(const QColor& ink, double opacity) {
+        const double part = opacity * ink.alphaF();
+        const std::array over = {ink.redF(), ink.greenF(), ink.blueF()};
+        for (size_t channel = 0; channel < kShare.size(); ++channel)
+            for (int value = 0; value < kValues; ++value) {
+                const double under = float(value) / 255;  // as a colour tells it
+                ground_[channel][size_t(value)] = kShare[channel] * linear(under);
+                ink_[channel][size_t(value)] =
+                    kShare[channel] * linear(part * over[channel] + (1 - part) * under);
+            }
+    }
+    double on(QRgb ground) const { return ratioOf(sum(ink_, ground), sum(ground_, ground)); }
+
+  private:
+    static constexpr int kValues = 256;
+    using Table = std::array<std::array<double, kValues>, kShare.size()>;
+
+    static double sum(const Table& table, QRgb at) {
+        return table[0][size_t(qRed(at))] + table[1][size_t(qGreen(at))] + table[2][size_t(qBlue(at))];
+    }
+
+    Table ink_, ground_;
+};
 
 /// Paints on an image what it is told to paint, and looks at the ground before each text.
 class WatchingEngine final : public QPaintEngine {
@@ -117,17 +149,16 @@ class WatchingEngine final : public QPaintEngine {
         const QRect all = painter_.transform().mapRect(letters).toAlignedRect();
         const QRect place = (visible_ & all).boundingRect();
         if (place.isEmpty() || item.text().trimmed().isEmpty()) return {};
-        const auto contrastOn = [&](QRgb ground) {
-            return contrastRatio(mixed(painter_.pen().color(), ground, painter_.opacity()), ground);
-        };
+        const InkContrast contrast(painter_.pen().color(), painter_.opacity());
         // The frame of a row may come close to what is above and below the letters themselves.
         const QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(at);
         const QRect inked = place & painter_.transform().mapRect(ink).toAlignedRect();
         const QRect behind = inked.isEmpty() ? place : inked;
         std::vector<std::pair<double, QRgb>> grounds;
+        grounds.reserve(size_t(behind.width()) * size_t(behind.height()));
         for (int y = behind.top(); y <= behind.bottom(); ++y)
             for (int x = behind.left(); x <= behind.right(); ++x)
-                grounds.emplace_back(contrastOn(image_.pixel(x, y)), image_.pixel(x, y));
+                grounds.emplace_back(contrast.on(image_.pixel(x, y)), image_.pixel(x, y));
         const auto worst = grounds.begin() + std::ptrdiff_t(grounds.size() / 20);
         std::nth_element(grounds.begin(), worst, grounds.end());
         // A letter's box is larger than the letter.
@@ -208,9 +239,7 @@ class WatchedPicture final : public QPaintDevice {
 }  // namespace
 
 double contrastRatio(const QColor& one, const QColor& other) {
-    constexpr double kFlare = 0.05;
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + kFlare) / (dark + kFlare);
+    return ratioOf(luminance(one), luminance(other));
 }
 
 std::vector<TextContrast> textContrasts(QWidget& widget) {

@@ -21,9 +21,15 @@ Form* Tour::front() const {
 void Tour::stop(const QString& form, const QString& what) {
     wait();
     const QString name = what.isEmpty() ? form : form + u'-' + what;
+    const qsizetype before = faults_.size();
+    const QImage seen = picture(name);
+    check(form, name, seen);
+    if (faults_.size() > before) save(name, seen);
+}
+
+void Tour::check(const QString& form, const QString& name, const QImage& seen) {
     const QString there = frontName();
     if (there != form) fault(QStringLiteral("%1: %2 is in front").arg(name, there));
-    const QImage seen = picture(name);
     sheets_.add(name, seen);
     const bool groundsAreBlack = program_.stage().eyes().hasContrast();
     if (const QString black = blackLine(seen); !groundsAreBlack && !black.isEmpty())
@@ -96,12 +102,16 @@ void Tour::skipIntro() {
 }
 
 QImage Tour::picture(const QString& name, As how) {
-    const QString file = pictures_.filePath(name + QLatin1String(how == As::Exact ? ".png" : ".jpg"));
     QImage seen = program_.stage().grab().toImage();
+    if (kept_.match(name).hasMatch()) save(name, seen, how);
+    return seen;
+}
+
+void Tour::save(const QString& name, const QImage& seen, As how) {
+    const QString file = pictures_.filePath(name + QLatin1String(how == As::Exact ? ".png" : ".jpg"));
     constexpr int kQuick = 80;  // of a picture without loss: larger, and sooner written
     if (!seen.save(file, nullptr, kQuick))
         fault(QStringLiteral("%1: the picture cannot be written").arg(name));
-    return seen;
 }
 
 QWidget* Tour::find(const QString& control) {

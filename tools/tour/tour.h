@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QImage>
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 #include <Qt>
@@ -42,10 +43,13 @@ class Tour {
     QString frontName() const;
     /// Opens the help of the form in front by F1, keeps it as "frmStranka-F1-form", and goes back.
     void visitHelp();
-    /// Saves a picture only, of a place whose texts tell the time or are looked at otherwise, and returns it.
+    /// Takes a picture only, of a place whose texts tell the time or are looked at otherwise, and returns it.
     /// A photo is smaller and sooner written than what is exact to the pixel.
     enum class As { Exact, Photo };
     QImage picture(const QString& name, As how = As::Exact);
+    void save(const QString& name, const QImage& seen, As how = As::Exact);
+    /// From now on only pictures of places whose names match \a names are saved, and those with a fault.
+    void keepOnly(const QRegularExpression& names) { kept_ = names; }
     /// Moves the mouse over, or clicks, the control called \a control on the form in front.
     void hover(const QString& control);
     void click(const QString& control);
@@ -82,6 +86,7 @@ class Tour {
     void clickWidget(QWidget& widget) const;
     /// The widget that the mouse meets in the middle of \a aimedAt, and where within it.
     std::pair<QWidget*, QPoint> hitBy(const QWidget& aimedAt) const;
+    void check(const QString& form, const QString& name, const QImage& seen);
     void checkNames(const QString& name);
     void checkReading(const QString& name, const std::vector<TextContrast>& painted);
     void checkContrast(const QString& name, const std::vector<TextContrast>& painted);
@@ -90,6 +95,7 @@ class Tour {
     QDir pictures_;
     Looks& looks_;
     ContactSheets sheets_;
+    QRegularExpression kept_;  // all, as long as it is empty
     QStringList texts_, read_, faults_;
     double leastContrast_ = 21;
     double readable_ = 4.5;  // as web pages are asked to keep
