@@ -42,6 +42,7 @@ frmDialog::frmDialog(basSarne& sarne, const QString& prompt, Asks asks)
     Text1.setAccessibleName(prompt);
     Text1.setFont(kEntryFont);
     if (asks == Asks::Number) takeDecimalComma(Text1);
+    Text1.setSign(asks == Asks::Text);
 
     const int entryTop = kMargin + Label1.twips().height() + kMargin / 2;
     Text1.place({kMargin, entryTop, kPromptWidth, kEntryHeight});

@@ -7,8 +7,10 @@
 #include <QLineEdit>
 #include <QMimeData>
 
+#include "core/value.h"
 #include "forms/colors.h"
 #include "forms/editmenu.h"
+#include "forms/entrysign.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
 #include "forms/largertext.h"
@@ -21,12 +23,14 @@ constexpr int kEndless = 1000000;  // twips: what does not fit is scrolled to
 
 }  // namespace
 
-Edit::Edit(Form& form, const QString& name) : Control(form, name), line_(new QLineEdit(this)) {
+Edit::Edit(Form& form, const QString& name)
+    : Control(form, name), line_(new QLineEdit(this)), sign_(new EntrySign(*this, *line_)) {
     line_->setObjectName(name + QStringLiteral(".line"));
     line_->installEventFilter(this);
     setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(line_);
     connect(line_, &QLineEdit::textChanged, this, &Edit::textChanged);
+    connect(sign_, &EntrySign::stepped, this, &Edit::step);
 }
 
 QString Edit::text() const {
@@ -54,6 +58,28 @@ void Edit::setMaxLength(int characters) {
     line_->setMaxLength(characters);
 }
 
+void Edit::setSteps(int least, int most) {
+    sign_->setSteps(least, most);
+    rescale();
+}
+
+void Edit::setSign(bool shown) {
+    sign_->setVisible(shown);
+    rescale();
+}
+
+void Edit::step(int more, int least, int most) {
+    setText(QString::number(std::clamp(static_cast<int>(leadingNumber(text())) + more, least, most)));
+}
+
+void Edit::placeSign() {
+    constexpr int kWidth = 420, kNarrow = 300;
+    const int width = sign_->hasSteps() ? kNarrow : kWidth;
+    sign_->place({twips().width() - width, 0, width, twips().height()});
+    const bool shown = sign_->isVisibleTo(this);
+    line_->setTextMargins(0, 0, shown ? qRound((width - kBorder) * scale()) : 0, 0);
+}
+
 void Edit::focusAll() {
     line_->setFocus();
     line_->selectAll();
@@ -65,6 +91,7 @@ bool Edit::hasInput() const {
 
 void Edit::rescale() {
     Control::rescale();
+    placeSign();
     line_->setAccessibleName(accessibleName());
     line_->setGeometry(rect());
     // The line lays its text out in pixels, so its font is scaled by hand.

@@ -7,6 +7,8 @@ class QLineEdit;
 
 namespace sarne {
 
+class EntrySign;
+
 /// A one-line text entry. Enter and Escape go to the form; while the entry has the focus, letters are typed
 /// and are no commands.
 class Edit : public Control {
@@ -23,6 +25,10 @@ class Edit : public Control {
     void takeBack();
     void setFont(const TextFont& font);
     void setMaxLength(int characters);
+    /// The entry is one of numbers: its sign makes them one more or one less.
+    void setSteps(int least, int most);
+    /// The sign for those who have only a mouse; without it where the form has keys of its own.
+    void setSign(bool shown);
     /// Gives the entry the keyboard, its text selected.
     void focusAll();
     bool hasInput() const;
@@ -39,7 +45,11 @@ class Edit : public Control {
   private:
     void showMenu(QPoint global);
 
+    void placeSign();
+    void step(int more, int least, int most);
+
     QLineEdit* line_;
+    EntrySign* sign_;
     TextFont font_;
 };
 

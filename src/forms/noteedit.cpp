@@ -11,17 +11,21 @@
 
 #include "forms/colors.h"
 #include "forms/editmenu.h"
+#include "forms/entrysign.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
 
 namespace sarne {
 namespace {
 
+constexpr int kTwipsOfUnit = 15;
+constexpr QSize kSign(450, 450);  // in the upper right corner
+
 QString editorStyle(double scale) {
-    const int unit = qMax(1, qRound(15 * scale));
+    const int unit = qMax(1, qRound(kTwipsOfUnit * scale));
     return QStringLiteral(
                "QPlainTextEdit{background:%1;color:%2;border:%5px solid %3;border-radius:%6px;"
-               "padding:%7px;selection-background-color:%4;selection-color:%1}"
+               "padding:%7px;padding-right:%10px;selection-background-color:%4;selection-color:%1}"
                "QScrollBar:vertical{background:%1;width:%8px;margin:0}"
                "QScrollBar::handle:vertical{background:%3;border-radius:%6px;min-height:%9px}"
                "QScrollBar::add-line,QScrollBar::sub-line{height:0}"
@@ -31,7 +35,8 @@ QString editorStyle(double scale) {
         .arg(unit * 5)
         .arg(unit * 8)
         .arg(unit * 18)
-        .arg(unit * 40);
+        .arg(unit * 40)
+        .arg(unit * kSign.width() / kTwipsOfUnit);
 }
 
 /// The widget that is typed into. What it takes and gives away as text is whole, whatever it shows in pieces.
@@ -61,7 +66,7 @@ class PiecedEdit final : public QPlainTextEdit {
 }  // namespace
 
 NoteEdit::NoteEdit(Form& form, const QString& name)
-    : Control(form, name), editor_(new PiecedEdit(this, paragraphs_)) {
+    : Control(form, name), editor_(new PiecedEdit(this, paragraphs_)), sign_(new EntrySign(*this, *editor_)) {
     editor_->setObjectName(name + QStringLiteral(".text"));
     editor_->setTabChangesFocus(false);
     editor_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -115,6 +120,7 @@ bool NoteEdit::hasInput() const {
 
 void NoteEdit::rescale() {
     Control::rescale();
+    sign_->place({{twips().width() - kSign.width(), 0}, kSign});
     editor_->setGeometry(rect());
     // The editor lays its text out in pixels, so its font is scaled by hand.
     QFont font = font_.toQFont();

@@ -8,6 +8,8 @@ class QPlainTextEdit;
 
 namespace sarne {
 
+class EntrySign;
+
 /// An editor for a text of any length, of many lines or of one: plain text, with undo and redo, the clipboard
 /// and a scroll bar. A paragraph of thousands of characters shows in pieces, and is one all the same. Escape,
 /// Tab, function keys and Alt combinations go to the form; all others are typed.
@@ -44,6 +46,7 @@ class NoteEdit : public Control {
 
     LongParagraphs paragraphs_;
     QPlainTextEdit* editor_;
+    EntrySign* sign_;
     TextFont font_;
 };
 

@@ -92,6 +92,7 @@ void frmPrint::open() {
 void frmPrint::prepareOptions(const Serving& serving) {
     const double portions = serving.portions > 0 ? serving.portions : kUsualPortions;
     // Read back with a decimal point, whatever the user's.
+    Text1.setSteps(int(kFewestPortions), int(kMostPortions));
     Text1.setText(QString::number(qBound(kFewestPortions, portions, kMostPortions)));
     chkZobrKg.setChecked(serving.units == UnitSystem::Weights);
 }

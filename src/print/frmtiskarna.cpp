@@ -96,6 +96,7 @@ void frmTiskarna::makeOptions() {
     txtSlozka.place(kFolder);
     txtSoubor.place(kFile);
     txtKopie.setMaxLength(2);
+    txtKopie.setSteps(1, kMostCopies);
     txtSlozka.setMaxLength(kLongestPath);
     txtKopie.setTip(Texts::tr("Počet kopií, 1 až 99"));
     txtSlozka.setTip(Texts::tr("Složka, do které se soubor uloží"));

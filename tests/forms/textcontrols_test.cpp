@@ -11,7 +11,10 @@
 #include <QWheelEvent>
 
 #include "forms/colors.h"
+#include "forms/entrysign.h"
+#include "forms/fingers.h"
 #include "forms/holdrepeat.h"
+#include "forms/letterboard.h"
 #include "forms/noteedit.h"
 #include "forms/textview.h"
 #include "support/fakesarne.h"
@@ -230,6 +233,46 @@ TEST_F(NoteEditing, LeavesTheKeysOfTheFormToTheForm) {
     press(Qt::Key_X, Qt::AltModifier);
     EXPECT_EQ(screen->keys, (QList<int>{Qt::Key_Escape, Qt::Key_Tab, Qt::Key_F1, Qt::Key_F4, Qt::Key_X}));
     EXPECT_EQ(note.text(), QString());
+}
+
+TEST(LetterKeys, HoldTheAlphabetApartAndFormsOfALetterGoRound) {
+    const LetterKeys keys;
+    QString typed;
+    for (const LetterKey& key : keys.keys()) {
+        typed += key.text;
+        EXPECT_TRUE(QRect({0, 0}, keys.size()).contains(key.place));
+        EXPECT_GE(key.place.width(), kFingerTwips);
+        EXPECT_EQ(keys.keyAt(key.place.center()), &key - keys.keys().data()) << "no other lies over it";
+    }
+    for (char letter = 'a'; letter <= 'z'; ++letter)
+        EXPECT_TRUE(typed.contains(QLatin1Char(letter))) << letter;
+    EXPECT_EQ(withNextAccent(withNextAccent(u'E')), QChar(u'Ě'));
+    EXPECT_EQ(withNextAccent(u'ě'), QChar(u'e'));
+    EXPECT_EQ(withNextAccent(u'k'), QChar(u'k'));
+    for (const QRect& entry :
+         {QRect(0, 0, 900, 400), QRect(9000, 8500, 2900, 400), QRect(0, 100, 12000, 8800)})
+        EXPECT_TRUE(QRect(0, 0, 12000, 9000).contains(letterKeysPlace(keys.size(), entry)));
+}
+
+TEST_F(NoteEditing, IsTypedByMouseAloneOnTheKeyboardOnTheScreen) {
+    auto& sign = *note.findChild<EntrySign*>();
+    QTest::mouseClick(&sign, Qt::LeftButton);
+    LetterBoard& board = *sign.board();
+    const auto use = [&board](const QString& caption) {
+        int key = 0;
+        while (board.keys().caption(key) != caption) ++key;
+        QTest::mouseClick(&board, Qt::LeftButton, {},
+                          board.toPixels(board.keys().keys()[size_t(key)].place.center()));
+    };
+    for (const char* key : {"Aa", "R", "y", "b", "a", "a", "◄", "é ě", "mezera", "5", "Enter", "x"})
+        use(QString::fromUtf8(key));
+    EXPECT_EQ(note.text(), QStringLiteral("Rybá 5\nx"));
+    EXPECT_TRUE(note.hasInput());
+    note.editor().selectAll();
+    use(QStringLiteral("◄"));
+    EXPECT_EQ(note.text(), QString());
+    screen->setFocus();
+    EXPECT_FALSE(board.isVisible()) << "nothing is typed any more";
 }
 
 TEST_F(NoteEditing, OffersItsCommandsInCzech) {
