@@ -34,7 +34,7 @@ RtfLayout layOut(const QString& text, const LayoutArea& area, LinkMarkers marker
 
 /// Paints the pieces and goes through their links both ways.
 void show(RichPieces& pieces, int texts) {
-    QImage paper(300, 400, QImage::Format_RGB32);
+    static QImage paper(300, 400, QImage::Format_RGB32);  // a new one each time would cost more than the rest
     paper.fill(Qt::white);
     QPainter painter(&paper);
     painter.scale(.1, .1);
