@@ -142,6 +142,9 @@ TEST(OwnFilesTest, ADiscIsBuiltOfThem) {
     Problems problems;
     buildDisc(project, {}, problems, nullptr);
     ASSERT_EQ(problems.errors().join(u'\n').toStdString(), "");
+    for (const QString& name : QDir(QStringLiteral(SARNE_ART "/rendered/prvky")).entryList(QDir::Files))
+        EXPECT_TRUE(QFile::exists(disc + u"/hotovo/scratch/predlohy/rendered/prvky/"_s + name))
+            << name.toStdString() << " is not drawn";
     const QImage shown(disc + u"/hotovo/disc/foto/Male/r1.jpg"_s);
     EXPECT_EQ(shown.size(), QSize(640, 480));
     EXPECT_GT(shown.pixelColor(600, 240).red(), 240) << "the photo is cut around its left end";

@@ -3,160 +3,98 @@
 #include <QFile>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QSvgRenderer>
 
 #include "stamps.h"
 
 namespace sarne::disc {
 namespace {
 
-const QColor kPaper(244, 234, 210);
-const QColor kRim(208, 143, 80);
+const QColor kPaper(248, 240, 221);
+const QColor kCopper(208, 143, 80);
+const QColor kGold(233, 189, 92);
 const QColor kInk(43, 29, 18);
-constexpr QSize kGround(1600, 1200);
-constexpr QSize kWideGround(3360, 1440);
-constexpr QSize kIcon(256, 256);
-/// The art's pixels for a twip: 1600 to 12000, the frames' too.
-constexpr double kScale = 1600.0 / 12000;
-constexpr int kFrames = 10;
-const QString kLayout = QStringLiteral(":/sarne-disc/layout/");
-
-/// A name on screens of its own, and what is written on its sign.
-struct Sign {
-    const char* name;
-    const char* text;
-    QSize size = kIcon;
-};
+/// The room of all grounds, in twips: the screen, 12000 x 9000, and what a wide display shows beside it.
+constexpr QRectF kRoom(-4500, 0, 21000, 9000);
+constexpr int kGroundHeight = 1200, kWideHeight = 1440;
+/// Pixels for a unit of the drawing, and for a twip of what moves.
+constexpr double kElementScale = 4. / 14, kFrameScale = 1600. / 12000;
+constexpr int kFrames = 10, kJpegQuality = 92;
+const QString kDrawing = QStringLiteral(":/sarne-disc/kresby/kresby.svg");
+const QString kFields = QStringLiteral(":/sarne-disc/kresby/hlavni.txt");
+const QString kCursors = QStringLiteral(":/sarne-disc/layout/kurzory.txt");
 
 constexpr const char* kGrounds[] = {"Sit",  "recept", "seznam",  "video", "konec",
                                     "uvod", "zprava", "stranka", "menu"};
 
-const Sign kSigns[] = {{"Tisk", "Tisk"},
-                       {"Help", "?"},
-                       {"Zpet", "Zpět"},
-                       {"Konec", "Konec"},
-                       {"Hudba", "Hudba"},
-                       {"ZvukOn", "Zvuk"},
-                       {"ZvukOff", "Ticho"},
-                       {"Foto", "Foto"},
-                       {"Vino", "Víno"},
-                       {"Recept", "Recept"},
-                       {"Uvod", "Úvod"},
-                       {"Odkazy", "Odkazy"},
-                       {"Suroviny", "Suroviny"},
-                       {"Pomucky", "Náčiní"},
-                       {"Vlastni", "Psaní"},
-                       {"Hrat", "▶"},
-                       {"Stop", "■"},
-                       {"Pauza", "❚❚"},
-                       {"NaZacatek", "|◀"},
-                       {"NaKonec", "▶|"},
-                       {"Lupa", "Hledat"},
-                       {"lzice", "lžíce"},
-                       {"zavazi", "gramy"},
-                       {"Pribor2", "2"},
-                       {"Pribor4", "4"},
-                       {"Pribor6", "6"},
-                       {"Pribor8", "8"},
-                       {"Pribor10", "10"},
-                       {"Jablko", "Jablko"},
-                       {"SipkaNahoru", "▲"},
-                       {"SipkaDolu", "▼"},
-                       {"SipkaNahoruRychle", "▲▲"},
-                       {"SipkaDoluRychle", "▼▼"},
-                       {"Zaskrtnuto", "✓"},
-                       {"Nezaskrtnuto", ""},
-                       {"VolbaAno", "●"},
-                       {"VolbaNe", "○"},
-                       {"Skupina0", "1"},
-                       {"Skupina1", "2"},
-                       {"Skupina2", "3"},
-                       {"Skupina3", "4"},
-                       {"Ikona1", "!"},
-                       {"Ikona2", "?"},
-                       {"Ikona3", "!"},
-                       {"Ikona4", "i"},
-                       {"Varime", "Vaříme"},
-                       {"Nakup", "Nákup"},
-                       {"Doma", "Doma"},
-                       {"Kucharka", "Kuchařka"},
-                       {"Casovac", "Čas"},
-                       {"ZPET", "◀", {64, 64}},
-                       {"SIPKANAHORU", "▲", {64, 64}},
-                       {"SIPKADOLU", "▼", {64, 64}},
-                       {"SIPKAVLEVO", "◀", {64, 64}},
-                       {"SIPKAVPRAVO", "▶", {64, 64}},
-                       {"RamVen", "", {192, 192}},
-                       {"RamDovnitr", "", {192, 192}},
-                       {"Tlacitko", "", {360, 120}},
-                       {"TlacitkoStisk", "", {360, 120}},
-                       {"OkrajHorni", "", {64, 32}},
-                       {"OkrajLeft", "", {32, 64}},
-                       {"ZAHLAVI", "", {1600, 180}},
-                       {"LogoTisk", "", {640, 400}},
-                       {"vino256", "Víno", {1024, 768}}};
+/// What stands on the card of each button of the main screen; nothing for a button without a card.
+constexpr const char* kThings[] = {"Konec",    "Kucharka", "pole2",    "Varime",   "pole4",
+                                   "Skupina1", "Casovac",  "Hudba",    "Skupina0", "pole9",
+                                   "Foto",     "pole11",   "Lupa",     "Vlastni",  "pole14",
+                                   "Vino",     "Skupina2", "Skupina3", "pole18"};
 
-void write(QPainter& painter, const QRectF& where, const QString& text, double size) {
-    QFont font(QStringLiteral("Liberation Serif"));
-    font.setPixelSize(std::max(1, static_cast<int>(size)));
-    const auto needed = [&] {
-        return QFontMetricsF(font).boundingRect(where, Qt::TextWordWrap, text).size();
-    };
-    while (font.pixelSize() > 1 && (needed().width() > where.width() || needed().height() > where.height()))
-        font.setPixelSize(font.pixelSize() * 9 / 10);
-    painter.setFont(font);
-    painter.setPen(kInk);
-    painter.drawText(where, Qt::AlignCenter | Qt::TextWordWrap, text);
+QByteArray bytesOf(const QString& name) {
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QImage ground(const QSize& size) {
-    QImage picture(size, QImage::Format_RGB32);
+void write(QPainter& painter, const QRectF& where, const QString& text, int size) {
+    constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
+    QFont font(QStringLiteral("Liberation Serif"), -1, QFont::Bold);
+    for (; size > 1; size = size * 9 / 10) {
+        font.setPixelSize(size);
+        const QRectF needed = QFontMetricsF(font).boundingRect(where, kFlags, text);
+        if (needed.width() <= where.width() && needed.height() <= where.height()) break;
+    }
+    painter.setFont(font);
+    painter.drawText(where, kFlags, text);
+}
+
+/// The ground called \a name; \a more paints on it, in twips.
+template <typename More>
+QImage ground(QSvgRenderer& drawing, const QString& name, bool isWide, const More& more) {
+    const double scale = (isWide ? kWideHeight : kGroundHeight) / kRoom.height();
+    const QRectF shown = isWide ? kRoom : QRectF(0, 0, 12000, 9000);
+    QImage picture((shown.size() * scale).toSize(), QImage::Format_RGB32);
     QPainter painter(&picture);
-    QLinearGradient light(0, 0, size.width(), size.height());
-    light.setColorAt(0, kPaper);
-    light.setColorAt(1, kPaper.darker(125));
-    painter.fillRect(picture.rect(), light);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    painter.translate(-shown.topLeft());
+    drawing.render(&painter, name, kRoom);
+    more(painter);
     return picture;
 }
 
-QImage sign(const Sign& one) {
-    QImage picture(one.size, QImage::Format_ARGB32_Premultiplied);
+QImage element(QSvgRenderer& drawing, const QString& name) {
+    QImage picture((drawing.boundsOnElement(name).size() * kElementScale).toSize(),
+                   QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double line = one.size.height() / 24.0;
-    const QRectF inner = QRectF(picture.rect()).adjusted(line, line, -line, -line);
-    painter.setPen(QPen(kRim, line));
-    painter.setBrush(kPaper);
-    painter.drawRoundedRect(inner, line * 4, line * 4);
-    const QString text = QString::fromUtf8(one.text);
-    write(painter, inner, text, one.size.height() / (text.size() > 3 ? 4.5 : 2.2));
+    drawing.render(&painter, name, QRectF(picture.rect()));
     return picture;
 }
 
-QString layoutText(const char* name) {
-    QFile file(kLayout + QLatin1String(name));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-/// A button of the main screen: its number, where it is pointed at, the size of its frames; in twips.
+/// A button of the main screen, in twips.
 struct Field {
     int number = 0;
     QRectF area;
-    QSizeF frame;
+    /// Where the program draws what moves.
+    QRectF frame;
 };
 
 QList<Field> fields() {
     QList<Field> all;
-    for (const QString& line : layoutText("hlavni.txt").split(u'\n')) {
-        const QStringList words = line.simplified().split(u' ');
-        if (words.size() != 7 || line.startsWith(u'#')) continue;
-        const auto number = [&](int i) { return words[i].toDouble(); };
-        all << Field{words[0].toInt(), {number(1), number(2), number(3), number(4)}, {number(5), number(6)}};
+    for (const QString& line : QString::fromUtf8(bytesOf(kFields)).split(u'\n')) {
+        QList<double> n;
+        for (const QString& word : line.split(u' ')) n << word.toDouble();
+        if (n.size() == 9)
+            all << Field{static_cast<int>(n[0]), {n[1], n[2], n[3], n[4]}, {n[7], n[8], n[5], n[6]}};
     }
     return all;
 }
 
-/// What stands on the field of a thing: the heading of its menu.
+/// What stands on the card of a thing: the heading of its menu.
 QString headingOf(const Cookbook& book, int topic) {
     if (topic == 0) return QStringLiteral("Konec");
     if (topic == 7) return QStringLiteral("Hudba");
@@ -165,62 +103,104 @@ QString headingOf(const Cookbook& book, int topic) {
     return {};
 }
 
-QImage mainScreen(const Cookbook& book, const QSize& size) {
-    QImage picture = ground(size);
+void drawCard(QSvgRenderer& drawing, QPainter& painter, const Field& field, const QString& heading) {
+    constexpr int kText = 520, kEdge = 90;
+    painter.setPen(QPen(kCopper, 40));
+    painter.setBrush(kPaper);
+    painter.drawRoundedRect(field.area, 130, 130);
+    const QRectF inner = field.area.adjusted(kEdge, kEdge, -kEdge, -kEdge);
+    const double side = std::min(inner.width(), inner.height() - kText);
+    drawing.render(&painter, QLatin1String(kThings[field.number]),
+                   {inner.center().x() - side / 2, inner.top(), side, side});
+    painter.setPen(kInk);
+    write(painter, {inner.left(), inner.bottom() - kText, inner.width(), kText}, heading, 270);
+}
+
+void drawMain(QSvgRenderer& drawing, QPainter& painter, const Cookbook& book) {
+    painter.setPen(kGold);
+    write(painter, {600, 620, 10800, 1050}, book.facts.title, 820);
+    for (const Field& field : fields())
+        if (const QString heading = headingOf(book, field.number); !heading.isEmpty())
+            drawCard(drawing, painter, field, heading);
+}
+
+/// A frame of the light that brightens and dims below a card; the last is the screen at rest.
+QImage frame(const Field& field, int number) {
+    QImage picture((field.frame.size() * kFrameScale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    // A wide ground has the design in its middle.
-    const double scale = size.height() / 9000.0;
-    painter.translate((size.width() - 12000 * scale) / 2, 0);
-    painter.scale(scale, scale);
-    for (const Field& field : fields()) {
-        if (headingOf(book, field.number).isEmpty()) continue;
-        painter.setPen(QPen(kRim, 40));
-        painter.setBrush(kPaper.lighter(104));
-        painter.drawRoundedRect(field.area, 150, 150);
-        write(painter, field.area.adjusted(60, 60, -60, -60), headingOf(book, field.number), 260);
-    }
+    painter.scale(kFrameScale, kFrameScale);
+    painter.translate(-field.frame.topLeft());
+    QColor light(184, 64, 42);
+    light.setAlpha(50 * std::min(number, kFrames - number));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(light);
+    painter.drawRoundedRect(
+        QRectF(field.area.left() + 60, field.area.bottom() - 110, field.area.width() - 120, 80), 40, 40);
     return picture;
 }
 
-/// A frame that brightens the field and dims it again; the last is the screen at rest.
-QImage frame(const Field& field, int number) {
-    QImage picture((field.frame * kScale).toSize(), QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
-    if (number == kFrames) return picture;
-    QPainter painter(&picture);
-    QColor glow = kRim;
-    glow.setAlpha(20 * std::min(number, kFrames - number));
-    painter.fillRect(QRectF({}, field.area.size() * kScale), glow);
-    return picture;
+/// What is drawn for the program to ask for by name: all that has a place of its own in the drawing, but for
+/// the things that stand on the cards alone, "pole2".
+QStringList elementsOf(const QByteArray& drawing) {
+    static const QRegularExpression group(QStringLiteral("<g id=\"(?!pole)([^\"]+)\" transform"));
+    QStringList names;
+    for (auto all = group.globalMatch(QString::fromUtf8(drawing)); all.hasNext();)
+        names << all.next().captured(1);
+    return names;
 }
+
+/// Puts pictures and tables where the art has them.
+class DrawnFolder {
+  public:
+    explicit DrawnFolder(const QString& folder) : folder_(folder) {}
+    bool isMade() const { return isMade_; }
+
+    void save(const QImage& picture, const QString& name) {
+        const QString file = path(name);
+        isMade_ = picture.save(file, nullptr, name.endsWith(u"jpg") ? kJpegQuality : -1) && isMade_;
+    }
+    void copy(const QString& from, const QString& name) {
+        QFile file(path(name));
+        isMade_ = file.open(QIODevice::WriteOnly) && file.write(bytesOf(from)) > 0 && isMade_;
+    }
+
+  private:
+    QString path(const QString& name) const {
+        QString file = folder_ + u'/' + name;
+        QDir().mkpath(QFileInfo(file).path());
+        return file;
+    }
+
+    QString folder_;
+    bool isMade_ = true;
+};
 
 bool drawAll(const Cookbook& book, const QString& folder) {
-    const QString rendered = folder + QStringLiteral("/rendered/");
-    for (const char* name : {"hlavni/pohyby", "pozadi", "prvky", "dishes", "sponzor"})
-        QDir().mkpath(rendered + QLatin1String(name));
-    QDir().mkpath(folder + QStringLiteral("/layout"));
-    bool isMade = mainScreen(book, kGround).save(rendered + QStringLiteral("hlavni/pozadi.jpg")) &&
-                  mainScreen(book, kWideGround).save(rendered + QStringLiteral("hlavni/pozadi-siroke.jpg"));
-    for (const char* name : kGrounds)
-        isMade = isMade &&
-                 ground(kGround).save(rendered + QStringLiteral("pozadi/%1.jpg").arg(QLatin1String(name)));
-    for (const Sign& one : kSigns) {
-        const bool isWine = qstrcmp(one.name, "vino256") == 0;
-        const QString ending = isWine ? QStringLiteral("jpg") : QStringLiteral("png");
-        isMade = isMade && sign(one).save(rendered +
-                                          QStringLiteral("prvky/%1.%2").arg(QLatin1String(one.name), ending));
+    QSvgRenderer drawing(kDrawing);
+    DrawnFolder to(folder);
+    for (const bool isWide : {false, true}) {
+        const QString ending = isWide ? QStringLiteral("-siroke.jpg") : QStringLiteral(".jpg");
+        to.save(ground(drawing, QStringLiteral("kuchyne"), isWide,
+                       [&](QPainter& painter) { drawMain(drawing, painter, book); }),
+                QStringLiteral("rendered/hlavni/pozadi") + ending);
+        for (const char* name : kGrounds)
+            to.save(ground(drawing, QLatin1String(name), isWide, [](QPainter&) {}),
+                    QStringLiteral("rendered/pozadi/") + QLatin1String(name) + ending);
     }
+    for (const QString& name : elementsOf(bytesOf(kDrawing)))
+        to.save(element(drawing, name),
+                QStringLiteral("rendered/prvky/%1.%2")
+                    .arg(name, name == u"vino256" ? QStringLiteral("jpg") : QStringLiteral("png")));
     for (const Field& field : fields())
         for (int i = 1; i <= kFrames; ++i)
-            isMade = isMade && frame(field, i).save(rendered + QStringLiteral("hlavni/pohyby/%1-%2.png")
-                                                                   .arg(field.number, 2, 10, QLatin1Char('0'))
-                                                                   .arg(i, 2, 10, QLatin1Char('0')));
-    for (const char* name : {"hlavni.txt", "kurzory.txt"}) {
-        QFile file(folder + QStringLiteral("/layout/") + QLatin1String(name));
-        isMade = isMade && file.open(QIODevice::WriteOnly) && file.write(layoutText(name).toUtf8()) > 0;
-    }
-    return isMade;
+            to.save(frame(field, i), QStringLiteral("rendered/hlavni/pohyby/%1-%2.png")
+                                         .arg(field.number, 2, 10, QLatin1Char('0'))
+                                         .arg(i, 2, 10, QLatin1Char('0')));
+    to.copy(kFields, QStringLiteral("layout/hlavni.txt"));
+    to.copy(kCursors, QStringLiteral("layout/kurzory.txt"));
+    return to.isMade();
 }
 
 }  // namespace
@@ -228,10 +208,11 @@ bool drawAll(const Cookbook& book, const QString& folder) {
 void drawArtIfNeeded(Workshop& shop) {
     if (!shop.isDrawn) return;
     shop.art = shop.scratch + QStringLiteral("/predlohy");
-    QString headings;
-    for (const MenuTopic& topic : shop.book.menuTopics) headings += topic.heading + u'\n';
+    QString texts = shop.book.facts.title;
+    for (const MenuTopic& topic : shop.book.menuTopics) texts += topic.heading + u'\n';
     shop.make(shop.art + QStringLiteral("/rendered/hlavni/pozadi.jpg"),
-              originOf({}, stamp::screens() + headings), [&] { return drawAll(shop.book, shop.art); });
+              originOf({kDrawing, kFields, kCursors}, stamp::screens() + texts),
+              [&] { return drawAll(shop.book, shop.art); });
 }
 
 }  // namespace sarne::disc

@@ -4,9 +4,9 @@
 
 namespace sarne::disc {
 
-/// Where there is neither art nor a finished disc to take the screens from: draws place-holders for every
-/// picture that the program asks for by name (plain grounds, signs with words on them, a main screen with a
-/// labelled field for each of its things) into the scratch folder and lets \a shop use them.
+/// Where there is neither art nor a finished disc to take the screens from: draws every picture that the
+/// program asks for by name, from kresby/kresby.svg, and a main screen with a card for each of its things as
+/// kresby/hlavni.txt places them, into the scratch folder and lets \a shop use them.
 void drawArtIfNeeded(Workshop& shop);
 
 }  // namespace sarne::disc
