@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <QSvgRenderer>
 
+#include "core/unbreakable.h"
 #include "stamps.h"
 
 namespace sarne::disc {
@@ -38,7 +39,8 @@ QByteArray bytesOf(const QString& name) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void write(QPainter& painter, const QRectF& where, const QString& text, int size) {
+void write(QPainter& painter, const QRectF& where, const QString& words, int size) {
+    const QString text = withUnbreakableBlanks(words);
     constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
     QFont font(QStringLiteral("Liberation Serif"), -1, QFont::Bold);
     for (; size > 1; size = size * 9 / 10) {
