@@ -40,16 +40,18 @@ unsigned long pixel(Display* display, Place at) {
     return value;
 }
 
-/// How many colours a grid of 40 x 30 places on the screen shows.
+/// How many colours a grid of 40 x 30 places on the screen shows. Only the grid's lines are fetched: a whole
+/// screen each time would keep the display busy while the program wants to draw.
 size_t colours(Display* display) {
     const int width = DisplayWidth(display, 0), height = DisplayHeight(display, 0);
-    XImage* image = XGetImage(display, DefaultRootWindow(display), 0, 0, unsigned(width), unsigned(height),
-                              AllPlanes, ZPixmap);
-    if (!image) return 0;
     std::set<unsigned long> seen;
-    for (int y = 10; y < height; y += height / 30)
-        for (int x = 10; x < width; x += width / 40) seen.insert(XGetPixel(image, x, y));
-    XDestroyImage(image);
+    for (int y = 10; y < height; y += height / 30) {
+        XImage* line =
+            XGetImage(display, DefaultRootWindow(display), 0, y, unsigned(width), 1, AllPlanes, ZPixmap);
+        if (!line) return 0;
+        for (int x = 10; x < width; x += width / 40) seen.insert(XGetPixel(line, x, 0));
+        XDestroyImage(line);
+    }
     return seen.size();
 }
 
@@ -108,12 +110,17 @@ long processorTime(pid_t process) {
     return (user + system) * 1000 / sysconf(_SC_CLK_TCK);
 }
 
+/// Whether the window is drawn; where a place is to be clicked, whether that changes what is watched. A click
+/// that comes too early is repeated.
 bool ready(Display* display, Place clicked, Place watched, unsigned long before) {
     constexpr size_t kDrawn = 12;
     if (clicked.x < 0) return colours(display) >= kDrawn;
     click(display, clicked);
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    return colours(display) >= kDrawn && pixel(display, watched) != before;
+    for (int look = 0; look < 10; ++look) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        if (pixel(display, watched) != before) return colours(display) >= kDrawn;
+    }
+    return false;
 }
 
 }  // namespace

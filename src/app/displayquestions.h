@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "core/texts.h"
+#include "platform/settingsstore.h"
 
 namespace sarne {
 
@@ -26,6 +27,10 @@ inline QSize resolutionFromText(const QString& text) {
 /// Where the settings store tells the resolution, which then counts for the question instead of the display's
 /// own.
 inline const QString kStoredResolution = QStringLiteral("Config/0001/Display/Settings/Resolution");
+
+inline QSize storedResolution(const SettingsStore& settings) {
+    return resolutionFromText(readAppPathValue(settings, kStoredResolution));
+}
 
 inline QString resolutionQuestion(QSize current) {
     return Texts::tr(

@@ -101,10 +101,10 @@ bool frmSplash::Zobraz() {
 }
 
 bool frmSplash::checkDisplay() {
+    const QSize stored = storedResolution(program_.platform().settings);
+    if (stored == kDesignResolution) return true;
     const QSize display = program_.platform().display.current();
     if (display.isEmpty()) return true;  // nothing is known, or nothing can be changed
-    const QSize stored =
-        resolutionFromText(readAppPathValue(program_.platform().settings, kStoredResolution));
     const QSize current = stored.isEmpty() ? display : stored;
     if (current == kDesignResolution) return true;
     switch (program_.ask(resolutionQuestion(current), kQuestionBox, kAnswerCancel)) {

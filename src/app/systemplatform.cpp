@@ -3,13 +3,15 @@
 #include <QTimer>
 #include <chrono>
 
+#include "app/displayquestions.h"
+
 namespace sarne {
 
 SystemPlatform::SystemPlatform() {
     music.setWait(MediaWait::DontWait);
     music.setLoop(MediaLoop::On);
     music.hold();
-    display.prepare();
+    if (storedResolution(settings) != kDesignResolution) display.prepare();
 }
 
 PlatformParts SystemPlatform::parts() {
