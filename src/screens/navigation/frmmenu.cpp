@@ -1,5 +1,7 @@
 #include "screens/navigation/frmmenu.h"
 
+#include <algorithm>
+
 #include "core/czech.h"
 #include "core/texts.h"
 #include "forms/bassarne.h"
@@ -183,27 +185,22 @@ void frmMenu::applyGeometry(const QRect& beside) {
 
 void frmMenu::placeLabels() {
     for (size_t i = 0; i < level_.items.size(); ++i) lblOdkaz[i]->place(geometry_.items[i]);
+    // To know where a level opens it has to be read, so it is asked once.
+    std::vector<MenuLabel::Arrow> arrows;
+    for (int k = 1; k <= int(level_.items.size()); ++k) arrows.push_back(arrowOf(k));
+    const bool left = std::ranges::find(arrows, MenuLabel::Arrow::Left) != arrows.end();
     const int room = besideTexts(level_) + kMenuItemMargin;
-    const bool left = anyOpensToTheLeft();
-    for (int k = 1; k <= int(level_.items.size()); ++k) {
-        MenuLabel& label = *lblOdkaz[size_t(k - 1)];
-        label.setMargins(left ? room : kMenuItemMargin, left ? kMenuItemMargin : room);
-        label.setArrow(!item(k).opensSubmenu() ? MenuLabel::Arrow::None
-                       : opensToTheLeft(k)     ? MenuLabel::Arrow::Left
-                                               : MenuLabel::Arrow::Right);
+    for (size_t i = 0; i < arrows.size(); ++i) {
+        lblOdkaz[i]->setMargins(left ? room : kMenuItemMargin, left ? kMenuItemMargin : room);
+        lblOdkaz[i]->setArrow(arrows[i]);
     }
 }
 
-bool frmMenu::opensToTheLeft(int k) const {
-    const MenuLevel below = MenuLevel::build(app().Db(), level_.childCode(k));
-    const MenuContent content = contentOf(below);
-    return layOutMenu(content, labelOnScreen(k)).level.left() < twips().left();
-}
-
-bool frmMenu::anyOpensToTheLeft() const {
-    for (int k = 1; k <= int(level_.items.size()); ++k)
-        if (item(k).opensSubmenu() && opensToTheLeft(k)) return true;
-    return false;
+MenuLabel::Arrow frmMenu::arrowOf(int k) const {
+    if (!item(k).opensSubmenu()) return MenuLabel::Arrow::None;
+    const MenuContent content = contentOf(MenuLevel::build(app().Db(), level_.childCode(k)));
+    return layOutMenu(content, labelOnScreen(k)).level.left() < twips().left() ? MenuLabel::Arrow::Left
+                                                                               : MenuLabel::Arrow::Right;
 }
 
 void frmMenu::fold() {

@@ -70,8 +70,7 @@ class frmMenu : public Form {
     MenuContent contentOf(const MenuLevel& level) const;
     void applyGeometry(const QRect& beside);
     void placeLabels();
-    bool opensToTheLeft(int k) const;
-    bool anyOpensToTheLeft() const;
+    MenuLabel::Arrow arrowOf(int k) const;
     void select(int k);
     void mark(int k, bool marked);
     void moveSelection(int step);
