@@ -97,6 +97,7 @@ void photos(Tour& tour) {
     tour.key(Qt::Key_Return);
     tour.wait(kSlowScreen);
     tour.stop(QStringLiteral("frmSit"));
+    for (const int direction : {1, -1}) tour.swipe(direction);
     tour.visitHelp();
     tour.click(QStringLiteral("imgSkupina(3)"));
     tour.wait(kSlowScreen);
@@ -105,6 +106,7 @@ void photos(Tour& tour) {
     tour.click(QStringLiteral("imgBtnHlavni(0)"));
     tour.wait(kSlowScreen);
     tour.stop(QStringLiteral("frmFotoBig"));
+    for (const int direction : {1, -1}) tour.swipe(direction);
     tour.visitHelp();
     tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_Escape);
@@ -197,6 +199,7 @@ void kitchen(Tour& tour) {
     tour.wait(kSlowScreen);
     for (int page = 1; page <= 3; ++page) {
         tour.stop(QStringLiteral("frmVarime"), QString::number(page));
+        for (const int direction : {1, -1}) tour.swipe(direction);
         tour.key(Qt::Key_Space);
     }
     for (int page = 0; page < 30 && !tour.has(QStringLiteral("imgUvareno")); ++page)
@@ -323,6 +326,7 @@ void printing(Tour& tour) {
     tour.click(QStringLiteral("cmdTiskarna"));
     tour.click(QStringLiteral("cmdNahled"));
     tour.stop(QStringLiteral("frmNahled"));
+    for (const int direction : {1, -1}) tour.swipe(direction);
     tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_Escape);
     tour.key(Qt::Key_Escape);

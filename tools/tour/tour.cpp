@@ -1,8 +1,10 @@
 #include "tour.h"
 
 #include <QApplication>
+#include <QPointingDevice>
 #include <QTest>
 #include <QTimer>
+#include <memory>
 
 #include "app/program.h"
 #include "blackline.h"
@@ -159,6 +161,22 @@ void Tour::doubleClick(const QString& control) {
         QTest::mouseDClick(hit, Qt::LeftButton, {}, at);
     }
     wait();
+}
+
+void Tour::swipe(int direction) {
+    constexpr int kStep = 30;  // pixels of a display of the design's size
+    constexpr int kTurned = 600;
+    static const auto screen = std::unique_ptr<QPointingDevice>(QTest::createTouchDevice());
+    Stage& stage = program_.stage();
+    const QImage before = stage.grab().toImage();
+    QPoint at = stage.rect().center();
+    auto finger = QTest::touchEvent(&stage, screen.get(), false);
+    finger.press(0, at, &stage).commit();
+    for (int step = 0; step < 5; ++step)
+        finger.move(0, at -= QPoint(direction * kStep * stage.height() / 600, 0), &stage).commit();
+    finger.release(0, at, &stage).commit();
+    wait(kTurned);
+    if (stage.grab().toImage() == before) fault(frontName() + QStringLiteral(": a swipe turns nothing"));
 }
 
 void Tour::clickItem(const QString& label) {

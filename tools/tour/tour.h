@@ -54,6 +54,9 @@ class Tour {
     void hover(const QString& control);
     void click(const QString& control);
     void doubleClick(const QString& control);
+    /// Draws a finger sideways over the middle of the form in front: 1 for what comes next, -1 for what was
+    /// before. The form has to look otherwise then.
+    void swipe(int direction);
     /// Clicks the menu item that reads \a label on any open menu level.
     void clickItem(const QString& label);
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
