@@ -185,17 +185,24 @@ int TextView::partCount() const {
     return static_cast<int>(headings) + pieces_.linkCount();
 }
 
-AccessiblePart TextView::part(int index) const {
-    // Headings and phrases are each in order of the text; the two are merged by where they stand.
+/// Headings and phrases are each in order of the text; the two are merged by where they stand.
+std::vector<AccessiblePart> TextView::parts() const {
     std::vector<AccessiblePart> parts;
     for (const ReadableText::Line& line : readable().lines()) {
         if (!line.isHeading) continue;
         parts.push_back({readable().text().mid(line.start, line.length), QAccessible::Heading, line.place});
         parts.back().isUsable = false;
     }
-    for (int link = 0; link < pieces_.linkCount(); ++link)
+    for (int link = 0; link < pieces_.linkCount(); ++link) {
         parts.push_back({pieces_.linkText(link), QAccessible::Link, pieces_.linkRect(link)});
+        parts.back().isCurrent = pieces_.focused() == link;
+    }
     std::ranges::stable_sort(parts, {}, [](const AccessiblePart& part) { return part.place.top(); });
+    return parts;
+}
+
+AccessiblePart TextView::part(int index) const {
+    const std::vector<AccessiblePart> parts = this->parts();
     if (index < 0 || index >= static_cast<int>(parts.size())) return {};
     AccessiblePart found = parts[size_t(index)];
     found.place = found.place.translated(0, -scrolled()) & QRect({0, 0}, twips().size());
@@ -223,7 +230,9 @@ void TextView::focusLink(std::optional<int> link) {
     const QRect place = pieces_.linkRect(*link).adjusted(0, -kFade, 0, kFade);
     if (place.bottom() >= scrolled() + twips().height()) scrollTo(place.bottom() + 1 - twips().height());
     if (place.top() < scrolled()) scrollTo(place.top());
-    Q_EMIT linkFocused(pieces_.linkText(link));
+    const std::vector<AccessiblePart> parts = this->parts();
+    const auto at = std::ranges::find_if(parts, &AccessiblePart::isCurrent);
+    form().ring().sayPart(*this, static_cast<int>(at - parts.begin()));
 }
 
 bool TextView::pageKey(const QKeyEvent& event) {

@@ -73,8 +73,6 @@ class TextView : public PictureBox {
 
   Q_SIGNALS:
     void linkActivated(sarne::LinkKey key);
-    /// The keyboard has come to a phrase with these words.
-    void linkFocused(const QString& words);
 
   protected:
     void paint(QPainter& painter) override;
@@ -91,6 +89,7 @@ class TextView : public PictureBox {
     void updateArrows();
     void paintFade(QPainter& painter, int edge, int inside) const;
     std::optional<int> linkAt(QPointF pixels) const;
+    std::vector<AccessiblePart> parts() const;
     void point(std::optional<int> link);
     void open(std::optional<int> link);
 

@@ -51,10 +51,11 @@ void Tour::check(const QString& form, const QString& name, const QImage& seen) {
 /// Whoever hears the screen is told of everything that can be used or looked at by words.
 void Tour::checkNames(const QString& name) {
     if (!front()) return;
-    for (const Control* control : front()->findChildren<Control*>(Qt::FindDirectChildrenOnly)) {
-        if (!control->isVisible() || control->isUnheard() || !control->accessibleName().isEmpty()) continue;
-        const bool isText = control->role() == QAccessible::StaticText;
-        if (!isText) fault(QStringLiteral("%1: %2 has no name to hear").arg(name, control->objectName()));
+    for (const Control* control : front()->findChildren<Control*>()) {
+        if (!control->isVisible() || control->isUnheard()) continue;
+        bool named = control->role() == QAccessible::StaticText || !control->accessibleName().isEmpty();
+        for (int part = 0; part < control->partCount(); ++part) named &= !control->part(part).name.isEmpty();
+        if (!named) fault(QStringLiteral("%1: %2 has no name to hear").arg(name, control->objectName()));
     }
 }
 

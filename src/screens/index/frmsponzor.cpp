@@ -94,7 +94,6 @@ void frmSponzor::makeCard() {
     close_.dressAsText(Texts::tr("Zavřít"), Texts::tr("Zavřít text"));
     connect(&close_, &Button::clicked, this, &frmSponzor::closeCard);
     connect(&card_, &TextView::linkActivated, this, [this](LinkKey key) { followLink(this->app(), key); });
-    connect(&card_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });
     closeCard();
 }
 

@@ -30,8 +30,6 @@ TextForm::TextForm(basSarne& sarne, const QString& name)
     view_.setArrowPictures(sarne.resources().picture(QStringLiteral("SipkaNahoru")),
                            sarne.resources().picture(QStringLiteral("SipkaDolu")));
     connect(&view_, &TextView::linkActivated, this, [this](LinkKey key) { linkActivated(key); });
-    connect(&view_, &TextView::linkFocused, this,
-            [this](const QString& words) { this->app().HookMessage(words); });
     setContent({&view_});
 }
 

@@ -76,7 +76,6 @@ void frmRecept::makeView() {
     view_->setArrowPictures(app().resources().picture(QStringLiteral("SipkaNahoru")),
                             app().resources().picture(QStringLiteral("SipkaDolu")));
     connect(view_, &TextView::linkActivated, this, [this](LinkKey key) { followLink(app(), key); });
-    connect(view_, &TextView::linkFocused, this, [this](const QString& words) { app().HookMessage(words); });
     connect(view_, &Control::clicked, this, [this] { current().viewClicked(); });
     picture_->setAttribute(Qt::WA_TransparentForMouseEvents);
     picture_->setUnheard(true);

@@ -41,6 +41,8 @@ void NotePanel::setVisible(bool visible) {
 
 void NotePanel::draw() {
     room_.view.setVisible(false);
+    // First the keyboard, then the words: a reader that hears of the words first says no more where it is.
+    editor_->editor().setFocus();
     editor_->setText(note_.open());
     editor_->focusAtEnd();
 }
@@ -57,9 +59,12 @@ void NotePanel::close(OwnNote::Close how) {
 }
 
 void NotePanel::closeByButton(OwnNote::Close how) {
+    const QString typed = editor_->text();
+    const bool wasDirty = note_.isDirty();
     close(how);
     showStored();
     room_.giveKeyboardBack();
+    if (wasDirty && note_.stored() == typed) room_.sarne.HookMessage(Texts::tr("Poznámka je uložená"));
 }
 
 void NotePanel::showStored() {
