@@ -11,6 +11,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/panel.h"
+#include "forms/resources.h"
 #include "forms/screens.h"
 
 namespace sarne {
@@ -27,6 +28,10 @@ constexpr QRect kName{8700, 3510, 2910, 600};
 constexpr QRect kStarPlace{8700, 4170, 2910, 510};
 constexpr QRect kDetails{8700, 4740, 2910, 1140};
 constexpr QRect kFirstAction{8700, 5940, 2910, 570};
+// An empty shelf: the sheet goes on over the side, with the book and a word on how it is filled.
+constexpr QRect kEmptyPaper{2730, 1110, 9030, 6780};
+constexpr QRect kBook{5895, 1650, 2700, 2700};
+constexpr QRect kNothingPlace{3630, 4500, 7230, 2400};
 constexpr int kActionStep = 645;
 constexpr int kDaysShown = 4, kNoteLetters = 90;
 
@@ -36,9 +41,7 @@ const char* const kShelfNames[kShelves] = {
     QT_TRANSLATE_NOOP("Texts", "Na tento měsíc")};
 /// What an empty shelf says of how something comes onto it.
 const char* const kNothing[kShelves] = {
-    QT_TRANSLATE_NOOP("Texts",
-                      "Zatím žádný recept nemá hvězdičky.\n\nDávají se v záhlaví receptu, nebo tady "
-                      "vpravo."),
+    QT_TRANSLATE_NOOP("Texts", "Zatím žádný recept nemá hvězdičky.\n\nDávají se v záhlaví receptu."),
     QT_TRANSLATE_NOOP("Texts",
                       "Zatím nic.\n\nNa konci obrazovky Vaříme se hrncem „Uvařeno!“ zapíše, že je "
                       "jídlo hotové."),
@@ -79,7 +82,7 @@ frmKucharka::frmKucharka(basSarne& sarne, UserFile& file, QDate today)
     name_.setWordWrap(true);
     dress(details_, kDetails, 10.5, false, Qt::AlignLeft | Qt::AlignTop);
     details_.setWordWrap(true);
-    dress(nothing_, kRows.adjusted(300, 300, -300, -1500), 15, false, Qt::AlignCenter);
+    dress(nothing_, kNothingPlace, 18, false, Qt::AlignHCenter | Qt::AlignTop);
     nothing_.setWordWrap(true);
     nothing_.setColor(colors::kInk);
     stars_.place(kStarPlace);
@@ -170,6 +173,7 @@ void frmKucharka::showRecipes() {
     rows_.setRows(std::move(rows));
     nothing_.setText(shown_.empty() ? Texts::tr(kNothing[size_t(shelf_)]) : QString());
     nothing_.setVisible(shown_.empty());
+    update();
     for (int i = 0; i < kShelves; ++i) shelves_[size_t(i)]->setLatched(i == static_cast<int>(shelf_));
     const Noun recipes{Texts::tr("recept"), Texts::tr("recepty"), Texts::tr("receptů"), Texts::tr("receptu")};
     state_.setText(counted(double(shown_.size()), recipes, app().Locale));
@@ -266,6 +270,11 @@ bool frmKucharka::keyDown(QKeyEvent& event) {
 void frmKucharka::paint(QPainter& painter) {
     paintGround(painter);
     paintPlate(painter, kShelfPlate);
+    if (shown_.empty()) {
+        paintPaper(painter, kEmptyPaper);
+        app().resources().picture(QStringLiteral("Kucharka")).draw(painter, kBook, Fit::Inside);
+        return;
+    }
     paintPaper(painter, kPaper);
     paintPlate(painter, kSide);
 }
