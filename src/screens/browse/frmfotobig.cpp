@@ -15,11 +15,24 @@ namespace sarne {
 namespace {
 
 constexpr int kTwipsPerPixel = 15;
-constexpr int kDefaultInterval = 4000;  // milliseconds
-constexpr int kTitleBottom = 8780;      // twips
-constexpr int kTitleMargin = 160;       // from the title to the edge of its ground
+constexpr int kDefaultInterval = 4000;            // milliseconds
+constexpr int kTitleBottom = 8780;                // twips
+constexpr int kTitleMargin = 160;                 // from the title to the edge of its ground
+constexpr int kShadow = 170, kShadowReach = 420;  // of a photo on its surroundings: of 255, twips
 const TextFont kTitleFont{QStringLiteral("Times New Roman"), 22, true};
 const TextFont kMomentFont{QStringLiteral("Arial"), 16};
+
+/// The shadow that \a photo casts on its surroundings at both sides, which makes it a picture of its own.
+void paintShadow(QPainter& painter, const QRectF& photo) {
+    const auto side = [&](double from, double to) {
+        QLinearGradient fade(from, 0, to, 0);
+        for (const double far : {0., .2, .5, 1.})
+            fade.setColorAt(far, QColor(0, 0, 0, int(kShadow * (1 - far) * (1 - far))));
+        painter.fillRect(QRectF(QPointF(from, photo.top()), QPointF(to, photo.bottom())).normalized(), fade);
+    };
+    side(photo.left(), photo.left() - kShadowReach);
+    side(photo.right(), photo.right() + kShadowReach);
+}
 
 }  // namespace
 
@@ -119,6 +132,7 @@ void frmFotoBig::paintBeside(QPainter& painter, const QRectF& photo) const {
             painter.fillRect(side, colors::kNight);
         painter.restore();
     }
+    if (isBeyondDesign) paintShadow(painter, photo);
 }
 
 void frmFotoBig::paint(QPainter& painter) {
