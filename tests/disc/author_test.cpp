@@ -70,7 +70,8 @@ TEST_F(AuthorTest, AllMistakesAreToldAtOnceWhereTheyStand) {
     replace("content/hesla/houby.txt", "ve vodě by", "[ve vodě] by");
     EXPECT_EQ(check(),
               "recepty/01-smazenice.txt:24:1 neznámá surovina „maslo“ – mysleli jste „máslo“?\n"
-              "recepty/02-nakladane-zampiony.txt:8:1 „obtížnost“ nemůže být „lehké“\n"
+              "recepty/02-nakladane-zampiony.txt:8:12 „obtížnost“ nemůže být „lehké“, patří sem snadné, "
+              "střední, náročné\n"
               "hesla/houby.txt:4:15 odkaz nikam: „ve vodě“");
 }
 
@@ -180,6 +181,14 @@ TEST(OwnFilesTest, APictureThatNothingReadsIsTold) {
     photo.fill(Qt::red);
     ASSERT_TRUE(photo.save(png));
     EXPECT_EQ(whyUnreadable(png), QString());
+    const QString jpeg = folder.filePath(u"foto.jpg"_s);
+    ASSERT_TRUE(photo.save(jpeg));
+    EXPECT_EQ(whyUnreadable(jpeg), QString());
+    for (const QString& cut : {png, jpeg}) {
+        QFile(cut).resize(QFileInfo(cut).size() - 20);
+        EXPECT_TRUE(whyUnreadable(cut).contains(u"není celý"_s)) << cut.toStdString();
+    }
+    ASSERT_TRUE(photo.save(png));
     run(u"heif-enc"_s, {png, u"-o"_s, heic});
     if (!QFile::exists(heic)) GTEST_SKIP() << "nothing here writes HEIC";
     EXPECT_EQ(whyUnreadable(heic), QString());

@@ -14,7 +14,6 @@ namespace {
 
 /// How far the two unit systems may be apart.
 constexpr double kTolerance = 0.10;
-constexpr int kMostPortions = 255;
 /// More spoons than that are measured in cups.
 constexpr double kMostSpoons = 12;
 constexpr double kCup = 250;
@@ -91,11 +90,14 @@ QString freeNumbers(const Cookbook& book, QStringList courses) {
 
 void checkCourses(const Cookbook& book, const Recipe& recipe, Problems& problems) {
     const Place place = recipe.placeOf(QStringLiteral("chod"));
-    for (const QString& course : recipe.courses)
-        if (!book.facts.courses.contains(course))
-            problems.error(place, QStringLiteral("chod „%1“ kniha nemá").arg(course) +
-                                      didYouMean(course, book.facts.courses));
-    if (recipe.id > kGridCells) return;
+    bool isKnown = true;
+    for (const QString& course : recipe.courses) {
+        if (book.facts.courses.contains(course)) continue;
+        isKnown = false;
+        problems.error(place, QStringLiteral("chod „%1“ kniha nemá").arg(course) +
+                                  didYouMean(course, book.facts.courses));
+    }
+    if (recipe.id > kGridCells || !isKnown) return;
     QStringList given = recipe.courses;
     QStringList wanted = gridCourses(book.facts, recipe.id);
     given.sort();
@@ -127,18 +129,15 @@ QStringList namesOf(const List& things) {
 }
 
 void checkHead(const Cookbook& book, const Recipe& recipe, Problems& problems) {
-    const auto required = [&](const char* key, bool isGiven) {
-        if (!isGiven)
+    // One that is given badly has been told of.
+    const auto required = [&](const char* key) {
+        if (!recipe.headPlaces.contains(QString::fromUtf8(key)))
             problems.error(recipe.placeOf(QString::fromUtf8(key)),
                            QStringLiteral("v hlavičce chybí „%1“").arg(QString::fromUtf8(key)));
     };
-    required("název", !recipe.name.isEmpty());
-    required("dlouhý název", !recipe.longName.isEmpty());
-    required("porce", recipe.portions >= 1 && recipe.portions <= kMostPortions);
-    required("minut", recipe.minutes >= 1);
+    for (const char* key : {"název", "dlouhý název", "porce", "minut"}) required(key);
     for (const char* key : {"pomůcky", "vína"})
-        required(key, recipe.headPlaces.contains(QString::fromUtf8(key)) ||
-                          !book.facts.required.contains(QString::fromUtf8(key)));
+        if (book.facts.needs(key)) required(key);
     for (const char* key : {"příprava", "vaření", "obtížnost", "kosti", "mrazit", "vydrží", "sezona"})
         if (!recipe.headPlaces.contains(QString::fromUtf8(key)) && book.facts.needs(key))
             problems.finding(recipe.place,

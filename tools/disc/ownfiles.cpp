@@ -1,6 +1,7 @@
 #include "ownfiles.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QProcess>
@@ -81,6 +82,27 @@ QImage converted(const QString& file) {
     return {};
 }
 
+/// Whether a JPEG goes on to its end mark; those of the small pictures within its headers do not count.
+bool isWholeJpeg(const QByteArray& bytes) {
+    const auto at = [&](qsizetype i) { return i < bytes.size() ? static_cast<uchar>(bytes[i]) : 0; };
+    qsizetype i = 2;
+    while ((i = bytes.indexOf('\xff', i)) >= 0) {
+        const int mark = at(i + 1);
+        if (mark == 0xd9) return true;
+        const bool isData = mark == 0 || (mark >= 0xd0 && mark <= 0xd7);
+        i += mark == 0xff ? 1 : isData ? 2 : 2 + at(i + 2) * 256 + at(i + 3);
+    }
+    return false;
+}
+
+/// Readers fill what is missing of a file that was cut off with grey.
+bool isWhole(const QString& name, const QByteArray& format) {
+    QFile file(name);
+    if ((format != "jpeg" && format != "png") || !file.open(QIODevice::ReadOnly)) return true;
+    const QByteArray bytes = file.readAll();
+    return format == "png" ? bytes.contains("IEND") : isWholeJpeg(bytes);
+}
+
 }  // namespace
 
 QString ownPicture(const QString& stem) {
@@ -101,7 +123,12 @@ bool isOwnFile(const QString& name) {
 }
 
 QString whyUnreadable(const QString& file) {
-    if (QImageReader(file).canRead()) return {};
+    QImageReader reader(file);
+    reader.setDecideFormatFromContent(true);
+    if (reader.canRead())
+        return isWhole(file, reader.format())
+                   ? QString()
+                   : QStringLiteral("obrázek není celý, soubor končí dřív; zkopírujte ho znovu");
     if (!isLeftToConverter(file)) return QStringLiteral("obrázek nejde přečíst");
     static const bool canConvert = hasConverter();
     return canConvert ? QString()

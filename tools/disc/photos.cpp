@@ -283,17 +283,32 @@ QList<Dish> allDishes(Workshop& shop) {
     return dishes;
 }
 
+/// Says which photos cannot be read, and which are smaller than lists show them.
 void checkReadable(Workshop& shop, const QList<Dish>& dishes) {
-    for (const Dish& dish : dishes)
-        if (const QString why = dish.source.isEmpty() ? QString() : whyUnreadable(dish.source);
-            !why.isEmpty())
-            shop.problems.error({QDir(shop.content).relativeFilePath(dish.source), 0}, why);
+    for (const Dish& dish : dishes) {
+        if (dish.source.isEmpty()) continue;
+        const Place place{QDir(shop.content).relativeFilePath(dish.source), 0};
+        const QSize size = QImageReader(dish.source).size();
+        if (const QString why = whyUnreadable(dish.source); !why.isEmpty())
+            shop.problems.error(place, why);
+        else if (size.isValid() && std::max(size.width(), size.height()) < kSmallSize.width())
+            shop.problems.finding(place, QStringLiteral("obrázek má jen %1 x %2 bodů a bude rozmazaný, "
+                                                        "patří sem aspoň 1440 x 1080")
+                                             .arg(size.width())
+                                             .arg(size.height()));
+    }
+}
+
+QString ofGallery(Workshop& shop, const GalleryPicture& picture) {
+    const QString number = QString::number(picture.id);
+    return sourceOf(shop, QStringLiteral("sponzor/") + number, QStringLiteral("rendered/sponzor/") + number);
 }
 
 }  // namespace
 
 void checkPhotos(Workshop& shop) {
     checkReadable(shop, allDishes(shop));
+    for (const GalleryPicture& picture : shop.book.gallery) ofGallery(shop, picture);
     thingTasks(shop);
 }
 
@@ -305,13 +320,9 @@ void makePhotos(Workshop& shop) {
     tasks << pictureTask(shop,
                          sourceOf(shop, QStringLiteral("vino"), QStringLiteral("rendered/prvky/vino256")),
                          QStringLiteral("Víno"), QStringLiteral("foto/vino256"), {400, 300});
-    for (const GalleryPicture& picture : shop.book.gallery) {
-        const QString number = QString::number(picture.id);
-        tasks << pictureTask(
-            shop,
-            sourceOf(shop, QStringLiteral("sponzor/") + number, QStringLiteral("rendered/sponzor/") + number),
-            picture.name, QStringLiteral("foto/sponzor/") + number, kScreenSize);
-    }
+    for (const GalleryPicture& picture : shop.book.gallery)
+        tasks << pictureTask(shop, ofGallery(shop, picture), picture.name,
+                             QStringLiteral("foto/sponzor/%1").arg(picture.id), kScreenSize);
     tasks << thingTasks(shop);
     if (shop.makeAll(tasks)) shop.makeAll(gridTasks(shop, dishes));
 }

@@ -7,38 +7,48 @@
 namespace sarne::disc {
 namespace {
 
-/// Takes a value over; false when it is none that the key may have.
-using Field = std::function<bool(Recipe&, const QString&)>;
+constexpr int kMostPortions = 255, kMostMinutes = 100'000;
 
-template <typename Member>
-Field text(Member member) {
-    return [member](Recipe& recipe, const QString& value) {
-        recipe.*member = value;
-        return !value.isEmpty();
-    };
+/// A key of the head.
+struct Field {
+    /// Takes a value over; false when it is none that the key may have.
+    std::function<bool(Recipe&, const QString&)> read;
+    /// What the key may have, for the writer.
+    QString right;
+};
+
+Field text(QString Recipe::*member) {
+    return {[member](Recipe& recipe, const QString& value) {
+                recipe.*member = value;
+                return !value.isEmpty();
+            },
+            QStringLiteral("text")};
 }
 
 Field names(QStringList Recipe::*member) {
-    return [member](Recipe& recipe, const QString& value) {
-        recipe.*member = trimmedParts(value, u',');
-        return !(recipe.*member).isEmpty();
-    };
+    return {[member](Recipe& recipe, const QString& value) {
+                recipe.*member = trimmedParts(value, u',');
+                return !(recipe.*member).isEmpty();
+            },
+            QStringLiteral("jména oddělená čárkami")};
 }
 
-Field number(int Recipe::*member) {
-    return [member](Recipe& recipe, const QString& value) {
-        bool isNumber = false;
-        recipe.*member = value.toInt(&isNumber);
-        return isNumber && recipe.*member >= 0;
-    };
+Field number(int Recipe::*member, int least, int most) {
+    return {[=](Recipe& recipe, const QString& value) {
+                bool isNumber = false;
+                recipe.*member = value.toInt(&isNumber);
+                return isNumber && recipe.*member >= least && recipe.*member <= most;
+            },
+            QStringLiteral("číslo od %1 do %2").arg(least).arg(most)};
 }
 
 /// One of \a words, which further words may follow behind a comma.
 Field choice(QString Recipe::*member, const QStringList& words) {
-    return [member, words](Recipe& recipe, const QString& value) {
-        recipe.*member = value;
-        return words.contains(value.section(u',', 0, 0).trimmed());
-    };
+    return {[member, words](Recipe& recipe, const QString& value) {
+                recipe.*member = value;
+                return words.contains(value.section(u',', 0, 0).trimmed());
+            },
+            words.join(QStringLiteral(", "))};
 }
 
 /// "30 60": a point of the photo, in hundredths of its width and height.
@@ -62,10 +72,10 @@ const QHash<QString, Field>& fields() {
     static const QHash<QString, Field> all{
         {QStringLiteral("název"), text(&Recipe::name)},
         {QStringLiteral("dlouhý název"), text(&Recipe::longName)},
-        {QStringLiteral("porce"), number(&Recipe::portions)},
-        {QStringLiteral("příprava"), number(&Recipe::preparation)},
-        {QStringLiteral("vaření"), number(&Recipe::cooking)},
-        {QStringLiteral("minut"), number(&Recipe::minutes)},
+        {QStringLiteral("porce"), number(&Recipe::portions, 1, kMostPortions)},
+        {QStringLiteral("příprava"), number(&Recipe::preparation, 0, kMostMinutes)},
+        {QStringLiteral("vaření"), number(&Recipe::cooking, 0, kMostMinutes)},
+        {QStringLiteral("minut"), number(&Recipe::minutes, 1, kMostMinutes)},
         {QStringLiteral("předem"), text(&Recipe::ahead)},
         {QStringLiteral("obtížnost"),
          choice(&Recipe::difficulty,
@@ -76,7 +86,7 @@ const QHash<QString, Field>& fields() {
         {QStringLiteral("vydrží"), text(&Recipe::keeping)},
         {QStringLiteral("sezona"), text(&Recipe::season)},
         {QStringLiteral("chod"), names(&Recipe::courses)},
-        {QStringLiteral("výřez"), readFocus},
+        {QStringLiteral("výřez"), {readFocus, QStringLiteral("dvě čísla od 0 do 100, třeba 30 60")}},
         {QStringLiteral("pomůcky"), names(&Recipe::tools)},
         {QStringLiteral("vína"), names(&Recipe::wines)},
         {QStringLiteral("odkazy"), names(&Recipe::auxiliary)}};
@@ -95,8 +105,9 @@ void readEntry(const KeyValue& entry, const QStringList& tagKeys, Recipe& recipe
         recipe.headPlaces.insert(entry.key, entry.place);
         if (isTag)
             readTags(entry, recipe);
-        else if (!(*field)(recipe, entry.value))
-            problems.error(entry.place, QStringLiteral("„%1“ nemůže být „%2“").arg(entry.key, entry.value));
+        else if (!field->read(recipe, entry.value))
+            problems.error(entry.place, QStringLiteral("„%1“ nemůže být „%2“, patří sem %3")
+                                            .arg(entry.key, entry.value, field->right));
     }
 }
 

@@ -72,6 +72,7 @@ void buildDisc(const Project& project, const QString& only, Problems& problems, 
     Ledger ledger(project.out + QStringLiteral("/.made"));
     Workshop shop = workshop(project, book, ledger, problems);
     shop.progress = progress;
+    shop.stage = QStringLiteral("kresby");
     drawArtIfNeeded(shop);
     QList<Stage> stages{{QStringLiteral("recepty"), [&] { makeDatabase(shop, folder); }},
                         {QStringLiteral("fotografie"), [&] { makePhotos(shop); }},

@@ -75,14 +75,15 @@ bool fillFolder(const Project& project, const QString& target) {
 bool writeImage(const QString& folder, const QString& image, const QString& name) {
     QFile::remove(image);
     QProcess writer;
-    writer.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     writer.start(
         QStringLiteral("xorriso"),
         {QStringLiteral("-report_about"), QStringLiteral("WARNING"), QStringLiteral("-as"),
          QStringLiteral("mkisofs"), QStringLiteral("-quiet"), QStringLiteral("-r"), QStringLiteral("-J"),
          QStringLiteral("-joliet-long"), QStringLiteral("-V"), name, QStringLiteral("-o"), image, folder});
-    return writer.waitForFinished(kTimeout) && writer.exitStatus() == QProcess::NormalExit &&
-           writer.exitCode() == 0;
+    const bool isWritten = writer.waitForFinished(kTimeout) && writer.exitStatus() == QProcess::NormalExit &&
+                           writer.exitCode() == 0;
+    if (!isWritten) complain(QString::fromLocal8Bit(writer.readAllStandardError()).trimmed());
+    return isWritten;
 }
 
 /// "Houbová kuchařka" as a volume is called: "HOUBOVA_KUCHARKA".

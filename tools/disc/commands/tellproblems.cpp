@@ -16,6 +16,10 @@ QStringList linesOf(const QString& file) {
     return QString::fromUtf8(opened.readAll()).split(u'\n');
 }
 
+/// The sign to look for where a problem quotes nothing as it stands in the file.
+constexpr std::pair<const char*, const char*> kMarks[] = {
+    {"rovné nebo cizí", "\""}, {"odkaz nemá konec", "["}, {"tučné písmo", "**"}};
+
 /// What a text quotes, the first words first, and what stands behind its last colon.
 QStringList quoted(const QString& text) {
     static const QRegularExpression pattern(QStringLiteral("„([^“]+)“"));
@@ -23,6 +27,10 @@ QStringList quoted(const QString& text) {
     for (auto all = pattern.globalMatch(text); all.hasNext();) found << all.next().captured(1);
     if (const qsizetype colon = text.lastIndexOf(QLatin1String(": ")); colon >= 0)
         found << text.mid(colon + 2).trimmed();
+    // The key is named first, but its value is what is wrong.
+    if (text.contains(QStringLiteral("nemůže být")) && found.size() > 1) found.swapItemsAt(0, 1);
+    for (const auto& [begin, mark] : kMarks)
+        if (text.startsWith(QString::fromUtf8(begin))) found << QString::fromUtf8(mark);
     found.removeIf([](const QString& words) { return words.isEmpty(); });
     return found;
 }
@@ -72,6 +80,8 @@ constexpr Advice kAdvice[] = {
     {"desetinné číslo", "správně třeba „0,5 lžičky“"},
     {"žádný recept nepoužívá", "smažte řádek, nebo ji použijte"},
     {"nemá žádný recept", "opravte štítek, nebo položku z menu.txt vyškrtněte"},
+    {"fotografie jídla",
+     "položte vedle receptu obrázek stejného jména (01-smazenice.jpg); zatím je tam talíř se jménem"},
     {"soubor není v UTF-8", "uložte jej v editoru jako UTF-8"}};
 
 bool lookIn(const QStringList& lines, const QString& words, Spot& spot) {
@@ -109,7 +119,7 @@ Spot spotOf(const QString& root, const Problem& problem) {
 }
 
 QString adviceFor(const QString& text) {
-    if (text.contains(QLatin1String("mysleli jste")) || text.contains(QLatin1String("patří"))) return {};
+    if (text.contains(QLatin1String("mysleli jste")) || text.contains(QStringLiteral("patří"))) return {};
     for (const Advice& one : kAdvice)
         if (text.contains(QString::fromUtf8(one.begin))) return QString::fromUtf8(one.right);
     return {};
