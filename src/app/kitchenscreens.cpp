@@ -43,14 +43,13 @@ std::optional<ShoppingRecipe> KitchenScreens::recipe(std::int16_t id, double por
 void KitchenScreens::addToShoppingList(const std::vector<std::int16_t>& ids, const Serving& serving) {
     if (goods().isEmpty()) return;
     ShoppingList list = readShoppingList(program_.userFile());
-    const Noun portions{Texts::tr("porce"), Texts::tr("porce"), Texts::tr("porcí"), Texts::tr("porce")};
     QStringList added;
     for (const std::int16_t id : ids) {
         int base = 0;
         const auto one = recipe(id, serving.portions, base);
         if (!one) continue;
         list.addRecipe(shoppingNeeds(readIngredients(program_.Db(), id), goods(), *one, base));
-        added << one->name + QStringLiteral(" – ") + counted(one->portions, portions, program_.Locale);
+        added << one->name + QStringLiteral(" – ") + counted(one->portions, portionNoun(), program_.Locale);
     }
     if (added.isEmpty()) return;
     const bool stored = storeShoppingList(program_.userFile(), list);

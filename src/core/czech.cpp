@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/numbertext.h"
+#include "core/texts.h"
 
 namespace sarne {
 
@@ -29,6 +30,14 @@ const QString& Noun::behind(double number) const {
     if (number != std::floor(number)) return part;
     if (number == 1) return one;
     return number > 0 && number < kMany ? few : many;
+}
+
+Noun portionNoun() {
+    return {Texts::tr("porce"), Texts::tr("porce"), Texts::tr("porcí"), Texts::tr("porce")};
+}
+
+Noun recipeNoun() {
+    return {Texts::tr("recept"), Texts::tr("recepty"), Texts::tr("receptů"), Texts::tr("receptu")};
 }
 
 QString counted(double number, const Noun& noun, const QLocale& locale) {

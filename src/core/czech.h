@@ -20,6 +20,10 @@ struct Noun {
     const QString& behind(double number) const;
 };
 
+/// The nouns that several screens count.
+Noun portionNoun();
+Noun recipeNoun();
+
 /// \a number with the noun behind it.
 QString counted(double number, const Noun& noun, const QLocale& locale);
 

@@ -13,6 +13,7 @@
 #include "forms/entrysign.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
+#include "forms/keys.h"
 #include "forms/largertext.h"
 
 namespace sarne {
@@ -126,8 +127,7 @@ bool Edit::eventFilter(QObject* watched, QEvent* event) {
     }
     if (watched == line_ && event->type() == QEvent::KeyPress) {
         auto& key = static_cast<QKeyEvent&>(*event);
-        const bool forForm = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
-                             key.key() == Qt::Key_Escape || key.key() == Qt::Key_Tab ||
+        const bool forForm = isEnter(key) || key.key() == Qt::Key_Escape || key.key() == Qt::Key_Tab ||
                              key.key() == Qt::Key_Backtab || (key.modifiers() & Qt::AltModifier);
         if (forForm) {
             QCoreApplication::sendEvent(&form(), event);

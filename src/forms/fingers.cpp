@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPointingDevice>
-#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 
@@ -12,13 +11,14 @@
 #include "forms/holdrepeat.h"
 #include "forms/nameplate.h"
 #include "forms/stage.h"
+#include "forms/wheelsteps.h"
 
 namespace sarne {
 namespace {
 
 constexpr int kStill = 180;  // twips that a resting finger trembles
 constexpr int kSwipe = 900;  // twips of a swipe
-constexpr int kWheelNotch = 120, kNotchTwips = 540;
+constexpr int kNotchTwips = 540;
 
 bool isUsable(const Control& control) {
     return control.isPressable() && control.isVisible() && control.isEnabled();
@@ -185,7 +185,7 @@ void Fingers::send(QEvent::Type type) {
 
 void Fingers::turnWheel(QPoint global) {
     const int twips = static_cast<int>((global.y() - last_.y()) / stage_.scale());
-    const int angle = twips * kWheelNotch / kNotchTwips;
+    const int angle = twips * WheelSteps::kNotch / kNotchTwips;
     if (angle == 0 || !under_) return;
     last_ = global;
     QWheelEvent wheel(under_->mapFromGlobal(QPointF(global)), global, {}, {0, angle}, Qt::NoButton,

@@ -1,16 +1,15 @@
 #include "forms/picturebox.h"
 
-#include <QWheelEvent>
 #include <cmath>
 
 #include "forms/colors.h"
 #include "forms/largertext.h"
+#include "forms/wheelsteps.h"
 
 namespace sarne {
 namespace {
 
 constexpr int kWheelStep = 700;  // twips for one notch of the wheel
-constexpr int kWheelNotch = 120;
 
 }  // namespace
 
@@ -134,7 +133,7 @@ void PictureBox::paint(QPainter& painter) {
 
 void PictureBox::wheelEvent(QWheelEvent* event) {
     if (scrollRange() == 0) return event->ignore();
-    scrollBy(-event->angleDelta().y() * kWheelStep / kWheelNotch);
+    scrollBy(-event->angleDelta().y() * kWheelStep / WheelSteps::kNotch);
     event->accept();
 }
 

@@ -42,6 +42,10 @@ std::vector<QDate> cookedDays(UserFile& file, int recipe) {
     return days;
 }
 
+QString dayText(QDate day) {
+    return QStringLiteral("%1. %2. %3").arg(day.day()).arg(day.month()).arg(day.year());
+}
+
 }  // namespace sarne
 
 // SPDX-License-Identifier: GPL-3.0-or-later

@@ -22,6 +22,9 @@ struct CookedDay {
 /// All of them.
 std::vector<CookedDay> allCookedDays(UserFile& file);
 
+/// \a day as it is written: "1. 11. 2026".
+QString dayText(QDate day);
+
 }  // namespace sarne
 
 // SPDX-License-Identifier: GPL-3.0-or-later

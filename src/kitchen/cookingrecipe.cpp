@@ -11,8 +11,7 @@
 namespace sarne {
 
 QString CookingRecipe::portionsText() const {
-    const Noun portions{Texts::tr("porce"), Texts::tr("porce"), Texts::tr("porcí"), Texts::tr("porce")};
-    return counted(serving.portions, portions, locale);
+    return counted(serving.portions, portionNoun(), locale);
 }
 
 QString CookingRecipe::needsOf(const CookingStep& step) const {

@@ -116,9 +116,8 @@ std::vector<PlanLine> dinnerPlan(Database& book, const Dinner& dinner) {
 }
 
 QString dinnerText(Database& book, const Dinner& dinner, const QLocale& locale) {
-    const Noun portions{Texts::tr("porce"), Texts::tr("porce"), Texts::tr("porcí"), Texts::tr("porce")};
     QStringList lines{Texts::tr("%1, na stole v %2")
-                          .arg(counted(dinner.portions, portions, locale), planTimeText(dinner.served))};
+                          .arg(counted(dinner.portions, portionNoun(), locale), planTimeText(dinner.served))};
     for (int course = 0; course < kCourses; ++course)
         if (const auto dish = dishOf(book, dinner.recipes[static_cast<size_t>(course)]))
             lines << courseName(Course(course)) + QStringLiteral(": ") + dish->name;

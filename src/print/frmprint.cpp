@@ -157,12 +157,15 @@ void frmPrint::recallPrinter() {
         Texts::tr("Tiskárna %1 teď není k dispozici, tisk půjde do souboru.").arg(choice.printer));
 }
 
-bool frmPrint::portionsValid() {
-    if (material_.isText()) return true;
+bool frmPrint::portionsFit() const {
     const double portions = leadingNumber(Text1.text());
-    if (portions >= kFewestPortions && portions <= kMostPortions) return true;
-    refusePortions();
-    return false;
+    return material_.isText() || (portions >= kFewestPortions && portions <= kMostPortions);
+}
+
+bool frmPrint::checkPortions() {
+    const bool fit = portionsFit();
+    if (!fit) refusePortions();
+    return fit;
 }
 
 void frmPrint::refusePortions() {
@@ -171,7 +174,7 @@ void frmPrint::refusePortions() {
 }
 
 void frmPrint::start() {
-    if (printing_ || !portionsValid() || !mayReplaceFile()) return;
+    if (printing_ || !checkPortions() || !mayReplaceFile()) return;
     printedBefore_ = true;
     prgSeznam.setMaximum(material_.count());
     prgSeznam.setValue(0);
@@ -266,17 +269,15 @@ std::unique_ptr<PagePreview> frmPrint::newPreview(const PrintOptions& wanted) {
 }
 
 void frmPrint::preview() {
-    if (printing_ || !portionsValid()) return;
+    if (printing_ || !checkPortions()) return;
     auto preview = newPreview(options());
     (new frmNahled(app(), std::move(preview)))->Zobraz(previewed_);
 }
 
 /// Shows the pages as they would be printed now; the first ones at once, the others when there is time.
 void frmPrint::refreshPreview() {
-    const PrintOptions wanted = options();
-    const bool valid = wanted.portions >= kFewestPortions && wanted.portions <= kMostPortions;
-    if (printing_ || (!material_.isText() && !valid)) return;
-    auto preview = newPreview(wanted);
+    if (printing_ || !portionsFit()) return;
+    auto preview = newPreview(options());
     while (preview->sheetCount() <= previewed_ && preview->layOutMore()) {
     }
     picStrana.showSheet(*preview, 0);

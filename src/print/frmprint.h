@@ -49,6 +49,7 @@ class frmPrint : public Form, private PrintProgress {
     bool keyDown(QKeyEvent& event) override;
 
   private:
+    void putIntoFrame(Control& control, const QRect& place);
     void makeOptions();
     void makePrinterLine();
     void makeProgress();
@@ -68,7 +69,9 @@ class frmPrint : public Form, private PrintProgress {
     void showPrinter();
 
     void start();
-    bool portionsValid();
+    bool portionsFit() const;
+    /// As portionsFit(); what does not fit is refused.
+    bool checkPortions();
     void refusePortions();
     void run();
     void setPrinting(bool printing);

@@ -4,6 +4,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/decimalentry.h"
+#include "forms/keys.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
 #include "print/formparts.h"
@@ -49,7 +50,7 @@ frmPrint::frmPrint(basSarne& sarne, Printer& printer, PrinterMemory memory)
       lblStrana(*this, QStringLiteral("lblStrana")),
       Timer1(this) {
     lblNadpis.place(at::kTitle);
-    dressLabel(lblNadpis, printforms::kTitleFont, colors::kTitle, QStringLiteral("Tisk"));
+    dressLabel(lblNadpis, printforms::kTitleFont, colors::kTitle, Texts::tr("Tisk"));
     lblCo.place(at::kMaterial);
     dressLabel(lblCo, printforms::kTextFont, colors::kPaper);
     makeOptions();
@@ -60,45 +61,41 @@ frmPrint::frmPrint(basSarne& sarne, Printer& printer, PrinterMemory memory)
     watchOptions();
 }
 
+/// Puts \a control into the frame of the options, which is disabled with all that is in it.
+void frmPrint::putIntoFrame(Control& control, const QRect& place) {
+    control.setParent(&Frame1);
+    control.show();
+    control.place(place);
+}
+
 void frmPrint::makeOptions() {
     Frame1.place(at::kFrame);
     Frame1.setTip(Texts::tr("Co se má tisknout"));
     Frame1.setToolTip({});
     auto* title = new Label(*this, QStringLiteral("lblCoTisknout"));
     dressLabel(*title, printforms::kButtonFont, colors::kInk, Texts::tr("Co se má tisknout"));
-    lblPorce.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    dressLabel(lblPorce, printforms::kTextFont, colors::kInk, Texts::tr("Počet porcí"));
+    putIntoFrame(*title, at::kFrameTitle);
     for (int i = 0; i < kPrintSections; ++i) {
         auto* box = Chco[size_t(i)] = new CheckBox(*this, QStringLiteral("Chco(%1)").arg(i));
         dressCheckBox(*box, app().resources(), Texts::tr(kSections[i]));
         box->setFont(printforms::kSmallFont);
         box->setChecked(true);
+        QRect place = at::kFirstSection.translated(at::kSectionColumn * (i / at::kSectionRows),
+                                                   at::kSectionRow * (i % at::kSectionRows));
+        place.setRight(std::min(place.right(), at::kFrame.width() - at::kFirstSection.left() / 2));
+        putIntoFrame(*box, place);
     }
+    lblPorce.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    dressLabel(lblPorce, printforms::kTextFont, colors::kInk, Texts::tr("Počet porcí"));
+    putIntoFrame(lblPorce, at::kPortionsTitle);
     Text1.setFont(printforms::kTextFont);
     Text1.setMaxLength(kMostPortionDigits);
     takeDecimalComma(Text1);
     Text1.setTip(Texts::tr("Počet porcí, 1 až 99"));
+    putIntoFrame(Text1, at::kPortions);
     dressCheckBox(chkZobrKg, app().resources(), Texts::tr("Množství i v gramech"));
     chkZobrKg.setFont(printforms::kSmallFont);
-    // The frame holds the options: it is disabled with all that is in it.
-    for (Control* held : std::initializer_list<Control*>{title, &lblPorce, &Text1, &chkZobrKg}) {
-        held->setParent(&Frame1);
-        held->show();
-    }
-    for (CheckBox* box : Chco) {
-        box->setParent(&Frame1);
-        box->show();
-    }
-    title->place(at::kFrameTitle);
-    for (int i = 0; i < kPrintSections; ++i) {
-        QRect place = at::kFirstSection.translated(at::kSectionColumn * (i / at::kSectionRows),
-                                                   at::kSectionRow * (i % at::kSectionRows));
-        place.setRight(std::min(place.right(), at::kFrame.width() - at::kFirstSection.left() / 2));
-        Chco[size_t(i)]->place(place);
-    }
-    lblPorce.place(at::kPortionsTitle);
-    Text1.place(at::kPortions);
-    chkZobrKg.place(at::kWeights);
+    putIntoFrame(chkZobrKg, at::kWeights);
 }
 
 Button* frmPrint::makeButton(const QString& name, const QString& caption, const QString& tip,
@@ -170,8 +167,7 @@ void frmPrint::watchOptions() {
 }
 
 void frmPrint::makeButtons() {
-    Command1 =
-        makeButton(QStringLiteral("Command1"), QStringLiteral("Tisk"), Texts::tr("Začít tisk"), at::kPrint);
+    Command1 = makeButton(QStringLiteral("Command1"), Texts::tr("Tisk"), Texts::tr("Začít tisk"), at::kPrint);
     cmdNahled = makeButton(QStringLiteral("cmdNahled"), Texts::tr("Náhled"),
                            Texts::tr("Ukázat strany tak, jak se vytisknou"), at::kPreview);
     Command2 =
@@ -194,7 +190,7 @@ bool frmPrint::keyDown(QKeyEvent& event) {
         turnTo(previewed_ + (event.key() == Qt::Key_PageDown ? 1 : -1));
         return true;
     }
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const bool enter = isEnter(event);
     if (Form::keyDown(event)) return true;
     if (enter && !printing_) start();
     return enter;

@@ -76,8 +76,8 @@ bool PageSheet::scrollBy(int distance) {
 }
 
 void PageSheet::wheelEvent(QWheelEvent* event) {
-    const int direction = event->angleDelta().y() < 0 ? 1 : -1;
-    if (event->angleDelta().y() != 0 && !scrollBy(direction * kWheelStep)) Q_EMIT turned(direction);
+    const int steps = wheel_.take(*event);
+    if (steps != 0 && !scrollBy(steps * kWheelStep)) Q_EMIT turned(steps);
     event->accept();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/control.h"
+#include "forms/wheelsteps.h"
 #include "print/pagepreview.h"
 
 namespace sarne {
@@ -41,6 +42,7 @@ class PageSheet : public Control {
     int sheet_ = 0;
     bool zoomed_ = false;
     int scrolled_ = 0;
+    WheelSteps wheel_;
 };
 
 }  // namespace sarne

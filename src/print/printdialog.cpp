@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "forms/bassarne.h"
+#include "forms/keys.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
 
@@ -29,7 +30,7 @@ void PrintDialog::placeList(ListBox& list, Label& title, const QRect& place) {
 }
 
 bool PrintDialog::keyDown(QKeyEvent& event) {
-    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+    if (isEnter(event))
         enterPressed();
     else if (event.key() == Qt::Key_Escape)
         goBack();

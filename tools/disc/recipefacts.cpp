@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "core/czech.h"
+
 namespace sarne::disc {
 namespace {
 
@@ -12,8 +14,9 @@ const char16_t* const kAllergenNames[kAllergens] = {
     u"ořechy", u"celer",  u"hořčice", u"sezam", u"oxid siřičitý", u"vlčí bob", u"měkkýši"};
 
 QString portions(int count, const QString& one) {
-    if (count == 1) return QStringLiteral("1 ") + one;
-    return QString::number(count) + (count < 5 ? QStringLiteral(" porce") : QStringLiteral(" porcí"));
+    Noun noun = portionNoun();
+    noun.one = one;
+    return QString::number(count) + u' ' + noun.behind(count);
 }
 
 /// A number rounded to \a step, its thousands parted by a blank that does not break.

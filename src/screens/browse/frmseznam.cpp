@@ -25,10 +25,8 @@ void frmSeznam::Zobraz(const QString& ids, const QString& source) {
 }
 
 QString frmSeznam::countText() const {
-    const Noun nouns[] = {
-        {Texts::tr("stránka"), Texts::tr("stránky"), Texts::tr("stránek"), Texts::tr("stránky")},
-        {Texts::tr("recept"), Texts::tr("recepty"), Texts::tr("receptů"), Texts::tr("receptu")}};
-    return counted(pages_.count(), nouns[source_ == Source::Help ? 0 : 1], app().Locale);
+    const Noun pages{Texts::tr("stránka"), Texts::tr("stránky"), Texts::tr("stránek"), Texts::tr("stránky")};
+    return counted(pages_.count(), source_ == Source::Help ? pages : recipeNoun(), app().Locale);
 }
 
 /// Tells those who hear the list what is in it and what choosing does.
@@ -206,7 +204,7 @@ void frmSeznam::showInvitation() {
             paintPlate(painter, seznam::kInvitation);
             painter.setFont(TextFont{QStringLiteral("Times New Roman"), 15, true}.toQFont());
             painter.setPen(colors::kTitle);
-            painter.drawText(seznam::kInvitation, Qt::AlignCenter, QStringLiteral("Vyberte recept"));
+            painter.drawText(seznam::kInvitation, Qt::AlignCenter, Texts::tr("Vyberte recept"));
         },
         seznam::kPhoto.height());
 }

@@ -10,6 +10,7 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/picturebox.h"
+#include "forms/wheelsteps.h"
 #include "screens/browse/frmrychlyrecept.h"
 #include "screens/browse/ground.h"
 #include "screens/browse/listentries.h"
@@ -93,7 +94,7 @@ class frmSeznam : public Form {
     Panel panelMode_ = Panel::Photo;
     Panel* keptPanel_;
     QString subject_;
-    int wheel_ = 0;
+    WheelSteps wheel_;
 
     Ground ground_;
     int pitch_ = 0;      // twips from row to row

@@ -8,6 +8,7 @@
 #include "forms/colors.h"
 #include "forms/eyes.h"
 #include "forms/holdrepeat.h"
+#include "forms/keys.h"
 #include "forms/ninepatch.h"
 #include "forms/resources.h"
 #include "screens/browse/frmseznam.h"
@@ -18,7 +19,6 @@ namespace sarne {
 namespace {
 
 constexpr int kHoldInterval = 50;  // milliseconds between the steps of a held arrow
-constexpr int kWheelNotch = 120;   // what the wheel reports for one notch
 
 constexpr int kPlateBorder = 130;  // thickness of a button plate's edge, twips
 
@@ -222,10 +222,7 @@ QRectF frmSeznam::thumb() const {
 void frmSeznam::wheelEvent(QWheelEvent* event) {
     event->accept();
     if (!pages_.scrolls()) return;
-    wheel_ += event->angleDelta().y();
-    const int notches = wheel_ / kWheelNotch;
-    wheel_ -= notches * kWheelNotch;
-    if (notches != 0) scroll(-notches);
+    if (const int steps = wheel_.take(*event)) scroll(steps);
 }
 
 bool frmSeznam::keyDown(QKeyEvent& event) {
@@ -245,28 +242,7 @@ bool frmSeznam::keyDown(QKeyEvent& event) {
 
 bool frmSeznam::moveByKey(int key) {
     const int selected = pages_.selectedEntry();
-    switch (key) {
-        case Qt::Key_Up:
-            pages_.moveRow(-1);
-            break;
-        case Qt::Key_Down:
-            pages_.moveRow(1);
-            break;
-        case Qt::Key_PageUp:
-            pages_.movePage(-1);
-            break;
-        case Qt::Key_PageDown:
-            pages_.movePage(1);
-            break;
-        case Qt::Key_Home:
-            pages_.moveToFirst();
-            break;
-        case Qt::Key_End:
-            pages_.moveToLast();
-            break;
-        default:
-            return false;
-    }
+    if (!moveInList(pages_, key)) return false;
     drawPage();
     if (pages_.selectedEntry() != selected) selectionChanged();
     return true;

@@ -9,6 +9,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/holdrepeat.h"
+#include "forms/keys.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
@@ -170,28 +171,7 @@ void FrmTabulky::print() {
 }
 
 bool FrmTabulky::moveKey(int key) {
-    switch (key) {
-        case Qt::Key_Up:
-            table_.moveBy(-1);
-            break;
-        case Qt::Key_Down:
-            table_.moveBy(1);
-            break;
-        case Qt::Key_PageUp:
-            table_.movePage(-1);
-            break;
-        case Qt::Key_PageDown:
-            table_.movePage(1);
-            break;
-        case Qt::Key_Home:
-            table_.select(0);
-            break;
-        case Qt::Key_End:
-            table_.select(table_.rows().count() - 1);
-            break;
-        default:
-            return false;
-    }
+    if (!moveInList(table_, key)) return false;
     ring().sayPart(table_);
     return true;
 }
@@ -208,7 +188,7 @@ bool FrmTabulky::letterKey(const QKeyEvent& event) {
 
 bool FrmTabulky::keyDown(QKeyEvent& event) {
     if (moveKey(event.key()) || letterKey(event)) return true;
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const bool enter = isEnter(event);
     if (enter && ring().isAt(&table_)) {
         table_.openSelected();
         return true;

@@ -16,8 +16,6 @@ namespace {
 
 const TextFont kFont{QStringLiteral("Arial"), 12};
 const TextFont kHeadFont{QStringLiteral("Arial"), 12, true};
-constexpr int kWheelRows = 2;  // for one notch of the wheel
-constexpr int kWheelNotch = 120;
 constexpr QColor kOtherRow(234, 221, 190);  // paper a shade darker, so that the eye keeps to its row
 
 }  // namespace
@@ -166,7 +164,7 @@ void TableView::setHovered(int row) {
 }
 
 void TableView::wheelEvent(QWheelEvent* event) {
-    scrollBy(-event->angleDelta().y() * kWheelRows / kWheelNotch);
+    scrollBy(wheel_.take(*event));
     event->accept();
 }
 

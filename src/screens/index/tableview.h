@@ -2,6 +2,7 @@
 
 #include "core/rowpaging.h"
 #include "forms/control.h"
+#include "forms/wheelsteps.h"
 #include "screens/index/lookuptable.h"
 #include "screens/index/tablelayout.h"
 
@@ -34,8 +35,10 @@ class TableView : public Control {
     /// Half of what is seen, at least one row.
     int halfPage() const { return std::max(1, (rows_.end() - rows_.top()) / 2); }
     void select(int row);
-    void moveBy(int rows) { changed(rows_.moveBy(rows)); }
+    void moveRow(int rows) { changed(rows_.moveBy(rows)); }
     void movePage(int pages) { changed(rows_.movePage(pages)); }
+    void moveToFirst() { select(0); }
+    void moveToLast() { select(rows_.count() - 1); }
     void jumpTo(int row) { changed(rows_.jumpTo(row)); }
     /// Opens the selected row.
     void openSelected();
@@ -76,6 +79,7 @@ class TableView : public Control {
     LookupTable table_;
     TableLayout layout_;
     RowPaging rows_;
+    WheelSteps wheel_{2};
     int hovered_ = RowPaging::kNone;
     int pressed_ = RowPaging::kNone;
 };

@@ -4,6 +4,7 @@
 
 #include "forms/bassarne.h"
 #include "forms/followlink.h"
+#include "forms/keys.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
@@ -65,7 +66,7 @@ void TextForm::print() {
 }
 
 bool TextForm::keyDown(QKeyEvent& event) {
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const bool enter = isEnter(event);
     // Enter is the focused button's; all other keys of the view scroll it from wherever the keyboard is.
     if ((ring().isAt(&view_) || !enter) && view_.keyDown(event)) return true;
     return BarForm::keyDown(event);

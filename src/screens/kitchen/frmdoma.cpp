@@ -9,6 +9,7 @@
 #include "core/value.h"
 #include "db/userfile.h"
 #include "forms/bassarne.h"
+#include "forms/keys.h"
 #include "forms/panel.h"
 #include "forms/screens.h"
 
@@ -70,8 +71,7 @@ frmDoma::frmDoma(basSarne& sarne, UserFile& file)
     recipes_.setPoints(13);
     recipes_.setAccessibleName(Texts::tr("Recepty"));
     makeActions(kActions, kFirstAction, kActionStep);
-    setStops({FocusGroup(std::array<TwipWidget*, 1>{&typed_}), FocusGroup(std::array<TwipWidget*, 1>{&have_}),
-              FocusGroup(std::array<TwipWidget*, 1>{&recipes_})});
+    setStops({alone(typed_), alone(have_), alone(recipes_)});
     connect(&typed_, &Edit::textChanged, this, [this] {
         showIngredients();
         // Who types hears how many there are when the letters rest.
@@ -104,7 +104,7 @@ bool frmDoma::Zobraz() {
     showRecipes();
     showForm();
     ring().focus(typed_);
-    app().HookMessage(title_.text() + QStringLiteral(". ") + state_.text());
+    sayState();
     return true;
 }
 
@@ -201,10 +201,10 @@ void frmDoma::showRecipes() {
                         missing.join(QStringLiteral(", ")), false});
     }
     recipes_.setRows(std::move(rows));
-    const Noun recipes{Texts::tr("recept"), Texts::tr("recepty"), Texts::tr("receptů"), Texts::tr("receptu")};
-    state_.setText(query_.have.empty()
-                       ? Texts::tr("Odškrtněte, co máte doma")
-                       : Texts::tr("Vyhovuje %1").arg(counted(double(found_.size()), recipes, app().Locale)));
+    state_.setText(
+        query_.have.empty()
+            ? Texts::tr("Odškrtněte, co máte doma")
+            : Texts::tr("Vyhovuje %1").arg(counted(double(found_.size()), recipeNoun(), app().Locale)));
     const auto latch = [this](Action action, bool on) { actions_[size_t(action)]->setLatched(on); };
     latch(Action::Season, query_.month != 0);
     latch(Action::Quick, query_.mostMinutes != 0);

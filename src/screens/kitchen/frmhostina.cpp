@@ -64,8 +64,7 @@ frmHostina::frmHostina(basSarne& sarne, UserFile& file, Asking asking, int month
         Texts::tr("Vlevo odškrtněte, co bude na stole: předkrm, polévku, hlavní chod – nebo jen něco "
                   "z toho.\n\nTady se objeví, kdy co začít."));
     makeActions(kActions, kFirstAction, kActionStep);
-    setStops(
-        {FocusGroup(std::array<TwipWidget*, 1>{&courses_}), FocusGroup(std::array<TwipWidget*, 1>{&plan_})});
+    setStops({alone(courses_), alone(plan_)});
     connect(&courses_, &TickList::used, this, &frmHostina::tick);
 }
 
@@ -86,7 +85,7 @@ bool frmHostina::Zobraz() {
     showPlan();
     courses_.select(0);
     ring().focus(courses_);
-    app().HookMessage(title_.text() + QStringLiteral(". ") + state_.text());
+    sayState();
     return true;
 }
 
@@ -130,10 +129,9 @@ void frmHostina::showPlan() {
     plan_.setRows(std::move(rows));
     plan_.setVisible(!dinner_.isEmpty());
     hint_.setVisible(dinner_.isEmpty());
-    const Noun portions{Texts::tr("porce"), Texts::tr("porce"), Texts::tr("porcí"), Texts::tr("porce")};
     state_.setText(
         Texts::tr("%1 · na stole v %2")
-            .arg(counted(dinner_.portions, portions, app().Locale), planClockText(dinner_.served)));
+            .arg(counted(dinner_.portions, portionNoun(), app().Locale), planClockText(dinner_.served)));
     actions_[size_t(Action::Occasion)]->setCaption(
         dinner_.occasion.isEmpty() ? Texts::tr("Kdykoli") : capitalised(dinner_.occasion));
     actions_[size_t(Action::Buy)]->setEnabled(!dinner_.isEmpty());

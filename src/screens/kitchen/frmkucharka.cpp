@@ -13,6 +13,7 @@
 #include "forms/panel.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
+#include "kitchen/cooked.h"
 
 namespace sarne {
 namespace {
@@ -55,10 +56,6 @@ constexpr KitchenAction kActions[] = {
     {QT_TRANSLATE_NOOP("Texts", "Na seznam"),
      QT_TRANSLATE_NOOP("Texts", "Dát vybraný recept na nákupní seznam (F3)")}};
 
-QString dayText(QDate day) {
-    return QStringLiteral("%1. %2. %3").arg(day.day()).arg(day.month()).arg(day.year());
-}
-
 }  // namespace
 
 frmKucharka::frmKucharka(basSarne& sarne, UserFile& file, QDate today)
@@ -87,8 +84,7 @@ frmKucharka::frmKucharka(basSarne& sarne, UserFile& file, QDate today)
     nothing_.setColor(colors::kInk);
     stars_.place(kStarPlace);
     makeActions(kActions, kFirstAction, kActionStep);
-    setStops({FocusGroup(std::array<TwipWidget*, 1>{&rows_}), FocusGroup(shelves_),
-              FocusGroup(std::array<TwipWidget*, 1>{&stars_})});
+    setStops({alone(rows_), FocusGroup(shelves_), alone(stars_)});
     connect(&rows_, &TickList::moved, this, &frmKucharka::showChosen);
     connect(&rows_, &Control::doubleClicked, this, &frmKucharka::openRecipe);
     connect(&stars_, &StarRow::given, this, &frmKucharka::give);
@@ -114,7 +110,7 @@ void frmKucharka::Zobraz() {
     showRecipes();
     rows_.select(0);
     ring().focus(rows_);
-    app().HookMessage(title_.text() + QStringLiteral(". ") + state_.text());
+    sayState();
 }
 
 void frmKucharka::restored() {
@@ -175,8 +171,7 @@ void frmKucharka::showRecipes() {
     nothing_.setVisible(shown_.empty());
     update();
     for (int i = 0; i < kShelves; ++i) shelves_[size_t(i)]->setLatched(i == static_cast<int>(shelf_));
-    const Noun recipes{Texts::tr("recept"), Texts::tr("recepty"), Texts::tr("receptů"), Texts::tr("receptu")};
-    state_.setText(counted(double(shown_.size()), recipes, app().Locale));
+    state_.setText(counted(double(shown_.size()), recipeNoun(), app().Locale));
     showChosen();
 }
 

@@ -8,12 +8,15 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStandardPaths>
+#include <algorithm>
+#include <utility>
 
 #include "core/czech.h"
 #include "core/texts.h"
 #include "db/userfile.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/keys.h"
 #include "forms/messagebox.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
@@ -104,7 +107,7 @@ frmNakup::frmNakup(basSarne& sarne, UserFile& file, AskNumber askNumber)
     own_.setMaxLength(80);
     own_.setAccessibleName(hint_.text());
     makeActions(kActions, kFirstAction, kActionStep);
-    setStops({FocusGroup(std::array<TwipWidget*, 1>{&rows_}), FocusGroup(std::array<TwipWidget*, 1>{&own_})});
+    setStops({alone(rows_), alone(own_)});
     connect(&rows_, &TickList::used, this, &frmNakup::use);
     connect(&rows_, &TickList::moved, this, &frmNakup::showState);
 }
@@ -116,7 +119,7 @@ void frmNakup::Zobraz() {
     showForm();
     rows_.select(0);
     ring().focus(list_.isEmpty() ? static_cast<TwipWidget&>(own_) : rows_);
-    app().HookMessage(title_.text() + QStringLiteral(". ") + state_.text());
+    sayState();
 }
 
 /// Another screen may have put something on the list meanwhile.
@@ -227,41 +230,37 @@ void frmNakup::print() {
     app().screens().printText(title_.text(), slipOf(title_.text(), list_.text(app().Locale)));
 }
 
+/// The row above the items of a department, or above all that is at home.
+TickRow frmNakup::headOf(const ShoppingItem& item) const {
+    if (item.atHome) {
+        const auto atHome = std::ranges::count_if(list_.items(), &ShoppingItem::atHome);
+        return {TickRow::Kind::Fold, Texts::tr("Nejspíš už doma (%1)").arg(atHome), {}, {}, showsHome_};
+    }
+    const QString name = QStringLiteral("Oddeleni%1").arg(static_cast<int>(item.department));
+    const Picture picture = app().resources().picture(name);
+    return {TickRow::Kind::Heading, departmentName(item.department), {}, {}, false, picture};
+}
+
+TickRow frmNakup::rowOf(const ShoppingItem& item) const {
+    QStringList below = item.recipes();
+    if (!item.alternative.isEmpty()) below.prepend(Texts::tr("nebo %1").arg(item.alternative));
+    return {TickRow::Kind::Item, item.name, item.amounts(app().Locale), below.join(QStringLiteral(" · ")),
+            item.bought};
+}
+
 void frmNakup::showList() {
     std::vector<TickRow> rows;
     itemOfRow_.clear();
-    int department = -1, index = -1;
-    const auto& items = list_.items();
-    const auto atHome =
-        std::count_if(items.begin(), items.end(), [](const ShoppingItem& i) { return i.atHome; });
     const auto add = [&](TickRow row, int item) {
         rows.push_back(std::move(row));
         itemOfRow_.push_back(item);
     };
-    for (const ShoppingItem& item : items) {
+    int group = -1, index = 0;
+    for (const ShoppingItem& item : list_.items()) {
+        const int own = item.atHome ? kDepartments : static_cast<int>(item.department);
+        if (std::exchange(group, own) != own) add(headOf(item), -1);
+        if (!item.atHome || showsHome_) add(rowOf(item), index);
         ++index;
-        const int group = item.atHome ? kDepartments : static_cast<int>(item.department);
-        if (group != department) {
-            department = group;
-            if (item.atHome)
-                add({TickRow::Kind::Fold, Texts::tr("Nejspíš už doma (%1)").arg(atHome), {}, {}, showsHome_},
-                    -1);
-            else
-                add({TickRow::Kind::Heading,
-                     departmentName(item.department),
-                     {},
-                     {},
-                     false,
-                     app().resources().picture(QStringLiteral("Oddeleni%1").arg(department))},
-                    -1);
-        }
-        if (item.atHome && !showsHome_) continue;
-        QStringList below;
-        if (!item.alternative.isEmpty()) below << Texts::tr("nebo %1").arg(item.alternative);
-        below << item.recipes();
-        add({TickRow::Kind::Item, item.name, item.amounts(app().Locale), below.join(QStringLiteral(" · ")),
-             item.bought},
-            index);
     }
     rows_.setRows(std::move(rows));
     showRecipes();
@@ -270,10 +269,9 @@ void frmNakup::showList() {
 
 void frmNakup::showRecipes() {
     QStringList lines;
-    const Noun portions{Texts::tr("porce"), Texts::tr("porce"), Texts::tr("porcí"), Texts::tr("porce")};
     const auto recipes = list_.recipes();
     for (const ShoppingRecipe& recipe : recipes)
-        lines << recipe.name + QStringLiteral(" – ") + counted(recipe.portions, portions, app().Locale);
+        lines << recipe.name + QStringLiteral(" – ") + counted(recipe.portions, portionNoun(), app().Locale);
     constexpr qsizetype kShown = 5;
     if (lines.size() > kShown)
         lines = lines.mid(0, kShown) << Texts::tr("a další: %1").arg(recipes.size() - kShown);

@@ -34,6 +34,8 @@ class frmNakup : public KitchenForm {
     enum class Action { Add, Amount, Remove, Undo, DropBought, Copy, Save, Home };
 
     void use(int row);
+    TickRow headOf(const ShoppingItem& item) const;
+    TickRow rowOf(const ShoppingItem& item) const;
     void showList();
     void showRecipes();
     void showState();

@@ -10,6 +10,7 @@
 #include "core/value.h"
 #include "db/ownnote.h"
 #include "forms/bassarne.h"
+#include "forms/keys.h"
 #include "forms/messagebox.h"
 #include "forms/panel.h"
 #include "forms/readaloud.h"
@@ -24,10 +25,6 @@ constexpr QRect kTitle{1140, 60, 6300, 510};
 constexpr QRect kPrevious{8250, 6480, 1410, 1410};
 constexpr QRect kNext{9810, 5970, 1950, 1950};
 constexpr QRect kRead{300, 7965, 1260, 930};
-
-QString dayText(QDate day) {
-    return QStringLiteral("%1. %2. %3").arg(day.day()).arg(day.month()).arg(day.year());
-}
 
 }  // namespace
 

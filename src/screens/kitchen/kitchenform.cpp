@@ -7,6 +7,7 @@
 #include "core/texts.h"
 #include "forms/bassarne.h"
 #include "forms/colors.h"
+#include "forms/keys.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
@@ -104,8 +105,8 @@ void KitchenForm::open() {
     showForm();
 }
 
-bool KitchenForm::isEnter(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+void KitchenForm::sayState() {
+    app().HookMessage(title_.text() + QStringLiteral(". ") + state_.text());
 }
 
 bool KitchenForm::listKey(TickList& list, const QKeyEvent& event, const std::function<void()>& enter) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <functional>
 #include <span>
 
@@ -39,12 +40,15 @@ class KitchenForm : public Form {
     /// Button \a action of the column was pressed.
     virtual void act(int /*action*/) {}
     virtual void print() {}
-    /// Shows \a screen unless the form, which is taken away then, has nothing to show.
+    /// Shows the screen over the others.
     void open();
-    static bool isEnter(const QKeyEvent& event);
+    /// Says the title and how things stand.
+    void sayState();
     /// Does what a key does in \a list where that has the keyboard: Enter does \a enter, by default what
     /// Space does, once however long it is held; the others move, and the new row is said.
     bool listKey(TickList& list, const QKeyEvent& event, const std::function<void()>& enter = {});
+    /// A group of one thing.
+    static FocusGroup alone(TwipWidget& thing) { return FocusGroup(std::array<TwipWidget*, 1>{&thing}); }
     /// \a groups, then the actions, the way to the other screens, the bar.
     void setStops(std::vector<FocusGroup> groups);
     /// The ground with its header, and plates below what lies at the bottom.

@@ -10,6 +10,7 @@
 #include "forms/colors.h"
 #include "forms/eyes.h"
 #include "forms/form.h"
+#include "forms/keys.h"
 #include "forms/label.h"
 #include "forms/panel.h"
 #include "forms/resources.h"
@@ -25,7 +26,6 @@ constexpr int kTwipsOfPoint = 20;
 constexpr int kEdge = 120;  // twips left and right of a row
 constexpr int kBoxGap = 150;
 constexpr int kBar = 75;
-constexpr int kWheelNotch = 120;
 constexpr QColor kSoftInk(92, 70, 50);
 
 QString spoken(const TickRow& row) {
@@ -147,7 +147,7 @@ void TickList::scrollBy(int rows) {
     changed(paging_.scrollBy(rows));
 }
 
-void TickList::moveBy(int rows) {
+void TickList::moveRow(int rows) {
     const int direction = rows < 0 ? -1 : 1;
     int wanted = selected() == RowPaging::kNone ? paging_.top() - direction : selected();
     wanted = std::clamp(wanted + rows, 0, std::max(0, paging_.count() - 1));
@@ -163,32 +163,10 @@ void TickList::changed(bool something) {
 }
 
 bool TickList::keyDown(const QKeyEvent& event) {
-    const int page = std::max(1, paging_.end() - paging_.top() - 1);
-    switch (event.key()) {
-        case Qt::Key_Up:
-            moveBy(-1);
-            return true;
-        case Qt::Key_Down:
-            moveBy(1);
-            return true;
-        case Qt::Key_PageUp:
-            moveBy(-page);
-            return true;
-        case Qt::Key_PageDown:
-            moveBy(page);
-            return true;
-        case Qt::Key_Home:
-            moveBy(-paging_.count());
-            return true;
-        case Qt::Key_End:
-            moveBy(paging_.count());
-            return true;
-        case Qt::Key_Space:
-            if (!event.isAutoRepeat() && selected() != RowPaging::kNone) Q_EMIT used(selected());
-            return true;
-        default:
-            return false;
-    }
+    if (moveInList(*this, event.key())) return true;
+    if (event.key() != Qt::Key_Space) return false;
+    if (!event.isAutoRepeat() && selected() != RowPaging::kNone) Q_EMIT used(selected());
+    return true;
 }
 
 QRect TickList::rowRect(int row) const {
@@ -213,7 +191,7 @@ void TickList::mousePressEvent(QMouseEvent* event) {
 }
 
 void TickList::wheelEvent(QWheelEvent* event) {
-    scrollBy(event->angleDelta().y() < 0 ? 2 : event->angleDelta().y() / kWheelNotch == 0 ? 0 : -2);
+    scrollBy(wheel_.take(*event));
     event->accept();
 }
 
@@ -239,41 +217,53 @@ void TickList::paintRow(QPainter& painter, int row) const {
         paintRowFrame(painter, place);
     }
     if (isHeading) painter.fillRect(place.adjusted(0, 30, 0, -15), colors::kTeal);
-    const QColor ink = isHeading ? colors::kTitle : isSelected ? colors::kPaper : colors::kInk;
-    painter.setPen(ink);
-    const int line = twipsOf(points_ * kLead);
-    QRect text = place.adjusted(kEdge, 0, -kEdge - kBar, 0);
-    if (!isHeading && content.kind != TickRow::Kind::Plain) {
+    painter.setPen(isHeading ? colors::kTitle : isSelected ? colors::kPaper : colors::kInk);
+    const QRect room = paintLead(painter, content, place);
+    paintTexts(painter, content, room);
+    painter.setPen(isSelected ? colors::kPaper : kSoftInk);
+    paintBelow(painter, content, room);
+}
+
+/// Draws the box and the picture in front of a row's texts; the room that is left for these.
+QRect TickList::paintLead(QPainter& painter, const TickRow& row, const QRect& place) const {
+    QRect room = place.adjusted(kEdge, 0, -kEdge - kBar, 0);
+    if (row.kind == TickRow::Kind::Item || row.kind == TickRow::Kind::Fold) {
         const int side = twipsOf(points_ * 1.25);
         painter.setFont(font(1, true).toQFont());
-        paintBox(painter, {text.left(), place.top() + (line - side) / 2, side, side}, content);
-        text.setLeft(text.left() + side + kBoxGap);
+        paintBox(painter, {room.left(), place.top() + (twipsOf(points_ * kLead) - side) / 2, side, side},
+                 row);
+        room.setLeft(room.left() + side + kBoxGap);
     }
-    if (!content.picture.isNull()) {
-        content.picture.draw(painter,
-                             QRect(text.left(), place.top() + 45, place.height() - 75, place.height() - 75),
-                             Fit::Inside);
-        text.setLeft(text.left() + place.height());
+    if (!row.picture.isNull()) {
+        const int side = place.height() - 75;
+        row.picture.draw(painter, QRect(room.left(), place.top() + 45, side, side), Fit::Inside);
+        room.setLeft(room.left() + place.height());
     }
+    return room;
+}
+
+/// The text, and at the right of its first line the amount.
+void TickList::paintTexts(QPainter& painter, const TickRow& row, const QRect& room) const {
     painter.setFont(font(1, true).toQFont());
-    const QRect first(text.left(), text.top(), text.width(), line);
-    painter.drawText(first, Qt::AlignRight | Qt::AlignVCenter, content.right);
-    const int amount =
-        content.right.isEmpty() ? 0 : Label::measure(content.right, font(1, true)).width() + kBoxGap;
-    QFont named = font(1, isHeading || content.kind == TickRow::Kind::Fold).toQFont();
-    named.setStrikeOut(content.ticked && content.kind == TickRow::Kind::Item && done_ == Done::StruckOut);
+    const QRect first(room.left(), room.top(), room.width(), twipsOf(points_ * kLead));
+    painter.drawText(first, Qt::AlignRight | Qt::AlignVCenter, row.right);
+    const int amount = row.right.isEmpty() ? 0 : Label::measure(row.right, font(1, true)).width() + kBoxGap;
+    const bool bold = row.kind == TickRow::Kind::Heading || row.kind == TickRow::Kind::Fold;
+    QFont named = font(1, bold).toQFont();
+    named.setStrikeOut(row.ticked && row.kind == TickRow::Kind::Item && done_ == Done::StruckOut);
     painter.setFont(named);
-    const int below = belowHeight(content);
-    painter.drawText(text.adjusted(0, 0, -amount, -below),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap,
-                     withUnbreakableBlanks(content.text));
+    painter.drawText(room.adjusted(0, 0, -amount, -belowHeight(row)),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, withUnbreakableBlanks(row.text));
+}
+
+void TickList::paintBelow(QPainter& painter, const TickRow& row, const QRect& room) const {
     painter.setFont(font(kSmall, false).toQFont());
-    painter.setPen(isSelected ? colors::kPaper : kSoftInk);
-    const QRect small(text.left(), place.bottom() - below - 30, text.width(), below + 30);
+    const int height = belowHeight(row) + 30;
+    const QRect small(room.left(), room.bottom() - height, room.width(), height);
     if (form().textScale() > 1)
-        return painter.drawText(small, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, content.below);
+        return painter.drawText(small, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, row.below);
     painter.drawText(small, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
-                     QFontMetricsF(painter.font()).elidedText(content.below, Qt::ElideRight, text.width()));
+                     QFontMetricsF(painter.font()).elidedText(row.below, Qt::ElideRight, room.width()));
 }
 
 /// Where in the list one is, at its right edge, when not all of it is seen.

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <vector>
 
 #include "core/rowpaging.h"
 #include "forms/control.h"
 #include "forms/picture.h"
+#include "forms/wheelsteps.h"
 #include "richtext/surface.h"
 
 namespace sarne {
@@ -52,6 +54,13 @@ class TickList : public Control {
     void select(int row);
     void scrollBy(int rows);
 
+    // These move the selection over what cannot be selected; without one they begin at the first row seen.
+
+    void moveRow(int rows);
+    void movePage(int pages) { moveRow(pages * std::max(1, paging_.end() - paging_.top() - 1)); }
+    void moveToFirst() { moveRow(-paging_.count()); }
+    void moveToLast() { moveRow(paging_.count()); }
+
     /// The arrows, Page keys, Home, End and Space. False for any other key.
     bool keyDown(const QKeyEvent& event);
     /// Lays the rows out anew where the texts have another size now.
@@ -76,16 +85,19 @@ class TickList : public Control {
     int textWidth(const TickRow& row) const;
     int twipsOf(double points) const;
     bool canBeSelected(int row) const;
-    void moveBy(int rows);
     void changed(bool something);
     int rowAt(QPoint twips) const;
     TextFont font(double share, bool bold) const;
     void paintRow(QPainter& painter, int row) const;
+    QRect paintLead(QPainter& painter, const TickRow& row, const QRect& place) const;
+    void paintTexts(QPainter& painter, const TickRow& row, const QRect& room) const;
+    void paintBelow(QPainter& painter, const TickRow& row, const QRect& room) const;
     void paintPosition(QPainter& painter) const;
     void paintBox(QPainter& painter, const QRect& place, const TickRow& row) const;
 
     std::vector<TickRow> rows_;
     RowPaging paging_;
+    WheelSteps wheel_{2};
     double points_ = 14, laidOutFor_ = 0;
     Done done_ = Done::StruckOut;
     Picture on_, off_;

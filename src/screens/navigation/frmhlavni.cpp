@@ -278,23 +278,28 @@ void frmHlavni::moveTo(int button) {
     ring().sayWithoutReader(imgClick[size_t(button)]->accessibleName());
 }
 
+void frmHlavni::handToMenu(QKeyEvent& event) {
+    frmMenu* deepest = menu_;
+    while (deepest->child()) deepest = deepest->child();
+    deepest->bringToFront();
+    QCoreApplication::sendEvent(deepest, &event);
+}
+
 bool frmHlavni::keyDown(QKeyEvent& event) {
     endSweep();
-    if (menuOpen_) {
-        frmMenu* deepest = menu_;
-        while (deepest->child()) deepest = deepest->child();
-        deepest->bringToFront();
-        QCoreApplication::sendEvent(deepest, &event);
-        return true;
-    }
+    if (menuOpen_) return handToMenu(event), true;
     const bool leaves = event.key() == Qt::Key_X || event.key() == Qt::Key_F4;
     if (leaves && (event.modifiers() & Qt::AltModifier)) return true;
+    return buttonKey(event.key());
+}
+
+bool frmHlavni::buttonKey(int key) {
     const int here = keyboardButton();
-    if (const auto direction = arrowDirection(event.key())) {
+    if (const auto direction = arrowDirection(key)) {
         moveTo(nearestButton(table_, here, *direction));
         return true;
     }
-    switch (event.key()) {
+    switch (key) {
         case Qt::Key_Tab:
             moveTo(buttonInReadingOrder(table_, here, 1));
             return true;

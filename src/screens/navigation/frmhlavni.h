@@ -69,6 +69,8 @@ class frmHlavni : public Form {
     /// Where the keyboard is: the current button or, without one, the focused one.
     int keyboardButton() const;
     void moveTo(int button);
+    void handToMenu(QKeyEvent& event);
+    bool buttonKey(int key);
     const std::vector<Picture>& frames(int i);
     QRect frameRect(int i) const;
 

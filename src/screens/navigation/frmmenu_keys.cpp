@@ -1,6 +1,7 @@
 #include <QKeyEvent>
 
 #include "forms/bassarne.h"
+#include "forms/keys.h"
 #include "screens/navigation/frmmenu.h"
 
 namespace sarne {
@@ -36,7 +37,7 @@ void frmMenu::enterSelected() {
 }
 
 bool frmMenu::keyDown(QKeyEvent& event) {
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const bool enter = isEnter(event);
     if (enter && Text1.hasInput()) {
         search();
         return true;

@@ -1,5 +1,6 @@
 #include "screens/navigation/ingredientsearch.h"
 
+#include "core/czech.h"
 #include "core/texts.h"
 #include "core/value.h"
 #include "db/database.h"
@@ -74,8 +75,7 @@ std::vector<std::int16_t> recipesWithIngredient(Database& db, const QString& ing
 
 QString recipeCountText(int recipes) {
     if (recipes == 0) return Texts::tr("žádný recept");
-    if (recipes == 1) return Texts::tr("1 recept");
-    return (recipes < 5 ? Texts::tr("%1 recepty") : Texts::tr("%1 receptů")).arg(recipes);
+    return QString::number(recipes) + u' ' + recipeNoun().behind(recipes);
 }
 
 }  // namespace sarne

@@ -12,6 +12,7 @@
 #include "forms/bassarne.h"
 #include "forms/colors.h"
 #include "forms/followlink.h"
+#include "forms/keys.h"
 #include "forms/readaloud.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
@@ -293,8 +294,7 @@ bool frmRecept::keyDown(QKeyEvent& event) {
 bool frmRecept::viewKey(const QKeyEvent& event) {
     if (!ring().isAt(view_)) return view_->pageKey(event);
     if (view_->keyDown(event)) return true;
-    const bool press =
-        event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
+    const bool press = isEnter(event) || event.key() == Qt::Key_Space;
     if (press && !event.isAutoRepeat()) view_->click();
     return press;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/czech.h"
 #include "core/numbertext.h"
 #include "core/texts.h"
 #include "forms/bassarne.h"
@@ -151,7 +152,7 @@ void IngredientPanel::showPortions() {
     const QString units =
         serving.units == UnitSystem::Weights ? Texts::tr("v gramech") : Texts::tr("na lžíce");
     portionText_->setText(numberText(serving.portions, room_.sarne.Locale) + u' ' +
-                          portionWord(serving.portions) + u'\n' + units);
+                          portionNoun().behind(serving.portions) + u'\n' + units);
 }
 
 /// False when the user gives no number; then everything stays as it was.
@@ -192,7 +193,7 @@ void IngredientPanel::askFish() {
     const QString amount = numberText(fish->grams, room_.sarne.Locale);
     const double grams = room_.askNumber(
         Texts::tr("Kolik gramů ryby máte?\r\n%1: recept počítá %2 g na %3 %4.")
-            .arg(fish->name, amount, QString::number(fish->portions), portionWord(fish->portions)));
+            .arg(fish->name, amount, QString::number(fish->portions), portionNoun().behind(fish->portions)));
     if (!alive || grams <= 0) return;
     const QString question = Texts::tr(
                                  "Je to váha celé nekuchané ryby?\r\n"

@@ -1,5 +1,6 @@
 #include "screens/recipe/portions.h"
 
+#include "core/czech.h"
 #include "core/texts.h"
 #include "core/value.h"
 
@@ -25,11 +26,6 @@ double Portions::number() const {
     return choice_ == kAnyNumber ? leadingNumber(custom_) : choice_;
 }
 
-QString portionWord(double number) {
-    constexpr int kMany = 5;
-    return number > 0 && number < kMany ? Texts::tr("porce") : Texts::tr("porcí");
-}
-
 int PanelPosition::step(int direction) {
     value_ += direction * kStep;
     if (value_ > kToggle) value_ = kStep;
@@ -41,7 +37,7 @@ QString PanelPosition::hint(int position, UnitSystem units) {
     if (position == kToggle)
         return units == UnitSystem::Weights ? Texts::tr("Přepočti na lžíce") : Texts::tr("Přepočti na gramy");
     if (position == Portions::kAnyNumber) return Texts::tr("Přepočet na libovolný počet porcí");
-    return QString::number(position) + u' ' + portionWord(position);
+    return QString::number(position) + u' ' + portionNoun().behind(position);
 }
 
 }  // namespace sarne

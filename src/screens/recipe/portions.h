@@ -36,9 +36,6 @@ class Portions {
     QString custom_;
 };
 
-/// "porce" or "porcí", as it stands behind \a number.
-QString portionWord(double number);
-
 /// The places that the keyboard steps over in the list of ingredients: the cutlery pictures by their numbers
 /// and, last, the toggle between the unit systems.
 class PanelPosition {
