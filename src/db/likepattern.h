@@ -3,7 +3,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace sarne {
 
@@ -18,20 +17,7 @@ class LikePattern {
     bool matches(std::string_view text) const;
 
   private:
-    enum class Kind { Character, AnyRun, AnyOne, Digit, OneOf, NoneOf };
-    struct Range {
-        char32_t first, last;
-    };
-    struct Element {
-        Kind kind;
-        char32_t character = 0;
-        std::vector<Range> ranges{};
-        bool accepts(char32_t folded) const;
-    };
-
-    static bool compileSet(std::string_view& rest, Element& element);
-
-    std::vector<Element> elements_;
+    std::string glob_;  ///< in small letters, as SQLite's GLOB writes it
 };
 
 }  // namespace sarne

@@ -32,7 +32,8 @@ TEST(LikePattern, MatchesItsOwnSignsAndNoOthers) {
         {"a*b*c", "aXbYbZ", false}, {"[*]*", "*x", true},
         {"[*]*", "x", false},       {"[]a", "a", true},
         {"x[a-]", "x-", true},      {"**a", "bca", true},
-        {"*aab", "aaaaab", true},
+        {"*aab", "aaaaab", true},   {"[^]x", "^x", true},
+        {"[^a]", "b", false},       {"[!]", "a", true},
     };
     for (const auto& c : cases) EXPECT_EQ(like(c.pattern, c.text), c.fits) << c.pattern << " ~ " << c.text;
 }
