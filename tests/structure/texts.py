@@ -10,7 +10,8 @@ TOKEN = re.compile(r'//[^\n]*|/\*.*?\*/|u?"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.
 CZECH = re.compile('[áčďéěíňóřšťúůýžÁČĎÉĚÍŇÓŘŠŤÚŮÝŽ]')
 TRANSLATED = re.compile(r'(tr|QT_TRANSLATE_NOOP)\($|QT_TRANSLATE_NOOP\("Texts",$')
 SHOWN = re.compile(r'\b(setWindowTitle|setText|setCaption|setTip|setToolTip|setTitle|setAccessibleName|addAction|ZobrazZpravu|HookMessage)'
-                   r'\((QStringLiteral\()?$')
+                   r'\((QStringLiteral\()?$|\b(drawText|dressLabel|dressAsText|dressCheckBox)\([^;"{]*QStringLiteral\($'
+                   r'|\bmakeButton\(QStringLiteral\("[^"]*"\),QStringLiteral\($')
 # What the book itself says: units and times as its recipes write them, names of its menus.
 OF_THE_BOOK = {'units.cpp', 'bookwords.cpp', 'foundtimes.cpp', 'menutargets.cpp'}
 NO_TEXTS = {'"Velisa sarn"', '"zvuky\\\\č%1.wav"', '"ÁÄĎÉĚÍŇÓÖŤÚŮÜÝ"'}

@@ -6,6 +6,7 @@ void show() {
     setText(Texts::tr("Není vybrán recept"));
     setText(QStringLiteral("Není přeloženo"));
     setTip(QStringLiteral("Konec"));
+    painter.drawText(place, QStringLiteral("Vyberte recept"));
 }
 
 // SPDX-License-Identifier: GPL-3.0-or-later
