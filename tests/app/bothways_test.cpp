@@ -57,7 +57,7 @@ class Visitor : public ShippedProgram {
         QStringList outcome;
         visit([&] {
             auto* control = front()->findChild<Control*>(name);
-            if (!control || !canBePressed(*control)) return void(outcome = {QStringLiteral("not there")});
+            if (!control || !canBePressed(*control)) return void(outcome = {u"not there"_s});
             const QPointer<Form> screen = front();
             // The keyboard is in use, and shown; on the main screen it always is.
             if (door_ && way == Way::Key) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -69,9 +69,9 @@ class Visitor : public ShippedProgram {
             QTest::qWait(kSettle);
             patience_.stop();
             outcome = asked_;
-            if (platform.beeper.beeps != beeps) outcome << QStringLiteral("beeps");
-            if (!screen || !screen->isVisible()) return void(outcome << QStringLiteral("closes"));
-            if (front() != screen) outcome << (front() ? front()->name() : QStringLiteral("nothing"));
+            if (platform.beeper.beeps != beeps) outcome << u"beeps"_s;
+            if (!screen || !screen->isVisible()) return void(outcome << u"closes"_s);
+            if (front() != screen) outcome << (front() ? front()->name() : u"nothing"_s);
             if (front() != screen) return;
             for (const QString& line : stateOf(*screen))
                 if (!before.contains(line)) outcome << line;
@@ -109,10 +109,7 @@ class Visitor : public ShippedProgram {
             for (const Control* control : front()->findChildren<Control*>()) {
                 const QSize place = fingerPlace(*control).size();
                 if (canBePressed(*control) && std::min(place.width(), place.height()) < kFingerTwips / 15)
-                    names << QStringLiteral("%1 %2x%3")
-                                 .arg(control->objectName())
-                                 .arg(place.width())
-                                 .arg(place.height());
+                    names << u"%1 %2x%3"_s.arg(control->objectName()).arg(place.width()).arg(place.height());
             }
         });
         return names;
@@ -199,7 +196,7 @@ QStringList outcomes(const Door* door, Way first, Way second) {
     QStringList all;
     for (const QString& control : visitor.controls())
         for (const Way way : {first, second})
-            all << control + QStringLiteral(": ") + visitor.use(control, way).join(QStringLiteral(", "));
+            all << control + u": "_s + visitor.use(control, way).join(u", "_s);
     return all;
 }
 
@@ -230,7 +227,7 @@ TEST_P(BothWays, EveryControlDoesTheSameByMouseAndByKeyOnAFirstVisitAndOnASecond
     const QStringList byMouse = outcomes(GetParam(), Way::Mouse, Way::Key);
     EXPECT_EQ(byMouse, outcomes(GetParam(), Way::Key, Way::Mouse));
     for (const QString& outcome : byMouse)
-        EXPECT_TRUE(!outcome.endsWith(QStringLiteral(": ")) || isIdle(GetParam(), outcome))
+        EXPECT_TRUE(!outcome.endsWith(u": "_s) || isIdle(GetParam(), outcome))
             << outcome.toStdString() << "nothing";
 }
 

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 #include <QTest>
 #include <QTimer>
 
@@ -15,6 +14,7 @@
 #include "screens/navigation/sweep.h"
 #include "support/fakeplatform.h"
 #include "support/fakesarne.h"
+#include "support/files.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -73,9 +73,7 @@ TEST_F(ProgramTest, FollowsABookThatIsWrittenWhileItRuns) {
     test::writeRecipeDatabase(path("data/nova.drc"), {u"INSERT INTO Suroviny VALUES (1,'kapr'),(2,'lín')"_s});
     QFile::remove(path("program/Sarne.drc"));
     ASSERT_TRUE(QFile::rename(path("data/nova.drc"), path("program/Sarne.drc")));
-    QFile mark(path("data/znacka"));
-    ASSERT_TRUE(mark.open(QIODevice::WriteOnly) && mark.write("1 0\n") > 0);
-    mark.close();
+    ASSERT_TRUE(test::write(path("data/znacka"), "1 0\n"));
     EXPECT_TRUE(
         QTest::qWaitFor([&] { return program->Db().OpenTable(u"Suroviny"_s).RecordCount() == 2; }, 5000));
     EXPECT_EQ(program->FormStack.top(), program->mainScreen());
@@ -113,7 +111,7 @@ TEST_F(ProgramTest, AsksForTheDriveWhenTheStoreNamesNone) {
 
 TEST_F(ProgramTest, TheStoreMayNameALetterOrAPathFromTheProgramsFolder) {
     platform.settings.set(u"Drives/F"_s, path("disc"));
-    QFile(path("disc/hudba.wav")).open(QIODevice::WriteOnly);
+    ASSERT_TRUE(test::write(path("disc/hudba.wav")));
     for (const char* stored : {"F:\\", "../disc"}) {
         platform.settings.set(u"CDPath"_s, QLatin1String(stored));
         make();
@@ -140,15 +138,11 @@ TEST_F(ProgramTest, YesEndsWhateverIsOpen) {
 }
 
 TEST_F(ProgramTest, StartsAndEndsWithoutAnything) {
-    const QByteArray garbage(5000, 'g');
     for (const char* kind : {"missing", "garbage", "empty"}) {
         QFile::remove(path("program/Sarne.drc"));
         if (*kind != 'm') {
-            for (const char* name : {"program/Sarne.drc", "program/KOp.bj", "program/Sarne.rcc"}) {
-                QFile file(path(name));
-                ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-                if (*kind == 'g') file.write(garbage);
-            }
+            for (const char* name : {"program/Sarne.drc", "program/KOp.bj", "program/Sarne.rcc"})
+                ASSERT_TRUE(test::write(path(name), QByteArray(*kind == 'g' ? 5000 : 0, 'g')));
         }
         platform.settings.set(u"CDPath"_s, path("disc"));
         make();
@@ -164,8 +158,8 @@ TEST_F(ProgramTest, StartsAndEndsWithoutAnything) {
 TEST_F(ProgramTest, TheMainScreensHelpSaysWhatIsMissingAndWhatWasKept) {
     const QString note = u"se *1 víc\nsoli"_s;
     ASSERT_TRUE(program->notes().keep({77, u"Úhoř"_s, note}));
-    QFile(path("data/Sarne.drc.2026-11-21-2")).open(QIODevice::WriteOnly);
-    QFile(path("data/Sarne.drc.origin")).open(QIODevice::WriteOnly);
+    for (const char* beside : {"data/Sarne.drc.2026-11-21-2", "data/Sarne.drc.origin"})
+        ASSERT_TRUE(test::write(path(beside)));
     const auto help = [&](const char* form) {
         program->screens().showHelpFor(QLatin1String(form));
         auto* view = program->FormStack.top()->findChild<TextView*>(u"picText"_s);

@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QBuffer>
-#include <QDir>
-#include <QFile>
 #include <QTest>
 #include <QTimer>
 
@@ -13,6 +10,8 @@
 #include "screens/navigation/frmhlavni.h"
 #include "support/fakeplatform.h"
 #include "support/fakesarne.h"
+#include "support/files.h"
+#include "support/pictures.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -40,11 +39,10 @@ namespace {
 class SplashTest : public testing::Test {
   protected:
     void SetUp() override {
-        QDir(folder.path()).mkpath(u"video"_s);
         platform.settings.set(u"CDPath"_s, folder.path());
         make(platform.parts());
     }
-    void addIntro() { ASSERT_TRUE(QFile(intro).open(QIODevice::WriteOnly)); }
+    void addIntro() { ASSERT_TRUE(test::write(intro)); }
     void make(const PlatformParts& parts) {
         program = std::make_unique<Program>(parts, Folders{folder.path(), folder.path()});
         program->stage().show();
@@ -187,12 +185,8 @@ TEST_F(SplashTest, ThePicturesAreToldApartByTheirOrder) {
                               SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
         for (const QString& statement : pictureSchema()) file.exec(statement.toStdString());
         for (const QColor& colour : colours) {
-            QImage image(8, 6, QImage::Format_RGB32);
-            image.fill(colour);
-            QByteArray bytes;
-            QBuffer buffer(&bytes);
-            buffer.open(QIODevice::WriteOnly);
-            image.save(&buffer, "BMP");
+            ASSERT_TRUE(test::write(folder.filePath(u"obr.bmp"_s), test::plain({8, 6}, colour)));
+            const QByteArray bytes = test::bytesOf(folder.filePath(u"obr.bmp"_s));
             SQLite::Statement insert(file, "INSERT INTO TabObr VALUES (?)");
             insert.bind(1, bytes.constData(), int(bytes.size()));
             insert.exec();

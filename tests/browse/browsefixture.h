@@ -2,15 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QWheelEvent>
 
 #include "core/logicalpath.h"
 #include "support/fakesarne.h"
+#include "support/files.h"
+#include "support/pictures.h"
 #include "support/recipedatabase.h"
+#include "support/wheel.h"
 
 namespace sarne {
 
@@ -21,12 +21,8 @@ class BrowseTest : public testing::Test {
     static constexpr int kRecipes = 50;
 
     BrowseTest() {
-        const QString file = folder.filePath(u"Sarne.drc"_s);
-        test::writeRecipeDatabase(file, cookbook());
-        run.database.Open(file);
+        run.database.Open(test::writeRecipeDatabase(folder.filePath(u"Sarne.drc"_s), cookbook()));
         run.MediaRoot = LogicalPaths::fromNativeFolder(folder.path());
-        QDir().mkpath(folder.filePath(u"foto/Male"_s));
-        QDir().mkpath(folder.filePath(u"foto/Recepty"_s));
     }
 
     static QStringList cookbook() {
@@ -46,9 +42,7 @@ class BrowseTest : public testing::Test {
 
     /// Puts a photo of one colour at \a path below the media root.
     void writePhoto(const char* path, QSize size = {40, 30}, const QColor& color = Qt::red) const {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(color);
-        ASSERT_TRUE(image.save(folder.filePath(QString::fromLatin1(path)), "BMP"));
+        ASSERT_TRUE(test::write(folder.filePath(QString::fromLatin1(path)), test::plain(size, color), "BMP"));
     }
 
     static QPoint center(const QWidget* widget) { return widget->rect().center(); }
@@ -58,13 +52,7 @@ class BrowseTest : public testing::Test {
         click(widget);
         QTest::mouseDClick(widget, Qt::LeftButton, {}, center(widget));
     }
-    static void wheel(QWidget* widget, int notches) {
-        const QPointF at = center(widget);
-        QWheelEvent event(at, widget->mapToGlobal(at), {}, {0, notches * 120}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&event);  // as from the window system, so that parents get it too
-        qApp->notify(widget, &event);
-    }
+    static void wheel(QWidget* widget, int notches) { test::wheel(*widget, notches * 120); }
     /// A key typed where the keyboard is.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(run.window.focusWidget(), key, modifiers);

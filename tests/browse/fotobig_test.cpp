@@ -38,10 +38,6 @@ TEST(PhotoSteps, StopsAtTheEndsAndWrapsByItself) {
 
 class FotoBigTest : public BrowseTest {
   protected:
-    FotoBigTest() {
-        run.PushScreen(*below);
-        below->showForm();
-    }
     frmFotoBig& open(Ids ids, int start = 0, bool slideShow = false) {
         viewer = new frmFotoBig(run);
         PhotoRequest request;
@@ -65,7 +61,7 @@ class FotoBigTest : public BrowseTest {
     Timer& timer() const { return *viewer->findChild<Timer*>(); }
     bool isClosed() const { return run.FormStack.top() == below; }
 
-    Form* below = new Form(run, u"frmSeznam"_s);
+    Form* below = run.openAbove("frmSeznam");
     frmFotoBig* viewer = nullptr;
 };
 
@@ -84,12 +80,6 @@ TEST_F(FotoBigTest, ClicksInTheZonesStepAndElsewhereClose) {
     EXPECT_EQ(run.beeps, 1);
     clickAt({400, 300});
     EXPECT_TRUE(isClosed());
-}
-
-TEST_F(FotoBigTest, BeforeTheMouseMovesAClickIsTheNextPhoto) {
-    open({1, 2, 3});
-    QTest::mouseClick(viewer, Qt::LeftButton, {}, {400, 300});
-    EXPECT_EQ(viewer->position(), 1);
 }
 
 TEST_F(FotoBigTest, TwoClicksOrKeysWithinHalfASecondStepOnce) {
@@ -122,11 +112,13 @@ TEST_F(FotoBigTest, AFingerThatGoesSidewaysStepsWhereverItBegins) {
     EXPECT_TRUE(isClosed()) << "downwards it is a click in the middle";
 }
 
-TEST_F(FotoBigTest, TheDoubleClickThatOpenedItIsNoClickOnIt) {
+TEST_F(FotoBigTest, TheDoubleClickThatOpenedItIsNoClickOnItAndTheFirstClickIsTheNextPhoto) {
     open({1, 2, 3});
     QTest::mouseDClick(viewer, Qt::LeftButton, {}, {400, 300});
     EXPECT_EQ(viewer->position(), 0);
     EXPECT_FALSE(isClosed());
+    QTest::mouseClick(viewer, Qt::LeftButton, {}, {400, 300});
+    EXPECT_EQ(viewer->position(), 1) << "the mouse has not moved yet";
 }
 
 TEST_F(FotoBigTest, KeysStepAndClose) {
@@ -177,9 +169,7 @@ TEST_F(FotoBigTest, TheSlideShowGoesRoundAndKeepsTheDisplayAwake) {
 
 TEST_F(FotoBigTest, TheSlideShowWaitsBelowAnotherScreen) {
     open({1, 2, 3}, 0, true);
-    auto* help = new Form(run, u"frmStranka"_s);
-    run.PushScreen(*help);
-    help->showForm();
+    Form* help = run.openAbove("frmStranka");
     timer().fire();
     EXPECT_EQ(viewer->position(), 0);
     run.PopScreen(*help);
@@ -197,12 +187,9 @@ TEST_F(FotoBigTest, TheCursorShowsWhatAClickDoes) {
                    {"SIPKADOLU", Qt::blue, {300, 590}},
                    {"SIPKAVPRAVO", Qt::yellow, {790, 590}},
                    {"ZPET", Qt::cyan, {400, 300}}};
-    QDir().mkpath(folder.filePath(u"obr"_s));
-    for (const auto& cursor : cursors) {
-        QImage image(32, 32, QImage::Format_RGB32);
-        image.fill(cursor.color);
-        image.save(folder.filePath(u"obr/%1.png"_s.arg(QLatin1String(cursor.name))));
-    }
+    for (const auto& [name, color, at] : cursors)
+        ASSERT_TRUE(test::write(folder.filePath(u"obr/%1.png"_s.arg(QLatin1String(name))),
+                                test::plain({32, 32}, color)));
     for (const char* face : {"SipkaDolu", "Zpet"})  // button faces that differ in case alone
         writePhoto(qPrintable(u"obr/%1.bmp"_s.arg(QLatin1String(face))), {8, 8}, Qt::black);
     run.pictures = Resources(folder.path() + u'/');
@@ -214,9 +201,7 @@ TEST_F(FotoBigTest, TheCursorShowsWhatAClickDoes) {
         QTest::mouseMove(viewer, cursor.at);
         EXPECT_EQ(shown(), cursor.color) << cursor.name;
     }
-    auto* help = new Form(run, u"frmStranka"_s);
-    run.PushScreen(*help);
-    run.PopScreen(*help);
+    run.PopScreen(*run.openAbove("frmStranka"));
     EXPECT_EQ(shown(), QColor(Qt::cyan)) << "as it was below another screen";
 }
 
@@ -249,8 +234,7 @@ TEST_F(FotoBigTest, AnyPhotoFitsItsPlaceUndistorted) {
 TEST_F(FotoBigTest, AMissingOrBrokenPhotoLeavesItsName) {
     writePhoto("foto/Recepty/r1.bmp");
     writePhoto("foto/Recepty/r3.bmp", {300, 200});
-    QFile cut(folder.filePath(u"foto/Recepty/r3.bmp"_s));
-    ASSERT_TRUE(cut.resize(5000));
+    ASSERT_TRUE(QFile::resize(folder.filePath(u"foto/Recepty/r3.bmp"_s), 5000));
     open({1, 2, 3, 999});
     EXPECT_FALSE(viewer->photo().isNull());
     for (const char* name : {"Recept 002", "Recept 003", ""}) {

@@ -10,10 +10,6 @@ namespace {
 
 class SeznamTest : public BrowseTest {
   protected:
-    SeznamTest() {
-        run.PushScreen(*below);
-        below->showForm();
-    }
     frmSeznam& open(const char* ids, const char* source) {
         list = new frmSeznam(run);
         list->Zobraz(QString::fromLatin1(ids), QString::fromLatin1(source));
@@ -33,7 +29,7 @@ class SeznamTest : public BrowseTest {
     QString quickText() const { return child<PictureBox>(*quick(), "Picture1")->drawnText(); }
 
     static constexpr int kRows = seznam::kRows;
-    Form* below = new Form(run, u"frmHlavni"_s);
+    Form* below = run.openAbove("frmHlavni");
     frmSeznam* list = nullptr;
 };
 
@@ -52,6 +48,7 @@ TEST_F(SeznamTest, ShowsAPageAndSelectsByMouse) {
     EXPECT_EQ(row(1)->text(), u"Recept 003"_s);
     EXPECT_EQ(row(3)->text(), u"Recept 002"_s);
     EXPECT_EQ(row(4)->text(), QString());
+    EXPECT_EQ(row(1)->cursor().shape(), Qt::PointingHandCursor);
     EXPECT_FALSE(button("imgSipky(0)")->isVisible());
     EXPECT_FALSE(control("imgJablko")->isVisible());
     click(row(4));
@@ -89,8 +86,7 @@ TEST_F(SeznamTest, ArrowsScrollOnceOrWhileHeld) {
     QTest::mouseRelease(button("imgSipky(0)"), Qt::LeftButton);
     EXPECT_FALSE(timer.isEnabled());
     QTest::mousePress(button("imgSipky(2)"), Qt::LeftButton);
-    auto* over = new Form(run, u"frmRecept"_s);
-    run.PushScreen(*over);
+    Form* over = run.openAbove("frmRecept");
     EXPECT_FALSE(held("imgSipky(2)").isEnabled()) << "a screen over the list ends it, too";
     run.PopScreen(*over);
     EXPECT_EQ(list->pages().top(), kRecipes - kRows);
@@ -135,6 +131,7 @@ TEST_F(SeznamTest, ItSaysWhatItLists) {
     list->setSubject(u"losos"_s);
     list->Zobraz({}, u"recepty"_s);
     EXPECT_EQ(title(), u"Recepty – losos"_s);
+    EXPECT_TRUE(child<Label>(*list, "lblHint")->text().contains(u"Enter"_s)) << "how to open by keyboard";
     open("", "RychleRecepty");
     EXPECT_EQ(title(), u"Rychlé recepty"_s);
 }
@@ -153,13 +150,9 @@ TEST_F(SeznamTest, TheWinesFitIntoThePanel) {
 }
 
 TEST_F(SeznamTest, AMissingOrBrokenPhotoLeavesItsNameInThePlace) {
-    QFile broken(folder.filePath(u"foto/Male/r2.bmp"_s));
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write(QByteArray("BM").append(QByteArray(60, '\x7f')));
-    broken.close();
+    ASSERT_TRUE(test::write(folder.filePath(u"foto/Male/r2.bmp"_s), "BM" + QByteArray(60, '\x7f')));
     writePhoto("foto/Male/r3.bmp", {300, 200});
-    QFile cut(folder.filePath(u"foto/Male/r3.bmp"_s));
-    ASSERT_TRUE(cut.resize(1000));
+    ASSERT_TRUE(QFile::resize(folder.filePath(u"foto/Male/r3.bmp"_s), 1000));
     open("", "recepty");
     for (int number = 1; number <= 3; ++number) {
         click(row(number));
@@ -304,10 +297,8 @@ TEST_F(SeznamTest, TheQuickRecipesWindowGivesTheKeyboardBack) {
     EXPECT_EQ(selected(), 1);
     key(Qt::Key_Down);
     EXPECT_EQ(selected(), 2);
-    auto* over = new Form(run, u"frmNastavHudbu"_s);
+    Form* over = run.openAbove("frmNastavHudbu");
     over->place({3000, 2100, 4000, 4800});
-    run.PushScreen(*over);
-    over->showForm();
     click(child(*quick(), "Picture1"));
     quick()->setFocus();
     EXPECT_EQ(run.window.focusForm(), over) << "also below another form";
@@ -340,9 +331,7 @@ TEST_F(SeznamTest, GoingBackLandsWhereTheUserWas) {
     key(Qt::Key_Return);
     frmSeznam* first = list;
     const int top = first->pages().top(), place = first->pages().selectedRow();
-    auto* recipe = new Form(run, u"frmRecept"_s);
-    run.PushScreen(*recipe);
-    recipe->showForm();
+    Form* recipe = run.openAbove("frmRecept");
     open("", "Help");
     key(Qt::Key_End);
     EXPECT_EQ(first->pages().top(), top) << "the list below is another one";

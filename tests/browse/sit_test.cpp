@@ -53,14 +53,8 @@ TEST(PhotoGrid, KeysMoveOverTheLivingCells) {
 
 class SitTest : public BrowseTest {
   protected:
-    SitTest() {
-        run.PushScreen(*below);
-        below->showForm();
-        grid->Zobraz();
-    }
-    Button* cell(int number) const {
-        return grid->findChild<Button*>(QStringLiteral("imgFoto(%1)").arg(number));
-    }
+    SitTest() { grid->Zobraz(); }
+    Button* cell(int number) const { return grid->findChild<Button*>(u"imgFoto(%1)"_s.arg(number)); }
     Button* button(const char* name) const { return grid->findChild<Button*>(QString::fromLatin1(name)); }
     void hover(int number) {
         QTest::mouseMove(cell(number), {3, 3});
@@ -77,14 +71,14 @@ class SitTest : public BrowseTest {
     }
     const QStringList& calls() const { return run.recorded.calls; }
 
-    Form* below = new Form(run, QStringLiteral("frmHlavni"));
+    Form* below = run.openAbove("frmHlavni");
     frmSit* grid = new frmSit(run);
 };
 
 TEST_F(SitTest, TheMouseNamesTheRecipeUnderIt) {
     hover(7);
-    EXPECT_EQ(name(), QStringLiteral("Recept 007"));
-    run.database.Execute(QStringLiteral("DELETE FROM Recepty WHERE ID = 8"));
+    EXPECT_EQ(name(), u"Recept 007"_s);
+    run.database.Execute(u"DELETE FROM Recepty WHERE ID = 8"_s);
     grid->goBack();
     grid = new frmSit(run);
     grid->Zobraz();
@@ -97,12 +91,11 @@ TEST_F(SitTest, TheMouseNamesTheRecipeUnderIt) {
 }
 
 TEST_F(SitTest, GroupsAreCalledAsTheBookSays) {
-    EXPECT_EQ(button("imgSkupina(3)")->caption(), QStringLiteral("Slavnostní mísy"));
-    run.database.Execute(
-        QStringLiteral("INSERT INTO Kniha (Nazev, Hodnota) VALUES ('Skupina3', 'Na oslavu')"));
+    EXPECT_EQ(button("imgSkupina(3)")->caption(), u"Slavnostní mísy"_s);
+    run.database.Execute(u"INSERT INTO Kniha (Nazev, Hodnota) VALUES ('Skupina3', 'Na oslavu')"_s);
     grid->Zobraz();
-    EXPECT_EQ(button("imgSkupina(3)")->caption(), QStringLiteral("Na oslavu"));
-    EXPECT_EQ(button("imgSkupina(0)")->caption(), QStringLiteral("Polévky"));
+    EXPECT_EQ(button("imgSkupina(3)")->caption(), u"Na oslavu"_s);
+    EXPECT_EQ(button("imgSkupina(0)")->caption(), u"Polévky"_s);
 }
 
 TEST_F(SitTest, AClickLocksTheChoiceUntilTheNext) {
@@ -115,7 +108,7 @@ TEST_F(SitTest, AClickLocksTheChoiceUntilTheNext) {
     EXPECT_EQ(run.recorded.photos.startPosition, 2);
     click(cell(20));
     hover(5);
-    EXPECT_EQ(name(), QStringLiteral("Recept 020"));
+    EXPECT_EQ(name(), u"Recept 020"_s);
     click(cell(20));
     hover(5);
     EXPECT_EQ(chosen(), 5);
@@ -141,7 +134,7 @@ TEST_F(SitTest, PhotosOfTheWholeGridOrOfTheGroup) {
     EXPECT_EQ(run.recorded.photos.startPosition, 0);
     EXPECT_FALSE(run.recorded.photos.slideShow);
     click(button("imgBtnHlavni(2)"));
-    EXPECT_EQ(calls().back(), QStringLiteral("showRecipe 9"));
+    EXPECT_EQ(calls().back(), u"showRecipe 9"_s);
 }
 
 TEST_F(SitTest, GroupsNarrowTheGridAndTheBackgroundWidensIt) {
@@ -182,29 +175,28 @@ TEST_F(SitTest, WithoutAChoiceOneIsAskedFor) {
     click(button("imgBtnHlavni(2)"));
     key(Qt::Key_Space);
     key(Qt::Key_Return);
-    EXPECT_EQ(run.messages, QStringList(4, QStringLiteral("64: Jeden recept musí být vybrán")));
+    EXPECT_EQ(run.messages, QStringList(4, u"64: Jeden recept musí být vybrán"_s));
     EXPECT_EQ(calls(), QStringList());
 }
 
 TEST_F(SitTest, ADoubleClickOpensTheRecipe) {
     doubleClick(cell(12));
-    EXPECT_EQ(calls(), QStringList{QStringLiteral("showRecipe 12")});
+    EXPECT_EQ(calls(), QStringList{u"showRecipe 12"_s});
     EXPECT_TRUE(grid->grid().isLocked());
     QTest::mouseRelease(cell(12), Qt::LeftButton, {}, center(cell(12)));
     click(cell(30));
     doubleClick(cell(30));
-    EXPECT_EQ(calls().back(), QStringLiteral("showRecipe 30"));
+    EXPECT_EQ(calls().back(), u"showRecipe 30"_s);
     EXPECT_TRUE(grid->grid().isLocked()) << "whether the cell was locked before or not";
 }
 
 TEST_F(SitTest, TheKeyboardReachesEverything) {
     for (const Qt::Key pressed : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down}) key(pressed);
-    EXPECT_EQ(name(), QStringLiteral("Recept 009"));
-    EXPECT_EQ(run.announced, (QStringList{QStringLiteral("Recept 001"), QStringLiteral("Recept 002"),
-                                          QStringLiteral("Recept 009")}));
+    EXPECT_EQ(name(), u"Recept 009"_s);
+    EXPECT_EQ(run.announced, (QStringList{u"Recept 001"_s, u"Recept 002"_s, u"Recept 009"_s}));
     key(Qt::Key_Return);
     key(Qt::Key_Space);
-    EXPECT_EQ(calls(), (QStringList{QStringLiteral("showRecipe 9"), QStringLiteral("showPhotos 8")}));
+    EXPECT_EQ(calls(), (QStringList{u"showRecipe 9"_s, u"showPhotos 8"_s}));
     key(Qt::Key_Tab);
     key(Qt::Key_Return);
     EXPECT_EQ(grid->grid().group(), 0);
@@ -217,7 +209,7 @@ TEST_F(SitTest, TheKeyboardReachesEverything) {
     EXPECT_EQ(run.exits, 1);
     key(Qt::Key_Left);
     key(Qt::Key_Return);
-    EXPECT_EQ(calls().back(), QStringLiteral("showRecipe 9")) << "among the cells Enter means the cell again";
+    EXPECT_EQ(calls().back(), u"showRecipe 9"_s) << "among the cells Enter means the cell again";
     key(Qt::Key_0);
     EXPECT_EQ(alive().size(), 50u);
     key(Qt::Key_Escape);
@@ -236,7 +228,7 @@ TEST_F(SitTest, BackFromTheViewerTheGroupIsAsItWas) {
     EXPECT_EQ(run.FormStack.top(), grid);
     EXPECT_EQ(alive(), (Ids{9, 35, 46, 50}));
     EXPECT_EQ(chosen(), 9);
-    EXPECT_EQ(name(), QStringLiteral("Recept 009"));
+    EXPECT_EQ(name(), u"Recept 009"_s);
     EXPECT_TRUE(grid->grid().isLocked());
     EXPECT_TRUE(grid->isAncestorOf(run.window.focusWidget()) || grid->hasFocus());
 }

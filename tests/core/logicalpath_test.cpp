@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
+
+#include "support/files.h"
 
 namespace sarne {
 namespace {
@@ -12,15 +13,11 @@ namespace {
 class LogicalPathTest : public testing::Test {
   protected:
     void SetUp() override {
-        ASSERT_TRUE(QDir(disc.path()).mkpath(u"Foto/Velke"_s));
         touch(u"hudba.wav"_s);
         touch(u"Foto/Velke/R1.bmp"_s);
         touch(u"Foto/c\u030C5.wav"_s);  // č as a letter and a mark
     }
-    void touch(const QString& name) {
-        QFile file(disc.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
+    void touch(const QString& name) { ASSERT_TRUE(test::write(disc.filePath(name))); }
 
     QTemporaryDir disc;
     LogicalPaths paths{{{u'E', disc.path()}}};
@@ -70,7 +67,7 @@ TEST(Folder, EndsInOneBackslash) {
 
 TEST(LogicalPathDrivesTest, DrivesAreAskedForAgainWhenALetterLeadsNowhere) {
     const QTemporaryDir disc;
-    QFile(disc.filePath(u"hudba.wav"_s)).open(QIODevice::WriteOnly);
+    ASSERT_TRUE(test::write(disc.filePath(u"hudba.wav"_s)));
     LogicalPaths::Drives drives;
     LogicalPaths paths([&drives] { return drives; });
     EXPECT_EQ(paths.resolve(u"E:\\HUDBA.WAV"_s), QString());

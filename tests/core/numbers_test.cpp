@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QCryptographicHash>
-#include <QFile>
 #include <QTemporaryDir>
 #include <climits>
 #include <cmath>
@@ -12,6 +11,7 @@
 #include "core/quantities.h"
 #include "core/sealedfile.h"
 #include "core/value.h"
+#include "support/files.h"
 
 namespace sarne {
 namespace {
@@ -62,18 +62,12 @@ TEST(Checked, ConversionsStayInRange) {
 TEST(SealedFile, AnyDamageBreaksTheSeal) {
     QTemporaryDir folder;
     const QString name = folder.filePath(u"Sarne.rcc"_s);
-    const auto write = [&](const QByteArray& bytes) {
-        QFile file(name);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    };
+    const auto write = [&](const QByteArray& bytes) { ASSERT_TRUE(test::write(name, bytes)); };
     write(QByteArray(700000, 'q'));
     EXPECT_FALSE(isSealed(name)) << "not sealed yet";
     ASSERT_TRUE(sealFile(name));
     EXPECT_TRUE(isSealed(name));
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray sound = file.readAll();
+    const QByteArray sound = test::bytesOf(name);
     for (const qsizetype at : {qsizetype{0}, qsizetype{300000}, sound.size() - 17, sound.size() - 1}) {
         QByteArray damaged = sound;
         damaged[at] = 'x';
@@ -152,8 +146,7 @@ TEST(QuantitiesTest, WritesNumbersAsTheUserDoes) {
     EXPECT_EQ(shown(0.05, QLocale(QLocale::English)), u"0.05"_s);
     EXPECT_EQ(shown(1234567, QLocale(QLocale::English)), u"1234570"_s);
     EXPECT_EQ(Quantities(2.5, 4, kCzech).portionsText(), u"2,5"_s);
-    EXPECT_EQ(Quantities(7, 3, kCzech).portionsText(), u"7"_s) << "a third is no exact number";
-    EXPECT_EQ(Quantities(6, 4, kCzech).portionsText(), u"6"_s);
+    EXPECT_EQ(Quantities(31, 3, kCzech).portionsText(), u"31"_s) << "a third is no exact number";
 }
 
 TEST(QuantitiesTest, WithoutPortionsThereAreNoAmounts) {

@@ -4,10 +4,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QFile>
 #include <random>
 
 #include "db/database.h"
+#include "support/files.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -17,15 +17,12 @@ class DatabaseFaults : public testing::Test {
   protected:
     QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
     QString fileOf(const char* name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly)) ADD_FAILURE();
-        file.write(bytes);
-        return file.fileName();
+        EXPECT_TRUE(test::write(path(name), bytes));
+        return path(name);
     }
     QString recipes() const {
-        const QString file = path("Sarne.drc");
-        test::writeRecipeDatabase(file, {u"INSERT INTO Recepty (ID,Nazev) VALUES (1,'Kapr')"_s});
-        return file;
+        return test::writeRecipeDatabase(path("Sarne.drc"),
+                                         {u"INSERT INTO Recepty (ID,Nazev) VALUES (1,'Kapr')"_s});
     }
     static bool storeNote(Database& db, const QString& note) {
         Recordset rows = db.OpenTable(u"Recepty"_s);

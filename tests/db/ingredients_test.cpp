@@ -17,8 +17,7 @@ class IngredientsTest : public testing::Test {
                         u"INSERT INTO Upresneni (ID, Polozka) VALUES (1,'filety'),(2,'čerstvé')"_s,
                         u"INSERT INTO Jednotky (ID, Polozka) VALUES (1,'g'),(2,'  lžíce '),(3,'')"_s};
         for (const QString& row : rows) all << u"INSERT INTO SpojSur VALUES (5,%1)"_s.arg(row);
-        test::writeRecipeDatabase(folder.filePath(u"t.drc"_s), all + more);
-        ASSERT_TRUE(db.Open(folder.filePath(u"t.drc"_s)));
+        ASSERT_TRUE(db.Open(test::writeRecipeDatabase(folder.filePath(u"t.drc"_s), all + more)));
     }
     QStringList lines(UnitSystem units = UnitSystem::Weights, double portions = 4) {
         const Quantities quantities(portions, 4, QLocale(QLocale::Czech, QLocale::CzechRepublic));

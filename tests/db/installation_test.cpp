@@ -7,9 +7,9 @@
 #include <unistd.h>
 
 #include <QDir>
-#include <QFile>
 
 #include "db/database.h"
+#include "support/files.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -18,19 +18,18 @@ namespace {
 class InstallationTest : public testing::Test {
   protected:
     void SetUp() override {
-        QDir(folder.path()).mkpath(QStringLiteral("program"));
-        QDir(folder.path()).mkpath(QStringLiteral("data"));
-        shipped = folder.filePath(QStringLiteral("program/Sarne.drc"));
-        own = folder.filePath(QStringLiteral("data/Sarne.drc"));
+        QDir(folder.path()).mkpath(u"program"_s);
+        QDir(folder.path()).mkpath(u"data"_s);
+        shipped = folder.filePath(u"program/Sarne.drc"_s);
+        own = folder.filePath(u"data/Sarne.drc"_s);
         ship("'Kapr'");
     }
     /// \a facts are rows of what the book says of itself.
     void ship(const char* name, const char* facts = "") {
         QFile::remove(shipped);
         test::writeRecipeDatabase(
-            shipped,
-            {QStringLiteral("INSERT INTO Recepty (ID,Nazev) VALUES (1,%1)").arg(QString::fromUtf8(name)),
-             QStringLiteral("INSERT INTO Nastav VALUES (1,'Hudba',1)"), QLatin1String(facts)});
+            shipped, {u"INSERT INTO Recepty (ID,Nazev) VALUES (1,%1)"_s.arg(QString::fromUtf8(name)),
+                      u"INSERT INTO Nastav VALUES (1,'Hudba',1)"_s, QLatin1String(facts)});
         setTime(0);  // as package formats do with all files
     }
     void setTime(time_t seconds) {
@@ -47,10 +46,12 @@ class InstallationTest : public testing::Test {
         db.Open(file);
         return db.OpenTable(QLatin1String(table)).field(QLatin1String(field)).toString();
     }
-    static void write(const QString& file, const char* table, const char* field, const QVariant& value) {
+    static void write(const QString& file, const char* table, const char* field, const QVariant& value,
+                      int id = 1) {
         Database db;
         ASSERT_TRUE(db.Open(file));
         Recordset rows = db.OpenTable(QLatin1String(table));
+        ASSERT_TRUE(RecordExists(rows, id));
         rows.Edit();
         rows.setField(QLatin1String(field), value);
         ASSERT_TRUE(rows.Update());
@@ -71,10 +72,14 @@ class InstallationTest : public testing::Test {
         QFile::setPermissions(shipped, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
         QFile::setPermissions(folder.path(), QFile::Permissions(0x7755));
         ASSERT_EQ(chmod(qPrintable(folder.path()), 0755), 0);
-        ASSERT_EQ(chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0555), 0);
-        ASSERT_EQ(chmod(qPrintable(folder.filePath(QStringLiteral("data"))), 0777), 0);
+        ASSERT_EQ(chmod(qPrintable(folder.filePath(u"program"_s)), 0555), 0);
+        ASSERT_EQ(chmod(qPrintable(folder.filePath(u"data"_s)), 0777), 0);
     }
-    void TearDown() override { chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0755); }
+    /// The program starts with the shipped file, which it cannot write: it uses the own copy.
+    void start() {
+        ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
+    }
+    void TearDown() override { chmod(qPrintable(folder.filePath(u"program"_s)), 0755); }
 
     QTemporaryDir folder;
     QString shipped, own;
@@ -89,26 +94,26 @@ TEST_F(InstallationTest, AReadOnlyProgramFolderLeadsToAnOwnCopyThatKeepsNotes) {
     protectProgramFolder();
     ASSERT_EQ(asOrdinaryUser([&] {
                   if (usableRecipeDatabase(shipped, own).file != own) return 1;
-                  write(own, "Recepty", "Vlastni", QStringLiteral("moje"));
+                  write(own, "Recepty", "Vlastni", u"moje"_s);
                   write(own, "Nastav", "hodnota", 0);
                   return usableRecipeDatabase(shipped, own).file == own ? 0 : 2;
               }),
               0);
-    EXPECT_EQ(read(own, "Recepty", "Vlastni"), QStringLiteral("moje"));
+    EXPECT_EQ(read(own, "Recepty", "Vlastni"), u"moje"_s);
 
     const qint64 size = QFileInfo(shipped).size();
-    chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0755);
+    chmod(qPrintable(folder.filePath(u"program"_s)), 0755);
     ship("'Kapr na kmíně'");
     ASSERT_EQ(QFileInfo(shipped).size(), size) << "neither time nor size tells the two apart";
     protectProgramFolder();
-    ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
-    EXPECT_EQ(read(own, "Recepty", "Nazev"), QStringLiteral("Kapr na kmíně")) << "the newer file's recipe";
-    EXPECT_EQ(read(own, "Recepty", "Vlastni"), QStringLiteral("moje")) << "the user's note";
-    EXPECT_EQ(read(own, "Nastav", "hodnota"), QStringLiteral("0"));
+    start();
+    EXPECT_EQ(read(own, "Recepty", "Nazev"), u"Kapr na kmíně"_s) << "the newer file's recipe";
+    EXPECT_EQ(read(own, "Recepty", "Vlastni"), u"moje"_s) << "the user's note";
+    EXPECT_EQ(read(own, "Nastav", "hodnota"), u"0"_s);
 
     const ino_t copy = inode(own);
     setTime(1000000000);
-    ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
+    start();
     EXPECT_EQ(inode(own), copy) << "the same book is not copied again, whatever its time";
 }
 
@@ -124,23 +129,23 @@ TEST_F(InstallationTest, AnotherEditionIsOneOfAnotherNumberOrDigest) {
         {"'Úhoř'", "INSERT INTO Kniha VALUES (1,'Vydani','2'),(2,'Otisk','b')", "Sum"},
     };
     for (const auto& edition : editions) {
-        chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0755);
+        chmod(qPrintable(folder.filePath(u"program"_s)), 0755);
         ship(edition.name, edition.facts);
         protectProgramFolder();
-        ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
+        start();
         EXPECT_EQ(read(own, "Recepty", "Nazev"), QString::fromUtf8(edition.shown));
     }
 }
 
 TEST_F(InstallationTest, WhereNothingCanBeWrittenTheShippedFileIsRead) {
     protectProgramFolder();
-    chmod(qPrintable(folder.filePath(QStringLiteral("data"))), 0555);
+    chmod(qPrintable(folder.filePath(u"data"_s)), 0555);
     EXPECT_EQ(asOrdinaryUser([&] {
                   Database db;
                   const bool opens = usableRecipeDatabase(shipped, own).file == shipped && db.Open(shipped);
-                  Recordset rows = db.OpenTable(QStringLiteral("Recepty"));
+                  Recordset rows = db.OpenTable(u"Recepty"_s);
                   rows.Edit();
-                  rows.setField(QStringLiteral("Vlastni"), QStringLiteral("x"));
+                  rows.setField(u"Vlastni"_s, u"x"_s);
                   return opens && !rows.AtEnd() && !rows.Update() ? 0 : 1;
               }),
               0);
@@ -148,12 +153,11 @@ TEST_F(InstallationTest, WhereNothingCanBeWrittenTheShippedFileIsRead) {
 
 TEST_F(InstallationTest, FileAndFolderMustBothBeWritable) {
     protectProgramFolder();
-    chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0777);
-    EXPECT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0)
-        << "a read-only file in a writable folder, as it comes from a disc";
+    chmod(qPrintable(folder.filePath(u"program"_s)), 0777);
+    start();  // a read-only file in a writable folder, as it comes from a disc
     protectProgramFolder();
     QFile::setPermissions(shipped, QFile::Permissions(0x6666));
-    EXPECT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
+    start();
 }
 
 /// Notes in an own copy of many pages, some of which are then damaged.
@@ -162,25 +166,17 @@ class DamagedCopyTest : public InstallationTest {
     void SetUp() override {
         InstallationTest::SetUp();
         QFile::remove(shipped);
-        QStringList rows{QStringLiteral("INSERT INTO Nastav VALUES (1,'Hudba',1)")};
+        QStringList rows{u"INSERT INTO Nastav VALUES (1,'Hudba',1)"_s};
         for (int id = 1; id <= 50; ++id)
-            rows << QStringLiteral("INSERT INTO Recepty (ID,Nazev,Recept) VALUES (%1,'Kapr %1','%2')")
-                        .arg(id)
-                        .arg(QString(3000, u'x'));
+            rows << u"INSERT INTO Recepty (ID,Nazev,Recept) VALUES (%1,'Kapr %1','%2')"_s.arg(id).arg(
+                QString(3000, u'x'));
         test::writeRecipeDatabase(shipped, rows);
         protectProgramFolder();
+        start();
         ASSERT_EQ(asOrdinaryUser([&] {
-                      usableRecipeDatabase(shipped, own);
-                      Database db;
-                      if (!db.Open(own)) return 1;
-                      Recordset recipes = db.OpenTable(QStringLiteral("Recepty"));
-                      for (const int id : {1, 2, 3}) {
-                          if (!RecordExists(recipes, id)) return 2;
-                          recipes.Edit();
-                          recipes.setField(QStringLiteral("Vlastni"), QStringLiteral("moje %1").arg(id));
-                          if (!recipes.Update()) return 3;
-                      }
-                      return 0;
+                      for (const int id : {1, 2, 3})
+                          write(own, "Recepty", "Vlastni", u"moje %1"_s.arg(id), id);
+                      return HasFailure() ? 1 : 0;
                   }),
                   0);
     }
@@ -190,30 +186,21 @@ class DamagedCopyTest : public InstallationTest {
         file.seek(at);
         file.write(bytes);
     }
-    qint64 lastRecipesPage() {
-        QFile file(own);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll().lastIndexOf("Kapr 50") / 4096 * 4096;
-    }
+    qint64 lastRecipesPage() const { return test::bytesOf(own).lastIndexOf("Kapr 50") / 4096 * 4096; }
     QString note(int id) {
         Database db;
         db.Open(own);
-        Recordset recipes = db.OpenTable(QStringLiteral("Recepty"));
-        return RecordExists(recipes, id) ? recipes.field(QStringLiteral("Vlastni")).toString() : QString();
+        Recordset recipes = db.OpenTable(u"Recepty"_s);
+        return RecordExists(recipes, id) ? recipes.field(u"Vlastni"_s).toString() : QString();
     }
-    void start() {
-        ASSERT_EQ(asOrdinaryUser([&] { return usableRecipeDatabase(shipped, own).file == own ? 0 : 1; }), 0);
-    }
-    QStringList aside() {
-        return QDir(folder.filePath(QStringLiteral("data"))).entryList({QStringLiteral("Sarne.drc.2*")});
-    }
+    QStringList aside() { return QDir(folder.filePath(u"data"_s)).entryList({u"Sarne.drc.2*"_s}); }
 };
 
 TEST_F(DamagedCopyTest, OneBadPageCostsNoOtherNote) {
     damage(lastRecipesPage(), QByteArray(8, '\xEE'));
     start();
-    for (const int id : {1, 2, 3}) EXPECT_EQ(note(id), QStringLiteral("moje %1").arg(id));
-    EXPECT_EQ(read(own, "Recepty", "Nazev"), QStringLiteral("Kapr 1"));
+    for (const int id : {1, 2, 3}) EXPECT_EQ(note(id), u"moje %1"_s.arg(id));
+    EXPECT_EQ(read(own, "Recepty", "Nazev"), u"Kapr 1"_s);
     EXPECT_EQ(aside().size(), 1) << "the damaged copy is kept";
     start();
     EXPECT_EQ(aside().size(), 1) << "and only once";
@@ -223,32 +210,32 @@ TEST_F(DamagedCopyTest, ACopyThatDoesNotOpenIsReplacedAndKept) {
     for (const qint64 size : {qint64(0), qint64(100), qint64(20000)}) {
         QFile::resize(own, size);
         start();
-        EXPECT_EQ(read(own, "Recepty", "Nazev"), QStringLiteral("Kapr 1")) << size;
+        EXPECT_EQ(read(own, "Recepty", "Nazev"), u"Kapr 1"_s) << size;
         damage(0, QByteArray(200, 'x'));
         start();
-        EXPECT_EQ(read(own, "Recepty", "Nazev"), QStringLiteral("Kapr 1")) << size;
+        EXPECT_EQ(read(own, "Recepty", "Nazev"), u"Kapr 1"_s) << size;
     }
     EXPECT_EQ(aside().size(), 6);
 }
 
 TEST_F(DamagedCopyTest, ADamagedShippedFileLeavesTheOwnCopyInUse) {
-    chmod(qPrintable(folder.filePath(QStringLiteral("program"))), 0755);
+    chmod(qPrintable(folder.filePath(u"program"_s)), 0755);
     QFile::remove(shipped);
-    QFile(shipped).open(QIODevice::WriteOnly);
+    ASSERT_TRUE(test::write(shipped));
     protectProgramFolder();
     start();
-    EXPECT_EQ(note(2), QStringLiteral("moje 2"));
+    EXPECT_EQ(note(2), u"moje 2"_s);
 }
 
 TEST_F(DamagedCopyTest, ANoteWithoutARecipeIsHandedOver) {
-    const QString newer = folder.filePath(QStringLiteral("newer.drc"));
-    test::writeRecipeDatabase(newer, {QStringLiteral("INSERT INTO Recepty (ID,Nazev) VALUES (2,'Kapr 2')")});
+    const QString newer = folder.filePath(u"newer.drc"_s);
+    test::writeRecipeDatabase(newer, {u"INSERT INTO Recepty (ID,Nazev) VALUES (2,'Kapr 2')"_s});
     const CarriedData carried = carryOverUserData(own, newer);
     EXPECT_TRUE(carried.stored);
     ASSERT_EQ(carried.homeless.size(), 2U);
-    EXPECT_EQ(carried.homeless[1].name, QStringLiteral("Kapr 3"));
-    EXPECT_EQ(carried.homeless[1].text, QStringLiteral("moje 3"));
-    EXPECT_EQ(read(newer, "Recepty", "Vlastni"), QStringLiteral("moje 2"));
+    EXPECT_EQ(carried.homeless[1].name, u"Kapr 3"_s);
+    EXPECT_EQ(carried.homeless[1].text, u"moje 3"_s);
+    EXPECT_EQ(read(newer, "Recepty", "Vlastni"), u"moje 2"_s);
 }
 
 }  // namespace

@@ -1,13 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <sys/stat.h>
 #include <QDir>
-#include <QFile>
 
 #include "db/database.h"
 #include "db/notestore.h"
 #include "db/ownnote.h"
 #include "db/userfile.h"
+#include "support/files.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -52,11 +51,7 @@ TEST_F(NoteStoreTest, WhatNoDiskTakesStaysInMemory) {
 }
 
 TEST_F(NoteStoreTest, ADamagedFileIsPutAsideAndANewOneBegun) {
-    QDir().mkpath(folder.filePath(u"data"_s));
-    QFile broken(path);
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write(QByteArray(9000, 'x'));
-    broken.close();
+    ASSERT_TRUE(test::write(path, QByteArray(9000, 'x')));
     UserFile file(path);
     EXPECT_EQ(file.value(u"a"_s), QString());
     EXPECT_TRUE(file.setValue(u"a"_s, u"1"_s));
@@ -65,12 +60,10 @@ TEST_F(NoteStoreTest, ADamagedFileIsPutAsideAndANewOneBegun) {
 }
 
 TEST_F(NoteStoreTest, NotesComeBackToTheirRecipesInAnotherEdition) {
-    const QString book = folder.filePath(u"Sarne.drc"_s);
-    test::writeRecipeDatabase(
-        book, {u"INSERT INTO Recepty (ID,Nazev,Vlastni) VALUES (1,'Kapr',NULL),(2,'Úhoř',NULL),"
-               "(3,'Lín',''),(4,'Siven','nová')"_s});
     Database db;
-    ASSERT_TRUE(db.Open(book));
+    ASSERT_TRUE(db.Open(test::writeRecipeDatabase(
+        folder.filePath(u"Sarne.drc"_s), {u"INSERT INTO Recepty (ID,Nazev,Vlastni) VALUES (1,'Kapr',NULL),"
+                                          "(2,'Úhoř',NULL),(3,'Lín',''),(4,'Siven','nová')"_s})));
     const std::vector<KeptNote> homeless = restoreNotes(db, {{1, u"Kapr"_s, u"a"_s},
                                                              {9, u"Úhoř"_s, u"b"_s},
                                                              {3, u"Lín"_s, u"smazaná"_s},
@@ -88,10 +81,9 @@ TEST_F(NoteStoreTest, NotesComeBackToTheirRecipesInAnotherEdition) {
 class OwnNoteTest : public testing::Test {
   protected:
     void SetUp() override {
-        const QString book = folder.filePath(u"Sarne.drc"_s);
-        test::writeRecipeDatabase(book,
-                                  {u"INSERT INTO Recepty (ID,Nazev,Vlastni) VALUES (5,'Kapr','stará')"_s});
-        ASSERT_TRUE(db.Open(book));
+        ASSERT_TRUE(db.Open(test::writeRecipeDatabase(
+            folder.filePath(u"Sarne.drc"_s),
+            {u"INSERT INTO Recepty (ID,Nazev,Vlastni) VALUES (5,'Kapr','stará')"_s})));
         recipe = db.OpenTable(u"Recepty"_s);
     }
 

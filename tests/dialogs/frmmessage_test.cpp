@@ -80,8 +80,7 @@ TEST_F(MessageTest, BeepsAnnouncesAndWraps) {
 }
 
 TEST_F(MessageTest, F1OpensHelpAndTheQuestionStays) {
-    auto* below = new Form(run, u"frmHlavni"_s);
-    run.PushScreen(*below);
+    run.openAbove("frmHlavni");
     ask("Chcete ukončit program?  ", 36, [&] {
         QTest::keyClick(run.window.focusWidget(), Qt::Key_F1);
         EXPECT_TRUE(box->isVisible());

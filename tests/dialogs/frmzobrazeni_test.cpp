@@ -20,7 +20,7 @@ class ZobrazeniTest : public testing::Test {
     }
 
     FakeSarne sarne;
-    Form& screen = *new Form(sarne, QStringLiteral("frmStranka"));
+    Form& screen = *new Form(sarne, u"frmStranka"_s);
     Eyes& eyes = sarne.window.eyes();
 };
 
@@ -48,11 +48,11 @@ TEST_F(ZobrazeniTest, EveryChoiceHoldsAtOnceByKeyboardAlone) {
 }
 
 TEST_F(ZobrazeniTest, KeysChangeTheSizeAndTextsAreLaidOutLarger) {
-    TextView view(screen, QStringLiteral("picText"));
+    TextView view(screen, u"picText"_s);
     view.place({100, 100, 3000, 3000});
     const auto height = [&] {
         view.Cls();
-        view.drawPlainText(QStringLiteral("Kapr se na kmíně peče zvolna a podlévá se vývarem."));
+        view.drawPlainText(u"Kapr se na kmíně peče zvolna a podlévá se vývarem."_s);
         return view.contentHeight();
     };
     screen.showForm();
@@ -60,7 +60,7 @@ TEST_F(ZobrazeniTest, KeysChangeTheSizeAndTextsAreLaidOutLarger) {
     press(screen, Qt::Key_Plus, Qt::ControlModifier);
     press(screen, Qt::Key_Plus, Qt::ControlModifier);
     press(screen, Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_EQ(sarne.announced.last(), QStringLiteral("Velikost textů 150 %"));
+    EXPECT_EQ(sarne.announced.last(), u"Velikost textů 150 %"_s);
     EXPECT_GE(height(), before * 3 / 2);
     press(screen, Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_EQ(eyes.textPercent(), 125);
@@ -77,9 +77,9 @@ TEST_F(ZobrazeniTest, ADialogGrowsWithItsTextsAsFarAsTheDisplayGoes) {
                  {{1500, 1500, 10000, 6000}, {800, 480}},  // as wide as the display
                  {{0, 0, 12000, 9000}, {800, 600}}};
     for (const auto& c : cases) {
-        Form dialog(sarne, QStringLiteral("frmMessage"));
+        Form dialog(sarne, u"frmMessage"_s);
         dialog.place(c.place);
-        Button button(dialog, QStringLiteral("cmdBtn(0)"));
+        Button button(dialog, u"cmdBtn(0)"_s);
         button.place({300, 300, 1500, 600});
         eyes.setTextPercent(150);
         EXPECT_EQ(dialog.size(), c.pixels);
@@ -93,8 +93,8 @@ TEST_F(ZobrazeniTest, ADialogGrowsWithItsTextsAsFarAsTheDisplayGoes) {
 }
 
 TEST_F(ZobrazeniTest, ATextGrowsAsFarAsItsRoomAndNeverShrinks) {
-    const TextFont font{QStringLiteral("Arial"), 12};
-    const QString text = QStringLiteral("Nákupní seznam");
+    const TextFont font{u"Arial"_s, 12};
+    const QString text = u"Nákupní seznam"_s;
     const QSize designed = Label::measure(text, font), larger = Label::measure(text, {font.name, 18});
     const auto grown = [&](QSize room, int flags = 0) {
         return RoomToGrow().of(font, 1.5, text, room, flags);

@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
-#include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include "disc/commands/ask.h"
@@ -11,6 +8,8 @@
 #include "disc/commands/commands.h"
 #include "disc/commands/tellproblems.h"
 #include "disc/ownfiles.h"
+#include "support/files.h"
+#include "support/pictures.h"
 
 namespace sarne::disc {
 namespace {
@@ -24,13 +23,9 @@ class AuthorTest : public testing::Test {
     QString path(const char* name) const { return folder() + u'/' + QString::fromUtf8(name); }
 
     void replace(const char* file, const char* from, const char* to) const {
-        QFile opened(path(file));
-        ASSERT_TRUE(opened.open(QIODevice::ReadWrite));
-        QByteArray text = opened.readAll();
+        QByteArray text = test::bytesOf(path(file));
         ASSERT_TRUE(text.contains(from)) << from;
-        opened.resize(0);
-        opened.seek(0);
-        opened.write(text.replace(from, to));
+        ASSERT_TRUE(test::write(path(file), text.replace(from, to)));
     }
 
     /// All errors, with their lines and columns.
@@ -100,13 +95,6 @@ TEST(AskTest, UntilThereIsAnAnswerOrTheInputEnds) {
     EXPECT_EQ(asked(u"šest"_s), u"/1"_s) << "the input ends";
 }
 
-QString run(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished();
-    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
-}
-
 /// A new disc without a finished one to take from: photo, recording and film are the author's own.
 TEST(OwnFilesTest, ADiscIsBuiltOfThem) {
     const QTemporaryDir folder;
@@ -119,23 +107,17 @@ TEST(OwnFilesTest, ADiscIsBuiltOfThem) {
     for (int x = 0; x < 400; ++x)
         for (int y = 0; y < 300; ++y) photo.setPixelColor(x, y, Qt::red);
     ASSERT_TRUE(photo.save(content + u"recepty/01-smazenice.PNG"_s));
-    QFile recipe(content + u"recepty/01-smazenice.txt"_s);
-    ASSERT_TRUE(recipe.open(QIODevice::ReadWrite));
-    const QByteArray text = recipe.readAll();
-    recipe.seek(0);
-    recipe.write(QByteArray(text).replace("porce: 4\n", "porce: 4\nvýřez: 5 50\n"));
-    recipe.close();
-    const QString tone = u"sine=frequency=300:duration=1"_s;
-    run(u"ffmpeg"_s,
-        {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, tone, content + u"recepty/01-smazenice.mp3"_s});
-    run(u"ffmpeg"_s,
-        {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, tone, content + u"zvuky/hudba.ogg"_s});
+    const QString recipe = content + u"recepty/01-smazenice.txt"_s;
+    ASSERT_TRUE(test::write(recipe, test::bytesOf(recipe).replace("porce: 4\n", "porce: 4\nvýřez: 5 50\n")));
+    const auto make = [&](const QString& source, const QString& file) {
+        test::output(u"ffmpeg"_s,
+                     {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, source, content + file});
+    };
+    ASSERT_TRUE(test::write(content + u"videa.txt"_s, "1 | Jak na houby\n"));
     QDir().mkpath(content + u"videa"_s);
-    run(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
-                      u"testsrc=size=320x180:rate=10:duration=1"_s, content + u"videa/1.mp4"_s});
-    QFile films(content + u"videa.txt"_s);
-    ASSERT_TRUE(films.open(QIODevice::WriteOnly) && films.write("1 | Jak na houby\n") > 0);
-    films.close();
+    make(u"sine=frequency=300:duration=1"_s, u"recepty/01-smazenice.mp3"_s);
+    make(u"sine=frequency=300:duration=1"_s, u"zvuky/hudba.ogg"_s);
+    make(u"testsrc=size=320x180:rate=10:duration=1"_s, u"videa/1.mp4"_s);
 
     Project project = projectIn(disc);
     project.base.clear();
@@ -152,10 +134,10 @@ TEST(OwnFilesTest, ADiscIsBuiltOfThem) {
     EXPECT_TRUE(QFile::exists(disc + u"/hotovo/disc/zvuky/č1.ogg"_s));
     EXPECT_TRUE(QFile::exists(disc + u"/hotovo/disc/HUDBA.opus"_s));
     EXPECT_TRUE(QFile::exists(disc + u"/hotovo/program/Sarne.rcc"_s));
-    EXPECT_EQ(run(u"ffprobe"_s, {u"-v"_s, u"error"_s, u"-select_streams"_s, u"v"_s, u"-show_entries"_s,
-                                 u"stream=width,height,codec_name"_s, u"-of"_s, u"csv=p=0"_s,
-                                 disc + u"/hotovo/disc/VIDEO/1.mkv"_s}),
-              u"h264,800,600"_s);
+    EXPECT_EQ(test::output(u"ffprobe"_s, {u"-v"_s, u"error"_s, u"-select_streams"_s, u"v"_s,
+                                          u"-show_entries"_s, u"stream=width,height,codec_name"_s, u"-of"_s,
+                                          u"csv=p=0"_s, disc + u"/hotovo/disc/VIDEO/1.mkv"_s}),
+              u"h264,800,600\n"_s);
     // Unchanged, nothing is made again, wherever the disc is moved to.
     const QString moved = folder.filePath(u"jinde"_s);
     ASSERT_TRUE(QDir().rename(disc, moved));
@@ -177,8 +159,7 @@ TEST(OwnFilesTest, APictureThatNothingReadsIsTold) {
     const QString png = folder.filePath(u"foto.png"_s);
     const QString heic = folder.filePath(u"foto.heic"_s);
     EXPECT_EQ(whyUnreadable(png), u"obrázek nejde přečíst"_s);
-    QImage photo(64, 48, QImage::Format_RGB32);
-    photo.fill(Qt::red);
+    const QImage photo = test::plain({64, 48}, Qt::red);
     ASSERT_TRUE(photo.save(png));
     EXPECT_EQ(whyUnreadable(png), QString());
     const QString jpeg = folder.filePath(u"foto.jpg"_s);
@@ -189,7 +170,7 @@ TEST(OwnFilesTest, APictureThatNothingReadsIsTold) {
         EXPECT_TRUE(whyUnreadable(cut).contains(u"není celý"_s)) << cut.toStdString();
     }
     ASSERT_TRUE(photo.save(png));
-    run(u"heif-enc"_s, {png, u"-o"_s, heic});
+    test::output(u"heif-enc"_s, {png, u"-o"_s, heic});
     if (!QFile::exists(heic)) GTEST_SKIP() << "nothing here writes HEIC";
     EXPECT_EQ(whyUnreadable(heic), QString());
     EXPECT_EQ(readPicture(heic).size(), photo.size());

@@ -6,7 +6,9 @@
 #include "disc/readtables.h"
 #include "disc/recipefacts.h"
 #include "disc/typography.h"
+#include "medialines.h"
 #include "smallcookbook.h"
+#include "support/files.h"
 
 namespace sarne::disc {
 namespace {
@@ -22,44 +24,27 @@ class ReadingTest : public testing::Test {
     Problems problems_;
 };
 
-struct LineCase {
-    const char* text;
-    const char* ingredient;
-    double amount;
-    const char* unit;
-    double spoons;
-    const char* spoonUnit;
-    const char* alternative;
-};
-
-void PrintTo(const LineCase& one, std::ostream* out) {
-    *out << one.text;
-}
-
-class IngredientLineTest : public ReadingTest, public testing::WithParamInterface<LineCase> {};
-
-TEST_P(IngredientLineTest, GivesBothUnitSystems) {
-    const LineCase& wanted = GetParam();
+TEST_F(ReadingTest, AnIngredientLineGivesBothUnitSystems) {
     const Cookbook book = load();
-    const Line line{{u"f"_s, 1}, QString::fromUtf8(wanted.text)};
-    const IngredientLine read = readIngredientLine(line, book, problems_);
-    ASSERT_FALSE(problems_.hasErrors()) << problems_.errors().join(u'\n').toStdString();
-    EXPECT_EQ(book.ingredient(read.ingredient)->name, QString::fromUtf8(wanted.ingredient));
-    EXPECT_DOUBLE_EQ(read.amount, wanted.amount);
-    EXPECT_EQ(book.unit(read.unit)->name, QString::fromUtf8(wanted.unit));
-    EXPECT_DOUBLE_EQ(read.spoonAmount, wanted.spoons);
-    EXPECT_EQ(book.unit(read.spoonUnit)->name, QString::fromUtf8(wanted.spoonUnit));
-    const Ingredient* alternative = book.ingredient(read.alternative);
-    EXPECT_EQ(alternative ? alternative->name : QString(), QString::fromUtf8(wanted.alternative));
+    const std::pair<const char*, const char*> cases[] = {
+        {"máslo: 60 g = 4 lžíce, nebo sádlo", "máslo|60 g|4 lžíce|sádlo"},
+        {"pstruh, celý: 600 gramů = 2 kus", "pstruh|600 g|2 ks|"},
+        {"mouka: 7,5 g = 0,75 lžíci", "mouka|7.5 g|0.75 lžíce|"},
+        {"citron: 1 ks", "citron|1 ks|1 ks|"},
+        {"sůl: podle chuti", "sůl|0 podle chuti|0 podle chuti|"}};
+    for (const auto& [text, wanted] : cases) {
+        const IngredientLine read = readIngredientLine(linesOf(text).first(), book, problems_);
+        ASSERT_EQ(problems_.errors(), QStringList()) << text;
+        const auto amount = [&](double number, int unit) {
+            return u"%1 %2|"_s.arg(number).arg(book.unit(unit)->name);
+        };
+        const Ingredient* alternative = book.ingredient(read.alternative);
+        EXPECT_EQ(book.ingredient(read.ingredient)->name + u'|' + amount(read.amount, read.unit) +
+                      amount(read.spoonAmount, read.spoonUnit) +
+                      (alternative ? alternative->name : QString()),
+                  QString::fromUtf8(wanted));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Lines, IngredientLineTest,
-    testing::Values(LineCase{"máslo: 60 g = 4 lžíce, nebo sádlo", "máslo", 60, "g", 4, "lžíce", "sádlo"},
-                    LineCase{"pstruh, celý: 600 gramů = 2 kus", "pstruh", 600, "g", 2, "ks", ""},
-                    LineCase{"mouka: 7,5 g = 0,75 lžíci", "mouka", 7.5, "g", 0.75, "lžíce", ""},
-                    LineCase{"citron: 1 ks", "citron", 1, "ks", 1, "ks", ""},
-                    LineCase{"sůl: podle chuti", "sůl", 0, "podle chuti", 0, "podle chuti", ""}));
 
 TEST_F(ReadingTest, CommentsAndBlankLinesKeepTheLineNumbers) {
     ASSERT_TRUE(small_.replace(u"suroviny.txt"_s, u"máslo"_s, u"; poznámka\n\nmáslo"_s));
@@ -103,11 +88,8 @@ TEST_F(ReadingTest, MenuListsFollowTheirTags) {
 }
 
 TEST_F(ReadingTest, SpoonTableComesFromTheWeights) {
-    QDir().mkpath(small_.path(u"tabulky"_s));
-    QFile table(small_.path(u"tabulky/5.txt"_s));
-    ASSERT_TRUE(table.open(QIODevice::WriteOnly));
-    table.write("5 | Lžíce\nSurovina | Lžička | Lžíce | Hrnek\nVoda | 5 g | 15 g | 250 g\n");
-    table.close();
+    ASSERT_TRUE(test::write(small_.path(u"tabulky/5.txt"_s),
+                            "5 | Lžíce\nSurovina | Lžička | Lžíce | Hrnek\nVoda | 5 g | 15 g | 250 g\n"));
     const Cookbook book = load();
     const LookupTable& spoons = book.tables.last();
     ASSERT_EQ(spoons.rows.size(), 3);
@@ -199,22 +181,16 @@ class FactsTest : public testing::Test {
 TEST_F(FactsTest, SayWhatTheHeadKnows) {
     Recipe& recipe = book_.recipes[6];
     EXPECT_EQ(text(factLine(recipe)), "Příprava 10 min · vaření 15 min · 2 porce · snadné");
+    EXPECT_EQ(methodHeading(recipe), u"Postup pro 2 porce"_s);
     recipe.ahead = u"12 hodin v chladu"_s;
     recipe.portions = 6;
     recipe.cooking = 0;
     EXPECT_EQ(text(factLine(recipe)), "Příprava 10 min · předem: 12 hodin v chladu · 6 porcí · snadné");
+    EXPECT_EQ(methodHeading(recipe), u"Postup pro 6 porcí"_s);
+    recipe.portions = 1;
+    EXPECT_EQ(methodHeading(recipe), u"Postup pro 1 porci"_s);
     recipe.preparation = 0;
     EXPECT_EQ(text(factLine(recipe)), "");
-}
-
-TEST_F(FactsTest, TheMethodSaysForHowMany) {
-    Recipe recipe;
-    for (const auto& [count, heading] :
-         {std::pair(1, "Postup pro 1 porci"), std::pair(4, "Postup pro 4 porce"),
-          std::pair(5, "Postup pro 5 porcí"), std::pair(12, "Postup pro 12 porcí")}) {
-        recipe.portions = count;
-        EXPECT_EQ(methodHeading(recipe).toStdString(), heading);
-    }
 }
 
 TEST_F(FactsTest, APortionIsReckonedFromTheWeights) {

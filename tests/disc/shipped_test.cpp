@@ -20,15 +20,14 @@ class ShippedTest : public testing::Test {
         const ContentFolder content(QStringLiteral(SARNE_CONTENT), problems);
         const Cookbook book = loadCookbook(content, problems);
         proofread(content, book, problems);
-        writeRecipeDatabase(book, folder_->filePath(QStringLiteral("Sarne.drc")), problems,
-                            QStringLiteral("abc"));
+        writeRecipeDatabase(book, folder_->filePath(u"Sarne.drc"_s), problems, u"abc"_s);
         errors_ = problems.errors().join(u'\n').toStdString();
     }
     static void TearDownTestSuite() { delete folder_; }
 
     void SetUp() override {
         ASSERT_EQ(errors_, "");
-        ASSERT_TRUE(db_.Open(folder_->filePath(QStringLiteral("Sarne.drc"))));
+        ASSERT_TRUE(db_.Open(folder_->filePath(u"Sarne.drc"_s)));
     }
 
     qint64 count(const QString& query) { return db_.OpenQuery(query).RecordCount(); }
@@ -39,33 +38,33 @@ class ShippedTest : public testing::Test {
 };
 
 TEST_F(ShippedTest, HasWhatTheProgramCountsOn) {
-    EXPECT_EQ(count(QStringLiteral("SELECT * FROM Recepty")), 50);
-    EXPECT_EQ(count(QStringLiteral("SELECT * FROM Nastav")), 5);
-    EXPECT_GE(count(QStringLiteral("SELECT * FROM IndexHesla WHERE id < 800")), 130);
-    EXPECT_GE(count(QStringLiteral("SELECT * FROM Odkazy")), 16);
-    EXPECT_EQ(count(QStringLiteral("SELECT * FROM IndexHesla, Odkazy WHERE IndexHesla.id = Odkazy.id + 800")),
-              count(QStringLiteral("SELECT * FROM Odkazy")));
-    EXPECT_GE(count(QStringLiteral("SELECT * FROM Vino")), 25);
-    EXPECT_GE(count(QStringLiteral("SELECT * FROM RychleRecepty")), 30);
-    EXPECT_GE(count(QStringLiteral("SELECT * FROM Help")), 15);
-    EXPECT_GE(count(QStringLiteral("SELECT * FROM Suroviny WHERE Polozka LIKE 'kap*'")), 3);
-    EXPECT_EQ(count(QStringLiteral("SELECT * FROM Menu WHERE ID LIKE '0*'")), 0);
+    EXPECT_EQ(count(u"SELECT * FROM Recepty"_s), 50);
+    EXPECT_EQ(count(u"SELECT * FROM Nastav"_s), 5);
+    EXPECT_GE(count(u"SELECT * FROM IndexHesla WHERE id < 800"_s), 130);
+    EXPECT_GE(count(u"SELECT * FROM Odkazy"_s), 16);
+    EXPECT_EQ(count(u"SELECT * FROM IndexHesla, Odkazy WHERE IndexHesla.id = Odkazy.id + 800"_s),
+              count(u"SELECT * FROM Odkazy"_s));
+    EXPECT_GE(count(u"SELECT * FROM Vino"_s), 25);
+    EXPECT_GE(count(u"SELECT * FROM RychleRecepty"_s), 30);
+    EXPECT_GE(count(u"SELECT * FROM Help"_s), 15);
+    EXPECT_GE(count(u"SELECT * FROM Suroviny WHERE Polozka LIKE 'kap*'"_s), 3);
+    EXPECT_EQ(count(u"SELECT * FROM Menu WHERE ID LIKE '0*'"_s), 0);
     for (const auto& [fact, value] :
          {std::pair{"Vydani", "1"}, {"Otisk", "abc"}, {"Skupina3", "Slavnostní mísy"}})
         EXPECT_EQ(bookFact(db_, QLatin1String(fact)), QString::fromUtf8(value)) << fact;
 }
 
 TEST_F(ShippedTest, EveryTextIsADocumentThatTheRendererReads) {
-    Recordset recipes = db_.OpenTable(QStringLiteral("Recepty"));
+    Recordset recipes = db_.OpenTable(u"Recepty"_s);
     for (recipes.MoveFirst(); !recipes.AtEnd(); recipes.MoveNext()) {
         for (const char* field : {"Recept", "Uvod", "Prezentace", "Poznamka", "vino"}) {
             const QString text = recipes.field(QLatin1String(field)).toString();
-            EXPECT_TRUE(text.startsWith(QStringLiteral("{\\rtf1")) && text.endsWith(u'}')) << field;
+            EXPECT_TRUE(text.startsWith(u"{\\rtf1"_s) && text.endsWith(u'}')) << field;
             EXPECT_EQ(text.count(u'*') % 2, 0) << field;
             EXPECT_EQ(text.count(u'@') % 2, 0) << field;
             EXPECT_EQ(text.count(u'{'), text.count(u'}')) << field;
         }
-        EXPECT_TRUE(recipes.field(QStringLiteral("Vlastni")).isNull());
+        EXPECT_TRUE(recipes.field(u"Vlastni"_s).isNull());
     }
 }
 
@@ -73,21 +72,19 @@ TEST_F(ShippedTest, EveryScreenHasItsHelp) {
     for (const char* screen : {"frmHlavni", "frmMenu", "frmSeznam", "frmRychlyRecept", "frmSit", "frmFotoBig",
                                "frmRecept", "frmVideo", "frmNastavHudbu", "frmSave", "frmPrint", "FrmTabulky",
                                "frmIndex", "frmSponzor", "frmStranka"})
-        EXPECT_EQ(count(QStringLiteral("SELECT * FROM Stranky WHERE Obrazovka LIKE '*%1*'")
-                            .arg(QLatin1String(screen))),
-                  1)
+        EXPECT_EQ(count(u"SELECT * FROM Stranky WHERE Obrazovka LIKE '*%1*'"_s.arg(QLatin1String(screen))), 1)
             << screen;
 }
 
 TEST_F(ShippedTest, NotesSurviveANewEdition) {
-    const QString file = folder_->filePath(QStringLiteral("Own.drc"));
-    ASSERT_TRUE(QFile::copy(folder_->filePath(QStringLiteral("Sarne.drc")), file));
+    const QString file = folder_->filePath(u"Own.drc"_s);
+    ASSERT_TRUE(QFile::copy(folder_->filePath(u"Sarne.drc"_s), file));
     Database own;
     ASSERT_TRUE(own.Open(file));
-    Recordset recipes = own.OpenTable(QStringLiteral("Recepty"));
-    recipes.Seek(QStringLiteral("="), 6);
+    Recordset recipes = own.OpenTable(u"Recepty"_s);
+    recipes.Seek(u"="_s, 6);
     recipes.Edit();
-    recipes.setField(QStringLiteral("Vlastni"), QStringLiteral("víc citronu"));
+    recipes.setField(u"Vlastni"_s, u"víc citronu"_s);
     ASSERT_TRUE(recipes.Update());
     recipes.Close();
     own.Close();
@@ -96,9 +93,9 @@ TEST_F(ShippedTest, NotesSurviveANewEdition) {
     const ContentFolder content(QStringLiteral(SARNE_CONTENT), problems);
     writeRecipeDatabase(loadCookbook(content, problems), file, problems);
     ASSERT_TRUE(own.Open(file));
-    Recordset renewed = own.OpenTable(QStringLiteral("Recepty"));
-    renewed.Seek(QStringLiteral("="), 6);
-    EXPECT_EQ(renewed.field(QStringLiteral("Vlastni")).toString(), QStringLiteral("víc citronu"));
+    Recordset renewed = own.OpenTable(u"Recepty"_s);
+    renewed.Seek(u"="_s, 6);
+    EXPECT_EQ(renewed.field(u"Vlastni"_s).toString(), u"víc citronu"_s);
 }
 
 }  // namespace

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "disc/loadcookbook.h"
 #include "disc/writedatabase.h"
+#include "support/files.h"
 
 namespace sarne::disc {
 
@@ -17,9 +16,8 @@ class SmallCookbook {
         const QDir source(QStringLiteral(SARNE_SMALL_COOKBOOK));
         for (QDirIterator walk(source.path(), QDir::Files, QDirIterator::Subdirectories); walk.hasNext();) {
             const QString file = walk.next();
-            const QString target = path(source.relativeFilePath(file));
-            QDir().mkpath(QFileInfo(target).path());
-            QFile::copy(file, target);
+            if (!test::write(path(source.relativeFilePath(file)), test::bytesOf(file)))
+                qFatal("the cookbook is not copied");
         }
     }
 
@@ -27,14 +25,9 @@ class SmallCookbook {
 
     /// Replaces \a from by \a to once; false when the file does not have it.
     bool replace(const QString& file, const QString& from, const QString& to) {
-        QFile opened(path(file));
-        if (!opened.open(QIODevice::ReadOnly)) return false;
-        QString text = QString::fromUtf8(opened.readAll());
-        opened.close();
+        QString text = QString::fromUtf8(test::bytesOf(path(file)));
         const qsizetype at = text.indexOf(from);
-        if (at < 0) return false;
-        text.replace(at, from.size(), to);
-        return opened.open(QIODevice::WriteOnly) && opened.write(text.toUtf8()) >= 0;
+        return at >= 0 && test::write(path(file), text.replace(at, from.size(), to).toUtf8());
     }
 
     /// Everything that the builder has to say about it, errors and what a release would refuse.

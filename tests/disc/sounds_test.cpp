@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cmath>
@@ -13,6 +11,7 @@
 #include "disc/sounds/music.h"
 #include "disc/sounds/voice.h"
 #include "medialines.h"
+#include "support/files.h"
 
 namespace sarne::disc {
 namespace {
@@ -224,9 +223,7 @@ TEST(Sounds, FilesKeepTheSoundAndOthersAreNone) {
     trimSilence(sound, -40, 0);
     EXPECT_EQ(sound.samples, (std::vector<float>{0.5F, -0.5F}));
     EXPECT_FALSE(writeWav(folder.filePath(u"neni/zvuk.wav"_s), sound));
-    QFile text(file);
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("RIFFxxxxWAVEfmt ") > 0);
-    text.close();
+    ASSERT_TRUE(test::write(file, "RIFFxxxxWAVEfmt "));
     EXPECT_TRUE(readWav(file).samples.empty());
     EXPECT_TRUE(readWav(folder.filePath(u"neni.wav"_s)).samples.empty());
 }
@@ -332,8 +329,8 @@ TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
     for (const auto& [name, seconds] : packed) {
         const QString wave = folder.filePath(u"zpět.wav"_s);
         QFile::remove(wave);
-        QProcess::execute(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-i"_s,
-                                        folder.filePath(u"disc/"_s + QString::fromUtf8(name)), wave});
+        test::output(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-i"_s,
+                                   folder.filePath(u"disc/"_s + QString::fromUtf8(name)), wave});
         EXPECT_NEAR(readWav(wave).seconds(), seconds, 0.001) << name;
         EXPECT_GT(peakOf(readWav(wave)), 0.1) << name;
     }

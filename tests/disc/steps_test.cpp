@@ -5,7 +5,9 @@
 #include "disc/season.h"
 #include "kitchen/goods.h"
 #include "kitchen/steps.h"
+#include "medialines.h"
 #include "smallcookbook.h"
+#include "support/files.h"
 
 namespace sarne::disc {
 namespace {
@@ -24,22 +26,20 @@ QString stepsOf(const Cookbook& book) {
     return steps.join(u" | "_s);
 }
 
-struct MarkedMethod {
-    const char* marks;    ///< put behind "na másle" of the second step
-    const char* serving;  ///< put behind "citronem" of the serving
-    const char* steps;
-};
-
 TEST(StepsTest, TakeWhatTheMethodSaysAndElseAllAtOnce) {
     // pstruh, máslo 60 g = 4 lžíce, mouka, citron, víno, sůl
-    const MarkedMethod cases[] = {
+    const struct {
+        const char* marks;    // put behind "na másle" of the second step
+        const char* serving;  // put behind "citronem" of the serving
+        const char* steps;
+    } cases[] = {
         {"", "", "0:1 2:1 5:1 | 1:1 4:1 | 3:1"},
         {" {máslo: polovina} {máslo: zbytek}", "", "0:1 2:1 5:1 | 1:1 4:1 | 3:1"},
         {" {máslo: 1 lžíce}", " {máslo: tři čtvrtiny}", "0:1 2:1 5:1 | 1:0.25 4:1 | 1:0.75 3:1"},
         {" {máslo: 40 g}", " {máslo: zbytek}", "0:1 2:1 5:1 | 1:0.667 4:1 | 1:0.333 3:1"},
         {"", " {mouka: vše}", "0:1 5:1 | 1:1 4:1 | 2:1 3:1"},
     };
-    for (const MarkedMethod& one : cases) {
+    for (const auto& one : cases) {
         SmallCookbook small;
         ASSERT_TRUE(
             small.replace(kRecipe, u"pánvi na másle"_s, u"pánvi na másle"_s + QString::fromUtf8(one.marks)));
@@ -54,12 +54,10 @@ TEST(StepsTest, TakeWhatTheMethodSaysAndElseAllAtOnce) {
     }
 }
 
-struct WrongMark {
-    const char *mark, *message;
-};
-
 TEST(StepsTest, WhatDoesNotAddUpIsReportedAtItsLine) {
-    const WrongMark cases[] = {
+    const struct {
+        const char *mark, *message;
+    } cases[] = {
         {"{máslo: polovina}", "recepty/06-pstruh.txt:20: podíly suroviny „máslo“ v postupu dávají 50 %"},
         {"{máslo: 5 lžíce}", "recepty/06-pstruh.txt:20: podíly suroviny „máslo“ v postupu dávají 125 %"},
         {"{máslo: vše} {máslo: zbytek}", ": „zbytek“ není podíl suroviny „máslo“"},
@@ -68,7 +66,7 @@ TEST(StepsTest, WhatDoesNotAddUpIsReportedAtItsLine) {
         {"{máslo}", ": podíl není „surovina: podíl“: „máslo“"},
         {"{máslo: vše", ": závorka podílu nekončí na témže řádku"},
     };
-    for (const WrongMark& one : cases) {
+    for (const auto& one : cases) {
         SmallCookbook small;
         ASSERT_TRUE(
             small.replace(kRecipe, u"pánvi na másle"_s, u"pánvi na másle "_s + QString::fromUtf8(one.mark)));
@@ -88,12 +86,10 @@ TEST(SeasonTest, IsASetOfMonths) {
 
 TEST(GoodsTest, AreReadAndReachTheBook) {
     SmallCookbook small;
-    QFile file(small.path(u"obchod.txt"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(
-        "== Ryby\npstruh\n== Mléčné\nmáslo, sádlo, slon\n== Suché\nmouka, máslo\n== Doma\nsůl\n"
-        "== Úpravy\ncelý\n== Výtěžnost\ncelý: 100 %\nsůl: 5\n");
-    file.close();
+    ASSERT_TRUE(
+        test::write(small.path(u"obchod.txt"_s),
+                    "== Ryby\npstruh\n== Mléčné\nmáslo, sádlo, slon\n== Suché\nmouka, máslo\n== Doma\nsůl\n"
+                    "== Úpravy\ncelý\n== Výtěžnost\ncelý: 100 %\nsůl: 5\n"));
     const QString all = small.complaints().join(u'\n');
     for (const char* message :
          {"obchod.txt:4: „slon“ není v seznamu", "obchod.txt:5: „máslo“ je už v jiném oddělení",
@@ -133,11 +129,7 @@ class MarkupTest : public testing::Test {
 
     /// The body of the RTF of \a text: what stands behind the header.
     std::string body(const char* text) {
-        Lines lines;
-        int number = 0;
-        for (const QString& line : QString::fromUtf8(text).split(u'\n'))
-            lines << Line{{u"f"_s, ++number}, line};
-        const QString rtf = toRtf(lines, {}, links_, problems_);
+        const QString rtf = toRtf(linesOf(text), {}, links_, problems_);
         const QString start = u"\\lang1029 "_s;
         QString rest = rtf.mid(rtf.indexOf(start) + start.size());
         rest.remove(u"\\fs10 \\par\r\n\\fs24 "_s);

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDateTime>
-#include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include "disc/loadcookbook.h"
@@ -12,6 +10,8 @@
 #include "disc/videos/makevideos.h"
 #include "disc/videos/projector.h"
 #include "medialines.h"
+#include "support/files.h"
+#include "support/pictures.h"
 
 namespace sarne::disc {
 namespace {
@@ -159,11 +159,9 @@ TEST(Scripts, ThoseThatShipAreFaultless) {
 TEST(Projection, FramesAreTheSameInWhateverOrderTheyAreDrawn) {
     Problems problems;
     QTemporaryDir art;
-    QDir(art.path()).mkpath(u"rendered/film"_s);
-    QImage fish(400, 200, QImage::Format_ARGB32);
-    fish.fill(QColor(200, 40, 40));
     for (const char* name : {"ryba.png", "nuz.png"})
-        ASSERT_TRUE(fish.save(art.filePath(u"rendered/film/"_s + QLatin1String(name))));
+        ASSERT_TRUE(test::write(art.filePath(u"rendered/film/"_s + QLatin1String(name)),
+                                test::plain({400, 200}, QColor(200, 40, 40))));
     const std::string layers = QString::fromUtf8(kLayers).replace(u"webp"_s, u"png"_s).toStdString();
     const Cast cast = readCast(linesOf(kRoles), readLayers(linesOf(layers.c_str()), problems), problems);
     const Script script =
@@ -200,26 +198,21 @@ class MakeVideos : public testing::Test {
         "ryba jde dolů o 2 cm, 4 s, zní cinknutí\n";
 
     void SetUp() override {
-        for (const char* folder :
-             {"content/videa", "content/zvuky", "art/rendered/film", "art/rendered/pozadi"})
-            QDir().mkpath(folder_.filePath(QLatin1String(folder)));
         write("content/videa/uvod.txt", kFilm);
         write("content/videa/obsazeni.txt", "== ryba, rybě | jídlo\nvzhled: celá = ryba\n");
         write("content/zvuky/efekty.txt", "== 0 | cinknutí | 0,5\núder látka=sklo výška=2000 doznění=0,1\n");
         write("content/slovnik.txt", "\n");
         write("art/rendered/film/veci.txt", "ryba ryba.png 400 200 200 100 380 100\n");
-        QImage fish(400, 200, QImage::Format_RGB32);
-        fish.fill(QColor(220, 160, 60));
-        ASSERT_TRUE(fish.save(folder_.filePath(u"art/rendered/film/ryba.png"_s)));
-        ASSERT_TRUE(fish.save(folder_.filePath(u"art/rendered/pozadi/stranka.jpg"_s)));
+        for (const char* picture : {"art/rendered/film/ryba.png", "art/rendered/pozadi/stranka.jpg"})
+            ASSERT_TRUE(test::write(folder_.filePath(QLatin1String(picture)),
+                                    test::plain({400, 200}, QColor(220, 160, 60))));
         for (const QString& source : Voices::sources({}))
             ASSERT_TRUE(
                 QFile::copy(QStringLiteral(SARNE_CONTENT) + source, folder_.filePath(u"content"_s) + source));
     }
 
     void write(const char* file, const std::string& text) {
-        QFile out(folder_.filePath(QLatin1String(file)));
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly) && out.write(text.c_str()) > 0);
+        ASSERT_TRUE(test::write(folder_.filePath(QLatin1String(file)), text.c_str()));
     }
 
     QStringList run(DiscKind kind = DiscKind::Full) {
@@ -240,10 +233,7 @@ class MakeVideos : public testing::Test {
 
     /// What \a program says of \a files with the \a options.
     static QString output(const QString& program, const char* options, const QStringList& files) {
-        QProcess process;
-        process.start(program, QString::fromLatin1(options).split(u' ') + files);
-        process.waitForFinished();
-        return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+        return test::output(program, QString::fromLatin1(options).split(u' ') + files).trimmed();
     }
 
     QString film() const { return folder_.filePath(u"disc/VIDEO/UVOD.AVI"_s); }
@@ -271,9 +261,7 @@ TEST_F(MakeVideos, HavePictureSoundAndChaptersAndAreMadeOnce) {
     EXPECT_GT(qRed(frame.pixel(400, 230)), qBlue(frame.pixel(400, 230)) + 60);
     EXPECT_GT(qBlue(frame.pixel(60, 540)), 170);
 
-    QFile chapters(folder_.filePath(u"disc/VIDEO/UVOD.KAP"_s));
-    ASSERT_TRUE(chapters.open(QIODevice::ReadOnly));
-    EXPECT_EQ(QString::fromUtf8(chapters.readAll()).toStdString(),
+    EXPECT_EQ(test::bytesOf(folder_.filePath(u"disc/VIDEO/UVOD.KAP"_s)),
               "0.00\tPrvní kapitola\n4.70\tDruhá kapitola\n");
 
     const QDateTime made = QFileInfo(film()).lastModified();

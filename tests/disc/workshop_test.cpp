@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QImage>
 #include <QResource>
 #include <QTemporaryDir>
 
@@ -15,17 +12,19 @@
 #include "disc/screenpictures.h"
 #include "disc/sounds/makesounds.h"
 #include "disc/workshop.h"
+#include "support/files.h"
+#include "support/pictures.h"
 
 namespace sarne::disc {
 namespace {
 
 class WorkshopTest : public testing::Test {
   protected:
-    QString path(const char* name) const { return folder_.filePath(QLatin1String(name)); }
-
-    static bool write(const QString& file, const char* text) {
-        QFile out(file);
-        return out.open(QIODevice::WriteOnly) && out.write(text) >= 0;
+    QString path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
+    std::string errors() const { return problems_.errors().join(u'\n').toStdString(); }
+    void write(const char* file, const char* text) { ASSERT_TRUE(test::write(path(file), text)); }
+    void draw(const char* file, const QColor& colour, QSize size = {160, 120}) {
+        ASSERT_TRUE(test::write(path(file), test::plain(size, colour)));
     }
 
     /// One run of the builder that makes "sub/made" from "source"; how often it was made.
@@ -36,7 +35,7 @@ class WorkshopTest : public testing::Test {
         const QString output = path("sub/made");
         shop.make(output, originOf({path("source")}, u"1"_s), [&] {
             ++made;
-            return write(output, "made");
+            return test::write(output, "made");
         });
         ledger.save();
         return made;
@@ -48,10 +47,10 @@ class WorkshopTest : public testing::Test {
 };
 
 TEST_F(WorkshopTest, MakesOnlyWhatChanged) {
-    ASSERT_TRUE(write(path("source"), "first"));
+    write("source", "first");
     EXPECT_EQ(run(), 1);
     EXPECT_EQ(run(), 0);
-    ASSERT_TRUE(write(path("source"), "another length"));
+    write("source", "another length");
     EXPECT_EQ(run(), 1);
     QFile::remove(path("sub/made"));
     EXPECT_EQ(run(), 1);
@@ -60,7 +59,7 @@ TEST_F(WorkshopTest, MakesOnlyWhatChanged) {
 }
 
 TEST_F(WorkshopTest, WhatIsNoLongerWantedIsDeleted) {
-    ASSERT_TRUE(write(path("source"), "first"));
+    write("source", "first");
     EXPECT_EQ(run(), 1);
     Ledger ledger(path("ledger"));
     ledger.sweep();
@@ -70,7 +69,7 @@ TEST_F(WorkshopTest, WhatIsNoLongerWantedIsDeleted) {
 TEST_F(WorkshopTest, WhatFailedIsTriedAgain) {
     Ledger ledger(path("ledger"));
     Workshop shop{book_, {}, {}, {}, {}, {}, ledger, problems_};
-    ASSERT_TRUE(write(path("made"), "left over"));
+    write("made", "left over");
     int tries = 0;
     for (int i = 0; i < 2; ++i) EXPECT_FALSE(shop.make(path("made"), u"1"_s, [&] { return ++tries < 0; }));
     EXPECT_EQ(tries, 2);
@@ -87,20 +86,12 @@ class PhotosTest : public WorkshopTest {
             recipe.name = u"Jídlo %1"_s.arg(id);
             recipe.place = {u"recepty/%1.txt"_s.arg(id), 1};
         }
-        QDir().mkpath(path("art/dishes"));
-        write(path("art/dishes/06.dish"), "name Jídlo 6\n");
-        write(path("art/dishes/07.dish"), "name Jídlo 5\n");
+        write("art/dishes/06.dish", "name Jídlo 6\n");
+        write("art/dishes/07.dish", "name Jídlo 5\n");
         for (const char* file : {"art/rendered/dishes/06.jpg", "art/rendered/dishes/07.jpg", "recepty/8.png"})
-            draw(file, Qt::red);
+            draw(file, Qt::red, {1600, 1200});
         for (const char* file : {"art/rendered/pozadi/sit.jpg", "art/rendered/prvky/vino256.jpg"})
-            draw(file, Qt::black);
-    }
-
-    void draw(const char* file, const QColor& colour) {
-        QDir().mkpath(QFileInfo(path(file)).path());
-        QImage picture(1600, 1200, QImage::Format_RGB32);
-        picture.fill(colour);
-        picture.save(path(file), nullptr, 100);
+            draw(file, Qt::black, {1600, 1200});
     }
 
     /// The colour in the middle of a picture of the disc, or of a cell of the grid.
@@ -117,7 +108,7 @@ class PhotosTest : public WorkshopTest {
 };
 
 TEST_F(PhotosTest, ThingsOfTheFilmsStandBesideKeywordsAsTheyAre) {
-    draw("art/rendered/film/kapr.webp", Qt::red);
+    draw("art/rendered/film/kapr.webp", Qt::red, {1600, 1200});
     book_.keywordPictures << KeywordPicture{{}, {}, u"kapr"_s, {}, 0};
     makePhotos(shop_);
     EXPECT_EQ(QImage(path("disc/foto/hesla/kapr.webp")).size(), QSize(1600, 1200));
@@ -137,7 +128,7 @@ TEST_F(PhotosTest, AreOfTheRecipesOwnDish) {
         u"recepty/7.txt:1: fotografie 07.jpg ukazuje „Jídlo 5“, ne „Jídlo 7“"_s));
 
     makePhotos(shop_);
-    ASSERT_EQ(problems_.errors().join(u'\n').toStdString(), "");
+    ASSERT_EQ(errors(), "");
     EXPECT_EQ(QImage(path("disc/foto/Velke/r6.bmp")).size(), QSize(1440, 1080));
     EXPECT_EQ(QImage(path("disc/foto/Male/r6.bmp")).size(), QSize(640, 480));
     EXPECT_EQ(QImage(path("disc/foto/Velke/r6.jpg")).size(), QSize(1600, 1200));
@@ -155,43 +146,21 @@ TEST_F(PhotosTest, AreOfTheRecipesOwnDish) {
 TEST_F(PhotosTest, OfTheCompactDiscAreAsFineAsTheirSource) {
     shop_.kind = DiscKind::Compact;
     makePhotos(shop_);
-    ASSERT_EQ(problems_.errors().join(u'\n').toStdString(), "");
-    QFile source(path("art/rendered/dishes/06.jpg"));
-    QFile made(path("disc/foto/Recepty/r6.jpg"));
-    ASSERT_TRUE(source.open(QIODevice::ReadOnly) && made.open(QIODevice::ReadOnly));
-    EXPECT_EQ(source.readAll(), made.readAll()) << "compressed once, not twice";
+    ASSERT_EQ(errors(), "");
+    EXPECT_EQ(test::bytesOf(path("disc/foto/Recepty/r6.jpg")),
+              test::bytesOf(path("art/rendered/dishes/06.jpg")))
+        << "compressed once, not twice";
     EXPECT_EQ(QImage(path("disc/foto/Velke/r8.jpg")).size(), QSize(1600, 1200));
     EXPECT_EQ(QImage(path("disc/foto/Male/r6.jpg")).size(), QSize(640, 480));
     EXPECT_GT(colour("disc/foto/sitCela.jpg", 6).red(), 230);
     EXPECT_LT(colour("disc/foto/sit0.jpg", 6).red(), 120);
-    const QStringList bitmaps = QDir(path("disc/foto/Male")).entryList({u"*.bmp"_s});
-    EXPECT_TRUE(bitmaps.isEmpty());
+    EXPECT_TRUE(QDir(path("disc/foto/Male")).entryList({u"*.bmp"_s}).isEmpty());
 }
 
 /// Builds into a folder of its own from art that the test draws.
-class PackingTest : public testing::Test {
+class PackingTest : public WorkshopTest {
   protected:
-    QString path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
-
-    void draw(const char* file, const QColor& colour) {
-        QDir().mkpath(QFileInfo(path(file)).path());
-        QImage picture(160, 120, QImage::Format_RGB32);
-        picture.fill(colour);
-        ASSERT_TRUE(picture.save(path(file)));
-    }
-
-    void write(const char* file, const char* text) {
-        QDir().mkpath(QFileInfo(path(file)).path());
-        QFile out(path(file));
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly) && out.write(text) >= 0);
-    }
-
-    std::string errors() const { return problems_.errors().join(u'\n').toStdString(); }
-
-    QTemporaryDir folder_;
-    Cookbook book_;
-    Problems problems_;
-    Ledger ledger_{folder_.filePath(u"ledger"_s)};
+    Ledger ledger_{path("ledger")};
     Workshop shop_{book_,        QStringLiteral(SARNE_CONTENT),
                    path("art"),  path("program"),
                    path("disc"), path("scratch"),
@@ -204,18 +173,15 @@ TEST_F(PackingTest, ResourcesAreFoundUnderTheirNames) {
     write("art/layout/hlavni.txt", "0 1 2 3 4\n");
     makeEffects(shop_);
     makeResources(shop_, QStringLiteral(SARNE_RCC));
-    ASSERT_FALSE(problems_.hasErrors()) << problems_.errors().join(u'\n').toStdString();
+    ASSERT_EQ(errors(), "");
 
     const QString file = path("program/Sarne.rcc");
     ASSERT_TRUE(QResource::registerResource(file, u"/packed"_s));
     EXPECT_EQ(QImage(u":/packed/obr/RamVen.png"_s).pixelColor(9, 9), QColor(Qt::red));
     EXPECT_EQ(QImage(u":/packed/pohyby/05-01.png"_s).pixelColor(9, 9), QColor(Qt::green));
     EXPECT_TRUE(QFile::exists(u":/packed/layout/hlavni.txt"_s));
-    for (const int effect : {1, 101, 121}) {
-        QFile sound(u":/packed/zvuky/%1.wav"_s.arg(effect));
-        ASSERT_TRUE(sound.open(QIODevice::ReadOnly)) << effect;
-        EXPECT_EQ(sound.read(4), "RIFF");
-    }
+    for (const int effect : {1, 101, 121})
+        EXPECT_TRUE(test::bytesOf(u":/packed/zvuky/%1.wav"_s.arg(effect)).startsWith("RIFF")) << effect;
     QResource::unregisterResource(file, u"/packed"_s);
     EXPECT_TRUE(isSealed(file)) << "the program takes no other";
 }

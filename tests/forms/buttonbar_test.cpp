@@ -17,24 +17,24 @@ class ButtonBarTest : public testing::Test {
     FakeSarne run;
     QString pressed;
     struct Screen : Form {
-        Screen(basSarne& run, QString& log) : Form(run, QStringLiteral("frmA")), pressed(log) {}
-        void endProgram() override { pressed += QStringLiteral("end"); }
+        Screen(basSarne& run, QString& log) : Form(run, u"frmA"_s), pressed(log) {}
+        void endProgram() override { pressed += u"end"_s; }
         QString& pressed;
     };
     Form* form = new Screen(run, pressed);
-    ButtonBar bar{*form, QStringLiteral("imgBtn"), kFaces, [this](int i) { pressed += QString::number(i); }};
+    ButtonBar bar{*form, u"imgBtn"_s, kFaces, [this](int i) { pressed += QString::number(i); }};
 };
 
 TEST_F(ButtonBarTest, ButtonsHaveNamesCaptionsTipsAndACommand) {
     ASSERT_EQ(bar.count(), 3);
-    EXPECT_EQ(bar[1].objectName(), QStringLiteral("imgBtn(1)"));
-    EXPECT_EQ(bar[1].caption(), QStringLiteral("Foto"));
-    EXPECT_EQ(bar[1].accessibleName(), QStringLiteral("Zobrazí foto"));
-    EXPECT_EQ(bar[2].toolTip(), QStringLiteral("Konec"));
+    EXPECT_EQ(bar[1].objectName(), u"imgBtn(1)"_s);
+    EXPECT_EQ(bar[1].caption(), u"Foto"_s);
+    EXPECT_EQ(bar[1].accessibleName(), u"Zobrazí foto"_s);
+    EXPECT_EQ(bar[2].toolTip(), u"Konec"_s);
     form->showForm();
     bar.placeRow({0, 0, 3000, 1000});
     for (const int i : {1, 2, 0}) QTest::mouseClick(&bar[i], Qt::LeftButton);
-    EXPECT_EQ(pressed, QStringLiteral("1end0")) << "what every form can do needs no command";
+    EXPECT_EQ(pressed, u"1end0"_s) << "what every form can do needs no command";
 }
 
 TEST_F(ButtonBarTest, AFaceFillsSixtyPercentOfItsSquareAndLeavesRoomForTheCaption) {

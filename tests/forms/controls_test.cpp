@@ -14,7 +14,7 @@ namespace sarne {
 namespace {
 
 struct KeyForm : Form {
-    explicit KeyForm(basSarne& run) : Form(run, QStringLiteral("frmKeys")) {}
+    explicit KeyForm(basSarne& run) : Form(run, u"frmKeys"_s) {}
     bool keyDown(QKeyEvent& event) override {
         keys << event.key();
         return true;
@@ -25,21 +25,19 @@ struct KeyForm : Form {
 TEST(ListBox, LettersJumpWhateverTheirCaseAndAccentsAndOtherKeysGoToTheForm) {
     FakeSarne run;
     auto* form = new KeyForm(run);
-    ListBox list(*form, QStringLiteral("lstSeznam"));
+    ListBox list(*form, u"lstSeznam"_s);
     list.place({600, 600, 3000, 3000});
-    list.setItems({QStringLiteral("Candát"), QStringLiteral("Štika na másle"), QStringLiteral("Štika pečená"),
-                   QStringLiteral("Úhoř")},
-                  {1, 2, 3, 4});
+    list.setItems({u"Candát"_s, u"Štika na másle"_s, u"Štika pečená"_s, u"Úhoř"_s}, {1, 2, 3, 4});
     form->showForm();
     list.setFocus();
     EXPECT_EQ(list.listIndex(), -1) << "nothing is chosen for the user";
-    QTest::keyClicks(&list.view(), QStringLiteral("s"));
+    QTest::keyClicks(&list.view(), u"s"_s);
     EXPECT_EQ(list.listIndex(), 1);
-    QTest::keyClicks(&list.view(), QStringLiteral("s"));
+    QTest::keyClicks(&list.view(), u"s"_s);
     EXPECT_EQ(list.listIndex(), 2);
     list.view().keyboardSearch({});  // a pause
     list.setListIndex(0);
-    QTest::keyClicks(&list.view(), QStringLiteral("STIKA p"));
+    QTest::keyClicks(&list.view(), u"STIKA p"_s);
     EXPECT_EQ(list.listIndex(), 2);
     EXPECT_EQ(list.marked(), std::vector<int>{2});
     EXPECT_TRUE(form->keys.isEmpty()) << "a letter is no command while a list has the keyboard";
@@ -58,10 +56,10 @@ TEST(ListBox, LettersJumpWhateverTheirCaseAndAccentsAndOtherKeysGoToTheForm) {
 TEST(CheckBox, ClicksAndTheSpaceBarSwitch) {
     FakeSarne run;
     auto* form = new KeyForm(run);
-    CheckBox box(*form, QStringLiteral("Chco(0)"));
+    CheckBox box(*form, u"Chco(0)"_s);
     box.place({0, 0, 3000, 400});
-    OptionButton first(*form, QStringLiteral("opt(0)")), second(*form, QStringLiteral("opt(1)"));
-    OptionButton other(*form, QStringLiteral("optJ(0)"), 1);
+    OptionButton first(*form, u"opt(0)"_s), second(*form, u"opt(1)"_s);
+    OptionButton other(*form, u"optJ(0)"_s, 1);
     form->showForm();
     QTest::mouseClick(&box, Qt::LeftButton);
     EXPECT_TRUE(box.isChecked());
@@ -85,7 +83,7 @@ TEST(CheckBox, ClicksAndTheSpaceBarSwitch) {
 TEST(Label, LightsUpOnlyUnderAMouseThatHasComeToIt) {
     FakeSarne run;
     KeyForm form(run);
-    Label label(form, QStringLiteral("lblSeznam(1)"));
+    Label label(form, u"lblSeznam(1)"_s);
     label.place({300, 300, 1500, 450});
     label.setClickable(true);
     form.show();
@@ -104,11 +102,11 @@ TEST(Label, LightsUpOnlyUnderAMouseThatHasComeToIt) {
 TEST(ProgressBar, StaysWithinItsRange) {
     FakeSarne run;
     auto* form = new KeyForm(run);
-    ProgressBar bar(*form, QStringLiteral("prgRecept"));
+    ProgressBar bar(*form, u"prgRecept"_s);
     bar.setMaximum(5);
     bar.setValue(-3);
     bar.advance();
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&bar)->text(QAccessible::Value), QStringLiteral("20 %"));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&bar)->text(QAccessible::Value), u"20 %"_s);
     bar.setValue(100);
     bar.setMaximum(0);
     EXPECT_EQ(bar.value(), 1);

@@ -47,9 +47,9 @@ TEST(FocusOrder, ArrowsGoToWhatLiesStraightAhead) {
 }
 
 struct Screen : Form {
-    explicit Screen(basSarne& run) : Form(run, QStringLiteral("frmA")) {
+    explicit Screen(basSarne& run) : Form(run, u"frmA"_s) {
         for (int i = 0; i < 4; ++i) {
-            auto* button = new Button(*this, QStringLiteral("imgBtn(%1)").arg(i));
+            auto* button = new Button(*this, u"imgBtn(%1)"_s.arg(i));
             button->place({i * 1500, 3000, 750, 450});
             button->setTip(QString(QChar(u'a' + i)));
             connect(button, &Button::clicked, this, [this, i] { clicks += QString::number(i); });
@@ -89,7 +89,7 @@ TEST_F(FocusRingTest, TabPassesOverWhatIsDisabledOrHiddenAndSaysTheStop) {
     EXPECT_EQ(focused(), 0);
     press(Qt::Key_Tab, Qt::ShiftModifier);
     EXPECT_EQ(focused(), 2);
-    EXPECT_EQ(run.announced, (QStringList{QStringLiteral("c"), QStringLiteral("a"), QStringLiteral("c")}));
+    EXPECT_EQ(run.announced, (QStringList{u"c"_s, u"a"_s, u"c"_s}));
     press(Qt::Key_Right);
     EXPECT_EQ(focused(), 0) << "an arrow that the form has no use for walks on";
     press(Qt::Key_Up);
@@ -119,8 +119,8 @@ TEST_F(FocusRingTest, ArrowsGoAsFarAsTheFormWants) {
 }
 
 TEST_F(FocusRingTest, EnterPressesButtonsAndCheckBoxesOnceHoweverLongItIsHeld) {
-    CheckBox box(*screen, QStringLiteral("chk"));
-    Edit entry(*screen, QStringLiteral("Text1"));
+    CheckBox box(*screen, u"chk"_s);
+    Edit entry(*screen, u"Text1"_s);
     box.place({0, 0, 3000, 450});
     entry.place({0, 900, 3000, 450});
     screen->ring().setStops({screen->buttons[0], &box, &entry});
@@ -129,7 +129,7 @@ TEST_F(FocusRingTest, EnterPressesButtonsAndCheckBoxesOnceHoweverLongItIsHeld) {
     press(Qt::Key_Space);
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
     QApplication::sendEvent(screen->buttons[0], &held);
-    EXPECT_EQ(screen->clicks, QStringLiteral("00"));
+    EXPECT_EQ(screen->clicks, u"00"_s);
     press(Qt::Key_Tab);
     press(Qt::Key_Return);
     EXPECT_TRUE(box.isChecked());
@@ -167,7 +167,7 @@ TEST_F(FocusRingTest, TheKeyboardComesBackToWhereItWas) {
     EXPECT_EQ(focused(), 2);
     screen->setFocus();
     press(Qt::Key_Return);
-    EXPECT_EQ(screen->clicks, QStringLiteral("2")) << "a click beside the controls takes nothing away";
+    EXPECT_EQ(screen->clicks, u"2"_s) << "a click beside the controls takes nothing away";
 
     auto* again = new Screen(run);
     run.PushScreen(*again);
@@ -177,7 +177,7 @@ TEST_F(FocusRingTest, TheKeyboardComesBackToWhereItWas) {
 }
 
 TEST_F(FocusRingTest, AScreenBelowHandsTheKeyboardToTheOneOnTop) {
-    auto* over = new Form(run, QStringLiteral("frmNastavHudbu"));
+    auto* over = new Form(run, u"frmNastavHudbu"_s);
     run.PushScreen(*over);
     over->showForm();
     screen->setFocus();
@@ -204,10 +204,10 @@ TEST_F(FocusRingTest, TheKeyboardIsShownAtADistanceAndOnlyToThoseWhoUseIt) {
 
 TEST_F(FocusRingTest, TheFormItselfCanBeAStop) {
     screen->ring().setStops({screen->buttons[0], screen});
-    screen->setAccessibleName(QStringLiteral("cells"));
+    screen->setAccessibleName(u"cells"_s);
     press(Qt::Key_Tab);
     EXPECT_TRUE(screen->hasFocus());
-    EXPECT_EQ(run.announced.last(), QStringLiteral("cells"));
+    EXPECT_EQ(run.announced.last(), u"cells"_s);
     press(Qt::Key_Return);
     EXPECT_EQ(screen->clicks, QString());
     press(Qt::Key_Tab);

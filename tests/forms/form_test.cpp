@@ -16,7 +16,7 @@ namespace {
 
 struct Screen : Form {
     explicit Screen(basSarne& run, const char* name)
-        : Form(run, QString::fromLatin1(name)), button(*this, QStringLiteral("imgBtn(0)")) {
+        : Form(run, QString::fromLatin1(name)), button(*this, u"imgBtn(0)"_s) {
         button.place({1500, 3000, 750, 450});
     }
     void goBack() override { ++backs; }
@@ -66,8 +66,7 @@ TEST_F(FormTest, SharedKeysComeFromAnywhereOnTheForm) {
     EXPECT_EQ(run.exits, 3);
     QTest::keyClick(screen, Qt::Key_F4);
     QTest::keyClick(screen, Qt::Key_F1);
-    EXPECT_EQ(run.recorded.calls,
-              (QStringList{QStringLiteral("showMusicSettings"), QStringLiteral("showHelpFor frmA")}));
+    EXPECT_EQ(run.recorded.calls, (QStringList{u"showMusicSettings"_s, u"showHelpFor frmA"_s}));
     screen->keys.clear();
     QTest::keyClick(&screen->button, Qt::Key_Tab);
     EXPECT_EQ(screen->keys, QList<int>{Qt::Key_Tab}) << "Tab is the form's";
@@ -76,12 +75,12 @@ TEST_F(FormTest, SharedKeysComeFromAnywhereOnTheForm) {
 }
 
 TEST_F(FormTest, LettersTypedAreNoCommands) {
-    Edit entry(*screen, QStringLiteral("Text1"));
+    Edit entry(*screen, u"Text1"_s);
     entry.place({0, 0, 3000, 450});
     screen->showForm();
     entry.focusAll();
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("cX"));
-    EXPECT_EQ(entry.text(), QStringLiteral("cX"));
+    QTest::keyClicks(QApplication::focusWidget(), u"cX"_s);
+    EXPECT_EQ(entry.text(), u"cX"_s);
     EXPECT_EQ(screen->backs + run.exits, 0);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_X, Qt::AltModifier);
     EXPECT_EQ(run.exits, 1);
@@ -99,8 +98,8 @@ TEST_F(FormTest, TheScreenBelowWaitsAndComesBack) {
     EXPECT_FALSE(screen->button.isEnabled());
     EXPECT_TRUE(top->hasFocus());
     top->button.setEnabled(false);
-    EXPECT_TRUE(run.BringTopToFront(QStringLiteral("frmA")));
-    EXPECT_FALSE(run.BringTopToFront(QStringLiteral("frmB")));
+    EXPECT_TRUE(run.BringTopToFront(u"frmA"_s));
+    EXPECT_FALSE(run.BringTopToFront(u"frmB"_s));
     run.PopScreen(*top);
     EXPECT_FALSE(top->isLoaded());
     EXPECT_TRUE(screen->button.isEnabled());
@@ -170,7 +169,7 @@ TEST_F(FormTest, AClickNeedsPressAndReleaseOnTheSameEnabledControl) {
 }
 
 TEST_F(FormTest, ADrawingSurfaceScrollsNoFurtherThanItsContent) {
-    PictureBox box(*screen, QStringLiteral("picRecept"));
+    PictureBox box(*screen, u"picRecept"_s);
     box.place({0, 0, 6000, 1000});
     for (int line = 0; line < 10; ++line) box.print(QString::number(line));
     EXPECT_EQ(box.currentY(), box.contentHeight());
@@ -185,18 +184,18 @@ TEST_F(FormTest, ADrawingSurfaceScrollsNoFurtherThanItsContent) {
 }
 
 TEST_F(FormTest, ALabelWrapsAtItsWidth) {
-    Label label(*screen, QStringLiteral("Label1"));
-    label.setText(QStringLiteral("Chcete ukončit program?  "));
+    Label label(*screen, u"Label1"_s);
+    label.setText(u"Chcete ukončit program?  "_s);
     label.autoSize();
     const int natural = label.twips().width(), line = label.twips().height();
-    EXPECT_GT(natural, Label::measure(QStringLiteral("Chcete ukončit program?"), TextFont()).width());
+    EXPECT_GT(natural, Label::measure(u"Chcete ukončit program?"_s, TextFont()).width());
     label.autoSize(natural / 2);
     EXPECT_EQ(label.twips().width(), natural / 2);
     EXPECT_GE(label.twips().height(), line * 2);
 }
 
 TEST_F(FormTest, ALabelShowsItsNewTextAndAHandWhileItCanBeClicked) {
-    auto& label = *new Label(*screen, QStringLiteral("Label1"));
+    auto& label = *new Label(*screen, u"Label1"_s);
     label.place({600, 600, 3000, 600});
     label.setClickable(true);
     screen->showForm();
@@ -209,7 +208,7 @@ TEST_F(FormTest, ALabelShowsItsNewTextAndAHandWhileItCanBeClicked) {
         }
     } paintings;
     label.installEventFilter(&paintings);
-    label.setText(QStringLiteral("Kapr"));
+    label.setText(u"Kapr"_s);
     QApplication::processEvents();
     EXPECT_GT(paintings.count, 0);
     EXPECT_EQ(label.cursor().shape(), Qt::PointingHandCursor);

@@ -43,10 +43,10 @@ class NamePlateTest : public testing::Test {
         first.place({1500, 3000, 1500, 900});
         second.place({4500, 3000, 1500, 900});
         nameless.place({7500, 3000, 1500, 900});
-        first.setTip(QStringLiteral("Pánev"));
-        second.setTip(QStringLiteral("Hrnec"));
-        nameless.setCaption(QStringLiteral("Mísa"));
-        nameless.setTip(QStringLiteral("Mísa"));  // its caption says it already
+        first.setTip(u"Pánev"_s);
+        second.setTip(u"Hrnec"_s);
+        nameless.setCaption(u"Mísa"_s);
+        nameless.setTip(u"Mísa"_s);  // its caption says it already
         form->showForm();
     }
     const NamePlate& plate() { return run.window.namePlate(); }
@@ -54,9 +54,8 @@ class NamePlateTest : public testing::Test {
     void rest() { plate().findChild<Timer*>()->fire(); }
 
     FakeSarne run;
-    Form* form = new Form(run, QStringLiteral("frmA"));
-    Button first{*form, QStringLiteral("imgBtn(0)")}, second{*form, QStringLiteral("imgBtn(1)")},
-        nameless{*form, QStringLiteral("imgBtn(2)")};
+    Form* form = new Form(run, u"frmA"_s);
+    Button first{*form, u"imgBtn(0)"_s}, second{*form, u"imgBtn(1)"_s}, nameless{*form, u"imgBtn(2)"_s};
 };
 
 TEST_F(NamePlateTest, ComesWhenThePointerRestsAndGoesWhenItLeaves) {
@@ -64,12 +63,12 @@ TEST_F(NamePlateTest, ComesWhenThePointerRestsAndGoesWhenItLeaves) {
     EXPECT_EQ(plate().text(), QString()) << "not at once";
     EXPECT_GT(plate().findChild<Timer*>()->interval(), 200);
     rest();
-    EXPECT_EQ(plate().text(), QStringLiteral("Pánev"));
+    EXPECT_EQ(plate().text(), u"Pánev"_s);
     EXPECT_NEAR(plate().twips().center().x(), first.twips().center().x(), 1);
     EXPECT_GT(plate().twips().top(), first.twips().bottom());
     EXPECT_EQ(run.window.childAt(plate().geometry().center()), form) << "the mouse goes through it";
     moveTo(second);
-    EXPECT_EQ(plate().text(), QStringLiteral("Hrnec")) << "who reads names reads on without waiting";
+    EXPECT_EQ(plate().text(), u"Hrnec"_s) << "who reads names reads on without waiting";
     moveTo(nameless);
     rest();
     EXPECT_EQ(plate().text(), QString());
@@ -81,7 +80,7 @@ TEST_F(NamePlateTest, GoesWithEveryKeyClickAndChangeOfScreen) {
         moveTo(nameless);
         moveTo(first);
         rest();
-        return plate().text() == QStringLiteral("Pánev");
+        return plate().text() == u"Pánev"_s;
     };
     ASSERT_TRUE(nameFirst());
     QTest::keyClick(form, Qt::Key_A);
@@ -92,7 +91,7 @@ TEST_F(NamePlateTest, GoesWithEveryKeyClickAndChangeOfScreen) {
     rest();
     EXPECT_FALSE(plate().isVisible()) << "what was just clicked needs no name";
     ASSERT_TRUE(nameFirst());
-    auto* other = new Form(run, QStringLiteral("frmB"));
+    auto* other = new Form(run, u"frmB"_s);
     other->showForm();
     EXPECT_FALSE(plate().isVisible());
     other->unload();
@@ -112,7 +111,7 @@ TEST_F(NamePlateTest, NamesAtOnceWhatTheKeyboardReaches) {
     EXPECT_FALSE(plate().isVisible()) << "the keyboard is not in use yet";
     QTest::keyClick(form, Qt::Key_Tab);
     second.setFocus();
-    EXPECT_EQ(plate().text(), QStringLiteral("Hrnec"));
+    EXPECT_EQ(plate().text(), u"Hrnec"_s);
     const int small = plate().height();
     nameless.setFocus();
     EXPECT_FALSE(plate().isVisible());
@@ -120,9 +119,9 @@ TEST_F(NamePlateTest, NamesAtOnceWhatTheKeyboardReaches) {
     QApplication::processEvents();
     second.setFocus();
     EXPECT_NEAR(plate().height(), 2 * small, 2) << "as large as everything on the stage";
-    second.setTip(QStringLiteral("Velký hrnec"));
-    EXPECT_EQ(plate().text(), QStringLiteral("Velký hrnec"));
-    EXPECT_EQ(second.accessibleName(), QStringLiteral("Velký hrnec"));
+    second.setTip(u"Velký hrnec"_s);
+    EXPECT_EQ(plate().text(), u"Velký hrnec"_s);
+    EXPECT_EQ(second.accessibleName(), u"Velký hrnec"_s);
 }
 
 }  // namespace

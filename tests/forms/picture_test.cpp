@@ -4,30 +4,27 @@
 
 #include <QBuffer>
 #include <QCursor>
-#include <QDir>
-#include <QFile>
 #include <QPainter>
 #include <QPixmap>
 #include <QTemporaryDir>
 
 #include "forms/resources.h"
+#include "support/files.h"
+#include "support/pictures.h"
 
 namespace sarne {
 namespace {
 
 QByteArray encoded(QSize size, const char* format) {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::red);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
+    test::plain(size, Qt::red).save(&buffer, format);
     return bytes;
 }
 
 QImage drawn(const Picture& picture, Fit fit) {
-    QImage canvas(100, 60, QImage::Format_RGB32);
-    canvas.fill(Qt::white);
+    QImage canvas = test::plain({100, 60}, Qt::white);
     QPainter painter(&canvas);
     painter.scale(.1, .1);
     picture.draw(painter, {100, 100, 800, 400}, fit);
@@ -48,12 +45,10 @@ TEST(Picture, KeepsItsProportions) {
 
 TEST(Picture, DrawnExactlyKeepsItsPlaceWithinThePixels) {
     // Red up to column 4 of 10, then blue; the border lies in the middle of pixel 14.
-    QImage halves(10, 10, QImage::Format_RGB32);
-    halves.fill(Qt::blue);
+    QImage halves = test::plain({10, 10}, Qt::blue);
     QPainter(&halves).fillRect(0, 0, 4, 10, Qt::red);
     const Picture picture = Picture::fromImage(halves);
-    QImage canvas(30, 20, QImage::Format_RGB32);
-    canvas.fill(Qt::white);
+    QImage canvas = test::plain({30, 20}, Qt::white);
     QPainter painter(&canvas);
     painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
     painter.scale(.12, .12);
@@ -67,16 +62,11 @@ TEST(Picture, DrawnExactlyKeepsItsPlaceWithinThePixels) {
 
 TEST(Cursor, IsAsLargeOnAScaledDesktopAndPointsWhereItDid) {
     QTemporaryDir folder;
-    for (const char* name : {"/obr", "/layout"}) QDir().mkpath(folder.path() + QLatin1String(name));
-    QImage image(64, 64, QImage::Format_ARGB32);
-    image.fill(Qt::red);
-    ASSERT_TRUE(image.save(folder.filePath(QStringLiteral("obr/ZPET.png"))));
-    QFile places(folder.filePath(QStringLiteral("layout/kurzory.txt")));
-    ASSERT_TRUE(places.open(QIODevice::WriteOnly) && places.write("zpet 25 50\n") > 0);
-    places.close();
+    ASSERT_TRUE(test::write(folder.filePath(u"obr/ZPET.png"_s), test::plain({64, 64}, Qt::red)));
+    ASSERT_TRUE(test::write(folder.filePath(u"layout/kurzory.txt"_s), "zpet 25 50\n"));
     const Resources resources(folder.path() + u'/');
     for (const double ratio : {1., 1.25, 1.5, 2.}) {
-        const QCursor cursor = resources.cursor(QStringLiteral("ZPET"), 1. / 15, ratio);
+        const QCursor cursor = resources.cursor(u"ZPET"_s, 1. / 15, ratio);
         EXPECT_EQ(cursor.pixmap().deviceIndependentSize(), QSizeF(32, 32)) << ratio;
         EXPECT_EQ(cursor.pixmap().width(), 32 * ratio);
         EXPECT_EQ(cursor.hotSpot(), QPoint(8, 16));
@@ -90,14 +80,11 @@ TEST(Picture, BrokenOnesDrawNothing) {
          {QByteArray(), QByteArray("BM"), QByteArray("no picture at all"), good.left(60)}) {
         const Picture fromData = Picture::fromData(bytes);
         EXPECT_NE(drawn(fromData, Fit::Stretch).pixelColor(90, 50), QColor(Qt::red));
-        QFile file(folder.filePath(QStringLiteral("x.bmp")));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        file.close();
-        EXPECT_NE(drawn(Picture::fromFile(file.fileName()), Fit::Stretch).pixelColor(90, 50),
-                  QColor(Qt::red));
+        const QString file = folder.filePath(u"x.bmp"_s);
+        ASSERT_TRUE(test::write(file, bytes));
+        EXPECT_NE(drawn(Picture::fromFile(file), Fit::Stretch).pixelColor(90, 50), QColor(Qt::red));
     }
-    EXPECT_TRUE(Picture::fromFile(folder.filePath(QStringLiteral("missing.bmp"))).isNull());
+    EXPECT_TRUE(Picture::fromFile(folder.filePath(u"missing.bmp"_s)).isNull());
     EXPECT_TRUE(Picture::fromFile({}).isNull());
 }
 
@@ -105,21 +92,17 @@ TEST(Picture, BrokenOnesDrawNothing) {
 class FinerPicture : public ::testing::Test {
   protected:
     FinerPicture() {
-        QImage red(60, 40, QImage::Format_RGB32);
-        red.fill(Qt::red);
-        red.save(folder_.filePath(QStringLiteral("r1.bmp")));
+        EXPECT_TRUE(test::write(folder_.filePath(u"r1.bmp"_s), test::plain({60, 40}, Qt::red)));
     }
     void putBeside(const char* name, QSize size) {
-        QImage green(size, QImage::Format_RGB32);
-        green.fill(Qt::green);
-        ASSERT_TRUE(green.save(folder_.filePath(QLatin1String(name)), "JPG", 100));
+        ASSERT_TRUE(test::write(folder_.filePath(QLatin1String(name)), test::plain(size, Qt::green), "JPG"));
     }
     bool isGreen(QSize pixels) const {
         const QImage shown = bmp().scaled(pixels);
         EXPECT_EQ(shown.size(), pixels);
         return shown.pixelColor(pixels.width() / 2, pixels.height() / 2).green() > 200;
     }
-    Picture bmp() const { return Picture::fromFile(folder_.filePath(QStringLiteral("r1.bmp"))); }
+    Picture bmp() const { return Picture::fromFile(folder_.filePath(u"r1.bmp"_s)); }
 
     QTemporaryDir folder_;
 };
@@ -137,9 +120,9 @@ TEST_F(FinerPicture, IsTakenWhereItShowsMorePixels) {
 
 TEST_F(FinerPicture, ABrokenOneLeavesTheBmp) {
     putBeside("r1.jpg", {120, 80});
-    ASSERT_TRUE(QFile::resize(folder_.filePath(QStringLiteral("r1.jpg")), 200));
+    ASSERT_TRUE(QFile::resize(folder_.filePath(u"r1.jpg"_s), 200));
     EXPECT_FALSE(isGreen({120, 80}));
-    QFile::remove(folder_.filePath(QStringLiteral("r1.bmp")));
+    QFile::remove(folder_.filePath(u"r1.bmp"_s));
     putBeside("r1.jpg", {120, 80});
     EXPECT_TRUE(bmp().isNull()) << "alone it stands for nothing";
 }

@@ -11,19 +11,14 @@
 
 #include "forms/control.h"
 #include "support/fakesarne.h"
+#include "support/pictures.h"
 
 namespace sarne {
 namespace {
 
-QImage plain(QSize size, QColor color) {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    return image;
-}
-
 /// A wide ground whose design area is red and whose sides are green.
 QImage wideGround() {
-    QImage image = plain({336, 144}, Qt::green);
+    QImage image = test::plain({336, 144}, Qt::green);
     for (int y = 0; y < 144; ++y) {
         for (int x = 72; x < 264; ++x) image.setPixelColor(x, y, Qt::red);
     }
@@ -33,7 +28,7 @@ QImage wideGround() {
 /// A full-screen form that paints a room and remembers where it was clicked.
 class RoomForm final : public Form {
   public:
-    RoomForm(basSarne& run, Room room) : Form(run, QStringLiteral("frmRoom")), room_(std::move(room)) {}
+    RoomForm(basSarne& run, Room room) : Form(run, u"frmRoom"_s), room_(std::move(room)) {}
     QPoint clicked;
     QRectF all() const { return covered(); }
 
@@ -50,7 +45,7 @@ class RoomTest : public testing::Test {
     QImage shot(const Room& room, QSize window) {
         run.window.resize(window);
         form = new RoomForm(run, room);
-        control = new Control(*form, QStringLiteral("thing"));
+        control = new Control(*form, u"thing"_s);
         control->place({6000, 4500, 600, 600});
         form->showForm();
         QApplication::processEvents();
@@ -67,9 +62,9 @@ class RoomTest : public testing::Test {
 
 TEST_F(RoomTest, AWideGroundFillsTheDisplayAndItsMiddleIsTheDesignArea) {
     QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("siroke.jpg"));
+    const QString file = folder.filePath(u"siroke.jpg"_s);
     ASSERT_TRUE(wideGround().scaled(3360, 1440).save(file, "JPEG", 95));
-    const Picture design = Picture::fromImage(plain({160, 120}, Qt::blue));
+    const Picture design = Picture::fromImage(test::plain({160, 120}, Qt::blue));
     for (const Picture& wide : {Picture::fromImage(wideGround()), Picture::fromFile(file)}) {
         // The second width cannot be cut out of the picture's pixels, and is painted.
         for (const QSize window : {QSize(1920, 1080), QSize(1921, 1080)}) {
@@ -90,15 +85,17 @@ TEST_F(RoomTest, AWideGroundFillsTheDisplayAndItsMiddleIsTheDesignArea) {
 }
 
 TEST_F(RoomTest, AtTheDesignsOwnShapeTheDesignPictureIsDrawn) {
-    const QImage image = shot(
-        Room(Picture::fromImage(plain({160, 120}, Qt::blue)), Picture::fromImage(wideGround())), {800, 600});
+    const QImage image =
+        shot(Room(Picture::fromImage(test::plain({160, 120}, Qt::blue)), Picture::fromImage(wideGround())),
+             {800, 600});
     EXPECT_EQ(at(image, 0, 0), QColor(Qt::blue));
     EXPECT_EQ(at(image, 799, 599), QColor(Qt::blue));
 }
 
 TEST_F(RoomTest, WithoutAWidePictureTheRestIsNeverBlack) {
     for (const QSize& window : {QSize(1920, 1080), QSize(1280, 1024), QSize(3440, 1440), QSize(600, 900)}) {
-        const QImage image = shot(Room(Picture::fromImage(plain({160, 120}, QColor(200, 100, 50)))), window);
+        const QImage image =
+            shot(Room(Picture::fromImage(test::plain({160, 120}, QColor(200, 100, 50)))), window);
         for (const QPoint& corner : {QPoint(0, 0), QPoint(window.width() - 1, window.height() - 1)})
             EXPECT_GT(at(image, corner.x(), corner.y()).red(), 60) << window.width();
         EXPECT_EQ(at(image, window.width() / 2, window.height() / 2).red(), 200);

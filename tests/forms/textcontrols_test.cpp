@@ -8,7 +8,6 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTimer>
-#include <QWheelEvent>
 
 #include "forms/colors.h"
 #include "forms/entrysign.h"
@@ -18,12 +17,13 @@
 #include "forms/noteedit.h"
 #include "forms/textview.h"
 #include "support/fakesarne.h"
+#include "support/wheel.h"
 
 namespace sarne {
 namespace {
 
 struct Screen : Form {
-    explicit Screen(basSarne& run) : Form(run, QStringLiteral("frmA")) {}
+    explicit Screen(basSarne& run) : Form(run, u"frmA"_s) {}
     bool keyDown(QKeyEvent& event) override {
         if (event.key() < Qt::Key_Shift || event.key() > Qt::Key_Alt) keys << event.key();
         return true;
@@ -34,17 +34,12 @@ struct Screen : Form {
 class TextControls : public testing::Test {
   protected:
     TextControls() { screen->showForm(); }
-    static void wheel(QWidget& on, int notches) {
-        QWheelEvent event({5, 5}, on.mapToGlobal(QPointF(5, 5)), {}, {0, notches * 120}, Qt::NoButton, {},
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&on, &event);
-    }
     FakeSarne run;
     Screen* screen = new Screen(run);
 };
 
 TEST_F(TextControls, AHeldButtonRepeatsUntilItIsLetGo) {
-    Button arrow(*screen, QStringLiteral("imgSipky(0)"));
+    Button arrow(*screen, u"imgSipky(0)"_s);
     arrow.place({0, 0, 600, 600});
     int steps = 0;
     HoldRepeat held(arrow, [&] { ++steps; });
@@ -70,14 +65,14 @@ TEST_F(TextControls, AHeldButtonRepeatsUntilItIsLetGo) {
 }
 
 TEST_F(TextControls, LongTextsScrollByArrowsWheelAndKeys) {
-    TextView view(*screen, QStringLiteral("picRecept"));
+    TextView view(*screen, u"picRecept"_s);
     view.place({1500, 1500, 6000, 3000});
     auto* up = child<Button>(*screen, "picRecept.up");
     auto* down = child<Button>(*screen, "picRecept.down");
-    view.drawRichText(QStringLiteral("jeden"));
+    view.drawRichText(u"jeden"_s);
     EXPECT_FALSE(down->isVisible());
     view.Cls();
-    for (int line = 0; line < 40; ++line) view.drawRichText(QStringLiteral("řádek %1").arg(line));
+    for (int line = 0; line < 40; ++line) view.drawRichText(u"řádek %1"_s.arg(line));
     EXPECT_EQ(view.drawnText().count(u'\n'), 39);
     EXPECT_EQ(view.contentHeight(), view.currentY());
     ASSERT_TRUE(down->isVisible());
@@ -86,7 +81,7 @@ TEST_F(TextControls, LongTextsScrollByArrowsWheelAndKeys) {
     const int oneStep = view.scrolled();
     EXPECT_GT(oneStep, 0);
     EXPECT_TRUE(up->isEnabled());
-    wheel(view, -1);
+    test::wheel(view, -120);
     EXPECT_GT(view.scrolled(), oneStep);
     const auto press = [&](int key) { return view.keyDown(QKeyEvent(QEvent::KeyPress, key, {})); };
     EXPECT_TRUE(press(Qt::Key_End));
@@ -104,11 +99,11 @@ TEST_F(TextControls, LongTextsScrollByArrowsWheelAndKeys) {
 }
 
 TEST_F(TextControls, AShortTextIsSetLargerAndAlwaysWhole) {
-    TextView view(*screen, QStringLiteral("picText"));
+    TextView view(*screen, u"picText"_s);
     view.place({1500, 1500, 6000, 3000});
     const auto heightOf = [&](int lines) {
         view.drawFilling([&] {
-            for (int line = 0; line < lines; ++line) view.drawRichText(QStringLiteral("řádek"));
+            for (int line = 0; line < lines; ++line) view.drawRichText(u"řádek"_s);
         });
         return view.contentHeight();
     };
@@ -122,12 +117,11 @@ TEST_F(TextControls, AShortTextIsSetLargerAndAlwaysWhole) {
 }
 
 TEST_F(TextControls, LinkPhrasesArePointedAtClickedAndSteppedThrough) {
-    TextView view(*screen, QStringLiteral("picRecept"));
+    TextView view(*screen, u"picRecept"_s);
     view.place({1500, 1500, 6000, 900});
-    const QString head =
-        QStringLiteral("{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset238 Arial;}}\\plain\\par\\pard\\plain ");
-    view.drawRichText(head + QStringLiteral("Vezmi *12kapra* a nic.}"));
-    view.drawRichText(head + QStringLiteral("\\par\\par\\par\\par\\par Pusť @7video s rybou@ \\par #x# }"));
+    const QString head = u"{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset238 Arial;}}\\plain\\par\\pard\\plain "_s;
+    view.drawRichText(head + u"Vezmi *12kapra* a nic.}"_s);
+    view.drawRichText(head + u"\\par\\par\\par\\par\\par Pusť @7video s rybou@ \\par #x# }"_s);
     ASSERT_EQ(view.pieces().linkCount(), 3);
     QList<LinkKey> opened;
     QObject::connect(&view, &TextView::linkActivated, [&](LinkKey key) { opened << key; });
@@ -147,7 +141,7 @@ TEST_F(TextControls, LinkPhrasesArePointedAtClickedAndSteppedThrough) {
     view.focusLink({});
     ASSERT_TRUE(view.stepInside(1));
     ASSERT_TRUE(view.stepInside(1));
-    EXPECT_EQ(run.announced.last(), QStringLiteral("video s rybou"));
+    EXPECT_EQ(run.announced.last(), u"video s rybou"_s);
     const QRect seen(0, view.scrolled(), 6000, 900);
     EXPECT_TRUE(seen.contains(view.pieces().linkRect(1))) << "the focus scrolls into sight";
     const QImage shot = view.grab().toImage();
@@ -171,23 +165,23 @@ class NoteEditing : public TextControls {
     void press(int key, Qt::KeyboardModifiers with = {}) {
         QTest::keyClick(&note.editor(), static_cast<Qt::Key>(key), with);
     }
-    NoteEdit note{*screen, QStringLiteral("RtfPozn")};
+    NoteEdit note{*screen, u"RtfPozn"_s};
     QSignalSpy edits{&note, &NoteEdit::edited};
 };
 
 TEST_F(NoteEditing, TypesUndoesAndRedoes) {
-    note.setText(QStringLiteral("Sůl"));
+    note.setText(u"Sůl"_s);
     EXPECT_EQ(edits.count(), 0);
     note.focusAtEnd();
-    type(QStringLiteral(" cX"));
-    EXPECT_EQ(note.text(), QStringLiteral("Sůl cX")) << "letters are no commands here";
+    type(u" cX"_s);
+    EXPECT_EQ(note.text(), u"Sůl cX"_s) << "letters are no commands here";
     EXPECT_GT(edits.count(), 0);
     press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(note.text(), QStringLiteral("Sůl"));
+    EXPECT_EQ(note.text(), u"Sůl"_s);
     press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(note.text(), QStringLiteral("Sůl")) << "what was loaded stays";
+    EXPECT_EQ(note.text(), u"Sůl"_s) << "what was loaded stays";
     press(Qt::Key_Y, Qt::ControlModifier);
-    EXPECT_EQ(note.text(), QStringLiteral("Sůl cX"));
+    EXPECT_EQ(note.text(), u"Sůl cX"_s);
     EXPECT_TRUE(screen->keys.isEmpty());
 }
 
@@ -200,31 +194,31 @@ TEST_F(NoteEditing, GrowsWithTheScreen) {
 }
 
 TEST_F(NoteEditing, TakesCzechLettersThatAreComposed) {
-    QInputMethodEvent composing(QStringLiteral("ˇ"), {});
+    QInputMethodEvent composing(u"ˇ"_s, {});
     QApplication::sendEvent(QApplication::focusWidget(), &composing);
     EXPECT_EQ(QApplication::focusWidget(), &note.editor());
     EXPECT_EQ(note.text(), QString());
     QInputMethodEvent done;
-    done.setCommitString(QStringLiteral("ř"));
+    done.setCommitString(u"ř"_s);
     QApplication::sendEvent(QApplication::focusWidget(), &done);
-    EXPECT_EQ(note.text(), QStringLiteral("ř"));
+    EXPECT_EQ(note.text(), u"ř"_s);
     // AltGr arrives as Ctrl and Alt held together, or alone; the letter counts.
-    QKeyEvent altGr(QEvent::KeyPress, Qt::Key_Q, Qt::GroupSwitchModifier, QStringLiteral("@"));
+    QKeyEvent altGr(QEvent::KeyPress, Qt::Key_Q, Qt::GroupSwitchModifier, u"@"_s);
     QApplication::sendEvent(&note.editor(), &altGr);
-    EXPECT_EQ(note.text(), QStringLiteral("ř@"));
+    EXPECT_EQ(note.text(), u"ř@"_s);
 }
 
 TEST_F(NoteEditing, PastesPlainText) {
     auto* rich = new QMimeData;
-    rich->setHtml(QStringLiteral("<b>tučná</b> <i>ryba</i>"));
-    rich->setText(QStringLiteral("tučná ryba"));
+    rich->setHtml(u"<b>tučná</b> <i>ryba</i>"_s);
+    rich->setText(u"tučná ryba"_s);
     QApplication::clipboard()->setMimeData(rich);
     press(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(note.text(), QStringLiteral("tučná ryba"));
+    EXPECT_EQ(note.text(), u"tučná ryba"_s);
     EXPECT_FALSE(note.editor().document()->firstBlock().begin().fragment().charFormat().font().bold());
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_X, Qt::ControlModifier);
-    EXPECT_EQ(note.text() + QApplication::clipboard()->text(), QStringLiteral("tučná ryba"));
+    EXPECT_EQ(note.text() + QApplication::clipboard()->text(), u"tučná ryba"_s);
 }
 
 TEST_F(NoteEditing, LeavesTheKeysOfTheFormToTheForm) {
@@ -275,7 +269,7 @@ TEST_F(NoteEditing, IsTypedByMouseAloneOnTheKeyboardOnTheScreen) {
 }
 
 TEST_F(NoteEditing, OffersItsCommandsInCzech) {
-    note.setText(QStringLiteral("ryba"));
+    note.setText(u"ryba"_s);
     QStringList captions;
     int large = 0;
     const auto useMenu = [&] {
@@ -289,8 +283,8 @@ TEST_F(NoteEditing, OffersItsCommandsInCzech) {
     QTimer::singleShot(0, useMenu);
     QContextMenuEvent ask(QContextMenuEvent::Keyboard, {5, 5}, note.mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(note.editor().viewport(), &ask);
-    EXPECT_TRUE(captions.contains(QStringLiteral("Znovu\tCtrl+Y")));
-    EXPECT_EQ(note.editor().textCursor().selectedText(), QStringLiteral("ryba"));
+    EXPECT_TRUE(captions.contains(u"Znovu\tCtrl+Y"_s));
+    EXPECT_EQ(note.editor().textCursor().selectedText(), u"ryba"_s);
     const int small = large;
     run.window.resize(1600, 1200);
     QApplication::processEvents();

@@ -8,49 +8,30 @@
 
 namespace sarne {
 
-/// \a body as a rich text of the cookbook. Bodies hold escapes and link markers as the renderer reads them.
-inline QString rtf(const QString& body) {
-    return u"{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Times New Roman;}}"
-           "{\\colortbl\\red0\\green0\\blue0;}\r\n\\pard\\plain\\f0\\fs24 "_s +
-           body + u"\\par }"_s;
-}
-
-/// \a text within quotation marks of a statement.
-inline QString quoted(QString text) {
-    return text.replace(u'\'', u"''"_s);
-}
-
 /// A run with a small cookbook, and a screen at the bottom of the stack that others open over.
 class Cookbook {
   public:
     explicit Cookbook(const QStringList& statements) {
-        const QString file = folder.filePath(u"Sarne.drc"_s);
-        test::writeRecipeDatabase(file, statements);
-        run.database.Open(file);
-        caller = new Form(run, u"frmCaller"_s);
-        run.PushScreen(*caller);
-        caller->showForm();
+        run.database.Open(test::writeRecipeDatabase(folder.filePath(u"Sarne.drc"_s), statements));
     }
 
     static QString keyword(int id, const QString& name, const QString& text) {
-        return u"INSERT INTO IndexHesla VALUES (%1, '%2', '%3')"_s.arg(id).arg(name, quoted(rtf(text)));
+        return u"INSERT INTO IndexHesla VALUES (%1, '%2', %3)"_s.arg(id).arg(name, richText(text));
     }
     static QString page(int id, const QString& name, const QString& text, const QString& forms) {
-        return u"INSERT INTO Stranky VALUES (%1, '%2', '%3', '%4')"_s.arg(id).arg(name, quoted(rtf(text)),
-                                                                                  forms);
+        return u"INSERT INTO Stranky VALUES (%1, '%2', %3, '%4')"_s.arg(id).arg(name, richText(text), forms);
     }
     static QString picture(int id, int topic, const QString& name) {
         return u"INSERT INTO Sponzor VALUES (%1, %2, '%3', '')"_s.arg(id).arg(topic).arg(name);
     }
     static QString area(int picture, const QRect& place, const QString& name, const QString& text,
                         const QString& target) {
-        return u"INSERT INTO PlochySponzoru VALUES (NULL, %1, %2, %3, %4, %5, '%6', '%7', '%8')"_s
-            .arg(picture)
+        return u"INSERT INTO PlochySponzoru VALUES (NULL, %1, %2, %3, %4, %5, '%6', %7, '%8')"_s.arg(picture)
             .arg(place.x())
             .arg(place.y())
             .arg(place.width())
             .arg(place.height())
-            .arg(name, quoted(text), target);
+            .arg(name, test::sqlText(text), target);
     }
 
     /// The screen on top.
@@ -59,7 +40,10 @@ class Cookbook {
 
     QTemporaryDir folder;
     FakeSarne run;
-    Form* caller;
+    Form* caller = run.openAbove("frmCaller");
+
+  private:
+    static QString richText(const QString& body) { return test::sqlText(test::rtf(body + u"\\par "_s)); }
 };
 
 }  // namespace sarne

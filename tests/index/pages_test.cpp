@@ -7,6 +7,8 @@
 #include "forms/textview.h"
 #include "screens/index/frmindex.h"
 #include "screens/index/frmstranka.h"
+#include "support/files.h"
+#include "support/pictures.h"
 
 namespace sarne {
 namespace {
@@ -109,8 +111,7 @@ TEST_F(KeywordTest, BesideTheTextStandWhatIsKnownOfRecipesAndFilm) {
 
 TEST_F(KeywordTest, APictureOfTheDiscStandsAboveItsCaption) {
     run.database.Execute(u"INSERT INTO UkazkyHesel VALUES (1, 'foto\\hesla\\kapr.png', 'Kapr', 0, '')"_s);
-    QDir(book.folder.path()).mkpath(u"foto/hesla"_s);
-    QImage(8, 6, QImage::Format_RGB32).save(book.folder.filePath(u"foto/hesla/kapr.png"_s));
+    ASSERT_TRUE(test::write(book.folder.filePath(u"foto/hesla/kapr.png"_s), test::plain({8, 6}, Qt::red)));
     run.MediaRoot = book.folder.path() + u'/';
     show(1);
     const auto* picture = child<PictureBox>(*form, "picHeslo");
@@ -176,7 +177,7 @@ TEST_F(PageTest, TheSoundButtonSwitchesTheMusicAndTheStoredSwitch) {
     run.SoundFlags = {true, true, true, false, false};
     run.MediaRoot = LogicalPaths::fromNativeFolder(book.folder.path());
     const QString track = book.folder.filePath(u"HUDBA.WAV"_s);
-    ASSERT_TRUE(QFile(track).open(QIODevice::WriteOnly));
+    ASSERT_TRUE(test::write(track));
     run.player.setFileName(track);
     run.player.command(u"open");
     run.player.command(u"play");
@@ -198,9 +199,8 @@ TEST_F(PageTest, TheSoundButtonSwitchesTheMusicAndTheStoredSwitch) {
 TEST_F(PageTest, MusicThatWasNeverOpenIsOpenedOrTellsWhyNot) {
     run.SoundFlags = {true, false, true, false, true};
     run.MediaRoot = LogicalPaths::fromNativeFolder(book.folder.path());
-    QDir(book.folder.path()).mkdir(u"ZVUKY"_s);
     const QString file = book.folder.filePath(u"ZVUKY/Vina.WAV"_s);
-    ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+    ASSERT_TRUE(test::write(file));
     show("10");
     run.player.failing[u"open"_s] = MediaError::InvalidFile;
     click(4);

@@ -9,6 +9,7 @@
 #include "forms/textview.h"
 #include "screens/index/frmsponzor.h"
 #include "screens/index/frmtabulky.h"
+#include "support/wheel.h"
 
 namespace sarne {
 namespace {
@@ -122,6 +123,8 @@ TEST_F(TablesTest, ArrowsScrollByARowAndByHalfAPage) {
     EXPECT_EQ(half, table().halfPage());
     EXPECT_EQ(arrow(1), half);
     EXPECT_EQ(arrow(2), 0);
+    for (int piece = 0; piece < 4; ++piece) test::wheel(table(), -30);
+    EXPECT_EQ(table().rows().top(), 2) << "what a finger sends in small pieces adds up";
     EXPECT_EQ(table().rows().selected(), RowPaging::kNone) << "scrolling selects nothing";
     show(3);
     EXPECT_FALSE(child(*form, "imgSipky(0)")->isVisible()) << "everything is seen";
@@ -172,18 +175,19 @@ TEST_F(TablesTest, AnEmptyIndexIsUsable) {
 class GalleryTest : public testing::Test {
   protected:
     static QStringList content() {
-        return {Cookbook::picture(9, 9, u"Ryby"_s),
-                Cookbook::picture(91, 9, u"Mořské ryby"_s),
-                Cookbook::picture(1, 1, u"O kuchařce"_s),
-                Cookbook::area(9, {100, 150, 200, 150}, u"Kapr"_s, {}, u"*12"_s),
-                Cookbook::area(9, {400, 150, 200, 150}, u"Kuchání"_s, {}, u"@3"_s),
-                Cookbook::area(9, {100, 450, 200, 150}, u"Do moře"_s, {}, u">91"_s),
-                Cookbook::area(9, {400, 450, 200, 150}, u"Kámen"_s, {}, u"#"_s),
-                Cookbook::area(9, {-500, 0, 100, 100}, u"Mimo"_s, {}, u"*1"_s),
-                Cookbook::area(1, {10, 100, 200, 800}, u"Fotografie"_s,
-                               rtf(u"Fotografie\\par\r\n\\par\r\nFotografie k receptům, *5 kapr*. "_s), {}),
-                Cookbook::area(1, {300, 300, 300, 300}, u"Hlas"_s, rtf(u"Hlas."_s), {}),
-                Cookbook::area(1, {850, 300, 100, 100}, u"Nic"_s, {}, {})};
+        return {
+            Cookbook::picture(9, 9, u"Ryby"_s),
+            Cookbook::picture(91, 9, u"Mořské ryby"_s),
+            Cookbook::picture(1, 1, u"O kuchařce"_s),
+            Cookbook::area(9, {100, 150, 200, 150}, u"Kapr"_s, {}, u"*12"_s),
+            Cookbook::area(9, {400, 150, 200, 150}, u"Kuchání"_s, {}, u"@3"_s),
+            Cookbook::area(9, {100, 450, 200, 150}, u"Do moře"_s, {}, u">91"_s),
+            Cookbook::area(9, {400, 450, 200, 150}, u"Kámen"_s, {}, u"#"_s),
+            Cookbook::area(9, {-500, 0, 100, 100}, u"Mimo"_s, {}, u"*1"_s),
+            Cookbook::area(1, {10, 100, 200, 800}, u"Fotografie"_s,
+                           test::rtf(u"Fotografie\\par\r\n\\par\r\nFotografie k receptům, *5 kapr*. "_s), {}),
+            Cookbook::area(1, {300, 300, 300, 300}, u"Hlas"_s, test::rtf(u"Hlas."_s), {}),
+            Cookbook::area(1, {850, 300, 100, 100}, u"Nic"_s, {}, {})};
     }
 
     Cookbook book{content()};

@@ -10,6 +10,7 @@
 #include "kitchen/fishamount.h"
 #include "kitchen/ringwave.h"
 #include "kitchen/steps.h"
+#include "support/recipedatabase.h"
 
 namespace sarne {
 namespace {
@@ -85,20 +86,17 @@ TEST(MainFish, SaysForHowManyItIsEnough) {
 }
 
 TEST(MainFish, IsTheLineThatTheBookNames) {
-    QTemporaryDir folder;
+    const QTemporaryDir folder;
     Database db;
     EXPECT_FALSE(mainFish(db, 1));
-    ASSERT_TRUE(db.Create(folder.filePath(u"Sarne.drc"_s)));
-    ASSERT_TRUE(db.makeTables({recipeSchema()}));
-    for (const char* row :
-         {"INSERT INTO Suroviny VALUES (1, 'kapr')", "INSERT INTO Suroviny VALUES (2, 'cibule')",
-          "INSERT INTO Upresneni VALUES (1, 'filety')", "INSERT INTO Upresneni VALUES (2, 'podkovy')",
-          "INSERT INTO Jednotky VALUES (1, 'g')", "INSERT INTO Vyteznost VALUES (1, 45)",
-          "INSERT INTO Recepty (ID, Porce) VALUES (1, 4)", "INSERT INTO Recepty (ID, Porce) VALUES (2, 4)",
-          "INSERT INTO SpojSur VALUES (1, 2, 0, 1, 80, 1, 80, 0)",
-          "INSERT INTO SpojSur VALUES (1, 1, 1, 1, 800, 1, 800, 0)",
-          "INSERT INTO Fakta (ID, Ryba) VALUES (1, 1)", "INSERT INTO Fakta (ID, Ryba) VALUES (2, -1)"})
-        ASSERT_TRUE(db.Execute(QString::fromUtf8(row))) << row;
+    ASSERT_TRUE(db.Open(test::writeRecipeDatabase(
+        folder.filePath(u"Sarne.drc"_s),
+        {u"INSERT INTO Suroviny VALUES (1, 'kapr'), (2, 'cibule')"_s,
+         u"INSERT INTO Upresneni VALUES (1, 'filety'), (2, 'podkovy')"_s,
+         u"INSERT INTO Jednotky VALUES (1, 'g')"_s, u"INSERT INTO Vyteznost VALUES (1, 45)"_s,
+         u"INSERT INTO Recepty (ID, Porce) VALUES (1, 4), (2, 4)"_s,
+         u"INSERT INTO SpojSur VALUES (1, 2, 0, 1, 80, 1, 80, 0), (1, 1, 1, 1, 800, 1, 800, 0)"_s,
+         u"INSERT INTO Fakta (ID, Ryba) VALUES (1, 1), (2, -1)"_s})));
     const auto fish = mainFish(db, 1);
     ASSERT_TRUE(fish);
     EXPECT_EQ(fish->name, u"kapr, filety"_s);
@@ -153,12 +151,10 @@ TEST(ReadSteps, ABookWithoutThemHasNone) {
     EXPECT_TRUE(readSteps(db, 1).empty());
     ASSERT_TRUE(db.makeTables({recipeSchema()}));
     EXPECT_TRUE(readSteps(db, 1).empty());
-    ASSERT_TRUE(db.Execute(u"INSERT INTO Kroky VALUES (7, 1, '', 'Osolíme.')"_s));
-    ASSERT_TRUE(db.Execute(u"INSERT INTO Kroky VALUES (8, 2, '', 'Jiný recept.')"_s));
-    ASSERT_TRUE(db.Execute(u"INSERT INTO Kroky VALUES (9, 1, 'Na stůl', 'Podáváme.')"_s));
-    ASSERT_TRUE(db.Execute(u"INSERT INTO KrokySur VALUES (9, 0, 0.5)"_s));
-    ASSERT_TRUE(db.Execute(u"INSERT INTO KrokySur VALUES (7, 3, 1)"_s));
-    ASSERT_TRUE(db.Execute(u"INSERT INTO KrokySur VALUES (7, 0, 0.5)"_s));
+    ASSERT_TRUE(
+        db.Execute(u"INSERT INTO Kroky VALUES (7, 1, '', 'Osolíme.'), (8, 2, '', 'Jiný recept.'), "
+                   "(9, 1, 'Na stůl', 'Podáváme.')"_s));
+    ASSERT_TRUE(db.Execute(u"INSERT INTO KrokySur VALUES (9, 0, 0.5), (7, 3, 1), (7, 0, 0.5)"_s));
     const auto steps = readSteps(db, 1);
     ASSERT_EQ(steps.size(), 2u);
     EXPECT_EQ(steps[0].needs, (std::vector<StepNeed>{{0, 0.5}, {3, 1}}));

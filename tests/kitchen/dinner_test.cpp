@@ -94,18 +94,15 @@ TEST(Dinner, UnderstandsTheHourAsItIsWritten) {
 class DinnerBook : public testing::Test {
   protected:
     DinnerBook() {
-        const auto row = [](const char* text) { return QString::fromUtf8(text); };
-        const QString file = folder_.filePath(u"Sarne.drc"_s);
-        test::writeRecipeDatabase(
-            file,
-            {row("INSERT INTO Recepty (ID, Nazev) VALUES (1,'Rolky'),(2,'Vývar'),(3,'Kapr'),(4,'Amur'),"
-                 "(5,'Salát'),(6,'Bez údajů')"),
-             row("INSERT INTO Fakta (ID, Minut, Mesice, Chod, Obdobi) VALUES "
-                 "(1,20,4095,'studené,předkrm','Silvestr'),(2,60,4095,'polévka','Vánoce'),"
-                 "(3,50,3591,'teplé','Vánoce,zima'),(4,30,992,'teplé','léto'),"
-                 "(5,30,4095,'studené,hlavní za studena','jaro')"),
-             row("INSERT INTO Kroky VALUES (1,3,'','Rybu smažíme 10 minut.'),(2,2,'','Vaříme 50 minut.')")});
-        book_.Open(file);
+        book_.Open(test::writeRecipeDatabase(
+            folder_.filePath(u"Sarne.drc"_s),
+            {u"INSERT INTO Recepty (ID, Nazev) VALUES (1,'Rolky'),(2,'Vývar'),(3,'Kapr'),(4,'Amur'),"
+             "(5,'Salát'),(6,'Bez údajů')"_s,
+             u"INSERT INTO Fakta (ID, Minut, Mesice, Chod, Obdobi) VALUES "
+             "(1,20,4095,'studené,předkrm','Silvestr'),(2,60,4095,'polévka','Vánoce'),"
+             "(3,50,3591,'teplé','Vánoce,zima'),(4,30,992,'teplé','léto'),"
+             "(5,30,4095,'studené,hlavní za studena','jaro')"_s,
+             u"INSERT INTO Kroky VALUES (1,3,'','Rybu smažíme 10 minut.'),(2,2,'','Vaříme 50 minut.')"_s}));
         all_ = readDinnerRecipes(book_);
     }
 

@@ -13,22 +13,19 @@ namespace sarne {
 class KitchenRun : public FakeSarne {
   public:
     KitchenRun() {
-        const auto row = [](const char* text) { return QString::fromUtf8(text); };
-        const QString file = folder_.filePath(u"Sarne.drc"_s);
-        test::writeRecipeDatabase(
-            file,
-            {row("INSERT INTO Suroviny VALUES (1,'kapr'),(2,'máslo'),(3,'sůl')"),
-             row("INSERT INTO Jednotky VALUES (1,'g'),(2,'lžíce')"),
-             row("INSERT INTO Pomucky VALUES (1,'pekáč')"),
-             row("INSERT INTO Recepty (ID, Nazev, Porce) VALUES (5,'Kapr na kmíně',4),(6,'Bez kroků',4)"),
-             row("INSERT INTO SpojSur VALUES (5,1,0,1,1200,1,1200,0),(5,2,0,1,80,2,4,0),(5,3,0,0,0,0,0,0)"),
-             row("INSERT INTO SpojPomucky VALUES (5,1)"),
-             row("INSERT INTO Kroky VALUES (1,5,'','Kapra osolíme a necháme 15 minut stát.'),"
-                 "(2,5,'','Polovinu másla rozpustíme.'),(3,5,'Na stůl','S chlebem.')"),
-             row("INSERT INTO KrokySur VALUES (1,0,1),(1,2,1),(2,1,0.5),(3,1,0.5)"),
-             row("INSERT INTO Zbozi VALUES (1,0,0,8),(2,2,0,64),(3,4,1,0)"),
-             row("INSERT INTO Fakta (ID, Minut, Mesice, Alergeny, Ryba) VALUES (5,40,4095,72,0)")});
-        database.Open(file);
+        database.Open(test::writeRecipeDatabase(
+            folder_.filePath(u"Sarne.drc"_s),
+            {u"INSERT INTO Suroviny VALUES (1,'kapr'),(2,'máslo'),(3,'sůl')"_s,
+             u"INSERT INTO Jednotky VALUES (1,'g'),(2,'lžíce')"_s,
+             u"INSERT INTO Pomucky VALUES (1,'pekáč')"_s,
+             u"INSERT INTO Recepty (ID, Nazev, Porce) VALUES (5,'Kapr na kmíně',4),(6,'Bez kroků',4)"_s,
+             u"INSERT INTO SpojSur VALUES (5,1,0,1,1200,1,1200,0),(5,2,0,1,80,2,4,0),(5,3,0,0,0,0,0,0)"_s,
+             u"INSERT INTO SpojPomucky VALUES (5,1)"_s,
+             u"INSERT INTO Kroky VALUES (1,5,'','Kapra osolíme a necháme 15 minut stát.'),"
+             "(2,5,'','Polovinu másla rozpustíme.'),(3,5,'Na stůl','S chlebem.')"_s,
+             u"INSERT INTO KrokySur VALUES (1,0,1),(1,2,1),(2,1,0.5),(3,1,0.5)"_s,
+             u"INSERT INTO Zbozi VALUES (1,0,0,8),(2,2,0,64),(3,4,1,0)"_s,
+             u"INSERT INTO Fakta (ID, Minut, Mesice, Alergeny, Ryba) VALUES (5,40,4095,72,0)"_s}));
         file_ = UserFile(folder_.filePath(u"vlastni.db"_s));
     }
 

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
-#include <QDir>
 #include <QGuiApplication>
 #include <QStandardPaths>
 
@@ -9,6 +8,7 @@
 #include "kitchen/shoppingstore.h"
 #include "kitchenbook.h"
 #include "screens/kitchen/frmnakup.h"
+#include "support/files.h"
 
 namespace sarne {
 namespace {
@@ -92,17 +92,15 @@ TEST_F(NakupTest, IsSavedAmongTheDocumentsAndWritesOverNoOlderList) {
     ASSERT_TRUE(documents.path().startsWith(home.path())) << documents.path().toStdString();
     ASSERT_EQ(documents.entryList(QDir::Files).size(), 2);
     for (const QString& name : documents.entryList(QDir::Files)) {
-        QFile file(documents.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        EXPECT_TRUE(QString::fromUtf8(file.readAll()).contains(u"☐ kapr – 1,2\u00a0kg"_s));
+        const QByteArray list = test::bytesOf(documents.filePath(name));
+        EXPECT_TRUE(QString::fromUtf8(list).contains(u"☐ kapr – 1,2\u00a0kg"_s));
     }
     EXPECT_EQ(run_.messages.size(), 2);
 }
 
 TEST_F(NakupTest, TakesWhatAnotherScreenHasPutOnTheListMeanwhile) {
     frmNakup& screen = open();
-    auto* above = new Form(run_, u"frmNad"_s);
-    run_.PushScreen(*above);
+    Form* above = run_.openAbove("frmNad");
     ShoppingList more = readShoppingList(run_.file());
     more.addOwn(u"houska"_s);
     storeShoppingList(run_.file(), more);

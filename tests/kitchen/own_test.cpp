@@ -31,14 +31,12 @@ TEST(Feasts, FallIntoTheirMonths) {
 class OwnCookery : public testing::Test {
   protected:
     OwnCookery() {
-        const auto row = [](const char* text) { return QString::fromUtf8(text); };
-        const QString file = folder_.filePath(u"Sarne.drc"_s);
-        test::writeRecipeDatabase(
-            file, {row("INSERT INTO Recepty (ID, Nazev, Vlastni) VALUES (1,'Smažený kapr',NULL),"
-                       "(2,'Amur na grilu','více kopru'),(3,'Candát',''),(4,'Treska',NULL)"),
-                   row("INSERT INTO Fakta (ID, Mesice, Obdobi) VALUES (1,3591,'Vánoce,zima'),(2,992,'léto'),"
-                       "(3,4095,'podzim,zima'),(4,4095,'jaro')")});
-        book_.Open(file);
+        book_.Open(test::writeRecipeDatabase(
+            folder_.filePath(u"Sarne.drc"_s),
+            {u"INSERT INTO Recepty (ID, Nazev, Vlastni) VALUES (1,'Smažený kapr',NULL),"
+             "(2,'Amur na grilu','více kopru'),(3,'Candát',''),(4,'Treska',NULL)"_s,
+             u"INSERT INTO Fakta (ID, Mesice, Obdobi) VALUES (1,3591,'Vánoce,zima'),(2,992,'léto'),"
+             "(3,4095,'podzim,zima'),(4,4095,'jaro')"_s}));
     }
 
     QString shelf(Shelf which, QDate today) {

@@ -36,9 +36,7 @@ TEST_F(PlatesTest, ShowWhatIsLeftAndRingUntilStopped) {
 
 TEST_F(PlatesTest, LieOverEveryScreenThatIsShown) {
     plates_.start(u"Ryba"_s, 600);
-    auto* screen = new Form(run_, u"frmJina"_s);
-    run_.PushScreen(*screen);
-    screen->showForm();
+    run_.openAbove("frmJina");
     const QWidget* plate = run_.window.findChild<QWidget*>(u"casovac(0)"_s);
     EXPECT_EQ(run_.window.childAt(plate->geometry().center()), plate);
 }

@@ -63,7 +63,7 @@ TEST(Times, AreWrittenAsOneReadsThem) {
 }
 
 TEST(Counted, FollowsTheCzechPlural) {
-    const Noun portion{u"porce"_s, u"porce"_s, u"porcí"_s, u"porce"_s};
+    const Noun portion = portionNoun();
     const Noun clove{u"stroužek"_s, u"stroužky"_s, u"stroužků"_s, u"stroužku"_s};
     const std::tuple<double, Noun, const char*> cases[] = {
         {1, portion, "1 porce"},     {4, portion, "4 porce"},  {5, portion, "5 porcí"},

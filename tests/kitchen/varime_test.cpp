@@ -11,7 +11,7 @@ class VarimeTest : public testing::Test {
   protected:
     frmVarime& open(const Serving& serving) {
         auto* screen = new frmVarime(run_, run_.file(), [this](const QString& name, int seconds) {
-            started_ << QStringLiteral("%1: %2").arg(name).arg(seconds);
+            started_ << u"%1: %2"_s.arg(name).arg(seconds);
         });
         EXPECT_TRUE(screen->Zobraz(5, serving));
         return *screen;
@@ -33,7 +33,7 @@ TEST_F(VarimeTest, GoesThroughTheStepsByTheKeysOfTheStove) {
     EXPECT_EQ(screen.page(), 0);
     EXPECT_TRUE(child<TickList>(screen, "picSuroviny")->rows()[1].ticked);
     press(screen, Qt::Key_Return);
-    EXPECT_EQ(text(screen, "lblKrok"), QStringLiteral("Krok 1 z 2 · 4 porce"));
+    EXPECT_EQ(text(screen, "lblKrok"), u"Krok 1 z 2 · 4 porce"_s);
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Right, Qt::Key_PageDown}) press(screen, key);
     EXPECT_EQ(screen.shown().kind, CookingPage::Kind::Done);
     press(screen, Qt::Key_Right);  // there is no further
@@ -61,14 +61,14 @@ TEST_F(VarimeTest, LargerTextsTakeMorePagesAndTheStepStays) {
 
 TEST_F(VarimeTest, EachStepNamesItsShareForThePortionsAndUnits) {
     frmVarime& screen = open({6, UnitSystem::Spoons});
-    EXPECT_EQ(text(screen, "lblSuroviny"), QStringLiteral("pekáč"));
+    EXPECT_EQ(text(screen, "lblSuroviny"), u"pekáč"_s);
     press(screen, Qt::Key_Return);
-    EXPECT_EQ(text(screen, "lblSuroviny"), QStringLiteral("kapr – 1800 g\nsůl"));
+    EXPECT_EQ(text(screen, "lblSuroviny"), u"kapr – 1800 g\nsůl"_s);
     press(screen, Qt::Key_Space);
-    EXPECT_EQ(text(screen, "lblSuroviny"), QStringLiteral("máslo – 3 lžíce"));
-    EXPECT_EQ(text(screen, "lblKrok"), QStringLiteral("Krok 2 z 2 · 6 porcí"));
+    EXPECT_EQ(text(screen, "lblSuroviny"), u"máslo – 3 lžíce"_s);
+    EXPECT_EQ(text(screen, "lblKrok"), u"Krok 2 z 2 · 6 porcí"_s);
     press(screen, Qt::Key_Space);
-    EXPECT_EQ(text(screen, "lblKrok"), QStringLiteral("Na stůl · 6 porcí"));
+    EXPECT_EQ(text(screen, "lblKrok"), u"Na stůl · 6 porcí"_s);
 }
 
 TEST_F(VarimeTest, ATimeInTheStepStartsATimerWithItsName) {
@@ -80,7 +80,7 @@ TEST_F(VarimeTest, ATimeInTheStepStartsATimerWithItsName) {
     press(screen, Qt::Key_1);
     press(screen, Qt::Key_2);
     QTest::mouseClick(child(screen, "cmdCas(0)"), Qt::LeftButton);
-    EXPECT_EQ(started_, QStringList(2, QStringLiteral("Krok 1, Kapr na kmíně: 900")));
+    EXPECT_EQ(started_, QStringList(2, u"Krok 1, Kapr na kmíně: 900"_s));
 }
 
 TEST_F(VarimeTest, KeepsTheDisplayAwakeAndWhatWasCooked) {
@@ -96,31 +96,28 @@ TEST_F(VarimeTest, KeepsTheDisplayAwakeAndWhatWasCooked) {
 }
 
 TEST_F(VarimeTest, AtTheEndALineGoesBelowTheNoteAndStarsAreGiven) {
-    ASSERT_TRUE(
-        run_.database.Execute(QStringLiteral("UPDATE Recepty SET Vlastni = 'méně soli ' WHERE ID = 5")));
+    ASSERT_TRUE(run_.database.Execute(u"UPDATE Recepty SET Vlastni = 'méně soli ' WHERE ID = 5"_s));
     frmVarime& screen = open({4, UnitSystem::Weights});
     while (screen.shown().kind != CookingPage::Kind::Done) press(screen, Qt::Key_PageDown);
     child<Edit>(screen, "txtPoznamka")->focusAll();
-    QTest::keyClicks(run_.window.focusWidget(), QStringLiteral("1 lahev piva"));
+    QTest::keyClicks(run_.window.focusWidget(), u"1 lahev piva"_s);
     press(screen, Qt::Key_Return);
     const QDate today = QDate::currentDate();
-    const QString line = QStringLiteral("Uvařeno %1. %2. %3: 1 lahev piva")
-                             .arg(today.day())
-                             .arg(today.month())
-                             .arg(today.year());
+    const QString line =
+        u"Uvařeno %1. %2. %3: 1 lahev piva"_s.arg(today.day()).arg(today.month()).arg(today.year());
     const auto note = [this] {
-        Recordset row = run_.database.OpenTable(QStringLiteral("Recepty"));
-        return RecordExists(row, 5) ? row.field(QStringLiteral("Vlastni")).toString() : QString();
+        Recordset row = run_.database.OpenTable(u"Recepty"_s);
+        return RecordExists(row, 5) ? row.field(u"Vlastni"_s).toString() : QString();
     };
-    EXPECT_EQ(note(), QStringLiteral("méně soli\n") + line);
+    EXPECT_EQ(note(), u"méně soli\n"_s + line);
     EXPECT_EQ(cookedDays(run_.file(), 5).size(), 1u);
     // What was typed and not confirmed is not lost either.
-    child<Edit>(screen, "txtPoznamka")->setText(QStringLiteral("a máslo"));
+    child<Edit>(screen, "txtPoznamka")->setText(u"a máslo"_s);
     child<StarRow>(screen, "picHvezdy")->setFocus();
     press(screen, Qt::Key_4);
     press(screen, Qt::Key_Escape);
-    EXPECT_TRUE(note().endsWith(QStringLiteral(": a máslo")));
-    EXPECT_EQ(run_.recorded.calls.last(), QStringLiteral("giveStars 5 4"));
+    EXPECT_TRUE(note().endsWith(u": a máslo"_s));
+    EXPECT_EQ(run_.recorded.calls.last(), u"giveStars 5 4"_s);
 }
 
 TEST_F(VarimeTest, ReadsOnFromStepToStepWhereThereIsAVoice) {
@@ -134,8 +131,8 @@ TEST_F(VarimeTest, ReadsOnFromStepToStepWhereThereIsAVoice) {
     press(screen, Qt::Key_F9);
     press(screen, Qt::Key_Space);
     ASSERT_EQ(run_.speech.said.size(), 2);
-    EXPECT_TRUE(run_.speech.said[0].contains(QStringLiteral("Kapra osolíme")));
-    EXPECT_TRUE(run_.speech.said[1].contains(QStringLiteral("Polovinu másla")));
+    EXPECT_TRUE(run_.speech.said[0].contains(u"Kapra osolíme"_s));
+    EXPECT_TRUE(run_.speech.said[1].contains(u"Polovinu másla"_s));
     press(screen, Qt::Key_F9);
     press(screen, Qt::Key_Left);
     EXPECT_EQ(run_.speech.said.size(), 2);

@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
+
+#include "support/files.h"
 
 namespace sarne {
 namespace {
@@ -56,9 +57,9 @@ TEST(ChaptersTest, DamagedOnesAreNone) {
 TEST(ChaptersTest, AFileThatIsNoneIsNoChapters) {
     const QTemporaryDir folder;
     const auto write = [&](const char* name, const QByteArray& content) {
-        QFile file(folder.filePath(QLatin1String(name)));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        return file.fileName();
+        const QString file = folder.filePath(QLatin1String(name));
+        EXPECT_TRUE(test::write(file, content));
+        return file;
     };
     EXPECT_EQ(Chapters::read(write("1.KAP", kThree)).all().size(), 3U);
     EXPECT_TRUE(Chapters::read(write("2.KAP", kThree + QByteArray(100000, '\n'))).isEmpty());

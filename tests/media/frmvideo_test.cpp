@@ -108,6 +108,10 @@ TEST_F(VideoTest, TransportButtons) {
     press(Qt::Key_Right);
     press(Qt::Key_Right);
     EXPECT_EQ(player->position(), 25000);
+    press(Qt::Key_J);
+    EXPECT_EQ(player->position(), 0) << "without chapters the film is one part";
+    for (const char* step : {"imgKapitola(0)", "imgKapitola(2)"})
+        EXPECT_FALSE(child<Button>(*form, step)->isEnabled()) << step;
     auto* bar = form->findChild<SeekBar*>();
     bar->show(0, 60000);
     QTest::mouseClick(bar, Qt::LeftButton, {}, {bar->width() / 2, bar->height() / 2});
@@ -117,10 +121,7 @@ TEST_F(VideoTest, TransportButtons) {
 }
 
 TEST_F(VideoTest, StepsByChapter) {
-    QFile chapters(path("VIDEO/3.kap"));
-    ASSERT_TRUE(chapters.open(QIODevice::WriteOnly));
-    chapters.write("0\tPříprava\n10.5\tŘez\n40\tKonec díla\n");
-    chapters.close();
+    ASSERT_TRUE(test::write(path("VIDEO/3.kap"), "0\tPříprava\n10.5\tŘez\n40\tKonec díla\n"));
     open();
     start();
     const auto title = [&] { return child<Label>(*form, "lblKapitola")->text(); };
@@ -156,17 +157,6 @@ TEST_F(VideoTest, StepsByChapter) {
     EXPECT_EQ(bar->toolTip(), u"Konec díla"_s);
     QTest::mouseClick(bar, Qt::LeftButton, {}, markAt(10500) + QPoint(1, 0));
     EXPECT_EQ(player->position(), 10500) << "a mark leads to its chapter's beginning";
-}
-
-TEST_F(VideoTest, WithoutChaptersTheFilmIsOnePart) {
-    open();
-    start();
-    EXPECT_FALSE(child<Button>(*form, "imgKapitola(0)")->isEnabled());
-    EXPECT_FALSE(child<Button>(*form, "imgKapitola(2)")->isEnabled());
-    player->setPosition(30000);
-    press(Qt::Key_J);
-    EXPECT_EQ(player->position(), 0);
-    EXPECT_EQ(child<Label>(*form, "lblKapitola")->text(), QString());
 }
 
 TEST_F(VideoTest, PlaysSlowlyAndAsBefore) {
@@ -256,10 +246,8 @@ TEST_F(VideoTest, LeavingBeforeTheFileIsOpenOpensNothing) {
 TEST_F(VideoTest, SettingsOverAVideoKeepTheKeyboard) {
     open();
     start();
-    auto* settings = new Form(run, u"frmNastavHudbu"_s);
+    Form* settings = run.openAbove("frmNastavHudbu");
     settings->place({3000, 2100, 6000, 4800});
-    run.PushScreen(*settings);
-    settings->showForm();
     QTest::mouseClick(form, Qt::LeftButton, {}, {5, 5});
     EXPECT_EQ(run.window.focusForm(), settings) << "what shows of the video hands the keyboard on";
     press(Qt::Key_Escape);

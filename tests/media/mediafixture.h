@@ -2,11 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QTest>
 
 #include "support/fakesarne.h"
+#include "support/files.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -15,19 +14,13 @@ namespace sarne {
 class MediaFixture : public testing::Test {
   protected:
     void SetUp() override {
-        for (const char* folder : {"zvuky", "VIDEO"}) QDir(disc.path()).mkpath(QLatin1String(folder));
-        for (const char* file : {"HUDBA.WAV", "zvuky/Vina.WAV", "VIDEO/3.AVI"}) {
-            QFile made(path(file));
-            ASSERT_TRUE(made.open(QIODevice::WriteOnly));
-        }
-        const QString database = path("Sarne.drc");
-        test::writeRecipeDatabase(database, {u"INSERT INTO Nastav VALUES (1,'Efekty',1),(2,'Hudba',1),"
-                                             "(3,'Názvy',0),(4,'Videa',1),(5,'Vína',0)"_s});
-        ASSERT_TRUE(run.database.Open(database));
+        for (const char* file : {"HUDBA.WAV", "zvuky/Vina.WAV", "VIDEO/3.AVI"})
+            ASSERT_TRUE(test::write(path(file)));
+        ASSERT_TRUE(run.database.Open(test::writeRecipeDatabase(
+            path("Sarne.drc"), {u"INSERT INTO Nastav VALUES (1,'Efekty',1),(2,'Hudba',1),"
+                                "(3,'Názvy',0),(4,'Videa',1),(5,'Vína',0)"_s})));
         run.MediaRoot = LogicalPaths::fromNativeFolder(disc.path());
         run.SoundFlags = {true, true, false, true, false};
-        run.PushScreen(*below);
-        below->showForm();
     }
     QString path(const char* name) const { return disc.filePath(QLatin1String(name)); }
     void playMusic() {
@@ -40,7 +33,7 @@ class MediaFixture : public testing::Test {
 
     QTemporaryDir disc;
     FakeSarne run;
-    Form* below = new Form(run, u"frmHlavni"_s);
+    Form* below = run.openAbove("frmHlavni");
 };
 
 }  // namespace sarne

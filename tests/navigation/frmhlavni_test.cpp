@@ -1,11 +1,12 @@
 #include "screens/navigation/frmhlavni.h"
 
-#include <QDir>
 #include <QTest>
 
 #include "forms/nameplate.h"
 #include "menudatabase.h"
 #include "screens/navigation/frmmenu.h"
+#include "support/files.h"
+#include "support/pictures.h"
 
 namespace sarne {
 namespace {
@@ -14,21 +15,14 @@ class MainScreenTest : public MenuFixture {
   protected:
     /// Animations of three frames for the buttons 3 and 4, one colour each, and an effect for each button.
     void writeResources() {
-        QDir(folder.path()).mkpath(u"pohyby"_s);
-        QDir(folder.path()).mkpath(u"zvuky"_s);
         for (int button : {3, 4}) {
-            for (int frame = 1; frame <= 3; ++frame) {
-                QImage image(40, 40, QImage::Format_RGB32);
-                image.fill(QColor(80 * frame, 0, 10 * button));
-                image.save(folder.filePath(u"pohyby/%1-%2.png"_s.arg(button, 2, 10, QLatin1Char('0'))
-                                               .arg(frame, 2, 10, QLatin1Char('0'))));
-            }
+            for (int frame = 1; frame <= 3; ++frame)
+                ASSERT_TRUE(test::write(folder.filePath(u"pohyby/0%1-0%2.png"_s.arg(button).arg(frame)),
+                                        test::plain({40, 40}, QColor(80 * frame, 0, 10 * button))));
         }
-        for (int i = 0; i < 19; ++i) {
-            QFile effect(folder.filePath(u"zvuky/%1.wav"_s.arg(i + 101)));
-            ASSERT_TRUE(effect.open(QIODevice::WriteOnly));
-            effect.write(QByteArray("effect ") + QByteArray::number(i));
-        }
+        for (int i = 0; i < 19; ++i)
+            ASSERT_TRUE(test::write(folder.filePath(u"zvuky/%1.wav"_s.arg(i + 101)),
+                                    QByteArray("effect ") + QByteArray::number(i)));
         run.pictures = Resources(folder.path() + u'/');
     }
     void start() {
@@ -38,6 +32,9 @@ class MainScreenTest : public MenuFixture {
     }
     QWidget* button(int i) { return main->findChild<QWidget*>(u"imgClick(%1)"_s.arg(i)); }
     void moveOver(int i) { QTest::mouseMove(button(i), button(i)->rect().center()); }
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
     int redAt(int i) {
         const QPoint at = button(i)->geometry().topLeft() + QPoint(5, 5);
         return main->grab().toImage().pixelColor(at).red();
@@ -79,15 +76,11 @@ TEST_F(MainScreenTest, HoverPlaysTheAnimationAndItsEffectOnce) {
 TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
     start();
     EXPECT_TRUE(run.player.commands.isEmpty());
-    for (const char* track : {"HUDBA.WAV", "zvuky/vina.wav"}) {
-        QDir(folder.path()).mkpath(u"zvuky"_s);
-        QFile file(folder.filePath(QLatin1String(track)));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
+    for (const char* track : {"HUDBA.WAV", "zvuky/vina.wav"})
+        ASSERT_TRUE(test::write(folder.filePath(QLatin1String(track))));
     run.MediaRoot = LogicalPaths::fromNativeFolder(folder.path());
     run.SoundFlags[kMusic] = true;
-    FakeSarne& other = run;
-    other.player.commands.clear();
+    run.player.commands.clear();
     start();
     EXPECT_EQ(run.player.commands, (QStringList{u"open "_s + folder.filePath(u"HUDBA.WAV"_s), u"play"_s}));
     run.player.end();
@@ -116,7 +109,7 @@ TEST_F(MainScreenTest, ThingsAreNamedAsTheMenusTheyOpen) {
     EXPECT_EQ(button(2)->accessibleName(), u"Sladkovodní ryby"_s);
     EXPECT_EQ(button(18)->accessibleName(), u"Kuchání"_s) << "without a heading: the first item";
     for (int step = 0; step < 19; ++step) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        press(Qt::Key_Tab);
         EXPECT_EQ(run.window.namePlate().text(), QApplication::focusWidget()->accessibleName());
     }
     for (const int own : {0, 7}) EXPECT_FALSE(button(own)->accessibleName().isEmpty());
@@ -124,9 +117,6 @@ TEST_F(MainScreenTest, ThingsAreNamedAsTheMenusTheyOpen) {
 
 TEST_F(MainScreenTest, ButtonsByKeyboard) {
     start();
-    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    };
     press(Qt::Key_PageUp);
     const int first = main->currentButton();
     EXPECT_TRUE(button(first)->hasFocus());
@@ -187,8 +177,7 @@ TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
         return moved;
     };
     EXPECT_TRUE(moves());
-    auto* above = new Form(run, u"frmSeznam"_s);
-    run.PushScreen(*above);
+    Form* above = run.openAbove("frmSeznam");
     life->fire();
     EXPECT_FALSE(moves()) << "another screen is on top";
     run.PopScreen(*above);
@@ -202,11 +191,9 @@ TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
 
 TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
     start();
-    auto* top = new Form(run, u"frmSeznam"_s);
     moveOver(2);
     QTest::mouseClick(button(2), Qt::LeftButton);
-    run.PushScreen(*top);
-    top->showForm();
+    Form* top = run.openAbove("frmSeznam");
     main->SkryjMenu();
     EXPECT_FALSE(button(3)->isEnabled()) << "covered: controls come back with the screen";
     main->setFocus();
@@ -215,11 +202,9 @@ TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
     EXPECT_TRUE(button(3)->isEnabled());
     EXPECT_EQ(main->currentButton(), -5);
 
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    auto* other = new Form(run, u"frmSponzor"_s);
-    run.PushScreen(*other);
-    other->showForm();
+    press(Qt::Key_PageUp);
+    press(Qt::Key_Return);
+    Form* other = run.openAbove("frmSponzor");
     main->SkryjMenu();
     run.PopScreen(*other);
     EXPECT_TRUE(button(1)->hasFocus()) << "who came by keyboard goes on from there";
@@ -231,7 +216,6 @@ TEST_F(MainScreenTest, AMenuThatOpensNothingGivesTheKeyboardBack) {
     main->SkryjMenu();  // as after a choice that has opened no screen
     EXPECT_EQ(run.window.focusForm(), main);
     EXPECT_EQ(main->currentButton(), -5);
-    const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
     press(Qt::Key_Return);
     EXPECT_TRUE(main->isMenuOpen()) << "the ring stands on what Enter opens";
     press(Qt::Key_Escape);

@@ -183,10 +183,7 @@ TEST_F(MenuFormTest, AScreenOpenedByAFunctionKeyGivesTheMenuBack) {
     key(Qt::Key_F1);
     EXPECT_EQ(run.recorded.calls.last(), u"showHelpFor frmMenu"_s);
     EXPECT_TRUE(deepest()->isVisible()) << "no help came: the menu stays";
-    auto* page = new Form(run, u"frmStranka"_s);
-    run.PushScreen(*page);
-    page->showForm();
-    run.PopScreen(*page);
+    run.PopScreen(*run.openAbove("frmStranka"));
     EXPECT_TRUE(main->isMenuOpen());
     EXPECT_EQ(codes().size(), 2);
     EXPECT_EQ(QApplication::focusWidget(), deepest());

@@ -31,8 +31,7 @@ class MenuFixture : public testing::Test {
         for (int i = 0; i < 85; ++i)
             many << u"(%1,'%2%3')"_s.arg(100 + i).arg(i < 84 ? u"bylina" : u"byl").arg(i);
         rows << u"INSERT INTO Suroviny VALUES "_s + many.join(u',');
-        test::writeRecipeDatabase(folder.filePath(u"Sarne.drc"_s), rows);
-        ASSERT_TRUE(run.database.Open(folder.filePath(u"Sarne.drc"_s)));
+        ASSERT_TRUE(run.database.Open(test::writeRecipeDatabase(folder.filePath(u"Sarne.drc"_s), rows)));
         run.database.keepInMemory(u"Menu"_s);
     }
 

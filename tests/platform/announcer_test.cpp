@@ -35,10 +35,10 @@ TEST(AnnouncerTest, TextsAreAlertsOfTheWindow) {
     {
         auto window = std::make_unique<QWindow>();
         AccessibleAnnouncer announcer(window.get());
-        announcer.announce(QStringLiteral("Chcete ukončit program?  "));
+        announcer.announce(u"Chcete ukončit program?  "_s);
         announcer.announce({});
         window.reset();
-        announcer.announce(QStringLiteral("nikdo neposlouchá"));
+        announcer.announce(u"nikdo neposlouchá"_s);
     }
     QAccessible::installUpdateHandler(previous);
     listener->setActive(false);
@@ -46,7 +46,7 @@ TEST(AnnouncerTest, TextsAreAlertsOfTheWindow) {
     EXPECT_EQ(heard.last().event, QAccessible::Alert);
     for (const Heard& what : heard) {
         EXPECT_EQ(what.role, QAccessible::Notification);
-        EXPECT_EQ(what.name, QStringLiteral("Chcete ukončit program?  "));
+        EXPECT_EQ(what.name, u"Chcete ukončit program?  "_s);
     }
 }
 

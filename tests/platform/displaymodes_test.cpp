@@ -8,6 +8,7 @@
 #include <csignal>
 
 #include "displayserver.h"
+#include "support/files.h"
 #include "testmedia.h"
 
 namespace sarne {
@@ -84,11 +85,8 @@ TEST_F(DisplayModesTest, LeavesWhatTheUserChoseInTheMeantime) {
 TEST(DisplayModesElsewhereTest, AHelperThatHangsDoesNotKeepTheProgram) {
     const QTemporaryDir folder;
     const QString helper = folder.filePath(u"sarne-obnov"_s);
-    QFile script(helper);
-    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
-    script.write("#!/bin/sh\nexec sleep 60\n");
-    script.close();
-    script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    ASSERT_TRUE(test::write(helper, "#!/bin/sh\nexec sleep 60\n"));
+    QFile::setPermissions(helper, QFile::ReadOwner | QFile::ExeOwner);
     auto display = std::make_unique<SystemDisplayModes>(helper, u"xcb"_s);
     EXPECT_FALSE(display->setMode(design));
     EXPECT_FALSE(display->canSwitch(design));

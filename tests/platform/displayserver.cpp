@@ -8,10 +8,12 @@
 
 namespace sarne {
 
+using namespace Qt::StringLiterals;  // benchmarks are compiled without what tests have
+
 namespace {
 
 bool xrandr(const char* arguments) {
-    return QProcess::execute(QStringLiteral("xrandr"), QString::fromLatin1(arguments).split(u' ')) == 0;
+    return QProcess::execute(u"xrandr"_s, QString::fromLatin1(arguments).split(u' ')) == 0;
 }
 
 }  // namespace
@@ -24,13 +26,12 @@ DisplayServer::~DisplayServer() {
 }
 
 bool DisplayServer::start() {
-    const QString config = folder_.filePath(QStringLiteral("xorg.conf"));
+    const QString config = folder_.filePath(u"xorg.conf"_s);
     if (!QFile::copy(QStringLiteral(SARNE_XORG_CONF), config)) return false;
     server_.setStandardErrorFile(QProcess::nullDevice());
-    server_.start(QStringLiteral("Xorg"),
-                  QStringLiteral("-noreset -nolisten tcp -displayfd 1 -config %1 -logfile %2")
-                      .arg(config, folder_.filePath(QStringLiteral("log")))
-                      .split(u' '));
+    server_.start(u"Xorg"_s, u"-noreset -nolisten tcp -displayfd 1 -config %1 -logfile %2"_s
+                                 .arg(config, folder_.filePath(u"log"_s))
+                                 .split(u' '));
     QByteArray number;
     const auto answered = [&] {
         number += server_.readAllStandardOutput();

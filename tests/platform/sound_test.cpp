@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <algorithm>
 #include <cmath>
 
@@ -11,6 +10,7 @@
 #include "platform/pulseserver.h"
 #include "platform/soundlength.h"
 #include "soundserver.h"
+#include "support/files.h"
 #include "testmedia.h"
 
 namespace sarne {
@@ -147,9 +147,7 @@ TEST_F(SoundTest, CompressedEffectsSoundAndTellTheirLength) {
     for (const char* name : {"cely.wav", "efekt.ogg", "efekt.opus", "efekt.flac"}) {
         const QString file = media.path(QLatin1String(name));
         ASSERT_TRUE(file == whole || media.compress(whole, file));
-        QFile sound(file);
-        ASSERT_TRUE(sound.open(QIODevice::ReadOnly));
-        const QByteArray image = sound.readAll();
+        const QByteArray image = test::bytesOf(file);
         EXPECT_NEAR(double(soundLength(image)), 1600, 10) << name;
         EXPECT_EQ(soundLength(image.left(12)), 0) << name;
         effects.play(image);

@@ -9,9 +9,12 @@
 #include <cstring>
 #include <numbers>
 
+#include "support/files.h"
 #include "testmedia.h"
 
 namespace sarne {
+
+using namespace Qt::StringLiterals;  // benchmarks are compiled without what tests have
 
 namespace {
 
@@ -104,19 +107,18 @@ SoundServer::~SoundServer() {
 }
 
 bool SoundServer::start() {
-    const QString socket = folder_.filePath(QStringLiteral("native"));
+    const QString socket = folder_.filePath(u"native"_s);
     QFile::remove(socket);  // of a server that was killed
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "PULSE_RUNTIME_PATH"})
         environment.insert(QLatin1String(name), folder_.path());
-    environment.remove(QStringLiteral("PULSE_SERVER"));
+    environment.remove(u"PULSE_SERVER"_s);
     server_.setProcessEnvironment(environment);
     server_.setStandardErrorFile(QProcess::nullDevice());
-    server_.start(
-        QStringLiteral("pulseaudio"),
-        words("-n --daemonize=no --use-pid-file=no --exit-idle-time=-1 -L") +
-            QStringList{QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") + socket,
-                        QStringLiteral("-L"), QStringLiteral("module-null-sink sink_name=nahravka")});
+    server_.start(u"pulseaudio"_s,
+                  words("-n --daemonize=no --use-pid-file=no --exit-idle-time=-1 -L") +
+                      QStringList{u"module-native-protocol-unix auth-anonymous=1 socket="_s + socket, u"-L"_s,
+                                  u"module-null-sink sink_name=nahravka"_s});
     if (!server_.waitForStarted() || !waitFor([&] { return QFile::exists(socket); })) return false;
     qputenv("PULSE_SERVER", "unix:" + socket.toUtf8());
     offerByAlsa();
@@ -126,15 +128,14 @@ bool SoundServer::start() {
 /// A program that does not know the server reaches it as one reaches a sound card, where ALSA's plugin is
 /// installed.
 void SoundServer::offerByAlsa() {
-    QFile config(folder_.filePath(QStringLiteral("asound.conf")));
-    if (!config.open(QIODevice::WriteOnly)) return;
-    config.write("pcm.!default { type pulse }\nctl.!default { type pulse }\n");
-    qputenv("ALSA_CONFIG_PATH", config.fileName().toUtf8());
+    const QString config = folder_.filePath(u"asound.conf"_s);
+    if (test::write(config, "pcm.!default { type pulse }\nctl.!default { type pulse }\n"))
+        qputenv("ALSA_CONFIG_PATH", config.toUtf8());
 }
 
 bool SoundServer::startRecording() {
     recorder_.start(
-        QStringLiteral("parec"),
+        u"parec"_s,
         words("-d nahravka.monitor --raw --format=s16le --rate=44100 --channels=1 --latency-msec=10"));
     return recorder_.waitForStarted() && waitFor([this] { return recorder_.bytesAvailable() > 0; });
 }
@@ -155,13 +156,13 @@ void SoundServer::wake() {
 }
 
 bool SoundServer::pullDevice() {
-    return QProcess::execute(QStringLiteral("pactl"), words("unload-module module-null-sink")) == 0;
+    return QProcess::execute(u"pactl"_s, words("unload-module module-null-sink")) == 0;
 }
 
 bool SoundServer::plugDevice() {
     QProcess command;
     command.setStandardOutputFile(QProcess::nullDevice());
-    command.start(QStringLiteral("pactl"), words("load-module module-null-sink sink_name=nahravka"));
+    command.start(u"pactl"_s, words("load-module module-null-sink sink_name=nahravka"));
     if (!command.waitForFinished() || command.exitCode() != 0) return false;
     recorder_.kill();
     recorder_.waitForFinished();

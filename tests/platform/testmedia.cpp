@@ -4,7 +4,6 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QThread>
 #include <QtEndian>
@@ -12,7 +11,11 @@
 #include <cmath>
 #include <numbers>
 
+#include "support/files.h"
+
 namespace sarne {
+
+using namespace Qt::StringLiterals;  // benchmarks are compiled without what tests have
 
 namespace {
 
@@ -50,49 +53,41 @@ QByteArray sineWav(double hertz, int milliseconds, double loudness) {
 }
 
 QString TestMedia::write(const QString& name, const QByteArray& content) const {
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) return {};
-    return path(name);
+    return test::write(path(name), content) ? path(name) : QString();
 }
 
 bool TestMedia::compress(const QString& from, const QString& to) const {
-    return QProcess::execute(QStringLiteral("ffmpeg"), {QStringLiteral("-v"), QStringLiteral("error"),
-                                                        QStringLiteral("-i"), from, to}) == 0;
+    return QProcess::execute(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-i"_s, from, to}) == 0;
 }
 
 QString TestMedia::film(const QString& name, int milliseconds, const QString& options, const QString& size,
                         int rate) const {
     QProcess ffmpeg;
     QStringList arguments =
-        QStringLiteral("-v error -y -f lavfi -i testsrc=size=%1:rate=%2 -f lavfi -i sine=800 -t %3")
-            .arg(size)
+        u"-v error -y -f lavfi -i testsrc=size=%1:rate=%2 -f lavfi -i sine=800 -t %3"_s.arg(size)
             .arg(rate)
             .arg(milliseconds / 1000.0)
             .split(u' ');
     arguments += options.split(u' ', Qt::SkipEmptyParts);
-    ffmpeg.start(QStringLiteral("ffmpeg"), arguments << path(name));
+    ffmpeg.start(u"ffmpeg"_s, arguments << path(name));
     return ffmpeg.waitForFinished(120000) && ffmpeg.exitCode() == 0 ? path(name) : QString();
 }
 
 std::vector<BrokenFilm> brokenFilms(const TestMedia& media) {
     const auto read = [&](const QString& options) {
-        QFile file(media.film(QStringLiteral("vzor.avi"), 1000, options + QStringLiteral(" -c:a pcm_s16le")));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return test::bytesOf(media.film(u"vzor.avi"_s, 1000, options + u" -c:a pcm_s16le"_s));
     };
-    const QByteArray film = read(QStringLiteral("-c:v mjpeg"));
+    const QByteArray film = read(u"-c:v mjpeg"_s);
     if (film.size() < 10000) return {};
     QByteArray unknown = film;
     unknown.replace("MJPG", "QQQQ");
-    QByteArray sizeless = read(QStringLiteral("-c:v msvideo1 -pix_fmt rgb555le"));
+    QByteArray sizeless = read(u"-c:v msvideo1 -pix_fmt rgb555le"_s);
     for (qsizetype at : {sizeless.indexOf("avih") + 8 + 32, sizeless.indexOf("strf") + 8 + 4})
         sizeless.replace(at, 8, QByteArray(8, '\0'));
     // A playlist that would lead to a film, were it read.
-    const QString segment =
-        media.film(QStringLiteral("vzor.ts"), 1000, QStringLiteral("-c:v mpeg2video -c:a mp2"));
-    QFile stream(segment);
-    if (!stream.open(QIODevice::ReadOnly)) return {};
+    const QString segment = media.film(u"vzor.ts"_s, 1000, u"-c:v mpeg2video -c:a mp2"_s);
     return {{"empty", ""},
-            {"another format", stream.readAll()},
+            {"another format", test::bytesOf(segment)},
             {"playlist of films",
              "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:1,\n" + segment.toUtf8() + "\n#EXT-X-ENDLIST\n"},
             {"text", "Toto neni video.\n"},
@@ -125,17 +120,13 @@ ProcessUse ProcessUse::now() {
     malloc_trim(0);  // what is free is not held
     const struct mallinfo2 memory = mallinfo2();
     use.kilobytes = static_cast<qint64>((memory.uordblks + memory.hblkhd) / 1024);
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (status.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& line : status.readAll().split('\n')) {
-            const QByteArray number = line.simplified().split(' ').value(1);
-            if (line.startsWith("Threads:")) use.threads = number.toInt();
-            if (line.startsWith("RssAnon:") || line.startsWith("VmSwap:")) use.pages += number.toLongLong();
-        }
+    for (const QByteArray& line : test::bytesOf(u"/proc/self/status"_s).split('\n')) {
+        const QByteArray number = line.simplified().split(' ').value(1);
+        if (line.startsWith("Threads:")) use.threads = number.toInt();
+        if (line.startsWith("RssAnon:") || line.startsWith("VmSwap:")) use.pages += number.toLongLong();
     }
-    use.files = static_cast<int>(QDir(QStringLiteral("/proc/self/fd"))
-                                     .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
-                                     .size());
+    use.files = static_cast<int>(
+        QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
     return use;
 }
 

@@ -22,15 +22,15 @@ class PrintServer {
   public:
     /// Why there is none; empty when it runs.
     QString problem() {
-        const QString cupsd = QStandardPaths::findExecutable(
-            str("cupsd"), {str("/usr/sbin"), str("/usr/local/sbin"), str("/usr/bin")});
-        if (cupsd.isEmpty()) return str("cupsd is not installed");
+        const QString cupsd =
+            QStandardPaths::findExecutable(u"cupsd"_s, {u"/usr/sbin"_s, u"/usr/local/sbin"_s, u"/usr/bin"_s});
+        if (cupsd.isEmpty()) return u"cupsd is not installed"_s;
         configure();
         qputenv("CUPS_SERVER", socket().toLocal8Bit());
-        server_.start(cupsd, {str("-f"), str("-c"), path("cupsd.conf"), str("-s"), path("cups-files.conf")});
-        if (!eventually([this] { return QFile::exists(socket()); })) return str("cupsd does not start");
-        const QString queue = admin({str("-p"), str("PDF"), str("-E"), str("-v"), str("file://") + output(),
-                                     str("-m"), str("lsb/usr/cupsfilters/Generic-PDF_Printer-PDF.ppd")});
+        server_.start(cupsd, {u"-f"_s, u"-c"_s, path("cupsd.conf"), u"-s"_s, path("cups-files.conf")});
+        if (!eventually([this] { return QFile::exists(socket()); })) return u"cupsd does not start"_s;
+        const QString queue = admin({u"-p"_s, u"PDF"_s, u"-E"_s, u"-v"_s, u"file://"_s + output(), u"-m"_s,
+                                     u"lsb/usr/cupsfilters/Generic-PDF_Printer-PDF.ppd"_s});
         return queue;
     }
     ~PrintServer() { stop(); }
@@ -41,19 +41,18 @@ class PrintServer {
     }
     /// Runs lpadmin; what went wrong.
     QString admin(const QStringList& arguments) {
-        const QString said = test::pdfTool(
-            QStandardPaths::findExecutable(str("lpadmin"), {str("/usr/sbin"), str("/usr/bin")}), arguments);
-        return said.contains(str("failed")) ? said : QString();
+        const QString said = test::output(
+            QStandardPaths::findExecutable(u"lpadmin"_s, {u"/usr/sbin"_s, u"/usr/bin"_s}), arguments);
+        return said.contains(u"failed"_s) ? said : QString();
     }
     bool allJobsDone() {
-        return eventually([] { return test::pdfTool(str("lpstat"), {str("-o")}).trimmed().isEmpty(); });
+        return eventually([] { return test::output(u"lpstat"_s, {u"-o"_s}).trimmed().isEmpty(); });
     }
     QString output() const { return path("vystup.pdf"); }
     /// The end of what the server wrote down.
     QString log() const {
-        QFile file(path("ErrorLog"));
-        file.open(QIODevice::ReadOnly);
-        return QString::fromUtf8(file.readAll().right(2000)) + test::pdfTool(str("lpstat"), {str("-t")});
+        return QString::fromUtf8(test::bytesOf(path("ErrorLog")).right(2000)) +
+               test::output(u"lpstat"_s, {u"-t"_s});
     }
 
   private:
@@ -69,12 +68,10 @@ class PrintServer {
         return false;
     }
     void write(const char* name, const QString& text) const {
-        QFile file(path(name));
-        file.open(QIODevice::WriteOnly);
-        file.write(text.toUtf8());
+        ASSERT_TRUE(test::write(path(name), text.toUtf8()));
     }
     void configure() const {
-        QString places = str("FileDevice Yes\nSystemGroup root\n");
+        QString places = u"FileDevice Yes\nSystemGroup root\n"_s;
         for (const char* place : {"ServerRoot", "RequestRoot", "CacheDir", "StateDir", "TempDir"}) {
             QDir(folder_.path()).mkdir(str(place));
             places += str(place) + u' ' + path(place) + u'\n';
@@ -88,10 +85,10 @@ class PrintServer {
             places += str(log) + u' ' + path(log) + u'\n';
         write("cups-files.conf", places);
         write("cupsd.conf",
-              str("Listen ") + socket() +
-                  str("\nBrowsing Off\nWebInterface No\nDefaultAuthType None\n"
-                      "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
-                      "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"));
+              u"Listen "_s + socket() +
+                  u"\nBrowsing Off\nWebInterface No\nDefaultAuthType None\n"
+                  "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
+                  "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_s);
     }
 
     QTemporaryDir folder_;
@@ -101,37 +98,36 @@ class PrintServer {
 TEST(Cups, PrintsOnAQueueAndNoticesWhenItIsGone) {
     PrintServer server;
     if (const QString problem = server.problem(); !problem.isEmpty()) GTEST_SKIP() << problem.toStdString();
-    PrintCookbook book(
-        {PrintCookbook::recipe(1, str("Candát"), {str("Recept"), test::rtf(test::longText(9000))}),
-         PrintCookbook::recipe(2, str("Úhoř"))});
+    PrintCookbook book({PrintCookbook::recipe(1, u"Candát"_s, {u"Recept"_s, test::rtf(test::longText(9000))}),
+                        PrintCookbook::recipe(2, u"Úhoř"_s)});
 
     SystemPrinter printer(book.folder.path());
-    ASSERT_TRUE(printer.use({str("PDF")}));
-    EXPECT_EQ(printer.printers(), QStringList{str("PDF")});
-    EXPECT_TRUE(printer.fileFor(str("Candát")).isEmpty());
+    ASSERT_TRUE(printer.use({u"PDF"_s}));
+    EXPECT_EQ(printer.printers(), QStringList{u"PDF"_s});
+    EXPECT_TRUE(printer.fileFor(u"Candát"_s).isEmpty());
     const PrintOutcome outcome = book.printOn(printer, {1, 2});
     EXPECT_EQ(outcome.kind, Kind::Printed);
     ASSERT_TRUE(server.allJobsDone()) << server.log().toStdString();
     const QStringList pages = test::pdfPages(server.output());
     EXPECT_EQ(pages.size(), outcome.pages);
-    EXPECT_EQ(pages.last().simplified(), str("CD Tobrela - Velisa sarn Úhoř Porce: 4"));
+    EXPECT_EQ(pages.last().simplified(), u"CD Tobrela - Velisa sarn Úhoř Porce: 4"_s);
     const PageScale scale = printer.scale();
     for (const test::PdfWord& word : test::pdfWords(server.output(), 1)) {
         const QRectF printable(-scale.sheet.left(), -scale.sheet.top(), scale.width, scale.height);
         EXPECT_TRUE(printable.adjusted(-20, -20, 20, 20).contains(word.place)) << word.text.toStdString();
     }
 
-    QPainter* painter = printer.begin(str("Candát"));
+    QPainter* painter = printer.begin(u"Candát"_s);
     ASSERT_TRUE(painter);
-    painter->drawText(1000, 1000, str("poslední slova"));
-    EXPECT_TRUE(server.admin({str("-x"), str("PDF")}).isEmpty());
+    painter->drawText(1000, 1000, u"poslední slova"_s);
+    EXPECT_TRUE(server.admin({u"-x"_s, u"PDF"_s}).isEmpty());
     EXPECT_FALSE(printer.end([] {}).complete) << "the queue went away while it was printed on";
     EXPECT_EQ(book.printOn(printer, {1}).kind, Kind::Failed);
     server.stop();
     EXPECT_EQ(book.printOn(printer, {1}).kind, Kind::Failed);
     SystemPrinter another(book.folder.path());
     EXPECT_EQ(another.choice().printer, QString());
-    EXPECT_EQ(book.printOn(another, {2}).file, book.folder.filePath(str("Recept.pdf")))
+    EXPECT_EQ(book.printOn(another, {2}).file, book.folder.filePath(u"Recept.pdf"_s))
         << "without a printer there is a file";
 }
 

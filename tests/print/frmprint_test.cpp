@@ -18,7 +18,7 @@ using test::str;
 
 TEST_F(FrmPrintTest, OpensWithWhatTheUserLastLookedAt) {
     open({1, 2}, {2.5, UnitSystem::Spoons});
-    EXPECT_EQ(control<Edit>("Text1")->text(), str("2.5"));
+    EXPECT_EQ(control<Edit>("Text1")->text(), u"2.5"_s);
     EXPECT_FALSE(control<CheckBox>("chkZobrKg")->isChecked());
     QStringList names;
     for (int i = 0; i < kPrintSections; ++i) {
@@ -26,22 +26,22 @@ TEST_F(FrmPrintTest, OpensWithWhatTheUserLastLookedAt) {
         names << section(i)->caption();
     }
     EXPECT_EQ(names.removeDuplicates(), 0);
-    EXPECT_TRUE(control<Label>("lblTiskarna")->text().contains(str("A4")));
+    EXPECT_TRUE(control<Label>("lblTiskarna")->text().contains(u"A4"_s));
     EXPECT_TRUE(control<Label>("lblTiskarna")->toolTip().endsWith(file("Rybí recepty (2).pdf")));
     EXPECT_FALSE(control("cmdPrerus")->isVisible() || control("prgRecept")->isVisible());
     control("Command2")->click();
     open({1});
-    EXPECT_EQ(control<Edit>("Text1")->text(), str("4"));
+    EXPECT_EQ(control<Edit>("Text1")->text(), u"4"_s);
     control("Command2")->click();
     open({1}, {150});
-    EXPECT_EQ(run.messages, QStringList{str("48: Musí být zadáno celé číslo od 1 do 99!")});
-    EXPECT_EQ(control<Edit>("Text1")->text(), str("99"));
+    EXPECT_EQ(run.messages, QStringList{u"48: Musí být zadáno celé číslo od 1 do 99!"_s});
+    EXPECT_EQ(control<Edit>("Text1")->text(), u"99"_s);
 }
 
 /// A screen whose note is being written.
 struct NoteScreen : Form {
-    NoteScreen(FakeSarne& run) : Form(run, str("frmRecept")), kept(run) {}
-    void keepUnsaved() override { kept.notes().keepDraft(3, str("rozepsaná poznámka")); }
+    NoteScreen(FakeSarne& run) : Form(run, u"frmRecept"_s), kept(run) {}
+    void keepUnsaved() override { kept.notes().keepDraft(3, u"rozepsaná poznámka"_s); }
     FakeSarne& kept;
 };
 
@@ -51,8 +51,8 @@ TEST_F(FrmPrintTest, PrintsANoteAsItStandsInItsEditorAndStaysAwakeAboveARecipe) 
     run.PushScreen(*recipe);
     open({3});
     control("Command1")->click();
-    EXPECT_TRUE(test::pdfText(file("Štika.pdf")).contains(str("rozepsaná poznámka")));
-    EXPECT_EQ(run.awake, QStringList{str("Tisk")}) << "not ended: the recipe is below";
+    EXPECT_TRUE(test::pdfText(file("Štika.pdf")).contains(u"rozepsaná poznámka"_s));
+    EXPECT_EQ(run.awake, QStringList{u"Tisk"_s}) << "not ended: the recipe is below";
 }
 
 TEST_F(FrmPrintTest, AsksForPortionsFrom1To99) {
@@ -61,7 +61,7 @@ TEST_F(FrmPrintTest, AsksForPortionsFrom1To99) {
         run.messages.clear();
         control<Edit>("Text1")->setText(str(wrong));
         control("Command1")->click();
-        EXPECT_EQ(run.messages, QStringList{str("48: Musí být zadáno celé číslo od 1 do 99!")}) << wrong;
+        EXPECT_EQ(run.messages, QStringList{u"48: Musí být zadáno celé číslo od 1 do 99!"_s}) << wrong;
         EXPECT_TRUE(control<Edit>("Text1")->hasInput());
         control("cmdNahled")->click();
         EXPECT_EQ(run.messages.size(), 2);
@@ -73,13 +73,13 @@ TEST_F(FrmPrintTest, AsksForPortionsFrom1To99) {
     for (const auto& [typed, line] : lines) {
         control<Edit>("Text1")->setText(str(typed));
         control("Command1")->click();
-        EXPECT_TRUE(test::pdfText(outcome().section(str("souboru "), 1)).simplified().endsWith(str(line)))
+        EXPECT_TRUE(test::pdfText(outcome().section(u"souboru "_s, 1)).simplified().endsWith(str(line)))
             << typed;
     }
-    EXPECT_TRUE(run.messages.filter(str("48:")).isEmpty());
+    EXPECT_TRUE(run.messages.filter(u"48:"_s).isEmpty());
     control<Edit>("Text1")->focusAll();
-    QTest::keyClicks(form()->focusWidget(), str("2,5"));
-    EXPECT_EQ(control<Edit>("Text1")->text(), str("2.5"));
+    QTest::keyClicks(form()->focusWidget(), u"2,5"_s);
+    EXPECT_EQ(control<Edit>("Text1")->text(), u"2.5"_s);
 }
 
 TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
@@ -104,10 +104,10 @@ TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
     });
     control("Command1")->click();
     const QStringList all{
-        str(" Tisknu recept ... "),  str(" Tisknu foto ... "),       str(" Tisknu Suroviny ... "),
-        str(" Tisknu úvod ... "),    str(" Tisknu recept ... "),     str(" Tisknu poznámku ... "),
-        str(" Tisknu servis ... "),  str(" Tisknu víno ... "),       str(" Tisknu vlastní poznámku ... "),
-        str(" Tisknu pomůcky ... "), str(" Tisknu odkaz Vývar ... ")};
+        u" Tisknu recept ... "_s,  u" Tisknu foto ... "_s,       u" Tisknu Suroviny ... "_s,
+        u" Tisknu úvod ... "_s,    u" Tisknu recept ... "_s,     u" Tisknu poznámku ... "_s,
+        u" Tisknu servis ... "_s,  u" Tisknu víno ... "_s,       u" Tisknu vlastní poznámku ... "_s,
+        u" Tisknu pomůcky ... "_s, u" Tisknu odkaz Vývar ... "_s};
     EXPECT_EQ(seen.mid(0, all.size()), all);
     EXPECT_GE(farthest, 437) << "seven of eight sections, which are half the work";
     EXPECT_EQ(control<ProgressBar>("prgRecept")->value(), control<ProgressBar>("prgRecept")->maximum());
@@ -115,7 +115,7 @@ TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
     EXPECT_TRUE(below->isVisible());
     EXPECT_TRUE(control("Command1")->isEnabled() && control("Frame1")->isEnabled());
     EXPECT_FALSE(control("cmdPrerus")->isVisible());
-    EXPECT_EQ(run.awake, (QStringList{str("Tisk"), QString()}));
+    EXPECT_EQ(run.awake, (QStringList{u"Tisk"_s, QString()}));
     EXPECT_TRUE(outcome().endsWith(file("Rybí recepty (2).pdf"))) << outcome().toStdString();
 }
 
@@ -126,7 +126,7 @@ TEST_F(FrmPrintTest, PrintsASecondSelectionAtOnceUntilItIsClosed) {
     control("Command1")->click();
     open({3});
     EXPECT_TRUE(outcome().endsWith(file("Štika.pdf")));
-    EXPECT_EQ(test::pdfText(file("Štika.pdf")).simplified(), str("CD Tobrela - Velisa sarn Štika"));
+    EXPECT_EQ(test::pdfText(file("Štika.pdf")).simplified(), u"CD Tobrela - Velisa sarn Štika"_s);
     const QPointer<frmPrint> first = form();
     control("Command2")->click();
     EXPECT_FALSE(first->isLoaded());
@@ -136,7 +136,7 @@ TEST_F(FrmPrintTest, PrintsASecondSelectionAtOnceUntilItIsClosed) {
     EXPECT_TRUE(control<CheckBox>("Chco(0)")->isChecked());
     printing.printRecipes({77}, {});
     control("Command1")->click();
-    EXPECT_EQ(outcome(), str("Není co tisknout."));
+    EXPECT_EQ(outcome(), u"Není co tisknout."_s);
 }
 
 TEST_F(FrmPrintTest, StopsWhenTheUserSaysSo) {
@@ -146,9 +146,9 @@ TEST_F(FrmPrintTest, StopsWhenTheUserSaysSo) {
         if (run.messages.size() < 2) control("cmdPrerus")->click();
     });
     QTest::keyClick(form(), Qt::Key_Return);
-    EXPECT_EQ(run.messages, (QStringList{str("52:  Opravdu chcete ukončit tisk? "),
-                                         str("52:  Opravdu chcete ukončit tisk? ")}));
-    EXPECT_TRUE(outcome().startsWith(str("Tisk byl přerušen.")));
+    EXPECT_EQ(run.messages, (QStringList{u"52:  Opravdu chcete ukončit tisk? "_s,
+                                         u"52:  Opravdu chcete ukončit tisk? "_s}));
+    EXPECT_TRUE(outcome().startsWith(u"Tisk byl přerušen."_s));
     EXPECT_LT(control<ProgressBar>("prgSeznam")->value(), 6);
     EXPECT_TRUE(control("Command1")->isEnabled());
 
@@ -164,7 +164,7 @@ TEST_F(FrmPrintTest, StopsWhenTheUserSaysSo) {
     timer->start(0);
     control("Command1")->click();
     EXPECT_EQ(asked, 1);
-    const QString stopped = outcome().section(str("souboru "), 1);
+    const QString stopped = outcome().section(u"souboru "_s, 1);
     ASSERT_FALSE(stopped.isEmpty()) << outcome().toStdString();
     EXPECT_GT(test::pdfPages(stopped).size(), 60) << "what was printed is readable";
     EXPECT_LT(control<ProgressBar>("prgSeznam")->value(), 6);
@@ -175,13 +175,13 @@ TEST_F(FrmPrintTest, SaysWhenThePrinterFails) {
     for (const Fails fails : {Fails::Begin, Fails::NewPage, Fails::End}) {
         FakePrinter failing;
         failing.fails = fails;
-        failing.use({str("Tiskárna v chodbě"), Paper::A5, 2});
+        failing.use({u"Tiskárna v chodbě"_s, Paper::A5, 2});
         frmPrint print(run, failing);
         print.Zobraz({1, 3}, {});
         EXPECT_EQ(child<Label>(print, "lblTiskarna")->text(),
-                  str("Tiskárna: Tiskárna v chodbě\nPapír: A5, počet kopií: 2"));
+                  u"Tiskárna: Tiskárna v chodbě\nPapír: A5, počet kopií: 2"_s);
         child<Button>(print, "Command1")->click();
-        EXPECT_TRUE(child<Label>(print, "lblVysledek")->text().startsWith(str("Tisk se nezdařil")));
+        EXPECT_TRUE(child<Label>(print, "lblVysledek")->text().startsWith(u"Tisk se nezdařil"_s));
         EXPECT_FALSE(failing.begun) << "what was begun is ended";
         EXPECT_TRUE(child<Button>(print, "Command1")->isEnabled() && below->isVisible());
         child<Button>(print, "Command2")->click();
@@ -198,9 +198,8 @@ TEST_F(FrmPrintTest, AFullDiskLeavesNoHalfAFile) {
     setrlimit(RLIMIT_FSIZE, &full);
     control("Command1")->click();
     setrlimit(RLIMIT_FSIZE, &before);
-    EXPECT_TRUE(outcome().startsWith(str("Tisk se nezdařil"))) << outcome().toStdString();
-    EXPECT_TRUE(QDir(book.folder.filePath(str("Dokumenty"))).isEmpty())
-        << QFileInfo(file("Candát.pdf")).size();
+    EXPECT_TRUE(outcome().startsWith(u"Tisk se nezdařil"_s)) << outcome().toStdString();
+    EXPECT_TRUE(QDir(book.folder.filePath(u"Dokumenty"_s)).isEmpty()) << QFileInfo(file("Candát.pdf")).size();
     control("Command1")->click();
     EXPECT_TRUE(outcome().endsWith(file("Rybí recepty (2).pdf"))) << "and then there is room again";
     std::signal(SIGXFSZ, handler);
@@ -216,11 +215,11 @@ TEST_F(FrmPrintTest, AsksBeforeItReplacesAFile) {
     run.answers = {7};
     QTest::qWait(20);
     control("Command1")->click();
-    EXPECT_EQ(run.messages, QStringList{str("36: Soubor Štika.pdf už existuje. Chcete ho nahradit?")});
+    EXPECT_EQ(run.messages, QStringList{u"36: Soubor Štika.pdf už existuje. Chcete ho nahradit?"_s});
     EXPECT_EQ(QFileInfo(file("Štika.pdf")).lastModified(), written);
     control("Command1")->click();
     EXPECT_GT(QFileInfo(file("Štika.pdf")).lastModified(), written);
-    EXPECT_EQ(QDir(book.folder.filePath(str("Dokumenty"))).entryList(QDir::Files).size(), 1);
+    EXPECT_EQ(QDir(book.folder.filePath(u"Dokumenty"_s)).entryList(QDir::Files).size(), 1);
 }
 
 TEST_F(FrmPrintTest, ChoosesPrinterAndPaperAndRemembersThem) {
@@ -232,12 +231,12 @@ TEST_F(FrmPrintTest, ChoosesPrinterAndPaperAndRemembersThem) {
         QTimer::singleShot(0, below, [&, button, folder] {
             auto* dialog = loaded("frmTiskarna");
             ASSERT_TRUE(dialog);
-            EXPECT_EQ(child<Edit>(*dialog, "txtSoubor")->text(), str("Rybí recepty (2)"));
+            EXPECT_EQ(child<Edit>(*dialog, "txtSoubor")->text(), u"Rybí recepty (2)"_s);
             EXPECT_FALSE(child<Edit>(*dialog, "txtKopie")->isEnabled()) << "of a file there is one";
             child<ListBox>(*dialog, "lstPapir")->setListIndex(int(Paper::Card));
             child<CheckBox>(*dialog, "chkBarevne")->setChecked(false);
             child<Edit>(*dialog, "txtSlozka")->setText(book.folder.filePath(str(folder)));
-            child<Button>(*dialog, qPrintable(str("cmdOkStorno(%1)").arg(button)))->click();
+            child<Button>(*dialog, qPrintable(u"cmdOkStorno(%1)"_s.arg(button)))->click();
             if (dialog->isVisible()) QTest::keyClick(dialog, Qt::Key_Escape);
         });
         child<Button>(*print, "cmdTiskarna")->setFocus();
@@ -247,25 +246,25 @@ TEST_F(FrmPrintTest, ChoosesPrinterAndPaperAndRemembersThem) {
     EXPECT_TRUE(child<Button>(*print, "cmdTiskarna")->hasFocus()) << "the keyboard comes back";
     EXPECT_EQ(printer.choice().paper, Paper::A4);
     answer(0, "Sarne.drc/x");
-    EXPECT_EQ(run.messages, QStringList{str("48: Do této složky nelze ukládat. Zvolte jinou.")});
+    EXPECT_EQ(run.messages, QStringList{u"48: Do této složky nelze ukládat. Zvolte jinou."_s});
     EXPECT_TRUE(kept.isEmpty());
     answer(0, "Karty");
     EXPECT_TRUE(printer.scale().card);
-    EXPECT_TRUE(child<Label>(*print, "lblTiskarna")->text().contains(str("Kartička A6")));
-    EXPECT_FALSE(child<PageSheet>(*print, "picStrana")->accessibleValue().contains(str("poznámka")));
+    EXPECT_TRUE(child<Label>(*print, "lblTiskarna")->text().contains(u"Kartička A6"_s));
+    EXPECT_FALSE(child<PageSheet>(*print, "picStrana")->accessibleValue().contains(u"poznámka"_s));
     child<Button>(*print, "Command1")->click();
-    EXPECT_TRUE(QFileInfo::exists(book.folder.filePath(str("Karty/Rybí recepty (2).pdf"))));
+    EXPECT_TRUE(QFileInfo::exists(book.folder.filePath(u"Karty/Rybí recepty (2).pdf"_s)));
 
     SystemPrinter another(book.folder.path());
     frmPrint next(run, another, memory);
     next.Zobraz({3}, {});
     EXPECT_EQ(another.choice().paper, Paper::Card);
     EXPECT_FALSE(another.choice().colour);
-    kept = PrinterChoice{str("Zmizelá")}.toText();
+    kept = PrinterChoice{u"Zmizelá"_s}.toText();
     frmPrint gone(run, another, memory);
     gone.Zobraz({3}, {});
     EXPECT_EQ(child<Label>(gone, "lblVysledek")->text(),
-              str("Tiskárna Zmizelá teď není k dispozici, tisk půjde do souboru."));
+              u"Tiskárna Zmizelá teď není k dispozici, tisk půjde do souboru."_s);
 }
 
 TEST_F(FrmPrintTest, QuickRecipesAndHelpPagesPrintAboveTheirDialog) {
@@ -285,17 +284,16 @@ TEST_F(FrmPrintTest, QuickRecipesAndHelpPagesPrintAboveTheirDialog) {
         EXPECT_EQ(run.window.modalForm(), nullptr);
         EXPECT_EQ(run.FormStack.top(), below);
     };
-    select({str("Pět minut"), 3}, "RychleRecepty");
+    select({u"Pět minut"_s, 3}, "RychleRecepty");
     EXPECT_EQ(test::pdfPages(file("Štika.pdf")).size(), 1);
-    select({str("O tisku"), 10}, "Help");
+    select({u"O tisku"_s, 10}, "Help");
     EXPECT_EQ(test::pdfText(file("O tisku.pdf")).simplified(),
-              str("CD Tobrela - Velisa sarn O tisku Text stránky."))
+              u"CD Tobrela - Velisa sarn O tisku Text stránky."_s)
         << "a title that the text repeats is printed once";
-    printing.printText(str("Tabulka"), test::rtf(str("Řádek.")));
+    printing.printText(u"Tabulka"_s, test::rtf(u"Řádek."_s));
     EXPECT_FALSE(control("Frame1")->isEnabled()) << "there is nothing to choose";
     control("Command1")->click();
-    EXPECT_EQ(test::pdfText(file("Tabulka.pdf")).simplified(),
-              str("CD Tobrela - Velisa sarn Tabulka Řádek."));
+    EXPECT_EQ(test::pdfText(file("Tabulka.pdf")).simplified(), u"CD Tobrela - Velisa sarn Tabulka Řádek."_s);
 }
 
 }  // namespace

@@ -19,8 +19,7 @@ using test::str;
 class FrmSaveTest : public testing::Test {
   protected:
     FrmSaveTest()
-        : save(new frmSave(run,
-                           {{str("Candát"), 40}, {str("Kapr"), 10}, {str("Lín"), 30}, {str("Štika"), 20}},
+        : save(new frmSave(run, {{u"Candát"_s, 40}, {u"Kapr"_s, 10}, {u"Lín"_s, 30}, {u"Štika"_s, 20}},
                            [this](const Ids& ids) {
                                shownAtHandover = save->isVisible();
                                printed.push_back(ids);
@@ -66,7 +65,7 @@ class FrmSaveTest : public testing::Test {
 };
 
 TEST_F(FrmSaveTest, BeginsAtTheEntryThatWasSelected) {
-    frmSave other(run, {{str("Candát"), 40}, {str("Kapr"), 10, true}, {str("Lín"), 30}}, {});
+    frmSave other(run, {{u"Candát"_s, 40}, {u"Kapr"_s, 10, true}, {u"Lín"_s, 30}}, {});
     EXPECT_EQ(child<ListBox>(other, "lstSeznam")->marked(), std::vector<int>{1});
     child<Button>(other, "cmdRuka(0)")->click();
     EXPECT_EQ(child<ListBox>(other, "lstVybrano")->itemData(0), 10);
@@ -75,7 +74,7 @@ TEST_F(FrmSaveTest, BeginsAtTheEntryThatWasSelected) {
 TEST_F(FrmSaveTest, AddsEachEntryOnce) {
     show([&] {
         EXPECT_EQ(child<Label>(*save, "Label2")->text(),
-                  str("Vyberte ze seznamu položky, které chcete tisknout"));
+                  u"Vyberte ze seznamu položky, které chcete tisknout"_s);
         EXPECT_FALSE(ok());
         QTest::mouseDClick(list->view().viewport(), Qt::LeftButton, {}, list->rect().center());
         button("cmdRuka(0)")->click();
@@ -106,7 +105,7 @@ TEST_F(FrmSaveTest, SeveralMarkedEntriesGoTogether) {
         clickRow(list, 3, Qt::ControlModifier);
         button("cmdRuka(0)")->click();
         EXPECT_EQ(items(), (Ids{40, 10, 20}));
-        QTest::keyClicks(&list->view(), str("l"));
+        QTest::keyClicks(&list->view(), u"l"_s);
         EXPECT_EQ(list->listIndex(), 2);
         clickRow(list, 1, Qt::ShiftModifier);
         button("cmdRuka(0)")->click();
@@ -158,14 +157,14 @@ TEST_F(FrmSaveTest, OkHandsOverAndClosesInTheOrdinaryModeOnly) {
     EXPECT_FALSE(shownAtHandover) << "hidden first";
     EXPECT_FALSE(save->isLoaded());
 
-    save = new frmSave(run, {{str("Pět minut"), 10}}, [this](const Ids& ids) {
+    save = new frmSave(run, {{u"Pět minut"_s, 10}}, [this](const Ids& ids) {
         printed.push_back(ids);
         save->hideForm();  // as printing does with all screens
         save->show();
     });
     list = child<ListBox>(*save, "lstSeznam");
     QTimer::singleShot(0, save, [this] {
-        EXPECT_EQ(save->mode(), str("rychlerecepty"));
+        EXPECT_EQ(save->mode(), u"rychlerecepty"_s);
         button("cmdRuka(3)")->click();
         QTimer::singleShot(0, save, [this] {
             EXPECT_EQ(run.window.modalForm(), save.data()) << "the dialog goes on";
@@ -174,7 +173,7 @@ TEST_F(FrmSaveTest, OkHandsOverAndClosesInTheOrdinaryModeOnly) {
         });
         button("cmdOkEnd(0)")->click();
     });
-    save->Zobraz(str("RychleRecepty"));
+    save->Zobraz(u"RychleRecepty"_s);
     EXPECT_EQ(printed, (std::vector<Ids>{{20, 40}, {10}, {10}}));
     EXPECT_FALSE(save->isLoaded());
     EXPECT_EQ(run.window.modalForm(), nullptr);
@@ -191,8 +190,7 @@ TEST_F(FrmSaveTest, EndsWithTheProgram) {
 }
 
 TEST_F(FrmSaveTest, WorksFromTheKeyboardAlone) {
-    auto* below = new Form(run, str("frmHlavni"));
-    run.PushScreen(*below);
+    run.openAbove("frmHlavni");
     show([&] {
         key(list, Qt::Key_F1);
         key(list, Qt::Key_Down);
@@ -203,7 +201,7 @@ TEST_F(FrmSaveTest, WorksFromTheKeyboardAlone) {
         key(button("cmdOkEnd(0)"), Qt::Key_Return);
     });
     EXPECT_EQ(run.exits, 0) << "X is no key of a dialog";
-    EXPECT_EQ(run.recorded.calls, QStringList{str("showHelpFor frmSave")});
+    EXPECT_EQ(run.recorded.calls, QStringList{u"showHelpFor frmSave"_s});
     EXPECT_EQ(printed, (std::vector<Ids>{{40}}));
 }
 

@@ -26,7 +26,7 @@ std::vector<FlowLine> sketched(const char* sketch) {
 QString pages(const char* sketch, int height) {
     QStringList texts;
     for (const PageRange& page : breakPages(sketched(sketch), height))
-        texts << QStringLiteral("%1-%2").arg(page.first).arg(page.end);
+        texts << u"%1-%2"_s.arg(page.first).arg(page.end);
     return texts.join(u' ');
 }
 
@@ -54,8 +54,8 @@ TEST(PageBreaker, KeepsTogetherWhatBelongsTogether) {
 }
 
 TEST(PageBreaker, GoesOnWhereNothingFits) {
-    EXPECT_EQ(pages("h2", 50), QStringLiteral("0-1 1-2 2-3"));
-    EXPECT_EQ(pages("1.1", -1), QStringLiteral("0-1 2-3"));
+    EXPECT_EQ(pages("h2", 50), u"0-1 1-2 2-3"_s);
+    EXPECT_EQ(pages("1.1", -1), u"0-1 2-3"_s);
 }
 
 }  // namespace

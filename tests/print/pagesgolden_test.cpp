@@ -18,33 +18,33 @@ QStringList cookbook() {
         "p\\'f8edeh\\'f8ejeme na 200 stup\\'f2\\'f9 a *44pek\\'e1\\'e8* vyma\\'9eeme m\\'e1slem, kter\\'e9 "
         "jsme nechali zm\\'ecknout.\\par\\fs10\\par\\fs24 Pod\\'e1v\\'e1me s bramborem, v m\\'edse a k "
         "tomu p\\'edsn\\'ec slovo.\\par 12. Nakonec ");
-    return {PrintCookbook::recipe(
-                1, str("Kapr na kmíně"),
-                {str("DlouhyNazev"), str("Kapr pečený na kmíně"), str("Uvod"),
-                 test::rtf(str("\\i Rychl\\'e9\\i0\\par Kapr a km\\'edn k sob\\'ec pat\\'f8\\'ed.")),
-                 str("Recept"), test::rtf(steps), str("Prezentace"), test::rtf(str("Na tal\\'ed\\'f8i.")),
-                 str("vino"), test::rtf(str("Ryzlink.")), str("Vlastni"), str("Méně soli. ")}),
-            PrintCookbook::recipe(2, str("Štika"), {str("Recept"), test::rtf(steps.repeated(4))}),
-            PrintCookbook::recipe(3, str("Rybí polévka z hlav a jiker na způsob staré rybníkářské kuchyně"),
-                                  {str("Recept"), test::rtf(test::longText(900))}),
-            PrintCookbook::recipe(4, str("Okoun"), {str("Vlastni"), test::longText(1500)}),
-            PrintCookbook::recipe(5, str("Lín")),
-            str("INSERT INTO Suroviny VALUES (1,'kapr'),(2,'amur'),(3,'sůl'),(4,'paprika mletá')"),
-            str("INSERT INTO Upresneni VALUES (1,'podkovy'),(2,'sladká')"),
-            str("INSERT INTO Jednotky VALUES (1,'g'),(2,'lžičky'),(3,'ks')"),
-            str("INSERT INTO SpojSur VALUES (1,1,1,1,1200,3,4,2),(1,3,0,1,5.5,2,0.5,0),(1,4,2,1,250,0,2,0)"),
-            str("INSERT INTO Pomucky VALUES (1,'pekáč')"),
-            str("INSERT INTO SpojPomucky VALUES (1,1)"),
-            str("INSERT INTO Odkazy VALUES (5,'Vývar',") + test::sqlText(test::rtf(str("Va\\'f8\\'edme."))) +
-                u')',
-            str("INSERT INTO SpojOdkazy VALUES (1,5)")};
+    return {
+        PrintCookbook::recipe(
+            1, u"Kapr na kmíně"_s,
+            {u"DlouhyNazev"_s, u"Kapr pečený na kmíně"_s, u"Uvod"_s,
+             test::rtf(u"\\i Rychl\\'e9\\i0\\par Kapr a km\\'edn k sob\\'ec pat\\'f8\\'ed."_s), u"Recept"_s,
+             test::rtf(steps), u"Prezentace"_s, test::rtf(u"Na tal\\'ed\\'f8i."_s), u"vino"_s,
+             test::rtf(u"Ryzlink."_s), u"Vlastni"_s, u"Méně soli. "_s}),
+        PrintCookbook::recipe(2, u"Štika"_s, {u"Recept"_s, test::rtf(steps.repeated(4))}),
+        PrintCookbook::recipe(3, u"Rybí polévka z hlav a jiker na způsob staré rybníkářské kuchyně"_s,
+                              {u"Recept"_s, test::rtf(test::longText(900))}),
+        PrintCookbook::recipe(4, u"Okoun"_s, {u"Vlastni"_s, test::longText(1500)}),
+        PrintCookbook::recipe(5, u"Lín"_s),
+        u"INSERT INTO Suroviny VALUES (1,'kapr'),(2,'amur'),(3,'sůl'),(4,'paprika mletá')"_s,
+        u"INSERT INTO Upresneni VALUES (1,'podkovy'),(2,'sladká')"_s,
+        u"INSERT INTO Jednotky VALUES (1,'g'),(2,'lžičky'),(3,'ks')"_s,
+        u"INSERT INTO SpojSur VALUES (1,1,1,1,1200,3,4,2),(1,3,0,1,5.5,2,0.5,0),(1,4,2,1,250,0,2,0)"_s,
+        u"INSERT INTO Pomucky VALUES (1,'pekáč')"_s,
+        u"INSERT INTO SpojPomucky VALUES (1,1)"_s,
+        u"INSERT INTO Odkazy VALUES (5,'Vývar',"_s + test::sqlText(test::rtf(u"Va\\'f8\\'edme."_s)) + u')',
+        u"INSERT INTO SpojOdkazy VALUES (1,5)"_s};
 }
 
 /// One row a line: its baseline, where each word begins, the line's end, and the words.
 void dump(QStringList& rows, const PrintedPage& page) {
     for (const PagePicture& picture : page.pictures) {
         const QRect& at = picture.place;
-        rows << str("# %1 %2 %3 %4").arg(at.x()).arg(at.y()).arg(at.width()).arg(at.height());
+        rows << u"# %1 %2 %3 %4"_s.arg(at.x()).arg(at.y()).arg(at.width()).arg(at.height());
     }
     for (size_t i = 0; i < page.texts.size();) {
         QStringList places, words;
@@ -55,7 +55,7 @@ void dump(QStringList& rows, const PrintedPage& page) {
             words << page.texts[i].text;
             end = page.texts[i].x + page.texts[i].width;
         }
-        rows << str("%1: %2 -%3 | %4").arg(baseline).arg(places.join(u' ')).arg(end).arg(words.join(u' '));
+        rows << u"%1: %2 -%3 | %4"_s.arg(baseline).arg(places.join(u' ')).arg(end).arg(words.join(u' '));
     }
 }
 
@@ -69,18 +69,16 @@ TEST(PrintedPage, StandsToTheTwipWhereItStood) {
         PageComposer composer(book.source(), PagesOnSheet::of(paper).scale(), metrics);
         for (int id = 1; id <= 5; ++id) {
             for (const PrintedPage& page : composer.recipe(id, {}, silent)) {
-                rows << str("== %1, %2").arg(paperName(paper)).arg(id);
+                rows << u"== %1, %2"_s.arg(paperName(paper)).arg(id);
                 dump(rows, page);
             }
         }
     }
-    QFile file(str(SARNE_PRINTED_PAGES));
-    if (qEnvironmentVariableIsSet("SARNE_RENEW") && file.open(QIODevice::WriteOnly)) {
-        file.write((rows.join(u'\n') + u'\n').toUtf8());
-        file.close();
+    const QString file = str(SARNE_PRINTED_PAGES);
+    if (qEnvironmentVariableIsSet("SARNE_RENEW")) {
+        ASSERT_TRUE(test::write(file, (rows.join(u'\n') + u'\n').toUtf8()));
     }
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QStringList expected = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    const QStringList expected = QString::fromUtf8(test::bytesOf(file)).split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(rows.size(), expected.size());
     for (qsizetype i = 0; i < rows.size(); ++i) EXPECT_EQ(rows[i], expected[i]) << "row " << i + 1;
 }

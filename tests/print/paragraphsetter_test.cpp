@@ -48,52 +48,51 @@ class Setting {
 };
 
 TEST(ParagraphSetter, KeepsOneLetterWordsWithTheNextOne) {
-    EXPECT_EQ(Setting(12).set(str("kapra dáme k vodě a dušíme pět minut")),
-              str("kapra dáme|k vodě|a dušíme|pět minut"));
-    EXPECT_EQ(Setting(10).set(str("plát másla (v pánvi se solí")), str("plát másla|(v pánvi|se solí"));
-    EXPECT_EQ(Setting(8).set(str("a i o u k s v z")), str("a i o u|k s v z"))
-        << "a line is filled all the same";
+    EXPECT_EQ(Setting(12).set(u"kapra dáme k vodě a dušíme pět minut"_s),
+              u"kapra dáme|k vodě|a dušíme|pět minut"_s);
+    EXPECT_EQ(Setting(10).set(u"plát másla (v pánvi se solí"_s), u"plát másla|(v pánvi|se solí"_s);
+    EXPECT_EQ(Setting(8).set(u"a i o u k s v z"_s), u"a i o u|k s v z"_s) << "a line is filled all the same";
 }
 
 TEST(ParagraphSetter, LeavesNoWordAloneAtTheEnd) {
-    EXPECT_EQ(Setting(16).set(str("jeden dva tři čtyři")), str("jeden dva|tři čtyři"));
+    EXPECT_EQ(Setting(16).set(u"jeden dva tři čtyři"_s), u"jeden dva|tři čtyři"_s);
     Setting tight(20, true);
-    EXPECT_EQ(tight.set(str("ab ab ab ab ab ab abc")), str("ab ab ab ab ab ab abc")) << "drawn together";
+    EXPECT_EQ(tight.set(u"ab ab ab ab ab ab abc"_s), u"ab ab ab ab ab ab abc"_s) << "drawn together";
     EXPECT_EQ(tight.right(0), 20);
-    EXPECT_EQ(Setting(30, true).set(str("aa bbb cc ddd ee fff gg hhhh ii jjj kk ll mm nnn oo ppp qq rrrrrr")),
-              str("aa bbb cc ddd ee fff gg hhhh|ii jjj kk ll mm nnn oo ppp|qq rrrrrr"))
+    EXPECT_EQ(Setting(30, true).set(u"aa bbb cc ddd ee fff gg hhhh ii jjj kk ll mm nnn oo ppp qq rrrrrr"_s),
+              u"aa bbb cc ddd ee fff gg hhhh|ii jjj kk ll mm nnn oo ppp|qq rrrrrr"_s)
         << "the word before it goes along";
-    EXPECT_EQ(Setting(10).set(str("dlouhatánské slovo")), str("dlouhatáns|ké slovo"));
-    EXPECT_EQ(Setting(12).set(str("kapr candát sumec")), str("kapr candát|sumec")) << "nor at the beginning";
+    EXPECT_EQ(Setting(10).set(u"dlouhatánské slovo"_s), u"dlouhatáns|ké slovo"_s);
+    EXPECT_EQ(Setting(12).set(u"kapr candát sumec"_s), u"kapr candát|sumec"_s) << "nor at the beginning";
 }
 
 TEST(ParagraphSetter, HangsTheLinesOfAStepBelowItsText) {
     Setting step(20, true);
-    EXPECT_EQ(step.set(str("2. Rybu osolíme, necháme stát, pak dáme péct")),
-              str("2. Rybu osolíme,|necháme stát, pak|dáme péct"));
+    EXPECT_EQ(step.set(u"2. Rybu osolíme, necháme stát, pak dáme péct"_s),
+              u"2. Rybu osolíme,|necháme stát, pak|dáme péct"_s);
     EXPECT_EQ(step.left(0), 0);
     EXPECT_EQ(step.left(1), step.left(2));
     EXPECT_EQ(step.lines[0].texts[1].x, step.lines[1].texts[0].x);
-    EXPECT_EQ(step.set(str("2.\u00a0Rybu osolíme, necháme stát, pak dáme péct")),
-              str("2. Rybu osolíme,|necháme stát, pak|dáme péct"))
+    EXPECT_EQ(step.set(u"2.\u00a0Rybu osolíme, necháme stát, pak dáme péct"_s),
+              u"2. Rybu osolíme,|necháme stát, pak|dáme péct"_s)
         << "the blank that holds number and word together makes no difference";
-    step.set(str("200 gramů másla rozpustíme na pánvi"));
+    step.set(u"200 gramů másla rozpustíme na pánvi"_s);
     EXPECT_EQ(step.left(1), 0) << "an amount is no step";
-    EXPECT_EQ(stepMark(str("10.")), 3);
-    EXPECT_EQ(stepMark(str("10.5")), 0);
-    EXPECT_EQ(stepMark(str("–")), 1);
-    EXPECT_EQ(stepMark(str("ryba")), 0);
+    EXPECT_EQ(stepMark(u"10."_s), 3);
+    EXPECT_EQ(stepMark(u"10.5"_s), 0);
+    EXPECT_EQ(stepMark(u"–"_s), 1);
+    EXPECT_EQ(stepMark(u"ryba"_s), 0);
 }
 
 TEST(ParagraphSetter, FillsTheLinesButTheLastAndThoseThatWouldTear) {
     Setting lines(20, true);
-    lines.set(str("Rybu dnes osolíme, pak necháme stát na chladném místě skoro půl dne, do večera"));
+    lines.set(u"Rybu dnes osolíme, pak necháme stát na chladném místě skoro půl dne, do večera"_s);
     ASSERT_GT(lines.lines.size(), 3u);
     for (size_t line = 0; line + 1 < lines.lines.size(); ++line) EXPECT_EQ(lines.right(line), 20) << line;
     EXPECT_LT(lines.right(lines.lines.size() - 1), 20);
     EXPECT_TRUE(lines.lines.front().startsParagraph && lines.lines.back().endsParagraph);
-    EXPECT_EQ(lines.set(str("ryba nejneobyčejnějšího vzhledu")), str("ryba|nejneobyčejnějšího|vzhledu"));
-    EXPECT_EQ(lines.set(str("ryba má nejneobyčejnějšího vzhled")), str("ryba má|nejneobyčejnějšího|vzhled"));
+    EXPECT_EQ(lines.set(u"ryba nejneobyčejnějšího vzhledu"_s), u"ryba|nejneobyčejnějšího|vzhledu"_s);
+    EXPECT_EQ(lines.set(u"ryba má nejneobyčejnějšího vzhled"_s), u"ryba má|nejneobyčejnějšího|vzhled"_s);
     EXPECT_EQ(lines.right(0), 7);
     const QString note = test::longText(9000);
     EXPECT_EQ(lines.set(note.trimmed()).replace(u'|', u' '), note.trimmed())

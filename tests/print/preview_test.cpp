@@ -19,7 +19,7 @@ TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
     const auto key = [&](int code) { QTest::keyClick(preview, Qt::Key(code)); };
     for (qsizetype page = 0; page < printed.size(); ++page, key(Qt::Key_Right)) {
         EXPECT_EQ(child<Label>(*preview, "lblStrana")->text(),
-                  str("Strana %1 z %2").arg(page + 1).arg(printed.size()));
+                  u"Strana %1 z %2"_s.arg(page + 1).arg(printed.size()));
         EXPECT_EQ(sheet->accessibleValue().simplified(), printed[page].simplified());
     }
     EXPECT_EQ(preview->currentSheet() + 1, printed.size()) << "the last page stays";
@@ -33,7 +33,7 @@ TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
     EXPECT_GT(sheet->scrolled(), 0);
     EXPECT_EQ(preview->currentSheet(), 0);
     key(Qt::Key_F1);
-    EXPECT_TRUE(run.recorded.calls.contains(str("showHelpFor frmNahled")));
+    EXPECT_TRUE(run.recorded.calls.contains(u"showHelpFor frmNahled"_s));
     key(Qt::Key_Escape);
     EXPECT_FALSE(preview->isLoaded());
     EXPECT_EQ(run.FormStack.top(), form());
@@ -48,11 +48,11 @@ TEST_F(FrmPrintTest, EveryChangeShowsInThePreviewAtOnce) {
     control<CheckBox>("Chco(1)")->setChecked(false);
     EXPECT_FALSE(shows("Porce"));
     control<CheckBox>("Chco(1)")->setChecked(true);
-    control<Edit>("Text1")->setText(str("6,5"));
+    control<Edit>("Text1")->setText(u"6,5"_s);
     EXPECT_TRUE(shows("Porce: 6,5"));
     control<Edit>("Text1")->setText({});
     EXPECT_TRUE(shows("Porce: 6,5")) << "what cannot be printed shows nothing new";
-    control<Edit>("Text1")->setText(str("6"));
+    control<Edit>("Text1")->setText(u"6"_s);
     QTest::keyClick(form(), Qt::Key_PageDown);
     EXPECT_TRUE(shows("2 z "));
     for (int i = 0; i < 20; ++i) control("cmdStrana(1)")->click();
@@ -89,12 +89,12 @@ TEST_F(FrmPrintTest, ThePreviewShowsAllPagesOfASheet) {
     open({1, 3, 1, 3, 1});
     QTest::qWait(50);
     auto* sheet = control<PageSheet>("picStrana");
-    EXPECT_EQ(control<Label>("lblStrana")->text(), str("List 1 z 2"));
-    EXPECT_EQ(sheet->accessibleValue().count(str("CD Tobrela")), 4);
-    EXPECT_EQ(inkedQuarters(*sheet), str("xxxx"));
+    EXPECT_EQ(control<Label>("lblStrana")->text(), u"List 1 z 2"_s);
+    EXPECT_EQ(sheet->accessibleValue().count(u"CD Tobrela"_s), 4);
+    EXPECT_EQ(inkedQuarters(*sheet), u"xxxx"_s);
     QTest::keyClick(form(), Qt::Key_PageDown);
-    EXPECT_EQ(sheet->accessibleValue().count(str("CD Tobrela")), 1);
-    EXPECT_EQ(inkedQuarters(*sheet), str("x---"));
+    EXPECT_EQ(sheet->accessibleValue().count(u"CD Tobrela"_s), 1);
+    EXPECT_EQ(inkedQuarters(*sheet), u"x---"_s);
     EXPECT_FALSE(control("cmdStrana(1)")->isEnabled());
 }
 

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <QFile>
-#include <QImage>
-#include <QProcess>
 #include <QRegularExpression>
 
 #include "db/database.h"
@@ -11,6 +8,9 @@
 #include "print/printjob.h"
 #include "print/printlogo.h"
 #include "richtext/qttextmetrics.h"
+#include "support/files.h"
+#include "support/pictures.h"
+#include "support/print.h"
 #include "support/recipedatabase.h"
 
 namespace sarne::test {
@@ -19,43 +19,18 @@ inline QString str(const char* text) {
     return QString::fromUtf8(text);
 }
 
-inline QString sqlText(const QString& text) {
-    return u'\'' + QString(text).replace(u'\'', str("''")) + u'\'';
-}
-
-/// An RTF document with \a body.
-inline QString rtf(const QString& body) {
-    return str("{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Times New Roman;}"
-               "{\\f1\\fswiss\\fcharset238 Arial;}}\\plain\\pard ") +
-           body + str("\\par }");
-}
-
 /// A sentence again and again, about \a length characters.
-inline QString longText(int length, const QString& sentence = str("Rybu osolíme a necháme stát. ")) {
+inline QString longText(int length, const QString& sentence = u"Rybu osolíme a necháme stát. "_s) {
     return sentence.repeated(length / int(sentence.size()) + 1);
-}
-
-/// What a tool of the PDF package says about a file.
-inline QString pdfTool(const QString& tool, const QStringList& arguments) {
-    QProcess process;
-    process.start(tool, arguments);
-    if (!process.waitForFinished(60000) || process.exitCode() != 0)
-        return tool + str(" failed: ") + QString::fromUtf8(process.readAllStandardError());
-    return QString::fromUtf8(process.readAllStandardOutput());
 }
 
 /// The texts of a PDF file, its pages parted by form feeds.
 inline QString pdfText(const QString& file) {
-    return pdfTool(str("pdftotext"), {str("-layout"), file, str("-")});
+    return output(u"pdftotext"_s, {u"-layout"_s, file, u"-"_s});
 }
 
 inline QStringList pdfPages(const QString& file) {
     return pdfText(file).split(u'\f', Qt::SkipEmptyParts);
-}
-
-inline QByteArray bytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// One word of a page and where it stands, in twips from the paper's corner.
@@ -66,11 +41,10 @@ struct PdfWord {
 
 inline std::vector<PdfWord> pdfWords(const QString& file, int page) {
     const QString number = QString::number(page);
-    const QString html =
-        pdfTool(str("pdftotext"), {str("-bbox"), str("-f"), number, str("-l"), number, file, str("-")});
+    const QString html = output(u"pdftotext"_s, {u"-bbox"_s, u"-f"_s, number, u"-l"_s, number, file, u"-"_s});
     static const QRegularExpression word(
-        str("<word xMin=\"([-0-9.]+)\" yMin=\"([-0-9.]+)\" xMax=\"([-0-9.]+)\" "
-            "yMax=\"([-0-9.]+)\">(.*?)</word>"));
+        u"<word xMin=\"([-0-9.]+)\" yMin=\"([-0-9.]+)\" xMax=\"([-0-9.]+)\" "
+        "yMax=\"([-0-9.]+)\">(.*?)</word>"_s);
     std::vector<PdfWord> words;
     for (const auto& match : word.globalMatch(html)) {
         const QPointF from(match.captured(1).toDouble() * 20, match.captured(2).toDouble() * 20);
@@ -83,11 +57,11 @@ inline std::vector<PdfWord> pdfWords(const QString& file, int page) {
 /// A page as a viewer paints it, 20 twips a pixel.
 inline QImage pdfImage(const QString& file, int page) {
     QTemporaryDir folder;
-    const QString to = folder.filePath(str("page"));
+    const QString to = folder.filePath(u"page"_s);
     const QString number = QString::number(page);
-    pdfTool(str("pdftoppm"), {str("-r"), str("72"), str("-f"), number, str("-l"), number, str("-singlefile"),
-                              str("-png"), file, to});
-    return QImage(to + str(".png"));
+    output(u"pdftoppm"_s,
+           {u"-r"_s, u"72"_s, u"-f"_s, number, u"-l"_s, number, u"-singlefile"_s, u"-png"_s, file, to});
+    return QImage(to + u".png"_s);
 }
 
 /// A small cookbook to print from, with a folder for photos and one for printed files.
@@ -97,40 +71,36 @@ class PrintCookbook {
     Database db;
 
     explicit PrintCookbook(const QStringList& statements) {
-        const QString file = folder.filePath(str("Sarne.drc"));
-        writeRecipeDatabase(file, statements);
-        db.Open(file);
+        db.Open(writeRecipeDatabase(folder.filePath(u"Sarne.drc"_s), statements));
     }
 
     /// The statement of a recipe with \a fields ("Uvod", text, ...).
     static QString recipe(int id, const QString& name, const QStringList& fields = {}, int portions = 4) {
-        QString names = str("ID,Nazev,Porce");
-        QString values = str("%1,%2,%3").arg(QString::number(id), sqlText(name), QString::number(portions));
+        QString names = u"ID,Nazev,Porce"_s;
+        QString values = u"%1,%2,%3"_s.arg(QString::number(id), sqlText(name), QString::number(portions));
         for (qsizetype i = 0; i + 1 < fields.size(); i += 2) {
             names += u',' + fields[i];
             values += u',' + sqlText(fields[i + 1]);
         }
-        return str("INSERT INTO Recepty (") + names + str(") VALUES (") + values + u')';
+        return u"INSERT INTO Recepty ("_s + names + u") VALUES ("_s + values + u')';
     }
 
     /// In the form \a format, whatever its name ends in.
     void addPhoto(int id, QSize size, const QColor& color, const char* format = "BMP") {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(color);
-        image.save(photo(id), format);
+        if (!write(photo(id), plain(size, color), format)) qFatal("no room for a photo");
     }
-    QString photo(int id) const { return folder.filePath(str("r%1.bmp").arg(id)); }
+    QString photo(int id) const { return folder.filePath(u"r%1.bmp"_s.arg(id)); }
 
     PrintSource source() {
         const auto media = [this](const QString& path) { return folder.filePath(path.section(u'\\', -1)); };
         return {db, media, QLocale(QLocale::Czech, QLocale::CzechRepublic),
-                printLogo(Resources(str(":/none/")))};
+                printLogo(Resources(u":/none/"_s))};
     }
 
     /// Prints to a file on \a paper and says how that went.
     PrintOutcome print(const std::vector<std::int16_t>& ids, const PrintOptions& options = {},
                        Paper paper = Paper::A4) {
-        SystemPrinter printer(folder.filePath(str("Dokumenty")));
+        SystemPrinter printer(folder.filePath(u"Dokumenty"_s));
         PrinterChoice choice;
         choice.paper = paper;
         printer.use(choice);
@@ -142,7 +112,7 @@ class PrintCookbook {
         SilentProgress silent;
         QtTextMetrics metrics;
         PageComposer composer(source(), printer.scale(), metrics);
-        return PrintJob(printer, composer, silent).print({ids, {}}, options, str("Recept"));
+        return PrintJob(printer, composer, silent).print({ids, {}}, options, u"Recept"_s);
     }
 };
 

@@ -19,31 +19,31 @@ using test::str;
 using Kind = PrintOutcome::Kind;
 
 TEST(SystemPrinter, WritesTheFileOfTheUsersChoice) {
-    PrintCookbook book({PrintCookbook::recipe(7, str("Kapr")), PrintCookbook::recipe(8, str("Štika"))});
+    PrintCookbook book({PrintCookbook::recipe(7, u"Kapr"_s), PrintCookbook::recipe(8, u"Štika"_s)});
     SystemPrinter printer(book.folder.path());
-    EXPECT_FALSE(printer.use({str("Tiskárna, která zmizela")}));
+    EXPECT_FALSE(printer.use({u"Tiskárna, která zmizela"_s}));
     EXPECT_TRUE(printer.choice().printer.isEmpty()) << "without it there is a file";
-    EXPECT_EQ(printer.fileFor(str("a/b:c. ")), book.folder.filePath(str("a b c..pdf")));
+    EXPECT_EQ(printer.fileFor(u"a/b:c. "_s), book.folder.filePath(u"a b c..pdf"_s));
     PrinterChoice choice;
-    choice.folder = book.folder.filePath(str("nová složka"));
-    choice.file = str("vybraný");
+    choice.folder = book.folder.filePath(u"nová složka"_s);
+    choice.file = u"vybraný"_s;
     ASSERT_TRUE(printer.use(choice));
-    EXPECT_EQ(book.printOn(printer, {7}).file, choice.folder + str("/vybraný.pdf"));
-    EXPECT_EQ(book.printOn(printer, {8}).file, choice.folder + str("/vybraný.pdf"))
+    EXPECT_EQ(book.printOn(printer, {7}).file, choice.folder + u"/vybraný.pdf"_s);
+    EXPECT_EQ(book.printOn(printer, {8}).file, choice.folder + u"/vybraný.pdf"_s)
         << "who prints has asked whether to replace it";
-    EXPECT_TRUE(test::pdfText(choice.folder + str("/vybraný.pdf")).contains(str("Štika")));
-    const QString info = test::pdfTool(str("pdfinfo"), {choice.folder + str("/vybraný.pdf")});
-    EXPECT_TRUE(info.contains(QRegularExpression(str("Title: +Recept")))) << info.toStdString();
-    EXPECT_TRUE(test::pdfTool(str("pdfinfo"), {str("-meta"), choice.folder + str("/vybraný.pdf")})
-                    .contains(str("cs-CZ")));
-    EXPECT_EQ(printFileName(str(" Kapr \"na\"  modro?\n")), str("Kapr na modro"));
-    EXPECT_EQ(printFileName(str("../..")), str("Recepty"));
-    EXPECT_EQ(printFileName({}), str("Recepty"));
+    EXPECT_TRUE(test::pdfText(choice.folder + u"/vybraný.pdf"_s).contains(u"Štika"_s));
+    const QString info = test::output(u"pdfinfo"_s, {choice.folder + u"/vybraný.pdf"_s});
+    EXPECT_TRUE(info.contains(QRegularExpression(u"Title: +Recept"_s))) << info.toStdString();
+    EXPECT_TRUE(
+        test::output(u"pdfinfo"_s, {u"-meta"_s, choice.folder + u"/vybraný.pdf"_s}).contains(u"cs-CZ"_s));
+    EXPECT_EQ(printFileName(u" Kapr \"na\"  modro?\n"_s), u"Kapr na modro"_s);
+    EXPECT_EQ(printFileName(u"../.."_s), u"Recepty"_s);
+    EXPECT_EQ(printFileName({}), u"Recepty"_s);
     EXPECT_LE(printFileName(QString(300, u'ř')).toUtf8().size() + 12, 255);
 }
 
 TEST(SystemPrinter, KeepsAChoiceAsText) {
-    const PrinterChoice choice{str("HP v chodbě"), Paper::FourCards, 3, true, false, str("/tmp/Složka"), {}};
+    const PrinterChoice choice{u"HP v chodbě"_s, Paper::FourCards, 3, true, false, u"/tmp/Složka"_s, {}};
     EXPECT_EQ(PrinterChoice::fromText(choice.toText()), choice);
     for (const char* broken : {"", "{", "[1]", "{\"paper\":99,\"copies\":-4}"}) {
         const PrinterChoice read = PrinterChoice::fromText(str(broken));
@@ -53,9 +53,8 @@ TEST(SystemPrinter, KeepsAChoiceAsText) {
 }
 
 TEST(SystemPrinter, PutsSmallPagesSideBySide) {
-    PrintCookbook book(
-        {PrintCookbook::recipe(1, str("Candát"), {str("Recept"), test::rtf(test::longText(9000))}),
-         PrintCookbook::recipe(2, str("Okoun")), PrintCookbook::recipe(3, str("Lín"))});
+    PrintCookbook book({PrintCookbook::recipe(1, u"Candát"_s, {u"Recept"_s, test::rtf(test::longText(9000))}),
+                        PrintCookbook::recipe(2, u"Okoun"_s), PrintCookbook::recipe(3, u"Lín"_s)});
     const PrintOutcome two = book.print({1, 2}, {}, Paper::TwoA5);
     EXPECT_EQ(test::pdfPages(two.file).size(), (two.pages + 1) / 2);
     const QSize a5 = PagesOnSheet::of(Paper::TwoA5).page();
@@ -70,8 +69,8 @@ TEST(SystemPrinter, PutsSmallPagesSideBySide) {
     EXPECT_EQ(test::pdfPages(cards.file).size(), 2);
     const QSize card = PagesOnSheet::of(Paper::FourCards).page();
     for (const test::PdfWord& word : test::pdfWords(cards.file, 1)) {
-        EXPECT_TRUE(word.text != str("Okoun") || word.place.left() > card.width());
-        EXPECT_TRUE(word.text != str("Lín") || word.place.top() > card.height());
+        EXPECT_TRUE(word.text != u"Okoun"_s || word.place.left() > card.width());
+        EXPECT_TRUE(word.text != u"Lín"_s || word.place.top() > card.height());
     }
 }
 
@@ -110,12 +109,12 @@ class PrintJobTest : public testing::Test {
     PrintOutcome print(NotedProgress& progress) {
         test::FixedMetrics metrics;
         PageComposer composer(book.source(), printer.scale(), metrics);
-        return PrintJob(printer, composer, progress).print({{1, 2}, {}}, {}, str("Recepty"));
+        return PrintJob(printer, composer, progress).print({{1, 2}, {}}, {}, u"Recepty"_s);
     }
 
     PrintCookbook book{
-        {PrintCookbook::recipe(1, str("Candát"), {str("Recept"), test::rtf(test::longText(20000))}),
-         PrintCookbook::recipe(2, str("Lín"))}};
+        {PrintCookbook::recipe(1, u"Candát"_s, {u"Recept"_s, test::rtf(test::longText(20000))}),
+         PrintCookbook::recipe(2, u"Lín"_s)}};
     FakePrinter printer;
 };
 

@@ -14,27 +14,25 @@ namespace sarne::test {
 
 /// Three recipes, one long, one with a long note, one that is but a name; and a page of text.
 inline QStringList formCookbook() {
-    QStringList all{PrintCookbook::recipe(1, str("Candát"),
-                                          {str("Uvod"), rtf(str("úvod")), str("Recept"), rtf(longText(9000)),
-                                           str("Poznamka"), rtf(str("poznámka")), str("Prezentace"),
-                                           rtf(str("servis")), str("vino"), rtf(str("víno"))}),
-                    PrintCookbook::recipe(2, str("Okoun"), {str("Vlastni"), longText(300000)}),
-                    PrintCookbook::recipe(3, str("Štika")),
-                    str("INSERT INTO Odkazy VALUES (5,'Vývar','x')"),
-                    str("INSERT INTO SpojOdkazy VALUES (1,5)"),
-                    str("INSERT INTO Stranky (ID,Nazev,Text) VALUES (10,'O tisku',") +
-                        sqlText(rtf(str("{\\b O tisku}\\par Text stránky."))) + u')'};
+    QStringList all{PrintCookbook::recipe(
+                        1, u"Candát"_s,
+                        {u"Uvod"_s, rtf(u"úvod"_s), u"Recept"_s, rtf(longText(9000)), u"Poznamka"_s,
+                         rtf(u"poznámka"_s), u"Prezentace"_s, rtf(u"servis"_s), u"vino"_s, rtf(u"víno"_s)}),
+                    PrintCookbook::recipe(2, u"Okoun"_s, {u"Vlastni"_s, longText(300000)}),
+                    PrintCookbook::recipe(3, u"Štika"_s),
+                    u"INSERT INTO Odkazy VALUES (5,'Vývar','x')"_s,
+                    u"INSERT INTO SpojOdkazy VALUES (1,5)"_s,
+                    u"INSERT INTO Stranky (ID,Nazev,Text) VALUES (10,'O tisku',"_s +
+                        sqlText(rtf(u"{\\b O tisku}\\par Text stránky."_s)) + u')'};
     return all;
 }
 
 /// The printing form above another screen, printing to files.
 class FrmPrintTest : public testing::Test {
   protected:
-    FrmPrintTest() : book(formCookbook()), printer(book.folder.filePath(str("Dokumenty"))) {
-        EXPECT_TRUE(run.database.Open(book.folder.filePath(str("Sarne.drc"))));
+    FrmPrintTest() : book(formCookbook()), printer(book.folder.filePath(u"Dokumenty"_s)) {
+        EXPECT_TRUE(run.database.Open(book.folder.filePath(u"Sarne.drc"_s)));
         printer.use({});
-        below->showForm();
-        run.PushScreen(*below);
     }
     frmPrint* open(const std::vector<std::int16_t>& ids, const Serving& serving = {}) {
         printing.printRecipes(ids, serving);
@@ -52,8 +50,8 @@ class FrmPrintTest : public testing::Test {
         return child<Widget>(*form(), name);
     }
     QString outcome() const { return control<Label>("lblVysledek")->text(); }
-    QString file(const char* name) const { return book.folder.filePath(str("Dokumenty/") + str(name)); }
-    CheckBox* section(int i) const { return control<CheckBox>(qPrintable(str("Chco(%1)").arg(i))); }
+    QString file(const char* name) const { return book.folder.filePath(u"Dokumenty/"_s + str(name)); }
+    CheckBox* section(int i) const { return control<CheckBox>(qPrintable(u"Chco(%1)"_s.arg(i))); }
     /// Calls \a look whenever events run during printing.
     template <typename Look>
     void whilePrinting(Look look) {
@@ -68,7 +66,7 @@ class FrmPrintTest : public testing::Test {
     FakeSarne run;
     SystemPrinter printer;
     Printing printing{run, printer};
-    Form* below = new Form(run, str("frmSeznam"));
+    Form* below = run.openAbove("frmSeznam");
 };
 
 }  // namespace sarne::test

@@ -157,15 +157,6 @@ TEST(PortionsTest, KeepTheAnyNumberAsText) {
     EXPECT_EQ(portions.quantities(QLocale::c()).factor(), 1.5F);
 }
 
-TEST(PortionsTest, AreCountedInCzech) {
-    const struct {
-        double number;
-        const char* word;
-    } cases[] = {{1, "porce"}, {2, "porce"}, {4, "porce"},  {4.5, "porce"}, {5, "porcí"},
-                 {6, "porcí"}, {8, "porcí"}, {99, "porcí"}, {0, "porcí"}};
-    for (const auto& c : cases) EXPECT_EQ(portionWord(c.number), QString::fromUtf8(c.word)) << c.number;
-}
-
 class ColumnsTest : public testing::Test {
   protected:
     static std::vector<PlacedLine> place(int count, const QString& text, int height = 2000) {

@@ -9,7 +9,7 @@
 namespace sarne {
 namespace {
 
-const QString kQuestion = QStringLiteral("36: Poznámka byla změněna. Chcete tyto změny uložit?");
+const QString kQuestion = u"36: Poznámka byla změněna. Chcete tyto změny uložit?"_s;
 
 class NoteTest : public RecipeTest {
   protected:
@@ -18,7 +18,7 @@ class NoteTest : public RecipeTest {
 };
 
 TEST_F(NoteTest, AChangedNoteAsksBeforeAnotherSectionIsDrawn) {
-    type(QStringLiteral("x"));
+    type(u"x"_s);
     run.answers = {7};
     run.whileAsking = [&] { EXPECT_EQ(form->section(), 7); };
     click("imgBtn(1)");
@@ -28,40 +28,39 @@ TEST_F(NoteTest, AChangedNoteAsksBeforeAnotherSectionIsDrawn) {
 
     click("imgBtn(7)");
     EXPECT_EQ(note().text(), QString());
-    type(QStringLiteral("Sůl c X\n"));
+    type(u"Sůl c X\n"_s);
     run.answers = {6};
     click("imgBtn(7)");
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("Sůl c X\n"));
-    EXPECT_EQ(note().text(), QStringLiteral("Sůl c X\n")) << "its own button opens it again";
+    EXPECT_EQ(storedNote().toString(), u"Sůl c X\n"_s);
+    EXPECT_EQ(note().text(), u"Sůl c X\n"_s) << "its own button opens it again";
     run.messages.clear();
     click("imgBtn(2)");
     EXPECT_TRUE(run.messages.isEmpty());
 }
 
 TEST_F(NoteTest, ALineThatAScreenAboveHasAddedIsThereAndNotWrittenOver) {
-    type(QStringLiteral("jedna"));
+    type(u"jedna"_s);
     click("imgBtnHlavni(0)");
-    auto* above = new Form(run, QStringLiteral("frmNad"));
-    run.PushScreen(*above);
-    EXPECT_TRUE(appendToNote(run.database, run.keptNotes, 5, QStringLiteral("Uvařeno: dvě")));
+    Form* above = run.openAbove("frmNad");
+    EXPECT_TRUE(appendToNote(run.database, run.keptNotes, 5, u"Uvařeno: dvě"_s));
     run.PopScreen(*above);
-    EXPECT_EQ(note().text(), QStringLiteral("jedna\nUvařeno: dvě"));
+    EXPECT_EQ(note().text(), u"jedna\nUvařeno: dvě"_s);
     note().focusAtEnd();
-    type(QStringLiteral("!"));
+    type(u"!"_s);
     click("cmdUloz(0)");
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("jedna\nUvařeno: dvě!"));
+    EXPECT_EQ(storedNote().toString(), u"jedna\nUvařeno: dvě!"_s);
 }
 
 TEST_F(NoteTest, ItsButtonsSaveOrDiscardWithoutAsking) {
-    type(QStringLiteral("jedna"));
+    type(u"jedna"_s);
     click("cmdUloz(1)");
     EXPECT_TRUE(storedNote().isNull());
     EXPECT_FALSE(note().isVisible());
     click("imgBtn(7)");
-    type(QStringLiteral("dvě *12 {"));
+    type(u"dvě *12 {"_s);
     click("cmdUloz(0)");
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("dvě *12 {"));
-    EXPECT_EQ(shown(), QStringLiteral("dvě *12 {")) << "the note is still there to be read";
+    EXPECT_EQ(storedNote().toString(), u"dvě *12 {"_s);
+    EXPECT_EQ(shown(), u"dvě *12 {"_s) << "the note is still there to be read";
     click("imgBtn(7)");
     note().editor().selectAll();
     press(Qt::Key_Delete);
@@ -72,26 +71,26 @@ TEST_F(NoteTest, ItsButtonsSaveOrDiscardWithoutAsking) {
 }
 
 TEST_F(NoteTest, TheEndOfTheProgramAsksAndTheNoteStaysOpen) {
-    type(QStringLiteral("ryba"));
+    type(u"ryba"_s);
     run.answers = {6};
     click("imgBtnHlavni(3)");
     EXPECT_EQ(run.messages, QStringList{kQuestion});
     EXPECT_EQ(run.exits, 1);
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"));
+    EXPECT_EQ(storedNote().toString(), u"ryba"_s);
     EXPECT_TRUE(note().isVisible());
-    EXPECT_EQ(note().text(), QStringLiteral("ryba"));
+    EXPECT_EQ(note().text(), u"ryba"_s);
     click("imgBtnHlavni(3)");
     EXPECT_EQ(run.messages.size(), 1) << "it is stored, nothing has changed";
     note().focusAtEnd();
-    type(QStringLiteral("!"));
+    type(u"!"_s);
     run.answers = {7};
     press(Qt::Key_F4, Qt::AltModifier);
     EXPECT_EQ(run.messages.size(), 2);
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"));
-    EXPECT_EQ(note().text(), QStringLiteral("ryba!")) << "not saved, not lost";
+    EXPECT_EQ(storedNote().toString(), u"ryba"_s);
+    EXPECT_EQ(note().text(), u"ryba!"_s) << "not saved, not lost";
     run.answers = {6};
     click("imgBtn(0)");
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba!"));
+    EXPECT_EQ(storedNote().toString(), u"ryba!"_s);
 }
 
 TEST_F(NoteTest, EveryWayOfClosingAsksOnce) {
@@ -109,7 +108,7 @@ TEST_F(NoteTest, EveryWayOfClosingAsksOnce) {
         run.answers = {6};
         way.close();
         EXPECT_EQ(run.messages, QStringList{kQuestion}) << way.way;
-        EXPECT_EQ(storedNote().toString(), QStringLiteral("1234").left(number)) << way.way;
+        EXPECT_EQ(storedNote().toString(), u"1234"_s.left(number)) << way.way;
         open(5);
         click("imgBtn(7)");
     }
@@ -126,7 +125,7 @@ TEST_F(NoteTest, WhoDeclinedOnTheWayOutIsNotAskedAgain) {
     form = new frmRecept(ending, lookedAt);
     form->Zobraz(5);
     click("imgBtn(7)");
-    QTest::keyClicks(&note().editor(), QStringLiteral("x"));
+    QTest::keyClicks(&note().editor(), u"x"_s);
     ending.answers = {7};
     click("imgBtnHlavni(3)");
     EXPECT_EQ(ending.messages, QStringList{kQuestion});
@@ -134,7 +133,7 @@ TEST_F(NoteTest, WhoDeclinedOnTheWayOutIsNotAskedAgain) {
 }
 
 TEST_F(NoteTest, WhoLeavesTheQuestionStaysWithTheNote) {
-    type(QStringLiteral("ryba"));
+    type(u"ryba"_s);
     const struct {
         const char* way;
         std::function<void()> leave;
@@ -152,15 +151,14 @@ TEST_F(NoteTest, WhoLeavesTheQuestionStaysWithTheNote) {
         way.leave();
         EXPECT_FALSE(run.messages.isEmpty()) << way.way;
         EXPECT_EQ(run.FormStack.top(), form) << way.way;
-        EXPECT_EQ(note().text(), QStringLiteral("ryba")) << way.way;
+        EXPECT_EQ(note().text(), u"ryba"_s) << way.way;
         EXPECT_EQ(form->section(), 7) << way.way;
     }
     EXPECT_EQ(run.exits, 0);
     EXPECT_TRUE(storedNote().isNull());
     run.answers = {0};
     run.PopScreen(*form);
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"))
-        << "a screen that has to go takes no note along";
+    EXPECT_EQ(storedNote().toString(), u"ryba"_s) << "a screen that has to go takes no note along";
 }
 
 TEST_F(NoteTest, AnotherSectionTakesTheKeyboardAlong) {
@@ -168,17 +166,15 @@ TEST_F(NoteTest, AnotherSectionTakesTheKeyboardAlong) {
     press(Qt::Key_Up);
     press(Qt::Key_Return);
     EXPECT_EQ(form->section(), 6);
-    EXPECT_EQ(focused(), QStringLiteral("imgBtn(6)"));
+    EXPECT_EQ(focused(), u"imgBtn(6)"_s);
     click("imgBtn(7)");
     click("lblIkona(2)");
-    EXPECT_EQ(focused(), QStringLiteral("imgBtn(2)"));
+    EXPECT_EQ(focused(), u"imgBtn(2)"_s);
 }
 
 TEST_F(NoteTest, AnEndBelowAnotherScreenAsksAboutTheNoteFirst) {
-    type(QStringLiteral("ryba"));
-    auto* help = new Form(run, QStringLiteral("frmStranka"));
-    run.PushScreen(*help);
-    help->showForm();
+    type(u"ryba"_s);
+    Form* help = run.openAbove("frmStranka");
     run.answers = {0};
     help->endProgram();
     EXPECT_EQ(run.messages, QStringList{kQuestion});
@@ -186,38 +182,38 @@ TEST_F(NoteTest, AnEndBelowAnotherScreenAsksAboutTheNoteFirst) {
     run.answers = {6};
     help->endProgram();
     EXPECT_EQ(run.exits, 1);
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"));
+    EXPECT_EQ(storedNote().toString(), u"ryba"_s);
 }
 
 TEST_F(NoteTest, ANoteReadsAsItWasTyped) {
-    const QString text = QStringLiteral("{\\rtf1 *12 sůl* @7 a {\\b } #");
+    const QString text = u"{\\rtf1 *12 sůl* @7 a {\\b } #"_s;
     type(text);
     click("cmdUloz(0)");
     EXPECT_EQ(shown(), text);
     EXPECT_EQ(view().pieces().linkCount(), 0);
-    EXPECT_TRUE(form->collectedText().contains(QStringLiteral("Vlastní poznámka: ") + text));
+    EXPECT_TRUE(form->collectedText().contains(u"Vlastní poznámka: "_s + text));
 }
 
 TEST_F(NoteTest, PrintingStoresTheNoteWithABlankBehindIt) {
-    type(QStringLiteral("ryba"));
+    type(u"ryba"_s);
     click("imgBtnHlavni(0)");
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba "));
+    EXPECT_EQ(storedNote().toString(), u"ryba "_s);
     EXPECT_TRUE(run.messages.isEmpty());
-    EXPECT_EQ(run.recorded.calls, QStringList{QStringLiteral("printRecipes 1")});
+    EXPECT_EQ(run.recorded.calls, QStringList{u"printRecipes 1"_s});
     EXPECT_TRUE(note().isVisible());
     click("imgBtn(1)");
     EXPECT_TRUE(run.messages.isEmpty()) << "it counts as unchanged";
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba "));
+    EXPECT_EQ(storedNote().toString(), u"ryba "_s);
     click("imgBtnHlavni(0)");
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba ")) << "an unchanged note is left alone";
+    EXPECT_EQ(storedNote().toString(), u"ryba "_s) << "an unchanged note is left alone";
 }
 
 TEST_F(NoteTest, AParagraphOfAnyLengthIsQuickToTypeInAndComesBackWhole) {
-    const QString piece = QStringLiteral("rohlík\u00a0😀\u2063 ");
-    const QString strange = QStringLiteral("'; DROP TABLE Recepty; -- \"ž\"\t€ 😀 ").repeated(10000);
+    const QString piece = u"rohlík\u00a0😀\u2063 "_s;
+    const QString strange = u"'; DROP TABLE Recepty; -- \"ž\"\t€ 😀 "_s.repeated(10000);
     for (const QString& text : {piece.repeated(100000), QString(1000000, u'x'), strange}) {
-        run.database.Execute(QStringLiteral("UPDATE Recepty SET Vlastni = '%1' WHERE ID = 5")
-                                 .arg(QString(text).replace(u'\'', QStringLiteral("''"))));
+        run.database.Execute(
+            u"UPDATE Recepty SET Vlastni = '%1' WHERE ID = 5"_s.arg(QString(text).replace(u'\'', u"''"_s)));
         form->Skryj();
         open(5);
         QElapsedTimer opening;
@@ -225,7 +221,7 @@ TEST_F(NoteTest, AParagraphOfAnyLengthIsQuickToTypeInAndComesBackWhole) {
         click("imgBtn(7)");
         EXPECT_LT(opening.elapsed(), 20000) << "it used to be minutes";
         EXPECT_EQ(note().text(), text);
-        type(QStringLiteral("!"));
+        type(u"!"_s);
         EXPECT_GT(note().editor().blockCount(), 100) << "the editor lays out no paragraph of that length";
         note().editor().selectAll();
         note().editor().copy();
@@ -236,24 +232,24 @@ TEST_F(NoteTest, AParagraphOfAnyLengthIsQuickToTypeInAndComesBackWhole) {
 }
 
 TEST_F(NoteTest, TypingBreaksAParagraphThatHasBecomeLong) {
-    type(QStringLiteral("a b").repeated(2000));
+    type(u"a b"_s.repeated(2000));
     EXPECT_GT(note().editor().blockCount(), 1);
-    type(QStringLiteral("\nkonec"));
-    EXPECT_EQ(note().text(), QStringLiteral("a b").repeated(2000) + QStringLiteral("\nkonec"));
+    type(u"\nkonec"_s);
+    EXPECT_EQ(note().text(), u"a b"_s.repeated(2000) + u"\nkonec"_s);
     note().editor().undo();
-    EXPECT_TRUE(note().text().startsWith(QStringLiteral("a ba b")));
+    EXPECT_TRUE(note().text().startsWith(u"a ba b"_s));
 }
 
 TEST_F(NoteTest, TabReachesItsButtons) {
     press(Qt::Key_Tab);
-    EXPECT_EQ(focused(), QStringLiteral("cmdUloz(0)"));
+    EXPECT_EQ(focused(), u"cmdUloz(0)"_s);
     press(Qt::Key_Backtab);
-    EXPECT_EQ(focused(), QStringLiteral("RtfPozn"));
-    type(QStringLiteral("ryba"));
+    EXPECT_EQ(focused(), u"RtfPozn"_s);
+    type(u"ryba"_s);
     press(Qt::Key_Tab);
     press(Qt::Key_Return);
-    EXPECT_EQ(storedNote().toString(), QStringLiteral("ryba"));
-    EXPECT_EQ(focused(), QStringLiteral("imgBtn(7)"));
+    EXPECT_EQ(storedNote().toString(), u"ryba"_s);
+    EXPECT_EQ(focused(), u"imgBtn(7)"_s);
 }
 
 }  // namespace

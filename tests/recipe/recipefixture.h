@@ -12,37 +12,29 @@
 
 namespace sarne {
 
-/// \a body as a document of the cookbook.
-inline QString rtf(const QString& body) {
-    return u"{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Times New Roman;}}"
-           "{\\colortbl\\red0\\green0\\blue0;}\\deftab720\\pard\\plain\\f0\\fs24 "_s +
-           body + u'}';
-}
-
-/// The same as a literal of SQL.
+/// \a body as a document of the cookbook, a literal of SQL.
 inline QString rtfValue(const char* body) {
-    return u'\'' + rtf(QString::fromUtf8(body)).replace(u'\'', u"''"_s) + u'\'';
+    return test::sqlText(test::rtf(QString::fromUtf8(body)));
 }
 
 /// Recipe 5 has everything once: an alternative, missing names, both units, links, tools. Recipe 6 is bare.
 /// Recipe 7 is for 3 portions and has a long list.
 inline QStringList testRecipes() {
-    const auto row = [](const char* text) { return QString::fromUtf8(text); };
     QStringList all{
-        row("INSERT INTO Suroviny (ID, Polozka) VALUES "
-            "(1,'kapr'),(2,'máslo'),(3,'sůl'),(4,'olej'),(5,'kmín')"),
-        row("INSERT INTO Upresneni (ID, Polozka) VALUES (1,'filety bez kůže'),(2,'čerstvé')"),
-        row("INSERT INTO Jednotky (ID, Polozka) VALUES (1,' g '),(2,'lžíce'),(3,'kus')"),
-        row("INSERT INTO Pomucky (ID, Polozka) VALUES (1,'vařečka'),(2,'pánev'),(3,'číška'),(4,'chňapka')"),
-        row("INSERT INTO Recepty (ID, Nazev, DlouhyNazev, Porce, vino) VALUES (6,'Prázdný','Prázdný "
-            "recept',0,NULL)"),
-        row("INSERT INTO Recepty (ID, Nazev, DlouhyNazev, Porce) VALUES (7,'Dlouhý','Dlouhý seznam',3)"),
-        row("INSERT INTO SpojSur VALUES (5,1,1,1,250,3,0.5,0)"),
-        row("INSERT INTO SpojSur VALUES (5,2,0,1,50,2,2,4)"),
-        row("INSERT INTO SpojSur VALUES (5,99,0,99,12.5,2,0.05,0)"),
-        row("INSERT INTO SpojSur VALUES (5,3,0,0,0,0,NULL,0)"),
-        row("INSERT INTO SpojPomucky VALUES (5,1),(5,2),(5,3),(5,4)"),
-        row("INSERT INTO SpojOdkazy VALUES (5,1),(5,2),(7,3)"),
+        u"INSERT INTO Suroviny (ID, Polozka) VALUES "
+        "(1,'kapr'),(2,'máslo'),(3,'sůl'),(4,'olej'),(5,'kmín')"_s,
+        u"INSERT INTO Upresneni (ID, Polozka) VALUES (1,'filety bez kůže'),(2,'čerstvé')"_s,
+        u"INSERT INTO Jednotky (ID, Polozka) VALUES (1,' g '),(2,'lžíce'),(3,'kus')"_s,
+        u"INSERT INTO Pomucky (ID, Polozka) VALUES (1,'vařečka'),(2,'pánev'),(3,'číška'),(4,'chňapka')"_s,
+        u"INSERT INTO Recepty (ID, Nazev, DlouhyNazev, Porce, vino) VALUES (6,'Prázdný','Prázdný "
+        "recept',0,NULL)"_s,
+        u"INSERT INTO Recepty (ID, Nazev, DlouhyNazev, Porce) VALUES (7,'Dlouhý','Dlouhý seznam',3)"_s,
+        u"INSERT INTO SpojSur VALUES (5,1,1,1,250,3,0.5,0)"_s,
+        u"INSERT INTO SpojSur VALUES (5,2,0,1,50,2,2,4)"_s,
+        u"INSERT INTO SpojSur VALUES (5,99,0,99,12.5,2,0.05,0)"_s,
+        u"INSERT INTO SpojSur VALUES (5,3,0,0,0,0,NULL,0)"_s,
+        u"INSERT INTO SpojPomucky VALUES (5,1),(5,2),(5,3),(5,4)"_s,
+        u"INSERT INTO SpojOdkazy VALUES (5,1),(5,2),(7,3)"_s,
     };
     all << u"INSERT INTO Odkazy (ID, Polozka, Text) VALUES (1,'Rybí vývar',%1),(2,'Chlebové "
            "kostky',%2),(3,'Jen jeden',%3)"_s.arg(rtfValue("Vývar va\\'f8\\'edme *12pomalu*."),
@@ -64,11 +56,8 @@ inline QStringList testRecipes() {
 class RecipeTest : public testing::Test {
   protected:
     RecipeTest() {
-        test::writeRecipeDatabase(file(), testRecipes());
-        run.database.Open(file());
+        run.database.Open(test::writeRecipeDatabase(file(), testRecipes()));
         run.MediaRoot = LogicalPaths::fromNativeFolder(folder.path());
-        run.PushScreen(*below);
-        below->showForm();
         open(5);
     }
 
@@ -121,7 +110,7 @@ class RecipeTest : public testing::Test {
     double customPortions = 0;
     QStringList prompts;
     Serving lookedAt;
-    Form* below = new Form(run, u"frmSeznam"_s);
+    Form* below = run.openAbove("frmSeznam");
     frmRecept* form = nullptr;
 };
 

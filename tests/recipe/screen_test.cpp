@@ -1,9 +1,9 @@
 #include <QClipboard>
 #include <QDeadlineTimer>
-#include <QFile>
-#include <QImage>
 
 #include "recipe/recipefixture.h"
+#include "support/files.h"
+#include "support/pictures.h"
 
 namespace sarne {
 namespace {
@@ -15,17 +15,10 @@ QString nth(const char* name, int index) {
 class ScreenTest : public RecipeTest {
   protected:
     void makeFile(const QString& name, const QByteArray& content) {
-        const QString path = folder.filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile out(path);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(content);
+        ASSERT_TRUE(test::write(folder.filePath(name), content));
     }
     void makePicture(const QString& name, QRgb color) {
-        QImage image(80, 60, QImage::Format_RGB32);
-        image.fill(color);
-        QDir().mkpath(QFileInfo(folder.filePath(name)).path());
-        ASSERT_TRUE(image.save(folder.filePath(name)));
+        ASSERT_TRUE(test::write(folder.filePath(name), test::plain({80, 60}, color)));
     }
     QColor pixelOf(QWidget& widget) {
         const QImage shot = form->grab().toImage();
@@ -158,9 +151,7 @@ TEST_F(ScreenTest, LinkPhrasesOpenKeywordsAndVideosOrBeep) {
     };
     clickLink(0);
     clickLink(1);
-    auto* video = new Form(run, u"frmVideo"_s);
-    run.PushScreen(*video);
-    video->showForm();
+    Form* video = run.openAbove("frmVideo");
     const int scrolled = view().scrolled();
     run.PopScreen(*video);
     EXPECT_EQ(focused(), u"picRecept"_s) << "back at the word that led to the film";
@@ -256,9 +247,7 @@ TEST_F(ScreenTest, TabGoesFromTheSectionsThroughTheTextToTheBar) {
     press(Qt::Key_Backtab);
     press(Qt::Key_Return);
     EXPECT_EQ(run.recorded.calls, QStringList{u"showVideo 7"_s});
-    auto* video = new Form(run, u"frmVideo"_s);
-    run.PushScreen(*video);
-    video->showForm();
+    Form* video = run.openAbove("frmVideo");
     run.awake.clear();
     run.PopScreen(*video);
     EXPECT_EQ(focused(), u"picRecept"_s) << "back where the link was";

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QImage>
 #include <QPainter>
 
 #include "richtext/basZobrazRtfSarne.h"
@@ -8,6 +7,7 @@
 #include "richtext/layoutdump.h"
 #include "richtext/qttextmetrics.h"
 #include "richtext/rtfpainter.h"
+#include "support/pictures.h"
 
 namespace sarne {
 namespace {
@@ -108,8 +108,7 @@ constexpr int kPixel = 15;
 class Painting : public testing::Test {
   protected:
     QImage paint(const RtfLayout& layout, const QRect& visible, const LinkHighlight& highlight = {}) {
-        QImage picture(270, 130, QImage::Format_RGB32);
-        picture.fill(Qt::white);
+        QImage picture = test::plain({270, 130}, Qt::white);
         QPainter painter(&picture);
         painter.scale(1. / kPixel, 1. / kPixel);
         paintLayout(painter, layout, visible, highlight);

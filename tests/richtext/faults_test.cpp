@@ -1,9 +1,8 @@
 // Texts that no editor saves: broken off, unbalanced, out of all bounds. Nothing may crash, hang or get lost.
 #include <gtest/gtest.h>
 
-#include <QFile>
-
 #include "richtext/layoutdump.h"
+#include "support/files.h"
 
 namespace sarne {
 namespace {
@@ -22,9 +21,9 @@ QString wordsOf(const QString& text) {
 
 TEST(Faults, DocumentsBreakOffAnywhere) {
     for (const char* name : {"wordpad.rtf", "office.rtf", "writer.rtf"}) {
-        QFile file(QStringLiteral(SARNE_FIXTURES "/") + QLatin1String(name));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QString rtf = QString::fromUtf8(file.readAll());
+        const QString rtf =
+            QString::fromUtf8(test::bytesOf(QStringLiteral(SARNE_FIXTURES "/") + QLatin1String(name)));
+        ASSERT_FALSE(rtf.isEmpty());
         for (qsizetype length = 0; length < rtf.size(); ++length) {
             layOutSoundly(QStringView(rtf).left(length));
             layOutSoundly(QStringView(rtf).left(length), LinkMarkers::Remove);

@@ -70,6 +70,8 @@ TEST_F(Layout, StandsOnOneBaselineInTheHighestFont) {
               "  0+240 \"x\"  Times New Roman 24 #000000\n"_s);
     EXPECT_EQ(RtfLayout::rect(layout.boxes()[0]), QRect(0, 240, 120, 300));
     EXPECT_EQ(layout.height(), 1800);
+    EXPECT_EQ(layout.linesBetween(600, 601).first, 1);
+    EXPECT_EQ(layout.linesBetween(0, 601).end, 2);
     // A word is in the font of its last character, not of the change behind it.
     layOut(u"x\\b y\\b0  z"_s);
     EXPECT_TRUE(layout.fonts()[layout.boxes()[0].font].bold);
@@ -126,17 +128,6 @@ TEST_F(Layout, PlainTextIsLaidOutAsTyped) {
 TEST_F(Layout, MeasuresRepeatedWordsOnce) {
     layOut(u"kapr sumec kapr \\i kapr \\i0 sumec kapr kapr"_s);
     EXPECT_EQ(metrics.measured, 3 + 2);  // three words, a blank of each font
-}
-
-TEST_F(Layout, MarksParagraphsAndHeadings) {
-    layOut(u"\\b Kapr\\par\\b0 aaaaaaaaaaaaaaaa bbbbbbbbbbbbb\\par"_s);
-    const std::vector<TextLine>& lines = layout.lines();
-    ASSERT_EQ(lines.size(), 3u);
-    EXPECT_TRUE(lines[0].isHeading && lines[0].startsParagraph && lines[0].endsParagraph);
-    EXPECT_TRUE(!lines[1].isHeading && lines[1].startsParagraph && !lines[1].endsParagraph);
-    EXPECT_TRUE(!lines[2].startsParagraph && lines[2].endsParagraph);
-    EXPECT_EQ(layout.linesBetween(300, 301).first, 1);
-    EXPECT_EQ(layout.linesBetween(0, 301).end, 2);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "db/notestore.h"
 #include "db/userfile.h"
 #include "forms/bassarne.h"
+#include "forms/form.h"
 #include "forms/readaloud.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
@@ -113,6 +114,14 @@ class FakeSarne : public basSarne {
         window.show();
         window.activateWindow();
         QApplication::processEvents();
+    }
+
+    /// Opens a screen with nothing on it over those that are there.
+    Form* openAbove(const char* name) {
+        auto* form = new Form(*this, QString::fromLatin1(name));
+        PushScreen(*form);
+        form->showForm();
+        return form;
     }
 
     Stage& stage() override { return window; }

@@ -43,11 +43,11 @@ TEST(TextContrast, IsOneOfTheSameColourAndTwentyOneOfBlackOnWhite) {
 TEST(TextContrast, TakesTheGroundUnderTheTextAndLeavesOutWhatIsCovered) {
     QWidget window;
     window.resize(300, 100);
-    const Sign hidden(&window, Qt::white, Qt::black, QStringLiteral("covered"));
-    const Sign shown(&window, QColor(40, 40, 40), QColor(80, 80, 80), QStringLiteral("faint"));
+    const Sign hidden(&window, Qt::white, Qt::black, u"covered"_s);
+    const Sign shown(&window, QColor(40, 40, 40), QColor(80, 80, 80), u"faint"_s);
     const auto found = textContrasts(window);
     ASSERT_EQ(found.size(), 1U);
-    EXPECT_EQ(found[0].text, QStringLiteral("faint"));
+    EXPECT_EQ(found[0].text, u"faint"_s);
     EXPECT_EQ(found[0].ground, QColor(40, 40, 40));
     EXPECT_NEAR(found[0].contrast, contrastRatio(QColor(40, 40, 40), QColor(80, 80, 80)), 1e-9);
     EXPECT_TRUE(QRect(20, 10, 200, 40).contains(found[0].place));
@@ -56,15 +56,15 @@ TEST(TextContrast, TakesTheGroundUnderTheTextAndLeavesOutWhatIsCovered) {
 TEST(TextContrast, LeavesOutLettersThatTheSameGroundCovers) {
     QWidget window;
     window.resize(300, 100);
-    const Sign hidden(&window, Qt::red, Qt::white, QStringLiteral("covered"));
-    const Sign shown(&window, Qt::red, Qt::black, QStringLiteral("\u2060"));
+    const Sign hidden(&window, Qt::red, Qt::white, u"covered"_s);
+    const Sign shown(&window, Qt::red, Qt::black, u"\u2060"_s);
     EXPECT_EQ(textContrasts(window).size(), 0U);
 }
 
 TEST(TextContrast, TakesAMarkedTextInTheInkOfItsMark) {
     QWidget window;
     window.resize(300, 100);
-    QLineEdit edit(QStringLiteral("marked"), &window);
+    QLineEdit edit(u"marked"_s, &window);
     edit.setGeometry(20, 10, 200, 40);
     QPalette palette;
     palette.setColor(QPalette::Highlight, Qt::black);
@@ -80,7 +80,7 @@ TEST(TextContrast, TakesAMarkedTextInTheInkOfItsMark) {
 TEST(TextContrast, CountsWhatShowsThroughTheText) {
     QWidget window;
     window.resize(300, 100);
-    const Sign faded(&window, Qt::white, QColor(0, 0, 0, 102), QStringLiteral("disabled"));
+    const Sign faded(&window, Qt::white, QColor(0, 0, 0, 102), u"disabled"_s);
     const auto found = textContrasts(window);
     ASSERT_EQ(found.size(), 1U);
     EXPECT_NEAR(found[0].contrast, contrastRatio(QColor(153, 153, 153), Qt::white), 0.01);
@@ -101,10 +101,8 @@ QImage screen(const QColor& dish) {
 
 TEST(Looks, AnotherDishPassesAMissingGroundDoesNot) {
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("looks.txt")), name = QStringLiteral("frmRecept-0");
-    const auto fault = [&](const QImage& image) {
-        return Looks(file, QStringLiteral("800x600")).fault(name, image);
-    };
+    const QString file = folder.filePath(u"looks.txt"_s), name = u"frmRecept-0"_s;
+    const auto fault = [&](const QImage& image) { return Looks(file, u"800x600"_s).fault(name, image); };
     EXPECT_NE(fault(screen(Qt::darkRed)), QString()) << "nothing is kept yet";
     for (const char* size : {"800x600", "1920x1080"}) {
         Looks looks(file, QLatin1String(size));
@@ -118,7 +116,7 @@ TEST(Looks, AnotherDishPassesAMissingGroundDoesNot) {
     EXPECT_NE(fault(flat), QString());
     QPainter(&flat).drawImage(300, 100, screen(Qt::darkRed).copy(300, 100, 450, 400));
     EXPECT_NE(fault(flat), QString()) << "the paper is there, the ground is not";
-    EXPECT_EQ(Looks(file, QStringLiteral("1920x1080")).fault(name, screen(Qt::darkRed)), QString());
+    EXPECT_EQ(Looks(file, u"1920x1080"_s).fault(name, screen(Qt::darkRed)), QString());
 }
 
 TEST(BlackLine, OneBrightPixelIsEnoughForARowAndAColumn) {
@@ -126,11 +124,11 @@ TEST(BlackLine, OneBrightPixelIsEnoughForARowAndAColumn) {
     screen.fill(QColor(11, 34, 38));
     EXPECT_EQ(blackLine(screen), QString());
     for (int y = 0; y < 30; ++y) screen.setPixelColor(39, y, QColor(2, 2, 2));
-    EXPECT_EQ(blackLine(screen), QStringLiteral("column 39 is plain black"));
+    EXPECT_EQ(blackLine(screen), u"column 39 is plain black"_s);
     screen.setPixelColor(39, 17, QColor(20, 0, 0));
     EXPECT_EQ(blackLine(screen), QString());
     for (int x = 0; x < 40; ++x) screen.setPixelColor(x, 0, Qt::black);
-    EXPECT_EQ(blackLine(screen), QStringLiteral("row 0 is plain black"));
+    EXPECT_EQ(blackLine(screen), u"row 0 is plain black"_s);
 }
 
 }  // namespace
