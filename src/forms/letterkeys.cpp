@@ -1,5 +1,6 @@
 #include "forms/letterkeys.h"
 
+#include <QStringList>
 #include <algorithm>
 
 #include "core/texts.h"
