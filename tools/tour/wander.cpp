@@ -75,7 +75,8 @@ class Wanderer {
         note();
     }
     /// To where the memory of one time can be compared with that of another: pictures are kept in the sizes
-    /// in which they were drawn last, so the same screens are gone through before, and nothing is pointed at.
+    /// in which they were drawn last, so the same screens are gone through before, and the same thing of the
+    /// kitchen is lit.
     void goHome() {
         for (const Door& door : doors()) {
             goBackToMain(program_);
@@ -83,9 +84,12 @@ class Wanderer {
             QTest::qWait(kTurn / 10);
         }
         goBackToMain(program_);
-        QTest::mouseMove(&program_.stage(), {1, 1});
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTest::qWait(kTurn);
+        if (QWidget* thing = program_.FormStack.top()->findChild<QWidget*>(QStringLiteral("imgClick(5)"))) {
+            thing->setFocus(Qt::TabFocusReason);
+            QTest::mouseMove(thing);
+        }
+        QTest::qWait(4 * kTurn);
     }
     void step() {
         below(3) == 0 ? click() : press();
@@ -158,6 +162,7 @@ bool wander(Program& program, int steps, unsigned seed, QTextStream& out) {
             << " MB with files mapped, " << now.files << " files, " << now.threads << " threads, "
             << user.seen().size() << " screens seen" << Qt::endl;
     }
+    if (program.hasEnded()) out << "The program has ended.\n";
     if (steps <= kWarm) return !program.hasEnded();
     const auto grown = [](double then, double since) {
         return QString::number(100 * (since / then - 1), 'f', 2) + QStringLiteral(" %");
