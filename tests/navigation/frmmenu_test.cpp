@@ -53,6 +53,18 @@ TEST_F(MenuFormTest, CascadesByMouseAndClosesByTheBackground) {
     EXPECT_TRUE(main->findChild<QWidget*>(u"imgClick(3)"_s)->isEnabled());
 }
 
+TEST_F(MenuFormTest, AnOpenMenuTakesContrastAndLargerTextsAtOnce) {
+    clickButton(2);
+    key(Qt::Key_Up);
+    QWidget* last = label(main->menu(), 2);
+    const int height = last->height();
+    const QImage plain = last->grab().toImage();
+    run.window.eyes().setContrast(true);
+    EXPECT_NE(last->grab().toImage(), plain) << "the last line, too";
+    run.window.eyes().setTextPercent(150);
+    EXPECT_GT(last->height(), height);
+}
+
 TEST_F(MenuFormTest, RestingOpensSubmenusAndNeverActs) {
     clickButton(2);
     auto* timer = main->menu()->findChild<Timer*>();
