@@ -67,6 +67,7 @@ void frmHlavni::makeButton(int i) {
     button->setVisible(place.isShown());
     if (!place.isShown()) return;
     button->setTip(nameOf(app().Db(), i));
+    if (eyes().hasContrast()) button->setToolTip({});  // its name is written in its place
     button->place(place.hotArea);
     connect(button, &Button::hovered, this, [this, i] { hover(i); });
     connect(button, &Button::clicked, this, [this, i] { clickButton(i); });
