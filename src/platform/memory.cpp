@@ -11,6 +11,7 @@ void giveMemoryBack() {
     constexpr int kPicture = 256 * 1024;
     mallopt(M_MMAP_THRESHOLD, kPicture);
     mallopt(M_TRIM_THRESHOLD, 2 * kPicture);
+    mallopt(M_ARENA_MAX, 1);
 #endif
 }
 
