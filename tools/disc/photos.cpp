@@ -167,8 +167,8 @@ struct Dish {
         if (hasFiner())
             outputs << file("Recepty", QStringLiteral("jpg")) << file("Velke", QStringLiteral("jpg"));
         return {outputs,
-                originOf({source},
-                         stamp::photos() + name + QStringLiteral("%1 %2").arg(focus.x()).arg(focus.y())),
+                originOf({source}, stamp::photos() + (source.isEmpty() ? name : QString()) +
+                                       QStringLiteral("%1 %2").arg(focus.x()).arg(focus.y())),
                 [*this] { return make(); }};
     }
 };

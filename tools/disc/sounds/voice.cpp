@@ -1,5 +1,6 @@
 #include "voice.h"
 
+#include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStringEncoder>
@@ -189,7 +190,10 @@ Spoken Voices::recording(const QString& file) const {
     QString fault;
     run(QStringLiteral("ffmpeg"),
         words("-v error -y -i") << file << words("-ac 1 -ar 32000 -c:a pcm_s16le") << plain, {}, fault);
-    if (!fault.isEmpty()) return {{}, fault};
+    if (!fault.isEmpty())
+        return {{},
+                QStringLiteral("nahrávku %1 ffmpeg nepřečte; uložte ji znovu, třeba jako MP3 nebo WAV")
+                    .arg(QFileInfo(file).fileName())};
     return finished(readWav(plain), kRecording);
 }
 

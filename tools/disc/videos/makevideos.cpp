@@ -74,7 +74,11 @@ void takeOwnFilms(Workshop& shop) {
         if (source.own.isEmpty()) continue;
         const QString film = source.film(shop);
         tasks << Task{{film}, originOf({source.own}, stamp::videos()), [&shop, film, own = source.own] {
-                          return convertFilm(own, film, shop.scratch);
+                          if (convertFilm(own, film, shop.scratch)) return true;
+                          shop.problems.error(
+                              {QDir(shop.content).relativeFilePath(own), 0},
+                              QStringLiteral("film ffmpeg nepřečte; uložte ho znovu, třeba jako MP4"));
+                          return false;
                       }};
     }
     shop.makeAll(tasks);
