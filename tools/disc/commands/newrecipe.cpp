@@ -5,6 +5,7 @@
 #include "../recipefile.h"
 #include "ask.h"
 #include "commands.h"
+#include "core/gridtable.h"
 
 namespace sarne::disc {
 namespace {
@@ -146,6 +147,9 @@ int createRecipe(const QStringList& arguments) {
         addToList(project.content + QStringLiteral("/suroviny.txt"), {recipe.main}, mark) +
         addToList(project.content + QStringLiteral("/suroviny.txt"), {QStringLiteral("sůl")});
     say(QStringLiteral("Recept je v %1; doplňte jej a zkontrolujte: sarne-disc zkontroluj").arg(file));
+    if (file.section(u'/', 1).section(u'-', 0, 0).toInt() > kGridCells)
+        say(QStringLiteral(
+            "Mřížka fotografií už pro tento chod místo nemá; k receptu vedou nabídky a hledání."));
     if (!added.isEmpty())
         say(QStringLiteral("Do suroviny.txt přibylo: %1").arg(added.join(QStringLiteral(", "))));
     return 0;
