@@ -38,7 +38,7 @@ TEST_F(VarimeTest, GoesThroughTheStepsByTheKeysOfTheStove) {
     EXPECT_EQ(screen.shown().kind, CookingPage::Kind::Done);
     press(screen, Qt::Key_Right);  // there is no further
     EXPECT_EQ(screen.page(), 4);
-    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_PageUp}) press(screen, key);
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down}) press(screen, key);
     EXPECT_EQ(screen.page(), 2);
     QTest::mouseClick(child(screen, "imgPapir"), Qt::LeftButton);
     EXPECT_EQ(screen.page(), 3);

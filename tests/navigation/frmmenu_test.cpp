@@ -197,6 +197,7 @@ TEST_F(MenuFormTest, AScreenOpenedByAFunctionKeyGivesTheMenuBack) {
     EXPECT_TRUE(deepest()->isVisible()) << "no help came: the menu stays";
     run.PopScreen(*run.openAbove("frmStranka"));
     EXPECT_TRUE(main->isMenuOpen());
+    EXPECT_TRUE(main->testAttribute(Qt::WA_SetCursor)) << "a click beside the menu leads back";
     EXPECT_EQ(codes().size(), 2);
     EXPECT_EQ(QApplication::focusWidget(), deepest());
     EXPECT_EQ(deepest()->selected(), 1);
