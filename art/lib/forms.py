@@ -382,12 +382,13 @@ def pinksalad(r=2.4, h=1.3):
 food.SAUCES["pinkdress"] = ("b04a6e", "d07a98", .3)
 
 
-def asparagus_bundle(n=7, length=5.0):
+def asparagus_bundle(n=7, length=5.0, r=.2):
+    """Spears laid in three layers, heads to the right."""
     parts = []
     for i in range(n):
         layer = 0 if i < 4 else 1 if i < 6 else 2
         k = i if i < 4 else i - 4 if i < 6 else 0
-        parts.append(put(food.asparagus(length), random.uniform(-.15, .15), (k - (3 - layer) / 2) * .42, layer * .34, turn=random.uniform(-3, 3)))
+        parts.append(put(food.asparagus(length * random.uniform(.93, 1.04), r), random.uniform(-.15, .15), (k - (3 - layer) / 2) * 2.1 * r, layer * 1.7 * r, turn=random.uniform(-4, 4)))
     return group(parts)
 
 

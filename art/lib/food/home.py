@@ -6,10 +6,10 @@ import random
 import numpy as np
 from mathutils import Matrix, Vector
 
-from ..core import fbm, grid_faces, group, mat, mesh, outline_solid, put, scatter, tube
+from ..core import fbm, grid_faces, group, mat, mesh, outline_solid, picture, put, rgb, scatter, tube
 from ..table import rounded_rect, steel
 from .flakes import flakes
-from .pieces import _cubelet, block, fillet, flake
+from .pieces import _cubelet, fillet
 from .sauces import sauce_mat
 from .shapes import blob, slab
 from .surfaces import fishskin
@@ -111,23 +111,35 @@ def tin(sx=3.4, sy=2.2, h=.7):
     return group(parts)
 
 
-def codsalad(r=2.0, h=1.0, n=46):
-    """Mound of cod in mayonnaise: large flakes and thin strips of roots, bound by a dressing that shines between them."""
-    base = slab(blob(2 * r, 1.8 * r, .14, 90), h * .8, sauce_mat("mayonnaise"), 2.3, .16, 1.4, 26, .05, .05, 4, taper=-.05)
+def codsalad(r=2.0, h=1.0, n=42):
+    """Mound of cod in mayonnaise: large curved flakes laid like tiles over a core of thin strips of roots and gherkin, all
+    of it coated; the dressing runs out between them at the foot."""
+    base = slab(blob(1.75 * r, 1.55 * r, .16, 90), h * .8, sauce_mat("mayonnaise"), 2.1, .2, 1.6, 26, .05, .07, 4, taper=-.16)
     parts = [base]
-    for i in range(n * 2):
-        a, q = i * 2.399 + random.uniform(-.2, .2), math.sqrt((i + .5) / (n * 2)) * .93
-        x, y = r * q * math.cos(a), .9 * r * q * math.sin(a)
+    order = ("fish", "carrot", "pea", "celeriac", "gherkin", "fish", "carrot", "onion", "pea", "carrot", "gherkin")
+    for i in range(n * 3):
+        a, q = i * 2.399 + random.uniform(-.2, .2), math.sqrt((i + .5) / (n * 3)) * .94
+        x, y = .875 * r * q * math.cos(a), .775 * r * q * math.sin(a)
         hit, loc, nor, _ = base.ray_cast(Vector((x, y, 9)), Vector((0, 0, -1)))
         if not hit:
             continue
-        kind = ("fish", "carrot", "fish", "pea", "fish", "celeriac", "gherkin", "fish", "leek", "pea")[i % 10]
-        o = flake("white", 1.0) if kind == "fish" else pea(.17) if kind == "pea" else dice("gherkin", .3) if kind == "gherkin" else strip(kind, random.uniform(.8, 1.2), .12)
-        sunk = {"fish": .06, "pea": .13, "gherkin": .08}.get(kind, .03)
-        turn = Vector((0, 0, 1)).rotation_difference(nor).to_matrix().to_4x4() @ Matrix.Rotation(random.random() * 6.28, 4, "Z") @ Matrix.Rotation(random.uniform(-.3, .3), 4, "X")
-        o.matrix_world = Matrix.Translation(loc - nor * sunk) @ turn
+        nor = nor if nor.z > 0 else -nor
+        kind = order[i % len(order)]
+        o = _codflake() if kind == "fish" else pea(.16) if kind == "pea" else dice("gherkin", .28) if kind == "gherkin" else strip("leek" if kind == "onion" else kind, random.uniform(.8, 1.2), .12)
+        out = {"fish": .0, "pea": -.02, "gherkin": .02}.get(kind, .06)
+        turn = Vector((0, 0, 1)).rotation_difference(nor).to_matrix().to_4x4() @ Matrix.Rotation(random.random() * 6.28, 4, "Z") @ Matrix.Rotation(random.uniform(-.35, .35), 4, "X")
+        o.matrix_world = Matrix.Translation(loc + nor * (out - .05)) @ turn
         parts.append(o)
     return group(parts)
+
+
+def _codflake():
+    """One flake as it slides off a poached fillet: ribbed, a little bent, with a moist shine."""
+    m = mat("codflake", ((.36, "e9dcc0"), (.5, "f5ecd8"), (.64, "fffaf0")), .16, .6, sss=.2, coat=.9, noise=2.2, stretch=(.5, 2.6, 1), bump=.3, bumpscale=7, sssradius=(.3, .22, .16))
+    o = slab(blob(random.uniform(.9, 1.35), random.uniform(.6, .8), .26, 40, 3.0), random.uniform(.32, .44), m, 3.2, .1, 2.4, 14, .04, .04, 7)
+    for v in o.data.vertices:
+        v.co.z += .05 * math.sin(v.co.x * 9 + v.co.y * 3) - .12 * v.co.x * v.co.x
+    return o
 
 
 def halved(kind="tench", length=5.4, state="poached"):
@@ -154,15 +166,81 @@ def halved(kind="tench", length=5.4, state="poached"):
     return group(parts)
 
 
-def salmonportion(sx=3.6, sy=2.0, h=1.0):
-    """Salmon fried on its skin and served with it up: crisp skin, pink flakes along the cut sides, dark edges."""
-    skin = mat("crispsalmon", ((.34, "3a2c20"), (.46, "7d7468"), (.58, "b4b0a6"), (.68, "d8d4c8")), .24, .6, coat=.8, metal=.35, noise=1.1, stretch=(.6, 1.6, 1), bump=.4, cells=13)
-    o = block("pink", "poached", sx, sy, h, None, 7)
-    o.data.materials.append(skin)
-    for p in o.data.polygons:
-        if abs(p.normal.z) > .8 and p.center.z > .5 * h:
-            p.material_index = len(o.data.materials) - 1
-    return group([o])
+def salmonportion(sx=3.6, sy=2.0, h=1.0, seed=3):
+    """A portion cut across a side of salmon and fried on its skin, served with it up: thick towards the back (left), thin
+    towards the belly; the cut sides show the flakes, glassy in the middle, set pale at the rim, browned at the foot."""
+    n, m = 300, 26
+    out = blob(sx, sy, .035, n, 6.5, seed)
+    thick = np.interp(out[:, 0] / sx, (-.5, -.42, -.26, 0, .3, .5), (.6, .84, 1, .95, .74, .5)) * h
+    f = np.linspace(0, 1, m)[:, None]
+    x, y, z = (np.broadcast_to(q, (m, n)) for q in (out[None, :, 0], out[None, :, 1], f * thick))
+    wide, fine, phase = _muscles(x, y, z, sx, h, seed)
+    groove = np.clip((.12 - np.abs(np.mod(phase, 1) - .5)) / .12, 0, 1)
+    swell = 1 + (.05 * np.sin(np.pi * f) + .035 * (wide - .5) - .03 * groove + .012 * (fine - .5)) * (sy / 2) / np.hypot(x, y).clip(.3)
+    body = mesh(np.stack([x * swell, y * swell, z], -1).reshape(-1, 3), grid_faces(m, n, True), _cutsalmon(sx, sy, h, out, thick, seed),
+                uv=np.stack([np.broadcast_to(np.arange(n) / (n - 1), (m, n)), np.broadcast_to(f, (m, n))], -1).reshape(-1, 2))
+    return group([body, _salmonskin(out, thick, sx, sy, seed)])
+
+
+def _muscles(x, y, z, sx, h, seed):
+    """Two noises and the phase of the muscle layers, which lie behind one another in bows from the skin to the foot."""
+    wide = fbm(np.stack([x * .9, y * .9, z * 1.1 + seed], -1), 3, seed)
+    fine = fbm(np.stack([x * 7, y * 7, z * 4], -1), 3, seed + 1)
+    return wide, fine, np.hypot(x + .62 * sx, (z - .3 * h) * 1.5) * 2.3 + y * .8 + 1.0 * (wide - .5)
+
+
+def _cutsalmon(sx, sy, h, out, thick, seed):
+    """Material for the wall of a portion: its UV map runs round it (u) and up (v)."""
+    v, u = np.mgrid[0:1:260j, 0:1:1500j]
+    at = u * (len(out) - 1)
+    x, y, tall = (np.interp(at, np.arange(len(out)), q) for q in (out[:, 0], out[:, 1], thick))
+    wide, fine, phase = _muscles(x, y, v * tall, sx, h, seed)
+    part = np.abs(np.mod(phase, 1) - .5)
+    seam = np.clip((.09 - part) / .05, 0, 1) * np.clip(.45 + 2.2 * (wide - .35), 0, 1)
+    set_ = np.clip(1 - np.minimum(v / .42, (1 - v) / .34), 0, 1)[..., None] ** .8
+    rosy, pale, fat, brown, dark = (np.array(rgb(c)) ** (1 / 2.2) for c in ("e67c4c", "f3b490", "fdeada", "b87432", "6e3a16"))
+    img = (rosy + (pale - rosy) * (.15 + .85 * set_)) * (.9 + .2 * fine[..., None])
+    img = img + (fat - img) * (seam * .9)[..., None]
+    under = np.clip((v - .93) / .05, 0, 1)[..., None]
+    img = img + (np.array(rgb("8a6a50")) ** (1 / 2.2) - img) * under * .7
+    crust = np.clip(1 - v / (.1 + .22 * wide), 0, 1)[..., None]
+    img = img + (brown + (dark - brown) * np.clip(crust * 1.5 - .8, 0, 1) - img) * np.clip(crust * 1.5, 0, .9)
+    deep = np.clip(.5 + .5 * np.clip(part / .3, 0, 1) + .3 * (fine - .5), 0, 1)
+    height = picture("salmoncuth", np.repeat(deep[..., None], 3, -1), True)
+    return mat("salmoncut", "e8825a", .3, .5, sss=.16, coat=.55, image=picture("salmoncut", img.clip(0, 1)), height=height, heightscale=.5, sssradius=(.3, .12, .06))
+
+
+def _salmonskin(out, thick, sx, sy, seed):
+    """The crisp skin: it curls at its ragged rim, dark along the back and silver towards the belly, blistered brown."""
+    n, rings = len(out), 40
+    q = np.sin(np.linspace(0, 1, rings) * np.pi / 2)[:, None]
+    rim = 1.0 + .012 * np.sin(np.arange(n) * .7) + .02 * (fbm(np.stack([out[:, 0] * 3, out[:, 1] * 3, out[:, 0] * 0], -1), 3, seed) - .5)
+    x, y = out[None, :, 0] * q * rim, out[None, :, 1] * q * rim
+    tall = np.interp(x / sx, (-.5, -.42, -.26, 0, .3, .5), (.6, .84, 1, .95, .74, .5)) * thick.max()
+    waves = fbm(np.stack([x * 1.6, y * 1.6, x * 0 + seed], -1), 3, seed + 2) - .5
+    blisters = fbm(np.stack([x * 6, y * 6, x * 0 + seed], -1), 2, seed + 5) - .5
+    z = tall + .035 + .1 * waves + .05 * blisters + .05 * q ** 6 - .14 * np.clip((q - .965) / .035, 0, 1) ** 2
+    uv = np.stack([x / sx + .5, y / sy + .5], -1).reshape(-1, 2)
+    return mesh(np.stack([x, y, z], -1).reshape(-1, 3), grid_faces(rings, n, True), _crispskin(sx, sy, seed), uv=uv)
+
+
+def _crispskin(sx, sy, seed):
+    v, u = np.mgrid[0:1:560j, 0:1:960j]
+    x, y = u * sx, v * sy
+    wide = fbm(np.stack([x * 1.1, y * 1.1, x * 0 + seed], -1), 4, seed)
+    fine = fbm(np.stack([x * 9, y * 9, x * 0], -1), 3, seed + 7)
+    row = np.floor(x / .085)
+    scale = np.hypot(np.mod(x / .085, 1) - .15, (np.mod(y / .11 + .5 * np.mod(row, 2), 1) - .5) * 1.1)
+    back = np.clip(1.15 - u * 1.5 + .5 * (wide - .5), 0, 1)[..., None]
+    dark, silver, bronze, burnt = (np.array(rgb(c)) ** (1 / 2.2) for c in ("35332f", "aea48f", "a0662a", "3a1e0c"))
+    img = (silver + (dark - silver) * back) * (.8 + .3 * np.clip(scale, 0, 1) + .25 * (fine - .5))[..., None]
+    edge = np.clip(1 - np.minimum(np.minimum(u, 1 - u) * 1.6, np.minimum(v, 1 - v)) / .16, 0, 1)
+    crisp = np.clip(.12 + .75 * edge + (wide - .45) * 4.4, 0, 1)[..., None]
+    img = img + (bronze * (.75 + .5 * fine[..., None]) - img) * crisp * .8
+    img = img + (burnt - img) * np.clip(crisp * 1.8 - 1.25, 0, .75)
+    deep = np.clip(.5 * np.clip(scale * 1.1, 0, 1) + .7 * (fine - .2), 0, 1)
+    height = picture("crispsalmonh", np.repeat(deep[..., None], 3, -1), True)
+    return mat("crispsalmon", "8a7a5e", .26, .55, coat=.7, metal=.2, image=picture("crispsalmon", img.clip(0, 1)), height=height, heightscale=.45)
 
 
 def spreadheap(sx=3.0, sy=2.0, h=.4):

@@ -248,20 +248,24 @@ def mushroom_slice(s=1.0):
     return group([rim, slab(cap, .16 * s, flesh, 7, .02, 2, 12, .02, .01, side=brown, taper=0), slab(stem, .15 * s, flesh, 6, .02, 2, 12, .02, .01, taper=0)])
 
 
-def asparagus(length=5.0):
-    m = mat("asparagus", ((.38, "4f7a24"), (.5, "76993c"), (.64, "a3b95e")), .3, .5, sss=.1, coat=.5, noise=1.5, stretch=(1, 4, 4))
-    t = np.linspace(0, 1, 30)
-    rad = [.2 * (1 if x < .72 else max(.03, (1 - ((x - .72) / .28) ** 1.8))) * (.9 + .1 * math.cos(x * 60) * (x > .7)) + .012 for x in t]
-    parts = [tube([((x - .5) * length, .08 * math.sin(x * 4 + random.random()), .2) for x in t], rad, m, 14)]
-    tip = mat("asparagustip", ((.4, "3a4f2a"), (.6, "6a6a4c")), .4)
-    tv = [(-.5, 0, 0), (0, .35, .1), (.5, 0, .16), (0, -.35, .1)]
+def asparagus(length=5.0, r=.2):
+    """A green spear, its head closed by pointed scales that hug it; a few smaller ones along the stem."""
+    m = mat("asparagus", ((.36, "4a7a1e"), (.5, "76a03a"), (.64, "a8c262")), .26, .5, sss=.1, coat=.6, noise=1.5, stretch=(1, 4, 4))
+    t = np.linspace(0, 1, 40)
+    rad = [r * (1 if x < .74 else max(.03, 1.04 - ((x - .74) / .265) ** 2)) for x in t]
+    parts = [tube([((x - .5) * length, .08 * math.sin(x * 4 + random.random() * .2), r) for x in t], rad, m, 16)]
+    tip = mat("asparagustip", ((.38, "41621f"), (.5, "68803a"), (.62, "7a6a58")), .4, coat=.3, noise=6)
+    tv = [(-.5, -.34, -.06), (-.5, .34, -.06), (-.5, 0, .1), (.05, -.3, .02), (.05, .3, .02), (.05, 0, .16), (.62, 0, .02)]
+    tf = [(0, 3, 5, 2), (2, 5, 4, 1), (3, 6, 5), (5, 6, 4)]
     ts = []
-    for i in range(26):
-        f = .7 + .3 * i / 26
+    for i in range(40):
+        f = .72 + .27 * i / 40 if i < 36 else .2 + .15 * (i - 36)
         a = i * 2.4
-        r = .2 * max(.1, 1 - ((f - .72) / .28) ** 1.6) if f > .72 else .2
-        ts.append(Matrix.Translation(((f - .5) * length, r * math.cos(a), .2 + r * math.sin(a))) @ Matrix.Rotation(a - math.pi / 2, 4, "X") @ Matrix.Rotation(-.3, 4, "Y") @ Matrix.Diagonal((.22, .2, .2, 1)))
-    parts.append(scatter(tv, [(0, 1, 2, 3)], ts, tip))
+        k = r * max(.08, 1.04 - (max(0, f - .74) / .265) ** 2)
+        s = r * (1.25 if i >= 36 else 1.5 - .9 * i / 36)
+        lean = -.1 - .9 * max(0, (f - .86) / .14)
+        ts.append(Matrix.Translation(((f - .5) * length, k * .93 * math.cos(a), r + k * .93 * math.sin(a))) @ Matrix.Rotation(a - math.pi / 2, 4, "X") @ Matrix.Rotation(-lean * .5, 4, "Y") @ Matrix.Diagonal((s * 1.35, s * .9, s * .6, 1)))
+    parts.append(scatter(tv, tf, ts, tip))
     return group(parts)
 
 
