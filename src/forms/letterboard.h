@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMouseEvent>
 #include <QPointer>
 
 #include "forms/letterkeys.h"
