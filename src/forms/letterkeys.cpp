@@ -60,7 +60,7 @@ QString LetterKeys::caption(int key) const {
 
 QString LetterKeys::use(int key) {
     const LetterKey& used = keys_[static_cast<size_t>(key)];
-    const QString typed = capital_ ? used.text.toUpper() : used.text;
+    QString typed = capital_ ? used.text.toUpper() : used.text;
     capital_ = used.does == LetterKey::Does::Capital && !capital_;
     return typed;
 }
