@@ -62,7 +62,7 @@ QString switchText(const CheckBox& box) {
 QString readOf(const Control& control) {
     if (control.isUnheard()) return {};
     if (const auto* view = qobject_cast<const TextView*>(&control)) return view->flowingText().trimmed();
-    if (const QString text = textOf(control); !text.isEmpty()) return text;
+    if (QString text = textOf(control); !text.isEmpty()) return text;
     if (const auto* box = qobject_cast<const CheckBox*>(&control)) return switchText(*box);
     if (const auto* list = qobject_cast<const ListBox*>(&control)) return entriesInSight(*list);
     return rowsInSight(control);
