@@ -81,8 +81,8 @@ QString withStarsCounted(const QString& text) {
 }  // namespace
 
 QString spokenText(const QString& text) {
-    static const QRegularExpression range(QStringLiteral("(\\d)[–-]\u2060?(\\d)"));
-    static const QRegularExpression onlyForTheEye(QStringLiteral("[\u2060•·▲▼▸▾@]"));
+    static const QRegularExpression range(QStringLiteral("(\\d)[–-](\\d)"));
+    static const QRegularExpression onlyForTheEye(QStringLiteral("[•·▲▼▸▾@]"));
     static const QRegularExpression word(QStringLiteral("\\w"),
                                          QRegularExpression::UseUnicodePropertiesOption);
     QString words = QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/unbreakable.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
+#include <utility>
 
 namespace sarne {
 namespace {
@@ -55,6 +58,11 @@ QString withUnbreakableBlanks(QString text) {
     for (qsizetype at = text.indexOf(u' '); at >= 0; at = text.indexOf(u' ', at + 1))
         if (holdsTogether(text, at)) text[at] = QChar::Nbsp;
     return text;
+}
+
+QString unbroken(QString text) {
+    static const QRegularExpression dash(QStringLiteral("(?<=\\d)–(?=\\d)|–(?=\u00a0)"));
+    return withUnbreakableBlanks(std::move(text)).replace(dash, QStringLiteral("–\u2060"));
 }
 
 }  // namespace sarne

@@ -13,4 +13,8 @@ bool holdsTogether(QStringView text, qsizetype blank);
 /// \a text with non-breaking blanks where a blank holds together.
 QString withUnbreakableBlanks(QString text);
 
+/// \a text as it is painted: with the same blanks, and with a word joiner behind the dash of a range ("8–10")
+/// and of an amount ("sůl – 2 g"), where a line may otherwise end. No wider than \a text.
+QString unbroken(QString text);
+
 }  // namespace sarne

@@ -169,7 +169,7 @@ double Button::roomToGrow() const {
     const QSize edge = captionPlace_ == CaptionPlace::Over     ? kOver
                        : captionPlace_ == CaptionPlace::Beside ? kBeside
                                                                : QSize(kRingRoom, 0);
-    return room_.of(font_, form().textScale(), withUnbreakableBlanks(caption_), captionRoom().size() - edge,
+    return room_.of(font_, form().textScale(), unbroken(caption_), captionRoom().size() - edge,
                     captionFlags());
 }
 
@@ -189,7 +189,7 @@ bool Button::captionIsLarge() const {
 void Button::paintCaption(QPainter& painter) const {
     painter.setFont(larger(font_, growth()).toQFont());
     painter.setPen(captionPlace_ == CaptionPlace::Below ? colors::kTitle : QColor(Qt::white));
-    painter.drawText(captionRoom(), captionFlags(), withUnbreakableBlanks(caption_));
+    painter.drawText(captionRoom(), captionFlags(), unbroken(caption_));
 }
 
 void Button::paint(QPainter& painter) {

@@ -91,8 +91,8 @@ QSize Label::measure(const QString& text, const TextFont& font, int width) {
     constexpr double kEndless = 1e6;
     const int flags = width > 0 ? Qt::TextWordWrap : 0;
     const QRectF room(0, 0, width > 0 ? width : kEndless, kEndless);
-    const QRectF box = metrics.boundingRect(room, flags | Qt::TextIncludeTrailingSpaces,
-                                            width > 0 ? withUnbreakableBlanks(text) : text);
+    const QRectF box =
+        metrics.boundingRect(room, flags | Qt::TextIncludeTrailingSpaces, width > 0 ? unbroken(text) : text);
     const int natural = static_cast<int>(std::ceil(box.width()));
     return {width > 0 ? width : natural,
             static_cast<int>(std::ceil(std::max(box.height(), metrics.height())))};
@@ -118,7 +118,7 @@ bool Label::isAlike(const Label& other) const {
 
 double Label::roomToGrow() const {
     constexpr int kAir = 60;  // around the text, so that it touches nothing
-    const QString shown = wraps_ ? withUnbreakableBlanks(text_) : text_;
+    const QString shown = wraps_ ? unbroken(text_) : text_;
     const QSize room = textRoom().size() - QSize(kAir, wraps_ ? 0 : kAir);
     return room_.of(font_, form().textScale(), shown, room, flags());
 }
@@ -140,7 +140,7 @@ void Label::paint(QPainter& painter) {
     painter.setPen(color_);
     if (!isEnabled())
         painter.setOpacity(form().eyes().hasContrast() ? kStrongDisabled : colors::kDisabledText);
-    painter.drawText(textRoom(), flags(), wraps_ ? withUnbreakableBlanks(text_) : text_);
+    painter.drawText(textRoom(), flags(), wraps_ ? unbroken(text_) : text_);
 }
 
 }  // namespace sarne

@@ -206,7 +206,7 @@ void NamePlate::paint(QPainter& painter) {
     painter.setFont(font().toQFont());
     painter.setPen(colors::kInk);
     painter.drawText(plate.adjusted(kMarginX - 15, 0, 15 - kMarginX, 0), Qt::AlignCenter | Qt::TextWordWrap,
-                     withUnbreakableBlanks(tipOf(thing_)));
+                     unbroken(tipOf(thing_)));
 }
 
 }  // namespace sarne

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QStringList>
+#include <QTextBoundaryFinder>
 
 #include "core/lettersearch.h"
 #include "core/spokentext.h"
+#include "core/unbreakable.h"
 
 namespace sarne {
 namespace {
@@ -34,6 +36,16 @@ TEST(LetterJump, LettersAddUpUntilAPause) {
     EXPECT_EQ(search.restart(), u"u"_s);
 }
 
+TEST(PaintedText, NoLineEndsInARangeOrBeforeAnAmount) {
+    const QString painted = unbroken(u"táhneme při 80–85 °C – tedy ne víc, sůl\u00a0–\u00a02 g"_s);
+    QTextBoundaryFinder lines(QTextBoundaryFinder::Line, painted);
+    QStringList pieces;
+    for (qsizetype from = 0; lines.toNextBoundary() > 0; from = lines.position())
+        pieces.append(painted.sliced(from, lines.position() - from).remove(QChar(0x2060)));
+    EXPECT_EQ(pieces, (QStringList{u"táhneme "_s, u"při "_s, u"80–85\u00a0°C "_s, u"– "_s, u"tedy "_s,
+                                   u"ne "_s, u"víc, "_s, u"sůl\u00a0–\u00a02\u00a0g"_s}));
+}
+
 TEST(SpokenText, UnitsRangesAndLineEndsAreReadAsWords) {
     const struct {
         const char* written;
@@ -45,7 +57,7 @@ TEST(SpokenText, UnitsRangesAndLineEndsAreReadAsWords) {
         {"3 l vody", "3 litry vody"},
         {"3 listy", "3 listy"},
         {"2 lžíce", "2 lžíce"},
-        {"pečeme 8–\u206010 minut", "pečeme 8 až 10 minut"},
+        {"pečeme 8–10 minut", "pečeme 8 až 10 minut"},
         {"sůl\r\npepř\n", "sůl.\npepř"},
         {"vaření 30 min · 4 porce", "vaření 30 minut, 4 porce"},
         {"kapr - podkovy (g): 1200\ncitron (ks): 1", "kapr - podkovy: 1200 gramů.\ncitron: 1 kus"},

@@ -171,7 +171,7 @@ void TableView::wheelEvent(QWheelEvent* event) {
 void TableView::paintCell(QPainter& painter, const QRect& cell, const QString& text) const {
     const QRect room = cell.adjusted(TableLayout::kPadding, TableLayout::kLeading, -TableLayout::kPadding,
                                      -TableLayout::kLeading);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, withUnbreakableBlanks(text));
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, unbroken(text));
 }
 
 void TableView::paintHead(QPainter& painter) const {

@@ -2,10 +2,10 @@
 #include "screens/kitchen/cookingboard.h"
 
 #include <QPainter>
-#include <QRegularExpression>
 #include <algorithm>
 
 #include "core/texts.h"
+#include "core/unbreakable.h"
 #include "forms/colors.h"
 #include "forms/form.h"
 #include "forms/panel.h"
@@ -34,12 +34,6 @@ constexpr int kLongestNote = 200;         // characters
 const TextFont kStepFont{QStringLiteral("Arial"), 28};
 const TextFont kNeedFont{QStringLiteral("Arial"), 17};
 constexpr double kLeastNeed = 11, kNeedStep = 2;
-
-/// A range stays on one line: "8–10" is not to be broken behind its dash.
-QString unbroken(QString text) {
-    static const QRegularExpression range(QStringLiteral("(\\d)–(\\d)"));
-    return text.replace(range, QStringLiteral("\\1–\u2060\\2"));
-}
 
 void dress(Label& label, const QRect& place, const TextFont& font, const QColor& color) {
     label.place(place);
@@ -109,15 +103,14 @@ void CookingBoard::takeTextSize() {
 
 /// What is needed in the largest size in which \a place holds it.
 void CookingBoard::fit(const QString& needed, const QRect& place) {
-    const QString lines = QString(needed).replace(QStringLiteral("–\u00a0"), QStringLiteral("–\u2060\u00a0"));
     const double scale = text.form().textScale();
-    TextFont font =
-        larger(kNeedFont, RoomToGrow().of(kNeedFont, scale, lines, place.size(), Qt::TextWordWrap));
-    while (font.size > kLeastNeed && Label::measure(lines, font, place.width()).height() > place.height())
+    TextFont font = larger(
+        kNeedFont, RoomToGrow().of(kNeedFont, scale, unbroken(needed), place.size(), Qt::TextWordWrap));
+    while (font.size > kLeastNeed && Label::measure(needed, font, place.width()).height() > place.height())
         font.size = std::max(kLeastNeed, font.size - kNeedStep);
     needs.place(place);
     needs.setFont(font);
-    needs.setText(lines);
+    needs.setText(needed);
 }
 
 std::vector<TwipWidget*> CookingBoard::stops() {
@@ -161,7 +154,7 @@ void CookingBoard::showReady(const CookingRecipe& recipe, const std::vector<bool
 void CookingBoard::showStep(const CookingRecipe& recipe, const CookingPage& page) {
     show(CookingPage::Kind::Step);
     counter.setText(recipe.counterOf(page) + QStringLiteral(" · ") + recipe.portionsText());
-    text.setText(unbroken(page.text));
+    text.setText(page.text);
     showTimes(page.text);
     showNeeds(recipe.needsOf(recipe.steps[static_cast<size_t>(page.step)]));
 }

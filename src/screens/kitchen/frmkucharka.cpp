@@ -43,9 +43,7 @@ const char* const kShelfNames[kShelves] = {
 /// What an empty shelf says of how something comes onto it.
 const char* const kNothing[kShelves] = {
     QT_TRANSLATE_NOOP("Texts", "Zatím žádný recept nemá hvězdičky.\n\nDávají se v záhlaví receptu."),
-    QT_TRANSLATE_NOOP("Texts",
-                      "Zatím nic.\n\nNa konci obrazovky Vaříme se hrncem „Uvařeno!“ zapíše, že je "
-                      "jídlo hotové."),
+    QT_TRANSLATE_NOOP("Texts", "Zatím nic.\n\nPo vaření se hrncem „Uvařeno!“ zapíše, že je jídlo hotové."),
     QT_TRANSLATE_NOOP("Texts", "Zatím žádná poznámka.\n\nPíše se u receptu, v oddílu Vlastní poznámka."),
     QT_TRANSLATE_NOOP("Texts", "Zatím nebyl otevřen žádný recept."),
     QT_TRANSLATE_NOOP("Texts", "Na tento měsíc kuchařka nic neví.")};

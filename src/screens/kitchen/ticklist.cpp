@@ -253,7 +253,7 @@ void TickList::paintTexts(QPainter& painter, const TickRow& row, const QRect& ro
     named.setStrikeOut(row.ticked && row.kind == TickRow::Kind::Item && done_ == Done::StruckOut);
     painter.setFont(named);
     painter.drawText(room.adjusted(0, 0, -amount, -belowHeight(row)),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, withUnbreakableBlanks(row.text));
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, unbroken(row.text));
 }
 
 void TickList::paintBelow(QPainter& painter, const TickRow& row, const QRect& room) const {

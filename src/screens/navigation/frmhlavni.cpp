@@ -327,7 +327,7 @@ bool frmHlavni::buttonKey(int key) {
 QRect frmHlavni::roomForName(const Button& thing, const TextFont& font) const {
     QRect room = thing.twips().adjusted(60, 30, -60, -30);
     int longest = 0;
-    for (const QString& word : withUnbreakableBlanks(thing.accessibleName()).split(u' '))
+    for (const QString& word : unbroken(thing.accessibleName()).split(u' '))
         longest = std::max(longest, Label::measure(word, font).width());
     const int missing = longest - room.width();
     if (missing > 0) room.adjust(-missing / 2 - 15, 0, missing / 2 + 15, 0);
@@ -349,7 +349,7 @@ void frmHlavni::paintNames(QPainter& painter) const {
         painter.drawRect(thing->twips().united(roomForName(*thing, least).adjusted(-60, -30, 60, 30)));
     for (const Button* thing : things) {
         constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
-        const QString name = withUnbreakableBlanks(thing->accessibleName());
+        const QString name = unbroken(thing->accessibleName());
         const QRect room = roomForName(*thing, least);
         const double growth =
             RoomToGrow().of(least, kName / kLeastName * textScale(), name, room.size(), kFlags);
