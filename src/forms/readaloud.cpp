@@ -1,5 +1,7 @@
 #include "forms/readaloud.h"
 
+#include <utility>
+
 #include "core/spokentext.h"
 #include "platform/speech.h"
 
@@ -7,7 +9,10 @@ namespace sarne {
 
 ReadAloud::ReadAloud(Speech& speech, MultimediaControl& music) : speech_(speech), duck_(music) {
     connect(&speech_, &Speech::ended, this, [this] { setReading(false); });
-    connect(&speech_, &Speech::found, this, &ReadAloud::offeredChanged);
+    connect(&speech_, &Speech::found, this, [this] {
+        Q_EMIT offeredChanged();
+        read(std::exchange(awaited_, QString()));
+    });
 }
 
 bool ReadAloud::isOffered() const {
@@ -16,19 +21,24 @@ bool ReadAloud::isOffered() const {
 
 void ReadAloud::read(const QString& text) {
     const QString words = spokenText(text);
-    if (!isOffered() || words.isEmpty()) return;
+    if (words.isEmpty()) return;
+    if (!isOffered()) {
+        awaited_ = text;
+        return;
+    }
     setReading(true);
     speech_.say(words);
 }
 
 void ReadAloud::stop() {
+    awaited_.clear();
     if (!reading_) return;
     speech_.stop();
     setReading(false);
 }
 
 void ReadAloud::toggle(const QString& text) {
-    reading_ ? stop() : read(text);
+    reading_ || !awaited_.isEmpty() ? stop() : read(text);
 }
 
 void ReadAloud::setReading(bool reading) {

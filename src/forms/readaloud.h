@@ -21,7 +21,8 @@ class ReadAloud : public QObject {
     bool isOffered() const;
     bool isReading() const { return reading_; }
 
-    /// Reads \a text, in place of what is being read. A text without a word reads nothing.
+    /// Reads \a text, in place of what is being read; while no voice has been found yet, as soon as there is
+    /// one, unless stop() comes first. A text without a word reads nothing.
     void read(const QString& text);
     void stop();
     /// Stops what is being read; where nothing is, reads \a text: what the one key for it does.
@@ -41,6 +42,7 @@ class ReadAloud : public QObject {
     Speech& speech_;
     MusicDuck duck_;
     bool reading_ = false;
+    QString awaited_;  ///< what is read as soon as there is a voice
 };
 
 }  // namespace sarne

@@ -59,6 +59,27 @@ TEST_F(ReadAloudTest, OneKeyReadsWhatShowsInReadingOrderAndStops) {
     EXPECT_FALSE(sarne.reader.isReading());
 }
 
+TEST_F(ReadAloudTest, AVoiceThatIsFoundLateReadsWhatIsStillWanted) {
+    Label label(form, QStringLiteral("lblText"));
+    label.setText(u"Kapr"_s);
+    form.showForm();
+    press(Qt::Key_F9);
+    press(Qt::Key_F9);
+    sarne.speech.find();
+    EXPECT_TRUE(sarne.speech.said.isEmpty()) << "pressed again, it is wanted no more";
+    sarne.speech.voice = false;
+    press(Qt::Key_F9);
+    sarne.PushScreen(*new Form(sarne, u"frmDalsi"_s));
+    sarne.speech.find();
+    EXPECT_TRUE(sarne.speech.said.isEmpty()) << "on another screen neither";
+    sarne.speech.voice = false;
+    press(Qt::Key_F9);
+    sarne.speech.find();
+    sarne.speech.find();
+    EXPECT_EQ(sarne.speech.said, QStringList{u"Kapr"_s});
+    EXPECT_TRUE(sarne.reader.isReading());
+}
+
 TEST_F(ReadAloudTest, WrappedLinesRunOnAndListsAreReadAsFarAsTheyShow) {
     TextView text(form, QStringLiteral("picText"));
     text.place({100, 100, 1500, 4000});
