@@ -1,8 +1,8 @@
 #include "nearword.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <numeric>
-#include <utility>
 #include <vector>
 
 #include "stems.h"
@@ -12,13 +12,11 @@ namespace {
 
 /// How many letters have to be put in, taken out, changed, or swapped with their neighbour.
 qsizetype distance(const QString& a, const QString& b) {
-    using Row = std::vector<qsizetype>;
     const auto width = static_cast<std::size_t>(b.size()) + 1;
-    Row before;  // two letters of a back
-    Row last(width);
+    std::vector<qsizetype> before(width), last(width), row(width);  // of two letters of a back, one, this one
     std::iota(last.begin(), last.end(), 0);
     for (qsizetype i = 1; i <= a.size(); ++i) {
-        Row row(width, i);
+        row[0] = i;
         for (qsizetype j = 1; j <= b.size(); ++j) {
             const auto at = static_cast<std::size_t>(j);
             const bool isSame = a[i - 1] == b[j - 1];
@@ -26,7 +24,8 @@ qsizetype distance(const QString& a, const QString& b) {
             if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
                 row[at] = std::min(row[at], before[at - 2] + 1);
         }
-        before = std::exchange(last, row);
+        before.swap(last);
+        last.swap(row);
     }
     return last.back();
 }
@@ -38,7 +37,9 @@ QString didYouMean(const QString& word, const QStringList& known) {
     QString nearest;
     qsizetype best = std::max<qsizetype>(1, (wanted.size() + 1) / 3) + 1;
     for (const QString& one : known) {
-        const qsizetype apart = distance(wanted, folded(one));
+        const QString name = folded(one);
+        if (std::abs(name.size() - wanted.size()) >= best) continue;  // at least that many letters apart
+        const qsizetype apart = distance(wanted, name);
         if (apart < best) {
             best = apart;
             nearest = one;
