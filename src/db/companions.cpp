@@ -31,10 +31,11 @@ std::optional<QString> linkText(Database& db, int link) {
     return row.field(fields::kText).toString();
 }
 
-std::optional<LinkDocument> linkDocument(Database& db, int link) {
-    const Recordset row = queries::linkDocument(db, link);
-    if (row.AtEnd()) return std::nullopt;
-    return LinkDocument{row.field(kItem).toString(), row.field(fields::kText).toString()};
+std::vector<LinkDocument> linkDocuments(Database& db, int recipe) {
+    std::vector<LinkDocument> documents;
+    for (Recordset rows = queries::printedLinks(db, recipe); !rows.AtEnd(); rows.MoveNext())
+        documents.push_back({rows.field(kItem).toString(), rows.field(fields::kText).toString()});
+    return documents;
 }
 
 }  // namespace sarne

@@ -28,7 +28,8 @@ std::optional<QString> linkText(Database& db, int link);
 struct LinkDocument {
     QString title, text;
 };
-std::optional<LinkDocument> linkDocument(Database& db, int link);
+/// Those of a recipe in the order of its links, read at once: a recipe may have thousands.
+std::vector<LinkDocument> linkDocuments(Database& db, int recipe);
 
 }  // namespace sarne
 

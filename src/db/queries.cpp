@@ -88,10 +88,6 @@ Recordset linkText(Database& db, int link) {
     return open(db, QStringLiteral("SELECT Text FROM Odkazy WHERE ID = "), link);
 }
 
-Recordset linkDocument(Database& db, int link) {
-    return open(db, QStringLiteral("SELECT Polozka, Text FROM Odkazy WHERE ID = "), link);
-}
-
 Recordset keywords(Database& db) {
     return db.OpenQuery(QStringLiteral("SELECT id, nazvy, Text FROM IndexHesla ORDER BY nazvy"));
 }

@@ -31,13 +31,12 @@ Recordset stepNeeds(Database& db, int recipe);
 Recordset recipeTools(Database& db, int recipe);
 /// `ID_Polozky` and name of a recipe's links in the order of their names.
 Recordset recipeLinks(Database& db, int recipe);
-/// The same with their texts, as they are printed.
+/// The same with their texts, as they are printed and collected.
 Recordset printedLinks(Database& db, int recipe);
 /// The names of the wines that go with a recipe.
 Recordset recipeWines(Database& db, int recipe);
-/// The text of one link; with its name in front.
+/// The text of one link.
 Recordset linkText(Database& db, int link);
-Recordset linkDocument(Database& db, int link);
 
 /// All index keywords in alphabetical order.
 Recordset keywords(Database& db);

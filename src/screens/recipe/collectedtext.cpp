@@ -33,13 +33,10 @@ QString toolsLine(Database& db, int recipe) {
     return kLineEnd + Texts::tr("Pomůcky ") + tools.join(QStringLiteral(", "));
 }
 
-QString linkDocuments(Database& db, int recipe) {
+QString linkTexts(Database& db, int recipe) {
     QString all;
-    for (const RecipeLink& link : recipeLinks(db, recipe)) {
-        const auto document = linkDocument(db, link.id);
-        if (!document) continue;
-        all += kLineEnd + Texts::tr("Pomocný recept: ") + document->title + wordsOf(document->text);
-    }
+    for (const LinkDocument& link : linkDocuments(db, recipe))
+        all += kLineEnd + Texts::tr("Pomocný recept: ") + link.title + wordsOf(link.text);
     return all;
 }
 
@@ -50,7 +47,7 @@ QString collectedText(Database& db, const Recordset& recipe, int id, UnitSystem 
     QString all = ingredientsText(readIngredients(db, id), units, quantities);
     const QString texts = textSections(recipe);
     if (!all.isEmpty() && !texts.isEmpty()) all += kLineEnd;
-    return all + texts + toolsLine(db, id) + linkDocuments(db, id);
+    return all + texts + toolsLine(db, id) + linkTexts(db, id);
 }
 
 }  // namespace sarne
