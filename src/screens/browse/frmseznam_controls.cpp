@@ -177,7 +177,7 @@ void frmSeznam::showButtonsOfSource() {
     }
     lblHint.setText(
         help ? Texts::tr("Písmeno najde název, Enter otevře stránku.")
-             : Texts::tr("Písmeno najde název, mezerník promítá. Tab vybere Recept, Enter ho otevře."));
+             : Texts::tr("Písmeno najde název, mezerník promítá. Tabulátorem na Recept, Enter ho otevře."));
     imgBtn.setFace(2, help ? kOpenPage : kActions[2]);
     setPanel(panelMode_);
 }

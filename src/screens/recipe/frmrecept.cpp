@@ -98,7 +98,8 @@ void frmRecept::placeSection(int index) {
     button.place(recipelayout::section(index));
     auto* name = new Label(*this, QStringLiteral("lblIkona(%1)").arg(index));
     name->place(recipelayout::sectionName(index));
-    name->setText(button.toolTip());
+    name->setText(button.accessibleName());
+    button.setToolTip({});  // a plate would say what stands beside it, and cover the next section
     name->setFont({QStringLiteral("Arial"), 11, true});
     name->setColor(colors::kTitle);
     name->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
