@@ -60,6 +60,7 @@ TEST(ExchangeTest, IngredientsAreReadAsPeopleWriteThem) {
         {"2–3 stroužky česneku", "česneku: 2 stroužky"},
         {"mouka (hladká)", "mouka, hladká: "},
         {"3 vejce", "vejce: 3 ks"},
+        {"Špetka soli", "soli: podle chuti"},
         {"sůl podle chuti", "sůl: podle chuti"},
         {"1/2 l vývaru", "vývaru: 500 ml"},
         {"2 cups flour", "flour: 2 hrnky"},
@@ -97,13 +98,15 @@ máslo&nbsp;na pánvi.</p>"}},"1. Vlijeme vejce.<br>2. Mícháme.",{"@type":"How
 
 TEST(ExchangeTest, IngredientsAreNamedAsTheBookDoes) {
     Cookbook book;
-    book.ingredients << Ingredient{1, u"mléko"_s, false, {}};
+    book.ingredients << Ingredient{1, u"mléko"_s, false, {}} << Ingredient{2, u"sůl"_s, false, {}};
+    book.refinements.names << u"tučné"_s;
     SharedRecipe recipe = fromPastedText(
-        u"Kaše\nSuroviny\n1 l Mléka\n2 Cibule (Nakrájené)\n100 G RÝŽE\n3 lžíce Tabasca\nMáslo, nebo Sádlo\n"_s,
+        u"Kaše\nSuroviny\n1 l tučného Mléka\n2 g soli\n2 Cibule (Nakrájené)\n100 G RÝŽE\n3 lžíce Tabasca\nMáslo, nebo Sádlo\n"_s,
         kUnits);
-    useBookNames(book, recipe);
-    EXPECT_EQ(lines(recipe), (QStringList{u"mléko: 1000 ml"_s, u"cibule, nakrájené: 2 ks"_s, u"rýže: 100 g"_s,
-                                          u"Tabasca: 3 lžíce"_s, u"máslo: "_s}));
+    useBookNames(book, recipe, {{{{}, {u"sůl"_s}, {u"soli"_s}}}, {}});
+    EXPECT_EQ(lines(recipe),
+              (QStringList{u"mléko, tučné: 1000 ml"_s, u"sůl: 2 g"_s, u"cibule, nakrájené: 2 ks"_s,
+                           u"rýže: 100 g"_s, u"Tabasca: 3 lžíce"_s, u"máslo: "_s}));
     EXPECT_EQ(recipe.ingredients.last().alternative, u"sádlo"_s);
 }
 

@@ -22,6 +22,7 @@ bool hasAny(const QString& words, const QStringList& stems) {
 
 void checkIngredients(const Cookbook& book, const Stems& stems, const Recipe& recipe, Problems& problems) {
     const QString words = wordsOf(joined(recipe.method) + joined(recipe.serving));
+    if (recipe.method.isEmpty()) return;
     for (const IngredientLine& line : recipe.ingredients) {
         const Ingredient* ingredient = book.ingredient(line.ingredient);
         if (ingredient && !hasAny(words, wordsFor(*ingredient, book.facts.mainMark, stems)))
@@ -70,6 +71,7 @@ int longestTime(const QString& text) {
 }
 
 void checkTimes(const Recipe& recipe, Problems& problems) {
+    if (recipe.minutes == 0) return;  // told of where the head is checked
     const int total = std::max(recipe.minutes, longestTime(recipe.ahead));
     for (const Line& line : recipe.method)
         if (const int minutes = longestTime(plainText(line.text)); minutes > total)
@@ -109,11 +111,14 @@ void checkMethod(const Cookbook& book, const Stems& stems, const Recipe& recipe,
 void checkSteps(const Lines& text, Problems& problems) {
     static const QRegularExpression step(QStringLiteral("^(\\d+)\\. "));
     int last = 0;
+    int count = 0;
     for (const Line& line : text) {
         const auto match = step.match(line.text);
         if (!match.hasMatch()) continue;
         const int number = match.captured(1).toInt();
-        if (number != last + 1 && number != 1)
+        count = number == 1 ? 1 : count + 1;
+        // Behind a number that is wrong they may go on from it or from what is right.
+        if (number != last + 1 && number != count)
             problems.error(line.place, QStringLiteral("za krokem %1 stojí krok %2").arg(last).arg(number));
         last = number;
     }

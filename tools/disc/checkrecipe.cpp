@@ -18,6 +18,7 @@ constexpr double kTolerance = 0.10;
 constexpr double kMostSpoons = 12;
 constexpr double kCup = 250;
 constexpr double kHalf = 0.5;
+const QString kIngredients = QStringLiteral("Suroviny");
 
 /// As a writer writes it: "0,6 hrnky".
 QString czechText(double amount, const QString& unit) {
@@ -76,7 +77,7 @@ bool hasMain(const Cookbook& book, const Recipe& recipe) {
                        });
 }
 
-/// Numbers that are free for a recipe of these courses.
+/// Numbers that are free for a recipe of these courses, as a writer is told of them.
 QString freeNumbers(const Cookbook& book, QStringList courses) {
     courses.sort();
     QStringList free;
@@ -85,11 +86,12 @@ QString freeNumbers(const Cookbook& book, QStringList courses) {
         shown.sort();
         if (shown == courses && !book.recipes.contains(id)) free << QString::number(id);
     }
-    return free.isEmpty() ? QStringLiteral("51 a dál") : free.join(QStringLiteral(", "));
+    return free.isEmpty() ? QStringLiteral("%1 a dál").arg(kGridCells + 1) : free.join(QStringLiteral(", "));
 }
 
 void checkCourses(const Cookbook& book, const Recipe& recipe, Problems& problems) {
     const Place place = recipe.placeOf(QStringLiteral("chod"));
+    if (book.facts.courses.isEmpty()) return;
     bool isKnown = true;
     for (const QString& course : recipe.courses) {
         if (book.facts.courses.contains(course)) continue;
@@ -165,13 +167,20 @@ void checkSections(const BookFacts& facts, const Recipe& recipe, Problems& probl
                                                           {"Jak podávat", &recipe.serving},
                                                           {"Poznámka", &recipe.note},
                                                           {"Víno", &recipe.wineText}};
+    // A section of another name has been told of.
+    const bool isClear = std::ranges::all_of(recipe.sectionPlaces.keys(), [&](const QString& title) {
+        return title == kIngredients || std::ranges::any_of(texts, [&](const auto& one) {
+                   return title == QString::fromUtf8(one.first);
+               });
+    });
     for (const auto& [title, text] : texts)
-        if (isBlank(*text) && facts.required.contains(QString::fromUtf8(title)))
+        if (isClear && isBlank(*text) && facts.required.contains(QString::fromUtf8(title)))
             problems.error(recipe.sectionPlaces.value(QString::fromUtf8(title), recipe.place),
                            QStringLiteral("chybí text části „%1“").arg(QString::fromUtf8(title)));
     const qsizetype count = recipe.ingredients.size();
+    if (!isClear) return;
     if (count < facts.fewestIngredients || count > facts.mostIngredients)
-        problems.error(recipe.sectionPlaces.value(QStringLiteral("Suroviny"), recipe.place),
+        problems.error(recipe.sectionPlaces.value(kIngredients, recipe.place),
                        QStringLiteral("surovin je %1, má jich být %2 až %3")
                            .arg(count)
                            .arg(facts.fewestIngredients)
@@ -184,8 +193,10 @@ void checkRecipe(const Cookbook& book, const Stems& stems, const Recipe& recipe,
     checkHead(book, recipe, problems);
     checkTimes(recipe, problems);
     checkSections(book.facts, recipe, problems);
-    if (const QString& mark = book.facts.mainMark; !mark.isEmpty() && !hasMain(book, recipe))
-        problems.error(recipe.place, QStringLiteral("mezi surovinami není %1").arg(mark));
+    if (const QString& mark = book.facts.mainMark;
+        !mark.isEmpty() && !recipe.ingredients.isEmpty() && !hasMain(book, recipe))
+        problems.finding(recipe.sectionPlaces.value(kIngredients, recipe.place),
+                         QStringLiteral("mezi surovinami není %1").arg(mark));
     for (const IngredientLine& line : recipe.ingredients) {
         checkAmounts(book, line, problems);
         checkMeasure(book, recipe, line, problems);

@@ -44,8 +44,10 @@ void checkQuick(const Cookbook& book, Problems& problems) {
         if (recipe.id == 0)
             problems.error(quick.place, QStringLiteral("recept %1 neexistuje").arg(quick.recipe));
         else if (recipe.minutes > kQuickMinutes)
-            problems.error(quick.place,
-                           QStringLiteral("„%1“ trvá %2 minut").arg(recipe.name).arg(recipe.minutes));
+            problems.error(quick.place, QStringLiteral("„%1“ trvá %2 minut, v rychlých receptech smí jen %3")
+                                            .arg(recipe.name)
+                                            .arg(recipe.minutes)
+                                            .arg(kQuickMinutes));
     }
 }
 
@@ -89,16 +91,13 @@ void checkStems(const Cookbook& book, const Stems& stems, Problems& problems) {
     for (const StemEntry& entry : stems.tools)
         for (const QString& name : entry.names)
             if (!book.tools.id(name))
-                problems.error(entry.place, QStringLiteral("neznámá pomůcka „%1“").arg(name) +
-                                                didYouMean(name, book.tools.names));
+                problems.finding(entry.place, QStringLiteral("neznámá pomůcka „%1“").arg(name) +
+                                                  didYouMean(name, book.tools.names));
 }
 
 void checkPages(const Cookbook& book, Problems& problems) {
     QSet<int> pages;
-    for (const Page& page : book.pages) {
-        if (pages.contains(page.id)) problems.error(page.place, QStringLiteral("stránka tu stojí podruhé"));
-        pages << page.id;
-    }
+    for (const Page& page : book.pages) pages << page.id;
     for (const int wanted : {10, 300})
         if (!pages.contains(wanted))
             problems.error({QStringLiteral("stranky"), 0}, QStringLiteral("chybí stránka %1").arg(wanted));
@@ -134,7 +133,8 @@ void checkCookbook(const Cookbook& book, const Stems& stems, Problems& problems)
     for (const Article& article : book.auxiliary + book.keywords) checkArticle(article, problems);
     for (const Article& keyword : book.keywords) checkKeyword(book.facts, keyword, problems);
     checkQuick(book, problems);
-    checkUse(book, problems);
+    // What a mistyped line means is used, too.
+    if (!problems.hasMistakes()) checkUse(book, problems);
     checkPages(book, problems);
     Problems known;  // names that stand twice are reported when the database is written
     const LinkBook links = linkBook(book, known);

@@ -40,6 +40,8 @@ void checkTags(const Cookbook& book, Problems& problems) {
                 problems.finding(recipe.placeOf(*tag),
                                  QStringLiteral("menu.txt nezná štítek „%1“").arg(tag.key()) +
                                      didYouMean(tag.key(), askedNames));
+    // A recipe that could not be read may have the tag.
+    if (problems.hasMistakes()) return;
     for (auto tag = asked.cbegin(); tag != asked.cend(); ++tag)
         if (!given.contains(tag.key()))
             problems.finding(*tag, QStringLiteral("štítek „%1“ nemá žádný recept").arg(tag.key()) +
@@ -57,8 +59,8 @@ void checkSearch(const Cookbook& book, Problems& problems) {
         if (std::none_of(names.cbegin(), names.cend(), [&](const QString& name) {
                 return name.startsWith(typed.word, Qt::CaseInsensitive);
             }))
-            problems.error(typed.place, QStringLiteral("„%1“ nenajde žádnou surovinu").arg(typed.word) +
-                                            didYouMean(typed.word, nouns));
+            problems.finding(typed.place, QStringLiteral("„%1“ nenajde žádnou surovinu").arg(typed.word) +
+                                              didYouMean(typed.word, nouns));
     if (book.searchWords.size() < book.facts.searchWords)
         problems.finding({QStringLiteral("hledani.txt"), 0},
                          QStringLiteral("slov je %1, má jich být aspoň %2")

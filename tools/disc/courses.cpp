@@ -8,6 +8,7 @@ namespace sarne::disc {
 
 QStringList gridCourses(const BookFacts& facts, int recipe) {
     QStringList found;
+    if (facts.courses.size() != kGridGroups) return found;
     for (int group = 0; group < kGridGroups; ++group)
         if (std::ranges::count(gridGroupIds(group), recipe) > 0) found << facts.courses[group];
     return found;

@@ -4,7 +4,8 @@
 
 namespace sarne::disc {
 
-/// The courses that the grid shows \a recipe in; none where it has no cell for it.
+/// The courses that the grid shows \a recipe in; none where it has no cell for it, or where the book does not
+/// say what they are called.
 QStringList gridCourses(const BookFacts& facts, int recipe);
 
 }  // namespace sarne::disc

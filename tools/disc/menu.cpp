@@ -34,7 +34,7 @@ QList<MenuNode> takeNodes(const Lines& lines, qsizetype& at, int indent, Problem
             nodes << node(lines[at++]);
         } else if (nodes.isEmpty() || lines[at].indent() != indent + 2) {
             problems.error(lines[at].place, QStringLiteral("odsazení má být o dvě mezery"));
-            ++at;
+            nodes << node(lines[at++]);
         } else {
             nodes.last().children = takeNodes(lines, at, indent + 2, problems);
         }
@@ -72,12 +72,13 @@ class RowMaker {
             if (!isEmpty(item)) add(code + QString::number(++position), item);
     }
 
-    /// A level's items that lead to recipes not written yet are left out.
+    /// A level's items that lead to recipes not written yet are left out. Tags that no recipe has are
+    /// reported themselves.
     void reportEmpty(const QString& code, const QList<MenuNode>& nodes) {
         int position = 0;
         for (const MenuNode& item : nodes) {
             ++position;
-            if (isEmpty(item))
+            if (isEmpty(item) && item.children.isEmpty() && hasKnownTags(item))
                 problems_.finding(
                     item.place, QStringLiteral("řádek nabídky %1%2 (%3): nevede k žádnému receptu, nebude tu")
                                     .arg(code)
@@ -94,6 +95,14 @@ class RowMaker {
     bool isEmpty(const QList<MenuNode>& items) const {
         return !items.isEmpty() && std::all_of(items.cbegin(), items.cend(),
                                                [this](const MenuNode& one) { return isEmpty(one); });
+    }
+
+    bool hasKnownTags(const MenuNode& item) const {
+        const QStringList tags = item.target.split(QRegularExpression(QStringLiteral("[,+]")));
+        return std::ranges::all_of(tags, [&](const QString& tag) {
+            return std::ranges::any_of(book_.recipes,
+                                       [&](const Recipe& one) { return one.tags.contains(tag.trimmed()); });
+        });
     }
 
     bool picksRecipes(const MenuNode& item) const {
@@ -136,7 +145,7 @@ class RowMaker {
         const auto found = links_.find(item.target.mid(6));
         if (found && found->kind == LinkKind::keyword) return u'H' + QString::number(found->number);
         problems_.error(item.place, QStringLiteral("heslo „%1“ neexistuje").arg(item.target.mid(6)));
-        return {};
+        return QStringLiteral("H");
     }
 
     QSet<int> recipesWith(const MenuNode& item) const {

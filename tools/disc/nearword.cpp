@@ -40,7 +40,9 @@ QString didYouMean(const QString& word, const QStringList& known) {
         const QString name = folded(one);
         if (std::abs(name.size() - wanted.size()) >= best) continue;  // at least that many letters apart
         const qsizetype apart = distance(wanted, name);
-        if (apart < best) {
+        // "Vařené" is no slip for "tažené".
+        const bool isSlip = apart < 2 || name.startsWith(wanted.left(1));
+        if (apart < best && isSlip) {
             best = apart;
             nearest = one;
         }

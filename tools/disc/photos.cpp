@@ -105,7 +105,9 @@ QString photoOf(Workshop& shop, const Recipe& recipe) {
     const QString shown = renderedName(shop.art + QStringLiteral("/dishes/%1.dish").arg(number));
     if (!QFileInfo::exists(file)) {
         shop.problems.finding({shop.isOwnDisc() ? recipe.place.file : file, 0},
-                              QStringLiteral("fotografie jídla „%1“ chybí").arg(recipe.name));
+                              QStringLiteral("fotografie jídla „%1“ chybí, patří sem %2.jpg; zatím je tu "
+                                             "talíř se jménem")
+                                  .arg(recipe.name, QFileInfo(beside).fileName()));
     } else if (shown != recipe.name) {
         shop.problems.finding(
             recipe.placeOf(QStringLiteral("název")),
@@ -299,6 +301,19 @@ void checkReadable(Workshop& shop, const QList<Dish>& dishes) {
     }
 }
 
+/// Says which pictures and recordings beside the recipes are called like none of them.
+void checkLeftOver(Workshop& shop) {
+    const QDir folder(shop.content + QStringLiteral("/recepty"));
+    for (const QString& name : folder.entryList(QDir::Files))
+        if (isOwnFile(name) && !folder.exists(name.section(u'.', 0, -2) + QStringLiteral(".txt")))
+            shop.problems.finding({QStringLiteral("recepty/") + name, 0},
+                                  QStringLiteral("tak se tu nejmenuje žádný recept"));
+}
+
+QString ofWines(Workshop& shop) {
+    return sourceOf(shop, QStringLiteral("vino"), QStringLiteral("rendered/prvky/vino256"));
+}
+
 QString ofGallery(Workshop& shop, const GalleryPicture& picture) {
     const QString number = QString::number(picture.id);
     return sourceOf(shop, QStringLiteral("sponzor/") + number, QStringLiteral("rendered/sponzor/") + number);
@@ -308,6 +323,8 @@ QString ofGallery(Workshop& shop, const GalleryPicture& picture) {
 
 void checkPhotos(Workshop& shop) {
     checkReadable(shop, allDishes(shop));
+    checkLeftOver(shop);
+    ofWines(shop);
     for (const GalleryPicture& picture : shop.book.gallery) ofGallery(shop, picture);
     thingTasks(shop);
 }
@@ -317,9 +334,8 @@ void makePhotos(Workshop& shop) {
     checkReadable(shop, dishes);
     QList<Task> tasks;
     for (const Dish& dish : dishes) tasks << dish.task();
-    tasks << pictureTask(shop,
-                         sourceOf(shop, QStringLiteral("vino"), QStringLiteral("rendered/prvky/vino256")),
-                         QStringLiteral("Víno"), QStringLiteral("foto/vino256"), {400, 300});
+    tasks << pictureTask(shop, ofWines(shop), QStringLiteral("Víno"), QStringLiteral("foto/vino256"),
+                         {400, 300});
     for (const GalleryPicture& picture : shop.book.gallery)
         tasks << pictureTask(shop, ofGallery(shop, picture), picture.name,
                              QStringLiteral("foto/sponzor/%1").arg(picture.id), kScreenSize);

@@ -19,6 +19,7 @@ void Problems::add(QStringList& list, const Problem& problem) {
 }
 
 void Problems::error(const Place& place, const QString& text) {
+    hasMistakes_ = true;
     add(errors_, {place, text, true});
 }
 

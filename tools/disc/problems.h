@@ -36,6 +36,8 @@ class Problems {
     void note(const QString& text);
 
     bool hasErrors() const { return !errors_.isEmpty(); }
+    /// Whether something was written wrongly, and not only left unfinished: what follows from it is no news.
+    bool hasMistakes() const { return hasMistakes_; }
     /// "file:line: text", in the order in which they were found, each once.
     const QStringList& errors() const { return errors_; }
     const QStringList& notes() const { return notes_; }
@@ -47,6 +49,7 @@ class Problems {
 
     const Edition edition_;
     std::mutex adding_;
+    bool hasMistakes_ = false;
     QStringList errors_;
     QStringList notes_;
     QList<Problem> all_;

@@ -46,7 +46,7 @@ void readFoods(const ContentFolder& folder, Cookbook& book, Problems& problems) 
             if (!readPart(part, food))
                 problems.error(line.place, QStringLiteral("nečitelný údaj o potravině: „%1“").arg(part));
         if (!isIngredient(entry.key, book))
-            problems.error(line.place, QStringLiteral("neznámá surovina „%1“").arg(entry.key));
+            problems.finding(line.place, QStringLiteral("neznámá surovina „%1“").arg(entry.key));
         if (book.foods.contains(entry.key))
             problems.error(line.place, QStringLiteral("„%1“ tu stojí podruhé").arg(entry.key));
         book.foods.insert(entry.key, food);

@@ -14,15 +14,16 @@ const QStringList kDepartments{QStringLiteral("Ryby"),   QStringLiteral("Zelenin
                                QStringLiteral("Koření"), QStringLiteral("Nápoje"),
                                QStringLiteral("Ostatní")};
 
-/// The names of a section, each of which \a known has.
+/// The names of a section that \a known has, each once; the others are reported.
 QStringList names(const Section& section, const QStringList& known, Problems& problems) {
     QStringList all;
     for (const Line& line : section.lines) {
         for (const QString& name : trimmedParts(line.text, u',')) {
             if (!known.contains(name))
-                problems.error(line.place,
-                               QStringLiteral("„%1“ není v seznamu").arg(name) + didYouMean(name, known));
-            all << name;
+                problems.finding(line.place,
+                                 QStringLiteral("„%1“ není v seznamu").arg(name) + didYouMean(name, known));
+            else if (!all.contains(name))
+                all << name;
         }
     }
     return all;

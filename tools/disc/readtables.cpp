@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "nearword.h"
 #include "readfacts.h"
 #include "readfoods.h"
 #include "readsponsors.h"
@@ -17,6 +18,7 @@ namespace {
 constexpr int kSpoonTable = 5;
 /// A link's number has three digits.
 constexpr int kHighestKeyword = 999;
+constexpr int kHighestRow = 9999;
 
 const QHash<QString, UnitKind>& unitKinds() {
     static const QHash<QString, UnitKind> kinds{{QStringLiteral("hmotnost"), UnitKind::weight},
@@ -30,7 +32,8 @@ const QHash<QString, UnitKind>& unitKinds() {
 void readUnits(const ContentFolder& folder, Cookbook& book, Problems& problems) {
     for (const Row& row : tableRows(folder.read(QStringLiteral("jednotky.txt")))) {
         if (!unitKinds().contains(row.at(2)))
-            problems.error(row.place, QStringLiteral("neznámý druh jednotky"));
+            problems.error(row.place, QStringLiteral("neznámý druh jednotky „%1“").arg(row.at(2)) +
+                                          didYouMean(row.at(2), unitKinds().keys()));
         const int id = static_cast<int>(book.units.size()) + 1;
         book.units << Unit{id, row.at(0), unitKinds().value(row.at(2)), qMax(0.0, czechNumber(row.at(3)))};
         QStringList forms = trimmedParts(row.at(1), u',');
@@ -84,7 +87,7 @@ void readWeights(const ContentFolder& folder, Cookbook& book, Problems& problems
         const KeyValue entry = keyValue(line);
         const QString name = entry.key.section(u',', 0, 0).trimmed();
         if (!book.ingredientId(name) && name != book.facts.mainMark)
-            problems.error(line.place, QStringLiteral("neznámá surovina „%1“").arg(name));
+            problems.finding(line.place, QStringLiteral("neznámá surovina „%1“").arg(name));
         for (const QString& part : entry.value.split(QStringLiteral("; "))) {
             const auto [unit, grams] = unitWeight(part.trimmed(), book);
             if (unit == 0 || grams <= 0)
@@ -94,19 +97,59 @@ void readWeights(const ContentFolder& folder, Cookbook& book, Problems& problems
     }
 }
 
-void readSettings(const ContentFolder& folder, Cookbook& book) {
-    for (const Row& row : tableRows(folder.read(QStringLiteral("nastav.txt"))))
-        book.settings << Setting{row.at(0).toInt(), row.at(1), row.at(2) == QStringLiteral("zapnuto")};
+/// Numbers that rows begin with, each once.
+class Numbers {
+  public:
+    explicit Numbers(Problems& problems, int highest = kHighestRow) : problems_(problems), next_(highest) {
+        highest_ = highest;
+    }
+
+    /// The number of \a row; where it is none or stands here already, it is reported and another is taken.
+    int of(const Row& row) {
+        const int number = row.at(0).toInt();
+        if (number >= 1 && number <= highest_ && !taken_.contains(number)) {
+            taken_ << number;
+            return number;
+        }
+        problems_.error(
+            row.place,
+            QStringLiteral("číslo musí být od 1 do %1, každé jednou: „%2“").arg(highest_).arg(row.at(0)));
+        return ++next_;
+    }
+
+  private:
+    Problems& problems_;
+    QSet<int> taken_;
+    int highest_;
+    int next_;
+};
+
+void readSettings(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    static const QStringList kStates{QStringLiteral("zapnuto"), QStringLiteral("vypnuto")};
+    Numbers numbers(problems);
+    for (const Row& row : tableRows(folder.read(QStringLiteral("nastav.txt")))) {
+        if (!kStates.contains(row.at(2)))
+            problems.error(
+                row.place,
+                QStringLiteral("„%1“ nemůže být „%2“, patří sem zapnuto, vypnuto").arg(row.at(1), row.at(2)));
+        book.settings << Setting{numbers.of(row), row.at(1), row.at(2) == kStates.first()};
+    }
 }
 
-void readVideos(const ContentFolder& folder, Cookbook& book) {
+void readVideos(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    Numbers numbers(problems);
     for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("videa.txt"))))
-        book.videos << Video{row.at(0).toInt(), row.at(1)};
+        book.videos << Video{numbers.of(row), row.at(1)};
 }
 
-void readQuick(const ContentFolder& folder, Cookbook& book) {
-    for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("rychle.txt"))))
-        book.quick << QuickRecipe{row.at(0).toInt(), row.place, row.at(1), row.at(2).toInt()};
+void readQuick(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    Numbers numbers(problems);
+    for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("rychle.txt")))) {
+        if (row.cells.size() == 3)
+            book.quick << QuickRecipe{numbers.of(row), row.place, row.at(1), row.at(2).toInt()};
+        else
+            problems.error(row.place, QStringLiteral("řádek má být „číslo | název | číslo receptu“"));
+    }
 }
 
 /// The cells of a section's title.
@@ -126,31 +169,29 @@ Article article(const Section& section) {
 QList<Article> articles(const ContentFolder& folder, const QString& subfolder, int highest,
                         Problems& problems) {
     QList<Article> all;
-    QSet<int> ids;
+    Numbers numbers(problems, highest);
     for (const QString& file : folder.files(subfolder)) {
         const QList<Section> parts = sections(folder.read(file));
         for (const Section& section : parts.mid(1)) {
             all << article(section);
-            if (all.last().id < 1 || all.last().id > highest || ids.contains(all.last().id))
-                problems.error(section.place,
-                               QStringLiteral("číslo musí být od 1 do %1, každé jednou").arg(highest));
-            ids.insert(all.last().id);
+            all.last().id = numbers.of(titleCells(section));
         }
     }
     return all;
 }
 
 void readPages(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    Numbers pages(problems);
     for (const QString& file : folder.files(QStringLiteral("stranky"))) {
         const QList<Section> parts = sections(folder.read(file));
         for (const Section& section : parts.mid(1)) {
             const Row head = titleCells(section);
-            if (head.at(0).toInt() < 1) problems.error(section.place, QStringLiteral("stránka nemá číslo"));
-            book.pages << Page{head.at(0).toInt(), section.place, head.at(1), head.at(2), section.lines};
+            book.pages << Page{pages.of(head), section.place, head.at(1), head.at(2), section.lines};
         }
     }
+    Numbers topics(problems);
     for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("help.txt"))))
-        book.help << HelpTopic{row.at(0).toInt(), row.place, row.at(1), row.at(2).toInt()};
+        book.help << HelpTopic{topics.of(row), row.place, row.at(1), row.at(2).toInt()};
 }
 
 /// Grams of a unit of that name, 0 when it has none.
@@ -185,7 +226,14 @@ QList<QStringList> spoonRows(const Cookbook& book) {
     return rows;
 }
 
+QString cellCount(qsizetype count) {
+    return QStringLiteral("%1 %2").arg(count).arg(count == 1               ? QStringLiteral("buňka")
+                                                  : count > 1 && count < 5 ? QStringLiteral("buňky")
+                                                                           : QStringLiteral("buněk"));
+}
+
 void readLookupTables(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    Numbers numbers(problems);
     for (const QString& file : folder.files(QStringLiteral("tabulky"))) {
         QList<Row> rows = tableRows(folder.read(file));
         if (rows.size() < 3) {
@@ -194,12 +242,12 @@ void readLookupTables(const ContentFolder& folder, Cookbook& book, Problems& pro
         }
         const Row name = rows.takeFirst();
         const Row heads = rows.takeFirst();
-        LookupTable table{name.at(0).toInt(), name.place, name.at(1), name.at(2), heads.cells, {}};
+        LookupTable table{numbers.of(name), name.place, name.at(1), name.at(2), heads.cells, {}};
         for (const Row& row : rows) {
             if (row.cells.size() != heads.cells.size())
-                problems.error(
-                    row.place,
-                    QStringLiteral("%1 buněk pod %2 nadpisy").arg(row.cells.size()).arg(heads.cells.size()));
+                problems.error(row.place, QStringLiteral("%1 pod %2 nadpisy")
+                                              .arg(cellCount(row.cells.size()))
+                                              .arg(heads.cells.size()));
             table.rows << row.cells;
         }
         if (table.id == kSpoonTable) table.rows << spoonRows(book);
@@ -227,9 +275,9 @@ void readTables(const ContentFolder& folder, Cookbook& book, Problems& problems)
     readWeights(folder, book, problems);
     readFoods(folder, book, problems);
     readSearchWords(folder, book);
-    readSettings(folder, book);
-    readVideos(folder, book);
-    readQuick(folder, book);
+    readSettings(folder, book, problems);
+    readVideos(folder, book, problems);
+    readQuick(folder, book, problems);
 }
 
 void readArticles(const ContentFolder& folder, Cookbook& book, Problems& problems) {

@@ -9,9 +9,13 @@
 namespace sarne::disc {
 namespace {
 
+/// The lowest free number that the grid shows as this course alone, else also as another.
 int freeNumber(const Cookbook& book, const QString& course) {
-    for (int id = 1; id <= kGridCells; ++id)
-        if (!book.recipes.contains(id) && gridCourses(book.facts, id) == QStringList{course}) return id;
+    for (const qsizetype most : {1, kGridGroups})
+        for (int id = 1; id <= kGridCells; ++id)
+            if (const QStringList shown = gridCourses(book.facts, id);
+                !book.recipes.contains(id) && shown.contains(course) && shown.size() <= most)
+                return id;
     int id = kGridCells + 1;
     while (book.recipes.contains(id)) ++id;
     return id;
@@ -29,10 +33,11 @@ QString plainFileName(const QString& name) {
     return plain.isEmpty() ? QStringLiteral("recept") : plain;
 }
 
-QString recipeStem(const Cookbook& book, const QString& course, const QString& name) {
-    return QStringLiteral("%1-%2")
-        .arg(freeNumber(book, course), 2, 10, QLatin1Char('0'))
-        .arg(plainFileName(name));
+RecipePlace recipePlace(const Cookbook& book, const QString& course, const QString& name) {
+    const int number = freeNumber(book, course);
+    const QStringList shown = gridCourses(book.facts, number);
+    return {QStringLiteral("%1-%2").arg(number, 2, 10, QLatin1Char('0')).arg(plainFileName(name)),
+            shown.isEmpty() ? course : shown.join(QStringLiteral(", "))};
 }
 
 QStringList addToList(const QString& file, const QStringList& names, const QString& tail) {

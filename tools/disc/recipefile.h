@@ -4,9 +4,16 @@
 
 namespace sarne::disc {
 
-/// A new recipe's file as it is to be named in \a book: the lowest free number that the photo grid shows as
-/// \a course, else the lowest above the grid, and the name without accents ("07-stika-na-smetane").
-QString recipeStem(const Cookbook& book, const QString& course, const QString& name);
+struct RecipePlace {
+    /// The file's name without its ending.
+    QString stem;
+    /// What the head says as "chod": all courses that the grid shows this number in.
+    QString courses;
+};
+
+/// Where a new recipe goes in \a book: the lowest free number that the photo grid shows as \a course, alone
+/// if there is one, else the lowest above the grid, and the name without accents ("07-stika-na-smetane").
+RecipePlace recipePlace(const Cookbook& book, const QString& course, const QString& name);
 
 /// "Štika na smetaně" as "stika-na-smetane".
 QString plainFileName(const QString& name);

@@ -44,6 +44,7 @@ class CookbookWriter {
         : book_(book), writer_(connection), problems_(problems), links_(linkBook(book, problems)) {}
 
     void write() {
+        menu();
         lists();
         for (const Recipe& recipe : book_.recipes) this->recipe(recipe);
         for (const Article& article : book_.auxiliary) auxiliary(article);
@@ -54,7 +55,6 @@ class CookbookWriter {
         pages();
         lookupTables();
         galleries();
-        menu();
         writeKitchen(
             book_, [this](const QString& table, const QVariantList& values) { writer_.add(table, values); },
             problems_);
@@ -168,7 +168,6 @@ class CookbookWriter {
         const QList<MenuRow> rows = menuRows(book_, problems_);
         checkMenu(rows, book_, problems_);
         checkReachable(rows, book_, problems_);
-        if (problems_.hasErrors()) return;
         for (const MenuRow& row : rows)
             writer_.add(QStringLiteral("Menu"), {row.code, row.label, row.target});
     }
@@ -220,7 +219,8 @@ void replaceDatabase(const QString& file, const QStringList& schema, Keep keep, 
         QFile::remove(file);
         if (!QFile::rename(fresh, file)) throw SQLite::Exception("soubor nelze nahradit");
     } catch (const SQLite::Exception& failure) {
-        problems.error({file, 0}, QString::fromUtf8(failure.what()));
+        // Of texts that are wrong it says nothing that has not been said.
+        if (!problems.hasErrors()) problems.error({file, 0}, QString::fromUtf8(failure.what()));
     }
 }
 

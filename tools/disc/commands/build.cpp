@@ -122,9 +122,14 @@ QString beyondGrid(const Cookbook& book) {
     for (const int id : book.recipes.keys())
         if (id > kGridCells) beyond << QString::number(id);
     if (beyond.isEmpty()) return {};
-    return QStringLiteral(
-               "mřížka fotografií má padesát míst; recepty %1 v ní nejsou, vedou k nim nabídky a hledání")
-        .arg(beyond.join(QStringLiteral(", ")));
+    const QString told =
+        beyond.size() == 1
+            ? QStringLiteral(
+                  "mřížka fotografií má padesát míst; recept %1 v ní není, vedou k němu nabídky a hledání")
+            : QStringLiteral(
+                  "mřížka fotografií má padesát míst; recepty %1 v ní nejsou, vedou k nim nabídky a "
+                  "hledání");
+    return told.arg(beyond.join(QStringLiteral(", ")));
 }
 
 }  // namespace sarne::disc

@@ -22,6 +22,13 @@ QString textIn(const QString& name) {
     return isOpen ? QString::fromUtf8(file.read(kLargestFile)) : QString();
 }
 
+/// Cooklang may leave the name to the file: "rybizovy-rez.cook".
+void nameAfter(const QString& file, SharedRecipe& recipe) {
+    static const QRegularExpression blanks(QStringLiteral("[-_ ]+"));
+    recipe.name = QFileInfo(file).completeBaseName().replace(blanks, QStringLiteral(" "));
+    recipe.head << QStringLiteral("; ??? název je ze jména souboru, doplňte háčky a čárky");
+}
+
 /// By what the text looks like, whatever the file is called.
 SharedRecipe readShared(const QString& text, const QString& name, const QStringList& units) {
     if (const auto recipe = fromJsonLd(text, units)) return *recipe;
@@ -29,7 +36,7 @@ SharedRecipe readShared(const QString& text, const QString& name, const QStringL
                                          QRegularExpression::MultilineOption);
     if (name.endsWith(QLatin1String(".cook")) || mark.match(text).hasMatch()) {
         SharedRecipe recipe = fromCooklang(text, units);
-        if (recipe.name.isEmpty()) recipe.name = QFileInfo(name).completeBaseName();
+        if (recipe.name.isEmpty()) nameAfter(name, recipe);
         return recipe;
     }
     return fromPastedText(text, units);
@@ -81,13 +88,17 @@ int importRecipe(const QStringList& arguments) {
     const Project project = projectOf(parser, 1);
     const ReadBook read(project);
     SharedRecipe recipe = readShared(text, words.first(), read.book.unitForms.keys());
-    useBookNames(read.book, recipe);
+    Problems told;
+    useBookNames(read.book, recipe, readStems(read.folder, told));
     if (!recipe.name.isEmpty()) recipe.name[0] = recipe.name[0].toUpper();
     const QString course = parser.isSet(QStringLiteral("chod")) ? parser.value(QStringLiteral("chod"))
                                                                 : read.book.facts.courses.value(1);
+    const RecipePlace place = recipePlace(read.book, course, recipe.name);
     if (!recipe.head.join(u'\n').contains(QStringLiteral("chod:")))
-        recipe.head << QStringLiteral("chod: ") + course;
-    const QString file = QStringLiteral("recepty/%1.txt").arg(recipeStem(read.book, course, recipe.name));
+        recipe.head << QStringLiteral("chod: ") + place.courses
+                    << QStringLiteral("; ??? štítky, podle kterých vybírá menu.txt, mají klíče: ") +
+                           read.book.facts.tagKeys.join(QStringLiteral(", "));
+    const QString file = QStringLiteral("recepty/%1.txt").arg(place.stem);
     if (!writeFile(project.content + u'/' + file, recipeFile(recipe).toUtf8())) {
         complain(QStringLiteral("Soubor %1 nejde zapsat.").arg(file));
         return 1;

@@ -56,14 +56,14 @@ QString recipeText(const NewRecipe& recipe, const BookFacts& facts) {
                        "minut: 40\n"
                        "; snadné, střední, náročné\n"
                        "obtížnost: snadné\n"
-                       "kosti: ne\n"
+                       "%4"
                        "mrazit: ne\n"
                        "vydrží: 1 den v chladu\n"
                        "sezona: celoročně\n"
                        "chod: %3\n")
                        .arg(recipe.name)
                        .arg(recipe.portions)
-                       .arg(recipe.course);
+                       .arg(recipe.course, facts.needs("kosti") ? QStringLiteral("kosti: ne\n") : QString());
     text += QStringLiteral("; Štítky, podle kterých vybírá menu.txt, mají klíče: %1.\n")
                 .arg(facts.tagKeys.join(QStringLiteral(", ")));
     if (facts.tagKeys.contains(tag)) text += QStringLiteral("%1: %2\n").arg(tag, recipe.main);
@@ -135,9 +135,9 @@ int createRecipe(const QStringList& arguments) {
             return 2;
         }
     }
-    const NewRecipe recipe{answers[0], answers[1], answers[2].toInt(), answers[3]};
-    const QString file =
-        QStringLiteral("recepty/%1.txt").arg(recipeStem(read.book, recipe.course, recipe.name));
+    const RecipePlace place = recipePlace(read.book, answers[3], answers[0]);
+    const NewRecipe recipe{answers[0], answers[1], answers[2].toInt(), place.courses};
+    const QString file = QStringLiteral("recepty/%1.txt").arg(place.stem);
     if (!writeNew(project.content + u'/' + file, recipeText(recipe, facts))) {
         complain(QStringLiteral("Soubor %1 nejde zapsat.").arg(file));
         return 1;

@@ -2,7 +2,9 @@
 
 #include <QFile>
 #include <QRegularExpression>
+#include <algorithm>
 #include <cstdio>
+#include <tuple>
 
 namespace sarne::disc {
 namespace {
@@ -17,12 +19,16 @@ QStringList linesOf(const QString& file) {
 }
 
 /// The sign to look for where a problem quotes nothing as it stands in the file.
-constexpr std::pair<const char*, const char*> kMarks[] = {
-    {"rovné nebo cizí", "\""}, {"odkaz nemá konec", "["}, {"tučné písmo", "**"}};
+constexpr std::pair<const char*, const char*> kMarks[] = {{"rovné nebo cizí", "\""},
+                                                          {"odkaz nemá konec", "["},
+                                                          {"tučné písmo", "**"},
+                                                          {"tady se má podívat", "???"}};
 
-/// What a text quotes, the first words first, and what stands behind its last colon.
+/// What a text quotes, the first words first, and what stands behind its last colon; nothing where something
+/// is missing, which stands nowhere.
 QStringList quoted(const QString& text) {
     static const QRegularExpression pattern(QStringLiteral("„([^“]+)“"));
+    if (text.startsWith(QStringLiteral("v hlavičce chybí"))) return {};
     QStringList found;
     for (auto all = pattern.globalMatch(text); all.hasNext();) found << all.next().captured(1);
     if (const qsizetype colon = text.lastIndexOf(QLatin1String(": ")); colon >= 0)
@@ -30,7 +36,7 @@ QStringList quoted(const QString& text) {
     // The key is named first, but its value is what is wrong.
     if (text.contains(QStringLiteral("nemůže být")) && found.size() > 1) found.swapItemsAt(0, 1);
     for (const auto& [begin, mark] : kMarks)
-        if (text.startsWith(QString::fromUtf8(begin))) found << QString::fromUtf8(mark);
+        if (text.startsWith(QString::fromUtf8(begin))) found.prepend(QString::fromUtf8(mark));
     found.removeIf([](const QString& words) { return words.isEmpty(); });
     return found;
 }
@@ -64,7 +70,11 @@ constexpr Advice kAdvice[] = {
     {"váha a lžíce se liší", "opravte jedno z množství, nebo váhu lžíce v lzice.txt"},
     {"za krokem", "kroky se číslují po jedné od 1"},
     {"teplota bez", "za teplotu napište „ °C“"},
-    {"v hlavičce chybí", "na začátek souboru přidejte řádek „klíč: hodnota“"},
+    {"v hlavičce chybí „název", "na začátek souboru přidejte třeba „název: Kulajda“"},
+    {"v hlavičce chybí „dlouhý", "přidejte třeba „dlouhý název: Kulajda s houbami a vejcem“"},
+    {"v hlavičce chybí „porce", "na začátek souboru přidejte třeba „porce: 4“"},
+    {"v hlavičce chybí „minut", "přidejte, kolik minut to trvá od začátku ke stolu, třeba „minut: 45“"},
+    {"v hlavičce chybí", "na začátek souboru přidejte řádek toho jména, dvojtečku a hodnotu"},
     {"chybí text části", "pod nadpis části napište aspoň větu, nebo ji v kniha.txt vyškrtněte z „povinné“"},
     {"surovin je", "počet určuje „surovin“ v kniha.txt"},
     {"mezi surovinami není", "v suroviny.txt se značí „jméno | značka“; „hlavní surovina“ je v kniha.txt"},
@@ -80,25 +90,56 @@ constexpr Advice kAdvice[] = {
     {"desetinné číslo", "správně třeba „0,5 lžičky“"},
     {"žádný recept nepoužívá", "smažte řádek, nebo ji použijte"},
     {"nemá žádný recept", "opravte štítek, nebo položku z menu.txt vyškrtněte"},
-    {"fotografie jídla",
-     "položte vedle receptu obrázek stejného jména (01-smazenice.jpg); zatím je tam talíř se jménem"},
+    {"tak se tu nejmenuje", "soubor přejmenujte podle jeho receptu, nebo smažte"},
+    {"neznámá surovina", "smažte řádek, nebo jméno připište do suroviny.txt"},
+    {"neznámá pomůcka", "smažte řádek, nebo jméno připište do pomucky.txt"},
+    {"nenajde žádnou surovinu", "smažte slovo, nebo je opravte podle suroviny.txt"},
+    {"není v seznamu", "smažte je, nebo je připište do suroviny.txt či upresneni.txt"},
+    {"neznámý druh jednotky", "druh je hmotnost, objem, lžíce, kus nebo volné"},
+    {"číslo musí být", "zvolte číslo, které tu ještě není"},
+    {"buněk pod", "buňky se oddělují svislou čarou; prázdná smí být"},
+    {"buňky pod", "buňky se oddělují svislou čarou; prázdná smí být"},
+    {"podíly suroviny", "mají dát 100 %; u poslední zmínky napište „zbytek“, třeba „{máslo: zbytek}“"},
+    {"plocha musí ležet", "vlevo a šířka, nahoře a výška dají dohromady nejvýš 1000"},
+    {"neexistuje", "opravte jméno či číslo, nebo řádek smažte"},
+    {"menu.txt nezná štítek", "přidejte do menu.txt položku jako „Léto => léto“, nebo štítek opravte"},
+    {"nemá v knize nabídku", "nabídku mají témata 1 až 6, 8 až 18"},
+    {"v rychlých receptech", "do rychle.txt patří jen recepty do 30 minut"},
     {"soubor není v UTF-8", "uložte jej v editoru jako UTF-8"}};
 
-bool lookIn(const QStringList& lines, const QString& words, Spot& spot) {
+/// Where \a words stand in a line, if need be in other letter cases; behind a name that is written alike.
+qsizetype columnOf(const QString& line, const QString& words) {
+    const qsizetype behind = std::max<qsizetype>(0, line.indexOf(QLatin1String("=>")));
+    for (const qsizetype from : {behind, qsizetype{0}})
+        for (const Qt::CaseSensitivity letters : {Qt::CaseSensitive, Qt::CaseInsensitive})
+            if (const qsizetype at = line.indexOf(words, from, letters); at >= 0) return at;
+    return -1;
+}
+
+/// Moves \a spot to the first of \a wanted that its line has, or that a later one of its paragraph has.
+bool lookIn(const QStringList& lines, const QStringList& wanted, Spot& spot) {
     for (int i = spot.place.line - 1; i < lines.size() && i < spot.place.line + kParagraph; ++i) {
         if (i > spot.place.line - 1 && lines[i].trimmed().isEmpty()) return false;
-        const qsizetype at = lines[i].indexOf(words, 0, Qt::CaseInsensitive);
-        if (at < 0) continue;
-        spot = {{spot.place.file, i + 1}, static_cast<int>(at) + 1, lines[i]};
-        return true;
+        for (const QString& words : wanted)
+            if (const qsizetype at = columnOf(lines[i], words); at >= 0) {
+                spot = {{spot.place.file, i + 1}, static_cast<int>(at) + 1, lines[i]};
+                return true;
+            }
     }
     return false;
+}
+
+/// "soubor:řádek:sloupec: "; what concerns a whole file has only its name.
+QString locationOf(const Spot& spot) {
+    return spot.place.line < 1
+               ? spot.place.file + QStringLiteral(": ")
+               : QStringLiteral("%1:%2:%3: ").arg(spot.place.file).arg(spot.place.line).arg(spot.column);
 }
 
 void tell(const QString& root, const Problem& problem) {
     const Spot spot = spotOf(root, problem);
     const QString advice = adviceFor(problem.text);
-    std::printf("%s:%d:%d: %s%s%s%s\n", qUtf8Printable(spot.place.file), spot.place.line, spot.column,
+    std::printf("%s%s%s%s%s\n", qUtf8Printable(locationOf(spot)),
                 problem.isError ? "" : "nehotové: ", qUtf8Printable(problem.text),
                 advice.isEmpty() ? "" : "; ", qUtf8Printable(advice));
     if (spot.line.trimmed().isEmpty()) return;
@@ -113,8 +154,7 @@ Spot spotOf(const QString& root, const Problem& problem) {
     const QStringList lines = linesOf(root + u'/' + problem.place.file);
     if (problem.place.line < 1 || problem.place.line > lines.size()) return spot;
     spot.line = lines[problem.place.line - 1];
-    for (const QString& words : quoted(problem.text))
-        if (lookIn(lines, words, spot)) return spot;
+    lookIn(lines, quoted(problem.text), spot);
     return spot;
 }
 
@@ -126,14 +166,11 @@ QString adviceFor(const QString& text) {
 }
 
 qsizetype tellProblems(const QString& root, const Problems& problems) {
-    qsizetype errors = 0;
-    for (const bool isError : {false, true})
-        for (const Problem& problem : problems.all()) {
-            if (problem.isError != isError) continue;
-            tell(root, problem);
-            errors += isError;
-        }
-    return errors;
+    QList<Problem> all = problems.all();
+    std::ranges::stable_sort(
+        all, {}, [](const Problem& one) { return std::tuple(one.isError, one.place.file, one.place.line); });
+    for (const Problem& problem : all) tell(root, problem);
+    return std::ranges::count(all, true, &Problem::isError);
 }
 
 }  // namespace sarne::disc

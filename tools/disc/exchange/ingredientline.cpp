@@ -143,6 +143,13 @@ SharedIngredient readIngredientText(const QString& text, const QStringList& unit
             rest = second;
         }
     }
+    static const QRegularExpression pinch(
+        QStringLiteral("^(špetk[auy]|trochu|trocha|podle chuti)\\s+(?=\\S)"),
+        QRegularExpression::CaseInsensitiveOption);
+    if (const auto match = pinch.match(rest); match.hasMatch()) {
+        read.amount = kTaste;
+        rest = rest.mid(match.capturedLength());
+    }
     if (read.amount.isEmpty() && rest.contains(kTaste)) {
         read.amount = kTaste;
         rest.remove(kTaste);

@@ -11,6 +11,8 @@ enum class Part { head, ingredients, steps, note };
 
 /// Longer lines are sentences, not ingredients.
 constexpr qsizetype kLongestIngredient = 60;
+/// A line that was not broken where the paper ended.
+constexpr qsizetype kWrapped = 100;
 
 /// The part that a heading begins; empty for no heading.
 std::optional<Part> headingOf(const QString& line) {
@@ -66,6 +68,7 @@ SharedRecipe fromPastedText(const QString& text, const QStringList& units) {
     Part part = Part::head;
     bool hasHeading = false;
     bool isNewStep = true;
+    qsizetype lastLine = 0;
     for (const QString& raw : text.split(u'\n')) {
         QString line = raw.simplified();
         if (line.isEmpty()) {
@@ -86,7 +89,11 @@ SharedRecipe fromPastedText(const QString& text, const QStringList& units) {
         } else {
             const bool isNumbered = number.match(line).hasMatch();
             line.remove(number);
-            if (isNumbered || isNewStep || recipe.steps.isEmpty())
+            // A line that follows a whole sentence is a step of its own; a wrapped one goes on.
+            const bool isWhole = !recipe.steps.isEmpty() && recipe.steps.last().endsWith(u'.') &&
+                                 line.front().isUpper() && lastLine < kWrapped;
+            lastLine = line.size();
+            if (isNumbered || isNewStep || isWhole || recipe.steps.isEmpty())
                 recipe.steps << line;
             else
                 recipe.steps.last() += u' ' + line;

@@ -74,12 +74,6 @@ QString headLine(const char* key, const QString& value, const char* ask) {
     return ask ? kLook + name + QStringLiteral(": ") + QString::fromUtf8(ask) + u'\n' : QString();
 }
 
-bool hasKey(const QStringList& head, const char* key) {
-    const QString begin = QString::fromUtf8(key) + u':';
-    return std::any_of(head.cbegin(), head.cend(),
-                       [&](const QString& line) { return line.startsWith(begin); });
-}
-
 QString headText(const SharedRecipe& recipe) {
     const int total = recipe.minutes > 0 ? recipe.minutes : recipe.preparation + recipe.cooking;
     QString text;
@@ -92,8 +86,6 @@ QString headText(const SharedRecipe& recipe) {
     text += headLine("vaření", QString::number(recipe.cooking), "minuty vaření vedle ní nebo po ní");
     text += headLine("minut", QString::number(total), "celkem od začátku ke stolu");
     for (const QString& line : recipe.head) text += line + u'\n';
-    if (!hasKey(recipe.head, "chod"))
-        text += kLook + QStringLiteral("doplňte štítky, podle kterých vybírá menu.txt\n");
     return text;
 }
 
