@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QTextDocumentFragment>
+#include <utility>
 
 #include "ingredientline.h"
 
@@ -64,12 +65,12 @@ bool isRecipe(const QJsonObject& object) {
 
 /// The first recipe within \a value, however deep: in a graph, as what a page is about …
 QJsonObject findRecipe(const QJsonValue& value) {
-    const QJsonObject object = value.toObject();
+    QJsonObject object = value.toObject();
     if (isRecipe(object)) return object;
-    for (const QJsonValue& one : object)
-        if (const QJsonObject found = findRecipe(one); !found.isEmpty()) return found;
-    for (const QJsonValue& one : value.toArray())
-        if (const QJsonObject found = findRecipe(one); !found.isEmpty()) return found;
+    for (const auto& one : std::as_const(object))
+        if (QJsonObject found = findRecipe(one); !found.isEmpty()) return found;
+    for (const auto& one : value.toArray())
+        if (QJsonObject found = findRecipe(one); !found.isEmpty()) return found;
     return {};
 }
 
@@ -88,7 +89,7 @@ QJsonObject recipeOn(const QString& page) {
         const QJsonDocument document = QJsonDocument::fromJson(text.trimmed().toUtf8());
         const QJsonValue value =
             document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
-        if (const QJsonObject found = findRecipe(value); !found.isEmpty()) return found;
+        if (QJsonObject found = findRecipe(value); !found.isEmpty()) return found;
     }
     return {};
 }
@@ -125,7 +126,7 @@ void addStepsOf(const QJsonObject& object, QStringList& steps) {
 void addSteps(const QJsonValue& value, QStringList& steps) {
     if (value.isObject()) return addStepsOf(value.toObject(), steps);
     if (value.isString()) steps << linesOf(value.toString());
-    for (const QJsonValue& one : value.toArray()) addSteps(one, steps);
+    for (const auto& one : value.toArray()) addSteps(one, steps);
 }
 
 /// Ingredients as texts, or as one text of several lines.
@@ -134,7 +135,7 @@ QStringList ingredientsOf(const QJsonObject& recipe) {
     if (value.isUndefined()) value = recipe.value(QStringLiteral("ingredients"));
     if (value.isString()) return linesOf(value.toString());
     QStringList texts;
-    for (const QJsonValue& one : value.toArray()) texts << textOf(one);
+    for (const auto& one : value.toArray()) texts << textOf(one);
     texts.removeAll(QString());
     return texts;
 }
@@ -186,8 +187,8 @@ std::optional<SharedRecipe> fromJsonLd(const QString& page, const QStringList& u
     recipe.source = text("url");
     for (const QString& one : ingredientsOf(object)) recipe.ingredients << readIngredientText(one, units);
     addSteps(object.value(QStringLiteral("recipeInstructions")), recipe.steps);
-    for (const QJsonValue& line : object.value(kHead).toArray()) recipe.head << line.toString();
-    for (const QJsonValue& one : object.value(kSections).toArray())
+    for (const auto& line : object.value(kHead).toArray()) recipe.head << line.toString();
+    for (const auto& one : object.value(kSections).toArray())
         recipe.texts << SharedText{one[QStringLiteral("title")].toString(),
                                    one[QStringLiteral("text")].toString()};
     if (recipe.texts.isEmpty() && !text("description").isEmpty())
