@@ -75,6 +75,7 @@ TEST_F(SeznamTest, ArrowsScrollOnceOrWhileHeld) {
         click(button(arrow));
         EXPECT_EQ(list->pages().top(), top) << arrow;
         EXPECT_FALSE(button(arrow)->hasFocus()) << "the keyboard stays with the list";
+        EXPECT_FALSE(button(arrow)->caption().isEmpty()) << "a sign where the face is missing";
     }
     QTest::mousePress(button("imgSipky(0)"), Qt::LeftButton);
     Timer& timer = held("imgSipky(0)");

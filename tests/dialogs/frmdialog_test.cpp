@@ -59,6 +59,8 @@ TEST_F(DialogTest, AnythingElseIsRefusedAndAskedAgain) {
 TEST_F(DialogTest, ANumberCanBeEnteredByMouseAlone) {
     const auto clicked = [this](std::initializer_list<const char*> names) {
         QTimer::singleShot(0, [this, names] {
+            const QPoint aside = open()->geometry().center() - run.window.rect().center();
+            EXPECT_LE(aside.manhattanLength(), 2) << "in the middle";
             for (const char* name : names) QTest::mouseClick(child<Control>(*open(), name), Qt::LeftButton);
         });
         return askNumber(run, u"Počet porcí:"_s);

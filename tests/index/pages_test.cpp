@@ -89,7 +89,7 @@ TEST_F(KeywordTest, TabGoesThroughThePhrasesAndTheBarInACircle) {
 
 TEST_F(KeywordTest, BesideTheTextStandWhatIsKnownOfRecipesAndFilm) {
     run.database.Execute(u"INSERT INTO UkazkyHesel VALUES (1, '', '', 6, '7,12,')"_s);
-    run.database.Execute(u"INSERT INTO UkazkyHesel VALUES (2, '', '', 0, '7,')"_s);
+    run.database.Execute(u"INSERT INTO UkazkyHesel VALUES (2, '', '', 99999, '7,')"_s);  // no film
     show(3);
     const int whole = view().twips().width();
     form->goBack();

@@ -55,6 +55,8 @@ TEST_F(DomaTest, LeavesOutWhatMustNotBeIn) {
     child<Button>(screen, "cmdAkce(6)")->click();
     EXPECT_TRUE(screen.query().have.empty());
     EXPECT_TRUE(screen.query().without.empty());
+    child<Button>(screen, "cmdAkce(7)")->click();  // no recipe is selected
+    EXPECT_EQ(run_.beeps, 1);
 }
 
 TEST_F(DomaTest, RemembersWhatIsAtHome) {

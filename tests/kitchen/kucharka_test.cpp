@@ -50,6 +50,12 @@ TEST_F(KucharkaTest, GivesStarsByMouseAndKeyboardWithoutLosingTheRow) {
     };
     click(3);
     EXPECT_EQ(RecipeMarks(run_.file()).stars(6, u"Bez kroků"_s), 3);
+    const auto middle = [&](int star) {
+        const QSize room = stars->size();
+        return stars->grab().toImage().pixelColor((2 * star - 1) * room.width() / 10, room.height() / 2);
+    };
+    EXPECT_EQ(middle(1), middle(3));
+    EXPECT_NE(middle(3), middle(4)) << "three are filled";
     click(3);  // the same star takes them back
     EXPECT_EQ(RecipeMarks(run_.file()).stars(6, u"Bez kroků"_s), 0);
     EXPECT_EQ(run_.announced.last(), u"bez hodnocení"_s);

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QStandardPaths>
 
+#include "forms/colors.h"
 #include "kitchen/goods.h"
 #include "kitchen/shoppingstore.h"
 #include "kitchenbook.h"
@@ -37,6 +38,11 @@ TEST_F(NakupTest, ShowsDepartmentsAndFoldsWhatIsAtHome) {
     EXPECT_EQ(
         rows(screen, "picSeznam"),
         u"Ryby | kapr/1,2 kg/Kapr na kmíně | Mléčné a vejce | máslo/80 g/Kapr na kmíně | Nejspíš už doma (1)"_s);
+    auto* list = child<TickList>(screen, "picSeznam");
+    EXPECT_EQ(
+        list->grab().toImage().pixelColor(list->width() - 3, list->toPixels(list->rowRect(0).center()).y()),
+        colors::kTeal)
+        << "a heading stands on a bar";
     press(screen, Qt::Key_End);
     press(screen, Qt::Key_Space);
     EXPECT_TRUE(rows(screen, "picSeznam").contains(u"x Nejspíš už doma (1) | sůl"_s));

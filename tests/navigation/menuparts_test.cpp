@@ -44,6 +44,7 @@ TEST_F(MenuLevelTest, ASearchSaysWhatItDidNotFind) {
         const auto level = MenuLevel::build(run.database, u"0"_s);
         EXPECT_EQ(dump(level), typed == std::string("byl") ? u": Příliš mnoho nalezených surovin=F"_s : none);
         EXPECT_FALSE(level.items[0].isSelectable());
+        EXPECT_EQ(searchHint(level).startsWith(u"Připište"_s), typed == std::string("byl"));
     }
     ASSERT_TRUE(searchIngredients(run.database, u"mouk?"_s));
     EXPECT_EQ(dump(MenuLevel::build(run.database, u"0"_s)), u": mouka=4"_s) << "typed patterns count";

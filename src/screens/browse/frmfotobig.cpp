@@ -273,10 +273,6 @@ void frmFotoBig::restored() {
     loadCursor();
 }
 
-void frmFotoBig::gotFocus() {
-    app().BringTopToFront(name());
-}
-
 }  // namespace sarne
 
 // SPDX-License-Identifier: GPL-3.0-or-later

@@ -38,7 +38,6 @@ class frmFotoBig : public Form {
 
   protected:
     bool keyDown(QKeyEvent& event) override;
-    void gotFocus() override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
