@@ -1,6 +1,8 @@
 #include "blackline.h"
 
 #include <algorithm>
+#include <numeric>
+#include <vector>
 
 namespace sarne {
 namespace {
@@ -14,20 +16,15 @@ bool isBlack(QRgb pixel) {
 
 QString blackLine(const QImage& screen) {
     const QImage image = screen.convertToFormat(QImage::Format_RGB32);
-    std::vector<bool> columns(size_t(image.width()), true);  // those that may still be black
+    std::vector<int> columns(size_t(image.width()));  // those that may still be black
+    std::iota(columns.begin(), columns.end(), 0);
     for (int y = 0; y < image.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        bool black = true;
-        for (int x = 0; x < image.width(); ++x) {
-            const bool here = isBlack(row[x]);
-            black = black && here;
-            if (!here) columns[size_t(x)] = false;
-        }
-        if (black) return QStringLiteral("row %1 is plain black").arg(y);
+        if (std::all_of(row, row + image.width(), isBlack))
+            return QStringLiteral("row %1 is plain black").arg(y);
+        std::erase_if(columns, [row](int x) { return !isBlack(row[x]); });
     }
-    const auto column = std::find(columns.begin(), columns.end(), true);
-    if (column == columns.end()) return {};
-    return QStringLiteral("column %1 is plain black").arg(column - columns.begin());
+    return columns.empty() ? QString() : QStringLiteral("column %1 is plain black").arg(columns.front());
 }
 
 }  // namespace sarne

@@ -97,7 +97,6 @@ int report(QTextStream& out, const Tour& tour, const QDir& pictures, const QStri
 int main(int argc, char** argv) {
     using namespace sarne;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    giveMemoryBack();
     QApplication application(argc, argv);
     qInstallMessageHandler(keepLacking);
     QLoggingCategory::setFilterRules(QStringLiteral("sarne.*=true"));
@@ -146,6 +145,9 @@ int main(int argc, char** argv) {
     options.process(application);
     const QStringList wide = options.value(size).split(u'x');
     if (options.positionalArguments().size() != 1 || wide.size() != 2) options.showHelp(2);
+    // What is measured is the program as it runs; otherwise memory is kept, a large display's picture being
+    // asked for a thousand times.
+    if (options.isSet(steps) || options.isSet(measured)) giveMemoryBack();
 
     const QDir pictures(options.positionalArguments().first());
     QTemporaryDir folder;
