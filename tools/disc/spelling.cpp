@@ -6,6 +6,11 @@
 #include <algorithm>
 
 namespace sarne::disc {
+namespace {
+
+constexpr int kTimeout = 900'000;  // milliseconds, of a machine that has much else to do
+
+}  // namespace
 
 std::optional<QStringList> unknownWords(const QStringList& words) {
     QProcess hunspell;
@@ -14,7 +19,7 @@ std::optional<QStringList> unknownWords(const QStringList& words) {
                     QStringLiteral("cs_CZ")});
     hunspell.write(words.join(u'\n').toUtf8() + '\n');
     hunspell.closeWriteChannel();
-    if (!hunspell.waitForFinished() || hunspell.exitCode() != 0) return std::nullopt;
+    if (!hunspell.waitForFinished(kTimeout) || hunspell.exitCode() != 0) return std::nullopt;
     return QString::fromUtf8(hunspell.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
 }
 
