@@ -80,8 +80,10 @@ def steak(outer, inner, kind="white", state="roasted", seed=1, n=360):
     img = img + (_tone("fbf0d8" if kind == "white" else seam_) - img) * (seam * (.2 if cooked else .5))[..., None]
     img = img + (_tone("8a5a3c") * .9 - img) * (side * (.6 if cooked else .35))[..., None]
     if cooked:
-        f = np.clip(1.0 - rim / .34, 0, 1) ** 1.2 * .8 + (wide - .5) * 2.6 + .5
-        img = _brown(img, np.clip(f, .1, 1) * (1 - .3 * seam), crust, burnt, fine)
+        # browned where it touched the pan: along the rim, and in spots on what stands out
+        spots = np.clip((fbm(np.stack([x * 4.5 / size, y * 4.5 / size, x * 0 + seed], -1), 5, seed + 7) - .47) * 5, 0, 1)
+        f = np.clip(1.0 - rim / .2, 0, 1) ** 1.5 * .9 + (wide - .5) * 1.7 + .2 + .55 * spots * (.4 + .9 * fine)
+        img = _brown(img, np.clip(f, .06, 1) * (1 - .3 * seam), crust, burnt, fine)
     name = f"steak-{kind}-{state}-{seed}-{len(core._materials)}"
     height = core.picture(name + "h", np.repeat(np.clip(tall, 0, 1)[..., None], 3, -1), True)
     m = mat(name, raw, .42 if cooked else .33, .5, sss=.05, coat=.3, image=core.picture(name, img.clip(0, 1)), height=height, heightscale=.5, sssradius=(.25, .14, .1))

@@ -170,7 +170,7 @@ def salmonportion(sx=3.6, sy=2.0, h=1.0, seed=3):
     """A portion cut across a side of salmon and fried on its skin, served with it up: thick towards the back (left), thin
     towards the belly; the cut sides show the flakes, glassy in the middle, set pale at the rim, browned at the foot."""
     n, m = 300, 26
-    out = blob(sx, sy, .035, n, 6.5, seed)
+    out = _evenly(blob(sx, sy, .035, 4 * n, 6.5, seed), n)
     thick = np.interp(out[:, 0] / sx, (-.5, -.42, -.26, 0, .3, .5), (.6, .84, 1, .95, .74, .5)) * h
     f = np.linspace(0, 1, m)[:, None]
     x, y, z = (np.broadcast_to(q, (m, n)) for q in (out[None, :, 0], out[None, :, 1], f * thick))
@@ -180,6 +180,14 @@ def salmonportion(sx=3.6, sy=2.0, h=1.0, seed=3):
     body = mesh(np.stack([x * swell, y * swell, z], -1).reshape(-1, 3), grid_faces(m, n, True), _cutsalmon(sx, sy, h, out, thick, seed),
                 uv=np.stack([np.broadcast_to(np.arange(n) / (n - 1), (m, n)), np.broadcast_to(f, (m, n))], -1).reshape(-1, 2))
     return group([body, _salmonskin(out, thick, sx, sy, seed)])
+
+
+def _evenly(outline, n):
+    """n points at equal steps round an outline: a picture laid along it is stretched nowhere."""
+    closed = np.concatenate([outline, outline[:1]])
+    way = np.r_[0, np.cumsum(np.hypot(*np.diff(closed, axis=0).T))]
+    t = np.linspace(0, way[-1], n, endpoint=False)
+    return np.stack([np.interp(t, way, closed[:, k]) for k in (0, 1)], -1)
 
 
 def _muscles(x, y, z, sx, h, seed):

@@ -14,8 +14,8 @@ from .shapes import blob, loft, slab
 from .surfaces import crumb, fishskin, flesh, gherkin_mat, onion_mat
 
 
-BACK = ((0, 1.45), (.5, 1.34), (1.02, .9), (1.3, .2), (1.27, -.55), (1.06, -1.25), (.82, -1.86))
-CAVITY = ((0, -.3), (.16, -.36), (.36, -.66), (.5, -1.05), (.57, -1.42), (.55, -1.8))
+BACK = ((0, 1.62), (.3, 1.56), (.72, 1.22), (1.04, .55), (1.1, -.2), (1.0, -1.0), (.84, -1.75), (.58, -2.45))
+CAVITY = ((0, -.16), (.1, -.2), (.26, -.55), (.4, -1.05), (.46, -1.6), (.4, -2.3))
 
 
 def _arch(points, n):
@@ -33,7 +33,7 @@ def horseshoe(state="roasted", size=1.0, seed=None, kind="carp", meat="white"):
     rnd = random.Random(seed)
     n = 96
     O, I = _arch(BACK, n), _arch(CAVITY, n)
-    apart, lean = rnd.uniform(-.1, .12), rnd.uniform(-.14, .14)
+    apart, lean = rnd.uniform(-.16, .02), rnd.uniform(-.14, .14)
     for curve in (O, I):
         low = np.clip(-curve[:, 1], 0, 9) ** 1.5
         curve[:, 0] += np.sign(curve[:, 0]) * apart * low * .4 + lean * low * .5
@@ -76,7 +76,7 @@ def _backbone(size):
     bone = mat("vertebra", ((.4, "b79a6c"), (.6, "ddc9a0")), .5, coat=.2, noise=5)
     ring = lathe(smooth_profile([(.05, .02), (.1, .05), (.16, .045), (.19, 0)], 4), bone, 20)
     heart = lathe([(.01, .022), (.06, .024), (.07, 0)], mat("marrow", "6b3a22", .5, coat=.3), 16)
-    return put(group([ring, heart]), scale=(size, size * .85, size))
+    return put(group([ring, heart]), scale=(size * .72, size * .66, size * .5))
 
 
 def grillmarks(o, seed=0, n=5, col="140a05"):

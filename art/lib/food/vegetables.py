@@ -262,7 +262,7 @@ def asparagus(length=5.0, r=.2):
         f = .72 + .27 * i / 40 if i < 36 else .2 + .15 * (i - 36)
         a = i * 2.4
         k = r * max(.08, 1.04 - (max(0, f - .74) / .265) ** 2)
-        s = r * (1.25 if i >= 36 else 1.5 - .9 * i / 36)
+        s = r * (.7 if i >= 36 else .8 - .3 * i / 36)
         lean = -.1 - .9 * max(0, (f - .86) / .14)
         ts.append(Matrix.Translation(((f - .5) * length, k * .93 * math.cos(a), r + k * .93 * math.sin(a))) @ Matrix.Rotation(a - math.pi / 2, 4, "X") @ Matrix.Rotation(-lean * .5, 4, "Y") @ Matrix.Diagonal((s * 1.35, s * .9, s * .6, 1)))
     parts.append(scatter(tv, tf, ts, tip))
