@@ -7,8 +7,8 @@
 
 #include "app/displayquestions.h"
 #include "app/program.h"
+#include "app/rooms.h"
 #include "core/texts.h"
-#include "db/queries.h"
 #include "db/soundsettings.h"
 #include "forms/colors.h"
 #include "forms/label.h"
@@ -20,16 +20,6 @@ namespace sarne {
 namespace {
 
 const QString kTitle = QStringLiteral("Velisa sarn - Lumora");
-
-Picture pictureOf(const Recordset& records) {
-    return Picture::fromData(records.field(QStringLiteral("obr")).toByteArray());
-}
-
-/// The picture that goes on around the ground \a name; empty where there is none.
-Picture widePicture(const basSarne& sarne, QStringView name) {
-    return Picture::fromFile(
-        sarne.paths().resolve(sarne.AppDir + QStringLiteral("siroke\\%1.jpg").arg(name)));
-}
 
 /// An edge of the film that fades into the picture around it.
 class SoftEdge final : public Control {
@@ -94,7 +84,7 @@ bool frmSplash::Zobraz() {
     showForm();
     repaint();
     if (!checkDisplay() || !checkFonts()) return false;
-    preparePictures();
+    readRooms(app());
     playIntro();
     readSettings();
     return !closed_ && !app().Ending;
@@ -178,28 +168,6 @@ void frmSplash::Konec() {
     showForm();
     repaint();
     app().Yield();
-}
-
-void frmSplash::preparePictures() {
-    Database pictures;
-    pictures.Open(app().paths().resolve(app().AppDir + QStringLiteral("KOp.bj")));
-    Recordset records = queries::screenPictures(pictures);
-    // The records are told apart by their position: the first one, then the others from the last one
-    // backwards.
-    ScreenPictures& rooms = app().Pictures;
-    rooms.hlavni = Room(pictureOf(records), widePicture(app(), u"hlavni"));
-    records.MoveLast();
-    const std::pair<Room*, QStringView> others[] = {{&rooms.Sit, u"Sit"},
-                                                    {&rooms.recept, u"recept"},
-                                                    {&rooms.seznam, u"seznam"},
-                                                    {&rooms.video, u"video"},
-                                                    {&rooms.konec, u"konec"}};
-    for (const auto& [room, name] : others) {
-        *room = Room(pictureOf(records), widePicture(app(), name));
-        records.MovePrevious();
-    }
-    rooms.stranka = Room({}, widePicture(app(), u"stranka"));
-    if (rooms.stranka.isNull()) rooms.stranka = rooms.seznam;
 }
 
 void frmSplash::readSettings() {

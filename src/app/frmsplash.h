@@ -41,7 +41,6 @@ class frmSplash : public Form {
   private:
     bool checkDisplay();
     bool checkFonts();
-    void preparePictures();
     void playIntro();
     std::unique_ptr<Label> skipHint();
     void readSettings();

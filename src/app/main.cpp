@@ -1,22 +1,29 @@
 #include <QApplication>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QLocale>
 #include <QPixmap>
 #include <QStandardPaths>
 #include <cstdio>
 #include <cstdlib>
+#include <future>
 
 #include "app/editionwatch.h"
 #include "app/language.h"
 #include "app/program.h"
+#include "app/rooms.h"
 #include "app/systemplatform.h"
 #include "app/windowplace.h"
 #include "core/texts.h"
+#include "forms/picture.h"
 #include "platform/endsignals.h"
 #include "platform/memory.h"
+#include "platform/sessionbus.h"
 #include "platform/singleinstance.h"
 
 namespace {
+
+constexpr int kIcon = 128;  // pixels
 
 /// The running program, for the one moment at which nobody can hand it over: the window system's connection
 /// breaks, and its library ends the process.
@@ -63,13 +70,16 @@ void keepWordsAtTheEnd(sarne::Program& program) {
 int main(int argc, char** argv) {
     using namespace sarne;
     giveMemoryBack();
+    declineMissingBus();
     qInstallMessageHandler(withoutDisplay);
     QApplication application(argc, argv);
     qInstallMessageHandler(kMessages);
+    // The machine's fonts are listed while the window is made: the first text wants the list.
+    const auto fonts = std::async(std::launch::async, [] { QFontDatabase::families(); });
     QApplication::setApplicationName(QStringLiteral("Velisa sarn"));
     QGuiApplication::setDesktopFileName(QStringLiteral(SARNE_ID));
-    // Its format is told, or every decoder there is would be loaded to find it out.
-    QApplication::setWindowIcon(QPixmap(QStringLiteral(":/" SARNE_ID ".png"), "PNG"));
+    QApplication::setWindowIcon(
+        Picture::fromFile(QStringLiteral(":/" SARNE_ID ".png")).pixmap({kIcon, kIcon}));
     QApplication::setQuitOnLastWindowClosed(false);
     installLanguage(QLocale::system().uiLanguages());
 
@@ -83,6 +93,8 @@ int main(int argc, char** argv) {
     program.stage().setWindowTitle(QStringLiteral("Velisa sarn"));
     keepWordsAtTheEnd(program);
     WindowPlace place(program.stage(), windowKind(platform.settings));
+    place.settle();
+    beginKitchen(program);
     place.show();
     int code = 0;
     if (program.Main(commandLine(application)) && !program.hasEnded()) {

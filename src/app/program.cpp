@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "app/frmsplash.h"
+#include "app/rooms.h"
 #include "core/texts.h"
 #include "db/installation.h"
 #include "dialogs/frmdialog.h"
@@ -15,6 +16,8 @@
 
 namespace sarne {
 namespace {
+
+const QString kResources = QStringLiteral("Sarne.rcc");
 
 bool isFolder(const QString& path) {
     return !path.isEmpty() && QFileInfo(path).isDir();
@@ -33,6 +36,8 @@ Program::Program(const PlatformParts& platform, Folders folders)
       stage_(std::make_unique<Stage>()),
       keptEyes_(stage_->eyes(), userFile_),
       screens_(*this) {
+    AppDir = LogicalPaths::fromNativeFolder(folders_.program);
+    resources_.prepare(paths().resolve(AppDir + kResources));
     if (platform_.makeAnnouncer) announcer_ = platform_.makeAnnouncer(*stage_);
     if (platform_.askDesktop)
         platform_.askDesktop(keptEyes_, [this](DesktopWishes wishes) { keptEyes_.follow(wishes); });
@@ -50,8 +55,7 @@ Program::~Program() {
 }
 
 bool Program::Main(const QString& commandLine) {
-    AppDir = LogicalPaths::fromNativeFolder(folders_.program);
-    resources_.load(paths().resolve(AppDir + QStringLiteral("Sarne.rcc")));
+    resources_.load(paths().resolve(AppDir + kResources));
     findMediaRoot();
     ShowMode = isShowSwitch(commandLine);
     openDatabase();

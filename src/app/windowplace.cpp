@@ -52,21 +52,27 @@ WindowPlace::WindowPlace(QWidget& window, WindowKind kind) : window_(window), ki
     connect(qApp, &QGuiApplication::screenRemoved, this, &WindowPlace::screenGone, Qt::QueuedConnection);
 }
 
+void WindowPlace::settle() {
+    settleOn(QGuiApplication::screens().value(displayAt(displays(), QCursor::pos())));
+}
+
 void WindowPlace::show() {
-    showOn(QGuiApplication::screens().value(displayAt(displays(), QCursor::pos())));
+    settle();
+    showSettled();
 }
 
 void WindowPlace::moveOn() {
     const QList<QScreen*> screens = QGuiApplication::screens();
     if (screens.size() < 2) return;
-    showOn(screens[(screens.indexOf(screen_) + 1) % screens.size()]);
+    settleOn(screens[(screens.indexOf(screen_) + 1) % screens.size()]);
+    showSettled();
 }
 
 QRect WindowPlace::room() const {
     return kind_ == WindowKind::FullScreen ? screen_->geometry() : windowWithin(screen_->availableGeometry());
 }
 
-void WindowPlace::showOn(QScreen* screen) {
+void WindowPlace::settleOn(QScreen* screen) {
     if (!screen) return;
     disconnect(modeChanges_);
     screen_ = screen;
@@ -74,11 +80,15 @@ void WindowPlace::showOn(QScreen* screen) {
     if (window_.isVisible() && kind_ == WindowKind::FullScreen) window_.showNormal();
     window_.setScreen(screen);
     window_.setGeometry(room());
+}
+
+void WindowPlace::showSettled() {
+    if (!screen_) return;
     kind_ == WindowKind::FullScreen ? window_.showFullScreen() : window_.show();
     // Where no window manager runs nobody else follows the display's mode.
     if (kind_ == WindowKind::FullScreen)
         modeChanges_ =
-            connect(screen, &QScreen::geometryChanged, this, [this] { window_.setGeometry(room()); });
+            connect(screen_.data(), &QScreen::geometryChanged, this, [this] { window_.setGeometry(room()); });
 }
 
 /// Told when the display is gone already: \a gone is compared, not used.

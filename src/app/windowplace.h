@@ -22,6 +22,8 @@ class WindowPlace : public QObject {
     /// \a window outlives this object.
     WindowPlace(QWidget& window, WindowKind kind);
 
+    /// Gives the window the display that the pointer is on, and its size there, without showing it.
+    void settle();
     /// Shows the window where the pointer is.
     void show();
     /// Takes the window to the next display; nothing where there is only one.
@@ -31,7 +33,8 @@ class WindowPlace : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void showOn(QScreen* screen);
+    void settleOn(QScreen* screen);
+    void showSettled();
     void screenGone(const QScreen* gone);
     QRect room() const;
 

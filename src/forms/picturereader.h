@@ -1,20 +1,19 @@
 #pragma once
 
-#include <QBuffer>
-#include <QFile>
 #include <QImageReader>
+
+#include "forms/picturefile.h"
 
 namespace sarne {
 
-/// Reads a picture in a format that it has found out itself. A reader that is left to find out loads every
-/// decoder that this machine has, which takes longer than the picture.
+/// Reads a picture, with no other decoder loaded than its own where the toolkit keeps decoders apart.
 class PictureReader {
   public:
     /// \a file is a native path or a resource path.
     explicit PictureReader(const QString& file);
     explicit PictureReader(const QByteArray& encoded);
 
-    QSize size() const { return reader_.size(); }
+    QSize size() const { return file_.pixels().isEmpty() ? reader_.size() : file_.pixels(); }
     /// The picture decoded for being shown in \a pixels (none: in its own): exactly those where the decoder
     /// gives them, or somewhat larger or smaller where that is quicker. Null when it is broken.
     QImage read(QSize pixels = {});
@@ -22,10 +21,9 @@ class PictureReader {
     QImage readPart(QSize whole, const QRect& part);
 
   private:
-    void begin(QIODevice& device);
+    void begin();
 
-    QBuffer buffer_;
-    QFile file_;
+    PictureFile file_;
     QImageReader reader_;
 };
 

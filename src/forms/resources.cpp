@@ -24,10 +24,16 @@ QByteArray readAll(const QString& path) {
 
 Resources::Resources(QString root) : root_(std::move(root)) {}
 
+void Resources::prepare(const QString& file) {
+    prepared_ = file;
+    sealed_ = std::async(std::launch::async, isSealed, file);
+}
+
 bool Resources::load(const QString& file) {
     files_.clear();
     pictures_.clear();
-    return isSealed(file) && QResource::registerResource(file);
+    const bool sealed = sealed_.valid() && file == prepared_ ? sealed_.get() : isSealed(file);
+    return sealed && QResource::registerResource(file);
 }
 
 /// The path of the file in \a folder whose name, its ending aside, is \a name; else one that differs in case.

@@ -3,6 +3,7 @@
 #include <QCursor>
 #include <QHash>
 #include <QString>
+#include <future>
 #include <vector>
 
 #include "forms/picture.h"
@@ -15,6 +16,8 @@ class Resources {
   public:
     /// Reads below \a root, a resource path or a folder.
     explicit Resources(QString root = QStringLiteral(":/"));
+    /// Begins on another thread to check the file that load() will be given.
+    void prepare(const QString& file);
     /// Makes the resource file at the native path \a file the source. False when it cannot be read, or is not
     /// what the disc's builder has sealed: Qt trusts such a file to the last byte.
     bool load(const QString& file);
@@ -33,7 +36,8 @@ class Resources {
   private:
     QString find(const QString& folder, const QString& name) const;
 
-    QString root_;
+    QString root_, prepared_;
+    std::future<bool> sealed_;  // whether the prepared file is whole
     mutable QHash<QString, QHash<QString, QString>> files_;
     mutable QHash<QString, Picture> pictures_;
 };

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QPixmap>
 #include <algorithm>
+#include <future>
+#include <utility>
 
 #include "forms/colors.h"
 #include "forms/stage.h"
@@ -109,11 +111,16 @@ struct Room::Parts {
         return design.isNull() || (!wide.isNull() && part != designArea());
     }
     QImage cut(QSize pixels, const QRectF& part) const;
+    void compose(QPainter& painter, const QRectF& part) const;
+    QImage composed(QSize pixels, const QRectF& part) const;
+    QImage ready(QSize pixels, const QRectF& part);
 
     Picture design, wide;
     bool covers = false;  // the design's picture lies over all of the display
-    QPixmap composed;
+    QPixmap drawn;
     QRectF covered;
+    std::future<QImage> coming;  // what another thread composes
+    QRectF comingPart;
 };
 
 /// The room in \a pixels, which show \a part of it, where the wide picture has them without being painted.
@@ -130,6 +137,46 @@ QImage Room::Parts::cut(QSize pixels, const QRectF& part) const {
         !exact.contains(QRect({}, pixels)))
         return {};
     return wide.scaledPart(exact.size(), QRect(-exact.topLeft(), pixels));
+}
+
+void Room::Parts::compose(QPainter& painter, const QRectF& part) const {
+    if (covers) {
+        painter.save();
+        painter.setClipRect(part, Qt::IntersectClip);
+        drawWhole(painter, Picture::fitted(design.size(), part, Fit::Cover), design);
+        return painter.restore();
+    }
+    const bool useWide = usesWide(part);
+    const Picture& picture = useWide ? wide : design;
+    const QRectF place = useWide ? widePlace(picture.size()) : designArea();
+    const QRectF most = place.adjusted(-kHair, -kHair, kHair, kHair);
+    if (useWide && most.top() <= part.top() && part.width() > most.width())
+        return drawMirrored(painter, place, picture);
+    if (most.contains(part)) return drawWhole(painter, place, picture);
+    const QImage image = scaledFor(painter, place, picture);
+    paintSurroundings(painter, part, image);
+    paintContinued(painter, part, place, image);
+    painter.drawImage(place, image);
+}
+
+/// The room in \a pixels, which show \a part of it.
+QImage Room::Parts::composed(QSize pixels, const QRectF& part) const {
+    QImage image = cut(pixels, part);
+    if (!image.isNull()) return image;
+    image = QImage(pixels, QImage::Format_RGB32);
+    image.fill(colors::kNight);
+    QPainter inside(&image);
+    inside.setRenderHints(QPainter::SmoothPixmapTransform);
+    inside.scale(pixels.width() / part.width(), pixels.height() / part.height());
+    inside.translate(-part.topLeft());
+    compose(inside, part);
+    return image;
+}
+
+/// The same; what another thread composes is taken where it is this.
+QImage Room::Parts::ready(QSize pixels, const QRectF& part) {
+    QImage image = coming.valid() ? coming.get() : QImage();
+    return comingPart == part && image.size() == pixels ? image : composed(pixels, part);
 }
 
 Room::Room(Picture design, Picture wide) {
@@ -154,54 +201,43 @@ QRectF Room::widePlace(QSizeF picture) {
     return {(Stage::kWidth - width) / 2, 0, width, Stage::kHeight};
 }
 
+void Room::setDesign(Picture design) {
+    if (parts_)
+        parts_->design = std::move(design);
+    else
+        *this = Room(std::move(design));
+}
+
 void Room::compose(QPainter& painter, const QRectF& covered) const {
-    if (!parts_) return painter.fillRect(covered, colors::kNight);
-    if (parts_->covers) {
-        painter.save();
-        painter.setClipRect(covered, Qt::IntersectClip);
-        drawWhole(painter, Picture::fitted(parts_->design.size(), covered, Fit::Cover), parts_->design);
-        return painter.restore();
-    }
-    const bool useWide = parts_->usesWide(covered);
-    const Picture& picture = useWide ? parts_->wide : parts_->design;
-    const QRectF place = useWide ? widePlace(picture.size()) : designArea();
-    const QRectF most = place.adjusted(-kHair, -kHair, kHair, kHair);
-    if (useWide && most.top() <= covered.top() && covered.width() > most.width())
-        return drawMirrored(painter, place, picture);
-    if (most.contains(covered)) return drawWhole(painter, place, picture);
-    const QImage image = scaledFor(painter, place, picture);
-    paintSurroundings(painter, covered, image);
-    paintContinued(painter, covered, place, image);
-    painter.drawImage(place, image);
+    parts_ ? parts_->compose(painter, covered) : painter.fillRect(covered, colors::kNight);
 }
 
 void Room::forget() {
-    if (parts_) parts_->composed = {};
+    if (parts_) parts_->drawn = {};
 }
 
-QImage Room::composed(QSize pixels, const QRectF& covered) const {
-    QImage image = parts_->cut(pixels, covered);
-    if (!image.isNull()) return image;
-    image = QImage(pixels, QImage::Format_RGB32);
-    image.fill(colors::kNight);
-    QPainter inside(&image);
-    inside.setRenderHints(QPainter::SmoothPixmapTransform);
-    inside.scale(pixels.width() / covered.width(), pixels.height() / covered.height());
-    inside.translate(-covered.topLeft());
-    compose(inside, covered);
-    return image;
+void Room::prepare(QSize pixels, const QRectF& covered) const {
+    if (!parts_ || pixels.isEmpty()) return;
+    // The thread has pictures of its own: this room may be given another one meanwhile.
+    auto parts = std::make_shared<Parts>();
+    parts->design = parts_->design;
+    parts->wide = parts_->wide;
+    parts->covers = parts_->covers;
+    parts_->comingPart = covered;
+    parts_->coming =
+        std::async(std::launch::async, [parts, pixels, covered] { return parts->composed(pixels, covered); });
 }
 
 void Room::draw(QPainter& painter, const QRectF& covered) const {
     const QRect pixels = painter.combinedTransform().mapRect(covered).toAlignedRect();
     if (!parts_ || pixels.isEmpty()) return painter.fillRect(covered, colors::kNight);
-    if (parts_->composed.size() != pixels.size() || parts_->covered != covered) {
+    if (parts_->drawn.size() != pixels.size() || parts_->covered != covered) {
         parts_->covered = covered;
-        parts_->composed = QPixmap::fromImage(composed(pixels.size(), covered));
+        parts_->drawn = QPixmap::fromImage(parts_->ready(pixels.size(), covered));
     }
     painter.save();
     painter.setWorldTransform(QTransform());
-    painter.drawPixmap(painter.combinedTransform().inverted().mapRect(QRectF(pixels)), parts_->composed,
+    painter.drawPixmap(painter.combinedTransform().inverted().mapRect(QRectF(pixels)), parts_->drawn,
                        QRectF(QPointF(), pixels.size()));
     painter.restore();
 }

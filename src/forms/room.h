@@ -22,6 +22,9 @@ class Room {
     bool isNull() const { return !parts_; }
     /// The picture of the design area alone.
     Picture design() const;
+    /// Gives the room its design's picture where it was made before that was read. What is being composed of
+    /// the wide one stays.
+    void setDesign(Picture design);
 
     /// Draws the room into \a covered, which contains the design area (twips), and keeps what it has composed
     /// until it is drawn into another. An empty room is plain night.
@@ -30,12 +33,14 @@ class Room {
     void compose(QPainter& painter, const QRectF& covered) const;
     /// Lets go of what was composed: of a room that is not drawn again soon.
     void forget();
+    /// Composes the room on another thread for being drawn into \a covered, which takes \a pixels: while that
+    /// is done there is time for other things. Drawn before, it is waited for; drawn into another place, or
+    /// as other pictures, it is composed anew.
+    void prepare(QSize pixels, const QRectF& covered) const;
     /// Where a wide picture of this size lies, in twips.
     static QRectF widePlace(QSizeF picture);
 
   private:
-    QImage composed(QSize pixels, const QRectF& covered) const;
-
     struct Parts;
     std::shared_ptr<Parts> parts_;
 };

@@ -28,6 +28,11 @@ class Stage : public QWidget {
     double scale() const { return scale_; }
     /// Where the design's upper left corner lies, in pixels.
     QPointF designOrigin() const { return origin_; }
+    /// What the window shows, in twips.
+    QRectF covered() const { return {-origin_ / scale_, QSizeF(size()) / scale_}; }
+
+    /// Fits the design into the window: by itself when it is shown, called when that is wanted sooner.
+    void fit();
 
     /// All loaded forms, in the order in which they were loaded.
     std::vector<Form*> forms() const;
@@ -62,7 +67,6 @@ class Stage : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void fit();
     void raiseModal();
     void showToEyes();
     void watchInput(const QEvent& event);

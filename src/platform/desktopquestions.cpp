@@ -6,8 +6,9 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QFile>
 #include <utility>
+
+#include "platform/sessionbus.h"
 
 namespace sarne {
 namespace {
@@ -16,16 +17,10 @@ const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
-/// Asking for a bus that does not run would start programs, and wait for them.
-bool busRuns() {
-    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
-           QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
-}
-
 }  // namespace
 
 void askDesktop(QObject& receiver, const std::function<void(DesktopWishes)>& told) {
-    if (busRuns() && QDBusConnection::sessionBus().isConnected()) new DesktopQuestions(receiver, told);
+    if (sessionBusRuns() && QDBusConnection::sessionBus().isConnected()) new DesktopQuestions(receiver, told);
 }
 
 DesktopQuestions::DesktopQuestions(QObject& receiver, std::function<void(DesktopWishes)> told)

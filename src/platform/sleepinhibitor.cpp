@@ -5,18 +5,17 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QFile>
 #include <optional>
 #include <utility>
+
+#include "platform/sessionbus.h"
 
 namespace sarne {
 
 namespace {
 
-/// A bus that runs. Asking for one that does not would start programs, and wait for them.
 std::optional<QDBusConnection> sessionBus() {
-    const QString usual = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
-    if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") && !QFile::exists(usual)) return {};
+    if (!sessionBusRuns()) return {};
     const QDBusConnection bus = QDBusConnection::sessionBus();
     return bus.isConnected() ? std::optional(bus) : std::nullopt;
 }

@@ -43,6 +43,26 @@ TEST(Picture, KeepsItsProportions) {
     EXPECT_EQ(cover.pixelColor(50, 55), QColor(Qt::white));
 }
 
+TEST(Picture, EveryFormatOfADiscIsReadWhateverItsNameSays) {
+    QTemporaryDir folder;
+    for (const char* format : {"PNG", "JPEG", "BMP", "WEBP"}) {
+        const QByteArray bytes = encoded({40, 30}, format);
+        const QString file = folder.filePath(u"obraz.bmp"_s);
+        ASSERT_TRUE(test::write(file, bytes));
+        for (const Picture& picture : {Picture::fromData(bytes), Picture::fromFile(file)}) {
+            EXPECT_EQ(picture.size(), QSize(40, 30)) << format;
+            EXPECT_GT(picture.scaled({20, 15}).pixelColor(10, 7).red(), 240) << format;
+        }
+        EXPECT_TRUE(Picture::fromData(bytes.first(40)).image().isNull()) << format;
+    }
+    QImage glass = test::plain({4, 4}, Qt::red).convertToFormat(QImage::Format_ARGB32);
+    glass.setPixelColor(1, 2, QColor(10, 20, 30, 40));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    ASSERT_TRUE(buffer.open(QIODevice::WriteOnly) && glass.save(&buffer, "PNG"));
+    EXPECT_EQ(Picture::fromData(bytes).image(), glass);
+}
+
 TEST(Picture, DrawnExactlyKeepsItsPlaceWithinThePixels) {
     // Red up to column 4 of 10, then blue; the border lies in the middle of pixel 14.
     QImage halves = test::plain({10, 10}, Qt::blue);

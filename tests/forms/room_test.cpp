@@ -84,6 +84,19 @@ TEST_F(RoomTest, AWideGroundFillsTheDisplayAndItsMiddleIsTheDesignArea) {
     EXPECT_NEAR(form->all().width(), 16000, 1);
 }
 
+TEST_F(RoomTest, ComposedBeforehandItLooksTheSameWhereverItIsDrawn) {
+    const Picture design = Picture::fromImage(test::plain({160, 120}, Qt::blue));
+    const QRectF display(-2000, 0, 16000, 9000);
+    const QImage expected = shot(Room(design, Picture::fromImage(wideGround())), {1920, 1080});
+    for (const QSize& foreseen : {QSize(1920, 1080), QSize(960, 540)}) {
+        Room room({}, Picture::fromImage(wideGround()));
+        room.prepare(foreseen, display);
+        room.setDesign(design);
+        EXPECT_EQ(shot(room, {1920, 1080}), expected) << foreseen.width();
+        EXPECT_EQ(at(shot(room, {800, 600}), 0, 0), QColor(Qt::blue)) << "the design's picture came later";
+    }
+}
+
 TEST_F(RoomTest, AtTheDesignsOwnShapeTheDesignPictureIsDrawn) {
     const QImage image =
         shot(Room(Picture::fromImage(test::plain({160, 120}, Qt::blue)), Picture::fromImage(wideGround())),
