@@ -36,6 +36,8 @@ TEST_F(MessageTest, AnswersByMouseAndByKeyboard) {
     EXPECT_EQ(ask("?", 36, [&] { QTest::mouseClick(button(1), Qt::LeftButton); }), 7);
     EXPECT_EQ(ask("?", 36, [&] { QTest::mouseClick(button(0), Qt::LeftButton); }), 6);
     EXPECT_EQ(press(36, Qt::Key_Return), 6);
+    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
+    EXPECT_EQ(box->askOrLeave(u"?"_s, 36), 0) << "left without an answer; the next wants one again";
     EXPECT_EQ(press(36, Qt::Key_Escape), 7);
     EXPECT_EQ(press(36 + 256, Qt::Key_Return), 7) << "the default button has the focus";
     EXPECT_EQ(press(48, Qt::Key_Space), 6);

@@ -194,10 +194,16 @@ TEST_F(FocusRingTest, TheKeyboardIsShownAtADistanceAndOnlyToThoseWhoUseIt) {
     button.place({3000, 6000, 750, 450});
     const QRect thing = button.focusPlace().translated(3000, 6000);
     EXPECT_TRUE(frame.twips().contains(thing.adjusted(-75, -75, 75, 75))) << "it has moved along";
+    EXPECT_EQ(screen->children().last(), &frame) << "above what it surrounds";
     const QImage shot = screen->grab().toImage();
     const QColor beside = shot.pixelColor(screen->toPixels({thing.left() - 15, thing.center().y()}));
     EXPECT_EQ(beside, shot.pixelColor(shot.width() - 1, shot.height() - 1))
         << "ground between thing and ring";
+    QList<int> across;
+    for (int x = frame.x(); x < frame.x() + 5; ++x)
+        across << qGray(shot.pixel(x, frame.geometry().center().y()));
+    const auto [dark, light] = std::ranges::minmax(across);
+    EXPECT_TRUE(dark < 90 && light > 150) << dark << ' ' << light << ": on light and on dark ground alike";
     button.setEnabled(false);
     EXPECT_FALSE(frame.isVisible());
 }

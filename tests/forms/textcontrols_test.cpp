@@ -76,6 +76,8 @@ TEST_F(TextControls, LongTextsScrollByArrowsWheelAndKeys) {
     EXPECT_EQ(view.drawnText().count(u'\n'), 39);
     EXPECT_EQ(view.contentHeight(), view.currentY());
     ASSERT_TRUE(down->isVisible());
+    EXPECT_EQ(up->twips().top(), view.twips().top());
+    EXPECT_EQ(down->twips().bottom(), view.twips().bottom());
     EXPECT_FALSE(up->isEnabled());
     QTest::mouseClick(down, Qt::LeftButton);
     const int oneStep = view.scrolled();
