@@ -92,6 +92,7 @@ TEST_F(DialogTest, ATextIsTakenAsItIs) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     });
     EXPECT_EQ(askText(run, u"Zadejte pismeno"_s), u"e"_s);
+    EXPECT_EQ(run.window.forms().size(), 0u);
 }
 
 }  // namespace

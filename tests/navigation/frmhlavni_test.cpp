@@ -189,6 +189,15 @@ TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
     EXPECT_FALSE(moves()) << "another program has the keyboard";
 }
 
+TEST_F(MainScreenTest, TheLightGoesOutForWhoeverActs) {
+    start();
+    Timer* light = main->findChildren<Timer*>().at(1);
+    main->showThings();
+    EXPECT_TRUE(light->isEnabled());
+    press(Qt::Key_Right);
+    EXPECT_FALSE(light->isEnabled());
+}
+
 TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
     start();
     moveOver(2);

@@ -43,6 +43,8 @@ TEST(ButtonTable, ArrowsGoToTheNearestAndEveryButtonCanBeReached) {
 TEST(Ornaments, MoveRarelyAndRestBetween) {
     Ornaments ornaments;
     int resting = 0, moves[Ornaments::kThings] = {};
+    QImage paper(800, 600, QImage::Format_RGB32);
+    paper.fill(Qt::white);
     constexpr int kMinute = 60'000 / Ornaments::kInterval;
     for (int step = 0; step < kMinute; ++step) {
         bool any = false;
@@ -53,9 +55,20 @@ TEST(Ornaments, MoveRarelyAndRestBetween) {
         }
         EXPECT_EQ(ornaments.stepsUntilMove() == 0, any) << step;
         resting += !any;
+        if (any) {
+            QPainter painter(&paper);
+            painter.scale(1 / 15., 1 / 15.);
+            ornaments.paint(painter, [](QPainter& at) { at.fillRect(0, 0, 12000, 9000, Qt::red); });
+        }
         ornaments.step();
     }
-    for (const int moved : moves) {
+    for (int thing = 0; thing < Ornaments::kThings; ++thing) {
+        const QRectF place = Ornaments::place(Ornaments::Thing(thing));
+        const QImage seen = paper.copy(QRectF(place.topLeft() / 15, place.size() / 15).toRect());
+        QImage white = seen;
+        white.fill(Qt::white);
+        EXPECT_NE(seen, white) << thing << " is painted";
+        const int moved = moves[thing];
         EXPECT_GT(moved, 0);
         EXPECT_LT(moved, kMinute / 3) << "rests most of the time";
     }
