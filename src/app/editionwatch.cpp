@@ -12,13 +12,14 @@ constexpr qint64 kLongestMark = 64;
 struct Mark {
     int edition = 0;
     int recipe = 0;
+    int section = 0;
 };
 
 Mark readMark(const QString& name) {
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly)) return {};
     const QList<QByteArray> words = file.read(kLongestMark).simplified().split(' ');
-    return {words.value(0).toInt(), words.value(1).toInt()};
+    return {words.value(0).toInt(), words.value(1).toInt(), words.value(2).toInt()};
 }
 
 }  // namespace
@@ -35,7 +36,7 @@ EditionWatch::EditionWatch(QString mark, Show show) : mark_(std::move(mark)), sh
 void EditionWatch::look() {
     const Mark mark = readMark(mark_);
     if (mark.edition == 0 || mark.edition == edition_) return;
-    if (show_(static_cast<std::int16_t>(mark.recipe)))
+    if (show_(static_cast<std::int16_t>(mark.recipe), mark.section))
         edition_ = mark.edition;
     else
         again_.start(kAgain);

@@ -9,14 +9,14 @@
 namespace sarne {
 
 /// Tells when the book that the program shows was written anew while it runs. Whoever writes it leaves a
-/// mark: a file with two numbers, the edition's and that of the recipe to be shown (0 for none), put in its
-/// place in one piece. The session's setting "Rozepsano" names that file; a book that nobody is writing has
-/// none.
+/// mark: a file with three numbers, the edition's, that of the recipe to be shown (0 for none) and the place
+/// of the recipe's section, put in its place in one piece. The session's setting "Rozepsano" names that file;
+/// a book that nobody is writing has none.
 class EditionWatch final : public QObject {
     Q_OBJECT
   public:
     /// Shows the new edition; false when that is not possible now, and it is then asked again a little later.
-    using Show = std::function<bool(std::int16_t recipe)>;
+    using Show = std::function<bool(std::int16_t recipe, int section)>;
 
     /// Watches the file \a mark; nothing when it is empty.
     EditionWatch(QString mark, Show show);

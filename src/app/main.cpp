@@ -99,8 +99,9 @@ int main(int argc, char** argv) {
     int code = 0;
     if (program.Main(commandLine(application)) && !program.hasEnded()) {
         platform.prepareLater();
-        const EditionWatch watch(readAppPathValue(platform.settings, QStringLiteral("Rozepsano")),
-                                 [&](std::int16_t recipe) { return program.showEdition(recipe); });
+        const EditionWatch watch(
+            readAppPathValue(platform.settings, QStringLiteral("Rozepsano")),
+            [&](std::int16_t recipe, int section) { return program.showEdition(recipe, section); });
         code = QApplication::exec();
     }
     running = nullptr;

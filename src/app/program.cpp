@@ -116,14 +116,14 @@ void Program::openDatabase() {
     db_.keepInMemory(QStringLiteral("Menu"));
 }
 
-bool Program::showEdition(std::int16_t recipe) {
+bool Program::showEdition(std::int16_t recipe, int section) {
     if (Ending || !mainScreen() || FormStack.count() == 0 || stage_->modalForm()) return false;
     keepUnsaved();
     while (FormStack.count() > 1) PopScreen(*FormStack.top());
     screens_.returnToMain();
     db_.Close();
     openDatabase();
-    if (recipe > 0) screens_.showRecipe(recipe);
+    if (recipe > 0) screens_.showRecipeAt(recipe, section);
     return true;
 }
 

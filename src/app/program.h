@@ -38,9 +38,9 @@ class Program final : public QObject, public basSarne {
     void endAtOnce();
 
     /// Shows the book as it was written anew in the place of the old one: keeps what was typed, closes all
-    /// screens but the main one, opens the new file and \a recipe, if it is not 0. False while a question
-    /// waits for its answer or the main screen is not there yet.
-    bool showEdition(std::int16_t recipe);
+    /// screens but the main one, opens the new file and \a recipe at \a section, if it is not 0. False while
+    /// a question waits for its answer or the main screen is not there yet.
+    bool showEdition(std::int16_t recipe, int section);
 
     /// What this run goes without at the moment.
     Condition condition();

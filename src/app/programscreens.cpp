@@ -56,10 +56,12 @@ void ProgramScreens::returnToHelpList() {
     while (program_.FormStack.top() != helpList_) program_.PopScreen(*program_.FormStack.top());
 }
 
-void ProgramScreens::showRecipe(std::int16_t id) {
+void ProgramScreens::showRecipeAt(std::int16_t id, int section) {
     const auto askPortions = [this](const QString& prompt) { return askNumber(program_, prompt); };
     kitchen_.opened(id);
-    (new frmRecept(program_, lookedAt_, askPortions))->Zobraz(id);
+    auto* screen = new frmRecept(program_, lookedAt_, askPortions);
+    screen->Zobraz(id);
+    if (section > 0) screen->openSection(section);
 }
 
 void ProgramScreens::showGrid() {

@@ -21,7 +21,9 @@ class ProgramScreens final : public Screens {
     frmHlavni* mainScreen() const { return main_; }
 
     void showList(const QString& ids, const QString& source, const QString& subject) override;
-    void showRecipe(std::int16_t id) override;
+    void showRecipe(std::int16_t id) override { showRecipeAt(id, 0); }
+    /// Shows a recipe at one of its sections, by its place in their table.
+    void showRecipeAt(std::int16_t id, int section);
     void showGrid() override;
     void showPhotos(const PhotoRequest& request) override;
     void showVideo(std::int16_t number) override;

@@ -12,6 +12,7 @@
 #include "screens/navigation/frmhlavni.h"
 #include "screens/navigation/frmmenu.h"
 #include "screens/navigation/sweep.h"
+#include "screens/recipe/frmrecept.h"
 #include "support/fakeplatform.h"
 #include "support/fakesarne.h"
 #include "support/files.h"
@@ -67,16 +68,18 @@ TEST_F(ProgramTest, StartsWithItsFoldersAndSettings) {
 
 TEST_F(ProgramTest, FollowsABookThatIsWrittenWhileItRuns) {
     ASSERT_TRUE(program->Main({}));
-    const EditionWatch watch(path("data/znacka"), [&](std::int16_t id) { return program->showEdition(id); });
+    const EditionWatch watch(path("data/znacka"),
+                             [&](std::int16_t id, int section) { return program->showEdition(id, section); });
     program->screens().showMusicSettings();
     EXPECT_NE(program->FormStack.top(), program->mainScreen());
-    test::writeRecipeDatabase(path("data/nova.drc"), {u"INSERT INTO Suroviny VALUES (1,'kapr'),(2,'lín')"_s});
+    test::writeRecipeDatabase(path("data/nova.drc"),
+                              {u"INSERT INTO Recepty (ID, Nazev) VALUES (7, 'Kapr')"_s});
     QFile::remove(path("program/Sarne.drc"));
     ASSERT_TRUE(QFile::rename(path("data/nova.drc"), path("program/Sarne.drc")));
-    ASSERT_TRUE(test::write(path("data/znacka"), "1 0\n"));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return program->Db().OpenTable(u"Suroviny"_s).RecordCount() == 2; }, 5000));
-    EXPECT_EQ(program->FormStack.top(), program->mainScreen());
+    ASSERT_TRUE(test::write(path("data/znacka"), "1 7 5\n"));
+    const auto shown = [&] { return qobject_cast<frmRecept*>(program->FormStack.top()); };
+    ASSERT_TRUE(QTest::qWaitFor(shown, 5000));
+    EXPECT_EQ(shown()->section(), 5);
 }
 
 TEST_F(ProgramTest, TheShowSwitchIsTheWholeCommandLine) {

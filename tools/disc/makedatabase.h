@@ -4,6 +4,9 @@
 
 namespace sarne::disc {
 
+/// What the recipe database is made from: all texts.
+QString databaseOrigin(const ContentFolder& folder);
+
 /// Proofreads the cookbook and writes the recipe database.
 void makeDatabase(Workshop& shop, const ContentFolder& folder);
 

@@ -32,7 +32,12 @@ QStringList stemsOf(const QString& name) {
 }
 
 QString wordsOf(const QString& text) {
-    return foldedWords(text);
+    // The same names and sentences are looked into again and again, while an author writes for hours.
+    constexpr qsizetype kMost = 20'000;
+    thread_local QHash<QString, QString> known;
+    if (const auto found = known.constFind(text); found != known.cend()) return *found;
+    if (known.size() >= kMost) known.clear();
+    return *known.insert(text, foldedWords(text));
 }
 
 bool hasStem(const QString& words, const QString& stem) {

@@ -170,7 +170,7 @@ void frmRecept::playName() {
 }
 
 void frmRecept::openSection(int section) {
-    if (!current().leave()) return;
+    if (section < 0 || section >= static_cast<int>(sections_.size()) || !current().leave()) return;
     section_ = section;
     showSection();
     if (!QAccessible::isActive()) return;

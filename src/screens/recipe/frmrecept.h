@@ -29,6 +29,8 @@ class frmRecept : public Form {
 
     /// The section that is shown, by its place in the table.
     int section() const { return section_; }
+    /// Shows another section, unless the user wants to stay; nothing where the table has none at that place.
+    void openSection(int section);
     /// Everything there is to read about the recipe, as plain text with lines ended by "\r\n": the list of
     /// ingredients as it is recalculated now, the texts, the own note, tools and links.
     QString collectedText();
@@ -54,7 +56,6 @@ class frmRecept : public Form {
     void showTitle();
     void playName();
     RecipeSection& current() const { return *sections_[size_t(section_)]; }
-    void openSection(int section);
     void showSection();
     void print();
     void showStars();

@@ -92,15 +92,35 @@ void buildDisc(const Project& project, const QString& only, Problems& problems, 
     if (sizeOf(shop.disc) > kDiscLimit) problems.error({shop.disc, 0}, QStringLiteral("disk má přes 650 MB"));
 }
 
-void buildQuickly(const Project& project, Part part, Problems& problems) {
-    const ContentFolder folder(project.content, problems);
-    const Cookbook book = loadCookbook(folder, problems);
-    Ledger ledger(project.out + QStringLiteral("/.made"));
-    Workshop shop = workshop(project, book, ledger, problems);
-    drawArtIfNeeded(shop);
-    if (!problems.hasErrors()) makeDatabase(shop, folder);
-    if (!problems.hasErrors() && part == Part::pictures) makePhotos(shop);
-    ledger.save();
+QuickBuild::QuickBuild(const Project& project, Problems& problems)
+    : problems_(problems),
+      folder_(project.content, problems),
+      book_(loadCookbook(folder_, problems)),
+      ledger_(project.out + QStringLiteral("/.made")),
+      shop_(workshop(project, book_, ledger_, problems)) {}
+
+void QuickBuild::makeTexts() {
+    const QString file = shop_.program + QStringLiteral("/Sarne.drc");
+    // The ledger is not told: what has not been proofread is made again when the disc is built.
+    if (!problems_.hasErrors()) writeRecipeDatabase(book_, file, problems_, databaseOrigin(folder_));
+}
+
+bool QuickBuild::makePictures() {
+    struct Count final : Progress {
+        void made(const QString&, qsizetype, qsizetype, const QString&) override { ++files; }
+        int files = 0;
+    } count;
+    if (problems_.hasErrors()) return false;
+    shop_.progress = &count;
+    drawArtIfNeeded(shop_);
+    makePhotos(shop_);
+    shop_.progress = nullptr;
+    ledger_.save();
+    return count.files > 0;
+}
+
+void QuickBuild::proofread() {
+    disc::proofread(folder_, book_, problems_);
 }
 
 void checkDisc(const Project& project, Problems& problems) {

@@ -15,11 +15,25 @@ qint64 sizeOf(const QString& folder);
 /// null.
 void buildDisc(const Project& project, const QString& only, Problems& problems, Progress* progress);
 
-/// What of a disc is made anew while its author writes.
-enum class Part { texts, pictures };
+/// What of a disc is made anew while its author writes, in the order in which he waits for it; what sounds or
+/// moves stays as it is. What is wrong goes to \a problems.
+class QuickBuild {
+  public:
+    QuickBuild(const Project& project, Problems& problems);
 
-/// The recipe database, proofread, and with \a part the pictures; what sounds or moves stays as it is.
-void buildQuickly(const Project& project, Part part, Problems& problems);
+    /// The recipe database, not proofread; nothing where the texts have mistakes.
+    void makeTexts();
+    /// The pictures; true when one of them was made anew.
+    bool makePictures();
+    void proofread();
+
+  private:
+    Problems& problems_;
+    ContentFolder folder_;
+    Cookbook book_;
+    Ledger ledger_;
+    Workshop shop_;
+};
 
 /// Reports everything that is wrong in the texts, and what pictures and recordings lack, at once.
 void checkDisc(const Project& project, Problems& problems);

@@ -6,7 +6,9 @@
 #include <QProcess>
 #include <QSaveFile>
 #include <QTimer>
+#include <algorithm>
 #include <filesystem>
+#include <utility>
 
 #include "../ownfiles.h"
 #include "build.h"
@@ -43,11 +45,29 @@ QStringList changes(const Snapshot& before, const Snapshot& now) {
     return changed;
 }
 
+bool isOfRecipe(const QString& file) {
+    return QFileInfo(file).dir().dirName() == u"recepty";
+}
+
 /// The recipe whose file, photo or recording is among \a files; 0 when it is none.
 int recipeOf(const QStringList& files) {
     for (const QString& file : files)
-        if (QFileInfo(file).dir().dirName() == u"recepty")
+        if (isOfRecipe(file))
             return QFileInfo(file).fileName().section(u'-', 0, 0).section(u'.', 0, 0).toInt();
+    return 0;
+}
+
+/// Where the program shows what a line of a recipe's file says, by the place of its section: photo, method,
+/// introduction, auxiliary recipes, wine, ingredients, tools.
+constexpr std::pair<const char*, int> kSections[] = {
+    {"== Postup", 1},   {"== Úvod", 2},    {"== Jak podávat", 2}, {"== Poznámka", 2}, {"== Víno", 4},
+    {"== Suroviny", 5}, {"porce:", 1},     {"příprava:", 1},      {"vaření:", 1},     {"minut:", 1},
+    {"předem:", 1},     {"obtížnost:", 1}, {"kosti:", 2},         {"mrazit:", 2},     {"vydrží:", 2},
+    {"sezona:", 2},     {"odkazy:", 3},    {"vína:", 4},          {"pomůcky:", 6}};
+
+int sectionOfLine(const QString& line) {
+    for (const auto& [begin, section] : kSections)
+        if (line.startsWith(QString::fromUtf8(begin))) return section;
     return 0;
 }
 
@@ -65,6 +85,11 @@ bool putProgram(const QString& from, const QString& to) {
     return !failed || QFile::copy(from, to);
 }
 
+QString textIn(const QString& name) {
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 /// Watches the texts, writes the book anew and lets the running program show it.
 class Showing {
   public:
@@ -72,6 +97,7 @@ class Showing {
         : project_(project),
           mark_(project.out + QStringLiteral("/ukazka/znacka")),
           seen_(lookAt(project.content)) {
+        for (const QString& file : seen_.keys()) changedSection(file);
         together_.setSingleShot(true);
         together_.setInterval(kTogether);
         QObject::connect(&together_, &QTimer::timeout, &together_, [this] { renew(); });
@@ -133,23 +159,52 @@ class Showing {
         watch();
         if (changed.isEmpty()) return;
         Problems problems;
-        // A plate without a photo bears the recipe's name.
-        const bool isSeen = std::any_of(changed.cbegin(), changed.cend(), [](const QString& file) {
-            return isOwnFile(file) || QFileInfo(file).dir().dirName() == u"recepty";
-        });
-        buildQuickly(project_, isSeen ? Part::pictures : Part::texts, problems);
+        QuickBuild quick(project_, problems);
+        quick.makeTexts();
+        const bool isPicture = std::ranges::any_of(changed, isOwnFile);
+        if (isPicture) quick.makePictures();
         const QString name = QDir(project_.content).relativeFilePath(changed.first());
-        if (problems.hasErrors()) {
-            tellProblems(project_.content, problems);
-            return say(QStringLiteral("%1: s chybou se neukáže, opravte ji a uložte znovu").arg(name));
+        const QString place = placeOf(changed);
+        if (!problems.hasErrors()) {
+            show(place);
+            say(QStringLiteral("%1: ukázáno za %2").arg(name, durationText(since.elapsed() + kTogether)));
+            // What can wait: a plate without a photo bears the recipe's name, and a photo may be cut anew.
+            if (!isPicture && quick.makePictures()) show(place);
+            quick.proofread();
         }
-        write(mark_, QStringLiteral("%1 %2\n").arg(++edition_).arg(recipeOf(changed)));
-        say(QStringLiteral("%1: ukázáno za %2").arg(name, durationText(since.elapsed() + kTogether)));
+        if (tellNew(problems))
+            say(QStringLiteral("%1: s chybou se neukáže, opravte ji a uložte znovu").arg(name));
+    }
+
+    void show(const QString& place) { write(mark_, QStringLiteral("%1 %2\n").arg(++edition_).arg(place)); }
+
+    /// The recipe that \a files are about and the section to show, as the mark names them.
+    QString placeOf(const QStringList& files) {
+        int section = 0;
+        for (const QString& file : files) section = std::max(section, changedSection(file));
+        return QStringLiteral("%1 %2").arg(recipeOf(files)).arg(section);
+    }
+
+    /// In which section the first difference of a recipe's text from what it was is seen.
+    int changedSection(const QString& file) {
+        if (!isOfRecipe(file) || isOwnFile(file)) return 0;
+        const QStringList now = textIn(file).split(u'\n');
+        const QStringList before = std::exchange(texts_[file], now);
+        auto line = std::ranges::mismatch(now, before).in1;
+        if (line == now.end()) return 0;
+        for (int section = sectionOfLine(*line);; section = sectionOfLine(*--line))
+            if (section > 0 || line == now.begin()) return section;
+    }
+
+    /// Tells of mistakes; whether there are any.
+    bool tellNew(const Problems& problems) const {
+        return problems.hasErrors() && tellProblems(project_.content, problems) > 0;
     }
 
     Project project_;
     QString mark_;
     Snapshot seen_;
+    QHash<QString, QStringList> texts_;  ///< the recipes' lines as they were seen last
     int edition_ = 0;
     QFileSystemWatcher watcher_;
     QTimer together_;
