@@ -63,6 +63,8 @@ foreach(line IN LISTS changes)
                "    <release version=\"${CMAKE_MATCH_1}\" date=\"${CMAKE_MATCH_2}\" type=\"stable\"><description><ul>\n")
     elseif(SARNE_RELEASE_NOTES AND line MATCHES "^- (.*)")  # what is not released yet stands before the first
         string(APPEND SARNE_RELEASE_NOTES "      <li>${CMAKE_MATCH_1}</li>\n")
+    elseif(SARNE_RELEASE_NOTES AND line MATCHES "^  (.*)")  # the line before goes on
+        string(REGEX REPLACE "</li>\n$" " ${CMAKE_MATCH_1}</li>\n" SARNE_RELEASE_NOTES "${SARNE_RELEASE_NOTES}")
     endif()
 endforeach()
 string(APPEND SARNE_RELEASE_NOTES "    </ul></description></release>\n")
