@@ -1,8 +1,12 @@
 #include "build.h"
 
+#include <sys/stat.h>
+
 #include <QDirIterator>
 #include <QTemporaryDir>
 #include <functional>
+#include <set>
+#include <utility>
 
 #include "../drawnart.h"
 #include "../loadcookbook.h"
@@ -58,9 +62,11 @@ void checkMarks(const QString& content, const ContentFolder& folder, Problems& p
 
 qint64 sizeOf(const QString& folder) {
     qint64 total = 0;
+    std::set<std::pair<quint64, quint64>> counted;
     for (QDirIterator walk(folder, QDir::Files, QDirIterator::Subdirectories); walk.hasNext();) {
-        walk.next();
-        total += walk.fileInfo().size();
+        struct stat file {};
+        if (stat(QFile::encodeName(walk.next()).constData(), &file) != 0) continue;
+        if (counted.emplace(file.st_dev, file.st_ino).second) total += file.st_size;
     }
     return total;
 }

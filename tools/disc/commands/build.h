@@ -7,7 +7,7 @@ namespace sarne::disc {
 /// What a compact disc holds, in bytes.
 constexpr qint64 kDiscLimit = 650'000'000;
 
-/// Bytes of all files below \a folder.
+/// Bytes of all files below \a folder; one with two names, as the largest photos have, counts once.
 qint64 sizeOf(const QString& folder);
 
 /// Builds the disc of \a project, or of it only the film \a only ("6", "uvod"): what changed since the last

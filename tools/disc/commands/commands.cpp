@@ -63,7 +63,7 @@ void addProjectOptions(QCommandLineParser& parser) {
 }
 
 bool parseLine(QCommandLineParser& parser, const char* command, const QStringList& arguments, int& code) {
-    parser.addHelpOption();
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("vypíše tuto nápovědu")});
     const QStringList line = QStringList{QStringLiteral("sarne-disc ") + QLatin1String(command)} + arguments;
     code = 0;
     if (!parser.parse(line)) {
@@ -74,6 +74,12 @@ bool parseLine(QCommandLineParser& parser, const char* command, const QStringLis
     if (!parser.isSet(QStringLiteral("help"))) return true;
     QString text = parser.helpText();
     text.replace(QCoreApplication::applicationFilePath(), line.first());
+    // The toolkit's own words, of which a system may have no translation.
+    for (const auto& [foreign, ours] : {std::pair("Usage:", "Použití:"),
+                                        {"[options]", "[volby]"},
+                                        {"\nOptions:", "\nVolby:"},
+                                        {"\nArguments:", "\nCo se píše za příkaz:"}})
+        text.replace(QLatin1String(foreign), QString::fromUtf8(ours));
     std::fputs(qUtf8Printable(text), stdout);
     return false;
 }

@@ -7,6 +7,8 @@ namespace sarne::disc {
 namespace {
 
 const QString kBeginning = QStringLiteral(":/sarne-disc/novy/");
+/// How to write a book of one's own; it stands beside the texts.
+const QString kGuide = QStringLiteral("NAVOD.txt");
 /// What the voice that reads the names needs.
 constexpr const char* kVoice[] = {"zvuky/melodie.scm", "zvuky/vyslovnost.txt"};
 
@@ -20,7 +22,10 @@ bool copyBeginning(const QString& content) {
     bool isCopied = QFileInfo::exists(kBeginning + QStringLiteral("kniha.txt"));
     for (QDirIterator walk(kBeginning, QDir::Files, QDirIterator::Subdirectories); walk.hasNext();) {
         const QString file = walk.next();
-        isCopied = copyOut(file, content + u'/' + file.mid(kBeginning.size())) && isCopied;
+        const QString name = file.mid(kBeginning.size());
+        const bool isGuide = name == kGuide;
+        isCopied = copyOut(file, content + (isGuide ? QStringLiteral("/../") : QStringLiteral("/")) + name) &&
+                   isCopied;
     }
     for (const char* file : kVoice)
         isCopied = copyOut(QStringLiteral(":/sarne-disc/") + QLatin1String(file),
@@ -52,13 +57,14 @@ int createDisc(const QStringList& arguments) {
         complain(QStringLiteral("Do složky %1 nejde psát.").arg(folder.path()));
         return 1;
     }
-    say(QStringLiteral(
-            "Kuchařka je v %1. Texty jsou v content/, fotografie patří vedle receptu (01-smazenice.jpg).\n\n"
-            "Dál:  cd %1\n"
-            "      sarne-disc zkontroluj\n"
-            "      sarne-disc sestav\n"
-            "      sarne-disc ukaz\n"
-            "      sarne-disc recept")
+    say(QStringLiteral("Kuchařka je v %1. Jak se píše, říká NAVOD.txt; texty jsou v content/, fotografie "
+                       "patří vedle receptu "
+                       "(01-smazenice.jpg).\n\n"
+                       "Dál:  cd %1\n"
+                       "      sarne-disc zkontroluj\n"
+                       "      sarne-disc sestav\n"
+                       "      sarne-disc ukaz\n"
+                       "      sarne-disc recept")
             .arg(folder.path()));
     return 0;
 }

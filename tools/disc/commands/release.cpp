@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <QCommandLineParser>
 #include <QCryptographicHash>
 #include <QDirIterator>
@@ -5,6 +7,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <filesystem>
+#include <map>
 
 #include "build.h"
 #include "commands.h"
@@ -40,12 +43,24 @@ QStringList filesIn(const QDir& folder) {
     return files;
 }
 
+/// Copies what is below \a from; a file that has two names there has them here, too.
 bool copyTree(const QString& from, const QString& to) {
+    namespace fs = std::filesystem;
     std::error_code failed;
-    std::filesystem::create_directories(to.toStdString(), failed);
-    std::filesystem::copy(
-        from.toStdString(), to.toStdString(),
-        std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing, failed);
+    fs::create_directories(to.toStdString(), failed);
+    std::map<ino_t, fs::path> copied;
+    for (const fs::directory_entry& one : fs::recursive_directory_iterator(from.toStdString(), failed)) {
+        const fs::path target = to.toStdString() / fs::relative(one.path(), from.toStdString());
+        struct stat file {};
+        if (stat(one.path().c_str(), &file) != 0) return false;
+        if (const auto [first, isNew] = copied.emplace(file.st_ino, target); one.is_directory())
+            fs::create_directories(target, failed);
+        else if (isNew)
+            fs::copy_file(one.path(), target, fs::copy_options::overwrite_existing, failed);
+        else
+            fs::create_hard_link(first->second, target, failed);
+        if (failed) return false;
+    }
     return !failed;
 }
 
@@ -71,15 +86,15 @@ bool fillFolder(const Project& project, const QString& target) {
     return list.open(QIODevice::WriteOnly) && list.write(text) == text.size();
 }
 
-/// An image that every system reads: Rock Ridge and Joliet names.
+/// An image that every system reads: Rock Ridge and Joliet names; what has two names stands in it once.
 bool writeImage(const QString& folder, const QString& image, const QString& name) {
     QFile::remove(image);
     QProcess writer;
-    writer.start(
-        QStringLiteral("xorriso"),
-        {QStringLiteral("-report_about"), QStringLiteral("WARNING"), QStringLiteral("-as"),
-         QStringLiteral("mkisofs"), QStringLiteral("-quiet"), QStringLiteral("-r"), QStringLiteral("-J"),
-         QStringLiteral("-joliet-long"), QStringLiteral("-V"), name, QStringLiteral("-o"), image, folder});
+    writer.start(QStringLiteral("xorriso"),
+                 {QStringLiteral("-report_about"), QStringLiteral("WARNING"), QStringLiteral("-as"),
+                  QStringLiteral("mkisofs"), QStringLiteral("-quiet"), QStringLiteral("--hardlinks"),
+                  QStringLiteral("-r"), QStringLiteral("-J"), QStringLiteral("-joliet-long"),
+                  QStringLiteral("-V"), name, QStringLiteral("-o"), image, folder});
     const bool isWritten = writer.waitForFinished(kTimeout) && writer.exitStatus() == QProcess::NormalExit &&
                            writer.exitCode() == 0;
     if (!isWritten) complain(QString::fromLocal8Bit(writer.readAllStandardError()).trimmed());
