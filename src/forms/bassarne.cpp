@@ -19,8 +19,11 @@ Q_LOGGING_CATEGORY(lackingMedia, "sarne.media", QtFatalMsg)
 
 Picture basSarne::mediaPicture(const QString& relative) const {
     const QString file = mediaFile(relative);
-    if (file.isEmpty()) qCWarning(lackingMedia).noquote() << "no picture at" << relative;
-    return Picture::fromFile(file);
+    const Picture picture = Picture::fromFile(file);
+    if (picture.isNull())
+        qCWarning(lackingMedia).noquote()
+            << (file.isEmpty() ? "no picture at" : "nothing reads the picture at") << relative;
+    return picture;
 }
 
 void basSarne::PlayEffect(int n) {
