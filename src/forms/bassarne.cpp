@@ -19,7 +19,7 @@ Q_LOGGING_CATEGORY(lackingMedia, "sarne.media", QtFatalMsg)
 
 Picture basSarne::mediaPicture(const QString& relative) const {
     const QString file = mediaFile(relative);
-    const Picture picture = Picture::fromFile(file);
+    Picture picture = Picture::fromFile(file);
     if (picture.isNull())
         qCWarning(lackingMedia).noquote()
             << (file.isEmpty() ? "no picture at" : "nothing reads the picture at") << relative;
