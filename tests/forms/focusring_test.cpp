@@ -201,6 +201,7 @@ TEST_F(FocusRingTest, TheKeyboardIsShownAtADistanceAndOnlyToThoseWhoUseIt) {
         << "ground between thing and ring";
     const int middle = frame.geometry().center().y();
     EXPECT_NE(shot.pixelColor(frame.x(), middle), beside) << "dark at its edge, for light grounds";
+    EXPECT_GT(qGray(shot.pixel(frame.x() + 2, middle)), 120) << "light in its middle";
     button.setEnabled(false);
     EXPECT_FALSE(frame.isVisible());
 }
