@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The pictures of the galleries: blender -b -P art/sponzor.py -- NUMBER … [width height samples]
+"""The pictures of the galleries: blender -b -P art/sponzor.py -- NUMBER … [width height samples | siroke]
 
 1 the things on the table that tell about the cookbook, 9 the fish of our waters, 13 how pictures, voices and music are
-made. Beside each picture a text is left with the place of each thing in thousandths of the picture ("x y width height
+made; "siroke" renders the sides of the pictures that are there, for wide displays. Beside each picture a text is left with the place of each thing in thousandths of the picture ("x y width height
 name"), from which content/sponzor.txt takes its click areas. Title and bar of the screen cover the top 9 and the bottom
 11 hundredths.
 """
@@ -16,7 +16,7 @@ from mathutils import Vector  # noqa: E402
 
 from kitchen import tablethings  # noqa: E402
 import prvky  # noqa: E402
-from lib import core, dishfile, fish as fishlib, food, table  # noqa: E402
+from lib import core, dishfile, fish as fishlib, food, table, wide  # noqa: E402
 from lib.core import group, put  # noqa: E402
 
 OUT = os.path.join(core.RENDERED, "sponzor")
@@ -113,7 +113,16 @@ def make(number, width, height, samples):
     core.render(os.path.join(OUT, f"{number}.jpg"), width, height, samples)
 
 
-def main(numbers):
+def sides(number):
+    core.start(number)
+    SCENES[number]()
+    wide.render(os.path.join(OUT, f"{number}.jpg"), 6, str(os.path.getmtime(__file__)), 720)
+
+
+def main(words):
+    if "siroke" in words:
+        return [sides(int(n)) for n in words if n != "siroke"]
+    numbers = [int(n) for n in words]
     size = numbers[-3:] if len(numbers) > 3 else [1600, 1200, 40]
     for number in numbers[:-3] or numbers or SCENES:
         try:
@@ -124,4 +133,4 @@ def main(numbers):
 
 
 if __name__ == "__main__":
-    main([int(a) for a in core.arguments()])
+    main(core.arguments())

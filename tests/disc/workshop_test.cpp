@@ -107,11 +107,16 @@ class PhotosTest : public WorkshopTest {
                    path("disc"), path("scratch"), ledger_,     problems_};
 };
 
-TEST_F(PhotosTest, ThingsOfTheFilmsStandBesideKeywordsAsTheyAre) {
+TEST_F(PhotosTest, ThingsOfTheFilmsAndWideGalleriesAreTakenAsTheyAre) {
     draw("art/rendered/film/kapr.webp", Qt::red, {1600, 1200});
+    for (const char* file : {"art/rendered/sponzor/4.jpg", "art/rendered/sponzor/4-siroke.jpg"})
+        draw(file, Qt::red, {336, 144});
+    for (const int id : {4, 5}) book_.gallery.emplace_back().id = id;
     book_.keywordPictures << KeywordPicture{{}, {}, u"kapr"_s, {}, 0};
     makePhotos(shop_);
     EXPECT_EQ(QImage(path("disc/foto/hesla/kapr.webp")).size(), QSize(1600, 1200));
+    EXPECT_EQ(QImage(path("disc/foto/sponzor/4-siroke.jpg")).size(), QSize(336, 144));
+    EXPECT_FALSE(QFile::exists(path("disc/foto/sponzor/5-siroke.jpg")));
     book_.keywordPictures << KeywordPicture{{u"obrazky.txt"_s, 3}, {}, u"kaprik"_s, {}, 0};
     makePhotos(shop_);
     EXPECT_TRUE(problems_.errors().contains(

@@ -238,6 +238,18 @@ Task pictureTask(const Workshop& shop, const QString& from, const QString& name,
             }};
 }
 
+/// The picture that goes on around the one in \a from, kept beside it as "NAME-siroke.jpg", as it is; no task
+/// where there is none.
+QList<Task> wideTasks(const Workshop& shop, const QString& from, const QString& target) {
+    const QString wide = from.section(u'.', 0, -2) + QStringLiteral("-siroke.jpg");
+    const QString to = shop.disc + u'/' + target + QStringLiteral("-siroke.jpg");
+    if (from.isEmpty() || !QFile::exists(wide)) return {};
+    return {{{to}, originOf({wide}, stamp::photos()), [=] {
+                 QFile::remove(to);
+                 return QFile::copy(wide, to);
+             }}};
+}
+
 /// The films' things that stand beside keywords: as they are, so that the paper shows around them.
 QList<Task> thingTasks(Workshop& shop) {
     const QDir things(shop.art + QStringLiteral("/rendered/film"));
@@ -336,9 +348,11 @@ void makePhotos(Workshop& shop) {
     for (const Dish& dish : dishes) tasks << dish.task();
     tasks << pictureTask(shop, ofWines(shop), QStringLiteral("Víno"), QStringLiteral("foto/vino256"),
                          {400, 300});
-    for (const GalleryPicture& picture : shop.book.gallery)
-        tasks << pictureTask(shop, ofGallery(shop, picture), picture.name,
-                             QStringLiteral("foto/sponzor/%1").arg(picture.id), kScreenSize);
+    for (const GalleryPicture& picture : shop.book.gallery) {
+        const QString from = ofGallery(shop, picture);
+        const QString target = QStringLiteral("foto/sponzor/%1").arg(picture.id);
+        tasks << pictureTask(shop, from, picture.name, target, kScreenSize) << wideTasks(shop, from, target);
+    }
     tasks << thingTasks(shop);
     if (shop.makeAll(tasks)) shop.makeAll(gridTasks(shop, dishes));
 }

@@ -137,7 +137,9 @@ void frmSponzor::showPicture(int index) {
     const int count = static_cast<int>(pictures_.size());
     at_ = (index + count) % count;
     closeCard();
-    room_ = Room(app().mediaPicture(QStringLiteral("foto\\sponzor\\%1.bmp").arg(current().number)));
+    const QString file = QStringLiteral("foto\\sponzor\\%1").arg(current().number);
+    room_ = Room(app().mediaPicture(file + QStringLiteral(".bmp")),
+                 Picture::fromFile(app().mediaFile(file + QStringLiteral("-siroke.jpg"))));
     setTitle(current().title);
     showHint();
     position_.setText(count > 1 ? QStringLiteral("%1 z %2").arg(at_ + 1).arg(count) : QString());
