@@ -6,7 +6,7 @@ namespace sarne {
 
 QString PrintMaterial::documentName(const QString& first) const {
     if (count() <= 1) return first;
-    return (isText() ? Texts::tr("Texty z kuchařky (%1)") : Texts::tr("Rybí recepty (%1)")).arg(count());
+    return (isText() ? Texts::tr("Texty z kuchařky (%1)") : Texts::tr("Recepty (%1)")).arg(count());
 }
 
 }  // namespace sarne

@@ -27,7 +27,7 @@ TEST_F(FrmPrintTest, OpensWithWhatTheUserLastLookedAt) {
     }
     EXPECT_EQ(names.removeDuplicates(), 0);
     EXPECT_TRUE(control<Label>("lblTiskarna")->text().contains(u"A4"_s));
-    EXPECT_TRUE(control<Label>("lblTiskarna")->toolTip().endsWith(file("Rybí recepty (2).pdf")));
+    EXPECT_TRUE(control<Label>("lblTiskarna")->toolTip().endsWith(file("Recepty (2).pdf")));
     EXPECT_FALSE(control("cmdPrerus")->isVisible() || control("prgRecept")->isVisible());
     control("Command2")->click();
     open({1});
@@ -116,7 +116,7 @@ TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
     EXPECT_TRUE(control("Command1")->isEnabled() && control("Frame1")->isEnabled());
     EXPECT_FALSE(control("cmdPrerus")->isVisible());
     EXPECT_EQ(run.awake, (QStringList{u"Tisk"_s, QString()}));
-    EXPECT_TRUE(outcome().endsWith(file("Rybí recepty (2).pdf"))) << outcome().toStdString();
+    EXPECT_TRUE(outcome().endsWith(file("Recepty (2).pdf"))) << outcome().toStdString();
 }
 
 TEST_F(FrmPrintTest, PrintsASecondSelectionAtOnceUntilItIsClosed) {
@@ -201,7 +201,7 @@ TEST_F(FrmPrintTest, AFullDiskLeavesNoHalfAFile) {
     EXPECT_TRUE(outcome().startsWith(u"Tisk se nezdařil"_s)) << outcome().toStdString();
     EXPECT_TRUE(QDir(book.folder.filePath(u"Dokumenty"_s)).isEmpty()) << QFileInfo(file("Candát.pdf")).size();
     control("Command1")->click();
-    EXPECT_TRUE(outcome().endsWith(file("Rybí recepty (2).pdf"))) << "and then there is room again";
+    EXPECT_TRUE(outcome().endsWith(file("Recepty (2).pdf"))) << "and then there is room again";
     std::signal(SIGXFSZ, handler);
 }
 
@@ -231,7 +231,7 @@ TEST_F(FrmPrintTest, ChoosesPrinterAndPaperAndRemembersThem) {
         QTimer::singleShot(0, below, [&, button, folder] {
             auto* dialog = loaded("frmTiskarna");
             ASSERT_TRUE(dialog);
-            EXPECT_EQ(child<Edit>(*dialog, "txtSoubor")->text(), u"Rybí recepty (2)"_s);
+            EXPECT_EQ(child<Edit>(*dialog, "txtSoubor")->text(), u"Recepty (2)"_s);
             EXPECT_FALSE(child<Edit>(*dialog, "txtKopie")->isEnabled()) << "of a file there is one";
             child<ListBox>(*dialog, "lstPapir")->setListIndex(int(Paper::Card));
             child<CheckBox>(*dialog, "chkBarevne")->setChecked(false);
@@ -253,7 +253,7 @@ TEST_F(FrmPrintTest, ChoosesPrinterAndPaperAndRemembersThem) {
     EXPECT_TRUE(child<Label>(*print, "lblTiskarna")->text().contains(u"Kartička A6"_s));
     EXPECT_FALSE(child<PageSheet>(*print, "picStrana")->accessibleValue().contains(u"poznámka"_s));
     child<Button>(*print, "Command1")->click();
-    EXPECT_TRUE(QFileInfo::exists(book.folder.filePath(u"Karty/Rybí recepty (2).pdf"_s)));
+    EXPECT_TRUE(QFileInfo::exists(book.folder.filePath(u"Karty/Recepty (2).pdf"_s)));
 
     SystemPrinter another(book.folder.path());
     frmPrint next(run, another, memory);

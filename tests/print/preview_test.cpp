@@ -10,7 +10,7 @@ using test::str;
 TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
     open({1, 3});
     control("Command1")->click();
-    const QStringList printed = test::pdfPages(file("Rybí recepty (2).pdf"));
+    const QStringList printed = test::pdfPages(file("Recepty (2).pdf"));
     control("cmdNahled")->click();
     auto* preview = dynamic_cast<frmNahled*>(loaded("frmNahled"));
     ASSERT_TRUE(preview);

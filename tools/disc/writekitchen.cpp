@@ -28,7 +28,9 @@ void writeSteps(const Recipe& recipe, int& last, const AddRow& add) {
     }
 }
 
+/// The line of the fish that a cook buys whole; none in a book about something else.
 qsizetype mainFish(const Cookbook& book, const Recipe& recipe) {
+    if (book.facts.mainMark != BookFacts().mainMark) return -1;
     for (qsizetype i = 0; i < recipe.ingredients.size(); ++i)
         if (const Ingredient* one = book.ingredient(recipe.ingredients[i].ingredient); one && one->isMain)
             return i;

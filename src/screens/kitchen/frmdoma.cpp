@@ -30,7 +30,7 @@ const QString kKept = QStringLiteral("Doma");
 constexpr KitchenAction kActions[] = {
     {QT_TRANSLATE_NOOP("Texts", "Bez této"), QT_TRANSLATE_NOOP("Texts", "Recepty bez vybrané suroviny")},
     {QT_TRANSLATE_NOOP("Texts", "V sezoně"),
-     QT_TRANSLATE_NOOP("Texts", "Jen ryby, které jsou tento měsíc v sezoně")},
+     QT_TRANSLATE_NOOP("Texts", "Jen jídla, která mají tento měsíc sezonu")},
     {QT_TRANSLATE_NOOP("Texts", "Do 30 min"), QT_TRANSLATE_NOOP("Texts", "Jen jídla do 30 minut")},
     {QT_TRANSLATE_NOOP("Texts", "Bez lepku")},
     {QT_TRANSLATE_NOOP("Texts", "Bez mléka")},

@@ -77,9 +77,13 @@ bool fillFolder(const Project& project, const QString& target) {
     if (!copyTree(project.out + QStringLiteral("/disc"), target) ||
         !copyTree(project.out + QStringLiteral("/program"), target + QStringLiteral("/program")))
         return false;
-    const QString program = target + QStringLiteral("/program/sarne");
-    if (!QFileInfo::exists(program) && !programFile().isEmpty() && !QFile::copy(programFile(), program))
-        return false;
+    const QDir beside = QFileInfo(programFile()).dir();
+    for (const QString& name : {QStringLiteral("sarne"), QStringLiteral("sarne-obnov")}) {
+        const QString program = target + QStringLiteral("/program/") + name;
+        if (!programFile().isEmpty() && beside.exists(name) && !QFileInfo::exists(program) &&
+            !QFile::copy(beside.filePath(name), program))
+            return false;
+    }
     if (!writeSettings(target + QStringLiteral("/program"))) return false;
     QFile list(target + u'/' + kList);
     const QByteArray text = listOf(QDir(target), filesIn(QDir(target)));
