@@ -58,12 +58,10 @@ bool ListPages::movePage(int sign) {
 }
 
 bool ListPages::moveToFirst() {
-    scroll(-count_);
     return selectEntry(0);
 }
 
 bool ListPages::moveToLast() {
-    scroll(count_);
     return selectEntry(count_ - 1);
 }
 
