@@ -13,10 +13,12 @@ namespace {
 /// Whether \a file is an uncompressed bitmap that ends before its last row: the decoder would fill the rest
 /// with black.
 bool isCutShort(QFile& file) {
-    constexpr qint64 kHeader = 54;
+    constexpr qint64 kHeader = 54, kOffset = 14;
     const QByteArray header = file.peek(kHeader);
-    if (header.size() < kHeader || !header.startsWith("BM")) return false;
+    if (header.size() < kOffset || !header.startsWith("BM")) return false;
     const auto number = [&](int at) { return qFromLittleEndian<qint32>(header.constData() + at); };
+    if (number(kOffset - 4) >= file.size()) return true;  // it may say that it is a gigabyte large
+    if (header.size() < kHeader) return false;
     const qint64 offset = number(10), width = number(18), height = number(22);
     const int bits = qFromLittleEndian<quint16>(header.constData() + 28), compression = number(30);
     if (compression != 0 || width <= 0) return false;
