@@ -62,6 +62,10 @@ bool PictureFile::seek(qint64 place) {
     return isFile() ? QFile::seek(place) : QIODevice::seek(place);
 }
 
+qint64 PictureFile::readLineData(char* data, qint64 wanted) {
+    return isFile() ? QFile::readLineData(data, wanted) : QIODevice::readLineData(data, wanted);
+}
+
 bool PictureFile::atEnd() const {
     return isFile() ? QFile::atEnd() : QIODevice::atEnd();
 }

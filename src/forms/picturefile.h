@@ -32,6 +32,7 @@ class PictureFile final : public QFile {
 
   protected:
     qint64 readData(char* data, qint64 wanted) override;
+    qint64 readLineData(char* data, qint64 wanted) override;
 
   private:
     bool isFile() const { return encoded_.isNull(); }
