@@ -17,8 +17,7 @@ int width(const QString& text, const QFontMetricsF& metrics) {
 
 int widestWord(const QString& text, const QFontMetricsF& metrics) {
     int widest = 0;
-    for (const QString& word : unbroken(text).split(u' '))
-        widest = std::max(widest, width(word, metrics));
+    for (const QString& word : unbroken(text).split(u' ')) widest = std::max(widest, width(word, metrics));
     return widest;
 }
 
