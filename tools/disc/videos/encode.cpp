@@ -20,8 +20,8 @@ constexpr qint64 kAhead = 8 * qint64{kFilmWidth} * kFilmHeight * 3 / 2;
 QString codecs(const QString& ending) {
     if (ending == u"mkv")
         return QStringLiteral(
-            "-c:v libx264 -preset veryfast -x264-params subme=1:me=dia:weightp=0 -crf 20.7 -pix_fmt yuv420p "
-            "-g 100 -c:a libopus -b:a 96k -f "
+            "-c:v libx264 -preset veryfast -x264-params subme=1:me=dia:weightp=0 -crf 21.7 -pix_fmt yuv420p "
+            "-g 100 -c:a libopus -b:a 48k -f "
             "matroska");
     return QStringLiteral(
         "-c:v mpeg4 -vtag XVID -q:v 5 -g 150 -bf 0 -sc_threshold 1000000000 -c:a libmp3lame -b:a 80k -ac 1 "
