@@ -62,7 +62,7 @@ QString withUnbreakableBlanks(QString text) {
 
 QString unbroken(QString text) {
     static const QRegularExpression dash(QStringLiteral("(?<=\\d)–(?=\\d)|–(?=\u00a0)"));
-    return withUnbreakableBlanks(std::move(text)).replace(dash, QStringLiteral("–\u2060"));
+    return withUnbreakableBlanks(std::move(text)).replace(dash, QStringLiteral("–\u200d"));
 }
 
 }  // namespace sarne

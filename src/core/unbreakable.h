@@ -13,8 +13,9 @@ bool holdsTogether(QStringView text, qsizetype blank);
 /// \a text with non-breaking blanks where a blank holds together.
 QString withUnbreakableBlanks(QString text);
 
-/// \a text as it is painted: with the same blanks, and with a word joiner behind the dash of a range ("8–10")
-/// and of an amount ("sůl – 2 g"), where a line may otherwise end. No wider than \a text.
+/// \a text as it is painted: with the same blanks, and with a joiner behind the dash of a range ("8–10") and
+/// of an amount ("sůl – 2 g"), where a line may otherwise end. Neither wider nor higher than \a text: the
+/// joiner is one that the program's fonts have, as the word joiner is not.
 QString unbroken(QString text);
 
 }  // namespace sarne

@@ -192,6 +192,9 @@ TEST_F(FormTest, ALabelWrapsAtItsWidth) {
     label.autoSize(natural / 2);
     EXPECT_EQ(label.twips().width(), natural / 2);
     EXPECT_GE(label.twips().height(), line * 2);
+    label.setText(u"80–85 °C"_s);
+    label.autoSize(natural / 9);
+    EXPECT_EQ(label.twips().height(), line) << "a range and its unit are one word";
 }
 
 TEST_F(FormTest, ALabelShowsItsNewTextAndAHandWhileItCanBeClicked) {
