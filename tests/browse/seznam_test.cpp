@@ -38,6 +38,11 @@ TEST_F(SeznamTest, AShortListFillsItsSheetWithLargerRows) {
     EXPECT_EQ(row(2)->twips(), seznam::rowBar(2, seznam::kLargePitch));
     for (int number = 1; number <= kRows; ++number)
         EXPECT_EQ(row(number)->isVisible(), number <= kRows / 2) << number;
+    row(1)->setText(u"Hranolky z tolstolobika za půl hodiny"_s);
+    const QRect bar = row(1)->twips();
+    row(1)->autoSize(seznam::row(1).width());
+    EXPECT_GT(row(1)->twips().height(), bar.height() / 2) << "two lines";
+    EXPECT_LE(row(1)->twips().height(), bar.height()) << "and both whole";
     list->Zobraz(u"1,2,3,4,5,6,7,8,"_s, u"Recepty"_s);
     EXPECT_EQ(row(8)->twips(), seznam::rowBar(8)) << "the same list filled anew";
     EXPECT_TRUE(row(kRows)->isVisible());

@@ -34,7 +34,7 @@ constexpr QRect row(int row, int pitch = kPitch) {
 }
 constexpr QRect rowBar(int number, int pitch = kPitch) {
     const QRect at = row(number, pitch);
-    const int gap = pitch < kLargePitch ? 20 : 120;
+    const int gap = pitch < kLargePitch ? 20 : 60;  // a long name has two lines
     return {at.x() - 180, at.y() + gap, at.width() + 330, at.height() - 2 * gap};
 }
 constexpr QRect apple(int number, int pitch = kPitch) {
