@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
+#include <QImageWriter>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -68,12 +69,27 @@ bool savePicture(const QImage& picture, const QString& file) {
     return !picture.isNull() && picture.convertToFormat(QImage::Format_RGB32).save(file, nullptr, kQuality);
 }
 
-/// All that a photo from the file \a source shows, as a JPEG; the source itself where it is one of this
-/// shape.
-bool saveFinest(const QImage& photo, const QString& source, const QString& file) {
+/// As a JPEG for a disc whose size counts. Its steps are twice those of our renderings, which leaves three
+/// fifths of their bytes; no difference is seen at full size. One more of quality costs a seventh of the
+/// bytes and brings 0.2 dB.
+bool savePacked(const QImage& picture, const QString& file) {
+    constexpr int kQuality = 75;
+    QImageWriter writer(file, "jpg");
+    writer.setQuality(kQuality);
+    writer.setOptimizedWrite(true);
+    return writer.write(picture.convertToFormat(QImage::Format_RGB32));
+}
+
+/// All that a photo from the file \a source shows, as a JPEG. A source of this shape that is one itself is
+/// taken as it is, unless a disc that \a isPacked has it smaller by a tenth at least.
+bool saveFinest(const QImage& photo, const QString& source, const QString& file, bool isPacked) {
     const QSize size = kScreenSize.scaled(photo.size().boundedTo(kFinestSize), Qt::KeepAspectRatio);
-    if (photo.size() != size || !source.endsWith(QLatin1String(".jpg")))
-        return savePicture(fitted(photo, size), file);
+    const bool isFit = photo.size() == size && source.endsWith(QLatin1String(".jpg"));
+    const auto save = isPacked ? savePacked : savePicture;
+    if (isPacked || !isFit) {
+        if (!save(fitted(photo, size), file)) return false;
+        if (!isFit || QFileInfo(file).size() * 10 < QFileInfo(source).size() * 9) return true;
+    }
     QFile::remove(file);
     return QFile::copy(source, file);
 }
@@ -145,7 +161,7 @@ struct Dish {
 
     bool makeFinest(const QImage& photo) const {
         const QString jpg = QStringLiteral("jpg");
-        return saveFinest(photo, focus == kMiddle ? source : QString(), file("Recepty", jpg)) &&
+        return saveFinest(photo, focus == kMiddle ? source : QString(), file("Recepty", jpg), !isBitmap()) &&
                link(file("Recepty", jpg), file("Velke", jpg));
     }
 
