@@ -290,6 +290,9 @@ def _fin(base, out, rays, m, thick=.0035, wave=.004, ragged=.05, y0=0.0):
     return mesh(v, f, m, uv=uv)
 
 
+COOKS["baked"] = ("7a4f22", "bd8f52", "e0c692")   # in its own steam: golden, the drawing of the skin shows
+
+
 def _skinned(k, col, hgt):
     """The pictures of a poached fish whose skin was taken off between gills and tail: pink muscle layers."""
     H, W = hgt.shape[:2]
@@ -305,8 +308,44 @@ def _skinned(k, col, hgt):
     return _mix(col, flesh, bare), flat * (1 - bare) + bare * (.4 + .3 * part)
 
 
-def fish(kind="carp", state="raw", length=6.0, cuts=0, seed=1, bend=0.0, lying=True, open_mouth=False, tailbend=0.0):
-    """A whole fish. cuts: number of score cuts; bend: how much it curves sideways (radians over the length)."""
+def _ranged(nt, value, least, most, low, high):
+    """Lays a value between two others."""
+    n = nt.nodes.new("ShaderNodeMapRange")
+    for end, q in (("From Min", least), ("From Max", most), ("To Min", low), ("To Max", high)):
+        n.inputs[end].default_value = q
+    nt.links.new(value, n.inputs["Value"])
+    return n.outputs[0]
+
+
+def _crisped(m, crisp, scales):
+    """Adds to a painted skin what is finer than its picture: scales that stand up, blisters, burnt specks, fat in places."""
+    nt = m.node_tree
+    skin, where = nt.nodes["Principled BSDF"], nt.nodes.new("ShaderNodeTexCoord").outputs["Object"]
+    color, normal = (skin.inputs[n].links[0].from_socket for n in ("Base Color", "Normal"))
+    specks = core._ramp(nt, core._noise(nt, where, 62, 9, .4, .68), ((.3, "3a1a08"), (.4, "b06a2c"), (.47, "ffffff")))
+    burnt = nt.nodes.new("ShaderNodeMixRGB")
+    burnt.blend_type = "MULTIPLY"
+    nt.links.new(_ranged(nt, core._noise(nt, where, 5.5, 5), .41, .58, .08 * crisp, .85 * crisp), burnt.inputs[0])
+    nt.links.new(color, burnt.inputs[1])
+    nt.links.new(specks, burnt.inputs[2])
+    nt.links.new(burnt.outputs[0], skin.inputs["Base Color"])
+    cells = nt.nodes.new("ShaderNodeTexVoronoi")
+    cells.inputs["Scale"].default_value = scales
+    nt.links.new(where, cells.inputs["Vector"])
+    for height, strength, distance in ((cells.outputs["Distance"], .5, .035), (core._noise(nt, where, 24, 6, 0, .6), .7, .14)):
+        bump = nt.nodes.new("ShaderNodeBump")
+        bump.inputs["Strength"].default_value = min(1, strength * crisp)
+        bump.inputs["Distance"].default_value = distance
+        nt.links.new(height, bump.inputs["Height"])
+        nt.links.new(normal, bump.inputs["Normal"])
+        normal = bump.outputs[0]
+    nt.links.new(normal, skin.inputs["Normal"])
+    nt.links.new(_ranged(nt, core._noise(nt, where, 9, 5), .38, .62, .16, .5), skin.inputs["Roughness"])
+
+
+def fish(kind="carp", state="raw", length=6.0, cuts=0, seed=1, bend=0.0, lying=True, open_mouth=False, tailbend=0.0, crisp=0.0):
+    """A whole fish. cuts: number of score cuts; bend: how much it curves sideways (radians over the length); crisp: how
+    much its skin is blistered and browned in small, with its scales standing up."""
     k = KINDS[kind]
     cooked = state != "raw"
     cutpos = [.33 + i * (.46 / max(1, cuts - 1) if cuts > 1 else 0) for i in range(cuts)]
@@ -321,6 +360,9 @@ def fish(kind="carp", state="raw", length=6.0, cuts=0, seed=1, bend=0.0, lying=T
     rough = {"raw": .2, "smoked": .22, "poached": .3, "blue": .25}.get(state, .34)
     skin = mat(name, k["side"], rough, .55, sss=.02, coat=.75 if not cooked else .45, image=color, height=height,
                heightscale=.55 if cooked else .4, metal=.25 if state == "raw" or state == "smoked" else 0)
+    if crisp and "crisped" not in skin:
+        _crisped(skin, crisp, 3.2 * max(k["scales"], 22))
+        skin["crisped"] = True
     fc = k["fin"] if not cooked else {"poached": "8d8b80", "blue": "5d7680", "smoked": "6b3f14"}.get(state, "6a3c18")
     finm = mat(f"fin-{kind}-{state}", ((.35, fc), (.65, "".join(f"{min(255, int(int(fc[i:i+2], 16) * 1.35)):02x}" for i in (0, 2, 4)))), .38, noise=9,
                stretch=(1, 1, 4), translucent=.3, coat=.3)

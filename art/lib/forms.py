@@ -11,8 +11,10 @@ from .core import (curve_points, fbm, grid_faces, group, lathe, mat, mesh, outli
 
 # ---------------------------------------------------------------- vessels
 
-def jar(r=2.0, h=5.6, brine=.9):
-    """Tall preserving glass with clear brine to a part of its height."""
+def jar(r=2.0, h=5.6, brine=.9, walls=2):
+    """Tall preserving glass with clear brine to a part of its height. With one wall what stands in it is seen clearly."""
+    if walls == 1:
+        return _clearjar(r, h, brine)
     g = thin_glass("jarglass", "f8fcfb", 1.2)
     out = smooth_profile([(.01, 0), (r * .92, 0), (r, .2), (r, h * .8), (r * .86, h * .9), (r * .86, h)], 6)
     inn = [(max(.01, a - .09), z + (.12 if z < .3 else 0)) for a, z in reversed(out)]
@@ -20,6 +22,17 @@ def jar(r=2.0, h=5.6, brine=.9):
     wat = [(max(.01, a - .11), z + (.14 if z < .3 else 0)) for a, z in out if z < h * brine]
     parts.append(lathe(wat + [(.01, wat[-1][1])], thin_glass("brine", "fcf9e8", 1.0, glow=.012)))
     return group(parts)
+
+
+def _clearjar(r, h, brine):
+    """Only the outer face of the glass and the level of the brine: few faces between the eye and the food, so no grain."""
+    out = smooth_profile([(.01, .02), (r * .9, .02), (r, .22), (r, h * .78), (r * .93, h * .86), (r * .84, h * .9), (r * .84, h)], 8)
+    low, high = [q for q in out if q[1] <= h * brine], [q for q in out if q[1] >= h * brine]
+    level = h * brine
+    parts = [lathe(low, thin_glass("brineglass", "fbf8ec", .9, .06)), lathe(high, thin_glass("clearglass", "f8fcfb", .9, .06)),
+             lathe([(.01, level), (low[-1][0] * .985, level), (low[-1][0], level + .03)], thin_glass("brinelevel", "fdfaf0", .8, .05))]
+    rim = mat("jarrim", "dfeeea", .06, .6, coat=1.0, alpha=.55)
+    return group(parts + [put(table.torus(r * .86, .075, rim), 0, 0, h), put(table.torus(r * .86, .05, rim), 0, 0, h * .92)])
 
 
 def glassdish(sx=9, sy=5.5, h=1.5, level=.8):
@@ -131,18 +144,35 @@ def paper(sx=11, sy=8, crumple=.25, col="e4d6b4"):
     return mesh(np.stack([u * sx, v * sy, z], -1).reshape(-1, 3), grid_faces(nx, ny), m)
 
 
-def parcel(sx=10, sy=5.4):
-    """Opened parcel of baking paper: boat with twisted ends."""
-    m = mat("parcel", ((.4, "cbb488"), (.6, "e3d2a8")), .7, noise=1.5, translucent=.2)
+def parcel(sx=10, sy=5.4, crisp=0.0):
+    """Opened parcel of baking paper: boat with twisted ends. crisp: how sharply it is creased and how brown its edges are."""
+    m = mat("parcel", ((.4, "cbb488"), (.6, "e3d2a8")), .7, noise=1.5, translucent=.2) if not crisp else _bakedpaper(crisp)
     nx, ny = 110, 60
     u, v = np.meshgrid(np.linspace(-1, 1, nx), np.linspace(-1, 1, ny), indexing="ij")
     w = np.clip(1 - np.abs(u) ** 3.2, .07, 1)
     fold = fbm(np.stack([u * 9, v * 4, u * 0], -1), 4, 5) - .5
     y = v * sy / 2 * w + .12 * fold
     z = .06 + 1.5 * np.abs(v) ** 3.2 * (.65 + .35 * w) + .45 * np.abs(fold) * (.35 + np.abs(v)) + .5 * np.clip(np.abs(u) - .82, 0, 1) * 3
-    o = mesh(np.stack([u * sx / 2, y, z], -1).reshape(-1, 3), grid_faces(nx, ny), m)
+    if crisp:
+        crease = np.abs(fbm(np.stack([u * 5 + v, v * 3 - u, u * 0 + 4], -1), 3, 8) - .5) + .6 * np.abs(fbm(np.stack([u * 11 - v * 2, v * 6 + u, u * 0], -1), 2, 3) - .5)
+        z = z + crisp * .9 * crease * (.25 + np.abs(v) ** 2)
+    uv = np.stack([u / 2 + .5, v / 2 + .5], -1).reshape(-1, 2)
+    o = mesh(np.stack([u * sx / 2, y, z], -1).reshape(-1, 3), grid_faces(nx, ny), m, uv=uv)
     o.modifiers.new("t", "SOLIDIFY").thickness = .04
     return o
+
+
+def _bakedpaper(crisp):
+    """Paper from the oven: pale, stained by fat in the middle, brown where its edges stood up."""
+    v, u = np.mgrid[-1:1:400j, -1:1:700j]
+    wide, fine = (fbm(np.stack([u * a, v * a * .6, u * 0], -1), 4, a) for a in (3, 14))
+    edge = np.clip((np.maximum(np.abs(v), np.abs(u)) + .3 * (wide - .5) - .8) / .2, 0, 1)[..., None] * min(1, crisp)
+    fat = np.clip((.62 + .5 * (wide - .5) - np.hypot(u, v * .9)) / .12, 0, 1)[..., None]
+    pale, stain, brown, dark = (np.array(core.rgb(c)) ** (1 / 2.2) for c in ("eadfc4", "cfae74", "b0763a", "6a3a16"))
+    img = pale * (.92 + .14 * fine[..., None])
+    img = img + (stain - img) * fat * .55
+    img = img + (brown + (dark - brown) * np.clip(edge * 2 - 1.3, 0, 1) - img) * edge * .85
+    return mat("bakedpaper", "eadfc4", .55, .4, coat=.15, translucent=.2, image=core.picture("bakedpaper", img.clip(0, 1)))
 
 
 def eggplate(r=4.2, n=8):

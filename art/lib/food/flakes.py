@@ -53,7 +53,7 @@ def flakes(kind="white", state="poached", layers=6, seed=1):
     return mat(name, raw, .34, .5, sss=.05, coat=.45, image=core.picture(name, img.clip(0, 1)), height=height, heightscale=.55, sssradius=(.25, .14, .1))
 
 
-def steak(outer, inner, kind="white", state="roasted", seed=1, n=360):
+def steak(outer, inner, kind="white", state="roasted", seed=1, n=360, calm=0.0):
     """Material and UV function for the cut across a fish between two curves: rings of muscle in four quarters, the dark
     line along the side, seams of fat, a crust along the edges when it was fried or baked."""
     both = np.concatenate([outer, inner])
@@ -72,7 +72,7 @@ def steak(outer, inner, kind="white", state="roasted", seed=1, n=360):
     deep = np.minimum(back, belly + .06)
     seam, tall = _layers(deep * 5.2 + 2.2 * (wide - .5), wide, fine)
     seam = seam * np.clip((deep - .2) / .15, 0, 1)   # no bull's eye in the middle of a muscle
-    tall = tall + .4 * (fine - .5)
+    tall = tall + (.55 - tall) * calm * np.clip(1.6 - deep * 2.2, 0, 1) + .4 * (fine - .5)
     seam = np.maximum(seam, np.clip((.035 - X) / .02, 0, 1) * (Y > .1) * .9)
     side = np.clip((.1 * np.clip(X - .55, 0, 1) - np.abs(Y - .1)) / .03 + .3, 0, 1) * np.clip((X - .5) / .2, 0, 1)
     base = "e2bf86" if cooked and kind == "white" else raw if cooked else POACHED.get(kind, raw)

@@ -27,8 +27,9 @@ def _arch(points, n):
     return np.stack([np.interp(t, way, line[:, k]) for k in (0, 1)], -1)
 
 
-def horseshoe(state="roasted", size=1.0, seed=None, kind="carp", meat="white"):
-    """Cross-cut steak: thick round the backbone, two thin belly flaps that stand apart, skin round the outside."""
+def horseshoe(state="roasted", size=1.0, seed=None, kind="carp", meat="white", calm=0.0):
+    """Cross-cut steak: thick round the backbone, two thin belly flaps that stand apart, skin round the outside.
+    calm: how far the rings in the middle of the muscles are smoothed away."""
     seed = random.randrange(999) if seed is None else seed
     rnd = random.Random(seed)
     n = 96
@@ -48,7 +49,7 @@ def horseshoe(state="roasted", size=1.0, seed=None, kind="carp", meat="white"):
         o = loft(Oe, Ie, h, crumb("gold"), None, .12, .1, seed, .05)
         return group([o, crumbs_on(o, 260, "gold")])
     sk = {"raw": "raw", "blue": "blue", "poached": "poached", "grilled": "grilled"}.get(state, "roasted")
-    m, uv = steak(Oe, Ie, meat, "poached" if state in ("raw", "blue", "poached") else "roasted", seed)
+    m, uv = steak(Oe, Ie, meat, "poached" if state in ("raw", "blue", "poached") else "roasted", seed, calm=calm)
     o = loft(Oe, Ie, h, m, fishskin(kind, sk), .05, .08, seed, .03)
     planar(o, uv)
     o.data.materials.append(mat("membrane", ((.4, "8a6a44"), (.6, "b8966a")), .35, coat=.4, noise=2.5, bump=.2, bumpscale=6))

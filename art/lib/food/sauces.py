@@ -17,7 +17,7 @@ SAUCES = {
     "mustard": ("c9992c", "dcb54e", .3), "hollandaise": ("e9bf42", "f3d470", .22), "tartar": ("e9e4cc", "f5f1e0", .35), "mayonnaise": ("efe3b8", "f6efd2", .3), "curry": ("c98a1e", "dfab3e", .22),
     "cranberry": ("5a0a10", "8a141a", .08), "tomato": ("a3280e", "c24420", .25), "soured": ("f0ece0", "faf8f0", .25), "peas": ("6d8f2c", "93ad4c", .5), "spread": ("c2a37c", "dcc19c", .5), "horseradish": ("efe9da", "f8f5ea", .4),
     "oil": ("c9a83a", "d9bd5a", .03), "juice": ("e2bd72", "f0d698", .05), "green": ("5d7a1c", "86a032", .15), "honeymustard": ("b5801a", "d6a436", .2), "fishsoup": ("a8782c", "bf9245", .1), "christmas": ("cfb078", "dfc594", .16),
-    "halaszle": ("8f1c08", "b83414", .05), "broth": ("c98d2a", "dca744", .02), "smoked": ("dcc492", "ebdab2", .22), "vinegar": ("c9b06a", "dcc88a", .03), "risotto": ("e9dcb8", "f3ead0", .3),
+    "halaszle": ("8f1c08", "b83414", .05), "broth": ("c98d2a", "dca744", .02), "smoked": ("dcc492", "ebdab2", .22), "vinegar": ("c9b06a", "dcc88a", .03), "dillcream": ("dccf8e", "ece2b4", .18), "risotto": ("e9dcb8", "f3ead0", .3),
 }
 
 
@@ -116,22 +116,22 @@ def line(kind, points, w=.12):
     return tube(pts, [w * (.35 + .65 * math.sin(math.pi * min(1, i / n * 1.15 + .05)) ** .6) for i in range(n)], sauce_mat(kind), 10)
 
 
-def aspic_mat():
+def aspic_mat(tint="efc66a"):
     """Clear and amber, without refraction: what is set in it stays to be seen."""
-    return thin_glass("aspic", "efc66a", 1.9, .04, glow=.03)
+    return thin_glass("aspic" + tint, tint, 1.9, .04, glow=.03)
 
 
-def aspic_mould(r=2.2, h=1.7, flutes=14):
-    """Turned-out fluted aspic."""
+def aspic_mould(r=2.2, h=1.7, flutes=14, tint="efc66a", deep=.045):
+    """Turned-out fluted aspic; deep: how deep the flutes are, as a part of its radius."""
     nv = 168
     prof = smooth_profile([(1.0, 0), (.98, .15), (.93, .5), (.86, .8), (.75, .94), (.55, 1.0), (.01, .97)], 6)
     v = []
     for rr, z in prof:
         for j in range(nv):
             a = 2 * math.pi * j / nv
-            k = 1 + .045 * math.cos(a * flutes) * min(1, (1.02 - z) * 4) * min(1, rr * 1.5)
+            k = 1 + deep * math.cos(a * flutes) * min(1, (1.02 - z) * 4) * min(1, rr * 1.5)
             v.append((r * rr * k * math.cos(a), r * rr * k * math.sin(a), h * z))
-    return mesh(v, grid_faces(len(prof), nv, True), aspic_mat())
+    return mesh(v, grid_faces(len(prof), nv, True), aspic_mat(tint))
 
 
 def aspic_cube(s=.45):

@@ -20,7 +20,7 @@ def fishskin(kind="carp", state="roasted"):
             ("carp", "grilled"): ("241408", "5d3716", "97692f"), ("trout", "roasted"): ("4a3417", "8d6a32", "c49d58"), ("zander", "roasted"): ("5b3a16", "a97a38", "d9b06a"),
             ("salmon", "roasted"): ("4b3a2a", "8d7350", "bb9c70"), ("salmon", "poached"): ("565c60", "8b9296", "b9bdb9"), ("herring", "raw"): ("6d8791", "a9bcc0", "dfe5e0"),
             ("pike", "roasted"): ("5d4318", "97782f", "c9ad62"), ("eel", "roasted"): ("2c1a0a", "5d3a15", "8f6425"), ("eel", "smoked"): ("1e1006", "4f2c0c", "8a5618"),
-            ("mackerel", "smoked"): ("3c2a12", "8a6420", "cfa244"), ("tench", "poached"): ("2d3418", "565c2a", "8a8444"), ("herring", "fried"): ("5d3312", "a06a2a", "cd9c55"),
+            ("mackerel", "smoked"): ("3c2a12", "8a6420", "cfa244"), ("tench", "poached"): ("2d3418", "565c2a", "8a8444"), ("tench", "golden"): ("3a2f10", "7a6320", "b08f3a"), ("herring", "fried"): ("5d3312", "a06a2a", "cd9c55"),
             ("perch", "roasted"): ("5a3d18", "96702f", "c9a55c")}.get((kind, state), ("4b2a10", "8f5d24", "c29248"))
     return mat(f"fskin-{kind}-{state}", tuple(zip((.36, .5, .64), cols)), .3, .55, coat=.6, noise=2.4, detail=8, bump=.3, cells=14, metal=.35 if state in ("raw",) else 0)
 

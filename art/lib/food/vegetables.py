@@ -186,11 +186,11 @@ def carrot_star(r=.42, h=.14, petals=6):
 
 
 def dice(col="carrot", s=.3):
-    """Small cubes for soups and salads: carrot, celeriac, potato, beet, apple, gherkin, pepper, greenpepper."""
+    """Small cubes for soups and salads: carrot, celeriac, potato, beet, apple, gherkin, pepper, greenpepper, crackling (fried bacon)."""
     m = {"carrot": carrot_mat, "celeriac": lambda: mat("celeriac", ((.4, "d9cfa0"), (.6, "ebe4c2")), .35, sss=.15, coat=.4), "potato": lambda: potato_mat("cut"),
          "beet": lambda: mat("beet", ((.4, "5a0c22"), (.6, "86183a")), .22, sss=.1, coat=.6), "apple": lambda: mat("applecut", ((.4, "e6d9a2"), (.6, "f2e9c0")), .3, sss=.15, coat=.4),
          "gherkin": gherkin_mat, "pepper": lambda: mat("redpepper", ((.4, "a31709"), (.6, "cf3216")), .18, coat=.7, sss=.08), "greenpepper": lambda: mat("greenpepper", ((.4, "3c6a14"), (.6, "5f9426")), .18, coat=.7, sss=.08),
-         "ham": lambda: mat("bacondice", ((.4, "a8453a"), (.6, "d98a78")), .3, coat=.5), "pinksalad": lambda: mat("pinksalad", ((.4, "b0496a"), (.6, "d98aa0")), .3, coat=.5, sss=.1)}[col]()
+         "ham": lambda: mat("bacondice", ((.4, "a8453a"), (.6, "d98a78")), .3, coat=.5), "crackling": lambda: mat("crackling", ((.36, "5a2410"), (.5, "9c5428"), (.64, "d9a470")), .3, .5, coat=.6, noise=4, bump=.5, bumpscale=9), "pinksalad": lambda: mat("pinksalad", ((.4, "b0496a"), (.6, "d98aa0")), .3, coat=.5, sss=.1)}[col]()
     s2 = s * random.uniform(.8, 1.15)
     return slab(blob(s2, s2 * random.uniform(.8, 1.15), .05, 28, 6), s2 * random.uniform(.7, 1), m, 7, .015, 3, 8, 0, 0, taper=.02)
 
