@@ -2,27 +2,29 @@
 
 #include <QPainter>
 #include <QPixmap>
-#include <list>
 
+#include "forms/drawnpictures.h"
 #include "forms/finerpicture.h"
 #include "forms/picturereader.h"
 
 namespace sarne {
 
-/// A picture's bytes and the few sizes in which it was last drawn.
+/// Where a picture comes from.
 struct Picture::Source {
-    static constexpr size_t kKeptSizes = 3;
+    Source() = default;
+    Source(const Source&) = delete;
+    Source& operator=(const Source&) = delete;
+    ~Source() { DrawnPictures::shared().forget(this); }
 
     QByteArray encoded;
     QString file;
     QImage decoded;
     QSize size;
-    std::list<QPixmap> drawn;
 
     QImage decode(QSize pixels) const;
     QImage exactly(QSize pixels) const;
     QImage partOf(QSize whole, const QRect& part) const;
-    const QPixmap* at(QSize pixels);
+    QPixmap at(QSize pixels) const;
 
   private:
     QImage readFile(QSize pixels) const;
@@ -40,17 +42,13 @@ QImage Picture::Source::decode(QSize pixels) const {
     return PictureReader(encoded).read(pixels);
 }
 
-const QPixmap* Picture::Source::at(QSize pixels) {
-    for (auto kept = drawn.begin(); kept != drawn.end(); ++kept) {
-        if (kept->size() != pixels) continue;
-        drawn.splice(drawn.begin(), drawn, kept);
-        return &drawn.front();
-    }
+QPixmap Picture::Source::at(QSize pixels) const {
+    if (const QPixmap* kept = DrawnPictures::shared().find(this, pixels)) return *kept;
     QImage image = exactly(pixels);
-    if (image.isNull()) return nullptr;
-    drawn.push_front(QPixmap::fromImage(std::move(image)));
-    if (drawn.size() > kKeptSizes) drawn.pop_back();
-    return &drawn.front();
+    if (image.isNull()) return {};
+    QPixmap drawn = QPixmap::fromImage(std::move(image));
+    DrawnPictures::shared().keep(this, drawn);
+    return drawn;
 }
 
 QImage Picture::Source::exactly(QSize pixels) const {
@@ -113,13 +111,13 @@ void Picture::draw(QPainter& painter, const QRectF& place, Fit fit) const {
     if (!source_) return;
     const QTransform toPixels = painter.combinedTransform();
     const QRect pixels = toPixels.mapRect(fitted(size(), place, fit)).toAlignedRect();
-    const QPixmap* drawn = pixels.isEmpty() ? nullptr : source_->at(pixels.size());
-    if (!drawn) return;
+    const QPixmap drawn = pixels.isEmpty() ? QPixmap() : source_->at(pixels.size());
+    if (drawn.isNull()) return;
     painter.save();
     if (fit == Fit::Cover) painter.setClipRect(place, Qt::IntersectClip);
     painter.setWorldTransform(QTransform());
     const QTransform device = painter.combinedTransform().inverted();
-    painter.drawPixmap(device.mapRect(QRectF(pixels)), *drawn, QRectF(QPointF(), drawn->size()));
+    painter.drawPixmap(device.mapRect(QRectF(pixels)), drawn, QRectF(QPointF(), drawn.size()));
     painter.restore();
 }
 
@@ -145,8 +143,7 @@ QImage Picture::scaledPart(QSize whole, const QRect& part) const {
 }
 
 QPixmap Picture::pixmap(QSize pixels) const {
-    const QPixmap* drawn = source_ && !pixels.isEmpty() ? source_->at(pixels) : nullptr;
-    return drawn ? *drawn : QPixmap();
+    return source_ && !pixels.isEmpty() ? source_->at(pixels) : QPixmap();
 }
 
 }  // namespace sarne

@@ -8,6 +8,7 @@
 
 #include "forms/accessiblecontrol.h"
 #include "forms/control.h"
+#include "forms/drawnpictures.h"
 #include "forms/fingers.h"
 #include "forms/focusframe.h"
 #include "forms/form.h"
@@ -83,6 +84,7 @@ void Stage::fit() {
     origin_ = QPointF((width() - kWidth * scale_) / 2, (height() - kHeight * scale_) / 2);
     shield_->setGeometry(rect());
     namePlate_->dismiss();
+    DrawnPictures::shared().setDisplay(size() * devicePixelRatio());
     for (Form* form : findChildren<Form*>(Qt::FindDirectChildrenOnly)) form->rescale();
 }
 

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QTemporaryDir>
 
+#include "forms/drawnpictures.h"
 #include "forms/resources.h"
 #include "support/files.h"
 #include "support/pictures.h"
@@ -78,6 +79,20 @@ TEST(Picture, DrawnExactlyKeepsItsPlaceWithinThePixels) {
     EXPECT_NEAR(canvas.pixelColor(14, 10).red(), 128, 16);
     EXPECT_NEAR(canvas.pixelColor(14, 10).blue(), 128, 16);
     EXPECT_EQ(canvas.pixelColor(15, 10), QColor(Qt::blue));
+}
+
+TEST(Picture, KeepsNoMoreOfWhatWasDrawnThanFillsTheDisplayThreeTimes) {
+    DrawnPictures& kept = DrawnPictures::shared();
+    kept.setDisplay({100, 100});
+    const qint64 before = kept.bytes();
+    Picture red = Picture::fromData(encoded({50, 50}, "BMP"));
+    for (int side = 40; side < 100; ++side) red.pixmap({side, side});
+    EXPECT_GT(kept.bytes(), 2 * 100 * 100 * 4);
+    EXPECT_LE(kept.bytes(), 3 * (100 * 100 * 4 + 1024));
+    EXPECT_EQ(red.pixmap({99, 99}).cacheKey(), red.pixmap({99, 99}).cacheKey()) << "drawn last";
+    EXPECT_EQ(red.pixmap({400, 400}).size(), QSize(400, 400)) << "drawn, though too large to be kept";
+    red = {};
+    EXPECT_LE(kept.bytes(), before) << "a picture that is gone keeps nothing";
 }
 
 TEST(Cursor, IsAsLargeOnAScaledDesktopAndPointsWhereItDid) {

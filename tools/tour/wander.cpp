@@ -143,7 +143,7 @@ class Wanderer {
 }  // namespace
 
 bool wander(Program& program, int steps, unsigned seed, QTextStream& out) {
-    constexpr int kWarm = 1000, kEvery = 500, kOnAScreen = 20;
+    constexpr int kWarm = 1000, kEvery = 500, kOnAScreen = 8;
     // What has not yet been given back differs from time to time; the least of some times tells.
     const int window = std::min(2 * kWarm, (steps - kWarm) / 2);
     Wanderer user(program, seed);

@@ -27,36 +27,47 @@ double wave(double phase) {
     return std::sin(std::numbers::pi * phase);
 }
 
-void paintGlow(QPainter& painter, QPointF middle, double radius, QColor color, double strength) {
-    QRadialGradient glow(middle, radius);
-    color.setAlphaF(float(std::clamp(strength, 0., 1.)));
-    glow.setColorAt(0, color);
+constexpr QColor kVapour(228, 226, 214);
+constexpr QColor kLight(255, 206, 120);
+
+/// A round light that fades to its edge. It is painted once and then drawn as a picture: of a gradient in
+/// ever other strengths the painting keeps ever more tables of colours.
+QImage glowOf(QColor color) {
+    constexpr int kSide = 128;
+    QImage glow(kSide, kSide, QImage::Format_ARGB32_Premultiplied);
+    glow.fill(Qt::transparent);
+    QRadialGradient fade(QPointF(kSide / 2., kSide / 2.), kSide / 2.);
+    fade.setColorAt(0, color);
     color.setAlpha(0);
-    glow.setColorAt(1, color);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(glow);
-    painter.drawEllipse(middle, radius, radius);
+    fade.setColorAt(1, color);
+    QPainter(&glow).fillRect(glow.rect(), fade);
+    return glow;
+}
+
+/// A glow, in one colour and any size and strength.
+void paintGlow(QPainter& painter, const QImage& glow, QPointF middle, double radius, double strength) {
+    painter.setOpacity(std::clamp(strength, 0., 1.));
+    painter.drawImage(QRectF(middle.x() - radius, middle.y() - radius, 2 * radius, 2 * radius), glow);
+    painter.setOpacity(1);
 }
 
 /// A few puffs, one behind another, that rise, widen and vanish.
-void paintSteam(QPainter& painter, double phase) {
+void paintSteam(QPainter& painter, const QImage& glow, double phase) {
     constexpr int kPuffs = 9;
     constexpr double kLife = .45, kRise = 1350, kDrift = 260;  // a puff's share of the time; twips
-    constexpr QColor kVapour(228, 226, 214);
     for (int puff = 0; puff < kPuffs; ++puff) {
         const double age = (phase - puff * (1 - kLife) / (kPuffs - 1)) / kLife;
         if (age <= 0 || age >= 1) continue;
         const double sway = kDrift * age + 60 * std::sin(7 * age + puff);
-        paintGlow(painter, kSpout + QPointF(sway, -kRise * age), 110 + 290 * age, kVapour, .15 * wave(age));
+        paintGlow(painter, glow, kSpout + QPointF(sway, -kRise * age), 110 + 290 * age, .15 * wave(age));
     }
 }
 
 /// The light that the candle throws on the pane trembles.
-void paintCandle(QPainter& painter, double phase) {
-    constexpr QColor kLight(255, 206, 120);
+void paintCandle(QPainter& painter, const QImage& glow, double phase) {
     const double tremble = .75 + .25 * std::sin(23 * phase) * std::sin(11 * phase);
-    paintGlow(painter, kFlame, 480, kLight, .22 * wave(phase) * tremble);
-    paintGlow(painter, kFlame + QPointF(12 * std::sin(19 * phase), -30), 90, kLight, .5 * wave(phase));
+    paintGlow(painter, glow, kFlame, 480, .22 * wave(phase) * tremble);
+    paintGlow(painter, glow, kFlame + QPointF(12 * std::sin(19 * phase), -30), 90, .5 * wave(phase));
 }
 
 /// Lets a picture's edges fade out, as an ellipse.
@@ -114,8 +125,9 @@ void Ornaments::paintCat(QPainter& painter, const std::function<void(QPainter&)>
 }
 
 void Ornaments::paint(QPainter& painter, const std::function<void(QPainter&)>& kitchen) {
-    if (phase(kSteam) >= 0) paintSteam(painter, phase(kSteam));
-    if (phase(kCandle) >= 0) paintCandle(painter, phase(kCandle));
+    if (vapour_.isNull()) vapour_ = glowOf(kVapour), light_ = glowOf(kLight);
+    if (phase(kSteam) >= 0) paintSteam(painter, vapour_, phase(kSteam));
+    if (phase(kCandle) >= 0) paintCandle(painter, light_, phase(kCandle));
     if (phase(kCat) >= 0) paintCat(painter, kitchen);
 }
 

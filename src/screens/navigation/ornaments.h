@@ -35,7 +35,8 @@ class Ornaments {
     void paintCat(QPainter& painter, const std::function<void(QPainter&)>& kitchen);
 
     int step_ = 0;
-    QImage cat_;  // as it lies in the kitchen, its edges fading out
+    QImage vapour_, light_;  // one glow of each
+    QImage cat_;             // as it lies in the kitchen, its edges fading out
 };
 
 }  // namespace sarne
