@@ -79,6 +79,9 @@ endfunction()
 # sarne_widget_test(name SOURCES ... LIBS ...): as sarne_test, for tests that drive real forms with real events.
 function(sarne_widget_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    # Not for the whole test: what is compiled with a path is not shared with other checkouts.
+    set_property(SOURCE "${CMAKE_SOURCE_DIR}/tests/support/main_widgets.cpp" PROPERTY COMPILE_DEFINITIONS
+                 SARNE_TEST_FOLDER="${CMAKE_CURRENT_SOURCE_DIR}")
     sarne_test(${name} SOURCES ${ARG_SOURCES} "${CMAKE_SOURCE_DIR}/tests/support/main_widgets.cpp"
-               LIBS ${ARG_LIBS} sarne_forms sarne_db SQLiteCpp PkgConfig::SQLITE3 Qt6::Test PRECOMPILED widgettest)
+               LIBS ${ARG_LIBS} sarne_explore sarne_forms sarne_db SQLiteCpp PkgConfig::SQLITE3 Qt6::Test PRECOMPILED widgettest)
 endfunction()

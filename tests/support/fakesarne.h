@@ -95,7 +95,9 @@ class FakeSarne : public basSarne {
     QStringList announced, awake;
     int beeps = 0, exits = 0;
     Stage window;
-    Resources pictures{u":/none/"_s};
+    static inline QString resourceFolder =
+        QStringLiteral(":/none/");  ///< where the runs to come have them from
+    Resources pictures{resourceFolder};
     Database database;
     UserFile userFile;  // in memory only
     NoteStore keptNotes{userFile};

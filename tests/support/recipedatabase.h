@@ -15,6 +15,7 @@ namespace sarne::test {
 /// plain stand-in: it only has to exist while rows are stored in order of their keys. Gives \a file back.
 inline QString writeRecipeDatabase(const QString& file, const QStringList& statements) {
     SQLite::Database db(file.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    db.exec("PRAGMA synchronous = OFF");  // a test's book need not outlive the machine
     sqlite3_create_collation(db.getHandle(), kCzechCollation, SQLITE_UTF8, nullptr,
                              [](void*, int leftSize, const void* left, int rightSize, const void* right) {
                                  return std::string_view(static_cast<const char*>(left), size_t(leftSize))

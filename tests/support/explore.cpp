@@ -1,0 +1,338 @@
+#include "support/explore.h"
+
+#include <gtest/gtest.h>
+
+#include <QDate>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTimer>
+
+#include "forms/control.h"
+#include "support/fakesarne.h"
+#include "support/files.h"
+#include "support/pictures.h"
+#include "support/screenrecord.h"
+#include "support/wheel.h"
+#include "tour/looks.h"
+
+namespace sarne::test {
+
+extern const char* const kFolder;  // of the test
+
+namespace {
+
+const QString kStep = u"> "_s, kLooks = u"looks "_s;
+
+/// Time stands still: nothing ticks by itself while a screen is looked at, however slow the machine.
+class Stillness final : public QObject {
+  public:
+    Stillness() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* timer = qobject_cast<QTimer*>(watched);
+        return event->type() == QEvent::Timer && !(timer && timer->interval() == 0);
+    }
+};
+
+/// Pictures of one colour each, called as those of the program, and its sounds.
+QString resourceFolder() {
+    static const QTemporaryDir folder;
+    static const bool made = [] {
+        const QString source = QString::fromUtf8(kFolder) + u"/../support/"_s;
+        for (const QByteArray& name : bytesOf(source + u"pictures.txt"_s).simplified().split(' ')) {
+            QColor color = QColor::fromRgb(qChecksum(name) * 211U);
+            color.setAlpha(255);
+            (void)write(folder.filePath(u"obr/%1.png"_s.arg(QString::fromUtf8(name))), plain({8, 8}, color));
+        }
+        for (int i = 1; i < 120; ++i)
+            (void)write(folder.filePath(u"zvuky/%1.wav"_s.arg(i)), "effect " + QByteArray::number(i));
+        QDir().mkpath(folder.filePath(u"layout"_s));
+        for (const QString& table : QDir(source + u"../../art/layout"_s).entryList(QDir::Files))
+            QFile::copy(source + u"../../art/layout/"_s + table, folder.filePath(u"layout/"_s + table));
+        return true;
+    }();
+    return made ? folder.path() + u'/' : QString();
+}
+
+void settle() {
+    for (int i = 0; i < 3; ++i) {
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+QString thumbnail(Stage& stage) {
+    return kLooks + QString::fromLatin1(Looks::of(stage.grab().toImage()).toBase64());
+}
+
+/// What the run has been told so far by what is on it.
+QStringList told(const FakeSarne& run) {
+    QStringList all;
+    for (const auto& [word, list] : {std::pair("asks for ", run.recorded.calls),
+                                     {"message ", run.messages},
+                                     {"announces ", run.announced},
+                                     {"awake ", run.awake},
+                                     {"music ", run.player.commands},
+                                     {"speech ", run.speech.said}})
+        for (const QString& one : list) all << QLatin1String(word) + one.simplified();
+    for (const QByteArray& effect : run.sounds.played)
+        all << u"plays "_s +
+                   (effect.startsWith("RIFF") ? u"%1 bytes"_s.arg(effect.size()) : QString::fromUtf8(effect));
+    all << QStringList(run.beeps, u"beeps"_s) << QStringList(run.exits, u"exits"_s);
+    return all;
+}
+
+/// What of \a now was not there \a before, and which widgets have gone from forms that still show.
+QStringList changes(QStringList before, const QStringList& now) {
+    QStringList lines;
+    for (const QString& line : now)
+        if (!before.removeOne(line)) lines << u"+ "_s + line;
+    const QString all = u'\n' + now.join(u'\n');
+    for (const QString& line : before) {
+        const QString name = line.section(u": "_s, 0, 0);
+        const bool isWidget = !name.contains(u'|') && line.contains(u": "_s);
+        const auto isThere = [&](const QString& one) { return all.contains(u'\n' + one + u':'); };
+        const bool wasThere = !name.contains(u'/') || isThere(name.section(u'/', 0, -2));
+        if (isWidget && wasThere && !isThere(name)) lines << u"- "_s + name;
+    }
+    return lines;
+}
+
+using Act = std::function<void(FakeSarne&)>;
+
+struct Step {
+    QString name;
+    Act act;
+    bool byKey = false, isForEyes = false;
+};
+
+Form* front(const FakeSarne& run) {
+    Form* form = nullptr;
+    for (QObject* child : run.window.children())
+        if (auto* one = qobject_cast<Form*>(child); one && one->isVisible()) form = one;
+    return form;
+}
+
+void pressKey(FakeSarne& run, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QWidget* at = run.window.focusWidget();
+    if (!at) at = front(run);
+    if (at) QTest::keyClick(at, key, modifiers);
+}
+
+/// The mouse comes to \a twips of the control of the form in front called \a name and clicks what lies there.
+void click(const FakeSarne& run, const QString& name, QPoint twips, bool twice) {
+    const auto* control = front(run) ? front(run)->findChild<Control*>(name) : nullptr;
+    if (!control) return;
+    const QPoint at = control->mapTo(&run.window, control->toPixels(twips));
+    auto* hit = run.window.childAt(at);
+    if (!hit) return;
+    const QPoint within = hit->mapFrom(&run.window, at);
+    QTest::mouseMove(hit, within + QPoint(1, 0));
+    QTest::mouseMove(hit, within);
+    const QPointer<QWidget> still = hit;
+    QTest::mouseClick(hit, Qt::LeftButton, {}, within);
+    if (twice && still) QTest::mouseDClick(still, Qt::LeftButton, {}, within);
+}
+
+/// Steps that use \a control: its middle, and the first things within it.
+void addClicks(std::vector<Step>& steps, const Control& control) {
+    const QString name = control.objectName();
+    std::vector<QPoint> places{QRect({}, control.twips().size()).center()};
+    for (int i = 0, found = 0; i < control.partCount() && found < 3; ++i)
+        if (const QRect place = control.part(i).place; !place.isEmpty() && ++found)
+            places.push_back(place.center());
+    for (const QPoint place : places) {
+        const QString step = u"%1 at %2,%3"_s.arg(name).arg(place.x()).arg(place.y());
+        steps.push_back({u"click "_s + step, [=](FakeSarne& run) { click(run, name, place, false); }});
+        if (places.size() > 1 || name.startsWith(u"lbl"))
+            steps.push_back({u"double "_s + step, [=](FakeSarne& run) { click(run, name, place, true); }});
+    }
+}
+
+/// Of many alike the first three and the last: "imgFoto(1)".
+bool isOneOfMany(const Form& form, const QString& name) {
+    const QString stem = name.section(u'(', 0, 0) + u'(';
+    const int number = name.section(u'(', 1).chopped(1).toInt();
+    constexpr int kFew = 10;
+    int last = 0;
+    for (const auto* control : form.findChildren<Control*>())
+        if (control->isVisible() && control->objectName().startsWith(stem))
+            last = std::max(last, control->objectName().section(u'(', 1).chopped(1).toInt());
+    return name.contains(u'(') && last >= kFew && number > 2 && number < last;
+}
+
+std::vector<Step> stepsOn(const FakeSarne& run) {
+    std::vector<Step> steps;
+    const Form* form = front(run);
+    if (!form) return steps;
+    for (const auto* control : form->findChildren<Control*>()) {
+        if (!control->isVisible() || !control->isEnabled() || control->size().isEmpty()) continue;
+        if (!control->testAttribute(Qt::WA_TransparentForMouseEvents) &&
+            !isOneOfMany(*form, control->objectName()))
+            addClicks(steps, *control);
+    }
+    const auto keys = {Qt::Key_Down,   Qt::Key_Up,       Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Home,
+                       Qt::Key_End,    Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Tab,    Qt::Key_Backtab,
+                       Qt::Key_Return, Qt::Key_Space,    Qt::Key_Escape, Qt::Key_Delete, Qt::Key_Backspace,
+                       Qt::Key_F1,     Qt::Key_F2,       Qt::Key_F3,     Qt::Key_F4,     Qt::Key_F5,
+                       Qt::Key_F6,     Qt::Key_F7,       Qt::Key_F8,     Qt::Key_F9,     Qt::Key_F10,
+                       Qt::Key_0,      Qt::Key_3,        Qt::Key_A,      Qt::Key_C,      Qt::Key_K,
+                       Qt::Key_N,      Qt::Key_S,        Qt::Key_X,      Qt::Key_Plus,   Qt::Key_Minus};
+    for (const Qt::Key key : keys)
+        steps.push_back(
+            {u"key "_s + QKeySequence(key).toString(), [=](FakeSarne& on) { pressKey(on, key); }, true});
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Tab})
+        steps.push_back({u"keys %1, Enter"_s.arg(QKeySequence(key).toString()),
+                         [=](FakeSarne& on) {
+                             pressKey(on, key);
+                             pressKey(on, Qt::Key_Return);
+                         },
+                         true});
+    steps.push_back(
+        {u"keys Alt+F4"_s, [](FakeSarne& on) { pressKey(on, Qt::Key_F4, Qt::AltModifier); }, true});
+    steps.push_back(
+        {u"keys Ctrl+Z"_s, [](FakeSarne& on) { pressKey(on, Qt::Key_Z, Qt::ControlModifier); }, true});
+    steps.push_back({u"wheel"_s, [](FakeSarne& on) {
+                         if (front(on)) wheel(*front(on), -120);
+                     }});
+    steps.push_back(
+        {u"letters of 150 %"_s, [](FakeSarne& on) { on.window.eyes().setTextPercent(150); }, false, true});
+    steps.push_back({u"contrast"_s, [](FakeSarne& on) { on.window.eyes().setContrast(true); }, false, true});
+    steps.push_back({u"wide"_s, [](FakeSarne& on) { on.window.resize(1200, 600); }, false, true});
+    return steps;
+}
+
+QStringList numbered(const QStringList& lines, bool missing) {
+    QStringList all;
+    for (const QString& line : lines.mid(0, 12)) all << (missing ? u"    -"_s : u"    +"_s) + line;
+    if (lines.size() > 12) all << u"    … and %1 more"_s.arg(lines.size() - 12);
+    return all;
+}
+
+bool isNearly(const QString& kept, const QString& now) {
+    const auto bytes = [](const QString& line) {
+        return QByteArray::fromBase64(line.mid(kLooks.size()).toLatin1());
+    };
+    return kept.startsWith(kLooks) && now.startsWith(kLooks) &&
+           Looks::difference(bytes(kept), bytes(now)) < 0.02;
+}
+
+/// The lines under their steps.
+QList<std::pair<QString, QStringList>> parted(const QStringList& lines) {
+    QList<std::pair<QString, QStringList>> parts{{u"> opened"_s, {}}};
+    for (const QString& line : lines)
+        line.startsWith(kStep) ? void(parts.append({line, {}})) : void(parts.last().second << line);
+    return parts;
+}
+
+QStringList differences(const QStringList& kept, const QStringList& now) {
+    QStringList all;
+    const auto before = parted(kept), after = parted(now);
+    QHash<QString, QStringList> byStep;
+    for (const auto& [step, lines] : before) byStep[step] = lines;
+    for (const auto& [step, lines] : after) {
+        QStringList gone = byStep.take(step), come;
+        for (const QString& line : lines) {
+            const auto same = std::ranges::find_if(
+                gone, [&](const QString& old) { return old == line || isNearly(old, line); });
+            same == gone.end() ? void(come << line) : void(gone.erase(same));
+        }
+        if (!gone.isEmpty() || !come.isEmpty()) all << step << numbered(gone, true) << numbered(come, false);
+    }
+    for (auto left = byStep.cbegin(); left != byStep.cend(); ++left) all << left.key() + u" is no more"_s;
+    if (all.isEmpty() && before.size() == after.size() && kept.size() != now.size())
+        all << u"the number of lines"_s;
+    return all;
+}
+
+class Explorer {
+  public:
+    explicit Explorer(std::function<void(const Look&)> scene) : scene_(std::move(scene)) {
+        FakeSarne::resourceFolder = resourceFolder();
+    }
+    ~Explorer() { FakeSarne::resourceFolder = u":/none/"_s; }
+    Explorer(const Explorer&) = delete;
+    Explorer& operator=(const Explorer&) = delete;
+
+    /// How the screen is when it was opened.
+    QStringList opened() {
+        opened_ = after([&](FakeSarne& run) { steps_ = stepsOn(run); });
+        EXPECT_FALSE(opened_.isEmpty()) << "the scene has shown nothing";
+        return opened_ << looks_;
+    }
+    /// What each step changes. The keyboard's first key shows where it is: that is said once.
+    QStringList each(bool onlyForEyes = false) {
+        const QStringList keyed = after([](FakeSarne& run) { pressKey(run, Qt::Key_F12); });
+        QHash<QStringList, QString> known;
+        QStringList lines = QStringList(kStep + u"any key"_s) << changes(opened_, keyed);
+        for (const Step& step : steps_) {
+            if (!step.isForEyes && onlyForEyes) continue;
+            const QStringList changed = changes(step.byKey ? keyed : opened_, after(step.act));
+            if (changed.isEmpty()) continue;
+            lines << kStep + step.name;
+            known.contains(changed) ? lines << u"as "_s + known[changed] : lines << changed;
+            known.insert(changed, known.value(changed, step.name));
+            if (step.isForEyes) lines << looks_;
+        }
+        return lines;
+    }
+
+  private:
+    QStringList after(const Act& act) {
+        QStringList lines;
+        scene_([&](FakeSarne& run) {
+            settle();
+            act(run);
+            settle();
+            lines = record(run.window) << told(run);
+            looks_ = thumbnail(run.window);
+        });
+        return lines;
+    }
+
+    Stillness still_;
+    std::function<void(const Look&)> scene_;
+    std::vector<Step> steps_;
+    QStringList opened_;
+    QString looks_;
+};
+
+}  // namespace
+
+void expectAsKept(const QString& name, const QStringList& lines) {
+    const QString file = u"%1/golden/%2.txt"_s.arg(QString::fromUtf8(kFolder), name);
+    QStringList kept = QString::fromUtf8(bytesOf(file)).split(u'\n');
+    kept.removeLast();
+    QStringList now = lines;
+    static const QRegularExpression madeForTest(QRegularExpression::escape(QDir::tempPath()) + u"/[\\w-]+"_s +
+                                                u"(\\.\\w{6})?"_s);
+    const QDate today = QDate::currentDate();
+    for (QString& line : now) {
+        line.replace(madeForTest, u"TMP"_s).replace(u'\n', u'¶').remove(u'\r');
+        for (const QString& date : {today.toString(Qt::ISODate), today.toString(u"d. M. yyyy"_s)})
+            line.replace(date, u"TODAY"_s);
+    }
+    const QStringList differ = differences(kept, now);
+    if (!differ.isEmpty() && qEnvironmentVariableIsSet("SARNE_RENEW")) {
+        ASSERT_TRUE(write(file, (now.join(u'\n') + u'\n').toUtf8()));
+        return;
+    }
+    EXPECT_TRUE(differ.isEmpty()) << name.toStdString() << " is not as it was kept; if it is meant to be so, "
+                                  << "SARNE_RENEW=1 keeps it:\n"
+                                  << differ.mid(0, 60).join(u'\n').toStdString();
+}
+
+void explore(const char* name, const std::function<void(const Look&)>& scene) {
+    Explorer explorer(scene);
+    const QStringList opened = explorer.opened();
+    expectAsKept(QString::fromUtf8(name), opened + explorer.each());
+}
+
+void expectLooks(const char* name, const std::function<void(const Look&)>& scene) {
+    Explorer explorer(scene);
+    const QStringList opened = explorer.opened();
+    expectAsKept(QString::fromUtf8(name), opened + explorer.each(true));
+}
+
+}  // namespace sarne::test
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QStringList>
+#include <functional>
+
+namespace sarne {
+
+class FakeSarne;
+
+namespace test {
+
+/// Compares \a lines with the file golden/\a name.txt of the test's folder and tells what differs. With the
+/// environment's SARNE_RENEW it writes the file anew: its difference is then to be looked at.
+void expectAsKept(const QString& name, const QStringList& lines);
+
+/// Called by a scene once its screen stands there.
+using Look = std::function<void(FakeSarne& run)>;
+
+/// Opens a screen again and again by \a scene, which begins each time from nothing, and does one thing with
+/// it each time: every control by the mouse, every key, the wheel, larger letters, contrast, a wide display.
+/// What that changes of all that can be noticed is compared with what is kept as \a name.
+void explore(const char* name, const std::function<void(const Look& look)>& scene);
+
+/// Only how it looks: nothing is done with it but for the eyes.
+void expectLooks(const char* name, const std::function<void(const Look& look)>& scene);
+/// One of the two.
+inline void exploreOrLook(bool isExplored, const char* name,
+                          const std::function<void(const Look& look)>& scene) {
+    isExplored ? explore(name, scene) : expectLooks(name, scene);
+}
+
+}  // namespace test
+}  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later

@@ -1,0 +1,263 @@
+#include "support/screenrecord.h"
+
+#include <QAccessible>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <cmath>
+
+#include "forms/accessiblecontrol.h"
+#include "forms/control.h"
+#include "forms/form.h"
+#include "forms/stage.h"
+#include "support/print.h"
+
+namespace sarne::test {
+namespace {
+
+QString placeText(const QRectF& place) {
+    return u"%1,%2 %3x%4"_s.arg(std::lround(place.x()))
+        .arg(std::lround(place.y()))
+        .arg(std::lround(place.width()))
+        .arg(std::lround(place.height()));
+}
+
+QString colorText(const QColor& color) {
+    return color.alpha() == 255 ? color.name() : color.name(QColor::HexArgb);
+}
+
+QString brushText(const QBrush& brush) {
+    if (brush.style() == Qt::NoBrush) return u"-"_s;
+    if (brush.style() == Qt::TexturePattern) return u"texture"_s;
+    if (!brush.gradient()) return colorText(brush.color());
+    QStringList stops;
+    for (const auto& [at, color] : brush.gradient()->stops()) stops << colorText(color);
+    return stops.join(u'>');
+}
+
+QString pictureText(const QImage& image) {
+    return image.isNull()
+               ? u"none"_s
+               : colorText(
+                     image.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0));
+}
+
+/// Writes down what it is told to paint.
+class Writer final : public QPaintEngine {
+  public:
+    Writer() : QPaintEngine(AllFeatures) {}
+
+    QHash<const QObject*, QStringList> painted;
+
+    void paintsNow(const QWidget* widget, QPoint corner) {
+        widget_ = widget;
+        corner_ = corner;
+        text_.clear();
+        picture_.clear();
+    }
+    Type type() const override { return User; }
+    bool begin(QPaintDevice*) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState& now) override {
+        pen_ = now.pen();
+        brush_ = now.brush();
+        opacity_ = now.opacity();
+        transform_ = now.transform();
+    }
+    void drawPath(const QPainterPath& path) override { shape("shape", path.boundingRect()); }
+    void drawPolygon(const QPointF* points, int count, PolygonDrawMode) override {
+        shape("polygon", QPolygonF(QList<QPointF>(points, points + count)).boundingRect());
+    }
+    void drawRects(const QRectF* rects, int count) override {
+        for (int i = 0; i < count; ++i) shape("rect", rects[i]);
+    }
+    void drawLines(const QLineF* lines, int count) override {
+        for (int i = 0; i < count; ++i) shape("line", QRectF(lines[i].p1(), lines[i].p2()));
+    }
+    void drawPixmap(const QRectF& place, const QPixmap& pixmap, const QRectF&) override {
+        const QString picture = pictureText(pixmap.toImage());
+        const QRectF pixels = transform_.mapRect(place).translated(-corner_);
+        QStringList& lines = painted[widget_];
+        if (picture == picture_) lines.removeLast();  // a frame is painted in pieces
+        pictured_ = picture == picture_ ? pictured_ | pixels : pixels;
+        text_.clear();
+        picture_ = picture;
+        lines << u"picture "_s + picture + opacityText() + u' ' + placeText(pictured_);
+    }
+    void drawTiledPixmap(const QRectF& place, const QPixmap& pixmap, const QPointF&) override {
+        drawPixmap(place, pixmap, {});
+    }
+    void drawImage(const QRectF& place, const QImage& image, const QRectF& part,
+                   Qt::ImageConversionFlags) override {
+        write(u"image "_s + pictureText(image.copy(part.toRect())), place);
+    }
+    /// Words of one look on one line are one text.
+    void drawTextItem(const QPointF& at, const QTextItem& item) override {
+        const QFont font = item.font();
+        const QPointF place = transform_.map(at) - corner_;
+        const double size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF();
+        const QString looks = u"%1 %2%3%4 %5%6 y%7"_s.arg(font.family())
+                                  .arg(size * transform_.m22(), 0, 'f', 1)
+                                  .arg(font.bold() ? u"b"_s : QString(), font.italic() ? u"i"_s : QString(),
+                                       colorText(pen_.color()), opacityText())
+                                  .arg(std::lround(place.y()));
+        QStringList& lines = painted[widget_];
+        if (looks == text_)
+            lines.last().insert(lines.last().size() - 1, item.text());
+        else
+            lines << u"%1 x%2 '%3'"_s.arg(looks).arg(std::lround(place.x())).arg(item.text());
+        text_ = looks;
+        picture_.clear();
+    }
+
+  private:
+    QString opacityText() const { return opacity_ == 1 ? QString() : u" %1%"_s.arg(qRound(100 * opacity_)); }
+    void shape(const char* kind, const QRectF& place) {
+        const QString pen = pen_.style() == Qt::NoPen
+                                ? u"-"_s
+                                : u"%1/%2"_s.arg(colorText(pen_.color())).arg(std::lround(pen_.widthF()));
+        write(u"%1 %2 %3"_s.arg(QLatin1String(kind), brushText(brush_), pen), place);
+    }
+    void write(const QString& what, const QRectF& place) {
+        text_.clear();
+        picture_.clear();
+        const QRectF pixels = transform_.mapRect(place).translated(-corner_);
+        painted[widget_] << what + opacityText() + u' ' + placeText(pixels);
+    }
+
+    const QWidget* widget_ = nullptr;
+    QPoint corner_;
+    QPen pen_;
+    QBrush brush_;
+    double opacity_ = 1;
+    QTransform transform_;
+    QString text_, picture_;  // how the last thing looks, where that was one
+    QRectF pictured_;
+};
+
+/// A device that is as large as the stage, and tells its writer who paints.
+class Paper final : public QPaintDevice, public QObject {
+  public:
+    explicit Paper(Stage& stage) : stage_(stage) {
+        qApp->installEventFilter(this);
+        stage.render(this);
+        qApp->removeEventFilter(this);
+    }
+    QStringList of(const QObject* widget) const { return writer_.painted.value(widget); }
+    QPaintEngine* paintEngine() const override { return &writer_; }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (const auto* widget = qobject_cast<QWidget*>(watched); widget && event->type() == QEvent::Paint)
+            writer_.paintsNow(widget, widget->mapTo(&stage_, QPoint()));
+        return false;
+    }
+
+  protected:
+    int metric(PaintDeviceMetric metric) const override {
+        switch (metric) {
+            case PdmWidth:
+                return stage_.width();
+            case PdmHeight:
+                return stage_.height();
+            case PdmDpiX:
+            case PdmDpiY:
+            case PdmPhysicalDpiX:
+            case PdmPhysicalDpiY:
+                return stage_.logicalDpiX();
+            case PdmDevicePixelRatio:
+                return 1;
+            case PdmDevicePixelRatioScaled:
+                return int(QPaintDevice::devicePixelRatioFScale());
+            default:
+                return 32;
+        }
+    }
+
+  private:
+    Stage& stage_;
+    mutable Writer writer_;
+};
+
+QString stateText(const QAccessible::State& state) {
+    QString text;
+    for (const auto& [is, word] : {std::pair(bool(state.checked), u" checked"_s),
+                                   {bool(state.selected), u" selected"_s},
+                                   {bool(state.pressed), u" pressed"_s},
+                                   {bool(state.readOnly), u" read-only"_s}})
+        if (is) text += word;
+    return text;
+}
+
+QString said(const QAccessibleInterface& heard) {
+    QStringList all;
+    for (const auto kind : {QAccessible::Name, QAccessible::Value, QAccessible::Description}) {
+        const QString text = heard.text(kind).simplified();
+        if (!text.isEmpty()) all << u"%1'%2'"_s.arg(QLatin1String("NDV").mid(kind, 1), text);
+    }
+    return all.join(u' ');
+}
+
+void addParts(QStringList& lines, const QString& name, const Control& control) {
+    int shown = 0;
+    for (int i = 0; i < control.partCount() && shown < 12; ++i) {
+        const AccessiblePart part = control.part(i);
+        if (part.place.isEmpty()) continue;
+        ++shown;
+        lines << u"%1.%2 role %3 '%4' '%5' %6%7%8%9"_s.arg(name).arg(i).arg(part.role).arg(
+            part.name.simplified(), part.description.simplified(), placeText(part.place),
+            part.isCurrent ? u" current"_s : QString(), part.isUsable ? QString() : u" useless"_s,
+            part.isCheckable ? (part.isChecked ? u" ticked"_s : u" unticked"_s) : QString());
+    }
+}
+
+void addWidget(QStringList& lines, const QWidget& widget, const QString& within, const Paper& paper) {
+    const QString own = widget.objectName().isEmpty() ? QString::fromLatin1(widget.metaObject()->className())
+                                                      : widget.objectName();
+    const QString name = within.isEmpty() ? own : within + u'/' + own;
+    const auto* twips = dynamic_cast<const TwipWidget*>(&widget);
+    const auto* control = qobject_cast<const Control*>(&widget);
+    QString line =
+        u"%1: %2 %3"_s.arg(name, QString::fromLatin1(widget.metaObject()->className()).section(u':', -1),
+                           placeText(twips ? twips->twips() : widget.geometry()));
+    if (!widget.isEnabled()) line += u" disabled"_s;
+    if (widget.hasFocus()) line += u" focus"_s;
+    if (widget.testAttribute(Qt::WA_SetCursor)) line += u" pointer %1"_s.arg(widget.cursor().shape());
+    if (widget.testAttribute(Qt::WA_TransparentForMouseEvents)) line += u" through"_s;
+    if (!widget.toolTip().isEmpty() && widget.toolTip().trimmed() != widget.accessibleName())
+        line += u" tip '%1'"_s.arg(widget.toolTip());
+    if (!widget.isVisible()) {
+        lines << line + u" hidden"_s;
+        return;
+    }
+    if (twips) {
+        const QAccessibleInterface* heard =
+            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget));
+        line += control && control->isUnheard()
+                    ? u" unheard"_s
+                    : u" role %1 %2%3"_s.arg(heard->role()).arg(said(*heard), stateText(heard->state()));
+    }
+    lines << line.trimmed();
+    if (control) addParts(lines, name, *control);
+    for (const QString& painted : paper.of(&widget)) lines << name + u"| "_s + painted;
+    for (const QObject* child : widget.children())
+        if (const auto* inner = qobject_cast<const QWidget*>(child)) addWidget(lines, *inner, name, paper);
+}
+
+}  // namespace
+
+QStringList record(Stage& stage) {
+    registerAccessibleControls();
+    const Paper paper(stage);
+    QStringList lines;
+    for (const QString& painted : paper.of(&stage)) lines << u"stage| "_s + painted;
+    for (const QObject* child : stage.children())
+        if (const auto* widget = qobject_cast<const QWidget*>(child); widget && widget->isVisible())
+            addWidget(lines, *widget, {}, paper);
+    return lines;
+}
+
+}  // namespace sarne::test
+
+// SPDX-License-Identifier: GPL-3.0-or-later
