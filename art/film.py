@@ -18,7 +18,7 @@ import bpy  # noqa: E402
 import numpy as np  # noqa: E402
 from mathutils import Vector  # noqa: E402
 
-from lib import core, fish as fishlib, food, table  # noqa: E402
+from lib import core, fish as fishlib, food, table, tools  # noqa: E402
 from lib.core import box, curve_points, fbm, group, lathe, mat, mesh, outline_solid, put, smooth_profile, sphere, tube  # noqa: E402
 
 OUT = os.path.join(core.RENDERED, "film")
@@ -541,10 +541,10 @@ THINGS = {
     "kapr-zabry": lambda: gillcover(True), "kapr-bez-zaber": lambda: gillcover(False), "kustky": finebones, "hrnec-ryba": lambda: potted(fish="raw"), "hrnec-ryba-varena": lambda: potted(fish="done"),
     "forma-dnem": mouldover, "svitek": rolledskin,
     "uterka": lambda: table.cloth("check", 5.2, 3.8, folds=.3), "forma-dno": lambda: aspicstage("dno"), "forma-kousky": lambda: aspicstage("kousky"), "aspik": turnedout,
-    "ubrus": lambda: ground("ubrus"), "sporak": lambda: ground("sporak"),
-}
+    "ubrus": lambda: ground("ubrus"), "sporak": lambda: ground("sporak"), "cejn": lambda: whole("bream"),
+} | tools.TOOLS
 GROUNDS = {"ubrus": 70, "sporak": 70}   # of these the middle, 18 x 14 units, is rendered at so many pixels a unit
-SMALLER = {"prkno": .66} | dict.fromkeys("panev panev-tuk hrnec hrnec-voda hrnec-ryba hrnec-ryba-varena forma-dnem poklice talir talir-mouka talir-vejce talir-strouhanka misa forma forma-aspik forma-dno forma-kousky aspik uterka".split(), .5)   # share of the usual scale at which a large thing is rendered
+SMALLER = {"prkno": .66} | dict.fromkeys("panev panev-tuk hrnec hrnec-voda hrnec-ryba hrnec-ryba-varena forma-dnem poklice talir talir-mouka talir-vejce talir-strouhanka misa forma forma-aspik forma-dno forma-kousky aspik uterka pekac plech mrizka rybi-hrnec zapekaci-misa kastrol".split(), .5)   # share of the usual scale at which a large thing is rendered
 
 
 def seen(o):

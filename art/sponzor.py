@@ -21,11 +21,6 @@ from lib.core import group, put  # noqa: E402
 
 OUT = os.path.join(core.RENDERED, "sponzor")
 
-# A bream is a carp's high-backed, silvery cousin.
-fishlib.KINDS["bream"] = dict(fishlib.KINDS["carp"], back="4b5148", side="aab0a4", belly="e2e1d4", fin="5a5a52", scales=48,
-                              scalehard=.5, barbel=0, w=.07, anal=(.58, .84, .09))
-
-
 def fish_of_our_waters():
     kinds = (("carp", "Kapr", 4.2), ("trout", "Pstruh", 4.2), ("pike", "Štika", 4.6),
              ("zander", "Candát", 4.4), ("perch", "Okoun", 3.8), ("tench", "Lín", 4.0),

@@ -78,6 +78,9 @@ KINDS = {
                   back="2f3a1c", side="6d6a30", belly="b9a452", fin="3f3d22", scales=85, scalehard=.35, barbel=1, mouth=-.1),
 }
 _SELF = _text_of_skin()
+# A bream is a carp's high-backed, silvery cousin.
+KINDS["bream"] = dict(KINDS["carp"], back="4b5148", side="aab0a4", belly="e2e1d4", fin="5a5a52", scales=48, scalehard=.5,
+                      barbel=0, w=.07, anal=(.58, .84, .09))
 KINDS["goldfish"] = dict(KINDS["carp"], back="b5481a", side="e0771f", belly="efb04a", fin="d96a22", scales=26)
 
 

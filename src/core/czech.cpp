@@ -25,6 +25,10 @@ QString foldedWords(const QString& text) {
     return words.back() == u' ' ? words : words + u' ';
 }
 
+QString fileWords(const QString& text) {
+    return foldedWords(text).trimmed().replace(u' ', u'-');
+}
+
 const QString& Noun::behind(double number) const {
     constexpr double kMany = 5;
     if (number != std::floor(number)) return part;

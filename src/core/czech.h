@@ -12,6 +12,9 @@ QString folded(const QString& text);
 /// "los" where " los" is found.
 QString foldedWords(const QString& text);
 
+/// The words of \a text as a file is called after it: "ostry-nuz". Empty when it has no letter.
+QString fileWords(const QString& text);
+
 /// A noun as it stands behind a number: 1 lžíce, 2 lžíce, 5 lžic, and 2,5 lžíce.
 struct Noun {
     QString one, few, many;

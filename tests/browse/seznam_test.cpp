@@ -43,6 +43,10 @@ TEST_F(SeznamTest, AShortListFillsItsSheetWithLargerRows) {
     row(1)->autoSize(seznam::row(1).width());
     EXPECT_GT(row(1)->twips().height(), bar.height() / 2) << "two lines";
     EXPECT_LE(row(1)->twips().height(), bar.height()) << "and both whole";
+    for (const char* photo : {"foto/Male/r1.bmp", "foto/Male/r2.bmp"}) writePhoto(photo);
+    list->Zobraz(u"1,2,"_s, u"Recepty"_s);
+    EXPECT_EQ(row(2)->twips(), seznam::rowBar(2, seznam::kCardPitch)) << "each with its photo";
+    EXPECT_EQ(list->grab().toImage().pixelColor(seznam::cardPhoto(2).center() / 15), QColor(Qt::red));
     list->Zobraz(u"1,2,3,4,5,6,7,8,"_s, u"Recepty"_s);
     EXPECT_EQ(row(8)->twips(), seznam::rowBar(8)) << "the same list filled anew";
     EXPECT_TRUE(row(kRows)->isVisible());

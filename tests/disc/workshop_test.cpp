@@ -124,7 +124,9 @@ TEST_F(PhotosTest, ThingsOfTheFilmsAndWideGalleriesAreTakenAsTheyAre) {
         draw(file, Qt::red, {336, 144});
     for (const int id : {4, 5}) book_.gallery.emplace_back().id = id;
     book_.keywordPictures << KeywordPicture{{}, {}, u"kapr"_s, {}, 0};
+    book_.toolPictures << ToolPicture{{}, u"velký nůž"_s, u"kapr"_s};
     makePhotos(shop_);
+    EXPECT_EQ(QImage(path("disc/foto/pomucky/velky-nuz.webp")).size(), QSize(1600, 1200));
     EXPECT_EQ(QImage(path("disc/foto/hesla/kapr.webp")).size(), QSize(1600, 1200));
     EXPECT_EQ(QImage(path("disc/foto/sponzor/4-siroke.jpg")).size(), QSize(336, 144));
     EXPECT_FALSE(QFile::exists(path("disc/foto/sponzor/5-siroke.jpg")));

@@ -2,6 +2,7 @@
 #include <QDeadlineTimer>
 
 #include "recipe/recipefixture.h"
+#include "screens/recipe/toolgrid.h"
 #include "support/files.h"
 #include "support/pictures.h"
 
@@ -78,6 +79,38 @@ TEST_F(ScreenTest, EverySectionShowsItsOwn) {
     EXPECT_EQ(form->childAt(at("lblIkona(4)").geometry().center()), &at("lblIkona(4)"));
     QTest::mouseClick(&at("lblIkona(4)"), Qt::LeftButton);
     EXPECT_EQ(form->section(), 4);
+}
+
+TEST_F(ScreenTest, ToolsStandAsPicturesBesideTheirListWhereThereAreThree) {
+    auto& beside = at<PictureBox>("picVedle");
+    for (const char* tool : {"ciska", "panev", "varecka"}) {
+        section(6);
+        EXPECT_FALSE(beside.isVisible());
+        makePicture(u"foto/pomucky/%1.png"_s.arg(QLatin1String(tool)), qRgb(200, 30, 40));
+    }
+    section(6);
+    EXPECT_EQ(beside.drawnText(), u"číška\npánev\nvařečka"_s);
+    const QImage shot = beside.grab().toImage();
+    EXPECT_EQ(shot.pixelColor(shot.width() / 4, shot.height() / 4), QColor(200, 30, 40));
+    section(1);
+    EXPECT_FALSE(beside.isVisible());
+}
+
+TEST(ToolGridTest, FillsItsRoomWithPicturesOfOneSizeThatDoNotMeet) {
+    const QRect room(100, 200, 5800, 5900);
+    for (int count = 1; count <= kMostTools; ++count) {
+        const auto places = toolPlaces(room, count, 300);
+        ASSERT_EQ(places.size(), count);
+        QRegion taken;
+        for (const auto& [picture, name] : places) {
+            EXPECT_EQ(picture.size(), places[0].picture.size());
+            EXPECT_TRUE(room.contains(picture | name) && !taken.intersects(picture | name)) << count;
+            taken += picture | name;
+        }
+        EXPECT_GT(4 * places[0].picture.width() * places[0].picture.height() * count,
+                  room.width() * room.height())
+            << count;
+    }
 }
 
 TEST_F(ScreenTest, ARecipeThatDoesNotExistHasNoTexts) {

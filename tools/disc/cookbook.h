@@ -152,6 +152,14 @@ struct KeywordPicture {
     int recipe = 0;
 };
 
+/// The picture that pomucky.txt gives a tool.
+struct ToolPicture {
+    Place place;
+    QString tool;
+    /// The name of one of the films' things.
+    QString thing;
+};
+
 struct QuickRecipe {
     int id = 0;
     Place place;
@@ -314,6 +322,7 @@ struct Cookbook {
     QList<Ingredient> ingredients;
     NamedList refinements;
     NamedList tools;
+    QList<ToolPicture> toolPictures;
     QList<Wine> wines;
     UnitWeights unitWeights;
     /// By ingredient, or "ingredient, refinement", in lower case.

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "core/czech.h"
 #include "core/gridtable.h"
 #include "nearword.h"
 #include "ownfiles.h"
@@ -266,30 +267,44 @@ QList<Task> wideTasks(const Workshop& shop, const QString& from, const QString& 
              }}};
 }
 
-/// The films' things that stand beside keywords: as they are, so that the paper shows around them.
-QList<Task> thingTasks(Workshop& shop) {
-    const QDir things(shop.art + QStringLiteral("/rendered/film"));
-    QStringList known;
-    for (const QFileInfo& file : things.entryInfoList({QStringLiteral("*.webp")})) known << file.baseName();
-    QList<Task> tasks;
-    QSet<QString> taken;
-    for (const KeywordPicture& picture : shop.book.keywordPictures) {
-        if (picture.recipe > 0 || taken.contains(picture.thing)) continue;
-        taken << picture.thing;
-        const QString from = things.filePath(picture.thing + QStringLiteral(".webp"));
-        const QString to = shop.disc + QStringLiteral("/foto/hesla/%1.webp").arg(picture.thing);
-        if (!known.contains(picture.thing))
-            shop.problems.error(picture.place,
-                                QStringLiteral("obraz „%1“ v art/rendered/film není").arg(picture.thing) +
-                                    didYouMean(picture.thing, known));
-        else
-            tasks << Task{{to}, originOf({from}, stamp::photos()), [=] {
-                              QFile::remove(to);
-                              return QFile::copy(from, to);
-                          }};
+/// The films' things as they are, so that the paper shows around them: those that stand beside keywords under
+/// their own names, those that show a tool under the tool's.
+class Things {
+  public:
+    explicit Things(Workshop& shop)
+        : shop_(shop), folder_(shop.art + QStringLiteral("/rendered/film"), QStringLiteral("*.webp")) {
+        for (const QFileInfo& file : folder_.entryInfoList()) known_ << file.baseName();
+        for (const KeywordPicture& picture : shop.book.keywordPictures)
+            if (picture.recipe == 0)
+                add(picture.place, picture.thing, QStringLiteral("hesla/") + picture.thing);
+        for (const ToolPicture& picture : shop.book.toolPictures)
+            add(picture.place, picture.thing, QStringLiteral("pomucky/") + fileWords(picture.tool));
     }
-    return tasks;
-}
+
+    QList<Task> tasks() const { return tasks_; }
+
+  private:
+    void add(const Place& place, const QString& thing, const QString& target) {
+        const QString from = folder_.filePath(thing + QStringLiteral(".webp"));
+        if (taken_.contains(target)) return;
+        taken_ << target;
+        const QString to = shop_.disc + QStringLiteral("/foto/%1.webp").arg(target);
+        if (!known_.contains(thing))
+            shop_.problems.error(place, QStringLiteral("obraz „%1“ v art/rendered/film není").arg(thing) +
+                                            didYouMean(thing, known_));
+        else
+            tasks_ << Task{{to}, originOf({from}, stamp::photos()), [=] {
+                               QFile::remove(to);
+                               return QFile::copy(from, to);
+                           }};
+    }
+
+    Workshop& shop_;
+    QDir folder_;
+    QStringList known_;
+    QSet<QString> taken_;
+    QList<Task> tasks_;
+};
 
 /// The fifty cells of the grid, where a number without a recipe shows an empty plate, then what it has no
 /// cell for.
@@ -354,7 +369,7 @@ void checkPhotos(Workshop& shop) {
     checkLeftOver(shop);
     ofWines(shop);
     for (const GalleryPicture& picture : shop.book.gallery) ofGallery(shop, picture);
-    thingTasks(shop);
+    Things(shop).tasks();
 }
 
 void makePhotos(Workshop& shop) {
@@ -369,7 +384,7 @@ void makePhotos(Workshop& shop) {
         const QString target = QStringLiteral("foto/sponzor/%1").arg(picture.id);
         tasks << pictureTask(shop, from, picture.name, target, kScreenSize) << wideTasks(shop, from, target);
     }
-    tasks << thingTasks(shop);
+    tasks << Things(shop).tasks();
     if (shop.makeAll(tasks)) shop.makeAll(gridTasks(shop, dishes));
 }
 

@@ -66,6 +66,12 @@ NamedList readNames(const ContentFolder& folder, const QString& file, Problems& 
     return list;
 }
 
+void readTools(const ContentFolder& folder, Cookbook& book, Problems& problems) {
+    book.tools = readNames(folder, QStringLiteral("pomucky.txt"), problems);
+    for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("pomucky.txt"))))
+        if (!row.at(1).isEmpty()) book.toolPictures << ToolPicture{row.place, row.at(0), row.at(1)};
+}
+
 void readWines(const ContentFolder& folder, Cookbook& book, Problems& problems) {
     for (const Row& row : tableRows(folder.readIfThere(QStringLiteral("vina.txt")))) {
         if (row.at(1).isEmpty()) problems.error(row.place, QStringLiteral("víno nemá druh"));
@@ -270,7 +276,7 @@ void readTables(const ContentFolder& folder, Cookbook& book, Problems& problems)
     readUnits(folder, book, problems);
     readIngredients(folder, book, problems);
     book.refinements = readNames(folder, QStringLiteral("upresneni.txt"), problems);
-    book.tools = readNames(folder, QStringLiteral("pomucky.txt"), problems);
+    readTools(folder, book, problems);
     readWines(folder, book, problems);
     readWeights(folder, book, problems);
     readFoods(folder, book, problems);

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include "core/czech.h"
 #include "core/gridtable.h"
 #include "courses.h"
 
@@ -24,12 +25,8 @@ int freeNumber(const Cookbook& book, const QString& course) {
 }  // namespace
 
 QString plainFileName(const QString& name) {
-    static const QRegularExpression marks(QStringLiteral("\\p{Mn}"));
-    static const QRegularExpression others(QStringLiteral("[^a-z0-9]+"));
-    QString plain = name.normalized(QString::NormalizationForm_D).toLower();
-    plain.remove(marks).replace(others, QStringLiteral("-"));
-    while (plain.startsWith(u'-')) plain.remove(0, 1);
-    while (plain.endsWith(u'-')) plain.chop(1);
+    static const QRegularExpression foreign(QStringLiteral("[^a-z0-9]+"));
+    const QString plain = fileWords(folded(name).replace(foreign, QStringLiteral(" ")));
     return plain.isEmpty() ? QStringLiteral("recept") : plain;
 }
 

@@ -216,8 +216,12 @@ void frmSeznam::setPanel(Panel panel) {
     imgBtn[1].setLatched(panel == Panel::Wine);
 }
 
+QString frmSeznam::smallPhotoFile(const ListEntry& entry) const {
+    return app().mediaFile(QStringLiteral("foto\\Male\\r%1.bmp").arg(entry.target));
+}
+
 QImage frmSeznam::smallPhoto(const ListEntry& entry) const {
-    return readPhoto(app().mediaFile(QStringLiteral("foto\\Male\\r%1.bmp").arg(entry.target)));
+    return readPhoto(smallPhotoFile(entry));
 }
 
 void frmSeznam::refreshPanel() {

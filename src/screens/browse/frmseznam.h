@@ -53,6 +53,7 @@ class frmSeznam : public Form {
     void setFocusOrder();
     void connectRow(int row);
     void placeRows();
+    void takeCards();
     void connectArrow(int arrow);
     void setPanel(Panel panel);
 
@@ -80,6 +81,7 @@ class frmSeznam : public Form {
     void drawPage();
     void selectionChanged();
     void refreshPanel();
+    QString smallPhotoFile(const ListEntry& entry) const;
     QImage smallPhoto(const ListEntry& entry) const;
     void showPhoto();
     void showWine();
@@ -97,8 +99,9 @@ class frmSeznam : public Form {
     WheelSteps wheel_;
 
     Ground ground_;
-    int pitch_ = 0;      // twips from row to row
-    int markedRow_ = 0;  // the row that is painted as selected
+    int pitch_ = 0;               // twips from row to row
+    int markedRow_ = 0;           // the row that is painted as selected
+    std::vector<Picture> cards_;  // the dishes of a short list, a row each; else none
 
     Label lblNadpis, lblPozice, lblHint;
     std::vector<Label*> lblSeznam;

@@ -96,17 +96,31 @@ void frmSeznam::connectRow(int row) {
 }
 
 void frmSeznam::placeRows() {
+    takeCards();
     const bool large = pages_.count() <= seznam::kRows / 2;
-    pitch_ = large ? seznam::kLargePitch : seznam::kRows * seznam::kPitch / shownRows();
+    pitch_ = !cards_.empty() ? seznam::kCardPitch
+             : large         ? seznam::kLargePitch
+                             : seznam::kRows * seznam::kPitch / shownRows();
     const TextFont& font = large ? kLargeRowFont : kRowFont;
     for (int number = 1; number <= seznam::kRows; ++number) {
         Label& label = *lblSeznam[size_t(number - 1)];
         const QRect bar = seznam::rowBar(number, pitch_);
         label.place(bar);
-        label.setMargins(seznam::row(number, pitch_).x() - bar.x(), 0);
+        const int before = seznam::row(number, pitch_).x() - bar.x();
+        label.setMargins(cards_.empty() ? before : seznam::cardPhoto(1).right() + before - bar.x(), 0);
         label.setFont(font);
         label.setVisible(number <= shownRows() && seznam::kSheet.contains(bar));
     }
+}
+
+/// The photos of a list that would leave most of the sheet blank, where each of its dishes has one.
+void frmSeznam::takeCards() {
+    cards_.clear();
+    if (source_ == Source::Help || entries_.size() > seznam::kCards) return;
+    for (const ListEntry& entry : entries_)
+        if (Picture photo = Picture::fromFile(smallPhotoFile(entry)); !photo.isNull())
+            cards_.push_back(photo);
+    if (cards_.size() < entries_.size()) cards_.clear();
 }
 
 void frmSeznam::connectArrow(int arrow) {
@@ -189,6 +203,8 @@ void frmSeznam::paint(QPainter& painter) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(eyes().selected());
     if (markedRow_ > 0) painter.drawRoundedRect(seznam::rowBar(markedRow_, pitch_), 90, 90);
+    for (size_t card = 0; card < cards_.size(); ++card)
+        cards_[card].draw(painter, seznam::cardPhoto(static_cast<int>(card) + 1), Fit::Cover);
     painter.setBrush(colors::kCopper);
     if (pages_.scrolls()) painter.drawRoundedRect(thumb(), 55, 55);
 }

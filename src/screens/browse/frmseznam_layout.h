@@ -37,6 +37,14 @@ constexpr QRect rowBar(int number, int pitch = kPitch) {
     const int gap = pitch < kLargePitch ? 20 : 60;  // a long name has two lines
     return {at.x() - 180, at.y() + gap, at.width() + 330, at.height() - 2 * gap};
 }
+/// A list of no more than so many dishes has their photos in front of their names.
+inline constexpr int kCards = 3, kCardPitch = kRows * kPitch / kCards;
+constexpr QRect cardPhoto(int number) {
+    const QRect bar = rowBar(number, kCardPitch);
+    constexpr int kEdge = 90;
+    const int height = bar.height() - 2 * kEdge;
+    return {bar.x() + kEdge, bar.y() + kEdge, height * 4 / 3, height};
+}
 constexpr QRect apple(int number, int pitch = kPitch) {
     return {360, row(number, pitch).y() + (pitch - 420) / 2, 420, 420};
 }

@@ -41,11 +41,11 @@ constexpr QRect fitted(const QRect& room, QSize size) {
     const int width = height * w / h;
     return {room.x() + room.width() - width, room.y(), width, height};
 }
-/// A picture of \a size's proportions beside a text that begins at \a top and is \a textWidth wide.
-constexpr QRect beside(int top, QSize size, int textWidth) {
+/// What is free of the sheet beside a text that begins at \a top and is \a textWidth wide.
+constexpr QRect beside(int top, int textWidth) {
     constexpr int kGap = 300, kLeast = 2400;
     const int left = kView.x() + (textWidth > kLeast ? textWidth : kLeast) + kGap;
-    return fitted({left, top + 75, kSheetRight - left, kSheetBottom - top - 75}, size);
+    return {left, top + 75, kSheetRight - left, kSheetBottom - top - 75};
 }
 inline constexpr QRect kListView{2880, 2520, 8400, 5130};  ///< below the cutlery
 constexpr QRect cutlery(int position) {

@@ -3,10 +3,13 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "core/czech.h"
 #include "core/texts.h"
 #include "db/companions.h"
 #include "forms/bassarne.h"
+#include "forms/largertext.h"
 #include "forms/screens.h"
+#include "screens/recipe/toolgrid.h"
 
 namespace sarne {
 namespace {
@@ -14,11 +17,13 @@ namespace {
 constexpr int kBetweenTexts = 200;   // twips between the texts of one section
 constexpr int kLeastPicture = 2400;  // a lower one is not shown
 constexpr double kToolSize = 16;     // points
+constexpr double kNameSize = 11;     // of what stands below a tool's picture
 
 }  // namespace
 
 void RecipeSection::showBeside(const Picture& picture, int textWidth) const {
-    showPicture(picture, recipelayout::beside(room_.view.twips().top(), picture.size(), textWidth));
+    const QRect free = recipelayout::beside(room_.view.twips().top(), textWidth);
+    showPicture(picture, recipelayout::fitted(free, picture.size()));
 }
 
 void RecipeSection::showPicture(const Picture& picture, const QRect& place) const {
@@ -87,7 +92,41 @@ void ToolSection::draw() {
     if (view.scrollRange() > 0) return;
     int widest = 0;
     for (const QString& tool : tools) widest = std::max(widest, view.textWidth(tool));
-    if (widest <= recipelayout::kHalfView.width()) showBeside(room_.recipe.photo, widest);
+    if (widest > recipelayout::kHalfView.width()) return;
+    if (const std::vector<Tool> shown = shownTools(tools); shown.size() >= kFewestTools)
+        showTools(shown, widest);
+    else
+        showBeside(room_.recipe.photo, widest);
+}
+
+std::vector<ToolSection::Tool> ToolSection::shownTools(const QStringList& names) const {
+    std::vector<Tool> shown;
+    for (const QString& name : names) {
+        const QString file = QStringLiteral("foto\\pomucky\\%1.bmp").arg(fileWords(name));
+        const Picture picture = Picture::fromFile(room_.sarne.mediaFile(file));
+        if (!picture.isNull() && shown.size() < kMostTools) shown.push_back({name, picture});
+    }
+    return shown;
+}
+
+void ToolSection::showTools(const std::vector<Tool>& tools, int textWidth) const {
+    PictureBox& box = room_.picture;
+    box.place(recipelayout::beside(room_.view.twips().top(), textWidth));
+    box.Cls();
+    box.setFont({QStringLiteral("Times New Roman"), kNameSize * room_.form.textScale(), false, true});
+    const QString& any = tools.front().name;
+    const auto places =
+        toolPlaces(QRect({}, box.twips().size()), static_cast<int>(tools.size()), box.textHeight(any));
+    int widest = places.front().name.width();
+    for (const Tool& tool : tools) widest = std::max(widest, box.textWidth(tool.name));
+    box.setFont(larger(box.font(), double(places.front().name.width()) / widest));
+    for (size_t i = 0; i < tools.size(); ++i) {
+        const auto& [name, picture] = tools[i];
+        box.drawPicture(picture, places[i].picture, Fit::Inside);
+        const QRect& line = places[i].name;
+        box.textOut(line.center().x() - box.textWidth(name) / 2, line.y() + box.textAscent(), name);
+    }
+    box.show();
 }
 
 }  // namespace sarne

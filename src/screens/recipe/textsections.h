@@ -44,12 +44,23 @@ class WineSection : public TextSection {
     void draw() override;
 };
 
-/// The kitchen tools that the recipe needs.
+/// The kitchen tools that the recipe needs; beside their list those of them as pictures that the disc has
+/// some of, "foto\pomucky\" with the tool's name as a file is called, or else the dish. A click on the
+/// pictures does nothing.
 class ToolSection : public RecipeSection {
   public:
     using RecipeSection::RecipeSection;
 
     void draw() override;
+
+  private:
+    struct Tool {
+        QString name;
+        Picture picture;
+    };
+
+    std::vector<Tool> shownTools(const QStringList& names) const;
+    void showTools(const std::vector<Tool>& tools, int textWidth) const;
 };
 
 }  // namespace sarne
