@@ -67,6 +67,12 @@ def circle(r, n=64, at=(0, 0)):
     return [(at[0] + r * math.cos(2 * math.pi * i / n), at[1] + r * math.sin(2 * math.pi * i / n)) for i in range(n)]
 
 
+def crossed(r, w):
+    """Outline of a cross of two bars, 2 r long and 2 w wide."""
+    q = [(r, -w), (r, w), (w, w)]
+    return [(x * c - y * s, x * s + y * c) for c, s in ((1, 0), (0, 1), (-1, 0), (0, -1)) for x, y in q]
+
+
 def fishshape(s=1.0, depth=.1, m=None, bevel=.03):
     pts = curve_points([(-1, 0), (-.75, .3), (-.25, .46), (.3, .28), (.62, .1), (1.05, .42), (.96, 0), (1.05, -.42), (.62, -.1), (.3, -.28), (-.25, -.46), (-.75, -.3), (-1, 0)], 6)
     return poly([(x * s, y * s) for x, y in pts[:-1]], depth, m or teal(), bevel)
@@ -101,7 +107,7 @@ def Help():
 
 def Zpet():
     a = poly(arc(1.25, .62, -110, 150), .5)
-    h = put(arrowhead(1.75, 1.35), -1.45, .28, 0, turn=-155 + 10)
+    h = put(arrowhead(1.75, 1.35), -1.45, .28, .04, turn=-155 + 10)   # a little above the bow, so that the two do not flicker
     return facing(put(group([a, h]), .35, 0, 0, scale=.95))
 
 
@@ -130,7 +136,7 @@ def ZvukOn():
 
 
 def ZvukOff():
-    return facing(group(_speaker() + [put(poly([(-.85, -.16), (.85, -.16), (.85, .16), (-.85, .16)], .4, red(), .07), 1.0, 0, .1, turn=t) for t in (45, -45)]))
+    return facing(group(_speaker() + [put(poly(crossed(.85, .16), .4, red(), .07), 1.0, 0, .1, turn=45)]))
 
 
 def Foto():
@@ -345,7 +351,7 @@ def Jablko():
     a = lathe(pr, mat("apple", ((.3, "8a1a10"), (.5, "c03a1c"), (.7, "e0a03a")), .18, .6, coat=.8, noise=.7, stretch=(1, 1, .3), detail=4), 64)
     st = tube(curve_points([(0, 0, 2.2), (.06, 0, 2.7), (.25, 0, 3.05)], 5), [.07] * 5 + [.1] * 6, mat("stalk", "4a2f18", .6), 8)
     lf = put(food.leaf("basil", 1.5), .75, -.05, 2.85, turn=12, roll=-22)
-    return put(group([a, st, lf]), scale=1.05)
+    return put(group([a, st, lf]), 0, 0, .12, scale=1.05)
 
 
 def _chevrons(n, turn):
@@ -416,7 +422,7 @@ def Skupina0():
 def Skupina1():
     p = table.pan(1.7, .45, "iron", True, turn=25)
     f = put(fishlib.fish("trout", "fried", 2.5, cuts=3, seed=3), .05, .05, .12, turn=15)
-    return put(group([p, f, put(food.lemon_slice(.36), .2, .1, .55, tilt=8)]), -.45, -.1, 0)
+    return put(group([p, f, put(food.lemon_slice(.36), .2, .1, .55, tilt=8)]), -.8, -.25, 0, scale=.82)
 
 
 def Skupina2():
@@ -445,7 +451,7 @@ def _disc(col, sym):
 
 
 def Ikona1():
-    x = group([put(poly([(-1.1, -.2), (1.1, -.2), (1.1, .2), (-1.1, .2)], .3, cream(), .06), 0, 0, .05, turn=t) for t in (45, -45)])
+    x = put(poly(crossed(1.1, .2), .3, cream(), .06), 0, 0, .05, turn=45)
     return _disc(red(), x)
 
 
@@ -622,6 +628,7 @@ ICONS = ("Tisk Help Zpet Konec Hudba ZvukOn ZvukOff Foto Vino Recept Uvod Odkazy
          "Pribor2 Pribor4 Pribor6 Pribor8 Pribor10 Jablko SipkaNahoru SipkaDolu SipkaNahoruRychle SipkaDoluRychle Zaskrtnuto Nezaskrtnuto VolbaAno VolbaNe "
          "Skupina0 Skupina1 Skupina2 Skupina3 Ikona1 Ikona2 Ikona3 Ikona4 Varime Nakup Doma Kucharka Casovac "
          "Oddeleni0 Oddeleni1 Oddeleni2 Oddeleni3 Oddeleni4 Oddeleni5 Oddeleni6 Hostina").split()
+FINE = "Vino Jablko Pribor2 Pribor4 Pribor6 Pribor8 Pribor10".split()   # glass and silver, which stay grainy else
 STANDING = {"Konec": (10, 1.75, 6.2), "Vino": (10, 2.1, 6.4), "Suroviny": (14, 1.7, 6.4), "Jablko": (20, 1.55, 5.6), "Foto": (22, 1.0, 6.0), "Tisk": (34, .8, 6.6), "zavazi": (24, 1.05, 5.6)}
 
 
@@ -665,7 +672,7 @@ def make(name):
     else:
         studio(name)
         core.scene.render.film_transparent = True
-        px = core.render_linear(256, 256, 14)
+        px = core.render_linear(256, 256, 64 if name in FINE else 14)
         px[..., 3] = np.clip((px[..., 3] - .12) / .88, 0, 1)  # the far shade of the shadow would draw the tile's edge
         core.save(px, path, alpha=True)
         stin.soften(path)
