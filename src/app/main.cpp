@@ -10,13 +10,13 @@
 
 #include "app/editionwatch.h"
 #include "app/language.h"
+#include "app/lastwords.h"
 #include "app/program.h"
 #include "app/rooms.h"
 #include "app/systemplatform.h"
 #include "app/windowplace.h"
 #include "core/texts.h"
 #include "forms/picture.h"
-#include "platform/endsignals.h"
 #include "platform/memory.h"
 #include "platform/sessionbus.h"
 #include "platform/singleinstance.h"
@@ -24,10 +24,6 @@
 namespace {
 
 constexpr int kIcon = 128;  // pixels
-
-/// The running program, for the one moment at which nobody can hand it over: the window system's connection
-/// breaks, and its library ends the process.
-sarne::Program* running = nullptr;
 
 /// What the launcher or the user's settings ask for: a window, or else the whole display.
 sarne::WindowKind windowKind(const sarne::SettingsStore& settings) {
@@ -53,17 +49,6 @@ constexpr QtMessageHandler kMessages = [](QtMsgType, const QMessageLogContext&, 
 #else
 constexpr QtMessageHandler kMessages = nullptr;  // the toolkit's own
 #endif
-
-/// Lets no typed word be lost when the system ends the program, the session or the display.
-void keepWordsAtTheEnd(sarne::Program& program) {
-    auto* signals = new sarne::EndSignals(&program);
-    QObject::connect(signals, &sarne::EndSignals::received, &program, &sarne::Program::endAtOnce);
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &program, &sarne::Program::keepUnsaved);
-    running = &program;
-    std::atexit([] {
-        if (running) running->keepUnsaved();
-    });
-}
 
 }  // namespace
 
@@ -91,7 +76,7 @@ int main(int argc, char** argv) {
                                        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                                            QStringLiteral("/velisa-sarn")});
     program.stage().setWindowTitle(QStringLiteral("Velisa sarn"));
-    keepWordsAtTheEnd(program);
+    const LastWords words(program);
     WindowPlace place(program.stage(), windowKind(platform.settings));
     place.settle();
     beginKitchen(program);
@@ -104,7 +89,6 @@ int main(int argc, char** argv) {
             [&](std::int16_t recipe, int section) { return program.showEdition(recipe, section); });
         code = QApplication::exec();
     }
-    running = nullptr;
     return code;
 }
 

@@ -1,10 +1,17 @@
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QMetaMethod>
 #include <QTest>
 #include <QTimer>
+#include <csignal>
+#include <cstdlib>
 
 #include "app/displayquestions.h"
 #include "app/frmsplash.h"
+#include "app/lastwords.h"
 #include "app/program.h"
 #include "dialogs/frmmessage.h"
 #include "screens/navigation/frmhlavni.h"
@@ -168,6 +175,43 @@ TEST_F(SplashTest, WhenTheSystemEndsTheProgramTheStartEndsToo) {
     QTimer::singleShot(0, [&] { program->endAtOnce(); });
     EXPECT_FALSE(start({})) << "the film no longer holds it";
     EXPECT_EQ(program->mainScreen(), nullptr);
+    QTimer::singleShot(0, [] { QApplication::exit(); });  // this process goes on
+    QApplication::exec();
+}
+
+/// A screen with words that are not stored.
+class Typed final : public Form {
+  public:
+    Typed(basSarne& sarne, QString file) : Form(sarne, u"frmPsano"_s), file_(std::move(file)) {}
+    void keepUnsaved() override { (void)test::write(file_, "slova"); }
+
+  private:
+    QString file_;
+};
+
+TEST_F(SplashTest, WordsAreKeptHoweverTheSystemEndsTheProgram) {
+    const std::function<void()> ends[] = {
+        [] { std::raise(SIGTERM); },
+        [] {  // the session ends: nobody asks its manager anything
+            const auto ended = QMetaMethod::fromSignal(&QGuiApplication::commitDataRequest);
+            void* arguments[] = {nullptr, nullptr};
+            QMetaObject::activate(qApp, ended.methodIndex(), arguments);
+        },
+        [] {  // the display is lost
+            if (const pid_t child = fork(); child == 0)
+                std::exit(0);
+            else
+                waitpid(child, nullptr, 0);
+        }};
+    for (int way = 0; way < 3; ++way) {
+        make(platform.parts());
+        const LastWords words(*program);
+        const QString kept = folder.filePath(u"slova%1"_s.arg(way));
+        new Typed(*program, kept);
+        ends[way]();
+        QApplication::processEvents();
+        EXPECT_TRUE(QFile::exists(kept)) << way;
+    }
     QTimer::singleShot(0, [] { QApplication::exit(); });  // this process goes on
     QApplication::exec();
 }

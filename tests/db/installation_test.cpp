@@ -3,14 +3,27 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QDir>
+#include <functional>
 
 #include "db/database.h"
 #include "support/files.h"
 #include "support/recipedatabase.h"
+
+namespace {
+/// Called with the path of everything that is forced onto the disk.
+std::function<void(const QString&)> onSync;
+}  // namespace
+
+/// In the place of the system's own, which it calls.
+extern "C" int fsync(int file) {
+    if (onSync) onSync(QFile::symLinkTarget(QStringLiteral("/proc/self/fd/%1").arg(file)));
+    return int(syscall(SYS_fsync, file));
+}
 
 namespace sarne {
 namespace {
@@ -115,6 +128,20 @@ TEST_F(InstallationTest, AReadOnlyProgramFolderLeadsToAnOwnCopyThatKeepsNotes) {
     setTime(1000000000);
     start();
     EXPECT_EQ(inode(own), copy) << "the same book is not copied again, whatever its time";
+}
+
+TEST_F(InstallationTest, ACopyIsOnTheDiskBeforeItsNameAndItsNameBeforeItsMark) {
+    protectProgramFolder();
+    ASSERT_EQ(asOrdinaryUser([&] {
+                  bool copy = false, name = false;
+                  onSync = [&](const QString& path) {
+                      copy |= path == own + u".new"_s && QFile::exists(path);
+                      name |= path + u"/Sarne.drc"_s == own && copy && QFile::exists(own) &&
+                              !QFile::exists(own + u".origin"_s);
+                  };
+                  return usableRecipeDatabase(shipped, own).file == own && copy && name ? 0 : 1;
+              }),
+              0);
 }
 
 TEST_F(InstallationTest, AnotherEditionIsOneOfAnotherNumberOrDigest) {

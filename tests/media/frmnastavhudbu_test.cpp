@@ -1,5 +1,7 @@
 #include "media/frmnastavhudbu.h"
 
+#include <QtEndian>
+
 #include "db/soundsettings.h"
 #include "mediafixture.h"
 
@@ -87,6 +89,17 @@ TEST_F(SettingsTest, MusicStopsAndStartsAtOnce) {
     EXPECT_TRUE(track(1)->isChecked());
     click(box(4));
     EXPECT_TRUE(track(0)->isChecked());
+}
+
+TEST_F(SettingsTest, TheSwitchesAreStoredInOneTransaction) {
+    const auto transactions = [&] {  // the file itself counts them
+        return qFromBigEndian<quint32>(test::bytesOf(path("Sarne.drc")).constData() + 24);
+    };
+    const quint32 before = transactions();
+    for (const int i : {0, 2, 3}) click(box(i));
+    confirm();
+    EXPECT_EQ(stored(), u"01100"_s);
+    EXPECT_EQ(transactions(), before + 1);
 }
 
 TEST_F(SettingsTest, ATrackThatCannotBeOpenedIsReportedAndTheSwitchesAreKept) {

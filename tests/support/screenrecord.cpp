@@ -55,8 +55,7 @@ class Writer final : public QPaintEngine {
     void paintsNow(const QWidget* widget, QPoint corner) {
         widget_ = widget;
         corner_ = corner;
-        text_.clear();
-        picture_.clear();
+        last_.clear();
     }
     Type type() const override { return User; }
     bool begin(QPaintDevice*) override { return true; }
@@ -78,14 +77,7 @@ class Writer final : public QPaintEngine {
         for (int i = 0; i < count; ++i) shape("line", QRectF(lines[i].p1(), lines[i].p2()));
     }
     void drawPixmap(const QRectF& place, const QPixmap& pixmap, const QRectF&) override {
-        const QString picture = pictureText(pixmap.toImage());
-        const QRectF pixels = transform_.mapRect(place).translated(-corner_);
-        QStringList& lines = painted[widget_];
-        if (picture == picture_) lines.removeLast();  // a frame is painted in pieces
-        pictured_ = picture == picture_ ? pictured_ | pixels : pixels;
-        text_.clear();
-        picture_ = picture;
-        lines << u"picture "_s + picture + opacityText() + u' ' + placeText(pictured_);
+        write(u"picture "_s + pictureText(pixmap.toImage()), place);
     }
     void drawTiledPixmap(const QRectF& place, const QPixmap& pixmap, const QPointF&) override {
         drawPixmap(place, pixmap, {});
@@ -105,12 +97,11 @@ class Writer final : public QPaintEngine {
                                        colorText(pen_.color()), opacityText())
                                   .arg(std::lround(place.y()));
         QStringList& lines = painted[widget_];
-        if (looks == text_)
+        if (looks == last_)
             lines.last().insert(lines.last().size() - 1, item.text());
         else
             lines << u"%1 x%2 '%3'"_s.arg(looks).arg(std::lround(place.x())).arg(item.text());
-        text_ = looks;
-        picture_.clear();
+        last_ = looks;
     }
 
   private:
@@ -121,11 +112,16 @@ class Writer final : public QPaintEngine {
                                 : u"%1/%2"_s.arg(colorText(pen_.color())).arg(std::lround(pen_.widthF()));
         write(u"%1 %2 %3"_s.arg(QLatin1String(kind), brushText(brush_), pen), place);
     }
+    /// Things of one look in a row are one line: the pieces of a frame, the dots of an underline.
     void write(const QString& what, const QRectF& place) {
-        text_.clear();
-        picture_.clear();
         const QRectF pixels = transform_.mapRect(place).translated(-corner_);
-        painted[widget_] << what + opacityText() + u' ' + placeText(pixels);
+        QStringList& lines = painted[widget_];
+        count_ = what == last_ ? count_ + 1 : 1;
+        all_ = count_ > 1 ? all_ | pixels : pixels;
+        if (count_ > 1) lines.removeLast();
+        last_ = what;
+        lines << what + opacityText() + u' ' + placeText(all_) +
+                     (count_ > 1 ? u" of %1"_s.arg(count_) : QString());
     }
 
     const QWidget* widget_ = nullptr;
@@ -134,8 +130,9 @@ class Writer final : public QPaintEngine {
     QBrush brush_;
     double opacity_ = 1;
     QTransform transform_;
-    QString text_, picture_;  // how the last thing looks, where that was one
-    QRectF pictured_;
+    QString last_;  // how the last thing looks
+    QRectF all_;    // the place of those alike
+    int count_ = 0;
 };
 
 /// A device that is as large as the stage, and tells its writer who paints.
@@ -227,16 +224,15 @@ void addWidget(QStringList& lines, const QWidget& widget, const QString& within,
     if (widget.testAttribute(Qt::WA_TransparentForMouseEvents)) line += u" through"_s;
     if (!widget.toolTip().isEmpty() && widget.toolTip().trimmed() != widget.accessibleName())
         line += u" tip '%1'"_s.arg(widget.toolTip());
-    if (!widget.isVisible()) {
-        lines << line + u" hidden"_s;
-        return;
-    }
-    if (twips) {
-        const QAccessibleInterface* heard =
-            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget));
+    const QAccessibleInterface* heard =
+        twips ? QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget)) : nullptr;
+    if (heard)
         line += control && control->isUnheard()
                     ? u" unheard"_s
                     : u" role %1 %2%3"_s.arg(heard->role()).arg(said(*heard), stateText(heard->state()));
+    if (!widget.isVisible()) {
+        lines << line.trimmed() + u" hidden"_s;
+        return;
     }
     lines << line.trimmed();
     if (control) addParts(lines, name, *control);

@@ -18,6 +18,7 @@ import math
 import os
 import random
 import re
+import signal
 import subprocess
 import sys
 import time
@@ -86,14 +87,18 @@ def test_of(file):
     return parts[2] if parts[1] == "screens" else parts[1]
 
 
-def run(copy, command, seconds, cached=False):
-    """The exit code, -1 when time is up, and what was said."""
-    try:
-        done = subprocess.run(command, cwd=copy, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
-                              errors="replace", timeout=seconds, env=os.environ | ({} if cached else {"CCACHE_DISABLE": "1"}))
-        return done.returncode, done.stdout
-    except subprocess.TimeoutExpired:
-        return -1, ""
+def run(copy, command, seconds, keeps=False):
+    """The exit code, -1 when time is up, and what was said. What stands beside a fault comes from the compiler's cache,
+    the fault does not go into it; a test ends at its first failure."""
+    told = {"GTEST_FAIL_FAST": "1"} | ({} if keeps else {"CCACHE_READONLY": "1"})
+    with subprocess.Popen(command, cwd=copy, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace",
+                          env=os.environ | told, start_new_session=True) as process:
+        try:
+            said, _ = process.communicate(timeout=seconds)
+            return process.returncode, said
+        except subprocess.TimeoutExpired:
+            os.killpg(process.pid, signal.SIGKILL)  # and whatever it has begun
+            return -1, ""
 
 
 def prepare(copy):
@@ -106,6 +111,8 @@ def prepare(copy):
     if built.exists() and not (copy / "build/release/disc-out").exists():
         (copy / "build/release").mkdir(parents=True, exist_ok=True)  # a disc takes long to make
         subprocess.run(["cp", "-a", str(built), str(copy / "build/release")], check=True)
+    for tests in (copy / "tests").rglob("CMakeLists.txt"):  # nor is it made again for every fault
+        tests.write_text(re.sub(r"^(add_dependencies\(.*) disc\)", r"\1 sarne_options)", tests.read_text(), flags=re.M))
     if subprocess.run(["cmake", "--preset", "release"], cwd=copy, stdout=subprocess.DEVNULL).returncode != 0:
         sys.exit("the copy cannot be configured")
 
@@ -131,7 +138,7 @@ class Fault:
         if file.parts[1] == "screens" and (ROOT / "src" / file.parts[2]).exists():
             self.own += "screens"  # the folder's name is that of the logic below it, too
         if file not in Fault.code:
-            run(copy, ["ninja", f"-j{jobs}", "-C", PRESET, self.own], 3600, cached=True)
+            run(copy, ["ninja", f"-j{jobs}", "-C", PRESET, self.own], 3600, keeps=True)
         self.object = next((copy / PRESET / file.parent / "CMakeFiles").glob(f"*/{file.name}.o"), None)
         if file not in Fault.code:
             Fault.code[file] = self.object.read_bytes() if self.object else None

@@ -1,0 +1,190 @@
+#include <gtest/gtest.h>
+
+#include "forms/button.h"
+#include "forms/buttonbar.h"
+#include "forms/checkbox.h"
+#include "forms/edit.h"
+#include "forms/entrysign.h"
+#include "forms/label.h"
+#include "forms/listbox.h"
+#include "forms/noteedit.h"
+#include "forms/progressbar.h"
+#include "forms/starrow.h"
+#include "forms/textview.h"
+#include "support/explore.h"
+#include "support/fakesarne.h"
+#include "support/recipedatabase.h"
+
+namespace sarne {
+namespace {
+
+using test::explore;
+using test::Look;
+
+constexpr BarFace kFaces[] = {{"Tisk", "Tisk", "Vytiskne", &Form::help},
+                              {"Help", "Nápověda"},
+                              {"Konec", "Konec", "Konec", &Form::endProgram}};
+
+const TextFont kSerif{u"Times New Roman"_s, 14, true, true}, kSans{u"Arial"_s, 12};
+
+/// A screen with controls of one kind, each in several states.
+class Screen : public Form {
+  public:
+    explicit Screen(FakeSarne& run) : Form(run, u"frmUkazka"_s) {
+        run.openAbove("frmHlavni");
+        run.PushScreen(*this);
+    }
+    template <typename Kind>
+    Kind& add(const char* name, const QRect& place) {
+        auto* control = new Kind(*this, QString::fromLatin1(name));
+        control->place(place);
+        stops_.push_back(control);
+        return *control;
+    }
+    Picture face(const char* name) { return resources().picture(QString::fromLatin1(name)); }
+    void open() {
+        for (TwipWidget* stop : stops_) stop->setFocusPolicy(Qt::StrongFocus);
+        ring().setStops(stops_);
+        ring().setArrows(FocusRing::Arrows::All);
+        showForm();
+    }
+
+  private:
+    std::vector<TwipWidget*> stops_;
+};
+
+void texts(Screen& screen) {
+    auto& plain = screen.add<Label>("lblA", {300, 300, 4000, 600});
+    plain.setFont(kSans);
+    plain.setText(u"Kapr na kmíně"_s);
+    auto& grounded = screen.add<Label>("lblB", {300, 1200, 2000, 1500});
+    grounded.setFont(kSerif);
+    grounded.setColor(Qt::darkGreen);
+    grounded.setGround(Qt::yellow);
+    grounded.setWordWrap(true);
+    grounded.setAlignment(Qt::AlignRight | Qt::AlignBottom);
+    grounded.setText(u"Rybu osolíme a necháme stát"_s);
+    grounded.setMargins(60, 120);
+    auto& link = screen.add<Label>("lblC", {300, 3000, 0, 0});
+    link.setFont(kSerif);
+    link.setText(u"odkaz\r\nna dva řádky"_s);
+    link.autoSize();
+    link.setClickable(true);
+    link.setTip(u"Otevře odkaz"_s);
+    auto& large = screen.add<Label>("lblD", {4600, 300, 1200, 500});
+    large.setFont(kSans);
+    large.setText(u"nerostu"_s);
+    large.setGrows(false);
+}
+
+void buttons(Screen& screen) {
+    int x = 300;
+    for (const auto place :
+         {Button::CaptionPlace::Over, Button::CaptionPlace::Below, Button::CaptionPlace::Beside}) {
+        for (const auto frame : {Button::Frame::None, Button::Frame::Raised, Button::Frame::Pressed}) {
+            auto& button = screen.add<Button>(qPrintable(u"cmd(%1)"_s.arg(x)), {x, 300, 1100, 1500});
+            button.setFace(screen.face("Tisk"));
+            button.setFrame(frame);
+            button.setCaptionPlace(place);
+            button.setCaption(u"Na dva řádky"_s);
+            button.setFont(kSans);
+            if (x > 6000) button.setGround(Qt::darkCyan);
+            x += 1200;
+        }
+    }
+    screen.add<Button>("cmdText", {300, 2400, 2400, 540}).dressAsText(u"Storno"_s, u"Zavře okno"_s);
+    screen.add<Button>("cmdNejde", {3000, 2400, 2400, 540}).dressAsText(u"Nejde"_s);
+    child<Button>(screen, "cmdNejde")->setEnabled(false);
+    static std::optional<ButtonBar> bar;
+    bar.emplace(screen, u"imgBtn"_s, kFaces, [](int) {});
+    bar->placeRow({7000, 6000, 4000, 1200});
+}
+
+void choices(Screen& screen) {
+    for (int i = 0; i < 4; ++i) {
+        auto& box =
+            i < 2
+                ? screen.add<CheckBox>(qPrintable(u"chk(%1)"_s.arg(i)), {300, 300 + 500 * i, 3000, 400})
+                : screen.add<OptionButton>(qPrintable(u"opt(%1)"_s.arg(i)), {300, 300 + 500 * i, 3000, 400});
+        box.setFont(kSans);
+        box.setColor(Qt::darkBlue);
+        box.setCaption(u"&Volba %1"_s.arg(i));
+        if (i % 2) box.setMarkPictures(screen.face("VolbaAno"), screen.face("VolbaNe"));
+        box.setChecked(i == 1 || i == 2);
+    }
+    auto& list = screen.add<ListBox>("lst", {4000, 300, 3000, 1500});
+    list.setFont(kSans);
+    list.setItems({u"Amur"_s, u"Kapr"_s, u"Lín"_s, u"Okoun"_s, u"Štika"_s, u"Úhoř"_s}, {1, 2, 3, 4, 5, 6});
+    list.setListIndex(1);
+    auto& bar = screen.add<ProgressBar>("prg", {4000, 2200, 3000, 300});
+    bar.setMaximum(8);
+    bar.setValue(3);
+    screen.add<StarRow>("hvezdy", {4000, 2800, 2000, 450}).setStars(3);
+}
+
+void entries(Screen& screen) {
+    auto& text = screen.add<Edit>("txtA", {300, 300, 3000, 450});
+    text.setFont(kSans);
+    text.setText(u"kapr"_s);
+    auto& number = screen.add<Edit>("txtB", {300, 1000, 1500, 450});
+    number.setFont(kSerif);
+    number.setText(u"4"_s);
+    number.setMaxLength(2);
+    number.setSteps(1, 9);
+    auto& bare = screen.add<Edit>("txtC", {300, 1700, 1500, 450});
+    bare.setSign(false);
+    auto& note = screen.add<NoteEdit>("poznamka", {4000, 300, 4000, 3000});
+    note.setFont(kSerif);
+    note.setText(u"Méně soli.\nVíc kmínu."_s);
+}
+
+void reading(Screen& screen) {
+    auto& view = screen.add<TextView>("picText", {600, 600, 5000, 3000});
+    view.setSheet({300, 300, 6200, 3600});
+    view.setArrowPictures(screen.face("SipkaNahoru"), screen.face("SipkaDolu"));
+    view.drawRichText(test::rtf(
+        u"\\b Postup\\b0\\par Kapra *12osol\\'edme* a \\i pe\\'e8eme\\i0  @7podle videa@, #5p\\'edpne#.\\par "_s +
+        u"slovo "_s.repeated(300)));
+    auto& picture = screen.add<PictureBox>("pic", {7000, 600, 3000, 2000});
+    picture.setPicture(Picture::fromImage(screen.face("Tisk").image()));
+    picture.setTip(u"Obrázek"_s);
+    auto& drawn = screen.add<PictureBox>("picKresba", {7000, 3000, 3000, 2000});
+    drawn.setFont(kSans);
+    drawn.setForeColor(Qt::darkRed);
+    drawn.setRightMargin(300);
+    drawn.print(u"Kapr\r\nna kmíně "_s.repeated(8));
+    drawn.drawPicture(screen.face("Help"), {100, 1000, 900, 900}, Fit::Cover);
+}
+
+TEST(Looks, Controls) {
+    const struct {
+        const char* name;
+        void (*fill)(Screen&);
+    } screens[] = {
+        {"texty", texts}, {"tlacitka", buttons}, {"volby", choices}, {"zapisy", entries}, {"cteni", reading}};
+    for (const auto& one : screens)
+        explore(one.name, [&](const Look& look) {
+            FakeSarne run;
+            auto* screen = new Screen(run);
+            one.fill(*screen);
+            screen->open();
+            look(run);
+        });
+}
+
+TEST(Looks, LetterBoard) {
+    for (const char* entry : {"txtA", "txtB", "poznamka"})
+        test::expectLooks(qPrintable(u"klavesnice-"_s + QLatin1String(entry)), [=](const Look& look) {
+            FakeSarne run;
+            auto* screen = new Screen(run);
+            entries(*screen);
+            screen->open();
+            child<Control>(*screen, entry)->findChild<EntrySign*>()->click();
+            look(run);
+        });
+}
+
+}  // namespace
+}  // namespace sarne
+
+// SPDX-License-Identifier: GPL-3.0-or-later
