@@ -137,12 +137,23 @@ class Fault:
         self.own = f"test_{test_of(file)}"
         if file.parts[1] == "screens" and (ROOT / "src" / file.parts[2]).exists():
             self.own += "screens"  # the folder's name is that of the logic below it, too
-        if file not in Fault.code:
-            run(copy, ["ninja", f"-j{jobs}", "-C", PRESET, self.own], 3600, keeps=True)
-        self.object = next((copy / PRESET / file.parent / "CMakeFiles").glob(f"*/{file.name}.o"), None)
-        if file not in Fault.code:
-            Fault.code[file] = self.object.read_bytes() if self.object else None
         self.file = file
+        if file not in Fault.code:
+            if not self.find_object():
+                self.make(self.own)
+            self.find_object()
+            if self.object:
+                self.make(self.object.relative_to(copy / PRESET))
+            Fault.code[file] = self.object.read_bytes() if self.object else None
+        self.find_object()
+
+    def find_object(self):
+        self.object = next((self.copy / PRESET / self.file.parent / "CMakeFiles").glob(f"*/{self.file.name}.o"), None)
+        return self.object
+
+    def make(self, target):
+        """Without the fault."""
+        run(self.copy, ["ninja", f"-j{self.jobs}", "-C", PRESET, str(target)], 3600, keeps=True)
 
     def __enter__(self):
         self.sound = self.path.read_text()
@@ -192,7 +203,8 @@ def sample(options):
                     [fault[2]].strip(), fault[3].strip()) in wanted]
     chance = random.Random(options.seed)
     places = sorted(everything)
-    return [chance.choice(everything[place]) for place in chance.sample(places, min(options.count, len(places)))]
+    part, parts = map(int, options.part.split("/"))
+    return [chance.choice(everything[place]) for place in chance.sample(places, min(options.count, len(places)))][part - 1::parts]
 
 
 def tell(fault, verdict, failing):
@@ -226,6 +238,7 @@ def main():
     parser.add_argument("--test-seconds", type=int, default=300)
     parser.add_argument("--copy", type=Path, default=ROOT.parent / (ROOT.name + "-mutants"))
     parser.add_argument("--jobs", type=int, default=2)
+    parser.add_argument("--part", default="1/1", help="2/3: the second of three runs that share the sample, each with a copy of its own")
     parser.add_argument("--again", type=Path, help="output of an earlier run whose caught faults are put in again")
     parser.add_argument("--list", action="store_true", help="only show which faults would be put in")
     options = parser.parse_args()
