@@ -148,15 +148,20 @@ void addClicks(std::vector<Step>& steps, const Control& control) {
     }
 }
 
-/// Of many alike the first three and the last: "imgFoto(1)".
+/// The number of one of several alike: "imgFoto(1)"; 0 of one that stands alone.
+int numberOf(const QString& name) {
+    return name.section(u'(', 1).section(u')', 0, 0).toInt();
+}
+
+/// Of many alike the first three and the last.
 bool isOneOfMany(const Form& form, const QString& name) {
     const QString stem = name.section(u'(', 0, 0) + u'(';
-    const int number = name.section(u'(', 1).chopped(1).toInt();
+    const int number = numberOf(name);
     constexpr int kFew = 10;
     int last = 0;
     for (const auto* control : form.findChildren<Control*>())
         if (control->isVisible() && control->objectName().startsWith(stem))
-            last = std::max(last, control->objectName().section(u'(', 1).chopped(1).toInt());
+            last = std::max(last, numberOf(control->objectName()));
     return name.contains(u'(') && last >= kFew && number > 2 && number < last;
 }
 
