@@ -1,5 +1,6 @@
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSet>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -113,14 +114,17 @@ void frmSeznam::placeRows() {
     }
 }
 
-/// The photos of a list that would leave most of the sheet blank, where each of its dishes has one.
+/// The photos of a list that would leave most of the sheet blank, where each of its dishes has its own.
 void frmSeznam::takeCards() {
     cards_.clear();
     if (source_ == Source::Help || entries_.size() > seznam::kCards) return;
+    QSet<int> shown;
     for (const ListEntry& entry : entries_)
-        if (Picture photo = Picture::fromFile(smallPhotoFile(entry)); !photo.isNull())
+        if (Picture photo = Picture::fromFile(smallPhotoFile(entry)); !photo.isNull()) {
             cards_.push_back(photo);
-    if (cards_.size() < entries_.size()) cards_.clear();
+            shown << entry.target;
+        }
+    if (static_cast<size_t>(shown.size()) < entries_.size()) cards_.clear();
 }
 
 void frmSeznam::connectArrow(int arrow) {

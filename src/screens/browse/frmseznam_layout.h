@@ -27,18 +27,20 @@ inline constexpr QRect kPhoto{7775, 1470, 3800, 2850};
 inline constexpr QRect kInvitation{700, 2130, 2400, 560};  ///< in the photo's frame
 inline constexpr QRect kWineText{7900, 1600, 3550, 2590};
 
-/// How far rows are apart: a list that fits into half of them has larger ones, which fill the sheet.
+/// How far rows are apart: a list that fits into half of them has larger ones, which fill the sheet, and one
+/// of no more than three dishes rows with their photos.
 inline constexpr int kPitch = 478, kLargePitch = 2 * kPitch;
+inline constexpr int kCards = 3, kCardPitch = kRows * kPitch / kCards;
 constexpr QRect row(int row, int pitch = kPitch) {
     return {1020, 1375 + (row - 1) * pitch, 5400, pitch};
 }
 constexpr QRect rowBar(int number, int pitch = kPitch) {
     const QRect at = row(number, pitch);
-    const int gap = pitch < kLargePitch ? 20 : 60;  // a long name has two lines
-    return {at.x() - 180, at.y() + gap, at.width() + 330, at.height() - 2 * gap};
+    const int gap = pitch < kLargePitch ? 20 : 60;     // a long name has two lines
+    const int wider = pitch < kCardPitch ? 330 : 930;  // over the place of the arrows
+    return {at.x() - 180, at.y() + gap, at.width() + wider, at.height() - 2 * gap};
 }
-/// A list of no more than so many dishes has their photos in front of their names.
-inline constexpr int kCards = 3, kCardPitch = kRows * kPitch / kCards;
+/// In front of the name.
 constexpr QRect cardPhoto(int number) {
     const QRect bar = rowBar(number, kCardPitch);
     constexpr int kEdge = 90;
