@@ -30,7 +30,7 @@ void KitchenScreens::cook(std::int16_t id, const Serving& serving) {
     if (plates_) plates_->hush();
     auto* screen = new frmVarime(program_, program_.userFile(),
                                  [this](const QString& name, int seconds) { plates().start(name, seconds); });
-    screen->Zobraz(id, serving);
+    screen->Zobraz(id, serving, QDate::currentDate());
 }
 
 std::optional<ShoppingRecipe> KitchenScreens::recipe(std::int16_t id, double portions, int& base) const {

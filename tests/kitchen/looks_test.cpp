@@ -89,7 +89,7 @@ TEST(Looks, AtTheStove) {
             auto* screen = new frmVarime(run, run.file(), [&run](const QString& name, int seconds) {
                 run.announced << u"timer %1 %2"_s.arg(name).arg(seconds);
             });
-            screen->Zobraz(5, {4, UnitSystem::Weights});
+            screen->Zobraz(5, {4, UnitSystem::Weights}, {2026, 10, 11});
             for (int turned = 0; turned < page; ++turned) press(*screen, Qt::Key_PageDown);
             look(run);
         });

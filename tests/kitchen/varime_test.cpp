@@ -7,13 +7,15 @@
 namespace sarne {
 namespace {
 
+const QDate kDay(2026, 10, 11);
+
 class VarimeTest : public testing::Test {
   protected:
     frmVarime& open(const Serving& serving) {
         auto* screen = new frmVarime(run_, run_.file(), [this](const QString& name, int seconds) {
             started_ << u"%1: %2"_s.arg(name).arg(seconds);
         });
-        EXPECT_TRUE(screen->Zobraz(5, serving));
+        EXPECT_TRUE(screen->Zobraz(5, serving, kDay));
         return *screen;
     }
     static QString text(const Form& form, const char* label) {
@@ -105,9 +107,7 @@ TEST_F(VarimeTest, AtTheEndALineGoesBelowTheNoteAndStarsAreGiven) {
     child<Edit>(screen, "txtPoznamka")->focusAll();
     QTest::keyClicks(run_.window.focusWidget(), u"1 lahev piva"_s);
     press(screen, Qt::Key_Return);
-    const QDate today = QDate::currentDate();
-    const QString line =
-        u"Uvařeno %1. %2. %3: 1 lahev piva"_s.arg(today.day()).arg(today.month()).arg(today.year());
+    const QString line = u"Uvařeno 11. 10. 2026: 1 lahev piva"_s;
     const auto note = [this] {
         Recordset row = run_.database.OpenTable(u"Recepty"_s);
         return RecordExists(row, 5) ? row.field(u"Vlastni"_s).toString() : QString();
@@ -147,7 +147,7 @@ TEST_F(VarimeTest, ReadsOnFromStepToStepWhereThereIsAVoice) {
 TEST_F(VarimeTest, ARecipeWithoutStepsIsNotShown) {
     for (const std::int16_t id : {std::int16_t{6}, std::int16_t{99}}) {
         auto* screen = new frmVarime(run_, run_.file(), {});
-        EXPECT_FALSE(screen->Zobraz(id, {}));
+        EXPECT_FALSE(screen->Zobraz(id, {}, kDay));
         EXPECT_EQ(run_.FormStack.top(), nullptr);
     }
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/kitchen/frmvarime.h"
 
-#include <QDate>
 #include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
@@ -100,7 +99,8 @@ QString frmVarime::textToRead() const {
     return {};
 }
 
-bool frmVarime::Zobraz(std::int16_t id, const Serving& serving) {
+bool frmVarime::Zobraz(std::int16_t id, const Serving& serving, QDate day) {
+    day_ = day;
     readRecipe(id, serving);
     if (pages_.empty()) {
         unload();
@@ -205,8 +205,7 @@ void frmVarime::startTime(int index) {
 }
 
 void frmVarime::cooked() {
-    const bool kept =
-        keepCooked(file_, recipe_.id, recipe_.name, QDate::currentDate(), recipe_.serving.portions);
+    const bool kept = keepCooked(file_, recipe_.id, recipe_.name, day_, recipe_.serving.portions);
     const bool noted = keepLine();
     showDone();
     board_.cooked.setCaption(kept ? Texts::tr("Zapsáno") : Texts::tr("Nelze zapsat"));
@@ -222,7 +221,7 @@ bool frmVarime::keepLine() {
     const QString typed = board_.note.text().simplified();
     if (typed.isEmpty()) return true;
     board_.note.setText({});
-    const QString line = Texts::tr("Uvařeno %1: %2").arg(dayText(QDate::currentDate()), typed);
+    const QString line = Texts::tr("Uvařeno %1: %2").arg(dayText(day_), typed);
     return appendToNote(app().Db(), app().notes(), recipe_.id, line);
 }
 

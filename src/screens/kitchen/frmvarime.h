@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDate>
 #include <functional>
 
 #include "screens/kitchen/cookingboard.h"
@@ -21,8 +22,9 @@ class frmVarime : public KitchenForm {
     /// Keeps in \a file, which outlives the screen, what was cooked.
     frmVarime(basSarne& sarne, UserFile& file, StartTimer startTimer);
 
-    /// Opens the screen on what to get ready. False, and the form is gone, for a recipe without steps.
-    bool Zobraz(std::int16_t id, const Serving& serving);
+    /// Opens the screen on what to get ready on \a day. False, and the form is gone, for a recipe without
+    /// steps.
+    bool Zobraz(std::int16_t id, const Serving& serving, QDate day);
 
     int page() const { return page_; }
     int pageCount() const { return static_cast<int>(pages_.size()); }
@@ -66,6 +68,7 @@ class frmVarime : public KitchenForm {
     std::vector<CookingPage> pages_;
     std::vector<bool> ready_;
     int page_ = 0;
+    QDate day_;
 
     CookingBoard board_;
     Button next_, previous_, read_;
