@@ -21,6 +21,8 @@ class frmNahled : public Form {
 
     int currentSheet() const { return current_; }
     void goBack() override;
+    /// What stands on the sheet.
+    QString textToRead() const override { return picStrana.flowingText(); }
 
   protected:
     void paint(QPainter& painter) override;

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 #include <QWheelEvent>
+#include <algorithm>
+#include <vector>
 
 #include "forms/colors.h"
 #include "print/pagepainter.h"
@@ -12,17 +14,40 @@ namespace {
 constexpr int kShadow = 60;
 constexpr int kWheelStep = 900;
 
-QStringList linesOf(const PrintedPage& page) {
-    QStringList lines;
+struct Line {
+    QString text;
+    double size = 0;  // of its letters
+    int right = 0;
+};
+
+std::vector<Line> linesOf(const PrintedPage& page) {
+    std::vector<Line> lines;
     int baseline = -1;
     for (const PageText& text : page.texts) {
         if (text.baseline != baseline)
-            lines << text.text;
+            lines.push_back({text.text, text.font.size});
         else
-            lines.last() += u' ' + text.text;
+            lines.back().text += u' ' + text.text;
+        lines.back().right = text.x + text.width;
         baseline = text.baseline;
     }
     return lines;
+}
+
+/// What runs on from line to line as one: a line goes on below when it is nearly as wide as the widest, in
+/// letters of one size.
+QString paragraphsOf(const PrintedPage& page) {
+    constexpr double kFull = 0.85;
+    const std::vector<Line> lines = linesOf(page);
+    int widest = 0;
+    for (const Line& line : lines) widest = std::max(widest, line.right);
+    QString all;
+    for (size_t i = 0; i < lines.size(); ++i) {
+        const bool goesOn =
+            i > 0 && lines[i - 1].right > kFull * widest && lines[i - 1].size == lines[i].size;
+        all += (i == 0 ? QString() : goesOn ? QStringLiteral(" ") : QStringLiteral("\n")) + lines[i].text;
+    }
+    return all;
 }
 
 }  // namespace
@@ -33,10 +58,22 @@ PageSheet::PageSheet(Form& form, const QString& name) : Control(form, name) {
 
 QString PageSheet::accessibleValue() const {
     QStringList lines;
+    forPages([&lines](const PrintedPage& page) {
+        for (const Line& line : linesOf(page)) lines << line.text;
+    });
+    return lines.join(u'\n');
+}
+
+QString PageSheet::flowingText() const {
+    QStringList pages;
+    forPages([&pages](const PrintedPage& page) { pages << paragraphsOf(page); });
+    return pages.join(u'\n');
+}
+
+void PageSheet::forPages(const std::function<void(const PrintedPage&)>& use) const {
     for (int page = preview_ ? preview_->firstPageOf(sheet_) : 0;
          preview_ && page < preview_->endOfPages(sheet_); ++page)
-        lines += linesOf(preview_->page(page));
-    return lines.join(u'\n');
+        use(preview_->page(page));
 }
 
 void PageSheet::showSheet(const PagePreview& preview, int sheet) {

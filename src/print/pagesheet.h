@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "forms/control.h"
 #include "forms/wheelsteps.h"
 #include "print/pagepreview.h"
@@ -16,6 +18,8 @@ class PageSheet : public Control {
     QAccessible::Role role() const override { return QAccessible::Document; }
     /// The texts of the sheet's pages, line by line.
     QString accessibleValue() const override;
+    /// The same for who hears it: the lines of a paragraph run on.
+    QString flowingText() const;
 
     /// The preview must outlive the control. Without a page an empty sheet shows.
     void showSheet(const PagePreview& preview, int sheet);
@@ -34,6 +38,7 @@ class PageSheet : public Control {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
+    void forPages(const std::function<void(const PrintedPage&)>& use) const;
     void paintPages(QPainter& painter) const;
     double sheetScale() const;
     int sheetHeight() const;

@@ -21,12 +21,14 @@ TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
         EXPECT_EQ(child<Label>(*preview, "lblStrana")->text(),
                   u"Strana %1 z %2"_s.arg(page + 1).arg(printed.size()));
         EXPECT_EQ(sheet->accessibleValue().simplified(), printed[page].simplified());
+        EXPECT_EQ(preview->textToRead().simplified(), printed[page].simplified());
     }
     EXPECT_EQ(preview->currentSheet() + 1, printed.size()) << "the last page stays";
     EXPECT_FALSE(child<Button>(*preview, "cmdStrana(1)")->isEnabled());
     key(Qt::Key_Home);
     key(Qt::Key_Up);
     EXPECT_EQ(preview->currentSheet(), 0);
+    EXPECT_LT(preview->textToRead().count(u'\n'), sheet->accessibleValue().count(u'\n')) << "runs on";
     key(Qt::Key_Return);
     EXPECT_TRUE(sheet->isZoomed());
     key(Qt::Key_Down);
@@ -87,9 +89,8 @@ TEST_F(FrmPrintTest, ThePreviewShowsAllPagesOfASheet) {
     cards.paper = Paper::FourCards;
     printer.use(cards);
     open({1, 3, 1, 3, 1});
-    QTest::qWait(50);
     auto* sheet = control<PageSheet>("picStrana");
-    EXPECT_EQ(control<Label>("lblStrana")->text(), u"List 1 z 2"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return control<Label>("lblStrana")->text() == u"List 1 z 2"_s; }));
     EXPECT_EQ(sheet->accessibleValue().count(u"CD Tobrela"_s), 4);
     EXPECT_EQ(inkedQuarters(*sheet), u"xxxx"_s);
     QTest::keyClick(form(), Qt::Key_PageDown);
