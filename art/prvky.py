@@ -451,7 +451,7 @@ def _disc(col, sym):
 
 
 def Ikona1():
-    x = put(poly(crossed(1.1, .2), .3, cream(), .06), 0, 0, .05, turn=45)
+    x = group([put(poly(crossed(1.1, .2), .3, cream(), .06), 0, 0, .05, turn=45)])
     return _disc(red(), x)
 
 
