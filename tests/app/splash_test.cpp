@@ -15,11 +15,13 @@
 #include "app/program.h"
 #include "dialogs/frmmessage.h"
 #include "screens/navigation/frmhlavni.h"
+#include "support/explore.h"
 #include "support/fakeplatform.h"
 #include "support/fakesarne.h"
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/recipedatabase.h"
+#include "support/screenrecord.h"
 
 namespace sarne {
 namespace test {
@@ -247,14 +249,18 @@ TEST_F(SplashTest, ThePicturesAreToldApartByTheirOrder) {
 }
 
 TEST_F(SplashTest, ItSaysTheTitleAtTheStartAndTheEndAtTheEnd) {
-    QStringList said;
+    QStringList said, looks;
     const test::OnShow watch([&](const QObject* shown) {
-        if (auto* splash = qobject_cast<const frmSplash*>(shown)) said << splash->accessibleName();
+        const auto* splash = qobject_cast<const frmSplash*>(shown);
+        if (!splash || said.contains(splash->accessibleName())) return;
+        said << splash->accessibleName();
+        looks << u"> "_s + said.last() << test::record(program->stage()).filter(u"frmSplash"_s);
     });
     ASSERT_TRUE(start({}));
     QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
     program->ConfirmExit();
     EXPECT_EQ(said, (QStringList{u"Velisa sarn - Lumora"_s, u"Ukončení progamu"_s}));
+    test::expectAsKept(u"uvod-a-zaver"_s, looks);
 }
 
 TEST_F(SplashTest, TheWindowsCloseButtonEndsTheStart) {

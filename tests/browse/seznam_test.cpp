@@ -135,17 +135,6 @@ TEST_F(SeznamTest, TheNextListShowsThePanelThatTheLastOneLeft) {
     EXPECT_TRUE(wineShows());
 }
 
-TEST_F(SeznamTest, ItSaysWhatItLists) {
-    const auto title = [&] { return child<Label>(*list, "lblNadpis")->text(); };
-    list = new frmSeznam(run);
-    list->setSubject(u"losos"_s);
-    list->Zobraz({}, u"recepty"_s);
-    EXPECT_EQ(title(), u"Recepty – losos"_s);
-    EXPECT_TRUE(child<Label>(*list, "lblHint")->text().contains(u"Enter"_s)) << "how to open by keyboard";
-    open("", "RychleRecepty");
-    EXPECT_EQ(title(), u"Rychlé recepty"_s);
-}
-
 TEST_F(SeznamTest, TheWinesFitIntoThePanel) {
     open("1,", "recepty");
     for (int more = 0; more < 5; ++more) run.database.Execute(u"INSERT INTO SpojVino VALUES (1, 1)"_s);
@@ -170,19 +159,6 @@ TEST_F(SeznamTest, AMissingOrBrokenPhotoLeavesItsNameInThePlace) {
         EXPECT_EQ(position(), u"%1 z 50"_s.arg(number));
     }
     EXPECT_EQ(run.messages, QStringList());
-}
-
-TEST_F(SeznamTest, AnActionNeedsASelection) {
-    open("", "recepty");
-    for (const char* name : {"imgBtn(0)", "imgBtn(1)", "imgBtn(2)"}) click(button(name));
-    key(Qt::Key_Return);
-    EXPECT_EQ(run.messages, QStringList(4, u"48: Není vybrán recept"_s));
-    click(control("picFoto"));
-    EXPECT_EQ(run.recorded.calls, QStringList());
-    click(row(1));
-    wheel(row(1), -3);
-    click(button("imgBtn(2)"));
-    EXPECT_EQ(run.messages.size(), 5) << "a selection that is off the page is none";
 }
 
 TEST_F(SeznamTest, TheKeyboardReachesEverything) {

@@ -175,15 +175,6 @@ TEST_F(SitTest, GroupsNarrowTheGridAndTheBackgroundWidensIt) {
     EXPECT_EQ(alive().size(), 50u) << "what is no button is background";
 }
 
-TEST_F(SitTest, WithoutAChoiceOneIsAskedFor) {
-    click(button("imgBtnHlavni(0)"));
-    click(button("imgBtnHlavni(2)"));
-    key(Qt::Key_Space);
-    key(Qt::Key_Return);
-    EXPECT_EQ(run.messages, QStringList(4, u"64: Jeden recept musí být vybrán"_s));
-    EXPECT_EQ(calls(), QStringList());
-}
-
 TEST_F(SitTest, ADoubleClickOpensTheRecipe) {
     doubleClick(cell(12));
     EXPECT_EQ(calls(), QStringList{u"showRecipe 12"_s});

@@ -65,22 +65,6 @@ TEST_F(MessageTest, ClosingItAnswersOnlyWhereThatIsAnAnswer) {
     EXPECT_FALSE(stillOpen);
 }
 
-TEST_F(MessageTest, BeepsAnnouncesAndWraps) {
-    const char* longText =
-        "Program je koncipován pro spouštění v rozlišení 800 x 600, Váš počítač má nastaveno rozlišení "
-        "1024,768";
-    ask(longText, 36, [&] {
-        EXPECT_EQ(child<Label>(*box, "Label1")->twips().width(), kMessageTextLimit);
-        EXPECT_GT(child<Label>(*box, "Label1")->twips().height(), 400);
-    });
-    EXPECT_EQ(run.beeps, 1);
-    EXPECT_EQ(run.announced, QStringList{QString::fromUtf8(longText)});
-    ask("krátce", 64, [&] {
-        EXPECT_LT(child<Label>(*box, "Label1")->twips().width(), 2000);
-        EXPECT_FALSE(button(1)->isVisible());
-    });
-}
-
 TEST_F(MessageTest, F1OpensHelpAndTheQuestionStays) {
     run.openAbove("frmHlavni");
     ask("Chcete ukončit program?  ", 36, [&] {
@@ -138,34 +122,6 @@ TEST(MessageLayout, EverySetHasItsCaptionsAndCodes) {
             shown << u"%1=%2"_s.arg(button.caption).arg(button.code);
         EXPECT_EQ(shown.join(u' '), QString::fromUtf8(sets[set].buttons));
         EXPECT_EQ(escapeButton(set), sets[set].escape) << set;
-    }
-}
-
-TEST(MessageLayout, IconAndTextShareTheirMiddle) {
-    const auto low = layOutMessage({3000, 251}, true, 2);
-    EXPECT_EQ(low.label.topLeft(), QPoint(840, 180 + (480 - 251) / 2));
-    EXPECT_EQ(low.icon.topLeft(), QPoint(180, 180));
-    EXPECT_EQ(low.buttons[0].top(), 180 + 480 + 180);
-    EXPECT_EQ(low.box.width(), 840 + 3000 + 180);
-
-    const auto tall = layOutMessage({6000, 1001}, true, 1);
-    EXPECT_EQ(tall.label.topLeft(), QPoint(840, 180));
-    EXPECT_EQ(tall.icon.top(), 180 + (1001 - 480) / 2);
-    EXPECT_EQ(tall.buttons[0].top(), 180 + 1001 + 180);
-
-    const auto bare = layOutMessage({6000, 251}, false, 1);
-    EXPECT_EQ(bare.label.topLeft(), QPoint(180, 180));
-    EXPECT_TRUE(bare.icon.isNull());
-    EXPECT_EQ(bare.box.width(), 180 + 6000 + 180);
-}
-
-TEST(MessageLayout, TheBoxHoldsItsButtonsInTheMiddleOfTheScreen) {
-    for (int count = 1; count <= 3; ++count) {
-        const auto geometry = layOutMessage({100, 240}, false, count);
-        const QRect inside({0, 0}, geometry.box.size());
-        for (const QRect& button : geometry.buttons) EXPECT_TRUE(inside.contains(button));
-        EXPECT_NEAR(geometry.box.center().x(), 6000, 1);
-        EXPECT_NEAR(geometry.buttons.front().left(), inside.width() - 1 - geometry.buttons.back().right(), 1);
     }
 }
 

@@ -206,6 +206,26 @@ TEST_F(FocusRingTest, TheKeyboardIsShownAtADistanceAndOnlyToThoseWhoUseIt) {
     EXPECT_FALSE(frame.isVisible());
 }
 
+/// Counts how often it is painted.
+struct Painted final : Control {
+    using Control::Control;
+    void paint(QPainter&) override { ++times; }
+    int times = 0;
+};
+
+TEST_F(FocusRingTest, WhatHasTheKeyboardIsPaintedAnewWhenItsUserComesBackFromTheMouse) {
+    Painted row(*screen, u"picSeznam"_s);
+    row.place({6000, 6000, 900, 900});
+    row.setFocusPolicy(Qt::StrongFocus);
+    row.setFocus();
+    QTest::mouseClick(&row, Qt::LeftButton);
+    QApplication::processEvents();
+    const int before = row.times;
+    QTest::keyClick(&row, Qt::Key_F12);
+    QApplication::processEvents();
+    EXPECT_GT(row.times, before);
+}
+
 TEST_F(FocusRingTest, TheFormItselfCanBeAStop) {
     screen->ring().setStops({screen->buttons[0], screen});
     screen->setAccessibleName(u"cells"_s);

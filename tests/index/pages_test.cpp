@@ -160,19 +160,6 @@ TEST_F(PageTest, TheTitleIsNotSaidTwice) {
     EXPECT_EQ(book.top(), form) << "a page that is not there changes nothing";
 }
 
-TEST_F(PageTest, TheBarDoesWhatItSays) {
-    show("300");
-    click(0);
-    click(1);
-    EXPECT_EQ(run.recorded.calls, (QStringList{u"printText Recept"_s, u"showList  Help"_s}));
-    EXPECT_TRUE(run.recorded.printedText.contains(u"Text."_s));
-    click(3);
-    EXPECT_EQ(run.exits, 1);
-    click(2);
-    EXPECT_TRUE(book.callerIsOnTop());
-    for (QObject* one : book.caller->children()) EXPECT_FALSE(one->objectName().startsWith(u"imgBtn"));
-}
-
 TEST_F(PageTest, TheSoundButtonSwitchesTheMusicAndTheStoredSwitch) {
     run.SoundFlags = {true, true, true, false, false};
     run.MediaRoot = LogicalPaths::fromNativeFolder(book.folder.path());
@@ -221,19 +208,6 @@ TEST_F(PageTest, TheHelpOfThePageDoesNotOpenItselfAgain) {
     QTest::keyClick(&bar(0), Qt::Key_F1);
     EXPECT_EQ(run.recorded.calls.size(), 1);
     EXPECT_EQ(run.beeps, 1);
-}
-
-TEST_F(PageTest, KeysScrollTheTextFromTheBar) {
-    show("10");
-    auto* view = child<TextView>(*form, "picText");
-    bar(2).setFocus();
-    QTest::keyClick(&bar(2), Qt::Key_End);
-    EXPECT_EQ(view->scrolled(), view->scrollRange());
-    EXPECT_GT(view->scrolled(), 0);
-    QTest::keyClick(&bar(2), Qt::Key_PageUp);
-    EXPECT_LT(view->scrolled(), view->scrollRange());
-    QTest::keyClick(&bar(2), Qt::Key_Return);
-    EXPECT_TRUE(book.callerIsOnTop()) << "Enter presses the button";
 }
 
 }  // namespace

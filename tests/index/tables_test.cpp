@@ -54,24 +54,6 @@ class TablesTest : public testing::Test {
     }
 };
 
-TEST_F(TablesTest, KeysGoThroughTheIndex) {
-    show(kKeywordIndexItem);
-    EXPECT_EQ(position(), QString());
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    EXPECT_EQ(position(), u"2 z 54"_s);
-    EXPECT_EQ(run.announced.last(), table().accessibleValue());
-    press(Qt::Key_PageDown);
-    EXPECT_GT(table().rows().top(), 0);
-    press(Qt::Key_End);
-    EXPECT_EQ(selected(), u"Sslovo 8"_s);
-    EXPECT_FALSE(table().rowRect(53).isEmpty());
-    press(Qt::Key_Home);
-    EXPECT_EQ(selected(), u"Aslovo 0"_s);
-    press(Qt::Key_Return);
-    EXPECT_EQ(run.recorded.calls, QStringList{u"showIndex 1"_s});
-}
-
 TEST_F(TablesTest, LettersJumpByKeyAndMouse) {
     show(kKeywordIndexItem);
     QTest::keyClick(&table(), Qt::Key_H, Qt::NoModifier);
@@ -89,27 +71,6 @@ TEST_F(TablesTest, LettersJumpByKeyAndMouse) {
     EXPECT_EQ(run.exits, 1);
     QTest::keyClick(&table(), Qt::Key_C);
     EXPECT_TRUE(book.callerIsOnTop());
-}
-
-TEST_F(TablesTest, TheKeyboardReachesEveryLetter) {
-    show(kKeywordIndexItem);
-    QStringList reached;
-    for (int i = 0; i < 6; ++i) {
-        press(Qt::Key_Right);
-        reached << qobject_cast<Button*>(run.window.focusWidget())->caption();
-    }
-    EXPECT_EQ(reached.join(u' '), u"A B Č H Ch S"_s);
-    press(Qt::Key_Return);
-    EXPECT_EQ(selected(), u"Sslovo 0"_s);
-    press(Qt::Key_Right);
-    EXPECT_EQ(run.window.focusWidget(), child(*form, "imgBtnHlavni(0)"));
-}
-
-TEST_F(TablesTest, AClickAnywhereInARowOfTheIndexOpensIt) {
-    show(kKeywordIndexItem);
-    clickCell(2, 1);
-    EXPECT_EQ(run.recorded.calls, QStringList{u"showIndex 3"_s});
-    EXPECT_EQ(position(), u"3 z 54"_s);
 }
 
 TEST_F(TablesTest, ArrowsScrollByARowAndByHalfAPage) {

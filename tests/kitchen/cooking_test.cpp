@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QtEndian>
+
 #include <QTemporaryDir>
 
 #include "db/database.h"
@@ -64,6 +66,9 @@ TEST(RingWave, IsAWholeSoundThatIsHeardAndNotClipped) {
     const QByteArray wave = ringWave();
     ASSERT_GT(wave.size(), 44);
     EXPECT_TRUE(wave.startsWith("RIFF"));
+    const auto number = [&](int at) { return int(qFromLittleEndian<quint16>(wave.constData() + at)); };
+    EXPECT_EQ((QList<int>{number(20), number(22), number(32), number(34)}), (QList<int>{1, 1, 2, 16}))
+        << "plain samples on one channel, 2 bytes of 16 bits each";
     const auto* samples = reinterpret_cast<const qint16*>(wave.constData() + 44);
     int loudest = 0;
     for (qsizetype i = 0; i < (wave.size() - 44) / 2; ++i)

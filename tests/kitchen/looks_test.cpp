@@ -105,6 +105,7 @@ TEST(Looks, Timers) {
         plates.start(u"Ryba"_s, 600);
         run.time.time = 600'000;
         plates.look();
+        plates.say(u"Kapr na kmíně je na seznamu"_s, {});
         look(run);
     });
 }

@@ -37,20 +37,6 @@ class SettingsTest : public MediaFixture {
     frmNastavHudbu* form = nullptr;
 };
 
-TEST_F(SettingsTest, CaptionsTellTheState) {
-    EXPECT_EQ(box(0)->caption(), u"Efekty - Zapnuto"_s);
-    EXPECT_EQ(box(2)->caption(), u"Názvy - Vypnuto"_s);
-    click(box(2));
-    click(box(0));
-    EXPECT_EQ(box(2)->caption(), u"Názvy - Zapnuto"_s);
-    EXPECT_EQ(box(0)->caption(), u"Efekty - Vypnuto"_s);
-    EXPECT_TRUE(track(0)->isChecked());
-    confirm(1);
-    EXPECT_EQ(stored(), u"11010"_s) << "Storno stores nothing";
-    EXPECT_TRUE(run.SoundFlags[kEffects]);
-    EXPECT_EQ(run.FormStack.top(), below);
-}
-
 TEST_F(SettingsTest, WithoutChangesNothingIsWrittenAndTheMusicPlaysOn) {
     std::vector<bool> same;
     for (const SoundSetting& setting : readSoundSettings(run.database)) same.push_back(setting.on);

@@ -37,6 +37,15 @@ TEST(Looks, MainScreen) {
     });
 }
 
+TEST(Looks, LightOverTheThings) {
+    test::expectLooks("hlavni-svetlo", [](const Look& look) {
+        Main main;
+        main.screen->showThings();
+        for (int tick = 0; tick < 12; ++tick) main.screen->findChildren<Timer*>().at(1)->fire();
+        look(main.run);
+    });
+}
+
 TEST(Looks, Menus) {
     const struct {
         const char* name;

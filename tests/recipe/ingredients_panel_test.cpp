@@ -59,19 +59,6 @@ TEST_F(IngredientPanelTest, WhoGivesNoNumberKeepsWhatThereIs) {
     EXPECT_EQ(state(), u"3 porce\nv gramech"_s);
 }
 
-TEST_F(IngredientPanelTest, BothUnitsAreFramedAndTheOneInUseIsPressed) {
-    auto& current = at<Button>("picZavazi");
-    auto& other = at<Button>("imgKgLzice");
-    EXPECT_EQ(current.frame(), Button::Frame::Pressed);
-    EXPECT_EQ(other.frame(), Button::Frame::Raised);
-    const QRect weights = current.twips(), spoons = other.twips();
-    QTest::mouseClick(&current, Qt::LeftButton);
-    EXPECT_EQ(state(), u"4 porce\nv gramech"_s) << "the one in use is no switch";
-    click("imgKgLzice");
-    EXPECT_EQ(current.twips(), spoons) << "each unit keeps its place";
-    EXPECT_EQ(other.twips(), weights);
-}
-
 TEST_F(IngredientPanelTest, ARecipeWithoutPortionsHasNoAmounts) {
     run.database.Execute(u"UPDATE Recepty SET Porce = -3 WHERE ID = 5"_s);
     form->Skryj();

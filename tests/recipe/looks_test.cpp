@@ -21,6 +21,7 @@ class Recipe : public RecipeTest {
     }
     void ask(double portions) { customPortions = portions; }
     using RecipeTest::run;
+    using RecipeTest::type;
 
   private:
     void TestBody() override {}
@@ -43,6 +44,15 @@ TEST(Looks, Sections) {
         recipe("prazdny", 6, section, false);
     }
     recipe("dlouhy", 7, 5, true);
+}
+
+TEST(Looks, NoteThatWasTyped) {
+    test::explore("poznamka-psana", [](const Look& look) {
+        Recipe book;
+        book.show(5, 7);
+        book.type(u"víc kmínu"_s);
+        look(book.run);
+    });
 }
 
 }  // namespace

@@ -28,17 +28,6 @@ class ScreenTest : public RecipeTest {
     void section(int index) { click(qPrintable(nth("imgBtn", index))); }
 };
 
-TEST_F(ScreenTest, OpensOnThePhotoUnderItsWrappedTitle) {
-    const QString title = at<Label>("lblNazev").text();
-    EXPECT_EQ(title.count(u'\n'), 1);
-    EXPECT_TRUE(QString(title).replace(u'\n', u' ').startsWith(u"Kapr na kmíně s máslem, jak"_s));
-    EXPECT_EQ(form->section(), 0);
-    EXPECT_EQ(at<Button>("imgBtn(0)").frame(), Button::Frame::Pressed);
-    EXPECT_EQ(run.FormStack.top(), form);
-    EXPECT_EQ(run.awake, QStringList{u"Na obrazovce je recept"_s});
-    EXPECT_EQ(shown(), QString()) << "a missing photo leaves the paper empty";
-}
-
 TEST_F(ScreenTest, SaysThatThePhotoIsBeingReadUntilItIsThere) {
     makePicture(u"foto/velke/R6.BMP"_s, qRgb(200, 30, 40));
     makePicture(u"foto/Podklad/r6.bmp"_s, qRgb(20, 230, 40));
@@ -58,27 +47,6 @@ TEST_F(ScreenTest, SaysThatThePhotoIsBeingReadUntilItIsThere) {
     EXPECT_EQ(run.recorded.calls.size(), 1) << "a text opens no photo";
     section(0);
     EXPECT_EQ(shown(), QString()) << "the photo is read once";
-}
-
-TEST_F(ScreenTest, EverySectionShowsItsOwn) {
-    const char* texts[] = {
-        "",
-        "Kapra osolíme a pečeme podle videa.\nPodáváme ihned.",
-        "Úvod k receptu.\nNa talíři.\nPoznámka kuchaře.",
-        "Chléb nakrájíme.",
-        "Ryzlink",
-        "kapr - filety bez kůže (g): 250\nmáslo (g): 50\n      - nebo olej\nmáslo (g): 12\nsůl",
-        "číška\nchňapka\npánev\nvařečka"};
-    for (int index = 1; index < 7; ++index) {
-        section(index);
-        QString all = shown().simplified();
-        EXPECT_EQ(all, QString::fromUtf8(texts[index]).simplified()) << index;
-        EXPECT_EQ(at<Button>(qPrintable(nth("imgBtn", index))).frame(), Button::Frame::Pressed);
-        EXPECT_EQ(at<Button>(qPrintable(nth("imgBtn", index - 1))).frame(), Button::Frame::Raised);
-    }
-    EXPECT_EQ(form->childAt(at("lblIkona(4)").geometry().center()), &at("lblIkona(4)"));
-    QTest::mouseClick(&at("lblIkona(4)"), Qt::LeftButton);
-    EXPECT_EQ(form->section(), 4);
 }
 
 TEST_F(ScreenTest, ToolsStandAsPicturesBesideTheirListWhereThereAreThree) {
@@ -153,29 +121,6 @@ TEST_F(ScreenTest, TheNameIsSpokenWhenItsSwitchIsOnOrForShow) {
     EXPECT_EQ(run.player.decibels, -10) << "the music steps back";
 }
 
-TEST_F(ScreenTest, TheBarLeadsWhereItsButtonsSay) {
-    click("imgBtnHlavni(0)");
-    EXPECT_EQ(run.recorded.printed, std::vector<std::int16_t>{5});
-    click("imgBtnHlavni(1)");
-    press(Qt::Key_F1);
-    click("imgBtnHlavni(4)");
-    press(Qt::Key_F4);
-    EXPECT_EQ(run.recorded.calls, (QStringList{u"printRecipes 1"_s, u"showPage 300"_s, u"showPage 300"_s,
-                                               u"showMusicSettings"_s, u"showMusicSettings"_s}));
-    click("imgBtnHlavni(3)");
-    press(Qt::Key_X);
-    press(Qt::Key_X, Qt::AltModifier);
-    EXPECT_EQ(run.exits, 3);
-    EXPECT_TRUE(run.messages.isEmpty()) << "nothing was changed, so nothing is asked";
-    click("imgBtnHlavni(2)");
-    EXPECT_EQ(run.awake.last(), QString());
-    for (const int back : {Qt::Key_C, Qt::Key_Escape}) {
-        EXPECT_EQ(run.FormStack.top(), below);
-        open(6);
-        press(back);
-    }
-}
-
 TEST_F(ScreenTest, LinkPhrasesOpenKeywordsAndVideosOrBeep) {
     section(1);
     const auto clickLink = [&](int link) {
@@ -193,29 +138,6 @@ TEST_F(ScreenTest, LinkPhrasesOpenKeywordsAndVideosOrBeep) {
     clickLink(2);
     EXPECT_EQ(run.recorded.calls, (QStringList{u"showIndex 12"_s, u"showVideo 7"_s}));
     EXPECT_EQ(run.beeps, 1);
-}
-
-TEST_F(ScreenTest, LinksAreChosenByOptions) {
-    section(3);
-    auto& first = at<OptionButton>("optOdkaz(0)");
-    auto& second = at<OptionButton>("optOdkaz(1)");
-    EXPECT_EQ(first.caption() + u'|' + second.caption(), u"Chlebové kostky|Rybí vývar"_s);
-    EXPECT_TRUE(first.isChecked());
-    click("optOdkaz(1)");
-    EXPECT_TRUE(second.isChecked());
-    EXPECT_FALSE(first.isChecked());
-    EXPECT_EQ(shown(), u"Vývar vaříme pomalu."_s);
-    section(4);
-    EXPECT_FALSE(second.isVisible());
-    form->Skryj();
-    open(7);
-    section(3);
-    EXPECT_EQ(shown(), u"Text odkazu"_s);
-    EXPECT_EQ(child(*form, "optOdkaz(1)"), nullptr);
-    form->Skryj();
-    open(6);
-    section(3);
-    EXPECT_EQ(shown(), u"K tomuto receptu není přiřazen žádný odkaz"_s);
 }
 
 TEST_F(ScreenTest, ManyLinksScroll) {
@@ -286,19 +208,6 @@ TEST_F(ScreenTest, TabGoesFromTheSectionsThroughTheTextToTheBar) {
     EXPECT_EQ(focused(), u"picRecept"_s) << "back where the link was";
     EXPECT_EQ(view().pieces().focused(), 1);
     EXPECT_EQ(run.awake.size(), 1) << "and awake again";
-}
-
-TEST_F(ScreenTest, ALongTextScrollsByKeyboardFromAnywhere) {
-    form->Skryj();
-    open(7);
-    section(5);
-    EXPECT_EQ(shown().count(u'\n') + 1, 60);
-    ASSERT_GT(view().scrollRange(), 0);
-    press(Qt::Key_PageDown);
-    EXPECT_GT(view().scrolled(), 0);
-    EXPECT_EQ(focused(), u"imgBtn(5)"_s);
-    press(Qt::Key_PageUp);
-    EXPECT_EQ(view().scrolled(), 0);
 }
 
 TEST_F(ScreenTest, CtrlCPutsTheRecipeOnTheClipboard) {

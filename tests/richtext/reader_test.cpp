@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "richtext/charset.h"
 #include "richtext/layoutdump.h"
 #include "richtext/plaintext.h"
 #include "richtext/rtfreader.h"
@@ -98,6 +99,20 @@ TEST(RtfReader, TakesTheTextOnly) {
         {u"{\\rtf1\\deftab720\\pard\\tx500\\pard\\tx700\\plain a\\tx900}",
          u"<tabs 720><stop 700>a<stop 900>"},
     });
+}
+
+TEST(Charset, EveryNumberHasItsCodePage) {
+    const struct {
+        int charset;
+        const char* characters;  // of the codes b5, e8 and f2
+    } pages[] = {{0, "µèò"},   {238, "µčň"}, {204, "µит"},           {161, "µθς"}, {162, "µèò"}, {177, "µטע"},
+                 {178, "µèٍ"},  {186, "µčņ"}, {163, "µ\u00e8\u0323"}, {222, "ต่๒"},  {77, "µËÚ"},  {254, "╡Φ≥"},
+                 {255, "ÁÞ‗"}, {99, "µèò"}};
+    for (const auto& [charset, characters] : pages) {
+        const CharsetTable& table = charsetTable(charset);
+        EXPECT_EQ(QString(table[0xb5]) + table[0xe8] + table[0xf2], QString::fromUtf8(characters)) << charset;
+    }
+    EXPECT_EQ(charsetTable(186)[0x8a], QChar(0x8a)) << "a code that the page leaves empty";
 }
 
 TEST(RtfReader, ReadsTheTables) {
