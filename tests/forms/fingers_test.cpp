@@ -66,6 +66,20 @@ TEST_F(FingersTest, AFingerPressesTheSmallButtonThatItFallsBeside) {
     EXPECT_EQ(fingerPlace(form->small).size(), QSize(44, 44));
 }
 
+TEST_F(FingersTest, WhatLiesBetweenTwoThingsIsHalvedOnEverySide) {
+    const QRect own = fingerPlace(form->small);
+    std::vector<std::unique_ptr<Button>> around;
+    for (const QPoint way : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)}) {
+        around.push_back(std::make_unique<Button>(*form, QStringLiteral("cmdVedle")));
+        around.back()->place(QRect(3000, 3000, 300, 300).translated(360 * way));
+        around.back()->show();
+    }
+    const QRect between = fingerPlace(form->small);
+    EXPECT_TRUE(own.contains(between) && own != between);
+    EXPECT_TRUE(between.contains(QRect(form->small.mapTo(&run.window, QPoint(-1, -1)), QSize(22, 22))));
+    for (const auto& button : around) EXPECT_FALSE(fingerPlace(*button).intersects(between));
+}
+
 TEST_F(FingersTest, ARestingFingerNamesTheThingAndLetsGoOfIt) {
     touch({{3150, 3150}});
     const int hovers = form->hovers;

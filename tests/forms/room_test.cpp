@@ -88,6 +88,11 @@ TEST_F(RoomTest, ComposedBeforehandItLooksTheSameWhereverItIsDrawn) {
     const Picture design = Picture::fromImage(test::plain({160, 120}, Qt::blue));
     const QRectF display(-2000, 0, 16000, 9000);
     const QImage expected = shot(Room(design, Picture::fromImage(wideGround())), {1920, 1080});
+    const QSize odd(1921, 1080);  // cannot be cut out
+    Room painted(design, Picture::fromImage(wideGround()));
+    const QImage asPainted = shot(painted, odd);
+    painted.prepare(odd, form->all());
+    EXPECT_EQ(shot(painted, odd), asPainted);
     for (const QSize& foreseen : {QSize(1920, 1080), QSize(960, 540)}) {
         Room room({}, Picture::fromImage(wideGround()));
         room.prepare(foreseen, display);

@@ -193,6 +193,13 @@ QString said(const QAccessibleInterface& heard) {
         const QString text = heard.text(kind).simplified();
         if (!text.isEmpty()) all << u"%1'%2'"_s.arg(QLatin1String("NDV").mid(kind, 1), text);
     }
+    auto& asked = const_cast<QAccessibleInterface&>(heard);
+    if (const auto* value = asked.valueInterface())
+        all << u"%1 of %2 by %3"_s.arg(value->currentValue().toString(), value->maximumValue().toString(),
+                                       value->minimumStepSize().toString());
+    if (const auto* text = asked.textInterface()) all << u"%1 characters"_s.arg(text->characterCount());
+    if (const auto* table = asked.tableInterface())
+        all << u"%1 x %2"_s.arg(table->rowCount()).arg(table->columnCount());
     return all.join(u' ');
 }
 
