@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QTest>
 #include <QTimer>
 
 #include "dialogs/frmdialog.h"
@@ -15,9 +16,10 @@ namespace {
 using test::explore;
 using test::Look;
 
-/// Looks while a question is asked; one that stays unanswered is then hidden.
-void meanwhile(FakeSarne& run, const Look& look) {
-    QTimer::singleShot(0, [&] {
+/// Types \a text while a question is asked, and looks; one that stays unanswered is then hidden.
+void meanwhile(FakeSarne& run, const Look& look, const QString& text = {}) {
+    QTimer::singleShot(0, [&run, &look, text] {
+        QTest::keyClicks(QApplication::focusWidget(), text);
         look(run);
         if (Form* open = run.window.modalForm()) open->hideForm();
     });
@@ -28,7 +30,7 @@ TEST(Looks, Questions) {
         explore(number ? "dotaz-na-cislo" : "dotaz-na-text", [=](const Look& look) {
             FakeSarne run;
             run.openAbove("frmHlavni");
-            meanwhile(run, look);
+            meanwhile(run, look, u"2,5"_s);
             if (number)
                 run.announced << u"answer %1"_s.arg(askNumber(run, u"Počet porcí:"_s));
             else

@@ -41,9 +41,11 @@ TEST(Looks, Dinner) {
             run.database.Execute(u"UPDATE Fakta SET Chod = 'teplé', Obdobi = 'zima'"_s);
             run.database.Execute(
                 u"INSERT INTO Fakta (ID, Minut, Mesice, Chod, Obdobi) VALUES (6,30,4095,'polévka','')"_s);
-            auto* screen = new frmHostina(
-                run, run.file(),
-                {[](const QString&) { return 8; }, [](const QString&) { return u"12.30"_s; }}, 11);
+            auto* screen =
+                new frmHostina(run, run.file(),
+                               {[&run](const QString& asked) { return run.announced << asked, 8; },
+                                [&run](const QString& asked) { return run.announced << asked, u"12.30"_s; }},
+                               11);
             screen->Zobraz();
             if (planned)
                 for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_Return}) press(*screen, key);
