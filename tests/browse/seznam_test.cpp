@@ -52,27 +52,6 @@ TEST_F(SeznamTest, AShortListFillsItsSheetWithLargerRows) {
     EXPECT_TRUE(row(kRows)->isVisible());
 }
 
-TEST_F(SeznamTest, ShowsAPageAndSelectsByMouse) {
-    open("3,1,2,", "Recepty");
-    EXPECT_EQ(row(1)->text(), u"Recept 003"_s);
-    EXPECT_EQ(row(3)->text(), u"Recept 002"_s);
-    EXPECT_EQ(row(4)->text(), QString());
-    EXPECT_EQ(row(1)->cursor().shape(), Qt::PointingHandCursor);
-    EXPECT_FALSE(button("imgSipky(0)")->isVisible());
-    EXPECT_FALSE(control("imgJablko")->isVisible());
-    click(row(4));
-    EXPECT_EQ(selected(), -1);
-    click(row(2));
-    EXPECT_EQ(position(), u"2 z 3"_s);
-    EXPECT_TRUE(control("imgJablko")->isVisible());
-    EXPECT_EQ(run.announced, (QStringList{u"Recepty, 3\u00a0recepty"_s, u"Recept 001"_s}));
-    click(button("imgBtn(2)"));
-    doubleClick(row(1));
-    EXPECT_EQ(run.recorded.calls, (QStringList{u"showRecipe 1"_s, u"showRecipe 3"_s}));
-    click(button("imgBtnHlavni(2)"));
-    EXPECT_EQ(run.FormStack.top(), below);
-}
-
 TEST_F(SeznamTest, ArrowsScrollOnceOrWhileHeld) {
     open("", "recepty");
     const int half = kRows / 2;
@@ -217,15 +196,6 @@ TEST_F(SeznamTest, LettersJumpAndCGoesBack) {
     }
     type('c');
     EXPECT_EQ(run.FormStack.top(), below);
-}
-
-TEST_F(SeznamTest, TheWheelScrollsByOneEntryANotch) {
-    open("", "recepty");
-    wheel(row(3), -2);
-    wheel(list, -1);
-    EXPECT_EQ(list->pages().top(), 3);
-    wheel(row(3), 9);
-    EXPECT_EQ(list->pages().top(), 0);
 }
 
 TEST_F(SeznamTest, AHelpTopicOpensItsPageAndNoPhoto) {

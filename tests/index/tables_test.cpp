@@ -73,24 +73,6 @@ TEST_F(TablesTest, LettersJumpByKeyAndMouse) {
     EXPECT_TRUE(book.callerIsOnTop());
 }
 
-TEST_F(TablesTest, ArrowsScrollByARowAndByHalfAPage) {
-    show(kKeywordIndexItem);
-    const auto arrow = [this](int i) {
-        QTest::mouseClick(form->findChild<Button*>(u"imgSipky(%1)"_s.arg(i)), Qt::LeftButton);
-        return table().rows().top();
-    };
-    EXPECT_EQ(arrow(0), 1);
-    const int half = arrow(3) - 1;
-    EXPECT_EQ(half, table().halfPage());
-    EXPECT_EQ(arrow(1), half);
-    EXPECT_EQ(arrow(2), 0);
-    for (int piece = 0; piece < 4; ++piece) test::wheel(table(), -30);
-    EXPECT_EQ(table().rows().top(), 2) << "what a finger sends in small pieces adds up";
-    EXPECT_EQ(table().rows().selected(), RowPaging::kNone) << "scrolling selects nothing";
-    show(3);
-    EXPECT_FALSE(child(*form, "imgSipky(0)")->isVisible()) << "everything is seen";
-}
-
 TEST_F(TablesTest, OnlyTheNameOfARowWithAKeywordIsALink) {
     show(3);
     clickCell(0, 1);

@@ -153,22 +153,6 @@ TEST_F(SettingsTest, SaysWhatIsMissing) {
     EXPECT_TRUE(said().contains(u"Kuchařku se nepodařilo otevřít"_s));
 }
 
-TEST_F(SettingsTest, ByKeyboardAlone) {
-    for (int i = 0; i < 2; ++i) press(Qt::Key_Down);  // past Storno to the first switch
-    EXPECT_TRUE(box(0)->hasFocus());
-    press(Qt::Key_Space);
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
-    EXPECT_TRUE(form->isLoaded()) << "Enter on a check box does what a click does";
-    press(Qt::Key_N);
-    EXPECT_EQ(stored(), u"01110"_s);
-    open();
-    press(Qt::Key_F4);  // does not open itself again
-    press(Qt::Key_Escape);
-    EXPECT_EQ(run.FormStack.top(), below);
-}
-
 }  // namespace
 }  // namespace sarne
 

@@ -104,17 +104,6 @@ TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
     EXPECT_EQ(run.messages, QStringList()) << "the start is silent about its music";
 }
 
-TEST_F(MainScreenTest, ThingsAreNamedAsTheMenusTheyOpen) {
-    start();
-    EXPECT_EQ(button(2)->accessibleName(), u"Sladkovodní ryby"_s);
-    EXPECT_EQ(button(18)->accessibleName(), u"Kuchání"_s) << "without a heading: the first item";
-    for (int step = 0; step < 19; ++step) {
-        press(Qt::Key_Tab);
-        EXPECT_EQ(run.window.namePlate().text(), QApplication::focusWidget()->accessibleName());
-    }
-    for (const int own : {0, 7}) EXPECT_FALSE(button(own)->accessibleName().isEmpty());
-}
-
 TEST_F(MainScreenTest, ButtonsByKeyboard) {
     start();
     press(Qt::Key_PageUp);
