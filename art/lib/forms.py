@@ -199,7 +199,8 @@ def smallherring(length=4.2, state="fried"):
     pts = np.stack([np.sign(c) * np.abs(c) ** .7 * length / 2, s * .56 * w], -1)
     body = food.slab(pts, .62, food.fishskin("herring", "fried"), 2.2, .07, 1.3, 18, .12, .03, 6, None, taper=.1)
     tailm = mat("friedfin", ((.4, "4a240e"), (.6, "8a4f22")), .5)
-    tl = food.slab([(length * .46, -.12), (length * .62, -.5), (length * .66, -.42), (length * .57, 0), (length * .66, .42), (length * .62, .5), (length * .46, .12)], .14, tailm, 5, .02, 2, 6)
+    tl = food.slab([(length * .3, -.2), (length * .47, -.15), (length * .6, -.5), (length * .65, -.44), (length * .57, 0), (length * .65, .44), (length * .6, .5), (length * .47, .15), (length * .3, .2)], .2, tailm, 5, .02, 2, 6)
+    tl.location = (0, 0, .12)
     return group([body, tl])
 
 
