@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <QMetaMethod>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 #include <csignal>
@@ -254,7 +255,9 @@ TEST_F(SplashTest, ItSaysTheTitleAtTheStartAndTheEndAtTheEnd) {
         const auto* splash = qobject_cast<const frmSplash*>(shown);
         if (!splash || said.contains(splash->accessibleName())) return;
         said << splash->accessibleName();
-        looks << u"> "_s + said.last() << test::record(program->stage()).filter(u"frmSplash"_s);
+        // The ground is a picture where an earlier test of this run has left one registered.
+        static const QRegularExpression own(u"^frmSplash(?!.* 0,0 800x600$)"_s);
+        looks << u"> "_s + said.last() << test::record(program->stage()).filter(own);
     });
     ASSERT_TRUE(start({}));
     QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
