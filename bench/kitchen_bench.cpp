@@ -35,7 +35,7 @@ void turnPage(benchmark::State& state) {
     KitchenRun run;
     run.window.resize(1920, 1080);
     auto* screen = new frmVarime(run, run.file(), {});
-    screen->Zobraz(5, {});
+    screen->Zobraz(5, {}, {2026, 10, 11});
     press(*screen, Qt::Key_Return);
     for ([[maybe_unused]] auto turn : state) {
         press(*screen, Qt::Key_Right);
