@@ -7,8 +7,8 @@ DrawnPictures& DrawnPictures::shared() {
     return pictures;
 }
 
-int DrawnPictures::kilobytes(QSize pixels) {
-    return static_cast<int>(qint64(pixels.width()) * pixels.height() * 4 / 1024) + 1;
+qsizetype DrawnPictures::kilobytes(QSize pixels) {
+    return qsizetype(pixels.width()) * pixels.height() * 4 / 1024 + 1;
 }
 
 void DrawnPictures::setDisplay(QSize pixels) {

@@ -36,7 +36,7 @@ class DrawnPictures {
             return qHashMulti(seed, key.source, key.pixels.width(), key.pixels.height());
         }
     };
-    static int kilobytes(QSize pixels);
+    static qsizetype kilobytes(QSize pixels);
 
     QCache<Key, QPixmap> kept_{3 * kilobytes({1920, 1080})};
 };

@@ -71,7 +71,7 @@ class SplashTest : public testing::Test {
     }
     /// Answers the questions that come up with \a keys, one each, and keeps what they said. Key_F4 closes the
     /// box.
-    void answer(QList<Qt::Key> keys) {
+    void answer(const QList<Qt::Key>& keys) {
         if (keys.isEmpty()) return;
         QTimer::singleShot(0, [=, this] {
             auto* box = qobject_cast<frmMessage*>(program->stage().modalForm());
@@ -83,7 +83,7 @@ class SplashTest : public testing::Test {
                             closes ? Qt::AltModifier : Qt::NoModifier);
         });
     }
-    bool start(QList<Qt::Key> keys) {
+    bool start(const QList<Qt::Key>& keys) {
         answer(keys);
         return program->Main({});
     }

@@ -25,7 +25,7 @@ QStringList everything() {
         for (int i = 0; i < 9; ++i)
             all << Cookbook::keyword(++id, u"%1slovo %2"_s.arg(QString::fromUtf8(letter)).arg(i),
                                      u"Kapr se *2 vaří* s kmínem, #5 pípne# a @7 video@ hraje. "_s +
-                                         u"slovo "_s.repeated(i % 2 * 700));
+                                         u"slovo "_s.repeated(qsizetype(i % 2) * 700));
     all << u"INSERT INTO UkazkyHesel VALUES (1, 'foto\\hesla\\kapr.png', 'Kapr', 6, '7,12,')"_s
         << u"INSERT INTO Tabulky VALUES (3, 'Ryby', 'Ryba\tMíra', 'Podle vyhlášky.')"_s
         << u"INSERT INTO RadkyTabulek VALUES (1, 3, 7, 'Kapr\t40 cm'), (2, 3, 0, 'Sleď\tbez míry')"_s
