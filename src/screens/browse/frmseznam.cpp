@@ -93,6 +93,7 @@ void frmSeznam::drawPage() {
         Label& label = *lblSeznam[size_t(row - 1)];
         const int entry = pages_.entryAt(row);
         label.setText(entry < 0 ? QString() : entries_[size_t(entry)].Nazev);
+        label.setClickable(entry >= 0);  // below the last entry there is nothing to light or to click
         label.setColor(row == pages_.selectedRow() ? QColor(Qt::white) : colors::kInk);
     }
     const int row = pages_.selectedRow();
