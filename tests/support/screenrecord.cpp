@@ -65,26 +65,27 @@ class Writer final : public QPaintEngine {
         brush_ = now.brush();
         opacity_ = now.opacity();
         transform_ = now.transform();
+        hints_ = now.renderHints();
     }
-    void drawPath(const QPainterPath& path) override { shape("shape", path.boundingRect()); }
+    void drawPath(const QPainterPath& path) override { shape(smooth("shape"), path.boundingRect()); }
     void drawPolygon(const QPointF* points, int count, PolygonDrawMode) override {
-        shape("polygon", QPolygonF(QList<QPointF>(points, points + count)).boundingRect());
+        shape(smooth("polygon"), QPolygonF(QList<QPointF>(points, points + count)).boundingRect());
     }
     void drawRects(const QRectF* rects, int count) override {
-        for (int i = 0; i < count; ++i) shape("rect", rects[i]);
+        for (int i = 0; i < count; ++i) shape(u"rect"_s, rects[i]);
     }
     void drawLines(const QLineF* lines, int count) override {
-        for (int i = 0; i < count; ++i) shape("line", QRectF(lines[i].p1(), lines[i].p2()));
+        for (int i = 0; i < count; ++i) shape(smooth("line"), QRectF(lines[i].p1(), lines[i].p2()));
     }
-    void drawPixmap(const QRectF& place, const QPixmap& pixmap, const QRectF&) override {
-        write(u"picture "_s + pictureText(pixmap.toImage()), place);
+    void drawPixmap(const QRectF& place, const QPixmap& pixmap, const QRectF& part) override {
+        picture(u"picture "_s + pictureText(pixmap.toImage()), place, part.size());
     }
     void drawTiledPixmap(const QRectF& place, const QPixmap& pixmap, const QPointF&) override {
-        drawPixmap(place, pixmap, {});
+        drawPixmap(place, pixmap, place);
     }
     void drawImage(const QRectF& place, const QImage& image, const QRectF& part,
                    Qt::ImageConversionFlags) override {
-        write(u"image "_s + pictureText(image.copy(part.toRect())), place);
+        picture(u"image "_s + pictureText(image.copy(part.toRect())), place, part.size());
     }
     /// Words of one look on one line are one text.
     void drawTextItem(const QPointF& at, const QTextItem& item) override {
@@ -106,11 +107,27 @@ class Writer final : public QPaintEngine {
 
   private:
     QString opacityText() const { return opacity_ == 1 ? QString() : u" %1%"_s.arg(qRound(100 * opacity_)); }
-    void shape(const char* kind, const QRectF& place) {
+    /// Round edges have none of the steps that a \a kind drawn without smoothing has.
+    QString smooth(const char* kind) const {
+        return hints_ & QPainter::Antialiasing ? QLatin1String(kind) : u"stepped "_s + QLatin1String(kind);
+    }
+    /// Whoever paints a picture in another size than \a own smooths it.
+    void picture(const QString& what, const QRectF& place, QSizeF own) {
+        const QSizeF size = transform_.mapRect(place).size();
+        const bool isScaled = std::abs(size.width() - own.width()) + std::abs(size.height() - own.height()) > 1;
+        write(isScaled && !(hints_ & QPainter::SmoothPixmapTransform) ? u"stepped "_s + what : what, place);
+    }
+    /// What is left of \a pixels where less than all is painted.
+    QString cut(const QRectF& pixels) const {
+        if (!painter()->hasClipping()) return {};
+        const QRectF left = pixels & transform_.mapRect(painter()->clipBoundingRect()).translated(-corner_);
+        return left.adjusted(-1, -1, 1, 1).contains(pixels) ? QString() : u" cut to "_s + placeText(left);
+    }
+    void shape(const QString& kind, const QRectF& place) {
         const QString pen = pen_.style() == Qt::NoPen
                                 ? u"-"_s
                                 : u"%1/%2"_s.arg(colorText(pen_.color())).arg(std::lround(pen_.widthF()));
-        write(u"%1 %2 %3"_s.arg(QLatin1String(kind), brushText(brush_), pen), place);
+        write(u"%1 %2 %3"_s.arg(kind, brushText(brush_), pen), place);
     }
     /// Things of one look in a row are one line: the pieces of a frame, the dots of an underline.
     void write(const QString& what, const QRectF& place) {
@@ -121,7 +138,7 @@ class Writer final : public QPaintEngine {
         if (count_ > 1) lines.removeLast();
         last_ = what;
         lines << what + opacityText() + u' ' + placeText(all_) +
-                     (count_ > 1 ? u" of %1"_s.arg(count_) : QString());
+                     (count_ > 1 ? u" of %1"_s.arg(count_) : QString()) + cut(pixels);
     }
 
     const QWidget* widget_ = nullptr;
@@ -130,6 +147,7 @@ class Writer final : public QPaintEngine {
     QBrush brush_;
     double opacity_ = 1;
     QTransform transform_;
+    QPainter::RenderHints hints_;
     QString last_;  // how the last thing looks
     QRectF all_;    // the place of those alike
     int count_ = 0;
