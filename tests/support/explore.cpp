@@ -64,6 +64,35 @@ QString thumbnail(Stage& stage) {
     return kLooks + QString::fromLatin1(Looks::of(stage.grab().toImage()).toBase64());
 }
 
+/// Where the display shows something else than what would be painted now: nobody has said that it changed.
+QStringList stale(Stage& stage) {
+    const QImage now = stage.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QImage shown =
+        stage.screen()->grabWindow(stage.winId()).toImage().convertToFormat(QImage::Format_RGB32);
+    if (shown.size() != now.size()) return {u"stale: nothing is shown"_s};
+    constexpr int kSeen = 24, kFewPixels = 8;
+    QRect where;
+    int count = 0;
+    for (int y = 0; y < now.height(); ++y) {
+        const auto* is = reinterpret_cast<const QRgb*>(shown.constScanLine(y));
+        const auto* be = reinterpret_cast<const QRgb*>(now.constScanLine(y));
+        if (memcmp(is, be, now.width() * sizeof(QRgb)) == 0) continue;
+        for (int x = 0; x < now.width(); ++x) {
+            const int off = std::abs(qRed(is[x]) - qRed(be[x])) + std::abs(qGreen(is[x]) - qGreen(be[x])) +
+                            std::abs(qBlue(is[x]) - qBlue(be[x]));
+            if (off <= kSeen) continue;
+            where |= QRect(x, y, 1, 1);
+            ++count;
+        }
+    }
+    if (count <= kFewPixels) return {};
+    return {u"stale: %1 pixels at %2,%3 %4x%5"_s.arg(count)
+                .arg(where.x())
+                .arg(where.y())
+                .arg(where.width())
+                .arg(where.height())};
+}
+
 /// What the run has been told so far by what is on it.
 QStringList told(const FakeSarne& run) {
     QStringList all;
@@ -288,7 +317,7 @@ class Explorer {
             settle();
             act(run);
             settle();
-            lines = record(run.window) << told(run);
+            lines = record(run.window) << told(run) << stale(run.window);
             looks_ = thumbnail(run.window);
         });
         return lines;

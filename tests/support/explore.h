@@ -18,7 +18,8 @@ using Look = std::function<void(FakeSarne& run)>;
 
 /// Opens a screen again and again by \a scene, which begins each time from nothing, and does one thing with
 /// it each time: every control by the mouse, every key, the wheel, larger letters, contrast, a wide display.
-/// What that changes of all that can be noticed is compared with what is kept as \a name.
+/// What that changes of all that can be noticed is compared with what is kept as \a name; what the display
+/// still shows though it would be painted otherwise is told, too.
 void explore(const char* name, const std::function<void(const Look& look)>& scene);
 
 /// Only how it looks: nothing is done with it but for the eyes.

@@ -114,7 +114,8 @@ class Writer final : public QPaintEngine {
     /// Whoever paints a picture in another size than \a own smooths it.
     void picture(const QString& what, const QRectF& place, QSizeF own) {
         const QSizeF size = transform_.mapRect(place).size();
-        const bool isScaled = std::abs(size.width() - own.width()) + std::abs(size.height() - own.height()) > 1;
+        const bool isScaled =
+            std::abs(size.width() - own.width()) + std::abs(size.height() - own.height()) > 1;
         write(isScaled && !(hints_ & QPainter::SmoothPixmapTransform) ? u"stepped "_s + what : what, place);
     }
     /// What is left of \a pixels where less than all is painted.
