@@ -60,7 +60,10 @@ endfunction()
 # sarne_test(name SOURCES ... LIBS ... [PRECOMPILED kind]): one test executable per folder of tests/, run without a display.
 function(sarne_test name)
     cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;LIBS" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES})
+    add_executable(${name} ${ARG_SOURCES} "${CMAKE_SOURCE_DIR}/tests/support/kept.cpp")
+    # Not for the whole test: what is compiled with a path is not shared with other checkouts.
+    set_property(SOURCE "${CMAKE_SOURCE_DIR}/tests/support/kept.cpp" PROPERTY COMPILE_DEFINITIONS
+                 SARNE_TEST_FOLDER="${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE sarne_options GTest::gtest Qt6::Core ${ARG_LIBS})
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
     target_compile_options(${name} PRIVATE ${SARNE_LIGHT_OPTIONS})
@@ -79,9 +82,6 @@ endfunction()
 # sarne_widget_test(name SOURCES ... LIBS ...): as sarne_test, for tests that drive real forms with real events.
 function(sarne_widget_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
-    # Not for the whole test: what is compiled with a path is not shared with other checkouts.
-    set_property(SOURCE "${CMAKE_SOURCE_DIR}/tests/support/main_widgets.cpp" PROPERTY COMPILE_DEFINITIONS
-                 SARNE_TEST_FOLDER="${CMAKE_CURRENT_SOURCE_DIR}")
     sarne_test(${name} SOURCES ${ARG_SOURCES} "${CMAKE_SOURCE_DIR}/tests/support/main_widgets.cpp"
                LIBS ${ARG_LIBS} sarne_explore sarne_forms sarne_db SQLiteCpp PkgConfig::SQLITE3 Qt6::Test PRECOMPILED widgettest)
 endfunction()

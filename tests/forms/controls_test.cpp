@@ -3,11 +3,9 @@
 #include <QListView>
 #include <QTest>
 
-#include "forms/checkbox.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/listbox.h"
-#include "forms/progressbar.h"
 #include "support/fakesarne.h"
 
 namespace sarne {
@@ -53,33 +51,6 @@ TEST(ListBox, LettersJumpWhateverTheirCaseAndAccentsAndOtherKeysGoToTheForm) {
     EXPECT_TRUE(list.marked().empty() && list.text(0).isEmpty() && list.itemData(7) == 0);
 }
 
-TEST(CheckBox, ClicksAndTheSpaceBarSwitch) {
-    FakeSarne run;
-    auto* form = new KeyForm(run);
-    CheckBox box(*form, u"Chco(0)"_s);
-    box.place({0, 0, 3000, 400});
-    OptionButton first(*form, u"opt(0)"_s), second(*form, u"opt(1)"_s);
-    OptionButton other(*form, u"optJ(0)"_s, 1);
-    form->showForm();
-    QTest::mouseClick(&box, Qt::LeftButton);
-    EXPECT_TRUE(box.isChecked());
-    QTest::keyClick(&box, Qt::Key_Space);
-    EXPECT_FALSE(box.isChecked());
-    box.setEnabled(false);
-    box.click();
-    EXPECT_FALSE(box.isChecked());
-    other.click();
-    first.click();
-    second.click();
-    second.click();
-    EXPECT_TRUE(second.isChecked() && other.isChecked());
-    EXPECT_FALSE(first.isChecked());
-    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&second);
-    ASSERT_TRUE(reader);
-    EXPECT_EQ(reader->role(), QAccessible::RadioButton);
-    EXPECT_TRUE(reader->state().checked);
-}
-
 TEST(Label, LightsUpOnlyUnderAMouseThatHasComeToIt) {
     FakeSarne run;
     KeyForm form(run);
@@ -97,19 +68,6 @@ TEST(Label, LightsUpOnlyUnderAMouseThatHasComeToIt) {
     QEvent gone(QEvent::Leave);
     QApplication::sendEvent(&label, &gone);
     EXPECT_EQ(ground(), resting);
-}
-
-TEST(ProgressBar, StaysWithinItsRange) {
-    FakeSarne run;
-    auto* form = new KeyForm(run);
-    ProgressBar bar(*form, u"prgRecept"_s);
-    bar.setMaximum(5);
-    bar.setValue(-3);
-    bar.advance();
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&bar)->text(QAccessible::Value), u"20 %"_s);
-    bar.setValue(100);
-    bar.setMaximum(0);
-    EXPECT_EQ(bar.value(), 1);
 }
 
 }  // namespace

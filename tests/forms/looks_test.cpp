@@ -42,11 +42,20 @@ class Screen : public Form {
         return *control;
     }
     Picture face(const char* name) { return resources().picture(QString::fromLatin1(name)); }
+    void say(const QString& text) { app().HookMessage(text); }
+    void keep(const std::vector<TwipWidget*>& stops) {
+        stops_.insert(stops_.end(), stops.begin(), stops.end());
+    }
     void open() {
         for (TwipWidget* stop : stops_) stop->setFocusPolicy(Qt::StrongFocus);
         ring().setStops(stops_);
         ring().setArrows(FocusRing::Arrows::All);
         showForm();
+    }
+
+    bool keyDown(QKeyEvent& event) override {
+        auto* view = findChild<TextView*>();
+        return (view && view->keyDown(event)) || Form::keyDown(event);
     }
 
   private:
@@ -75,6 +84,16 @@ void texts(Screen& screen) {
     large.setFont(kSans);
     large.setText(u"nerostu"_s);
     large.setGrows(false);
+    auto& narrow = screen.add<Label>("lblE", {4600, 1200, 0, 0});
+    narrow.setText(u"Chcete program  ukončit při 80–85 °C?  "_s);
+    narrow.autoSize(1000);
+    auto& off = screen.add<Label>("lblF", {7000, 300, 0, 0});
+    off.setText(u"Nejde  "_s);
+    off.autoSize();
+    off.setClickable(true);
+    off.setEnabled(false);
+    link.setEnabled(false);
+    link.setEnabled(true);
 }
 
 void buttons(Screen& screen) {
@@ -95,9 +114,16 @@ void buttons(Screen& screen) {
     screen.add<Button>("cmdText", {300, 2400, 2400, 540}).dressAsText(u"Storno"_s, u"Zavře okno"_s);
     screen.add<Button>("cmdNejde", {3000, 2400, 2400, 540}).dressAsText(u"Nejde"_s);
     child<Button>(screen, "cmdNejde")->setEnabled(false);
-    static std::optional<ButtonBar> bar;
-    bar.emplace(screen, u"imgBtn"_s, kFaces, [](int) {});
-    bar->placeRow({7000, 6000, 4000, 1200});
+    static std::optional<ButtonBar> bars[2];
+    for (int i = 0; i < 2; ++i) {
+        bars[i].emplace(screen, u"imgBtn%1"_s.arg(i), kFaces,
+                        [&screen](int pressed) { screen.say(u"command %1"_s.arg(pressed)); });
+        (*bars[i])[1].setVisible(i == 0);
+        bars[i]->placeRow({7000, 4000 + 2000 * i, 4000, 1200});
+    }
+    (*bars[0])[1].place({600, 5000, 900, 900});
+    screen.keep(bars[0]->stops());
+    for (const TwipWidget* stop : bars[0]->stops()) screen.say(stop->objectName());
 }
 
 void choices(Screen& screen) {
@@ -112,13 +138,19 @@ void choices(Screen& screen) {
         if (i % 2) box.setMarkPictures(screen.face("VolbaAno"), screen.face("VolbaNe"));
         box.setChecked(i == 1 || i == 2);
     }
+    auto& other = *new OptionButton(screen, u"optJ"_s, 1);
+    other.place({300, 2300, 3000, 400});
+    other.setChecked(true);
     auto& list = screen.add<ListBox>("lst", {4000, 300, 3000, 1500});
     list.setFont(kSans);
     list.setItems({u"Amur"_s, u"Kapr"_s, u"Lín"_s, u"Okoun"_s, u"Štika"_s, u"Úhoř"_s}, {1, 2, 3, 4, 5, 6});
     list.setListIndex(1);
-    auto& bar = screen.add<ProgressBar>("prg", {4000, 2200, 3000, 300});
-    bar.setMaximum(8);
-    bar.setValue(3);
+    for (const auto& [maximum, value] : {std::pair(8, 3), {5, -3}, {5, 100}, {0, 1}}) {
+        auto& bar = screen.add<ProgressBar>(qPrintable(u"prg(%1)"_s.arg(value)), {4000, 2200, 3000, 300});
+        bar.setMaximum(maximum);
+        bar.setValue(value);
+        if (value < 0) bar.advance();
+    }
     screen.add<StarRow>("hvezdy", {4000, 2800, 2000, 450}).setStars(3);
 }
 
@@ -145,6 +177,13 @@ void reading(Screen& screen) {
     view.drawRichText(test::rtf(
         u"\\b Postup\\b0\\par Kapra *12osol\\'edme* a \\i pe\\'e8eme\\i0  @7podle videa@, #5p\\'edpne#.\\par "_s +
         u"slovo "_s.repeated(300)));
+    QObject::connect(&view, &TextView::linkActivated, &screen,
+                     [&screen](LinkKey key) { screen.say(u"link "_s + key.text()); });
+    auto& brief = screen.add<TextView>("picKratky", {600, 5000, 5000, 3000});
+    brief.drawRichText(u"jeden"_s);
+    auto& gone = screen.add<TextView>("picSkryty", {600, 5000, 5000, 300});
+    gone.drawRichText(u"slovo "_s.repeated(300));
+    gone.hide();
     auto& picture = screen.add<PictureBox>("pic", {7000, 600, 3000, 2000});
     picture.setPicture(Picture::fromImage(screen.face("Tisk").image()));
     picture.setTip(u"Obrázek"_s);

@@ -52,35 +52,6 @@ TEST(PrintedPage, HoldsTheSectionsInTheirOrder) {
     const QString fonts = test::output(u"pdffonts"_s, {outcome.file});
     EXPECT_EQ(fonts.count(QRegularExpression(u"Identity-H +yes"_s)), 4)
         << "embedded: header, name, headings and text";
-    static const QRegularExpression indented(u"\n( *)kapr.*\n\\1 {4,}- nebo amur"_s);
-    EXPECT_TRUE(test::pdfText(outcome.file).contains(indented)) << test::pdfText(outcome.file).toStdString();
-    options.units = UnitSystem::Spoons;
-    options.portions = 2.5;
-    const PrintOutcome spoons = book.print({7}, options);
-    EXPECT_TRUE(textOf(spoons).contains(
-        u"Porce: 2,5 kapr - podkovy (ks): 1,2 - nebo amur sůl (lžíce): 0,3 citron (ks): 0,6"_s))
-        << textOf(spoons).toStdString();
-}
-
-TEST(PrintedPage, WithoutSectionsHoldsHeaderAndNameOnly) {
-    PrintCookbook book(kCookbook);
-    book.addPhoto(7, {40, 30}, Qt::red);
-    PrintOptions none;
-    none.sections.fill(false);
-    EXPECT_EQ(textOf(book.print({7}, none)),
-              u"CD Tobrela - Velisa sarn Kapr na černo Kapr na černo s povidly"_s);
-    EXPECT_EQ(textOf(book.print({8})), u"CD Tobrela - Velisa sarn Štika Porce: 4"_s)
-        << "what a recipe has not leaves no heading";
-    const char* const heads[kPrintSections] = {"(nic)",     "Porce",   "Řek",     "S knedlíkem",
-                                               "Frankovka", "Vlastní", "Pomůcky", "Odkaz"};
-    for (size_t section = 0; section < kPrintSections; ++section) {
-        PrintOptions one = none;
-        one.sections[section] = true;
-        const QString text = textOf(book.print({7}, one));
-        for (size_t head = 1; head < kPrintSections; ++head)
-            EXPECT_EQ(text.contains(str(heads[head])), head == section)
-                << section << ' ' << text.toStdString();
-    }
 }
 
 class PaperTest : public testing::TestWithParam<Paper> {};

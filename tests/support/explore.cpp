@@ -10,14 +10,13 @@
 #include "forms/control.h"
 #include "support/fakesarne.h"
 #include "support/files.h"
+#include "support/kept.h"
 #include "support/pictures.h"
 #include "support/screenrecord.h"
 #include "support/wheel.h"
 #include "tour/looks.h"
 
 namespace sarne::test {
-
-extern const char* const kFolder;  // of the test
 
 namespace {
 

@@ -2,11 +2,6 @@
 
 #include <QApplication>
 
-namespace sarne::test {
-extern const char* const kFolder;
-const char* const kFolder = SARNE_TEST_FOLDER;
-}  // namespace sarne::test
-
 // Tests of forms run in a real application without a display.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
