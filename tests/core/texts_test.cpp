@@ -6,6 +6,7 @@
 #include "core/lettersearch.h"
 #include "core/spokentext.h"
 #include "core/unbreakable.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
@@ -14,16 +15,10 @@ TEST(LetterJump, FindsTheNextNameRoundTheEnd) {
     const QStringList names{u"Candát"_s, u"Kapr na kmíně"_s, u"Kapr v aspiku"_s, u"Krém"_s,
                             u"Štika"_s,  u"Sumec"_s,         QString()};
     const auto nameAt = [&](int at) { return names[at]; };
-    const struct {
-        int current;
-        const char* letters;
-        int found;
-    } cases[] = {{-1, "k", 1}, {1, "k", 2}, {3, "K", 1},     {1, "ka", 1}, {3, "ka", 1},
-                 {0, "kr", 3}, {0, "s", 4}, {4, "s", 5},     {0, "š", 4},  {4, "š", 4},
-                 {0, "z", -1}, {0, "", -1}, {2, "kapr v", 2}};
-    for (const auto& c : cases)
-        EXPECT_EQ(findByLetters(int(names.size()), nameAt, c.current, QString::fromUtf8(c.letters)), c.found)
-            << c.current << " " << c.letters;
+    test::expectCases(u"skok-pismenem"_s, [&](const QString& text) {
+        const int from = text.section(u' ', 0, 0).toInt();
+        return QString::number(findByLetters(int(names.size()), nameAt, from, text.section(u' ', 1)));
+    });
     EXPECT_EQ(findByLetters(0, nameAt, -1, u"k"_s), -1);
 }
 
@@ -47,26 +42,7 @@ TEST(PaintedText, NoLineEndsInARangeOrBeforeAnAmount) {
 }
 
 TEST(SpokenText, UnitsRangesAndLineEndsAreReadAsWords) {
-    const struct {
-        const char* written;
-        const char* spoken;
-    } kCases[] = {
-        {"200 g másla", "200 gramů másla"},
-        {"1 kg kapra", "1 kilogram kapra"},
-        {"2,5\u00a0kg kapra", "2,5\u00a0kilogramu kapra"},
-        {"3 l vody", "3 litry vody"},
-        {"3 listy", "3 listy"},
-        {"2 lžíce", "2 lžíce"},
-        {"pečeme 8–10 minut", "pečeme 8 až 10 minut"},
-        {"sůl\r\npepř\n", "sůl.\npepř"},
-        {"vaření 30 min · 4 porce", "vaření 30 minut, 4 porce"},
-        {"kapr - podkovy (g): 1200\ncitron (ks): 1", "kapr - podkovy: 1200 gramů.\ncitron: 1 kus"},
-        {"Kapr, ★★★☆☆", "Kapr, 3\u00a0hvězdičky"},
-        {" – \n ▲", ""},
-        {"", ""},
-    };
-    for (const auto& one : kCases)
-        EXPECT_EQ(spokenText(QString::fromUtf8(one.written)).toStdString(), one.spoken);
+    test::expectCases(u"nahlas"_s, [](const QString& text) { return spokenText(text); });
 }
 
 }  // namespace

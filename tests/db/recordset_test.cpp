@@ -4,10 +4,15 @@
 
 #include "db/database.h"
 #include "db/queries.h"
+#include "support/kept.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
 namespace {
+
+TEST(RecipeSchema, NamesTablesAndColumnsAsEarlierEditionsDo) {
+    test::expectText(u"tabulky"_s, recipeSchema().join(u'\n'));
+}
 
 class RecordsetTest : public testing::Test {
   protected:

@@ -72,12 +72,6 @@ TEST_F(DialogTest, ANumberCanBeEnteredByMouseAlone) {
         << "after the message";
 }
 
-TEST_F(DialogTest, F1OpensHelpAndTheQuestionStays) {
-    run.openAbove("frmHlavni");
-    EXPECT_EQ(number("4", {Qt::Key_F1, Qt::Key_Return}), 4);
-    EXPECT_EQ(run.recorded.calls, QStringList{u"showHelpFor frmDialog"_s});
-}
-
 TEST_F(DialogTest, CancellingIsZero) {
     EXPECT_EQ(number("5", {Qt::Key_Escape}), 0);
     EXPECT_EQ(number("5", {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return}), 0);

@@ -6,6 +6,7 @@
 #include "dialogs/frmmessage.h"
 #include "dialogs/messagelayout.h"
 #include "support/fakesarne.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
@@ -65,15 +66,6 @@ TEST_F(MessageTest, ClosingItAnswersOnlyWhereThatIsAnAnswer) {
     EXPECT_FALSE(stillOpen);
 }
 
-TEST_F(MessageTest, F1OpensHelpAndTheQuestionStays) {
-    run.openAbove("frmHlavni");
-    ask("Chcete ukončit program?  ", 36, [&] {
-        QTest::keyClick(run.window.focusWidget(), Qt::Key_F1);
-        EXPECT_TRUE(box->isVisible());
-    });
-    EXPECT_EQ(run.recorded.calls, QStringList{u"showHelpFor frmMessage"_s});
-}
-
 TEST_F(MessageTest, IsDraggedByItsGroundAndStaysOnTheScreen) {
     ask("posuň mě", 48, [&] {
         const QPoint before = box->twips().topLeft();
@@ -92,37 +84,16 @@ TEST_F(MessageTest, IsDraggedByItsGroundAndStaysOnTheScreen) {
     });
 }
 
-TEST(MessageLayout, StylesComeApart) {
-    const struct {
-        int style, buttons, icon, defaultButton;
-    } cases[] = {{16, 0, 1, 0}, {36, 4, 2, 0},  {48, 0, 3, 0}, {52, 4, 3, 0},
-                 {64, 0, 4, 0}, {292, 4, 2, 1}, {515, 3, 0, 2}};
-    for (const auto& c : cases) {
-        const auto parts = MessageStyle::split(c.style);
-        EXPECT_EQ(parts.buttons, c.buttons) << c.style;
-        EXPECT_EQ(parts.icon, c.icon) << c.style;
-        EXPECT_EQ(parts.defaultButton, c.defaultButton) << c.style;
-    }
-}
-
-TEST(MessageLayout, EverySetHasItsCaptionsAndCodes) {
-    const struct {
-        const char* buttons;
-        int escape;
-    } sets[] = {{"OK=6", 0},
-                {"Ano=6 Storno=2", 1},
-                {"Storno=3 Znovu=4 Pokračovat=5", 0},
-                {"Ano=6 Ne=7 Storno=2", 2},
-                {"Ano=6 Ne=7", 1},
-                {"Znovu=4 Storno=2", 1},
-                {"", 0}};
-    for (int set = 0; set < 7; ++set) {
-        QStringList shown;
-        for (const auto& button : messageButtons(set))
+TEST(MessageLayout, StylesComeApartAndEverySetHasItsCaptionsAndCodes) {
+    test::expectCases(u"zpravy"_s, [](const QString& style) {
+        const auto parts = MessageStyle::split(style.toInt());
+        QStringList shown{u"icon %1, default %2, escape %3:"_s.arg(parts.icon)
+                              .arg(parts.defaultButton)
+                              .arg(escapeButton(parts.buttons))};
+        for (const auto& button : messageButtons(parts.buttons))
             shown << u"%1=%2"_s.arg(button.caption).arg(button.code);
-        EXPECT_EQ(shown.join(u' '), QString::fromUtf8(sets[set].buttons));
-        EXPECT_EQ(escapeButton(set), sets[set].escape) << set;
-    }
+        return shown.join(u' ');
+    });
 }
 
 }  // namespace

@@ -1,5 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "disc/menu.h"
+#include "disc/sounds/effects.h"
+#include "disc/sounds/music.h"
+#include "disc/sounds/voice.h"
+#include "filming.h"
 #include "smallcookbook.h"
 
 namespace sarne::disc {
@@ -34,12 +39,43 @@ std::vector<Fault> faults() {
 
 class FaultTest : public testing::TestWithParam<Fault> {};
 
+/// What is wrong with a menu of the rows "code|label|target", parted by blanks, where recipe 6 and quick
+/// recipe 1 exist.
+QStringList menuComplaints(const QString& menu) {
+    Cookbook book;
+    book.recipes.insert(6, Recipe{});
+    book.quick << QuickRecipe{1, {}, u"Rychle"_s, 6};
+    QList<MenuRow> rows;
+    int line = 0;
+    for (const QString& row : menu.split(u' ')) {
+        const QStringList parts = row.split(u'|');
+        rows << MenuRow{{u"menu.txt"_s, ++line}, parts.value(0), parts.value(1), parts.value(2)};
+    }
+    Problems problems;
+    checkMenu(rows, book, problems);
+    return problems.errors();
+}
+
+/// What is reported of \a fault: of a text by itself, or of the small cookbook that has it.
+QStringList reported(const Fault& fault) {
+    Problems problems;
+    const Lines lines = linesOf(fault.to.toUtf8());
+    if (fault.file == u"nabídka") return menuComplaints(fault.to);
+    if (fault.file == u"film")
+        return Filming(fault.to.toStdString(), fault.from.toDouble()).problems.errors();
+    if (fault.file == u"zvuky/efekty") return readEffects(lines, problems), problems.errors();
+    if (fault.file == u"zvuky/skladba") return readScore(lines, problems), problems.errors();
+    if (fault.file == u"zvuky/vyslovnost") return Pronunciation(lines, problems), problems.errors();
+    SmallCookbook book;
+    EXPECT_TRUE(fault.from.isEmpty() ? test::write(book.path(fault.file), fault.to.toUtf8())
+                                     : book.replace(fault.file, fault.from, fault.to));
+    return book.complaints();
+}
+
 TEST_P(FaultTest, IsReportedWithFileAndLine) {
     const Fault& fault = GetParam();
-    SmallCookbook book;
-    ASSERT_TRUE(book.replace(fault.file, fault.from, fault.to));
-    const QString errors = book.complaints().join(u'\n');
-    EXPECT_TRUE(errors.contains(fault.message))
+    const QString errors = reported(fault).join(u'\n') + u'\n';
+    EXPECT_TRUE(fault.message.isEmpty() ? errors == u"\n" : errors.contains(fault.message))
         << "wanted: " << fault.message.toStdString() << "\nreported:\n"
         << errors.toStdString();
 }
@@ -47,7 +83,7 @@ TEST_P(FaultTest, IsReportedWithFileAndLine) {
 INSTANTIATE_TEST_SUITE_P(Small, FaultTest, testing::ValuesIn(faults()));
 
 TEST(FaultTable, IsWhole) {
-    EXPECT_EQ(faults().size(), 97u);
+    EXPECT_EQ(faults().size(), 163u);
 }
 
 }  // namespace

@@ -12,17 +12,10 @@
 #include "disc/sounds/voice.h"
 #include "medialines.h"
 #include "support/files.h"
+#include "support/kept.h"
 
 namespace sarne::disc {
 namespace {
-
-/// What is wrong when \a text is read, the first of it.
-template <typename Reader>
-std::string firstError(Reader read, const char* text) {
-    Problems problems;
-    read(linesOf(text), problems);
-    return problems.errors().value(0).toStdString();
-}
 
 double energy(const Sound& sound, double from, double seconds) {
     double sum = 0;
@@ -91,36 +84,12 @@ TEST(Effects, EveryButtonHasOneThatIsShortQuietEnoughAndAtRestAtBothEnds) {
     for (int button = 0; button <= 20; ++button) EXPECT_TRUE(numbers.contains(101 + button)) << button;
 }
 
-TEST(Effects, FaultsNameTheirLine) {
-    const auto error = [](const char* text) { return firstError(readEffects, text); };
-    EXPECT_EQ(error("== 1 | klep | 0,2 | -6\n\núder výška=400"), "");
-    EXPECT_EQ(error("== 1 | klep | 0,2\nrána výška=400").substr(0, 36), "soubor.txt:2: rána není žádné z");
-    EXPECT_EQ(error("== 1 | klep | 0,2\núder výška=vysoko"), "soubor.txt:2: výška není číslo: vysoko");
-    EXPECT_EQ(error("== 1 | klep | 0,2\núder barva=3"), "soubor.txt:2: klíč „barva“ je neznámý");
-    EXPECT_EQ(error("== 1 | klep | 0,2\núder látka=vata").substr(0, 35), "soubor.txt:2: vata není žádné z");
-    EXPECT_EQ(error("== 1 | klep | 0,2\núder výška=0"), "soubor.txt:1: vrstva nemá výšku nebo délku");
-    EXPECT_EQ(error("== 1 | klep | 0,2 | -1\núder"), "soubor.txt:1: špička efektu je nad -3 dB");
-    EXPECT_EQ(error("== 1 | klep | dlouho\núder"),
-              "soubor.txt:1: tohle není „číslo | název | vteřiny | špička“");
-    EXPECT_EQ(error("== 1 | klep | 9\núder"), "soubor.txt:1: efekt netrvá 0,05 až 5 s");
-    EXPECT_EQ(error("== 1 | klep | 0,2"), "soubor.txt:1: efekt nemá vrstvu");
-    EXPECT_EQ(error("== 1 | a | 0,2\núder\n== 1 | b | 0,2\núder"), "soubor.txt:3: efekt 1 tu stojí podruhé");
-}
-
 TEST(Notes, CzechNamesGivePitchesAndChords) {
-    EXPECT_EQ(pitchOf(u"c4"_s), 60);
-    EXPECT_EQ(pitchOf(u"h4"_s), 71);
-    EXPECT_EQ(pitchOf(u"b4"_s), 70);
-    EXPECT_EQ(pitchOf(u"fis5"_s), 78);
-    EXPECT_EQ(pitchOf(u"es3"_s), 51);
-    EXPECT_EQ(pitchOf(u"des3"_s), 49);
-    for (const char* wrong : {"", "x4", "c", "c9", "c44", "fisis4"})
-        EXPECT_EQ(pitchOf(QLatin1String(wrong)), -1) << wrong;
-    EXPECT_EQ(chordTones(u"F"_s), (QList<int>{5, 9, 0}));
-    EXPECT_EQ(chordTones(u"Fism"_s), (QList<int>{6, 9, 1}));
-    EXPECT_EQ(chordTones(u"B"_s), (QList<int>{10, 2, 5}));
-    EXPECT_EQ(chordTones(u"C7"_s), (QList<int>{0, 4, 7, 10}));
-    EXPECT_TRUE(chordTones(u"Cx"_s).isEmpty());
+    test::expectCases(u"noty"_s, [](const QString& name) {
+        QStringList all{QString::number(pitchOf(name))};
+        for (const int tone : chordTones(name)) all << QString::number(tone);
+        return all.join(u' ');
+    });
 }
 
 const std::string kHead = "tempo: 120\ntakt: 2\nprůběh: A A\nnástroj: kytara program=24 od=c3\n== A\n";
@@ -169,20 +138,6 @@ TEST(Scores, ThoseThatShipAreFaultless) {
     EXPECT_EQ(problems.errors(), QStringList());
     EXPECT_GE(music.paces.size(), 3);
     for (const Event& event : wine.events) EXPECT_LT(event.seconds, seconds(wine));
-}
-
-TEST(Scores, FaultsNameTheirLine) {
-    const auto error = [](const char* part) { return firstError(readScore, (kHead + part).c_str()); };
-    EXPECT_EQ(error("akordy: C\nkytara: c4:2"), "");
-    EXPECT_EQ(error("akordy: C\nkytara: c4:1"), "soubor.txt:7: takt má 1 dob: c4:1");
-    EXPECT_EQ(error("akordy: C\nkytara: x4:2"), "soubor.txt:7: tohle není nota: x4");
-    EXPECT_EQ(error("akordy: C\nkytara: c4:dlouho"), "soubor.txt:7: tohle není délka: c4:dlouho");
-    EXPECT_EQ(error("akordy: C | F\nkytara: c4:2"), "soubor.txt:7: taktů je 1, část jich má 2");
-    EXPECT_EQ(error("akordy: Q\nkytara: c4:2"), "soubor.txt:6: tohle není akord: Q");
-    EXPECT_EQ(error("akordy: C\nbuben: c4:2"), "soubor.txt:7: „buben“ nikdo nehraje");
-    EXPECT_EQ(firstError(readScore, "průběh: A B\n== A\nakordy: C"), "soubor.txt:1: část „B“ neexistuje");
-    EXPECT_EQ(firstError(readScore, "tempo: rychle\nprůběh: A\n== A"),
-              "soubor.txt:1: tempo není číslo nad 0");
 }
 
 /// Two bars whose last note rings on, with silence at the beginning.
@@ -245,9 +200,6 @@ TEST(Pronunciations, FitWholeWordsOrTheirBeginnings) {
     EXPECT_EQ(spoken("Řez 3 cm, pak 13 cm"), "Řez tři centimetry, pak 13 centimetrů.");
     EXPECT_EQ(spoken("Sardinky v acmě?"), "sardynky v acmě?");
     EXPECT_EQ(problems.errors(), QStringList());
-    const auto read = [](const Lines& lines, Problems& found) { Pronunciation(lines, found); };
-    EXPECT_EQ(firstError(read, "cm"), "soubor.txt:1: čeká se „psáno | čte se“");
-    EXPECT_EQ(firstError(read, "sardin… | sardyn"), "soubor.txt:1: čeká se „psáno | čte se“");
 }
 
 class SpeakingVoices : public testing::Test {

@@ -6,89 +6,16 @@
 
 #include "disc/loadcookbook.h"
 #include "disc/sounds/voice.h"
-#include "disc/videos/direct.h"
 #include "disc/videos/makevideos.h"
 #include "disc/videos/projector.h"
-#include "medialines.h"
+#include "filming.h"
 #include "support/files.h"
 #include "support/pictures.h"
 
 namespace sarne::disc {
 namespace {
 
-const char* const kLayers =
-    "ryba-cela ryba.webp 400 200 200 100 380 200\n"
-    "ryba-cista ryba.webp 400 200 200 100 380 200\n"
-    "nuz nuz.webp 400 100 0 50 380 200\n";
-const char* const kRoles =
-    "== ryba, rybu, rybě | jídlo\n"
-    "vzhled: celá = ryba-cela, čistá = ryba-cista\n"
-    "hlava, hlavě, hlavy: 0 50\n"
-    "ocas, ocasu: 100 50\n"
-    "po hřbetu: 25 0, 75 0\n"
-    "== hlavička, hlavičku | jídlo\n"
-    "vzhled: syrová = ryba-cela\n"
-    "== tělo | jídlo\n"
-    "vzhled: syrové = ryba-cela\n"
-    "== nůž, nože | nástroj\n"
-    "vzhled: ostrý = nuz\n"
-    "ostří: 50 50\n";
-constexpr double kUnit = 3.5;
-
-/// A chapter of one scene with \a lines, its speech lasting \a speech seconds.
-class Filming {
-  public:
-    explicit Filming(const std::string& lines, double speech = 2) {
-        const Cast cast = readCast(linesOf(kRoles), readLayers(linesOf(kLayers), problems), problems);
-        const std::string text = "scéna: stůl\n== Kapitola\n-- Titulek.\nřeč: Věta.\n" + lines;
-        const Script script = readScript(linesOf(text.c_str()), {}, cast, problems);
-        if (!problems.hasErrors()) film = directFilm(script, cast, {speech}, problems);
-    }
-
-    std::string error() const { return problems.errors().value(0).section(u':', 1).toStdString(); }
-    /// The last actor that shows a thing.
-    Pose pose(const char* name, double seconds) const {
-        Pose found;
-        for (const Actor& actor : film.actors)
-            if (actor.name == QString::fromUtf8(name) && poseOf(actor, seconds).of(Property::opacity) > 0)
-                found = poseOf(actor, seconds);
-        return found;
-    }
-
-    Problems problems;
-    Film film;
-};
-
-std::string errorOf(const std::string& lines, double speech = 2) {
-    return Filming(lines, speech).error();
-}
-
-TEST(Scripts, WhatNobodyKnowsIsNamedWithTheNearestWord) {
-    EXPECT_EQ(errorOf("ryba leží uprostřed\n"), "");
-    EXPECT_EQ(errorOf("rypa leží uprostřed\n"), "5: „rypa“ v obsazení není – mysleli jste „ryba“?");
-    EXPECT_EQ(errorOf("ryba letí\n"), "5: co dělá „letí“? – mysleli jste „leží“?");
-    EXPECT_EQ(errorOf("ryba leží uprostřed, čist\n"), "5: nerozumím dovětku „čist“ – mysleli jste „čistá“?");
-    EXPECT_EQ(errorOf("ryba leží na plotnu\n"), "5: místo „plotnu“ nic nemá");
-    EXPECT_EQ(errorOf("ryba leží uprostřed\nnůž přijde zprava na ocas\nnůž jede k hlavě po hřbitu\n"),
-              "7: čáru „po hřbitu“ nic nemá – mysleli jste „po hřbetu“?");
-    EXPECT_EQ(errorOf("střih: stůlek\n"), "5: scéna „stůlek“ neexistuje – mysleli jste „stůl“?");
-}
-
-TEST(Scripts, NothingMovesThatIsNotThereAndNothingJumps) {
-    EXPECT_EQ(errorOf("nůž jede nahoru\n"), "5: „nůž“ teď na scéně není");
-    EXPECT_EQ(errorOf("ryba leží uprostřed\nryba leží dole\n"), "6: „ryba“ už na scéně je");
-    EXPECT_EQ(errorOf("ryba leží uprostřed\nryba zmizí\nryba je čistá\n"), "7: „ryba“ teď na scéně není");
-    EXPECT_EQ(errorOf("nůž přijde zprava k hlavě\n"), "5: na scéně není nic, co má „hlavě“");
-    EXPECT_EQ(errorOf("ryba leží uprostřed\nnůž přijde zprava k ocasu\nnůž jede od hlavy k ocasu\n", 3),
-              "7: „nůž“ by skočil: stojí 7.0 cm od místa, kde řádek začíná");
-    EXPECT_EQ(errorOf("ryba leží uprostřed\nnůž přijde zprava k hlavě\nnůž jede od hlavy k ocasu\n", 3), "");
-    EXPECT_EQ(errorOf("ryba leží uprostřed\nstřih: sporák\n"), "6: střih stojí na začátku scény");
-}
-
 TEST(Scripts, SpeechFitsItsScene) {
-    EXPECT_EQ(errorOf("ryba leží uprostřed\n", 4.5), "3: řeč trvá o 4.8 s déle, než se něco děje");
-    EXPECT_EQ(errorOf("ryba leží uprostřed\nryba jde nahoru, 9 s\n", 2),
-              "3: po řeči je 6.6 s ticho, přidejte slova nebo uberte děj");
     const Filming fitting(
         "ryba leží uprostřed\nryba jde nahoru o 4 cm, do konce věty\nryba jde dolů o 4 cm, 1 s\n", 5);
     EXPECT_NEAR(fitting.film.seconds, 5 + kBeforeSpeech + kAfterSpeech, 0.11);

@@ -6,6 +6,7 @@
 #include "db/database.h"
 #include "db/userfile.h"
 #include "kitchen/dinner.h"
+#include "support/kept.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -83,12 +84,8 @@ TEST(TimePlan, ADishWithoutStepsOrMinutesIsOnTheTableAllTheSame) {
 }
 
 TEST(Dinner, UnderstandsTheHourAsItIsWritten) {
-    const std::pair<const char*, int> good[] = {{"18", 1080},  {" 18.30 ", 1110}, {"18:30", 1110},
-                                                {"7,05", 425}, {"1830", 1110},    {"0.00", 0}};
-    for (const auto& [typed, minutes] : good)
-        EXPECT_EQ(timeOfDay(QString::fromUtf8(typed)), minutes) << typed;
-    for (const char* typed : {"", "24", "18.60", "ráno", "18.3", "-1", "18.30.10"})
-        EXPECT_EQ(timeOfDay(QString::fromUtf8(typed)), std::nullopt) << typed;
+    test::expectCases(u"hodina"_s,
+                      [](const QString& typed) { return QString::number(timeOfDay(typed).value_or(-1)); });
 }
 
 class DinnerBook : public testing::Test {

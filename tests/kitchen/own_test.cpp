@@ -3,16 +3,54 @@
 #include <QTemporaryDir>
 
 #include "db/database.h"
+#include "db/notestore.h"
 #include "db/recipemarks.h"
 #include "db/userfile.h"
 #include "kitchen/cooked.h"
+#include "kitchen/dinner.h"
 #include "kitchen/feasts.h"
 #include "kitchen/owncookery.h"
 #include "kitchen/pantry.h"
+#include "kitchen/shoppingstore.h"
+#include "kitchen/timerstore.h"
+#include "support/kept.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
 namespace {
+
+/// Whoever misspells a name here loses what cooks have kept with the edition before.
+TEST(UsersFile, KeepsItsNamesFromEditionToEdition) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"vlastni.db"_s);
+    {
+        UserFile file(path);
+        NoteStore notes(file);
+        ShoppingList list;
+        list.addRecipe(
+            {{u"máslo"_s, Department::Dairy, false, true, u"sádlo"_s, {{7, u"Kapr"_s, 4, u"g"_s, 80}}}});
+        const KitchenTimer timer{1, u"Ryba"_s, 601000, false};
+        EXPECT_TRUE(RecipeMarks(file).setStars(7, u"Kapr"_s, 3) &&
+                    RecipeMarks(file).keepOpened(7, u"Kapr"_s, {{2026, 12, 1}, {18, 0}}) &&
+                    keepCooked(file, 7, u"Kapr"_s, {2026, 7, 1}, 4) && storeShoppingList(file, list) &&
+                    storeDinner(file, {u"Vánoce"_s, {1, 0, 3}, 6.5, 750}) &&
+                    storeTimers(file, {timer}, 1000, 90000) && notes.keep({7, u"Kapr"_s, u"sůl"_s}) &&
+                    notes.keepDraft(3, u"rozepsáno"_s));
+    }
+    const SQLite::Database db(path.toStdString());
+    QStringList rows;
+    SQLite::Statement tables(db, "SELECT name, sql FROM sqlite_master WHERE type = 'table' ORDER BY name");
+    while (tables.executeStep()) {
+        rows << QString::fromStdString(tables.getColumn(1).getString());
+        SQLite::Statement all(db, "SELECT * FROM " + tables.getColumn(0).getString());
+        for (QStringList row; all.executeStep(); row.clear()) {
+            for (int i = 0; i < all.getColumnCount(); ++i)
+                row << QString::fromStdString(all.getColumn(i).getString());
+            rows << u"    "_s + row.join(u" | "_s);
+        }
+    }
+    test::expectText(u"vlastni-soubor"_s, rows.join(u'\n'));
+}
 
 TEST(Feasts, FallIntoTheirMonths) {
     const struct {
