@@ -134,6 +134,7 @@ TEST_F(ProgramTest, YesEndsWhateverIsOpen) {
     EXPECT_EQ(platform.music.commands, (QStringList{u"stop"_s, u"close"_s}));
     EXPECT_EQ(platform.music.notify, MediaNotify::Off);
     EXPECT_TRUE(program->stage().forms().empty());
+    EXPECT_TRUE(program->stage().isHidden());
     EXPECT_FALSE(program->Db().isOpen());
     EXPECT_GT(platform.effects.stops, 0);
     EXPECT_EQ(platform.display.asked, QList<QSize>{QSize(1024, 768)});

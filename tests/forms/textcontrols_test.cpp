@@ -231,6 +231,11 @@ TEST_F(NoteEditing, IsTypedByMouseAloneOnTheKeyboardOnTheScreen) {
     auto& sign = *note.findChild<EntrySign*>();
     QTest::mouseClick(&sign, Qt::LeftButton);
     LetterBoard& board = *sign.board();
+    QMouseEvent beside(QEvent::MouseButtonPress, {1, 1}, board.mapToGlobal(QPointF(1, 1)), Qt::LeftButton,
+                       Qt::LeftButton, {});
+    beside.ignore();
+    QCoreApplication::sendEvent(&board, &beside);
+    EXPECT_TRUE(beside.isAccepted()) << "what lies below does not get it";
     const auto use = [&board](const QString& caption) {
         int key = 0;
         while (board.keys().caption(key) != caption) ++key;

@@ -94,6 +94,14 @@ TEST(ShoppingList, EveryChangeCanBeTakenBack) {
     list.undo();
     list.undo();
     EXPECT_TRUE(list.isEmpty());
+    list.addRecipe({need("máslo", 80, "g", 1)});
+    list.addOwn(u"houska"_s);
+    list.removeRecipe(1);
+    EXPECT_EQ(list.items().size(), 1U);
+    list.undo();
+    EXPECT_EQ(list.items().size(), 2U);
+    list.undo();
+    EXPECT_EQ(list.items().size(), 1U);
 }
 
 TEST(ShoppingList, NothingThatIsNotThereIsChanged) {

@@ -41,8 +41,18 @@ QStringList cookbook() {
         u"INSERT INTO SpojOdkazy VALUES (1,5)"_s};
 }
 
-/// One row a line: its baseline, where each word begins, the line's end, and the words.
+/// "12bi_ Arial #000000": size, bold, italic, underlined.
+QString looks(const PageText& text) {
+    const TextFont& font = text.font;
+    return u"%1%2%3%4 %5 %6"_s.arg(font.size).arg(
+        font.bold ? u"b"_s : QString(), font.italic ? u"i"_s : QString(), font.underline ? u"_"_s : QString(),
+        font.name, QColor(text.color).name());
+}
+
+/// One row a line: its baseline, where each word begins, the line's end, and the words; before words
+/// that look otherwise than those before, how.
 void dump(QStringList& rows, const PrintedPage& page) {
+    QString last;
     for (const PagePicture& picture : page.pictures) {
         const QRect& at = picture.place;
         rows << u"# %1 %2 %3 %4"_s.arg(at.x()).arg(at.y()).arg(at.width()).arg(at.height());
@@ -53,7 +63,9 @@ void dump(QStringList& rows, const PrintedPage& page) {
         int end = 0;
         for (; i < page.texts.size() && page.texts[i].baseline == baseline; ++i) {
             places << QString::number(page.texts[i].x);
-            words << page.texts[i].text;
+            const QString now = looks(page.texts[i]);
+            words << (now == last ? page.texts[i].text : u"{%1}"_s.arg(now) + page.texts[i].text);
+            last = now;
             end = page.texts[i].x + page.texts[i].width;
         }
         rows << u"%1: %2 -%3 | %4"_s.arg(baseline).arg(places.join(u' ')).arg(end).arg(words.join(u' '));
