@@ -11,7 +11,7 @@ run on what they let pass, after all faults had their turn. Survivors are printe
 faults that change nothing anybody could notice; who counts shares looks at them first.
 
 With --again FILE, the output of an earlier run, only the faults that it says were caught are put in again: after tests
-were changed, this tells whether any of them is missed now.
+were changed, this tells whether any of them is missed now. --verdict survived takes those that were missed instead.
 """
 import argparse
 import math
@@ -190,20 +190,28 @@ class Fault:
         return ("others", failing) if failing else ("survived", [])
 
 
+def again(options, everything):
+    """The faults of an earlier run with the wanted verdict, where they stand now: nearest to where they stood."""
+    told = re.findall(rf"^{options.verdict} +(\S+):(\d+) ([\w\- ]+?)(?: by .*)?\n    -(.*)\n    \+(.*)$",
+                      options.again.read_text(), re.M)
+    lines = {file: (ROOT / file).read_text().splitlines() for file, *_ in told if (ROOT / file).exists()}
+    found = []
+    for file, number, kind, old, new in told:
+        same = [fault for (where, _), faults in everything.items() if str(where) == file for fault in faults
+                if fault[0] == kind and fault[3].strip() == new.strip() and lines[file][fault[2]].strip() == old.strip()]
+        found += sorted(same, key=lambda fault: abs(fault[2] + 1 - int(number)))[:1]
+    return found
+
+
 def sample(options):
     everything = {}
     for fault in candidates(set(filter(None, options.folders.split(",")))):
         everything.setdefault((fault[1], fault[2]), []).append(fault)
+    part, parts = map(int, options.part.split("/"))
     if options.again:
-        caught = re.findall(r"^own +(\S+):(\d+) ([\w\- ]+?)(?: by .*)?\n    -(.*)\n    \+(.*)$", options.again.read_text(), re.M)
-        wanted = {(file, kind, old.strip(), new.strip()) for file, _, kind, old, new in caught}
-        lines = {}
-        return [fault for faults in everything.values() for fault in faults
-                if (str(fault[1]), fault[0], lines.setdefault(fault[1], (ROOT / fault[1]).read_text().splitlines())
-                    [fault[2]].strip(), fault[3].strip()) in wanted]
+        return again(options, everything)[part - 1::parts]
     chance = random.Random(options.seed)
     places = sorted(everything)
-    part, parts = map(int, options.part.split("/"))
     return [chance.choice(everything[place]) for place in chance.sample(places, min(options.count, len(places)))][part - 1::parts]
 
 
@@ -239,7 +247,8 @@ def main():
     parser.add_argument("--copy", type=Path, default=ROOT.parent / (ROOT.name + "-mutants"))
     parser.add_argument("--jobs", type=int, default=2)
     parser.add_argument("--part", default="1/1", help="2/3: the second of three runs that share the sample, each with a copy of its own")
-    parser.add_argument("--again", type=Path, help="output of an earlier run whose caught faults are put in again")
+    parser.add_argument("--again", type=Path, help="output of an earlier run whose faults are put in again")
+    parser.add_argument("--verdict", default="own", help="which faults of that run")
     parser.add_argument("--list", action="store_true", help="only show which faults would be put in")
     options = parser.parse_args()
     end = time.time() + 60 * options.minutes
