@@ -65,37 +65,6 @@ class FotoBigTest : public BrowseTest {
     frmFotoBig* viewer = nullptr;
 };
 
-TEST_F(FotoBigTest, ClicksInTheZonesStepAndElsewhereClose) {
-    open({1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
-    EXPECT_EQ(title(), u"Recept 001"_s);
-    EXPECT_EQ(run.announced.back(), title());
-    clickAt({750, 300});
-    clickAt({400, 550});
-    EXPECT_EQ(viewer->position(), 8);
-    clickAt({400, 50});
-    clickAt({50, 300});
-    EXPECT_EQ(viewer->position(), 0);
-    EXPECT_EQ(run.beeps, 0);
-    clickAt({50, 300});
-    EXPECT_EQ(run.beeps, 1);
-    clickAt({400, 300});
-    EXPECT_TRUE(isClosed());
-}
-
-TEST_F(FotoBigTest, TwoClicksOrKeysWithinHalfASecondStepOnce) {
-    open({1, 2, 3, 4, 5});
-    clickAt({750, 300}, 0);
-    clickAt({750, 300}, 499);
-    EXPECT_EQ(viewer->position(), 1);
-    press(Qt::Key_Right, 0);
-    EXPECT_EQ(viewer->position(), 1);
-    press(Qt::Key_Right, 1);
-    press(Qt::Key_Right, 499);
-    EXPECT_EQ(viewer->position(), 2);
-    clickAt({400, 300}, 0);
-    EXPECT_FALSE(isClosed()) << "the guard holds for the click that closes, too";
-}
-
 TEST_F(FotoBigTest, AFingerThatGoesSidewaysStepsWhereverItBegins) {
     open({1, 2, 3});
     const auto swipe = [this](QPoint from, QPoint to) {
@@ -119,62 +88,6 @@ TEST_F(FotoBigTest, TheDoubleClickThatOpenedItIsNoClickOnItAndTheFirstClickIsThe
     EXPECT_FALSE(isClosed());
     QTest::mouseClick(viewer, Qt::LeftButton, {}, {400, 300});
     EXPECT_EQ(viewer->position(), 1) << "the mouse has not moved yet";
-}
-
-TEST_F(FotoBigTest, KeysStepAndClose) {
-    open({1, 2, 3, 4, 5}, 3);
-    press(Qt::Key_Down);
-    EXPECT_EQ(viewer->position(), 4);
-    press(Qt::Key_Right);
-    press(Qt::Key_Down);
-    EXPECT_EQ(run.beeps, 2);
-    press(Qt::Key_Left);
-    press(Qt::Key_Up);
-    EXPECT_EQ(viewer->position(), 0);
-    key(Qt::Key_Escape);
-    EXPECT_TRUE(isClosed()) << "at once, guard or not";
-    for (const Qt::Key closing : {Qt::Key_X, Qt::Key_F4}) {
-        open({1});
-        key(closing, Qt::AltModifier);
-        EXPECT_TRUE(isClosed());
-    }
-    EXPECT_EQ(run.exits, 0);
-}
-
-TEST_F(FotoBigTest, TheSlideShowGoesRoundAndKeepsTheDisplayAwake) {
-    open({1, 2, 3}, 2, true);
-    EXPECT_TRUE(timer().isEnabled());
-    EXPECT_EQ(timer().interval(), 4000);
-    EXPECT_EQ(run.awake.size(), 1);
-    EXPECT_FALSE(run.awake.back().isEmpty());
-    timer().fire();
-    EXPECT_EQ(title(), u"Recept 001"_s);
-    EXPECT_TRUE(timer().isEnabled());
-    press(Qt::Key_Right);
-    EXPECT_EQ(viewer->position(), 1);
-    EXPECT_TRUE(timer().isEnabled());
-    key(Qt::Key_Space);
-    EXPECT_FALSE(viewer->runsSlideShow());
-    EXPECT_EQ(run.awake.back(), QString());
-    key(Qt::Key_Space);
-    EXPECT_TRUE(viewer->runsSlideShow());
-    key(Qt::Key_Escape);
-    EXPECT_EQ(run.awake.back(), QString()) << "closing ends it";
-    open({1, 2});
-    EXPECT_FALSE(viewer->runsSlideShow());
-    const auto reasons = run.awake.size();
-    key(Qt::Key_Escape);
-    EXPECT_EQ(run.awake.size(), reasons) << "who never kept the display awake lets it alone";
-}
-
-TEST_F(FotoBigTest, TheSlideShowWaitsBelowAnotherScreen) {
-    open({1, 2, 3}, 0, true);
-    Form* help = run.openAbove("frmStranka");
-    timer().fire();
-    EXPECT_EQ(viewer->position(), 0);
-    run.PopScreen(*help);
-    timer().fire();
-    EXPECT_EQ(viewer->position(), 1);
 }
 
 TEST_F(FotoBigTest, TheCursorShowsWhatAClickDoes) {

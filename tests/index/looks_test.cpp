@@ -17,25 +17,34 @@ namespace {
 using test::explore;
 using test::exploreOrLook;
 using test::Look;
+using test::walk;
 
 QStringList everything() {
     QStringList all;
     int id = 0;
     for (const char* letter : {"A", "B", "Č", "Ch", "S"})
-        for (int i = 0; i < 9; ++i)
-            all << Cookbook::keyword(++id, u"%1slovo %2"_s.arg(QString::fromUtf8(letter)).arg(i),
-                                     u"Kapr se *2 vaří* s kmínem, #5 pípne# a @7 video@ hraje. "_s +
-                                         u"slovo "_s.repeated(qsizetype(i % 2) * 700));
-    all << u"INSERT INTO UkazkyHesel VALUES (1, 'foto\\hesla\\kapr.png', 'Kapr', 6, '7,12,')"_s
+        for (int i = 0; i < 9; ++i) {
+            const QString far = u"slovo "_s.repeated(qsizetype(i % 2) * 700);
+            all << Cookbook::keyword(
+                ++id, u"%1slovo %2"_s.arg(QString::fromUtf8(letter)).arg(i),
+                far + u"Kapr se *%1 vaří* s kmínem, #5 pípne# a @7 video@ hraje *999 nikam*. "_s.arg(2 -
+                                                                                                     i % 2));
+        }
+    all << u"INSERT INTO UkazkyHesel VALUES (1, 'foto\\hesla\\kapr.png', 'Kapr', 6, '7,12,'), "
+           "(2, '', '', 99999, '7,'), (4, 'foto\\hesla\\neni.png', 'Popis', 0, '')"_s
         << u"INSERT INTO Tabulky VALUES (3, 'Ryby', 'Ryba\tMíra', 'Podle vyhlášky.')"_s
         << u"INSERT INTO RadkyTabulek VALUES (1, 3, 7, 'Kapr\t40 cm'), (2, 3, 0, 'Sleď\tbez míry')"_s
         << Cookbook::page(10, u"Jak na to"_s, u"\\b Jak na to\\b0\\par Vezm\\'eate *3 rybu*. "_s.repeated(60),
                           {})
+        << Cookbook::page(30, u"Stránky"_s, u"\\b St\\'e1nky\\b0\\par Text."_s, u"frmStranka"_s)
         << u"INSERT INTO Nastav VALUES (1, 'Zvuky', 1), (2, 'Hudba', 1), (3, 'Hlas', 1)"_s
         << Cookbook::picture(9, 9, u"Ryby"_s) << Cookbook::picture(91, 9, u"Mořské ryby"_s)
         << Cookbook::area(9, {100, 150, 200, 150}, u"Kapr"_s, {}, u"*12"_s)
         << Cookbook::area(9, {400, 150, 200, 150}, u"Kuchání"_s, {}, u"@3"_s)
         << Cookbook::area(9, {100, 450, 200, 150}, u"Do moře"_s, {}, u">91"_s)
+        << Cookbook::area(9, {750, 150, 100, 100}, u"Kámen"_s, {}, u"#"_s)
+        << Cookbook::area(9, {850, 600, 100, 100}, u"Nic"_s, {}, {})
+        << Cookbook::area(9, {-500, 0, 100, 100}, u"Mimo"_s, {}, u"*1"_s)
         << Cookbook::area(9, {400, 450, 300, 300}, u"Hlas"_s,
                           test::rtf(u"Hlas\\par\r\n\\par\r\nHlas *5 ryb*."_s), {});
     return all;
@@ -75,6 +84,14 @@ TEST(Looks, Tables) {
                           });
 }
 
+TEST(Looks, EmptyIndex) {
+    explore("rejstrik-prazdny", [=](const Look& look) {
+        Cookbook book({});
+        (new FrmTabulky(book.run))->Zobraz(kKeywordIndexItem);
+        look(book.run);
+    });
+}
+
 TEST(Looks, Page) {
     for (const bool plays : {false, true})
         exploreOrLook(plays, plays ? "stranka-s-hudbou" : "stranka", [=](const Look& look) {
@@ -85,6 +102,11 @@ TEST(Looks, Page) {
             (new frmStranka(book.run))->Zobraz(u"10"_s);
             look(book.run);
         });
+    explore("stranka-napovedy", [=](const Look& look) {
+        Index book;
+        (new frmStranka(book.run))->Zobraz(u"30"_s);
+        look(book.run);
+    });
 }
 
 TEST(Looks, Gallery) {
@@ -93,9 +115,40 @@ TEST(Looks, Gallery) {
             Index book;
             auto* form = new frmSponzor(book.run);
             form->Zobraz(9, {});
-            if (card) form->findChild<Control*>(u"lblOblast(3)"_s)->click();
+            if (card) form->findChild<Control*>(u"lblOblast(5)"_s)->click();
             look(book.run);
         });
+}
+
+TEST(Looks, InUse) {
+    const struct {
+        const char* name;
+        std::function<void(FakeSarne&)> open;
+        const char* way;
+    } ways[] = {
+        {"hesla-kruhem", [](FakeSarne& run) { (new frmIndex(run))->Zobraz(1); },
+         "click:picText.3 click:picText.0 Tab Return Escape click:imgBtnHlavni(2) type:c"},
+        {"hesla-klavesami", [](FakeSarne& run) { (new frmIndex(run))->Zobraz(3); },
+         "Tab Tab Tab Tab Tab Tab Tab Tab Tab Shift+Tab Shift+Tab"},
+        {"rejstrik-pismeny", [](FakeSarne& run) { (new FrmTabulky(run))->Zobraz(kKeywordIndexItem); },
+         "type:s click:lblPismeno(3) type:č type:z X type:c"},
+        {"tabulka-mysi", [](FakeSarne& run) { (new FrmTabulky(run))->Zobraz(3); },
+         "click:picTabulka.3 click:picTabulka.4 Return click:picTabulka.2 double:picTabulka.3"},
+        {"galerie-mysi", [](FakeSarne& run) { (new frmSponzor(run))->Zobraz(9, {}); },
+         "click:lblOblast(0) click:lblOblast(1) click:lblOblast(3) click:lblOblast(4) click:lblOblast(5) "
+         "click:imgZavri click:lblOblast(5) click:780,400 click:lblOblast(2) PgDown"},
+        {"galerie-klavesami", [](FakeSarne& run) { (new frmSponzor(run))->Zobraz(9, {}); },
+         "Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Right Down Left Left Up Right Space Down Return "
+         "Tab Return Escape Escape"}};
+    for (const auto& one : ways)
+        walk(
+            one.name,
+            [&](const Look& look) {
+                Index book;
+                one.open(book.run);
+                look(book.run);
+            },
+            one.way);
 }
 
 }  // namespace

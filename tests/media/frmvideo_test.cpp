@@ -77,14 +77,6 @@ TEST_F(VideoTest, TheKnobStaysWithinTheBar) {
     EXPECT_EQ(bar->positionAt(bar->twips().width() - 90), 60000);
 }
 
-TEST_F(VideoTest, MusicThatIsOffStaysOff) {
-    run.SoundFlags[kMusic] = false;
-    open();
-    start();
-    press(Qt::Key_C);
-    EXPECT_TRUE(run.player.commands.isEmpty());
-}
-
 TEST_F(VideoTest, TransportButtons) {
     open();
     start();

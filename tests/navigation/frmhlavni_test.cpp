@@ -104,15 +104,8 @@ TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
     EXPECT_EQ(run.messages, QStringList()) << "the start is silent about its music";
 }
 
-TEST_F(MainScreenTest, ButtonsByKeyboard) {
+TEST_F(MainScreenTest, ArrowsGoWhereTheyPoint) {
     start();
-    press(Qt::Key_PageUp);
-    const int first = main->currentButton();
-    EXPECT_TRUE(button(first)->hasFocus());
-    press(Qt::Key_Tab);
-    EXPECT_NE(main->currentButton(), first);
-    press(Qt::Key_Tab, Qt::ShiftModifier);
-    EXPECT_EQ(main->currentButton(), first);
     const struct {
         Qt::Key key;
         QPoint way;
@@ -129,26 +122,9 @@ TEST_F(MainScreenTest, ButtonsByKeyboard) {
         }
         EXPECT_GT(moved, 9) << key;
     }
-    for (const Qt::Key key : {Qt::Key_F4, Qt::Key_X}) press(key, Qt::AltModifier);
     run.window.close();
     EXPECT_EQ(run.exits, 0);
     EXPECT_TRUE(run.window.isVisible());
-    EXPECT_TRUE(run.recorded.calls.isEmpty());
-    press(Qt::Key_X);
-    EXPECT_EQ(run.exits, 1);
-
-    moveOver(0);
-    press(Qt::Key_Return);
-    EXPECT_EQ(run.exits, 2);
-    moveOver(7);
-    press(Qt::Key_Space);
-    EXPECT_EQ(run.recorded.calls, QStringList{u"showMusicSettings"_s});
-    moveOver(3);
-    press(Qt::Key_Return);
-    EXPECT_TRUE(main->isMenuOpen());
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
-    EXPECT_TRUE(run.recorded.calls.contains(u"showList 7,9, recepty"_s));
 }
 
 TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
@@ -178,15 +154,6 @@ TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
     EXPECT_FALSE(moves()) << "another program has the keyboard";
 }
 
-TEST_F(MainScreenTest, TheLightGoesOutForWhoeverActs) {
-    start();
-    Timer* light = main->findChildren<Timer*>().at(1);
-    main->showThings();
-    EXPECT_TRUE(light->isEnabled());
-    press(Qt::Key_Right);
-    EXPECT_FALSE(light->isEnabled());
-}
-
 TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
     start();
     moveOver(2);
@@ -206,28 +173,6 @@ TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
     main->SkryjMenu();
     run.PopScreen(*other);
     EXPECT_TRUE(button(1)->hasFocus()) << "who came by keyboard goes on from there";
-}
-
-TEST_F(MainScreenTest, AMenuThatOpensNothingGivesTheKeyboardBack) {
-    start();
-    QTest::mouseClick(button(3), Qt::LeftButton);
-    main->SkryjMenu();  // as after a choice that has opened no screen
-    EXPECT_EQ(run.window.focusForm(), main);
-    EXPECT_EQ(main->currentButton(), -5);
-    press(Qt::Key_Return);
-    EXPECT_TRUE(main->isMenuOpen()) << "the ring stands on what Enter opens";
-    press(Qt::Key_Escape);
-    EXPECT_TRUE(button(3)->hasFocus());
-    EXPECT_EQ(main->currentButton(), -5) << "idle";
-    press(Qt::Key_Space);
-    EXPECT_TRUE(main->isMenuOpen());
-    press(Qt::Key_Escape);
-    press(Qt::Key_Tab);
-    EXPECT_FALSE(button(3)->hasFocus());
-    QTest::mouseMove(main, {700, 590});
-    EXPECT_EQ(main->currentButton(), -5);
-    press(Qt::Key_Return);
-    EXPECT_TRUE(main->isMenuOpen()) << "the ring has stayed, and so has what Enter does";
 }
 
 }  // namespace

@@ -36,76 +36,6 @@ class MenuFormTest : public MenuFixture {
     frmHlavni* main = nullptr;
 };
 
-TEST_F(MenuFormTest, CascadesByMouseAndClosesByTheBackground) {
-    clickButton(2);
-    EXPECT_TRUE(main->isMenuOpen());
-    EXPECT_FALSE(main->findChild<QWidget*>(u"imgClick(3)"_s)->isEnabled());
-    QTest::mouseClick(label(main->menu(), 1), Qt::LeftButton);
-    QTest::mouseClick(label(deepest(), 2), Qt::LeftButton);
-    EXPECT_EQ(codes(), (QStringList{u"2"_s, u"21"_s, u"212"_s}));
-    EXPECT_EQ(deepest()->depth(), 2);
-    QTest::mouseClick(label(main->menu(), 2), Qt::LeftButton);
-    EXPECT_EQ(codes(), (QStringList{u"2"_s, u"22"_s})) << "the other submenu replaced it";
-    const QPoint background(10, 500);
-    QTest::mouseClick(main, Qt::LeftButton, {}, background);
-    EXPECT_FALSE(main->isMenuOpen());
-    EXPECT_FALSE(main->menu()->isVisible());
-    EXPECT_TRUE(main->findChild<QWidget*>(u"imgClick(3)"_s)->isEnabled());
-}
-
-TEST_F(MenuFormTest, AnOpenMenuTakesContrastAndLargerTextsAtOnce) {
-    clickButton(2);
-    key(Qt::Key_Up);
-    QWidget* last = label(main->menu(), 2);
-    const int height = last->height();
-    const QImage plain = last->grab().toImage();
-    run.window.eyes().setContrast(true);
-    EXPECT_NE(last->grab().toImage(), plain) << "the last line, too";
-    run.window.eyes().setTextPercent(150);
-    EXPECT_GT(last->height(), height);
-}
-
-TEST_F(MenuFormTest, RestingOpensSubmenusAndNeverActs) {
-    clickButton(2);
-    auto* timer = main->menu()->findChild<Timer*>();
-    QTest::mouseMove(label(main->menu(), 1), {5, 5});
-    EXPECT_EQ(timer->interval(), 400);
-    timer->fire();
-    EXPECT_EQ(codes(), (QStringList{u"2"_s, u"21"_s}));
-    QTest::mouseMove(main->menu(), {3, 3});
-    EXPECT_FALSE(timer->isEnabled()) << "off the labels nothing opens";
-    QTest::mouseClick(label(main->menu(), 2), Qt::LeftButton);
-    frmMenu* leaf = deepest();
-    QTest::mouseMove(label(leaf, 1), {5, 5});
-    leaf->findChild<Timer*>()->fire();
-    EXPECT_TRUE(run.recorded.calls.isEmpty());
-    QTest::mouseClick(label(leaf, 1), Qt::LeftButton);
-    EXPECT_EQ(run.recorded.calls, (QStringList{u"showList 6, recepty"_s, u"returnToMain"_s}));
-}
-
-TEST_F(MenuFormTest, ThreeLevelsDeepAndBackByKeyboard) {
-    clickButton(2);
-    for (const Qt::Key k : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right}) key(k);
-    EXPECT_EQ(codes(), (QStringList{u"2"_s, u"21"_s, u"211"_s}));
-    EXPECT_EQ(deepest()->selected(), 1);
-    key(Qt::Key_Down);
-    key(Qt::Key_Down);
-    EXPECT_EQ(deepest()->selected(), 1) << "round the end";
-    key(Qt::Key_Left);
-    key(Qt::Key_Escape);
-    EXPECT_EQ(codes(), QStringList{u"2"_s});
-    EXPECT_EQ(main->menu()->selected(), 1);
-    type("p");
-    EXPECT_EQ(main->menu()->selected(), 2);
-    key(Qt::Key_Return);
-    key(Qt::Key_Down);
-    key(Qt::Key_Return);
-    EXPECT_EQ(run.recorded.calls.first(), u"showList 3, RychleRecepty"_s);
-    main->menu()->unfold(u"2"_s, {});
-    key(Qt::Key_Escape);
-    EXPECT_FALSE(main->isMenuOpen());
-}
-
 TEST_F(MenuFormTest, TypingFindsIngredients) {
     clickButton(12);
     auto* entry = child<Edit>(*main->menu(), "Text1");
@@ -144,41 +74,6 @@ TEST_F(MenuFormTest, TypingFindsIngredients) {
     EXPECT_EQ(run.recorded.calls.first(), u"showList 3,2,1, recepty"_s);
 }
 
-TEST_F(MenuFormTest, SharedLettersStayCommands) {
-    clickButton(2);
-    type("kap");  // a "p" of its own would lead on to the next item
-    EXPECT_EQ(main->menu()->selected(), 1);
-    key(Qt::Key_X);
-    EXPECT_EQ(run.exits, 1);
-    key(Qt::Key_C);
-    EXPECT_FALSE(main->isMenuOpen());
-}
-
-TEST_F(MenuFormTest, RestingOpensTheSubmenuOfAnItemThatIsMarkedAlready) {
-    clickButton(2);
-    const QStringList open{u"2"_s, u"21"_s};
-    const auto rest = [&](QPoint at) {
-        QTest::mouseMove(label(main->menu(), 1), at);
-        main->menu()->findChild<Timer*>()->fire();
-        return codes();
-    };
-    key(Qt::Key_Down);
-    EXPECT_EQ(rest({5, 5}), open) << "marked by the arrow key";
-    key(Qt::Key_Escape);
-    EXPECT_EQ(rest({6, 5}), open) << "closed by Escape";
-    key(Qt::Key_Left);
-    QTest::mouseMove(main->menu(), {3, 3});
-    EXPECT_EQ(rest({7, 5}), open) << "left for the background and come back";
-}
-
-TEST_F(MenuFormTest, AltF4AndAltXAreSwallowedInAMenu) {
-    clickButton(2);
-    for (const Qt::Key k : {Qt::Key_F4, Qt::Key_X})
-        QTest::keyClick(QApplication::focusWidget(), k, Qt::AltModifier);
-    EXPECT_EQ(run.exits, 0);
-    EXPECT_TRUE(main->isMenuOpen());
-}
-
 TEST_F(MenuFormTest, ThePointerIsThatOfTheLevelThatAppearsUnderIt) {
     QCursor::setPos(run.window.mapToGlobal(QPoint(400, 560)));
     clickButton(2);
@@ -189,24 +84,6 @@ TEST_F(MenuFormTest, ThePointerIsThatOfTheLevelThatAppearsUnderIt) {
     key(Qt::Key_Escape);
     clickButton(12);
     EXPECT_NE(label(main->menu(), 1)->cursor().shape(), Qt::PointingHandCursor) << "the prompt is no item";
-}
-
-TEST_F(MenuFormTest, AScreenOpenedByAFunctionKeyGivesTheMenuBack) {
-    clickButton(2);
-    for (const Qt::Key k : {Qt::Key_Down, Qt::Key_Right}) key(k);
-    key(Qt::Key_F1);
-    EXPECT_EQ(run.recorded.calls.last(), u"showHelpFor frmMenu"_s);
-    EXPECT_TRUE(deepest()->isVisible()) << "no help came: the menu stays";
-    run.PopScreen(*run.openAbove("frmStranka"));
-    EXPECT_TRUE(main->isMenuOpen());
-    EXPECT_TRUE(main->testAttribute(Qt::WA_SetCursor)) << "a click beside the menu leads back";
-    EXPECT_EQ(codes().size(), 2);
-    EXPECT_EQ(QApplication::focusWidget(), deepest());
-    EXPECT_EQ(deepest()->selected(), 1);
-    EXPECT_FALSE(main->findChild<QWidget*>(u"imgClick(3)"_s)->isEnabled());
-    key(Qt::Key_Escape);
-    key(Qt::Key_Escape);
-    EXPECT_TRUE(main->findChild<QWidget*>(u"imgClick(3)"_s)->isEnabled());
 }
 
 TEST_F(MenuFormTest, TrianglesPointWhereTheSubmenuOpens) {

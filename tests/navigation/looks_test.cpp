@@ -10,6 +10,7 @@ namespace {
 
 using test::explore;
 using test::Look;
+using test::walk;
 
 class Main : public MenuFixture {
   public:
@@ -64,6 +65,46 @@ TEST(Looks, Menus) {
             main.open(menu.thing, menu.keys);
             look(main.run);
         });
+}
+
+TEST(Looks, MainScreenInUse) {
+    const struct {
+        const char *name, *way;
+    } ways[] = {
+        {"hlavni-klavesami",
+         "PgUp Tab Shift+Tab Alt+F4 Alt+X X hover:imgClick(0) Return hover:imgClick(7) Space "
+         "hover:imgClick(3) Return Down Return"},
+        // An item is chosen by the mouse, a submenu opens by resting on it, too; the background closes all.
+        {"menu-mysi",
+         "click:imgClick(2) click:lblOdkaz(1) click:lblOdkaz(2) click:^^lblOdkaz(2) hover:^lblOdkaz(1) "
+         "tick click:10,500"},
+        {"menu-spocinutim",
+         "click:imgClick(2) Down hover:lblOdkaz(1) tick Escape hover:lblOdkaz(1) tick Left hover:352,497 "
+         "tick "
+         "hover:lblOdkaz(1) tick Left click:lblOdkaz(2) hover:lblOdkaz(1) tick"},
+        {"menu-klavesami",
+         "click:imgClick(2) Down Right Right Down Down Left Escape type:p Return Down Return"},
+        {"menu-pismeny", "click:imgClick(2) type:k type:a type:p Alt+F4 Alt+X X type:c"},
+        {"menu-pod-napovedou", "click:imgClick(2) Down Right F1 over pop Escape Escape"}};
+    for (const auto& one : ways)
+        walk(
+            one.name,
+            [](const Look& look) {
+                Main main;
+                look(main.run);
+            },
+            one.way);
+    // A choice that has opened no screen gives the keyboard back; the light goes out for whoever acts.
+    walk(
+        "hlavni-navrat",
+        [](const Look& look) {
+            Main main;
+            main.open(3);
+            main.screen->SkryjMenu();
+            main.screen->showThings();
+            look(main.run);
+        },
+        "tick tick tick Return Escape tick Space Escape Tab hover:700,590 Return");
 }
 
 }  // namespace

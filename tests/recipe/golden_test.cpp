@@ -45,6 +45,9 @@ TEST_F(RecipeTest, CollectedGolden) {
     form->Skryj();
     open(6);
     EXPECT_EQ(form->collectedText(), u"Prázdný recept\r\n\r\n"_s) << "no tools line, no links";
+    form->Skryj();
+    open(-7);
+    EXPECT_EQ(form->collectedText(), QString()) << "no such recipe";
 }
 
 }  // namespace

@@ -19,6 +19,14 @@ class Recipe : public RecipeTest {
         open(id);
         form->openSection(section);
     }
+    /// Many for recipe \a id.
+    void addLinks(int id) {
+        for (int link = 10; link < 30; ++link) {
+            run.database.Execute(
+                u"INSERT INTO Odkazy (ID, Polozka, Text) VALUES (%1,'Odkaz %1','t%1')"_s.arg(link));
+            run.database.Execute(u"INSERT INTO SpojOdkazy VALUES (%1,%2)"_s.arg(id).arg(link));
+        }
+    }
     void ask(double portions) { customPortions = portions; }
     using RecipeTest::run;
     using RecipeTest::type;
@@ -53,6 +61,45 @@ TEST(Looks, NoteThatWasTyped) {
         book.type(u"víc kmínu"_s);
         look(book.run);
     });
+}
+
+TEST(Looks, InUse) {
+    const struct {
+        const char* name;
+        std::int16_t id;
+        int section;
+        const char* way;
+    } ways[] = {
+        {"sekce-klavesami", 5, 0, "Down Down Right Return"},
+        {"sekce-prazdneho", 6, 0, "Up Left Left Left Left"},
+        {"sekce-niceho", -7, 0,
+         "click:imgBtn(1) click:imgBtn(2) click:imgBtn(4) click:imgBtn(5) click:imgBtn(6) click:imgBtn(7) "
+         "type:x click:imgBtn(3)"},
+        {"text-klavesami", 5, 1,
+         "Tab Tab Tab Tab Tab Tab Shift+Tab Shift+Tab Left Shift+Tab Shift+Tab Return over pop"},
+        {"text-mysi", 5, 1, "click:picRecept.0 click:picRecept.1 over pop click:picRecept.2"},
+        {"odkazy", 8, 3,
+         "Tab Up Return click:imgOdkazy(0) click:imgOdkazy(0) Down Return click:imgOdkazy(1)"},
+        {"porce-mysi", 5, 5,
+         "click:imgPrepocet(6) click:imgPrepocet(6) click:imgPrepocet(2) click:imgPrepocet(10) answer:100 "
+         "click:imgPrepocet(10) click:imgKgLzice answer:0 click:imgPrepocet(10) answer:3 "
+         "click:imgPrepocet(10) answer:0 click:imgPrepocet(10)"},
+        {"porce-klavesami", 5, 5,
+         "Right Right Right Return Left Left Left Left Right Return Left Right Down Tab Right"},
+        {"poznamka-klavesami", 5, 7,
+         "Shift+Tab Up Return click:imgBtn(7) click:lblIkona(2) click:imgBtn(7) Tab Shift+Tab type:ryba Tab "
+         "Return"}};
+    for (const auto& one : ways)
+        test::walk(
+            one.name,
+            [&](const Look& look) {
+                Recipe book;
+                book.ask(2.5);
+                book.addLinks(8);
+                book.show(one.id, one.section);
+                look(book.run);
+            },
+            one.way);
 }
 
 }  // namespace

@@ -161,17 +161,6 @@ TEST_F(NoteTest, WhoLeavesTheQuestionStaysWithTheNote) {
     EXPECT_EQ(storedNote().toString(), u"ryba"_s) << "a screen that has to go takes no note along";
 }
 
-TEST_F(NoteTest, AnotherSectionTakesTheKeyboardAlong) {
-    press(Qt::Key_Backtab);
-    press(Qt::Key_Up);
-    press(Qt::Key_Return);
-    EXPECT_EQ(form->section(), 6);
-    EXPECT_EQ(focused(), u"imgBtn(6)"_s);
-    click("imgBtn(7)");
-    click("lblIkona(2)");
-    EXPECT_EQ(focused(), u"imgBtn(2)"_s);
-}
-
 TEST_F(NoteTest, AnEndBelowAnotherScreenAsksAboutTheNoteFirst) {
     type(u"ryba"_s);
     Form* help = run.openAbove("frmStranka");
@@ -238,18 +227,6 @@ TEST_F(NoteTest, TypingBreaksAParagraphThatHasBecomeLong) {
     EXPECT_EQ(note().text(), u"a b"_s.repeated(2000) + u"\nkonec"_s);
     note().editor().undo();
     EXPECT_TRUE(note().text().startsWith(u"a ba b"_s));
-}
-
-TEST_F(NoteTest, TabReachesItsButtons) {
-    press(Qt::Key_Tab);
-    EXPECT_EQ(focused(), u"cmdUloz(0)"_s);
-    press(Qt::Key_Backtab);
-    EXPECT_EQ(focused(), u"RtfPozn"_s);
-    type(u"ryba"_s);
-    press(Qt::Key_Tab);
-    press(Qt::Key_Return);
-    EXPECT_EQ(storedNote().toString(), u"ryba"_s);
-    EXPECT_EQ(focused(), u"imgBtn(7)"_s);
 }
 
 }  // namespace

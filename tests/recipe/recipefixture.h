@@ -63,7 +63,9 @@ class RecipeTest : public testing::Test {
 
     void open(std::int16_t id) {
         form = new frmRecept(run, lookedAt, [this](const QString& prompt) {
-            prompts << prompt;
+            run.recorded.calls << prompt;
+            if (!run.answers.empty()) customPortions = run.answers.front();
+            run.answers.clear();
             return customPortions;
         });
         form->Zobraz(id);
@@ -108,7 +110,6 @@ class RecipeTest : public testing::Test {
     QTemporaryDir folder;
     FakeSarne run;
     double customPortions = 0;
-    QStringList prompts;
     Serving lookedAt;
     Form* below = run.openAbove("frmSeznam");
     frmRecept* form = nullptr;

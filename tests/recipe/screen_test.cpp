@@ -81,22 +81,6 @@ TEST(ToolGridTest, FillsItsRoomWithPicturesOfOneSizeThatDoNotMeet) {
     }
 }
 
-TEST_F(ScreenTest, ARecipeThatDoesNotExistHasNoTexts) {
-    form->Skryj();
-    open(-7);
-    EXPECT_EQ(at<Label>("lblNazev").text(), QString());
-    for (int index : {1, 2, 4, 5, 6}) {
-        section(index);
-        EXPECT_EQ(shown(), QString()) << index;
-    }
-    section(7);
-    type(u"x"_s);
-    run.answers = {6};
-    section(3);
-    EXPECT_EQ(shown(), u"K tomuto receptu není přiřazen žádný odkaz"_s);
-    EXPECT_EQ(form->collectedText(), QString());
-}
-
 TEST_F(ScreenTest, TheNameIsSpokenWhenItsSwitchIsOnOrForShow) {
     makeFile(u"zvuky/č5.wav"_s, "RIFF...");
     const auto playedBy = [&](bool on, bool show) {
@@ -119,95 +103,6 @@ TEST_F(ScreenTest, TheNameIsSpokenWhenItsSwitchIsOnOrForShow) {
     const QDeadlineTimer deadline(5000);
     while (run.player.decibels > -10 && !deadline.hasExpired()) QApplication::processEvents();
     EXPECT_EQ(run.player.decibels, -10) << "the music steps back";
-}
-
-TEST_F(ScreenTest, LinkPhrasesOpenKeywordsAndVideosOrBeep) {
-    section(1);
-    const auto clickLink = [&](int link) {
-        const QPoint at = view().pieces().linkRect(link).center() - QPoint(0, view().scrolled());
-        QTest::mouseClick(&view(), Qt::LeftButton, {}, view().toPixels(at));
-    };
-    clickLink(0);
-    clickLink(1);
-    Form* video = run.openAbove("frmVideo");
-    const int scrolled = view().scrolled();
-    run.PopScreen(*video);
-    EXPECT_EQ(focused(), u"picRecept"_s) << "back at the word that led to the film";
-    EXPECT_EQ(view().pieces().focused(), 1);
-    EXPECT_EQ(view().scrolled(), scrolled);
-    clickLink(2);
-    EXPECT_EQ(run.recorded.calls, (QStringList{u"showIndex 12"_s, u"showVideo 7"_s}));
-    EXPECT_EQ(run.beeps, 1);
-}
-
-TEST_F(ScreenTest, ManyLinksScroll) {
-    for (int link = 10; link < 30; ++link) {
-        run.database.Execute(
-            u"INSERT INTO Odkazy (ID, Polozka, Text) VALUES (%1,'Odkaz %1','t%1')"_s.arg(link));
-        run.database.Execute(u"INSERT INTO SpojOdkazy VALUES (6,%1)"_s.arg(link));
-    }
-    form->Skryj();
-    open(6);
-    section(3);
-    EXPECT_EQ(child(*form, "optOdkaz(19)"), nullptr) << "made when it comes into sight";
-    EXPECT_EQ(shown(), u"t10"_s);
-    press(Qt::Key_Tab);
-    EXPECT_EQ(focused(), u"optOdkaz(0)"_s);
-    press(Qt::Key_Up);
-    EXPECT_EQ(focused(), u"optOdkaz(19)"_s);
-    EXPECT_TRUE(at("optOdkaz(19)").isVisible());
-    EXPECT_FALSE(at("optOdkaz(0)").isVisible());
-    press(Qt::Key_Return);
-    EXPECT_EQ(shown(), u"t29"_s);
-    EXPECT_EQ(run.announced.last(), u"Odkaz 29"_s);
-    for (int click = 0; click < 30; ++click) QTest::mouseClick(&at("imgOdkazy(0)"), Qt::LeftButton);
-    EXPECT_TRUE(at("optOdkaz(0)").isVisible());
-}
-
-TEST_F(ScreenTest, ArrowsMoveOverTheSectionsAndSayTheirNames) {
-    EXPECT_EQ(run.announced.size(), 1) << "the dish, on opening";
-    run.announced.clear();
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    press(Qt::Key_Right);
-    EXPECT_EQ(run.announced, (QStringList{u"Recept"_s, u"Úvod"_s, u"Odkazy"_s}));
-    EXPECT_EQ(form->section(), 0) << "moving opens nothing";
-    press(Qt::Key_Return);
-    EXPECT_EQ(form->section(), 3);
-    form->Skryj();
-    open(6);
-    run.announced.clear();
-    press(Qt::Key_Up);
-    EXPECT_EQ(focused(), u"imgBtn(7)"_s);
-    for (int step = 0; step < 4; ++step) press(Qt::Key_Left);
-    EXPECT_EQ(run.announced.last(), u"K tomuto receptu není přiřazen žádný odkaz"_s);
-}
-
-TEST_F(ScreenTest, TabGoesFromTheSectionsThroughTheTextToTheBar) {
-    section(1);
-    QStringList path;
-    for (int step = 0; step < 6; ++step) {
-        press(Qt::Key_Tab);
-        path << focused() + QString::number(view().pieces().focused().value_or(-1));
-    }
-    EXPECT_EQ(path, (QStringList{u"picRecept0"_s, u"picRecept1"_s, u"picRecept2"_s, u"imgBtnHlavni(0)-1"_s,
-                                 u"picHvezdy-1"_s, u"imgBtn(1)-1"_s}));
-    press(Qt::Key_Backtab);
-    press(Qt::Key_Backtab);
-    press(Qt::Key_Left);
-    EXPECT_EQ(focused(), u"imgBtnHlavni(4)"_s);
-    press(Qt::Key_Backtab);
-    EXPECT_EQ(view().pieces().focused(), 2);
-    EXPECT_EQ(run.announced.last(), u"ihned."_s);
-    press(Qt::Key_Backtab);
-    press(Qt::Key_Return);
-    EXPECT_EQ(run.recorded.calls, QStringList{u"showVideo 7"_s});
-    Form* video = run.openAbove("frmVideo");
-    run.awake.clear();
-    run.PopScreen(*video);
-    EXPECT_EQ(focused(), u"picRecept"_s) << "back where the link was";
-    EXPECT_EQ(view().pieces().focused(), 1);
-    EXPECT_EQ(run.awake.size(), 1) << "and awake again";
 }
 
 TEST_F(ScreenTest, CtrlCPutsTheRecipeOnTheClipboard) {

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "forms/control.h"
+#include "support/acts.h"
 #include "support/fakesarne.h"
 #include "support/files.h"
 #include "support/kept.h"
@@ -52,44 +53,25 @@ QString resourceFolder() {
     return made ? folder.path() + u'/' : QString();
 }
 
-void settle() {
-    for (int i = 0; i < 3; ++i) {
-        QApplication::processEvents();
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
-
 QString thumbnail(Stage& stage) {
     return kLooks + QString::fromLatin1(Looks::of(stage.grab().toImage()).toBase64());
 }
 
-/// Where the display shows something else than what would be painted now: nobody has said that it changed.
-QStringList stale(Stage& stage) {
-    const QImage now = stage.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    const QImage shown =
-        stage.screen()->grabWindow(stage.winId()).toImage().convertToFormat(QImage::Format_RGB32);
-    if (shown.size() != now.size()) return {u"stale: nothing is shown"_s};
-    constexpr int kSeen = 24, kFewPixels = 8;
-    QRect where;
-    int count = 0;
-    for (int y = 0; y < now.height(); ++y) {
-        const auto* is = reinterpret_cast<const QRgb*>(shown.constScanLine(y));
-        const auto* be = reinterpret_cast<const QRgb*>(now.constScanLine(y));
-        if (memcmp(is, be, now.width() * sizeof(QRgb)) == 0) continue;
-        for (int x = 0; x < now.width(); ++x) {
-            const int off = std::abs(qRed(is[x]) - qRed(be[x])) + std::abs(qGreen(is[x]) - qGreen(be[x])) +
-                            std::abs(qBlue(is[x]) - qBlue(be[x]));
-            if (off <= kSeen) continue;
-            where |= QRect(x, y, 1, 1);
-            ++count;
-        }
-    }
-    if (count <= kFewPixels) return {};
-    return {u"stale: %1 pixels at %2,%3 %4x%5"_s.arg(count)
-                .arg(where.x())
-                .arg(where.y())
-                .arg(where.width())
-                .arg(where.height())};
+/// What other screens have been handed over to show or print.
+QStringList handedOver(const RecordedScreens& asked) {
+    QStringList all;
+    const auto add = [&all](const QString& what, const auto& list, const auto& text) {
+        QStringList texts;
+        for (const auto& one : list) texts << text(one);
+        if (!texts.isEmpty()) all << what + texts.join(u", "_s);
+    };
+    const auto number = [](int id) { return QString::number(id); };
+    const auto entry = [&](const PrintEntry& one) { return number(one.item) + u' ' + one.text; };
+    const Serving& serving = asked.printServing;
+    add(asked.photos.slideShow ? u"slides "_s : u"photos "_s, asked.photos.photoIds, number);
+    add(u"entries "_s, asked.printEntries, entry);
+    add(u"prints for %1 %2 "_s.arg(serving.portions).arg(int(serving.units)), asked.printed, number);
+    return asked.printedText.isEmpty() ? all : all << u"text "_s + asked.printedText.simplified();
 }
 
 /// What the run has been told so far by what is on it.
@@ -105,8 +87,22 @@ QStringList told(const FakeSarne& run) {
     for (const QByteArray& effect : run.sounds.played)
         all << u"plays "_s +
                    (effect.startsWith("RIFF") ? u"%1 bytes"_s.arg(effect.size()) : QString::fromUtf8(effect));
-    all << QStringList(run.beeps, u"beeps"_s) << QStringList(run.exits, u"exits"_s);
+    all << QStringList(run.beeps, u"beeps"_s) << QStringList(run.exits, u"exits"_s)
+        << handedOver(run.recorded);
     return all;
+}
+
+/// \a lines without what is another one in every run: today's date, folders made for the test.
+QStringList general(QStringList lines) {
+    static const QRegularExpression madeForTest(QRegularExpression::escape(QDir::tempPath()) + u"/[\\w-]+"_s +
+                                                u"(\\.\\w{6})?"_s);
+    const QDate today = QDate::currentDate();
+    for (QString& line : lines) {
+        line.replace(madeForTest, u"TMP"_s).replace(u'\n', u'¶').remove(u'\r');
+        for (const QString& date : {today.toString(Qt::ISODate), today.toString(u"d. M. yyyy"_s)})
+            line.replace(date, u"TODAY"_s);
+    }
+    return lines;
 }
 
 /// What of \a now was not there \a before, and which widgets have gone from forms that still show.
@@ -131,35 +127,8 @@ struct Step {
     QString name;
     Act act;
     bool byKey = false, isForEyes = false;
+    QString presses = {};  // the control in whose middle it clicks
 };
-
-Form* front(const FakeSarne& run) {
-    Form* form = nullptr;
-    for (QObject* child : run.window.children())
-        if (auto* one = qobject_cast<Form*>(child); one && one->isVisible()) form = one;
-    return form;
-}
-
-void pressKey(FakeSarne& run, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QWidget* at = run.window.focusWidget();
-    if (!at) at = front(run);
-    if (at) QTest::keyClick(at, key, modifiers);
-}
-
-/// The mouse comes to \a twips of the control of the form in front called \a name and clicks what lies there.
-void click(const FakeSarne& run, const QString& name, QPoint twips, bool twice) {
-    const auto* control = front(run) ? front(run)->findChild<Control*>(name) : nullptr;
-    if (!control) return;
-    const QPoint at = control->mapTo(&run.window, control->toPixels(twips));
-    auto* hit = run.window.childAt(at);
-    if (!hit) return;
-    const QPoint within = hit->mapFrom(&run.window, at);
-    QTest::mouseMove(hit, within + QPoint(1, 0));
-    QTest::mouseMove(hit, within);
-    const QPointer<QWidget> still = hit;
-    QTest::mouseClick(hit, Qt::LeftButton, {}, within);
-    if (twice && still) QTest::mouseDClick(still, Qt::LeftButton, {}, within);
-}
 
 /// Steps that use \a control: its middle, and the first things within it.
 void addClicks(std::vector<Step>& steps, const Control& control) {
@@ -170,9 +139,12 @@ void addClicks(std::vector<Step>& steps, const Control& control) {
             places.push_back(place.center());
     for (const QPoint place : places) {
         const QString step = u"%1 at %2,%3"_s.arg(name).arg(place.x()).arg(place.y());
-        steps.push_back({u"click "_s + step, [=](FakeSarne& run) { click(run, name, place, false); }});
+        steps.push_back({u"click "_s + step,
+                         [=](FakeSarne& run) { click(run, front(run), name, place, false); }, false, false,
+                         place == places[0] ? name : QString()});
         if (places.size() > 1 || name.startsWith(u"lbl"))
-            steps.push_back({u"double "_s + step, [=](FakeSarne& run) { click(run, name, place, true); }});
+            steps.push_back(
+                {u"double "_s + step, [=](FakeSarne& run) { click(run, front(run), name, place, true); }});
     }
 }
 
@@ -288,7 +260,13 @@ class Explorer {
 
     /// How the screen is when it was opened.
     QStringList opened() {
-        opened_ = after([&](FakeSarne& run) { steps_ = stepsOn(run); });
+        opened_ = after(
+            [&](FakeSarne& run) {
+                steps_ = stepsOn(run);
+                for (const QString& name : pressables(run))
+                    if (!isOneOfMany(*front(run), name)) pressed_ << name;
+            },
+            true);
         EXPECT_FALSE(opened_.isEmpty()) << "the scene has shown nothing";
         return opened_ << looks_;
     }
@@ -299,25 +277,73 @@ class Explorer {
         QStringList lines = QStringList(kStep + u"any key"_s) << changes(opened_, keyed);
         for (const Step& step : steps_) {
             if (!step.isForEyes && onlyForEyes) continue;
-            const QStringList changed = changes(step.byKey ? keyed : opened_, after(step.act));
+            const QStringList now = after(step.act, step.isForEyes);
+            if (!step.presses.isEmpty()) clicked_[step.presses] = now;
+            const QStringList changed = changes(step.byKey ? keyed : opened_, now);
             if (changed.isEmpty()) continue;
             lines << kStep + step.name;
             known.contains(changed) ? lines << u"as "_s + known[changed] : lines << changed;
             known.insert(changed, known.value(changed, step.name));
             if (step.isForEyes) lines << looks_;
         }
+        return onlyForEyes ? lines : lines + byKeyboard();
+    }
+    /// Records what every step of \a way changes of what the one before has left.
+    QStringList along(const QString& way) {
+        QStringList lines;
+        int count = 0;
+        scene_([&](FakeSarne& run) {
+            settle();
+            QStringList before = general(record(run.window) << told(run) << stale(run.window));
+            for (const QString& word : way.split(u' ', Qt::SkipEmptyParts)) {
+                perform(run, word);
+                settle();
+                const QStringList now = general(record(run.window) << told(run) << stale(run.window));
+                lines << u"%1%2 %3"_s.arg(kStep).arg(++count).arg(word) << changes(before, now);
+                before = now;
+            }
+        });
         return lines;
     }
 
   private:
-    QStringList after(const Act& act) {
+    /// Buttons that Enter does not use as the mouse does, and those to which no arrow leads.
+    QStringList byKeyboard() {
+        QStringList lines, lost;
+        for (const QString& name : pressed_) {
+            const QStringList byMouse = deeds(clicked_.value(name)),
+                              byKey = deeds(after([&](FakeSarne&run) {
+                                  pressKey(run, Qt::Key_Tab);
+                                  if (auto* control = front(run)->findChild<Control*>(name))
+                                      control->setFocus();
+                                  pressKey(run, Qt::Key_Return);
+                              }));
+            if (byMouse == byKey) continue;
+            lines << kStep + u"by mouse alone "_s + name << changes(byKey, byMouse);
+            lines << kStep + u"by key alone "_s + name << changes(byMouse, byKey);
+        }
+        after([&](FakeSarne& run) { lost = outOfReach(run); });
+        return lost.isEmpty() ? lines : lines << kStep + u"no arrow leads to"_s << lost;
+    }
+    /// Of what was recorded what a user has brought about: neither where keyboard and mouse are, nor what is
+    /// said of that, nor how it is painted.
+    static QStringList deeds(const QStringList& recorded) {
+        QStringList all;
+        for (QString line : recorded)
+            if (!line.section(u' ', 0, 0).contains(u'|') && !line.contains(u"FocusFrame") &&
+                !line.startsWith(u"announces "))
+                all << line.remove(u" focus"_s).remove(u" current"_s);
+        return all;
+    }
+
+    QStringList after(const Act& act, bool isSeen = false) {
         QStringList lines;
         scene_([&](FakeSarne& run) {
             settle();
             act(run);
             settle();
-            lines = record(run.window) << told(run) << stale(run.window);
-            looks_ = thumbnail(run.window);
+            lines = general(record(run.window) << told(run) << stale(run.window));
+            if (isSeen) looks_ = thumbnail(run.window);
         });
         return lines;
     }
@@ -325,7 +351,8 @@ class Explorer {
     Stillness still_;
     std::function<void(const Look&)> scene_;
     std::vector<Step> steps_;
-    QStringList opened_;
+    QStringList opened_, pressed_;
+    QHash<QString, QStringList> clicked_;
     QString looks_;
 };
 
@@ -335,15 +362,7 @@ void expectAsKept(const QString& name, const QStringList& lines) {
     const QString file = u"%1/golden/%2.txt"_s.arg(QString::fromUtf8(kFolder), name);
     QStringList kept = QString::fromUtf8(bytesOf(file)).split(u'\n');
     kept.removeLast();
-    QStringList now = lines;
-    static const QRegularExpression madeForTest(QRegularExpression::escape(QDir::tempPath()) + u"/[\\w-]+"_s +
-                                                u"(\\.\\w{6})?"_s);
-    const QDate today = QDate::currentDate();
-    for (QString& line : now) {
-        line.replace(madeForTest, u"TMP"_s).replace(u'\n', u'¶').remove(u'\r');
-        for (const QString& date : {today.toString(Qt::ISODate), today.toString(u"d. M. yyyy"_s)})
-            line.replace(date, u"TODAY"_s);
-    }
+    const QStringList now = general(lines);
     const QStringList differ = differences(kept, now);
     if (!differ.isEmpty() && qEnvironmentVariableIsSet("SARNE_RENEW")) {
         ASSERT_TRUE(write(file, (now.join(u'\n') + u'\n').toUtf8()));
@@ -364,6 +383,10 @@ void expectLooks(const char* name, const std::function<void(const Look&)>& scene
     Explorer explorer(scene);
     const QStringList opened = explorer.opened();
     expectAsKept(QString::fromUtf8(name), opened + explorer.each(true));
+}
+
+void walk(const char* name, const std::function<void(const Look&)>& scene, const char* way) {
+    expectAsKept(QString::fromUtf8(name), Explorer(scene).along(QString::fromUtf8(way)));
 }
 
 }  // namespace sarne::test

@@ -30,6 +30,10 @@ inline void exploreOrLook(bool isExplored, const char* name,
     isExplored ? explore(name, scene) : expectLooks(name, scene);
 }
 
+/// Opens a screen once and goes through it by \a way, words as perform() takes them with blanks between. What
+/// each changes is compared with what is kept as \a name.
+void walk(const char* name, const std::function<void(const Look& look)>& scene, const char* way);
+
 }  // namespace test
 }  // namespace sarne
 

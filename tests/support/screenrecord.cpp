@@ -7,10 +7,12 @@
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScreen>
 #include <cmath>
 
 #include "forms/accessiblecontrol.h"
 #include "forms/control.h"
+#include "forms/fingers.h"
 #include "forms/form.h"
 #include "forms/stage.h"
 #include "support/print.h"
@@ -235,6 +237,15 @@ void addParts(QStringList& lines, const QString& name, const Control& control) {
     }
 }
 
+/// A button that takes no finger as wide and high as it is.
+QString fingerText(const Control* control) {
+    if (!control || !control->isPressable() || !control->isEnabled()) return {};
+    const QSize place = fingerPlace(*control).size();
+    return std::min(place.width(), place.height()) < kFingerTwips / 15
+               ? u" small %1x%2"_s.arg(place.width()).arg(place.height())
+               : QString();
+}
+
 void addWidget(QStringList& lines, const QWidget& widget, const QString& within, const Paper& paper) {
     const QString own = widget.objectName().isEmpty() ? QString::fromLatin1(widget.metaObject()->className())
                                                       : widget.objectName();
@@ -260,7 +271,7 @@ void addWidget(QStringList& lines, const QWidget& widget, const QString& within,
         lines << line.trimmed() + u" hidden"_s;
         return;
     }
-    lines << line.trimmed();
+    lines << line.trimmed() + fingerText(control);
     if (control) addParts(lines, name, *control);
     for (const QString& painted : paper.of(&widget)) lines << name + u"| "_s + painted;
     for (const QObject* child : widget.children())
@@ -278,6 +289,30 @@ QStringList record(Stage& stage) {
         if (const auto* widget = qobject_cast<const QWidget*>(child); widget && widget->isVisible())
             addWidget(lines, *widget, {}, paper);
     return lines;
+}
+
+QStringList stale(Stage& stage) {
+    const QImage now = stage.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QImage shown =
+        stage.screen()->grabWindow(stage.winId()).toImage().convertToFormat(QImage::Format_RGB32);
+    if (shown.size() != now.size()) return {u"stale: nothing is shown"_s};
+    constexpr int kSeen = 24, kFewPixels = 8;
+    QRect where;
+    int count = 0;
+    for (int y = 0; y < now.height(); ++y) {
+        const auto* is = reinterpret_cast<const QRgb*>(shown.constScanLine(y));
+        const auto* be = reinterpret_cast<const QRgb*>(now.constScanLine(y));
+        if (memcmp(is, be, now.width() * sizeof(QRgb)) == 0) continue;
+        for (int x = 0; x < now.width(); ++x) {
+            const int off = std::abs(qRed(is[x]) - qRed(be[x])) + std::abs(qGreen(is[x]) - qGreen(be[x])) +
+                            std::abs(qBlue(is[x]) - qBlue(be[x]));
+            if (off <= kSeen) continue;
+            where |= QRect(x, y, 1, 1);
+            ++count;
+        }
+    }
+    if (count <= kFewPixels) return {};
+    return {u"stale: %1 pixels at "_s.arg(count) + placeText(where)};
 }
 
 }  // namespace sarne::test

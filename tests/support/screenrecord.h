@@ -14,6 +14,9 @@ namespace test {
 /// and shapes, in pixels from its own corner. The same in every build and run.
 QStringList record(Stage& stage);
 
+/// Where the display shows something else than what would be painted now: nobody has said that it changed.
+QStringList stale(Stage& stage);
+
 }  // namespace test
 }  // namespace sarne
 
