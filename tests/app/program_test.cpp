@@ -80,6 +80,8 @@ TEST_F(ProgramTest, FollowsABookThatIsWrittenWhileItRuns) {
     const auto shown = [&] { return qobject_cast<frmRecept*>(program->FormStack.top()); };
     ASSERT_TRUE(QTest::qWaitFor(shown, 5000));
     EXPECT_EQ(shown()->section(), 5);
+    EXPECT_TRUE(program->showEdition(0, 0));
+    EXPECT_EQ(program->FormStack.top(), program->mainScreen());
 }
 
 TEST_F(ProgramTest, TheShowSwitchIsTheWholeCommandLine) {

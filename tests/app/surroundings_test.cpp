@@ -68,6 +68,8 @@ TEST(KeptEyes, WhatTheUserChoosesOutlivesTheRunAndTheDesktopsWishes) {
         EXPECT_TRUE(kept.value(u"Calm"_s).isEmpty()) << "a wish is no choice";
         EXPECT_TRUE(eyes.stepText(1));
         eyes.setContrast(false);
+        EXPECT_EQ(kept.value(u"TextPercent"_s), u"125"_s);
+        EXPECT_EQ(kept.value(u"Contrast"_s), u"0"_s);
     }
     UserFile kept(file);
     Eyes eyes;

@@ -126,6 +126,12 @@ TEST_F(RecordsetTest, ChangesAreStoredAndOnlyThere) {
     EXPECT_TRUE(recipes.Update());
     EXPECT_EQ(recipes.field(u"Vlastni"_s).toString(), u"Víc kmínu"_s);
 
+    recipes.Edit();
+    recipes.setField(u"Vlastni"_s, u"zapomenuto"_s);
+    recipes.Seek(u"="_s, 7);
+    EXPECT_FALSE(recipes.Update()) << "another row is no longer being changed";
+    recipes.MoveFirst();
+
     Recordset menu = db.OpenTable(u"Menu"_s);
     menu.AddNew();
     menu.setField(u"Id"_s, u"11"_s);

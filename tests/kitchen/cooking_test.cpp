@@ -9,9 +9,11 @@
 #include "db/userfile.h"
 #include "kitchen/cooked.h"
 #include "kitchen/cookingpages.h"
+#include "kitchen/cookingrecipe.h"
 #include "kitchen/fishamount.h"
 #include "kitchen/ringwave.h"
 #include "kitchen/steps.h"
+#include "support/kept.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -31,6 +33,33 @@ TEST(PartsThatFit, AreCutBetweenSentencesAndElseBetweenWords) {
               (Parts{s("Krátká."), s("Tahle věta je"), s("moc dlouhá."), s("Konec.")}));
     EXPECT_EQ(parts("Nejnezpracovatelnější", 5), (Parts{s("Nejnezpracovatelnější")}));
     EXPECT_EQ(parts("", 5), (Parts{QString()}));
+}
+
+TEST(CookingRecipe, IsReadWithAllThatCookingNeeds) {
+    QTemporaryDir folder;
+    Database db;
+    ASSERT_TRUE(db.Open(test::writeRecipeDatabase(
+        folder.filePath(u"t.drc"_s),
+        {u"INSERT INTO Recepty (ID, Nazev, Porce) VALUES (7, 'Kapr', 4)"_s,
+         u"INSERT INTO Suroviny (ID, Polozka) VALUES (1, 'kapr'), (2, 'sůl')"_s,
+         u"INSERT INTO Jednotky (ID, Polozka) VALUES (1, 'g')"_s,
+         u"INSERT INTO SpojSur VALUES (7,1,0,1,800,0,0,0), (7,2,0,1,10,0,0,0)"_s,
+         u"INSERT INTO Pomucky (ID, Polozka) VALUES (3, 'pánev')"_s,
+         u"INSERT INTO SpojPomucky VALUES (7,3)"_s,
+         u"INSERT INTO Kroky VALUES (5,7,'Solíme','Rybu osolíme.'), (6,7,'','Pečeme 20 minut.')"_s,
+         u"INSERT INTO KrokySur VALUES (5,0,1), (5,1,0.5)"_s})));
+    QStringList rows;
+    for (const double portions : {0., 6.}) {
+        const CookingRecipe read = readCookingRecipe(db, 7, {portions, UnitSystem::Weights},
+                                                     QLocale(QLocale::Czech, QLocale::CzechRepublic));
+        rows << u"%1 %2, %3"_s.arg(read.id).arg(read.name, read.portionsText()) << read.tools;
+        for (const QString& line : ingredientLines(read.ingredients, UnitSystem::Weights, read.quantities))
+            rows << line;
+        for (const CookingStep& step : read.steps)
+            rows << step.title + u": "_s + step.text << read.needsOf(step).split(u'\n');
+    }
+    test::expectText(u"k-vareni"_s, rows.join(u'\n'));
+    EXPECT_TRUE(readCookingRecipe(db, 8, {}, QLocale()).name.isEmpty());
 }
 
 TEST(CookingPages, BeginWithGettingReadyAndEndWithTheMeal) {
