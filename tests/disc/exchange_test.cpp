@@ -6,6 +6,7 @@
 #include "disc/exchange/jsonld.h"
 #include "disc/exchange/pastedtext.h"
 #include "disc/loadcookbook.h"
+#include "support/kept.h"
 
 namespace sarne::disc {
 namespace {
@@ -51,24 +52,10 @@ TEST(ExchangeTest, FiftyRecipesComeBackAsTheyWent) {
 }
 
 TEST(ExchangeTest, IngredientsAreReadAsPeopleWriteThem) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"250 g hladké mouky", "hladké mouky: 250 g"},
-        {"½ lžičky soli", "soli: 0,5 lžičky"},
-        {"1 ½ hrnky mléka", "mléka: 1,5 hrnky"},
-        {"20 dkg másla", "másla: 200 g"},
-        {"2 PL oleje", "oleje: 2 lžíce"},
-        {"2–3 stroužky česneku", "česneku: 2 stroužky"},
-        {"mouka (hladká)", "mouka, hladká: "},
-        {"3 vejce", "vejce: 3 ks"},
-        {"Špetka soli", "soli: podle chuti"},
-        {"sůl podle chuti", "sůl: podle chuti"},
-        {"1/2 l vývaru", "vývaru: 500 ml"},
-        {"2 cups flour", "flour: 2 hrnky"},
-        {"1,5 kg brambor - varný typ B", "brambor, varný typ B: 1500 g"}};
-    for (const auto& [text, wanted] : cases) {
-        const SharedIngredient read = readIngredientText(QString::fromUtf8(text), kUnits);
-        EXPECT_EQ((read.name + u": "_s + read.amount).toStdString(), wanted);
-    }
+    test::expectCases(u"suroviny"_s, [](const QString& text) {
+        const SharedIngredient read = readIngredientText(text, kUnits);
+        return read.name + u": "_s + read.amount;
+    });
 }
 
 /// A page as they are met: the recipe deep in a graph, sections, texts in the place of lists, entities, a

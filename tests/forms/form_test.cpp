@@ -7,7 +7,6 @@
 
 #include "forms/button.h"
 #include "forms/edit.h"
-#include "forms/label.h"
 #include "forms/picturebox.h"
 #include "support/fakesarne.h"
 
@@ -173,24 +172,6 @@ TEST_F(FormTest, ADrawingSurfaceScrollsNoFurtherThanItsContent) {
     box.scrollTo(50);
     box.Cls();
     EXPECT_EQ(box.scrolled() + box.contentHeight() + box.currentY(), 0);
-}
-
-TEST_F(FormTest, ALabelShowsItsNewText) {
-    auto& label = *new Label(*screen, u"Label1"_s);
-    label.place({600, 600, 3000, 600});
-    screen->showForm();
-    QApplication::processEvents();
-    struct : QObject {
-        int count = 0;
-        bool eventFilter(QObject*, QEvent* event) override {
-            count += event->type() == QEvent::Paint;
-            return false;
-        }
-    } paintings;
-    label.installEventFilter(&paintings);
-    label.setText(u"Kapr"_s);
-    QApplication::processEvents();
-    EXPECT_GT(paintings.count, 0);
 }
 
 }  // namespace

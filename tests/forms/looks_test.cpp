@@ -94,6 +94,7 @@ void texts(Screen& screen) {
     off.setEnabled(false);
     link.setEnabled(false);
     link.setEnabled(true);
+    QObject::connect(&link, &Label::clicked, [&link] { link.setText(u"otevřeno"_s); });
 }
 
 void buttons(Screen& screen) {

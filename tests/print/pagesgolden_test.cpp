@@ -89,12 +89,11 @@ TEST(PrintedPage, StandsToTheTwipWhereItStood) {
         for (int id = 1; id <= 5; ++id) add(Paper(paper), id, {});
     for (size_t section = 0; section < kPrintSections; ++section) {
         PrintOptions one;
-        one.sections.fill(false);
-        add(Paper::A4, 1, one);
-        one.sections[section] = true;
         one.portions = 2.5;
         one.units = UnitSystem::Spoons;
-        add(Paper::A4, 1, one);
+        one.sections.fill(false);
+        one.sections[section] = true;
+        for (const Paper paper : {Paper::A4, Paper::Card}) add(paper, 1, one);
     }
     test::expectText(u"strany"_s, rows.join(u'\n'));
 }
