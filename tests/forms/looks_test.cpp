@@ -84,6 +84,7 @@ void texts(Screen& screen) {
     large.setFont(kSans);
     large.setText(u"nerostu"_s);
     large.setGrows(false);
+    QObject::connect(&link, &Label::clicked, [&large] { large.setText(u"otevřeno"_s); });
     auto& narrow = screen.add<Label>("lblE", {4600, 1200, 0, 0});
     narrow.setText(u"Chcete program  ukončit při 80–85 °C?  "_s);
     narrow.autoSize(1000);
@@ -94,7 +95,6 @@ void texts(Screen& screen) {
     off.setEnabled(false);
     link.setEnabled(false);
     link.setEnabled(true);
-    QObject::connect(&link, &Label::clicked, [&link] { link.setText(u"otevřeno"_s); });
 }
 
 void buttons(Screen& screen) {
