@@ -42,6 +42,13 @@ TEST(Looks, Printing) {
             Print print(toFile);
             look(print.run);
         });
+    test::expectLooks("tisk-prave", [](const Look& look) {
+        Print print(false);
+        print.printer.turning = [&, isFirst = true]() mutable {
+            if (std::exchange(isFirst, false)) look(print.run);
+        };
+        print.run.window.focusForm()->findChild<Control*>(u"Command1"_s)->click();
+    });
     explore("nahled", [](const Look& look) {
         Print print(false);
         print.run.window.focusForm()->findChild<Control*>(u"cmdNahled"_s)->click();

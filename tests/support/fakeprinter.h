@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <functional>
 #include <memory>
 
 #include "platform/printer.h"
@@ -16,6 +17,7 @@ class FakePrinter final : public Printer {
     int pages = 0;
     bool begun = false;
     QString document;
+    std::function<void()> turning = [] {};  ///< called at every new page
 
     QStringList printers() const override { return {QStringLiteral("Zkušební")}; }
     PrinterChoice choice() const override { return choice_; }
@@ -36,6 +38,7 @@ class FakePrinter final : public Printer {
     }
     bool newPage() override {
         ++pages;
+        turning();
         return fails != Fails::NewPage;
     }
     PrintedDocument end(const std::function<void()>&) override {
