@@ -12,6 +12,7 @@
 #include "screens/kitchen/frmnakup.h"
 #include "screens/kitchen/frmvarime.h"
 #include "screens/kitchen/kitchenplates.h"
+#include "support/acts.h"
 #include "support/explore.h"
 
 namespace sarne {
@@ -20,16 +21,36 @@ namespace {
 using test::exploreOrLook;
 using test::Look;
 
+void home(KitchenRun& run) {
+    (new frmDoma(run, run.file()))->Zobraz();
+}
+
+void own(KitchenRun& run) {
+    (new frmKucharka(run, run.file(), {2026, 11, 22}))->Zobraz();
+}
+
+void shop(KitchenRun& run) {
+    ShoppingList list;
+    list.addRecipe(
+        shoppingNeeds(readIngredients(run.database, 5), Goods(run.database), {5, u"Kapr na kmíně"_s, 4}, 4));
+    storeShoppingList(run.file(), list);
+    (new frmNakup(run, run.file(), [](const QString&) { return 1500; }))->Zobraz();
+}
+
+void stove(KitchenRun& run, const Serving& serving) {
+    auto* screen = new frmVarime(run, run.file(), [&run](const QString& name, int seconds) {
+        run.announced << u"timer %1 %2"_s.arg(name).arg(seconds);
+    });
+    screen->Zobraz(5, serving, {2026, 10, 11});
+}
+
 TEST(Looks, AtHome) {
     for (const bool found : {false, true})
         exploreOrLook(found, found ? "doma-nalezeno" : "doma", [=](const Look& look) {
             KitchenRun run;
-            auto* screen = new frmDoma(run, run.file());
-            screen->Zobraz();
-            if (found) {
-                QTest::keyClicks(run.window.focusWidget(), u"kap"_s);
-                press(*screen, Qt::Key_Return);
-            }
+            home(run);
+            if (found)
+                for (const char* act : {"type:kap", "Return"}) test::perform(run, QLatin1String(act));
             look(run);
         });
 }
@@ -61,7 +82,7 @@ TEST(Looks, OwnCookbook) {
                 RecipeMarks(run.file()).setStars(5, u"Kapr na kmíně"_s, 2);
                 keepCooked(run.file(), 6, u"Bez kroků"_s, {2026, 11, 1}, 4);
             }
-            (new frmKucharka(run, run.file(), {2026, 11, 22}))->Zobraz();
+            own(run);
             look(run);
         });
 }
@@ -70,17 +91,12 @@ TEST(Looks, Shopping) {
     for (const bool something : {false, true})
         exploreOrLook(something, something ? "nakup" : "nakup-prazdny", [=](const Look& look) {
             KitchenRun run;
-            ShoppingList list;
-            if (something)
-                list.addRecipe(shoppingNeeds(readIngredients(run.database, 5), Goods(run.database),
-                                             {5, u"Kapr na kmíně"_s, 4}, 4));
-            storeShoppingList(run.file(), list);
-            const QByteArray home = qgetenv("HOME");
+            const QByteArray before = qgetenv("HOME");
             const QTemporaryDir documents;
             qputenv("HOME", documents.path().toUtf8());
-            (new frmNakup(run, run.file(), [](const QString&) { return 1500; }))->Zobraz();
+            something ? shop(run) : (new frmNakup(run, run.file(), {}))->Zobraz();
             look(run);
-            qputenv("HOME", home);
+            qputenv("HOME", before);
         });
 }
 
@@ -88,11 +104,8 @@ TEST(Looks, AtTheStove) {
     for (const int page : {0, 1, 2, 4})
         exploreOrLook(page != 2, qPrintable(u"varime-%1"_s.arg(page)), [=](const Look& look) {
             KitchenRun run;
-            auto* screen = new frmVarime(run, run.file(), [&run](const QString& name, int seconds) {
-                run.announced << u"timer %1 %2"_s.arg(name).arg(seconds);
-            });
-            screen->Zobraz(5, {4, UnitSystem::Weights}, {2026, 10, 11});
-            for (int turned = 0; turned < page; ++turned) press(*screen, Qt::Key_PageDown);
+            stove(run, {4, UnitSystem::Weights});
+            for (int turned = 0; turned < page; ++turned) test::perform(run, u"PgDown"_s);
             look(run);
         });
 }
@@ -110,6 +123,47 @@ TEST(Looks, Timers) {
         plates.say(u"Kapr na kmíně je na seznamu"_s, {});
         look(run);
     });
+}
+
+TEST(Looks, InUse) {
+    const auto weights = [](KitchenRun& run) { stove(run, {4, UnitSystem::Weights}); };
+    const auto spoons = [](KitchenRun& run) { stove(run, {6, UnitSystem::Spoons}); };
+    const auto starred = [](KitchenRun& run) {
+        RecipeMarks(run.file()).setStars(5, u"Kapr na kmíně"_s, 2);
+        RecipeMarks(run.file()).setStars(6, u"Bez kroků"_s, 1);
+        own(run);
+    };
+    const auto cooked = [](KitchenRun& run) {
+        for (const int month : {11, 10}) keepCooked(run.file(), 6, u"Bez kroků"_s, {2026, month, 1}, 4);
+        own(run);
+    };
+    const struct {
+        const char* name;
+        std::function<void(KitchenRun&)> open;
+        const char* way;
+    } ways[] = {
+        {"doma-klavesami", home,
+         "type:KAP Return type:kap Return type:mas Return Tab Return Tab Down F3 Return"},
+        {"doma-bez", home,
+         "type:kapr Return Delete click:picSuroviny.1 click:cmdAkce(0) click:cmdAkce(4) click:cmdAkce(4) "
+         "click:cmdAkce(6) click:cmdAkce(7)"},
+        {"kucharka-klavesami", starred, "Down 5 Up 0 Space Return F3"},
+        {"kucharka-uvareno", cooked, "click:cmdPolice(0) Return"},
+        {"nakup-klavesami", shop, "Return Down click:picSeznam.3 Ctrl+Z End Space Delete"},
+        {"nakup-vlastni", shop,
+         "Delete click:txtVlastni type:houska Return click:cmdAkce(3) click:cmdAkce(3)"},
+        {"varime-klavesami", weights,
+         "Space Return Space Right PgDown Right Backspace Left Up Down click:imgPapir"},
+        {"varime-po-lzicich", spoons, "1 Return 1 2 Space Space Backspace Backspace click:cmdCas(0)"}};
+    for (const auto& one : ways)
+        test::walk(
+            one.name,
+            [&](const Look& look) {
+                KitchenRun run;
+                one.open(run);
+                look(run);
+            },
+            one.way);
 }
 
 }  // namespace
