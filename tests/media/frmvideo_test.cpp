@@ -25,29 +25,6 @@ class VideoTest : public MediaFixture {
     frmVideo* form = nullptr;
 };
 
-TEST_F(VideoTest, PlaysAndGivesTheMusicBack) {
-    playMusic();
-    open();
-    EXPECT_EQ(status(), u"Chvilku prosím počkejte, otevírám soubor s videem...."_s);
-    EXPECT_FALSE(run.player.playing());
-    EXPECT_TRUE(player->commands.isEmpty()) << "the form shows before the file is opened";
-    start();
-    EXPECT_EQ(player->commands, (QStringList{u"open "_s + path("VIDEO/3.AVI"), u"play"_s}));
-    EXPECT_EQ(status(), u"Přehrávám"_s);
-    EXPECT_EQ(button(1)->frame(), Button::Frame::Pressed);
-    EXPECT_EQ(run.awake.size(), 1);
-    player->end();
-    EXPECT_EQ(status(), u"Přehrávání skončeno"_s);
-    EXPECT_EQ(button(1)->frame(), Button::Frame::Raised);
-    click(1);
-    EXPECT_TRUE(player->playing()) << "a clip that has ended plays again";
-    press(Qt::Key_Escape);
-    EXPECT_EQ(player->commands.mid(player->commands.size() - 2), (QStringList{u"stop"_s, u"close"_s}));
-    EXPECT_TRUE(run.player.playing());
-    EXPECT_EQ(run.awake.last(), QString());
-    EXPECT_EQ(run.FormStack.top(), below);
-}
-
 TEST_F(VideoTest, TheTitleStandsThereAsTheMenuHasIt) {
     for (const char* row :
          {"('181', 'Jak rybu obalit', '13')", "('182', 'Jak vykrojit filety', '3')", "('53', 'Pečeně', '3')"})
@@ -77,65 +54,10 @@ TEST_F(VideoTest, TheKnobStaysWithinTheBar) {
     EXPECT_EQ(bar->positionAt(bar->twips().width() - 90), 60000);
 }
 
-TEST_F(VideoTest, TransportButtons) {
-    open();
-    start();
-    click(3);
-    EXPECT_EQ(player->mode(), MediaMode::Paused);
-    EXPECT_EQ(button(3)->frame(), Button::Frame::Pressed);
-    press(Qt::Key_Space);
-    EXPECT_EQ(player->mode(), MediaMode::Playing) << "pause pressed again plays on";
-    EXPECT_EQ(button(3)->frame(), Button::Frame::Raised);
-    click(3);
-    click(2);
-    EXPECT_EQ(button(3)->frame(), Button::Frame::Raised) << "stopped is not paused";
-    EXPECT_EQ(player->mode(), MediaMode::Stopped);
-    player->commands.clear();
-    click(3);
-    EXPECT_EQ(player->commands, QStringList{u"pause"_s}) << "a stopped clip stays so";
-    EXPECT_EQ(player->mode(), MediaMode::Stopped);
-    player->commands.clear();
-    for (const int i : {4, 5, 1}) click(i);
-    EXPECT_EQ(player->commands, (QStringList{u"prev"_s, u"next"_s, u"prev"_s, u"play"_s}));
-    player->setPosition(20000);
-    press(Qt::Key_Left);
-    EXPECT_EQ(player->position(), 15000);
-    press(Qt::Key_Right);
-    press(Qt::Key_Right);
-    EXPECT_EQ(player->position(), 25000);
-    press(Qt::Key_J);
-    EXPECT_EQ(player->position(), 0) << "without chapters the film is one part";
-    for (const char* step : {"imgKapitola(0)", "imgKapitola(2)"})
-        EXPECT_FALSE(child<Button>(*form, step)->isEnabled()) << step;
-    auto* bar = form->findChild<SeekBar*>();
-    bar->show(0, 60000);
-    QTest::mouseClick(bar, Qt::LeftButton, {}, {bar->width() / 2, bar->height() / 2});
-    EXPECT_NEAR(double(player->position()), 30000, 200);
-    QTest::mouseClick(bar, Qt::RightButton, {}, {bar->width() / 4, bar->height() / 2});
-    EXPECT_NEAR(double(player->position()), 30000, 200) << "the right button is no seek";
-}
-
-TEST_F(VideoTest, StepsByChapter) {
+TEST_F(VideoTest, MarksLeadToTheirChapters) {
     ASSERT_TRUE(test::write(path("VIDEO/3.kap"), "0\tPříprava\n10.5\tŘez\n40\tKonec díla\n"));
     open();
     start();
-    const auto title = [&] { return child<Label>(*form, "lblKapitola")->text(); };
-    const auto chapter = [&](int i) { return child<Button>(*form, qPrintable(u"imgKapitola(%1)"_s.arg(i))); };
-    press(Qt::Key_PageDown);
-    EXPECT_EQ(player->position(), 10500);
-    EXPECT_EQ(title(), u"Řez"_s);
-    QTest::mouseClick(chapter(2), Qt::LeftButton);
-    EXPECT_EQ(player->position(), 40000);
-    press(Qt::Key_PageUp);
-    EXPECT_EQ(player->position(), 10500);
-    QTest::mouseClick(chapter(0), Qt::LeftButton);
-    EXPECT_EQ(player->position(), 0);
-    EXPECT_EQ(title(), u"Příprava"_s);
-    EXPECT_TRUE(player->playing());
-
-    player->setPosition(30000);
-    QTest::mouseClick(chapter(1), Qt::LeftButton);
-    EXPECT_EQ(player->position(), 10500) << "the chapter that is on";
     player->end();
     press(Qt::Key_J);
     EXPECT_EQ(player->position(), 40000) << "at the end, the last one";
@@ -152,20 +74,8 @@ TEST_F(VideoTest, StepsByChapter) {
     EXPECT_EQ(bar->toolTip(), u"Konec díla"_s);
     QTest::mouseClick(bar, Qt::LeftButton, {}, markAt(10500) + QPoint(1, 0));
     EXPECT_EQ(player->position(), 10500) << "a mark leads to its chapter's beginning";
-}
-
-TEST_F(VideoTest, PlaysSlowlyAndAsBefore) {
-    open();
-    press(Qt::Key_J);  // before anything is open
-    EXPECT_TRUE(player->commands.isEmpty());
-    start();
-    auto* slow = child<Button>(*form, "imgKapitola(3)");
-    QTest::mouseClick(slow, Qt::LeftButton);
-    EXPECT_EQ(player->speed, .5);
-    EXPECT_EQ(slow->frame(), Button::Frame::Pressed);
-    press(Qt::Key_P);
-    EXPECT_EQ(player->speed, 1);
-    EXPECT_EQ(slow->frame(), Button::Frame::Raised);
+    QTest::mouseClick(bar, Qt::RightButton, {}, {bar->width() / 4, bar->height() / 2});
+    EXPECT_EQ(player->position(), 10500) << "the right button is no seek";
 }
 
 TEST_F(VideoTest, SoundIsKeptForTheNextClip) {
@@ -177,6 +87,7 @@ TEST_F(VideoTest, SoundIsKeptForTheNextClip) {
     EXPECT_EQ(player->sound, MediaSound::Silent);
     EXPECT_EQ(button(0)->toolTip(), u"Zapnout zvuk"_s);
     press(Qt::Key_Escape);
+    EXPECT_EQ(player->commands.mid(player->commands.size() - 2), (QStringList{u"stop"_s, u"close"_s}));
     open();
     start();
     EXPECT_EQ(player->sound, MediaSound::Silent);
@@ -211,24 +122,6 @@ TEST_F(VideoTest, WhatCannotBePlayedIsReportedAndTheScreenCloses) {
     form->Zobraz(99);
     start();
     EXPECT_EQ(run.FormStack.top(), below) << "no player, no video";
-}
-
-TEST_F(VideoTest, TheVideoFillsTheScreenAndBack) {
-    open();
-    start();
-    auto* area = form->findChild<VideoArea*>();
-    const QRect place = area->twips();
-    QTest::mouseDClick(area, Qt::LeftButton);
-    EXPECT_EQ(area->twips(), QRect(0, 0, 12000, 9000));
-    press(Qt::Key_Escape);
-    EXPECT_EQ(area->twips(), place);
-    press(Qt::Key_Return);
-    EXPECT_EQ(area->twips().width(), 12000);
-    press(Qt::Key_Return);
-    EXPECT_EQ(area->twips(), place);
-    press(Qt::Key_Tab);
-    press(Qt::Key_Return);
-    EXPECT_EQ(player->mode(), MediaMode::Paused) << "a button that shows the focus is pressed";
 }
 
 TEST_F(VideoTest, LeavingBeforeTheFileIsOpenOpensNothing) {

@@ -79,12 +79,13 @@ TEST(Looks, MainScreenInUse) {
          "click:imgClick(2) click:lblOdkaz(1) click:lblOdkaz(2) click:^^lblOdkaz(2) hover:^lblOdkaz(1) "
          "tick click:10,500"},
         {"menu-spocinutim",
-         "click:imgClick(2) Down hover:lblOdkaz(1) tick Escape hover:lblOdkaz(1) tick Left hover:352,497 "
+         "click:imgClick(2) hover:lblOdkaz(1) hover:352,497 tick Down Down hover:lblOdkaz(1) tick Escape "
+         "hover:lblOdkaz(1) tick Left hover:352,497 "
          "tick "
          "hover:lblOdkaz(1) tick Left click:lblOdkaz(2) hover:lblOdkaz(1) tick"},
         {"menu-klavesami",
          "click:imgClick(2) Down Right Right Down Down Left Escape type:p Return Down Return"},
-        {"menu-pismeny", "click:imgClick(2) type:k type:a type:p Alt+F4 Alt+X X type:c"},
+        {"menu-pismeny", "click:imgClick(2) type:k type:a type:p type:p Alt+F4 Alt+X X type:c"},
         {"menu-pod-napovedou", "click:imgClick(2) Down Right F1 over pop Escape Escape"}};
     for (const auto& one : ways)
         walk(

@@ -89,7 +89,7 @@ QStringList told(const FakeSarne& run) {
                    (effect.startsWith("RIFF") ? u"%1 bytes"_s.arg(effect.size()) : QString::fromUtf8(effect));
     all << QStringList(run.beeps, u"beeps"_s) << QStringList(run.exits, u"exits"_s)
         << handedOver(run.recorded);
-    return all;
+    return alsoTold ? all + alsoTold() : all;
 }
 
 /// \a lines without what is another one in every run: today's date, folders made for the test.
@@ -254,7 +254,10 @@ class Explorer {
     explicit Explorer(std::function<void(const Look&)> scene) : scene_(std::move(scene)) {
         FakeSarne::resourceFolder = resourceFolder();
     }
-    ~Explorer() { FakeSarne::resourceFolder = u":/none/"_s; }
+    ~Explorer() {
+        FakeSarne::resourceFolder = u":/none/"_s;
+        alsoTold = {};
+    }
     Explorer(const Explorer&) = delete;
     Explorer& operator=(const Explorer&) = delete;
 
@@ -331,7 +334,7 @@ class Explorer {
         QStringList all;
         for (QString line : recorded)
             if (!line.section(u' ', 0, 0).contains(u'|') && !line.contains(u"FocusFrame") &&
-                !line.startsWith(u"announces "))
+                !line.startsWith(u"namePlate") && !line.startsWith(u"announces "))
                 all << line.remove(u" focus"_s).remove(u" current"_s);
         return all;
     }

@@ -16,6 +16,9 @@ void expectAsKept(const QString& name, const QStringList& lines);
 /// Called by a scene once its screen stands there.
 using Look = std::function<void(FakeSarne& run)>;
 
+/// What else than the run is told something by the screen that shows; gone with the scene.
+inline std::function<QStringList()> alsoTold;
+
 /// Opens a screen again and again by \a scene, which begins each time from nothing, and does one thing with
 /// it each time: every control by the mouse, every key, the wheel, larger letters, contrast, a wide display.
 /// What that changes of all that can be noticed is compared with what is kept as \a name; what the display
