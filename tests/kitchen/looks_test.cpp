@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "db/recipemarks.h"
 #include "kitchen/cooked.h"
 #include "kitchen/goods.h"

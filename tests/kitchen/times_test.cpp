@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "core/czech.h"
 #include "kitchen/foundtimes.h"
 #include "kitchen/timers.h"

@@ -6,10 +6,12 @@
 
 #include "platform/drives.h"
 #include "platform/endsignals.h"
+#include "platform/multimediacontrol.h"
 #include "platform/settingsstore.h"
 #include "platform/singleinstance.h"
 #include "support/fakesettings.h"
 #include "support/files.h"
+#include "support/kept.h"
 #include "testmedia.h"
 
 namespace sarne {
@@ -130,6 +132,17 @@ TEST(SingleInstanceTest, TheSecondIsRefusedUntilTheFirstEnds) {
     }
     EXPECT_TRUE(SingleInstance(lock).isFirst());
     EXPECT_TRUE(SingleInstance(u"/proc/none/lock"_s).isFirst());
+}
+
+TEST(Names, StayAsTheyAre) {
+    test::expectCases(u"chyby"_s, [](const QString& code) {
+        return mediaErrorText(static_cast<MediaError>(code.toInt()));
+    });
+    qputenv("VELISA_SARN_NASTAVENI", "/dnes.conf");
+    EXPECT_EQ(SystemSettingsStore::sessionFile(), u"/dnes.conf"_s);
+    qunsetenv("VELISA_SARN_NASTAVENI");
+    EXPECT_TRUE(SystemSettingsStore::defaultLevels().last().endsWith(u"/nastaveni"_s));
+    EXPECT_TRUE(SingleInstance::defaultLockFile().endsWith(u"/sarne.lock"_s));
 }
 
 }  // namespace
