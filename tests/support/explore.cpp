@@ -196,6 +196,7 @@ std::vector<Step> stepsOn(const FakeSarne& run) {
         {u"keys Alt+F4"_s, [](FakeSarne& on) { pressKey(on, Qt::Key_F4, Qt::AltModifier); }, true});
     steps.push_back(
         {u"keys Ctrl+Z"_s, [](FakeSarne& on) { pressKey(on, Qt::Key_Z, Qt::ControlModifier); }, true});
+    steps.push_back({u"all timers"_s, [](FakeSarne& on) { perform(on, u"tick"_s); }});
     steps.push_back({u"wheel"_s, [](FakeSarne& on) {
                          if (front(on)) wheel(*front(on), -120);
                      }});
