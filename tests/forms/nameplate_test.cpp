@@ -59,6 +59,7 @@ class NamePlateTest : public testing::Test {
 };
 
 TEST_F(NamePlateTest, ComesWhenThePointerRestsAndGoesWhenItLeaves) {
+    moveTo(nameless);  // a pointer that rests where a test before has left it names nothing
     moveTo(first);
     EXPECT_EQ(plate().text(), QString()) << "not at once";
     EXPECT_GT(plate().findChild<Timer*>()->interval(), 200);
