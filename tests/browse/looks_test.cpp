@@ -79,6 +79,7 @@ TEST(Looks, ListInUse) {
          "click:imgSipky(1) click:imgSipky(2)"},
         {"seznam-vina", "1,", "recepty",
          "INSERT INTO SpojVino VALUES (1, 1);INSERT INTO SpojVino VALUES (1, 2);"
+         "INSERT INTO SpojVino VALUES (1, 1);INSERT INTO SpojVino VALUES (1, 2);"
          "INSERT INTO SpojVino VALUES (1, 1);INSERT INTO SpojVino VALUES (1, 2)",
          "click:lblSeznam(1) click:imgBtn(1)"},
         {"seznam-predany", "7,9,11,", "recepty", "",

@@ -154,6 +154,18 @@ TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
     EXPECT_FALSE(moves()) << "another program has the keyboard";
 }
 
+TEST_F(MainScreenTest, LightAndThingsGoOutForWhoeverActs) {
+    start();
+    Timer* light = main->findChildren<Timer*>().at(1);
+    main->showThings();
+    EXPECT_TRUE(light->isEnabled());
+    press(Qt::Key_Right);
+    EXPECT_FALSE(light->isEnabled());
+    QTest::mouseClick(button(3), Qt::LeftButton);
+    main->SkryjMenu();
+    EXPECT_EQ(main->currentButton(), -5);
+}
+
 TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {
     start();
     moveOver(2);
