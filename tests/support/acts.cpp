@@ -5,7 +5,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QTest>
-#include <ranges>
+#include <algorithm>
 
 #include "forms/control.h"
 #include "forms/timer.h"
@@ -14,10 +14,11 @@
 namespace sarne::test {
 namespace {
 
+/// The highest first.
 std::vector<Form*> showing(const FakeSarne& run) {
     std::vector<Form*> forms;
     for (QObject* child : run.window.children())
-        if (auto* one = qobject_cast<Form*>(child); one && one->isVisible()) forms.push_back(one);
+        if (auto* one = qobject_cast<Form*>(child); one && one->isVisible()) forms.insert(forms.begin(), one);
     return forms;
 }
 
@@ -36,7 +37,7 @@ void useMouse(const FakeSarne& run, const QString& place, bool clicks, bool twic
     }
     qsizetype below = place.count(u'^');
     const QString name = place.section(u'.', 0, 0).remove(u'^');
-    for (Form* form : showing(run) | std::views::reverse) {
+    for (Form* form : showing(run)) {
         auto* control = form->findChild<Control*>(name);
         if (!control || !control->isVisible() || below-- > 0) continue;
         const QPoint middle = place.contains(u'.')
@@ -72,7 +73,7 @@ void settle() {
 
 Form* front(const FakeSarne& run) {
     const auto forms = showing(run);
-    return forms.empty() ? nullptr : forms.back();
+    return forms.empty() ? nullptr : forms.front();
 }
 
 void pressKey(FakeSarne& run, Qt::Key key, Qt::KeyboardModifiers modifiers) {
