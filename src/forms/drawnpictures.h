@@ -8,7 +8,7 @@ namespace sarne {
 
 /// The pictures as they were drawn last, each in its sizes, so that drawing them again is quick. They share
 /// one room: what was not drawn for the longest time makes way, so what is kept does not grow with what was
-/// seen.
+/// seen. They belong to the thread that paints: what another thread decodes is handed over to it as an image.
 class DrawnPictures {
   public:
     static DrawnPictures& shared();

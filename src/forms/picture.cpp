@@ -126,10 +126,6 @@ void Picture::drawExactly(QPainter& painter, const QRectF& place) const {
     if (!own.isNull()) painter.drawPixmap(place, own, QRectF(QPointF(), own.size()));
 }
 
-void Picture::prepare(QSize pixels) const {
-    if (source_ && !pixels.isEmpty()) source_->at(pixels);
-}
-
 QImage Picture::image() const {
     return source_ ? source_->decode({}) : QImage();
 }

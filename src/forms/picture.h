@@ -37,8 +37,6 @@ class Picture {
     /// Draws the picture's own pixels into exactly \a place, which may begin and end within a pixel: for a
     /// picture that continues another one below it. draw() is sharper, and takes whole pixels.
     void drawExactly(QPainter& painter, const QRectF& place) const;
-    /// Decodes for \a pixels now, so that drawing at that size is quick.
-    void prepare(QSize pixels) const;
     QImage image() const;
     /// The picture in exactly \a pixels, decoded for this once and not kept. Null when it is broken.
     QImage scaled(QSize pixels) const;
