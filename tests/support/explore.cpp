@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QDate>
+#include <QGuiApplication>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
@@ -14,7 +16,7 @@
 #include "support/kept.h"
 #include "support/pictures.h"
 #include "support/screenrecord.h"
-#include "support/wheel.h"
+#include "support/steps.h"
 #include "tour/looks.h"
 
 namespace sarne::test {
@@ -89,6 +91,8 @@ QStringList told(const FakeSarne& run) {
                    (effect.startsWith("RIFF") ? u"%1 bytes"_s.arg(effect.size()) : QString::fromUtf8(effect));
     all << QStringList(run.beeps, u"beeps"_s) << QStringList(run.exits, u"exits"_s)
         << handedOver(run.recorded);
+    if (const QString copied = QGuiApplication::clipboard()->text(); !copied.isEmpty())
+        all << u"clipboard "_s + copied.simplified();
     return alsoTold ? all + alsoTold() : all;
 }
 
@@ -119,92 +123,6 @@ QStringList changes(QStringList before, const QStringList& now) {
         if (isWidget && wasThere && !isThere(name)) lines << u"- "_s + name;
     }
     return lines;
-}
-
-using Act = std::function<void(FakeSarne&)>;
-
-struct Step {
-    QString name;
-    Act act;
-    bool byKey = false, isForEyes = false;
-    QString presses = {};  // the control in whose middle it clicks
-};
-
-/// Steps that use \a control: its middle, and the first things within it.
-void addClicks(std::vector<Step>& steps, const Control& control) {
-    const QString name = control.objectName();
-    std::vector<QPoint> places{QRect({}, control.twips().size()).center()};
-    for (int i = 0, found = 0; i < control.partCount() && found < 3; ++i)
-        if (const QRect place = control.part(i).place; !place.isEmpty() && ++found)
-            places.push_back(place.center());
-    for (const QPoint place : places) {
-        const QString step = u"%1 at %2,%3"_s.arg(name).arg(place.x()).arg(place.y());
-        steps.push_back({u"click "_s + step,
-                         [=](FakeSarne& run) { click(run, front(run), name, place, false); }, false, false,
-                         place == places[0] ? name : QString()});
-        if (places.size() > 1 || name.startsWith(u"lbl"))
-            steps.push_back(
-                {u"double "_s + step, [=](FakeSarne& run) { click(run, front(run), name, place, true); }});
-    }
-}
-
-/// The number of one of several alike: "imgFoto(1)"; 0 of one that stands alone.
-int numberOf(const QString& name) {
-    return name.section(u'(', 1).section(u')', 0, 0).toInt();
-}
-
-/// Of many alike the first three and the last.
-bool isOneOfMany(const Form& form, const QString& name) {
-    const QString stem = name.section(u'(', 0, 0) + u'(';
-    const int number = numberOf(name);
-    constexpr int kFew = 10;
-    int last = 0;
-    for (const auto* control : form.findChildren<Control*>())
-        if (control->isVisible() && control->objectName().startsWith(stem))
-            last = std::max(last, numberOf(control->objectName()));
-    return name.contains(u'(') && last >= kFew && number > 2 && number < last;
-}
-
-std::vector<Step> stepsOn(const FakeSarne& run) {
-    std::vector<Step> steps;
-    const Form* form = front(run);
-    if (!form) return steps;
-    for (const auto* control : form->findChildren<Control*>()) {
-        if (!control->isVisible() || !control->isEnabled() || control->size().isEmpty()) continue;
-        if (!control->testAttribute(Qt::WA_TransparentForMouseEvents) &&
-            !isOneOfMany(*form, control->objectName()))
-            addClicks(steps, *control);
-    }
-    const auto keys = {Qt::Key_Down,   Qt::Key_Up,       Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Home,
-                       Qt::Key_End,    Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Tab,    Qt::Key_Backtab,
-                       Qt::Key_Return, Qt::Key_Space,    Qt::Key_Escape, Qt::Key_Delete, Qt::Key_Backspace,
-                       Qt::Key_F1,     Qt::Key_F2,       Qt::Key_F3,     Qt::Key_F4,     Qt::Key_F5,
-                       Qt::Key_F6,     Qt::Key_F7,       Qt::Key_F8,     Qt::Key_F9,     Qt::Key_F10,
-                       Qt::Key_0,      Qt::Key_3,        Qt::Key_A,      Qt::Key_C,      Qt::Key_K,
-                       Qt::Key_N,      Qt::Key_S,        Qt::Key_X,      Qt::Key_Plus,   Qt::Key_Minus};
-    for (const Qt::Key key : keys)
-        steps.push_back(
-            {u"key "_s + QKeySequence(key).toString(), [=](FakeSarne& on) { pressKey(on, key); }, true});
-    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Tab})
-        steps.push_back({u"keys %1, Enter"_s.arg(QKeySequence(key).toString()),
-                         [=](FakeSarne& on) {
-                             pressKey(on, key);
-                             pressKey(on, Qt::Key_Return);
-                         },
-                         true});
-    steps.push_back(
-        {u"keys Alt+F4"_s, [](FakeSarne& on) { pressKey(on, Qt::Key_F4, Qt::AltModifier); }, true});
-    steps.push_back(
-        {u"keys Ctrl+Z"_s, [](FakeSarne& on) { pressKey(on, Qt::Key_Z, Qt::ControlModifier); }, true});
-    steps.push_back({u"all timers"_s, [](FakeSarne& on) { perform(on, u"tick"_s); }});
-    steps.push_back({u"wheel"_s, [](FakeSarne& on) {
-                         if (front(on)) wheel(*front(on), -120);
-                     }});
-    steps.push_back(
-        {u"letters of 150 %"_s, [](FakeSarne& on) { on.window.eyes().setTextPercent(150); }, false, true});
-    steps.push_back({u"contrast"_s, [](FakeSarne& on) { on.window.eyes().setContrast(true); }, false, true});
-    steps.push_back({u"wide"_s, [](FakeSarne& on) { on.window.resize(1200, 600); }, false, true});
-    return steps;
 }
 
 QStringList numbered(const QStringList& lines, bool missing) {
@@ -296,6 +214,7 @@ class Explorer {
     QStringList along(const QString& way) {
         QStringList lines;
         int count = 0;
+        QGuiApplication::clipboard()->clear();
         scene_([&](FakeSarne& run) {
             settle();
             QStringList before = general(record(run.window) << told(run) << stale(run.window));
@@ -342,6 +261,7 @@ class Explorer {
 
     QStringList after(const Act& act, bool isSeen = false) {
         QStringList lines;
+        QGuiApplication::clipboard()->clear();
         scene_([&](FakeSarne& run) {
             settle();
             act(run);

@@ -68,6 +68,7 @@ class Writer final : public QPaintEngine {
         opacity_ = now.opacity();
         transform_ = now.transform();
         hints_ = now.renderHints();
+        mode_ = now.compositionMode();
     }
     void drawPath(const QPainterPath& path) override { shape(smooth("shape"), path.boundingRect()); }
     void drawPolygon(const QPointF* points, int count, PolygonDrawMode) override {
@@ -108,7 +109,11 @@ class Writer final : public QPaintEngine {
     }
 
   private:
-    QString opacityText() const { return opacity_ == 1 ? QString() : u" %1%"_s.arg(qRound(100 * opacity_)); }
+    /// How it is mixed with what is there already, where it does not simply cover it.
+    QString opacityText() const {
+        return (opacity_ == 1 ? QString() : u" %1%"_s.arg(qRound(100 * opacity_))) +
+               (mode_ == QPainter::CompositionMode_SourceOver ? QString() : u" mode %1"_s.arg(mode_));
+    }
     /// Round edges have none of the steps that a \a kind drawn without smoothing has.
     QString smooth(const char* kind) const {
         return hints_ & QPainter::Antialiasing ? QLatin1String(kind) : u"stepped "_s + QLatin1String(kind);
@@ -151,6 +156,7 @@ class Writer final : public QPaintEngine {
     double opacity_ = 1;
     QTransform transform_;
     QPainter::RenderHints hints_;
+    QPainter::CompositionMode mode_ = QPainter::CompositionMode_SourceOver;
     QString last_;  // how the last thing looks
     QRectF all_;    // the place of those alike
     int count_ = 0;
@@ -267,6 +273,7 @@ void addWidget(QStringList& lines, const QWidget& widget, const QString& within,
         line += control && control->isUnheard()
                     ? u" unheard"_s
                     : u" role %1 %2%3"_s.arg(heard->role()).arg(said(*heard), stateText(heard->state()));
+    if (!twips && !widget.accessibleName().isEmpty()) line += u" called '%1'"_s.arg(widget.accessibleName());
     if (!widget.isVisible()) {
         lines << line.trimmed() + u" hidden"_s;
         return;

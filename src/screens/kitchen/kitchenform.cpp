@@ -139,7 +139,8 @@ void KitchenForm::goBack() {
 }
 
 void KitchenForm::showNeighbour(int index) {
-    (app().screens().*kNeighbours[index].show)();
+    const auto show = kNeighbours[index].show;
+    (app().screens().*show)();
 }
 
 void KitchenForm::paintGround(QPainter& painter) {
