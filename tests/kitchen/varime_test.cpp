@@ -62,6 +62,12 @@ TEST_F(VarimeTest, AtTheEndALineGoesBelowTheNoteAndStarsAreGiven) {
     EXPECT_EQ(cookedDays(run_.file(), 5).size(), 1u);
     // What was typed and not confirmed is not lost either.
     child<Edit>(screen, "txtPoznamka")->setText(u"a máslo"_s);
+    EXPECT_TRUE(screen.readyToEnd());
+    EXPECT_TRUE(note().endsWith(u": a máslo"_s));
+    child<Edit>(screen, "txtPoznamka")->setText(u"a sůl"_s);
+    screen.keepUnsaved();
+    EXPECT_TRUE(note().endsWith(u": a sůl"_s));
+    child<Edit>(screen, "txtPoznamka")->setText(u"a máslo"_s);
     child<StarRow>(screen, "picHvezdy")->setFocus();
     press(screen, Qt::Key_4);
     press(screen, Qt::Key_Escape);

@@ -84,6 +84,7 @@ TEST(Looks, InUse) {
          "click:imgPrepocet(6) click:imgPrepocet(6) click:imgPrepocet(2) click:imgPrepocet(10) answer:100 "
          "click:imgPrepocet(10) click:imgKgLzice answer:0 click:imgPrepocet(10) answer:3 "
          "click:imgPrepocet(10) answer:0 click:imgPrepocet(10)"},
+        {"porce-podle-ryby", 5, 5, "answer:500 click:cmdRyba answer:0 click:cmdRyba"},
         {"porce-klavesami", 5, 5,
          "Right Right Right Return Left Left Left Left Right Return Left Right Down Tab Right"},
         {"poznamka-klavesami", 5, 7,

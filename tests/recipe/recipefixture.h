@@ -33,6 +33,8 @@ inline QStringList testRecipes() {
         u"INSERT INTO SpojSur VALUES (5,2,0,1,50,2,2,4)"_s,
         u"INSERT INTO SpojSur VALUES (5,99,0,99,12.5,2,0.05,0)"_s,
         u"INSERT INTO SpojSur VALUES (5,3,0,0,0,0,NULL,0)"_s,
+        u"INSERT INTO Vyteznost VALUES (1,45)"_s,
+        u"INSERT INTO Fakta (ID, Ryba) VALUES (5,0)"_s,
         u"INSERT INTO SpojPomucky VALUES (5,1),(5,2),(5,3),(5,4)"_s,
         u"INSERT INTO SpojOdkazy VALUES (5,1),(5,2),(7,3)"_s,
     };
