@@ -34,7 +34,7 @@ class AuthorTest : public testing::Test {
         checkDisc(project(), problems);
         QStringList all;
         for (const Problem& problem : problems.all()) {
-            const Spot spot = spotOf(project().content, problem);
+            const ProblemSpot spot = spotOf(project().content, problem);
             if (problem.isError || (isAll && problem.place.line > 0))
                 all << u"%1:%2:%3 %4"_s.arg(spot.place.file)
                            .arg(spot.place.line)

@@ -117,7 +117,7 @@ qsizetype columnOf(const QString& line, const QString& words) {
 }
 
 /// Moves \a spot to the first of \a wanted that its line has, or that a later one of its paragraph has.
-bool lookIn(const QStringList& lines, const QStringList& wanted, Spot& spot) {
+bool lookIn(const QStringList& lines, const QStringList& wanted, ProblemSpot& spot) {
     for (int i = spot.place.line - 1; i < lines.size() && i < spot.place.line + kParagraph; ++i) {
         if (i > spot.place.line - 1 && lines[i].trimmed().isEmpty()) return false;
         for (const QString& words : wanted)
@@ -130,14 +130,14 @@ bool lookIn(const QStringList& lines, const QStringList& wanted, Spot& spot) {
 }
 
 /// "soubor:řádek:sloupec: "; what concerns a whole file has only its name.
-QString locationOf(const Spot& spot) {
+QString locationOf(const ProblemSpot& spot) {
     return spot.place.line < 1
                ? spot.place.file + QStringLiteral(": ")
                : QStringLiteral("%1:%2:%3: ").arg(spot.place.file).arg(spot.place.line).arg(spot.column);
 }
 
 void tell(const QString& root, const Problem& problem) {
-    const Spot spot = spotOf(root, problem);
+    const ProblemSpot spot = spotOf(root, problem);
     const QString advice = adviceFor(problem.text);
     std::printf("%s%s%s%s%s\n", qUtf8Printable(locationOf(spot)),
                 problem.isError ? "" : "nehotové: ", qUtf8Printable(problem.text),
@@ -149,8 +149,8 @@ void tell(const QString& root, const Problem& problem) {
 
 }  // namespace
 
-Spot spotOf(const QString& root, const Problem& problem) {
-    Spot spot{problem.place, 1, {}};
+ProblemSpot spotOf(const QString& root, const Problem& problem) {
+    ProblemSpot spot{problem.place, 1, {}};
     const QStringList lines = linesOf(root + u'/' + problem.place.file);
     if (problem.place.line < 1 || problem.place.line > lines.size()) return spot;
     spot.line = lines[problem.place.line - 1];

@@ -6,13 +6,13 @@ namespace sarne::disc {
 
 /// Where in the content below \a root a problem is: the line and, from 1 on, the column of what its text
 /// quotes. A paragraph's place is its first line; the quoted words may stand in a later one.
-struct Spot {
+struct ProblemSpot {
     Place place;
     int column = 1;
     /// The line itself; empty when the problem has none.
     QString line;
 };
-Spot spotOf(const QString& root, const Problem& problem);
+ProblemSpot spotOf(const QString& root, const Problem& problem);
 
 /// What would be right, where the problem's own text does not say it already; else empty.
 QString adviceFor(const QString& text);
