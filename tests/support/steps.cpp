@@ -13,13 +13,15 @@ int numberOf(const QString& name) {
     return name.section(u'(', 1).section(u')', 0, 0).toInt();
 }
 
-/// Steps that use \a control: the wheel over it, its middle, and the first things within it.
+/// Steps that use \a control: the wheel over it unless it is a button, its middle, and the first things
+/// within it.
 void addClicks(std::vector<Step>& steps, const Control& control) {
     const QString name = control.objectName();
-    steps.push_back({u"wheel over "_s + name, [=](FakeSarne& run) {
-                         auto* over = front(run) ? front(run)->findChild<Control*>(name) : nullptr;
-                         if (over) wheel(*over, -120);
-                     }});
+    if (!control.isPressable())
+        steps.push_back({u"wheel over "_s + name, [=](FakeSarne& run) {
+                             auto* over = front(run) ? front(run)->findChild<Control*>(name) : nullptr;
+                             if (over) wheel(*over, -120);
+                         }});
     std::vector<QPoint> places{QRect({}, control.twips().size()).center()};
     for (int i = 0, found = 0; i < control.partCount() && found < 3; ++i)
         if (const QRect place = control.part(i).place; !place.isEmpty() && ++found)
