@@ -6,6 +6,7 @@
 #include "forms/control.h"
 #include "screens/navigation/frmhlavni.h"
 #include "shippedprogram.h"
+#include "support/acts.h"
 #include "tour/doors.h"
 
 namespace sarne {
@@ -25,7 +26,7 @@ class Visitor : public ShippedProgram {
         QStringList names;
         visit([&] {
             for (const Control* control : front()->findChildren<Control*>())
-                if (canBePressed(control)) names << control->objectName();
+                if (test::canBePressed(*control)) names << control->objectName();
         });
         return names;
     }
@@ -34,7 +35,7 @@ class Visitor : public ShippedProgram {
         visit([&] {
             asked_.clear();
             auto* control = front()->findChild<Control*>(name);
-            if (!canBePressed(control)) return void(asked_ << u"is not there"_s);
+            if (!control || !test::canBePressed(*control)) return void(asked_ << u"is not there"_s);
             // The keyboard is in use, and shown; on the main screen it always is.
             if (door_ && way == Way::Key) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             patience_.start(20);
@@ -53,10 +54,6 @@ class Visitor : public ShippedProgram {
     Form* front() const {
         Stage& stage = program->stage();
         return stage.modalForm() ? stage.modalForm() : stage.focusForm();
-    }
-    static bool canBePressed(const Control* control) {
-        return control && control->isPressable() && control->isVisible() && control->isEnabled() &&
-               control->focusPolicy() != Qt::NoFocus;
     }
     void press(Control& control, Way way) {
         if (way == Way::Key) {

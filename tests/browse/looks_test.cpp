@@ -10,7 +10,7 @@ namespace {
 using test::explore;
 using test::exploreOrLook;
 using test::Look;
-using test::walk;
+using test::walkEach;
 
 /// A cookbook whose first recipes have photos, and a screen below.
 class Browse : public BrowseTest {
@@ -89,16 +89,12 @@ TEST(Looks, ListInUse) {
         {"seznam-rychlych", "", "RychleRecepty", "",
          "click:lblSeznam(2) click:lblSeznam(1) click:imgBtn(1) click:imgBtn(1) click:imgBtn(2) "
          "double:lblSeznam(3) click:imgBtnHlavni(0) Tab click:Picture1 hover:Picture1 Down Down"}};
-    for (const auto& one : ways)
-        walk(
-            one.name,
-            [&](const Look& look) {
-                Browse book;
-                book.change(one.change);
-                book.list(QString::fromLatin1(one.ids), QString::fromLatin1(one.source));
-                look(book.run);
-            },
-            one.way);
+    walkEach(ways, [](const auto& one, const Look& look) {
+        Browse book;
+        book.change(one.change);
+        book.list(QString::fromLatin1(one.ids), QString::fromLatin1(one.source));
+        look(book.run);
+    });
 }
 
 TEST(Looks, Grid) {
@@ -130,16 +126,12 @@ TEST(Looks, GridInUse) {
          "click:imgSkupina(0) click:300,580"},
         {"sit-klavesami",
          "Right Right Down Return Space Tab Return 4 Shift+Tab Shift+Tab Return Left Return 0 Escape"}};
-    for (const auto& one : ways)
-        walk(
-            one.name,
-            [](const Look& look) {
-                Browse book;
-                book.change("DELETE FROM Recepty WHERE ID = 8");
-                (new frmSit(book.run))->Zobraz();
-                look(book.run);
-            },
-            one.way);
+    walkEach(ways, [](const auto&, const Look& look) {
+        Browse book;
+        book.change("DELETE FROM Recepty WHERE ID = 8");
+        (new frmSit(book.run))->Zobraz();
+        look(book.run);
+    });
 }
 
 TEST(Looks, Photo) {
@@ -162,17 +154,12 @@ TEST(Looks, Photo) {
         {"foto-klavesami",
          "wait:500 Left wait:500 Down wait:500 Down wait:500 Right wait:500 Left wait:500 Up Alt+X"},
         {"promitani-klavesami", "tick tick over tick pop tick wait:500 Right Space tick Space Escape"}};
-    for (const auto& one : ways)
-        walk(
-            one.name,
-            [&](const Look& look) {
-                Browse book;
-                (new frmFotoBig(book.run))
-                    ->Zobraz({.photoIds = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12},
-                              .slideShow = one.name[0] == 'p'});
-                look(book.run);
-            },
-            one.way);
+    walkEach(ways, [](const auto& one, const Look& look) {
+        Browse book;
+        (new frmFotoBig(book.run))
+            ->Zobraz({.photoIds = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, .slideShow = one.name[0] == 'p'});
+        look(book.run);
+    });
 }
 
 }  // namespace

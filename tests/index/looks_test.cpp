@@ -17,7 +17,7 @@ namespace {
 using test::explore;
 using test::exploreOrLook;
 using test::Look;
-using test::walk;
+using test::walkEach;
 
 QStringList everything() {
     QStringList all;
@@ -140,15 +140,11 @@ TEST(Looks, InUse) {
         {"galerie-klavesami", [](FakeSarne& run) { (new frmSponzor(run))->Zobraz(9, {}); },
          "Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Right Down Left Left Up Right Space Down Return "
          "Tab Return Escape Escape"}};
-    for (const auto& one : ways)
-        walk(
-            one.name,
-            [&](const Look& look) {
-                Index book;
-                one.open(book.run);
-                look(book.run);
-            },
-            one.way);
+    walkEach(ways, [](const auto& one, const Look& look) {
+        Index book;
+        one.open(book.run);
+        look(book.run);
+    });
 }
 
 }  // namespace

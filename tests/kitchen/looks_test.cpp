@@ -157,15 +157,11 @@ TEST(Looks, InUse) {
         {"varime-klavesami", weights,
          "Space Return Space Right PgDown Right Backspace Left Up Down click:imgPapir"},
         {"varime-po-lzicich", spoons, "1 Return 1 2 Space Space Backspace Backspace click:cmdCas(0)"}};
-    for (const auto& one : ways)
-        test::walk(
-            one.name,
-            [&](const Look& look) {
-                KitchenRun run;
-                one.open(run);
-                look(run);
-            },
-            one.way);
+    test::walkEach(ways, [](const auto& one, const Look& look) {
+        KitchenRun run;
+        one.open(run);
+        look(run);
+    });
 }
 
 }  // namespace

@@ -34,9 +34,6 @@ TEST_F(VideoTest, TheTitleStandsThereAsTheMenuHasIt) {
     press(Qt::Key_Escape);
     open(4);
     EXPECT_EQ(child<Label>(*form, "lblNazev")->text(), QString()) << "a film that no menu knows";
-    form->Skryj();
-    form->Skryj();
-    EXPECT_EQ(run.FormStack.top(), below) << "it has gone already";
 }
 
 TEST_F(VideoTest, TheKnobStaysWithinTheBar) {

@@ -93,17 +93,13 @@ TEST(Looks, FilmInUse) {
         {"film-otevirany", Opening, true, {}, "J tick Escape"},
         {"film-pres-obrazovku", Playing, true, {}, "double:picVideo Escape Return Return Tab Return"},
         {"film-bez-hudby", Playing, false, {}, "Escape"}};
-    for (const auto& one : ways)
-        test::walk(
-            one.name,
-            [&](const Look& look) {
-                Media media;
-                media.addChapters(one.chapters);
-                media.run.SoundFlags[kMusic] = one.hasMusic;
-                showFilm(media, one.state);
-                look(media.run);
-            },
-            one.way);
+    test::walkEach(ways, [](const auto& one, const Look& look) {
+        Media media;
+        media.addChapters(one.chapters);
+        media.run.SoundFlags[kMusic] = one.hasMusic;
+        showFilm(media, one.state);
+        look(media.run);
+    });
 }
 
 }  // namespace

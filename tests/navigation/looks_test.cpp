@@ -11,6 +11,7 @@ namespace {
 using test::explore;
 using test::Look;
 using test::walk;
+using test::walkEach;
 
 class Main : public MenuFixture {
   public:
@@ -81,20 +82,15 @@ TEST(Looks, MainScreenInUse) {
         {"menu-spocinutim",
          "click:imgClick(2) hover:lblOdkaz(1) hover:352,497 tick Down Down hover:lblOdkaz(1) tick Escape "
          "hover:lblOdkaz(1) tick Left hover:352,497 "
-         "tick "
-         "hover:lblOdkaz(1) tick Left click:lblOdkaz(2) hover:lblOdkaz(1) tick"},
+         "tick hover:lblOdkaz(1) tick Left click:lblOdkaz(2) hover:lblOdkaz(1) tick"},
         {"menu-klavesami",
          "click:imgClick(2) Down Right Right Down Down Left Escape type:p Return Down Return"},
         {"menu-pismeny", "click:imgClick(2) type:k type:a type:p type:p Alt+F4 Alt+X X type:c"},
         {"menu-pod-napovedou", "click:imgClick(2) Down Right F1 over pop Escape Escape"}};
-    for (const auto& one : ways)
-        walk(
-            one.name,
-            [](const Look& look) {
-                Main main;
-                look(main.run);
-            },
-            one.way);
+    walkEach(ways, [](const auto&, const Look& look) {
+        Main main;
+        look(main.run);
+    });
     // A choice that has opened no screen gives the keyboard back; the light goes out for whoever acts.
     walk(
         "hlavni-navrat",

@@ -90,17 +90,13 @@ TEST(Looks, InUse) {
         {"poznamka-klavesami", 5, 7,
          "Shift+Tab Up Return click:imgBtn(7) click:lblIkona(2) click:imgBtn(7) Tab Shift+Tab type:ryba Tab "
          "Return"}};
-    for (const auto& one : ways)
-        test::walk(
-            one.name,
-            [&](const Look& look) {
-                Recipe book;
-                book.ask(2.5);
-                book.addLinks(8);
-                book.show(one.id, one.section);
-                look(book.run);
-            },
-            one.way);
+    test::walkEach(ways, [](const auto& one, const Look& look) {
+        Recipe book;
+        book.ask(2.5);
+        book.addLinks(8);
+        book.show(one.id, one.section);
+        look(book.run);
+    });
 }
 
 }  // namespace

@@ -22,11 +22,6 @@ std::vector<Form*> showing(const FakeSarne& run) {
     return forms;
 }
 
-bool canBePressed(const Control& control) {
-    return control.isPressable() && control.isVisible() && control.isEnabled() &&
-           control.focusPolicy() != Qt::NoFocus;
-}
-
 /// The mouse at \a place: of a control of the highest form that has it, or a point of the form in front.
 void useMouse(const FakeSarne& run, const QString& place, bool clicks, bool twice) {
     if (const QStringList at = place.split(u','); at.size() == 2) {
@@ -63,6 +58,11 @@ void tick(const FakeSarne& run) {
 }
 
 }  // namespace
+
+bool canBePressed(const Control& control) {
+    return control.isPressable() && control.isVisible() && control.isEnabled() &&
+           control.focusPolicy() != Qt::NoFocus;
+}
 
 void settle() {
     for (int i = 0; i < 3; ++i) {

@@ -5,6 +5,7 @@
 
 namespace sarne {
 
+class Control;
 class FakeSarne;
 class Form;
 
@@ -18,6 +19,8 @@ void pressKey(FakeSarne& run, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
 /// The mouse comes to \a twips of the control of \a form called \a name and clicks what lies there.
 void click(const FakeSarne& run, const Form* form, const QString& name, QPoint twips, bool twice);
 
+/// Whether \a control is there to be pressed, by the keyboard, too.
+bool canBePressed(const Control& control);
 /// The names of the controls of the form in front that say that they can be pressed, by the keyboard, too.
 QStringList pressables(const FakeSarne& run);
 /// Those of them to which the arrows do not lead from where the keyboard is.

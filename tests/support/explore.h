@@ -36,6 +36,13 @@ inline void exploreOrLook(bool isExplored, const char* name,
 /// Opens a screen once and goes through it by \a way, words as perform() takes them with blanks between. What
 /// each changes is compared with what is kept as \a name.
 void walk(const char* name, const std::function<void(const Look& look)>& scene, const char* way);
+/// Every one of \a ways, which have a name and a way each; \a scene is told which it opens the screen for.
+template <typename Ways, typename Scene>
+void walkEach(const Ways& ways, Scene scene) {
+    for (const auto& one : ways)
+        walk(
+            one.name, [&](const Look& look) { scene(one, look); }, one.way);
+}
 
 }  // namespace test
 }  // namespace sarne
