@@ -52,10 +52,6 @@ TEST(Language, QtsOwnTextsAreCzechWhateverTheUsersLanguage) {
     EXPECT_EQ(QCoreApplication::translate("QPrintDialog", "Print"), u"Tisk"_s);
 }
 
-QMap<QString, QVariantMap> settings(const QString& group, const QString& name, const QVariant& value) {
-    return {{group, {{name, value}}}};
-}
-
 TEST(KeptEyes, WhatTheUserChoosesOutlivesTheRunAndTheDesktopsWishes) {
     QTemporaryDir folder;
     const QString file = folder.filePath(u"vlastni.db"_s);
@@ -90,17 +86,6 @@ TEST(Eyes, TextsHaveThreeSizes) {
     EXPECT_FALSE(eyes.stepText(1));
     eyes.setTextPercent(-5);
     EXPECT_EQ(eyes.textScale(), 1);
-}
-
-TEST(DesktopWishes, AreReadFromWhatDesktopsCallThem) {
-    const QString all = u"org.freedesktop.appearance"_s, gnome = u"org.gnome.desktop.interface"_s,
-                  access = u"org.gnome.desktop.a11y.interface"_s;
-    EXPECT_EQ(desktopWishes({}), DesktopWishes());
-    EXPECT_EQ(desktopWishes(settings(all, u"contrast"_s, 1u)), (DesktopWishes{false, true}));
-    EXPECT_EQ(desktopWishes(settings(all, u"reduced-motion"_s, 1u)), (DesktopWishes{true, false}));
-    EXPECT_EQ(desktopWishes(settings(gnome, u"enable-animations"_s, false)), (DesktopWishes{true, false}));
-    EXPECT_EQ(desktopWishes(settings(gnome, u"enable-animations"_s, true)), DesktopWishes());
-    EXPECT_EQ(desktopWishes(settings(access, u"high-contrast"_s, true)), (DesktopWishes{false, true}));
 }
 
 }  // namespace

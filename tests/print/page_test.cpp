@@ -100,24 +100,12 @@ TEST(PrintedPage, RepeatsTheHeaderWithNameAndPageAndStartsEachRecipeOnItsOwn) {
     EXPECT_EQ(pages.last().simplified(), u"CD Tobrela - Velisa sarn Okoun Porce: 4"_s);
 }
 
-/// The smallest rectangle around all that is red on \a page.
-QRect redPart(const QImage& page) {
-    QRect red;
-    for (int y = 0; y < page.height(); ++y) {
-        for (int x = 0; x < page.width(); ++x) {
-            const QColor color = page.pixelColor(x, y);
-            if (color.red() > 200 && color.green() < 60) red |= QRect(x, y, 1, 1);
-        }
-    }
-    return red;
-}
-
 TEST(PrintedPage, ShowsThePhotoInItsProportionsBelowTheName) {
     PrintCookbook book(kCookbook);
     for (const QSize& size : {QSize(400, 300), QSize(60, 200)}) {
         book.addPhoto(7, size, Qt::red);
         const PrintOutcome outcome = book.print({7});
-        const QRect red = redPart(test::pdfImage(outcome.file, 1));
+        const QRect red = test::redPart(test::pdfImage(outcome.file, 1));
         ASSERT_GT(red.height(), 100);
         EXPECT_NEAR(double(red.width()) / red.height(), double(size.width()) / size.height(), .03);
         for (const test::PdfWord& word : test::pdfWords(outcome.file, 1)) {
@@ -139,12 +127,12 @@ TEST(PrintedPage, HoldsAPhotoAsItIsStored) {
     const PrintOutcome outcome = book.print({8, 7, 7});
     EXPECT_EQ(test::bytesOf(outcome.file).count(stored), 1) << "once, however often it shows";
     for (int page = 1; page <= 3; ++page)
-        EXPECT_EQ(redPart(test::pdfImage(outcome.file, page)).height() > 100, page > 1) << page;
+        EXPECT_EQ(test::redPart(test::pdfImage(outcome.file, page)).height() > 100, page > 1) << page;
     QFile::resize(book.photo(7), stored.size() - 2);
     const PrintOutcome damaged = book.print({7});
     EXPECT_FALSE(test::bytesOf(damaged.file).contains(stored.chopped(2)))
         << "what a reader would stumble over";
-    EXPECT_GT(redPart(test::pdfImage(damaged.file, 1)).height(), 100);
+    EXPECT_GT(test::redPart(test::pdfImage(damaged.file, 1)).height(), 100);
 }
 
 TEST(PrintedPage, TakesLargeMaterial) {
@@ -192,7 +180,6 @@ TEST(PrintedPage, LeadsFromAMentionToTheLinkedTextAndBack) {
         EXPECT_EQ(contents, (QStringList{u"Kapr v aspiku"_s, u"Postup"_s, u"Odkaz: Aspik"_s,
                                          u"Odkaz: Rybí vývar"_s, u"Lín"_s}));
     }
-    EXPECT_EQ(PdfNotes().writtenInto("no document"), QByteArray("no document"));
 }
 
 TEST(RecipeCard, HoldsTheEssenceOnOnePage) {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QRegularExpression>
-
 #include "db/database.h"
 #include "forms/resources.h"
 #include "platform/systemprinter.h"
@@ -9,6 +7,7 @@
 #include "print/printlogo.h"
 #include "richtext/qttextmetrics.h"
 #include "support/files.h"
+#include "support/pdf.h"
 #include "support/pictures.h"
 #include "support/print.h"
 #include "support/recipedatabase.h"
@@ -22,46 +21,6 @@ inline QString str(const char* text) {
 /// A sentence again and again, about \a length characters.
 inline QString longText(int length, const QString& sentence = u"Rybu osolíme a necháme stát. "_s) {
     return sentence.repeated(length / int(sentence.size()) + 1);
-}
-
-/// The texts of a PDF file, its pages parted by form feeds.
-inline QString pdfText(const QString& file) {
-    return output(u"pdftotext"_s, {u"-layout"_s, file, u"-"_s});
-}
-
-inline QStringList pdfPages(const QString& file) {
-    return pdfText(file).split(u'\f', Qt::SkipEmptyParts);
-}
-
-/// One word of a page and where it stands, in twips from the paper's corner.
-struct PdfWord {
-    QRectF place;
-    QString text;
-};
-
-inline std::vector<PdfWord> pdfWords(const QString& file, int page) {
-    const QString number = QString::number(page);
-    const QString html = output(u"pdftotext"_s, {u"-bbox"_s, u"-f"_s, number, u"-l"_s, number, file, u"-"_s});
-    static const QRegularExpression word(
-        u"<word xMin=\"([-0-9.]+)\" yMin=\"([-0-9.]+)\" xMax=\"([-0-9.]+)\" "
-        "yMax=\"([-0-9.]+)\">(.*?)</word>"_s);
-    std::vector<PdfWord> words;
-    for (const auto& match : word.globalMatch(html)) {
-        const QPointF from(match.captured(1).toDouble() * 20, match.captured(2).toDouble() * 20);
-        const QPointF to(match.captured(3).toDouble() * 20, match.captured(4).toDouble() * 20);
-        words.push_back({QRectF(from, to), match.captured(5)});
-    }
-    return words;
-}
-
-/// A page as a viewer paints it, 20 twips a pixel.
-inline QImage pdfImage(const QString& file, int page) {
-    QTemporaryDir folder;
-    const QString to = folder.filePath(u"page"_s);
-    const QString number = QString::number(page);
-    output(u"pdftoppm"_s,
-           {u"-r"_s, u"72"_s, u"-f"_s, number, u"-l"_s, number, u"-singlefile"_s, u"-png"_s, file, to});
-    return QImage(to + u".png"_s);
 }
 
 /// A small cookbook to print from, with a folder for photos and one for printed files.
