@@ -7,7 +7,7 @@ namespace {
 
 template <typename Number>
 Number littleAt(const QByteArray& image, qsizetype offset) {
-    if (offset < 0 || offset + qsizetype{sizeof(Number)} > image.size()) return 0;
+    if (offset + qsizetype{sizeof(Number)} > image.size()) return 0;
     return qFromLittleEndian<Number>(image.constData() + offset);
 }
 

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <csignal>
+#include <utility>
 
 #include "displayserver.h"
 #include "support/files.h"
@@ -80,6 +81,70 @@ TEST_F(DisplayModesTest, LeavesWhatTheUserChoseInTheMeantime) {
     EXPECT_TRUE(user->setMode({1280, 720}));
     display.reset();
     EXPECT_EQ(current(), QSize(1280, 720));
+}
+
+/// A helper that notes what it is asked; told to go away ("can 1 1"), it does so once, or always.
+class NotingHelper {
+  public:
+    explicit NotingHelper(bool alwaysGoes) {
+        const QByteArray here = folder_.path().toUtf8();
+        EXPECT_TRUE(test::write(
+            path(), "#!/bin/sh\ncd " + here +
+                        "\necho begin >> log\nwhile read line; do echo $line >> log; case $line in"
+                        " size) echo 1024 768;;"
+                        " 'can 1 1') if [ -e gone ]; then echo yes; else " +
+                        (alwaysGoes ? "" : "touch gone;") +
+                        " exit; fi;;"
+                        " 'set 2 2') echo no;;"
+                        " *) echo yes;;"
+                        " esac >&0; done\necho end >> log\n"));
+        QFile::setPermissions(path(), QFile::ReadOwner | QFile::ExeOwner);
+    }
+    QString path() const { return folder_.filePath(u"pomocník"_s); }
+    /// What was noted since the last call.
+    QString log() {
+        const QString all = QString::fromUtf8(test::bytesOf(folder_.filePath(u"log"_s)));
+        return all.mid(std::exchange(read_, all.size())).simplified();
+    }
+
+  private:
+    QTemporaryDir folder_;
+    qsizetype read_ = 0;
+};
+
+TEST(DisplayModesElsewhereTest, AsksItsHelper) {
+    NotingHelper helper(false);
+    auto display = std::make_unique<SystemDisplayModes>(helper.path(), u"xcb"_s);
+    display->prepare();
+    EXPECT_TRUE(waitFor([&] { return helper.log() == u"begin"_s; }));
+    EXPECT_EQ(display->current(), QSize(1024, 768));
+    EXPECT_TRUE(display->canSwitch({3, 4}));
+    EXPECT_FALSE(display->setMode({2, 2}));
+    display->restore();
+    EXPECT_EQ(helper.log(), u"size can 3 4 size set 2 2"_s) << "nothing is restored that was not changed";
+    EXPECT_TRUE(display->setMode(design));
+    EXPECT_TRUE(display->setMode({640, 480}));
+    EXPECT_TRUE(display->setMode({1024, 768}));
+    display->restore();
+    EXPECT_EQ(helper.log(), u"size set 800 600 size set 640 480 size restore"_s);
+    EXPECT_TRUE(display->setMode(design));
+    EXPECT_TRUE(display->canSwitch({1, 1}));
+    display->restore();
+    EXPECT_EQ(helper.log(), u"size set 800 600 can 1 1 begin can 1 1 size set 1024 768 forget"_s)
+        << "it knew of nothing";
+    EXPECT_TRUE(display->setMode(design));
+    display.reset();
+    EXPECT_EQ(helper.log(), u"size set 800 600 size restore end"_s);
+    qputenv("WAYLAND_DISPLAY", "wayland-0");
+    EXPECT_FALSE(SystemDisplayModes(helper.path(), u"xcb"_s).canSwitch(design));
+    qunsetenv("WAYLAND_DISPLAY");
+}
+
+TEST(DisplayModesElsewhereTest, AHelperThatFallsOverIsStartedThreeTimes) {
+    NotingHelper helper(true);
+    SystemDisplayModes display(helper.path(), u"xcb"_s);
+    for (int i = 0; i < 3; ++i) EXPECT_FALSE(display.canSwitch({1, 1}));
+    EXPECT_EQ(helper.log(), u"begin can 1 1 begin can 1 1 begin can 1 1"_s);
 }
 
 TEST(DisplayModesElsewhereTest, AHelperThatHangsDoesNotKeepTheProgram) {

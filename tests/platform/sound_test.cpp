@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QtEndian>
 #include <algorithm>
 #include <cmath>
 
@@ -10,6 +11,7 @@
 #include "platform/pulseserver.h"
 #include "platform/soundlength.h"
 #include "soundserver.h"
+#include "support/fakeeffects.h"
 #include "support/files.h"
 #include "testmedia.h"
 
@@ -219,6 +221,63 @@ TEST_F(SoundTest, AServerThatDoesNotAnswerIsNotPlayedOn) {
     EXPECT_TRUE(waitFor([] { return pulseServerHasDevice(); }));
     server.kill();
     EXPECT_TRUE(pulseServerHasDevice()) << "without a server sound goes other ways";
+}
+
+TEST(SoundLengthTest, IsWhatTheHeaderSays) {
+    const auto number = [](auto value, auto toBytes) {
+        QByteArray bytes(sizeof value, '\0');
+        toBytes(value, bytes.data());
+        return bytes;
+    };
+    const auto little = [&](auto value) {
+        return number(value, [](auto v, char* to) { qToLittleEndian(v, to); });
+    };
+    const auto wav = [&](quint32 bytesPerSecond, int size) {
+        return QByteArray(28, 'x') + little(bytesPerSecond) + QByteArray(size + 12, 'x');
+    };
+    EXPECT_EQ(soundLength(wav(1000, 0)), 0);
+    EXPECT_EQ(soundLength(wav(1000, 1)), 1);
+    EXPECT_EQ(soundLength(wav(0, 5)), 0);
+    constexpr int kDay = 24 * 3600;
+    EXPECT_EQ(soundLength(wav(1, kDay)), kDay * 1000);
+    EXPECT_EQ(soundLength(wav(1, kDay + 1)), 0) << "nobody has such a file";
+    const auto ogg = [&](const QByteArray& codec, quint64 samples) {
+        return "OggS" + QByteArray(2, 'x') + little(quint64{7}) + codec + "OggSxx" + little(samples);
+    };
+    const QByteArray vorbis = "\x01vorbis" + little(quint32{0}) + 'x' + little(quint32{8000});
+    EXPECT_EQ(soundLength(ogg(vorbis, 16000)), 2000);
+    EXPECT_EQ(soundLength(ogg("OpusHead", 48000)), 1000);
+    EXPECT_EQ(soundLength(ogg("speex", 48000)), 0);
+    EXPECT_EQ(soundLength(ogg(vorbis, 16000).chopped(1)), 0);
+    const QByteArray flac = "fLaC" + QByteArray(14, 'x') +
+                            number(quint64{44100} << 44 | quint64{0xF} << 36 | 88200,
+                                   [](auto v, char* to) { qToBigEndian(v, to); });
+    EXPECT_EQ(soundLength(flac), 2000);
+    EXPECT_EQ(soundLength(flac.chopped(1)), 0);
+}
+
+TEST(BeeperTest, AShortToneDiesAway) {
+    FakeEffects effects;
+    ToneBeeper beeper(effects);
+    beeper.beep();
+    beeper.beep();
+    ASSERT_EQ(effects.played.size(), 2);
+    const QByteArray image = effects.played.last();
+    EXPECT_EQ(image, effects.played.first());
+    // One channel of 22,050 samples of 16 bits a second, an eighth of a second long.
+    EXPECT_EQ(image.first(44), QByteArray::fromHex("52494646ac15000057415645666d7420100000000100010022560000"
+                                                   "44ac0000020010006461746188150000"));
+    std::vector<qint16> samples(size_t(image.size() - 44) / 2);
+    qFromLittleEndian<qint16>(image.constData() + 44, qsizetype(samples.size()), samples.data());
+    int waves = 0;
+    for (size_t i = 1; i < samples.size(); ++i) waves += samples[i - 1] < 0 && samples[i] >= 0;
+    EXPECT_EQ(waves, 92) << "740 a second";
+    const auto loudest = [&](size_t from, size_t count) {
+        return *std::max_element(samples.begin() + from, samples.begin() + from + count);
+    };
+    EXPECT_NEAR(loudest(0, 30), 8950, 60);
+    EXPECT_NEAR(loudest(samples.size() / 2, 30), 4470, 60);
+    EXPECT_LT(loudest(samples.size() - 30, 30), 120);
 }
 
 TEST(SoundlessTest, EffectsWithoutADeviceAreSilentAndQuick) {
