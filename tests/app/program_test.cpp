@@ -2,56 +2,21 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QTest>
-#include <QTimer>
+#include <algorithm>
 
 #include "app/editionwatch.h"
 #include "dialogs/frmdialog.h"
 #include "forms/textview.h"
+#include "onevent.h"
 #include "screens/navigation/frmhlavni.h"
 #include "screens/navigation/frmmenu.h"
 #include "screens/navigation/sweep.h"
 #include "screens/recipe/frmrecept.h"
-#include "support/fakeplatform.h"
-#include "support/fakesarne.h"
+#include "smallprogram.h"
 #include "support/files.h"
-#include "support/recipedatabase.h"
 
 namespace sarne {
 namespace {
-
-class ProgramTest : public testing::Test {
-  protected:
-    void SetUp() override {
-        for (const char* name : {"program", "disc", "data"}) QDir(folder.path()).mkpath(QLatin1String(name));
-        test::writeRecipeDatabase(
-            path("program/Sarne.drc"),
-            {u"INSERT INTO Nastav VALUES (1,'a',1),(2,'b',0),(3,'c',1),(4,'d',0)"_s,
-             u"INSERT INTO Menu VALUES ('120','@Hledání',''),('121','Napište název','F')"_s,
-             u"INSERT INTO Suroviny VALUES (1,'kapie')"_s});
-        platform.settings.set(u"CDPath"_s, path("disc"));
-        make();
-    }
-    void make() {
-        program = std::make_unique<Program>(platform.parts(), Folders{path("program"), path("data")});
-        program->stage().resize(800, 600);
-        program->stage().show();
-        program->stage().activateWindow();
-        QApplication::processEvents();
-    }
-    QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
-    static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
-    /// Ends the program or asks to, and answers its question with \a key.
-    void exitAnswering(Qt::Key key) {
-        QTimer::singleShot(0, [key] { press(key); });
-        program->ConfirmExit();
-    }
-
-    QTemporaryDir folder;
-    FakePlatform platform;
-    std::unique_ptr<Program> program;
-};
 
 TEST_F(ProgramTest, StartsWithItsFoldersAndSettings) {
     ASSERT_TRUE(program->Main({}));
@@ -67,21 +32,62 @@ TEST_F(ProgramTest, StartsWithItsFoldersAndSettings) {
 }
 
 TEST_F(ProgramTest, FollowsABookThatIsWrittenWhileItRuns) {
+    EXPECT_FALSE(program->showEdition(7, 0)) << "there is no main screen yet";
     ASSERT_TRUE(program->Main({}));
-    const EditionWatch watch(path("data/znacka"),
-                             [&](std::int16_t id, int section) { return program->showEdition(id, section); });
     program->screens().showMusicSettings();
     EXPECT_NE(program->FormStack.top(), program->mainScreen());
+    QTimer::singleShot(0, [&] {
+        EXPECT_FALSE(program->showEdition(7, 0)) << "a question waits";
+        press(Qt::Key_Escape);
+    });
+    program->ZobrazZpravu(u"Opravdu?"_s, 36);
     test::writeRecipeDatabase(path("data/nova.drc"),
                               {u"INSERT INTO Recepty (ID, Nazev) VALUES (7, 'Kapr')"_s});
     QFile::remove(path("program/Sarne.drc"));
     ASSERT_TRUE(QFile::rename(path("data/nova.drc"), path("program/Sarne.drc")));
-    ASSERT_TRUE(test::write(path("data/znacka"), "1 7 5\n"));
-    const auto shown = [&] { return qobject_cast<frmRecept*>(program->FormStack.top()); };
-    ASSERT_TRUE(QTest::qWaitFor(shown, 5000));
-    EXPECT_EQ(shown()->section(), 5);
+    EXPECT_TRUE(program->showEdition(7, 5));
+    Recordset recipes = program->Db().OpenTable(u"Recepty"_s);
+    EXPECT_TRUE(RecordExists(recipes, 7) && !RecordExists(recipes, 5));
+    auto* shown = qobject_cast<frmRecept*>(program->FormStack.top());
+    ASSERT_NE(shown, nullptr);
+    EXPECT_EQ(shown->section(), 5);
+    EXPECT_EQ(program->FormStack.count(), 2);
     EXPECT_TRUE(program->showEdition(0, 0));
     EXPECT_EQ(program->FormStack.top(), program->mainScreen());
+    QTest::mouseClick(child<QWidget>(*program->mainScreen(), "imgClick(12)"), Qt::LeftButton);
+    EXPECT_TRUE(program->mainScreen()->isMenuOpen());
+    EXPECT_TRUE(program->showEdition(0, 0));
+    EXPECT_FALSE(program->mainScreen()->isMenuOpen());
+    exitAnswering(Qt::Key_Return);
+    EXPECT_FALSE(program->showEdition(7, 0));
+}
+
+TEST_F(ProgramTest, AMarkTellsOnceOfEveryEdition) {
+    const QString mark = path("data/znacka");
+    const auto leave = [&](const QByteArray& text) {
+        ASSERT_TRUE(test::write(mark + u".nova"_s, text));
+        QFile::remove(mark);
+        ASSERT_TRUE(QFile::rename(mark + u".nova"_s, mark));
+    };
+    leave("3 1 1\n");
+    QStringList shown;
+    bool isPossible = true;
+    const EditionWatch watch(mark, [&](std::int16_t recipe, int section) {
+        shown << u"%1 %2"_s.arg(recipe).arg(section);
+        return isPossible;
+    });
+    const EditionWatch none({}, [&](std::int16_t, int) { return shown << u"nothing"_s, true; });
+    ASSERT_TRUE(test::write(path("data/jiny"), "9 9 9"));
+    QTest::qWait(20);
+    EXPECT_EQ(shown, QStringList()) << "the edition that was there at the start";
+    isPossible = false;
+    leave("4 7 5\n");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown == QStringList{u"7 5"_s, u"7 5"_s}; })) << "asked again";
+    isPossible = true;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.size() == 3; }));
+    QFile::remove(mark);
+    QTest::qWait(250);
+    EXPECT_EQ(shown.size(), 3);
 }
 
 TEST_F(ProgramTest, TheShowSwitchIsTheWholeCommandLine) {
@@ -116,31 +122,99 @@ TEST_F(ProgramTest, AsksForTheDriveWhenTheStoreNamesNone) {
 
 TEST_F(ProgramTest, TheStoreMayNameALetterOrAPathFromTheProgramsFolder) {
     platform.settings.set(u"Drives/F"_s, path("disc"));
-    ASSERT_TRUE(test::write(path("disc/hudba.wav")));
-    for (const char* stored : {"F:\\", "../disc"}) {
-        platform.settings.set(u"CDPath"_s, QLatin1String(stored));
+    const QString odd = path("a\\b");
+    for (const QString& disc : {path("disc"), odd}) ASSERT_TRUE(test::write(disc + u"/hudba.wav"_s));
+    for (const QString& stored : {u"F:\\"_s, u"../disc"_s, odd}) {
+        platform.settings.set(u"CDPath"_s, stored);
         make();
         ASSERT_TRUE(program->Main({}));
-        EXPECT_EQ(program->mediaFile(u"HUDBA.WAV"_s), path("disc/hudba.wav")) << stored;
+        EXPECT_EQ(program->mediaFile(u"HUDBA.WAV"_s), (stored == odd ? odd : path("disc")) + u"/hudba.wav"_s);
     }
 }
 
 TEST_F(ProgramTest, YesEndsWhateverIsOpen) {
     ASSERT_TRUE(program->Main({}));
-    auto* screen = new Form(*program, u"frmSeznam"_s);
-    program->PushScreen(*screen);
-    screen->showForm();
+    QStringList atTheEnd;
+    const test::OnEvent watch(QEvent::Show, [&](const QObject* shown) {
+        if (shown->objectName() != u"frmSplash") return;
+        for (const Form* form : program->stage().forms()) atTheEnd << form->name();
+    });
+    for (const char* name : {"frmSeznam", "FrmTabulky", "frmTabulky"}) {
+        auto* screen = new Form(*program, QLatin1String(name));
+        program->PushScreen(*screen);
+        screen->showForm();
+    }
     program->SavedDisplayMode = u"1024,768"_s;
-    exitAnswering(Qt::Key_Return);
+    program->keepAwake(u"film"_s);
+    QTimer::singleShot(0, [&] { exitAnswering(Qt::Key_Return); });
+    QTimer patience;
+    QObject::connect(&patience, &QTimer::timeout, [] { QApplication::exit(1); });
+    patience.start(5000);
+    EXPECT_EQ(QApplication::exec(), 0) << "the process ends with the program";
+    EXPECT_EQ(atTheEnd.filter(u"Tab"_s) + atTheEnd.filter(u"Seznam"_s), QStringList{u"FrmTabulky"_s});
     EXPECT_TRUE(program->hasEnded());
     EXPECT_EQ(platform.music.commands, (QStringList{u"stop"_s, u"close"_s}));
     EXPECT_EQ(platform.music.notify, MediaNotify::Off);
     EXPECT_TRUE(program->stage().forms().empty());
     EXPECT_TRUE(program->stage().isHidden());
     EXPECT_FALSE(program->Db().isOpen());
+    EXPECT_FALSE(platform.sleep.inhibited);
     EXPECT_GT(platform.effects.stops, 0);
     EXPECT_EQ(platform.display.asked, QList<QSize>{QSize(1024, 768)});
     program->ConfirmExit();  // asks nothing more
+    program->endAtOnce();
+    EXPECT_EQ(platform.display.asked.size(), 1);
+}
+
+TEST_F(ProgramTest, TheSystemEndsItWithoutAQuestion) {
+    ASSERT_TRUE(program->Main({}));
+    program->SavedDisplayMode = u"1024,768"_s;
+    program->endAtOnce();
+    EXPECT_TRUE(program->hasEnded());
+    EXPECT_FALSE(program->Db().isOpen());
+    program->endAtOnce();
+    EXPECT_EQ(platform.display.asked, QList<QSize>{QSize(1024, 768)});
+}
+
+TEST_F(ProgramTest, AScreenThatWantsToStayKeepsTheProgram) {
+    class Staying final : public Form {
+      public:
+        using Form::Form;
+        bool readyToEnd() override { return false; }
+    };
+    ASSERT_TRUE(program->Main({}));
+    program->PushScreen(*new Staying(*program, u"frmZustane"_s));
+    program->ConfirmExit();  // or its question would wait for ever
+    EXPECT_FALSE(program->hasEnded());
+}
+
+TEST_F(ProgramTest, OneBoxAsksOneQuestionAfterAnother) {
+    ASSERT_TRUE(program->Main({}));
+    const auto boxes = [&] {
+        return std::ranges::count_if(program->stage().forms(),
+                                     [](const Form* form) { return form->name() == u"frmMessage"; });
+    };
+    for (int question = 0; question < 2; ++question) {
+        QTimer::singleShot(0, [&] { press(Qt::Key_Return); });
+        program->ZobrazZpravu(u"A?"_s, 36);
+    }
+    EXPECT_EQ(boxes(), 1);
+    QTimer::singleShot(0, [&] {
+        QTimer::singleShot(0, [&] { press(Qt::Key_N); });
+        EXPECT_EQ(program->AskOrLeave(u"B?"_s, 36), 7) << "over the first";
+        press(Qt::Key_Return);
+    });
+    EXPECT_EQ(program->ZobrazZpravu(u"A?"_s, 36), 6);
+    EXPECT_EQ(boxes(), 2);
+    EXPECT_EQ(platform.beeper.beeps, 4);
+}
+
+TEST_F(ProgramTest, TheDesktopsWishesHold) {
+    PlatformParts parts = platform.parts();
+    parts.askDesktop = [](QObject&, const std::function<void(DesktopWishes)>& hand) { hand({true, false}); };
+    make(parts);
+    EXPECT_TRUE(program->stage().eyes().isCalm());
+    EXPECT_FALSE(program->stage().eyes().hasContrast());
 }
 
 TEST_F(ProgramTest, StartsAndEndsWithoutAnything) {
@@ -263,6 +337,11 @@ TEST_F(ProgramTest, TheFirstVisitShowsTheThingsAndNoOther) {
     make();
     ASSERT_TRUE(program->Main({}));
     EXPECT_EQ(lit(), 0);
+    program->userFile().setValue(u"KitchenShown"_s, {});
+    platform.settings.set(u"KitchenShown"_s, u"1"_s);
+    make();
+    ASSERT_TRUE(program->Main({}));
+    EXPECT_EQ(lit(), 0) << "so say the machine's settings";
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <QMetaMethod>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
@@ -14,36 +15,17 @@
 #include "app/frmsplash.h"
 #include "app/lastwords.h"
 #include "app/program.h"
+#include "app/rooms.h"
 #include "dialogs/frmmessage.h"
+#include "onevent.h"
 #include "screens/navigation/frmhlavni.h"
+#include "smallprogram.h"
 #include "support/explore.h"
-#include "support/fakeplatform.h"
-#include "support/fakesarne.h"
 #include "support/files.h"
 #include "support/pictures.h"
-#include "support/recipedatabase.h"
 #include "support/screenrecord.h"
 
 namespace sarne {
-namespace test {
-
-/// Tells \a seen of every widget that is shown while it lives.
-class OnShow final : public QObject {
-  public:
-    explicit OnShow(std::function<void(const QObject*)> seen) : seen_(std::move(seen)) {
-        qApp->installEventFilter(this);
-    }
-    bool eventFilter(QObject* object, QEvent* event) override {
-        if (event->type() == QEvent::Show) seen_(object);
-        return false;
-    }
-
-  private:
-    std::function<void(const QObject*)> seen_;
-};
-
-}  // namespace test
-
 namespace {
 
 class SplashTest : public testing::Test {
@@ -52,6 +34,7 @@ class SplashTest : public testing::Test {
         platform.settings.set(u"CDPath"_s, folder.path());
         make(platform.parts());
     }
+    void TearDown() override { test::outliveTheProgram(); }
     void addIntro() { ASSERT_TRUE(test::write(intro)); }
     void make(const PlatformParts& parts) {
         program = std::make_unique<Program>(parts, Folders{folder.path(), folder.path()});
@@ -87,6 +70,10 @@ class SplashTest : public testing::Test {
         answer(keys);
         return program->Main({});
     }
+    void end() {
+        QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
+        program->ConfirmExit();
+    }
 
     QTemporaryDir folder;
     const QString intro = folder.filePath(u"video/UVOD.AVI"_s);
@@ -115,7 +102,9 @@ TEST_F(SplashTest, AResolutionInTheStoreCountsInsteadOfTheDisplays) {
     platform.display.size = {};  // a display whose modes nobody can change
     make(platform.parts());
     platform.settings.set(kStoredResolution, u"640,480"_s);
+    asked.clear();
     EXPECT_TRUE(start({}));
+    EXPECT_TRUE(asked.isEmpty());
 }
 
 TEST_F(SplashTest, YesSwitchesTheDisplayAndTheExitRestoresIt) {
@@ -124,8 +113,7 @@ TEST_F(SplashTest, YesSwitchesTheDisplayAndTheExitRestoresIt) {
     EXPECT_EQ(asked, QStringList{kQuestion});
     EXPECT_EQ(platform.display.current(), QSize(800, 600));
     EXPECT_EQ(program->SavedDisplayMode, u"1024,768"_s);
-    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
-    program->ConfirmExit();
+    end();
     EXPECT_EQ(platform.display.current(), QSize(1024, 768));
 }
 
@@ -145,6 +133,8 @@ TEST_F(SplashTest, NoAndYesGoesOnNoAndNoEnds) {
     EXPECT_EQ(program->mainScreen(), nullptr);
     make(platform.parts());
     EXPECT_TRUE(start({Qt::Key_F4})) << "a closed box changes nothing and goes on";
+    make(platform.parts());
+    EXPECT_TRUE(start({Qt::Key_N, Qt::Key_F4}));
     EXPECT_TRUE(platform.display.asked.isEmpty());
 }
 
@@ -155,21 +145,66 @@ TEST_F(SplashTest, LargeFontsAreAskedAbout) {
         u"Pro správnou funkci programu je třeba, aby byl spuštěn s nastavením malá písma."_s));
     make(platform.parts());
     EXPECT_FALSE(start({Qt::Key_N}));
+    make(platform.parts());
+    EXPECT_TRUE(start({Qt::Key_F4}));
 }
 
 TEST_F(SplashTest, TheIntroPlaysUntilItEndsOrSomebodyHasSeenEnough) {
     addIntro();
-    for (const bool byKey : {true, false}) {
+    for (const char* end : {"key", "mouse", "end"}) {
         FakeMultimedia* player = nullptr;
         QStringList commands;
-        makeWithPlayer([&](FakeMultimedia& made) { player = &made; });
+        makeWithPlayer([&](FakeMultimedia& made) {
+            player = &made;
+            made.wait = MediaWait::DontWait;
+        });
+        const auto parts = [&] {
+            QStringList names;
+            for (const Control* control : program->stage().focusForm()->findChildren<Control*>())
+                names << control->objectName();
+            return names;
+        };
+        const test::OnEvent watch(QEvent::Show, [&](const QObject* shown) {
+            if (shown->objectName() != u"frmHlavni") return;
+            EXPECT_EQ(player->commands.mid(2), QStringList{u"close"_s});
+            EXPECT_EQ(player->notify, MediaNotify::Off);
+            EXPECT_EQ(program->stage().findChild<Control*>(u"Picture1"_s), nullptr);
+        });
         QTimer::singleShot(0, [&] {
             commands = player->commands;
-            byKey ? QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q) : player->end();
+            EXPECT_EQ(player->wait, MediaWait::Wait);
+            EXPECT_EQ(parts(), (QStringList{u"Picture1"_s, u"lblPreskocit"_s}))
+                << "no edges at the design's shape";
+            if (*end == 'k') QTest::keyClick(QApplication::focusWidget(), Qt::Key_Q);
+            if (*end == 'm') QTest::mouseClick(program->stage().childAt(100, 100), Qt::LeftButton);
+            if (*end == 'e') player->end();
         });
         ASSERT_TRUE(start({}));
-        EXPECT_EQ(commands, (QStringList{u"open "_s + intro, u"play"_s}));
+        EXPECT_EQ(commands, (QStringList{u"open "_s + intro, u"play"_s})) << end;
         EXPECT_TRUE(program->mainScreen()->isVisible());
+    }
+}
+
+TEST_F(SplashTest, OnAWideDisplayTheFilmFadesIntoTheRoom) {
+    addIntro();
+    ASSERT_TRUE(test::write(folder.filePath(u"siroke/uvod.jpg"_s), test::plain({1280, 600}, Qt::red)));
+    makeWithPlayer([](FakeMultimedia& made) { made.video = {640, 480}; });
+    program->stage().resize(1280, 600);
+    QImage shown;
+    QStringList looks;
+    QTimer::singleShot(0, [&] {
+        looks = test::record(program->stage());
+        shown = program->stage().grab().toImage();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    });
+    ASSERT_TRUE(start({}));
+    test::expectAsKept(u"uvodni-film"_s, looks);
+    const auto red = [&](int x) { return shown.pixelColor(x, 300).red(); };
+    EXPECT_GT(red(100), 250) << "the room";
+    const std::pair<int, int> fade[] = {{241, 240}, {245, 190}, {250, 125}, {255, 60}, {259, 10}, {263, 0}};
+    for (const auto& [x, expected] : fade) {
+        EXPECT_NEAR(red(x), expected, 12) << x;
+        EXPECT_NEAR(red(1279 - x), expected, 12) << "the right edge, " << x;
     }
 }
 
@@ -178,8 +213,6 @@ TEST_F(SplashTest, WhenTheSystemEndsTheProgramTheStartEndsToo) {
     QTimer::singleShot(0, [&] { program->endAtOnce(); });
     EXPECT_FALSE(start({})) << "the film no longer holds it";
     EXPECT_EQ(program->mainScreen(), nullptr);
-    QTimer::singleShot(0, [] { QApplication::exit(); });  // this process goes on
-    QApplication::exec();
 }
 
 /// A screen with words that are not stored.
@@ -215,14 +248,23 @@ TEST_F(SplashTest, WordsAreKeptHoweverTheSystemEndsTheProgram) {
         QApplication::processEvents();
         EXPECT_TRUE(QFile::exists(kept)) << way;
     }
-    QTimer::singleShot(0, [] { QApplication::exit(); });  // this process goes on
-    QApplication::exec();
+    make(platform.parts());
+    new Typed(*program, folder.filePath(u"slova"_s));
+    ends[2]();
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"slova"_s))) << "nobody has asked for that";
 }
 
 TEST_F(SplashTest, AnIntroThatCannotBePlayedIsSkipped) {
     addIntro();
-    makeWithPlayer([](FakeMultimedia& made) { made.failing[u"open"_s] = MediaError::InvalidFile; });
-    EXPECT_TRUE(start({}));
+    for (const char* command : {"open", "play"}) {
+        makeWithPlayer(
+            [&](FakeMultimedia& made) { made.failing[QLatin1String(command)] = MediaError::InvalidFile; });
+        EXPECT_TRUE(start({}));
+    }
+    PlatformParts parts = platform.parts();
+    parts.makePlayer = {};
+    make(parts);
+    EXPECT_TRUE(start({})) << "there is no player at all";
 }
 
 TEST_F(SplashTest, ThePicturesAreToldApartByTheirOrder) {
@@ -239,19 +281,70 @@ TEST_F(SplashTest, ThePicturesAreToldApartByTheirOrder) {
             insert.exec();
         }
     }
+    const QStringList names{u"hlavni"_s, u"konec"_s, u"video"_s, u"seznam"_s, u"recept"_s, u"Sit"_s};
+    for (int i = 0; i < names.size(); ++i)
+        ASSERT_TRUE(test::write(folder.filePath(u"siroke/%1.jpg"_s.arg(names[i])),
+                                test::plain({160, 60}, QColor(40 * i, 255 - 40 * i, 90))));
     ASSERT_TRUE(start({}));
     const ScreenPictures& rooms = program->Pictures;
     const Room* const inOrder[] = {&rooms.hlavni, &rooms.konec,  &rooms.video,
                                    &rooms.seznam, &rooms.recept, &rooms.Sit};
-    for (size_t i = 0; i < std::size(colours); ++i) {
+    const auto wide = [](const Room& room) {
+        QImage image(160, 60, QImage::Format_RGB32);
+        QPainter painter(&image);
+        painter.scale(.02 / 3, .02 / 3);
+        painter.translate(6000, 0);
+        room.compose(painter, {-6000, 0, 24000, 9000});
+        return image.pixelColor(80, 30);
+    };
+    for (int i = 0; i < names.size(); ++i) {
         ASSERT_FALSE(inOrder[i]->isNull()) << i;
         EXPECT_EQ(inOrder[i]->design().image().pixelColor(3, 3), colours[i]) << i;
+        EXPECT_NEAR(wide(*inOrder[i]).red(), 40 * i, 6) << i;
     }
+    EXPECT_EQ(wide(rooms.stranka), wide(rooms.seznam)) << "where pages have none of their own";
+    QString ground;
+    const test::OnEvent watch(QEvent::Show, [&](const QObject* shown) {
+        if (qobject_cast<const frmSplash*>(shown))
+            ground = test::record(program->stage()).filter(u"frmSplash| picture"_s).value(0);
+    });
+    end();
+    EXPECT_TRUE(ground.contains(colours[1].name())) << "the last picture: " << ground.toStdString();
+    ASSERT_TRUE(test::write(folder.filePath(u"siroke/stranka.jpg"_s), test::plain({160, 60}, Qt::white)));
+    make(platform.parts());
+    ASSERT_TRUE(start({}));
+    EXPECT_GT(wide(program->Pictures.stranka).red(), 250);
+}
+
+TEST_F(SplashTest, ItIsPaintedAtOnceHoweverLongTheNextStepTakes) {
+    int painted = 0;
+    const test::OnEvent watch(QEvent::Paint, [&](const QObject* shown) {
+        painted += qobject_cast<const frmSplash*>(shown) != nullptr;
+    });
+    ASSERT_TRUE(start({}));
+    EXPECT_GT(painted, 0);
+    painted = 0;
+    end();
+    EXPECT_GT(painted, 0);
+}
+
+TEST_F(SplashTest, TheKitchenIsBegunWithWhereItsWidePictureShows) {
+    ASSERT_TRUE(test::write(folder.filePath(u"siroke/hlavni.jpg"_s), test::plain({160, 60}, Qt::red)));
+    const auto isBegun = [&](QSize size, bool contrast) {
+        make(platform.parts());
+        program->stage().eyes().setContrast(contrast);
+        program->stage().resize(size);
+        beginKitchen(*program);
+        return !program->Pictures.hlavni.isNull();
+    };
+    EXPECT_TRUE(isBegun({1280, 600}, false));
+    EXPECT_FALSE(isBegun({1280, 600}, true));
+    EXPECT_FALSE(isBegun({1024, 768}, false)) << "the design's own shape";
 }
 
 TEST_F(SplashTest, ItSaysTheTitleAtTheStartAndTheEndAtTheEnd) {
     QStringList said, looks;
-    const test::OnShow watch([&](const QObject* shown) {
+    const test::OnEvent watch(QEvent::Show, [&](const QObject* shown) {
         const auto* splash = qobject_cast<const frmSplash*>(shown);
         if (!splash || said.contains(splash->accessibleName())) return;
         said << splash->accessibleName();
@@ -260,8 +353,7 @@ TEST_F(SplashTest, ItSaysTheTitleAtTheStartAndTheEndAtTheEnd) {
         looks << u"> "_s + said.last() << test::record(program->stage()).filter(own);
     });
     ASSERT_TRUE(start({}));
-    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); });
-    program->ConfirmExit();
+    end();
     EXPECT_EQ(said, (QStringList{u"Velisa sarn - Lumora"_s, u"Ukončení progamu"_s}));
     test::expectAsKept(u"uvod-a-zaver"_s, looks);
 }

@@ -1,17 +1,23 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QTemporaryDir>
-#include <QTest>
+#include <QTranslator>
 #include <QWidget>
+#include <QWindow>
+#include <optional>
 
+#include "app/condition.h"
 #include "app/kepteyes.h"
 #include "app/language.h"
 #include "app/windowplace.h"
 #include "db/userfile.h"
 #include "forms/eyes.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
@@ -21,6 +27,7 @@ TEST(WindowPlaceTest, TheDisplayIsTheOneThatHoldsThePoint) {
     EXPECT_EQ(displayAt(displays, {5, 5}), 0);
     EXPECT_EQ(displayAt(displays, {1920, 200}), 1);
     EXPECT_EQ(displayAt(displays, {2500, 10}), 1) << "beside them all: the nearest one";
+    EXPECT_EQ(displayAt({displays[1], displays[0], displays[0]}, {5, 5}), 1) << "of two alike the first";
     EXPECT_EQ(displayAt({}, {5, 5}), -1);
 }
 
@@ -30,52 +37,129 @@ TEST(WindowPlaceTest, AWindowIsOfTheDesignsShapeAndNoLargerThanItsRoom) {
     EXPECT_EQ(windowWithin({0, 0, 640, 400}), QRect(53, 0, 533, 400));
 }
 
-TEST(WindowPlaceTest, FillsTheDisplayOrStandsInItsMiddle) {
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    QWidget window;
-    WindowPlace whole(window, WindowKind::FullScreen);
-    whole.show();
-    EXPECT_TRUE(window.isFullScreen());
-    EXPECT_EQ(window.geometry(), screen->geometry());
-    QTest::keyClick(&window, Qt::Key_F8);
-    EXPECT_TRUE(window.isFullScreen()) << "there is no other display";
-    QWidget other;
-    WindowPlace part(other, WindowKind::Window);
-    part.show();
-    EXPECT_TRUE(other.isVisible() && !other.isFullScreen());
-    EXPECT_EQ(other.geometry(), windowWithin(screen->availableGeometry()));
+/// The two displays are those of displays.json.
+TEST(WindowPlaceTest, FillsADisplayOrStandsInItsMiddle) {
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    ASSERT_EQ(screens.size(), 2);
+    const auto expected = [&](WindowKind kind, int display) {
+        return kind == WindowKind::FullScreen ? screens[display]->geometry()
+                                              : windowWithin(screens[display]->availableGeometry());
+    };
+    for (const WindowKind kind : {WindowKind::FullScreen, WindowKind::Window}) {
+        QWidget window;
+        QCursor::setPos(screens[1]->geometry().center());
+        WindowPlace place(window, kind);
+        place.settle();
+        EXPECT_FALSE(window.isVisible());
+        EXPECT_EQ(window.geometry(), expected(kind, 1)) << "where the pointer is";
+        place.show();
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(window.isFullScreen(), kind == WindowKind::FullScreen);
+        const auto press = [&](QObject* on, Qt::Key key, Qt::KeyboardModifiers modifiers = {},
+                               bool again = false) {
+            QKeyEvent event(QEvent::KeyPress, key, modifiers, {}, again);
+            QCoreApplication::sendEvent(on, &event);
+            return window.geometry();
+        };
+        QWindow* window1 = window.windowHandle();
+        for (const int display : {0, 1, 0}) EXPECT_EQ(press(window1, Qt::Key_F8), expected(kind, display));
+        EXPECT_EQ(window.isFullScreen(), kind == WindowKind::FullScreen);
+        EXPECT_EQ(press(window1, Qt::Key_F8, Qt::ShiftModifier), expected(kind, 0));
+        EXPECT_EQ(press(window1, Qt::Key_F8, {}, true), expected(kind, 0)) << "held down";
+        EXPECT_EQ(press(window1, Qt::Key_F7), expected(kind, 0));
+        EXPECT_EQ(press(&window, Qt::Key_F8), expected(kind, 0)) << "the window alone";
+
+        const QRect elsewhere(30, 40, 500, 300);
+        const auto changed = [&](int display) {
+            window.setGeometry(elsewhere);
+            Q_EMIT screens[display]->geometryChanged({});
+            return window.geometry();
+        };
+        EXPECT_EQ(changed(0), kind == WindowKind::FullScreen ? expected(kind, 0) : elsewhere) << "a new mode";
+        EXPECT_EQ(changed(1), elsewhere) << "of the other display";
+        const auto gone = [&](int display) {
+            window.setGeometry(elsewhere);
+            Q_EMIT qApp->screenRemoved(screens[display]);
+            QCoreApplication::sendPostedEvents(&place);
+            return window.geometry();
+        };
+        EXPECT_EQ(gone(1), elsewhere);
+        EXPECT_EQ(gone(0), expected(kind, 1)) << "to where the pointer is";
+    }
 }
 
-TEST(Language, QtsOwnTextsAreCzechWhateverTheUsersLanguage) {
-    installLanguage({u"xx-XX"_s, u"en-US"_s});
-    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), u"Zrušit"_s);
-    EXPECT_EQ(QCoreApplication::translate("QPrintDialog", "Print"), u"Tisk"_s);
+TEST(Language, TheFirstOfTheUsersThatThereIsElseCzech) {
+    // The texts of the language xx are here Qt's German ones.
+    const struct {
+        QStringList wanted;
+        const char* cancel;
+    } cases[] = {{{}, "Zrušit"},
+                 {{u"en-US"_s}, "Zrušit"},
+                 {{u"yy"_s, u"xx-XX"_s, u"cs-CZ"_s}, "Abbrechen"},
+                 {{u"cs-CZ"_s, u"xx"_s}, "Zrušit"}};
+    for (const auto& c : cases) {
+        installLanguage(c.wanted);
+        EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString::fromUtf8(c.cancel));
+        qDeleteAll(qApp->findChildren<QTranslator*>());
+    }
 }
 
 TEST(KeptEyes, WhatTheUserChoosesOutlivesTheRunAndTheDesktopsWishes) {
     QTemporaryDir folder;
-    const QString file = folder.filePath(u"vlastni.db"_s);
-    {
-        UserFile kept(file);
+    QStringList diary;
+    struct Run {
+        UserFile file;
         Eyes eyes;
-        KeptEyes keeping(eyes, kept);
-        keeping.follow({true, true});
-        EXPECT_TRUE(eyes.isCalm());
-        EXPECT_TRUE(kept.value(u"Calm"_s).isEmpty()) << "a wish is no choice";
-        EXPECT_TRUE(eyes.stepText(1));
-        eyes.setContrast(false);
-        EXPECT_EQ(kept.value(u"TextPercent"_s), u"125"_s);
-        EXPECT_EQ(kept.value(u"Contrast"_s), u"0"_s);
+        KeptEyes keeping{eyes, file};
+        explicit Run(const QString& name) : file(name) {}
+    };
+    std::optional<Run> run;
+    const std::pair<const char*, std::function<void()>> steps[] = {
+        {"run", [&] { run.emplace(folder.filePath(u"vlastni.db"_s)); }},
+        {"wished calm contrast",
+         [&] {
+             run->keeping.follow({true, true});
+         }},
+        {"larger", [&] { run->eyes.stepText(1); }},
+        {"no contrast", [&] { run->eyes.setContrast(false); }},
+        {"run", [&] { run.emplace(folder.filePath(u"vlastni.db"_s)); }},
+        {"wished calm contrast",
+         [&] {
+             run->keeping.follow({true, true});
+         }},
+        {"wished contrast",
+         [&] {
+             run->keeping.follow({false, true});
+         }},
+        {"calm", [&] { run->eyes.setCalm(true); }},
+        {"contrast", [&] { run->eyes.setContrast(true); }},
+        {"wished nothing", [&] { run->keeping.follow({}); }},
+        {"run", [&] { run.emplace(folder.filePath(u"vlastni.db"_s)); }},
+        {"smaller", [&] { run->eyes.stepText(-1); }},
+        {"not calm", [&] { run->eyes.setCalm(false); }},
+        {"run", [&] { run.emplace(folder.filePath(u"vlastni.db"_s)); }},
+    };
+    for (const auto& [name, act] : steps) {
+        act();
+        const auto kept = [&](const char* value) { return run->file.value(QLatin1String(value)); };
+        diary << u"%1 ⇒ %2 % calm %3 contrast %4, kept '%5' '%6' '%7'"_s.arg(QLatin1String(name))
+                     .arg(run->eyes.textPercent())
+                     .arg(run->eyes.isCalm())
+                     .arg(run->eyes.hasContrast())
+                     .arg(kept("TextPercent"), kept("Calm"), kept("Contrast"));
     }
-    UserFile kept(file);
-    Eyes eyes;
-    KeptEyes keeping(eyes, kept);
-    EXPECT_EQ(eyes.textPercent(), 125);
-    keeping.follow({true, true});
-    EXPECT_TRUE(eyes.isCalm()) << "follows the desktop";
-    EXPECT_FALSE(eyes.hasContrast()) << "the user has said otherwise";
-    keeping.follow({false, true});
-    EXPECT_FALSE(eyes.isCalm());
+    test::expectText(u"oci"_s, diary.join(u'\n'));
+}
+
+TEST(Condition, TheHelpTellsWhatIsMissingAndKept) {
+    const Condition all{
+        u"/kniha/Sarne.drc"_s, u"D:\\"_s, {u"/data/a"_s, u"/data/b"_s}, {{77, u"Úhoř"_s, u"víc soli"_s}}};
+    QStringList told;
+    for (const char* form : {"frmHlavni", "frmNastavHudbu", "frmSit"})
+        for (const Condition& condition : {all, Condition()})
+            for (const PageAddition& one : helpAdditions(QLatin1String(form), condition))
+                told << u"%1: %2: %3"_s.arg(QLatin1String(form), one.heading, one.text);
+    test::expectText(u"stav"_s, told.join(u'\n'));
 }
 
 TEST(Eyes, TextsHaveThreeSizes) {

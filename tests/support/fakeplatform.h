@@ -15,11 +15,14 @@
 
 namespace sarne {
 
-/// Keeps what was announced.
+/// Writes down what is announced.
 class FakeAnnouncer final : public Announcer {
   public:
-    QStringList texts;
-    void announce(const QString& text) override { texts.append(text); }
+    explicit FakeAnnouncer(QStringList& texts) : texts_(texts) {}
+    void announce(const QString& text) override { texts_ << text; }
+
+  private:
+    QStringList& texts_;
 };
 
 /// Counts the beeps.
@@ -54,6 +57,7 @@ class FakePlatform {
     FakeSleepInhibitor sleep;
     FakePrinter printer;
     FakeSpeech speech;
+    QStringList announced;
 
     FakePlatform() { display.size = {800, 600}; }
     PlatformParts parts() {
@@ -67,7 +71,7 @@ class FakePlatform {
                 printer,
                 speech,
                 [] { return std::make_unique<FakeMultimedia>(); },
-                [](QObject&) { return std::make_unique<FakeAnnouncer>(); }};
+                [this](QObject&) { return std::make_unique<FakeAnnouncer>(announced); }};
     }
 };
 
