@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QTest>
+
 #include "forms/button.h"
 #include "forms/buttonbar.h"
 #include "forms/checkbox.h"
@@ -8,7 +10,9 @@
 #include "forms/label.h"
 #include "forms/listbox.h"
 #include "forms/noteedit.h"
+#include "forms/panel.h"
 #include "forms/progressbar.h"
+#include "forms/resources.h"
 #include "forms/starrow.h"
 #include "forms/textview.h"
 #include "support/explore.h"
@@ -20,6 +24,7 @@ namespace {
 
 using test::explore;
 using test::Look;
+using test::walk;
 
 constexpr BarFace kFaces[] = {{"Tisk", "Tisk", "Vytiskne", &Form::help},
                               {"Help", "Nápověda"},
@@ -54,6 +59,8 @@ class Screen : public Form {
     }
 
     bool keyDown(QKeyEvent& event) override {
+        for (auto* stars : findChildren<StarRow*>())
+            if (stars->hasFocus() && stars->keyDown(event)) return true;
         auto* view = findChild<TextView*>();
         return (view && view->keyDown(event)) || Form::keyDown(event);
     }
@@ -86,8 +93,8 @@ void texts(Screen& screen) {
     large.setGrows(false);
     QObject::connect(&link, &Label::clicked, [&large] { large.setText(u"otevřeno"_s); });
     auto& narrow = screen.add<Label>("lblE", {4600, 1200, 0, 0});
-    narrow.setText(u"Chcete program  ukončit při 80–85 °C?  "_s);
-    narrow.autoSize(1000);
+    narrow.setText(u"Chcete program  ukončit při 80 °C?  "_s);
+    narrow.autoSize(850);
     auto& off = screen.add<Label>("lblF", {7000, 300, 0, 0});
     off.setText(u"Nejde  "_s);
     off.autoSize();
@@ -144,6 +151,7 @@ void choices(Screen& screen) {
     other.setChecked(true);
     auto& list = screen.add<ListBox>("lst", {4000, 300, 3000, 1500});
     list.setFont(kSans);
+    list.setAccessibleName(u"Ryby"_s);
     list.setItems({u"Amur"_s, u"Kapr"_s, u"Lín"_s, u"Okoun"_s, u"Štika"_s, u"Úhoř"_s}, {1, 2, 3, 4, 5, 6});
     list.setListIndex(1);
     for (const auto& [maximum, value] : {std::pair(8, 3), {5, -3}, {5, 100}, {0, 1}}) {
@@ -152,7 +160,10 @@ void choices(Screen& screen) {
         bar.setValue(value);
         if (value < 0) bar.advance();
     }
-    screen.add<StarRow>("hvezdy", {4000, 2800, 2000, 450}).setStars(3);
+    auto& stars = screen.add<StarRow>("hvezdy", {4000, 2800, 2000, 450});
+    stars.setStars(3);
+    QObject::connect(&stars, &StarRow::given, &screen,
+                     [&screen](int given) { screen.say(u"%1 %2"_s.arg(given).arg(starText(given))); });
 }
 
 void entries(Screen& screen) {
@@ -185,6 +196,7 @@ void reading(Screen& screen) {
     auto& gone = screen.add<TextView>("picSkryty", {600, 5000, 5000, 300});
     gone.drawRichText(u"slovo "_s.repeated(300));
     gone.hide();
+    screen.add<TextView>("picPrazdny", {600, 8300, 500, 300});
     auto& picture = screen.add<PictureBox>("pic", {7000, 600, 3000, 2000});
     picture.setPicture(Picture::fromImage(screen.face("Tisk").image()));
     picture.setTip(u"Obrázek"_s);
@@ -196,20 +208,163 @@ void reading(Screen& screen) {
     drawn.drawPicture(screen.face("Help"), {100, 1000, 900, 900}, Fit::Cover);
 }
 
+/// Paints a piece of each ground that texts and rows stand on.
+struct Grounds final : Control {
+    using Control::Control;
+    void paint(QPainter& painter) override {
+        paintPanel(painter, {0, 0, 1500, 1500}, form().resources().picture(u"menu"_s));
+        paintPlate(painter, {1600, 0, 900, 900});
+        paintPaper(painter, {2600, 0, 900, 900});
+        paintSheet(painter, {3600, 0, 900, 900});
+        paintRowFrame(painter, {4600, 0, 900, 900});
+    }
+};
+
+/// Buttons while they are pressed.
+void pressed(Screen& screen) {
+    int x = 300;
+    for (const auto frame : {Button::Frame::None, Button::Frame::Raised, Button::Frame::Pressed})
+        for (const bool isFaced : {true, false}) {
+            auto& button = screen.add<Button>(qPrintable(u"cmd(%1)"_s.arg(x)), {x, 300, 1100, 900});
+            if (isFaced) button.setFace(screen.face("Tisk"));
+            button.setFrame(frame);
+            button.setCaption(u"&Kapr"_s);
+            x += 1200;
+        }
+    for (Button* button : screen.findChildren<Button*>()) QTest::mousePress(button, Qt::LeftButton);
+    screen.add<Button>("cmdKlid", {300, 1500, 1100, 900}).setLatched(false);
+    screen.add<Button>("cmdNizky", {1500, 1500, 1100, 990}).setCaptionPlace(Button::CaptionPlace::Below);
+    child<Button>(screen, "cmdNizky")->setCaption(u"Recept"_s);
+    auto& latched = screen.add<Button>("cmdStisk", {2700, 1500, 1100, 900});
+    latched.setLatched(true);
+    latched.setEnabled(false);
+    screen.add<Grounds>("deska", {300, 3000, 6000, 1500});
+}
+
+/// Makes of each of \a changes a control that looks as \a begin says, until the screen is to change.
+template <typename Kind>
+void addChanging(Screen& screen, const char* name, void (*begin)(Kind&),
+                 std::initializer_list<void (*)(Kind&)> changes) {
+    for (const auto change : changes) {
+        const int at = screen.findChildren<Control*>(Qt::FindDirectChildrenOnly).count();
+        auto& control = screen.add<Kind>(qPrintable(u"%1(%2)"_s.arg(QLatin1String(name)).arg(at)),
+                                         {at % 12 * 990, at / 12 * 900, 980, 750});
+        begin(control);
+        QObject::connect(child<Button>(screen, "cmdZmena"), &Control::clicked, &control,
+                         [&control, change] { change(control); });
+    }
+}
+
+/// Everything that can be told to a control that shows already: what it does not paint anew is stale.
+void changing(Screen& screen) {
+    screen.add<Button>("cmdZmena", {0, 8400, 900, 600});
+    addChanging<Button>(
+        screen, "cmd", [](Button& one) { one.setCaption(u"Kapr"_s); },
+        {[](Button& one) { one.setFace(one.form().resources().picture(u"Tisk"_s)); },
+         [](Button& one) { one.setFrame(Button::Frame::Raised); },
+         [](Button& one) { one.setCaption(u"&Lín"_s); }, [](Button& one) { one.setFont(kSerif); },
+         [](Button& one) { one.setGround(Qt::blue); }, [](Button& one) { one.setEnabled(false); },
+         [](Button& one) { one.setCaptionPlace(Button::CaptionPlace::Below); },
+         [](Button& one) { one.dressAsText(u"Sumec"_s, u"Velký sumec"_s); }});
+    addChanging<Label>(
+        screen, "lbl", [](Label& one) { one.setText(u"Kapr na kmíně"_s); },
+        {[](Label& one) { one.setText(u"Lín"_s); }, [](Label& one) { one.setFont(kSerif); },
+         [](Label& one) { one.setColor(Qt::red); }, [](Label& one) { one.setAlignment(Qt::AlignRight); },
+         [](Label& one) { one.setGround(Qt::blue); }, [](Label& one) { one.setWordWrap(true); },
+         [](Label& one) { one.setMargins(150, 30); }, [](Label& one) { one.setClickable(true); },
+         [](Label& one) { one.setGrows(false); }, [](Label& one) { one.setEnabled(false); }});
+    addChanging<CheckBox>(
+        screen, "chk", [](CheckBox& one) { one.setCaption(u"Kapr"_s); },
+        {[](CheckBox& one) { one.setChecked(true); }, [](CheckBox& one) { one.setCaption(u"Lín "_s); },
+         [](CheckBox& one) { one.setFont(kSerif); }, [](CheckBox& one) { one.setColor(Qt::red); },
+         [](CheckBox& one) { one.setEnabled(false); },
+         [](CheckBox& one) { one.setMarkPictures({}, one.form().resources().picture(u"VolbaNe"_s)); }});
+    addChanging<ProgressBar>(
+        screen, "prg", [](ProgressBar& one) { one.setValue(30); },
+        {[](ProgressBar& one) { one.setValue(70); }, [](ProgressBar& one) { one.setMaximum(40); },
+         [](ProgressBar& one) { one.setMaximum(20); }});
+    addChanging<StarRow>(screen, "hvezdy", [](StarRow& one) { one.setStars(2); },
+                         {[](StarRow& one) { one.setStars(4); }, [](StarRow& one) { one.setStars(9); }});
+    addChanging<PictureBox>(
+        screen, "pic", [](PictureBox& one) { one.print(u"Kapr\n"_s.repeated(9)); },
+        {[](PictureBox& one) { one.setPicture(one.form().resources().picture(u"Tisk"_s)); },
+         [](PictureBox& one) {
+             one.setFont(kSerif);
+             one.print(u"%1 %2"_s.arg(one.textWidth(u"Lín"_s)).arg(one.textAscent()));
+         },
+         [](PictureBox& one) {
+             one.drawPicture(one.form().resources().picture(u"Tisk"_s), {9, 9, 300, 600});
+         },
+         [](PictureBox& one) { one.Cls(); }, [](PictureBox& one) { one.textOut(300, 700, u"Lín"_s); },
+         [](PictureBox& one) {
+             one.addPainted([](QPainter& painter, const QRect& seen) { painter.fillRect(seen, Qt::red); },
+                            900);
+         }});
+    addChanging<TextView>(
+        screen, "view", [](TextView& one) { one.drawPlainText(u"Kapr Lín Sumec Úhoř Okoun"_s); },
+        {[](TextView& one) { one.drawRichText(test::rtf(u"\\b Amur\\par *12kapr*"_s)); },
+         [](TextView& one) { one.Cls(); }, [](TextView& one) { one.scrollBy(300); },
+         [](TextView& one) { one.setEnabled(false); }, [](TextView& one) { one.setVisible(false); },
+         [](TextView& one) { one.drawFilling([&one] { one.drawPlainText(u"Kapr"_s); }); }});
+    addChanging<Edit>(screen, "txt", [](Edit& one) { one.setText(u"kapr"_s); },
+                      {[](Edit& one) { one.setText(u"lín"_s); }, [](Edit& one) { one.setFont(kSerif); },
+                       [](Edit& one) { one.setSteps(1, 3); }, [](Edit& one) { one.setSign(false); },
+                       [](Edit& one) { one.type(u"7"_s); }, [](Edit& one) { one.takeBack(); },
+                       [](Edit& one) { one.setMaxLength(2); }, [](Edit& one) { one.focusAll(); }});
+    addChanging<NoteEdit>(
+        screen, "note",
+        [](NoteEdit& one) {
+            one.place(one.twips().adjusted(0, 0, 1500, 900));
+            one.setText(u"Kapr"_s);
+        },
+        {[](NoteEdit& one) { one.setText(u"Lín\nSumec"_s); }, [](NoteEdit& one) { one.setFont(kSerif); }});
+    addChanging<ListBox>(screen, "lst",
+                         [](ListBox& one) {
+                             one.setItems({u"Kapr"_s, u"Lín"_s, u"Úhoř"_s}, {1, 2, 3});
+                         },
+                         {[](ListBox& one) {
+                              one.setItems({u"Sumec"_s, u"Amur"_s}, {4});
+                          },
+                          [](ListBox& one) { one.setFont(kSerif); },
+                          [](ListBox& one) { one.setListIndex(2); }, [](ListBox& one) { one.scrollTo(1); }});
+}
+
+void openWith(void (*fill)(Screen&), const Look& look) {
+    FakeSarne run;
+    auto* screen = new Screen(run);
+    fill(*screen);
+    screen->open();
+    look(run);
+}
+
 TEST(Looks, Controls) {
     const struct {
         const char* name;
         void (*fill)(Screen&);
     } screens[] = {
         {"texty", texts}, {"tlacitka", buttons}, {"volby", choices}, {"zapisy", entries}, {"cteni", reading}};
-    for (const auto& one : screens)
-        explore(one.name, [&](const Look& look) {
-            FakeSarne run;
-            auto* screen = new Screen(run);
-            one.fill(*screen);
-            screen->open();
-            look(run);
-        });
+    for (const auto& one : screens) explore(one.name, [&](const Look& look) { openWith(one.fill, look); });
+}
+
+TEST(Looks, WhatIsToldLaterShowsAtOnce) {
+    for (const char* size : {"100", "150"})
+        walk(
+            qPrintable(u"zmeny-"_s + QLatin1String(size)), [](const Look& look) { openWith(changing, look); },
+            qPrintable(u"letters:%1 click:cmdZmena"_s.arg(QLatin1String(size))));
+}
+
+TEST(Looks, PressedWithAndWithoutPictures) {
+    test::expectLooks("stisknute", [](const Look& look) { openWith(pressed, look); });
+    test::expectLooks("stisknute-bez-obrazku", [](const Look& look) {
+        FakeSarne::resourceFolder = u":/none/"_s;
+        openWith(pressed, look);
+    });
+}
+
+TEST(Looks, StarsByKeyboard) {
+    walk(
+        "hvezdy", [](const Look& look) { openWith(choices, look); },
+        "click:hvezdy 4 Enter Return Space Return 1 0 5 Shift+2 Ctrl+3 6 A");
 }
 
 TEST(Looks, LetterBoard) {

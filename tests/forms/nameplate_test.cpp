@@ -5,6 +5,8 @@
 #include <QTest>
 
 #include "forms/button.h"
+#include "forms/label.h"
+#include "support/explore.h"
 #include "support/fakesarne.h"
 
 namespace sarne {
@@ -123,6 +125,78 @@ TEST_F(NamePlateTest, NamesAtOnceWhatTheKeyboardReaches) {
     second.setTip(u"Velký hrnec"_s);
     EXPECT_EQ(plate().text(), u"Velký hrnec"_s);
     EXPECT_EQ(second.accessibleName(), u"Velký hrnec"_s);
+}
+
+/// Things with names, all over the stage; a timer changes "cmdMeni" step by step.
+class Named : public Form {
+  public:
+    Named(FakeSarne& run, bool isChanging) : Form(run, u"frmUkazka"_s), timer_(new Timer(this)) {
+        run.PushScreen(*this);
+        Button& changing = add("cmdMeni", {3000, 3000, 900, 900}, u"Pánev"_s);
+        add("cmdDlouhy", {300, 300, 900, 900}, u"Dlouhé jméno věci, které se na jednu řádku nevejde"_s);
+        add("cmdRoh", {11400, 8400, 600, 600}, u"Konec"_s);
+        add("cmdNejde", {5000, 6000, 900, 900}, u"Nejde"_s).setEnabled(false);
+        add("cmdText", {7000, 6000, 3600, 540}, u"Storno"_s).dressAsText(u"Storno"_s);
+        add("cmdMaly", {7000, 7000, 600, 540}, u"Jídelníček"_s).dressAsText(u"Jídelníček"_s);
+        add("cmdBezejmenny", {9000, 3000, 900, 900}, {});
+        ring().setStops(stops_);
+        showForm();
+        if (!isChanging) return;
+        timer_->setInterval(1000);
+        timer_->setEnabled(true);
+        connect(timer_, &Timer::tick, this, [this, &changing] {
+            const auto tip = [&changing](const QString& text) { changing.setTip(text); };
+            switch (++ticks_) {
+                case 2:
+                    return changing.moveTo({3000, 6000});
+                case 3:
+                    return tip(u"Velká pánev"_s);
+                case 4:
+                    return changing.place({3000, 6000, 1500, 1500});
+                case 5:
+                    return tip(u"Hrnec"_s);
+                case 6:
+                    return changing.hide();
+                case 7:
+                    return changing.show();
+                case 8:
+                    return changing.setEnabled(false);
+            }
+        });
+    }
+
+  private:
+    Button& add(const char* name, const QRect& place, const QString& tip) {
+        auto* button = new Button(*this, QString::fromLatin1(name));
+        button->place(place);
+        button->setTip(tip);
+        stops_.push_back(button);
+        return *button;
+    }
+    std::vector<TwipWidget*> stops_;
+    Timer* timer_;
+    int ticks_ = 0;
+};
+
+TEST(NamePlates, StepByStep) {
+    const struct {
+        const char *name, *way;
+    } ways[] = {
+        {"jmenovky",
+         "hover:cmdRoh tick hover:cmdDlouhy hover:cmdText hover:cmdRoh hover:cmdBezejmenny tick "
+         "hover:cmdNejde "
+         "tick hover:cmdMaly letters:150 hover:cmdText hover:cmdMaly tick hover:cmdDlouhy wheel:cmdDlouhy "
+         "tick hover:cmdRoh tick hover:769,569 over pop hover:cmdDlouhy tick click:cmdDlouhy tick "
+         "hover:41,41 "
+         "hover:cmdRoh hover:cmdDlouhy tick"},
+        {"jmenovka-se-meni",
+         "hover:cmdMeni tick tick tick tick tick tick tick hover:cmdRoh hover:cmdMeni tick"},
+        {"jmenovky-klavesnici", "Tab Tab Tab Tab Tab hover:cmdRoh Shift+Tab A"}};
+    test::walkEach(ways, [](const auto& one, const test::Look& look) {
+        FakeSarne run;
+        new Named(run, QLatin1String(one.name) == "jmenovka-se-meni"_L1);
+        look(run);
+    });
 }
 
 }  // namespace

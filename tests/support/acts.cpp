@@ -10,6 +10,7 @@
 #include "forms/control.h"
 #include "forms/timer.h"
 #include "support/fakesarne.h"
+#include "support/wheel.h"
 
 namespace sarne::test {
 namespace {
@@ -126,7 +127,9 @@ QStringList outOfReach(const FakeSarne& run) {
 
 void perform(FakeSarne& run, const QString& word) {
     const QString verb = word.section(u':', 0, 0), what = word.section(u':', 1);
-    if (verb == u"click" || verb == u"double" || verb == u"hover")
+    if (verb == u"wheel")
+        wheel(*front(run)->findChild<Control*>(what), -120);
+    else if (verb == u"click" || verb == u"double" || verb == u"hover")
         useMouse(run, what, verb != u"hover", verb == u"double");
     else if (verb == u"type")
         type(run, what);
@@ -136,6 +139,8 @@ void perform(FakeSarne& run, const QString& word) {
         run.time.time += what.toInt();
     else if (verb == u"tick")
         tick(run);
+    else if (verb == u"letters")
+        run.window.eyes().setTextPercent(what.toInt());
     else if (verb == u"over")
         run.openAbove("frmNad");
     else if (verb == u"pop")

@@ -30,10 +30,12 @@ QStringList outOfReach(const FakeSarne& run);
 ///   click:NAME double:NAME hover:NAME  the mouse in the middle of a control of the form that is highest up,
 ///                                      or of its part ("picText.2"); "^NAME" is of the one below, "300,580"
 ///                                      are pixels of the stage
+///   wheel:NAME  the wheel over a control of the form in front, a notch down
 ///   type:letters
 ///   answer:7    what the next question is answered
 ///   wait:5000   milliseconds of the clock
 ///   tick        every timer that runs
+///   letters:150 how large the eyes want texts, in percent
 ///   over, pop   another screen comes over it and goes again
 void perform(FakeSarne& run, const QString& word);
 

@@ -134,7 +134,7 @@ class Writer final : public QPaintEngine {
     void shape(const QString& kind, const QRectF& place) {
         const QString pen = pen_.style() == Qt::NoPen
                                 ? u"-"_s
-                                : u"%1/%2"_s.arg(colorText(pen_.color())).arg(std::lround(pen_.widthF()));
+                                : u"%1/%2"_s.arg(brushText(pen_.brush())).arg(std::lround(pen_.widthF()));
         write(u"%1 %2 %3"_s.arg(kind, brushText(brush_), pen), place);
     }
     /// Things of one look in a row are one line: the pieces of a frame, the dots of an underline.
