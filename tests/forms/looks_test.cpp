@@ -170,6 +170,7 @@ void entries(Screen& screen) {
     auto& text = screen.add<Edit>("txtA", {300, 300, 3000, 450});
     text.setFont(kSans);
     text.setText(u"kapr"_s);
+    QObject::connect(&text, &Edit::textChanged, &screen, [&screen](const QString& now) { screen.say(now); });
     auto& number = screen.add<Edit>("txtB", {300, 1000, 1500, 450});
     number.setFont(kSerif);
     number.setText(u"4"_s);
