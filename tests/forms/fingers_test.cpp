@@ -5,9 +5,12 @@
 #include <QTest>
 
 #include "forms/button.h"
+#include "forms/entrylist.h"
+#include "forms/holdrepeat.h"
 #include "forms/nameplate.h"
 #include "forms/textview.h"
 #include "support/fakesarne.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
@@ -19,19 +22,33 @@ struct Touched : Form {
           text(*this, QStringLiteral("picText")) {
         small.place({3000, 3000, 300, 300});
         small.setTip(QStringLiteral("Tisk"));
-        connect(&small, &Button::clicked, this, [this] { ++clicks; });
-        connect(&small, &Button::hovered, this, [this] { ++hovers; });
+        next.place({3000, 3900, 300, 300});
+        arrow.place({600, 600, 900, 900});
+        list.place({600, 6000, 1500, 1500});
+        list.setAttribute(Qt::WA_TransparentForMouseEvents, false);
+        plain.place({9600, 6000, 1500, 1500});
+        for (Control* one : std::initializer_list<Control*>{&small, &next, &arrow, &list, &plain}) {
+            const auto log = [this, one](const char* what) {
+                return [this, one, what] { done << one->objectName() + u' ' + QLatin1String(what); };
+            };
+            connect(one, &Control::pressed, this, log("pressed"));
+            connect(one, &Control::clicked, this, log("clicked"));
+            connect(one, &Control::hovered, this, log("hovered"));
+        }
         text.place({6000, 1500, 3000, 1500});
         for (int line = 0; line < 40; ++line) text.drawPlainText(QStringLiteral("řádek\n"));
     }
     bool swiped(int direction) override {
-        swipes << direction;
+        done << u"swiped %1"_s.arg(direction);
         return true;
     }
     Button small;
     TextView text;
-    int clicks = 0, hovers = 0;
-    QList<int> swipes;
+    Button next{*this, u"cmdVedle"_s}, arrow{*this, u"cmdSipka"_s};
+    EntryList list{*this, u"lst"_s, QAccessible::List};
+    Control plain{*this, u"obr"_s};
+    HoldRepeat repeat{arrow, [] {}};  // how often depends on the machine
+    QStringList done;
 };
 
 class FingersTest : public testing::Test {
@@ -56,16 +73,6 @@ class FingersTest : public testing::Test {
     }
 };
 
-TEST_F(FingersTest, AFingerPressesTheSmallButtonThatItFallsBeside) {
-    touch({{3150, 3150}});
-    EXPECT_EQ(form->clicks, 1) << "on it";
-    touch({{2880, 3420}});
-    EXPECT_EQ(form->clicks, 2) << "beside it";
-    touch({{2700, 3150}});
-    EXPECT_EQ(form->clicks, 2) << "too far from it";
-    EXPECT_EQ(fingerPlace(form->small).size(), QSize(44, 44));
-}
-
 TEST_F(FingersTest, WhatLiesBetweenTwoThingsIsHalvedOnEverySide) {
     const QRect own = fingerPlace(form->small);
     std::vector<std::unique_ptr<Button>> around;
@@ -80,23 +87,30 @@ TEST_F(FingersTest, WhatLiesBetweenTwoThingsIsHalvedOnEverySide) {
     for (const auto& button : around) EXPECT_FALSE(fingerPlace(*button).intersects(between));
 }
 
-TEST_F(FingersTest, ARestingFingerNamesTheThingAndLetsGoOfIt) {
-    touch({{3150, 3150}});
-    const int hovers = form->hovers;
-    touch({{3150, 3150}}, Fingers::kHold + 150);
-    EXPECT_EQ(form->clicks, 1) << "the first, short one";
-    EXPECT_EQ(form->hovers, hovers + 1) << "as under a mouse";
-    EXPECT_EQ(run.window.namePlate().text(), QStringLiteral("Tisk"));
-}
-
-TEST_F(FingersTest, AFingerThatMovesScrollsOrSwipesAndPressesNothing) {
-    touch({{7500, 2700}, {7500, 2100}, {7500, 1600}});
-    EXPECT_GT(form->text.scrolled(), 0);
-    EXPECT_TRUE(form->swipes.isEmpty());
-    touch({{3150, 3150}, {2000, 3150}, {1000, 3200}});
-    touch({{1000, 6000}, {2000, 6050}, {3000, 6000}});
-    EXPECT_EQ(form->swipes, (QList<int>{1, -1}));
-    EXPECT_EQ(form->clicks, 0);
+TEST_F(FingersTest, PressRestScrollAndSwipe) {
+    test::expectCases(u"prsty"_s, [this](const QString& text) {
+        form->done.clear();
+        QTest::keyClick(form, Qt::Key_A);  // no name is left from before
+        for (const QString& one : text.split(u" then "_s)) {
+            std::vector<QPoint> way;
+            int milliseconds = 0;
+            for (const QString& word : one.split(u' ')) {
+                const QStringList at = word.split(u',');
+                if (at.size() == 2)
+                    way.emplace_back(at[0].toInt(), at[1].toInt());
+                else if (word == u"rests")
+                    milliseconds = Fingers::kHold + 150;
+                else
+                    form->small.setEnabled(word == u"on");
+            }
+            touch(way, milliseconds);
+        }
+        if (const QString name = run.window.namePlate().text(); !name.isEmpty())
+            form->done << u"named "_s + name;
+        if (form->text.scrolled() > 0) form->done << u"scrolled %1"_s.arg(form->text.scrolled());
+        form->text.scrollTo(0);
+        return form->done.join(u' ');
+    });
 }
 
 }  // namespace

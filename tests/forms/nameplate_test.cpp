@@ -60,24 +60,6 @@ class NamePlateTest : public testing::Test {
     Button first{*form, u"imgBtn(0)"_s}, second{*form, u"imgBtn(1)"_s}, nameless{*form, u"imgBtn(2)"_s};
 };
 
-TEST_F(NamePlateTest, ComesWhenThePointerRestsAndGoesWhenItLeaves) {
-    moveTo(nameless);  // a pointer that rests where a test before has left it names nothing
-    moveTo(first);
-    EXPECT_EQ(plate().text(), QString()) << "not at once";
-    EXPECT_GT(plate().findChild<Timer*>()->interval(), 200);
-    rest();
-    EXPECT_EQ(plate().text(), u"Pánev"_s);
-    EXPECT_NEAR(plate().twips().center().x(), first.twips().center().x(), 1);
-    EXPECT_GT(plate().twips().top(), first.twips().bottom());
-    EXPECT_EQ(run.window.childAt(plate().geometry().center()), form) << "the mouse goes through it";
-    moveTo(second);
-    EXPECT_EQ(plate().text(), u"Hrnec"_s) << "who reads names reads on without waiting";
-    moveTo(nameless);
-    rest();
-    EXPECT_EQ(plate().text(), QString());
-    EXPECT_FALSE(plate().isVisible());
-}
-
 TEST_F(NamePlateTest, GoesWithEveryKeyClickAndChangeOfScreen) {
     const auto nameFirst = [&] {
         moveTo(nameless);
@@ -107,24 +89,6 @@ TEST_F(NamePlateTest, GoesWithEveryKeyClickAndChangeOfScreen) {
     run.window.resize(1600, 1200);
     QApplication::processEvents();
     EXPECT_FALSE(plate().isVisible());
-}
-
-TEST_F(NamePlateTest, NamesAtOnceWhatTheKeyboardReaches) {
-    first.setFocus();
-    EXPECT_FALSE(plate().isVisible()) << "the keyboard is not in use yet";
-    QTest::keyClick(form, Qt::Key_Tab);
-    second.setFocus();
-    EXPECT_EQ(plate().text(), u"Hrnec"_s);
-    const int small = plate().height();
-    nameless.setFocus();
-    EXPECT_FALSE(plate().isVisible());
-    run.window.resize(1600, 1200);
-    QApplication::processEvents();
-    second.setFocus();
-    EXPECT_NEAR(plate().height(), 2 * small, 2) << "as large as everything on the stage";
-    second.setTip(u"Velký hrnec"_s);
-    EXPECT_EQ(plate().text(), u"Velký hrnec"_s);
-    EXPECT_EQ(second.accessibleName(), u"Velký hrnec"_s);
 }
 
 /// Things with names, all over the stage; a timer changes "cmdMeni" step by step.

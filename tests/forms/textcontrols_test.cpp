@@ -9,7 +9,8 @@
 #include <QTextBlock>
 #include <QTimer>
 
-#include "forms/colors.h"
+#include "forms/decimalentry.h"
+#include "forms/edit.h"
 #include "forms/entrysign.h"
 #include "forms/fingers.h"
 #include "forms/holdrepeat.h"
@@ -63,25 +64,6 @@ TEST_F(TextControls, AHeldButtonRepeatsUntilItIsLetGo) {
     EXPECT_FALSE(held.isHeld());
 }
 
-TEST_F(TextControls, LongTextsScrollToTheirEndAndBack) {
-    TextView view(*screen, u"picRecept"_s);
-    view.place({1500, 1500, 6000, 3000});
-    for (int line = 0; line < 40; ++line) view.drawRichText(u"řádek %1"_s.arg(line));
-    EXPECT_EQ(view.drawnText().count(u'\n'), 39);
-    EXPECT_EQ(view.contentHeight(), view.currentY());
-    const auto press = [&](int key) { return view.keyDown(QKeyEvent(QEvent::KeyPress, key, {})); };
-    EXPECT_TRUE(press(Qt::Key_End));
-    EXPECT_EQ(view.scrolled(), view.scrollRange());
-    EXPECT_FALSE(press(Qt::Key_PageDown)) << "there is nothing further down";
-    EXPECT_TRUE(press(Qt::Key_PageUp));
-    EXPECT_GE(view.scrolled(), view.scrollRange() - 3000) << "no line is passed over";
-    EXPECT_TRUE(press(Qt::Key_Home));
-    EXPECT_EQ(view.scrolled(), 0);
-    view.Cls();
-    EXPECT_EQ(view.drawnText(), QString());
-    EXPECT_FALSE(child<Button>(*screen, "picRecept.down")->isVisible());
-}
-
 TEST_F(TextControls, AShortTextIsSetLargerAndAlwaysWhole) {
     TextView view(*screen, u"picText"_s);
     view.place({1500, 1500, 6000, 3000});
@@ -100,7 +82,7 @@ TEST_F(TextControls, AShortTextIsSetLargerAndAlwaysWhole) {
     EXPECT_EQ(view.drawnText().count(u'\n'), 39) << "drawn once";
 }
 
-TEST_F(TextControls, LinkPhrasesAreLetGoAndSteppedThrough) {
+TEST_F(TextControls, LinkPhrasesAreLetGo) {
     TextView view(*screen, u"picRecept"_s);
     view.place({1500, 1500, 6000, 900});
     const QString head = u"{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset238 Arial;}}\\plain\\par\\pard\\plain "_s;
@@ -117,22 +99,6 @@ TEST_F(TextControls, LinkPhrasesAreLetGoAndSteppedThrough) {
     EXPECT_TRUE(opened.empty()) << "let go beside the phrase";
     QTest::mouseMove(&view, {1, 1});
     EXPECT_FALSE(view.pieces().hovered());
-
-    view.focusLink({});
-    ASSERT_TRUE(view.stepInside(1));
-    ASSERT_TRUE(view.stepInside(1));
-    EXPECT_EQ(run.announced.last(), u"video s rybou"_s);
-    const QRect seen(0, view.scrolled(), 6000, 900);
-    EXPECT_TRUE(seen.contains(view.pieces().linkRect(1))) << "the focus scrolls into sight";
-    const QImage shot = view.grab().toImage();
-    EXPECT_NEAR(shot.pixelColor(5, 0).blue(), colors::kPaper.blue(), 4) << "cut lines fade into the paper";
-    EXPECT_GT(shot.pixelColor(5, shot.height() / 2).blue(), colors::kPaper.blue() + 10);
-    EXPECT_TRUE(view.keyDown(QKeyEvent(QEvent::KeyPress, Qt::Key_Return, {})));
-    EXPECT_EQ(opened.last(), (LinkKey{LinkKind::Video, 7}));
-    EXPECT_TRUE(view.stepInside(1));
-    EXPECT_FALSE(view.stepInside(1));
-    EXPECT_TRUE(view.stepInside(-1));
-    EXPECT_EQ(view.pieces().focused(), 2);
 }
 
 class NoteEditing : public TextControls {
@@ -163,6 +129,47 @@ TEST_F(NoteEditing, TypesUndoesAndRedoes) {
     press(Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(note.text(), u"Sůl cX"_s);
     EXPECT_TRUE(screen->keys.isEmpty());
+}
+
+TEST_F(NoteEditing, AParagraphThatGrowsLongIsShownInPiecesAndStaysOne) {
+    QString words = u"slovo "_s.repeated(LongParagraphs::kLongest / 3);
+    note.setText(words);
+    const auto longest = [this] {
+        int most = 0;
+        for (QTextBlock block = note.editor().document()->begin(); block.isValid(); block = block.next())
+            most = std::max(most, block.length());
+        return most;
+    };
+    EXPECT_EQ(note.text(), words);
+    EXPECT_LE(longest(), LongParagraphs::kLongest + 8);
+    EXPECT_FALSE(note.editor().document()->isUndoAvailable());
+    note.editor().moveCursor(QTextCursor::Start);
+    note.editor().insertPlainText(u"abc "_s.repeated(LongParagraphs::kLongest * 3 / 8));
+    words.prepend(u"abc "_s.repeated(LongParagraphs::kLongest * 3 / 8));
+    EXPECT_EQ(note.text(), words);
+    EXPECT_LE(longest(), 2 * LongParagraphs::kLongest + 2);
+    const QTextBlock first = note.editor().document()->begin();
+    EXPECT_LE(first.length(), LongParagraphs::kLongest + 2) << "broken where it begins";
+    EXPECT_TRUE(first.text().contains(u"abc abc "_s));
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), words);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(note.text(), words);
+    EXPECT_LE(longest(), LongParagraphs::kLongest + 8);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(note.text(), words);
+}
+
+TEST(DecimalEntry, ACommaIsTakenAsAPoint) {
+    FakeSarne run;
+    Form form(run, u"frmA"_s);
+    Edit entry(form, u"txt"_s);
+    takeDecimalComma(entry);
+    for (const char* text : {"2,5", "2.5", "1,2,3", "7"}) {
+        entry.setText(QLatin1String(text));
+        EXPECT_EQ(entry.text(), QString::fromLatin1(text).replace(u',', u'.'));
+    }
 }
 
 TEST_F(NoteEditing, GrowsWithTheScreen) {

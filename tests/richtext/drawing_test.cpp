@@ -7,6 +7,7 @@
 #include "richtext/layoutdump.h"
 #include "richtext/qttextmetrics.h"
 #include "richtext/rtfpainter.h"
+#include "support/kept.h"
 #include "support/pictures.h"
 
 namespace sarne {
@@ -175,6 +176,45 @@ TEST_F(Painting, DotsLinksAndUnderlinesTheOneThatStandsOut) {
         const int gap = (layout.boxes()[4].x - kPixel) / kPixel;
         EXPECT_NE(plain.pixel(gap, stroke.center().y()), qRgb(255, 255, 255)) << top;
     }
+}
+
+/// \a picture for people: the darkest of each few pixels as the letter of its colour, large where it is
+/// strong.
+QString drawnByLetters(const QImage& picture) {
+    constexpr int kAcross = 2, kDown = 3;
+    QStringList rows;
+    for (int y = 0; y + kDown <= picture.height(); y += kDown) {
+        QString row;
+        for (int x = 0; x + kAcross <= picture.width(); x += kAcross) {
+            QColor darkest = Qt::white;
+            for (int i = 0; i < kAcross * kDown; ++i)
+                if (const QColor one = picture.pixelColor(x + i % kAcross, y + i / kAcross);
+                    one.value() + one.lightness() < darkest.value() + darkest.lightness())
+                    darkest = one;
+            const bool isGrey = darkest.hslSaturation() < 60;
+            const QLatin1Char letter(isGrey                ? 'k'
+                                     : darkest.hue() < 60  ? 'r'
+                                     : darkest.hue() < 160 ? 'g'
+                                     : darkest.hue() < 200 ? 't'
+                                                           : 'b');
+            row += darkest.lightness() > 215   ? u' '
+                   : darkest.lightness() > 140 ? QChar(letter)
+                                               : QChar(letter).toUpper();
+        }
+        while (row.endsWith(u' ')) row.chop(1);
+        rows << row;
+    }
+    return rows.join(u'\n');
+}
+
+TEST_F(Painting, LooksAsReviewed) {
+    const RtfLayout layout = layOut(
+        u"{\\rtf1{\\colortbl;\\red0\\green0\\blue200;}\\plain\\fs60 I\\b  H\\b0  \\cf1 *1*\\i *2h\\i0  h* i "
+        u"#4i#\\par\\fs36\\cf0\\ul ij i\\ul0  l @3li@ a\u0301n}");
+    QStringList all;
+    for (const LinkHighlight& light : {LinkHighlight{}, {0, 2}, {{}, {}, true}, {1, 0, true}})
+        all << drawnByLetters(paint(layout, {0, 0, 4000, 2000}, light).copy(0, 0, 200, 84));
+    test::expectText(u"malba"_s, all.join(u"\n--\n"_s));
 }
 
 TEST(FontFace, IsAsWideAsQtSays) {

@@ -3,6 +3,7 @@
 #include "richtext/charset.h"
 #include "richtext/layoutdump.h"
 #include "richtext/plaintext.h"
+#include "richtext/rtfdocument.h"
 #include "richtext/rtfreader.h"
 #include "richtext/wordwrap.h"
 #include "support/kept.h"
@@ -96,11 +97,23 @@ TEST(WordWrapTest, WrapsAtBlanksAndNeverInsideAWord) {
     EXPECT_EQ(wrapAtBlanks(longText, 1100, fixedWidth).size(), 1000);
 }
 
+TEST(RtfDocumentTest, WhateverTextsHoldStandsForItself) {
+    RtfDocument document;
+    document.heading(u"Nadpis *1*"_s);
+    document.paragraph(u"Tučně"_s, u"50 % #1 {\\par} @7 ž – ½ 漢\u007f"_s);
+    document.paragraph(u"dva\nřádky"_s);
+    const QString book = u"{\\rtf1\\plain Kapr{\\b }}\r\n"_s;
+    QStringList all{document.text()};
+    for (const QString& text : {book, u"{\\rtf1 bez konce"_s, u"Kapr}"_s}) all << document.appendedTo(text);
+    test::expectText(u"dokument"_s, all.join(u"\n--\n"_s).remove(u'\r'));
+}
+
 TEST(PlainTextTest, KeepsWordsAndParagraphsOnly) {
     EXPECT_EQ(plainText(u"{\\rtf1{\\fonttbl{\\f0\\fcharset238 Arial;}}\\pard\\plain\\b Var\\b0  "
                         "*12v\\'edno* a @7video@\\par\\tab x\\~y\\par\\par}"_s),
               u"Var víno a video\n\tx\u00a0y"_s);
     EXPECT_EQ(plainText(u"5*2 a #1"_s), u"5*2 a #1"_s) << "no rich text, no links";
+    EXPECT_EQ(plainText(u"{\\rtf1\\plain Kapr\\par Lín\\par Sumec}"_s, 7), u"Kapr\nLín"_s) << "enough";
     EXPECT_EQ(plainText(QString()), QString());
     EXPECT_EQ(plainText(u"   "_s), QString());
 }
