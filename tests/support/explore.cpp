@@ -207,6 +207,10 @@ class Explorer {
             known.contains(changed) ? lines << u"as "_s + known[changed] : lines << changed;
             known.insert(changed, known.value(changed, step.name));
             if (step.isForEyes) lines << looks_;
+            if (const QString asked = screenAskedFor(now); !asked.isEmpty() && !asked_.contains(asked)) {
+                asked_ << asked;
+                lines << thereAndBack(step, now);
+            }
         }
         return onlyForEyes ? lines : lines + byKeyboard();
     }
@@ -217,13 +221,13 @@ class Explorer {
         QGuiApplication::clipboard()->clear();
         scene_([&](FakeSarne& run) {
             settle();
-            QStringList before = general(record(run.window) << told(run) << stale(run.window));
+            QStringList before = now(run);
             for (const QString& word : way.split(u' ', Qt::SkipEmptyParts)) {
                 perform(run, word);
                 settle();
-                const QStringList now = general(record(run.window) << told(run) << stale(run.window));
-                lines << u"%1%2 %3"_s.arg(kStep).arg(++count).arg(word) << changes(before, now);
-                before = now;
+                const QStringList after = now(run);
+                lines << u"%1%2 %3"_s.arg(kStep).arg(++count).arg(word) << changes(before, after);
+                before = after;
             }
         });
         return lines;
@@ -259,6 +263,36 @@ class Explorer {
         return all;
     }
 
+    /// The first screen that was to be shown: "showRecipe".
+    static QString screenAskedFor(const QStringList& recorded) {
+        const QStringList asked = recorded.filter(u"asks for show"_s);
+        return asked.isEmpty() ? QString() : asked.first().section(u' ', 2, 2);
+    }
+    /// What is otherwise than \a asked, which \a step leads to, when a screen really comes, and when it has
+    /// gone. While it is there all below is disabled: that is not said again of every control.
+    QStringList thereAndBack(const Step& step, const QStringList& asked) {
+        QStringList there, back;
+        scene_([&](FakeSarne& run) {
+            settle();
+            Form* above = nullptr;
+            run.recorded.opens = [&] { above = above ? above : run.openAbove("frmNad"); };
+            step.act(run);
+            settle();
+            there = changes(asked, now(run)).filter(QRegularExpression(u"^[^/]*$"_s));
+            if (above) run.PopScreen(*above);
+            settle();
+            back = changes(asked, now(run));
+        });
+        const QStringList both = there << u"and back"_s << back;
+        const QString known = went_.value(both);
+        went_.insert(both, known.isEmpty() ? step.name : known);
+        return QStringList(kStep + u"there by "_s + step.name)
+               << (known.isEmpty() ? both : QStringList(u"as "_s + known));
+    }
+
+    static QStringList now(FakeSarne& run) {
+        return general(record(run.window) << told(run) << stale(run.window));
+    }
     QStringList after(const Act& act, bool isSeen = false) {
         QStringList lines;
         QGuiApplication::clipboard()->clear();
@@ -266,7 +300,7 @@ class Explorer {
             settle();
             act(run);
             settle();
-            lines = general(record(run.window) << told(run) << stale(run.window));
+            lines = now(run);
             if (isSeen) looks_ = thumbnail(run.window);
         });
         return lines;
@@ -275,8 +309,9 @@ class Explorer {
     Stillness still_;
     std::function<void(const Look&)> scene_;
     std::vector<Step> steps_;
-    QStringList opened_, pressed_;
+    QStringList opened_, pressed_, asked_;
     QHash<QString, QStringList> clicked_;
+    QHash<QStringList, QString> went_;
     QString looks_;
 };
 

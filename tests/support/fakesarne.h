@@ -33,36 +33,46 @@ class RecordedScreens : public Screens {
 
     void showList(const QString& ids, const QString& source, const QString& subject) override {
         listSubject = subject;
-        calls << u"showList %1 %2"_s.arg(ids, source);
+        show(u"showList %1 %2"_s.arg(ids, source));
     }
-    void showRecipe(std::int16_t id) override { calls << u"showRecipe %1"_s.arg(id); }
-    void showGrid() override { calls << u"showGrid"_s; }
+    void showRecipe(std::int16_t id) override { show(u"showRecipe %1"_s.arg(id)); }
+    void showGrid() override { show(u"showGrid"_s); }
     void showPhotos(const PhotoRequest& request) override {
         photos = request;
-        calls << u"showPhotos %1"_s.arg(request.startPosition);
+        show(u"showPhotos %1"_s.arg(request.startPosition));
     }
-    void showVideo(std::int16_t number) override { calls << u"showVideo %1"_s.arg(number); }
-    void showMusicSettings() override { calls << u"showMusicSettings"_s; }
-    void showPage(const QString& id) override { calls << u"showPage %1"_s.arg(id); }
-    void showHelpFor(const QString& formName) override { calls << u"showHelpFor %1"_s.arg(formName); }
-    void showTables(std::int16_t item) override { calls << u"showTables %1"_s.arg(item); }
-    void showIndex(std::int16_t keyword) override { calls << u"showIndex %1"_s.arg(keyword); }
+    void showVideo(std::int16_t number) override { show(u"showVideo %1"_s.arg(number)); }
+    void showMusicSettings() override { show(u"showMusicSettings"_s); }
+    void showEyes() override { show(u"showEyes"_s); }
+    void showPage(const QString& id) override { show(u"showPage %1"_s.arg(id)); }
+    void showHelpFor(const QString& formName) override { show(u"showHelpFor %1"_s.arg(formName)); }
+    void showTables(std::int16_t item) override { show(u"showTables %1"_s.arg(item)); }
+    void showIndex(std::int16_t keyword) override { show(u"showIndex %1"_s.arg(keyword)); }
     void showSponsor(std::int16_t topic, const QString& text) override {
-        calls << u"showSponsor %1 '%2'"_s.arg(topic).arg(text);
+        show(u"showSponsor %1 '%2'"_s.arg(topic).arg(text));
     }
     void showPrintSelection(const std::vector<PrintEntry>& entries, const QString& mode) override {
         printEntries = entries;
-        calls << u"showPrintSelection %1 '%2'"_s.arg(entries.size()).arg(mode);
+        show(u"showPrintSelection %1 '%2'"_s.arg(entries.size()).arg(mode));
     }
     void printRecipes(const std::vector<std::int16_t>& ids, const Serving& serving) override {
         printServing = serving;
         printed = ids;
-        calls << u"printRecipes %1"_s.arg(ids.size());
+        show(u"printRecipes %1"_s.arg(ids.size()));
     }
     void printText(const QString& title, const QString& text) override {
         printedText = text;
-        calls << u"printText %1"_s.arg(title);
+        show(u"printText %1"_s.arg(title));
     }
+    bool canCook(std::int16_t id) override { return goods && id != kWithoutSteps; }
+    void cookRecipe(std::int16_t id, const Serving& serving) override {
+        show(u"cookRecipe %1 for %2"_s.arg(id).arg(serving.portions));
+    }
+    void showShoppingList() override { show(u"showShoppingList"_s); }
+    void showPantry() override { show(u"showPantry"_s); }
+    void showOwnCookbook() override { show(u"showOwnCookbook"_s); }
+    void showFeast() override { show(u"showFeast"_s); }
+    void stopRinging() override { calls << u"stopRinging"_s; }
     bool knowsGoods() override { return goods; }
     int starsOf(std::int16_t) override { return stars; }
     void giveStars(std::int16_t id, int given) override {
@@ -74,8 +84,17 @@ class RecordedScreens : public Screens {
     }
     void returnToMain() override { calls << u"returnToMain"_s; }
 
+    static constexpr std::int16_t kWithoutSteps = 6;
+
     bool goods = true;  ///< what the book knows
     int stars = 0;
+    std::function<void()> opens;  ///< something in place of a screen that is asked for
+
+  private:
+    void show(const QString& call) {
+        calls << call;
+        if (opens) opens();
+    }
 };
 
 class ManualClock final : public Clock {

@@ -148,7 +148,6 @@ void frmSponzor::showPicture(int index) {
     makeAreas();
     setKeyboardOrder();
     if (isVisible()) ring().focus(firstControl());
-    update();
 }
 
 /// What the picture is about stands beside the title, in one line as long as that can be read.
