@@ -73,7 +73,8 @@ TEST(Looks, MainScreenInUse) {
         const char *name, *way;
     } ways[] = {
         {"hlavni-klavesami",
-         "PgUp Tab Shift+Tab Alt+F4 Alt+X X hover:imgClick(0) Return hover:imgClick(7) Space "
+         "hover:imgClick(0) hover:imgClick(4) PgUp Tab Shift+Tab Alt+F4 Alt+X X hover:imgClick(0) Return "
+         "hover:imgClick(7) Space "
          "hover:imgClick(3) Return Down Return"},
         // An item is chosen by the mouse, a submenu opens by resting on it, too; the background closes all.
         {"menu-mysi",

@@ -269,7 +269,8 @@ class Explorer {
         return asked.isEmpty() ? QString() : asked.first().section(u' ', 2, 2);
     }
     /// What is otherwise than \a asked, which \a step leads to, when a screen really comes, and when it has
-    /// gone. While it is there all below is disabled: that is not said again of every control.
+    /// gone and three stars were given meanwhile. While it is there all below is disabled: that is not said
+    /// again of every control.
     QStringList thereAndBack(const Step& step, const QStringList& asked) {
         QStringList there, back;
         scene_([&](FakeSarne& run) {
@@ -279,6 +280,7 @@ class Explorer {
             step.act(run);
             settle();
             there = changes(asked, now(run)).filter(QRegularExpression(u"^[^/]*$"_s));
+            run.recorded.stars = 3;
             if (above) run.PopScreen(*above);
             settle();
             back = changes(asked, now(run));
