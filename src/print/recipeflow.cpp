@@ -131,7 +131,6 @@ void RecipeFlow::addRichText(const QString& text, const QString& title) {
 }
 
 void RecipeFlow::addPlainText(const QString& text) {
-    if (text.trimmed().isEmpty()) return;
     endPicture();
     addLayout(RtfLayout::ofPlain(text, wideArea(), metrics_, &stop_, [this] { ask(); }), 0);
 }

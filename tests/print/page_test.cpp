@@ -4,7 +4,6 @@
 
 #include "platform/pagesonsheet.h"
 #include "platform/pdfnotes.h"
-#include "print/shortsteps.h"
 #include "printcookbook.h"
 
 namespace sarne {
@@ -202,8 +201,6 @@ TEST(RecipeCard, HoldsTheEssenceOnOnePage) {
         << text.toStdString();
     for (const char* elsewhere : {"úvod", "víno", "Postup"}) EXPECT_FALSE(text.contains(str(elsewhere)));
     EXPECT_EQ(card(2).count(u"necháme"_s), 27) << "all of it where there is room";
-    EXPECT_EQ(stepsInShort(u"Nadpis\nRybu osolíme a dáme na půl hodiny do chladu. Pak pečeme."_s, 1),
-              QStringList{u"Rybu osolíme a dáme na půl hodiny do chladu."_s});
 }
 
 }  // namespace

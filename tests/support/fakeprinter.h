@@ -18,6 +18,7 @@ class FakePrinter final : public Printer {
     bool begun = false;
     QString document;
     std::function<void()> turning = [] {};  ///< called at every new page
+    QString takes;                          ///< the file that it puts there as it is
 
     QStringList printers() const override { return {QStringLiteral("Zkušební")}; }
     PrinterChoice choice() const override { return choice_; }
@@ -36,6 +37,7 @@ class FakePrinter final : public Printer {
         painter_->scale(.05, .05);
         return painter_.get();
     }
+    bool putPicture(const QRect&, const QString& file) override { return file == takes; }
     bool newPage() override {
         ++pages;
         turning();
