@@ -224,7 +224,6 @@ void frmPrint::setPrinting(bool printing) {
         cmdPrerus->setFocus();
     } else {
         showOthers();
-        showPrinter();
         Command2->setFocus();
     }
 }
@@ -235,7 +234,6 @@ bool frmPrint::liesOverRecipe() const {
 }
 
 void frmPrint::hideOthers() {
-    others_.clear();
     for (Form* form : app().stage().forms()) {
         if (form == this || !form->isVisible()) continue;
         others_.emplace_back(form);
@@ -258,7 +256,6 @@ void frmPrint::showOutcome(const PrintOutcome& outcome) {
 }
 
 void frmPrint::askToStop() {
-    if (!printing_) return;
     const QString question = Texts::tr(" Opravdu chcete ukončit tisk? ");
     if (app().ZobrazZpravu(question, kWarningQuestionBox) == kAnswerYes) stopped_ = true;
 }

@@ -20,6 +20,9 @@ TEST_F(FrmPrintTest, OpensForFourOrTheMostThatCanBe) {
     open({1});
     EXPECT_EQ(control<Edit>("Text1")->text(), u"4"_s);
     control("Command2")->click();
+    open({1}, {99});
+    EXPECT_TRUE(run.messages.isEmpty());
+    control("Command2")->click();
     open({1}, {150});
     EXPECT_EQ(run.messages, QStringList{u"48: Musí být zadáno celé číslo od 1 do 99!"_s});
     EXPECT_EQ(control<Edit>("Text1")->text(), u"99"_s);
@@ -98,6 +101,36 @@ TEST_F(FrmPrintTest, ShowsHowFarItIsAndHidesTheOtherScreens) {
     EXPECT_FALSE(control("cmdPrerus")->isVisible());
     EXPECT_EQ(run.awake, (QStringList{u"Tisk"_s, QString()}));
     EXPECT_TRUE(outcome().endsWith(file("Recepty (2).pdf"))) << outcome().toStdString();
+}
+
+TEST_F(FrmPrintTest, DoesNothingElseMeanwhileAndSaysHowFarItIs) {
+    open({1, 2});
+    run.answers = {7};
+    bool first = true;
+    whilePrinting([&] {
+        run.time.time += SpokenProgress::kPause;
+        if (!std::exchange(first, false)) return;
+        printing.printRecipes({3}, {});
+        form()->help();
+        form()->musicSettings();
+        form()->endProgram();
+        QTest::keyClick(form(), Qt::Key_PageDown);
+        for (const char* name : {"picStrana", "cmdStrana(1)", "cmdTiskarna", "cmdNahled"})
+            control(name)->click();
+    });
+    control("Command1")->click();
+    EXPECT_EQ(run.messages, QStringList{u"52:  Opravdu chcete ukončit tisk? "_s});
+    EXPECT_EQ(run.recorded.calls, QStringList());
+    EXPECT_FALSE(loaded("frmNahled"));
+    EXPECT_EQ(control<Label>("lblCo")->text(), u"Candát a další (celkem 2)"_s);
+    EXPECT_TRUE(outcome().endsWith(file("Recepty (2).pdf"))) << outcome().toStdString();
+    EXPECT_EQ(run.announced.filter(u"%"_s),
+              (QStringList{u"Vytištěno 25 %"_s, u"Vytištěno 50 %"_s, u"Vytištěno 75 %"_s}));
+    EXPECT_TRUE(control("Command2")->hasFocus());
+    form()->help();
+    EXPECT_EQ(run.recorded.calls, QStringList{u"showHelpFor frmPrint"_s});
+    form()->endProgram();
+    EXPECT_EQ(run.exits, 1);
 }
 
 TEST_F(FrmPrintTest, PrintsASecondSelectionAtOnceUntilItIsClosed) {
@@ -200,6 +233,13 @@ TEST_F(FrmPrintTest, AsksBeforeItReplacesAFile) {
     EXPECT_EQ(QFileInfo(file("Štika.pdf")).lastModified(), written);
     control("Command1")->click();
     EXPECT_GT(QFileInfo(file("Štika.pdf")).lastModified(), written);
+    run.messages.clear();
+    control("cmdOtevrit")->click();  // nothing here opens files
+    EXPECT_EQ(run.messages, QStringList{u"48: Soubor se nepodařilo otevřít."_s});
+    run.answers = {7};
+    open({3});
+    EXPECT_EQ(outcome(), QString());
+    EXPECT_FALSE(control("cmdOtevrit")->isVisible()) << "it was of another selection";
     EXPECT_EQ(QDir(book.folder.filePath(u"Dokumenty"_s)).entryList(QDir::Files).size(), 1);
 }
 
@@ -236,7 +276,18 @@ TEST_F(FrmPrintTest, ChoosesPrinterAndPaperAndRemembersThem) {
     child<Button>(*print, "Command1")->click();
     EXPECT_TRUE(QFileInfo::exists(book.folder.filePath(u"Karty/Recepty (2).pdf"_s)));
 
+    kept.clear();
+    FakePrinter lost;
+    frmPrint tries(run, lost, memory);
+    tries.Zobraz({3}, {});
+    lost.isThere = false;
+    run.messages.clear();
+    QTimer::singleShot(0, below, [&] { child<Button>(*loaded("frmTiskarna"), "cmdOkStorno(0)")->click(); });
+    child<Button>(tries, "cmdTiskarna")->click();
+    EXPECT_EQ(run.messages, QStringList{u"48: Tiskárna Zkušební teď není k dispozici."_s});
+
     SystemPrinter another(book.folder.path());
+    kept = printer.choice().toText();
     frmPrint next(run, another, memory);
     next.Zobraz({3}, {});
     EXPECT_EQ(another.choice().paper, Paper::Card);
@@ -271,6 +322,11 @@ TEST_F(FrmPrintTest, QuickRecipesAndHelpPagesPrintAboveTheirDialog) {
     EXPECT_EQ(test::pdfText(file("O tisku.pdf")).simplified(),
               u"CD Tobrela - Velisa sarn O tisku Text stránky."_s)
         << "a title that the text repeats is printed once";
+    frmPrint two(run, printer);
+    two.ZobrazTexty({{u"Jedna"_s, u"text"_s}, {u"Druhá"_s, u"text"_s}});
+    child<Button>(two, "Command1")->click();
+    EXPECT_EQ(test::pdfPages(file("Texty z kuchařky (2).pdf")).size(), 2);
+    two.goBack();
     printing.printText(u"Tabulka"_s, test::rtf(u"Řádek."_s));
     EXPECT_FALSE(control("Frame1")->isEnabled()) << "there is nothing to choose";
     control("Command1")->click();

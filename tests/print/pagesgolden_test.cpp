@@ -96,6 +96,19 @@ TEST(PrintedPage, StandsToTheTwipWhereItStood) {
         for (const Paper paper : {Paper::A4, Paper::Card}) add(paper, 1, one);
     }
     test::expectText(u"strany"_s, rows.join(u'\n'));
+    test::FixedMetrics metrics;
+    SilentProgress silent;
+    PrintSource grey = book.source();
+    grey.grey = true;
+    for (const PrintedPage& page :
+         PageComposer(grey, PagesOnSheet().scale(), metrics).recipe(1, {}, silent)) {
+        for (const PageText& text : page.texts) EXPECT_EQ(QColor(text.color).saturation(), 0);
+        EXPECT_EQ(page.pictures.size(), 2u);
+        for (const PagePicture& picture : page.pictures) {
+            EXPECT_TRUE(picture.picture.image().allGray());
+            EXPECT_TRUE(picture.file.isEmpty()) << "what the file holds has its colours";
+        }
+    }
 }
 
 }  // namespace

@@ -65,6 +65,27 @@ TEST_F(FrmPrintTest, EveryChangeShowsInThePreviewAtOnce) {
     EXPECT_EQ(child<PageSheet>(*large, "picStrana")->accessibleValue(), sheet->accessibleValue());
 }
 
+/// Whether anything on the paper has a colour.
+bool isColoured(PageSheet& sheet) {
+    const QImage image = sheet.grab().toImage();
+    for (int y = 20; y < image.height() - 20; ++y) {
+        for (int x = 20; x < image.width() - 20; ++x) {
+            const QColor color = image.pixelColor(x, y);
+            if (color.red() != color.green() || color.green() != color.blue()) return true;
+        }
+    }
+    return false;
+}
+
+TEST_F(FrmPrintTest, WithoutColourThePagesAreGrey) {
+    for (const bool colour : {true, false}) {
+        printer.use({{}, Paper::A4, 1, false, colour});
+        open({1});
+        EXPECT_EQ(isColoured(*control<PageSheet>("picStrana")), colour);
+        control("Command2")->click();
+    }
+}
+
 /// Which quarters of \a sheet have ink on them, line by line.
 QString inkedQuarters(PageSheet& sheet) {
     const QImage image = sheet.grab().toImage();

@@ -14,6 +14,7 @@ class FakePrinter final : public Printer {
   public:
     enum class Fails { Never, Begin, NewPage, End };
     Fails fails = Fails::Never;
+    bool isThere = true;
     int pages = 0;
     bool begun = false;
     QString document;
@@ -24,7 +25,7 @@ class FakePrinter final : public Printer {
     PrinterChoice choice() const override { return choice_; }
     bool use(const PrinterChoice& choice) override {
         choice_ = choice;
-        return true;
+        return isThere;
     }
     PageScale scale() const override { return {0, 0, 11400, 16300, QRect(-250, -250, 11900, 16840)}; }
     QString fileFor(const QString&) const override { return {}; }
