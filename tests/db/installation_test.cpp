@@ -103,6 +103,23 @@ TEST_F(InstallationTest, AWritableFileIsUsedWhereItLies) {
     EXPECT_FALSE(QFile::exists(own));
 }
 
+TEST_F(InstallationTest, WithoutAShippedFileTheOwnCopyIsUsed) {
+    QFile::remove(shipped);
+    EXPECT_EQ(usableRecipeDatabase(shipped, own).file, shipped);
+    ASSERT_TRUE(test::write(own));
+    EXPECT_EQ(usableRecipeDatabase(shipped, own).file, own);
+}
+
+TEST_F(InstallationTest, AJournalOfTheOldCopyDoesNotOutliveIt) {
+    protectProgramFolder();
+    start();
+    const QString journal = own + u"-journal"_s;
+    ASSERT_TRUE(test::write(journal, "stopa") && test::write(own + u".origin"_s, "jiné"));
+    for (const QString& file : {journal, own + u".origin"_s}) chmod(qPrintable(file), 0666);
+    start();
+    EXPECT_FALSE(QFile::exists(journal));
+}
+
 TEST_F(InstallationTest, AReadOnlyProgramFolderLeadsToAnOwnCopyThatKeepsNotes) {
     protectProgramFolder();
     ASSERT_EQ(asOrdinaryUser([&] {

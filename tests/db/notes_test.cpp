@@ -107,6 +107,21 @@ TEST_F(OwnNoteTest, AStoredNoteLeavesACopyBesideTheBook) {
     EXPECT_EQ(kept.draft(5), std::nullopt);
 }
 
+TEST_F(OwnNoteTest, StoringForThePrintGoesOnEditing) {
+    note.open();
+    note.saveForPrint(u"nic nového"_s);
+    EXPECT_EQ(note.stored(), u"stará"_s) << "an unchanged note is not stored";
+    note.changed();
+    note.saveForPrint(u"nová"_s);
+    EXPECT_EQ(note.stored(), u"nová "_s);
+    EXPECT_TRUE(note.isOpen() && !note.isDirty());
+    note.changed();
+    note.save({});
+    EXPECT_EQ(note.stored(), QString());
+    EXPECT_FALSE(recipe.field(u"Vlastni"_s).isNull()) << "an emptied note is a note";
+    EXPECT_EQ(kept.all().front().text, QString());
+}
+
 TEST_F(OwnNoteTest, AClosedNoteTakesNoChange) {
     note.open();
     note.close(OwnNote::Close::Discard, {});

@@ -64,6 +64,52 @@ TEST_F(RecordsetTest, CzechOrderCaseAside) {
     EXPECT_EQ(column("SELECT ID FROM Suroviny WHERE Polozka = 'KAPR'", "ID"), list("1"));
 }
 
+TEST_F(RecordsetTest, NothingIsLikeWhatIsNotThere) {
+    ASSERT_TRUE(db.Execute(u"UPDATE Menu SET Label = NULL WHERE Id = '11'"_s));
+    EXPECT_EQ(column("SELECT Id FROM Menu WHERE NOT Label LIKE 'x*' ORDER BY Id", "Id"), list("1|12|121"));
+    EXPECT_EQ(column("SELECT Id FROM Menu WHERE 'a' LIKE Label", "Id"), list("1"));
+    EXPECT_EQ(db.OpenQuery(u"SELECT * FROM Menu WHERE Label LIKE '[a'"_s).RecordCount(), 0);
+}
+
+TEST_F(RecordsetTest, ValuesComeBackAsTheyWereStored) {
+    ASSERT_TRUE(db.Execute(u"CREATE TABLE Cokoli (ID INTEGER PRIMARY KEY, H)"_s));
+    const QVariant values[] = {QVariant(),     qint64(1) << 40,           -1.25, u"Žluťoučký \0 kůň"_s,
+                               QString(u""_s), QByteArray("\0\xFF\1", 3), 2.5F};
+    int id = 0;
+    for (const QVariant& value : values) {
+        Recordset row = db.OpenTable(u"Cokoli"_s);
+        row.AddNew();
+        row.setField(u"ID"_s, ++id);
+        row.setField(u"H"_s, value);
+        ASSERT_TRUE(row.Update());
+        ASSERT_TRUE(RecordExists(row, id));
+        EXPECT_EQ(row.field(u"H"_s), value) << id;
+        EXPECT_EQ(row.field(u"H"_s).isNull(), value.isNull()) << id;
+    }
+    Recordset row = db.OpenTable(u"Cokoli"_s);
+    for (const QVariant& value : {QVariant(true), QVariant(short(3)), QVariant(4U)}) {
+        row.Edit();
+        row.setField(u"h"_s, value);
+        ASSERT_TRUE(row.Update());
+        EXPECT_EQ(db.OpenQuery(u"SELECT typeof(H) AS T FROM Cokoli"_s).field(u"T"_s), u"integer"_s);
+    }
+}
+
+TEST_F(RecordsetTest, TheQueriesThatLookFurtherFindAndClear) {
+    ASSERT_TRUE(
+        db.Execute(u"INSERT INTO Menu VALUES ('181','Jak na kapra','2'),('182','Filety','7'),"
+                   "('001','x','1'),('0','y','')"_s));
+    EXPECT_EQ(queries::filmTitle(db, 7), u"Filety"_s);
+    EXPECT_EQ(queries::filmTitle(db, 1), QString()) << "of another topic";
+    EXPECT_TRUE(queries::clearFoundIngredients(db));
+    EXPECT_EQ(column("SELECT Id FROM Menu ORDER BY Id", "Id"), list("1|11|12|121|181|182"));
+    ASSERT_TRUE(db.Execute(u"CREATE TABLE TabObr (obr BLOB)"_s) &&
+                db.Execute(u"INSERT INTO TabObr VALUES (x'01'),(x'02')"_s));
+    Recordset pictures = queries::screenPictures(db);
+    pictures.MoveLast();
+    EXPECT_EQ(pictures.field(u"obr"_s).toByteArray(), QByteArray("\2"));
+}
+
 TEST_F(RecordsetTest, WhateverIsTypedIsOnePattern) {
     const auto found = [&](const char* typed) {
         return queries::ingredientsBeginning(db, QString::fromUtf8(typed)).RecordCount();
@@ -98,6 +144,21 @@ TEST_F(RecordsetTest, ATableIsWalkedAndSoughtByItsKey) {
     recipes.MoveLast();
     recipes.MovePrevious();
     EXPECT_EQ(recipes.field(u"ID"_s).toInt(), 7);
+    for (const char* comparison : {">", "<", ""}) {
+        recipes.Seek(QLatin1String(comparison), 7);
+        EXPECT_TRUE(recipes.NoMatch()) << comparison;
+    }
+    recipes.Seek(u"="_s, QVariant());
+    EXPECT_TRUE(recipes.NoMatch());
+    EXPECT_EQ(recipes.field(u"ID"_s).toInt(), 7) << "what is not found changes nothing";
+    recipes.MovePrevious();
+    EXPECT_EQ(recipes.field(u"ID"_s).toInt(), 1);
+    recipes.MovePrevious();
+    EXPECT_TRUE(recipes.AtEnd());
+    recipes.MovePrevious();
+    recipes.MoveFirst();
+    EXPECT_EQ(recipes.field(u"ID"_s).toInt(), 1);
+    EXPECT_EQ(recipes.RecordCount(), 3);
 
     Recordset menu = db.OpenTable(u"Menu"_s);
     EXPECT_TRUE(RecordExists(menu, u"121"_s));
@@ -110,6 +171,19 @@ TEST_F(RecordsetTest, AQueryCountsAndStepsBack) {
     EXPECT_EQ(all.RecordCount(), 3);
     all.MovePrevious();
     EXPECT_EQ(all.field(u"MnozstviKg"_s).toDouble(), 250);
+    for (int step = 0; step < 3; ++step) all.MovePrevious();
+    EXPECT_TRUE(all.AtEnd());
+    all.MoveNext();
+    EXPECT_EQ(all.field(u"MnozstviKg"_s).toDouble(), 5);
+    for (int step = 0; step < 5; ++step) all.MoveNext();
+    EXPECT_TRUE(all.AtEnd());
+    all.MovePrevious();
+    EXPECT_EQ(all.field(u"MnozstviKg"_s).toDouble(), 2);
+    all.Edit();
+    all.setField(u"MnozstviKg"_s, 9);
+    EXPECT_FALSE(all.Update()) << "a query is for reading";
+    all.Close();
+    EXPECT_TRUE(all.AtEnd() && !all.isOpen());
     Recordset none = db.OpenQuery(u"SELECT * FROM SpojSur WHERE ID_Receptu = 99"_s);
     none.MoveLast();
     EXPECT_EQ(none.RecordCount(), 0);
@@ -130,6 +204,18 @@ TEST_F(RecordsetTest, ChangesAreStoredAndOnlyThere) {
     recipes.setField(u"Vlastni"_s, u"zapomenuto"_s);
     recipes.Seek(u"="_s, 7);
     EXPECT_FALSE(recipes.Update()) << "another row is no longer being changed";
+    recipes.Edit();
+    EXPECT_TRUE(recipes.Update()) << "nothing is a change, too";
+    EXPECT_FALSE(recipes.Update());
+    recipes.Edit();
+    recipes.setField(u"Vlastni"_s, u"pryč"_s);
+    ASSERT_TRUE(db.Execute(u"DELETE FROM Recepty WHERE ID = 7"_s));
+    EXPECT_FALSE(recipes.Update()) << "the row is gone";
+    recipes.MoveLast();
+    recipes.MoveNext();
+    recipes.Edit();
+    recipes.setField(u"Vlastni"_s, u"nikam"_s);
+    EXPECT_FALSE(recipes.Update()) << "there is no row";
     recipes.MoveFirst();
 
     Recordset menu = db.OpenTable(u"Menu"_s);
