@@ -77,7 +77,6 @@ frmSplash::~frmSplash() {
 void frmSplash::setCaption(const QString& caption) {
     caption_ = caption;
     setAccessibleName(caption);
-    update();
 }
 
 bool frmSplash::Zobraz() {

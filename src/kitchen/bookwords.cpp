@@ -61,8 +61,9 @@ QString degreesIn(const QString& sentence) {
 }
 
 bool tellsPast(const QString& sentence) {
-    static const QRegularExpression past(QStringLiteral("kter\\p{L}* byl|předem zmrazen|povolil|povolen"),
-                                         QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression past(
+        QStringLiteral("kter\\p{L}* byl|předem zmrazen|povolil|povolen"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     return past.match(sentence).hasMatch();
 }
 

@@ -136,8 +136,8 @@ Dinner readDinner(UserFile& file) {
     const double asked = parts[1].toDouble();
     if (asked > 0 && asked <= kMostPortions) dinner.portions = asked;
     dinner.served = std::clamp(parts[2].toInt(), 0, kDay - 1);
-    for (int course = 0; course < kCourses; ++course)
-        dinner.recipes[static_cast<size_t>(course)] = std::max(0, parts[3 + course].toInt());
+    std::ranges::transform(parts.last(kCourses), dinner.recipes.begin(),
+                           [](const QString& recipe) { return std::max(0, recipe.toInt()); });
     return dinner;
 }
 

@@ -22,6 +22,7 @@ constexpr NumberWord kNumberWords[] = {
     {"jedn", 1},
     {"dv", 2},
     {QT_TRANSLATE_NOOP("Texts", "tři"), 3},
+    {QT_TRANSLATE_NOOP("Texts", "tří"), 3},
     {QT_TRANSLATE_NOOP("Texts", "čtyř"), 4},
     {QT_TRANSLATE_NOOP("Texts", "pět"), 5},
     {QT_TRANSLATE_NOOP("Texts", "šest"), 6},
@@ -66,7 +67,8 @@ const QRegularExpression& pattern() {
             "(?<![\\p{L}\\d])"
             "(?:(?<from>\\d+(?:,\\d+)?)\\s?[–-]\\s?)?"
             "(?:(?<number>\\d+ a \\d/\\d|\\d+ \\d/\\d|\\d/\\d|\\d+(?:,\\d+)?|čtvrt|půl|jedn[aéuo]|dv[aě]|"
-            "dvou|tři|tří|čtyři|čtyř|pět|pěti|šest|sedm|osm|devět|deset|deseti|patnáct|dvacet)\\s)?"
+            "dvou|tři|tří|čtyři|čtyř|pět|pěti|šest|sedm|osm|devět|deset|deseti|patnáct|dvacet)"
+            "(?<more> a půl)?\\s)?"
             "(?<unit>minut(?:ách|ami|[ayu])?|min\\b|hodin(?:ách|ami|[ayu])?|vteřin(?:[ayu])?|sekund(?:[ayu])?"
             "|dn[ůy]|dní|den)"
             "(?<half> a půl)?(?!\\p{L})"),
@@ -98,7 +100,9 @@ std::vector<FoundTime> findTimes(const QString& original) {
         const QString unit = match.captured(QStringLiteral("unit")).toLower();
         const QString number = match.captured(QStringLiteral("number"));
         if ((number.isEmpty() && !standsAlone(unit)) || isNoWaiting(text, match.capturedStart())) continue;
-        const double extra = match.captured(QStringLiteral("half")).isEmpty() ? 0 : 0.5;
+        const bool isHalfMore =
+            !(match.captured(QStringLiteral("more")) + match.captured(QStringLiteral("half"))).isEmpty();
+        const double extra = isHalfMore ? 0.5 : 0;
         const double longest = (number.isEmpty() ? 1 : numberOf(number)) + extra;
         const QString from = match.captured(QStringLiteral("from"));
         const double shortest = from.isEmpty() ? longest : numberOf(from);

@@ -329,9 +329,7 @@ void frmVideo::Skryj() {
 void frmVideo::unload() {
     if (!closed_) {
         closed_ = true;
-        progress_.setEnabled(false);
         tmrStart.setEnabled(false);
-        setPlaying(false);
         if (app().SoundFlags[kMusic]) app().music().command(u"play");
         if (MMControlVideo) MMControlVideo->command(u"stop");
         if (MMControlVideo) MMControlVideo->command(u"close");

@@ -17,6 +17,7 @@
 #include "app/windowplace.h"
 #include "db/userfile.h"
 #include "forms/eyes.h"
+#include "onevent.h"
 #include "support/kept.h"
 
 namespace sarne {
@@ -47,6 +48,8 @@ TEST(WindowPlaceTest, FillsADisplayOrStandsInItsMiddle) {
     };
     for (const WindowKind kind : {WindowKind::FullScreen, WindowKind::Window}) {
         QWidget window;
+        int passed = 0;
+        const test::OnEvent watch(QEvent::KeyPress, [&](const QObject*) { ++passed; });
         QCursor::setPos(screens[1]->geometry().center());
         WindowPlace place(window, kind);
         place.settle();
@@ -64,6 +67,7 @@ TEST(WindowPlaceTest, FillsADisplayOrStandsInItsMiddle) {
         QWindow* window1 = window.windowHandle();
         for (const int display : {0, 1, 0}) EXPECT_EQ(press(window1, Qt::Key_F8), expected(kind, display));
         EXPECT_EQ(window.isFullScreen(), kind == WindowKind::FullScreen);
+        EXPECT_EQ(passed, 0) << "the key means nothing else";
         EXPECT_EQ(press(window1, Qt::Key_F8, Qt::ShiftModifier), expected(kind, 0));
         EXPECT_EQ(press(window1, Qt::Key_F8, {}, true), expected(kind, 0)) << "held down";
         EXPECT_EQ(press(window1, Qt::Key_F7), expected(kind, 0));

@@ -41,8 +41,9 @@ TEST(CookingRecipe, IsReadWithAllThatCookingNeeds) {
          u"INSERT INTO SpojSur VALUES (7,1,0,1,800,0,0,0), (7,2,0,1,10,0,0,0)"_s,
          u"INSERT INTO Pomucky (ID, Polozka) VALUES (3, 'pánev')"_s,
          u"INSERT INTO SpojPomucky VALUES (7,3)"_s,
-         u"INSERT INTO Kroky VALUES (5,7,'Solíme','Rybu osolíme.'), (6,7,'','Pečeme 20 minut.')"_s,
-         u"INSERT INTO KrokySur VALUES (5,0,1), (5,1,0.5)"_s})));
+         u"INSERT INTO Kroky VALUES (5,7,'','Rybu osolíme.'), (6,7,'','Pečeme 20 minut. Hotovo.'),"
+         "(8,7,'Na stůl','Konec.')"_s,
+         u"INSERT INTO KrokySur VALUES (5,0,1), (5,1,0.5), (6,1,0), (6,-1,1), (6,2,1)"_s})));
     QStringList rows;
     for (const double portions : {0., 6.}) {
         const CookingRecipe read = readCookingRecipe(db, 7, {portions, UnitSystem::Weights},
@@ -52,6 +53,10 @@ TEST(CookingRecipe, IsReadWithAllThatCookingNeeds) {
             rows << line;
         for (const CookingStep& step : read.steps)
             rows << step.title + u": "_s + step.text << read.needsOf(step).split(u'\n');
+        for (const CookingPage& page :
+             cookingPages(read.steps, [](const QString& text) { return text.size() < 17; }))
+            if (page.kind == CookingPage::Kind::Step)
+                rows << read.counterOf(page) + u" – "_s + read.timerName(page);
     }
     test::expectText(u"k-vareni"_s, rows.join(u'\n'));
     EXPECT_TRUE(readCookingRecipe(db, 8, {}, QLocale()).name.isEmpty());
@@ -93,12 +98,26 @@ TEST(RingWave, IsAWholeSoundThatIsHeardAndNotClipped) {
     const auto number = [&](int at) { return int(qFromLittleEndian<quint16>(wave.constData() + at)); };
     EXPECT_EQ((QList<int>{number(20), number(22), number(32), number(34)}), (QList<int>{1, 1, 2, 16}))
         << "plain samples on one channel, 2 bytes of 16 bits each";
+    const auto size = [&](int at) { return int(qFromLittleEndian<quint32>(wave.constData() + at)); };
+    EXPECT_EQ((QList<int>{size(4), size(40)}), (QList<int>{int(wave.size()) - 8, int(wave.size()) - 44}));
+    EXPECT_EQ((QList<int>{size(16), size(24), size(28)}), (QList<int>{16, 22050, 44100}));
+    EXPECT_EQ(wave.size() - 44, 2 * 44100) << "two seconds";
     const auto* samples = reinterpret_cast<const qint16*>(wave.constData() + 44);
     int loudest = 0;
     for (qsizetype i = 0; i < (wave.size() - 44) / 2; ++i)
         loudest = std::max(loudest, std::abs(int(samples[i])));
     EXPECT_GT(loudest, 8000);
     EXPECT_LT(loudest, 32000);
+    const auto loudness = [&](double from) {
+        int most = 0;
+        for (int i = int(from * 22050), end = i + 1100; i < end; ++i)
+            most = std::max(most, std::abs(int(samples[i])));
+        return most;
+    };
+    for (const double stroke : {.34, .68})
+        EXPECT_GT(loudness(stroke), 1.5 * loudness(stroke - .06)) << stroke;
+    EXPECT_LT(loudness(1.02), loudness(.96)) << "three strokes";
+    EXPECT_LT(loudness(1.9), loudest / 5) << "it dies away";
 }
 
 TEST(MainFish, SaysForHowManyItIsEnough) {
@@ -126,11 +145,23 @@ TEST(MainFish, IsTheLineThatTheBookNames) {
          u"INSERT INTO Recepty (ID, Porce) VALUES (1, 4), (2, 4)"_s,
          u"INSERT INTO SpojSur VALUES (1, 2, 0, 1, 80, 1, 80, 0), (1, 1, 1, 1, 800, 1, 800, 0)"_s,
          u"INSERT INTO Fakta (ID, Ryba) VALUES (1, 1), (2, -1)"_s})));
+    QStringList told;
     const auto fish = mainFish(db, 1);
     ASSERT_TRUE(fish);
     EXPECT_EQ(fish->name, u"kapr, filety"_s);
     EXPECT_EQ(fish->portions, 4);
     EXPECT_DOUBLE_EQ(fish->wholeShare, 0.45);
+    for (const char* other :
+         {"UPDATE SpojSur SET ID_JdnKg = 0", "UPDATE SpojSur SET ID_JdnKg = 1, MnozstviKg = 0",
+          "UPDATE SpojSur SET MnozstviKg = 5", "UPDATE Vyteznost SET ID = 2",
+          "UPDATE SpojSur SET ID_Upresneni = 0", "UPDATE Fakta SET Ryba = 0", "UPDATE Fakta SET Ryba = 2"}) {
+        ASSERT_TRUE(db.Execute(QLatin1String(other)));
+        const auto now = mainFish(db, 1);
+        told << QLatin1String(other) + u": "_s +
+                    (now ? u"%1 %2 g, %3 left"_s.arg(now->name).arg(now->grams).arg(now->wholeShare)
+                         : u"none"_s);
+    }
+    test::expectText(u"hlavni-ryba"_s, told.join(u'\n'));
     EXPECT_FALSE(mainFish(db, 2));
     EXPECT_FALSE(mainFish(db, 3));
 }

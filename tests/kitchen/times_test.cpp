@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QTemporaryDir>
 #include <map>
 
 #include "core/czech.h"
+#include "db/userfile.h"
 #include "kitchen/foundtimes.h"
 #include "kitchen/timers.h"
+#include "kitchen/timerstore.h"
 #include "kitchen/units.h"
 #include "support/kept.h"
 
@@ -37,6 +40,7 @@ TEST(Times, AndAmountsAreWrittenAsOneReadsThem) {
         const double number = text.section(u' ', 1, 1).toDouble();
         if (kind == u"hodiny") return clockText(qint64(number));
         if (kind == u"doba") return durationText(int(number));
+        if (kind == u"mnozstvi") return amountText(number, unit, kCzech);
         return kind == u"koupit" ? boughtAmountText(number, unit, kCzech)
                                  : counted(number, nouns.at(unit), kCzech);
     });
@@ -47,6 +51,8 @@ TEST(KitchenTimers, RingOnceInTheOrderInWhichTheyEnd) {
     const int potatoes = timers.start(u"brambory"_s, 1200, 0);
     const int fish = timers.start(u"ryba"_s, 600, 0);
     EXPECT_EQ(timers.all().front().id, fish);
+    timers.prolong(potatoes, 60, 5);
+    EXPECT_EQ(timers.all().back().end, 1260000) << "of one that still runs its end is moved";
     EXPECT_TRUE(timers.over(599999).empty());
     ASSERT_EQ(timers.over(600000).size(), 1u);
     EXPECT_TRUE(timers.over(600001).empty());
@@ -57,11 +63,30 @@ TEST(KitchenTimers, RingOnceInTheOrderInWhichTheyEnd) {
     EXPECT_FALSE(timers.ringing());
     EXPECT_EQ(timers.all().front().left(700000), 300000);
     EXPECT_EQ(timers.over(5000000).size(), 2u);
+    timers.prolong(77, 60, 0);
     timers.stop(fish);
     timers.stop(potatoes);
     timers.stop(77);
     EXPECT_FALSE(timers.ringing());
     EXPECT_TRUE(timers.all().empty());
+}
+
+TEST(TimerStore, GoesOnWithWhatARunHasLeftForHalfADay) {
+    const QTemporaryDir folder;
+    UserFile file(folder.filePath(u"vlastni.db"_s));
+    constexpr qint64 kNow = 5000, kToday = 1'800'000'000'000, kHour = 3'600'000;
+    std::vector<KitchenTimer> left;
+    for (const qint64 end : {-12 * kHour, -12 * kHour + 1, -kHour, kHour, 24 * kHour, 24 * kHour + 1})
+        left.push_back({0, QString::number(end), kNow + end, false});
+    ASSERT_TRUE(storeTimers(file, left, kNow, kToday));
+    KitchenTimers again;
+    restoreTimers(file, again, 70, kToday);
+    QStringList names;
+    for (const KitchenTimer& timer : again.all()) {
+        names << timer.name;
+        EXPECT_EQ(timer.end, 70 + timer.name.toLongLong());
+    }
+    EXPECT_EQ(names, (QStringList{u"-43199999"_s, u"-3600000"_s, u"3600000"_s, u"86400000"_s}));
 }
 
 }  // namespace
