@@ -15,7 +15,6 @@
 #include "kitchen/timerstore.h"
 #include "support/kept.h"
 #include "support/recipedatabase.h"
-#include "support/smallbook.h"
 
 namespace sarne {
 namespace {
@@ -102,6 +101,7 @@ TEST_F(OwnCookery, HasAShelfForEverythingTheUserHasMade) {
     keepCooked(file_, 2, u"Amur na grilu"_s, {2026, 7, 1}, 4);
     keepCooked(file_, 2, u"Amur na grilu"_s, {2026, 7, 8}, 4);
     keepCooked(file_, 4, u"Treska"_s, {2026, 7, 5}, 4);
+    keepCooked(file_, 9, u"Jiná kniha"_s, {2026, 7, 5}, 4);
     EXPECT_EQ(marks.stars(3, u"Candát"_s), 3);  // looking at it took none away
     EXPECT_EQ(shelf(Shelf::Starred, december_), u"Treska, Candát"_s);
     EXPECT_EQ(shelf(Shelf::Opened, december_), u"Smažený kapr, Candát"_s);
@@ -119,6 +119,19 @@ TEST_F(OwnCookery, ThisMonthBeginsWithItsFeasts) {
     EXPECT_EQ(reasonThisMonth(all[0], december_), u"Vánoce"_s);
     EXPECT_EQ(reasonThisMonth(all[1], {2026, 7, 1}), u"v sezoně"_s);
     EXPECT_EQ(reasonThisMonth(all[1], december_), QString());
+    EXPECT_EQ(reasonThisMonth(all[2], december_), u"hodí se teď"_s);
+    OwnRecipe both = all[0];
+    both.occasions = QStringList{u"Silvestr"_s, u"zima"_s, u"Vánoce"_s};
+    EXPECT_EQ(reasonThisMonth(both, december_), u"Vánoce, Silvestr"_s);
+    OwnRecipe unknown = all[2];
+    unknown.months = 0;
+    EXPECT_EQ(reasonThisMonth(unknown, december_), u"hodí se teď"_s);
+    EXPECT_TRUE(unknown.isForAllYear() && all[2].isForAllYear() && !all[0].isForAllYear());
+    // Of those that are as near the one with more stars, and no star makes up for the season.
+    ASSERT_TRUE(book_.Execute(u"UPDATE Fakta SET Obdobi = 'zima' WHERE ID IN (1, 2, 4)"_s));
+    RecipeMarks(file_).setStars(3, u"Candát"_s, 5);
+    RecipeMarks(file_).setStars(4, u"Treska"_s, 1);
+    EXPECT_EQ(shelf(Shelf::ThisMonth, december_), u"Smažený kapr, Candát, Treska"_s);
 }
 
 TEST_F(OwnCookery, FindsItsRecipesInAnEditionThatNumbersOtherwise) {
@@ -167,27 +180,6 @@ TEST(Pantry, WhatMustNotBeInARecipeKeepsItOut) {
     EXPECT_EQ(found({{1, 2}, {}, 0, 7, 0}), u"3:0 4:1 2:2"_s);  // carp is out of season in July
     EXPECT_EQ(found({{1, 2}, {}, 0, 1, 0}), u"1:0 3:0 4:1 2:2"_s);
     EXPECT_EQ(found({{1, 2}, {}, 0, 0, 30}), u"2:2"_s);  // an unknown time is no short one
-}
-
-TEST(Pantry, IsReadFromTheBook) {
-    const QTemporaryDir folder;
-    Database db;
-    ASSERT_TRUE(db.Open(test::writeRecipeDatabase(folder.filePath(u"Sarne.drc"_s), test::smallBook())));
-    QStringList all;
-    for (const PantryRecipe& one : readPantryRecipes(db)) {
-        QStringList ingredients;
-        for (const int id : one.ingredients) ingredients << QString::number(id);
-        all << u"%1 %2: %3; alergeny %4, měsíce %5, %6 minut"_s.arg(one.id)
-                   .arg(one.name, ingredients.join(u' '))
-                   .arg(one.allergens)
-                   .arg(one.months)
-                   .arg(one.minutes);
-    }
-    for (const PantryIngredient& one : readPantryIngredients(db)) all << u"%1 %2"_s.arg(one.id).arg(one.name);
-    test::expectText(u"spiz"_s, all.join(u'\n'));
-    for (const char* table : {"Fakta", "Zbozi"}) db.Execute(u"DROP TABLE "_s + QString::fromUtf8(table));
-    EXPECT_TRUE(readPantryRecipes(db).empty());
-    EXPECT_GE(readPantryIngredients(db).size(), 3u);  // nothing is known to be at hand in every kitchen
 }
 
 TEST(Pantry, NamesWhatIsMissing) {

@@ -110,11 +110,63 @@ TEST(ShoppingList, NothingThatIsNotThereIsChanged) {
     list.addOwn(u"   "_s);
     list.setBought(3, true);
     list.setAmount(-1, 5);
+    list.setAtHome(0, true);
     list.remove(0);
     EXPECT_FALSE(list.canUndo());
     list.addOwn(u"sůl"_s);
     list.setAmount(0, 5);  // it has no number
     EXPECT_EQ(amounts(list, "sůl"), QString());
+}
+
+TEST(ShoppingList, ManyChangesButNotAllCanBeTakenBack) {
+    ShoppingList list;
+    for (int i = 0; i <= 51; ++i) list.addOwn(QString::number(100 + i));
+    for (int i = 0; i < 50; ++i) list.undo();
+    EXPECT_EQ(list.items().size(), 2U);
+    EXPECT_FALSE(list.canUndo());
+    list.clear();
+    EXPECT_TRUE(list.isEmpty());
+    list.undo();
+    EXPECT_EQ(list.items().size(), 2U);
+}
+
+TEST(ShoppingList, WhatIsAddedToAThingCompletesIt) {
+    ShoppingList list;
+    list.addOwn(u"Máslo"_s);
+    list.setBought(0, true);
+    EXPECT_TRUE(list.items()[0].isOwn() && list.recipes().empty());
+    ShoppingItem butter = need("máslo", 80, "g", 1);
+    butter.alternative = u"sádlo"_s;
+    list.addRecipe({butter});
+    ASSERT_EQ(list.items().size(), 1U);
+    EXPECT_FALSE(list.items()[0].bought) << "more of it has to be bought";
+    EXPECT_FALSE(list.items()[0].isOwn());
+    EXPECT_EQ(list.items()[0].department, Department::Dairy);
+    butter.alternative = u"olej"_s;
+    butter.department = Department::Dry;
+    butter.parts[0].recipe = 2;
+    list.addRecipe({butter});
+    EXPECT_EQ(list.text(kCzech).replace(QChar(0xa0), u' '),
+              u"MLÉČNÉ A VEJCE\n☐ Máslo – 160 g (nebo sádlo)\n"_s);
+    list.setAtHome(0, true);
+    EXPECT_EQ(list.text(kCzech), QString());
+    list.undo();
+    list.setBought(0, true);
+    list.removeBought();
+    EXPECT_TRUE(list.isEmpty());
+}
+
+TEST(ShoppingList, ANewAmountIsSharedByWhatItIsFor) {
+    ShoppingList list;
+    list.addRecipe({need("cibule", 100, "g", 1)});
+    list.addRecipe({need("cibule", 0.3, "kg", 2)});
+    list.addRecipe({need("cibule", 2, "ks", 3)});
+    list.setAmount(0, 800);
+    EXPECT_EQ(amounts(list, "cibule"), u"800 g + 2 ks"_s);
+    EXPECT_DOUBLE_EQ(list.items()[0].parts[0].amount, 200);
+    EXPECT_DOUBLE_EQ(list.items()[0].parts[1].amount, 0.6);
+    list.setAmount(0, 0);
+    EXPECT_EQ(amounts(list, "cibule"), u"800 g + 2 ks"_s);
 }
 
 TEST(ShoppingNeeds, AreWhatTheShopSells) {
