@@ -21,8 +21,8 @@ constexpr NumberWord kNumberWords[] = {
     {QT_TRANSLATE_NOOP("Texts", "půl"), 0.5},
     {"jedn", 1},
     {"dv", 2},
-    {QT_TRANSLATE_NOOP("Texts", "tři"), 3},
-    {QT_TRANSLATE_NOOP("Texts", "tří"), 3},
+    {QT_TRANSLATE_NOOP("Texts", "třičtvrt"), 0.75},
+    {QT_TRANSLATE_NOOP("Texts", "tř"), 3},
     {QT_TRANSLATE_NOOP("Texts", "čtyř"), 4},
     {QT_TRANSLATE_NOOP("Texts", "pět"), 5},
     {QT_TRANSLATE_NOOP("Texts", "šest"), 6},
@@ -32,18 +32,13 @@ constexpr NumberWord kNumberWords[] = {
     {"deset", 10},
     {"patn", 15},
     {"dvac", 20},
+    {QT_TRANSLATE_NOOP("Texts", "třic"), 30},
+    {QT_TRANSLATE_NOOP("Texts", "čtyřic"), 40},
+    {QT_TRANSLATE_NOOP("Texts", "padesát"), 50},
 };
 
-/// "2", "1,5", "1/2", "1 a 1/2", "dvě".
-double numberOf(const QString& text) {
-    static const QRegularExpression mixed(QStringLiteral("^(?:(\\d+)(?: a)? )?(\\d+)/(\\d+)$"));
-    if (const auto match = mixed.match(text); match.hasMatch())
-        return match.captured(1).toDouble() +
-               match.captured(2).toDouble() / std::max(1., match.captured(3).toDouble());
-    QString digits = text;
-    bool isNumber = false;
-    const double value = digits.replace(u',', u'.').toDouble(&isNumber);
-    if (isNumber) return value;
+/// "dvě", "dvacet".
+double numberOfWord(const QString& text) {
     // Longer beginnings first: "dvac" is no "dv".
     const NumberWord* best = nullptr;
     for (const NumberWord& word : kNumberWords) {
@@ -53,6 +48,21 @@ double numberOf(const QString& text) {
             best = &word;
     }
     return best ? best->value : 1;
+}
+
+/// "2", "1,5", "1/2", "1 a 1/2", "dvě", "dvacet pět".
+double numberOf(const QString& text) {
+    static const QRegularExpression mixed(QStringLiteral("^(?:(\\d+)(?: a)? )?(\\d+)/(\\d+)$"));
+    if (const auto match = mixed.match(text); match.hasMatch())
+        return match.captured(1).toDouble() +
+               match.captured(2).toDouble() / std::max(1., match.captured(3).toDouble());
+    QString digits = text;
+    bool isNumber = false;
+    const double value = digits.replace(u',', u'.').toDouble(&isNumber);
+    if (isNumber) return value;
+    double sum = 0;
+    for (const QString& word : text.split(u' ')) sum += numberOfWord(word);
+    return sum;
 }
 
 int unitSeconds(const QString& unit) {
@@ -67,7 +77,8 @@ const QRegularExpression& pattern() {
             "(?<![\\p{L}\\d])"
             "(?:(?<from>\\d+(?:,\\d+)?)\\s?[–-]\\s?)?"
             "(?:(?<number>\\d+ a \\d/\\d|\\d+ \\d/\\d|\\d/\\d|\\d+(?:,\\d+)?|čtvrt|půl|jedn[aéuo]|dv[aě]|"
-            "dvou|tři|tří|čtyři|čtyř|pět|pěti|šest|sedm|osm|devět|deset|deseti|patnáct|dvacet)"
+            "dvou|třičtvrtě|tři|tří|čtyři|čtyř|pěti?|šesti?|sedmi?|osmi?|devět|deseti?|patnácti?|"
+            "(?:(?:dva|tři|čtyři)ceti?|padesáti?)(?: pěti?)?)"
             "(?<more> a půl)?\\s)?"
             "(?<unit>minut(?:ách|ami|[ayu])?|min\\b|hodin(?:ách|ami|[ayu])?|vteřin(?:[ayu])?|sekund(?:[ayu])?"
             "|dn[ůy]|dní|den)"
