@@ -14,6 +14,7 @@
 
 #include "app/program.h"
 #include "doors.h"
+#include "forms/drawnpictures.h"
 #include "platform/memory.h"
 
 namespace sarne {
@@ -74,10 +75,13 @@ class Wanderer {
         door.open(program_, std::int16_t(1 + below(kRecipes)));
         note();
     }
-    /// To where the memory of one time can be compared with that of another: pictures are kept in the sizes
-    /// in which they were drawn last, so the same screens are gone through before, and the same thing of the
-    /// kitchen is lit.
+    /// To where the memory of one time can be compared with that of another: what was drawn last is kept, as
+    /// much as there is room for, so that is emptied and the same screens are gone through before, and the
+    /// same thing of the kitchen is lit.
     void goHome() {
+        DrawnPictures& drawn = DrawnPictures::shared();
+        drawn.setDisplay({});
+        drawn.setDisplay(program_.stage().size() * program_.stage().devicePixelRatio());
         for (const Door& door : doors()) {
             goBackToMain(program_);
             door.open(program_, 1);
