@@ -14,8 +14,8 @@
 namespace sarne {
 namespace {
 
-PlannedDish dish(int minutes, const QStringList& steps, const char* ahead = "", int served = 18 * 60) {
-    PlannedDish one{u"Kapr"_s, minutes, QString::fromUtf8(ahead), {}, served};
+PlannedDish dish(int minutes, const QStringList& steps, const QString& ahead) {
+    PlannedDish one{u"Kapr"_s, minutes, ahead, {}, 18 * 60};
     for (const QString& step : steps) one.steps.push_back({{}, step, {}});
     one.steps.push_back({u"Na stůl"_s, u"Vydrží dva dny."_s, {}});
     return one;
@@ -27,61 +27,13 @@ QStringList planOf(const std::vector<PlannedDish>& dishes) {
     return lines.replaceInStrings(QString(QChar(QChar::Nbsp)), u" "_s);
 }
 
+/// "60: step / step; ahead", the dish's minutes first.
 TEST(TimePlan, GoesBackwardsFromTheTable) {
-    EXPECT_EQ(
-        planOf({dish(60, {u"Rybu nasolíme a osušíme. A hned."_s,
-                          u"Troubu předehřejeme na 200 °C. Rybu potřeme."_s, u"Pečeme 30 až 40 minut."_s})}),
-        (QStringList{u"17.00 Rybu nasolíme a osušíme."_s, u"17.05 Předehřát troubu na 200 °C"_s,
-                     u"17.05 Rybu potřeme."_s, u"17.15 Pečeme 30 až 40 minut."_s, u"18.00 Na stůl: Kapr"_s}));
-}
-
-TEST(TimePlan, LightsTheOvenWhenItIsNeeded) {
-    const QStringList plan =
-        planOf({dish(120, {u"Troubu předehřejeme na 180 °C."_s, u"Těsto necháme 60 minut odpočívat."_s,
-                           u"Pečeme 30 minut."_s})});
-    EXPECT_EQ(plan, QStringList({u"16.10 Těsto necháme 60 minut odpočívat."_s,
-                                 u"17.05 Předehřát troubu na 180 °C"_s, u"17.20 Pečeme 30 minut."_s,
-                                 u"18.00 Na stůl: Kapr"_s}));
-}
-
-TEST(TimePlan, TimesThatRunBesideEachOtherStayWithinTheDish) {
-    const QStringList plan =
-        planOf({dish(40, {u"Brambory vaříme 30 minut."_s, u"Rybu mezitím pečeme 30 minut."_s})});
-    EXPECT_EQ(plan.first(), u"17.20 Brambory vaříme 30 minut."_s);
-}
-
-TEST(TimePlan, WaitsOfHoursBeginInTheEveningBefore) {
-    const QStringList plan =
-        planOf({dish(40, {u"Rybu uvaříme."_s, u"Dáme ji přes noc do chladničky."_s, u"Ozdobíme ji."_s})});
-    ASSERT_EQ(plan.size(), 4);
-    EXPECT_TRUE(plan[0].startsWith(u"den předem v 19."_s)) << plan[0].toStdString();
-    EXPECT_EQ(plan[1], u"den předem v 20.00 Dáme ji přes noc do chladničky."_s);
-    EXPECT_TRUE(plan[2].startsWith(u"17."_s));
-    // Four hours are no night: they begin on the day.
-    EXPECT_EQ(planOf({dish(20, {u"Necháme tuhnout 4 hodiny."_s})}).first(),
-              u"13.40 Necháme tuhnout 4 hodiny."_s);
-}
-
-TEST(TimePlan, WhatTheRecipeWantsBeforehandHasItsPlace) {
-    const QStringList steps{u"Rybu opečeme."_s};
-    EXPECT_EQ(planOf({dish(30, steps, "bramborový salát o den dřív")}).first(),
-              u"den předem v 20.00 Předem: bramborový salát o den dřív"_s);
-    EXPECT_EQ(planOf({dish(30, steps, "oheň o 40 minut dřív")}).first(),
-              u"16.50 Předem: oheň o 40 minut dřív"_s);
-    EXPECT_EQ(planOf({dish(30, steps, "houskový knedlík")}).first(), u"17.30 Předem: houskový knedlík"_s);
-    // What ripens is made that much earlier.
-    EXPECT_EQ(planOf({dish(30, steps, "1 až 3 dny v nálevu")}).first(),
-              u"3 dny předem v 17.30 Rybu opečeme."_s);
-    // Fish that has been frozen is frozen before its first step.
-    const QStringList plan = planOf({dish(30, {u"Lososa, který byl 24 hodin zmrazený, osušíme."_s},
-                                          "7 dní v mrazáku, přes noc povolit")});
-    EXPECT_EQ(plan[0], u"7 dní předem v 17.30 Předem: 7 dní v mrazáku, přes noc povolit"_s);
-    EXPECT_EQ(plan[1].left(6), u"17.30 "_s);
-}
-
-TEST(TimePlan, ADishWithoutStepsOrMinutesIsOnTheTableAllTheSame) {
-    EXPECT_EQ(planOf({dish(0, {})}), QStringList{u"18.00 Na stůl: Kapr"_s});
-    EXPECT_EQ(planOf({dish(0, {QString(), u"Vaříme 10 minut."_s})}).size(), 2);
+    test::expectCases(u"plany"_s, [](const QString& told) {
+        const QString ahead = told.section(u"; "_s, 1),
+                      steps = told.section(u"; "_s, 0, 0).section(u": "_s, 1);
+        return planOf({dish(told.section(u':', 0, 0).toInt(), steps.split(u" / "_s), ahead)}).join(u" | "_s);
+    });
     EXPECT_TRUE(planOf({}).isEmpty());
 }
 
