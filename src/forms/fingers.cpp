@@ -116,7 +116,6 @@ bool Fingers::press(QWidget& under, const QMouseEvent& event) {
     down_ = true;
     under_ = &under;
     control_ = controlAt(under);
-    device_ = event.pointingDevice();
     from_ = last_ = event.globalPosition().toPoint();
     QWidget* widget = &under;
     while (widget && !qobject_cast<Form*>(widget)) widget = widget->parentWidget();

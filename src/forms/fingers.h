@@ -9,7 +9,6 @@
 #include "forms/timer.h"
 
 class QMouseEvent;
-class QPointingDevice;
 class QWidget;
 
 namespace sarne {
@@ -62,7 +61,6 @@ class Fingers : public QObject {
     QPointer<QWidget> under_;
     QPointer<Control> control_;
     QPointer<Form> form_;
-    const QPointingDevice* device_ = nullptr;
     QPoint from_, last_;  ///< on the display
 };
 

@@ -125,7 +125,7 @@ const Eyes& Form::eyes() const {
 
 double Form::enlargement() const {
     if (!growsWithTexts()) return 1;
-    const QSizeF size = twips().size().expandedTo({1, 1});
+    const QSizeF size = twips().size();
     return std::max(
         1., std::min({eyes().textScale(), Stage::kWidth / size.width(), Stage::kHeight / size.height()}));
 }

@@ -7,7 +7,6 @@
 #include "forms/button.h"
 #include "forms/checkbox.h"
 #include "forms/edit.h"
-#include "forms/focusframe.h"
 #include "support/fakesarne.h"
 
 namespace sarne {
@@ -182,28 +181,6 @@ TEST_F(FocusRingTest, AScreenBelowHandsTheKeyboardToTheOneOnTop) {
     over->showForm();
     screen->setFocus();
     EXPECT_EQ(run.window.focusForm(), over);
-}
-
-TEST_F(FocusRingTest, TheKeyboardIsShownAtADistanceAndOnlyToThoseWhoUseIt) {
-    const FocusFrame& frame = screen->focusFrame();
-    Button& button = *screen->buttons[0];
-    QTest::mouseClick(&button, Qt::LeftButton);
-    EXPECT_FALSE(frame.isVisible());
-    press(Qt::Key_A);
-    ASSERT_TRUE(frame.isVisible());
-    button.place({3000, 6000, 750, 450});
-    const QRect thing = button.focusPlace().translated(3000, 6000);
-    EXPECT_TRUE(frame.twips().contains(thing.adjusted(-75, -75, 75, 75))) << "it has moved along";
-    EXPECT_EQ(screen->children().last(), &frame) << "above what it surrounds";
-    const QImage shot = screen->grab().toImage();
-    const QColor beside = shot.pixelColor(screen->toPixels({thing.left() - 15, thing.center().y()}));
-    EXPECT_EQ(beside, shot.pixelColor(shot.width() - 1, shot.height() - 1))
-        << "ground between thing and ring";
-    const int middle = frame.geometry().center().y();
-    EXPECT_NE(shot.pixelColor(frame.x(), middle), beside) << "dark at its edge, for light grounds";
-    EXPECT_GT(qGray(shot.pixel(frame.x() + 2, middle)), 120) << "light in its middle";
-    button.setEnabled(false);
-    EXPECT_FALSE(frame.isVisible());
 }
 
 /// Counts how often it is painted.

@@ -304,7 +304,11 @@ void changing(Screen& screen) {
     addChanging<TextView>(
         screen, "view", [](TextView& one) { one.drawPlainText(u"Kapr Lín Sumec Úhoř Okoun"_s); },
         {[](TextView& one) { one.drawRichText(test::rtf(u"\\b Amur\\par *12kapr*"_s)); },
-         [](TextView& one) { one.Cls(); }, [](TextView& one) { one.scrollBy(300); },
+         [](TextView& one) {
+             one.scrollBy(300);
+             one.Cls();
+         },
+         [](TextView& one) { one.scrollBy(300); }, [](TextView& one) { one.scrollBy(9999); },
          [](TextView& one) { one.setEnabled(false); }, [](TextView& one) { one.setVisible(false); },
          [](TextView& one) { one.drawFilling([&one] { one.drawPlainText(u"Kapr"_s); }); }});
     addChanging<Edit>(screen, "txt", [](Edit& one) { one.setText(u"kapr"_s); },

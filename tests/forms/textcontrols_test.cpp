@@ -97,6 +97,11 @@ TEST_F(TextControls, LinkPhrasesAreLetGo) {
     QTest::mousePress(&view, Qt::LeftButton, {}, onFirst);
     QTest::mouseRelease(&view, Qt::LeftButton, {}, {1, 1});
     EXPECT_TRUE(opened.empty()) << "let go beside the phrase";
+    QTest::mousePress(&view, Qt::LeftButton, {}, onFirst);
+    view.Cls();
+    view.drawRichText(head + u"Vezmi *12kapra* a nic.}"_s);
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, onFirst);
+    EXPECT_TRUE(opened.empty()) << "what was pressed is no more";
     QTest::mouseMove(&view, {1, 1});
     EXPECT_FALSE(view.pieces().hovered());
 }
