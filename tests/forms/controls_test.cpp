@@ -39,10 +39,17 @@ TEST(ListBox, LettersJumpWhateverTheirCaseAndAccentsAndOtherKeysGoToTheForm) {
     EXPECT_EQ(list.listIndex(), 2);
     EXPECT_EQ(list.marked(), std::vector<int>{2});
     EXPECT_TRUE(form->keys.isEmpty()) << "a letter is no command while a list has the keyboard";
-    const QList<int> others{Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab,
-                            Qt::Key_Left,   Qt::Key_Delete, Qt::Key_F1};
+    const QList<int> others{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab,
+                            Qt::Key_Left,   Qt::Key_Right, Qt::Key_Delete, Qt::Key_F1,  Qt::Key_F12};
     for (const int key : others) QTest::keyClick(&list.view(), Qt::Key(key));
     EXPECT_EQ(form->keys, others);
+    QTest::keyClick(&list.view(), Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(form->keys.last(), Qt::Key_X);
+    int doubles = 0;
+    QObject::connect(&list, &Control::doubleClicked, [&doubles] { ++doubles; });
+    QTest::mouseDClick(list.view().viewport(), Qt::LeftButton, {}, {5, list.view().viewport()->height() - 5});
+    EXPECT_EQ(doubles, 1) << "beside the entries, too";
+    EXPECT_EQ(list.view().model()->index(1, 0).data(Qt::AccessibleDescriptionRole), u"2 z 4"_s);
     QTest::keyClick(&list.view(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(list.marked().size(), 4u);
     list.setItems({}, {});

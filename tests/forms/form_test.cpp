@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QHelpEvent>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include "forms/button.h"
 #include "forms/edit.h"
@@ -144,6 +146,18 @@ TEST_F(FormTest, AScreenOpenedFromADialogStandsAboveItUntilItCloses) {
     });
     box->showModal();
     EXPECT_EQ(run.FormStack.top(), screen);
+}
+
+TEST_F(FormTest, TheWindowAsksBeforeItCloses) {
+    int asked = 0;
+    QObject::connect(&run.window, &Stage::closeRequested, [&asked] { ++asked; });
+    EXPECT_FALSE(run.window.close());
+    EXPECT_EQ(asked, 1);
+    screen->showForm();
+    screen->button.setTip(u"Tisk"_s);
+    QHelpEvent hint(QEvent::ToolTip, {5, 5}, screen->button.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&screen->button, &hint);
+    EXPECT_FALSE(QToolTip::isVisible()) << "the name plate says it";
 }
 
 TEST_F(FormTest, AClickNeedsPressAndReleaseOnTheSameEnabledControl) {

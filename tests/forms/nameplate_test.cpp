@@ -102,7 +102,7 @@ TEST(NamePlates, StepByStep) {
          "hover:41,41 "
          "hover:cmdRoh hover:cmdDlouhy tick"},
         {"jmenovka-se-meni",
-         "Left hover:cmdMeni tick tick tick tick tick tick tick hover:cmdRoh hover:cmdMeni tick"},
+         "A hover:cmdMeni tick tick tick tick tick tick tick hover:cmdRoh hover:cmdMeni tick"},
         {"jmenovky-klavesnici", "Tab Tab Tab Tab Tab hover:cmdRoh Shift+Tab A"}};
     test::walkEach(ways, [](const auto& one, const test::Look& look) {
         FakeSarne run;

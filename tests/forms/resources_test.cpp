@@ -45,6 +45,38 @@ TEST(ResourcesTest, AreFoundByTheirNamesWhateverTheirCase) {
         EXPECT_EQ(resources.cursor(u"Tisk"_s, scale, 1).pixmap().width(), side);
 }
 
+TEST(Program, PlaysItsEffectsAndAsksEveryScreenBeforeItEnds) {
+    QTemporaryDir folder;
+    ASSERT_TRUE(test::write(folder.filePath(u"zvuky/7.wav"_s), "sedm"));
+    FakeSarne run;
+    run.pictures = Resources(folder.path() + u'/');
+    run.PlayEffect(6);
+    EXPECT_EQ(run.EffectWave, "sedm");
+    run.PlayEffect(7);
+    EXPECT_EQ(run.sounds.played, QList<QByteArray>{"sedm"});
+    EXPECT_EQ(run.EffectWave, "");
+    run.MediaRoot = u"\\neni\\"_s;
+    EXPECT_TRUE(run.mediaPicture(u"r1.bmp"_s).isNull());
+    struct Screen : Form {
+        Screen(basSarne& sarne, QStringList& log, const char* name, bool isReady)
+            : Form(sarne, QLatin1String(name)), asked(log), ready(isReady) {
+            app().PushScreen(*this);
+        }
+        bool readyToEnd() override {
+            asked << name();
+            return ready;
+        }
+        QStringList& asked;
+        bool ready;
+    };
+    QStringList asked;
+    Screen lowest(run, asked, "frmA", true), middle(run, asked, "frmB", false), top(run, asked, "frmC", true);
+    EXPECT_FALSE(run.ReadyToEnd());
+    middle.ready = true;
+    EXPECT_TRUE(run.ReadyToEnd());
+    EXPECT_EQ(asked, (QStringList{u"frmC"_s, u"frmB"_s, u"frmC"_s, u"frmB"_s, u"frmA"_s}));
+}
+
 TEST(ResourcesTest, OnlyWhatIsSealedIsTaken) {
     QTemporaryDir folder;
     const QString file = folder.filePath(u"Sarne.rcc"_s), other = folder.filePath(u"jiny.rcc"_s);
