@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QLocale>
 #include <QStringList>
-#include <QTextBoundaryFinder>
 
+#include "core/czech.h"
 #include "core/lettersearch.h"
 #include "core/spokentext.h"
 #include "core/unbreakable.h"
@@ -31,14 +32,22 @@ TEST(LetterJump, LettersAddUpUntilAPause) {
     EXPECT_EQ(search.restart(), u"u"_s);
 }
 
-TEST(PaintedText, NoLineEndsInARangeOrBeforeAnAmount) {
-    const QString painted = unbroken(u"táhneme při 80–85 °C – tedy ne víc, sůl\u00a0–\u00a02 g"_s);
-    QTextBoundaryFinder lines(QTextBoundaryFinder::Line, painted);
-    QStringList pieces;
-    for (qsizetype from = 0; lines.toNextBoundary() > 0; from = lines.position())
-        pieces.append(painted.sliced(from, lines.position() - from).remove(QChar(0x200d)));
-    EXPECT_EQ(pieces, (QStringList{u"táhneme "_s, u"při "_s, u"80–85\u00a0°C "_s, u"– "_s, u"tedy "_s,
-                                   u"ne "_s, u"víc, "_s, u"sůl\u00a0–\u00a02\u00a0g"_s}));
+TEST(CzechWords, FoldedForSearchesAndCounted) {
+    test::expectCases(u"slova"_s, [](const QString& text) {
+        return QStringList{folded(text), foldedWords(text), fileWords(text)}.join(u'|');
+    });
+    test::expectCases(u"pocty"_s, [](const QString& number) {
+        const QLocale czech(QLocale::Czech);
+        return counted(number.toDouble(), portionNoun(), czech) + u", "_s +
+               counted(number.toDouble(), recipeNoun(), czech);
+    });
+}
+
+TEST(PaintedText, HoldsTogetherWhatBelongsTogether) {
+    test::expectCases(u"pohromade"_s, [](const QString& text) {
+        return unbroken(text).replace(u"\u200d"_s, u"|"_s) +
+               (holdsTogether(text, text.size() - 1) ? u"!"_s : QString());
+    });
 }
 
 TEST(SpokenText, UnitsRangesAndLineEndsAreReadAsWords) {
