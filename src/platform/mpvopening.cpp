@@ -115,7 +115,6 @@ void MpvControl::Private::opened() {
     if (loop_ == MediaLoop::On) core_->setText("gapless-audio", "yes");
     filmPosition_ = 0;
     opening_ = false;
-    timeout_.stop();
     mode_ = MediaMode::Stopped;
     atEnd_ = false;
     QMetaObject::invokeMethod(

@@ -126,10 +126,7 @@ QPageLayout SystemPrinter::State::fileLayout() const {
 bool SystemPrinter::State::beginFile(const QString& path, const QString& title) {
     QDir().mkpath(QFileInfo(path).absolutePath());
     file = std::make_unique<WholeFile>(path);
-    if (!file->isOpen()) {
-        file.reset();
-        return false;
-    }
+    if (!file->isOpen()) return false;
     written.setData({});
     written.open(QIODevice::WriteOnly);
     notes = {};

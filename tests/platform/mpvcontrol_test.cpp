@@ -101,11 +101,19 @@ TEST_F(MpvControlTest, PausesStopsAndMoves) {
     EXPECT_EQ(player.mode(), MediaMode::Stopped);
     EXPECT_EQ(player.position(), player.length());
     EXPECT_EQ(codes, QList<int>{4});
+    player.command(u"play");
     player.command(u"prev");
+    runFor(200);
+    EXPECT_EQ(player.position(), 0) << "and stays there";
+    codes.clear();
+    player.command(u"play");
+    player.command(u"play");
+    EXPECT_EQ(codes, QList<int>{2});
+    player.setPosition(99999);
+    player.setPosition(-5);
     EXPECT_EQ(player.position(), 0);
-    player.command(u"play");
-    player.command(u"play");
-    EXPECT_EQ(codes, (QList<int>{4, 2}));
+    runFor(200);
+    EXPECT_EQ(codes, QList<int>{2}) << "who has moved away from the end does not end";
     player.setPosition(99999);
     EXPECT_TRUE(waitForCode(MediaDone::Successful));
 
@@ -113,10 +121,34 @@ TEST_F(MpvControlTest, PausesStopsAndMoves) {
     codes.clear();
     player.command(u"prev");
     player.command(u"play");
+    player.setPosition(5000);
     player.command(u"close");
+    runFor(100);
     EXPECT_EQ(player.mode(), MediaMode::NotOpen);
+    EXPECT_EQ(player.error(), 0);
     EXPECT_EQ(player.length(), 0);
     EXPECT_TRUE(codes.isEmpty());
+    player.command(u"open");
+    runFor(200);
+    EXPECT_EQ(player.position(), 0) << "from the start, and not by itself";
+}
+
+TEST_F(MpvControlTest, PlaysAsFastAsItIsToldTo) {
+    player.setSpeed(3);
+    open(media.write(u"a.wav"_s, sineWav(440, 20000)));
+    const auto playedIn = [&](int milliseconds) {
+        QElapsedTimer time;
+        time.start();
+        const qint64 from = player.position();
+        runFor(milliseconds);
+        return double(player.position() - from) / double(time.elapsed());
+    };
+    player.command(u"play");
+    EXPECT_TRUE(waitFor([&] { return player.position() > 300; }));
+    EXPECT_NEAR(playedIn(1000), 3, .5);
+    player.setSpeed(.5);
+    runFor(300);
+    EXPECT_NEAR(playedIn(1000), .5, .2);
 }
 
 TEST_F(MpvControlTest, LoopsWithoutEnding) {
@@ -128,6 +160,8 @@ TEST_F(MpvControlTest, LoopsWithoutEnding) {
     EXPECT_TRUE(codes.isEmpty());
     player.setLoop(MediaLoop::Off);
     player.command(u"open");
+    runFor(200);
+    EXPECT_EQ(player.position(), 0) << "what played has left nothing playing";
     player.command(u"play");
     EXPECT_TRUE(waitForCode(MediaDone::Successful)) << "the next file does not loop";
 }
@@ -138,8 +172,10 @@ TEST_F(MpvControlTest, ALoopWhoseFileIsTakenAwayEnds) {
     open(file);
     player.command(u"play");
     ASSERT_TRUE(QFile::resize(file, 44));
-    EXPECT_TRUE(waitFor([&] { return codes.contains(8); }, 20000));
+    EXPECT_TRUE(waitFor([&] { return !codes.isEmpty(); }, 20000));
+    EXPECT_EQ(codes, QList<int>{8});
     EXPECT_EQ(player.mode(), MediaMode::NotOpen);
+    EXPECT_EQ(player.lastError(), MediaError::InvalidFile);
 }
 
 TEST_F(MpvControlTest, OpensWithoutWaiting) {
@@ -149,7 +185,19 @@ TEST_F(MpvControlTest, OpensWithoutWaiting) {
     player.command(u"play");
     EXPECT_TRUE(waitForCode(MediaDone::Successful));
 
+    open(media.path(u"a.wav"_s));
+    player.command(u"play");
+    player.command(u"open");
+    EXPECT_TRUE(waitFor([&] { return player.mode() == MediaMode::Stopped; })) << "the second is not to play";
+    runFor(100);
+    EXPECT_EQ(player.mode(), MediaMode::Stopped);
+    player.release();
     player.hold();
+    player.setWait(MediaWait::Wait);
+    open(media.path(u"a.wav"_s));
+    EXPECT_EQ(player.mode(), MediaMode::Stopped) << "who waits does not hold";
+    player.setWait(MediaWait::DontWait);
+
     codes.clear();
     open(media.path(u"a.wav"_s));
     player.command(u"play");
@@ -207,11 +255,35 @@ TEST_F(MpvControlTest, ShowsFilmsOfTheDiscsCodecs) {
         ASSERT_EQ(player.error(), 0) << codec;
         EXPECT_EQ(player.videoSize(), QSize(160, 120)) << codec;
         EXPECT_NEAR(player.length(), 1000, 100) << codec;
+        EXPECT_LT(player.position(), 50) << codec;
         player.command(u"play");
         EXPECT_TRUE(waitForCode(MediaDone::Successful)) << codec;
         EXPECT_GT(frames, 8) << codec;
         EXPECT_FALSE(player.renderFrame({640, 480}).isNull()) << "the last picture stays";
     }
+}
+
+TEST_F(MpvControlTest, ShowsThePictureOfThePlaceThatItMovesTo) {
+    open(media.film(
+        u"a.avi"_s, 2000,
+        u"-vf drawbox=x=0:y=0:w=iw:h=ih:color=red:t=fill:enable='gte(t,1)',drawbox=x=0:y=0:w=iw:h=ih:color=blue:t=fill:enable='lt(t,1)' -c:v mjpeg -c:a pcm_s16le"_s));
+    ASSERT_EQ(player.error(), 0);
+    const auto shows = [&](bool red) {
+        return waitFor([&] {
+            const QColor colour = player.renderFrame({40, 30}).pixelColor(20, 15);
+            return (red ? colour.red() : colour.blue()) > 200;
+        });
+    };
+    EXPECT_TRUE(shows(false));
+    player.setPosition(1500);
+    EXPECT_EQ(player.position(), 1500);
+    EXPECT_TRUE(shows(true));
+    EXPECT_NEAR(double(player.position()), 1500, 50);
+    player.command(u"prev");
+    EXPECT_TRUE(shows(false));
+    player.command(u"next");
+    EXPECT_TRUE(shows(true));
+    EXPECT_EQ(player.position(), player.length());
 }
 
 TEST_F(MpvControlTest, KeepsAFilmsProportions) {
@@ -243,6 +315,7 @@ TEST_F(MpvControlTest, BrokenFilesAreErrorsAndNothingWorse) {
     }
     open(media.path({}));
     EXPECT_EQ(player.lastError(), MediaError::InvalidFile) << "a folder";
+    EXPECT_TRUE(codes.isEmpty()) << "who waits is told by the error";
 
     const QByteArray whole = test::bytesOf(media.film(u"celý.avi"_s, 1000, u"-c:v mjpeg -c:a pcm_s16le"_s));
     open(media.write(u"b.avi"_s, whole.first(whole.size() / 2)));  // what is there plays

@@ -52,6 +52,7 @@ TEST(OutputWatchTest, WhereNothingWillSoundItGivesUp) {
 // What a player is asked to do; only the calls that a core without a file makes.
 struct Asked {
     QStringList lines;
+    QMultiMap<uint64_t, QString> observed;
 };
 Asked asked;
 
@@ -63,12 +64,14 @@ MpvLibrary fakeLibrary() {
     mpv.terminateDestroy = [](mpv_handle*) {};
     mpv.setOptionString = [](mpv_handle*, const char*, const char*) { return 0; };
     mpv.setWakeupCallback = [](mpv_handle*, void (*)(void*), void*) {};
-    mpv.observeProperty = [](mpv_handle*, uint64_t, const char* name, mpv_format) {
+    mpv.observeProperty = [](mpv_handle*, uint64_t tag, const char* name, mpv_format) {
+        asked.observed.insert(tag, QString::fromUtf8(name));
         asked.lines += u"observe "_s + QString::fromUtf8(name);
         return 0;
     };
     mpv.unobserveProperty = [](mpv_handle*, uint64_t tag) {
-        asked.lines += u"unobserve %1"_s.arg(tag);
+        asked.lines += u"unobserve "_s + asked.observed.values(tag).join(u' ');
+        asked.observed.remove(tag);
         return 1;
     };
     mpv.commandAsync = [](mpv_handle*, uint64_t, const char** words) {
@@ -119,7 +122,12 @@ TEST(OutputWatchTest, ThePlayerIsAskedAccordingly) {
     core->followOutput({"current-ao", MPV_FORMAT_NONE, nullptr});
     EXPECT_EQ(asked.lines, (QStringList{u"observe audio-device-list"_s, u"ao-reload"_s}));
     tellOutput(*core, "pulse");
-    EXPECT_EQ(asked.lines.last(), u"unobserve 2"_s);
+    EXPECT_EQ(asked.lines.last(), u"unobserve audio-device-list"_s);
+    core->followPosition(true);
+    core->followPosition(true);
+    EXPECT_EQ(asked.observed.values(), (QStringList{u"current-ao"_s, u"eof-reached"_s, u"time-pos"_s}));
+    core->followPosition(false);
+    EXPECT_EQ(asked.observed.values(), (QStringList{u"current-ao"_s, u"eof-reached"_s}));
 }
 
 }  // namespace

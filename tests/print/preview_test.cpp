@@ -1,5 +1,6 @@
 #include "print/frmnahled.h"
 #include "printform.h"
+#include "support/wheel.h"
 
 namespace sarne {
 namespace {
@@ -34,6 +35,10 @@ TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
     key(Qt::Key_Down);
     EXPECT_GT(sheet->scrolled(), 0);
     EXPECT_EQ(preview->currentSheet(), 0);
+    for (int notch = 0; notch < 30 && preview->currentSheet() == 0; ++notch)
+        test::wheel(*child<PageSheet>(*preview, "picStrana"), -120);
+    EXPECT_EQ(preview->currentSheet(), 1) << "at its end the wheel turns the page";
+    EXPECT_EQ(sheet->scrolled(), 0);
     key(Qt::Key_F1);
     EXPECT_TRUE(run.recorded.calls.contains(u"showHelpFor frmNahled"_s));
     key(Qt::Key_Escape);
