@@ -206,10 +206,7 @@ std::array<int, 2> RecipeFlow::quantityColumns(const std::vector<QuantityRow>& r
 
 void RecipeFlow::addQuantities(const std::vector<QuantityRow>& rows) {
     const std::array<int, 2> columns = quantityColumns(rows);
-    for (const QuantityRow& row : rows) {
-        if (stop_) return;
-        columns[0] > 0 ? addQuantityRow(row, columns) : addJoinedRow(row);
-    }
+    for (const QuantityRow& row : rows) columns[0] > 0 ? addQuantityRow(row, columns) : addJoinedRow(row);
 }
 
 void RecipeFlow::addQuantityRow(const QuantityRow& row, const std::array<int, 2>& columns) {

@@ -23,10 +23,11 @@ struct Print {
     Printing printing;
     QTimer questions;
 
-    explicit Print(bool toFile) : printing(run, toFile ? static_cast<Printer&>(file) : printer) {
+    explicit Print(bool toFile, const std::vector<std::int16_t>& ids = {1, 3})
+        : printing(run, toFile ? static_cast<Printer&>(file) : printer) {
         run.database.Open(book.folder.filePath(u"Sarne.drc"_s));
         run.openAbove("frmSeznam");
-        printing.printRecipes({1, 3}, {2.5, UnitSystem::Spoons});
+        printing.printRecipes(ids, {2.5, UnitSystem::Spoons});
         QApplication::processEvents();
         // A dialog that is opened on the way is left again.
         QObject::connect(&questions, &QTimer::timeout, [this] {
@@ -54,6 +55,14 @@ TEST(Looks, Printing) {
         print.run.window.focusForm()->findChild<Control*>(u"cmdNahled"_s)->click();
         look(print.run);
     });
+    test::walk(
+        "nahled-zvetseny",
+        [](const Look& look) {
+            Print print(false, {3});
+            print.run.window.focusForm()->findChild<Control*>(u"cmdNahled"_s)->click();
+            look(print.run);
+        },
+        "Return Down Up Down Return End Return");
 }
 
 /// Looks while a dialog stands there, then closes it.

@@ -26,9 +26,16 @@ TEST_F(FrmPrintTest, ThePreviewShowsThePagesThatArePrinted) {
     }
     EXPECT_EQ(preview->currentSheet() + 1, printed.size()) << "the last page stays";
     EXPECT_FALSE(child<Button>(*preview, "cmdStrana(1)")->isEnabled());
+    const int last = int(printed.size()) - 1;
+    ASSERT_GT(last, 2);
+    const std::pair<Qt::Key, int> leads[] = {{Qt::Key_Home, 0},   {Qt::Key_Up, 0},   {Qt::Key_PageDown, 1},
+                                             {Qt::Key_Right, 2},  {Qt::Key_Left, 1}, {Qt::Key_Down, 2},
+                                             {Qt::Key_PageUp, 1}, {Qt::Key_Up, 0},   {Qt::Key_End, last}};
+    for (const auto& [code, sheetThen] : leads) {
+        key(code);
+        EXPECT_EQ(preview->currentSheet(), sheetThen) << code;
+    }
     key(Qt::Key_Home);
-    key(Qt::Key_Up);
-    EXPECT_EQ(preview->currentSheet(), 0);
     EXPECT_LT(preview->textToRead().count(u'\n'), sheet->accessibleValue().count(u'\n')) << "runs on";
     key(Qt::Key_Return);
     EXPECT_TRUE(sheet->isZoomed());
@@ -68,6 +75,12 @@ TEST_F(FrmPrintTest, EveryChangeShowsInThePreviewAtOnce) {
     ASSERT_TRUE(large);
     EXPECT_GT(large->currentSheet(), 0) << "the page that was clicked";
     EXPECT_EQ(child<PageSheet>(*large, "picStrana")->accessibleValue(), sheet->accessibleValue());
+    const int last = large->currentSheet();
+    for (const auto& [button, sheetThen] :
+         {std::pair("cmdStrana(0)", last - 1), {"cmdStrana(0)", last - 2}, {"cmdStrana(1)", last - 1}}) {
+        child<Button>(*large, button)->click();
+        EXPECT_EQ(large->currentSheet(), sheetThen);
+    }
 }
 
 /// Whether anything on the paper has a colour.
