@@ -246,7 +246,6 @@ void frmPrint::showOthers() {
         if (form && form->isLoaded()) form->show();
     }
     others_.clear();
-    raise();
 }
 
 void frmPrint::showOutcome(const PrintOutcome& outcome) {

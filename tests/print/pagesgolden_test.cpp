@@ -95,9 +95,14 @@ TEST(PrintedPage, StandsToTheTwipWhereItStood) {
         one.sections[section] = true;
         for (const Paper paper : {Paper::A4, Paper::Card}) add(paper, 1, one);
     }
-    test::expectText(u"strany"_s, rows.join(u'\n'));
     test::FixedMetrics metrics;
     SilentProgress silent;
+    const TitledText help{u"O tisku"_s, test::rtf(u"Text str\\'e1nky."_s)};
+    rows << u"== a text"_s;
+    for (const PrintedPage& page :
+         PageComposer(book.source(), PagesOnSheet().scale(), metrics).text(help, silent))
+        dump(rows, page);
+    test::expectText(u"strany"_s, rows.join(u'\n'));
     PrintSource grey = book.source();
     grey.grey = true;
     for (const PrintedPage& page :
