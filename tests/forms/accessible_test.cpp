@@ -34,6 +34,8 @@ TEST(ReadableText, TheCaretGoesByLineWordAndCharacterAndStopsAtTheEnds) {
     EXPECT_EQ(text.moved(4, Step::Word, -1), 0);
     EXPECT_EQ(text.moved(3, Step::Line, 1), 12);
     EXPECT_EQ(text.moved(15, Step::Line, 1), 15);
+    EXPECT_EQ(text.moved(19, Step::Word, 1), 31);
+    EXPECT_EQ(text.moved(31, Step::Word, 1), 31);
     EXPECT_EQ(text.moved(0, Step::Character, -1), 0);
     EXPECT_EQ(text.moved(31, Step::Character, 1), 31);
     EXPECT_EQ(text.offsetAt({3700, 450}), 12 + 18);
@@ -94,7 +96,7 @@ QStringList detailsOf(QAccessibleInterface& what) {
         all << u"%1 of %2 from %3"_s.arg(value->currentValue().toDouble())
                    .arg(value->maximumValue().toDouble())
                    .arg(value->minimumValue().toDouble());
-    if (const auto* table = what.tableInterface()) {
+    if (auto* table = what.tableInterface()) {
         QStringList cells;
         for (QAccessibleInterface* cell : table->selectedCells()) cells << cell->text(QAccessible::Name);
         all << u"%1 x %2, column 1 '%3', at 0,1 '%4', selected %5 rows %6 cells %7 first %8"_s
@@ -105,7 +107,8 @@ QStringList detailsOf(QAccessibleInterface& what) {
                    .arg(table->selectedRowCount())
                    .arg(table->selectedCellCount())
                    .arg(cells.join(u'+'))
-                   .arg(table->isRowSelected(0));
+                   .arg(table->isRowSelected(0) || table->isColumnSelected(1) || table->selectColumn(1) ||
+                        table->unselectRow(1) || table->unselectColumn(1));
     }
     if (auto* cell = what.tableCellInterface())
         all << u"row %1 column %2 below '%3'"_s.arg(cell->rowIndex())

@@ -372,7 +372,20 @@ TEST(Looks, StarsByKeyboard) {
         "click:hvezdy 4 Enter Return Space Return 1 0 5 Shift+2 Ctrl+3 6 A");
 }
 
+TEST(Looks, LinksThatScrollAwayBelowTheMouse) {
+    walk(
+        "odkazy", [](const Look& look) { openWith(reading, look); },
+        "hover:picText.1 hover:picText.2 wheel:picText hover:394,55 click:394,55 click:394,55 "
+        "hover:picText.3 hover:picKratky click:394,225");
+}
+
 TEST(Looks, LetterBoard) {
+    walk(
+        "deska", [](const Look& look) { openWith(entries, look); },
+        "click:110,73 click:110,73 click:110,90 hover:110,90 click:205,35 hover:30,80 hover:77,80 "
+        "hover:700,500 "
+        "click:30,215 click:77,215 click:77,172 click:30,172 click:53,258 click:430,172 click:200,258 "
+        "click:360,258 click:400,258 click:205,35 click:205,35 click:450,258");
     for (const char* entry : {"txtA", "txtB", "poznamka"})
         test::expectLooks(qPrintable(u"klavesnice-"_s + QLatin1String(entry)), [=](const Look& look) {
             FakeSarne run;
