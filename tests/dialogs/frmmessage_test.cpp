@@ -41,6 +41,7 @@ TEST_F(MessageTest, AnswersByMouseAndByKeyboard) {
     EXPECT_EQ(box->askOrLeave(u"?"_s, 36), 0) << "left without an answer; the next wants one again";
     EXPECT_EQ(press(36, Qt::Key_Escape), 7);
     EXPECT_EQ(press(36 + 256, Qt::Key_Return), 7) << "the default button has the focus";
+    EXPECT_EQ(press(48 + 256, Qt::Key_Return), 6) << "there is no second";
     EXPECT_EQ(press(48, Qt::Key_Space), 6);
     EXPECT_EQ(press(48, Qt::Key_Escape), 6);
     EXPECT_EQ(press(36, Qt::Key_N), 7);
@@ -53,6 +54,7 @@ TEST_F(MessageTest, AnswersByMouseAndByKeyboard) {
 }
 
 TEST_F(MessageTest, ClosingItAnswersOnlyWhereThatIsAnAnswer) {
+    EXPECT_EQ(press(6, Qt::Key_Escape), 0) << "there is no button";
     EXPECT_EQ(press(36, Qt::Key_F4, Qt::AltModifier), 0) << "it stayed open until the test hid it";
     bool stillOpen = false;
     EXPECT_EQ(ask(

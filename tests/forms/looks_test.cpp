@@ -343,12 +343,10 @@ void openWith(void (*fill)(Screen&), const Look& look) {
 }
 
 TEST(Looks, Controls) {
-    const struct {
-        const char* name;
-        void (*fill)(Screen&);
-    } screens[] = {
+    const std::pair<const char*, void (*)(Screen&)> screens[] = {
         {"texty", texts}, {"tlacitka", buttons}, {"volby", choices}, {"zapisy", entries}, {"cteni", reading}};
-    for (const auto& one : screens) explore(one.name, [&](const Look& look) { openWith(one.fill, look); });
+    for (const auto& [name, fill] : screens)
+        explore(name, [fill = fill](const Look& look) { openWith(fill, look); });
 }
 
 TEST(Looks, WhatIsToldLaterShowsAtOnce) {
@@ -366,34 +364,32 @@ TEST(Looks, PressedWithAndWithoutPictures) {
     });
 }
 
-TEST(Looks, StarsByKeyboard) {
-    walk(
-        "hvezdy", [](const Look& look) { openWith(choices, look); },
-        "click:hvezdy 4 Enter Return Space Return 1 0 5 Shift+2 Ctrl+3 6 A");
-}
-
-TEST(Looks, LinksThatScrollAwayBelowTheMouse) {
-    walk(
-        "odkazy", [](const Look& look) { openWith(reading, look); },
-        "hover:picText.1 hover:picText.2 wheel:picText hover:394,55 click:394,55 click:394,55 "
-        "hover:picText.3 hover:picKratky click:394,225");
+TEST(Looks, StepByStep) {
+    const struct {
+        const char* name;
+        void (*fill)(Screen&);
+        const char* way;
+    } ways[] = {{"hvezdy", choices, "click:hvezdy 4 Enter Return Space Return 1 0 5 Shift+2 Ctrl+3 6 A"},
+                {"odkazy", reading,
+                 "hover:picText.1 hover:picText.2 wheel:picText hover:394,55 click:394,55 click:394,55 "
+                 "hover:picText.3 hover:picKratky click:394,225"},
+                {"deska", entries,
+                 "click:110,73 click:110,73 click:110,90 hover:110,90 click:205,35 hover:30,80 hover:700,500 "
+                 "click:30,215 click:77,215 click:77,172 click:30,172 click:53,258 click:430,172 "
+                 "click:200,258 click:360,258 click:205,35 click:205,35 click:450,258"}};
+    test::walkEach(ways, [](const auto& one, const Look& look) { openWith(one.fill, look); });
 }
 
 TEST(Looks, LetterBoard) {
-    walk(
-        "deska", [](const Look& look) { openWith(entries, look); },
-        "click:110,73 click:110,73 click:110,90 hover:110,90 click:205,35 hover:30,80 hover:77,80 "
-        "hover:700,500 "
-        "click:30,215 click:77,215 click:77,172 click:30,172 click:53,258 click:430,172 click:200,258 "
-        "click:360,258 click:400,258 click:205,35 click:205,35 click:450,258");
     for (const char* entry : {"txtA", "txtB", "poznamka"})
         test::expectLooks(qPrintable(u"klavesnice-"_s + QLatin1String(entry)), [=](const Look& look) {
-            FakeSarne run;
-            auto* screen = new Screen(run);
-            entries(*screen);
-            screen->open();
-            child<Control>(*screen, entry)->findChild<EntrySign*>()->click();
-            look(run);
+            openWith(entries, [&](FakeSarne& run) {
+                run.FormStack.top()
+                    ->findChild<Control*>(QLatin1String(entry))
+                    ->findChild<EntrySign*>()
+                    ->click();
+                look(run);
+            });
         });
 }
 
