@@ -219,7 +219,6 @@ void ParagraphSetter::put(size_t begin, size_t end, bool ends) {
     std::vector<int> at = places(begin, end);
     spread(begin, end, ends, at);
     const int left = style_.left + indentOf(begin);
-    flow.texts.reserve(end - begin);
     for (size_t i = begin; i < end; ++i) {
         SetWord& word = words_[i];
         flow.texts.push_back(

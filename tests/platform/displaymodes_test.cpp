@@ -54,17 +54,24 @@ TEST_F(DisplayModesTest, SwitchesAndRestores) {
 }
 
 TEST_F(DisplayModesTest, AKilledHelperIsReplaced) {
-    const auto killHelper = [] {
-        QFile children(u"/proc/self/task/%1/children"_s.arg(getpid()));
-        ASSERT_TRUE(children.open(QIODevice::ReadOnly));
-        for (const QByteArray& child : children.readAll().split(' ')) {
-            QFile name(u"/proc/%1/comm"_s.arg(QString::fromLatin1(child)));
-            if (name.open(QIODevice::ReadOnly) && name.readAll().startsWith("sarne-obnov"))
-                kill(child.toInt(), SIGKILL);
+    const auto helpers = [] {
+        QList<int> all;
+        for (const QByteArray& child :
+             test::bytesOf(u"/proc/self/task/%1/children"_s.arg(getpid())).split(' ')) {
+            if (test::bytesOf(u"/proc/%1/comm"_s.arg(QString::fromLatin1(child))).startsWith("sarne-obnov"))
+                all << child.toInt();
         }
+        return all;
+    };
+    const auto killHelper = [&] {
+        for (const int helper : helpers()) kill(helper, SIGKILL);
     };
     auto display = modes();
     EXPECT_TRUE(display->setMode(design));
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGPIPE}) kill(helpers().value(0), signal);
+    runFor(100);
+    EXPECT_EQ(current(), design);
+    EXPECT_EQ(helpers().size(), 1) << "who clears up is not sent away with the others";
     killHelper();
     display->restore();
     EXPECT_EQ(current(), full);

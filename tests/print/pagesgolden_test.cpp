@@ -116,6 +116,19 @@ TEST(PrintedPage, StandsToTheTwipWhereItStood) {
     }
 }
 
+TEST(PrintLogo, IsAFish) {
+    const QImage logo = printLogo(Resources(u":/none/"_s)).image();
+    QStringList rows{u"%1x%2"_s.arg(logo.width()).arg(logo.height())};
+    for (int y = 10; y < logo.height(); y += 20) {
+        rows << QString();
+        for (int x = 5; x < logo.width(); x += 10) {
+            const QColor colour = logo.pixelColor(x, y);
+            rows.last() += colour == QColor(Qt::white) ? u'.' : colour.red() < 100 ? u'#' : u'o';
+        }
+    }
+    test::expectText(u"logo"_s, rows.join(u'\n'));
+}
+
 }  // namespace
 }  // namespace sarne
 
