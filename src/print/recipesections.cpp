@@ -43,7 +43,6 @@ void RecipeSections::set() {
             setSection(static_cast<PrintSection>(section));
         context_.progress.progressed(next);
     }
-    flow_.endPicture();
 }
 
 void RecipeSections::setCard(int sentences) {
@@ -55,7 +54,6 @@ void RecipeSections::setCard(int sentences) {
     if (options.wants(PrintSection::Ingredients)) ingredients();
     if (options.wants(PrintSection::Texts) && flow_.wentOn()) shortSteps(sentences);
     context_.progress.progressed(kSetPart);
-    flow_.endPicture();
 }
 
 void RecipeSections::shortSteps(int sentences) {

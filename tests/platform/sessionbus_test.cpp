@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -28,8 +29,8 @@ class Desktop final : public QObject {
     QStringList calls;
 
   public Q_SLOTS:
-    Q_SCRIPTABLE uint Inhibit(const QString&, const QString& reason) {
-        calls.append(u"inhibit "_s + reason);
+    Q_SCRIPTABLE uint Inhibit(const QString& program, const QString& reason) {
+        calls.append((program == QCoreApplication::applicationName() ? u"inhibit "_s : program) + reason);
         return 42;
     }
     Q_SCRIPTABLE void UnInhibit(uint cookie) { calls.append(u"release %1"_s.arg(cookie)); }
