@@ -38,7 +38,6 @@ void MusicDuck::letGo() {
 void MusicDuck::release() {
     if (!timer_.isEnabled()) return;
     timer_.setEnabled(false);
-    milliseconds_ = 0;
     level_ = 0;
     music_.setVolume(0);
 }

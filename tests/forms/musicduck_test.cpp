@@ -46,6 +46,10 @@ TEST_F(MusicDuckTest, ComesBackAtOnceWhenTheScreenGoesAndStaysForWhatIsNoSound) 
     pass(100);
     duck.release();
     EXPECT_EQ(music.decibels, 0);
+    duck.speaking(silence(1000));
+    pass(1);
+    EXPECT_GT(music.decibels, -3) << "from where it was";
+    duck.release();
     for (const QByteArray& none : {QByteArray(), QByteArray("RIFF..."), QByteArray(100, '\0')})
         duck.speaking(none);
     EXPECT_FALSE(duck.timer().isEnabled());
