@@ -106,8 +106,7 @@ std::optional<int> timeOfDay(const QString& typed) {
 std::vector<PlanLine> dinnerPlan(Database& book, const Dinner& dinner) {
     std::vector<PlannedDish> dishes;
     for (int course = 0; course < kCourses; ++course) {
-        const int recipe = dinner.recipes[static_cast<size_t>(course)];
-        auto dish = recipe != 0 ? dishOf(book, recipe) : std::nullopt;
+        auto dish = dishOf(book, dinner.recipes[static_cast<size_t>(course)]);
         if (!dish) continue;
         dish->served = servedAt(dinner, Course(course));
         dishes.push_back(std::move(*dish));

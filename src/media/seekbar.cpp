@@ -44,7 +44,6 @@ int SeekBar::middleOf(qint64 position) const {
 
 void SeekBar::setChapters(const Chapters& chapters) {
     chapters_ = chapters;
-    update();
 }
 
 void SeekBar::paintMarks(QPainter& painter, const QRectF& track) const {

@@ -26,6 +26,7 @@ class SeekBar : public Control {
     /// Both in milliseconds; a \a length of 0 means that nothing is known.
     void show(qint64 position, qint64 length);
 
+    /// Those of the film that is shown next.
     void setChapters(const Chapters& chapters);
 
     /// The position that a click \a x twips from the left end asks for.

@@ -31,6 +31,8 @@ TEST_F(VideoTest, TheTitleStandsThereAsTheMenuHasIt) {
         run.database.Execute(u"INSERT INTO Menu VALUES "_s + QLatin1String(row));
     open(3);
     EXPECT_EQ(child<Label>(*form, "lblNazev")->text(), u"Jak vykrojit filety"_s);
+    EXPECT_EQ(form->accessibleName(), u"Jak vykrojit filety"_s);
+    EXPECT_TRUE(run.announced.contains(u"Film: Jak vykrojit filety"_s));
     press(Qt::Key_Escape);
     open(4);
     EXPECT_EQ(child<Label>(*form, "lblNazev")->text(), QString()) << "a film that no menu knows";
@@ -49,6 +51,8 @@ TEST_F(VideoTest, TheKnobStaysWithinTheBar) {
     EXPECT_EQ(bar->positionAt(0), 0);
     EXPECT_EQ(bar->positionAt(90), 0) << "where the knob stands";
     EXPECT_EQ(bar->positionAt(bar->twips().width() - 90), 60000);
+    bar->setChapters(Chapters::parse("0\tA\n60\tNic\n"));
+    EXPECT_LT(bar->positionAt(bar->twips().width() - 160), 60000) << "at the end begins no chapter";
 }
 
 TEST_F(VideoTest, MarksLeadToTheirChapters) {
