@@ -185,7 +185,6 @@ void frmSplash::mousePressEvent(QMouseEvent*) {
 }
 
 void frmSplash::paint(QPainter& painter) {
-    const QRect screen(0, 0, basSarne::ScreenWidthTw, basSarne::ScreenHeightTw);
     paintRoom(painter, caption_.isEmpty() ? app().Pictures.uvod : app().Pictures.konec);
     const auto write = [&](const QString& text, int points, const QRect& place) {
         painter.setFont(TextFont{QStringLiteral("Times New Roman"), double(points), true, true}.toQFont());
@@ -194,8 +193,8 @@ void frmSplash::paint(QPainter& painter) {
         painter.setPen(colors::kTitle);
         painter.drawText(place, Qt::AlignCenter, text);
     };
-    write(kTitle, 36, {0, 900, screen.width(), 1200});
-    write(caption_, 20, {0, 2200, screen.width(), 700});
+    write(kTitle, 36, {0, 900, basSarne::ScreenWidthTw, 1200});
+    write(caption_, 20, {0, 2200, basSarne::ScreenWidthTw, 700});
 }
 
 }  // namespace sarne

@@ -235,6 +235,12 @@ TEST_F(ProgramTest, StartsAndEndsWithoutAnything) {
     }
 }
 
+TEST_F(ProgramTest, WithoutTheShippedBookTheUsersCopyIsRead) {
+    ASSERT_TRUE(QFile::rename(path("program/Sarne.drc"), path("data/Sarne.drc")));
+    ASSERT_TRUE(program->Main({}));
+    EXPECT_EQ(program->Db().OpenTable(u"Recepty"_s).RecordCount(), 2);
+}
+
 TEST_F(ProgramTest, TheMainScreensHelpSaysWhatIsMissingAndWhatWasKept) {
     const QString note = u"se *1 víc\nsoli"_s;
     ASSERT_TRUE(program->notes().keep({77, u"Úhoř"_s, note}));

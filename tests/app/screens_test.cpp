@@ -41,6 +41,9 @@ class ScreensTest : public ProgramTest {
         const QStringList now = state();
         for (const QString& line : now)
             if (!before_.contains(line)) diary_ << line;
+        for (const QString& line : before_)
+            if (!now.contains(line) && !line.startsWith(u"screens"_s))
+                diary_ << u"no more "_s + line.simplified();
         before_ = now;
     }
     void asks(const QString& what, const QVariant& answer) {
@@ -119,6 +122,8 @@ TEST_F(ScreensTest, WhatIsBoughtCookedAndMarkedGoesFromScreenToScreen) {
         return [this, ids, portions] { screens().addToShoppingList(ids, {portions, UnitSystem::Weights}); };
     };
     does(u"buy for as many as it is written for"_s, buy({5}, 0));
+    does(u"the list, while that is said"_s, [&] { screens().showShoppingList(); });
+    does(u"back"_s, [&] { press(Qt::Key_Escape); });
     does(u"buy two for three, and one that is not there"_s, buy({5, 99, 6}, 3));
     does(u"click on what was said"_s, [&] { clickPlate(u"Na nákupním"_s); });
     does(u"buy what is not there"_s, buy({99}, 3));
@@ -221,6 +226,9 @@ TEST_F(ScreensTest, ASecondVisitFindsWhatIsOpen) {
     program->userFile().setValue(u"Tiskarna"_s, PrinterChoice{u"Zkušební"_s, Paper::A5}.toText());
     does(u"printing"_s, [&] { screens().printRecipes({5}, {}); });
     EXPECT_EQ(platform.printer.choice().paper, Paper::A5) << "as was kept";
+    program->userFile().setValue(u"Tiskarna"_s, {});
+    does(u"another printer"_s, [&] { clickOnTop("cmdTiskarna"); }, {Qt::Key_Return, Qt::Key_Return});
+    EXPECT_FALSE(program->userFile().value(u"Tiskarna"_s).isEmpty());
     does(u"the end"_s, [&] { program->ConfirmExit(); }, {Qt::Key_A});
     expectAsKept("podruhe");
 }

@@ -52,6 +52,10 @@ TEST_F(DatabaseFaults, WhatIsNoDatabaseStaysEmpty) {
         EXPECT_EQ(db.OpenQuery(u"SELECT * FROM Suroviny"_s).RecordCount(), 0);
     }
     EXPECT_FALSE(Database().Open(path("garbage")));
+    Database none;
+    EXPECT_FALSE(none.isSound() || none.Execute(u"SELECT 1"_s) || none.keepInMemory(u"Menu"_s) ||
+                 none.makeTables({}) || none.transaction([] { return true; }));
+    EXPECT_FALSE(none.OpenQuery(u"SELECT 1"_s).isOpen() || none.OpenTable(u"Menu"_s).isOpen());
 }
 
 TEST_F(DatabaseFaults, AFullDiskLosesNeitherTheOldNoteNorTheSearch) {

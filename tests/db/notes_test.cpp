@@ -50,13 +50,32 @@ TEST_F(NoteStoreTest, WhatNoDiskTakesStaysInMemory) {
     }
 }
 
+TEST_F(NoteStoreTest, LaterWordsTakeThePlaceOfThoseThatNoDiskTook) {
+    ASSERT_TRUE(test::write(folder.filePath(u"data"_s)));  // where the folder is to be
+    UserFile file(path);
+    NoteStore notes(file);
+    EXPECT_FALSE(notes.keepDraft(3, u"první"_s));
+    ASSERT_TRUE(QFile::remove(folder.filePath(u"data"_s)));
+    EXPECT_TRUE(notes.keepDraft(3, u"druhá"_s));
+    EXPECT_EQ(notes.draft(3), u"druhá"_s);
+}
+
 TEST_F(NoteStoreTest, ADamagedFileIsPutAsideAndANewOneBegun) {
     ASSERT_TRUE(test::write(path, QByteArray(9000, 'x')));
     UserFile file(path);
     EXPECT_EQ(file.value(u"a"_s), QString());
     EXPECT_TRUE(file.setValue(u"a"_s, u"1"_s));
     EXPECT_EQ(file.value(u"a"_s), u"1"_s);
-    EXPECT_EQ(QDir(folder.filePath(u"data"_s)).entryList({u"vlastni.db.2*"_s}).size(), 1);
+    for (int i = 0; i < 50; ++i) ASSERT_TRUE(file.setValue(u"b%1"_s.arg(i), QString(3000, u'b')));
+    file = UserFile();
+    QByteArray bytes = test::bytesOf(path);
+    bytes.replace(bytes.size() / 4096 / 2 * 4096, 8, QByteArray(8, '\xEE'));  // it still opens
+    ASSERT_TRUE(test::write(path, bytes));
+    UserFile again(path);
+    EXPECT_EQ(again.value(u"a"_s), QString());
+    EXPECT_TRUE(again.setValue(u"a"_s, u"2"_s));
+    EXPECT_EQ(again.value(u"b1"_s), QString());
+    EXPECT_EQ(QDir(folder.filePath(u"data"_s)).entryList({u"vlastni.db.2*"_s}).size(), 2);
 }
 
 TEST_F(NoteStoreTest, NotesComeBackToTheirRecipesInAnotherEdition) {

@@ -207,6 +207,14 @@ TEST_F(RecordsetTest, ChangesAreStoredAndOnlyThere) {
     recipes.Edit();
     EXPECT_TRUE(recipes.Update()) << "nothing is a change, too";
     EXPECT_FALSE(recipes.Update());
+    EXPECT_TRUE(recipes.field(u"Vlastni"_s).isNull()) << "what was given up is not stored elsewhere";
+    recipes.Edit();
+    recipes.setField(u"Vlastni"_s, u"zapomenuto"_s);
+    recipes.AddNew();
+    recipes.setField(u"ID"_s, 50);
+    EXPECT_TRUE(recipes.Update() && RecordExists(recipes, 50));
+    EXPECT_TRUE(recipes.field(u"Vlastni"_s).isNull());
+    recipes.Seek(u"="_s, 7);
     recipes.Edit();
     recipes.setField(u"Vlastni"_s, u"pryč"_s);
     ASSERT_TRUE(db.Execute(u"DELETE FROM Recepty WHERE ID = 7"_s));
