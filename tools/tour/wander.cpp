@@ -75,6 +75,14 @@ class Wanderer {
         door.open(program_, std::int16_t(1 + below(kRecipes)));
         note();
     }
+    /// What is loaded with the first printed page, as chance may have it late, is loaded from the beginning.
+    void printOnce() {
+        goBackToMain(program_);
+        program_.screens().printRecipes({1}, {});
+        if (auto* begin = program_.FormStack.top()->findChild<QWidget*>(QStringLiteral("Command1")))
+            QTest::mouseClick(begin, Qt::LeftButton);
+        QTest::qWait(10 * kTurn);
+    }
     /// To where the memory of one time can be compared with that of another: what was drawn last is kept, as
     /// much as there is room for, so that is emptied and the same screens are gone through before, and the
     /// same thing of the kitchen is lit.
@@ -153,6 +161,7 @@ bool wander(Program& program, int steps, unsigned seed, QTextStream& out) {
     Wanderer user(program, seed);
     Use warm, now;
     Least before, after;
+    user.printOnce();
     for (int done = 1; done <= steps && !program.hasEnded(); ++done) {
         if (done % kOnAScreen == 1) user.goThroughADoor();
         user.step();
