@@ -38,13 +38,22 @@ QImage PictureReader::read(QSize pixels) {
         reader_.setScaledSize(pixels);
     else if (isLarger(own, pixels * 2))
         reader_.setScaledSize(pixels * 2);
-    return reader_.read();
+    return readOver();
+}
+
+QImage PictureReader::readOver() {
+    QImage image;
+    if (file_.format() == "bmp" && !reader_.size().isEmpty()) {
+        image = QImage(reader_.size(), reader_.imageFormat());
+        image.fill(0);
+    }
+    return reader_.read(&image) ? image : QImage();
 }
 
 QImage PictureReader::readPart(QSize whole, const QRect& part) {
     reader_.setScaledSize(whole);
     reader_.setScaledClipRect(part);
-    return reader_.read();
+    return readOver();
 }
 
 }  // namespace sarne

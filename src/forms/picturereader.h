@@ -22,6 +22,8 @@ class PictureReader {
 
   private:
     void begin();
+    /// The picture where the file is cut off is black: the decoder of BMP leaves there what the memory held.
+    QImage readOver();
 
     PictureFile file_;
     QImageReader reader_;

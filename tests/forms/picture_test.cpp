@@ -123,6 +123,19 @@ TEST(Picture, BrokenOnesDrawNothing) {
     EXPECT_TRUE(Picture::fromFile({}).isNull());
 }
 
+TEST(Picture, RowsThatAFileDoesNotHaveAreBlack) {
+    QByteArray half = encoded({50, 50}, "BMP");
+    half.truncate(half.size() / 2);
+    for (const uint rubbish : {0xff00ff00U, 0xff0000ffU}) {
+        std::vector<QImage> before(50, QImage({50, 50}, QImage::Format_RGB32));
+        for (QImage& image : before) image.fill(rubbish);  // what the memory holds
+        before.clear();
+        const QImage image = drawn(Picture::fromData(half), Fit::Stretch);
+        EXPECT_EQ(image.pixelColor(50, 13), QColor(Qt::black));
+        EXPECT_EQ(image.pixelColor(50, 47), QColor(Qt::red)) << "a BMP begins at its foot";
+    }
+}
+
 /// A BMP of 60 x 40 red pixels in a folder; what is put beside it is green.
 class FinerPicture : public ::testing::Test {
   protected:
