@@ -11,7 +11,9 @@ using test::Look;
 class Recipe : public RecipeTest {
   public:
     Recipe() {
-        for (const char* photo : {"foto/Velke/r5.bmp", "foto/Podklad/r5.bmp", "foto/vino256.bmp"})
+        for (const char* photo :
+             {"foto/Velke/r5.bmp", "foto/Podklad/r5.bmp", "foto/vino256.bmp", "foto/pomucky/varecka.bmp",
+              "foto/pomucky/panev.bmp", "foto/pomucky/ciska.bmp", "foto/pomucky/chnapka.bmp"})
             (void)test::write(folder.filePath(QLatin1String(photo)), test::plain({80, 60}, Qt::darkRed));
     }
     void show(std::int16_t id, int section) {
