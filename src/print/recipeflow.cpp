@@ -159,7 +159,9 @@ void RecipeFlow::addLaidOutLine(const RtfLayout& layout, const TextLine& line) {
     }
     inParagraph_ = !line.endsParagraph;
     for (qsizetype i = line.firstBox; i < line.firstBox + line.boxCount && !stop_; ++i) {
-        reached_ = partFrom_ + (partTo_ - partFrom_) * double(i + 1) / double(layout.boxes().size());
+        const double done = double(i + 1) / double(layout.boxes().size());
+        // Several texts of one part begin anew, what the user sees of it does not.
+        reached_ = std::max(reached_, partFrom_ + (partTo_ - partFrom_) * done);
         setter_.add(laidOutWord(layout, line, layout.boxes()[static_cast<size_t>(i)]));
     }
     if (!inParagraph_ && !stop_) setter_.end();

@@ -79,9 +79,7 @@ void RecipeSections::setSection(PrintSection section) {
         case PrintSection::Ingredients:
             return ingredients();
         case PrintSection::Texts:
-            richField(QStringLiteral("Uvod"), Texts::tr(" Tisknu úvod ... "));
-            richField(QStringLiteral("Recept"), Texts::tr(" Tisknu recept ... "));
-            return richField(QStringLiteral("Poznamka"), Texts::tr(" Tisknu poznámku ... "));
+            return texts();
         case PrintSection::Serving:
             return richField(QStringLiteral("Prezentace"), Texts::tr(" Tisknu servis ... "));
         case PrintSection::Wine:
@@ -92,6 +90,20 @@ void RecipeSections::setSection(PrintSection section) {
             return tools();
         case PrintSection::Links:
             return links();
+    }
+}
+
+void RecipeSections::texts() {
+    const std::pair<QString, QString> fields[] = {
+        {QStringLiteral("Uvod"), Texts::tr(" Tisknu úvod ... ")},
+        {QStringLiteral("Recept"), Texts::tr(" Tisknu recept ... ")},
+        {QStringLiteral("Poznamka"), Texts::tr(" Tisknu poznámku ... ")}};
+    double from = kSetPart * double(PrintSection::Texts) / kPrintSections;
+    for (const auto& [name, statusText] : fields) {
+        const double to = from + kSetPart / kPrintSections / double(std::size(fields));
+        flow_.setPart(from, to);
+        richField(name, statusText);
+        from = to;
     }
 }
 

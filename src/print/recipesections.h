@@ -31,6 +31,7 @@ class RecipeSections {
     void setName();
     void shortSteps(int sentences);
     void setSection(PrintSection section);
+    void texts();
     void photo();
     void ingredients();
     void ownNote();

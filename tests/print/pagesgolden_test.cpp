@@ -72,18 +72,38 @@ void dump(QStringList& rows, const PrintedPage& page) {
     }
 }
 
+/// Keeps what it is told.
+class ToldProgress final : public PrintProgress {
+  public:
+    QString told;
+
+    void recipeStarted(const QString& name) override { told += u'~' + name; }
+    void status(const QString& text) override { told += text; }
+    void progressed(double part) override {
+        EXPECT_GE(part, part_) << "a bar that goes back";
+        part_ = part;
+        told += u" %1"_s.arg(part, 0, 'f', 3);
+    }
+    void recipeDone() override { told += u"done"_s; }
+    bool goOn() override { return true; }
+
+  private:
+    double part_ = 0;
+};
+
 TEST(PrintedPage, StandsToTheTwipWhereItStood) {
     PrintCookbook book(cookbook());
     book.addPhoto(1, {400, 300}, Qt::red);
     QStringList rows;
     const auto add = [&](Paper paper, int id, const PrintOptions& options) {
         test::FixedMetrics metrics;
-        SilentProgress silent;
+        ToldProgress progress;
         PageComposer composer(book.source(), PagesOnSheet::of(paper).scale(), metrics);
-        for (const PrintedPage& page : composer.recipe(id, options, silent)) {
+        for (const PrintedPage& page : composer.recipe(id, options, progress)) {
             rows << u"== %1, %2"_s.arg(paperName(paper)).arg(id);
             dump(rows, page);
         }
+        rows << progress.told;
     };
     for (int paper = 0; paper < kPapers; ++paper)
         for (int id = 1; id <= 5; ++id) add(Paper(paper), id, {});
