@@ -144,22 +144,6 @@ TEST_F(FotoBigTest, AnyPhotoFitsItsPlaceUndistorted) {
     }
 }
 
-TEST_F(FotoBigTest, AMissingOrBrokenPhotoLeavesItsName) {
-    writePhoto("foto/Recepty/r1.bmp");
-    writePhoto("foto/Recepty/r3.bmp", {300, 200});
-    ASSERT_TRUE(QFile::resize(folder.filePath(u"foto/Recepty/r3.bmp"_s), 5000));
-    open({1, 2, 3, 999});
-    EXPECT_FALSE(viewer->photo().isNull());
-    for (const char* name : {"Recept 002", "Recept 003", ""}) {
-        press(Qt::Key_Right);
-        EXPECT_TRUE(viewer->photo().isNull());
-        EXPECT_EQ(title(), QString::fromLatin1(name));
-    }
-    press(Qt::Key_Up);
-    EXPECT_FALSE(viewer->photo().isNull());
-    EXPECT_EQ(run.messages, QStringList());
-}
-
 TEST_F(FotoBigTest, AnEmptyListOpensNothing) {
     open({});
     EXPECT_TRUE(isClosed());

@@ -6,6 +6,7 @@
 #include "browse/browsefixture.h"
 #include "screens/browse/listentries.h"
 #include "screens/browse/listpages.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
@@ -16,69 +17,36 @@ ListPages pagesOf(int count, int rows = 10) {
     return pages;
 }
 
-TEST(ListPages, ThePageStaysFilled) {
-    ListPages pages = pagesOf(25);
-    const struct {
-        int step, top;
-    } steps[] = {{-1, 0}, {1, 1}, {10, 11}, {10, 15}, {1, 15}, {-25, 0}, {25, 15}, {-7, 8}};
-    for (const auto& [step, top] : steps) {
-        pages.scroll(step);
-        EXPECT_EQ(pages.top(), top) << "after a step of " << step;
+/// Where \a pages are after each of \a moves: "3: top 2 row 1 of entry 2", with "!" where nothing moved.
+QString after(ListPages pages, const QStringList& moves) {
+    QStringList all;
+    for (const QString& move : moves) {
+        const int by = move.mid(1).toInt();
+        const QChar kind = move[0];
+        const bool moved = kind == u's'   ? (pages.scroll(by), true)
+                           : kind == u'v' ? pages.selectRow(by)
+                           : kind == u'r' ? pages.moveRow(by)
+                           : kind == u'p' ? pages.movePage(by)
+                           : kind == u'f' ? pages.moveToFirst()
+                                          : pages.moveToLast();
+        all << u"%1/%2/%3%4"_s.arg(pages.top())
+                   .arg(pages.selectedRow())
+                   .arg(pages.selectedEntry())
+                   .arg(moved ? u""_s : u"!"_s);
     }
+    return all.join(u' ');
+}
+
+TEST(ListPages, MoveAsTheyAreAsked) {
+    test::expectCases(u"stranky"_s, [](const QString& text) {
+        const QStringList words = text.split(u' ');
+        const ListPages pages = pagesOf(words[0].toInt());
+        return (pages.scrolls() ? u"scrolls "_s : u"stands "_s) + after(pages, words.mid(1));
+    });
     EXPECT_EQ(pagesOf(25, 15).halfPage(1), 7);
     EXPECT_EQ(pagesOf(25, 15).halfPage(-1), -7) << "the remainder is dropped, not rounded down";
-}
-
-TEST(ListPages, ArrowsAreForListsLongerThanAPage) {
-    EXPECT_FALSE(pagesOf(10).scrolls());
-    ListPages one = pagesOf(11);
-    EXPECT_TRUE(one.scrolls());
-    one.scroll(5);
-    EXPECT_EQ(one.top(), 1);
-    ListPages few = pagesOf(3);
-    few.scroll(2);
-    EXPECT_EQ(few.top(), 0);
-    EXPECT_EQ(few.entryAt(3), 2);
-    EXPECT_EQ(few.entryAt(4), -1);
-    EXPECT_FALSE(few.selectRow(4));
-    EXPECT_EQ(few.selectedRow(), 0);
-}
-
-TEST(ListPages, TheSelectionBelongsToItsEntry) {
-    ListPages pages = pagesOf(25);
-    EXPECT_TRUE(pages.selectRow(4));
-    EXPECT_FALSE(pages.selectRow(4));
-    pages.scroll(2);
-    EXPECT_EQ(pages.selectedRow(), 2);
-    pages.scroll(5);
-    EXPECT_EQ(pages.selectedRow(), 0);
-    EXPECT_EQ(pages.selectedEntry(), 3);
-    EXPECT_TRUE(pages.moveRow(1)) << "what is not seen is not moved: the page's first row";
-    EXPECT_EQ(pages.selectedEntry(), 7);
-}
-
-TEST(ListPages, KeysMoveTheSelectionAndThePageFollows) {
-    ListPages pages = pagesOf(25);
-    pages.moveRow(-1);
-    EXPECT_EQ(pages.selectedRow(), 10);
-    pages.moveRow(1);
-    EXPECT_EQ(pages.top(), 1);
-    EXPECT_EQ(pages.selectedRow(), 10);
-    pages.movePage(1);
-    EXPECT_EQ(pages.top(), 11);
-    EXPECT_EQ(pages.selectedEntry(), 20);
-    pages.movePage(1);
-    EXPECT_EQ(pages.selectedEntry(), 24);
-    EXPECT_FALSE(pages.movePage(1));
-    EXPECT_TRUE(pages.moveToFirst());
-    EXPECT_EQ(pages.top(), 0);
-    EXPECT_FALSE(pages.moveRow(-1));
-    EXPECT_TRUE(pages.moveToLast());
-    EXPECT_EQ(pages.top(), 15);
-    ListPages few = pagesOf(3);
-    few.selectRow(1);
-    EXPECT_FALSE(few.movePage(1));
-    EXPECT_EQ(few.selectedRow(), 1);
+    EXPECT_EQ(pagesOf(3).entryAt(3), 2);
+    EXPECT_EQ(pagesOf(3).entryAt(4), -1);
 }
 
 TEST(ListPages, NoSequenceOfStepsLeavesTheList) {
@@ -103,43 +71,24 @@ TEST(ListPages, NoSequenceOfStepsLeavesTheList) {
     }
 }
 
-using Ids = std::vector<std::int16_t>;
-
 TEST(ListIds, EachEndsWithAComma) {
-    const struct {
-        const char* text;
-        Ids ids;
-    } cases[] = {{"12,40,7,", {12, 40, 7}},
-                 {"5", {}},
-                 {"5,9", {5}},
-                 {"", {}},
-                 {",", {}},
-                 {",,3,", {3}},
-                 {"32767,32768,", {32767}},
-                 {"a,4,5x, 6 ,", {4, 6}},
-                 {"5,5,", {5, 5}},
-                 {"65541,", {}}};
-    for (const auto& c : cases) EXPECT_EQ(parseIds(QString::fromLatin1(c.text)), c.ids) << c.text;
+    test::expectCases(u"cisla"_s, [](const QString& text) {
+        QStringList ids;
+        for (const int id : parseIds(text)) ids << QString::number(id);
+        return ids.join(u' ');
+    });
 }
 
-class ListEntriesTest : public BrowseTest {
-  protected:
-    QStringList names(const char* table, const char* ids) {
-        QStringList all;
-        for (const ListEntry& entry :
-             readEntries(run.database, QString::fromLatin1(table), QString::fromLatin1(ids)))
-            all << entry.Nazev;
-        return all;
-    }
-};
+using ListEntriesTest = BrowseTest;
 
 TEST_F(ListEntriesTest, TheIdsGiveTheOrderAndMissingOnesAreSkipped) {
-    EXPECT_EQ(names("recepty", "7,999,3,"), (QStringList{u"Recept 007"_s, u"Recept 003"_s}));
-    EXPECT_EQ(names("recepty", "5"), QStringList());
-    EXPECT_EQ(names("recepty", "").size(), kRecipes);
-    EXPECT_EQ(names("recepty", "").front(), u"Recept 001"_s);
-    EXPECT_EQ(names("help", "2,"), QStringList{u"Fotografie"_s});
-    EXPECT_EQ(names("nowhere", "1,"), QStringList());
+    test::expectCases(u"polozky"_s, [this](const QString& text) {
+        QStringList names;
+        for (const ListEntry& entry :
+             readEntries(run.database, text.section(u' ', 0, 0), text.section(u' ', 1)))
+            names << entry.Nazev;
+        return u"%1: %2"_s.arg(names.size()).arg(names.mid(0, 3).join(u", "_s));
+    });
 }
 
 TEST_F(ListEntriesTest, TheListHoldsTheFirst251) {

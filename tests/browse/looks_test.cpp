@@ -25,7 +25,9 @@ class Browse : public BrowseTest {
         (void)test::write(folder.filePath(u"foto/Male/r4.bmp"_s), "BM" + QByteArray(60, '\x7f'));
         run.openAbove("frmHlavni");
     }
+    using BrowseTest::folder;
     using BrowseTest::run;
+    using BrowseTest::writePhoto;
     void change(const char* statements) {
         for (const QString& one : QString::fromUtf8(statements).split(u';', Qt::SkipEmptyParts))
             run.database.Execute(one);
@@ -69,6 +71,7 @@ TEST(Looks, ListInUse) {
     } ways[] = {
         {"seznam-klavesami", "", "recepty", "",
          "Down PgDown End PgUp Up Home Tab Right Enter Shift+Tab Return Left Left Return F1 X Escape"},
+        {"seznam-navrat", "", "recepty", "", "Down PgDown Tab Return over pop Down"},
         {"seznam-pismeny", "", "recepty",
          "UPDATE Recepty SET Nazev = 'Štika' WHERE ID IN (30, 40);"
          "UPDATE Recepty SET Nazev = 'Arašídy' WHERE ID = 1",
@@ -121,7 +124,7 @@ TEST(Looks, GridInUse) {
          "double:imgFoto(30) hover:imgFoto(6)"},
         {"sit-skupiny",
          "click:imgFoto(50) click:imgBtnHlavni(0) click:imgSkupina(3) hover:imgFoto(9) click:imgFoto(50) "
-         "hover:imgFoto(9) Space click:imgBtnHlavni(2) click:imgSkupina(1) click:imgSkupina(1) "
+         "hover:imgFoto(9) over pop Space click:imgBtnHlavni(2) click:imgSkupina(1) click:imgSkupina(1) "
          "click:imgFoto(13) click:imgFoto(15) click:imgSkupina(2) click:imgSkupina(0) click:imgCela "
          "click:imgSkupina(0) click:300,580"},
         {"sit-klavesami",
@@ -155,7 +158,10 @@ TEST(Looks, Photo) {
          "wait:500 Left wait:500 Down wait:500 Down wait:500 Right wait:500 Left wait:500 Up Alt+X"},
         {"promitani-klavesami", "tick tick over tick pop tick wait:500 Right Space tick Space Escape"}};
     walkEach(ways, [](const auto& one, const Look& look) {
-        Browse book;
+        Browse book;  // whose fourth photo is there, the eighth cut off
+        book.writePhoto("foto/Recepty/r4.bmp");
+        book.writePhoto("foto/Recepty/r8.bmp", {300, 200});
+        (void)QFile::resize(book.folder.filePath(u"foto/Recepty/r8.bmp"_s), 5000);
         (new frmFotoBig(book.run))
             ->Zobraz({.photoIds = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, .slideShow = one.name[0] == 'p'});
         look(book.run);

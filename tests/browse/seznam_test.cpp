@@ -78,29 +78,6 @@ TEST_F(SeznamTest, TheQuickRecipesWindowGivesTheKeyboardBack) {
     EXPECT_EQ(run.window.forms(), std::vector<Form*>{below}) << "the window goes with the list";
 }
 
-TEST_F(SeznamTest, GoingBackLandsWhereTheUserWas) {
-    open("", "recepty");
-    key(Qt::Key_Down);
-    key(Qt::Key_PageDown);
-    key(Qt::Key_Tab);
-    key(Qt::Key_Return);
-    frmSeznam* first = list;
-    const int top = first->pages().top(), place = first->pages().selectedRow();
-    Form* recipe = run.openAbove("frmRecept");
-    open("", "Help");
-    key(Qt::Key_End);
-    EXPECT_EQ(first->pages().top(), top) << "the list below is another one";
-    list->goBack();
-    run.PopScreen(*recipe);
-    list = first;
-    EXPECT_EQ(list->pages().top(), top);
-    EXPECT_EQ(list->pages().selectedRow(), place);
-    EXPECT_TRUE(wineShows());
-    EXPECT_TRUE(button("imgBtn(1)")->hasFocus());
-    key(Qt::Key_Down);
-    EXPECT_EQ(list->pages().selectedRow(), place + 1);
-}
-
 }  // namespace
 }  // namespace sarne
 

@@ -1,13 +1,11 @@
-#include "browse/browsefixture.h"
-#include "forms/button.h"
-#include "forms/label.h"
-#include "screens/browse/frmfotobig.h"
-#include "screens/browse/frmsit.h"
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "screens/browse/photogrid.h"
 
 namespace sarne {
 namespace {
-
-using Ids = std::vector<std::int16_t>;
 
 TEST(PhotoGrid, SevenInARowAndGroupsThatOverlap) {
     QRegion taken;
@@ -49,42 +47,6 @@ TEST(PhotoGrid, KeysMoveOverTheLivingCells) {
     EXPECT_EQ(go({{0, -1}}), 9);
     grid.setGroup(0);
     EXPECT_EQ(grid.cell(), 0) << "a choice outside the group is given up";
-}
-
-class SitTest : public BrowseTest {
-  protected:
-    SitTest() { grid->Zobraz(); }
-    Button* cell(int number) const { return grid->findChild<Button*>(u"imgFoto(%1)"_s.arg(number)); }
-    Button* button(const char* name) const { return grid->findChild<Button*>(QString::fromLatin1(name)); }
-    QString name() const { return child<Label>(*grid, "Label1")->text(); }
-    int chosen() const { return grid->grid().cell(); }
-    Ids alive() const {
-        Ids cells;
-        for (std::int16_t number = 1; number <= 50; ++number) {
-            if (cell(number)->isEnabled()) cells.push_back(number);
-        }
-        return cells;
-    }
-
-    Form* below = run.openAbove("frmHlavni");
-    frmSit* grid = new frmSit(run);
-};
-
-TEST_F(SitTest, BackFromTheViewerTheGroupIsAsItWas) {
-    click(button("imgSkupina(3)"));
-    click(cell(9));
-    click(button("imgBtnHlavni(0)"));
-    auto* viewer = new frmFotoBig(run);
-    viewer->Zobraz(run.recorded.photos);
-    EXPECT_EQ(alive(), Ids());
-    QTest::mouseMove(viewer, {400, 300});
-    QTest::mouseClick(viewer, Qt::LeftButton, {}, {400, 300});
-    EXPECT_EQ(run.FormStack.top(), grid);
-    EXPECT_EQ(alive(), (Ids{9, 35, 46, 50}));
-    EXPECT_EQ(chosen(), 9);
-    EXPECT_EQ(name(), u"Recept 009"_s);
-    EXPECT_TRUE(grid->grid().isLocked());
-    EXPECT_TRUE(grid->isAncestorOf(run.window.focusWidget()) || grid->hasFocus());
 }
 
 }  // namespace

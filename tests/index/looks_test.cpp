@@ -139,7 +139,20 @@ TEST(Looks, InUse) {
          "click:imgZavri click:lblOblast(5) click:780,400 click:lblOblast(2) PgDown"},
         {"galerie-klavesami", [](FakeSarne& run) { (new frmSponzor(run))->Zobraz(9, {}); },
          "Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Right Down Left Left Up Right Space Down Return "
-         "Tab Return Escape Escape"}};
+         "Tab Return Escape Escape"},
+        {"stranka-hudba",
+         [](FakeSarne& run) {
+             (new frmStranka(run))->Zobraz(u"10"_s);
+             test::alsoTold = [&run] {
+                 QStringList all{u"stored"_s};
+                 Recordset rows = run.database.OpenTable(u"Nastav"_s);
+                 for (rows.MoveFirst(); !rows.AtEnd(); rows.MoveNext())
+                     all[0] += u' ' + rows.field(u"hodnota"_s).toString();
+                 for (const bool on : run.SoundFlags) all[0] += on ? u" on"_s : u" off"_s;
+                 return all;
+             };
+         },
+         "click:imgBtnHlavni(4) click:imgBtnHlavni(4) click:imgBtnHlavni(4) click:imgBtnHlavni(4)"}};
     walkEach(ways, [](const auto& one, const Look& look) {
         Index book;
         one.open(book.run);

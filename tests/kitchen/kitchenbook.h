@@ -3,6 +3,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "kitchen/goods.h"
+#include "kitchen/shoppingstore.h"
 #include "screens/kitchen/ticklist.h"
 #include "support/fakesarne.h"
 #include "support/recipedatabase.h"
@@ -24,6 +26,14 @@ class KitchenRun : public FakeSarne {
     QTemporaryDir folder_;
     UserFile file_;
 };
+
+/// What recipe 5 needs for four.
+inline ShoppingList shoppingList(KitchenRun& run) {
+    ShoppingList list;
+    list.addRecipe(
+        shoppingNeeds(readIngredients(run.database, 5), Goods(run.database), {5, u"Kapr na kmíně"_s, 4}, 4));
+    return list;
+}
 
 inline void press(Form& form, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QWidget* focus = form.window()->focusWidget();

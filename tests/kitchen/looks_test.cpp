@@ -5,8 +5,6 @@
 
 #include "db/recipemarks.h"
 #include "kitchen/cooked.h"
-#include "kitchen/goods.h"
-#include "kitchen/shoppingstore.h"
 #include "kitchenbook.h"
 #include "screens/kitchen/frmdoma.h"
 #include "screens/kitchen/frmhostina.h"
@@ -32,10 +30,7 @@ void own(KitchenRun& run) {
 }
 
 void shop(KitchenRun& run) {
-    ShoppingList list;
-    list.addRecipe(
-        shoppingNeeds(readIngredients(run.database, 5), Goods(run.database), {5, u"Kapr na kmíně"_s, 4}, 4));
-    storeShoppingList(run.file(), list);
+    storeShoppingList(run.file(), shoppingList(run));
     (new frmNakup(run, run.file(), [](const QString&) { return 1500; }))->Zobraz();
 }
 
@@ -44,6 +39,32 @@ void stove(KitchenRun& run, const Serving& serving) {
         run.announced << u"timer %1 %2"_s.arg(name).arg(seconds);
     });
     screen->Zobraz(5, serving, {2026, 10, 11});
+}
+
+/// The screen is told, and what the note of the recipe is, and how often it was cooked.
+void stoveWithNote(KitchenRun& run) {
+    run.database.Execute(u"UPDATE Recepty SET Vlastni = 'méně soli ' WHERE ID = 5"_s);
+    run.speech.find();
+    stove(run, {4, UnitSystem::Weights});
+    test::alsoTold = [&run] {
+        Recordset row = run.database.OpenTable(u"Recepty"_s);
+        (void)RecordExists(row, 5);
+        return QStringList{u"note '%1'"_s.arg(row.field(u"Vlastni"_s).toString()),
+                           u"cooked %1 times"_s.arg(cookedDays(run.file(), 5).size())};
+    };
+}
+
+void feast(KitchenRun& run) {
+    run.database.Execute(u"UPDATE Fakta SET Chod = 'teplé', Obdobi = 'zima'"_s);
+    run.database.Execute(
+        u"INSERT INTO Fakta (ID, Minut, Mesice, Chod, Obdobi) VALUES (6,30,4095,'polévka','')"_s);
+    const auto ask = [&run](const QString& asked) { return run.announced << asked, 8; };
+    // No hour is told as such, and nothing of it is taken.
+    const auto askTime = [&run](const QString& asked) {
+        run.announced << asked;
+        return run.announced.count(asked) == 2 ? u"brzy"_s : u"12.30"_s;
+    };
+    (new frmHostina(run, run.file(), {ask, askTime}, 11))->Zobraz();
 }
 
 TEST(Looks, AtHome) {
@@ -61,17 +82,10 @@ TEST(Looks, Dinner) {
     for (const bool planned : {false, true})
         exploreOrLook(planned, planned ? "hostina-s-planem" : "hostina", [=](const Look& look) {
             KitchenRun run;
-            run.database.Execute(u"UPDATE Fakta SET Chod = 'teplé', Obdobi = 'zima'"_s);
-            run.database.Execute(
-                u"INSERT INTO Fakta (ID, Minut, Mesice, Chod, Obdobi) VALUES (6,30,4095,'polévka','')"_s);
-            auto* screen =
-                new frmHostina(run, run.file(),
-                               {[&run](const QString& asked) { return run.announced << asked, 8; },
-                                [&run](const QString& asked) { return run.announced << asked, u"12.30"_s; }},
-                               11);
-            screen->Zobraz();
+            feast(run);
             if (planned)
-                for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_Return}) press(*screen, key);
+                for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_Return})
+                    press(*run.FormStack.top(), key);
             look(run);
         });
 }
@@ -87,6 +101,19 @@ TEST(Looks, OwnCookbook) {
             own(run);
             look(run);
         });
+}
+
+/// A book that does not know what cooking needs offers what it can.
+TEST(Looks, OwnCookbookWithoutTheKitchensTables) {
+    test::expectLooks("kucharka-bez-tabulek", [](const Look& look) {
+        KitchenRun run;
+        for (const char* table : {"Fakta", "Zbozi", "Kroky", "KrokySur", "Uprava", "Vyteznost"})
+            run.database.Execute(u"DROP TABLE "_s + QString::fromUtf8(table));
+        run.recorded.goods = false;
+        RecipeMarks(run.file()).setStars(5, u"Kapr na kmíně"_s, 2);
+        own(run);
+        look(run);
+    });
 }
 
 TEST(Looks, Shopping) {
@@ -135,6 +162,19 @@ TEST(Looks, InUse) {
         RecipeMarks(run.file()).setStars(6, u"Bez kroků"_s, 1);
         own(run);
     };
+    const auto planned = [](KitchenRun& run) {
+        storeDinner(run.file(), {{}, {99, 6, 5}, 4, 1080});
+        feast(run);
+        test::alsoTold = [&run] {
+            const Dinner kept = readDinner(run.file());
+            return QStringList(u"dinner %1 %2 %3 %4 for %5 at %6"_s.arg(kept.occasion)
+                                   .arg(kept.recipes[0])
+                                   .arg(kept.recipes[1])
+                                   .arg(kept.recipes[2])
+                                   .arg(kept.portions)
+                                   .arg(kept.served));
+        };
+    };
     const auto cooked = [](KitchenRun& run) {
         for (const int month : {11, 10}) keepCooked(run.file(), 6, u"Bez kroků"_s, {2026, month, 1}, 4);
         own(run);
@@ -150,12 +190,23 @@ TEST(Looks, InUse) {
          "type:kapr Return Delete click:picSuroviny.1 click:cmdAkce(0) click:cmdAkce(4) click:cmdAkce(4) "
          "click:cmdAkce(6) click:cmdAkce(7)"},
         {"kucharka-klavesami", starred, "Down 5 Up 0 Space Return F3"},
+        {"hostina-stara", planned,
+         "click:cmdAkce(1) click:cmdAkce(2) click:cmdAkce(2) F3 click:imgBtnHlavni(0) click:cmdAkce(0) Space "
+         "Down "
+         "Return click:cmdAkce(5) click:imgBtnHlavni(0)"},
         {"kucharka-uvareno", cooked, "click:cmdPolice(0) Return"},
         {"nakup-klavesami", shop, "Return Down click:picSeznam.3 Ctrl+Z End Space Delete"},
         {"nakup-vlastni", shop,
          "Delete click:txtVlastni type:houska Return click:cmdAkce(3) click:cmdAkce(3)"},
         {"varime-klavesami", weights,
          "Space Return Space Right PgDown Right Backspace Left Up Down click:imgPapir"},
+        {"varime-vetsi", weights, "Return Right letters:150 letters:100"},
+        {"varime-nahlas", stoveWithNote, "Return F9 Space F9 Left"},
+        {"varime-do-konce", stoveWithNote, "PgDown PgDown PgDown PgDown Space Space Escape"},
+        {"varime-poznamka", stoveWithNote,
+         "PgDown PgDown PgDown PgDown click:txtPoznamka type:1pivo Return click:txtPoznamka type:máslo "
+         "Alt+F4 click:txtPoznamka "
+         "type:sůl click:picHvezdy Escape"},
         {"varime-po-lzicich", spoons, "1 Return 1 2 Space Space Backspace Backspace click:cmdCas(0)"}};
     test::walkEach(ways, [](const auto& one, const Look& look) {
         KitchenRun run;

@@ -104,29 +104,6 @@ TEST_F(MainScreenTest, MusicFollowsItsSwitchesAndLoops) {
     EXPECT_EQ(run.messages, QStringList()) << "the start is silent about its music";
 }
 
-TEST_F(MainScreenTest, ArrowsGoWhereTheyPoint) {
-    start();
-    const struct {
-        Qt::Key key;
-        QPoint way;
-    } arrows[] = {
-        {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
-    for (const auto& [key, way] : arrows) {
-        int moved = 0;
-        for (int i = 1; i < 19; ++i) {
-            moveOver(i);
-            press(key);
-            const QPoint step =
-                button(main->currentButton())->geometry().center() - button(i)->geometry().center();
-            moved += QPoint::dotProduct(step, way) > 0;
-        }
-        EXPECT_GT(moved, 9) << key;
-    }
-    run.window.close();
-    EXPECT_EQ(run.exits, 0);
-    EXPECT_TRUE(run.window.isVisible());
-}
-
 TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
     start();
     run.window.activateWindow();
@@ -152,18 +129,6 @@ TEST_F(MainScreenTest, OrnamentsMoveOnlyWhileSomebodyLooks) {
     other.activateWindow();
     life->fire();
     EXPECT_FALSE(moves()) << "another program has the keyboard";
-}
-
-TEST_F(MainScreenTest, LightAndThingsGoOutForWhoeverActs) {
-    start();
-    Timer* light = main->findChildren<Timer*>().at(1);
-    main->showThings();
-    EXPECT_TRUE(light->isEnabled());
-    press(Qt::Key_Right);
-    EXPECT_FALSE(light->isEnabled());
-    QTest::mouseClick(button(3), Qt::LeftButton);
-    main->SkryjMenu();
-    EXPECT_EQ(main->currentButton(), -5);
 }
 
 TEST_F(MainScreenTest, TheScreenOnTopStaysOnTop) {

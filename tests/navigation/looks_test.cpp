@@ -86,6 +86,10 @@ TEST(Looks, MainScreenInUse) {
          "tick hover:lblOdkaz(1) tick Left click:lblOdkaz(2) hover:lblOdkaz(1) tick"},
         {"menu-klavesami",
          "click:imgClick(2) Down Right Right Down Down Left Escape type:p Return Down Return"},
+        {"menu-hledani-znovu",
+         "click:imgClick(12) click:Text1 Return type:kap Return Left Ctrl+A type:c'x Return "
+         "click:lblOdkaz(1) "
+         "click:Text1 Ctrl+A type:kapr Return Return"},
         {"menu-pismeny", "click:imgClick(2) type:k type:a type:p type:p Alt+F4 Alt+X X type:c"},
         {"menu-pod-napovedou", "click:imgClick(2) Down Right F1 over pop Escape Escape"}};
     walkEach(ways, [](const auto&, const Look& look) {

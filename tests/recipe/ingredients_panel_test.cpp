@@ -15,21 +15,6 @@ class IngredientPanelTest : public RecipeTest {
     QString state() { return at<Label>("lblPorce").text(); }
 };
 
-TEST_F(IngredientPanelTest, ARecipeWithoutPortionsHasNoAmounts) {
-    run.database.Execute(u"UPDATE Recepty SET Porce = -3 WHERE ID = 5"_s);
-    form->Skryj();
-    open(5);
-    click("imgBtn(5)");
-    EXPECT_EQ(frame(10), Button::Frame::Pressed);
-    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g)"_s);
-    click("imgPrepocet(6)");
-    EXPECT_EQ(firstLine(), u"kapr - filety bez kůže (g)"_s);
-    form->Skryj();
-    open(6);
-    click("imgBtn(5)");
-    EXPECT_EQ(shown(), QString()) << "no ingredients at all";
-}
-
 TEST_F(IngredientPanelTest, TheUnitsLastLookedAtOutliveTheRecipe) {
     click("imgPrepocet(6)");
     click("imgKgLzice");

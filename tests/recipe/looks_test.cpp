@@ -15,6 +15,11 @@ class Recipe : public RecipeTest {
              {"foto/Velke/r5.bmp", "foto/Podklad/r5.bmp", "foto/vino256.bmp", "foto/pomucky/varecka.bmp",
               "foto/pomucky/panev.bmp", "foto/pomucky/ciska.bmp", "foto/pomucky/chnapka.bmp"})
             (void)test::write(folder.filePath(QLatin1String(photo)), test::plain({80, 60}, Qt::darkRed));
+        // Recipe 9 is for nobody and takes fewer tools than are shown.
+        for (const char* row :
+             {"Recepty (ID, Nazev, DlouhyNazev, Porce) VALUES (9,'Nic','Nic',-3)",
+              "SpojSur VALUES (9,1,1,1,250,3,0.5,0)", "SpojPomucky VALUES (9,1),(9,2)"})
+            run.database.Execute(u"INSERT INTO "_s + QString::fromUtf8(row));
     }
     void show(std::int16_t id, int section) {
         form->Skryj();
@@ -30,6 +35,13 @@ class Recipe : public RecipeTest {
         }
     }
     void ask(double portions) { customPortions = portions; }
+    /// What is stored as the note is told, too.
+    void tellNote() {
+        test::alsoTold = [this] {
+            const QVariant note = storedNote();
+            return QStringList(note.isNull() ? u"no note"_s : u"note '%1'"_s.arg(note.toString()));
+        };
+    }
     using RecipeTest::run;
     using RecipeTest::type;
 
@@ -61,6 +73,7 @@ TEST(Looks, NoteThatWasTyped) {
         Recipe book;
         book.show(5, 7);
         book.type(u"víc kmínu"_s);
+        book.tellNote();
         look(book.run);
     });
 }
@@ -89,6 +102,19 @@ TEST(Looks, InUse) {
         {"porce-podle-ryby", 5, 5, "answer:500 click:cmdRyba answer:0 click:cmdRyba"},
         {"porce-klavesami", 5, 5,
          "Right Right Right Return Left Left Left Left Right Return Left Right Down Tab Right"},
+        {"porce-zadne", 9, 5, "click:imgPrepocet(6) click:imgBtn(6)"},
+        {"poznamka-otazky", 5, 7,
+         "type:x answer:7 click:imgBtn(1) click:imgBtn(7) type:Sůl answer:6 click:imgBtn(7) click:imgBtn(2)"},
+        {"poznamka-odchody", 5, 7,
+         "type:x answer:0 Escape answer:0 click:imgBtn(1) answer:0 click:lblIkona(2) answer:0 "
+         "click:imgBtnHlavni(3) click:imgBtnHlavni(3) click:imgBtnHlavni(3) click:400,200 type:y answer:7 "
+         "Alt+F4 over "
+         "answer:0 "
+         "Alt+F4 Alt+F4 pop click:400,200 type:z answer:0 pop"},
+        {"poznamka-tlacitky", 5, 7,
+         "type:x click:cmdUloz(1) click:imgBtn(7) type:{\\rtf1*12sůl*@7{\\b}# click:cmdUloz(0) Ctrl+C "
+         "click:imgBtn(7) Ctrl+A Delete click:cmdUloz(0)"},
+        {"poznamka-tisk", 5, 7, "type:ryba click:imgBtnHlavni(0) click:imgBtn(1) click:imgBtnHlavni(0)"},
         {"poznamka-klavesami", 5, 7,
          "Shift+Tab Up Return click:imgBtn(7) click:lblIkona(2) click:imgBtn(7) Tab Shift+Tab type:ryba Tab "
          "Return"}};
@@ -97,6 +123,7 @@ TEST(Looks, InUse) {
         book.ask(2.5);
         book.addLinks(8);
         book.show(one.id, one.section);
+        book.tellNote();
         look(book.run);
     });
 }
