@@ -10,7 +10,6 @@
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/recipedatabase.h"
-#include "support/wheel.h"
 
 namespace sarne {
 
@@ -45,19 +44,11 @@ class BrowseTest : public testing::Test {
         ASSERT_TRUE(test::write(folder.filePath(QString::fromLatin1(path)), test::plain(size, color), "BMP"));
     }
 
-    static QPoint center(const QWidget* widget) { return widget->rect().center(); }
-    static void click(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton, {}, center(widget)); }
-    /// What a person's double click sends: a click, then the second press and its release.
-    static void doubleClick(QWidget* widget) {
-        click(widget);
-        QTest::mouseDClick(widget, Qt::LeftButton, {}, center(widget));
-    }
-    static void wheel(QWidget* widget, int notches) { test::wheel(*widget, notches * 120); }
+    static void click(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton); }
     /// A key typed where the keyboard is.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(run.window.focusWidget(), key, modifiers);
     }
-    void type(char letter) { QTest::keyClick(run.window.focusWidget(), letter); }
 
     QTemporaryDir folder;
     FakeSarne run;

@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <random>
-
 #include "browse/browsefixture.h"
 #include "screens/browse/listentries.h"
 #include "screens/browse/listpages.h"
@@ -47,28 +44,6 @@ TEST(ListPages, MoveAsTheyAreAsked) {
     EXPECT_EQ(pagesOf(25, 15).halfPage(-1), -7) << "the remainder is dropped, not rounded down";
     EXPECT_EQ(pagesOf(3).entryAt(3), 2);
     EXPECT_EQ(pagesOf(3).entryAt(4), -1);
-}
-
-TEST(ListPages, NoSequenceOfStepsLeavesTheList) {
-    std::mt19937 random(7);
-    for (const int count : {0, 1, 9, 10, 11, 251}) {
-        ListPages pages = pagesOf(count);
-        for (int i = 0; i < 2000; ++i) {
-            const int step = int(random() % 41) - 20;
-            const std::function<void()> moves[] = {[&] { pages.scroll(step); },
-                                                   [&] { pages.moveRow(step < 0 ? -1 : 1); },
-                                                   [&] { pages.movePage(step < 0 ? -1 : 1); },
-                                                   [&] { pages.selectRow(step); },
-                                                   [&] { pages.moveToLast(); },
-                                                   [&] { pages.moveToFirst(); }};
-            moves[random() % std::size(moves)]();
-            ASSERT_GE(pages.top(), 0);
-            ASSERT_LE(pages.top(), std::max(0, count - 10));
-            ASSERT_LT(pages.selectedEntry(), count);
-            ASSERT_TRUE(pages.selectedRow() == 0 ||
-                        pages.entryAt(pages.selectedRow()) == pages.selectedEntry());
-        }
-    }
 }
 
 TEST(ListIds, EachEndsWithAComma) {

@@ -3,6 +3,7 @@
 #include "recipe/recipefixture.h"
 #include "screens/recipe/ingredientcolumns.h"
 #include "screens/recipe/portions.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
@@ -35,16 +36,10 @@ int fixedWidth(QStringView text) {
 }
 
 TEST(PortionsTest, StartWithTheRecipesOwnNumber) {
-    const struct {
-        int base, choice;
-        double number;
-    } cases[] = {{4, 4, 4},    {2, 2, 2},  {8, 8, 8},   {10, 10, 10}, {3, 10, 3},    {1, 10, 1},
-                 {12, 10, 12}, {0, 10, 0}, {-4, 10, 0}, {256, 10, 0}, {255, 10, 255}};
-    for (const auto& c : cases) {
-        const Portions portions(c.base);
-        EXPECT_EQ(portions.choice(), c.choice) << c.base;
-        EXPECT_EQ(portions.number(), c.number) << c.base;
-    }
+    test::expectCases(u"porce"_s, [](const QString& base) {
+        const Portions portions(base.toInt());
+        return u"button %1, for %2"_s.arg(portions.choice()).arg(portions.number());
+    });
 }
 
 TEST(PortionsTest, KeepTheAnyNumberAsText) {
@@ -62,38 +57,18 @@ TEST(PortionsTest, KeepTheAnyNumberAsText) {
     EXPECT_EQ(portions.quantities(QLocale::c()).factor(), 1.5F);
 }
 
-class ColumnsTest : public testing::Test {
-  protected:
-    static std::vector<PlacedLine> place(int count, const QString& text, int height = 2000) {
-        return placeInColumns(std::vector<QString>(size_t(count), text), {4000, height, 250}, fixedWidth);
-    }
-};
-
-TEST_F(ColumnsTest, ALineThatComesTooNearTheBottomOpensTheSecondColumn) {
-    // Lines begin at 0, 250 ... 1500; the next would begin at 1750 and 1750 + 400 is beyond 2000.
-    const auto seven = place(7, u"sůl"_s);
-    EXPECT_EQ(seven.back(), (PlacedLine{0, 1500, u"sůl"_s}));
-    const auto eight = place(8, u"sůl"_s);
-    EXPECT_EQ(eight.back(), (PlacedLine{2000, 0, u"sůl"_s}));
-    // A line that would begin exactly 400 above the bottom is too near.
-    EXPECT_EQ(place(3, u"sůl"_s, 900).back().x, 2000);
-    EXPECT_EQ(place(3, u"sůl"_s, 901).back().x, 0);
-}
-
-TEST_F(ColumnsTest, MoreThanTwoColumnsHoldMakesBothLonger) {
-    const auto many = place(21, u"sůl"_s);
-    ASSERT_EQ(many.size(), 21U);
-    EXPECT_EQ(many[10].y, 2500);
-    EXPECT_EQ(many[11], (PlacedLine{2000, 0, u"sůl"_s}));
-    EXPECT_EQ(many.back().y, 2250);
-    EXPECT_TRUE(place(0, QString()).empty());
-    EXPECT_EQ(place(4, u"sůl"_s, 10).back().y, 250) << "no height at all still takes lines";
-}
-
-TEST_F(ColumnsTest, WideLinesStayInTheirColumn) {
-    const QString wide = u"listy celeru nebo petržele"_s;
-    EXPECT_EQ(place(2, wide).size(), 2U) << "one column is as wide as the area";
-    for (const PlacedLine& line : place(8, wide)) EXPECT_LE(fixedWidth(line.text), 2000);
+/// So many times a line on an area that is 4000 wide and so high; where each stands, and the last as it is
+/// cut.
+TEST(ColumnsTest, LinesStandInOneColumnOrTwo) {
+    test::expectCases(u"sloupce"_s, [](const QString& text) {
+        const QString line = text.section(u' ', 2);
+        const std::vector<QString> all(text.section(u' ', 0, 0).toUInt(), line);
+        QStringList places;
+        for (const PlacedLine& one :
+             placeInColumns(all, {4000, text.section(u' ', 1, 1).toInt(), 250}, fixedWidth))
+            places << u"%1,%2%3"_s.arg(one.x).arg(one.y).arg(one.text == line ? QString() : u' ' + one.text);
+        return places.join(u" | "_s);
+    });
 }
 
 }  // namespace

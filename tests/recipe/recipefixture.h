@@ -82,11 +82,6 @@ class RecipeTest : public testing::Test {
         QTest::mouseClick(&at(name), Qt::LeftButton);
         QApplication::processEvents();
     }
-    void press(int key, Qt::KeyboardModifiers with = {}) {
-        QWidget* focused = QApplication::focusWidget();
-        QTest::keyClick(focused ? focused : form, static_cast<Qt::Key>(key), with);
-        QApplication::processEvents();
-    }
     /// Types \a text where the keyboard is; Czech letters come as the input method sends them.
     void type(const QString& text) {
         for (QChar letter : text) {
@@ -102,13 +97,6 @@ class RecipeTest : public testing::Test {
         row.Seek(u"="_s, id);
         return row.field(u"Vlastni"_s);
     }
-    QString focused() {
-        for (QWidget* widget = QApplication::focusWidget(); widget; widget = widget->parentWidget()) {
-            if (qobject_cast<Control*>(widget)) return widget->objectName();
-        }
-        return {};
-    }
-
     QTemporaryDir folder;
     FakeSarne run;
     double customPortions = 0;
