@@ -57,14 +57,8 @@ TEST_F(WorkshopTest, MakesOnlyWhatChanged) {
     EXPECT_EQ(run(), 1);
     QFile::remove(path("source"));
     EXPECT_EQ(run(), 1);
-}
-
-TEST_F(WorkshopTest, WhatIsNoLongerWantedIsDeleted) {
-    write("source", "first");
-    EXPECT_EQ(run(), 1);
-    Ledger ledger(path("ledger"));
-    ledger.sweep();
-    EXPECT_FALSE(QFile::exists(path("sub/made")));
+    Ledger(path("ledger")).sweep();
+    EXPECT_FALSE(QFile::exists(path("sub/made"))) << "no longer wanted";
 }
 
 TEST_F(WorkshopTest, WhatFailedIsTriedAgain) {
@@ -215,14 +209,11 @@ TEST_F(PackingTest, ResourcesAreFoundUnderTheirNames) {
     EXPECT_TRUE(isSealed(file)) << "the program takes no other";
 }
 
-TEST_F(PackingTest, APackerThatFailsIsAnError) {
+TEST_F(PackingTest, APackerThatFailsAndAMissingPictureAreErrors) {
     makeResources(shop_, path("no-such-rcc"));
-    EXPECT_NE(errors().find("Sarne.rcc:0: nelze vyrobit"), std::string::npos) << errors();
-}
-
-TEST_F(PackingTest, AMissingPictureIsAnErrorThatNamesItsFile) {
     makeScreenPictures(shop_);
-    EXPECT_NE(errors().find("rendered/pozadi/konec.jpg:0: obrázek chybí"), std::string::npos) << errors();
+    for (const char* error : {"Sarne.rcc:0: nelze vyrobit", "rendered/pozadi/konec.jpg:0: obrázek chybí"})
+        EXPECT_NE(errors().find(error), std::string::npos) << errors();
 }
 
 TEST_F(PackingTest, ScreenPicturesKeepTheirOrder) {
