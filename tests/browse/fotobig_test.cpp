@@ -88,34 +88,6 @@ TEST_F(FotoBigTest, TheDoubleClickThatOpenedItIsNoClickOnItAndTheFirstClickIsThe
     EXPECT_EQ(viewer->position(), 1) << "the mouse has not moved yet";
 }
 
-TEST_F(FotoBigTest, TheCursorShowsWhatAClickDoes) {
-    const struct {
-        const char* name;
-        QColor color;
-        QPoint at;
-    } cursors[] = {{"SIPKAVLEVO", Qt::red, {5, 5}},
-                   {"SIPKANAHORU", Qt::green, {300, 20}},
-                   {"SIPKADOLU", Qt::blue, {300, 590}},
-                   {"SIPKAVPRAVO", Qt::yellow, {790, 590}},
-                   {"ZPET", Qt::cyan, {400, 300}}};
-    for (const auto& [name, color, at] : cursors)
-        ASSERT_TRUE(test::write(folder.filePath(u"obr/%1.png"_s.arg(QLatin1String(name))),
-                                test::plain({32, 32}, color)));
-    for (const char* face : {"SipkaDolu", "Zpet"})  // button faces that differ in case alone
-        writePhoto(qPrintable(u"obr/%1.bmp"_s.arg(QLatin1String(face))), {8, 8}, Qt::black);
-    run.pictures = Resources(folder.path() + u'/');
-    EXPECT_EQ(run.pictures.picture(u"SipkaDolu"_s).size(), QSize(8, 8));
-    open({1, 2});
-    const auto shown = [&] { return viewer->cursor().pixmap().toImage().pixelColor(3, 3); };
-    EXPECT_EQ(shown(), QColor(Qt::cyan)) << "until the zone changes";
-    for (const auto& cursor : cursors) {
-        QTest::mouseMove(viewer, cursor.at);
-        EXPECT_EQ(shown(), cursor.color) << cursor.name;
-    }
-    run.PopScreen(*run.openAbove("frmStranka"));
-    EXPECT_EQ(shown(), QColor(Qt::cyan)) << "as it was below another screen";
-}
-
 TEST_F(FotoBigTest, AnyPhotoFitsItsPlaceUndistorted) {
     writePhoto("foto/Recepty/r1.bmp", {40, 30}, Qt::red);
     writePhoto("foto/Recepty/r2.bmp", {1000, 100}, Qt::green);

@@ -151,7 +151,7 @@ TEST(Looks, Photo) {
     } ways[] = {
         {"foto-mysi",
          "wait:500 click:750,300 wait:500 click:400,550 wait:500 click:400,550 wait:500 "
-         "click:400,50 wait:500 click:50,300 wait:500 click:50,300 wait:500 click:400,300"},
+         "click:400,50 over pop wait:500 click:50,300 wait:500 click:50,300 wait:500 click:400,300"},
         {"foto-v-rychlosti",
          "click:750,300 wait:499 click:750,300 Right wait:1 Right wait:499 Right click:400,300"},
         {"foto-klavesami",
@@ -162,8 +162,13 @@ TEST(Looks, Photo) {
         book.writePhoto("foto/Recepty/r4.bmp");
         book.writePhoto("foto/Recepty/r8.bmp", {300, 200});
         (void)QFile::resize(book.folder.filePath(u"foto/Recepty/r8.bmp"_s), 5000);
-        (new frmFotoBig(book.run))
-            ->Zobraz({.photoIds = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, .slideShow = one.name[0] == 'p'});
+        QPointer<frmFotoBig> viewer = new frmFotoBig(book.run);
+        test::alsoTold = [viewer] {  // the arrow that says what a click does
+            const QImage cursor = viewer ? viewer->cursor().pixmap().toImage() : QImage();
+            return QStringList(u"cursor "_s + (cursor.isNull() ? u"none"_s : cursor.pixelColor(3, 3).name()));
+        };
+        viewer->Zobraz(
+            {.photoIds = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, .slideShow = one.name[0] == 'p'});
         look(book.run);
     });
 }

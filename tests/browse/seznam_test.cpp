@@ -1,9 +1,7 @@
 #include "browse/browsefixture.h"
 #include "forms/button.h"
-#include "forms/holdrepeat.h"
 #include "forms/label.h"
 #include "screens/browse/frmseznam.h"
-#include "screens/browse/frmseznam_layout.h"
 
 namespace sarne {
 namespace {
@@ -18,30 +16,11 @@ class SeznamTest : public BrowseTest {
     Button* button(const char* name) const { return list->findChild<Button*>(QString::fromLatin1(name)); }
     Label* row(int number) const { return list->findChild<Label*>(u"lblSeznam(%1)"_s.arg(number)); }
     bool wineShows() const { return child<Label>(*list, "lblVino")->isVisible(); }
-    Timer& held(const char* arrow) const { return button(arrow)->findChild<HoldRepeat*>()->timer(); }
     frmRychlyRecept* quick() const { return run.window.findChild<frmRychlyRecept*>(); }
 
     Form* below = run.openAbove("frmHlavni");
     frmSeznam* list = nullptr;
 };
-
-TEST_F(SeznamTest, ArrowsScrollWhileTheyAreHeld) {
-    open("", "recepty");
-    const int last = kRecipes - seznam::kRows;
-    QTest::mousePress(button("imgSipky(0)"), Qt::LeftButton);
-    Timer& timer = held("imgSipky(0)");
-    EXPECT_EQ(timer.interval(), 500);
-    for (int tick = 0; tick < 100; ++tick) timer.fire();
-    EXPECT_EQ(timer.interval(), 50);
-    EXPECT_EQ(list->pages().top(), last);
-    QTest::mouseRelease(button("imgSipky(0)"), Qt::LeftButton);
-    EXPECT_FALSE(timer.isEnabled());
-    QTest::mousePress(button("imgSipky(2)"), Qt::LeftButton);
-    Form* over = run.openAbove("frmRecept");
-    EXPECT_FALSE(held("imgSipky(2)").isEnabled()) << "a screen over the list ends it, too";
-    run.PopScreen(*over);
-    EXPECT_EQ(list->pages().top(), last);
-}
 
 TEST_F(SeznamTest, TheNextListShowsThePanelThatTheLastOneLeft) {
     frmSeznam::Panel panel = frmSeznam::Panel::Photo;

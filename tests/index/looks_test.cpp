@@ -55,7 +55,8 @@ class Index : public Cookbook {
     Index() : Cookbook(everything()) {
         for (const char* picture : {"foto/hesla/kapr.png", "foto/sponzor/9.jpg"})
             (void)test::write(folder.filePath(QLatin1String(picture)), test::plain({80, 60}, Qt::darkRed));
-        (void)test::write(folder.filePath(u"HUDBA.WAV"_s));
+        for (const char* track : {"HUDBA.WAV", "ZVUKY/Vina.WAV"})
+            (void)test::write(folder.filePath(QLatin1String(track)));
         run.MediaRoot = LogicalPaths::fromNativeFolder(folder.path());
         run.SoundFlags = {true, true, true, false, false};
     }
@@ -121,6 +122,18 @@ TEST(Looks, Gallery) {
 }
 
 TEST(Looks, InUse) {
+    // The page; the switches that are stored, and those that count now, are told, too.
+    const auto page = [](FakeSarne& run) {
+        (new frmStranka(run))->Zobraz(u"10"_s);
+        test::alsoTold = [&run] {
+            QStringList all{u"stored"_s};
+            Recordset rows = run.database.OpenTable(u"Nastav"_s);
+            for (rows.MoveFirst(); !rows.AtEnd(); rows.MoveNext())
+                all[0] += u' ' + rows.field(u"hodnota"_s).toString();
+            for (const bool on : run.SoundFlags) all[0] += on ? u" on"_s : u" off"_s;
+            return all;
+        };
+    };
     const struct {
         const char* name;
         std::function<void(FakeSarne&)> open;
@@ -140,19 +153,22 @@ TEST(Looks, InUse) {
         {"galerie-klavesami", [](FakeSarne& run) { (new frmSponzor(run))->Zobraz(9, {}); },
          "Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Tab Right Down Left Left Up Right Space Down Return "
          "Tab Return Escape Escape"},
-        {"stranka-hudba",
-         [](FakeSarne& run) {
-             (new frmStranka(run))->Zobraz(u"10"_s);
-             test::alsoTold = [&run] {
-                 QStringList all{u"stored"_s};
-                 Recordset rows = run.database.OpenTable(u"Nastav"_s);
-                 for (rows.MoveFirst(); !rows.AtEnd(); rows.MoveNext())
-                     all[0] += u' ' + rows.field(u"hodnota"_s).toString();
-                 for (const bool on : run.SoundFlags) all[0] += on ? u" on"_s : u" off"_s;
-                 return all;
-             };
+        {"stranka-hudba", page,
+         "click:imgBtnHlavni(4) click:imgBtnHlavni(4) click:imgBtnHlavni(4) click:imgBtnHlavni(4)"},
+        // The track that the settings chose, and one that cannot be played.
+        {"stranka-vina",
+         [page](FakeSarne& run) {
+             run.SoundFlags = {true, false, true, false, true};
+             page(run);
          },
-         "click:imgBtnHlavni(4) click:imgBtnHlavni(4) click:imgBtnHlavni(4) click:imgBtnHlavni(4)"}};
+         "click:imgBtnHlavni(4)"},
+        {"stranka-bez-hudby",
+         [page](FakeSarne& run) {
+             run.SoundFlags = {true, false, true, false, false};
+             run.player.failing[u"open"_s] = MediaError::InvalidFile;
+             page(run);
+         },
+         "click:imgBtnHlavni(4) click:imgBtnHlavni(4)"}};
     walkEach(ways, [](const auto& one, const Look& look) {
         Index book;
         one.open(book.run);

@@ -61,18 +61,9 @@ TEST_F(PlatesTest, TimersOutliveAProgramThatIsCutOff) {
     next.resume();
     ASSERT_EQ(next.texts().size(), 2);
     EXPECT_TRUE(next.texts().first().endsWith(u" Ryba"_s));
-    // Hours later the first ones ring, however long ago they came to their end; a day later nobody wants
-    // them.
-    const qint64 now = QDateTime::currentMSecsSinceEpoch(), hour = 3'600'000;
-    KitchenTimers late;
-    restoreTimers(run_.file(), late, 0, now + 2 * hour);
-    EXPECT_EQ(late.over(0).size(), 2u);
-    KitchenTimers forgotten;
-    restoreTimers(run_.file(), forgotten, 0, now + 24 * hour);
-    EXPECT_TRUE(forgotten.all().empty());
     plates_.giveUp();  // the user ended the program and was asked
     KitchenTimers none;
-    restoreTimers(run_.file(), none, 0, now);
+    restoreTimers(run_.file(), none, 0, QDateTime::currentMSecsSinceEpoch());
     EXPECT_TRUE(none.all().empty());
 }
 
