@@ -16,9 +16,8 @@ class Recipe : public RecipeTest {
               "foto/pomucky/panev.bmp", "foto/pomucky/ciska.bmp", "foto/pomucky/chnapka.bmp"})
             (void)test::write(folder.filePath(QLatin1String(photo)), test::plain({80, 60}, Qt::darkRed));
         // Recipe 9 is for nobody and takes fewer tools than are shown.
-        for (const char* row :
-             {"Recepty (ID, Nazev, DlouhyNazev, Porce) VALUES (9,'Nic','Nic',-3)",
-              "SpojSur VALUES (9,1,1,1,250,3,0.5,0)", "SpojPomucky VALUES (9,1),(9,2)"})
+        for (const char* row : {"Recepty (ID, Nazev, DlouhyNazev, Porce) VALUES (9,'Nic','Nic',-3)",
+                                "SpojSur VALUES (9,1,1,1,250,3,0.5,0)", "SpojPomucky VALUES (9,1),(9,2)"})
             run.database.Execute(u"INSERT INTO "_s + QString::fromUtf8(row));
     }
     void show(std::int16_t id, int section) {
