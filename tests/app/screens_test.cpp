@@ -1,56 +1,15 @@
-#include "db/recipemarks.h"
-#include "kitchen/shoppingstore.h"
-#include "kitchen/timerstore.h"
 #include "screens/browse/frmseznam.h"
 #include "screens/recipe/frmrecept.h"
 #include "smallprogram.h"
 #include "support/files.h"
-#include "support/kept.h"
 #include "tour/doors.h"
 
 namespace sarne {
 namespace {
 
-/// Opens screens of the program as other screens do, and writes down what comes of each: which screens there
-/// are then, what lies over them, what was asked and said, what is kept.
+/// Opens screens of the program as other screens do.
 class ScreensTest : public ProgramTest {
   protected:
-    ScreensTest() {
-        QObject::connect(&reader_, &QTimer::timeout, [this] { answer(); });
-    }
-    void start() {
-        PlatformParts parts = platform.parts();
-        make(PlatformParts{parts.settings, clock, parts.effects, parts.beeper, parts.music, parts.display,
-                           parts.sleep, parts.printer, parts.speech, parts.makePlayer, parts.makeAnnouncer});
-        platform.announced.clear();
-        platform.sleep.release();
-        before_.clear();
-    }
-    /// Does \a act, whose questions are answered with \a keys in turn, with Escape where there are none left.
-    void does(const QString& what, const std::function<void()>& act, const QList<Qt::Key>& keys = {}) {
-        keys_ = keys;
-        diary_ << u"> "_s + what;
-        platform.beeper.beeps = 0;
-        reader_.start(5);
-        act();
-        QApplication::processEvents();
-        reader_.stop();
-        for (const QString& text : platform.announced) diary_ << u"announces "_s + text.simplified();
-        platform.announced.clear();
-        diary_ << QStringList(platform.beeper.beeps, u"beeps"_s);
-        const QStringList now = state();
-        for (const QString& line : now)
-            if (!before_.contains(line)) diary_ << line;
-        for (const QString& line : before_)
-            if (!now.contains(line) && !line.startsWith(u"screens"_s))
-                diary_ << u"no more "_s + line.simplified();
-        before_ = now;
-    }
-    void asks(const QString& what, const QVariant& answer) {
-        diary_ << u"> %1 ⇒ %2"_s.arg(what, answer.toString());
-    }
-    void expectAsKept(const char* name) { test::expectText(QString::fromLatin1(name), diary_.join(u'\n')); }
-
     ProgramScreens& screens() { return static_cast<ProgramScreens&>(program->screens()); }
     /// Clicks in the middle of what lies over the screens and says \a text.
     void clickPlate(const QString& text) {
@@ -62,54 +21,9 @@ class ScreensTest : public ProgramTest {
         QTest::mouseClick(program->FormStack.top()->findChild<QWidget*>(QLatin1String(control)),
                           Qt::LeftButton);
     }
-
-    ManualClock clock;
-
-  private:
-    void answer() {
-        Form* box = program->stage().modalForm();
-        if (!box) return;
-        const Qt::Key key = keys_.isEmpty() ? Qt::Key_Escape : keys_.takeFirst();
-        diary_ << box->name() + u" asks "_s + box->accessibleName().simplified() + u" – "_s +
-                      QVariant::fromValue(key).toString();
-        press(key);
-    }
-    QList<QWidget*> plates() const {
-        QList<QWidget*> all;
-        for (QObject* child : program->stage().children())
-            if (auto* plate = dynamic_cast<TwipWidget*>(child); plate && !dynamic_cast<Form*>(child) &&
-                                                                plate->isVisible() &&
-                                                                !plate->accessibleName().isEmpty())
-                all << plate;
-        return all;
-    }
-    QStringList state() const {
-        QStringList lines{u"screens"_s};
-        for (const QPointer<Form>& form : program->FormStack.screens())
-            if (form) lines[0] += u' ' + form->name();
-        for (const QWidget* plate : plates()) lines << u"plate "_s + plate->accessibleName().simplified();
-        UserFile& file = program->userFile();
-        for (const ShoppingRecipe& one : readShoppingList(file).recipes())
-            lines << u"to buy: %1 %2 for %3"_s.arg(one.recipe).arg(one.name).arg(one.portions);
-        for (const RecipeMark& one : RecipeMarks(file).all())
-            lines << u"marked: %1 %2 %3 stars%4"_s.arg(one.recipe)
-                         .arg(one.name)
-                         .arg(one.stars)
-                         .arg(one.opened.isValid() ? u", opened"_s : QString());
-        KitchenTimers timers;
-        restoreTimers(file, timers, 0, 0);
-        for (const KitchenTimer& one : timers.all()) lines << u"runs on: "_s + one.name;
-        if (platform.sleep.inhibited) lines << u"awake: "_s + platform.sleep.reasons.last();
-        return lines;
-    }
-
-    QTimer reader_;
-    QList<Qt::Key> keys_;
-    QStringList diary_, before_;
 };
 
 TEST_F(ScreensTest, WhatIsBoughtCookedAndMarkedGoesFromScreenToScreen) {
-    start();
     does(u"nothing shows before the main screen"_s, [&] {
         screens().showShoppingList();
         screens().showPantry();
@@ -117,7 +31,7 @@ TEST_F(ScreensTest, WhatIsBoughtCookedAndMarkedGoesFromScreenToScreen) {
         screens().showFeast();
         screens().showEyes();
     });
-    does(u"start"_s, [&] { ASSERT_TRUE(program->Main({})); });
+    does(u"start"_s, [&] { start(); });
     const auto buy = [&](const std::vector<std::int16_t>& ids, double portions) {
         return [this, ids, portions] { screens().addToShoppingList(ids, {portions, UnitSystem::Weights}); };
     };
@@ -158,7 +72,6 @@ TEST_F(ScreensTest, WhatIsBoughtCookedAndMarkedGoesFromScreenToScreen) {
 
 TEST_F(ScreensTest, TimersRunUntilTheyAreStoppedOrTheProgramEnds) {
     start();
-    ASSERT_TRUE(program->Main({}));
     for (const std::int16_t id : {5, 6, 99})
         asks(u"the steps of %1 are known"_s.arg(id), screens().canCook(id));
     does(u"something is said"_s, [&] { screens().addToShoppingList({6}, {}); });
@@ -167,8 +80,8 @@ TEST_F(ScreensTest, TimersRunUntilTheyAreStoppedOrTheProgramEnds) {
     does(u"its time"_s, [&] { clickOnTop("cmdCas(0)"); });
     does(u"the end is not meant"_s, [&] { program->ConfirmExit(); }, {Qt::Key_N});
     does(u"nor is it then"_s, [&] { program->ConfirmExit(); }, {Qt::Key_A, Qt::Key_N});
-    does(u"the run is cut off"_s, [&] { start(); });
-    does(u"and the program started again"_s, [&] { ASSERT_TRUE(program->Main({})); });
+    does(u"the run is cut off"_s, [&] { make(); });
+    does(u"and the program started again"_s, [&] { start(); });
     does(u"time goes by"_s, [&] {
         clock.time += 1000000;
         QTest::qWait(300);
@@ -188,16 +101,16 @@ TEST_F(ScreensTest, TimersRunUntilTheyAreStoppedOrTheProgramEnds) {
 TEST_F(ScreensTest, WhatCannotBeKeptIsSaidAndABookWithoutGoodsHasNothingToBuy) {
     ASSERT_TRUE(QDir().rmdir(path("data")));
     ASSERT_TRUE(test::write(path("data")));
+    make();
     start();
-    ASSERT_TRUE(program->Main({}));
     asks(u"the goods are known"_s, screens().knowsGoods());
     does(u"buy"_s, [&] { screens().addToShoppingList({5}, {}); });
     does(u"stars"_s, [&] { screens().giveStars(5, 4); });
     ASSERT_TRUE(QFile::remove(path("program/Sarne.drc")));
     test::writeRecipeDatabase(path("program/Sarne.drc"),
                               {u"INSERT INTO Recepty (ID, Nazev, Porce) VALUES (5,'Kapr',4)"_s});
-    start();
-    does(u"a book without goods"_s, [&] { ASSERT_TRUE(program->Main({})); });
+    make();
+    does(u"a book without goods"_s, [&] { start(); });
     asks(u"the goods are known"_s, screens().knowsGoods());
     does(u"buy"_s, [&] {
         screens().addToShoppingList({5}, {});
@@ -208,7 +121,6 @@ TEST_F(ScreensTest, WhatCannotBeKeptIsSaidAndABookWithoutGoodsHasNothingToBuy) {
 
 TEST_F(ScreensTest, ASecondVisitFindsWhatIsOpen) {
     start();
-    ASSERT_TRUE(program->Main({}));
     does(u"help of a screen without one"_s, [&] { screens().showHelpFor(u"frmSit"_s); });
     does(u"a page of it"_s, [&] { screens().showPage(u"1"_s); });
     does(u"a recipe over that"_s, [&] { screens().showRecipeAt(5, 3); });

@@ -2,11 +2,11 @@
 
 #include <QFile>
 #include <QTest>
-#include <set>
 
 #include "screens/navigation/frmhlavni.h"
 #include "screens/navigation/frmmenu.h"
 #include "shippedprogram.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
@@ -36,11 +36,10 @@ class ShippedMenu : public ShippedProgram, public testing::Test {
     }
     void walk(int topic, const QString& code);
     void choose(int topic, const QString& code, int k);
-    void expectScreen(int topic, const MenuLevel& level, int k);
     void expectIdle();
 
     frmHlavni* main = program->mainScreen();
-    int actions = 0;
+    QStringList opened;
 };
 
 void ShippedMenu::expectIdle() {
@@ -51,32 +50,14 @@ void ShippedMenu::expectIdle() {
     for (int i = 0; i < 19; ++i) EXPECT_TRUE(button(i)->isEnabled()) << i;
 }
 
-void ShippedMenu::expectScreen(int topic, const MenuLevel& level, int k) {
-    const QString target = level.items[size_t(k - 1)].target;
-    QString form = u"frmSeznam"_s;
-    if (topic == 1 || topic == 9 || topic == 13) form = u"frmSponzor"_s;
-    if (topic == 4) form = k == 1 ? u"frmStranka"_s : u"FrmTabulky"_s;
-    if (topic == 4 && k == 9) form = u"frmNakup"_s;
-    if (topic == 10) form = k == 1 ? u"frmFotoBig"_s : u"frmSit"_s;
-    if (topic == 18) form = u"frmVideo"_s;
-    if (target.startsWith(u'H')) form = u"frmIndex"_s;
-    ASSERT_EQ(program->FormStack.top()->name(), form) << level.code.toStdString() << ' ' << k;
-    if (form != u"frmSeznam") return;
-    const bool flat = topic == 3 || topic == 6 || topic == 15;
-    const QString table = flat || k % 10 == 1 ? u"Recepty"_s : u"RychleRecepty"_s;
-    ASSERT_TRUE(target.endsWith(u','));
-    Recordset records = program->Db().OpenTable(table);
-    for (const QString& id : target.split(u',', Qt::SkipEmptyParts))
-        EXPECT_TRUE(RecordExists(records, id.toInt())) << table.toStdString() << ' ' << id.toStdString();
-}
-
 void ShippedMenu::choose(int topic, const QString& code, int k) {
     frmMenu* level = reach(topic, code);
     ASSERT_NE(level, nullptr) << code.toStdString();
-    const MenuLevel items = level->level();
+    const QString label = level->level().items[size_t(k - 1)].label;
+    platform.announced.clear();
     clickItem(level, k);
-    ++actions;
-    expectScreen(topic, items, k);
+    opened << u"%1 %2 %3 ⇒ %4: %5"_s.arg(code).arg(k).arg(label, program->FormStack.top()->name(),
+                                                          platform.announced.join(u", "_s).simplified());
     for (int step = 0; step < 3 && program->FormStack.count() > 1; ++step)
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     expectIdle();
@@ -124,12 +105,10 @@ TEST_F(ShippedMenu, ADamagedResourceFileIsNotTaken) {
     EXPECT_FALSE(resources.load(name));
 }
 
-TEST_F(ShippedMenu, EveryRowOpensItsScreenOverRecordsThatExist) {
-    for (int topic = 1; topic < 19; ++topic) {
-        if (topic == 7) continue;
-        walk(topic, QString::number(topic));
-    }
-    EXPECT_GT(actions, 60);
+TEST_F(ShippedMenu, EveryRowOpensItsScreen) {
+    for (int topic = 1; topic < 19; ++topic)
+        if (topic != 7) walk(topic, QString::number(topic));
+    test::expectText(u"nabidky"_s, opened.join(u'\n'));
 }
 
 }  // namespace

@@ -11,7 +11,6 @@
 #include <QWindow>
 #include <optional>
 
-#include "app/condition.h"
 #include "app/kepteyes.h"
 #include "app/language.h"
 #include "app/windowplace.h"
@@ -118,52 +117,34 @@ TEST(KeptEyes, WhatTheUserChoosesOutlivesTheRunAndTheDesktopsWishes) {
         explicit Run(const QString& name) : file(name) {}
     };
     std::optional<Run> run;
-    const std::pair<const char*, std::function<void()>> steps[] = {
-        {"run", [&] { run.emplace(folder.filePath(u"vlastni.db"_s)); }},
-        {"wished calm contrast",
-         [&] {
-             run->keeping.follow({true, true});
-         }},
-        {"larger", [&] { run->eyes.stepText(1); }},
-        {"no contrast", [&] { run->eyes.setContrast(false); }},
-        {"run", [&] { run.emplace(folder.filePath(u"vlastni.db"_s)); }},
-        {"wished calm contrast",
-         [&] {
-             run->keeping.follow({true, true});
-         }},
-        {"wished contrast",
-         [&] {
-             run->keeping.follow({false, true});
-         }},
-        {"calm", [&] { run->eyes.setCalm(true); }},
-        {"contrast", [&] { run->eyes.setContrast(true); }},
-        {"wished nothing", [&] { run->keeping.follow({}); }},
-        {"run", [&] { run.emplace(folder.filePath(u"vlastni.db"_s)); }},
-        {"smaller", [&] { run->eyes.stepText(-1); }},
-        {"not calm", [&] { run->eyes.setCalm(false); }},
-        {"run", [&] { run.emplace(folder.filePath(u"vlastni.db"_s)); }},
-    };
-    for (const auto& [name, act] : steps) {
+    const auto does = [&](const char* what, const std::function<void()>& act) {
         act();
         const auto kept = [&](const char* value) { return run->file.value(QLatin1String(value)); };
-        diary << u"%1 ⇒ %2 % calm %3 contrast %4, kept '%5' '%6' '%7'"_s.arg(QLatin1String(name))
+        diary << u"%1 ⇒ %2 % calm %3 contrast %4, kept '%5' '%6' '%7'"_s.arg(QLatin1String(what))
                      .arg(run->eyes.textPercent())
                      .arg(run->eyes.isCalm())
                      .arg(run->eyes.hasContrast())
                      .arg(kept("TextPercent"), kept("Calm"), kept("Contrast"));
-    }
+    };
+    const auto again = [&] { run.emplace(folder.filePath(u"vlastni.db"_s)); };
+    const auto wished = [&](bool calm, bool contrast) {
+        return [&, calm, contrast] { run->keeping.follow({calm, contrast}); };
+    };
+    does("run", again);
+    does("wished calm contrast", wished(true, true));
+    does("larger", [&] { run->eyes.stepText(1); });
+    does("no contrast", [&] { run->eyes.setContrast(false); });
+    does("run", again);
+    does("wished calm contrast", wished(true, true));
+    does("wished contrast", wished(false, true));
+    does("calm", [&] { run->eyes.setCalm(true); });
+    does("contrast", [&] { run->eyes.setContrast(true); });
+    does("wished nothing", wished(false, false));
+    does("run", again);
+    does("smaller", [&] { run->eyes.stepText(-1); });
+    does("not calm", [&] { run->eyes.setCalm(false); });
+    does("run", again);
     test::expectText(u"oci"_s, diary.join(u'\n'));
-}
-
-TEST(Condition, TheHelpTellsWhatIsMissingAndKept) {
-    const Condition all{
-        u"/kniha/Sarne.drc"_s, u"D:\\"_s, {u"/data/a"_s, u"/data/b"_s}, {{77, u"Úhoř"_s, u"víc soli"_s}}};
-    QStringList told;
-    for (const char* form : {"frmHlavni", "frmNastavHudbu", "frmSit"})
-        for (const Condition& condition : {all, Condition()})
-            for (const PageAddition& one : helpAdditions(QLatin1String(form), condition))
-                told << u"%1: %2: %3"_s.arg(QLatin1String(form), one.heading, one.text);
-    test::expectText(u"stav"_s, told.join(u'\n'));
 }
 
 TEST(Eyes, TextsHaveThreeSizes) {
