@@ -7,6 +7,8 @@
 #include "kitchen/shoppingstore.h"
 #include "screens/kitchen/ticklist.h"
 #include "support/fakesarne.h"
+#include "support/files.h"
+#include "support/pictures.h"
 #include "support/recipedatabase.h"
 #include "support/smallbook.h"
 
@@ -18,6 +20,8 @@ class KitchenRun : public FakeSarne {
     KitchenRun() {
         database.Open(test::writeRecipeDatabase(folder_.filePath(u"Sarne.drc"_s), test::smallBook()));
         file_ = UserFile(folder_.filePath(u"vlastni.db"_s));
+        (void)test::write(folder_.filePath(u"foto/Male/r5.bmp"_s), test::plain({80, 60}, Qt::darkRed));
+        MediaRoot = LogicalPaths::fromNativeFolder(folder_.path());
     }
 
     UserFile& file() { return file_; }

@@ -188,7 +188,8 @@ TEST(Looks, InUse) {
          "type:KAP Return type:kap Return type:mas Return Tab Return Tab Down F3 Return"},
         {"doma-bez", home,
          "type:kapr Return Delete click:picSuroviny.1 click:cmdAkce(0) click:cmdAkce(4) click:cmdAkce(4) "
-         "click:cmdAkce(6) click:cmdAkce(7)"},
+         "click:cmdAkce(1) click:cmdAkce(1) click:cmdAkce(2) click:cmdAkce(2) click:cmdAkce(6) "
+         "click:cmdAkce(7)"},
         {"kucharka-klavesami", starred, "Down 5 Up 0 Space Return F3"},
         {"hostina-stara", planned,
          "click:cmdAkce(1) click:cmdAkce(2) click:cmdAkce(2) F3 click:imgBtnHlavni(0) click:cmdAkce(0) Space "
