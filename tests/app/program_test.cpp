@@ -166,6 +166,7 @@ TEST_F(ProgramTest, AsksAndEnds) {
     }
     program->SavedDisplayMode = u"1024,768"_s;
     program->keepAwake(u"film"_s);
+    platform.music.notify = MediaNotify::On;
     does(u"the end"_s,
          [&] {
              QTimer::singleShot(0, [&] { program->stage().close(); });

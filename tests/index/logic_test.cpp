@@ -49,6 +49,9 @@ TEST(LookupTable, KeywordsStandInCzechOrderUnderTheirLetters) {
     EXPECT_EQ(order, (QStringList{u"C Candát"_s, u"C Cibule"_s, u"Č Čich"_s, u"H Hejk"_s, u"Ch Chřest"_s,
                                   u"U Úhoř"_s}));
     EXPECT_EQ(table.rows[5].keyword, 1);
+    QString letters;
+    for (const QChar first : u"ÁÄĎÉĚÍŇÓÖŤÚŮÜÝŘŠŽé"_s) letters += indexLetter(first + u"x"_s);
+    EXPECT_EQ(letters, u"AADEEINOOTUUUYŘŠŽE"_s);
     EXPECT_EQ(indexLetter({}), QString());
 }
 

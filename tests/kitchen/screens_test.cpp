@@ -90,8 +90,14 @@ TEST_F(KitchenScreens, TheListTakesWhatAnotherScreenHasPutOnItMeanwhile) {
     EXPECT_TRUE(rows(screen, "picSeznam").contains(u"houska"_s));
 }
 
-TEST_F(KitchenScreens, TheListSaysOnceThatNothingCanBeKept) {
+TEST_F(KitchenScreens, EachSaysOnceThatNothingCanBeKept) {
     UserFile nowhere;
+    auto* stove = new frmVarime(run_, nowhere, {});
+    ASSERT_TRUE(stove->Zobraz(5, {}, {2026, 10, 11}));
+    for (int page = 0; page < 8; ++page) press(*stove, Qt::Key_PageDown);
+    press(*stove, Qt::Key_Return);
+    EXPECT_EQ(run_.announced.last(), u"Nelze zapsat"_s);
+    run_.messages.clear();
     auto* screen = new frmNakup(run_, nowhere, {});
     screen->Zobraz();
     child<Edit>(*screen, "txtVlastni")->setText(u"houska"_s);
