@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 #include <algorithm>
+#include <cmath>
 
 #include "core/czech.h"
 #include "core/texts.h"
@@ -118,7 +119,7 @@ std::vector<FoundTime> findTimes(const QString& original) {
         const QString from = match.captured(QStringLiteral("from"));
         const double shortest = from.isEmpty() ? longest : numberOf(from);
         const int size = unitSeconds(unit);
-        const auto seconds = [size](double count) { return static_cast<int>(count * size + 0.5); };
+        const auto seconds = [size](double count) { return static_cast<int>(std::lround(count * size)); };
         if (longest > 0)
             times.push_back(
                 {match.capturedStart(), match.capturedLength(), seconds(shortest), seconds(longest)});

@@ -72,6 +72,7 @@ TEST(Looks, ListInUse) {
         {"seznam-klavesami", "", "recepty", "",
          "Down PgDown End PgUp Up Home Tab Right Enter Shift+Tab Return Left Left Return F1 X Escape"},
         {"seznam-navrat", "", "recepty", "", "Down PgDown Tab Return over pop Down"},
+        {"seznam-ctecka", "", "recepty", "", "press:lstSeznam.2"},
         {"seznam-pismeny", "", "recepty",
          "UPDATE Recepty SET Nazev = 'Štika' WHERE ID IN (30, 40);"
          "UPDATE Recepty SET Nazev = 'Arašídy' WHERE ID = 1",

@@ -149,6 +149,8 @@ TEST_F(NoteEditing, AParagraphThatGrowsLongIsShownInPiecesAndStaysOne) {
     };
     EXPECT_EQ(note.text(), words);
     EXPECT_LE(longest(), LongParagraphs::kLongest + 8);
+    EXPECT_TRUE(note.editor().document()->begin().next().text().startsWith(u"slovo"_s))
+        << "no word is broken";
     EXPECT_FALSE(note.editor().document()->isUndoAvailable());
     note.editor().moveCursor(QTextCursor::Start);
     note.editor().insertPlainText(u"abc "_s.repeated(LongParagraphs::kLongest * 3 / 8));

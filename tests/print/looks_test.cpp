@@ -62,7 +62,7 @@ TEST(Looks, Printing) {
             print.run.window.focusForm()->findChild<Control*>(u"cmdNahled"_s)->click();
             look(print.run);
         },
-        "Return Down Up Down Return End Return");
+        "Return Down Up Down Down Down Down Down Down Down Down Down Up Return End Return");
 }
 
 /// Looks while a dialog stands there, then closes it.

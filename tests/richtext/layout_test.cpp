@@ -58,6 +58,11 @@ TEST_F(Layout, PlainTextIsLaidOutAsTyped) {
 TEST_F(Layout, MeasuresRepeatedWordsOnce) {
     layOut(u"kapr sumec kapr \\i kapr \\i0 sumec kapr kapr"_s);
     EXPECT_EQ(metrics.measured, 3 + 2);  // three words, a blank of each font
+    QString many;
+    for (int word = 0; word < 4000; ++word) many += u"slovo%1 "_s.arg(word);
+    metrics.measured = 0;
+    layOut(many + many);
+    EXPECT_EQ(metrics.measured, 4000 + 1);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QTest>
@@ -56,6 +57,13 @@ void type(const FakeSarne& run, const QString& letters) {
 
 void tick(const FakeSarne& run) {
     for (auto* timer : run.window.findChildren<Timer*>()) timer->fire();
+}
+
+/// As a screen reader does for its user.
+void pressPart(Control& control, int part) {
+    QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(&control)->child(part);
+    ASSERT_TRUE(heard && heard->actionInterface());
+    heard->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 }
 
 }  // namespace
@@ -131,6 +139,8 @@ void perform(FakeSarne& run, const QString& word) {
         wheel(*front(run)->findChild<Control*>(what), -120);
     else if (verb == u"click" || verb == u"double" || verb == u"hover")
         useMouse(run, what, verb != u"hover", verb == u"double");
+    else if (verb == u"press")
+        pressPart(*front(run)->findChild<Control*>(what.section(u'.', 0, 0)), what.section(u'.', 1).toInt());
     else if (verb == u"type")
         type(run, what);
     else if (verb == u"answer")

@@ -31,6 +31,7 @@ QStringList outOfReach(const FakeSarne& run);
 ///                                      or of its part ("picText.2"); "^NAME" is of the one below, "300,580"
 ///                                      are pixels of the stage
 ///   wheel:NAME  the wheel over a control of the form in front, a notch down
+///   press:NAME.2  a screen reader presses that part
 ///   type:letters
 ///   answer:7    what the next question is answered
 ///   wait:5000   milliseconds of the clock
