@@ -12,7 +12,7 @@ Number littleAt(const QByteArray& image, qsizetype offset) {
 }
 
 qint64 played(quint64 units, quint64 unitsPerSecond) {
-    constexpr quint64 kDay = 24 * 3600;
+    constexpr quint64 kDay = quint64{24} * 3600;
     if (unitsPerSecond == 0 || units / unitsPerSecond > kDay) return 0;
     return static_cast<qint64>(units * 1000 / unitsPerSecond);
 }
