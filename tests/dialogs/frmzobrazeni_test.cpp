@@ -1,25 +1,14 @@
 #include "dialogs/frmzobrazeni.h"
 
 #include <gtest/gtest.h>
-#include <QKeyEvent>
 
 #include "forms/checkbox.h"
-#include "support/fakesarne.h"
+#include "support/onascreen.h"
 
 namespace sarne {
 namespace {
 
-class ZobrazeniTest : public testing::Test {
-  protected:
-    void press(QWidget& form, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QKeyEvent event(QEvent::KeyPress, key, modifiers);
-        QApplication::sendEvent(&form, &event);
-    }
-
-    FakeSarne sarne;
-    Form& screen = *new Form(sarne, u"frmStranka"_s);
-    Eyes& eyes = sarne.window.eyes();
-};
+using ZobrazeniTest = test::OnAScreen;
 
 TEST_F(ZobrazeniTest, EveryChoiceHoldsAtOnceByKeyboardAlone) {
     sarne.PushScreen(screen);

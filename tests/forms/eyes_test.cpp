@@ -1,28 +1,17 @@
 #include "forms/eyes.h"
 
 #include <gtest/gtest.h>
-#include <QKeyEvent>
 
 #include "forms/button.h"
 #include "forms/label.h"
 #include "forms/largertext.h"
 #include "forms/textview.h"
-#include "support/fakesarne.h"
+#include "support/onascreen.h"
 
 namespace sarne {
 namespace {
 
-class EyesTest : public testing::Test {
-  protected:
-    void press(QWidget& form, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QKeyEvent event(QEvent::KeyPress, key, modifiers);
-        QApplication::sendEvent(&form, &event);
-    }
-
-    FakeSarne sarne;
-    Form& screen = *new Form(sarne, u"frmStranka"_s);
-    Eyes& eyes = sarne.window.eyes();
-};
+using EyesTest = test::OnAScreen;
 
 TEST_F(EyesTest, KeysChangeTheSizeAndTextsAreLaidOutLarger) {
     TextView view(screen, u"picText"_s);
