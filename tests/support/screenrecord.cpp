@@ -252,10 +252,26 @@ QString fingerText(const Control* control) {
                : QString();
 }
 
+/// What it is called among those beside it.
+QString ownName(const QWidget& widget) {
+    return widget.objectName().isEmpty() ? QString::fromLatin1(widget.metaObject()->className())
+                                         : widget.objectName();
+}
+
+/// The uppermost of those beside \a widget that it covers in part.
+QString coveredText(const QWidget& widget) {
+    QString covered;
+    for (const QObject* other : widget.parent()->children()) {
+        if (other == &widget) break;
+        const auto* below = qobject_cast<const QWidget*>(other);
+        if (below && below->isVisible() && below->geometry().intersects(widget.geometry()))
+            covered = u" over "_s + ownName(*below);
+    }
+    return covered;
+}
+
 void addWidget(QStringList& lines, const QWidget& widget, const QString& within, const Paper& paper) {
-    const QString own = widget.objectName().isEmpty() ? QString::fromLatin1(widget.metaObject()->className())
-                                                      : widget.objectName();
-    const QString name = within.isEmpty() ? own : within + u'/' + own;
+    const QString own = ownName(widget), name = within.isEmpty() ? own : within + u'/' + own;
     const auto* twips = dynamic_cast<const TwipWidget*>(&widget);
     const auto* control = qobject_cast<const Control*>(&widget);
     QString line =
@@ -278,7 +294,7 @@ void addWidget(QStringList& lines, const QWidget& widget, const QString& within,
         lines << line.trimmed() + u" hidden"_s;
         return;
     }
-    lines << line.trimmed() + fingerText(control);
+    lines << line.trimmed() + fingerText(control) + coveredText(widget);
     if (control) addParts(lines, name, *control);
     for (const QString& painted : paper.of(&widget)) lines << name + u"| "_s + painted;
     for (const QObject* child : widget.children())
