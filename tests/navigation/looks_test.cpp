@@ -91,6 +91,10 @@ TEST(Looks, MainScreenInUse) {
          "click:lblOdkaz(1) "
          "click:Text1 Ctrl+A type:kapr Return Return"},
         {"menu-pismeny", "click:imgClick(2) type:k type:a type:p type:p Alt+F4 Alt+X X type:c"},
+        {"menu-s-klavesnici-dole",
+         "click:imgClick(2) Down Right lowest Down Down lowest Left lowest Escape click:imgClick(12) lowest "
+         "type:k "
+         "type:a Return"},
         {"menu-pod-napovedou", "click:imgClick(2) Down Right F1 over pop Escape Escape"}};
     walkEach(ways, [](const auto&, const Look& look) {
         Main main;

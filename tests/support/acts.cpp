@@ -151,6 +151,8 @@ void perform(FakeSarne& run, const QString& word) {
         tick(run);
     else if (verb == u"letters")
         run.window.eyes().setTextPercent(what.toInt());
+    else if (verb == u"lowest")
+        showing(run).back()->setFocus();
     else if (verb == u"over")
         run.openAbove("frmNad");
     else if (verb == u"pop")

@@ -37,6 +37,7 @@ QStringList outOfReach(const FakeSarne& run);
 ///   wait:5000   milliseconds of the clock
 ///   tick        every timer that runs
 ///   letters:150 how large the eyes want texts, in percent
+///   lowest      the keyboard comes to the form below all others
 ///   over, pop   another screen comes over it and goes again
 void perform(FakeSarne& run, const QString& word);
 
