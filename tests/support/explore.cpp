@@ -109,7 +109,8 @@ QStringList general(QStringList lines) {
     return lines;
 }
 
-/// What of \a now was not there \a before, and which widgets have gone from forms that still show.
+/// What of \a now was not there \a before, which widgets have gone from forms that still show, and which
+/// timers rest.
 QStringList changes(QStringList before, const QStringList& now) {
     QStringList lines;
     for (const QString& line : now)
@@ -121,6 +122,7 @@ QStringList changes(QStringList before, const QStringList& now) {
         const auto isThere = [&](const QString& one) { return all.contains(u'\n' + one + u':'); };
         const bool wasThere = !name.contains(u'/') || isThere(name.section(u'/', 0, -2));
         if (isWidget && wasThere && !isThere(name)) lines << u"- "_s + name;
+        if (line.contains(u" ticks every "_s)) lines << u"- "_s + line;
     }
     return lines;
 }

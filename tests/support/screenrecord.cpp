@@ -15,6 +15,7 @@
 #include "forms/fingers.h"
 #include "forms/form.h"
 #include "forms/stage.h"
+#include "forms/timer.h"
 #include "support/print.h"
 
 namespace sarne::test {
@@ -311,6 +312,9 @@ QStringList record(Stage& stage) {
     for (const QObject* child : stage.children())
         if (const auto* widget = qobject_cast<const QWidget*>(child); widget && widget->isVisible())
             addWidget(lines, *widget, {}, paper);
+    for (const auto* timer : stage.findChildren<Timer*>())
+        if (timer->isEnabled())
+            lines << u"%1 ticks every %2"_s.arg(timer->parent()->objectName()).arg(timer->interval());
     return lines;
 }
 
