@@ -98,12 +98,9 @@ class InstallationTest : public testing::Test {
     QString shipped, own;
 };
 
-TEST_F(InstallationTest, AWritableFileIsUsedWhereItLies) {
+TEST_F(InstallationTest, AWritableFileIsUsedWhereItLiesAndTheOwnCopyWithoutOne) {
     EXPECT_EQ(usableRecipeDatabase(shipped, own).file, shipped);
     EXPECT_FALSE(QFile::exists(own));
-}
-
-TEST_F(InstallationTest, WithoutAShippedFileTheOwnCopyIsUsed) {
     QFile::remove(shipped);
     EXPECT_EQ(usableRecipeDatabase(shipped, own).file, shipped);
     ASSERT_TRUE(test::write(own));

@@ -7,6 +7,7 @@
 #include "db/ownnote.h"
 #include "db/userfile.h"
 #include "support/files.h"
+#include "support/kept.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -97,97 +98,45 @@ TEST_F(NoteStoreTest, NotesComeBackToTheirRecipesInAnotherEdition) {
     EXPECT_EQ(own, (QStringList{u"a"_s, u"b"_s, QString(), u"nová"_s}));
 }
 
-class OwnNoteTest : public testing::Test {
-  protected:
-    void SetUp() override {
-        ASSERT_TRUE(db.Open(test::writeRecipeDatabase(
-            folder.filePath(u"Sarne.drc"_s),
-            {u"INSERT INTO Recepty (ID,Nazev,Vlastni) VALUES (5,'Kapr','stará')"_s})));
-        recipe = db.OpenTable(u"Recepty"_s);
-    }
-
-    QTemporaryDir folder;
+/// What \a steps leave of the note "stará" of recipe 5: after each whether the editor is open (* changed),
+/// what is stored, the draft, and the copy beside the book. "open" tells what the editor shows, too.
+QString told(const QString& steps) {
+    const QTemporaryDir folder;
     Database db;
-    Recordset recipe;
-    UserFile file{folder.filePath(u"vlastni.db"_s)};
-    NoteStore kept{file};
-    OwnNote note{recipe, kept};
-};
-
-TEST_F(OwnNoteTest, AStoredNoteLeavesACopyBesideTheBook) {
-    EXPECT_EQ(note.open(), u"stará"_s);
-    EXPECT_FALSE(note.isDirty());
-    note.changed();
-    note.close(OwnNote::Close::Save, u"nová"_s);
-    ASSERT_EQ(kept.all().size(), 1U);
-    EXPECT_EQ(kept.all()[0].recipe, 5);
-    EXPECT_EQ(kept.all()[0].name, u"Kapr"_s);
-    EXPECT_EQ(kept.all()[0].text, u"nová"_s);
-    EXPECT_EQ(kept.draft(5), std::nullopt);
+    EXPECT_TRUE(db.Open(
+        test::writeRecipeDatabase(folder.filePath(u"Sarne.drc"_s),
+                                  {u"INSERT INTO Recepty (ID,Nazev,Vlastni) VALUES (5,'Kapr','stará')"_s})));
+    Recordset recipe = db.OpenTable(u"Recepty"_s);
+    UserFile file(folder.filePath(u"vlastni.db"_s));
+    NoteStore kept(file);
+    OwnNote note(recipe, kept);
+    QStringList all;
+    for (const QString& step : steps.split(u' ')) {
+        const QString word = step.section(u':', 0, 0), text = step.section(u':', 1).replace(u'_', u' ');
+        QStringList row;
+        if (word == u"open") row << u"»%1«"_s.arg(note.open());
+        if (word == u"changed") note.changed();
+        if (word == u"save") note.save(text);
+        if (word == u"print") note.saveForPrint(text);
+        if (word == u"close") note.close(OwnNote::Close::Save, text);
+        if (word == u"discard") note.close(OwnNote::Close::Discard, {});
+        if (word == u"draft") note.keepDraft(text);
+        if (word == u"append" || word == u"astray")
+            row << (appendToNote(db, kept, word == u"astray" ? 99 : 5, text) ? u"done"_s : u"no"_s);
+        if (word == u"locked") db.Execute(u"PRAGMA query_only = ON"_s);
+        if (word == u"free") db.Execute(u"PRAGMA query_only = OFF"_s);
+        recipe.Seek(u"="_s, 5);
+        row << (note.isOpen() ? u"open"_s : u"shut"_s) + (note.isDirty() ? u"*"_s : QString())
+            << (recipe.field(u"Vlastni"_s).isNull() ? u"null"_s : note.stored())
+            << u"draft "_s + kept.draft(5).value_or(u"none"_s);
+        for (const KeptNote& one : kept.all()) row << u"%1 %2: %3"_s.arg(one.recipe).arg(one.name, one.text);
+        all << row.join(u", "_s);
+    }
+    return all.join(u" / "_s);
 }
 
-TEST_F(OwnNoteTest, StoringForThePrintGoesOnEditing) {
-    note.open();
-    note.saveForPrint(u"nic nového"_s);
-    EXPECT_EQ(note.stored(), u"stará"_s) << "an unchanged note is not stored";
-    note.changed();
-    note.saveForPrint(u"nová"_s);
-    EXPECT_EQ(note.stored(), u"nová "_s);
-    EXPECT_TRUE(note.isOpen() && !note.isDirty());
-    note.changed();
-    note.save({});
-    EXPECT_EQ(note.stored(), QString());
-    EXPECT_FALSE(recipe.field(u"Vlastni"_s).isNull()) << "an emptied note is a note";
-    EXPECT_EQ(kept.all().front().text, QString());
-}
-
-TEST_F(OwnNoteTest, AClosedNoteTakesNoChange) {
-    note.open();
-    note.close(OwnNote::Close::Discard, {});
-    EXPECT_FALSE(note.isOpen());
-    note.changed();
-    EXPECT_FALSE(note.isDirty());
-}
-
-TEST_F(OwnNoteTest, WordsThatCouldNotBeStoredComeBackAsChanged) {
-    note.open();
-    note.changed();
-    ASSERT_TRUE(db.Execute(u"PRAGMA query_only = ON"_s));
-    note.close(OwnNote::Close::Save, u"nová"_s);
-    EXPECT_FALSE(note.isOpen()) << "it closes all the same";
-    EXPECT_EQ(note.open(), u"nová"_s);
-    EXPECT_TRUE(note.isDirty());
-    EXPECT_EQ(note.stored(), u"stará"_s);
-
-    ASSERT_TRUE(db.Execute(u"PRAGMA query_only = OFF"_s));
-    note.close(OwnNote::Close::Save, u"nová"_s);
-    EXPECT_EQ(note.open(), u"nová"_s);
-    EXPECT_FALSE(note.isDirty());
-    EXPECT_EQ(note.stored(), u"nová"_s);
-}
-
-TEST_F(OwnNoteTest, ADraftIsKeptAtASuddenEndAndForgottenWhenDeclined) {
-    note.open();
-    note.keepDraft(u"nic nového"_s);
-    EXPECT_EQ(kept.draft(5), std::nullopt) << "an unchanged note needs none";
-    note.changed();
-    note.keepDraft(u"rozepsaná"_s);
-    OwnNote later(recipe, kept);
-    EXPECT_EQ(later.open(), u"rozepsaná"_s);
-    later.close(OwnNote::Close::Discard, {});
-    EXPECT_EQ(later.open(), u"stará"_s);
-}
-
-TEST_F(OwnNoteTest, ALineIsAddedBelowAlsoToWordsThatCouldNotBeStored) {
-    EXPECT_TRUE(appendToNote(db, kept, 5, u"první"_s));
-    recipe.Seek(u"="_s, 5);
-    EXPECT_EQ(note.stored(), u"stará\nprvní"_s);
-    kept.keepDraft(5, u"rozepsaná \n"_s);
-    EXPECT_TRUE(appendToNote(db, kept, 5, u"druhá"_s));
-    recipe.Seek(u"="_s, 5);
-    EXPECT_EQ(note.stored(), u"rozepsaná\ndruhá"_s);
-    EXPECT_EQ(kept.draft(5), std::nullopt);
-    EXPECT_FALSE(appendToNote(db, kept, 99, u"nikam"_s));
+TEST(OwnNoteTest, IsKeptAsItWasWritten) {
+    test::expectCases(u"poznamky"_s, &told);
 }
 
 }  // namespace
