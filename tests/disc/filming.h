@@ -22,7 +22,6 @@ inline const char* const kRoles =
     "== nůž, nože | nástroj\n"
     "vzhled: ostrý = nuz\n"
     "ostří: 50 50\n";
-inline constexpr double kUnit = 3.5;
 
 /// A chapter of one scene with \a lines, its speech lasting \a speech seconds.
 class Filming {
@@ -34,12 +33,11 @@ class Filming {
         if (!problems.hasErrors()) film = directFilm(script, cast, {speech}, problems);
     }
 
-    std::string error() const { return problems.errors().value(0).section(u':', 1).toStdString(); }
     /// The last actor that shows a thing.
-    Pose pose(const char* name, double seconds) const {
+    Pose pose(const QString& name, double seconds) const {
         Pose found;
         for (const Actor& actor : film.actors)
-            if (actor.name == QString::fromUtf8(name) && poseOf(actor, seconds).of(Property::opacity) > 0)
+            if (actor.name == name && poseOf(actor, seconds).of(Property::opacity) > 0)
                 found = poseOf(actor, seconds);
         return found;
     }

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <cmath>
 
 #include "disc/loadcookbook.h"
 #include "disc/sounds/voice.h"
@@ -10,53 +11,35 @@
 #include "disc/videos/projector.h"
 #include "filming.h"
 #include "support/files.h"
+#include "support/kept.h"
 #include "support/pictures.h"
 
 namespace sarne::disc {
 namespace {
 
-TEST(Scripts, SpeechFitsItsScene) {
-    const Filming fitting(
-        "ryba leží uprostřed\nryba jde nahoru o 4 cm, do konce věty\nryba jde dolů o 4 cm, 1 s\n", 5);
-    EXPECT_NEAR(fitting.film.seconds, 5 + kBeforeSpeech + kAfterSpeech, 0.11);
-    // The last second is the way back; until then the fish went up.
-    EXPECT_NEAR(fitting.pose("ryba", fitting.film.seconds - 1.1).place.y(), -4, 0.2);
-    EXPECT_NEAR(fitting.pose("ryba", fitting.film.seconds).place.y(), 0, 0.01);
-}
-
-TEST(Scripts, AToolsEdgeFollowsALineAndAPictureIsRevealedBesideIt) {
-    const Filming cut(
-        "ryba leží uprostřed\n"
-        "nůž přijde zprava k hlavě, 1 s\n"
-        "nůž jede od hlavy k ocasu po hřbetu, 4 s\n"
-        "zároveň ryba je od hlavy k ocasu čistá, 4 s\n",
-        5);
-    const auto edge = [&](double seconds) { return cut.pose("nůž", seconds).place + QPointF(kUnit, 0); };
-    EXPECT_NEAR(edge(1.6).x(), -kUnit, 0.01);
-    EXPECT_NEAR(edge(3.6).x(), 0, 0.01);
-    EXPECT_NEAR(edge(3.6).y(), -kUnit / 2, 0.01);
-    EXPECT_NEAR(edge(5.6).x(), kUnit, 0.01);
-    EXPECT_NEAR(cut.pose("ryba", 3.6).of(Property::reveal), 0.5, 0.01);
-    EXPECT_EQ(cut.film.actors.last().revealFrom, -kUnit);
-    EXPECT_EQ(cut.film.actors.last().revealTo, kUnit);
-}
-
-TEST(Scripts, PartsOfAThingLieWhereTheWholeLay) {
-    const Filming cut(
-        "ryba leží uprostřed, o 2 cm níž\n"
-        "nůž přijde zprava k hlavě, 1 s\n"
-        "ryba se rozdělí u středu na hlavičku a tělo\n");
-    EXPECT_EQ(cut.error(), "7: místo „středu“ nic nemá");
-    const Filming slices("ryba leží uprostřed\nnůž přijde zprava k hlavě\nnůž krájí rybu na 2 tělo, 2 s\n",
-                         3);
-    ASSERT_EQ(slices.error(), "");
-    const Actor& second = slices.film.actors.last();
-    EXPECT_EQ(second.name, u"tělo 2"_s);
-    EXPECT_NEAR(second.left, 0, 0.01);
-    EXPECT_NEAR(second.right, kUnit, 0.01);
-    // The cut-off piece is pushed aside, the rest stays.
-    EXPECT_LT(slices.pose("tělo 1", 3.6).place.x(), -0.3);
-    EXPECT_EQ(slices.pose("tělo 2", 3.6).place.x(), 0);
+/// What is filmed of "speech | thing second, thing second ... | lines": how long it takes, the actors with
+/// what is there of them and how it is revealed, and where those things stand then and how far they are
+/// revealed.
+TEST(Scripts, AreFilmedAsTheyAreTold) {
+    test::expectCases(u"filmy"_s, [](const QString& text) {
+        const QStringList parts = text.split(u" | "_s);
+        const Filming filming(parts[2].toStdString(), parts[0].toDouble());
+        const auto number = [](double value) { return QString::number(std::round(value * 100) / 100 + 0.); };
+        QStringList all = filming.problems.errors();
+        all << number(filming.film.seconds);
+        for (const Actor& actor : filming.film.actors)
+            all << u"%1 %2..%3"_s.arg(actor.name, number(actor.left), number(actor.right));
+        for (const Actor& actor : filming.film.actors)
+            if (actor.revealFrom != actor.revealTo)
+                all << u"from %1 to %2"_s.arg(number(actor.revealFrom), number(actor.revealTo));
+        for (const QString& wanted : parts[1].split(u", "_s)) {
+            const QString thing = wanted.section(u' ', 0, -2);
+            const Pose pose = filming.pose(thing, wanted.section(u' ', -1).toDouble());
+            all << wanted + u": %1,%2 %3"_s.arg(number(pose.place.x()), number(pose.place.y()),
+                                                number(pose.of(Property::reveal)));
+        }
+        return all.join(u"; "_s);
+    });
 }
 
 /// The scripts that ship are understood, and everything in them is there and stays where it was laid. How
