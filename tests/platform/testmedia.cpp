@@ -2,11 +2,11 @@
 
 #include <malloc.h>
 #include <QCoreApplication>
+#include <QDataStream>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QProcess>
 #include <QThread>
-#include <QtEndian>
 
 #include <cmath>
 #include <numbers>
@@ -17,39 +17,22 @@ namespace sarne {
 
 using namespace Qt::StringLiterals;  // benchmarks are compiled without what tests have
 
-namespace {
-
-void append32(QByteArray& bytes, quint32 value) {
-    const quint32 little = qToLittleEndian(value);
-    bytes.append(reinterpret_cast<const char*>(&little), sizeof little);
-}
-
-void append16(QByteArray& bytes, qint16 value) {
-    const qint16 little = qToLittleEndian(value);
-    bytes.append(reinterpret_cast<const char*>(&little), sizeof little);
-}
-
-}  // namespace
-
 QByteArray sineWav(double hertz, int milliseconds, double loudness) {
     constexpr int rate = 44100;
-    QByteArray samples;
-    for (int i = 0; i < rate * milliseconds / 1000; ++i)
-        append16(samples,
-                 static_cast<qint16>(32767 * loudness * std::sin(2 * std::numbers::pi * hertz * i / rate)));
-    QByteArray wav("RIFF");
-    append32(wav, 36 + samples.size());
-    wav += "WAVEfmt ";
-    append32(wav, 16);
-    append16(wav, 1);
-    append16(wav, 1);
-    append32(wav, rate);
-    append32(wav, rate * 2);
-    append16(wav, 2);
-    append16(wav, 16);
-    wav += "data";
-    append32(wav, samples.size());
-    return wav + samples;
+    const int count = rate * milliseconds / 1000;
+    QByteArray wav;
+    QDataStream out(&wav, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out.writeRawData("RIFF", 4);
+    out << qint32(36 + 2 * count);
+    out.writeRawData("WAVEfmt ", 8);
+    out << qint32(16) << qint16(1) << qint16(1) << qint32(rate) << qint32(rate * 2) << qint16(2)
+        << qint16(16);
+    out.writeRawData("data", 4);
+    out << qint32(2 * count);
+    for (int i = 0; i < count; ++i)
+        out << qint16(32767 * loudness * std::sin(2 * std::numbers::pi * hertz * i / rate));
+    return wav;
 }
 
 QString TestMedia::write(const QString& name, const QByteArray& content) const {

@@ -9,6 +9,7 @@
 #include "forms/listbox.h"
 #include "printform.h"
 #include "support/fakeprinter.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
@@ -47,26 +48,17 @@ TEST_F(FrmPrintTest, PrintsANoteAsItStandsInItsEditorAndStaysAwakeAboveARecipe) 
 
 TEST_F(FrmPrintTest, AsksForPortionsFrom1To99) {
     open({3});
-    for (const char* wrong : {"", "0", "0.9", "100", "99.5", "abc", "-4", "1e9"}) {
+    test::expectCases(u"porce"_s, [this](const QString& typed) {
         run.messages.clear();
-        control<Edit>("Text1")->setText(str(wrong));
+        control<Edit>("Text1")->setText(typed);
         control("Command1")->click();
-        EXPECT_EQ(run.messages, QStringList{u"48: Musí být zadáno celé číslo od 1 do 99!"_s}) << wrong;
+        const QString made = outcome().section(u"souboru "_s, 1);
+        if (run.messages.filter(u"48:"_s).isEmpty())
+            return test::pdfText(made).simplified().section(u' ', -2);
         EXPECT_TRUE(control<Edit>("Text1")->hasInput());
         control("cmdNahled")->click();
-        EXPECT_EQ(run.messages.size(), 2);
-    }
-    EXPECT_FALSE(QFileInfo::exists(file("Štika.pdf")));
-    run.messages.clear();
-    const char* const lines[][2] = {
-        {"1", "Porce: 1"}, {"99", "Porce: 99"}, {" 2.5 osoby", "Porce: 2,5"}, {"4,5", "Porce: 4,5"}};
-    for (const auto& [typed, line] : lines) {
-        control<Edit>("Text1")->setText(str(typed));
-        control("Command1")->click();
-        EXPECT_TRUE(test::pdfText(outcome().section(u"souboru "_s, 1)).simplified().endsWith(str(line)))
-            << typed;
-    }
-    EXPECT_TRUE(run.messages.filter(u"48:"_s).isEmpty());
+        return run.messages.join(u' ') + made;
+    });
     control<Edit>("Text1")->focusAll();
     QTest::keyClicks(form()->focusWidget(), u"2,5"_s);
     EXPECT_EQ(control<Edit>("Text1")->text(), u"2.5"_s);
