@@ -32,6 +32,7 @@ class Settings : public MediaFixture {
             before = now;
             all << (changed + std::exchange(run.player.commands, {}) + std::exchange(run.messages, {}))
                        .join(u", "_s)
+                       .replace(u'\\', u'/')
                        .replace(disc.path(), u"~"_s);
         }
         return all.join(u" / "_s);
