@@ -19,16 +19,15 @@ class KitchenRun : public FakeSarne {
   public:
     KitchenRun() {
         database.Open(test::writeRecipeDatabase(folder_.filePath(u"Sarne.drc"_s), test::smallBook()));
-        file_ = UserFile(folder_.filePath(u"vlastni.db"_s));
+        userFile = UserFile(folder_.filePath(u"vlastni.db"_s));
         (void)test::write(folder_.filePath(u"foto/Male/r5.bmp"_s), test::plain({80, 60}, Qt::darkRed));
         MediaRoot = LogicalPaths::fromNativeFolder(folder_.path());
     }
 
-    UserFile& file() { return file_; }
+    UserFile& file() { return userFile; }
 
   private:
     QTemporaryDir folder_;
-    UserFile file_;
 };
 
 /// What recipe 5 needs for four.

@@ -34,13 +34,6 @@ class Recipe : public RecipeTest {
         }
     }
     void ask(double portions) { customPortions = portions; }
-    /// What is stored as the note is told, too.
-    void tellNote() {
-        test::alsoTold = [this] {
-            const QVariant note = storedNote();
-            return QStringList(note.isNull() ? u"no note"_s : u"note '%1'"_s.arg(note.toString()));
-        };
-    }
     using RecipeTest::run;
     using RecipeTest::type;
 
@@ -72,7 +65,6 @@ TEST(Looks, NoteThatWasTyped) {
         Recipe book;
         book.show(5, 7);
         book.type(u"víc kmínu"_s);
-        book.tellNote();
         look(book.run);
     });
 }
@@ -122,7 +114,6 @@ TEST(Looks, InUse) {
         book.ask(2.5);
         book.addLinks(8);
         book.show(one.id, one.section);
-        book.tellNote();
         look(book.run);
     });
 }

@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include "db/recordset.h"
+#include "db/schema.h"
 #include "forms/control.h"
 #include "support/acts.h"
 #include "support/fakesarne.h"
@@ -23,7 +25,7 @@ namespace sarne::test {
 
 namespace {
 
-const QString kStep = u"> "_s, kLooks = u"looks "_s;
+const QString kStep = u"> "_s, kLooks = u"looks "_s, kTicks = u" ticks every "_s, kKept = u"keeps "_s;
 
 /// Time stands still: nothing ticks by itself while a screen is looked at, however slow the machine.
 class Stillness final : public QObject {
@@ -76,9 +78,37 @@ QStringList handedOver(const RecordedScreens& asked) {
     return asked.printedText.isEmpty() ? all : all << u"text "_s + asked.printedText.simplified();
 }
 
-/// What the run has been told so far by what is on it.
-QStringList told(const FakeSarne& run) {
+/// The rows of \a table: its name and the \a fields of each.
+QStringList rowsOf(Recordset table, const QString& name, const QStringList& fields) {
     QStringList all;
+    for (table.MoveFirst(); !table.AtEnd(); table.MoveNext()) {
+        QStringList texts;
+        for (const QString& field : fields) texts << table.field(field).toString();
+        if (!texts.mid(1).join(QString()).isEmpty()) all << kKept + name + u' ' + texts.join(u'|') + u'|';
+    }
+    return all;
+}
+
+/// All that stays when the program ends, and the switches of its sounds.
+QStringList kept(FakeSarne& run) {
+    static const QRegularExpression table(u"CREATE TABLE (\\w+) \\((.*)\\)"_s);
+    QStringList all = rowsOf(run.database.OpenTable(u"Recepty"_s), u"note"_s, {u"ID"_s, u"Vlastni"_s}) +
+                      rowsOf(run.database.OpenTable(u"Nastav"_s), u"switch"_s, {u"ID"_s, u"hodnota"_s});
+    for (const QStringList& step : userSchema())
+        for (const QString& statement : step) {
+            const auto found = table.match(statement);
+            QStringList fields;
+            for (const QString& field : found.captured(2).split(u", "_s)) fields << field.section(u' ', 0, 0);
+            all += rowsOf(run.userFile.forReading().OpenTable(found.captured(1)), found.captured(1), fields);
+        }
+    for (size_t i = 0; i < run.SoundFlags.size(); ++i)
+        if (run.SoundFlags[i]) all << kKept + u"sound %1"_s.arg(i);
+    return all;
+}
+
+/// What the run has been told so far by what is on it.
+QStringList told(FakeSarne& run) {
+    QStringList all = kept(run);
     for (const auto& [word, list] : {std::pair("asks for ", run.recorded.calls),
                                      {"message ", run.messages},
                                      {"announces ", run.announced},
@@ -96,21 +126,22 @@ QStringList told(const FakeSarne& run) {
     return alsoTold ? all + alsoTold() : all;
 }
 
-/// \a lines without what is another one in every run: today's date, folders made for the test.
+/// \a lines without what is another one in every run: the date and the time, folders made for the test.
 QStringList general(QStringList lines) {
     static const QRegularExpression madeForTest(QRegularExpression::escape(QDir::tempPath()) + u"/[\\w-]+"_s +
-                                                u"(\\.\\w{6})?"_s);
+                                                u"(\\.\\w{6})?"_s),
+        ofTheClock(u"\\b1\\d{12}\\b"_s);
     const QDate today = QDate::currentDate();
     for (QString& line : lines) {
-        line.replace(madeForTest, u"TMP"_s).replace(u'\n', u'¶').remove(u'\r');
+        line.replace(madeForTest, u"TMP"_s).replace(ofTheClock, u"WHEN"_s).replace(u'\n', u'¶').remove(u'\r');
         for (const QString& date : {today.toString(Qt::ISODate), today.toString(u"d. M. yyyy"_s)})
             line.replace(date, u"TODAY"_s);
     }
     return lines;
 }
 
-/// What of \a now was not there \a before, which widgets have gone from forms that still show, and which
-/// timers rest.
+/// What of \a now was not there \a before, and what is gone: widgets of forms that still show, timers, and
+/// what was kept.
 QStringList changes(QStringList before, const QStringList& now) {
     QStringList lines;
     for (const QString& line : now)
@@ -122,7 +153,7 @@ QStringList changes(QStringList before, const QStringList& now) {
         const auto isThere = [&](const QString& one) { return all.contains(u'\n' + one + u':'); };
         const bool wasThere = !name.contains(u'/') || isThere(name.section(u'/', 0, -2));
         if (isWidget && wasThere && !isThere(name)) lines << u"- "_s + name;
-        if (line.contains(u" ticks every "_s)) lines << u"- "_s + line;
+        if (line.startsWith(kKept) || line.contains(kTicks)) lines << u"- "_s + line;
     }
     return lines;
 }
