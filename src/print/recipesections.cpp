@@ -98,12 +98,12 @@ void RecipeSections::texts() {
         {QStringLiteral("Uvod"), Texts::tr(" Tisknu úvod ... ")},
         {QStringLiteral("Recept"), Texts::tr(" Tisknu recept ... ")},
         {QStringLiteral("Poznamka"), Texts::tr(" Tisknu poznámku ... ")}};
-    double from = kSetPart * double(PrintSection::Texts) / kPrintSections;
+    constexpr double kAll = kSetPart / kPrintSections, kFrom = kAll * int(PrintSection::Texts);
+    int done = 0;
     for (const auto& [name, statusText] : fields) {
-        const double to = from + kSetPart / kPrintSections / double(std::size(fields));
-        flow_.setPart(from, to);
+        const double from = kFrom + kAll * done / std::size(fields);
+        flow_.setPart(from, kFrom + kAll * ++done / std::size(fields));
         richField(name, statusText);
-        from = to;
     }
 }
 

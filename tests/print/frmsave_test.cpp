@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QTest>
 #include <QTimer>
 
 #include "forms/listbox.h"
@@ -65,32 +64,6 @@ QString chosen(const QString& way) {
 
 TEST(FrmSave, HandsOverWhatTheUserChose) {
     test::expectCases(u"vybirani"_s, &chosen);
-}
-
-TEST(FrmSave, GoesOnBelowThePrintOfQuickRecipes) {
-    FakeSarne run;
-    int printed = 0;
-    QPointer<frmSave> save;
-    save = new frmSave(run, {{u"Pět minut"_s, 10}}, [&](const Ids&) {
-        ++printed;
-        save->hideForm();  // as printing does with all screens
-        save->show();
-    });
-    const auto button = [&](const char* name) { return child<Button>(*save, name); };
-    QTimer::singleShot(0, save, [&] {
-        EXPECT_EQ(save->mode(), u"rychlerecepty"_s);
-        button("cmdRuka(3)")->click();
-        QTimer::singleShot(0, save, [&] {
-            EXPECT_EQ(run.window.modalForm(), save.data()) << "the dialog goes on";
-            button("cmdOkEnd(0)")->click();
-            QTimer::singleShot(0, save, [&] { save->goBack(); });
-        });
-        button("cmdOkEnd(0)")->click();
-    });
-    save->Zobraz(u"RychleRecepty"_s);
-    EXPECT_EQ(printed, 2);
-    EXPECT_FALSE(save->isLoaded());
-    EXPECT_EQ(run.window.modalForm(), nullptr);
 }
 
 TEST(FrmSave, EndsWithTheProgram) {

@@ -9,37 +9,6 @@ namespace sarne {
 namespace {
 
 using test::PrintCookbook;
-using test::str;
-
-/// Five recipes: one with everything, one of steps, one whose name is long, one with a long note, an empty
-/// one.
-QStringList cookbook() {
-    const QString steps = str(
-        "\\b Postup\\b0\\par 1. Rybu opl\\'e1chneme a osol\\'edme z obou stran.\\par 2.\\~Troubu "
-        "p\\'f8edeh\\'f8ejeme na 200 stup\\'f2\\'f9 a *44pek\\'e1\\'e8* vyma\\'9eeme m\\'e1slem, kter\\'e9 "
-        "jsme nechali zm\\'ecknout.\\par\\fs10\\par\\fs24 Pod\\'e1v\\'e1me s bramborem, v m\\'edse a k "
-        "tomu p\\'edsn\\'ec slovo.\\par 12. Nakonec ");
-    return {
-        PrintCookbook::recipe(
-            1, u"Kapr na kmíně"_s,
-            {u"DlouhyNazev"_s, u"Kapr pečený na kmíně"_s, u"Uvod"_s,
-             test::rtf(u"\\i Rychl\\'e9\\i0\\par Kapr a km\\'edn k sob\\'ec pat\\'f8\\'ed."_s), u"Recept"_s,
-             test::rtf(steps), u"Prezentace"_s, test::rtf(u"Na tal\\'ed\\'f8i."_s), u"vino"_s,
-             test::rtf(u"Ryzlink."_s), u"Vlastni"_s, u"Méně soli. "_s}),
-        PrintCookbook::recipe(2, u"Štika"_s, {u"Recept"_s, test::rtf(steps.repeated(4))}),
-        PrintCookbook::recipe(3, u"Rybí polévka z hlav a jiker na způsob staré rybníkářské kuchyně"_s,
-                              {u"Recept"_s, test::rtf(test::longText(900))}),
-        PrintCookbook::recipe(4, u"Okoun"_s, {u"Vlastni"_s, test::longText(1500)}),
-        PrintCookbook::recipe(5, u"Lín"_s),
-        u"INSERT INTO Suroviny VALUES (1,'kapr'),(2,'amur'),(3,'sůl'),(4,'paprika mletá')"_s,
-        u"INSERT INTO Upresneni VALUES (1,'podkovy'),(2,'sladká')"_s,
-        u"INSERT INTO Jednotky VALUES (1,'g'),(2,'lžičky'),(3,'ks')"_s,
-        u"INSERT INTO SpojSur VALUES (1,1,1,1,1200,3,4,2),(1,3,0,1,5.5,2,0.5,0),(1,4,2,1,250,0,2,0)"_s,
-        u"INSERT INTO Pomucky VALUES (1,'pekáč')"_s,
-        u"INSERT INTO SpojPomucky VALUES (1,1)"_s,
-        u"INSERT INTO Odkazy VALUES (5,'Vývar',"_s + test::sqlText(test::rtf(u"Va\\'f8\\'edme."_s)) + u')',
-        u"INSERT INTO SpojOdkazy VALUES (1,5)"_s};
-}
 
 /// "12bi_ Arial #000000": size, bold, italic, underlined.
 QString looks(const PageText& text) {
@@ -92,7 +61,7 @@ class ToldProgress final : public PrintProgress {
 };
 
 TEST(PrintedPage, StandsToTheTwipWhereItStood) {
-    PrintCookbook book(cookbook());
+    PrintCookbook book(test::fiveRecipes());
     book.addPhoto(1, {400, 300}, Qt::red);
     QStringList rows;
     const auto add = [&](Paper paper, int id, const PrintOptions& options) {
