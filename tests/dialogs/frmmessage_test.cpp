@@ -5,71 +5,44 @@
 
 #include "dialogs/frmmessage.h"
 #include "dialogs/messagelayout.h"
+#include "support/acts.h"
 #include "support/fakesarne.h"
 #include "support/kept.h"
 
 namespace sarne {
 namespace {
 
-class MessageTest : public testing::Test {
-  protected:
-    /// Asks, and does \a answer while the box is open. A box that stays open is closed so that the test can
-    /// end.
-    template <typename Answer>
-    int ask(const char* text, int style, Answer answer, int closeCode = 0) {
-        QTimer::singleShot(0, [&] {
-            answer();
-            if (box->isVisible()) box->hideForm();
-        });
-        return box->ask(QString::fromUtf8(text), style, 0, closeCode);
-    }
-    int press(int style, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        return ask("Chcete ukončit program?  ", style,
-                   [&] { QTest::keyClick(QApplication::focusWidget(), key, modifiers); });
-    }
-    Button* button(int i) { return box->findChild<Button*>(u"cmdBtn(%1)"_s.arg(i)); }
-
+/// Asks in the style that \a way begins with, which goes on with words as test::perform() takes them, or with
+/// "close", as from the window manager; "leave:" in front of the style is for who may leave it unanswered.
+/// The answer, and whether the box had to be hidden.
+QString answer(const QString& way) {
     FakeSarne run;
-    frmMessage* box = new frmMessage(run);
-};
-
-TEST_F(MessageTest, AnswersByMouseAndByKeyboard) {
-    EXPECT_EQ(ask("?", 36, [&] { QTest::mouseClick(button(1), Qt::LeftButton); }), 7);
-    EXPECT_EQ(ask("?", 36, [&] { QTest::mouseClick(button(0), Qt::LeftButton); }), 6);
-    EXPECT_EQ(press(36, Qt::Key_Return), 6);
-    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
-    EXPECT_EQ(box->askOrLeave(u"?"_s, 36), 0) << "left without an answer; the next wants one again";
-    EXPECT_EQ(press(36, Qt::Key_Escape), 7);
-    EXPECT_EQ(press(36 + 256, Qt::Key_Return), 7) << "the default button has the focus";
-    EXPECT_EQ(press(48 + 256, Qt::Key_Return), 6) << "there is no second";
-    EXPECT_EQ(press(48, Qt::Key_Space), 6);
-    EXPECT_EQ(press(48, Qt::Key_Escape), 6);
-    EXPECT_EQ(press(36, Qt::Key_N), 7);
-    EXPECT_EQ(ask("?", 36,
-                  [&] {
-                      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-                      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-                  }),
-              7);
+    auto* box = new frmMessage(run);
+    bool isHidden = false;
+    QTimer::singleShot(0, [&] {
+        for (const QString& word : way.split(u' ').sliced(1))
+            if (word == u"close")
+                box->closeRequested();
+            else
+                test::perform(run, word);
+        isHidden = box->isVisible();
+        if (isHidden) box->hideForm();
+    });
+    const QString style = way.section(u' ', 0, 0);
+    const int code = style.startsWith(u"leave:")
+                         ? box->askOrLeave(u"?"_s, style.mid(6).toInt())
+                         : box->ask(u"Chcete?"_s, style.toInt(), 0, way.endsWith(u"close") ? 2 : 0);
+    return QString::number(code) + (isHidden ? u" still asks"_s : QString());
 }
 
-TEST_F(MessageTest, ClosingItAnswersOnlyWhereThatIsAnAnswer) {
-    EXPECT_EQ(press(6, Qt::Key_Escape), 0) << "there is no button";
-    EXPECT_EQ(press(36, Qt::Key_F4, Qt::AltModifier), 0) << "it stayed open until the test hid it";
-    bool stillOpen = false;
-    EXPECT_EQ(ask(
-                  "?", 36,
-                  [&] {
-                      box->closeRequested();
-                      stillOpen = box->isVisible();
-                  },
-                  2),
-              2);
-    EXPECT_FALSE(stillOpen);
+TEST(MessageTest, AnswersByMouseAndByKeyboard) {
+    test::expectCases(u"odpovedi"_s, &answer);
 }
 
-TEST_F(MessageTest, IsDraggedByItsGroundAndStaysOnTheScreen) {
-    ask("posuň mě", 48, [&] {
+TEST(MessageTest, IsDraggedByItsGroundAndStaysOnTheScreen) {
+    FakeSarne run;
+    auto* box = new frmMessage(run);
+    QTimer::singleShot(0, [&] {
         const QPoint before = box->twips().topLeft();
         QTest::mousePress(box, Qt::LeftButton, {}, {10, 10});
         QMouseEvent move(QEvent::MouseMove, QPointF(10, 10), box->mapToGlobal(QPointF(10, 10)),
@@ -83,7 +56,9 @@ TEST_F(MessageTest, IsDraggedByItsGroundAndStaysOnTheScreen) {
                          Qt::LeftButton, {});
         QApplication::sendEvent(box, &away);
         EXPECT_EQ(box->twips().right() + 1, 12000);
+        box->hideForm();
     });
+    box->ask(u"posuň mě"_s, 48, 0);
 }
 
 TEST(MessageLayout, StylesComeApartAndEverySetHasItsCaptionsAndCodes) {

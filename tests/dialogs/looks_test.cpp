@@ -55,12 +55,14 @@ TEST(Looks, Messages) {
 }
 
 TEST(Looks, Eyes) {
-    explore("zobrazeni", [](const Look& look) {
-        FakeSarne run;
-        run.openAbove("frmHlavni");
-        (new frmZobrazeni(run))->Zobraz();
-        look(run);
-    });
+    for (const bool isUsed : {false, true})
+        test::exploreOrLook(!isUsed, isUsed ? "zobrazeni-zvolene" : "zobrazeni", [=](const Look& look) {
+            FakeSarne run;
+            run.openAbove("frmHlavni");
+            if (isUsed) run.window.eyes().setTextPercent(150), run.window.eyes().setContrast(true);
+            (new frmZobrazeni(run))->Zobraz();
+            look(run);
+        });
 }
 
 }  // namespace

@@ -5,53 +5,33 @@
 #include <QTemporaryDir>
 
 #include "support/files.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
 
 const QByteArray kThree = "0.00\tCo budete potřebovat\n9.17\tPrvní bok\r\n32.5\tDruhý bok\n";
 
+/// A chapter file, and behind " / " places of the film ("31000", and its length behind "of") : the chapters,
+/// and at each place the title, and where the steps back, on and again lead.
 TEST(ChaptersTest, StepsLeadFromOneToTheNext) {
-    const Chapters film = Chapters::parse(kThree);
-    const std::vector<Chapter> expected{
-        {0, u"Co budete potřebovat"_s}, {9170, u"První bok"_s}, {32500, u"Druhý bok"_s}};
-    ASSERT_EQ(film.all(), expected);
-    EXPECT_EQ(film.titleAt(9169), expected[0].title);
-    EXPECT_EQ(film.titleAt(9170), expected[1].title) << "a chapter begins where it says";
-    EXPECT_EQ(film.titleAt(90000), expected[2].title);
-
-    EXPECT_EQ(film.next(0, 60000), 9170);
-    EXPECT_EQ(film.next(9170, 60000), 32500);
-    EXPECT_EQ(film.next(40000, 60000), 60000);
-    EXPECT_EQ(film.next(9170, 20000), 20000) << "never past the film's end";
-    EXPECT_EQ(film.previous(40000), 9170);
-    EXPECT_EQ(film.previous(9170), 0);
-    EXPECT_EQ(film.previous(0), 0);
-
-    EXPECT_EQ(film.again(31000), 9170) << "what is on";
-    EXPECT_EQ(film.again(33000), 9170) << "what was just over";
-    EXPECT_EQ(film.again(60000), 32500) << "at the end, the last one";
-    EXPECT_EQ(film.again(500), 0);
-}
-
-TEST(ChaptersTest, WithoutThemAFilmIsOnePart) {
-    const Chapters film;
-    EXPECT_EQ(film.titleAt(5000), QString());
-    EXPECT_EQ(film.next(5000, 60000), 60000);
-    EXPECT_EQ(film.previous(5000), 0);
-    EXPECT_EQ(film.again(5000), 0);
-    const Chapters late = Chapters::parse("5\tPozdě\n");
-    EXPECT_EQ(late.titleAt(4000), QString());
-    EXPECT_EQ(late.next(0, 60000), 5000);
-    EXPECT_EQ(late.again(4000), 0);
-}
-
-TEST(ChaptersTest, DamagedOnesAreNone) {
-    for (const char* text : {"9.17 První\n", "9,17\tPrvní\n", "\tPrvní\n", "-1\tPrvní\n", "nan\tPrvní\n",
-                             "inf\tPrvní\n", "1e308\tPrvní\n", "1\t \n", "5\tDruhý\n4\tPrvní\n",
-                             "5\tPrvní\n5\tDruhý\n", "5\tPrvn\xED\n", "1\tPrvní\n\x01\x02\n"})
+    test::expectCases(u"kapitoly"_s, [](const QString& text) {
+        const Chapters film = Chapters::parse(text.section(u" / "_s, 0, 0).toUtf8());
+        QStringList all;
+        for (const Chapter& one : film.all()) all << u"%1 %2"_s.arg(one.start).arg(one.title);
+        for (const QString& place : text.section(u" / "_s, 1).split(u' ', Qt::SkipEmptyParts)) {
+            const qint64 at = place.section(u"of"_s, 0, 0).toInt(),
+                         length = place.section(u"of"_s, 1).toInt();
+            all << u"@%1 %2: %3 %4 %5"_s.arg(at)
+                       .arg(film.titleAt(at))
+                       .arg(film.previous(at))
+                       .arg(film.next(at, length))
+                       .arg(film.again(at));
+        }
+        return all.join(u", "_s);
+    });
+    for (const char* text : {"5\tPrvn\xED\n", "1\tPrvní\n\x01\x02\n", ""})
         EXPECT_TRUE(Chapters::parse(text).isEmpty()) << text;
-    EXPECT_TRUE(Chapters::parse({}).isEmpty());
 }
 
 TEST(ChaptersTest, AFileThatIsNoneIsNoChapters) {

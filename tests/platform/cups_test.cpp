@@ -83,11 +83,8 @@ class PrintServer {
         for (const char* log : {"ErrorLog", "AccessLog", "PageLog"})
             places += QLatin1String(log) + u' ' + path(log) + u'\n';
         write("cups-files.conf", places);
-        write("cupsd.conf",
-              u"Listen "_s + socket() +
-                  u"\nBrowsing Off\nWebInterface No\nDefaultAuthType None\n"
-                  "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
-                  "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_s);
+        const QByteArray rights = test::bytesOf(QString::fromUtf8(test::kFolder) + u"/cupsd.conf"_s);
+        write("cupsd.conf", u"Listen "_s + socket() + u'\n' + QString::fromUtf8(rights));
     }
 
     QTemporaryDir folder_;

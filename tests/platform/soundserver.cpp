@@ -25,6 +25,16 @@ QStringList words(const char* arguments) {
     return QString::fromLatin1(arguments).split(u' ');
 }
 
+/// A tone of \a hertz in \a count samples from \a first on: how strong it is and where its wave stands.
+std::complex<double> waveIn(const std::vector<qint16>& samples, std::size_t first, std::size_t count,
+                            double hertz) {
+    std::complex<double> wave;
+    for (std::size_t i = first; i < first + count; ++i)
+        wave +=
+            std::polar<double>(samples[i], -2 * std::numbers::pi * hertz * static_cast<double>(i) / 44100);
+    return wave;
+}
+
 bool sounds(qint16 sample) {
     return std::abs(sample) > threshold;
 }
@@ -72,10 +82,7 @@ double Recording::longestShift(double hertz) const {
     std::complex<double> first;
     double longest = 0;
     for (std::size_t start = 0; start + window <= inner.size(); start += window) {
-        std::complex<double> wave;
-        for (std::size_t i = start; i < start + window; ++i)
-            wave +=
-                std::polar<double>(inner[i], -2 * std::numbers::pi * hertz * static_cast<double>(i) / 44100);
+        const std::complex<double> wave = waveIn(inner, start, window, hertz);
         if (start == 0) first = wave;
         longest = std::max(longest, std::abs(std::arg(wave / first)));
     }
@@ -87,13 +94,8 @@ double Recording::share(double hertz) const {
     double tone = 0;
     double energy = 0;
     for (std::size_t start = 0; start + window <= samples_.size(); start += window) {
-        std::complex<double> wave;
-        for (std::size_t i = start; i < start + window; ++i) {
-            const double sample = samples_[i];
-            wave += std::polar(sample, 2 * std::numbers::pi * hertz * static_cast<double>(i) / 44100);
-            energy += sample * sample;
-        }
-        tone += 2 * std::norm(wave) / window;
+        for (std::size_t i = start; i < start + window; ++i) energy += double(samples_[i]) * samples_[i];
+        tone += 2 * std::norm(waveIn(samples_, start, window, hertz)) / window;
     }
     return energy > 0 ? tone / energy : 0;
 }

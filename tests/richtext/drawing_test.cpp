@@ -42,26 +42,17 @@ class PaperSurface : public Surface {
     QColor color_;
 };
 
+/// What is drawn, and where the next text would be. At the word "stop" it is abandoned; the next one starts
+/// afresh.
 TEST(ZobrazRtf, DrawsFromTheCurrentPositionOn) {
-    PaperSurface surface;
     basZobrazRtfSarne bas;
-    bas.ZobrazRtf(surface, u"{\\rtf1{\\colortbl;\\red9;}\\plain\\cf1 Kapr s *7jalovcem* i pivem\\par}"_s);
-    const QString red = QColor(9, 0, 0).name(), link = linkColor(LinkKind::Keyword).name();
-    EXPECT_EQ(surface.drawn,
-              (QStringList{u"100,1240 Kapr "_s + red, u"786,1240 s "_s + red, u"1113,1240 jalovcem "_s + link,
-                           u"2280,1240 i "_s + red, u"100,1540 pivem "_s + red}));
-    EXPECT_EQ(QPoint(surface.currentX(), surface.currentY()), QPoint(100, 1600));
-    EXPECT_EQ(bas.layout().linkAt({1500, 1100}), 0);
-}
-
-TEST(ZobrazRtf, DrawsNothingOfBlanks) {
-    PaperSurface surface;
-    for (const char16_t* text :
-         {u"", u"   ", u" \r\n ", u"{\\rtf1\\ansi\\plain   }", u"{\\rtf1{\\fonttbl{\\f0 A"}) {
-        ZobrazRtf(surface, QString::fromUtf16(text));
-    }
-    EXPECT_TRUE(surface.drawn.isEmpty());
-    EXPECT_EQ(surface.currentY(), 1000);
+    test::expectCases(u"kresba"_s, [&](const QString& text) {
+        PaperSurface surface;
+        surface.bas = &bas;
+        bas.ZobrazRtf(surface, text);
+        surface.drawn << u"%1,%2"_s.arg(surface.currentX()).arg(surface.currentY());
+        return surface.drawn.join(u" | "_s);
+    });
 }
 
 TEST(ZobrazRtf, LeavesPaintingToASurfaceThatKeepsTexts) {
@@ -81,17 +72,6 @@ TEST(ZobrazRtf, LeavesPaintingToASurfaceThatKeepsTexts) {
     EXPECT_GT(surface.metrics.measured, 0);
     EXPECT_TRUE(surface.drawn.isEmpty());
     EXPECT_EQ(surface.currentY(), 1600);
-}
-
-TEST(ZobrazRtf, CanBeAbandoned) {
-    PaperSurface surface;
-    basZobrazRtfSarne bas;
-    surface.bas = &bas;
-    bas.ZobrazRtf(surface, u"a stop b\nc"_s);
-    EXPECT_EQ(surface.drawn.size(), 2);
-    surface.drawn.clear();
-    bas.ZobrazRtf(surface, u"d e"_s);  // the next one starts afresh
-    EXPECT_EQ(surface.drawn.size(), 2);
 }
 
 TEST(DrawLine, PlacesOneLineAnywhere) {
