@@ -2,40 +2,91 @@
 
 #include "forms/colors.h"
 #include "mediafixture.h"
+#include "support/acts.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
 
 class VideoTest : public MediaFixture {
+  public:
+    /// What comes of \a way: after each word what it has changed of the screens, the film's title,
+    /// the tip of its sound and whether it sounds; and what the film's player and the user were told. Words
+    /// are as test::perform() takes them, or one of those below.
+    QString told(const QString& way) {
+        SetUp();
+        for (const char* row : {"('181', 'Jak rybu obalit', '13')", "('182', 'Jak vykrojit filety', '3')",
+                                "('53', 'Pečeně', '3')"})
+            run.database.Execute(u"INSERT INTO Menu VALUES "_s + QLatin1String(row));
+        QStringList all, before(5);
+        for (const QString& word : way.split(u' ')) {
+            if (!perform(word)) test::perform(run, word);
+            QStringList changed, forms;
+            const auto hear = [&] {
+                changed += player ? std::exchange(player->commands, {}) : QStringList();
+            };
+            hear();
+            QTest::qWait(word == u"Escape" ? 40 : 0);  // until what was begun would open
+            hear();
+            const Form* front = test::front(run);
+            const auto* title = front->findChild<Label*>(u"lblNazev"_s);
+            const auto* sound = front->findChild<Button*>(u"ImgTlacitko(0)"_s);
+            for (const Form* one : run.window.forms()) forms << one->name();
+            const QStringList now{forms.join(u'+'),
+                                  title ? title->text() + u'=' + front->accessibleName() : QString(),
+                                  sound ? sound->toolTip() : QString(),
+                                  player && player->sound == MediaSound::Silent ? u"silent"_s : u"sounds"_s,
+                                  player && player->wait == MediaWait::Wait ? u"waits"_s : u"goes on"_s};
+            changed += std::exchange(run.announced, {}) + std::exchange(run.messages, {});
+            for (qsizetype i = 0; i < now.size(); ++i)
+                if (now[i] != before[i]) changed << now[i];
+            before = now;
+            all << changed.join(u", "_s).remove(disc.path()).remove(run.MediaRoot);
+        }
+        return all.join(u" / "_s);
+    }
+
   protected:
-    void open(int number = 3) {
-        auto made = std::make_unique<FakeMultimedia>();
+    void open(int number = 3, bool hasPlayer = true) {
+        auto made = hasPlayer ? std::make_unique<FakeMultimedia>() : nullptr;
         player = made.get();
-        player->failing = failing;
+        if (player) player->failing = failing;
         form = new frmVideo(run, std::move(made));
         form->Zobraz(std::int16_t(number));
     }
     void start() { form->findChild<Timer*>()->fire(); }
-    Button* button(int i) { return form->findChild<Button*>(u"ImgTlacitko(%1)"_s.arg(i)); }
-    void click(int i) { QTest::mouseClick(button(i), Qt::LeftButton); }
     QString status() { return child<Label>(*form, "Label1")->text(); }
 
     QHash<QString, MediaError> failing;
-    FakeMultimedia* player = nullptr;
+    QPointer<FakeMultimedia> player;
     frmVideo* form = nullptr;
+
+  private:
+    void TestBody() override {}
+    bool perform(const QString& word) {
+        const QString verb = word.section(u':', 0, 0), what = word.section(u':', 1);
+        if (verb == u"open")
+            open(what.toInt());
+        else if (verb == u"openwithout")
+            open(what.toInt(), false);
+        else if (verb == u"start")
+            start();
+        else if (verb == u"fails")
+            failing = {{what, MediaError::InvalidFile}};
+        else if (verb == u"breaks")
+            player->lastCode = MediaError::InvalidFile, player->breakOff(MediaDone::Failed);
+        else if (verb == u"show")
+            run.ShowMode = true;
+        else if (verb == u"settings")
+            run.openAbove("frmNastavHudbu")->place({3000, 2100, 6000, 4800});
+        else
+            return false;
+        return true;
+    }
 };
 
-TEST_F(VideoTest, TheTitleStandsThereAsTheMenuHasIt) {
-    for (const char* row :
-         {"('181', 'Jak rybu obalit', '13')", "('182', 'Jak vykrojit filety', '3')", "('53', 'Pečeně', '3')"})
-        run.database.Execute(u"INSERT INTO Menu VALUES "_s + QLatin1String(row));
-    open(3);
-    EXPECT_EQ(child<Label>(*form, "lblNazev")->text(), u"Jak vykrojit filety"_s);
-    EXPECT_EQ(form->accessibleName(), u"Jak vykrojit filety"_s);
-    EXPECT_TRUE(run.announced.contains(u"Film: Jak vykrojit filety"_s));
-    press(Qt::Key_Escape);
-    open(4);
-    EXPECT_EQ(child<Label>(*form, "lblNazev")->text(), QString()) << "a film that no menu knows";
+TEST(FilmTest, DoesWhatItsKeysAndItsPlayerSay) {
+    test::expectCases(u"film"_s, [](const QString& way) { return VideoTest().told(way); });
 }
 
 TEST_F(VideoTest, TheKnobStaysWithinTheBar) {
@@ -77,70 +128,6 @@ TEST_F(VideoTest, MarksLeadToTheirChapters) {
     EXPECT_EQ(player->position(), 10500) << "a mark leads to its chapter's beginning";
     QTest::mouseClick(bar, Qt::RightButton, {}, {bar->width() / 4, bar->height() / 2});
     EXPECT_EQ(player->position(), 10500) << "the right button is no seek";
-}
-
-TEST_F(VideoTest, SoundIsKeptForTheNextClip) {
-    open();
-    EXPECT_EQ(button(0)->toolTip(), u"Vypnout zvuk"_s);
-    start();
-    EXPECT_EQ(player->sound, MediaSound::On);
-    click(0);
-    EXPECT_EQ(player->sound, MediaSound::Silent);
-    EXPECT_EQ(button(0)->toolTip(), u"Zapnout zvuk"_s);
-    press(Qt::Key_Escape);
-    EXPECT_EQ(player->commands.mid(player->commands.size() - 2), (QStringList{u"stop"_s, u"close"_s}));
-    open();
-    start();
-    EXPECT_EQ(player->sound, MediaSound::Silent);
-    press(Qt::Key_Escape);
-    run.ShowMode = true;
-    open();
-    start();
-    EXPECT_EQ(player->sound, MediaSound::On) << "the show mode turns it on";
-}
-
-TEST_F(VideoTest, WhatCannotBePlayedIsReportedAndTheScreenCloses) {
-    for (const char* command : {"open", "play"}) {
-        failing = {{QString::fromUtf8(command), MediaError::InvalidFile}};
-        run.messages.clear();
-        open();
-        start();
-        EXPECT_EQ(run.messages, QStringList{u"16: "_s + mediaErrorText(MediaError::InvalidFile)});
-        EXPECT_EQ(run.FormStack.top(), below);
-    }
-    failing.clear();
-    run.messages.clear();
-    open(99);
-    start();
-    EXPECT_EQ(player->commands.value(0), u"open "_s + run.MediaRoot + u"VIDEO\\99.AVI"_s)
-        << "the player says that there is no such file";
-    EXPECT_EQ(player->wait, MediaWait::DontWait);
-    player->lastCode = MediaError::InvalidFile;
-    player->breakOff(MediaDone::Failed);
-    EXPECT_EQ(run.messages.size(), 1) << "also when that turns out later";
-    EXPECT_EQ(run.FormStack.top(), below);
-    form = new frmVideo(run, nullptr);
-    form->Zobraz(99);
-    start();
-    EXPECT_EQ(run.FormStack.top(), below) << "no player, no video";
-}
-
-TEST_F(VideoTest, LeavingBeforeTheFileIsOpenOpensNothing) {
-    open();
-    press(Qt::Key_Escape);
-    QTest::qWait(40);
-    EXPECT_EQ(run.FormStack.top(), below);
-}
-
-TEST_F(VideoTest, SettingsOverAVideoKeepTheKeyboard) {
-    open();
-    start();
-    Form* settings = run.openAbove("frmNastavHudbu");
-    settings->place({3000, 2100, 6000, 4800});
-    QTest::mouseClick(form, Qt::LeftButton, {}, {5, 5});
-    EXPECT_EQ(run.window.focusForm(), settings) << "what shows of the video hands the keyboard on";
-    press(Qt::Key_Escape);
-    EXPECT_TRUE(form->isLoaded());
 }
 
 }  // namespace
