@@ -163,7 +163,7 @@ bool FocusRing::keyDown(const QKeyEvent& event) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
-            return event.isAutoRepeat() || press();  // a key that is held presses once
+            return press();
         default:
             return false;
     }

@@ -9,6 +9,7 @@
 #include "forms/bassarne.h"
 #include "forms/control.h"
 #include "forms/focusframe.h"
+#include "forms/keys.h"
 #include "forms/readaloud.h"
 #include "forms/resources.h"
 #include "forms/screens.h"
@@ -221,6 +222,7 @@ bool Form::sharedKey(const QKeyEvent& event) {
 void Form::keyPressEvent(QKeyEvent* event) {
     // Keys end here: what lies below a form gets none of its keys.
     event->accept();
+    if (event->isAutoRepeat() && !goesOn(*event)) return;
     if (event->key() == Qt::Key_Tab && event->modifiers() & Qt::ShiftModifier) {
         // Some platforms tell Shift+Tab so, others as a key of its own.
         QKeyEvent back(event->type(), Qt::Key_Backtab, event->modifiers(), event->text(),

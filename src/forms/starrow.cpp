@@ -63,7 +63,7 @@ bool StarRow::keyDown(const QKeyEvent& event) {
         return true;
     }
     const bool press = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
-    if (press && !event.isAutoRepeat()) give((stars_ + 1) % (kStars + 1));
+    if (press) give((stars_ + 1) % (kStars + 1));
     return press;
 }
 

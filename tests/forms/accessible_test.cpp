@@ -1,7 +1,4 @@
 #include <gtest/gtest.h>
-#include <private/qguiapplication_p.h>
-#include <qpa/qplatformaccessibility.h>
-#include <qpa/qplatformintegration.h>
 #include <QAccessible>
 
 #include "forms/button.h"
@@ -13,6 +10,7 @@
 #include "forms/readabletext.h"
 #include "forms/starrow.h"
 #include "forms/textview.h"
+#include "support/acts.h"
 #include "support/fakesarne.h"
 #include "support/kept.h"
 
@@ -244,14 +242,10 @@ class Listener {
     Listener() { QAccessible::installUpdateHandler(&hear); }
     ~Listener() {
         QAccessible::installUpdateHandler(nullptr);
-        setActive(false);
+        test::setReader(false);
     }
     Listener(const Listener&) = delete;
     Listener& operator=(const Listener&) = delete;
-    /// Whether it listens; without a display nobody does.
-    static void setActive(bool active) {
-        QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(active);
-    }
     static inline QStringList told;
 
   private:
@@ -280,7 +274,7 @@ TEST(Accessible, AReaderIsToldWhatChangesAndWhereTheUserIs) {
     view.drawRichText(u"{\\rtf1\\plain Kapra *12osolit*}"_s);
     form.showForm();
     Listener reader;
-    Listener::setActive(true);
+    test::setReader(true);
     Listener::told.clear();
     const auto after = [](const char* what) { Listener::told << QLatin1String(what); };
     box.setChecked(true);
@@ -316,7 +310,7 @@ TEST(Accessible, KeysGoThroughATextByLineWordAndPhrase) {
         for (const QString& word : keys.split(u' ')) {
             const bool isHeard = word.startsWith(u'!');
             const QKeyCombination key = QKeySequence(isHeard ? word.sliced(1) : word)[0];
-            Listener::setActive(isHeard);
+            test::setReader(isHeard);
             if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab)
                 done << (view.stepInside(key.key() == Qt::Key_Tab ? 1 : -1) ? u"step"_s : u"out"_s);
             else if (!view.keyDown(QKeyEvent(QEvent::KeyPress, key.key(), key.keyboardModifiers())))

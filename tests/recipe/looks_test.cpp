@@ -81,6 +81,10 @@ TEST(Looks, InUse) {
         {"sekce-niceho", -7, 0,
          "click:imgBtn(1) click:imgBtn(2) click:imgBtn(4) click:imgBtn(5) click:imgBtn(6) click:imgBtn(7) "
          "type:x click:imgBtn(3)"},
+        {"sekce-cteckou", 5, 0,
+         "reader click:imgBtn(1) Down Right Tab click:imgBtn(2) click:imgBtn(3) Tab click:imgBtn(5) "
+         "click:imgBtn(7) "
+         "click:imgBtn(0)"},
         {"text-klavesami", 5, 1,
          "Tab Tab Tab Tab Tab Tab Shift+Tab Shift+Tab Left Shift+Tab Shift+Tab Return over pop"},
         {"text-mysi", 5, 1, "click:picRecept.0 click:picRecept.1 over pop click:picRecept.2"},

@@ -1,6 +1,9 @@
 #include "support/acts.h"
 
 #include <gtest/gtest.h>
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -133,6 +136,10 @@ QStringList outOfReach(const FakeSarne& run) {
     return names;
 }
 
+void setReader(bool listens) {
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listens);
+}
+
 void perform(FakeSarne& run, const QString& word) {
     const QString verb = word.section(u':', 0, 0), what = word.section(u':', 1);
     if (verb == u"wheel")
@@ -151,6 +158,12 @@ void perform(FakeSarne& run, const QString& word) {
         tick(run);
     else if (verb == u"letters")
         run.window.eyes().setTextPercent(what.toInt());
+    else if (verb == u"held") {
+        const bool space = what == u"Space";
+        QKeyEvent again(QEvent::KeyPress, QKeySequence(what)[0].key(), {}, space ? u" "_s : u"\r"_s, true);
+        QApplication::sendEvent(run.window.focusWidget() ? run.window.focusWidget() : front(run), &again);
+    } else if (verb == u"reader")
+        setReader(true);
     else if (verb == u"lowest")
         showing(run).back()->setFocus();
     else if (verb == u"over")

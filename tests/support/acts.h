@@ -26,13 +26,18 @@ QStringList pressables(const FakeSarne& run);
 /// Those of them to which the arrows do not lead from where the keyboard is.
 QStringList outOfReach(const FakeSarne& run);
 
+/// Whether a screen reader listens, which without a display none does.
+void setReader(bool listens);
+
 /// Does what \a word says: a key ("Down", "Shift+Tab"), or a verb with what it is about.
 ///   click:NAME double:NAME hover:NAME  the mouse in the middle of a control of the form that is highest up,
 ///                                      or of its part ("picText.2"); "^NAME" is of the one below, "300,580"
 ///                                      are pixels of the stage
 ///   wheel:NAME  the wheel over a control of the form in front, a notch down
 ///   press:NAME.2  a screen reader presses that part
+///   reader      a screen reader listens from now on
 ///   type:letters
+///   held:Space  one more time by a key that is held down
 ///   answer:7    what the next question is answered
 ///   wait:5000   milliseconds of the clock
 ///   tick        every timer that runs

@@ -263,6 +263,7 @@ class Explorer {
                 before = after;
             }
         });
+        setReader(false);
         return lines;
     }
 

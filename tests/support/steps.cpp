@@ -77,6 +77,10 @@ std::vector<Step> stepsOn(const FakeSarne& run) {
                              pressKey(on, Qt::Key_Return);
                          },
                          true});
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space})
+        steps.push_back({u"held "_s + QKeySequence(key).toString(),
+                         [=](FakeSarne& on) { perform(on, u"held:"_s + QKeySequence(key).toString()); },
+                         true});
     for (const auto& [key, with] : {std::pair(Qt::Key_F4, Qt::AltModifier),
                                     {Qt::Key_Z, Qt::ControlModifier},
                                     {Qt::Key_C, Qt::ControlModifier}})

@@ -204,7 +204,7 @@ bool frmFotoBig::keyDown(QKeyEvent& event) {
             clickIn(Zone::Down);
             return true;
         case Qt::Key_Space:
-            if (!event.isAutoRepeat()) setSlideShow(!tmrPosun.isEnabled());
+            setSlideShow(!tmrPosun.isEnabled());
             return true;
         case Qt::Key_Escape:
             goBack();

@@ -254,7 +254,7 @@ bool frmKucharka::keyDown(QKeyEvent& event) {
     const bool digit = event.key() >= Qt::Key_0 && event.key() <= Qt::Key_5;
     if (digit && ring().isAt(&rows_) && chosen() && stars_.keyDown(event)) return true;
     if (event.key() == Qt::Key_Space && ring().isAt(&rows_)) {
-        if (!event.isAutoRepeat()) openRecipe();
+        openRecipe();
         return true;
     }
     return listKey(rows_, event, [this] { openRecipe(); }) || Form::keyDown(event);

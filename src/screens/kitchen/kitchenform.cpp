@@ -113,7 +113,6 @@ bool KitchenForm::listKey(TickList& list, const QKeyEvent& event, const std::fun
     if (!ring().isAt(&list)) return false;
     const int before = list.selected();
     if (isEnter(event)) {
-        if (event.isAutoRepeat()) return true;
         if (enter)
             enter();
         else if (before == RowPaging::kNone)

@@ -165,7 +165,7 @@ void TickList::changed(bool something) {
 bool TickList::keyDown(const QKeyEvent& event) {
     if (moveInList(*this, event.key())) return true;
     if (event.key() != Qt::Key_Space) return false;
-    if (!event.isAutoRepeat() && selected() != RowPaging::kNone) Q_EMIT used(selected());
+    if (selected() != RowPaging::kNone) Q_EMIT used(selected());
     return true;
 }
 

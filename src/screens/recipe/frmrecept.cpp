@@ -296,7 +296,7 @@ bool frmRecept::viewKey(const QKeyEvent& event) {
     if (!ring().isAt(view_)) return view_->pageKey(event);
     if (view_->keyDown(event)) return true;
     const bool press = isEnter(event) || event.key() == Qt::Key_Space;
-    if (press && !event.isAutoRepeat()) view_->click();
+    if (press) view_->click();
     return press;
 }
 

@@ -54,7 +54,6 @@ std::vector<FocusGroup> NotePanel::stops() const {
 
 void NotePanel::close(OwnNote::Close how) {
     note_.close(how, editor_->text());
-    editor_->setText({});
     setVisible(false);
 }
 
