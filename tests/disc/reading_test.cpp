@@ -64,16 +64,16 @@ TEST_F(ReadingTest, TagsComeFromCourseWineTimeAndAuxiliaryRecipes) {
 
 TEST_F(ReadingTest, MenuListsFollowTheirTags) {
     Cookbook book = load();
-    for (const int id : {7, 10, 14}) {
-        Recipe recipe = book.recipes[6];
+    const std::tuple<int, QString, QSet<QString>> others[] = {
+        {7, u"Čirá polévka"_s, {u"kapr"_s, u"pečené"_s}},
+        {10, u"Chlebíčky"_s, {u"pstruh"_s}},
+        {14, u"Candát"_s, {u"kapr"_s}}};
+    for (const auto& [id, name, tags] : others) {
+        Recipe& recipe = book.recipes[id] = book.recipes[6];
         recipe.id = id;
-        book.recipes.insert(id, recipe);
+        recipe.name = name;
+        recipe.tags = tags;
     }
-    book.recipes[7].name = u"Čirá polévka"_s;
-    book.recipes[10].name = u"Chlebíčky"_s;
-    book.recipes[14].name = u"Candát"_s;
-    book.recipes[7].tags = {u"kapr"_s, u"pečené"_s};
-    book.recipes[14].tags = {u"kapr"_s};
     MenuTopic topic{{}, 6, u"Výběr"_s, {}};
     const auto item = [&](const char* target) {
         topic.items << MenuNode{{}, u"Položka"_s, QString::fromUtf8(target), {}};

@@ -230,28 +230,22 @@ TEST_F(SpeakingVoices, TellWhatTheyCannotSay) {
 /// The whole stage on the content that ships, with the names of two recipes.
 TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
     const QTemporaryDir folder;
+    const auto in = [&](const char* file) { return folder.filePath(QString::fromUtf8(file)); };
+    const QString content = QStringLiteral(SARNE_CONTENT);
     Problems problems;
     Cookbook book;
     for (const int id : {1, 16}) book.recipes[id].id = id;
     book.recipes[1].name = u"Kapr na kmíně"_s;
     book.recipes[16].name = u"Vánoční rybí polévka"_s;
     const auto run = [&] {
-        Ledger ledger(folder.filePath(u"ledger"_s));
-        Workshop shop{book,
-                      QStringLiteral(SARNE_CONTENT),
-                      {},
-                      {},
-                      folder.filePath(u"disc"_s),
-                      folder.filePath(u"scratch"_s),
-                      ledger,
-                      problems,
-                      DiscKind::Compact};
+        Ledger ledger(in("ledger"));
+        Workshop shop{book, content, {}, {}, in("disc"), in("scratch"), ledger, problems, DiscKind::Compact};
         makeSounds(shop);
     };
     run();
     ASSERT_EQ(problems.errors(), QStringList());
-    const QString music = folder.filePath(u"scratch/disk/HUDBA.WAV"_s);
-    const QString wine = folder.filePath(u"scratch/disk/zvuky/Vina.WAV"_s);
+    const QString music = in("scratch/disk/HUDBA.WAV");
+    const QString wine = in("scratch/disk/zvuky/Vina.WAV");
     for (const auto& [file, shortest, longest] : {std::tuple{music, 360, 480}, std::tuple{wine, 180, 240}}) {
         const Sound sound = readWav(file);
         EXPECT_GE(sound.seconds(), shortest);
@@ -260,9 +254,9 @@ TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
         EXPECT_LT(peakOf(sound), fromDecibels(-3));
         expectSeamless(sound);
     }
-    EXPECT_EQ(readWav(folder.filePath(u"scratch/zvuky/121.wav"_s)).channels, 1);
-    const Sound one = readWav(folder.filePath(u"scratch/disk/zvuky/č1.wav"_s));
-    const Sound other = readWav(folder.filePath(u"scratch/disk/zvuky/č16.wav"_s));
+    EXPECT_EQ(readWav(in("scratch/zvuky/121.wav")).channels, 1);
+    const Sound one = readWav(in("scratch/disk/zvuky/č1.wav"));
+    const Sound other = readWav(in("scratch/disk/zvuky/č16.wav"));
     EXPECT_GT(one.seconds(), 0.7);
     EXPECT_GT(other.seconds(), one.seconds());
 
@@ -272,10 +266,10 @@ TEST(MakeSounds, MakesMusicEffectsAndNamesOnce) {
                                                      {"zvuky/č1.ogg", one.seconds()},
                                                      {"zvuky/č16.ogg", other.seconds()}};
     for (const auto& [name, seconds] : packed) {
-        const QString wave = folder.filePath(u"zpět.wav"_s);
+        const QString wave = in("zpět.wav");
         QFile::remove(wave);
-        test::output(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-i"_s,
-                                   folder.filePath(u"disc/"_s + QString::fromUtf8(name)), wave});
+        test::output(u"ffmpeg"_s,
+                     {u"-v"_s, u"error"_s, u"-i"_s, in("disc/") + QString::fromUtf8(name), wave});
         EXPECT_NEAR(readWav(wave).seconds(), seconds, 0.001) << name;
         EXPECT_GT(peakOf(readWav(wave)), 0.1) << name;
     }

@@ -114,29 +114,20 @@ class MakeVideos : public testing::Test {
         write("content/slovnik.txt", "\n");
         write("art/rendered/film/veci.txt", "ryba ryba.png 400 200 200 100 380 100\n");
         for (const char* picture : {"art/rendered/film/ryba.png", "art/rendered/pozadi/stranka.jpg"})
-            ASSERT_TRUE(test::write(folder_.filePath(QLatin1String(picture)),
-                                    test::plain({400, 200}, QColor(220, 160, 60))));
+            ASSERT_TRUE(test::write(in(picture), test::plain({400, 200}, QColor(220, 160, 60))));
         for (const QString& source : Voices::sources({}))
-            ASSERT_TRUE(
-                QFile::copy(QStringLiteral(SARNE_CONTENT) + source, folder_.filePath(u"content"_s) + source));
+            ASSERT_TRUE(QFile::copy(QStringLiteral(SARNE_CONTENT) + source, in("content") + source));
     }
 
+    QString in(const char* file) const { return folder_.filePath(QString::fromUtf8(file)); }
     void write(const char* file, const std::string& text) {
-        ASSERT_TRUE(test::write(folder_.filePath(QLatin1String(file)), text.c_str()));
+        ASSERT_TRUE(test::write(in(file), text.c_str()));
     }
 
     QStringList run(DiscKind kind = DiscKind::Full) {
         Problems problems(Edition::release);
-        Ledger ledger(folder_.filePath(u"ledger"_s));
-        Workshop shop{book_,
-                      folder_.filePath(u"content"_s),
-                      folder_.filePath(u"art"_s),
-                      {},
-                      folder_.filePath(u"disc"_s),
-                      folder_.filePath(u"scratch"_s),
-                      ledger,
-                      problems,
-                      kind};
+        Ledger ledger(in("ledger"));
+        Workshop shop{book_, in("content"), in("art"), {}, in("disc"), in("scratch"), ledger, problems, kind};
         makeVideos(shop);
         return problems.errors();
     }
@@ -146,7 +137,7 @@ class MakeVideos : public testing::Test {
         return test::output(program, QString::fromLatin1(options).split(u' ') + files).trimmed();
     }
 
-    QString film() const { return folder_.filePath(u"disc/VIDEO/UVOD.AVI"_s); }
+    QString film() const { return in("disc/VIDEO/UVOD.AVI"); }
 
     QTemporaryDir folder_;
     Cookbook book_;
@@ -159,8 +150,8 @@ TEST_F(MakeVideos, HavePictureSoundAndChaptersAndAreMadeOnce) {
     EXPECT_EQ(streams.section(u'\n', 0, 0).toStdString(), "mpeg4,800,600");
     EXPECT_TRUE(streams.section(u'\n', 1).startsWith(u"mp3,1"_s)) << streams.toStdString();
 
-    const QString wave = folder_.filePath(u"zvuk.wav"_s);
-    const QString picture = folder_.filePath(u"obraz.png"_s);
+    const QString wave = in("zvuk.wav");
+    const QString picture = in("obraz.png");
     output(u"ffmpeg"_s, "-v error -ss 2 -i", {film(), u"-frames:v"_s, u"1"_s, picture, wave});
     const Sound sound = readWav(wave);
     EXPECT_GT(peakOf(sound), 0.2);
@@ -171,8 +162,7 @@ TEST_F(MakeVideos, HavePictureSoundAndChaptersAndAreMadeOnce) {
     EXPECT_GT(qRed(frame.pixel(400, 230)), qBlue(frame.pixel(400, 230)) + 60);
     EXPECT_GT(qBlue(frame.pixel(60, 540)), 170);
 
-    EXPECT_EQ(test::bytesOf(folder_.filePath(u"disc/VIDEO/UVOD.KAP"_s)),
-              "0.00\tPrvní kapitola\n4.70\tDruhá kapitola\n");
+    EXPECT_EQ(test::bytesOf(in("disc/VIDEO/UVOD.KAP")), "0.00\tPrvní kapitola\n4.70\tDruhá kapitola\n");
 
     const QDateTime made = QFileInfo(film()).lastModified();
     ASSERT_EQ(run(), QStringList());
@@ -183,9 +173,9 @@ TEST_F(MakeVideos, OfTheCompactDiscAreThere) {
     ASSERT_EQ(run(DiscKind::Compact), QStringList());
     const QString streams = output(
         u"ffprobe"_s, "-v error -count_frames -show_entries stream=codec_name,nb_read_frames -of csv=p=0",
-        {folder_.filePath(u"disc/VIDEO/UVOD.mkv"_s)});
+        {in("disc/VIDEO/UVOD.mkv")});
     EXPECT_TRUE(streams.startsWith(u"h264,219\nopus,"_s)) << streams.toStdString();
-    EXPECT_TRUE(QFileInfo::exists(folder_.filePath(u"disc/VIDEO/UVOD.KAP"_s)));
+    EXPECT_TRUE(QFileInfo::exists(in("disc/VIDEO/UVOD.KAP")));
     EXPECT_FALSE(QFileInfo::exists(film()));
 }
 

@@ -25,17 +25,12 @@ struct Kitchen {
     Kitchen() { rest.recipes.clear(); }
 };
 
-bool write(const QString& name, const uint8_t* data, size_t size) {
-    QFile file(name);
-    return file.open(QIODevice::WriteOnly) &&
-           file.write(reinterpret_cast<const char*>(data), static_cast<qint64>(size)) >= 0;
-}
-
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static const Kitchen kitchen;
-    if (!write(kitchen.recipe, data, size)) std::abort();
+    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    if (!sarne::test::write(kitchen.recipe, bytes)) std::abort();
     Problems problems;
     Cookbook book = kitchen.rest;
     readRecipes(ContentFolder(kitchen.files.path(), problems), book, problems);

@@ -1,11 +1,11 @@
 // Any bytes as a photo's file and as a picture of the screens: no crash, no endless loop, no picture larger
 // than what it says.
-#include <QFile>
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include "forms/picture.h"
 #include "screens/browse/photofile.h"
+#include "support/files.h"
 
 using namespace sarne;
 
@@ -26,11 +26,8 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (large.width() > kMost || large.height() > kMost) return 0;
     if (qint64(large.width()) * large.height() > kSmall && qChecksum(bytes) % 16 != 0) return 0;
     picture.scaled({40, 30});
-    QFile file(folder.filePath(QStringLiteral("r1.bmp")));
-    if (!file.open(QIODevice::WriteOnly)) return 0;
-    file.write(bytes);
-    file.close();
-    readPhoto(file.fileName(), {40, 30});
+    const QString file = folder.filePath(QStringLiteral("r1.bmp"));
+    if (test::write(file, bytes)) readPhoto(file, {40, 30});
     return 0;
 }
 

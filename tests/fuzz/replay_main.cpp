@@ -3,26 +3,17 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "support/files.h"
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
-
-namespace {
-
-bool replay(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    const QByteArray bytes = file.readAll();
-    LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t*>(bytes.constData()),
-                           static_cast<size_t>(bytes.size()));
-    return true;
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
     int replayed = 0;
     for (int i = 1; i < argc; ++i) {
-        QDirIterator files(QString::fromLocal8Bit(argv[i]), QDir::Files);
-        while (files.hasNext()) replayed += replay(files.next());
+        for (QDirIterator files(QString::fromLocal8Bit(argv[i]), QDir::Files); files.hasNext(); ++replayed) {
+            const QByteArray bytes = sarne::test::bytesOf(files.next());
+            LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t*>(bytes.constData()), size_t(bytes.size()));
+        }
     }
     std::printf("%d inputs replayed\n", replayed);
     return replayed > 0 ? 0 : 1;

@@ -162,10 +162,8 @@ bool SoundServer::pullDevice() {
 }
 
 bool SoundServer::plugDevice() {
-    QProcess command;
-    command.setStandardOutputFile(QProcess::nullDevice());
-    command.start(u"pactl"_s, words("load-module module-null-sink sink_name=nahravka"));
-    if (!command.waitForFinished() || command.exitCode() != 0) return false;
+    const QString load = u"pactl load-module module-null-sink sink_name=nahravka >/dev/null"_s;
+    if (QProcess::execute(u"sh"_s, {u"-c"_s, load}) != 0) return false;
     recorder_.kill();
     recorder_.waitForFinished();
     rewind();

@@ -18,15 +18,14 @@ using test::FrmPrintTest;
 using test::str;
 
 TEST_F(FrmPrintTest, OpensForFourOrTheMostThatCanBe) {
-    open({1});
-    EXPECT_EQ(control<Edit>("Text1")->text(), u"4"_s);
-    control("Command2")->click();
-    open({1}, {99});
-    EXPECT_TRUE(run.messages.isEmpty());
-    control("Command2")->click();
-    open({1}, {150});
+    const std::pair<Serving, QString> all[] = {{{}, u"4"_s}, {{99}, u"99"_s}, {{150}, u"99"_s}};
+    for (const auto& [serving, portions] : all) {
+        EXPECT_EQ(run.messages, QStringList());
+        open({1}, serving);
+        EXPECT_EQ(control<Edit>("Text1")->text(), portions);
+        control("Command2")->click();
+    }
     EXPECT_EQ(run.messages, QStringList{u"48: Musí být zadáno celé číslo od 1 do 99!"_s});
-    EXPECT_EQ(control<Edit>("Text1")->text(), u"99"_s);
 }
 
 /// A screen whose note is being written.

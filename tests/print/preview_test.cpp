@@ -83,23 +83,12 @@ TEST_F(FrmPrintTest, EveryChangeShowsInThePreviewAtOnce) {
     }
 }
 
-/// Whether anything on the paper has a colour.
-bool isColoured(PageSheet& sheet) {
-    const QImage image = sheet.grab().toImage();
-    for (int y = 20; y < image.height() - 20; ++y) {
-        for (int x = 20; x < image.width() - 20; ++x) {
-            const QColor color = image.pixelColor(x, y);
-            if (color.red() != color.green() || color.green() != color.blue()) return true;
-        }
-    }
-    return false;
-}
-
 TEST_F(FrmPrintTest, WithoutColourThePagesAreGrey) {
     for (const bool colour : {true, false}) {
         printer.use({{}, Paper::A4, 1, false, colour});
         open({1});
-        EXPECT_EQ(isColoured(*control<PageSheet>("picStrana")), colour);
+        const QImage sheet = control<PageSheet>("picStrana")->grab().toImage();
+        EXPECT_NE(sheet.copy(sheet.rect().adjusted(20, 20, -20, -20)).allGray(), colour);
         control("Command2")->click();
     }
 }
