@@ -146,22 +146,17 @@ TEST_F(InstallationTest, ACopyIsOnTheDiskBeforeItsNameAndItsNameBeforeItsMark) {
 }
 
 TEST_F(InstallationTest, AnotherEditionIsOneOfAnotherNumberOrDigest) {
-    const struct {
-        const char* name;
-        const char* facts;
-        const char* shown;
-    } editions[] = {
+    const char* const editions[][3] = {
         {"'Kapr'", "INSERT INTO Kniha VALUES (1,'Vydani','1'),(2,'Otisk','a')", "Kapr"},
         {"'Lín'", "INSERT INTO Kniha VALUES (1,'Vydani','2'),(2,'Otisk','a')", "Lín"},
         {"'Sum'", "INSERT INTO Kniha VALUES (1,'Vydani','2'),(2,'Otisk','b')", "Sum"},
-        {"'Úhoř'", "INSERT INTO Kniha VALUES (1,'Vydani','2'),(2,'Otisk','b')", "Sum"},
-    };
-    for (const auto& edition : editions) {
+        {"'Úhoř'", "INSERT INTO Kniha VALUES (1,'Vydani','2'),(2,'Otisk','b')", "Sum"}};
+    for (const auto& [name, facts, shown] : editions) {
         chmod(qPrintable(folder.filePath(u"program"_s)), 0755);
-        ship(edition.name, edition.facts);
+        ship(name, facts);
         protectProgramFolder();
         start();
-        EXPECT_EQ(read(own, "Recepty", "Nazev"), QString::fromUtf8(edition.shown));
+        EXPECT_EQ(read(own, "Recepty", "Nazev"), QString::fromUtf8(shown));
     }
 }
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QPainter>
 #include <QTemporaryDir>
 
 #include "disc/commands/ask.h"
@@ -14,6 +15,14 @@
 
 namespace sarne::disc {
 namespace {
+
+/// The disc in \a folder, which takes nothing from a finished one.
+Project projectOf(const QString& folder) {
+    Project made = projectIn(folder);
+    made.base.clear();
+    made.rcc = QStringLiteral(SARNE_RCC);
+    return made;
+}
 
 /// An author's disc, begun in a folder of its own.
 class AuthorTest : public testing::Test {
@@ -32,10 +41,10 @@ class AuthorTest : public testing::Test {
     /// All errors, with their lines and columns, and if wanted what is unfinished in the texts.
     QString check(bool isAll = false) const {
         Problems problems;
-        checkDisc(project(), problems);
+        checkDisc(projectOf(folder()), problems);
         QStringList all;
         for (const Problem& problem : problems.all()) {
-            const ProblemSpot spot = spotOf(project().content, problem);
+            const ProblemSpot spot = spotOf(projectOf(folder()).content, problem);
             if (problem.isError || (isAll && problem.place.line > 0))
                 all << u"%1:%2:%3 %4"_s.arg(spot.place.file)
                            .arg(spot.place.line)
@@ -43,13 +52,6 @@ class AuthorTest : public testing::Test {
                            .arg(problem.text);
         }
         return all.join(u'\n');
-    }
-
-    Project project() const {
-        Project made = projectIn(folder());
-        made.base.clear();
-        made.rcc = QStringLiteral(SARNE_RCC);
-        return made;
     }
 
     QTemporaryDir folder_;
@@ -106,8 +108,7 @@ TEST(OwnFilesTest, ADiscIsBuiltOfThem) {
     // Red at the left, green elsewhere, upright and very wide: the point named in the head is kept.
     QImage photo(1200, 300, QImage::Format_RGB32);
     photo.fill(Qt::green);
-    for (int x = 0; x < 400; ++x)
-        for (int y = 0; y < 300; ++y) photo.setPixelColor(x, y, Qt::red);
+    QPainter(&photo).fillRect(0, 0, 400, 300, Qt::red);
     ASSERT_TRUE(photo.save(content + u"recepty/01-smazenice.PNG"_s));
     const QString recipe = content + u"recepty/01-smazenice.txt"_s;
     ASSERT_TRUE(test::write(recipe, test::bytesOf(recipe).replace("porce: 4\n", "porce: 4\nvýřez: 5 50\n")));
@@ -121,11 +122,8 @@ TEST(OwnFilesTest, ADiscIsBuiltOfThem) {
     make(u"sine=frequency=300:duration=1"_s, u"zvuky/hudba.ogg"_s);
     make(u"testsrc=size=320x180:rate=10:duration=1"_s, u"videa/1.mp4"_s);
 
-    Project project = projectIn(disc);
-    project.base.clear();
-    project.rcc = QStringLiteral(SARNE_RCC);
     Problems problems;
-    buildDisc(project, {}, problems, nullptr);
+    buildDisc(projectOf(disc), {}, problems, nullptr);
     ASSERT_EQ(problems.errors().join(u'\n').toStdString(), "");
     for (const QString& name : QDir(QStringLiteral(SARNE_ART "/rendered/prvky")).entryList(QDir::Files))
         EXPECT_TRUE(QFile::exists(disc + u"/hotovo/scratch/predlohy/rendered/prvky/"_s + name))
@@ -133,9 +131,8 @@ TEST(OwnFilesTest, ADiscIsBuiltOfThem) {
     const QImage shown(disc + u"/hotovo/disc/foto/Male/r1.jpg"_s);
     EXPECT_EQ(shown.size(), QSize(640, 480));
     EXPECT_GT(shown.pixelColor(600, 240).red(), 240) << "the photo is cut around its left end";
-    EXPECT_TRUE(QFile::exists(disc + u"/hotovo/disc/zvuky/č1.ogg"_s));
-    EXPECT_TRUE(QFile::exists(disc + u"/hotovo/disc/HUDBA.opus"_s));
-    EXPECT_TRUE(QFile::exists(disc + u"/hotovo/program/Sarne.rcc"_s));
+    for (const char* file : {"disc/zvuky/č1.ogg", "disc/HUDBA.opus", "program/Sarne.rcc"})
+        EXPECT_TRUE(QFile::exists(disc + u"/hotovo/"_s + QString::fromUtf8(file))) << file;
     EXPECT_EQ(test::output(u"ffprobe"_s, {u"-v"_s, u"error"_s, u"-select_streams"_s, u"v"_s,
                                           u"-show_entries"_s, u"stream=width,height,codec_name"_s, u"-of"_s,
                                           u"csv=p=0"_s, disc + u"/hotovo/disc/VIDEO/1.mkv"_s}),
@@ -147,11 +144,8 @@ TEST(OwnFilesTest, ADiscIsBuiltOfThem) {
         void made(const QString&, qsizetype, qsizetype, const QString&) override { ++files; }
         int files = 0;
     } count;
-    Project again = projectIn(moved);
-    again.base.clear();
-    again.rcc = project.rcc;
     Problems none;
-    buildDisc(again, {}, none, &count);
+    buildDisc(projectOf(moved), {}, none, &count);
     EXPECT_EQ(none.errors().join(u'\n').toStdString(), "");
     EXPECT_LE(count.files, 5) << "but for the names that no voice could say";
 }
