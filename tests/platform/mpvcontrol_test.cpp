@@ -37,7 +37,7 @@ class MpvControlTest : public testing::Test {
     }
     /// Does what \a way says, and what is asked for on it: commands, and
     ///   open:700            a sound of so many milliseconds, else the file of that name
-    ///   at:5                moves there
+    ///   at:5, loop:1, wait:0, notify:0, hold, release  as the player's functions
     ///   cut                 takes the sound out of the file
     ///   past, still, ends, becomes:stopped, never:playing, run:100
     ///                       waits until it has played on or ended or its mode is that, or for milliseconds
