@@ -41,7 +41,7 @@ class MpvControlTest : public testing::Test {
     ///   cut                 takes the sound out of the file
     ///   past, still, ends, becomes:stopped, never:playing, run:100
     ///                       waits until it has played on or ended or its mode is that, or for milliseconds
-    ///   mode, codes, error, length
+    ///   mode, codes, error, length, picture
     ///   place               exact where it was moved to, else in which five seconds it is
     QString told(const QString& way) {
         SetUp();
@@ -79,6 +79,7 @@ class MpvControlTest : public testing::Test {
             if (!isDone) all << word + u" in vain"_s;
             if (word == u"mode") all << mode();
             if (word == u"length") all << QString::number(qRound(double(player->length()) / 100) * 100);
+            if (word == u"picture") all << u"%1"_s.arg(int(!player->renderFrame({9, 9}).isNull()));
             if (word == u"error") all << u"%1 %2"_s.arg(player->error()).arg(player->errorMessage());
             if (word == u"place")
                 all << (place > 0 && place == player->length() ? u"end"_s
