@@ -245,7 +245,7 @@ TEST(SoundLengthTest, IsWhatTheHeaderSays) {
                                                   {flac, 2000},
                                                   {flac.chopped(1), 0}};
     for (const auto& [file, length] : lengths)
-        EXPECT_EQ(soundLength(file), length) << file.first(40).constData();
+        EXPECT_EQ(soundLength(file), length) << file.left(40).constData();
 }
 
 TEST(BeeperTest, AShortToneDiesAway) {
