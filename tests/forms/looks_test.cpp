@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QMetaEnum>
+#include <QRegularExpression>
 #include <QTest>
+#include <map>
 
 #include "forms/button.h"
 #include "forms/buttonbar.h"
@@ -17,6 +20,8 @@
 #include "forms/textview.h"
 #include "support/explore.h"
 #include "support/fakesarne.h"
+#include "support/files.h"
+#include "support/kept.h"
 #include "support/recipedatabase.h"
 
 namespace sarne {
@@ -30,8 +35,6 @@ constexpr BarFace kFaces[] = {{"Tisk", "Tisk", "Vytiskne", &Form::help},
                               {"Help", "Nápověda"},
                               {"Konec", "Konec", "Konec", &Form::endProgram}};
 
-const TextFont kSerif{u"Times New Roman"_s, 14, true, true}, kSans{u"Arial"_s, 12};
-
 /// A screen with controls of one kind, each in several states.
 class Screen : public Form {
   public:
@@ -39,14 +42,6 @@ class Screen : public Form {
         run.openAbove("frmHlavni");
         run.PushScreen(*this);
     }
-    template <typename Kind>
-    Kind& add(const char* name, const QRect& place) {
-        auto* control = new Kind(*this, QString::fromLatin1(name));
-        control->place(place);
-        stops_.push_back(control);
-        return *control;
-    }
-    Picture face(const char* name) { return resources().picture(QString::fromLatin1(name)); }
     void say(const QString& text) { app().HookMessage(text); }
     void keep(const std::vector<TwipWidget*>& stops) {
         stops_.insert(stops_.end(), stops.begin(), stops.end());
@@ -69,146 +64,6 @@ class Screen : public Form {
     std::vector<TwipWidget*> stops_;
 };
 
-void texts(Screen& screen) {
-    auto& plain = screen.add<Label>("lblA", {300, 300, 4000, 600});
-    plain.setFont(kSans);
-    plain.setText(u"Kapr na kmíně"_s);
-    auto& grounded = screen.add<Label>("lblB", {300, 1200, 2000, 1500});
-    grounded.setFont(kSerif);
-    grounded.setColor(Qt::darkGreen);
-    grounded.setGround(Qt::yellow);
-    grounded.setWordWrap(true);
-    grounded.setAlignment(Qt::AlignRight | Qt::AlignBottom);
-    grounded.setText(u"Rybu osolíme a necháme stát"_s);
-    grounded.setMargins(60, 120);
-    auto& link = screen.add<Label>("lblC", {300, 3000, 0, 0});
-    link.setFont(kSerif);
-    link.setText(u"odkaz\r\nna dva řádky"_s);
-    link.autoSize();
-    link.setClickable(true);
-    link.setTip(u"Otevře odkaz"_s);
-    auto& large = screen.add<Label>("lblD", {4600, 300, 1200, 500});
-    large.setFont(kSans);
-    large.setText(u"nerostu"_s);
-    large.setGrows(false);
-    QObject::connect(&link, &Label::clicked, [&large] { large.setText(u"otevřeno"_s); });
-    auto& narrow = screen.add<Label>("lblE", {4600, 1200, 0, 0});
-    narrow.setText(u"Chcete program  ukončit při 80 °C?  "_s);
-    narrow.autoSize(850);
-    auto& off = screen.add<Label>("lblF", {7000, 300, 0, 0});
-    off.setText(u"Nejde  "_s);
-    off.autoSize();
-    off.setClickable(true);
-    off.setEnabled(false);
-    link.setEnabled(false);
-    link.setEnabled(true);
-}
-
-void buttons(Screen& screen) {
-    int x = 300;
-    for (const auto place :
-         {Button::CaptionPlace::Over, Button::CaptionPlace::Below, Button::CaptionPlace::Beside}) {
-        for (const auto frame : {Button::Frame::None, Button::Frame::Raised, Button::Frame::Pressed}) {
-            auto& button = screen.add<Button>(qPrintable(u"cmd(%1)"_s.arg(x)), {x, 300, 1100, 1500});
-            button.setFace(screen.face("Tisk"));
-            button.setFrame(frame);
-            button.setCaptionPlace(place);
-            button.setCaption(u"Na dva řádky"_s);
-            button.setFont(kSans);
-            if (x > 6000) button.setGround(Qt::darkCyan);
-            x += 1200;
-        }
-    }
-    screen.add<Button>("cmdText", {300, 2400, 2400, 540}).dressAsText(u"Storno"_s, u"Zavře okno"_s);
-    screen.add<Button>("cmdNejde", {3000, 2400, 2400, 540}).dressAsText(u"Nejde"_s);
-    child<Button>(screen, "cmdNejde")->setEnabled(false);
-    static std::optional<ButtonBar> bars[2];
-    for (int i = 0; i < 2; ++i) {
-        bars[i].emplace(screen, u"imgBtn%1"_s.arg(i), kFaces,
-                        [&screen](int pressed) { screen.say(u"command %1"_s.arg(pressed)); });
-        (*bars[i])[1].setVisible(i == 0);
-        bars[i]->placeRow({7000, 4000 + 2000 * i, 4000, 1200});
-    }
-    (*bars[0])[1].place({600, 5000, 900, 900});
-    screen.keep(bars[0]->stops());
-    for (const TwipWidget* stop : bars[0]->stops()) screen.say(stop->objectName());
-}
-
-void choices(Screen& screen) {
-    for (int i = 0; i < 4; ++i) {
-        auto& box =
-            i < 2
-                ? screen.add<CheckBox>(qPrintable(u"chk(%1)"_s.arg(i)), {300, 300 + 500 * i, 3000, 400})
-                : screen.add<OptionButton>(qPrintable(u"opt(%1)"_s.arg(i)), {300, 300 + 500 * i, 3000, 400});
-        box.setFont(kSans);
-        box.setColor(Qt::darkBlue);
-        box.setCaption(u"&Volba %1"_s.arg(i));
-        if (i % 2) box.setMarkPictures(screen.face("VolbaAno"), screen.face("VolbaNe"));
-        box.setChecked(i == 1 || i == 2);
-    }
-    auto& other = *new OptionButton(screen, u"optJ"_s, 1);
-    other.place({300, 2300, 3000, 400});
-    other.setChecked(true);
-    auto& list = screen.add<ListBox>("lst", {4000, 300, 3000, 1500});
-    list.setFont(kSans);
-    list.setAccessibleName(u"Ryby"_s);
-    list.setItems({u"Amur"_s, u"Kapr"_s, u"Lín"_s, u"Okoun"_s, u"Štika"_s, u"Úhoř"_s}, {1, 2, 3, 4, 5, 6});
-    list.setListIndex(1);
-    for (const auto& [maximum, value] : {std::pair(8, 3), {5, -3}, {5, 100}, {0, 1}}) {
-        auto& bar = screen.add<ProgressBar>(qPrintable(u"prg(%1)"_s.arg(value)), {4000, 2200, 3000, 300});
-        bar.setMaximum(maximum);
-        bar.setValue(value);
-        if (value < 0) bar.advance();
-    }
-    auto& stars = screen.add<StarRow>("hvezdy", {4000, 2800, 2000, 450});
-    stars.setStars(3);
-    QObject::connect(&stars, &StarRow::given, &screen,
-                     [&screen](int given) { screen.say(u"%1 %2"_s.arg(given).arg(starText(given))); });
-}
-
-void entries(Screen& screen) {
-    auto& text = screen.add<Edit>("txtA", {300, 300, 3000, 450});
-    text.setFont(kSans);
-    text.setText(u"kapr"_s);
-    QObject::connect(&text, &Edit::textChanged, &screen, [&screen](const QString& now) { screen.say(now); });
-    auto& number = screen.add<Edit>("txtB", {300, 1000, 1500, 450});
-    number.setFont(kSerif);
-    number.setText(u"4"_s);
-    number.setMaxLength(2);
-    number.setSteps(1, 9);
-    auto& bare = screen.add<Edit>("txtC", {300, 1700, 1500, 450});
-    bare.setSign(false);
-    auto& note = screen.add<NoteEdit>("poznamka", {4000, 300, 4000, 3000});
-    note.setFont(kSerif);
-    note.setText(u"Méně soli.\nVíc kmínu."_s);
-}
-
-void reading(Screen& screen) {
-    auto& view = screen.add<TextView>("picText", {600, 600, 5000, 3000});
-    view.setSheet({300, 300, 6200, 3600});
-    view.setArrowPictures(screen.face("SipkaNahoru"), screen.face("SipkaDolu"));
-    view.drawRichText(test::rtf(
-        u"\\b Postup\\b0\\par Kapra *12osol\\'edme* a \\i pe\\'e8eme\\i0  @7podle videa@, #5p\\'edpne#.\\par "_s +
-        u"slovo "_s.repeated(300)));
-    QObject::connect(&view, &TextView::linkActivated, &screen,
-                     [&screen](LinkKey key) { screen.say(u"link "_s + key.text()); });
-    auto& brief = screen.add<TextView>("picKratky", {600, 5000, 5000, 3000});
-    brief.drawRichText(u"jeden"_s);
-    auto& gone = screen.add<TextView>("picSkryty", {600, 5000, 5000, 300});
-    gone.drawRichText(u"slovo "_s.repeated(300));
-    gone.hide();
-    screen.add<TextView>("picPrazdny", {600, 8300, 500, 300});
-    auto& picture = screen.add<PictureBox>("pic", {7000, 600, 3000, 2000});
-    picture.setPicture(Picture::fromImage(screen.face("Tisk").image()));
-    picture.setTip(u"Obrázek"_s);
-    auto& drawn = screen.add<PictureBox>("picKresba", {7000, 3000, 3000, 2000});
-    drawn.setFont(kSans);
-    drawn.setForeColor(Qt::darkRed);
-    drawn.setRightMargin(300);
-    drawn.print(u"Kapr\r\nna kmíně "_s.repeated(8));
-    drawn.drawPicture(screen.face("Help"), {100, 1000, 900, 900}, Fit::Cover);
-}
-
 /// Paints a piece of each ground that texts and rows stand on.
 struct Grounds final : Control {
     using Control::Control;
@@ -221,169 +76,248 @@ struct Grounds final : Control {
     }
 };
 
-/// Buttons while they are pressed.
-void pressed(Screen& screen) {
-    int x = 300;
-    for (const auto frame : {Button::Frame::None, Button::Frame::Raised, Button::Frame::Pressed})
-        for (const bool isFaced : {true, false}) {
-            auto& button = screen.add<Button>(qPrintable(u"cmd(%1)"_s.arg(x)), {x, 300, 1100, 900});
-            if (isFaced) button.setFace(screen.face("Tisk"));
-            button.setFrame(frame);
-            button.setCaption(u"&Kapr"_s);
-            x += 1200;
-        }
-    for (Button* button : screen.findChildren<Button*>()) QTest::mousePress(button, Qt::LeftButton);
-    screen.add<Button>("cmdKlid", {300, 1500, 1100, 900}).setLatched(false);
-    screen.add<Button>("cmdNizky", {1500, 1500, 1100, 990}).setCaptionPlace(Button::CaptionPlace::Below);
-    child<Button>(screen, "cmdNizky")->setCaption(u"Recept"_s);
-    auto& latched = screen.add<Button>("cmdStisk", {2700, 1500, 1100, 900});
-    latched.setLatched(true);
-    latched.setEnabled(false);
-    screen.add<Grounds>("deska", {300, 3000, 6000, 1500});
+struct OtherOption final : OptionButton {
+    OtherOption(Form& form, const QString& name) : OptionButton(form, name, 1) {}
+};
+
+template <typename Kind>
+Control* make(Form& form, const QString& name) {
+    return new Kind(form, name);
 }
 
-/// Makes of each of \a changes a control that looks as \a begin says, until the screen is to change.
+/// What can stand first in a line of golden/ukazky.txt.
+const std::map<QString, Control* (*)(Form&, const QString&)> kKinds{
+    {u"Label"_s, make<Label>},          {u"Button"_s, make<Button>},
+    {u"CheckBox"_s, make<CheckBox>},    {u"OptionButton"_s, make<OptionButton>},
+    {u"ListBox"_s, make<ListBox>},      {u"ProgressBar"_s, make<ProgressBar>},
+    {u"StarRow"_s, make<StarRow>},      {u"Edit"_s, make<Edit>},
+    {u"NoteEdit"_s, make<NoteEdit>},    {u"TextView"_s, make<TextView>},
+    {u"Grounds"_s, make<Grounds>},      {u"OtherOption"_s, make<OtherOption>},
+    {u"PictureBox"_s, make<PictureBox>}};
+
+/// What a control is told, value by value.
+struct Values {
+    const Form& form;
+    QStringList left;
+
+    QString next() { return left.isEmpty() ? QString() : test::meant(left.takeFirst()); }
+    /// "9×(text)" is that many times the text.
+    void read(QString& to) {
+        to = next();
+        static const QRegularExpression times(u"(\\d+)×\\((.*?)\\)"_s,
+                                              QRegularExpression::DotMatchesEverythingOption);
+        for (auto match = times.match(to); match.hasMatch(); match = times.match(to))
+            to.replace(match.captured(), match.captured(2).repeated(match.captured(1).toInt()));
+    }
+    void read(QStringList& to) { to = next().split(u", "_s); }
+    void read(std::vector<std::int32_t>& to) {
+        for (const QString& number : next().split(u' ')) to.push_back(number.toInt());
+    }
+    void read(QRect& to) {
+        const QStringList numbers = next().split(u',');
+        to = {numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(), numbers[3].toInt()};
+    }
+    void read(QColor& to) { to = QColor(next()); }
+    void read(TextFont& to) {
+        to = next() == u"serif" ? TextFont{u"Times New Roman"_s, 14, true, true} : TextFont{u"Arial"_s, 12};
+    }
+    void read(Picture& to) { to = form.resources().picture(next()); }
+    void read(Qt::Alignment& to) {
+        const QByteArray names = next().replace(u'+', u'|').toLatin1();
+        to = Qt::Alignment(QMetaEnum::fromType<Qt::Alignment>().keysToValue(names));
+    }
+    template <typename Number>
+    void read(Number& to) {
+        to = Number(next().toInt());
+    }
+};
+
+/// Whether \a control is of the kind that has \a set, which is called with what \a text says.
+template <typename Kind, typename... Types>
+bool told(Control& control, const QString& text, void (Kind::*set)(Types...)) {
+    auto* one = dynamic_cast<Kind*>(&control);
+    if (!one) return false;
+    Values values{control.form(), text.split(u"; "_s)};
+    std::tuple<std::decay_t<Types>...> all;
+    std::apply([&](auto&... each) { (values.read(each), ...); }, all);
+    std::apply([&](const auto&... each) { (one->*set)(each...); }, all);
+    return true;
+}
 template <typename Kind>
-void addChanging(Screen& screen, const char* name, void (*begin)(Kind&),
-                 std::initializer_list<void (*)(Kind&)> changes) {
-    for (const auto change : changes) {
-        const int at = screen.findChildren<Control*>(Qt::FindDirectChildrenOnly).count();
-        auto& control = screen.add<Kind>(qPrintable(u"%1(%2)"_s.arg(QLatin1String(name)).arg(at)),
-                                         {at % 12 * 990, at / 12 * 900, 980, 750});
-        begin(control);
-        QObject::connect(child<Button>(screen, "cmdZmena"), &Control::clicked, &control,
-                         [&control, change] { change(control); });
+bool told(Control& control, const QString& text, void (*act)(Kind&, const QString&)) {
+    auto* one = dynamic_cast<Kind*>(&control);
+    QString all;
+    Values{control.form(), {text}}.read(all);
+    return one && (act(*one, all), true);
+}
+
+void drawRich(TextView& view, const QString& text) {
+    view.drawRichText(test::rtf(text));
+}
+void fill(TextView& view, const QString& text) {
+    view.drawFilling([&] { view.drawPlainText(text); });
+}
+void measure(PictureBox& box, const QString& text) {
+    box.print(u"%1 %2"_s.arg(box.textWidth(text)).arg(box.textAscent()));
+}
+void addRed(PictureBox& box, const QString&) {
+    box.addPainted([](QPainter& painter, const QRect& seen) { painter.fillRect(seen, Qt::red); }, 900);
+}
+void press(Button& button, const QString&) {
+    QTest::mousePress(&button, Qt::LeftButton);
+}
+
+/// Words, and what each of them tells a control.
+struct Vocabulary : std::vector<std::pair<QString, std::function<bool(Control&, const QString& values)>>> {
+    template <typename... Setters>
+    Vocabulary& with(const char* words, Setters... setters) {
+        const QStringList names = QString::fromLatin1(words).split(u' ');
+        qsizetype at = 0;
+        (emplace_back(names[at++],
+                      [=](Control& one, const QString& text) { return told(one, text, setters); }),
+         ...);
+        return *this;
+    }
+};
+
+const Vocabulary kWords =
+    Vocabulary()
+        .with("tip name enabled visible place", &Control::setTip, &QWidget::setAccessibleName,
+              &QWidget::setEnabled, &QWidget::setVisible, &TwipWidget::place)
+        .with("text font color ground wrap align margins size clickable grows", &Label::setText,
+              &Label::setFont, &Label::setColor, &Label::setGround, &Label::setWordWrap, &Label::setAlignment,
+              &Label::setMargins, &Label::autoSize, &Label::setClickable, &Label::setGrows)
+        .with("caption font ground face frame where dress latched pressed", &Button::setCaption,
+              &Button::setFont, &Button::setGround, &Button::setFace, &Button::setFrame,
+              &Button::setCaptionPlace, &Button::dressAsText, &Button::setLatched, press)
+        .with("caption font color marks checked", &CheckBox::setCaption, &CheckBox::setFont,
+              &CheckBox::setColor, &CheckBox::setMarkPictures, &CheckBox::setChecked)
+        .with("font items index top", &ListBox::setFont, &ListBox::setItems, &ListBox::setListIndex,
+              &ListBox::scrollTo)
+        .with("maximum value advance stars", &ProgressBar::setMaximum, &ProgressBar::setValue,
+              &ProgressBar::advance, &StarRow::setStars)
+        .with("text font longest steps sign type back focus", &Edit::setText, &Edit::setFont,
+              &Edit::setMaxLength, &Edit::setSteps, &Edit::setSign, &Edit::type, &Edit::takeBack,
+              &Edit::focusAll)
+        .with("text font", &NoteEdit::setText, &NoteEdit::setFont)
+        .with("font color picture margin print out draw clear scroll measure painted", &PictureBox::setFont,
+              &PictureBox::setForeColor, &PictureBox::setPicture, &PictureBox::setRightMargin,
+              &PictureBox::print, &PictureBox::textOut, &PictureBox::drawPicture, &PictureBox::Cls,
+              &PictureBox::scrollBy, measure, addRed)
+        .with("sheet arrows rich raw plain filling", &TextView::setSheet, &TextView::setArrowPictures,
+              drawRich, &TextView::drawRichText, &TextView::drawPlainText, fill);
+
+/// Tells \a control all of \a words: "font sans & text Kapr".
+void tell(Control& control, const QString& words, const QString& between) {
+    for (const QString& one : words.split(between)) {
+        const QString word = one.section(u' ', 0, 0), values = one.section(u' ', 1);
+        EXPECT_TRUE(std::ranges::any_of(kWords, [&](const auto& known) {
+            return known.first == word && known.second(control, values);
+        })) << one.toStdString();
     }
 }
 
-/// Everything that can be told to a control that shows already: what it does not paint anew is stale.
-void changing(Screen& screen) {
-    screen.add<Button>("cmdZmena", {0, 8400, 900, 600});
-    addChanging<Button>(
-        screen, "cmd", [](Button& one) { one.setCaption(u"Kapr"_s); },
-        {[](Button& one) { one.setFace(one.form().resources().picture(u"Tisk"_s)); },
-         [](Button& one) { one.setFrame(Button::Frame::Raised); },
-         [](Button& one) { one.setCaption(u"&Lín"_s); }, [](Button& one) { one.setFont(kSerif); },
-         [](Button& one) { one.setGround(Qt::blue); }, [](Button& one) { one.setEnabled(false); },
-         [](Button& one) { one.setCaptionPlace(Button::CaptionPlace::Below); },
-         [](Button& one) { one.dressAsText(u"Sumec"_s, u"Velký sumec"_s); }});
-    addChanging<Label>(
-        screen, "lbl", [](Label& one) { one.setText(u"Kapr na kmíně"_s); },
-        {[](Label& one) { one.setText(u"Lín"_s); }, [](Label& one) { one.setFont(kSerif); },
-         [](Label& one) { one.setColor(Qt::red); }, [](Label& one) { one.setAlignment(Qt::AlignRight); },
-         [](Label& one) { one.setGround(Qt::blue); }, [](Label& one) { one.setWordWrap(true); },
-         [](Label& one) { one.setMargins(150, 30); }, [](Label& one) { one.setClickable(true); },
-         [](Label& one) { one.setGrows(false); }, [](Label& one) { one.setEnabled(false); }});
-    addChanging<CheckBox>(
-        screen, "chk", [](CheckBox& one) { one.setCaption(u"Kapr"_s); },
-        {[](CheckBox& one) { one.setChecked(true); }, [](CheckBox& one) { one.setCaption(u"Lín "_s); },
-         [](CheckBox& one) { one.setFont(kSerif); }, [](CheckBox& one) { one.setColor(Qt::red); },
-         [](CheckBox& one) { one.setEnabled(false); },
-         [](CheckBox& one) { one.setMarkPictures({}, one.form().resources().picture(u"VolbaNe"_s)); }});
-    addChanging<ProgressBar>(
-        screen, "prg", [](ProgressBar& one) { one.setValue(30); },
-        {[](ProgressBar& one) { one.setValue(70); }, [](ProgressBar& one) { one.setMaximum(40); },
-         [](ProgressBar& one) { one.setMaximum(20); }});
-    addChanging<StarRow>(screen, "hvezdy", [](StarRow& one) { one.setStars(2); },
-                         {[](StarRow& one) { one.setStars(4); }, [](StarRow& one) { one.setStars(9); }});
-    addChanging<PictureBox>(
-        screen, "pic", [](PictureBox& one) { one.print(u"Kapr\n"_s.repeated(9)); },
-        {[](PictureBox& one) { one.setPicture(one.form().resources().picture(u"Tisk"_s)); },
-         [](PictureBox& one) {
-             one.setFont(kSerif);
-             one.print(u"%1 %2"_s.arg(one.textWidth(u"Lín"_s)).arg(one.textAscent()));
-         },
-         [](PictureBox& one) {
-             one.drawPicture(one.form().resources().picture(u"Tisk"_s), {9, 9, 300, 600});
-         },
-         [](PictureBox& one) { one.Cls(); }, [](PictureBox& one) { one.textOut(300, 700, u"Lín"_s); },
-         [](PictureBox& one) {
-             one.addPainted([](QPainter& painter, const QRect& seen) { painter.fillRect(seen, Qt::red); },
-                            900);
-         }});
-    addChanging<TextView>(
-        screen, "view", [](TextView& one) { one.drawPlainText(u"Kapr Lín Sumec Úhoř Okoun"_s); },
-        {[](TextView& one) { one.drawRichText(test::rtf(u"\\b Amur\\par *12kapr*"_s)); },
-         [](TextView& one) {
-             one.scrollBy(300);
-             one.Cls();
-         },
-         [](TextView& one) { one.scrollBy(300); }, [](TextView& one) { one.scrollBy(9999); },
-         [](TextView& one) { one.setEnabled(false); }, [](TextView& one) { one.setVisible(false); },
-         [](TextView& one) { one.drawFilling([&one] { one.drawPlainText(u"Kapr"_s); }); }});
-    addChanging<Edit>(screen, "txt", [](Edit& one) { one.setText(u"kapr"_s); },
-                      {[](Edit& one) { one.setText(u"lín"_s); }, [](Edit& one) { one.setFont(kSerif); },
-                       [](Edit& one) { one.setSteps(1, 3); }, [](Edit& one) { one.setSign(false); },
-                       [](Edit& one) { one.type(u"7"_s); }, [](Edit& one) { one.takeBack(); },
-                       [](Edit& one) { one.setMaxLength(2); }, [](Edit& one) { one.focusAll(); }});
-    addChanging<NoteEdit>(
-        screen, "note",
-        [](NoteEdit& one) {
-            one.place(one.twips().adjusted(0, 0, 1500, 900));
-            one.setText(u"Kapr"_s);
-        },
-        {[](NoteEdit& one) { one.setText(u"Lín\nSumec"_s); }, [](NoteEdit& one) { one.setFont(kSerif); }});
-    addChanging<ListBox>(screen, "lst",
-                         [](ListBox& one) {
-                             one.setItems({u"Kapr"_s, u"Lín"_s, u"Úhoř"_s}, {1, 2, 3});
-                         },
-                         {[](ListBox& one) {
-                              one.setItems({u"Sumec"_s, u"Amur"_s}, {4});
-                          },
-                          [](ListBox& one) { one.setFont(kSerif); },
-                          [](ListBox& one) { one.setListIndex(2); }, [](ListBox& one) { one.scrollTo(1); }});
+/// Makes what a line says: a control that is told all that follows. Of a line with "⇒" one for each word
+/// behind it, which is told that when the screen is to change: what it does not paint anew then is stale.
+void add(Screen& screen, const QString& line) {
+    const QStringList what = line.section(u" | "_s, 0, 0).split(u' ');
+    const QString first = line.section(u" | "_s, 1).section(u" ⇒ "_s, 0, 0);
+    const QString changes = line.section(u" ⇒ "_s, 1);
+    for (const QString& change : changes.split(u" | "_s)) {
+        const int at = screen.findChildren<Control*>(Qt::FindDirectChildrenOnly).count();
+        Control& control =
+            *kKinds.at(what[0])(screen, changes.isEmpty() ? what[1] : u"%1(%2)"_s.arg(what[1]).arg(at));
+        QRect place(at % 12 * 990, at / 12 * 900, 980, 750);
+        if (changes.isEmpty()) Values{screen, {what[2]}}.read(place);
+        control.place(place);
+        screen.keep({&control});
+        if (!first.isEmpty()) tell(control, first, u" | "_s);
+        if (!changes.isEmpty())
+            QObject::connect(child<Button>(screen, "cmdZmena"), &Control::clicked, &control,
+                             [&control, change] { tell(control, change, u" & "_s); });
+    }
 }
 
-void openWith(void (*fill)(Screen&), const Look& look) {
+/// What the user does with the controls of \a screen is said.
+void listen(Screen& screen) {
+    for (auto* stars : screen.findChildren<StarRow*>())
+        QObject::connect(stars, &StarRow::given, &screen,
+                         [&screen](int given) { screen.say(u"%1 %2"_s.arg(given).arg(starText(given))); });
+    for (auto* entry : screen.findChildren<Edit*>(u"txtA"_s))
+        QObject::connect(entry, &Edit::textChanged, &screen, &Screen::say);
+    for (auto* view : screen.findChildren<TextView*>(u"picText"_s))
+        QObject::connect(view, &TextView::linkActivated, &screen,
+                         [&screen](LinkKey key) { screen.say(u"link "_s + key.text()); });
+    for (auto* link : screen.findChildren<Label*>(u"lblC"_s))
+        QObject::connect(link, &Label::clicked, &screen,
+                         [&screen] { child<Label>(screen, "lblD")->setText(u"otevřeno"_s); });
+}
+
+void addBars(Screen& screen) {
+    static std::optional<ButtonBar> bars[2];
+    for (int i = 0; i < 2; ++i) {
+        bars[i].emplace(screen, u"imgBtn%1"_s.arg(i), kFaces,
+                        [&screen](int pressed) { screen.say(u"command %1"_s.arg(pressed)); });
+        (*bars[i])[1].setVisible(i == 0);
+        bars[i]->placeRow({7000, 4000 + 2000 * i, 4000, 1200});
+    }
+    (*bars[0])[1].place({600, 5000, 900, 900});
+    screen.keep(bars[0]->stops());
+    for (const TwipWidget* stop : bars[0]->stops()) screen.say(stop->objectName());
+}
+
+/// Opens the screen that golden/ukazky.txt calls \a name.
+void openWith(const char* name, const Look& look) {
     FakeSarne run;
     auto* screen = new Screen(run);
-    fill(*screen);
+    const QString all =
+        QString::fromUtf8(test::bytesOf(QString::fromUtf8(test::kFolder) + u"/golden/ukazky.txt"_s));
+    const QString lines = all.section(u"= %1\n"_s.arg(QLatin1String(name)), 1).section(u"\n="_s, 0, 0);
+    for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts)) add(*screen, line);
+    if (qstrcmp(name, "tlacitka") == 0) addBars(*screen);
+    listen(*screen);
     screen->open();
     look(run);
 }
 
 TEST(Looks, Controls) {
-    const std::pair<const char*, void (*)(Screen&)> screens[] = {
-        {"texty", texts}, {"tlacitka", buttons}, {"volby", choices}, {"zapisy", entries}, {"cteni", reading}};
-    for (const auto& [name, fill] : screens)
-        explore(name, [fill = fill](const Look& look) { openWith(fill, look); });
+    for (const char* name : {"texty", "tlacitka", "volby", "zapisy", "cteni"})
+        explore(name, [name](const Look& look) { openWith(name, look); });
 }
 
 TEST(Looks, WhatIsToldLaterShowsAtOnce) {
     for (const char* size : {"100", "150"})
         walk(
-            qPrintable(u"zmeny-"_s + QLatin1String(size)), [](const Look& look) { openWith(changing, look); },
+            qPrintable(u"zmeny-"_s + QLatin1String(size)), [](const Look& look) { openWith("zmeny", look); },
             qPrintable(u"letters:%1 click:cmdZmena"_s.arg(QLatin1String(size))));
 }
 
 TEST(Looks, PressedWithAndWithoutPictures) {
-    test::expectLooks("stisknute", [](const Look& look) { openWith(pressed, look); });
+    test::expectLooks("stisknute", [](const Look& look) { openWith("stisknute", look); });
     test::expectLooks("stisknute-bez-obrazku", [](const Look& look) {
         FakeSarne::resourceFolder = u":/none/"_s;
-        openWith(pressed, look);
+        openWith("stisknute", look);
     });
 }
 
 TEST(Looks, StepByStep) {
     const struct {
-        const char* name;
-        void (*fill)(Screen&);
-        const char* way;
-    } ways[] = {{"hvezdy", choices, "click:hvezdy 4 Enter Return Space Return 1 0 5 Shift+2 Ctrl+3 6 A"},
-                {"odkazy", reading,
+        const char *name, *screen, *way;
+    } ways[] = {{"hvezdy", "volby", "click:hvezdy 4 Enter Return Space Return 1 0 5 Shift+2 Ctrl+3 6 A"},
+                {"odkazy", "cteni",
                  "hover:picText.1 hover:picText.2 wheel:picText hover:394,55 click:394,55 click:394,55 "
                  "hover:picText.3 hover:picKratky click:394,225"},
-                {"deska", entries,
+                {"deska", "zapisy",
                  "click:110,73 click:110,73 click:110,90 hover:110,90 click:205,35 hover:30,80 hover:700,500 "
                  "click:30,215 click:77,215 click:77,172 click:30,172 click:53,258 click:430,172 "
                  "click:200,258 click:360,258 click:205,35 click:205,35 click:450,258"}};
-    test::walkEach(ways, [](const auto& one, const Look& look) { openWith(one.fill, look); });
+    test::walkEach(ways, [](const auto& one, const Look& look) { openWith(one.screen, look); });
 }
 
 TEST(Looks, LetterBoard) {
     for (const char* entry : {"txtA", "txtB", "poznamka"})
         test::expectLooks(qPrintable(u"klavesnice-"_s + QLatin1String(entry)), [=](const Look& look) {
-            openWith(entries, [&](FakeSarne& run) {
+            openWith("zapisy", [&](FakeSarne& run) {
                 run.FormStack.top()
                     ->findChild<Control*>(QLatin1String(entry))
                     ->findChild<EntrySign*>()

@@ -27,12 +27,12 @@ QString written(QString text) {
     return text;
 }
 
+}  // namespace
+
 QString meant(QString text) {
     for (const auto& [meant, sign] : kSigns) text.replace(sign, meant);
     return text == u"∅" ? QString() : text.replace(u'␠', u' ');
 }
-
-}  // namespace
 
 void expectText(const QString& name, const QString& text) {
     const QString file = fileOf(name);

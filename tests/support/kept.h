@@ -17,6 +17,9 @@ void expectText(const QString& name, const QString& text);
 /// new case is written without its output, which SARNE_RENEW adds.
 void expectCases(const QString& name, const std::function<QString(const QString& input)>& of);
 
+/// \a text with its signs as what they mean.
+QString meant(QString text);
+
 }  // namespace sarne::test
 
 // SPDX-License-Identifier: GPL-3.0-or-later
