@@ -5,33 +5,12 @@
 #include "forms/button.h"
 #include "forms/label.h"
 #include "forms/largertext.h"
-#include "forms/textview.h"
 #include "support/onascreen.h"
 
 namespace sarne {
 namespace {
 
 using EyesTest = test::OnAScreen;
-
-TEST_F(EyesTest, KeysChangeTheSizeAndTextsAreLaidOutLarger) {
-    TextView view(screen, u"picText"_s);
-    view.place({100, 100, 3000, 3000});
-    const auto height = [&] {
-        view.Cls();
-        view.drawPlainText(u"Kapr se na kmíně peče zvolna a podlévá se vývarem."_s);
-        return view.contentHeight();
-    };
-    screen.showForm();
-    const int before = height();
-    for (const int key : {Qt::Key_A, Qt::Key_Plus, Qt::Key_Equal, Qt::Key_Plus})
-        press(screen, key, Qt::ControlModifier);
-    EXPECT_EQ(sarne.announced.last(), u"Velikost textů 150 %"_s);
-    EXPECT_GE(height(), before * 3 / 2);
-    press(screen, Qt::Key_Minus, Qt::ControlModifier);
-    EXPECT_EQ(eyes.textPercent(), 125);
-    press(screen, Qt::Key_0, Qt::ControlModifier);
-    EXPECT_EQ(height(), before);
-}
 
 TEST_F(EyesTest, ADialogGrowsWithItsTextsAsFarAsTheDisplayGoes) {
     const struct {

@@ -8,6 +8,7 @@
 #include "forms/button.h"
 #include "forms/buttonbar.h"
 #include "forms/checkbox.h"
+#include "forms/decimalentry.h"
 #include "forms/edit.h"
 #include "forms/entrysign.h"
 #include "forms/label.h"
@@ -48,17 +49,25 @@ class Screen : public Form {
     }
     void open() {
         for (TwipWidget* stop : stops_) stop->setFocusPolicy(Qt::StrongFocus);
+        if (options.contains(u"itself"_s)) stops_.push_back(this);
         ring().setStops(stops_);
-        ring().setArrows(FocusRing::Arrows::All);
+        ring().setArrows(FocusRing::Arrows(options.value(u"arrows"_s, int(FocusRing::Arrows::All))));
         showForm();
     }
 
     bool keyDown(QKeyEvent& event) override {
+        if (options.contains(u"keys"_s)) {
+            say(QKeySequence(event.keyCombination()).toString());
+            return true;
+        }
         for (auto* stars : findChildren<StarRow*>())
             if (stars->hasFocus() && stars->keyDown(event)) return true;
         auto* view = findChild<TextView*>();
         return (view && view->keyDown(event)) || Form::keyDown(event);
     }
+
+    /// Which arrows walk on; whether the form is a stop itself; whether it has a use for every key.
+    QHash<QString, int> options;
 
   private:
     std::vector<TwipWidget*> stops_;
@@ -72,7 +81,7 @@ struct Grounds final : Control {
         paintPlate(painter, {1600, 0, 900, 900});
         paintPaper(painter, {2600, 0, 900, 900});
         paintSheet(painter, {3600, 0, 900, 900});
-        paintRowFrame(painter, {4600, 0, 900, 900});
+        if (showsFocus()) paintRowFrame(painter, {4600, 0, 900, 900});
     }
 };
 
@@ -163,6 +172,9 @@ void measure(PictureBox& box, const QString& text) {
 void addRed(PictureBox& box, const QString&) {
     box.addPainted([](QPainter& painter, const QRect& seen) { painter.fillRect(seen, Qt::red); }, 900);
 }
+void takeDecimals(Edit& entry, const QString&) {
+    takeDecimalComma(entry);
+}
 void press(Button& button, const QString&) {
     QTest::mousePress(&button, Qt::LeftButton);
 }
@@ -196,9 +208,9 @@ const Vocabulary kWords =
               &ListBox::scrollTo)
         .with("maximum value advance stars", &ProgressBar::setMaximum, &ProgressBar::setValue,
               &ProgressBar::advance, &StarRow::setStars)
-        .with("text font longest steps sign type back focus", &Edit::setText, &Edit::setFont,
+        .with("text font longest steps sign type back focus decimals", &Edit::setText, &Edit::setFont,
               &Edit::setMaxLength, &Edit::setSteps, &Edit::setSign, &Edit::type, &Edit::takeBack,
-              &Edit::focusAll)
+              &Edit::focusAll, takeDecimals)
         .with("text font", &NoteEdit::setText, &NoteEdit::setFont)
         .with("font color picture margin print out draw clear scroll measure painted", &PictureBox::setFont,
               &PictureBox::setForeColor, &PictureBox::setPicture, &PictureBox::setRightMargin,
@@ -243,6 +255,11 @@ void listen(Screen& screen) {
     for (auto* stars : screen.findChildren<StarRow*>())
         QObject::connect(stars, &StarRow::given, &screen,
                          [&screen](int given) { screen.say(u"%1 %2"_s.arg(given).arg(starText(given))); });
+    for (auto* button : screen.findChildren<Button*>(QRegularExpression(u"^imgBtn\\("_s)))
+        QObject::connect(button, &Button::clicked, &screen,
+                         [&screen, button] { screen.say(u"clicked "_s + button->objectName()); });
+    for (auto* list : screen.findChildren<ListBox*>())
+        QObject::connect(list, &Control::doubleClicked, &screen, [&screen] { screen.say(u"twice"_s); });
     for (auto* entry : screen.findChildren<Edit*>(u"txtA"_s))
         QObject::connect(entry, &Edit::textChanged, &screen, &Screen::say);
     for (auto* view : screen.findChildren<TextView*>(u"picText"_s))
@@ -266,15 +283,22 @@ void addBars(Screen& screen) {
     for (const TwipWidget* stop : bars[0]->stops()) screen.say(stop->objectName());
 }
 
+QString examples() {
+    return QString::fromUtf8(test::bytesOf(QString::fromUtf8(test::kFolder) + u"/golden/ukazky.txt"_s));
+}
+
 /// Opens the screen that golden/ukazky.txt calls \a name.
-void openWith(const char* name, const Look& look) {
+void openWith(const QString& name, const Look& look) {
     FakeSarne run;
     auto* screen = new Screen(run);
-    const QString all =
-        QString::fromUtf8(test::bytesOf(QString::fromUtf8(test::kFolder) + u"/golden/ukazky.txt"_s));
-    const QString lines = all.section(u"= %1\n"_s.arg(QLatin1String(name)), 1).section(u"\n="_s, 0, 0);
-    for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts)) add(*screen, line);
-    if (qstrcmp(name, "tlacitka") == 0) addBars(*screen);
+    const QString lines = examples().section(u"= %1\n"_s.arg(name), 1).section(u"\n="_s, 0, 0);
+    for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts)) {
+        if (line.startsWith(u": "))
+            screen->options[line.section(u' ', 1, 1)] = line.section(u' ', 2).toInt();
+        else if (!line.startsWith(u"> "))
+            add(*screen, line);
+    }
+    if (name == u"tlacitka") addBars(*screen);
     listen(*screen);
     screen->open();
     look(run);
@@ -282,42 +306,32 @@ void openWith(const char* name, const Look& look) {
 
 TEST(Looks, Controls) {
     for (const char* name : {"texty", "tlacitka", "volby", "zapisy", "cteni"})
-        explore(name, [name](const Look& look) { openWith(name, look); });
-}
-
-TEST(Looks, WhatIsToldLaterShowsAtOnce) {
-    for (const char* size : {"100", "150"})
-        walk(
-            qPrintable(u"zmeny-"_s + QLatin1String(size)), [](const Look& look) { openWith("zmeny", look); },
-            qPrintable(u"letters:%1 click:cmdZmena"_s.arg(QLatin1String(size))));
+        explore(name, [name = QString::fromLatin1(name)](const Look& look) { openWith(name, look); });
 }
 
 TEST(Looks, PressedWithAndWithoutPictures) {
-    test::expectLooks("stisknute", [](const Look& look) { openWith("stisknute", look); });
+    test::expectLooks("stisknute", [](const Look& look) { openWith(u"stisknute"_s, look); });
     test::expectLooks("stisknute-bez-obrazku", [](const Look& look) {
         FakeSarne::resourceFolder = u":/none/"_s;
-        openWith("stisknute", look);
+        openWith(u"stisknute"_s, look);
     });
 }
 
 TEST(Looks, StepByStep) {
-    const struct {
-        const char *name, *screen, *way;
-    } ways[] = {{"hvezdy", "volby", "click:hvezdy 4 Enter Return Space Return 1 0 5 Shift+2 Ctrl+3 6 A"},
-                {"odkazy", "cteni",
-                 "hover:picText.1 hover:picText.2 wheel:picText hover:394,55 click:394,55 click:394,55 "
-                 "hover:picText.3 hover:picKratky click:394,225"},
-                {"deska", "zapisy",
-                 "click:110,73 click:110,73 click:110,90 hover:110,90 click:205,35 hover:30,80 hover:700,500 "
-                 "click:30,215 click:77,215 click:77,172 click:30,172 click:53,258 click:430,172 "
-                 "click:200,258 click:360,258 click:205,35 click:205,35 click:450,258"}};
-    test::walkEach(ways, [](const auto& one, const Look& look) { openWith(one.screen, look); });
+    QString screen;
+    for (const QString& line : examples().split(u'\n')) {
+        if (line.startsWith(u"= ")) screen = line.sliced(2);
+        if (!line.startsWith(u"> ")) continue;
+        const QString name = line.sliced(2).section(u": "_s, 0, 0), way = line.section(u": "_s, 1);
+        walk(
+            qPrintable(name), [&](const Look& look) { openWith(screen, look); }, qPrintable(way));
+    }
 }
 
 TEST(Looks, LetterBoard) {
     for (const char* entry : {"txtA", "txtB", "poznamka"})
         test::expectLooks(qPrintable(u"klavesnice-"_s + QLatin1String(entry)), [=](const Look& look) {
-            openWith("zapisy", [&](FakeSarne& run) {
+            openWith(u"zapisy"_s, [&](FakeSarne& run) {
                 run.FormStack.top()
                     ->findChild<Control*>(QLatin1String(entry))
                     ->findChild<EntrySign*>()

@@ -27,59 +27,6 @@ class ReadAloudTest : public testing::Test {
     Form& form = *new Form(sarne, QStringLiteral("frmText"));
 };
 
-TEST_F(ReadAloudTest, WithoutAVoiceNothingIsOfferedAndTheKeyDoesNothing) {
-    Label label(form, QStringLiteral("lblText"));
-    label.setText(QStringLiteral("Kapr"));
-    press(Qt::Key_F9);
-    EXPECT_FALSE(sarne.reader.isOffered());
-    EXPECT_FALSE(sarne.reader.isReading());
-    EXPECT_TRUE(sarne.speech.said.isEmpty());
-    EXPECT_FALSE(sarne.reader.duck().timer().isEnabled()) << "the music plays on";
-}
-
-TEST_F(ReadAloudTest, OneKeyReadsWhatShowsInReadingOrderAndStops) {
-    Label below(form, QStringLiteral("lblDole"));
-    Label above(form, QStringLiteral("lblNahore"));
-    Label hidden(form, QStringLiteral("lblSkryty"));
-    below.place({100, 2000, 5000, 400});
-    above.place({100, 100, 5000, 400});
-    hidden.place({100, 1000, 5000, 400});
-    below.setText(QStringLiteral("Troubu rozehřejeme na 180 °C."));
-    above.setText(QStringLiteral("Kapr na kmíně"));
-    hidden.setText(QStringLiteral("tajné"));
-    hidden.hide();
-    form.showForm();
-    sarne.speech.find();
-    press(Qt::Key_F9);
-    EXPECT_EQ(sarne.speech.said,
-              QStringList{QStringLiteral("Kapr na kmíně.\nTroubu rozehřejeme na 180 stupňů Celsia.")});
-    EXPECT_TRUE(sarne.reader.isReading());
-    press(Qt::Key_F9);
-    EXPECT_EQ(sarne.speech.stops, 1);
-    EXPECT_FALSE(sarne.reader.isReading());
-}
-
-TEST_F(ReadAloudTest, AVoiceThatIsFoundLateReadsWhatIsStillWanted) {
-    Label label(form, QStringLiteral("lblText"));
-    label.setText(u"Kapr"_s);
-    form.showForm();
-    press(Qt::Key_F9);
-    press(Qt::Key_F9);
-    sarne.speech.find();
-    EXPECT_TRUE(sarne.speech.said.isEmpty()) << "pressed again, it is wanted no more";
-    sarne.speech.voice = false;
-    press(Qt::Key_F9);
-    sarne.PushScreen(*new Form(sarne, u"frmDalsi"_s));
-    sarne.speech.find();
-    EXPECT_TRUE(sarne.speech.said.isEmpty()) << "on another screen neither";
-    sarne.speech.voice = false;
-    press(Qt::Key_F9);
-    sarne.speech.find();
-    sarne.speech.find();
-    EXPECT_EQ(sarne.speech.said, QStringList{u"Kapr"_s});
-    EXPECT_TRUE(sarne.reader.isReading());
-}
-
 TEST_F(ReadAloudTest, WrappedLinesRunOnAndListsAreReadAsFarAsTheyShow) {
     TextView text(form, QStringLiteral("picText"));
     text.place({100, 100, 1500, 4000});
@@ -111,12 +58,21 @@ TEST_F(ReadAloudTest, TheMusicStepsBackUntilTheTextHasEnded) {
     EXPECT_EQ(sarne.player.decibels, 0);
 }
 
-TEST_F(ReadAloudTest, AnotherScreenEndsIt) {
-    sarne.speech.find();
+TEST_F(ReadAloudTest, TheKeyAndAnotherScreenStopIt) {
+    Label label(form, u"lblText"_s);
+    label.setText(u"Kapr"_s);
     sarne.PushScreen(form);
-    sarne.reader.read(QStringLiteral("Kapr"));
-    sarne.PushScreen(*new Form(sarne, QStringLiteral("frmDalsi")));
+    form.showForm();
+    press(Qt::Key_F9);
+    EXPECT_FALSE(sarne.reader.isOffered() || sarne.reader.isReading()) << "there is no voice yet";
+    EXPECT_FALSE(sarne.reader.duck().timer().isEnabled()) << "the music plays on";
+    sarne.speech.find();
+    EXPECT_TRUE(sarne.reader.isReading());
+    press(Qt::Key_F9);
     EXPECT_EQ(sarne.speech.stops, 1);
+    sarne.reader.read(u"Kapr"_s);
+    sarne.PushScreen(*new Form(sarne, u"frmDalsi"_s));
+    EXPECT_EQ(sarne.speech.stops, 2);
 }
 
 }  // namespace

@@ -3,14 +3,11 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMimeData>
 #include <QPlainTextEdit>
-#include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
 #include <QTimer>
 
-#include "forms/decimalentry.h"
 #include "forms/edit.h"
 #include "forms/entrysign.h"
 #include "forms/fingers.h"
@@ -24,20 +21,11 @@
 namespace sarne {
 namespace {
 
-struct Screen : Form {
-    explicit Screen(basSarne& run) : Form(run, u"frmA"_s) {}
-    bool keyDown(QKeyEvent& event) override {
-        if (event.key() < Qt::Key_Shift || event.key() > Qt::Key_Alt) keys << event.key();
-        return true;
-    }
-    QList<int> keys;
-};
-
 class TextControls : public testing::Test {
   protected:
     TextControls() { screen->showForm(); }
     FakeSarne run;
-    Screen* screen = new Screen(run);
+    Form* screen = new Form(run, u"frmA"_s);
 };
 
 TEST_F(TextControls, AHeldButtonRepeatsUntilItIsLetGo) {
@@ -114,29 +102,11 @@ class NoteEditing : public TextControls {
         note.place({1500, 1500, 6000, 3000});
         note.focusAtEnd();
     }
-    void type(const QString& text) { QTest::keyClicks(&note.editor(), text); }
     void press(int key, Qt::KeyboardModifiers with = {}) {
         QTest::keyClick(&note.editor(), static_cast<Qt::Key>(key), with);
     }
     NoteEdit note{*screen, u"RtfPozn"_s};
-    QSignalSpy edits{&note, &NoteEdit::edited};
 };
-
-TEST_F(NoteEditing, TypesUndoesAndRedoes) {
-    note.setText(u"Sůl"_s);
-    EXPECT_EQ(edits.count(), 0);
-    note.focusAtEnd();
-    type(u" cX"_s);
-    EXPECT_EQ(note.text(), u"Sůl cX"_s) << "letters are no commands here";
-    EXPECT_GT(edits.count(), 0);
-    press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(note.text(), u"Sůl"_s);
-    press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(note.text(), u"Sůl"_s) << "what was loaded stays";
-    press(Qt::Key_Y, Qt::ControlModifier);
-    EXPECT_EQ(note.text(), u"Sůl cX"_s);
-    EXPECT_TRUE(screen->keys.isEmpty());
-}
 
 TEST_F(NoteEditing, AParagraphThatGrowsLongIsShownInPiecesAndStaysOne) {
     QString words = u"slovo "_s.repeated(LongParagraphs::kLongest / 3);
@@ -170,25 +140,6 @@ TEST_F(NoteEditing, AParagraphThatGrowsLongIsShownInPiecesAndStaysOne) {
     EXPECT_EQ(note.text(), words);
 }
 
-TEST(DecimalEntry, ACommaIsTakenAsAPoint) {
-    FakeSarne run;
-    Form form(run, u"frmA"_s);
-    Edit entry(form, u"txt"_s);
-    takeDecimalComma(entry);
-    for (const char* text : {"2,5", "2.5", "1,2,3", "7"}) {
-        entry.setText(QLatin1String(text));
-        EXPECT_EQ(entry.text(), QString::fromLatin1(text).replace(u',', u'.'));
-    }
-}
-
-TEST_F(NoteEditing, GrowsWithTheScreen) {
-    const int before = note.editor().font().pixelSize();
-    run.window.resize(1600, 1200);
-    QApplication::processEvents();
-    EXPECT_EQ(note.editor().geometry(), note.rect());
-    EXPECT_NEAR(note.editor().font().pixelSize(), 2 * before, 1);
-}
-
 TEST_F(NoteEditing, TakesCzechLettersThatAreComposed) {
     QInputMethodEvent composing(u"ˇ"_s, {});
     QApplication::sendEvent(QApplication::focusWidget(), &composing);
@@ -202,27 +153,6 @@ TEST_F(NoteEditing, TakesCzechLettersThatAreComposed) {
     QKeyEvent altGr(QEvent::KeyPress, Qt::Key_Q, Qt::GroupSwitchModifier, u"@"_s);
     QApplication::sendEvent(&note.editor(), &altGr);
     EXPECT_EQ(note.text(), u"ř@"_s);
-}
-
-TEST_F(NoteEditing, PastesPlainText) {
-    auto* rich = new QMimeData;
-    rich->setHtml(u"<b>tučná</b> <i>ryba</i>"_s);
-    rich->setText(u"tučná ryba"_s);
-    QApplication::clipboard()->setMimeData(rich);
-    press(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(note.text(), u"tučná ryba"_s);
-    EXPECT_FALSE(note.editor().document()->firstBlock().begin().fragment().charFormat().font().bold());
-    press(Qt::Key_A, Qt::ControlModifier);
-    press(Qt::Key_X, Qt::ControlModifier);
-    EXPECT_EQ(note.text() + QApplication::clipboard()->text(), u"tučná ryba"_s);
-}
-
-TEST_F(NoteEditing, LeavesTheKeysOfTheFormToTheForm) {
-    for (int key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_F1, Qt::Key_F4}) press(key);
-    press(Qt::Key_X, Qt::AltModifier);
-    EXPECT_EQ(screen->keys,
-              (QList<int>{Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_F1, Qt::Key_F4, Qt::Key_X}));
-    EXPECT_EQ(note.text(), QString());
 }
 
 TEST(LetterKeys, HoldTheAlphabetApartAndFormsOfALetterGoRound) {

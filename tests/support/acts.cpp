@@ -154,6 +154,10 @@ void perform(FakeSarne& run, const QString& word) {
         run.answers.push_back(what.toInt());
     else if (verb == u"wait")
         run.time.time += what.toInt();
+    else if (verb == u"hide")
+        front(run)->findChild<Control*>(what)->hide();
+    else if (verb == u"voice")
+        run.speech.find();
     else if (verb == u"tick")
         tick(run);
     else if (verb == u"letters")
@@ -166,6 +170,8 @@ void perform(FakeSarne& run, const QString& word) {
         setReader(true);
     else if (verb == u"lowest")
         showing(run).back()->setFocus();
+    else if (verb == u"size")
+        run.window.resize(what.section(u'x', 0, 0).toInt(), what.section(u'x', 1).toInt());
     else if (verb == u"over")
         run.openAbove("frmNad");
     else if (verb == u"pop")

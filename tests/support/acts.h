@@ -38,11 +38,14 @@ void setReader(bool listens);
 ///   reader      a screen reader listens from now on
 ///   type:letters
 ///   held:Space  one more time by a key that is held down
+///   hide:NAME   that control goes
+///   voice       a voice that can read is found
 ///   answer:7    what the next question is answered
 ///   wait:5000   milliseconds of the clock
 ///   tick        every timer that runs
 ///   letters:150 how large the eyes want texts, in percent
 ///   lowest      the keyboard comes to the form below all others
+///   size:1600x1200 of the window
 ///   over, pop   another screen comes over it and goes again
 void perform(FakeSarne& run, const QString& word);
 
