@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTest>
 
 #include "screens/navigation/frmhlavni.h"
@@ -93,16 +92,6 @@ TEST_F(ShippedMenu, EveryScreenHasItsGroundAndTheMenuGivesThePointerBack) {
     QTest::mouseClick(main, Qt::LeftButton, {}, {10, 590});
     EXPECT_FALSE(main->isMenuOpen());
     EXPECT_EQ(pointer(), normal);
-}
-
-TEST_F(ShippedMenu, ADamagedResourceFileIsNotTaken) {
-    const QString name = folder.filePath(u"Sarne.rcc"_s);
-    Resources resources(u":/"_s);
-    EXPECT_TRUE(resources.load(name));
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(8) && file.write("damage") == 6);
-    file.close();
-    EXPECT_FALSE(resources.load(name));
 }
 
 TEST_F(ShippedMenu, EveryRowOpensItsScreen) {

@@ -9,6 +9,7 @@
 #include <QTranslator>
 #include <QWidget>
 #include <QWindow>
+#include <functional>
 #include <optional>
 
 #include "app/kepteyes.h"
@@ -37,58 +38,59 @@ TEST(WindowPlaceTest, AWindowIsOfTheDesignsShapeAndNoLargerThanItsRoom) {
     EXPECT_EQ(windowWithin({0, 0, 640, 400}), QRect(53, 0, 533, 400));
 }
 
-/// The two displays are those of displays.json.
+/// The two displays are those of displays.json; the pointer is on the second one.
 TEST(WindowPlaceTest, FillsADisplayOrStandsInItsMiddle) {
     const QList<QScreen*> screens = QGuiApplication::screens();
     ASSERT_EQ(screens.size(), 2);
-    const auto expected = [&](WindowKind kind, int display) {
-        return kind == WindowKind::FullScreen ? screens[display]->geometry()
-                                              : windowWithin(screens[display]->availableGeometry());
-    };
+    QStringList told;
     for (const WindowKind kind : {WindowKind::FullScreen, WindowKind::Window}) {
         QWidget window;
         int passed = 0;
         const test::OnEvent watch(QEvent::KeyPress, [&](const QObject*) { ++passed; });
         QCursor::setPos(screens[1]->geometry().center());
         WindowPlace place(window, kind);
-        place.settle();
-        EXPECT_FALSE(window.isVisible());
-        EXPECT_EQ(window.geometry(), expected(kind, 1)) << "where the pointer is";
-        place.show();
-        EXPECT_TRUE(window.isVisible());
-        EXPECT_EQ(window.isFullScreen(), kind == WindowKind::FullScreen);
         const auto press = [&](QObject* on, Qt::Key key, Qt::KeyboardModifiers modifiers = {},
                                bool again = false) {
             QKeyEvent event(QEvent::KeyPress, key, modifiers, {}, again);
             QCoreApplication::sendEvent(on, &event);
-            return window.geometry();
         };
-        QWindow* window1 = window.windowHandle();
-        for (const int display : {0, 1, 0}) EXPECT_EQ(press(window1, Qt::Key_F8), expected(kind, display));
-        EXPECT_EQ(window.isFullScreen(), kind == WindowKind::FullScreen);
-        EXPECT_EQ(passed, 0) << "the key means nothing else";
-        EXPECT_EQ(press(window1, Qt::Key_F8, Qt::ShiftModifier), expected(kind, 0));
-        EXPECT_EQ(press(window1, Qt::Key_F8, {}, true), expected(kind, 0)) << "held down";
-        EXPECT_EQ(press(window1, Qt::Key_F7), expected(kind, 0));
-        EXPECT_EQ(press(&window, Qt::Key_F8), expected(kind, 0)) << "the window alone";
-
-        const QRect elsewhere(30, 40, 500, 300);
-        const auto changed = [&](int display) {
-            window.setGeometry(elsewhere);
-            Q_EMIT screens[display]->geometryChanged({});
-            return window.geometry();
-        };
-        EXPECT_EQ(changed(0), kind == WindowKind::FullScreen ? expected(kind, 0) : elsewhere) << "a new mode";
-        EXPECT_EQ(changed(1), elsewhere) << "of the other display";
-        const auto gone = [&](int display) {
-            window.setGeometry(elsewhere);
+        const auto key = [&] { press(window.windowHandle(), Qt::Key_F8); };
+        const auto elsewhere = [&] { window.setGeometry(30, 40, 500, 300); };
+        const auto changes = [&](int display) { Q_EMIT screens[display]->geometryChanged({}); };
+        const auto goes = [&](int display) {
             Q_EMIT qApp->screenRemoved(screens[display]);
             QCoreApplication::sendPostedEvents(&place);
-            return window.geometry();
         };
-        EXPECT_EQ(gone(1), elsewhere);
-        EXPECT_EQ(gone(0), expected(kind, 1)) << "to where the pointer is";
+        const std::pair<const char*, std::function<void()>> steps[] = {
+            {"settled", [&] { place.settle(); }},
+            {"shown", [&] { place.show(); }},
+            {"F8", key},
+            {"F8 again", key},
+            {"and again", key},
+            {"Shift+F8", [&] { press(window.windowHandle(), Qt::Key_F8, Qt::ShiftModifier); }},
+            {"F8 held down", [&] { press(window.windowHandle(), Qt::Key_F8, {}, true); }},
+            {"F7", [&] { press(window.windowHandle(), Qt::Key_F7); }},
+            {"F8 for the widget", [&] { press(&window, Qt::Key_F8); }},
+            {"elsewhere", elsewhere},
+            {"the second display changes", [&] { changes(1); }},
+            {"its display changes", [&] { changes(0); }},
+            {"elsewhere", elsewhere},
+            {"the second display goes", [&] { goes(1); }},
+            {"its display goes", [&] { goes(0); }}};
+        for (const auto& [what, act] : steps) {
+            act();
+            const QRect at = window.geometry();
+            told << u"%1: %2,%3 %4x%5%6%7, %8 keys passed on"_s.arg(QLatin1String(what))
+                        .arg(at.x())
+                        .arg(at.y())
+                        .arg(at.width())
+                        .arg(at.height())
+                        .arg(window.isVisible() ? u""_s : u" hidden"_s,
+                             window.isFullScreen() ? u" full"_s : u""_s)
+                        .arg(passed);
+        }
     }
+    test::expectText(u"okno"_s, told.join(u'\n'));
 }
 
 TEST(Language, TheFirstOfTheUsersThatThereIsElseCzech) {
@@ -145,16 +147,6 @@ TEST(KeptEyes, WhatTheUserChoosesOutlivesTheRunAndTheDesktopsWishes) {
     does("not calm", [&] { run->eyes.setCalm(false); });
     does("run", again);
     test::expectText(u"oci"_s, diary.join(u'\n'));
-}
-
-TEST(Eyes, TextsHaveThreeSizes) {
-    Eyes eyes;
-    EXPECT_FALSE(eyes.stepText(-1));
-    eyes.setTextPercent(140);
-    EXPECT_EQ(eyes.textPercent(), 150);
-    EXPECT_FALSE(eyes.stepText(1));
-    eyes.setTextPercent(-5);
-    EXPECT_EQ(eyes.textScale(), 1);
 }
 
 }  // namespace
