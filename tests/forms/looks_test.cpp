@@ -30,7 +30,6 @@ namespace {
 
 using test::explore;
 using test::Look;
-using test::walk;
 
 constexpr BarFace kFaces[] = {{"Tisk", "Tisk", "Vytiskne", &Form::help},
                               {"Help", "Nápověda"},
@@ -283,19 +282,17 @@ void addBars(Screen& screen) {
     for (const TwipWidget* stop : bars[0]->stops()) screen.say(stop->objectName());
 }
 
-QString examples() {
-    return QString::fromUtf8(test::bytesOf(QString::fromUtf8(test::kFolder) + u"/golden/ukazky.txt"_s));
-}
-
 /// Opens the screen that golden/ukazky.txt calls \a name.
 void openWith(const QString& name, const Look& look) {
     FakeSarne run;
     auto* screen = new Screen(run);
-    const QString lines = examples().section(u"= %1\n"_s.arg(name), 1).section(u"\n="_s, 0, 0);
+    const QString all =
+        QString::fromUtf8(test::bytesOf(QString::fromUtf8(test::kFolder) + u"/golden/ukazky.txt"_s));
+    const QString lines = all.section(u"= %1\n"_s.arg(name), 1).section(u"\n="_s, 0, 0);
     for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts)) {
         if (line.startsWith(u": "))
             screen->options[line.section(u' ', 1, 1)] = line.section(u' ', 2).toInt();
-        else if (!line.startsWith(u"> "))
+        else
             add(*screen, line);
     }
     if (name == u"tlacitka") addBars(*screen);
@@ -318,14 +315,7 @@ TEST(Looks, PressedWithAndWithoutPictures) {
 }
 
 TEST(Looks, StepByStep) {
-    QString screen;
-    for (const QString& line : examples().split(u'\n')) {
-        if (line.startsWith(u"= ")) screen = line.sliced(2);
-        if (!line.startsWith(u"> ")) continue;
-        const QString name = line.sliced(2).section(u": "_s, 0, 0), way = line.section(u": "_s, 1);
-        walk(
-            qPrintable(name), [&](const Look& look) { openWith(screen, look); }, qPrintable(way));
-    }
+    test::walkAll("cesty", openWith);
 }
 
 TEST(Looks, LetterBoard) {

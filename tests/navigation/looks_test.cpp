@@ -11,7 +11,6 @@ namespace {
 using test::explore;
 using test::Look;
 using test::walk;
-using test::walkEach;
 
 class Main : public MenuFixture {
   public:
@@ -69,34 +68,7 @@ TEST(Looks, Menus) {
 }
 
 TEST(Looks, MainScreenInUse) {
-    const struct {
-        const char *name, *way;
-    } ways[] = {
-        {"hlavni-klavesami",
-         "hover:imgClick(0) hover:imgClick(4) PgUp Tab Shift+Tab Alt+F4 Alt+X X hover:imgClick(0) Return "
-         "hover:imgClick(7) Space "
-         "hover:imgClick(3) Return Down Return"},
-        // An item is chosen by the mouse, a submenu opens by resting on it, too; the background closes all.
-        {"menu-mysi",
-         "click:imgClick(2) click:lblOdkaz(1) click:lblOdkaz(2) click:^^lblOdkaz(2) hover:^lblOdkaz(1) "
-         "tick click:10,500"},
-        {"menu-spocinutim",
-         "click:imgClick(2) hover:lblOdkaz(1) hover:352,497 tick Down Down hover:lblOdkaz(1) tick Escape "
-         "hover:lblOdkaz(1) tick Left hover:352,497 "
-         "tick hover:lblOdkaz(1) tick Left click:lblOdkaz(2) hover:lblOdkaz(1) tick"},
-        {"menu-klavesami",
-         "click:imgClick(2) Down Right Right Down Down Left Escape type:p Return Down Return"},
-        {"menu-hledani-znovu",
-         "click:imgClick(12) click:Text1 Return type:kap Return Left Ctrl+A type:c'x Return "
-         "click:lblOdkaz(1) "
-         "click:Text1 Ctrl+A type:kapr Return Return"},
-        {"menu-pismeny", "click:imgClick(2) type:k type:a type:p type:p Alt+F4 Alt+X X type:c"},
-        {"menu-s-klavesnici-dole",
-         "click:imgClick(2) Down Right lowest Down Down lowest Left lowest Escape click:imgClick(12) lowest "
-         "type:k "
-         "type:a Return"},
-        {"menu-pod-napovedou", "click:imgClick(2) Down Right F1 over pop Escape Escape"}};
-    walkEach(ways, [](const auto&, const Look& look) {
+    test::walkAll("cesty", [](const QString&, const Look& look) {
         Main main;
         look(main.run);
     });

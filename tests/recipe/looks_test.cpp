@@ -70,54 +70,11 @@ TEST(Looks, NoteThatWasTyped) {
 }
 
 TEST(Looks, InUse) {
-    const struct {
-        const char* name;
-        std::int16_t id;
-        int section;
-        const char* way;
-    } ways[] = {
-        {"sekce-klavesami", 5, 0, "Down Down Right Return"},
-        {"sekce-prazdneho", 6, 0, "Up Left Left Left Left"},
-        {"sekce-niceho", -7, 0,
-         "click:imgBtn(1) click:imgBtn(2) click:imgBtn(4) click:imgBtn(5) click:imgBtn(6) click:imgBtn(7) "
-         "type:x click:imgBtn(3)"},
-        {"sekce-cteckou", 5, 0,
-         "reader click:imgBtn(1) Down Right Tab click:imgBtn(2) click:imgBtn(3) Tab click:imgBtn(5) "
-         "click:imgBtn(7) "
-         "click:imgBtn(0)"},
-        {"text-klavesami", 5, 1,
-         "Tab Tab Tab Tab Tab Tab Shift+Tab Shift+Tab Left Shift+Tab Shift+Tab Return over pop"},
-        {"text-mysi", 5, 1, "click:picRecept.0 click:picRecept.1 over pop click:picRecept.2"},
-        {"odkazy", 8, 3,
-         "Tab Up Return click:imgOdkazy(0) click:imgOdkazy(0) Down Return click:imgOdkazy(1)"},
-        {"porce-mysi", 5, 5,
-         "click:imgPrepocet(6) click:imgPrepocet(6) click:imgPrepocet(2) click:imgPrepocet(10) answer:100 "
-         "click:imgPrepocet(10) click:imgKgLzice answer:0 click:imgPrepocet(10) answer:3 "
-         "click:imgPrepocet(10) answer:0 click:imgPrepocet(10)"},
-        {"porce-podle-ryby", 5, 5, "answer:500 click:cmdRyba answer:0 click:cmdRyba"},
-        {"porce-klavesami", 5, 5,
-         "Right Right Right Return Left Left Left Left Right Return Left Right Down Tab Right"},
-        {"porce-zadne", 9, 5, "click:imgPrepocet(6) click:imgBtn(6)"},
-        {"poznamka-otazky", 5, 7,
-         "type:x answer:7 click:imgBtn(1) click:imgBtn(7) type:Sůl answer:6 click:imgBtn(7) click:imgBtn(2)"},
-        {"poznamka-odchody", 5, 7,
-         "type:x answer:0 Escape answer:0 click:imgBtn(1) answer:0 click:lblIkona(2) answer:0 "
-         "click:imgBtnHlavni(3) click:imgBtnHlavni(3) click:imgBtnHlavni(3) click:400,200 type:y answer:7 "
-         "Alt+F4 over "
-         "answer:0 "
-         "Alt+F4 Alt+F4 pop click:400,200 type:z answer:0 pop"},
-        {"poznamka-tlacitky", 5, 7,
-         "type:x click:cmdUloz(1) click:imgBtn(7) type:{\\rtf1*12sůl*@7{\\b}# click:cmdUloz(0) Ctrl+C "
-         "click:imgBtn(7) Ctrl+A Delete click:cmdUloz(0)"},
-        {"poznamka-tisk", 5, 7, "type:ryba click:imgBtnHlavni(0) click:imgBtn(1) click:imgBtnHlavni(0)"},
-        {"poznamka-klavesami", 5, 7,
-         "Shift+Tab Up Return click:imgBtn(7) click:lblIkona(2) click:imgBtn(7) Tab Shift+Tab type:ryba Tab "
-         "Return"}};
-    test::walkEach(ways, [](const auto& one, const Look& look) {
+    test::walkAll("cesty", [](const QString& what, const Look& look) {
         Recipe book;
         book.ask(2.5);
         book.addLinks(8);
-        book.show(one.id, one.section);
+        book.show(what.section(u' ', 0, 0).toShort(), what.section(u' ', 1).toInt());
         look(book.run);
     });
 }

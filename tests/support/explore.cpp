@@ -384,6 +384,21 @@ void walk(const char* name, const std::function<void(const Look&)>& scene, const
     expectAsKept(QString::fromUtf8(name), Explorer(scene).along(QString::fromUtf8(way)));
 }
 
+void walkAll(const char* file, const std::function<void(const QString&, const Look&)>& scene) {
+    const QString path = u"%1/golden/%2.txt"_s.arg(QString::fromUtf8(kFolder), QLatin1String(file));
+    const QStringList lines = QString::fromUtf8(bytesOf(path)).split(u'\n', Qt::SkipEmptyParts);
+    EXPECT_FALSE(lines.isEmpty()) << file;
+    QString what;
+    for (const QString& line : lines) {
+        const QString name = line.section(u": "_s, 0, 0), way = line.section(u": "_s, 1);
+        if (line.startsWith(u'='))
+            what = line.sliced(1).trimmed();
+        else if (!line.startsWith(u';'))
+            walk(
+                qPrintable(name), [&](const Look& look) { scene(what, look); }, qPrintable(way));
+    }
+}
+
 }  // namespace sarne::test
 
 // SPDX-License-Identifier: GPL-3.0-or-later

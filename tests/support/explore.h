@@ -44,6 +44,9 @@ void walkEach(const Ways& ways, Scene scene) {
             one.name, [&](const Look& look) { scene(one, look); }, one.way);
 }
 
+/// Every way of golden/\a file.txt: under "= WHAT" lines "name: words"; \a scene opens the screen for WHAT.
+void walkAll(const char* file, const std::function<void(const QString& what, const Look& look)>& scene);
+
 }  // namespace test
 }  // namespace sarne
 
