@@ -91,9 +91,8 @@ QVariant ScreensTest::act(const QString& text) {
 }
 
 void ScreensTest::go(const char* name) {
-    const QString ways =
-        QString::fromUtf8(test::bytesOf(QString::fromUtf8(test::kFolder) + u"/golden/cesty.txt"_s));
-    const QString way = ways.section(u"= %1\n"_s.arg(QLatin1String(name)), 1).section(u"\n= "_s, 0, 0);
+    const QString way =
+        test::keptText(u"cesty"_s).section(u"= %1\n"_s.arg(QLatin1String(name)), 1).section(u"\n= "_s, 0, 0);
     for (const QString& line : way.split(u'\n', Qt::SkipEmptyParts)) {
         const bool isQuestion = line.contains(u"? "_s);
         const QString between = isQuestion ? u"? "_s : u": "_s;

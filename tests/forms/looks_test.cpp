@@ -286,9 +286,8 @@ void addBars(Screen& screen) {
 void openWith(const QString& name, const Look& look) {
     FakeSarne run;
     auto* screen = new Screen(run);
-    const QString all =
-        QString::fromUtf8(test::bytesOf(QString::fromUtf8(test::kFolder) + u"/golden/ukazky.txt"_s));
-    const QString lines = all.section(u"= %1\n"_s.arg(name), 1).section(u"\n="_s, 0, 0);
+    const QString lines =
+        test::keptText(u"ukazky"_s).section(u"= %1\n"_s.arg(name), 1).section(u"\n="_s, 0, 0);
     for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts)) {
         if (line.startsWith(u": "))
             screen->options[line.section(u' ', 1, 1)] = line.section(u' ', 2).toInt();

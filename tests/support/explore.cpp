@@ -355,7 +355,7 @@ class Explorer {
 
 void expectAsKept(const QString& name, const QStringList& lines) {
     const QString file = u"%1/golden/%2.txt"_s.arg(QString::fromUtf8(kFolder), name);
-    QStringList kept = QString::fromUtf8(bytesOf(file)).split(u'\n');
+    QStringList kept = keptText(name).split(u'\n');
     kept.removeLast();
     const QStringList now = general(lines);
     const QStringList differ = differences(kept, now);
@@ -368,16 +368,10 @@ void expectAsKept(const QString& name, const QStringList& lines) {
                                   << differ.mid(0, 60).join(u'\n').toStdString();
 }
 
-void explore(const char* name, const std::function<void(const Look&)>& scene) {
+void exploreOrLook(bool isExplored, const char* name, const std::function<void(const Look&)>& scene) {
     Explorer explorer(scene);
     const QStringList opened = explorer.opened();
-    expectAsKept(QString::fromUtf8(name), opened + explorer.each());
-}
-
-void expectLooks(const char* name, const std::function<void(const Look&)>& scene) {
-    Explorer explorer(scene);
-    const QStringList opened = explorer.opened();
-    expectAsKept(QString::fromUtf8(name), opened + explorer.each(true));
+    expectAsKept(QString::fromUtf8(name), opened + explorer.each(!isExplored));
 }
 
 void walk(const char* name, const std::function<void(const Look&)>& scene, const char* way) {
@@ -385,8 +379,7 @@ void walk(const char* name, const std::function<void(const Look&)>& scene, const
 }
 
 void walkAll(const char* file, const std::function<void(const QString&, const Look&)>& scene) {
-    const QString path = u"%1/golden/%2.txt"_s.arg(QString::fromUtf8(kFolder), QLatin1String(file));
-    const QStringList lines = QString::fromUtf8(bytesOf(path)).split(u'\n', Qt::SkipEmptyParts);
+    const QStringList lines = keptText(QLatin1String(file)).split(u'\n', Qt::SkipEmptyParts);
     EXPECT_FALSE(lines.isEmpty()) << file;
     QString what;
     for (const QString& line : lines) {

@@ -23,14 +23,13 @@ inline std::function<QStringList()> alsoTold;
 /// it each time: every control by the mouse, every key, the wheel, larger letters, contrast, a wide display.
 /// What that changes of all that can be noticed is compared with what is kept as \a name; what the display
 /// still shows though it would be painted otherwise is told, too.
-void explore(const char* name, const std::function<void(const Look& look)>& scene);
-
-/// Only how it looks: nothing is done with it but for the eyes.
-void expectLooks(const char* name, const std::function<void(const Look& look)>& scene);
-/// One of the two.
-inline void exploreOrLook(bool isExplored, const char* name,
-                          const std::function<void(const Look& look)>& scene) {
-    isExplored ? explore(name, scene) : expectLooks(name, scene);
+/// Only how it looks, where it is not \a isExplored: nothing is done with it but for the eyes.
+void exploreOrLook(bool isExplored, const char* name, const std::function<void(const Look& look)>& scene);
+inline void explore(const char* name, const std::function<void(const Look& look)>& scene) {
+    exploreOrLook(true, name, scene);
+}
+inline void expectLooks(const char* name, const std::function<void(const Look& look)>& scene) {
+    exploreOrLook(false, name, scene);
 }
 
 /// Opens a screen once and goes through it by \a way, words as perform() takes them with blanks between. What

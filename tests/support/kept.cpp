@@ -34,19 +34,23 @@ QString meant(QString text) {
     return text == u"∅" ? QString() : text.replace(u'␠', u' ');
 }
 
+QString keptText(const QString& name) {
+    return QString::fromUtf8(bytesOf(fileOf(name)));
+}
+
 void expectText(const QString& name, const QString& text) {
     const QString file = fileOf(name);
     if (qEnvironmentVariableIsSet("SARNE_RENEW")) {
         ASSERT_TRUE(write(file, text.toUtf8() + '\n'));
     }
-    const QStringList kept = QString::fromUtf8(bytesOf(file)).split(u'\n'), now = (text + u'\n').split(u'\n');
+    const QStringList kept = keptText(name).split(u'\n'), now = (text + u'\n').split(u'\n');
     for (qsizetype i = 0; i < std::max(kept.size(), now.size()); ++i)
         EXPECT_EQ(now.value(i), kept.value(i)) << name.toStdString() << ".txt, line " << i + 1;
 }
 
 void expectCases(const QString& name, const std::function<QString(const QString&)>& of) {
     const QString parts = u" ⇒ "_s;
-    const QString kept = QString::fromUtf8(bytesOf(fileOf(name)));
+    const QString kept = keptText(name);
     EXPECT_TRUE(kept.contains(parts)) << "no cases in " << name.toStdString();
     QStringList lines = kept.split(u'\n', Qt::SkipEmptyParts);
     for (QString& line : lines)

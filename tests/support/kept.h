@@ -8,6 +8,9 @@ namespace sarne::test {
 /// The folder of the running test.
 extern const char* const kFolder;
 
+/// The text of golden/\a name.txt of the test's folder.
+QString keptText(const QString& name);
+
 /// Compares \a text, of lines, with the file golden/\a name.txt of the test's folder and tells what differs.
 /// With the environment's SARNE_RENEW it writes the file anew: its difference is then to be looked at.
 void expectText(const QString& name, const QString& text);
