@@ -2,52 +2,44 @@
 
 #include <gtest/gtest.h>
 
+#include <QStringList>
+#include <map>
+
+#include "support/kept.h"
+
 namespace sarne {
 namespace {
 
-TEST(RowPaging, ShowsWholeRowsAndNoEmptyEnd) {
-    const struct {
+/// "10 25 10 in 30: scroll 1, move -1" are rows so high in a view; where they are after each step, "!" where
+/// nothing moved, "?" where the selected one is not seen.
+TEST(RowPaging, ShowsWholeRowsAndNoEmptyEndAndTheSelectionIsAlwaysSeen) {
+    test::expectCases(u"strankovani"_s, [](const QString& text) {
+        const QString rowsAndView = text.section(u": "_s, 0, 0);
         std::vector<int> heights;
-        int view, scroll, top, end;
-    } cases[] = {
-        {{10, 10, 10}, 30, 1, 0, 3},           // all fit: nothing to scroll
-        {{10, 10, 10, 10}, 30, 99, 1, 4},      // the last page is full
-        {{10, 25, 10, 10, 10}, 30, 99, 2, 5},  // rows differ: the end still fits
-        {{10, 25, 10, 10, 10}, 30, 1, 1, 2},   // a high row leaves no room for the next
-        {{10, 90, 10}, 30, 1, 1, 2},           // higher than the view: seen alone
-        {{10, 10, 90}, 30, 99, 2, 3},          // even at the end
-        {{}, 30, 1, 0, 0},
-    };
-    for (const auto& c : cases) {
+        for (const QString& height : rowsAndView.section(u"in "_s, 0, 0).split(u' ', Qt::SkipEmptyParts))
+            heights.insert(heights.end(), size_t(height.section(u'x', 1, 1).toInt() + 1),
+                           height.section(u'x', 0, 0).toInt());
         RowPaging rows;
-        rows.reset(c.heights, c.view);
-        rows.scrollBy(c.scroll);
-        EXPECT_EQ(rows.top(), c.top);
-        EXPECT_EQ(rows.end(), c.end);
-        rows.scrollBy(-1000);
-        EXPECT_EQ(rows.top(), 0);
-    }
-}
-
-TEST(RowPaging, TheSelectionIsAlwaysSeen) {
-    RowPaging rows;
-    rows.reset(std::vector<int>(20, 10), 45);
-    rows.scrollBy(3);
-    rows.moveBy(1);
-    EXPECT_EQ(rows.selected(), 3) << "begins at the first row seen";
-    for (int move : {1, 1, 1, 1, -7, 30, -2, -99}) {
-        rows.moveBy(move);
-        EXPECT_TRUE(rows.sees(rows.selected())) << rows.selected();
-    }
-    EXPECT_EQ(rows.selected(), 0);
-    EXPECT_FALSE(rows.moveBy(-1));
-    rows.movePage(1);
-    EXPECT_EQ(rows.selected(), 4);
-    rows.jumpTo(10);
-    EXPECT_EQ(rows.top(), 10);
-    rows.jumpTo(19);
-    EXPECT_EQ(rows.end(), 20);
-    EXPECT_FALSE(rows.jumpTo(20));
+        rows.reset(heights, rowsAndView.section(u"in "_s, 1).toInt());
+        QStringList all;
+        for (const QString& step : text.section(u": "_s, 1).split(u", "_s)) {
+            const QString word = step.section(u' ', 0, 0);
+            const int by = step.section(u' ', 1).toInt();
+            bool moved = true;
+            if (word == u"scroll")
+                rows.scrollBy(by);
+            else if (word == u"page")
+                rows.movePage(by);
+            else
+                moved = word == u"jump" ? rows.jumpTo(by) : rows.moveBy(by);
+            const int at = rows.selected();
+            all << u"%1-%2 %3%4%5"_s.arg(rows.top())
+                       .arg(rows.end())
+                       .arg(at)
+                       .arg(moved ? u""_s : u"!"_s, at < 0 || rows.sees(at) ? u""_s : u"?"_s);
+        }
+        return all.join(u", "_s);
+    });
 }
 
 }  // namespace

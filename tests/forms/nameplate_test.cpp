@@ -8,35 +8,23 @@
 #include "forms/label.h"
 #include "support/explore.h"
 #include "support/fakesarne.h"
+#include "support/kept.h"
 
 namespace sarne {
 namespace {
 
+/// "x y w h" of the thing, and of the pointer where it is not far away.
 TEST(NamePlatePlace, BelowTheThingOnTheStageAndNeverUnderThePointer) {
-    const QSize plate(2000, 400);
-    const QRect away(11500, 8500, 500, 500);
-    const struct {
-        const char* what;
-        QRect thing, pointer;
-        QPoint corner;
-    } cases[] = {
-        {"below, in the middle", {5000, 4000, 1000, 1000}, away, {4499, 5075}},
-        {"at the left edge", {0, 4000, 600, 600}, away, {0, 4675}},
-        {"at the right edge", {11400, 4000, 600, 600}, away, {10000, 4675}},
-        {"at the lower edge: above", {5000, 8200, 1000, 800}, away, {4499, 7725}},
-        {"pointer at the lower rim: below the pointer",
-         {5000, 4000, 1000, 1000},
-         {5400, 4900, 500, 600},
-         {4499, 5575}},
-        {"lower edge, pointer at the upper rim: above the pointer",
-         {5000, 8200, 1000, 800},
-         {5400, 8000, 500, 600},
-         {4499, 7525}},
-        {"as large as the stage", {0, 0, 12000, 9000}, {6000, 4000, 500, 500}, {4999, 3525}},
-        {"as large as the stage, by keyboard", {0, 0, 12000, 9000}, {6000, 8700, 500, 500}, {4999, 8225}},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(namePlatePlace(plate, c.thing, c.pointer).topLeft(), c.corner) << c.what;
+    test::expectCases(u"jmenovka-kde"_s, [](const QString& text) {
+        std::vector<int> at;
+        for (const QString& number : text.split(u' ')) at.push_back(number.toInt());
+        at.resize(8);
+        const QRect away(11500, 8500, 500, 500), pointer(at[4], at[5], at[6], at[7]);
+        const QPoint corner =
+            namePlatePlace({2000, 400}, {at[0], at[1], at[2], at[3]}, pointer.isEmpty() ? away : pointer)
+                .topLeft();
+        return u"%1 %2"_s.arg(corner.x()).arg(corner.y());
+    });
 }
 
 /// Things with names, all over the stage; a timer changes "cmdMeni" step by step.

@@ -168,6 +168,8 @@ void perform(FakeSarne& run, const QString& word) {
         QApplication::sendEvent(run.window.focusWidget() ? run.window.focusWidget() : front(run), &again);
     } else if (verb == u"reader")
         setReader(true);
+    else if (verb == u"contrast")
+        run.window.eyes().setContrast(true);
     else if (verb == u"lowest")
         showing(run).back()->setFocus();
     else if (verb == u"size")

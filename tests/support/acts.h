@@ -45,6 +45,7 @@ void setReader(bool listens);
 ///   tick        every timer that runs
 ///   letters:150 how large the eyes want texts, in percent
 ///   lowest      the keyboard comes to the form below all others
+///   contrast    they want it
 ///   size:1600x1200 of the window
 ///   over, pop   another screen comes over it and goes again
 void perform(FakeSarne& run, const QString& word);

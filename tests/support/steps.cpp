@@ -60,46 +60,28 @@ std::vector<Step> stepsOn(const FakeSarne& run) {
             !isOneOfMany(*form, control->objectName()))
             addClicks(steps, *control);
     }
-    const auto keys = {Qt::Key_Down,   Qt::Key_Up,       Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Home,
-                       Qt::Key_End,    Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Tab,    Qt::Key_Backtab,
-                       Qt::Key_Return, Qt::Key_Space,    Qt::Key_Escape, Qt::Key_Delete, Qt::Key_Backspace,
-                       Qt::Key_F1,     Qt::Key_F2,       Qt::Key_F3,     Qt::Key_F4,     Qt::Key_F5,
-                       Qt::Key_F6,     Qt::Key_F7,       Qt::Key_F8,     Qt::Key_F9,     Qt::Key_F10,
-                       Qt::Key_0,      Qt::Key_3,        Qt::Key_A,      Qt::Key_C,      Qt::Key_K,
-                       Qt::Key_N,      Qt::Key_S,        Qt::Key_X,      Qt::Key_Plus,   Qt::Key_Minus};
-    for (const Qt::Key key : keys)
-        steps.push_back(
-            {u"key "_s + QKeySequence(key).toString(), [=](FakeSarne& on) { pressKey(on, key); }, true});
-    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Tab})
-        steps.push_back({u"keys %1, Enter"_s.arg(QKeySequence(key).toString()),
-                         [=](FakeSarne& on) {
-                             pressKey(on, key);
-                             pressKey(on, Qt::Key_Return);
-                         },
-                         true});
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space})
-        steps.push_back({u"held "_s + QKeySequence(key).toString(),
-                         [=](FakeSarne& on) { perform(on, u"held:"_s + QKeySequence(key).toString()); },
-                         true});
-    for (const auto& [key, with] : {std::pair(Qt::Key_F4, Qt::AltModifier),
-                                    {Qt::Key_Z, Qt::ControlModifier},
-                                    {Qt::Key_C, Qt::ControlModifier}})
-        steps.push_back({u"keys "_s + QKeySequence(with | key).toString(),
-                         [=](FakeSarne& on) { pressKey(on, key, with); }, true});
-    steps.push_back({u"key F9 with a voice"_s,
-                     [](FakeSarne& on) {
-                         on.speech.find();
-                         pressKey(on, Qt::Key_F9);
-                     },
-                     true});
-    steps.push_back({u"all timers"_s, [](FakeSarne& on) { perform(on, u"tick"_s); }});
+    const auto add = [&steps](const QString& name, const QString& words, bool byKey, bool isForEyes = false) {
+        const Act act = [=](FakeSarne& on) {
+            for (const QString& word : words.split(u' ')) perform(on, word);
+        };
+        steps.push_back({name, act, byKey, isForEyes});
+    };
+    for (const QString& key :
+         u"Down Up Left Right Home End PgDown PgUp Tab Backtab Return Space Esc Del "
+         "Backspace F1 F2 F3 F4 F5 F6 F7 F8 F9 F10 0 3 A C K N S X + -"_s.split(u' '))
+        add(u"key "_s + key, key, true);
+    for (const QString& key : {u"Down"_s, u"Tab"_s})
+        add(u"keys %1, Enter"_s.arg(key), key + u" Return"_s, true);
+    for (const QString& key : {u"Return"_s, u"Space"_s}) add(u"held "_s + key, u"held:"_s + key, true);
+    for (const QString& keys : {u"Alt+F4"_s, u"Ctrl+Z"_s, u"Ctrl+C"_s}) add(u"keys "_s + keys, keys, true);
+    add(u"key F9 with a voice"_s, u"voice F9"_s, true);
+    add(u"all timers"_s, u"tick"_s, false);
     steps.push_back({u"wheel"_s, [](FakeSarne& on) {
                          if (front(on)) wheel(*front(on), -120);
                      }});
-    steps.push_back(
-        {u"letters of 150 %"_s, [](FakeSarne& on) { on.window.eyes().setTextPercent(150); }, false, true});
-    steps.push_back({u"contrast"_s, [](FakeSarne& on) { on.window.eyes().setContrast(true); }, false, true});
-    steps.push_back({u"wide"_s, [](FakeSarne& on) { on.window.resize(1200, 600); }, false, true});
+    add(u"letters of 150 %"_s, u"letters:150"_s, false, true);
+    add(u"contrast"_s, u"contrast"_s, false, true);
+    add(u"wide"_s, u"size:1200x600"_s, false, true);
     return steps;
 }
 
