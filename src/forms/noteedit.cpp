@@ -69,7 +69,6 @@ NoteEdit::NoteEdit(Form& form, const QString& name)
     : Control(form, name), editor_(new PiecedEdit(this, paragraphs_)), sign_(new EntrySign(*this, *editor_)) {
     editor_->setObjectName(name + QStringLiteral(".text"));
     editor_->setTabChangesFocus(false);
-    editor_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     editor_->installEventFilter(this);
     editor_->viewport()->installEventFilter(this);
     setFocusPolicy(Qt::StrongFocus);

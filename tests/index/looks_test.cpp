@@ -45,8 +45,7 @@ QStringList everything() {
         << Cookbook::area(9, {750, 150, 100, 100}, u"Kámen"_s, {}, u"#"_s)
         << Cookbook::area(9, {850, 600, 100, 100}, u"Nic"_s, {}, {})
         << Cookbook::area(9, {-500, 0, 100, 100}, u"Mimo"_s, {}, u"*1"_s)
-        << Cookbook::area(9, {400, 450, 300, 300}, u"Hlas"_s,
-                          test::rtf(u"Hlas\\par\r\n\\par\r\nHlas *5 ryb*."_s), {});
+        << Cookbook::area(9, {400, 450, 300, 300}, u"Hlas"_s, test::rtf(u"Hlas\\par\r\nHlas *5 ryb*."_s), {});
     return all;
 }
 

@@ -32,7 +32,9 @@ void own(KitchenRun& run) {
 
 void shop(KitchenRun& run) {
     storeShoppingList(run.file(), shoppingList(run));
-    (new frmNakup(run, run.file(), [](const QString&) { return 1500; }))->Zobraz();
+    (new frmNakup(run, run.file(), [amount = 1500.](const QString&) mutable {
+        return std::exchange(amount, 1);
+    }))->Zobraz();
 }
 
 void stove(KitchenRun& run, const Serving& serving) {
@@ -171,6 +173,12 @@ TEST(Looks, InUse) {
         {u"uvareno"_s, cooked},
         {u"nakup"_s, shop},
         {u"varime"_s, weights},
+        {u"varime-mnoho"_s,
+         [&](KitchenRun& run) {
+             run.database.Execute(
+                 u"UPDATE Suroviny SET Polozka = 'kapr ' || replace(hex(zeroblob(30)), '00', 'šupinatý ')"_s);
+             weights(run);
+         }},
         {u"varime-s-poznamkou"_s, stoveWithNote},
         {u"varime-lzicemi"_s, spoons}};
     test::walkAll("cesty", [&](const QString& what, const Look& look) {

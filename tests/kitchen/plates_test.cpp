@@ -22,9 +22,11 @@ TEST_F(PlatesTest, RingAgainUntilStopped) {
     run_.time.time = 600'000;
     plates_.look();
     EXPECT_EQ(run_.sounds.played.size(), 1);
-    run_.time.time += 4'000;
-    plates_.look();
-    EXPECT_EQ(run_.sounds.played.size(), 2);
+    for (const int rung : {1, 1, 2}) {
+        run_.time.time += 1'500;
+        plates_.look();
+        EXPECT_EQ(run_.sounds.played.size(), rung);
+    }
     EXPECT_TRUE(plates_.stopRinging());
     EXPECT_FALSE(plates_.stopRinging());
     EXPECT_EQ(plates_.texts(), QStringList{u"9:56 Brambory"_s});

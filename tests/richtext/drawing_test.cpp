@@ -165,7 +165,7 @@ QString drawnByLetters(const QImage& picture) {
 TEST_F(Painting, LooksAsReviewed) {
     const RtfLayout layout = layOut(
         u"{\\rtf1{\\colortbl;\\red0\\green0\\blue200;}\\plain\\fs60 I\\b  H\\b0  \\cf1 *1*\\i *2h\\i0  h* i "
-        u"#4i#\\par\\fs36\\cf0\\ul ij i\\ul0  l @3li@ a\u0301n}");
+        u"#4i#\\par\\fs36\\cf0\\ul ij i\\ul0  l @3li@ \\cf1 a\u0301n}");
     QStringList all;
     for (const LinkHighlight& light : {LinkHighlight{}, {0, 2}, {{}, {}, true}, {1, 0, true}})
         all << drawnByLetters(paint(layout, {0, 0, 4000, 2000}, light).copy(0, 0, 200, 84));

@@ -84,7 +84,6 @@ bool frmHostina::Zobraz() {
     showCourses();
     showPlan();
     courses_.select(0);
-    ring().focus(courses_);
     sayState();
     return true;
 }
