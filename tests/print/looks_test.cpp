@@ -50,11 +50,13 @@ TEST(Looks, Printing) {
         };
         print.run.window.focusForm()->findChild<Control*>(u"Command1"_s)->click();
     });
-    explore("nahled", [](const Look& look) {
-        Print print(false);
-        print.run.window.focusForm()->findChild<Control*>(u"cmdNahled"_s)->click();
-        look(print.run);
-    });
+    // One without a recipe in the book is empty.
+    for (const bool isEmpty : {true, false})
+        test::exploreOrLook(!isEmpty, isEmpty ? "nahled-niceho" : "nahled", [=](const Look& look) {
+            Print print(false, isEmpty ? std::vector<std::int16_t>{9} : std::vector<std::int16_t>{1, 3});
+            print.run.window.focusForm()->findChild<Control*>(u"cmdNahled"_s)->click();
+            look(print.run);
+        });
     test::walk(
         "nahled-zvetseny",
         [](const Look& look) {
