@@ -23,7 +23,6 @@ bool Database::Open(const QString& file) {
 }
 
 bool Database::Create(const QString& file) {
-    Close();
     try {
         connection_ = std::make_shared<Connection>(file);
     } catch (const std::exception&) {

@@ -36,7 +36,11 @@ class Cookbook {
 
     /// The screen on top.
     Form* top() { return run.FormStack.top(); }
-    bool callerIsOnTop() { return top() == caller && caller->hasFocus(); }
+    /// Whether nothing but the caller is there.
+    bool callerIsOnTop() {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return top() == caller && caller->hasFocus() && run.window.findChildren<Form*>().size() == 1;
+    }
 
     QTemporaryDir folder;
     FakeSarne run;

@@ -35,6 +35,10 @@ TEST(TimePlan, GoesBackwardsFromTheTable) {
         return planOf({dish(told.section(u':', 0, 0).toInt(), steps.split(u" / "_s), ahead)}).join(u" | "_s);
     });
     EXPECT_TRUE(planOf({}).isEmpty());
+    for (const auto& [at, told] : {std::pair(-1, u"den předem v 23.59"_s),
+                                   {-1440, u"den předem v 0.00"_s},
+                                   {-1441, u"2 dny předem v 23.59"_s}})
+        EXPECT_EQ(planTimeText(at).replace(QChar::Nbsp, u' '), told);
 }
 
 TEST(Dinner, UnderstandsTheHourAsItIsWritten) {

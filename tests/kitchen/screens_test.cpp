@@ -109,7 +109,8 @@ TEST_F(KitchenScreens, WhatTheBookDoesNotKnowIsNotShown) {
         EXPECT_FALSE((new frmVarime(run_, run_.file(), {}))->Zobraz(id, {}, {2026, 10, 11}));
     ASSERT_TRUE(run_.database.Execute(u"DROP TABLE Fakta"_s));
     EXPECT_FALSE((new frmHostina(run_, run_.file(), {}, 11))->Zobraz());
-    EXPECT_EQ(run_.FormStack.top(), nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(run_.window.findChildren<Form*>().empty());
 }
 
 }  // namespace

@@ -63,8 +63,10 @@ void tick(const FakeSarne& run) {
 }
 
 /// As a screen reader does for its user.
-void pressPart(Control& control, int part) {
-    QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(&control)->child(part);
+void pressByReader(const Form& form, const QString& name) {
+    QAccessibleInterface* heard =
+        QAccessible::queryAccessibleInterface(form.findChild<Control*>(name.section(u'.', 0, 0)));
+    if (name.contains(u'.')) heard = heard->child(name.section(u'.', 1).toInt());
     ASSERT_TRUE(heard && heard->actionInterface());
     heard->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 }
@@ -147,7 +149,7 @@ void perform(FakeSarne& run, const QString& word) {
     else if (verb == u"click" || verb == u"double" || verb == u"hover")
         useMouse(run, what, verb != u"hover", verb == u"double");
     else if (verb == u"press")
-        pressPart(*front(run)->findChild<Control*>(what.section(u'.', 0, 0)), what.section(u'.', 1).toInt());
+        pressByReader(*front(run), what);
     else if (verb == u"type")
         type(run, what);
     else if (verb == u"answer")

@@ -34,7 +34,7 @@ void setReader(bool listens);
 ///                                      or of its part ("picText.2"); "^NAME" is of the one below, "300,580"
 ///                                      are pixels of the stage
 ///   wheel:NAME  the wheel over a control of the form in front, a notch down
-///   press:NAME.2  a screen reader presses that part
+///   press:NAME  a screen reader presses a control, or a part of it ("lstSeznam.2")
 ///   reader      a screen reader listens from now on
 ///   type:letters
 ///   held:Space  one more time by a key that is held down

@@ -54,7 +54,6 @@ void KeywordAside::show(int keyword, const QString& name) {
 }
 
 int KeywordAside::showPicture(const QString& file, const QString& caption, int top) {
-    picture_.Cls();
     const Picture picture = file.isEmpty() ? Picture() : app_.mediaPicture(file);
     picture_.setVisible(!picture.isNull());
     caption_.setVisible(!picture.isNull() && !caption.isEmpty());
