@@ -32,6 +32,11 @@ TEST_F(SeznamTest, TheNextListShowsThePanelThatTheLastOneLeft) {
     list = new frmSeznam(run, &panel);
     list->Zobraz({}, u"recepty"_s);
     EXPECT_FALSE(wineShows()) << "nothing is chosen";
+    const QWidget* first = run.window.focusWidget();
+    key(Qt::Key_Tab);
+    EXPECT_NE(run.window.focusWidget(), first);
+    list->Zobraz({}, u"recepty"_s);
+    EXPECT_EQ(run.window.focusWidget(), first) << "another list begins anew";
     click(row(2));
     EXPECT_TRUE(wineShows());
 }

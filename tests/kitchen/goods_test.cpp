@@ -32,7 +32,7 @@ TEST(Goods, AndThePantryAreReadFromTheBook) {
          u"INSERT INTO Recepty (ID, Nazev, Porce) VALUES (1,'Kapr',4),(2,'Cibulačka',2),(3,'Bez údajů',4)"_s,
          u"INSERT INTO Fakta (ID, Minut, Mesice, Alergeny) VALUES (1,40,4095,8),(2,20,0,64)"_s,
          u"INSERT INTO SpojSur VALUES (1,1,2,1,800,0,0,0),(1,2,1,1,100,0,0,4),(1,3,0,0,0,0,0,0),"
-         "(1,2,0,1,50,0,0,0),(2,2,0,0,3,0,0,0),(2,6,0,1,0,0,0,0)"_s})));
+         "(1,2,0,1,1,0,0,0),(2,2,0,0,3,0,0,0),(2,6,0,1,0,0,0,0)"_s})));
     const Goods goods(book);
     QStringList told;
     for (const char* name : {"kapr", "cibule", "sůl", "chřest", "Hrách", "voda"}) {

@@ -87,7 +87,6 @@ void frmSeznam::connectRow(int row) {
     auto* label = new Label(*this, QStringLiteral("lblSeznam(%1)").arg(row));
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     label->setWordWrap(true);
-    label->setClickable(true);
     label->setUnheard(true);
     connect(label, &Control::clicked, this, [this, row] { selectRow(row); });
     connect(label, &Control::doubleClicked, this, [this, row] {
