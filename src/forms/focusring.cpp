@@ -98,6 +98,7 @@ bool FocusRing::stepWithin(int direction) {
     if (!at) return false;
     const auto& members = groups_[static_cast<size_t>(*at)].members;
     std::vector<bool> usable;
+    usable.reserve(members.size());
     for (TwipWidget* member : members) usable.push_back(isUsable(member));
     const int from = static_cast<int>(std::ranges::find(members, last_) - members.begin());
     const auto next = nextPlace(usable, from, direction);
