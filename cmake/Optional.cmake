@@ -31,4 +31,5 @@ sarne_optional(PULSE "asking the sound server for its devices (libpulse)" MODULE
 sarne_optional(XRANDR "switching the display's mode (XRandR)" MODULES xrandr x11)
 sarne_optional(DBUS "keeping the display awake during films (Qt D-Bus)" QT DBus)
 sarne_optional(QPDF "links within printed files (qpdf)" MODULES libqpdf)
+sarne_optional(JEMALLOC "an allocator that wastes little between things that stay (jemalloc)" MODULES jemalloc)
 sarne_optional(SPEECH "reading aloud (speech dispatcher)" MODULES speech-dispatcher)

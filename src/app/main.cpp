@@ -17,7 +17,7 @@
 #include "app/windowplace.h"
 #include "core/texts.h"
 #include "forms/picture.h"
-#include "platform/memory.h"
+#include "platform/allocator.h"
 #include "platform/sessionbus.h"
 #include "platform/singleinstance.h"
 

@@ -1,19 +1,8 @@
 #include "platform/memory.h"
 
-#include <malloc.h>
-
 #include <QFile>
 
 namespace sarne {
-
-void giveMemoryBack() {
-#ifdef M_MMAP_THRESHOLD
-    constexpr int kPicture = 256 * 1024;
-    mallopt(M_MMAP_THRESHOLD, kPicture);
-    mallopt(M_TRIM_THRESHOLD, 2 * kPicture);
-    mallopt(M_ARENA_MAX, 1);
-#endif
-}
 
 double ownMemory() {
     QFile status(QStringLiteral("/proc/self/status"));

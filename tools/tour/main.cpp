@@ -8,7 +8,7 @@
 
 #include "app/program.h"
 #include "figures.h"
-#include "platform/memory.h"
+#include "platform/allocator.h"
 #include "platform/mpvcontrol.h"
 #include "platform/systemprinter.h"
 #include "tour.h"

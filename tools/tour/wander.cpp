@@ -1,6 +1,5 @@
 #include "wander.h"
 
-#include <malloc.h>
 #include <unistd.h>
 
 #include <QApplication>
@@ -15,6 +14,7 @@
 #include "app/program.h"
 #include "doors.h"
 #include "forms/drawnpictures.h"
+#include "platform/allocator.h"
 #include "platform/memory.h"
 
 namespace sarne {
@@ -27,8 +27,7 @@ struct Use {
     qsizetype files = 0, threads = 0;
 
     static Use now() {
-        malloc_trim(0);  // what is free is not counted
-        const struct mallinfo2 heap = mallinfo2();
+        const double held = heldMemory();
         QFile pages(QStringLiteral("/proc/self/statm"));
         if (!pages.open(QIODevice::ReadOnly)) return {};
         const auto entries = [](const char* folder) {
@@ -37,9 +36,8 @@ struct Use {
                 .size();
         };
         const double page = double(sysconf(_SC_PAGESIZE)) / 1e6;
-        return {ownMemory() / 1e6, double(heap.uordblks + heap.hblkhd) / 1e6,
-                pages.readAll().split(' ').value(1).toDouble() * page, entries("/proc/self/fd"),
-                entries("/proc/self/task")};
+        return {ownMemory() / 1e6, held / 1e6, pages.readAll().split(' ').value(1).toDouble() * page,
+                entries("/proc/self/fd"), entries("/proc/self/task")};
     }
 };
 
