@@ -23,6 +23,7 @@ inline bool goesOn(const QKeyEvent& event) {
         case Qt::Key_Tab:
         case Qt::Key_Backtab:
         case Qt::Key_Plus:
+        case Qt::Key_Equal:  // where plus is on the same key, above it
         case Qt::Key_Minus:
             return true;
         default:

@@ -166,7 +166,8 @@ void perform(FakeSarne& run, const QString& word) {
         run.window.eyes().setTextPercent(what.toInt());
     else if (verb == u"held") {
         const bool space = what == u"Space";
-        QKeyEvent again(QEvent::KeyPress, QKeySequence(what)[0].key(), {}, space ? u" "_s : u"\r"_s, true);
+        QKeyEvent again(QEvent::KeyPress, QKeySequence(what)[0].key(),
+                        QKeySequence(what)[0].keyboardModifiers(), space ? u" "_s : u"\r"_s, true);
         QApplication::sendEvent(run.window.focusWidget() ? run.window.focusWidget() : front(run), &again);
     } else if (verb == u"reader")
         setReader(true);
