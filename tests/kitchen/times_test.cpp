@@ -65,6 +65,8 @@ TEST(KitchenTimers, RingOnceInTheOrderInWhichTheyEnd) {
     EXPECT_EQ(timers.over(5000000).size(), 2u);
     timers.prolong(77, 60, 0);
     timers.stop(fish);
+    ASSERT_EQ(timers.all().size(), 1u);
+    EXPECT_EQ(timers.all().front().id, potatoes);
     timers.stop(potatoes);
     timers.stop(77);
     EXPECT_FALSE(timers.ringing());

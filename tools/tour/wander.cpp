@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFont>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -73,21 +74,28 @@ class Wanderer {
         door.open(program_, std::int16_t(1 + below(kRecipes)));
         note();
     }
-    /// What is loaded with the first printed page, as chance may have it late, is loaded from the beginning.
-    void printOnce() {
-        goBackToMain(program_);
-        program_.screens().printRecipes({1}, {});
-        if (auto* begin = program_.FormStack.top()->findChild<QWidget*>(QStringLiteral("Command1")))
-            QTest::mouseClick(begin, Qt::LeftButton);
-        QTest::qWait(10 * kTurn);
+    /// What is loaded with the first text of a kind, the first page on paper and the first of an album, as
+    /// chance may have it late, is loaded from the beginning: the book is gone through once.
+    void readThrough() {
+        for (std::int16_t recipe = 1; recipe <= kRecipes; ++recipe) {
+            for (const Door& door : doors()) {
+                goBackToMain(program_);
+                door.open(program_, recipe);
+                QTest::keyClick(&program_.stage(), Qt::Key_PageDown);
+                QTest::qWait(kTurn / 20);
+            }
+            goBackToMain(program_);
+            program_.screens().printRecipes({recipe}, {});
+            if (auto* begin = program_.FormStack.top()->findChild<QWidget*>(QStringLiteral("Command1")))
+                QTest::mouseClick(begin, Qt::LeftButton);
+            QTest::qWait(kTurn);
+        }
     }
-    /// To where the memory of one time can be compared with that of another: what was drawn last is kept, as
-    /// much as there is room for, so that is emptied and the same screens are gone through before, and the
-    /// same thing of the kitchen is lit.
+    /// To where the memory of one time can be compared with that of another: letters as they were drawn are
+    /// kept, each in every size and place between two pixels, so they are dropped and the same screens gone
+    /// through; of pictures, which are kept as much as there is room for, none is.
     void goHome() {
-        DrawnPictures& drawn = DrawnPictures::shared();
-        drawn.setDisplay({});
-        drawn.setDisplay(program_.stage().size() * program_.stage().devicePixelRatio());
+        QFont::cleanup();
         for (const Door& door : doors()) {
             goBackToMain(program_);
             door.open(program_, 1);
@@ -100,6 +108,9 @@ class Wanderer {
             QTest::mouseMove(thing);
         }
         QTest::qWait(4 * kTurn);
+        DrawnPictures& drawn = DrawnPictures::shared();
+        drawn.setDisplay({});
+        drawn.setDisplay(program_.stage().size() * program_.stage().devicePixelRatio());
     }
     void step() {
         below(3) == 0 ? click() : press();
@@ -159,7 +170,7 @@ bool wander(Program& program, int steps, unsigned seed, QTextStream& out) {
     Wanderer user(program, seed);
     Use warm, now;
     Least before, after;
-    user.printOnce();
+    user.readThrough();
     for (int done = 1; done <= steps && !program.hasEnded(); ++done) {
         if (done % kOnAScreen == 1) user.goThroughADoor();
         user.step();
