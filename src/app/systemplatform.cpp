@@ -8,8 +8,6 @@
 namespace sarne {
 
 SystemPlatform::SystemPlatform() {
-    // One of the ways that effects are tried would write on the terminal what it misses.
-    if (!qEnvironmentVariableIsSet("PIPEWIRE_DEBUG")) qputenv("PIPEWIRE_DEBUG", "0");
     music.setWait(MediaWait::DontWait);
     music.setLoop(MediaLoop::On);
     music.hold();

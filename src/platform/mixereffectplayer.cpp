@@ -1,3 +1,4 @@
+#include <QtGlobal>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
@@ -142,7 +143,10 @@ void MixerEffectPlayer::Private::run() {
     }
 }
 
-MixerEffectPlayer::MixerEffectPlayer() : d_(std::make_unique<Private>()) {}
+MixerEffectPlayer::MixerEffectPlayer() : d_(std::make_unique<Private>()) {
+    // One of the ways that SDL tries would write on the terminal what it misses.
+    if (!qEnvironmentVariableIsSet("PIPEWIRE_DEBUG")) qputenv("PIPEWIRE_DEBUG", "0");
+}
 MixerEffectPlayer::~MixerEffectPlayer() = default;
 
 void MixerEffectPlayer::prepare() {
