@@ -32,6 +32,16 @@ TEST(GalleryTest, OpensAtTheWantedPictureOrTheFirst) {
     EXPECT_TRUE(book.callerIsOnTop());
 }
 
+TEST(GalleryTest, IsPrintedToItsLastWord) {
+    Cookbook book(
+        {Cookbook::picture(9, 9, u"Ryby"_s),
+         Cookbook::area(9, {100, 150, 200, 150}, u"Kapr"_s, u"Kapr "_s.repeated(9000) + u"konec."_s, {})});
+    auto* form = new frmSponzor(book.run);
+    ASSERT_TRUE(form->Zobraz(9, {}));
+    child<Control>(*form, "imgBtnHlavni(0)")->click();
+    EXPECT_TRUE(book.run.recorded.printedText.contains(u"konec."_s));
+}
+
 }  // namespace
 }  // namespace sarne
 
