@@ -31,6 +31,7 @@ bool frmMenu::jumpTo(const QKeyEvent& event) {
 }
 
 void frmMenu::enterSelected() {
+    if (selected_ == 0) return moveSelection(1);
     const int before = depth_;
     choose(selected_);
     if (child_ && child_->depth_ > before && child_->selected_ == 0) child_->moveSelection(1);
