@@ -95,6 +95,14 @@ class Wanderer {
     /// kept, each in every size and place between two pixels, so they are dropped and the same screens gone
     /// through; of pictures, which are kept as much as there is room for, none is.
     void goHome() {
+        // What is read of a track before it is heard becomes less as it goes on: it begins anew.
+        MultimediaControl& music = program_.music();
+        if (music.mode() == MediaMode::Playing) {
+            music.command(u"close");
+            QTest::qWait(kTurn);
+            music.command(u"open");
+            music.command(u"play");
+        }
         QFont::cleanup();
         for (const Door& door : doors()) {
             goBackToMain(program_);
